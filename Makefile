@@ -1,0 +1,46 @@
+# The front door. Everything is built below build/, one directory for each preset of CMakePresets.json.
+
+PRESET ?= dev
+JOBS ?= $(shell nproc)
+CLI = build/$(PRESET)/src/cli/belvani-cli
+
+.PHONY: run test bench lint fuzz deps asan clean
+
+# The main job on the sample company: made in a scratch data path, all its months prepared, the last ledger printed.
+run: deps
+	@cmake --preset $(PRESET) >/dev/null
+	@cmake --build --preset $(PRESET) --target belvani-cli -j $(JOBS)
+	@tools/ornek.sh $(CLI)
+
+test: deps
+	cmake --preset $(PRESET)
+	cmake --build --preset $(PRESET) -j $(JOBS)
+	ctest --preset $(PRESET) -j $(JOBS)
+
+# The same tests under the address and undefined-behaviour sanitizers.
+asan:
+	$(MAKE) test PRESET=asan-ubsan
+
+bench: deps
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS)
+	bench/olc.sh build/release
+
+# Each reader of outside bytes, one minute under the sanitizers (FUZZ_SANIYE changes that).
+fuzz:
+	tools/deps.sh fuzz
+	cmake --preset fuzz
+	cmake --build --preset fuzz -j $(JOBS)
+	fuzz/calistir.sh build/fuzz
+
+lint:
+	tools/deps.sh lint
+	cmake --preset dev
+	cmake --build --preset dev -j $(JOBS)
+	tools/lint.sh build/dev
+
+deps:
+	@tools/deps.sh
+
+clean:
+	rm -rf build

@@ -1,0 +1,28 @@
+// Settings that outlive a run, in two places.
+//
+// Machine-wide values (`PrgPath`, `DataPath`, `ServerName`, `ParametreAdresi`): /etc/belvani/personel.ini, which an
+// installation may share; where that file does not exist and cannot be made, makine.ini in the user's directory.
+// Per-user values (`lastfirm`, `lastuser`): personel.ini in $XDG_CONFIG_HOME/belvani, ~/.config/belvani by default.
+// The environment moves both, for tests and unusual installations: BELVANI_MAKINE_AYAR names the machine-wide file,
+// BELVANI_KULLANICI_DIZIN the user's directory.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/sonuc.h"
+
+namespace belvani {
+
+std::string MakineAyari(std::string_view anahtar);
+Durum MakineAyariYaz(std::string_view anahtar, std::string_view deger);
+
+std::string KullaniciAyari(std::string_view anahtar, std::string_view varsayilan);
+Durum KullaniciAyariYaz(std::string_view anahtar, std::string_view deger);
+
+// The user's own directories, with a separator at the end: settings, data, and what can be made anew.
+std::string KullaniciDizini();
+std::string KullaniciVeriDizini();
+std::string OnbellekDizini();
+
+}  // namespace belvani

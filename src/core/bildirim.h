@@ -1,0 +1,25 @@
+// What the program has to say to its user while it works. The desktop shows message boxes titled "Belvani", the
+// command line prints to standard error, a test answers by script.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace belvani {
+
+class Bildirim {
+ public:
+  virtual ~Bildirim() = default;
+  virtual void Bilgi(std::string_view metin) = 0;   // a broken rule, something done
+  virtual void Uyari(std::string_view metin) = 0;   // a failed write, a risk
+  virtual bool Soru(std::string_view metin) = 0;    // true: yes
+};
+
+// Something long that its caller may show and stop: called with how much of the whole is done; false cancels.
+class Ilerleme {
+ public:
+  virtual ~Ilerleme() = default;
+  virtual bool Adim(std::size_t biten, std::size_t toplam) = 0;
+};
+
+}  // namespace belvani

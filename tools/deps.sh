@@ -1,0 +1,25 @@
+#!/bin/sh
+# Installs the Debian packages that building, testing and running need; says nothing when all are there.
+#   tools/deps.sh [lint|fuzz]   also those of the linter or of the fuzzer
+set -eu
+
+paketler="g++ make cmake ninja-build ccache pkg-config libsqlite3-dev libicu-dev libcurl4-openssl-dev
+  nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev librapidcheck-dev
+  sqlite3 locales"
+case "${1:-}" in
+  lint) paketler="$paketler clang-format clang-tidy" ;;
+  fuzz) paketler="$paketler clang libclang-rt-14-dev" ;;
+esac
+
+eksik=""
+for p in $paketler; do
+  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'ok installed' || eksik="$eksik $p"
+done
+[ -n "$eksik" ] || exit 0
+
+onde=""
+[ "$(id -u)" = 0 ] || onde="sudo"
+echo "Installing:$eksik"
+$onde env DEBIAN_FRONTEND=noninteractive apt-get update -qq
+# shellcheck disable=SC2086
+$onde env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $eksik
