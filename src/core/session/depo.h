@@ -1,0 +1,48 @@
+// Depo: the open store of a company with one cursor for each of its fifteen tables.
+//
+// The cursors are shared by all screens of a session: a screen that moves `sicil` moves it for every other one.
+#pragma once
+
+#include <string>
+
+#include "core/bildirim.h"
+#include "core/store/imlec.h"
+#include "core/store/veritabani.h"
+
+namespace belvani {
+
+// The version of this program's store, as the `firma` record keeps it.
+inline const Tek ProgramVersiyonu{2003.7};
+
+enum class KapatmaKapsami { YalnizImlecler, VeritabaniDa };
+
+struct Depo {
+  Veritabani db;
+  Imlec peruser, firma, sicil, foto, kimlik, brd, dvr, esco, muaf, arac, indir, kaztan, entpar, sendika, cari;
+
+  // Makes the store file `yol` and its tables; `kaztan` and `entpar` come with the first opening. Reports its failures.
+  bool VeritabaniYarat(const std::string& yol, Bildirim& bildirim);
+
+  // Makes one table of the schema by its name, with its fields and indexes. Reports its failure.
+  bool TabloYarat(std::string_view tablo, Bildirim& bildirim);
+
+  // Opens the store and all cursors. What an older build lacks grows by itself: the fields `meslekkod`, `rapcalismadi`
+  // (`brdkanun` in a store of version 2003.7), and the tables from `dvr` on. A lost peruser, firma, sicil, foto, kimlik
+  // or brd is a failure, reported in the words of the table; a file that cannot be opened fails without a message.
+  bool VeritabaniAc(const std::string& yol, Bildirim& bildirim);
+
+  void TablolariKapat(KapatmaKapsami kapsam);
+
+  bool SicilBul(std::string_view kod) { return sicil.KayitBul("kod", std::string(kod)); }
+  bool KimlikBul(std::string_view kod) { return kimlik.KayitBul("kod", std::string(kod)); }
+
+  // Puts the picture file into the person's `foto` record in place of what is there. False: unreadable or unsaved.
+  bool FotoYaz(const std::string& kod, const std::string& dosya);
+  // Writes the person's picture to `hedef`; false when there is none.
+  bool FotoOku(const std::string& kod, const std::string& hedef);
+
+ private:
+  bool GecTabloyuAc(Imlec& rs, std::string_view tablo, const char* hataMetni, Bildirim& bildirim);
+};
+
+}  // namespace belvani

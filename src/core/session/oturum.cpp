@@ -1,0 +1,180 @@
+#include "core/session/oturum.h"
+
+#include <unistd.h>
+
+#include "core/ayarlar.h"
+#include "core/dosya.h"
+#include "core/sayi.h"
+#include "core/session/sirket.h"
+#include "core/tables/firma.h"
+#include "core/tables/peruser.h"
+#include "core/turkce.h"
+
+namespace belvani {
+namespace {
+
+constexpr std::size_t RenkDosyasiBoyu = 42 * 4;
+
+// Of the first run: beside the program, or with the user's own data where the program's directory is not ours to write.
+std::string IlkDataPath(const std::string& prgPath) {
+  const bool yazilir = ::access(prgPath.c_str(), W_OK) == 0;
+  return (yazilir ? prgPath : KullaniciVeriDizini()) + "PerData/";
+}
+
+bool DataDiziniYarat(const std::string& dataPath, Bildirim& bildirim) {
+  if (!DizinYarat(dataPath)) {
+    bildirim.Uyari("Data Dizini Yaratılamıyor.\n" + dataPath + "\nHata Kodu:0");
+    return false;
+  }
+  bildirim.Bilgi("Yeni Data Dizini Yaratıldı\n" + dataPath);
+  return true;
+}
+
+}  // namespace
+
+bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komutSatiri, Bildirim& bildirim) {
+  o.Versiyon = ProgramVersiyonu;
+  o.BilgisayarAdi = BilgisayarAdiBul();
+  o.ParaBirimi = "TL";
+  o.KurusBirimi = "KR";
+  o.ResimYolu = "image/soft/";
+  o.PrgPath = MakineAyari("PrgPath");
+  o.DataPath = DizinSonu(komutSatiri.empty() ? MakineAyari("DataPath") : komutSatiri);
+  if (o.PrgPath.empty()) {
+    o.PrgPath = DizinSonu(programDizini);
+    o.DataPath = IlkDataPath(o.PrgPath);
+    if (!DataDiziniYarat(o.DataPath, bildirim)) return false;
+    for (const auto& [anahtar, deger] : {std::pair("PrgPath", o.PrgPath), std::pair("DataPath", o.DataPath)})
+      if (const auto d = MakineAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.HataMetni());
+  }
+  o.Kullanici = "BELVANI";
+  o.ListeSirasi = 1;
+  o.ResimKullan = true;
+  RenkYukle(o);
+  return true;
+}
+
+void RenkYukle(Oturum& o) {
+  const std::string yol = o.PrgPath + o.ResimYolu + "renk.dat";
+  const auto icerik = DosyaOku(yol);
+  if (!icerik && DizinVar(o.PrgPath + o.ResimYolu)) (void)DosyaYaz(yol, "");
+  std::string kayit = icerik.value_or("");
+  kayit.resize(RenkDosyasiBoyu, '\0');
+  for (std::size_t i = 0; i < o.Renkler.size(); ++i) {
+    std::uint32_t renk = 0;
+    for (std::size_t b = 4; b-- > 0;) renk = renk << 8 | static_cast<unsigned char>(kayit[i * 4 + b]);
+    o.Renkler[i] = renk;
+  }
+}
+
+Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim) {
+  const auto dizin = SirketDizini(o.DataPath, sirket);
+  if (!dizin) return dizin.Hatasi();
+  if (!o.depo.VeritabaniAc(*dizin + DepoDosyasi, bildirim))
+    return Hata{"Database Açılamadı: " + *dizin + DepoDosyasi + "\n" + o.depo.db.SonHata()};
+  o.FirmaKod = *SirketAdi(sirket);
+  o.FirmaDizini = *dizin;
+  return Tamam();
+}
+
+Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
+                    Bildirim& bildirim) {
+  const auto ad = SirketAdi(sirket);
+  if (!ad) return ad.Hatasi();
+  if (SirketDizini(o.DataPath, *ad)) return Hata{"Bu adda bir şirket var: " + *ad};
+  std::string kusur;
+  for (const auto& [alan, deger] : {std::pair<const AlanTanimi&, std::string_view>(peruser::kod, kullanici),
+                                    std::pair<const AlanTanimi&, std::string_view>(peruser::pasw, sifre)})
+    if (MetindenDeger(alan, deger, kusur); !kusur.empty())
+      return Hata{(alan.ad == "kod" ? "Kullanıcı adı: " : "Şifre: ") + kusur};
+
+  const std::string dizin = DizinSonu(o.DataPath + *ad);
+  if (!DizinYarat(dizin)) return Hata{"Şirket Dizini Yaratılamıyor: " + dizin};
+  o.FirmaKod = *ad;
+  o.FirmaDizini = dizin;
+  const std::string depo = dizin + DepoDosyasi;
+  if (!o.depo.VeritabaniYarat(depo, bildirim)) return Hata{"Database Yaratılamadı: " + o.depo.db.SonHata()};
+  if (!o.depo.VeritabaniAc(depo, bildirim)) return Hata{"Database Açılamadı: " + o.depo.db.SonHata()};
+  auto& peruser = o.depo.peruser;
+  peruser.KayitEkle();
+  peruser.AlanYaz("kod", std::string(kullanici));
+  peruser.AlanYaz("pasw", std::string(sifre));
+  peruser.AlanYaz("admin", true);
+  if (!peruser.KayitYaz()) return Hata{"Kullanıcı Eklenemedi: " + o.depo.db.SonHata()};
+  FirmaIlkKayit(o, bildirim);
+  return Tamam();
+}
+
+bool OturumAc(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
+              Bildirim& bildirim) {
+  const bool bulundu = o.depo.peruser.KayitBul("kod", std::string(kullanici));
+  if (!bulundu || o.depo.peruser.MetinOku("pasw") != sifre) {
+    o.depo.TablolariKapat(KapatmaKapsami::YalnizImlecler);
+    bildirim.Bilgi("Kullanıcı Adı veya Kullanıcı Şifresi\n           HATALI");
+    return false;
+  }
+  o.FirmaKod = BuyukHarf(Kirp(sirket));
+  o.Kullanici = kullanici;
+  for (const auto& [anahtar, deger] : {std::pair("lastfirm", o.FirmaKod), std::pair("lastuser", o.Kullanici)})
+    if (const auto d = KullaniciAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.HataMetni());
+  if (!FirmaYukle(o)) {
+    o.ondeger = "Personel";
+    bildirim.Bilgi("Firma Bilgilerini Vermeyi Unutmayınız.");
+  }
+  return true;
+}
+
+bool FirmaYukle(Oturum& o) {
+  auto& firma = o.depo.firma;
+  if (!firma.IlkKayit()) return false;
+  o.unvan = firma.MetinOku("unvan");
+  o.firmayil = int(firma.TamOku("firmayil"));
+  o.firmaay = int(firma.TamOku("firmaay"));
+  o.paraonda = int(firma.TamOku("paraonda"));
+  o.ondeger = firma.MetinOku("ondeger");
+  return true;
+}
+
+void FirmaIlkKayit(Oturum& o, Bildirim& bildirim) {
+  const Tarih bugun = Tarih::Bugun();
+  o.firmaay = bugun.Ay();
+  o.firmayil = bugun.Yil();
+  o.ondeger = "Personel";
+  o.paraonda = 2;
+  o.unvan = "Yeni Şirket (" + std::to_string(o.firmayil) + ")";
+
+  auto& firma = o.depo.firma;
+  firma.IlkKayit() ? firma.KayitDuzelt() : firma.KayitEkle();
+  Firma::HerKolon([&](const AlanTanimi& alan) {
+    if (alan.tip == AlanTipi::Metin) firma.AlanYaz(alan.ad, std::string());
+  });
+  const std::pair<const char*, Deger> degerler[] = {
+      {"unvan", o.unvan},
+      {"kurtar", bugun},
+      {"iskodu", std::int64_t(1)},
+      {"yuvar", 0.0},
+      {"issaati", 8.0},
+      {"paraonda", std::int64_t(o.paraonda)},
+      {"firmayil", std::int64_t(o.firmayil)},
+      {"firmaay", std::int64_t(o.firmaay)},
+      {"tehlike", std::int64_t(0)},
+      {"sinif", 0.0},
+      {"ondeger", o.ondeger},
+      {"kanun", std::string("00000")},
+      {"versiyon", o.Versiyon.Sayi()},
+  };
+  for (const auto& [alan, deger] : degerler) firma.AlanYaz(alan, deger);
+  if (!firma.KayitYaz()) bildirim.Uyari("Firma Bilgileri Güncellenemedi");
+}
+
+bool VersiyonKontrol(Oturum& o, Bildirim& bildirim) {
+  o.depo.firma.IlkKayit();
+  const Tek depoVersiyonu(SayiDegeri(o.depo.firma.AlanOku("versiyon")));
+  if (depoVersiyonu == o.Versiyon) return true;
+  bildirim.Uyari("Program Versiyonu ile Database Versiyonu Farklı...\nProgram Versiyon:" +
+                 SayiMetni(o.Versiyon.Sayi()) + "\nDatabase Versiyon:" + SayiMetni(depoVersiyonu.Sayi()) +
+                 "\nUpdate Programını Çalıştırınız...");
+  return false;
+}
+
+}  // namespace belvani

@@ -1,0 +1,70 @@
+// The session: who works in which company and month, and the open store. There is one at a time in a program; it is
+// passed on by reference, and only start, login, the company card and the lookup window write it.
+//
+//   no store open --SirketAc--> store open --OturumAc--> logged in --change of company--> no store open
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "core/bildirim.h"
+#include "core/session/depo.h"
+#include "core/sonuc.h"
+
+namespace belvani {
+
+struct Oturum {
+  std::string SeciliKod;                     // what a pick-list chose; its caller reads and clears it
+  std::string PencereTip;                    // mode word for the list window about to open
+  std::array<std::uint32_t, 42> Renkler{};   // colour table of renk.dat
+  std::string ResimYolu = "image/soft/";     // of the skin, below PrgPath
+  bool ResimKullan = true;
+  std::string DataPath;                      // root of the company directories; ends in a separator
+  std::string FirmaKod;                      // name of the company's directory, upper case
+  std::string PrgPath;                       // installed files; ends in a separator
+  int ListeSirasi = 1;                       // last search column of the lookup window
+  int firmayil = 0;                          // working year
+  int firmaay = 0;                           // working month, 1 to 12
+  Tek Versiyon = ProgramVersiyonu;
+  std::string Kullanici = "BELVANI";
+  std::string ondeger = "Personel";          // default personnel class, the group of its earning flags
+  std::string unvan;                         // company title
+  std::string BilgisayarAdi;
+  int paraonda = 2;                          // decimals of money
+  std::string ParaBirimi = "TL";
+  std::string KurusBirimi = "KR";
+
+  std::string FirmaDizini;                   // directory of the open company; ends in a separator
+  Depo depo;
+};
+
+// Start, up to the login: version and computer name, `PrgPath` and `DataPath` from the machine's settings, a command
+// line in place of `DataPath`. The first run (no `PrgPath` recorded) makes the data directory and records both paths; a
+// command line is then dropped. False: the data directory cannot be made, and the program must end.
+bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komutSatiri, Bildirim& bildirim);
+
+// The colour table from `<PrgPath><ResimYolu>renk.dat`; a missing file is made empty and gives zeros.
+void RenkYukle(Oturum& o);
+
+// Opens the company's store; "Database Açılamadı" or the name's fault otherwise.
+Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim);
+
+// Makes a company with its store, its first user (an administrator) and its `firma` record, and leaves it open.
+Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
+                    Bildirim& bildirim);
+
+// Login to the open store. An unknown user and a wrong password are told in the same words, and the cursors close.
+bool OturumAc(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
+              Bildirim& bildirim);
+
+// The session fields of the `firma` record (title, period, decimals, default class); false when there is none.
+bool FirmaYukle(Oturum& o);
+
+// The `firma` record of a new company.
+void FirmaIlkKayit(Oturum& o, Bildirim& bildirim);
+
+// True when program and store have the same version; otherwise the user is told of both.
+bool VersiyonKontrol(Oturum& o, Bildirim& bildirim);
+
+}  // namespace belvani

@@ -1,0 +1,97 @@
+// Motor: the database engine behind a company store, and Komut: one of its prepared statements.
+//
+// Only this room knows which engine it is (SQLite today; a second one for offices with many computers is planned), so
+// SQL is kept to what both take. Values are always bound, never joined into the text. Everything here throws
+// MotorHatasi on failure; Veritabani and Imlec turn that into the False of the named operations, other logic catches
+// it where its transaction ends.
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/deger.h"
+#include "core/tables/alan.h"
+
+namespace belvani {
+
+enum class MotorKusuru { Kilitli, DiskDolu, SaltOkunur, Bozuk, Acilamadi, Kisit, Diger };
+
+// what() is a Turkish sentence for the user.
+struct MotorHatasi : std::runtime_error {
+  MotorHatasi(MotorKusuru kusur, const std::string& metin) : std::runtime_error(metin), tur(kusur) {}
+  MotorKusuru tur;
+};
+
+// A prepared statement. Parameters count from 1, columns from 0. Texts and bytes of a row hold until the next step.
+class Komut {
+ public:
+  virtual ~Komut() = default;
+
+  virtual void NullBagla(int no) = 0;
+  virtual void TamBagla(int no, std::int64_t deger) = 0;
+  virtual void SayiBagla(int no, double deger) = 0;
+  virtual void MetinBagla(int no, std::string_view deger) = 0;   // copied
+  virtual void BaytBagla(int no, const Baytlar& deger) = 0;
+
+  // True: a row stands ready. False: done; the statement may then be bound and run again.
+  virtual bool Adim() = 0;
+  // Ends a run before its last row, which frees what it locks.
+  virtual void Birak() = 0;
+
+  virtual int KolonSayisi() const = 0;
+  virtual std::string_view KolonAdi(int i) const = 0;
+  // The table column that a result column shows; empty for an expression.
+  virtual std::string_view KaynakTablo(int i) const = 0;
+  virtual std::string_view KaynakKolon(int i) const = 0;
+
+  enum class Tur { Null, Tam, Sayi, Metin, Bayt };
+  virtual Tur Turu(int i) const = 0;
+  virtual std::int64_t Tam(int i) const = 0;
+  virtual double Sayi(int i) const = 0;
+  virtual std::string_view Metin(int i) const = 0;
+  virtual Baytlar Bayt(int i) const = 0;
+
+  // Binds any value in the form in which the store keeps it: money scaled, dates ISO, booleans 0 and 1.
+  void Bagla(int no, const Deger& deger);
+  // Runs to the end; for statements without rows.
+  void Calistir();
+};
+
+struct MotorKolonu {
+  std::string ad;
+  std::string tip;   // as the table declares it, lower case
+};
+
+class Motor {
+ public:
+  virtual ~Motor() = default;
+
+  virtual std::unique_ptr<Komut> Hazirla(std::string_view sql) = 0;
+  virtual void Calistir(std::string_view sql) = 0;   // statements without parameters, several at once
+
+  // BEGIN IMMEDIATE: the write lock is taken at once, waiting for others up to `enCok`.
+  virtual void IslemBaslat(std::chrono::milliseconds enCok) = 0;
+  virtual void IslemOnayla() = 0;
+  virtual void IslemGeriAl() noexcept = 0;
+
+  virtual std::vector<MotorKolonu> Kolonlar(std::string_view tablo) = 0;   // empty: no such table
+  virtual std::string KolonTanimi(const AlanTanimi& alan, bool birincil) const = 0;
+  virtual std::string KimlikKolonu() const = 0;      // the hidden number of a row
+  virtual std::int64_t SonKimlik() const = 0;        // of the row inserted last
+  virtual std::int64_t DegisenSatir() const = 0;     // by the last write
+  virtual std::uint64_t YazmaSayaci() const = 0;     // grows with every write of this process
+
+  // "" when the store is sound, else what is wrong with it. Reads everything.
+  virtual std::string ButunlukKusuru() = 0;
+};
+
+// Opens the store file at `yol`, or makes it anew; shared, for reading and writing.
+std::unique_ptr<Motor> MotorAc(const std::string& yol);
+std::unique_ptr<Motor> MotorYarat(const std::string& yol);
+
+}  // namespace belvani

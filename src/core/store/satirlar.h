@@ -1,0 +1,118 @@
+// Rows of the store as record structs, for work on many rows at once. All of it throws MotorHatasi.
+//
+// A store of an older program may lack columns: they read as Null and are left out of writes.
+#pragma once
+
+#include <set>
+#include <string>
+
+#include "core/store/motor.h"
+
+namespace belvani {
+
+// One column of the row that stands ready, into a member. Null reads as zero, empty text, no date.
+inline void KolonAl(const Komut& k, int i, std::string& d) { d.assign(k.Metin(i)); }
+inline void KolonAl(const Komut& k, int i, std::uint8_t& d) { d = std::uint8_t(k.Tam(i)); }
+inline void KolonAl(const Komut& k, int i, std::int16_t& d) { d = std::int16_t(k.Tam(i)); }
+inline void KolonAl(const Komut& k, int i, std::int32_t& d) { d = std::int32_t(k.Tam(i)); }
+inline void KolonAl(const Komut& k, int i, Tutar& d) { d = Tutar::Hamdan(k.Tam(i)); }
+inline void KolonAl(const Komut& k, int i, Tek& d) { d = Tek(k.Sayi(i)); }
+inline void KolonAl(const Komut& k, int i, Tarih& d) { d = Tarih::IsoOku(k.Metin(i)); }
+inline void KolonAl(const Komut& k, int i, bool& d) { d = k.Tam(i) != 0; }
+inline void KolonAl(const Komut& k, int i, Baytlar& d) { d = k.Bayt(i); }
+
+inline void KolonBagla(Komut& k, int no, const std::string& d) { k.MetinBagla(no, d); }
+inline void KolonBagla(Komut& k, int no, std::uint8_t d) { k.TamBagla(no, d); }
+inline void KolonBagla(Komut& k, int no, std::int16_t d) { k.TamBagla(no, d); }
+inline void KolonBagla(Komut& k, int no, std::int32_t d) { k.TamBagla(no, d); }
+inline void KolonBagla(Komut& k, int no, Tutar d) { k.TamBagla(no, d.Ham()); }
+inline void KolonBagla(Komut& k, int no, Tek d) { k.SayiBagla(no, d.Sayi()); }
+inline void KolonBagla(Komut& k, int no, Tarih d) { k.Bagla(no, d); }
+inline void KolonBagla(Komut& k, int no, bool d) { k.TamBagla(no, d ? 1 : 0); }
+inline void KolonBagla(Komut& k, int no, const Baytlar& d) { k.BaytBagla(no, d); }
+
+// The columns that the store's table really has.
+inline std::set<std::string, std::less<>> TabloKolonlari(Motor& motor, std::string_view tablo) {
+  std::set<std::string, std::less<>> adlar;
+  for (auto& kolon : motor.Kolonlar(tablo)) adlar.insert(std::move(kolon.ad));
+  return adlar;
+}
+
+// "s.kod, s.adi, …, null" for `Kayit`, in the order in which KayitAl reads them.
+template <class Kayit>
+std::string SecimListesi(Motor& motor, const std::string& takmaAd = {}) {
+  const auto var = TabloKolonlari(motor, Kayit::TabloAdi);
+  const std::string on = takmaAd.empty() ? "" : takmaAd + ".";
+  std::string liste;
+  Kayit::HerKolon([&](const auto& kolon) {
+    liste += liste.empty() ? "" : ", ";
+    liste += var.contains(kolon.ad) ? on + std::string(kolon.ad) : std::string("null");
+  });
+  return liste;
+}
+
+// The record whose columns start at `ilk`; returns the column after it.
+template <class Kayit>
+int KayitAl(const Komut& komut, int ilk, Kayit& kayit) {
+  Kayit::HerKolon([&](const auto& kolon) { KolonAl(komut, ilk++, kayit.*kolon.uye); });
+  return ilk;
+}
+
+// All rows of a table that meet `kosul` ("where … order by …").
+template <class Kayit>
+std::vector<Kayit> KayitlariOku(Motor& motor, const std::string& kosul = {}, const std::vector<Deger>& degerler = {}) {
+  const auto komut = motor.Hazirla("select " + SecimListesi<Kayit>(motor) + " from " + std::string(Kayit::TabloAdi) +
+                                   " " + kosul);
+  int no = 0;
+  for (const Deger& d : degerler) komut->Bagla(++no, d);
+  std::vector<Kayit> kayitlar;
+  while (komut->Adim()) KayitAl(*komut, 0, kayitlar.emplace_back());
+  return kayitlar;
+}
+
+// Writes whole records of one table, many at a time, with the automatic number left to the store.
+template <class Kayit>
+class KayitYazici {
+ public:
+  // Columns named in `dokunma` are never written (they keep what they hold).
+  explicit KayitYazici(Motor& motor, const std::set<std::string, std::less<>>& dokunma = {})
+      : var_(TabloKolonlari(motor, Kayit::TabloAdi)) {
+    std::string adlar, sorular, atamalar;
+    Kayit::HerKolon([&](const auto& kolon) {
+      if (dokunma.contains(kolon.ad) || kolon.nitelik == AlanNiteligi::Otomatik) var_.erase(std::string(kolon.ad));
+      if (!var_.contains(kolon.ad)) return;
+      const std::string ayrac = adlar.empty() ? "" : ", ";
+      adlar += ayrac + std::string(kolon.ad);
+      sorular += ayrac + "?";
+      atamalar += ayrac + std::string(kolon.ad) + " = ?";
+    });
+    const std::string tablo(Kayit::TabloAdi);
+    ekle_ = motor.Hazirla("insert into " + tablo + " (" + adlar + ") values (" + sorular + ")");
+    degistir_ = motor.Hazirla("update " + tablo + " set " + atamalar + " where " + motor.KimlikKolonu() + " = ?");
+  }
+
+  void Ekle(const Kayit& kayit) {
+    Bagla(*ekle_, kayit);
+    ekle_->Calistir();
+  }
+  void Degistir(const Kayit& kayit, std::int64_t kimlik) {
+    degistir_->TamBagla(Bagla(*degistir_, kayit), kimlik);
+    degistir_->Calistir();
+  }
+
+ private:
+  // Returns the number of the next parameter.
+  int Bagla(Komut& komut, const Kayit& kayit) {
+    int no = 0;
+    Kayit::HerKolon([&](const auto& kolon) {
+      if (var_.contains(kolon.ad)) KolonBagla(komut, ++no, kayit.*kolon.uye);
+    });
+    return no + 1;
+  }
+
+  std::set<std::string, std::less<>> var_;
+  std::unique_ptr<Komut> ekle_;
+  std::unique_ptr<Komut> degistir_;
+};
+
+}  // namespace belvani

@@ -1,0 +1,328 @@
+// The SQLite engine.
+//
+// Durability: WAL journal with synchronous=FULL, so a committed transaction survives a power cut and an open one
+// vanishes whole. WAL needs shared memory; on a network file system the rollback journal serves in its place.
+// Text columns carry the collation `turkce`. Its order belongs to the Unicode library's version, which the store
+// remembers in user_version: under another version the indexes are rebuilt before anything is searched.
+
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <sys/stat.h>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+#include <thread>
+
+#include "core/store/motor.h"
+#include "core/turkce.h"
+
+namespace belvani {
+namespace {
+
+using Milisaniye = std::chrono::milliseconds;
+
+constexpr int UygulamaKimligi = 0x42454C56;  // "BELV", in the header of the file
+constexpr Milisaniye KilitBekleme{5000};
+
+const char* const OturumAyarlari =
+    "pragma synchronous=full;"
+    "pragma temp_store=memory;"
+    "pragma cache_size=-65536;"       // KiB
+    "pragma wal_autocheckpoint=4000;"  // pages
+    "pragma trusted_schema=off;"
+    "pragma cell_size_check=on;";
+
+MotorKusuru KusurTuru(int kod) {
+  switch (kod & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return MotorKusuru::Kilitli;
+    case SQLITE_FULL:
+      return MotorKusuru::DiskDolu;
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+      return MotorKusuru::SaltOkunur;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+      return MotorKusuru::Bozuk;
+    case SQLITE_CANTOPEN:
+      return MotorKusuru::Acilamadi;
+    case SQLITE_CONSTRAINT:
+    case SQLITE_TOOBIG:
+    case SQLITE_MISMATCH:
+      return MotorKusuru::Kisit;
+    default:
+      return MotorKusuru::Diger;
+  }
+}
+
+std::string KusurMetni(MotorKusuru tur) {
+  switch (tur) {
+    case MotorKusuru::Kilitli:
+      return "Veritabanı başka bir kullanıcı tarafından kilitli, biraz sonra yeniden deneyiniz";
+    case MotorKusuru::DiskDolu:
+      return "Disk dolu, kayıt yazılamadı";
+    case MotorKusuru::SaltOkunur:
+      return "Veritabanına yazma izni yok";
+    case MotorKusuru::Bozuk:
+      return "Dosya bozuk veya bir şirket veritabanı değil";
+    case MotorKusuru::Acilamadi:
+      return "Veritabanı dosyası açılamadı";
+    case MotorKusuru::Kisit:
+      return "Kayıt veritabanının kurallarına uymuyor";
+    case MotorKusuru::Diger:
+      return "Veritabanı işlemi yapılamadı";
+  }
+  return {};
+}
+
+[[noreturn]] void HataAt(sqlite3* db, int kod) {
+  const MotorKusuru tur = KusurTuru(kod);
+  const char* ayrinti = db == nullptr ? sqlite3_errstr(kod) : sqlite3_errmsg(db);
+  throw MotorHatasi(tur, KusurMetni(tur) + " [" + ayrinti + "]");
+}
+
+int TurkceSirala(void*, int na, const void* a, int nb, const void* b) {
+  return TurkceKarsilastir({static_cast<const char*>(a), std::size_t(na)},
+                           {static_cast<const char*>(b), std::size_t(nb)});
+}
+
+class SqliteKomut final : public Komut {
+ public:
+  SqliteKomut(sqlite3* db, std::string_view sql, std::uint64_t& yazmaSayaci) : db_(db), yazmaSayaci_(yazmaSayaci) {
+    const int kod = sqlite3_prepare_v3(db, sql.data(), int(sql.size()), SQLITE_PREPARE_PERSISTENT, &komut_, nullptr);
+    if (kod != SQLITE_OK) HataAt(db, kod);
+    yazan_ = sqlite3_stmt_readonly(komut_) == 0;
+  }
+  ~SqliteKomut() override { sqlite3_finalize(komut_); }
+
+  void NullBagla(int no) override { Sina(sqlite3_bind_null(komut_, no)); }
+  void TamBagla(int no, std::int64_t d) override { Sina(sqlite3_bind_int64(komut_, no, d)); }
+  void SayiBagla(int no, double d) override { Sina(sqlite3_bind_double(komut_, no, d)); }
+  void MetinBagla(int no, std::string_view d) override {
+    Sina(sqlite3_bind_text(komut_, no, d.data() == nullptr ? "" : d.data(), int(d.size()), SQLITE_TRANSIENT));
+  }
+  void BaytBagla(int no, const Baytlar& d) override {
+    Sina(sqlite3_bind_blob64(komut_, no, d.empty() ? static_cast<const void*>("") : d.data(), d.size(),
+                             SQLITE_TRANSIENT));
+  }
+
+  bool Adim() override {
+    const int kod = sqlite3_step(komut_);
+    if (kod == SQLITE_ROW) return true;
+    if (yazan_) ++yazmaSayaci_;
+    if (kod != SQLITE_DONE) {
+      const MotorKusuru tur = KusurTuru(kod);
+      const std::string metin = KusurMetni(tur) + " [" + sqlite3_errmsg(db_) + "]";
+      sqlite3_reset(komut_);
+      throw MotorHatasi(tur, metin);
+    }
+    sqlite3_reset(komut_);
+    return false;
+  }
+  void Birak() override { sqlite3_reset(komut_); }
+
+  int KolonSayisi() const override { return sqlite3_column_count(komut_); }
+  std::string_view KolonAdi(int i) const override { return MetinYa(sqlite3_column_name(komut_, i)); }
+  std::string_view KaynakTablo(int i) const override { return MetinYa(sqlite3_column_table_name(komut_, i)); }
+  std::string_view KaynakKolon(int i) const override { return MetinYa(sqlite3_column_origin_name(komut_, i)); }
+
+  Tur Turu(int i) const override {
+    switch (sqlite3_column_type(komut_, i)) {
+      case SQLITE_INTEGER:
+        return Tur::Tam;
+      case SQLITE_FLOAT:
+        return Tur::Sayi;
+      case SQLITE_TEXT:
+        return Tur::Metin;
+      case SQLITE_BLOB:
+        return Tur::Bayt;
+      default:
+        return Tur::Null;
+    }
+  }
+  std::int64_t Tam(int i) const override { return sqlite3_column_int64(komut_, i); }
+  double Sayi(int i) const override { return sqlite3_column_double(komut_, i); }
+  std::string_view Metin(int i) const override {
+    const auto* m = reinterpret_cast<const char*>(sqlite3_column_text(komut_, i));
+    return m == nullptr ? std::string_view() : std::string_view(m, std::size_t(sqlite3_column_bytes(komut_, i)));
+  }
+  Baytlar Bayt(int i) const override {
+    const auto* b = static_cast<const std::uint8_t*>(sqlite3_column_blob(komut_, i));
+    return b == nullptr ? Baytlar() : Baytlar(b, b + sqlite3_column_bytes(komut_, i));
+  }
+
+ private:
+  static std::string_view MetinYa(const char* m) { return m == nullptr ? std::string_view() : std::string_view(m); }
+  void Sina(int kod) const {
+    if (kod != SQLITE_OK) HataAt(db_, kod);
+  }
+
+  sqlite3* db_;
+  std::uint64_t& yazmaSayaci_;
+  sqlite3_stmt* komut_ = nullptr;
+  bool yazan_ = false;
+};
+
+// True on NFS and SMB shares, where several computers cannot share WAL's memory.
+bool AgUzerinde(const std::string& yol) {
+  constexpr unsigned long Nfs = 0x6969, Smb = 0x517B, Cifs = 0xFF534D42, Smb2 = 0xFE534D42;
+  struct statfs bilgi {};
+  if (statfs(yol.c_str(), &bilgi) != 0) return false;
+  const auto tur = static_cast<unsigned long>(bilgi.f_type) & 0xFFFFFFFFul;
+  return tur == Nfs || tur == Smb || tur == Cifs || tur == Smb2;
+}
+
+class SqliteMotor final : public Motor {
+ public:
+  explicit SqliteMotor(const std::string& yol) {
+    const int kod = sqlite3_open_v2(yol.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    try {
+      if (kod != SQLITE_OK) HataAt(db_, kod);
+      sqlite3_extended_result_codes(db_, 1);
+      sqlite3_busy_timeout(db_, int(KilitBekleme.count()));
+      sqlite3_create_collation_v2(db_, "turkce", SQLITE_UTF8, nullptr, &TurkceSirala, nullptr);
+      Calistir(AgUzerinde(yol) ? "pragma journal_mode=delete" : "pragma journal_mode=wal");
+      Calistir(OturumAyarlari);
+      Calistir("select count(*) from sqlite_master");  // a file that is no store shows itself here
+    } catch (...) {
+      sqlite3_close_v2(db_);
+      throw;
+    }
+  }
+  ~SqliteMotor() override { sqlite3_close_v2(db_); }
+  SqliteMotor(const SqliteMotor&) = delete;
+  SqliteMotor& operator=(const SqliteMotor&) = delete;
+
+  void YeniDosyayiImzala() {
+    Calistir("pragma application_id=" + std::to_string(UygulamaKimligi));
+    SiraSurumunuYaz();
+  }
+
+  // Indexes made under another version of the alphabet's order are rebuilt.
+  void SirayiDenetle() {
+    if (TekDeger("pragma user_version") == SiraSurumu()) return;
+    IslemBaslat(KilitBekleme);
+    try {
+      Calistir("reindex turkce");
+      SiraSurumunuYaz();
+      IslemOnayla();
+    } catch (...) {
+      IslemGeriAl();
+      throw;
+    }
+  }
+
+  std::unique_ptr<Komut> Hazirla(std::string_view sql) override {
+    return std::make_unique<SqliteKomut>(db_, sql, yazmaSayaci_);
+  }
+
+  void Calistir(std::string_view sql) override {
+    const std::string metin(sql);
+    const int kod = sqlite3_exec(db_, metin.c_str(), nullptr, nullptr, nullptr);
+    ++yazmaSayaci_;
+    if (kod != SQLITE_OK) HataAt(db_, kod);
+  }
+
+  void IslemBaslat(Milisaniye enCok) override {
+    const auto son = std::chrono::steady_clock::now() + enCok;
+    sqlite3_busy_timeout(db_, int(std::min(enCok, KilitBekleme).count()));
+    int kod = SQLITE_BUSY;
+    do kod = sqlite3_exec(db_, "begin immediate", nullptr, nullptr, nullptr);
+    while ((kod & 0xFF) == SQLITE_BUSY && std::chrono::steady_clock::now() < son);
+    sqlite3_busy_timeout(db_, int(KilitBekleme.count()));
+    if (kod != SQLITE_OK) HataAt(db_, kod);
+  }
+  void IslemOnayla() override { Calistir("commit"); }
+  void IslemGeriAl() noexcept override {
+    if (sqlite3_get_autocommit(db_) == 0) sqlite3_exec(db_, "rollback", nullptr, nullptr, nullptr);
+    ++yazmaSayaci_;
+  }
+
+  std::vector<MotorKolonu> Kolonlar(std::string_view tablo) override {
+    auto komut = Hazirla("select lower(name), lower(type) from pragma_table_info(?)");
+    komut->MetinBagla(1, tablo);
+    std::vector<MotorKolonu> kolonlar;
+    while (komut->Adim()) kolonlar.push_back({std::string(komut->Metin(0)), std::string(komut->Metin(1))});
+    return kolonlar;
+  }
+
+  std::string KolonTanimi(const AlanTanimi& alan, bool birincil) const override {
+    const std::string ad(alan.ad);
+    if (alan.nitelik == AlanNiteligi::Otomatik) return ad + " integer primary key autoincrement";
+    const bool bosOlmaz = birincil || alan.nitelik == AlanNiteligi::Zorunlu;
+    return ad + " " + TipAdi(alan) + (bosOlmaz ? " not null" : "") +
+           (alan.tip == AlanTipi::Metin ? " collate turkce" : "");
+  }
+
+  std::string KimlikKolonu() const override { return "rowid"; }
+  std::int64_t SonKimlik() const override { return sqlite3_last_insert_rowid(db_); }
+  std::int64_t DegisenSatir() const override { return sqlite3_changes64(db_); }
+  std::uint64_t YazmaSayaci() const override { return yazmaSayaci_; }
+
+  std::string ButunlukKusuru() override {
+    auto komut = Hazirla("pragma integrity_check(1)");
+    const std::string sonuc = komut->Adim() ? std::string(komut->Metin(0)) : "denetim yapılamadı";
+    komut->Birak();
+    return sonuc == "ok" ? std::string() : sonuc;
+  }
+
+ private:
+  static std::string TipAdi(const AlanTanimi& alan) {
+    switch (alan.tip) {
+      case AlanTipi::Metin:
+        return "varchar(" + std::to_string(alan.boyut) + ")";
+      case AlanTipi::Byte:
+        return "tinyint";
+      case AlanTipi::Kisa:
+        return "smallint";
+      case AlanTipi::Uzun:
+        return "integer";
+      case AlanTipi::Tutar:
+        return "bigint";
+      case AlanTipi::Tek:
+        return "real";
+      case AlanTipi::Tarih:
+        return "date";
+      case AlanTipi::Mantik:
+        return "boolean";
+      case AlanTipi::Ikili:
+        return "blob";
+    }
+    return {};
+  }
+
+  static std::int64_t SiraSurumu() { return std::int32_t(TurkceSiraSurumu()); }
+  void SiraSurumunuYaz() { Calistir("pragma user_version=" + std::to_string(SiraSurumu())); }
+
+  std::int64_t TekDeger(std::string_view sql) {
+    auto komut = Hazirla(sql);
+    const std::int64_t deger = komut->Adim() ? komut->Tam(0) : 0;
+    komut->Birak();
+    return deger;
+  }
+
+  sqlite3* db_ = nullptr;
+  std::uint64_t yazmaSayaci_ = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<Motor> MotorAc(const std::string& yol) {
+  auto motor = std::make_unique<SqliteMotor>(yol);
+  motor->SirayiDenetle();
+  return motor;
+}
+
+std::unique_ptr<Motor> MotorYarat(const std::string& yol) {
+  // Made empty first, so that the file and all that the engine lays beside it are open to owner and group only.
+  const int dosya = ::open(yol.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0660);
+  if (dosya < 0) throw MotorHatasi(MotorKusuru::Acilamadi, KusurMetni(MotorKusuru::Acilamadi) + " [" + yol + "]");
+  ::fchmod(dosya, 0660);
+  ::close(dosya);
+  auto motor = std::make_unique<SqliteMotor>(yol);
+  motor->YeniDosyayiImzala();
+  return motor;
+}
+
+}  // namespace belvani

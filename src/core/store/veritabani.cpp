@@ -1,0 +1,135 @@
+#include "core/store/veritabani.h"
+
+#include <cstdlib>
+#include <fstream>
+
+#include "core/store/imlec.h"
+#include "core/tables/tablolar.h"
+
+namespace belvani {
+namespace {
+
+std::string IndeksKur(std::string_view tablo, const std::string& ad, const IndeksTanimi& indeks) {
+  std::string sql = indeks.tekil ? "create unique index " : "create index ";
+  sql += ad + " on " + std::string(tablo) + " (";
+  for (std::size_t i = 0; i < indeks.alanlar.size(); ++i) sql += (i ? ", " : "") + std::string(indeks.alanlar[i]);
+  return sql + ")";
+}
+
+bool BirincilMi(const TabloTanimi& tanim, std::string_view alan) {
+  return std::any_of(tanim.indeksler.begin(), tanim.indeksler.end(),
+                     [&](const auto& i) { return i.birincil && i.alanlar.front() == alan; });
+}
+
+bool OtomatikMi(const TabloTanimi& tanim, const IndeksTanimi& indeks) {
+  return tanim.AlanBul(indeks.alanlar.front())->nitelik == AlanNiteligi::Otomatik;
+}
+
+void Gunluge(const std::string& metin) {
+  const char* yol = std::getenv("BELVANI_GUNLUK");
+  if (yol == nullptr || *yol == '\0') return;
+  std::ofstream(yol, std::ios::app) << metin << '\n';
+}
+
+}  // namespace
+
+Veritabani::Veritabani() = default;
+Veritabani::~Veritabani() = default;
+
+void Veritabani::HataYaz(std::string metin) {
+  Gunluge(metin);
+  sonHata_ = std::move(metin);
+}
+
+bool Veritabani::DbAc(const std::string& yol) {
+  DbKapat();
+  try {
+    motor_ = MotorAc(yol);
+    return true;
+  } catch (const std::exception& h) {
+    HataYaz(h.what());
+    return false;
+  }
+}
+
+bool Veritabani::DbYarat(const std::string& yol) {
+  DbKapat();
+  try {
+    motor_ = MotorYarat(yol);
+    return true;
+  } catch (const std::exception& h) {
+    HataYaz(h.what());
+    return false;
+  }
+}
+
+void Veritabani::DbKapat() { motor_.reset(); }
+
+bool Veritabani::TabloAc(Imlec& rs, std::string_view tablo) {
+  rs.RsKapat();
+  return Koru(false, [&] {
+    const TabloTanimi* tanim = TabloBul(tablo);
+    if (tanim == nullptr) throw MotorHatasi(MotorKusuru::Diger, "Tablo yok: " + std::string(tablo));
+    rs.TabloyaBagla(*this, *tanim);
+    return true;
+  });
+}
+
+bool Veritabani::SqlAc(Imlec& rs, std::string_view sql, const std::vector<Deger>& degerler,
+                       const std::vector<SonucTipi>& tipler) {
+  rs.RsKapat();
+  return Koru(false, [&] {
+    const auto komut = motor_->Hazirla(sql);
+    int no = 0;
+    for (const Deger& d : degerler) komut->Bagla(++no, d);
+    rs.SorguyaBagla(*this, *komut, tipler);
+    return rs.KayitSayisi() > 0;
+  });
+}
+
+bool Veritabani::TabloVarMi(std::string_view tablo) {
+  return Koru(false, [&] { return !motor_->Kolonlar(tablo).empty(); });
+}
+
+bool Veritabani::AlanVarMi(std::string_view tablo, std::string_view alan) {
+  return Koru(false, [&] {
+    const AlanTanimi aranan{alan, AlanTipi::Metin, 0, AlanNiteligi::Serbest};
+    const auto kolonlar = motor_->Kolonlar(tablo);
+    return std::any_of(kolonlar.begin(), kolonlar.end(), [&](const MotorKolonu& k) {
+      return TabloTanimi{"", {aranan}, {}, {}}.AlanBul(k.ad) != nullptr;
+    });
+  });
+}
+
+bool Veritabani::AlanEkle(std::string_view tablo, const AlanTanimi& alan) {
+  return Koru(false, [&] {
+    // A column added to rows that stand already is Null in them, whatever it is to be later.
+    AlanTanimi serbest = alan;
+    serbest.nitelik = AlanNiteligi::Serbest;
+    motor_->Calistir("alter table " + std::string(tablo) + " add column " + motor_->KolonTanimi(serbest, false));
+    return true;
+  });
+}
+
+bool Veritabani::TabloEkle(const TabloTanimi& tanim) {
+  return Koru(false, [&] {
+    Islem islem(*motor_);
+    std::string sql = "create table " + std::string(tanim.ad) + " (";
+    const char* ayrac = "";
+    for (const AlanTanimi& alan : tanim.alanlar) {
+      if (alan.nitelik == AlanNiteligi::Sonradan) continue;
+      sql += ayrac + motor_->KolonTanimi(alan, BirincilMi(tanim, alan.ad));
+      ayrac = ", ";
+    }
+    motor_->Calistir(sql + ")");
+    for (const auto& indeks : tanim.indeksler)
+      if (!OtomatikMi(tanim, indeks))
+        motor_->Calistir(IndeksKur(tanim.ad, std::string(tanim.ad) + "_" + std::string(indeks.ad), indeks));
+    for (const auto& indeks : tanim.sorguIndeksleri)
+      motor_->Calistir(IndeksKur(tanim.ad, std::string(indeks.ad), indeks));
+    islem.Onayla();
+    return true;
+  });
+}
+
+}  // namespace belvani

@@ -1,0 +1,100 @@
+// Veritabani: an open store, and the operations through which all logic reaches it.
+//
+// The named operations are guarded: whatever fails in the engine comes back as False (or an empty result), nothing is
+// raised, and only the caller reports. They are not mute for us: SonHata() keeps the last failure's text, and the
+// environment variable BELVANI_GUNLUK names a file to which every failure is added.
+//
+// Bulk work (a whole company at once) goes below these operations, through Motor and the typed rows of
+// core/store/satirlar.h, and there failures are MotorHatasi.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/store/motor.h"
+#include "core/tables/alan.h"
+
+namespace belvani {
+
+class Imlec;
+
+// What a result column of a query holds when the query cannot tell by itself: SqlAc(rs, "select sum(gvmatrah) as t …",
+// {…}, {{"t", AlanTipi::Tutar}}).
+struct SonucTipi {
+  std::string_view ad;
+  AlanTipi tip;
+};
+
+class Veritabani {
+ public:
+  Veritabani();
+  ~Veritabani();
+  Veritabani(const Veritabani&) = delete;
+  Veritabani& operator=(const Veritabani&) = delete;
+
+  bool DbAc(const std::string& yol);
+  bool DbYarat(const std::string& yol);
+  void DbKapat();
+  bool AcikMi() const { return motor_ != nullptr; }
+
+  // Opens a cursor on a table of the schema, on its first record.
+  bool TabloAc(Imlec& rs, std::string_view tablo);
+
+  // Runs a query with its values bound in order; the cursor stands on the first row and knows the row count.
+  // False when the query fails or has no rows; in the latter case the cursor is open and empty.
+  bool SqlAc(Imlec& rs, std::string_view sql, const std::vector<Deger>& degerler = {},
+             const std::vector<SonucTipi>& tipler = {});
+
+  bool AlanVarMi(std::string_view tablo, std::string_view alan);
+  bool AlanEkle(std::string_view tablo, const AlanTanimi& alan);
+  bool TabloEkle(const TabloTanimi& tanim);
+  bool TabloVarMi(std::string_view tablo);
+
+  const std::string& SonHata() const { return sonHata_; }
+  void HataYaz(std::string metin);
+
+  // Below the guard; the store must be open.
+  Motor& IcMotor() { return *motor_; }
+
+  // Runs `is`; any failure is kept in SonHata() and gives `basarisiz`.
+  template <class Is, class T>
+  T Koru(T basarisiz, Is&& is) noexcept {
+    try {
+      if (!AcikMi()) throw MotorHatasi(MotorKusuru::Acilamadi, "Veritabanı açık değil");
+      return is();
+    } catch (const std::exception& h) {
+      HataYaz(h.what());
+      return basarisiz;
+    }
+  }
+
+ private:
+  std::unique_ptr<Motor> motor_;
+  std::string sonHata_;
+};
+
+// A write transaction: everything in it happens or nothing does. Not approved by its end, it is taken back.
+class Islem {
+ public:
+  // Waits for other writers up to `enCok`; then MotorHatasi.
+  explicit Islem(Motor& motor, std::chrono::milliseconds enCok = std::chrono::seconds(5)) : motor_(&motor) {
+    motor.IslemBaslat(enCok);
+  }
+  ~Islem() {
+    if (motor_ != nullptr) motor_->IslemGeriAl();
+  }
+  Islem(const Islem&) = delete;
+  Islem& operator=(const Islem&) = delete;
+
+  void Onayla() {
+    motor_->IslemOnayla();
+    motor_ = nullptr;
+  }
+
+ private:
+  Motor* motor_;
+};
+
+}  // namespace belvani
