@@ -1,0 +1,237 @@
+#include "payroll/parametre/indir.h"
+
+#include <algorithm>
+#include <array>
+#include <curl/curl.h>
+#include <filesystem>
+#include <memory>
+#include <optional>
+
+#include "core/ayarlar.h"
+#include "core/dosya.h"
+#include "core/turkce.h"
+#include "payroll/parametre/kayitlar.h"
+
+namespace belvani {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct CurlBirak {
+  void operator()(CURL* c) const { curl_easy_cleanup(c); }
+  void operator()(CURLU* u) const { curl_url_cleanup(u); }
+  void operator()(char* metin) const { curl_free(metin); }
+};
+
+struct Adres {
+  std::string sema;
+  std::string yol;  // percent codes resolved
+};
+
+std::optional<std::string> AdresParcasi(CURLU* adres, CURLUPart parca, unsigned secenek) {
+  char* metin = nullptr;
+  if (curl_url_get(adres, parca, &metin, secenek) != CURLUE_OK) return std::nullopt;
+  const std::unique_ptr<char, CurlBirak> sahip(metin);
+  return std::string(metin);
+}
+
+Sonuc<Adres> AdresCoz(const std::string& url) {
+  const std::unique_ptr<CURLU, CurlBirak> adres(curl_url());
+  if (adres && curl_url_set(adres.get(), CURLUPART_URL, url.c_str(), 0) == CURLUE_OK) {
+    const auto sema = AdresParcasi(adres.get(), CURLUPART_SCHEME, 0);
+    const auto yol = AdresParcasi(adres.get(), CURLUPART_PATH, CURLU_URLDECODE);
+    if (sema && yol && (*sema == "file" || *sema == "http" || *sema == "https")) return Adres{*sema, *yol};
+  }
+  return Hata{"Parametre adresi http:, https: ya da file: ile başlayan tam bir adres olmalı: " + url};
+}
+
+// The body of a response as it arrives.
+struct Govde {
+  std::string baytlar;
+  std::size_t enCok;
+};
+
+std::size_t GovdeyeEkle(const char* veri, std::size_t boy, std::size_t adet, void* nereye) {
+  auto& govde = *static_cast<Govde*>(nereye);
+  const std::size_t n = boy * adet;
+  if (n > govde.enCok - govde.baytlar.size()) return CURL_WRITEFUNC_ERROR;
+  govde.baytlar.append(veri, n);
+  return n;
+}
+
+Hata IndirmeHatasi(const std::string& url, const std::string& neden) {
+  return {"Parametre Bulunamadı: " + url + " (" + neden + ")"};
+}
+
+// What the user can act on is told in Turkish, the rest in the library's words.
+std::string AktarimKusuru(CURL* aktarim, CURLcode kod, const IndirmeSiniri& sinir) {
+  static constexpr std::pair<CURLcode, const char*> bilinenler[] = {
+      {CURLE_COULDNT_RESOLVE_HOST, "sunucu adı bulunamadı"},
+      {CURLE_COULDNT_CONNECT, "sunucuya bağlanılamadı"},
+      {CURLE_OPERATION_TIMEDOUT, "süre doldu"},
+      {CURLE_PARTIAL_FILE, "aktarım yarıda kesildi"},
+      {CURLE_PEER_FAILED_VERIFICATION, "sunucunun kimliği doğrulanamadı"},
+  };
+  for (const auto& [bilinen, metin] : bilinenler)
+    if (bilinen == kod) return metin;
+  if (kod == CURLE_WRITE_ERROR || kod == CURLE_FILESIZE_EXCEEDED)
+    return "dosya " + std::to_string(sinir.enCokBayt) + " bayttan büyük";
+  long durum = 0;
+  curl_easy_getinfo(aktarim, CURLINFO_RESPONSE_CODE, &durum);
+  if (kod == CURLE_HTTP_RETURNED_ERROR) return "sunucu " + std::to_string(durum) + " yanıtını verdi";
+  return curl_easy_strerror(kod);
+}
+
+Sonuc<std::string> AgdanAl(const std::string& url, const std::string& sema, const IndirmeSiniri& sinir) {
+  const std::unique_ptr<CURL, CurlBirak> sahip(curl_easy_init());
+  CURL* c = sahip.get();
+  if (c == nullptr) return IndirmeHatasi(url, "bellek yetmedi");
+  Govde govde{{}, sinir.enCokBayt};
+  curl_easy_setopt(c, CURLOPT_URL, url.c_str());
+  // A redirection may neither reach a local file nor leave an encrypted connection.
+  curl_easy_setopt(c, CURLOPT_PROTOCOLS_STR, "http,https");
+  curl_easy_setopt(c, CURLOPT_REDIR_PROTOCOLS_STR, sema == "https" ? "https" : "http,https");
+  curl_easy_setopt(c, CURLOPT_FOLLOWLOCATION, 1L);
+  curl_easy_setopt(c, CURLOPT_MAXREDIRS, 5L);
+  curl_easy_setopt(c, CURLOPT_FAILONERROR, 1L);
+  curl_easy_setopt(c, CURLOPT_NOSIGNAL, 1L);
+  curl_easy_setopt(c, CURLOPT_CONNECTTIMEOUT_MS, long(sinir.baglanti.count()));
+  curl_easy_setopt(c, CURLOPT_TIMEOUT_MS, long(sinir.toplam.count()));
+  curl_easy_setopt(c, CURLOPT_MAXFILESIZE_LARGE, curl_off_t(sinir.enCokBayt));
+  curl_easy_setopt(c, CURLOPT_USERAGENT, "Belvani");
+  curl_easy_setopt(c, CURLOPT_WRITEFUNCTION, GovdeyeEkle);
+  curl_easy_setopt(c, CURLOPT_WRITEDATA, &govde);
+  if (const CURLcode kod = curl_easy_perform(c); kod != CURLE_OK)
+    return IndirmeHatasi(url, AktarimKusuru(c, kod, sinir));
+  return govde.baytlar;
+}
+
+// A local file is read here, not by libcurl: that would wait for ever on a pipe and take a directory for a file.
+Sonuc<std::string> Al(const std::string& url, const IndirmeSiniri& sinir) {
+  const auto adres = AdresCoz(url);
+  if (!adres) return adres.Hatasi();
+  if (adres->sema != "file") return AgdanAl(url, adres->sema, sinir);
+  if (auto baytlar = DosyaOku(adres->yol, sinir.enCokBayt)) return *baytlar;
+  return IndirmeHatasi(url, "dosya okunamadı");
+}
+
+std::string DosyaAdresi(const std::string& yol) {
+  std::string adres = "file://";
+  for (const char c : yol) {
+    constexpr char onalti[] = "0123456789ABCDEF";
+    const auto b = std::uint8_t(c);
+    const bool duz = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+                     std::string_view("/-._~").find(c) != std::string_view::npos;
+    if (duz)
+      adres += c;
+    else
+      adres += {'%', onalti[b / 16], onalti[b % 16]};
+  }
+  return adres;
+}
+
+// The files that are fetched: as the server calls them and as they lie in the data path.
+struct Parametre {
+  std::string_view uzak;
+  std::string_view yerel;
+  std::size_t boy;
+};
+constexpr std::array<Parametre, 4> parametreler{{{"yasal2.txt", YasalKaydi::Dosya, YasalKaydi::Boy},
+                                                 {"gvtbl.txt", GvKaydi::Dosya, GvKaydi::Boy},
+                                                 {"agitbl.txt", AgiKaydi::Dosya, AgiKaydi::Boy},
+                                                 {"hestur.txt", HesapTurKaydi::Dosya, HesapTurKaydi::Boy}}};
+
+// In the order of `parametreler`.
+using ParametreBaytlari = std::array<std::string, parametreler.size()>;
+
+ParametreBaytlari BaytlaraCevir(const YasalParametreler& p) {
+  return {KayitBaytlari<YasalKaydi>(p.oranlar), KayitBaytlari<GvKaydi>(p.gv), KayitBaytlari<AgiKaydi>(p.agi),
+          KayitBaytlari<HesapTurKaydi>(p.hesapTurleri)};
+}
+
+std::string DonemDizini(int yil, int ay, Lira lira) {
+  return OnbellekDizini() + "parametre/" + std::to_string(yil) + (ay < 10 ? "-0" : "-") + std::to_string(ay) +
+         (lira == Lira::Eski ? "-eski" : "");
+}
+
+Sonuc<ParametreBaytlari> HepsiniAl(const std::string& kaynak, const IndirmeSiniri& sinir) {
+  ParametreBaytlari hepsi;
+  for (std::size_t i = 0; i < parametreler.size(); ++i) {
+    const std::string url = kaynak + "/download/" + std::string(parametreler[i].uzak);
+    auto baytlar = Al(url, sinir);
+    if (!baytlar) return baytlar.Hatasi();
+    if (baytlar->size() != parametreler[i].boy)
+      return Hata{"Parametre dosyası hatalı: " + url + " " + std::to_string(baytlar->size()) + " bayt, " +
+                  std::to_string(parametreler[i].boy) + " bayt olmalıydı"};
+    hepsi[i] = std::move(*baytlar);
+  }
+  return hepsi;
+}
+
+// What a file held before it was replaced; nothing: it did not exist.
+using EskiHal = std::optional<std::string>;
+
+Sonuc<EskiHal> EskiHaliAl(const std::string& yol) {
+  std::error_code hata;
+  if (const auto baytlar = DosyaOku(yol)) return EskiHal(*baytlar);
+  if (!fs::exists(yol, hata) && !hata) return EskiHal();
+  return Hata{"Eski parametre dosyası okunamadı, değiştirilmedi: " + yol};
+}
+
+// The text of what could not be put back; "" when all is as it was.
+std::string GeriKoy(const std::string& yol, const EskiHal& eski) {
+  if (eski) {
+    const auto durum = DosyaYaz(yol, *eski);
+    return durum ? std::string() : "; eski hali geri konamadı: " + durum.HataMetni();
+  }
+  std::error_code hata;
+  fs::remove(yol, hata);
+  return hata ? "; silinemedi: " + yol : std::string();
+}
+
+}  // namespace
+
+Durum ParametreIndir(const std::string& url, const std::string& dosya, const IndirmeSiniri& sinir) {
+  const auto baytlar = Al(url, sinir);
+  if (!baytlar) return baytlar.Hatasi();
+  return DosyaYaz(dosya, *baytlar);
+}
+
+Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira) {
+  std::string ayar = MakineAyari("ParametreAdresi");
+  while (!ayar.empty() && (ayar.back() == '/' || ayar.back() == ' ')) ayar.pop_back();
+  if (!ayar.empty()) return ayar;
+
+  const auto parametre = MevzuatYukle(MevzuatDizini(), yil, ay, lira);
+  if (!parametre) return parametre.Hatasi();
+  const std::string kok = DonemDizini(yil, ay, lira);
+  const std::string dizin = kok + "/download/";
+  if (auto durum = DizinYarat(dizin); !durum) return durum.Hatasi();
+  const ParametreBaytlari hepsi = BaytlaraCevir(*parametre);
+  for (std::size_t i = 0; i < parametreler.size(); ++i)
+    if (auto durum = DosyaYaz(dizin + std::string(parametreler[i].uzak), hepsi[i]); !durum) return durum.Hatasi();
+  return DosyaAdresi(fs::absolute(kok).lexically_normal());
+}
+
+Durum ParametreKur(const std::string& dataPath, const std::string& kaynak, const IndirmeSiniri& sinir) {
+  const auto yeni = HepsiniAl(kaynak, sinir);
+  if (!yeni) return yeni.Hatasi();
+  std::array<std::string, parametreler.size()> yollar;
+  std::array<EskiHal, parametreler.size()> eski;
+  for (std::size_t i = 0; i < parametreler.size(); ++i) {
+    yollar[i] = DizinSonu(dataPath) + std::string(parametreler[i].yerel);
+    auto hal = EskiHaliAl(yollar[i]);
+    if (!hal) return hal.Hatasi();
+    eski[i] = std::move(*hal);
+  }
+  for (std::size_t i = 0; i < parametreler.size(); ++i) {
+    const auto durum = DosyaYaz(yollar[i], (*yeni)[i]);
+    if (durum) continue;
+    std::string metin = durum.HataMetni();
+    while (i-- > 0) metin += GeriKoy(yollar[i], eski[i]);
+    return Hata{metin};
+  }
+  return Tamam();
+}
+
+}  // namespace belvani

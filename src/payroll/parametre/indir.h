@@ -1,0 +1,33 @@
+// Fetching parameter files: from the parameter server of the setting `ParametreAdresi`, or from the shipped figures.
+//
+// Addresses are file:, http: or https:. A server offers <address>/download/yasal2.txt, gvtbl.txt, agitbl.txt and
+// hestur.txt (and meskod.txt): the bytes of the .dat files. What is fetched is held in memory until it is complete, so
+// a failure of any kind leaves every file as it was.
+#pragma once
+
+#include <chrono>
+#include <string>
+
+#include "core/sonuc.h"
+#include "payroll/parametre/mevzuat.h"
+
+namespace belvani {
+
+struct IndirmeSiniri {
+  std::chrono::milliseconds baglanti{5'000};
+  std::chrono::milliseconds toplam{20'000};
+  std::size_t enCokBayt = 1u << 20;
+};
+
+// Fetches an address over a file, byte for byte and unchecked: what it holds shows at the next load.
+Durum ParametreIndir(const std::string& url, const std::string& dosya, const IndirmeSiniri& sinir = {});
+
+// The address to fetch the parameters of a month from: the setting `ParametreAdresi` where it is given, else a file:
+// address of the shipped figures, written out in the user's cache directory. No separator at the end.
+Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira = Lira::Yeni);
+
+// Fetches the four files from `kaynak` (as ParametreAdresi gives it), checks their sizes, and only then replaces those
+// of the data path: all four or none.
+Durum ParametreKur(const std::string& dataPath, const std::string& kaynak, const IndirmeSiniri& sinir = {});
+
+}  // namespace belvani

@@ -1,0 +1,181 @@
+#include "payroll/parametre/mevzuat.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string_view>
+
+#include "core/dosya.h"
+#include "core/sayi.h"
+
+namespace belvani {
+namespace {
+
+using Json = nlohmann::json;
+
+constexpr std::size_t EnCokMevzuatBayti = 1u << 20;
+constexpr std::size_t EskiLiraSifirlari = 6;
+
+// What is wrong with a file, on its way out of the reading functions below.
+struct MevzuatKusuru {
+  std::string metin;
+};
+
+const Json& Uye(const Json& nesne, const char* ad) {
+  const auto uye = nesne.is_object() ? nesne.find(ad) : nesne.end();
+  if (!nesne.is_object() || uye == nesne.end()) throw MevzuatKusuru{std::string(ad) + " bilgisi yok"};
+  return *uye;
+}
+
+const Json& Dizi(const Json& nesne, const char* ad) {
+  const Json& dizi = Uye(nesne, ad);
+  if (!dizi.is_array()) throw MevzuatKusuru{std::string(ad) + " bir liste değil"};
+  return dizi;
+}
+
+std::string Metin(const Json& nesne, const char* ad) {
+  const Json& uye = Uye(nesne, ad);
+  if (!uye.is_string()) throw MevzuatKusuru{std::string(ad) + " bir metin değil"};
+  return uye.get<std::string>();
+}
+
+// "327.58329" -> "327583290": the published amount has more decimals in new lira than a Tutar holds.
+std::string EskiLiraMetni(const std::string& metin) {
+  const auto nokta = metin.find('.');
+  const std::string tam = metin.substr(0, nokta);
+  std::string kesir = nokta == std::string::npos ? std::string() : metin.substr(nokta + 1);
+  if (kesir.size() < EskiLiraSifirlari) kesir.resize(EskiLiraSifirlari, '0');
+  return tam + kesir.substr(0, EskiLiraSifirlari) + "." + kesir.substr(EskiLiraSifirlari);
+}
+
+Tutar Para(const Json& nesne, const char* ad, Lira lira) {
+  const std::string metin = Metin(nesne, ad);
+  const auto tutar = TutarOku(lira == Lira::Eski ? EskiLiraMetni(metin) : metin);
+  if (!tutar) throw MevzuatKusuru{std::string(ad) + " bir tutar değil: \"" + metin + "\""};
+  return *tutar;
+}
+
+Tek Oran(const Json& nesne, const char* ad) {
+  const std::string metin = Metin(nesne, ad);
+  const auto sayi = SayiOku(metin);
+  if (!sayi) throw MevzuatKusuru{std::string(ad) + " bir oran değil: \"" + metin + "\""};
+  return Tek(*sayi);
+}
+
+Tarih Gun(const Json& nesne, const char* ad) {
+  const std::string metin = Metin(nesne, ad);
+  const Tarih gun = Tarih::IsoOku(metin);
+  if (gun.Bos()) throw MevzuatKusuru{std::string(ad) + " bir tarih değil: \"" + metin + "\""};
+  return gun;
+}
+
+// A figure is an object with its value beside certainty and sources.
+Tutar ParaDegeri(const Json& donem, const char* ad, Lira lira) {
+  return Para(Uye(donem, ad), "deger", lira);
+}
+Tek OranDegeri(const Json& donem, const char* ad) {
+  return Oran(Uye(donem, ad), "deger");
+}
+
+GvTablosu GvOku(const Json& tarife, Lira lira) {
+  const Json& dilimler = Dizi(tarife, "dilimler");
+  GvTablosu tablo;
+  if (dilimler.empty() || dilimler.size() > tablo.GvLimit.size())
+    throw MevzuatKusuru{"gelir vergisi tarifesi 1 ile 8 dilim arasında olmalı"};
+  for (std::size_t i = 0; i < dilimler.size(); ++i) {
+    const bool acik = Uye(dilimler[i], "limit").is_null();
+    tablo.GvLimit[i] = acik ? AcikDilimLimiti(lira) : Para(dilimler[i], "limit", lira);
+    tablo.GvOran[i] = Oran(dilimler[i], "oran");
+  }
+  return tablo;
+}
+
+OranSatiri OranlarOku(const Json& taraf) {
+  return {Oran(taraf, "ana"), Oran(taraf, "has"), Oran(taraf, "mal"), Oran(taraf, "sgdp"), Oran(taraf, "isz")};
+}
+
+void PrimleriOku(const Json& satirlar, YasalOranlar& oranlar) {
+  for (const Json& satir : satirlar) {
+    const Json& dal = Uye(satir, "dal");
+    if (!dal.is_number_integer() || dal < 1 || dal > DalSayisi) throw MevzuatKusuru{"dal 1 ile 32 arasında olmalı"};
+    const std::size_t sira = dal.get<std::size_t>() - 1;
+    oranlar.IsciOran[sira] = OranlarOku(Uye(satir, "isci"));
+    oranlar.IsverenOran[sira] = OranlarOku(Uye(satir, "isveren"));
+  }
+}
+
+YasalOranlar OranlariOku(const Json& donem, Lira lira) {
+  YasalOranlar oranlar;
+  oranlar.AsgariUcret = ParaDegeri(donem, "asgariUcret", lira);
+  oranlar.SskTaban = ParaDegeri(donem, "sskTaban", lira);
+  oranlar.SskTavan = ParaDegeri(donem, "sskTavan", lira);
+  oranlar.KidemTavan = ParaDegeri(donem, "kidemTavan", lira);
+  oranlar.DamgaOran = OranDegeri(donem, "damgaBinde");
+  oranlar.MuafTavan = ParaDegeri(donem, "sigortaIndirimTavani", lira);
+  oranlar.SakatIndirim = {ParaDegeri(donem, "sakatlikIndirimi1", lira), ParaDegeri(donem, "sakatlikIndirimi2", lira),
+                          ParaDegeri(donem, "sakatlikIndirimi3", lira)};
+  PrimleriOku(Dizi(donem, "primOranlari"), oranlar);
+  return oranlar;
+}
+
+AgiTablosu AgiOku(const Json& donem, Lira lira) {
+  if (!donem.contains("agi")) return {};  // before 2008
+  const Json& agi = donem["agi"];
+  return {OranDegeri(agi, "kendisi"),         OranDegeri(agi, "esi"),
+          OranDegeri(agi, "cocuk1ve2"),       OranDegeri(agi, "cocuk3"),
+          OranDegeri(agi, "cocuk4veSonrasi"), ParaDegeri(agi, "taban", lira)};
+}
+
+YasalParametreler DonemOku(const Json& donem, Lira lira) {
+  return {OranlariOku(donem, lira), GvOku(Uye(donem, "gelirVergisi"), lira), AgiOku(donem, lira),
+          VarsayilanHesapTurleri(), VarsayilanKanunlar()};
+}
+
+// The period that holds the month's first day.
+const Json& DonemBul(const Json& kok, Tarih ilkGun) {
+  for (const Json& donem : Dizi(kok, "donemler"))
+    if (Gun(donem, "bas") <= ilkGun && ilkGun <= Gun(donem, "bit")) return donem;
+  throw MevzuatKusuru{ilkGun.Metin() + " gününü kapsayan bir dönem yok"};
+}
+
+}  // namespace
+
+Tutar AcikDilimLimiti(Lira lira) {
+  switch (lira) {
+    case Lira::Yeni:
+      return Tutar::Hamdan(9'999'999'999'900);  // 999,999,999.99
+    case Lira::Eski:
+      return Tutar::Hamdan(999'999'999'999'999'900);  // 99,999,999,999,999.99: the most that keeps well inside a Tutar
+  }
+  return {};
+}
+
+Sonuc<YasalParametreler> MevzuatYukle(const std::string& dizin, int yil, int ay, Lira lira) {
+  const Tarih ilkGun(yil, ay, 1);
+  if (ilkGun.Bos()) return Hata{"Dönem hatalı: " + std::to_string(ay) + "/" + std::to_string(yil)};
+  const std::string ad = std::to_string(yil) + (ay <= 6 ? "-1.json" : "-2.json");
+  const auto metin = DosyaOku(DizinSonu(dizin) + ad, EnCokMevzuatBayti);
+  const std::string donemAdi = std::string(AyAdi(ay)) + " " + std::to_string(yil);
+  if (!metin) return Hata{donemAdi + " için yasal parametre yok (" + DizinSonu(dizin) + ad + " okunamadı)."};
+  const Json kok = Json::parse(*metin, nullptr, false);
+  if (kok.is_discarded()) return Hata{"Yasal parametre dosyası bozuk: " + DizinSonu(dizin) + ad};
+  try {
+    return DonemOku(DonemBul(kok, ilkGun), lira);
+  } catch (const MevzuatKusuru& kusur) {
+    return Hata{donemAdi + " yasal parametreleri okunamadı (" + ad + "): " + kusur.metin};
+  }
+}
+
+std::string MevzuatDizini() {
+  const char* ortam = std::getenv("BELVANI_VERI_DIZIN");
+  if (ortam != nullptr && *ortam != '\0') return DizinSonu(ortam) + "mevzuat/";
+  const std::string kurulu = BELVANI_KURULU_VERI "/mevzuat/";
+#ifdef BELVANI_KAYNAK_VERI
+  if (!DizinVar(kurulu)) return BELVANI_KAYNAK_VERI "/mevzuat/";
+#endif
+  return kurulu;
+}
+
+}  // namespace belvani
