@@ -1,0 +1,206 @@
+#include "payroll/hazirlik/hazirlik.h"
+
+#include "core/store/satirlar.h"
+#include "core/turkce.h"
+#include "payroll/hesap/satirlar.h"
+
+namespace belvani {
+namespace {
+
+constexpr std::chrono::seconds KilitBekleme{60};  // another mass run is waited for
+constexpr std::size_t IlerlemeAraligi = 256;
+
+// Kept, not calculated: whatever was typed there stays.
+const std::set<std::string, std::less<>> Dokunulmayan{"gocindir"};
+
+struct Iptal {};
+
+using Derece = Sorun::Derece;
+
+void GirisiUygula(Brd& brd, const GirisSatiri& giris) {
+  Brd::HerKolon([&](const auto& kolon) {
+    if (giris.verilen.contains(kolon.ad)) brd.*kolon.uye = giris.deger.*kolon.uye;
+  });
+}
+
+// Entries by person, in any order, found once each.
+class GirisListesi {
+ public:
+  GirisListesi(const std::vector<GirisSatiri>& girisler, std::vector<Sorun>& sorunlar) {
+    for (const GirisSatiri& g : girisler) sirali_.push_back(&g);
+    std::stable_sort(sirali_.begin(), sirali_.end(), [](const auto* a, const auto* b) {
+      return TurkceKarsilastir(a->kod, b->kod) < 0;
+    });
+    for (std::size_t i = 1; i < sirali_.size(); ++i)
+      if (TurkceEsit(sirali_[i - 1]->kod, sirali_[i]->kod))
+        sorunlar.push_back({Derece::Hata, sirali_[i]->kod, Satir(*sirali_[i]) + "bu kişi listede iki kez var"});
+    bulundu_.resize(sirali_.size());
+  }
+
+  const GirisSatiri* Bul(const std::string& kod) {
+    const auto i = std::lower_bound(sirali_.begin(), sirali_.end(), kod, [](const GirisSatiri* g, const std::string& k) {
+      return TurkceKarsilastir(g->kod, k) < 0;
+    });
+    if (i == sirali_.end() || !TurkceEsit((*i)->kod, kod)) return nullptr;
+    bulundu_[std::size_t(i - sirali_.begin())] = true;
+    return *i;
+  }
+
+  void BulunmayanlariYaz(std::vector<Sorun>& sorunlar) const {
+    for (std::size_t i = 0; i < sirali_.size(); ++i)
+      if (!bulundu_[i] && (i == 0 || !TurkceEsit(sirali_[i - 1]->kod, sirali_[i]->kod)))
+        sorunlar.push_back({Derece::Hata, sirali_[i]->kod, Satir(*sirali_[i]) + "bu kodla personel yok"});
+  }
+
+  static std::string Satir(const GirisSatiri& g) { return "satır " + std::to_string(g.satirNo) + ": "; }
+
+ private:
+  std::vector<const GirisSatiri*> sirali_;
+  std::vector<bool> bulundu_;
+};
+
+// One run over the company.
+class TopluIs {
+ public:
+  TopluIs(Motor& motor, const Kosullar& k, const std::vector<GirisSatiri>& girisler)
+      : k_(k), girisler_(girisler, sonuc_.sorunlar), yazici_(motor, Dokunulmayan) {}
+
+  void Kisi(const KisiVerisi& kisi) {
+    const GirisSatiri* giris = girisler_.Bul(kisi.sicil.kod);
+    const CalismaGunu gun = GunSayisiBul(k_.donem, kisi.sicil.girtar, kisi.sicil.ciktar);
+    if (gun.uygunluk == DonemUygunlugu::GirisTarihiHatali) {
+      Yaz(kisi, giris, "Personel Giriş Tarihi Hatalı");
+      return;
+    }
+    if (gun.uygunluk == DonemUygunlugu::DonemDisi) {
+      ++sonuc_.donemDisi;
+      if (giris != nullptr) Yaz(kisi, giris, "Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil");
+      return;
+    }
+    try {
+      Hesapla(kisi, giris, gun.CalismaGun);
+    } catch (const TutarTasmasi&) {
+      Yaz(kisi, giris, "Hesaplanan bir tutar sınırı aşıyor");
+    }
+  }
+
+  HazirlikSonucu Bitir() {
+    girisler_.BulunmayanlariYaz(sonuc_.sorunlar);
+    sonuc_.kaydedildi = std::none_of(sonuc_.sorunlar.begin(), sonuc_.sorunlar.end(),
+                                     [](const Sorun& s) { return s.derece == Derece::Hata; });
+    return std::move(sonuc_);
+  }
+
+ private:
+  void Hesapla(const KisiVerisi& kisi, const GirisSatiri* giris, int CalismaGun) {
+    BordroGirdi g = PersonelYukle(kisi, k_, CalismaGun);
+    if (const std::string kusur = GirdiKusuru(g); !kusur.empty()) return Yaz(kisi, giris, kusur);
+    if (!KazancGrubuVar(k_.firma, kisi.sicil.hesap))
+      Yaz(kisi, nullptr, "Hesap grubu tanımlı değil: " + kisi.sicil.hesap);
+    if (giris != nullptr) GirisiUygula(g.giris, *giris);
+    BordroSonucu s = BordroHesapla(g, &k_.firma.sablon);
+    if (s.gunFazla) {
+      return Yaz(kisi, giris, "Bu Personel " + std::to_string(CalismaGun) +
+                                  " Gün Çalışmış, Çalışma Gününü Fazla Girmişiniz (" + std::to_string(s.SskGun) + " gün)");
+    }
+    EksikGunuIsle(kisi, giris, CalismaGun, s);
+    if (giris != nullptr) YayilanlariBildir(kisi, *giris, s.brd);
+    if (s.NetOdenen <= Tutar()) {
+      ++sonuc_.netsiz;
+      return Yaz(kisi, nullptr, "Net sıfırın üstünde değil, bordrosu kaydedilmedi");
+    }
+    kisi.kayit ? yazici_.Degistir(s.brd, s.brd.oto) : yazici_.Ekle(s.brd);
+    ++sonuc_.kaydedilen;
+  }
+
+  // The template knows no reason for missing days, so only an entry list must give one.
+  void EksikGunuIsle(const KisiVerisi& kisi, const GirisSatiri* giris, int CalismaGun, BordroSonucu& s) {
+    const int ayGunu = AyGunuBul(k_.donem.ay, k_.donem.yil, CalismaGun);
+    if (giris != nullptr) s.brd.ucretsizizin = std::uint8_t(std::max(0, UcretsizIzinOnerisi(s.SskGun, ayGunu)));
+    const EksikGun eksik = EksikGunDenetle(s.SskGun, CalismaGun, ayGunu, s.brd.eksiksebebi, s.brd.ucretsizizin);
+    s.brd.eksiksebebi = std::uint8_t(eksik.sebep);
+    s.brd.ucretsizizin = std::uint8_t(eksik.ucretsizizin);
+    if (EksikSebepSec(eksik.sebep) < 0) Yaz(kisi, giris, "Eksik gün sebebi listede yok: " + std::to_string(eksik.sebep));
+    else if (!eksik.tamam) Yaz(kisi, giris, "Eksik Gün Bildirildi, Eksik Gün Sebebini giriniz");
+  }
+
+  // A line that the template spreads over the days follows the template, here as on the payroll screen.
+  void YayilanlariBildir(const KisiVerisi& kisi, const GirisSatiri& giris, const Brd& brd) {
+    for (const auto& kolon : YardimKolonlari)
+      if (giris.verilen.contains(kolon.ad) && giris.deger.*kolon.uye != brd.*kolon.uye)
+        Yaz(kisi, nullptr, std::string(kolon.ad) + " şablondan günlere yayılır, listedeki tutar kullanılmadı");
+  }
+
+  // What an entry list has wrong keeps the month from being saved; the rest is told and passed over.
+  void Yaz(const KisiVerisi& kisi, const GirisSatiri* giris, const std::string& metin) {
+    sonuc_.sorunlar.push_back({giris == nullptr ? Derece::Uyari : Derece::Hata, kisi.sicil.kod,
+                               (giris == nullptr ? "" : GirisListesi::Satir(*giris)) + metin});
+  }
+
+  const Kosullar& k_;
+  HazirlikSonucu sonuc_;
+  GirisListesi girisler_;
+  KayitYazici<Brd> yazici_;
+};
+
+std::size_t KisiSayisi(Motor& motor) {
+  const auto komut = motor.Hazirla("select count(*) from sicil");
+  const std::size_t sayi = komut->Adim() ? std::size_t(komut->Tam(0)) : 0;
+  komut->Birak();
+  return sayi;
+}
+
+}  // namespace
+
+Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const std::vector<GirisSatiri>& girisler,
+                                   Ilerleme* ilerleme) {
+  try {
+    Motor& motor = o.depo.db.IcMotor();
+    Islem islem(motor, KilitBekleme);
+    const std::size_t toplam = KisiSayisi(motor);
+    std::size_t biten = 0;
+    TopluIs is(motor, kosullar, girisler);
+    KisileriOku(motor, kosullar.donem, [&](KisiVerisi& kisi) {
+      if (ilerleme != nullptr && biten % IlerlemeAraligi == 0 && !ilerleme->Adim(biten, toplam)) throw Iptal{};
+      ++biten;
+      is.Kisi(kisi);
+      return true;
+    });
+    HazirlikSonucu sonuc = is.Bitir();
+    if (sonuc.kaydedildi) islem.Onayla();
+    if (ilerleme != nullptr) ilerleme->Adim(toplam, toplam);
+    return sonuc;
+  } catch (const Iptal&) {
+    return Hata{"Bordro hazırlık iptal edildi, hiçbir kayıt değişmedi"};
+  } catch (const MotorHatasi& h) {
+    return Hata{std::string("Bordro Kayıtları Güncellenemiyor: ") + h.what()};
+  }
+}
+
+void BordroKaydet(Motor& motor, const Brd& brd) {
+  KayitYazici<Brd> yazici(motor, Dokunulmayan);
+  Islem islem(motor);
+  if (brd.oto != 0) yazici.Degistir(brd, brd.oto);
+  if (brd.oto == 0 || motor.DegisenSatir() == 0) yazici.Ekle(brd);
+  islem.Onayla();
+}
+
+Sonuc<int> BordroSil(Oturum& o, int yil, int ay) {
+  try {
+    Motor& motor = o.depo.db.IcMotor();
+    Islem islem(motor, KilitBekleme);
+    const auto komut = motor.Hazirla("delete from brd where yil = ? and ay = ?");
+    komut->TamBagla(1, yil);
+    komut->TamBagla(2, ay);
+    komut->Calistir();
+    const int silinen = int(motor.DegisenSatir());
+    islem.Onayla();
+    return silinen;
+  } catch (const MotorHatasi& h) {
+    return Hata{std::string("Bordro silinemedi: ") + h.what()};
+  }
+}
+
+bool BordroTamamMi(int, int, int) { return true; }
+
+}  // namespace belvani

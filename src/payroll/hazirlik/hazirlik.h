@@ -1,0 +1,56 @@
+// Preparing a month's payroll and keeping it: one person, or the whole company at once.
+//
+// A mass run is one transaction. It goes through all people in code order; whoever belongs to the period is calculated
+// from his saved record, else from the template, each overlaid by what an entry list gives for him, and is saved when
+// his net is above zero. Either the whole month is saved or nothing is: an entry that cannot stand, a cancel or a
+// failed write leaves the store as it was.
+#pragma once
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "core/bildirim.h"
+#include "core/sonuc.h"
+#include "payroll/hazirlik/kisi.h"
+
+namespace belvani {
+
+// Days, hours, allowances, reason and debt of one person as they were entered.
+struct GirisSatiri {
+  int satirNo = 0;                     // line of the file, for messages
+  std::string kod;
+  Brd deger;
+  std::set<std::string_view> verilen;  // names of the columns that were given
+};
+
+struct Sorun {
+  enum class Derece { Uyari, Hata };   // a Hata keeps the month from being saved
+  Derece derece = Derece::Uyari;
+  std::string kod;                     // person; "" when it concerns none
+  std::string metin;
+};
+
+struct HazirlikSonucu {
+  int kaydedilen = 0;
+  int donemDisi = 0;                   // did not work in the period
+  int netsiz = 0;                      // net not above zero: not saved
+  std::vector<Sorun> sorunlar;
+  bool kaydedildi = false;             // false: some Hata, nothing was saved
+};
+
+// Fails as a whole when the store cannot be written or `ilerleme` cancels.
+Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const std::vector<GirisSatiri>& girisler = {},
+                                   Ilerleme* ilerleme = nullptr);
+
+// Saves one record: over the row `oto`, or, with 0 or a row that is gone, as a new one. Throws MotorHatasi.
+void BordroKaydet(Motor& motor, const Brd& brd);
+
+// Deletes all records of a month, of all people; gives their number.
+Sonuc<int> BordroSil(Oturum& o, int yil, int ay);
+
+// Whether everyone of the month has a record: always true, nothing is looked at. Asked when the payroll screen closes
+// and before the electronic declaration.
+bool BordroTamamMi(int ay, int yil, int no);
+
+}  // namespace belvani

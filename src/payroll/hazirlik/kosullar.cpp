@@ -1,0 +1,141 @@
+#include "payroll/hazirlik/kosullar.h"
+
+#include "core/store/satirlar.h"
+#include "core/tables/firma.h"
+#include "core/tables/muaf.h"
+#include "core/turkce.h"
+
+namespace belvani {
+namespace {
+
+constexpr double VarsayilanIsSaati = 8;
+
+constexpr std::array<Kolon<Kaztan, std::uint8_t>, KazancSayisi> GrupKazanclari{
+    kaztan::k1, kaztan::k2, kaztan::k3, kaztan::k4, kaztan::k5, kaztan::k6, kaztan::k7, kaztan::k8, kaztan::k9};
+constexpr std::array<Kolon<Kaztan, std::uint8_t>, YardimSayisi> GrupYardimlari{
+    kaztan::y1, kaztan::y2, kaztan::y3, kaztan::y4,  kaztan::y5, kaztan::y6,
+    kaztan::y7, kaztan::y8, kaztan::y9, kaztan::y10, kaztan::y11};
+
+KazancBayraklari Bayraklar(const Kaztan& satir) {
+  KazancBayraklari b;
+  for (std::size_t i = 0; i < b.k.size(); ++i) b.k[i] = satir.*GrupKazanclari[i].uye;
+  for (std::size_t i = 0; i < b.y.size(); ++i) b.y[i] = satir.*GrupYardimlari[i].uye;
+  return b;
+}
+
+Kaztan GrupSatiri(const std::string& grup, const KazancBayraklari& b) {
+  Kaztan satir;
+  satir.grup = grup;
+  for (std::size_t i = 0; i < b.k.size(); ++i) satir.*GrupKazanclari[i].uye = b.k[i];
+  for (std::size_t i = 0; i < b.y.size(); ++i) satir.*GrupYardimlari[i].uye = b.y[i];
+  return satir;
+}
+
+const Kaztan* GrupBul(const std::vector<Kaztan>& gruplar, std::string_view grup) {
+  const auto i = std::find_if(gruplar.begin(), gruplar.end(), [&](const Kaztan& g) { return TurkceEsit(g.grup, grup); });
+  return i == gruplar.end() ? nullptr : &*i;
+}
+
+void VarsayilanGrubuEkle(Motor& motor, FirmaParametreleri& firma, const std::string& grup,
+                         const KazancBayraklari& dosyadan) {
+  if (GrupBul(firma.gruplar, grup) != nullptr) return;
+  Islem islem(motor);
+  // Another computer may have been quicker.
+  firma.gruplar = KayitlariOku<Kaztan>(motor);
+  if (GrupBul(firma.gruplar, grup) == nullptr) {
+    firma.gruplar.push_back(GrupSatiri(grup, dosyadan));
+    KayitYazici<Kaztan>(motor).Ekle(firma.gruplar.back());
+  }
+  islem.Onayla();
+}
+
+void YardimlariOku(Motor& motor, YardimTanimlari& yardimlar) {
+  yardimlar = VarsayilanYardimlar();
+  for (const Muaf& satir : KayitlariOku<Muaf>(motor)) {
+    if (satir.no < 1 || satir.no > YardimSayisi) continue;
+    yardimlar[satir.no - 1u] = {satir.adi, satir.indtip, satir.oran, satir.sabit};
+  }
+}
+
+template <class T>
+T Al(FirmaParametreleri& firma, Yukleme<T> yukleme) {
+  for (auto& uyari : yukleme.uyarilar) firma.uyarilar.push_back(std::move(uyari));
+  return std::move(yukleme.deger);
+}
+
+std::string Satirlar(const char* baslik, const std::vector<std::string>& uyarilar) {
+  std::string metin = baslik;
+  for (const auto& u : uyarilar) metin += "\n  " + u;
+  return metin;
+}
+
+}  // namespace
+
+FirmaParametreleri FirmaDosyalariYukle(Oturum& o, BozukDosya bozuk) {
+  Motor& motor = o.depo.db.IcMotor();
+  FirmaParametreleri f;
+  f.gruplar = KayitlariOku<Kaztan>(motor);
+  const auto dosyadan = Al(f, KazancBayraklariYukle(o.FirmaDizini));
+  if (!o.ondeger.empty()) VarsayilanGrubuEkle(motor, f, o.ondeger, dosyadan);
+  f.varsayilan = KazancGrupYukle(f, o.ondeger);
+  f.mesailer = Al(f, FazlaMesaiYukle(o.FirmaDizini));
+  f.sablon = Al(f, bozuk == BozukDosya::Onarilir ? SablonYukle(o.FirmaDizini) : SablonOku(o.FirmaDizini));
+  YardimlariOku(motor, f.yardimlar);
+  for (Indir& satir : KayitlariOku<Indir>(motor))
+    if (satir.no >= 1 && satir.no <= f.indirimler.size()) f.indirimler[satir.no - 1u] = std::move(satir);
+  f.sendikalar = KayitlariOku<Sendika>(motor);
+  return f;
+}
+
+Sonuc<YasalParametreler> YasalParametreleriAl(const std::string& dataPath) {
+  auto yukleme = YasalDosyalariYukle(dataPath, {}, BozukDosya::Kalir);
+  const char* const care = "\nDönemin parametrelerini kurunuz: belvani-cli parametre-kur --donem YYYY-AA";
+  if (!yukleme.uyarilar.empty())
+    return Hata{Satirlar("Yasal parametre dosyaları kullanılamıyor:", yukleme.uyarilar) + care};
+  const YasalOranlar& y = yukleme.deger.oranlar;
+  if (y.AsgariUcret <= Tutar() || y.SskTaban <= Tutar() || y.SskTavan < y.SskTaban)
+    return Hata{std::string("Yasal parametreler eksik: asgari ücret, SSK tabanı veya tavanı yok") + care};
+  return std::move(yukleme.deger);
+}
+
+Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay) {
+  try {
+    const auto firmalar = KayitlariOku<Firma>(o.depo.db.IcMotor());
+    if (firmalar.empty()) return Hata{"İşyeri Tanımlamaları Yapılmamış"};
+    const Firma& firma = firmalar.front();
+    Kosullar k;
+    k.yasal = yasal;
+    k.firma = FirmaDosyalariYukle(o, BozukDosya::Kalir);
+    if (!k.firma.uyarilar.empty())
+      return Hata{Satirlar("Şirketin parametre dosyaları kullanılamıyor:", k.firma.uyarilar)};
+    k.donem = {yil, ay, firma.tersfirma ? DonemTuru::Ters : DonemTuru::Takvim};
+    k.uygulama = UygulamaBul(k.yasal.kanunlar, ay, yil);
+    k.IsSaati = firma.issaati.Sayi() > 0 ? firma.issaati : Tek(VarsayilanIsSaati);
+    k.TehlikeOran = TehlikeOrani(firma.tehlike, firma.sinif.Sayi());
+    k.paraonda = firma.paraonda;
+    return k;
+  } catch (const MotorHatasi& h) {
+    return Hata{h.what()};
+  }
+}
+
+KazancBayraklari KazancGrupYukle(const FirmaParametreleri& firma, std::string_view grup) {
+  const std::string_view ad = Kirp(grup);
+  if (ad.empty()) return firma.varsayilan;
+  const Kaztan* satir = GrupBul(firma.gruplar, ad);
+  return satir == nullptr ? KazancBayraklari{} : Bayraklar(*satir);
+}
+
+bool KazancGrubuVar(const FirmaParametreleri& firma, std::string_view grup) {
+  return Kirp(grup).empty() || GrupBul(firma.gruplar, Kirp(grup)) != nullptr;
+}
+
+const Sendika* SendikaBul(const FirmaParametreleri& firma, std::string_view tasno) {
+  const std::string_view kod = Kirp(tasno);
+  if (kod.empty()) return nullptr;
+  for (const Sendika& s : firma.sendikalar)
+    if (TurkceEsit(s.kod, kod)) return &s;
+  return nullptr;
+}
+
+}  // namespace belvani
