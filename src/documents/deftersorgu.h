@@ -1,0 +1,15 @@
+// The pay records of a ledger, with their people, from the store.
+#pragma once
+
+#include <vector>
+
+#include "core/store/motor.h"
+#include "documents/defter.h"
+
+namespace belvani {
+
+// In the order of the ledger. A range that is left as it comes ("" to "ZZZZ") takes everyone, also people whose field
+// is empty. Records of people whose card is gone are not in it. Throws MotorHatasi.
+std::vector<BordroSatiri> DefterSatirlariOku(Motor& motor, const DefterSecim& secim);
+
+}  // namespace belvani

@@ -1,0 +1,44 @@
+#include "documents/turetilen.h"
+
+#include "core/turkce.h"
+
+namespace belvani {
+
+Tutar GvIndirimi(const Brd& brd) {
+  return brd.indirim1 + brd.indirim2 + brd.indirim3 + brd.sakindir;
+}
+
+Tutar AgiDahilDamga(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
+  return yuvarla(brd.dvtutar + yuvarla(brd.ogv.Sayi() * damgaOran.Sayi() / 1000));
+}
+
+Tutar Kesintiler(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
+  return brd.sskkesinti + brd.issizisci + brd.gvtutar + AgiDahilDamga(brd, damgaOran, yuvarla) + brd.sendika +
+         brd.borckes;
+}
+
+Tutar NetOdenen(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
+  return brd.brutkaz - Kesintiler(brd, damgaOran, yuvarla) + brd.ogv;
+}
+
+Tutar OdenecekSskPrimi(const Brd& brd) {
+  return brd.sskkesinti + brd.sskkesintiisveren + brd.issizisci + brd.issizisveren - brd.katki;
+}
+
+std::string AdSoyad(const Sicil& sicil) {
+  const std::string tamami = sicil.adi + " " + sicil.soyadi;
+  return std::string(Kirp(tamami));
+}
+
+std::string IsyeriSicilNo(const Firma& firma) {
+  std::string no;
+  for (const auto* parca :
+       {&firma.sektor, &firma.meslek, &firma.sube, &firma.dosya, &firma.il, &firma.ilce, &firma.kontrol}) {
+    if (Kirp(*parca).empty()) continue;
+    if (!no.empty()) no += ' ';
+    no += Kirp(*parca);
+  }
+  return no;
+}
+
+}  // namespace belvani

@@ -1,0 +1,40 @@
+// What the papers derive from a pay record. None of it is stored, and no paper works it out by itself.
+//
+// The papers show the stamp duty of the minimum-living allowance (`ogv`) as part of the duty, although the record's
+// `dvtutar` does not hold it: the allowance is paid on top of the net wage, and its duty is taken out of it. So the net
+// of the papers lies below the net of the payroll screen by that duty.
+#pragma once
+
+#include <string>
+
+#include "core/tables/brd.h"
+#include "core/tables/firma.h"
+#include "core/tables/sicil.h"
+#include "core/yuvarlama.h"
+
+namespace belvani {
+
+// Deductions from the income-tax base: indirim1 + indirim2 + indirim3 + sakindir.
+Tutar GvIndirimi(const Brd& brd);
+
+// "D.Vergisi": Yuvarla(dvtutar + Yuvarla(ogv × damgaOran / 1000)); damgaOran per thousand.
+// dvtutar 4.16, ogv 51.98, 6 per thousand -> 4.16 + 0.31 = 4.47. Without an allowance it is dvtutar.
+Tutar AgiDahilDamga(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla);
+
+// All that is kept back: employee premiums, income tax, the duty above, union dues, debt.
+Tutar Kesintiler(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla);
+
+// "Net Ödenen": gross less Kesintiler, plus the allowance.
+Tutar NetOdenen(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla);
+
+// What the employer owes the institution for the person: premium and unemployment shares of both sides, less the state
+// contribution `katki`.
+Tutar OdenecekSskPrimi(const Brd& brd);
+
+// "Ayşe Yılmaz".
+std::string AdSoyad(const Sicil& sicil);
+
+// The register number of the workplace, its groups parted by blanks: "2 8010 01 01 1234567 034 01 25".
+std::string IsyeriSicilNo(const Firma& firma);
+
+}  // namespace belvani

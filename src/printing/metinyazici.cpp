@@ -1,0 +1,182 @@
+#include "printing/metinyazici.h"
+
+#include <algorithm>
+
+#include "core/turkce.h"
+#include "printing/sayfalayici.h"
+
+namespace belvani {
+namespace {
+
+enum class Hiza { Sol, Sag };
+
+std::string Yinele(std::string_view harf, int adet) {
+  std::string sonuc;
+  for (int i = 0; i < adet; ++i) sonuc += harf;
+  return sonuc;
+}
+
+// A text in a field of `en` letters: filled up, never cut.
+std::string Doldur(const std::string& metin, int en, Hiza hiza) {
+  const std::size_t harf = HarfSayisi(metin);
+  const std::string bosluk(std::size_t(std::max(en, 0)) > harf ? std::size_t(en) - harf : 0, ' ');
+  return hiza == Hiza::Sag ? bosluk + metin : metin + bosluk;
+}
+
+// `metin` put at letter `yer` of the line, or one blank behind what already stands there.
+void Yerlestir(std::string& satir, int yer, const std::string& metin) {
+  if (metin.empty()) return;
+  const int dolu = int(HarfSayisi(satir));
+  satir.append(std::size_t(dolu == 0 ? std::max(yer, 0) : std::max(yer - dolu, 1)), ' ');
+  satir += metin;
+}
+
+// Whether the line at `yer` is one of the table's, with columns.
+bool TabloMu(const Sayfa& sayfa, std::size_t yer) {
+  if (yer >= sayfa.satirlar.size()) return false;
+  switch (sayfa.satirlar[yer].tur) {
+    case SayfaSatirTuru::KolonBasligi:
+    case SayfaSatirTuru::Bos:
+    case SayfaSatirTuru::Govde:
+    case SayfaSatirTuru::Nakil:
+    case SayfaSatirTuru::Toplam:
+      return true;
+    case SayfaSatirTuru::Baslik:
+    case SayfaSatirTuru::UstSatir:
+    case SayfaSatirTuru::Cizgi:
+    case SayfaSatirTuru::Blok:
+      return false;
+  }
+  return false;
+}
+
+Hiza KolonHizasi(const RaporKolonu& kolon) {
+  return kolon.Sayisal() ? Hiza::Sag : Hiza::Sol;
+}
+
+class MetinYazici {
+ public:
+  MetinYazici(const Rapor& rapor, const SayfaDuzeni& duzen)
+      : rapor_(rapor), duzen_(duzen), bicim_(KagitBicimle(rapor, duzen)), kolonSayisi_(bicim_.enler.size()) {}
+
+  std::string Yaz() const {
+    std::string metin;
+    for (const auto& sayfa : SayfalaraBol(rapor_, bicim_, duzen_)) {
+      if (sayfa.no > 1) metin += '\f';
+      for (std::size_t i = 0; i < sayfa.satirlar.size(); ++i) {
+        std::string satir = DenetimsizMetin(Satir(sayfa, i));
+        satir.erase(satir.find_last_not_of(' ') + 1);
+        metin += satir + '\n';
+      }
+    }
+    return metin;
+  }
+
+ private:
+  std::string Satir(const Sayfa& sayfa, std::size_t yer) const {
+    const auto [tur, sira] = sayfa.satirlar[yer];
+    switch (tur) {
+      case SayfaSatirTuru::Baslik:
+        return Ortala(rapor_.baslik);
+      case SayfaSatirTuru::UstSatir:
+        return Ust(rapor_.ustSatirlar[sira], sayfa.no);
+      case SayfaSatirTuru::KolonBasligi:
+        return Basliklar(sira);
+      case SayfaSatirTuru::Cizgi:
+        return Cizgi(TabloMu(sayfa, yer - 1), TabloMu(sayfa, yer + 1));
+      case SayfaSatirTuru::Bos:
+        return BosSatir();
+      case SayfaSatirTuru::Govde:
+        return Hucreler(rapor_.Satirlar()[sira].hucreler);
+      case SayfaSatirTuru::Nakil:
+      case SayfaSatirTuru::Toplam:
+        return Hucreler(rapor_.AraToplam(sira));
+      case SayfaSatirTuru::Blok:
+        return Blok(rapor_.sonBlok[sira]);
+    }
+    return {};
+  }
+
+  int OrtaYer(const std::string& metin) const { return bicim_.en / 2 - int(HarfSayisi(metin)) / 2; }
+
+  std::string Ortala(const std::string& metin) const {
+    std::string satir;
+    Yerlestir(satir, OrtaYer(metin), metin);
+    return satir;
+  }
+
+  std::string Ust(const UstSatir& ust, int sayfaNo) const {
+    const std::string sag = ust.sag + (ust.sayfaNo ? std::to_string(sayfaNo) : "");
+    std::string satir = ust.sol;
+    Yerlestir(satir, OrtaYer(ust.orta), ust.orta);
+    Yerlestir(satir, bicim_.en - int(HarfSayisi(sag)), sag);
+    return satir;
+  }
+
+  // One line of the table: `alan` gives what stands in column k, filled to its width.
+  template <class Alan>
+  std::string TabloSatiri(Alan alan, std::string_view ayrac) const {
+    std::string satir;
+    for (std::size_t k = 0; k < kolonSayisi_; ++k) {
+      if (k > 0) satir += ayrac;
+      satir += alan(k);
+    }
+    return satir;
+  }
+
+  bool DikCizgili() const { return duzen_.kolonArasi == KolonArasi::DikCizgi; }
+  std::string_view Ayrac() const { return DikCizgili() ? "│" : " "; }
+
+  std::string Basliklar(std::size_t sira) const {
+    return TabloSatiri(
+        [&](std::size_t k) {
+          return Doldur(bicim_.basliklar[k][sira], bicim_.enler[k], KolonHizasi(rapor_.Kolonlar()[k]));
+        },
+        Ayrac());
+  }
+
+  // Vertical lines cross a rule only towards the sides where the table goes on.
+  std::string Cizgi(bool yukari, bool asagi) const {
+    const std::string_view harf = DikCizgili() ? "─" : "-";
+    const std::string_view kesisme = !DikCizgili() ? " " : yukari && asagi ? "┼" : asagi ? "┬" : "┴";
+    return TabloSatiri([&](std::size_t k) { return Yinele(harf, bicim_.enler[k]); }, kesisme);
+  }
+
+  std::string BosSatir() const {
+    return TabloSatiri([&](std::size_t k) { return std::string(std::size_t(bicim_.enler[k]), ' '); }, Ayrac());
+  }
+
+  std::string Hucreler(const std::vector<Hucre>& hucreler) const {
+    return TabloSatiri([&](std::size_t k) { return HucreAlani(hucreler[k], k); }, Ayrac());
+  }
+
+  std::string HucreAlani(const Hucre& hucre, std::size_t k) const {
+    const RaporKolonu& kolon = rapor_.Kolonlar()[k];
+    std::string metin = HucreMetni(hucre, kolon, bicim_.gruplama);
+    if (kolon.tur == KolonTuru::Metin) metin = std::string(IlkHarfler(metin, std::size_t(bicim_.enler[k])));
+    return Doldur(metin, bicim_.enler[k], KolonHizasi(kolon));
+  }
+
+  std::string Blok(const BlokSatiri& satir) const {
+    int etiketEni = 0;
+    int degerEni = 0;
+    for (const auto& b : rapor_.sonBlok) {
+      etiketEni = std::max(etiketEni, int(HarfSayisi(b.etiket)));
+      degerEni = std::max(degerEni, int(HarfSayisi(BlokMetni(b, rapor_))));
+    }
+    return Doldur(satir.etiket, etiketEni, Hiza::Sol) + " " + Doldur(BlokMetni(satir, rapor_), degerEni, Hiza::Sag);
+  }
+
+  const Rapor& rapor_;
+  const SayfaDuzeni& duzen_;
+  const KagitBicimi bicim_;
+  const std::size_t kolonSayisi_;
+};
+
+}  // namespace
+
+std::string MetinRaporu(const Rapor& rapor, const SayfaDuzeni& duzen) {
+  return MetinYazici(rapor, duzen).Yaz();
+}
+
+}  // namespace belvani

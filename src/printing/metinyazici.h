@@ -1,0 +1,17 @@
+// The report as lines of text in fixed-width letters, for dot-matrix printers and text files.
+#pragma once
+
+#include <string>
+
+#include "printing/kagit.h"
+#include "printing/rapor.h"
+
+namespace belvani {
+
+// UTF-8, lines ending in "\n", pages parted by a form feed ("\f"); no blanks at the end of a line. Vertical lines and
+// rules are box-drawing letters, "│" (byte 179 of the printer's code page), "─", "┬", "┼", "┴"; with blanks between the
+// columns a rule is a row of "-" under each. Numbers stand right, texts left and cut to the width by letters. Control
+// characters in texts are left out, for they would command the printer. A report without rows gives no text.
+std::string MetinRaporu(const Rapor& rapor, const SayfaDuzeni& duzen);
+
+}  // namespace belvani

@@ -1,0 +1,92 @@
+#include "printing/rapor.h"
+
+#include <algorithm>
+#include <cassert>
+
+#include "core/sayi.h"
+#include "core/turkce.h"
+
+namespace belvani {
+namespace {
+
+// Whole numbers and amounts as the integer that they are added by.
+std::int64_t Ham(const Hucre& hucre) {
+  if (const auto* tutar = std::get_if<Tutar>(&hucre)) return tutar->Ham();
+  if (const auto* tam = std::get_if<std::int64_t>(&hucre)) return *tam;
+  return 0;
+}
+
+Hucre Hamdan(std::int64_t ham, KolonTuru tur) {
+  if (tur == KolonTuru::Tutar) return Tutar::Hamdan(ham);
+  return ham;
+}
+
+std::int64_t Topla(std::int64_t a, std::int64_t b) {
+  std::int64_t sonuc = 0;
+  if (__builtin_add_overflow(a, b, &sonuc)) throw TutarTasmasi();
+  return sonuc;
+}
+
+std::string TarihMetni(Tarih tarih, KolonTuru tur) {
+  return tur == KolonTuru::KisaTarih ? tarih.KisaMetin() : tarih.Metin();
+}
+
+}  // namespace
+
+Rapor::Rapor(std::vector<RaporKolonu> kolonlar)
+    : kolonlar_(std::move(kolonlar)), birikim_(kolonlar_.size()), sinirlar_(kolonlar_.size()) {}
+
+void Rapor::Ekle(RaporSatiri satir) {
+  assert(satir.hucreler.size() == kolonlar_.size());
+  const std::size_t onceki = birikim_.size() - kolonlar_.size();
+  for (std::size_t k = 0; k < kolonlar_.size(); ++k) {
+    Hucre& hucre = satir.hucreler[k];
+    Sinir& sinir = sinirlar_[k];
+    if (auto* metin = std::get_if<std::string>(&hucre)) {
+      *metin = DenetimsizMetin(*metin);
+      sinir.harf = std::max(sinir.harf, HarfSayisi(*metin));
+    }
+    const std::int64_t deger = Ham(hucre);
+    const std::int64_t toplam = kolonlar_[k].toplanir ? Topla(birikim_[onceki + k], deger) : 0;
+    birikim_.push_back(toplam);
+    sinir.enKucuk = std::min({sinir.enKucuk, deger, toplam});
+    sinir.enBuyuk = std::max({sinir.enBuyuk, deger, toplam});
+  }
+  satirlar_.push_back(std::move(satir));
+}
+
+std::vector<Hucre> Rapor::AraToplam(std::size_t satirSayisi) const {
+  assert(satirSayisi <= satirlar_.size());
+  std::vector<Hucre> toplamlar(kolonlar_.size());
+  for (std::size_t k = 0; k < kolonlar_.size(); ++k)
+    if (kolonlar_[k].toplanir) toplamlar[k] = Hamdan(birikim_[satirSayisi * kolonlar_.size() + k], kolonlar_[k].tur);
+  return toplamlar;
+}
+
+bool Rapor::ToplamVar() const {
+  return std::any_of(kolonlar_.begin(), kolonlar_.end(), [](const auto& k) { return k.toplanir; });
+}
+
+int Rapor::GerekliEn(std::size_t kolon, int gruplama) const {
+  const RaporKolonu& k = kolonlar_[kolon];
+  const Sinir& sinir = sinirlar_[kolon];
+  if (!k.Sayisal()) return int(sinir.harf);
+  const auto en = [&](std::int64_t ham) { return HarfSayisi(HucreMetni(Hamdan(ham, k.tur), k, gruplama)); };
+  return int(std::max(en(sinir.enKucuk), en(sinir.enBuyuk)));
+}
+
+std::string HucreMetni(const Hucre& hucre, const RaporKolonu& kolon, int gruplama) {
+  if (const auto* metin = std::get_if<std::string>(&hucre)) return *metin;
+  if (const auto* tam = std::get_if<std::int64_t>(&hucre)) return SayiFormat(std::to_string(*tam), 0, gruplama);
+  if (const auto* tutar = std::get_if<Tutar>(&hucre)) return SayiFormat(OndalikMetin(*tutar), kolon.ondalik, gruplama);
+  if (const auto* tarih = std::get_if<Tarih>(&hucre)) return TarihMetni(*tarih, kolon.tur);
+  return {};
+}
+
+std::string BlokMetni(const BlokSatiri& satir, const Rapor& rapor) {
+  RaporKolonu kolon;
+  kolon.ondalik = rapor.paraOndaligi;
+  return HucreMetni(satir.deger, kolon);
+}
+
+}  // namespace belvani

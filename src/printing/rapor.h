@@ -1,0 +1,110 @@
+// Rapor: what a list says, before anything is known of paper, screen or spreadsheet.
+//
+// Columns, rows of typed cells, the texts around them. A report is filled once; the writers (text, CSV, …) only render
+// it. All adding up happens here, in Ekle: running sums after each row, of which the last are the totals, so a page
+// foot, a total line and a spreadsheet can never disagree.
+//
+// A list declares its columns with Kolonlar (kolonlar.h) and does not fill a Rapor by hand.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "core/deger.h"
+#include "core/tarih.h"
+#include "core/tutar.h"
+
+namespace belvani {
+
+using Hucre = std::variant<Null, std::string, std::int64_t, Tutar, Tarih>;
+
+enum class KolonTuru {
+  Metin,
+  Tam,        // whole number
+  Tutar,      // amount, shown with `ondalik` decimals
+  Tarih,      // dd.MM.yyyy
+  KisaTarih,  // dd.MM.yy
+  Bos,        // nothing: room for the pen, a signature for instance
+};
+
+struct RaporKolonu {
+  std::string baslik;      // on paper
+  std::string kisaBaslik;  // on the screen and in a spreadsheet, where heads have one line
+  int en = 0;              // letters on paper: the most that a text gets, the least that a number gets
+  KolonTuru tur = KolonTuru::Metin;
+  int ondalik = 0;
+  bool toplanir = false;
+
+  bool Sayisal() const { return tur == KolonTuru::Tam || tur == KolonTuru::Tutar; }
+};
+
+struct RaporSatiri {
+  std::vector<Hucre> hucreler;  // one for each column
+  bool yeniSayfa = false;       // starts a page on paper
+};
+
+// A line above the column heads of each page; any part may be empty.
+struct UstSatir {
+  std::string sol = {};
+  std::string orta = {};
+  std::string sag = {};
+  bool sayfaNo = false;  // the page number follows `sag`
+};
+
+// A labelled value below the totals.
+struct BlokSatiri {
+  std::string etiket;
+  Hucre deger;
+};
+
+class Rapor {
+ public:
+  explicit Rapor(std::vector<RaporKolonu> kolonlar);
+
+  std::string baslik;        // on paper
+  std::string ekranBasligi;  // on the screen and in a spreadsheet
+  std::vector<UstSatir> ustSatirlar;
+  std::vector<BlokSatiri> sonBlok;
+  int paraOndaligi = 2;  // of the amounts in `sonBlok`
+
+  // Texts lose their control characters. Throws TutarTasmasi when a sum leaves the range of amounts.
+  void Ekle(RaporSatiri satir);
+
+  const std::vector<RaporKolonu>& Kolonlar() const { return kolonlar_; }
+  const std::vector<RaporSatiri>& Satirlar() const { return satirlar_; }
+
+  // Sums of the first `satirSayisi` rows; Null in the columns that are not summed.
+  std::vector<Hucre> AraToplam(std::size_t satirSayisi) const;
+  std::vector<Hucre> Toplam() const { return AraToplam(satirlar_.size()); }
+  bool ToplamVar() const;
+
+  // The most letters that a column needs for its cells and sums, numbers in groups of `gruplama` digits.
+  int GerekliEn(std::size_t kolon, int gruplama) const;
+
+ private:
+  // The widest of a column: of texts by letters, of numbers one of the two ends.
+  struct Sinir {
+    std::size_t harf = 0;
+    std::int64_t enKucuk = 0;
+    std::int64_t enBuyuk = 0;
+  };
+
+  std::vector<RaporKolonu> kolonlar_;
+  std::vector<RaporSatiri> satirlar_;
+  std::vector<std::int64_t> birikim_;  // a row of running sums for each count of rows from 0, scaled like the cells
+  std::vector<Sinir> sinirlar_;
+};
+
+// Thousands are marked in printed numbers.
+constexpr int BinlikGruplama = 3;
+
+// A cell as paper and screen show it. Zero is empty, in totals too: forms leave lines without a value blank.
+// Tutar 1234.5 in a column of two decimals -> "1,234.50".
+std::string HucreMetni(const Hucre& hucre, const RaporKolonu& kolon, int gruplama = BinlikGruplama);
+
+// The same for a line of the end block.
+std::string BlokMetni(const BlokSatiri& satir, const Rapor& rapor);
+
+}  // namespace belvani

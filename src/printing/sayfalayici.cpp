@@ -1,0 +1,90 @@
+#include "printing/sayfalayici.h"
+
+namespace belvani {
+namespace {
+
+using Tur = SayfaSatirTuru;
+
+class Sayfalayici {
+ public:
+  Sayfalayici(const Rapor& rapor, const KagitBicimi& bicim, const SayfaDuzeni& duzen)
+      : rapor_(rapor), bicim_(bicim), duzen_(duzen) {}
+
+  std::vector<Sayfa> Bol() {
+    const auto& satirlar = rapor_.Satirlar();
+    for (std::size_t i = 0; i < satirlar.size(); ++i) {
+      if (satirSayaci_ == 0)
+        Basla();
+      else
+        AraKoy();
+      Koy(Tur::Govde, i);
+      SatiriSay();
+      const bool son = i + 1 == satirlar.size();
+      if (!son && (Dolu() || satirlar[i + 1].yeniSayfa)) Bitir(Tur::Nakil, i + 1);
+    }
+    if (!sayfalar_.empty()) {
+      Bitir(Tur::Toplam, satirlar.size());
+      BlokKoy();
+    }
+    return std::move(sayfalar_);
+  }
+
+ private:
+  void Koy(Tur tur, std::size_t sira = 0) { sayfalar_.back().satirlar.push_back({tur, sira}); }
+
+  void Basla() {
+    sayfalar_.push_back({.no = int(sayfalar_.size()) + 1, .satirlar = {}});
+    Koy(Tur::Baslik);
+    for (std::size_t i = 0; i < rapor_.ustSatirlar.size(); ++i) Koy(Tur::UstSatir, i);
+    Koy(Tur::Cizgi);
+    for (std::size_t i = 2 - std::size_t(bicim_.baslikBoyu); i < 2; ++i) Koy(Tur::KolonBasligi, i);
+    Koy(Tur::Cizgi);
+    satirSayaci_ = int(sayfalar_.back().satirlar.size());
+  }
+
+  void AraKoy() {
+    switch (duzen_.satirArasi) {
+      case SatirArasi::CizgiCek:
+        return Koy(Tur::Cizgi);
+      case SatirArasi::BosSatir:
+        return Koy(Tur::Bos);
+      case SatirArasi::Hicbiri:
+        return;
+    }
+  }
+
+  // The separator counts with the row above it, though it is drawn only when another row follows.
+  void SatiriSay() { satirSayaci_ += duzen_.satirArasi == SatirArasi::Hicbiri ? 1 : 2; }
+
+  bool Dolu() const { return satirSayaci_ >= duzen_.satirSayisi - SayfaDibiSatirlari; }
+
+  void Bitir(Tur toplamTuru, std::size_t satirSayisi) {
+    Koy(Tur::Cizgi);
+    if (rapor_.ToplamVar()) {
+      Koy(toplamTuru, satirSayisi);
+      Koy(Tur::Cizgi);
+    }
+    satirSayaci_ = 0;
+  }
+
+  void BlokKoy() {
+    const auto gerekli = sayfalar_.back().satirlar.size() + rapor_.sonBlok.size();
+    // The last line of a page stays free: with it printed, a form feed would throw a blank page.
+    if (!rapor_.sonBlok.empty() && int(gerekli) >= duzen_.satirSayisi) Basla();
+    for (std::size_t i = 0; i < rapor_.sonBlok.size(); ++i) Koy(Tur::Blok, i);
+  }
+
+  const Rapor& rapor_;
+  const KagitBicimi& bicim_;
+  const SayfaDuzeni& duzen_;
+  std::vector<Sayfa> sayfalar_;
+  int satirSayaci_ = 0;  // of the open page; 0: none is open
+};
+
+}  // namespace
+
+std::vector<Sayfa> SayfalaraBol(const Rapor& rapor, const KagitBicimi& bicim, const SayfaDuzeni& duzen) {
+  return Sayfalayici(rapor, bicim, duzen).Bol();
+}
+
+}  // namespace belvani
