@@ -1,0 +1,78 @@
+#include "cli/giris.h"
+
+#include "cli/ortak.h"
+#include "core/csv.h"
+#include "core/tables/uye.h"
+#include "core/turkce.h"
+#include "payroll/hesap/satirlar.h"
+
+namespace belvani::cli {
+namespace {
+
+constexpr double EnCokGun = 30;
+constexpr double EnCokSaat = 240;
+
+template <class Liste>
+const AlanTanimi* Ara(const Liste& kolonlar, std::string_view ad) {
+  for (const auto& kolon : kolonlar)
+    if (kolon.ad == ad) return &kolon;
+  return nullptr;
+}
+
+std::string SinirKusuru(const AlanTanimi& alan, double deger) {
+  const double enCok = Ara(GunKolonlari, alan.ad) ? EnCokGun : Ara(MesaiKolonlari, alan.ad) ? EnCokSaat : 0;
+  if (enCok > 0 && deger > enCok) return "en çok " + SayiMetni(enCok) + " olabilir";
+  if (alan.ad == "eksiksebebi" && EksikSebepSec(int(deger)) < 0) return "eksik gün sebebi listede yok";
+  return deger < 0 ? "eksi olamaz" : "";
+}
+
+void HucreIsle(const AlanTanimi& alan, const std::string& metin, GirisSatiri& giris, std::string& kusur) {
+  const Deger deger = MetindenDeger(alan, metin, kusur);
+  if (kusur.empty()) kusur = SinirKusuru(alan, SayiDegeri(deger));
+  if (!kusur.empty()) return;
+  Brd::HerKolon([&](const auto& kolon) {
+    if (kolon.ad == alan.ad) UyeyeYaz(giris.deger.*kolon.uye, deger);
+  });
+  giris.verilen.insert(alan.ad);
+}
+
+}  // namespace
+
+const AlanTanimi* GirisAlani(std::string_view ad) {
+  static constexpr AlanTanimi digerleri[] = {brd::eksiksebebi, brd::borckes};
+  for (const AlanTanimi* alan : {Ara(GunKolonlari, ad), Ara(MesaiKolonlari, ad), Ara(YardimKolonlari, ad)})
+    if (alan != nullptr) return alan;
+  return Ara(digerleri, ad);
+}
+
+std::vector<GirisSatiri> GirisListesiOku(const std::string& csv, const std::string& dosyaAdi) {
+  auto okunan = CsvOku(csv);
+  if (!okunan) throw KomutHatasi{dosyaAdi + ": " + okunan.HataMetni()};
+  std::string kusurlar;
+  const auto kusurYaz = [&](int satir, const std::string& kolon, const std::string& neden) {
+    kusurlar += "\n  satır " + std::to_string(satir) + ", " + kolon + ": " + neden;
+  };
+  const auto& basliklar = okunan->basliklar;
+  if (std::find(basliklar.begin(), basliklar.end(), "kod") == basliklar.end())
+    kusurYaz(1, "kod", "bu sütun dosyada olmalı");
+  for (const auto& baslik : basliklar)
+    if (baslik != "kod" && GirisAlani(baslik) == nullptr) kusurYaz(1, baslik, "giriş listesinde böyle bir alan olamaz");
+
+  std::vector<GirisSatiri> girisler;
+  for (const auto& satir : okunan->satirlar) {
+    GirisSatiri giris;
+    giris.satirNo = satir.satirNo;
+    for (std::size_t i = 0; i < basliklar.size(); ++i) {
+      std::string kusur;
+      if (basliklar[i] == "kod") giris.kod = Kirp(satir.hucreler[i]);
+      else if (const AlanTanimi* alan = GirisAlani(basliklar[i])) HucreIsle(*alan, satir.hucreler[i], giris, kusur);
+      if (!kusur.empty()) kusurYaz(satir.satirNo, basliklar[i], kusur);
+    }
+    if (giris.kod.empty()) kusurYaz(satir.satirNo, "kod", "boş bırakılamaz");
+    girisler.push_back(std::move(giris));
+  }
+  if (!kusurlar.empty()) throw KomutHatasi{dosyaAdi + ": hiçbir bordro kaydedilmedi" + kusurlar};
+  return girisler;
+}
+
+}  // namespace belvani::cli

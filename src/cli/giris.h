@@ -1,0 +1,18 @@
+// The entry list of a month: days, hours, allowances, reason and debt of people, from a CSV file.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "payroll/hazirlik/hazirlik.h"
+
+namespace belvani::cli {
+
+// A column of the file is entered for every person in it, an empty cell as 0; a column that is not in the file stays as
+// the template or the saved record has it. Every fault is told with row and column in one KomutHatasi.
+std::vector<GirisSatiri> GirisListesiOku(const std::string& csv, const std::string& dosyaAdi);
+
+// Columns of the pay record that are entered, by name; null for any other.
+const AlanTanimi* GirisAlani(std::string_view ad);
+
+}  // namespace belvani::cli

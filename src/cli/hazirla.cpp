@@ -1,0 +1,75 @@
+// hazirla, bordro-sil
+#include "payroll/hazirlik/hazirlik.h"
+
+#include <unistd.h>
+
+#include <iostream>
+
+#include "cli/giris.h"
+#include "cli/ortak.h"
+
+namespace belvani::cli {
+namespace {
+
+struct HazirlaSecenekleri {
+  std::string kod, giris;
+  Donem donem;
+};
+
+// On a terminal alone; a log file stays clean.
+class TerminalIlerlemesi : public Ilerleme {
+ public:
+  bool Adim(std::size_t biten, std::size_t toplam) override {
+    if (!terminal_ || toplam < EnAzKisi) return true;
+    std::cerr << "\r" << biten << " / " << toplam << (biten == toplam ? "\n" : "") << std::flush;
+    return true;
+  }
+
+ private:
+  static constexpr std::size_t EnAzKisi = 1000;
+  const bool terminal_ = ::isatty(STDERR_FILENO) == 1;
+};
+
+void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
+  const auto o = genel.SirketAc(s.kod);
+  auto yasal = YasalParametreleriAl(o->DataPath);
+  auto kosullar = KosullariYukle(*o, Degeri(yasal), s.donem.yil, s.donem.ay);
+  Degeri(kosullar);
+  const auto girisler = s.giris.empty() ? std::vector<GirisSatiri>() : GirisListesiOku(DosyayiOku(s.giris), s.giris);
+  TerminalIlerlemesi ilerleme;
+  auto sonuc = TopluHazirla(*o, *kosullar, girisler, &ilerleme);
+  for (const Sorun& sorun : Degeri(sonuc).sorunlar)
+    genel.bildirim.Uyari((sorun.derece == Sorun::Derece::Hata ? "Hata: " : "Uyarı: ") +
+                         (sorun.kod.empty() ? "" : sorun.kod + ": ") + sorun.metin);
+  if (!sonuc->kaydedildi) throw KomutHatasi{"Bordro kaydedilmedi: girişlerde hata var"};
+  Yaz("Bordro Hazırlık Tamamlandı: " + std::to_string(sonuc->kaydedilen) + " kişi kaydedildi, " +
+      std::to_string(sonuc->donemDisi) + " kişi dönem dışı, " + std::to_string(sonuc->netsiz) + " kişi netsiz\n");
+}
+
+void BordroyuSil(Genel& genel, const HazirlaSecenekleri& s) {
+  const auto o = genel.SirketAc(s.kod);
+  auto silinen = BordroSil(*o, s.donem.yil, s.donem.ay);
+  Yaz("Bordro Tamamen Silindi: " + std::to_string(Degeri(silinen)) + " kayıt\n");
+}
+
+}  // namespace
+
+void HazirlaKomutlari(CLI::App& app, Genel& genel) {
+  auto h = std::make_shared<HazirlaSecenekleri>();
+  auto* hazirla = app.add_subcommand(
+      "hazirla", "Ayın bordrosunu bütün personel için şablondan, varsa giriş listesinden hazırlar ve kaydeder");
+  hazirla->add_option("KOD", h->kod, "şirket")->required();
+  DonemSecenekleri(*hazirla, h->donem);
+  hazirla->add_option("--giris", h->giris,
+                      "giriş listesi (CSV): kod, gün ve saat alanları, yrd01…yrd11, eksiksebebi, borckes; listede "
+                      "olmayan kişi ve sütun şablondan");
+  hazirla->callback([&genel, h] { Hazirla(genel, *h); });
+
+  auto s = std::make_shared<HazirlaSecenekleri>();
+  auto* sil = app.add_subcommand("bordro-sil", "Ayın bordrosunu bütün personel için siler");
+  sil->add_option("KOD", s->kod, "şirket")->required();
+  DonemSecenekleri(*sil, s->donem);
+  sil->callback([&genel, s] { BordroyuSil(genel, *s); });
+}
+
+}  // namespace belvani::cli

@@ -1,0 +1,249 @@
+#include "cli/hesapgirdisi.h"
+
+#include "cli/giris.h"
+#include "core/tables/esco.h"
+#include "core/tables/firma.h"
+#include "core/tables/muaf.h"
+#include "core/turkce.h"
+#include "payroll/hesap/satirlar.h"
+#include "payroll/parametre/mevzuat.h"
+
+namespace belvani::cli {
+namespace {
+
+using Kusurlar = std::vector<std::string>;
+
+const Json Yok = nullptr;
+
+const Json& Uye(const Json& nesne, const char* ad) {
+  const auto i = nesne.find(ad);
+  return i == nesne.end() ? Yok : *i;
+}
+
+// A number or amount that stands alone, read as a column of that type would be.
+Deger Tekli(const Json& nesne, const char* ad, AlanTipi tip, Kusurlar& kusurlar) {
+  return JsonDegeri({ad, tip, 0, AlanNiteligi::Serbest}, Uye(nesne, ad), ad, kusurlar);
+}
+
+template <class Kayit>
+std::vector<Kayit> Satirlar(const Json& nesne, const char* ad, Kusurlar& kusurlar) {
+  std::vector<Kayit> satirlar;
+  const Json& dizi = Uye(nesne, ad);
+  if (dizi.is_null()) return satirlar;
+  if (!dizi.is_array()) {
+    kusurlar.push_back(std::string(ad) + ": dizi olmalı");
+    return satirlar;
+  }
+  for (const Json& satir : dizi)
+    JsondanKayit(satir, std::string(ad) + "[" + std::to_string(satirlar.size()) + "]", satirlar.emplace_back(), kusurlar);
+  return satirlar;
+}
+
+void DonemiOku(const Json& json, HesapGirdisi& h) {
+  const Json& donem = Uye(json, "donem");
+  if (!donem.is_object()) {
+    h.kusurlar.push_back("donem: {yil, ay} olmalı");
+    return;
+  }
+  Kusurlar& k = h.kusurlar;
+  h.kosullar.donem.yil = int(TamDegeri(Tekli(donem, "yil", AlanTipi::Kisa, k)));
+  h.kosullar.donem.ay = int(TamDegeri(Tekli(donem, "ay", AlanTipi::Byte, k)));
+  if (Tarih(h.kosullar.donem.yil, h.kosullar.donem.ay, 1).Bos()) k.push_back("donem: yil veya ay hatalı");
+}
+
+void FirmayiOku(const Json& json, HesapGirdisi& h) {
+  Firma firma;
+  firma.issaati = Tek(8);
+  firma.paraonda = 2;
+  if (const Json& f = Uye(json, "firma"); !f.is_null()) JsondanKayit(f, "firma", firma, h.kusurlar);
+  h.kosullar.IsSaati = firma.issaati.Sayi() > 0 ? firma.issaati : Tek(8);
+  h.kosullar.paraonda = firma.paraonda;
+  h.kosullar.TehlikeOran = TehlikeOrani(firma.tehlike, firma.sinif.Sayi());
+  h.kosullar.donem.tur = firma.tersfirma ? DonemTuru::Ters : DonemTuru::Takvim;
+}
+
+template <std::size_t N, class Uydur>
+void DiziOku(const Json& json, const char* ad, std::size_t enCok, Uydur&& uydur, AlanTipi tip, Kusurlar& kusurlar) {
+  const Json& dizi = Uye(json, ad);
+  if (dizi.is_null()) return;
+  if (!dizi.is_array() || dizi.size() > enCok) {
+    kusurlar.push_back("parametre." + std::string(ad) + ": en çok " + std::to_string(enCok) + " sayılık dizi olmalı");
+    return;
+  }
+  for (std::size_t i = 0; i < N; ++i)
+    uydur(i, i < dizi.size() ? JsonDegeri({ad, tip, 0, AlanNiteligi::Serbest}, dizi[i],
+                                          "parametre." + std::string(ad), kusurlar)
+                             : Deger(Null{}));
+}
+
+// Rows by branch number, "1" to "32": {"1": {"ana": 0, "has": 5, …}}.
+void OranlariOku(const Json& json, const char* ad, std::array<OranSatiri, DalSayisi>& oranlar, Kusurlar& kusurlar) {
+  const Json& dallar = Uye(json, ad);
+  if (dallar.is_null()) return;
+  static constexpr std::pair<const char*, Tek OranSatiri::*> kolonlar[] = {{"ana", &OranSatiri::ana},
+                                                                           {"has", &OranSatiri::has},
+                                                                           {"mal", &OranSatiri::mal},
+                                                                           {"sgdp", &OranSatiri::sgdp},
+                                                                           {"isz", &OranSatiri::isz}};
+  for (const auto& [dal, satir] : dallar.items()) {
+    const int no = BastakiSayi(dal);
+    if (no < 1 || no > DalSayisi || !satir.is_object()) {
+      kusurlar.push_back("parametre." + std::string(ad) + "." + dal + ": 1-32 dal numarası ve oranları olmalı");
+      continue;
+    }
+    for (const auto& [kolon, uye] : kolonlar)
+      if (satir.contains(kolon))
+        oranlar[std::size_t(no - 1)].*uye = Tek(SayiDegeri(Tekli(satir, kolon, AlanTipi::Tek, kusurlar)));
+  }
+}
+
+// Members that the object names take the place of the shipped figures.
+void ParametreleriOku(const Json& p, YasalParametreler& yasal, int& uygulama, Kusurlar& kusurlar) {
+  if (p.is_null()) return;
+  if (!p.is_object()) return kusurlar.push_back("parametre: nesne olmalı");
+  YasalOranlar& y = yasal.oranlar;
+  const std::pair<const char*, Tutar*> tutarlar[] = {{"AsgariUcret", &y.AsgariUcret}, {"SskTaban", &y.SskTaban},
+                                                     {"SskTavan", &y.SskTavan},       {"KidemTavan", &y.KidemTavan},
+                                                     {"MuafTavan", &y.MuafTavan},     {"AgiTaban", &yasal.agi.AgiTaban}};
+  const std::pair<const char*, Tek*> oranlar[] = {
+      {"DamgaOran", &y.DamgaOran},           {"MuafOran", &y.MuafOran},
+      {"AgiKendisi", &yasal.agi.AgiKendisi}, {"AgiEsi", &yasal.agi.AgiEsi},
+      {"AgiCocuk12", &yasal.agi.AgiCocuk12}, {"AgiCocuk3", &yasal.agi.AgiCocuk3},
+      {"AgiCocuk4", &yasal.agi.AgiCocuk4}};
+  for (const auto& [ad, tutar] : tutarlar)
+    if (p.contains(ad)) *tutar = TutarDegeri(Tekli(p, ad, AlanTipi::Tutar, kusurlar));
+  for (const auto& [ad, oran] : oranlar)
+    if (p.contains(ad)) *oran = Tek(SayiDegeri(Tekli(p, ad, AlanTipi::Tek, kusurlar)));
+  DiziOku<3>(p, "SakatIndirim", 3, [&](std::size_t i, const Deger& d) { y.SakatIndirim[i] = TutarDegeri(d); },
+             AlanTipi::Tutar, kusurlar);
+  DiziOku<8>(p, "GvLimit", 8, [&](std::size_t i, const Deger& d) { yasal.gv.GvLimit[i] = TutarDegeri(d); },
+             AlanTipi::Tutar, kusurlar);
+  DiziOku<8>(p, "GvOran", 8, [&](std::size_t i, const Deger& d) { yasal.gv.GvOran[i] = Tek(SayiDegeri(d)); },
+             AlanTipi::Tek, kusurlar);
+  OranlariOku(p, "IsciOran", y.IsciOran, kusurlar);
+  OranlariOku(p, "IsverenOran", y.IsverenOran, kusurlar);
+  if (p.contains("uygulama")) uygulama = int(TamDegeri(Tekli(p, "uygulama", AlanTipi::Kisa, kusurlar)));
+}
+
+void YasaliOku(const Json& json, HesapGirdisi& h) {
+  const BordroDonemi& donem = h.kosullar.donem;
+  const bool eski = MantikDegeri(Tekli(json, "eskilira", AlanTipi::Mantik, h.kusurlar));
+  auto yasal = MevzuatYukle(MevzuatDizini(), donem.yil, donem.ay, eski ? Lira::Eski : Lira::Yeni);
+  // Figures that are all given need no shipped ones.
+  if (yasal)
+    h.kosullar.yasal = std::move(*yasal);
+  else if (Uye(json, "parametre").is_object())
+    h.kosullar.yasal = {{}, {}, {}, VarsayilanHesapTurleri(), VarsayilanKanunlar()};
+  else
+    h.kusurlar.push_back(yasal.HataMetni());
+  h.kosullar.uygulama = UygulamaBul(h.kosullar.yasal.kanunlar, donem.ay, donem.yil);
+  ParametreleriOku(Uye(json, "parametre"), h.kosullar.yasal, h.kosullar.uygulama, h.kusurlar);
+}
+
+void BayraklariOku(const Json& json, KazancBayraklari& bayraklar, Kusurlar& kusurlar) {
+  bayraklar = VarsayilanKazancBayraklari();
+  const Json& kaztan = Uye(json, "kaztan");
+  if (kaztan.is_null()) return;
+  if (!kaztan.is_object()) return kusurlar.push_back("kaztan: nesne olmalı");
+  const auto oku = [&](auto& dizi, const std::string& harf) {
+    for (std::size_t i = 0; i < dizi.size(); ++i)
+      if (const std::string ad = harf + std::to_string(i + 1); kaztan.contains(ad))
+        dizi[i] = std::uint8_t(TamDegeri(Tekli(kaztan, ad.c_str(), AlanTipi::Byte, kusurlar)));
+  };
+  oku(bayraklar.k, "k");
+  oku(bayraklar.y, "y");
+}
+
+void FirmaTanimlariniOku(const Json& json, HesapGirdisi& h) {
+  FirmaParametreleri& f = h.kosullar.firma;
+  BayraklariOku(json, f.varsayilan, h.kusurlar);
+  f.mesailer = VarsayilanFazlaMesailer();
+  f.yardimlar = VarsayilanYardimlar();
+  for (const Muaf& m : Satirlar<Muaf>(json, "muaf", h.kusurlar)) {
+    if (m.no < 1 || m.no > YardimSayisi) h.kusurlar.push_back("muaf.no: 1 ile 11 arasında olmalı");
+    else f.yardimlar[m.no - 1u] = {m.adi, m.indtip, m.oran, m.sabit};
+  }
+  for (Indir& i : Satirlar<Indir>(json, "indir", h.kusurlar)) {
+    if (i.no < 1 || i.no > f.indirimler.size()) h.kusurlar.push_back("indir.no: 1 ile 3 arasında olmalı");
+    else f.indirimler[i.no - 1u] = std::move(i);
+  }
+  f.sendikalar = Satirlar<Sendika>(json, "sendika", h.kusurlar);
+}
+
+void KisiyiOku(const Json& json, HesapGirdisi& h) {
+  const Json& sicil = Uye(json, "sicil");
+  JsondanKayit(sicil.is_null() ? Json::object() : sicil, "sicil", h.kisi.sicil, h.kusurlar);
+  h.kisi.sicil.hesap.clear();  // its group's flags are those of `kaztan` here
+  for (const Esco& e : Satirlar<Esco>(json, "esco", h.kusurlar)) h.kisi.aile.Ekle(e.yakinlik, e.agiok);
+  h.kisi.yil.gvmatrah = TutarDegeri(Tekli(json, "devgvmatrah", AlanTipi::Tutar, h.kusurlar));
+  h.kisi.yil.gvtutar = TutarDegeri(Tekli(json, "devgvtutar", AlanTipi::Tutar, h.kusurlar));
+  for (std::size_t i = 0; i < h.kisi.yil.indirimler.size(); ++i)
+    h.kisi.yil.indirimler[i] =
+        TutarDegeri(Tekli(json, ("toind" + std::to_string(i + 1)).c_str(), AlanTipi::Tutar, h.kusurlar));
+}
+
+void CalismaGununuBul(const Json& json, HesapGirdisi& h) {
+  if (json.contains("calismagun")) {
+    h.CalismaGun = int(TamDegeri(Tekli(json, "calismagun", AlanTipi::Byte, h.kusurlar)));
+    if (h.CalismaGun > 30) h.kusurlar.push_back("calismagun: en çok 30 olabilir");
+    return;
+  }
+  const Sicil& s = h.kisi.sicil;
+  if (s.girtar.Bos() || !h.kusurlar.empty()) return;
+  const CalismaGunu gun = GunSayisiBul(h.kosullar.donem, s.girtar, s.ciktar);
+  if (gun.uygunluk != DonemUygunlugu::Uygun)
+    h.kusurlar.push_back("Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil");
+  h.CalismaGun = gun.CalismaGun;
+}
+
+void GirisiOku(const Json& json, HesapGirdisi& h) {
+  const Json& giris = Uye(json, "giris");
+  if (giris.is_null()) return;
+  JsondanKayit(giris, "giris", h.giris, h.kusurlar);
+  if (giris.is_object())
+    for (const auto& [ad, deger] : giris.items()) h.verilen.push_back(ad);
+}
+
+void BilinmeyenleriBildir(const Json& json, HesapGirdisi& h) {
+  static constexpr std::string_view bilinen[] = {
+      "donem", "sicil",  "esco",   "giris",   "devgvmatrah", "devgvtutar", "calismagun", "firma",  "muaf",
+      "indir", "sendika", "kaztan", "parametre", "eskilira",   "toind1",     "toind2",     "toind3"};
+  for (const auto& [ad, deger] : json.items())
+    if (std::find(std::begin(bilinen), std::end(bilinen), ad) == std::end(bilinen))
+      h.uyarilar.push_back(ad + ": bilinmeyen alan, kullanılmadı");
+}
+
+}  // namespace
+
+HesapGirdisi HesapGirdisiOku(const Json& json) {
+  HesapGirdisi h;
+  if (!json.is_object()) {
+    h.kusurlar.push_back("Girdi bir JSON nesnesi olmalı");
+    return h;
+  }
+  BilinmeyenleriBildir(json, h);
+  DonemiOku(json, h);
+  if (!h.kusurlar.empty()) return h;
+  FirmayiOku(json, h);
+  YasaliOku(json, h);
+  FirmaTanimlariniOku(json, h);
+  KisiyiOku(json, h);
+  GirisiOku(json, h);
+  CalismaGununuBul(json, h);
+  return h;
+}
+
+BordroGirdi HesapGirdisi::Girdi() const {
+  BordroGirdi g = PersonelYukle(kisi, kosullar, CalismaGun);
+  // Nothing comes from a template here: what is not entered is zero.
+  for (const auto& kolon : GunKolonlari) g.giris.*kolon.uye = 0;
+  for (const auto& kolon : MesaiKolonlari) g.giris.*kolon.uye = Tek();
+  for (const auto& kolon : YardimKolonlari) g.giris.*kolon.uye = Tutar();
+  Brd::HerKolon([&](const auto& kolon) {
+    if (std::find(verilen.begin(), verilen.end(), kolon.ad) != verilen.end())
+      g.giris.*kolon.uye = giris.*kolon.uye;
+  });
+  return g;
+}
+
+}  // namespace belvani::cli

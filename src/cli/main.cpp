@@ -1,0 +1,74 @@
+// belvani-cli: the program without its windows. Exit status 0; 1 when a command fails, with the reason on standard
+// error; 2 when it was called wrongly.
+#include <iostream>
+
+#include "cli/ortak.h"
+
+namespace belvani::cli {
+namespace {
+
+constexpr int Basarisiz = 1;
+constexpr int YanlisKullanim = 2;
+
+void TurkceYap(CLI::App& app) {
+  auto bicim = std::make_shared<CLI::Formatter>();
+  const std::pair<const char*, const char*> sozcukler[] = {
+      {"Usage", "Kullanım"}, {"OPTIONS", "SEÇENEKLER"}, {"SUBCOMMAND", "KOMUT"}, {"SUBCOMMANDS", "KOMUTLAR"},
+      {"REQUIRED", "(gerekli)"}, {"TEXT", "METİN"}, {"INT", "SAYI"},
+      {"POSITIONALS", "DEĞERLER"}};
+  for (const auto& [ingilizce, turkce] : sozcukler) bicim->label(ingilizce, turkce);
+  bicim->column_width(28);
+  app.formatter(bicim);
+  app.option_defaults()->group("Seçenekler");
+}
+
+std::string KullanimHatasi(const CLI::ParseError& h) {
+  const std::string ad = h.get_name();
+  const std::string ayrinti = h.what();
+  const char* metin = ad == "RequiredError"      ? "gerekli bir değer verilmemiş"
+                      : ad == "ExtrasError"      ? "tanınmayan bir değer var"
+                      : ad == "ConversionError"  ? "sayı olması gereken bir değer sayı değil"
+                      : ad == "ValidationError"  ? "kabul edilmeyen bir değer var"
+                      : ad == "ArgumentMismatch" ? "bir seçeneğin değeri eksik"
+                                                 : "komut satırı anlaşılmadı";
+  return std::string("Yanlış kullanım: ") + metin + " [" + ayrinti + "]\nYardım için: belvani-cli KOMUT --help\n";
+}
+
+int Calistir(int argc, char** argv) {
+  Genel genel;
+  CLI::App app("Belvani: personel ve bordro programı, toplu işler için komutlar", "belvani-cli");
+  TurkceYap(app);
+  app.set_help_flag("-h,--help", "bu yardımı gösterir");
+  app.add_option("--veri", genel.veri, "data dizini (verilmezse kurulumun data dizini)");
+  app.require_subcommand(1);
+  app.set_version_flag("--version", "Belvani 2003.7", "programın sürümünü gösterir");
+  for (const KomutEkle ekle : {SirketKomutlari, ParametreKomutlari, AktarimKomutlari, HazirlaKomutlari, HesaplaKomutu,
+                               BordroKomutu})
+    ekle(app, genel);
+  for (CLI::App* komut : app.get_subcommands({})) komut->group("Komutlar");
+  try {
+    app.parse(argc, argv);
+    std::cout.flush();
+    if (std::cout) return 0;
+    std::cerr << "Çıktı yazılamadı\n";
+    return Basarisiz;
+  } catch (const CLI::ParseError& h) {
+    if (h.get_exit_code() == 0) return app.exit(h);
+    std::cerr << KullanimHatasi(h);
+    return YanlisKullanim;
+  } catch (const KomutHatasi& h) {
+    std::cout.flush();
+    std::cerr << h.metin << '\n';
+  } catch (const std::exception& h) {
+    std::cerr << "Beklenmeyen hata: " << h.what() << '\n';
+  }
+  return Basarisiz;
+}
+
+}  // namespace
+}  // namespace belvani::cli
+
+int main(int argc, char** argv) {
+  std::ios::sync_with_stdio(false);
+  return belvani::cli::Calistir(argc, argv);
+}

@@ -1,0 +1,70 @@
+#include "cli/ortak.h"
+
+#include <iostream>
+#include <iterator>
+
+#include "core/ayarlar.h"
+#include "core/dosya.h"
+#include "core/sayi.h"
+
+namespace belvani::cli {
+namespace {
+
+constexpr int IlkYil = 1990;
+constexpr int SonYil = 2100;
+
+}  // namespace
+
+void StandartHata::Bilgi(std::string_view metin) { std::cerr << metin << '\n'; }
+void StandartHata::Uyari(std::string_view metin) { std::cerr << metin << '\n'; }
+bool StandartHata::Soru(std::string_view metin) {
+  std::cerr << metin << " (hayır)\n";
+  return false;
+}
+
+std::string Genel::DataPath() {
+  const std::string yol = veri.empty() ? MakineAyari("DataPath") : veri;
+  if (yol.empty()) throw KomutHatasi{"Data Dizini belli değil: --veri DIZIN veriniz"};
+  return DizinSonu(yol);
+}
+
+std::unique_ptr<Oturum> Genel::SirketAc(const std::string& kod) {
+  auto o = std::make_unique<Oturum>();
+  o->DataPath = DataPath();
+  Basarmali(belvani::SirketAc(*o, kod, bildirim));
+  if (!FirmaYukle(*o)) throw KomutHatasi{"İşyeri Tanımlamaları Yapılmamış"};
+  if (!VersiyonKontrol(*o, bildirim)) throw KomutHatasi{"Şirket bu programla açılamadı"};
+  return o;
+}
+
+Donem DonemOku(const std::string& metin) {
+  const Tarih gun = Tarih::IsoOku(metin + "-01");
+  if (metin.size() != 7 || gun.Bos()) throw KomutHatasi{"Dönem YYYY-AA biçiminde olmalı: " + metin};
+  return {gun.Yil(), gun.Ay()};
+}
+
+void DonemSecenekleri(CLI::App& komut, Donem& donem) {
+  komut.add_option("--yil", donem.yil, "bordro yılı")->required()->check(CLI::Range(IlkYil, SonYil));
+  komut.add_option("--ay", donem.ay, "bordro ayı, 1-12")->required()->check(CLI::Range(1, 12));
+}
+
+void Basarmali(const Durum& durum) {
+  if (!durum) throw KomutHatasi{durum.HataMetni()};
+}
+
+std::string DosyayiOku(const std::string& yol) {
+  auto icerik = DosyaOku(yol);
+  if (!icerik) throw KomutHatasi{"Dosya okunamadı: " + yol};
+  return std::move(*icerik);
+}
+
+std::string GirdiyiOku() {
+  return std::string(std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>());
+}
+
+void Yaz(const std::string& metin, const std::string& dosya) {
+  if (!dosya.empty()) return Basarmali(DosyaYaz(dosya, metin));
+  std::cout << metin;
+}
+
+}  // namespace belvani::cli

@@ -1,0 +1,66 @@
+// What the commands share: the session they open, how they report, how they end.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <string>
+
+#include "core/session/oturum.h"
+#include "core/sonuc.h"
+
+namespace belvani::cli {
+
+// Ends the command: the text goes to standard error, the exit status is 1.
+struct KomutHatasi {
+  std::string metin;
+};
+
+// Messages and warnings to standard error. Questions are answered no: a batch program does not guess.
+class StandartHata : public Bildirim {
+ public:
+  void Bilgi(std::string_view metin) override;
+  void Uyari(std::string_view metin) override;
+  bool Soru(std::string_view metin) override;
+};
+
+// Options of the program itself.
+struct Genel {
+  std::string veri;   // --veri
+  StandartHata bildirim;
+
+  // The data path: --veri, else the machine's setting.
+  std::string DataPath();
+  // The company's store, opened without login: who may read the files may work on them.
+  std::unique_ptr<Oturum> SirketAc(const std::string& kod);
+};
+
+// Adds one command with its options to the program.
+using KomutEkle = void (*)(CLI::App&, Genel&);
+void SirketKomutlari(CLI::App& app, Genel& genel);
+void ParametreKomutlari(CLI::App& app, Genel& genel);
+void AktarimKomutlari(CLI::App& app, Genel& genel);
+void HazirlaKomutlari(CLI::App& app, Genel& genel);
+void HesaplaKomutu(CLI::App& app, Genel& genel);
+void BordroKomutu(CLI::App& app, Genel& genel);
+
+struct Donem {
+  int yil = 0;
+  int ay = 0;
+};
+Donem DonemOku(const std::string& metin);                     // "2009-07"
+void DonemSecenekleri(CLI::App& komut, Donem& donem);         // --yil, --ay
+
+template <class T>
+T& Degeri(Sonuc<T>& sonuc) {
+  if (!sonuc) throw KomutHatasi{sonuc.HataMetni()};
+  return *sonuc;
+}
+void Basarmali(const Durum& durum);
+
+std::string DosyayiOku(const std::string& yol);               // or KomutHatasi
+std::string GirdiyiOku();                                     // standard input to its end
+
+// To standard output, or whole into the file when one is named.
+void Yaz(const std::string& metin, const std::string& dosya = {});
+
+}  // namespace belvani::cli

@@ -1,0 +1,81 @@
+// sirket-ac, sirketler
+#include "cli/jsonkayit.h"
+#include "cli/ortak.h"
+#include "core/dosya.h"
+#include "core/session/sirket.h"
+
+namespace belvani::cli {
+namespace {
+
+struct SirketAcSecenekleri {
+  std::string kod, kullanici, sifre, unvan;
+  int yil = 0;
+  int ay = 0;
+};
+
+void SirketiAc(Genel& genel, const SirketAcSecenekleri& s) {
+  Oturum o;
+  o.DataPath = genel.DataPath();
+  Basarmali(DizinYarat(o.DataPath));
+  Basarmali(SirketOlustur(o, s.kod, s.kullanici, s.sifre, genel.bildirim));
+  auto& firma = o.depo.firma;
+  firma.IlkKayit();
+  firma.KayitDuzelt();
+  if (!s.unvan.empty()) firma.AlanYaz("unvan", s.unvan);
+  if (s.yil != 0) firma.AlanYaz("firmayil", std::int64_t(s.yil));
+  if (s.ay != 0) firma.AlanYaz("firmaay", std::int64_t(s.ay));
+  if (!firma.KayitYaz()) throw KomutHatasi{"Firma Bilgileri Güncellenemedi: " + o.depo.db.SonHata()};
+  Yaz("Şirket açıldı: " + o.FirmaKod + "\n");
+}
+
+struct SirketBilgisi {
+  std::string kod, unvan, donem, kusur;
+};
+
+SirketBilgisi SirketiOku(Genel& genel, const std::string& dataPath, const std::string& kod) {
+  Oturum o;
+  o.DataPath = dataPath;
+  // A directory without a sound store is listed with its own words, and the list goes on.
+  struct Sessiz : Bildirim {
+    void Bilgi(std::string_view) override {}
+    void Uyari(std::string_view) override {}
+    bool Soru(std::string_view) override { return false; }
+  } sessiz;
+  (void)genel;
+  if (!belvani::SirketAc(o, kod, sessiz) || !FirmaYukle(o)) return {kod, "Database'e Ulaşılamadı", "", o.depo.db.SonHata()};
+  const std::string ay = std::to_string(o.firmaay);
+  return {kod, o.unvan, (ay.size() < 2 ? "0" + ay : ay) + "-" + std::to_string(o.firmayil), ""};
+}
+
+void SirketleriYaz(Genel& genel, bool json) {
+  const std::string dataPath = genel.DataPath();
+  Json dizi = Json::array();
+  std::string metin;
+  for (const auto& kod : Sirketler(dataPath)) {
+    const SirketBilgisi s = SirketiOku(genel, dataPath, kod);
+    dizi.push_back({{"kod", s.kod}, {"unvan", s.unvan}, {"donem", s.donem}});
+    metin += s.kod + "\t" + s.unvan + "\t" + s.donem + "\n";
+  }
+  Yaz(json ? dizi.dump(2) + "\n" : metin);
+}
+
+}  // namespace
+
+void SirketKomutlari(CLI::App& app, Genel& genel) {
+  auto* ac = app.add_subcommand("sirket-ac", "Yeni şirket açar: dizini, veritabanı ve ilk kullanıcısı ile");
+  auto s = std::make_shared<SirketAcSecenekleri>();
+  ac->add_option("KOD", s->kod, "şirketin adı; dizini bu adla açılır")->required();
+  ac->add_option("--kullanici", s->kullanici, "ilk kullanıcının adı")->required();
+  ac->add_option("--sifre", s->sifre, "ilk kullanıcının şifresi (verilmezse boş)");
+  ac->add_option("--unvan", s->unvan, "şirketin ünvanı");
+  ac->add_option("--yil", s->yil, "çalışma yılı (verilmezse bu yıl)")->check(CLI::Range(1990, 2100));
+  ac->add_option("--ay", s->ay, "çalışma ayı (verilmezse bu ay)")->check(CLI::Range(1, 12));
+  ac->callback([&genel, s] { SirketiAc(genel, *s); });
+
+  auto* liste = app.add_subcommand("sirketler", "Data dizinindeki şirketleri dönemleriyle listeler");
+  auto json = std::make_shared<bool>(false);
+  liste->add_flag("--json", *json, "JSON olarak");
+  liste->callback([&genel, json] { SirketleriYaz(genel, *json); });
+}
+
+}  // namespace belvani::cli

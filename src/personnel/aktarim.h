@@ -1,0 +1,41 @@
+// Bringing records in from CSV files: people with their identity, families, and the company's definitions.
+//
+// The header row names stored fields. Every cell is checked first and every problem is told with row, column and
+// reason; when there is one, nothing is saved. All rows are one transaction.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/session/oturum.h"
+#include "core/sonuc.h"
+
+namespace belvani {
+
+enum class AktarimKipi { Kaydet, YalnizDene };
+
+struct AktarimSorunu {
+  int satirNo = 0;
+  std::string kolon;   // "" when it concerns the row
+  std::string neden;
+};
+
+struct AktarimSonucu {
+  int eklenen = 0;
+  int degisen = 0;
+  std::vector<AktarimSorunu> sorunlar;   // not empty: nothing was saved
+};
+
+// Fields of `sicil` and `kimlik`, key `kod`. A person who is known already is changed in the columns of the file alone;
+// a new one needs a hire date and gets his identity record (nationality "T.C." unless told).
+Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, std::string_view csv, AktarimKipi kip);
+
+// Fields of `esco`, `kod` being the employee, who must exist. The file is the whole family of each person in it: what
+// the store had for him goes.
+Sonuc<AktarimSonucu> AileAktar(Oturum& o, std::string_view csv, AktarimKipi kip);
+
+// Fields of one definition table: `firma` (its one record), `muaf`, `indir`, `sendika` or `kaztan` (by their key).
+Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, std::string_view csv, AktarimKipi kip);
+
+}  // namespace belvani

@@ -1,0 +1,39 @@
+// The checked cells of an import file: every column found in the schema, every cell a value of its column.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/csv.h"
+#include "core/tables/tablolar.h"
+#include "personnel/aktarim.h"
+
+namespace belvani {
+
+struct AktarimKolonu {
+  const TabloTanimi* tablo = nullptr;  // first of the file's tables that has the field
+  const AlanTanimi* alan = nullptr;
+};
+
+struct AktarimSatiri {
+  int satirNo = 0;
+  std::vector<Deger> degerler;         // one for each column
+};
+
+struct AktarimDosyasi {
+  std::vector<AktarimKolonu> kolonlar;
+  std::vector<AktarimSatiri> satirlar;
+  std::vector<AktarimSorunu> sorunlar;
+
+  int KolonSirasi(std::string_view alan) const;                       // -1: not in the file
+  std::string Metin(const AktarimSatiri& satir, std::string_view alan) const;  // "" when not in the file
+};
+
+// `tablolar`: whose fields the header may name. `anahtar` must be a column, filled and different in every row unless
+// `tekrarEder`.
+enum class AnahtarKurali { Tekil, TekrarEder };
+Sonuc<AktarimDosyasi> AktarimDosyasiOku(std::string_view csv, const std::vector<const TabloTanimi*>& tablolar,
+                                        std::string_view anahtar, AnahtarKurali kural);
+
+}  // namespace belvani
