@@ -1,0 +1,9 @@
+#!/bin/sh
+# Runs every benchmark of a build three times and prints the medians.
+#   bench/olc.sh BUILD_DIRECTORY
+set -eu
+for olcum in hesap depo hazirlik; do
+  echo "== $olcum"
+  "$1/bench/bench_$olcum" --benchmark_repetitions=3 --benchmark_report_aggregates_only=true 2>/dev/null |
+    grep -E 'Benchmark|_median'
+done

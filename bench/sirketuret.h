@@ -1,0 +1,33 @@
+// Companies of any size for measuring: people of all kinds in fixed proportions, the same on every run.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "core/session/oturum.h"
+#include "payroll/hazirlik/hazirlik.h"
+
+namespace belvani::bench {
+
+// Deletes its directory when it goes.
+class Sirket {
+ public:
+  // `kisi` people, and pay records of the `aySayisi` months before `yil`/`ay`.
+  Sirket(int kisi, int yil, int ay, int aySayisi);
+  ~Sirket();
+  Sirket(const Sirket&) = delete;
+  Sirket& operator=(const Sirket&) = delete;
+
+  Oturum o;
+  Kosullar kosullar;
+
+ private:
+  std::string dizin_;
+};
+
+Sicil OrnekKisi(int sira);
+
+// Exemption rules, deductions, flags and a union, so that no rule is idle.
+void TamKurallar(Kosullar& kosullar);
+
+}  // namespace belvani::bench
