@@ -31,14 +31,15 @@ void JsondanKayit(const Json& nesne, const std::string& yer, Kayit& kayit, std::
     kusurlar.push_back(yer + ": nesne olmalı");
     return;
   }
-  for (const auto& [ad, json] : nesne.items()) {
+  for (auto uye = nesne.begin(); uye != nesne.end(); ++uye) {
+    const std::string uyeninYeri = yer + "." + uye.key();
     bool bulundu = false;
     Kayit::HerKolon([&](const auto& kolon) {
-      if (kolon.ad != ad) return;
+      if (kolon.ad != uye.key()) return;
       bulundu = true;
-      UyeyeYaz(kayit.*kolon.uye, JsonDegeri(kolon, json, yer + "." + ad, kusurlar));
+      UyeyeYaz(kayit.*kolon.uye, JsonDegeri(kolon, uye.value(), uyeninYeri, kusurlar));
     });
-    if (!bulundu) kusurlar.push_back(yer + "." + ad + ": böyle bir alan yok");
+    if (!bulundu) kusurlar.push_back(uyeninYeri + ": böyle bir alan yok");
   }
 }
 
