@@ -2,8 +2,10 @@
 # Runs every benchmark of a build three times and prints the medians.
 #   bench/olc.sh BUILD_DIRECTORY
 set -eu
+cd "$(dirname "$0")/.."
 for olcum in hesap depo hazirlik; do
   echo "== $olcum"
   "$1/bench/bench_$olcum" --benchmark_repetitions=3 --benchmark_report_aggregates_only=true 2>/dev/null |
     grep -E 'Benchmark|_median'
 done
+bench/oldur.sh "$1"

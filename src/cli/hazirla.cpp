@@ -7,6 +7,7 @@
 
 #include "cli/giris.h"
 #include "cli/ortak.h"
+#include "payroll/parametre/mevzuat.h"
 
 namespace belvani::cli {
 namespace {
@@ -35,6 +36,8 @@ void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
   auto yasal = YasalParametreleriAl(o->DataPath);
   auto kosullar = KosullariYukle(*o, Degeri(yasal), s.donem.yil, s.donem.ay);
   Degeri(kosullar);
+  if (const std::string uyari = DonemUyusmazligi(*yasal, s.donem.yil, s.donem.ay); !uyari.empty())
+    genel.bildirim.Uyari("Uyarı: " + uyari);
   const auto girisler = s.giris.empty() ? std::vector<GirisSatiri>() : GirisListesiOku(DosyayiOku(s.giris), s.giris);
   TerminalIlerlemesi ilerleme;
   auto sonuc = TopluHazirla(*o, *kosullar, girisler, &ilerleme);

@@ -22,16 +22,32 @@ void TurkceYap(CLI::App& app) {
   app.option_defaults()->group("Seçenekler");
 }
 
-std::string KullanimHatasi(const CLI::ParseError& h) {
-  const std::string ad = h.get_name();
+std::string Degistir(std::string metin, std::string_view eski, std::string_view yeni) {
+  if (const auto i = metin.find(eski); i != std::string::npos) metin.replace(i, eski.size(), yeni);
+  return metin;
+}
+
+template <class Tur>
+bool TuruMu(const CLI::ParseError& h) {
+  return dynamic_cast<const Tur*>(&h) != nullptr;
+}
+
+// The library's fault in Turkish: what was wrong, with the word that was.
+std::string KullanimKusuru(const CLI::ParseError& h) {
   const std::string ayrinti = h.what();
-  const char* metin = ad == "RequiredError"      ? "gerekli bir değer verilmemiş"
-                      : ad == "ExtrasError"      ? "tanınmayan bir değer var"
-                      : ad == "ConversionError"  ? "sayı olması gereken bir değer sayı değil"
-                      : ad == "ValidationError"  ? "kabul edilmeyen bir değer var"
-                      : ad == "ArgumentMismatch" ? "bir seçeneğin değeri eksik"
-                                                 : "komut satırı anlaşılmadı";
-  return std::string("Yanlış kullanım: ") + metin + " [" + ayrinti + "]\nYardım için: belvani-cli KOMUT --help\n";
+  if (TuruMu<CLI::RequiredError>(h)) return Degistir(ayrinti, " is required", " verilmemiş");
+  if (TuruMu<CLI::ExtrasError>(h))
+    return "tanınmayan değer:" + ayrinti.substr(std::min(ayrinti.size(), ayrinti.find(':') + 1));
+  if (TuruMu<CLI::ArgumentMismatch>(h))
+    return ayrinti.substr(0, ayrinti.find(':')) + " seçeneğinin değeri verilmemiş";
+  if (TuruMu<CLI::ValidationError>(h))
+    return Degistir(ayrinti, " not in ", " olamaz, şunlardan biri olmalı: ");
+  return ayrinti;
+}
+
+int YanlisKullanimiBildir(const std::string& kusur) {
+  std::cerr << "Yanlış kullanım: " << kusur << "\nYardım için: belvani-cli --help, belvani-cli KOMUT --help\n";
+  return YanlisKullanim;
 }
 
 int Calistir(int argc, char** argv) {
@@ -40,7 +56,7 @@ int Calistir(int argc, char** argv) {
   TurkceYap(app);
   app.set_help_flag("-h,--help", "bu yardımı gösterir");
   app.add_option("--veri", genel.veri, "data dizini (verilmezse kurulumun data dizini)");
-  app.require_subcommand(1);
+  app.require_subcommand(0, 1);
   app.set_version_flag("--version", "Belvani 2003.7", "programın sürümünü gösterir");
   for (const KomutEkle ekle : {SirketKomutlari, ParametreKomutlari, AktarimKomutlari, HazirlaKomutlari, HesaplaKomutu,
                                BordroKomutu})
@@ -48,14 +64,14 @@ int Calistir(int argc, char** argv) {
   for (CLI::App* komut : app.get_subcommands({})) komut->group("Komutlar");
   try {
     app.parse(argc, argv);
+    if (app.get_subcommands().empty()) return YanlisKullanimiBildir("komut verilmemiş");
     std::cout.flush();
     if (std::cout) return 0;
     std::cerr << "Çıktı yazılamadı\n";
     return Basarisiz;
   } catch (const CLI::ParseError& h) {
     if (h.get_exit_code() == 0) return app.exit(h);
-    std::cerr << KullanimHatasi(h);
-    return YanlisKullanim;
+    return YanlisKullanimiBildir(KullanimKusuru(h));
   } catch (const KomutHatasi& h) {
     std::cout.flush();
     std::cerr << h.metin << '\n';

@@ -43,9 +43,28 @@ Donem DonemOku(const std::string& metin) {
   return {gun.Yil(), gun.Ay()};
 }
 
+CLI::Option* SayiSecenegi(CLI::App& komut, const char* ad, const char* aciklama, int& deger, int enAz, int enCok) {
+  const auto oku = [&deger, ad, enAz, enCok](const std::string& metin) {
+    const auto sayi = TamSayiOku(metin);
+    if (!sayi || *sayi < enAz || *sayi > enCok)
+      throw CLI::ValidationError(ad, std::to_string(enAz) + " ile " + std::to_string(enCok) +
+                                         " arasında bir sayı olmalı: " + metin);
+    deger = int(*sayi);
+  };
+  return komut.add_option_function<std::string>(ad, oku, aciklama)->type_name("SAYI");
+}
+
+CLI::Option* YilSecenegi(CLI::App& komut, int& yil, const char* aciklama) {
+  return SayiSecenegi(komut, "--yil", aciklama, yil, IlkYil, SonYil);
+}
+
+CLI::Option* AySecenegi(CLI::App& komut, int& ay, const char* aciklama) {
+  return SayiSecenegi(komut, "--ay", aciklama, ay, 1, 12);
+}
+
 void DonemSecenekleri(CLI::App& komut, Donem& donem) {
-  komut.add_option("--yil", donem.yil, "bordro yılı")->required()->check(CLI::Range(IlkYil, SonYil));
-  komut.add_option("--ay", donem.ay, "bordro ayı, 1-12")->required()->check(CLI::Range(1, 12));
+  YilSecenegi(komut, donem.yil, "bordro yılı")->required();
+  AySecenegi(komut, donem.ay, "bordro ayı, 1-12")->required();
 }
 
 void Basarmali(const Durum& durum) {

@@ -48,6 +48,8 @@ struct Donem {
   int ay = 0;
 };
 Donem DonemOku(const std::string& metin);                     // "2009-07"
+CLI::Option* YilSecenegi(CLI::App& komut, int& yil, const char* aciklama);
+CLI::Option* AySecenegi(CLI::App& komut, int& ay, const char* aciklama);
 void DonemSecenekleri(CLI::App& komut, Donem& donem);         // --yil, --ay
 
 template <class T>

@@ -1,4 +1,4 @@
-// sirket-ac, sirketler
+// sirket-ac, sirketler, denetle
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
 #include "core/dosya.h"
@@ -29,10 +29,10 @@ void SirketiAc(Genel& genel, const SirketAcSecenekleri& s) {
 }
 
 struct SirketBilgisi {
-  std::string kod, unvan, donem, kusur;
+  std::string kod, unvan, donem;
 };
 
-SirketBilgisi SirketiOku(Genel& genel, const std::string& dataPath, const std::string& kod) {
+SirketBilgisi SirketiOku(const std::string& dataPath, const std::string& kod) {
   Oturum o;
   o.DataPath = dataPath;
   // A directory without a sound store is listed with its own words, and the list goes on.
@@ -41,10 +41,9 @@ SirketBilgisi SirketiOku(Genel& genel, const std::string& dataPath, const std::s
     void Uyari(std::string_view) override {}
     bool Soru(std::string_view) override { return false; }
   } sessiz;
-  (void)genel;
-  if (!belvani::SirketAc(o, kod, sessiz) || !FirmaYukle(o)) return {kod, "Database'e Ulaşılamadı", "", o.depo.db.SonHata()};
+  if (!belvani::SirketAc(o, kod, sessiz) || !FirmaYukle(o)) return {kod, "Database'e Ulaşılamadı", ""};
   const std::string ay = std::to_string(o.firmaay);
-  return {kod, o.unvan, (ay.size() < 2 ? "0" + ay : ay) + "-" + std::to_string(o.firmayil), ""};
+  return {kod, o.unvan, (ay.size() < 2 ? "0" + ay : ay) + "-" + std::to_string(o.firmayil)};
 }
 
 void SirketleriYaz(Genel& genel, bool json) {
@@ -52,11 +51,18 @@ void SirketleriYaz(Genel& genel, bool json) {
   Json dizi = Json::array();
   std::string metin;
   for (const auto& kod : Sirketler(dataPath)) {
-    const SirketBilgisi s = SirketiOku(genel, dataPath, kod);
+    const SirketBilgisi s = SirketiOku(dataPath, kod);
     dizi.push_back({{"kod", s.kod}, {"unvan", s.unvan}, {"donem", s.donem}});
     metin += s.kod + "\t" + s.unvan + "\t" + s.donem + "\n";
   }
   Yaz(json ? dizi.dump(2) + "\n" : metin);
+}
+
+void Denetle(Genel& genel, const std::string& kod) {
+  const auto o = genel.SirketAc(kod);
+  if (const std::string kusur = o->depo.db.IcMotor().ButunlukKusuru(); !kusur.empty())
+    throw KomutHatasi{"Veritabanı bozuk: " + kusur};
+  Yaz("Veritabanı sağlam: " + o->FirmaKod + "\n");
 }
 
 }  // namespace
@@ -68,14 +74,19 @@ void SirketKomutlari(CLI::App& app, Genel& genel) {
   ac->add_option("--kullanici", s->kullanici, "ilk kullanıcının adı")->required();
   ac->add_option("--sifre", s->sifre, "ilk kullanıcının şifresi (verilmezse boş)");
   ac->add_option("--unvan", s->unvan, "şirketin ünvanı");
-  ac->add_option("--yil", s->yil, "çalışma yılı (verilmezse bu yıl)")->check(CLI::Range(1990, 2100));
-  ac->add_option("--ay", s->ay, "çalışma ayı (verilmezse bu ay)")->check(CLI::Range(1, 12));
+  YilSecenegi(*ac, s->yil, "çalışma yılı (verilmezse bu yıl)");
+  AySecenegi(*ac, s->ay, "çalışma ayı (verilmezse bu ay)");
   ac->callback([&genel, s] { SirketiAc(genel, *s); });
 
   auto* liste = app.add_subcommand("sirketler", "Data dizinindeki şirketleri dönemleriyle listeler");
   auto json = std::make_shared<bool>(false);
   liste->add_flag("--json", *json, "JSON olarak");
   liste->callback([&genel, json] { SirketleriYaz(genel, *json); });
+
+  auto* denetle = app.add_subcommand("denetle", "Şirketin veritabanını baştan sona okuyup sağlamlığını denetler");
+  auto kod = std::make_shared<std::string>();
+  denetle->add_option("KOD", *kod, "şirket")->required();
+  denetle->callback([&genel, kod] { Denetle(genel, *kod); });
 }
 
 }  // namespace belvani::cli

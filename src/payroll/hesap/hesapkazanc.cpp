@@ -98,8 +98,9 @@ void Hesap<I>::Yardimlar() {
     const YardimTanimi& tanim = (*g_.yardimlar)[i];
     MatrahlaraEkle(bayraklar, tutar);
     if (bayraklar & bayrak::Muaf) {
-      k_.muaftutar = MuafHesapla({tutar, tanim, k_.ng, sskGun_, g_.aile.cocuk, yasal_.SskTaban}, k_.muaftutar, yuvarla_);
-      if (tutar != Tutar())
+      const Tutar onceki = k_.muaftutar;
+      k_.muaftutar = MuafHesapla({tutar, tanim, k_.ng, sskGun_, g_.aile.cocuk, yasal_.SskTaban}, onceki, yuvarla_);
+      if (tutar != Tutar() || k_.muaftutar != onceki)
         izle_([&] {
           return IzAdimi("muaftutar", "SSK'dan muaf tutar: " + tanim.adi + " satırının muafiyet şekli uygulanır (taban "
                          "günlüğü ile sınırlı)",

@@ -16,7 +16,6 @@ namespace fs = std::filesystem;
 constexpr std::size_t EnCokOkunan = 1u << 20;
 constexpr std::size_t EnAzKanunBoyu = 72;  // the four built-in rows
 constexpr std::size_t EnAzFazlaMesaiBoyu = 9;
-constexpr Tutar EnAzAgiTaban = Tutar::Hamdan(100 * Tutar::Olcek);
 
 struct OkunanDosya {
   std::string baytlar = {};
@@ -106,9 +105,8 @@ AgiTablosu VarsayilanAgi(Tutar asgariUcret, Tek cocuk4) {
 }
 
 AgiTablosu AgiYukle(Yukleyici& y, Tutar asgariUcret, Tek cocuk4) {
-  AgiTablosu agi = y.AlYaDaYaz<AgiKaydi>(VarsayilanAgi(asgariUcret, cocuk4), "hazır oranlar yazıldı.");
-  if (agi.AgiTaban < EnAzAgiTaban) agi.AgiTaban = asgariUcret;
-  return agi;
+  const auto hazir = VarsayilanAgi(asgariUcret, cocuk4);
+  return AgiTabaniIle(y.AlYaDaYaz<AgiKaydi>(hazir, "hazır oranlar yazıldı."), asgariUcret);
 }
 
 std::string KanunBaytlari(const Kanunlar& kanunlar) {

@@ -129,7 +129,8 @@ AgiTablosu AgiOku(const Json& donem, Lira lira) {
 }
 
 YasalParametreler DonemOku(const Json& donem, Lira lira) {
-  return {OranlariOku(donem, lira), GvOku(Uye(donem, "gelirVergisi"), lira), AgiOku(donem, lira),
+  const YasalOranlar oranlar = OranlariOku(donem, lira);
+  return {oranlar, GvOku(Uye(donem, "gelirVergisi"), lira), AgiTabaniIle(AgiOku(donem, lira), oranlar.AsgariUcret),
           VarsayilanHesapTurleri(), VarsayilanKanunlar()};
 }
 
@@ -166,6 +167,17 @@ Sonuc<YasalParametreler> MevzuatYukle(const std::string& dizin, int yil, int ay,
   } catch (const MevzuatKusuru& kusur) {
     return Hata{donemAdi + " yasal parametreleri okunamadı (" + ad + "): " + kusur.metin};
   }
+}
+
+std::string DonemUyusmazligi(const YasalParametreler& kurulu, int yil, int ay) {
+  std::string yayimlanan;
+  for (const Lira lira : {Lira::Yeni, Lira::Eski}) {
+    const auto donem = MevzuatYukle(MevzuatDizini(), yil, ay, lira);
+    if (!donem || donem->oranlar.AsgariUcret == kurulu.oranlar.AsgariUcret) return {};
+    if (yayimlanan.empty()) yayimlanan = TutarMetni(donem->oranlar.AsgariUcret, 2);
+  }
+  return "Kurulu parametreler " + std::string(AyAdi(ay)) + " " + std::to_string(yil) +
+         " döneminin değil: asgari ücret " + TutarMetni(kurulu.oranlar.AsgariUcret, 2) + ", yayımlanan " + yayimlanan;
 }
 
 std::string MevzuatDizini() {

@@ -93,6 +93,12 @@ Sablon VarsayilanSablon() {
   return sablon;
 }
 
+AgiTablosu AgiTabaniIle(AgiTablosu agi, Tutar asgariUcret) {
+  constexpr Tutar EnAzTaban = Tutar::Hamdan(100 * Tutar::Olcek);
+  if (agi.AgiTaban < EnAzTaban) agi.AgiTaban = asgariUcret;
+  return agi;
+}
+
 int UygulamaBul(const Kanunlar& kanunlar, int ay, int yil) {
   const Tarih ilkGun(yil, ay, 1);
   if (ilkGun.Bos()) return 0;

@@ -144,6 +144,9 @@ struct YasalParametreler {
   Kanunlar kanunlar;
 };
 
+// The allowance as the rules read it: a base below 100 stands for none, and the minimum wage takes its place.
+AgiTablosu AgiTabaniIle(AgiTablosu agi, Tutar asgariUcret);
+
 // Built-in tables, used where a file is absent or broken.
 HesapTurleri VarsayilanHesapTurleri();
 Kanunlar VarsayilanKanunlar();

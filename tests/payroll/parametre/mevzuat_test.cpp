@@ -62,7 +62,7 @@ TEST(Mevzuat, EveryMonthIsSane) {
         EXPECT_GT(o.SakatIndirim[2], Tutar()) << donem;
         TarifeSaglam(p.gv, lira, donem);
         EXPECT_EQ(p.agi.AgiKendisi.Sayi(), yil < 2008 ? 0 : 50) << donem;
-        EXPECT_EQ(p.agi.AgiTaban, yil < 2008 ? Tutar() : Yukle(yil, 1, lira).oranlar.AsgariUcret) << donem;
+        EXPECT_EQ(p.agi.AgiTaban, Yukle(yil, yil < 2008 ? ay : 1, lira).oranlar.AsgariUcret) << donem;
         EXPECT_EQ(Toplam(o.IsciOran[0]), 14) << donem;
         EXPECT_EQ(Toplam(o.IsverenOran[0]) + (yil * 12 + ay < 2008 * 12 + 10 ? 1.5 : 1), 19.5)
             << donem << ": the lowest class pays 19.5 in both eras";

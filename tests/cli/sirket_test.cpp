@@ -1,0 +1,179 @@
+// A company's road on the command line: opened, filled, prepared, printed, damaged.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "calistir.h"
+
+namespace belvani {
+namespace {
+
+using test::Cikti;
+using test::Komut;
+using testing::AllOf;
+using testing::HasSubstr;
+
+// A company with three people and the parameters of July 2009.
+struct Sirket : Komut {
+  Sirket() {
+    Tamam("sirket-ac deneme --kullanici ayşe --unvan 'Şık Örgü' --yil 2009 --ay 7");
+    Tamam("parametre-kur --donem 2009-07");
+    Yaz("p.csv",
+        "kod;adi;soyadi;ucret;girtar;agi;tcno;sskno\n"
+        "001;Işıl;Çağlar;1000;01.01.2009;1;10000000146;34-1\n"
+        "002;Gökçe;Şahin;2,500.50;01.01.2009;0;;\n"
+        "003;İnci;Öztürk;700;20.07.2009;1;;\n");
+    Tamam("personel-al deneme @p.csv");
+  }
+  std::string Tamam(const std::string& degerler) const {
+    const Cikti c = (*this)(degerler);
+    EXPECT_EQ(c.durum, 0) << degerler << ": " << c.mesaj;
+    return c.cikti;
+  }
+  std::string Hata(const std::string& degerler) const {
+    const Cikti c = (*this)(degerler);
+    EXPECT_EQ(c.durum, 1) << degerler << ": " << c.cikti;
+    return c.mesaj;
+  }
+};
+
+TEST(Sirket, FromOpeningToTheLedger) {
+  const Sirket s;
+  EXPECT_EQ(s.Tamam("sirketler"), "DENEME\tŞık Örgü\t07-2009\n");
+  EXPECT_THAT(s.Hata("sirket-ac Deneme --kullanici b"), HasSubstr("Bu adda bir şirket var: DENEME"));
+  EXPECT_THAT(s.Tamam("hazirla DENEME --yil 2009 --ay 7"), HasSubstr("3 kişi kaydedildi, 0 kişi dönem dışı"));
+  EXPECT_THAT(s.Tamam("bordro deneme --yil 2009 --ay 7"),
+              AllOf(HasSubstr("HİZMET ERBABI ÜCRET BORDROSU"), HasSubstr("Işıl Çağlar"), HasSubstr("2,500.50"),
+                    HasSubstr("Toplam Personel : ")));
+
+  // The ledger in the three forms holds the same people and the same gross.
+  const auto j = s("bordro deneme --yil 2009 --ay 7 --bicim json").Json();
+  ASSERT_EQ(j.size(), 3u);
+  EXPECT_EQ(j[2]["ng"], 12);
+  EXPECT_EQ(j[2]["brutkaz"], "280.00");
+  s.Tamam("bordro deneme --yil 2009 --ay 7 --bicim csv -o @b.csv");
+  for (const auto& kayit : j) EXPECT_THAT(s.Oku("b.csv"), HasSubstr("," + kayit["brutkaz"].get<std::string>() + ","));
+
+  EXPECT_EQ(s("hazirla deneme --yil 2009 --ay 08").mesaj, "");
+  EXPECT_THAT(s("hazirla deneme --yil 2009 --ay 06").mesaj,
+              HasSubstr("asgari ücret 693.00, yayımlanan 666.00")) << "parameters of another half year";
+  EXPECT_THAT(s.Tamam("bordro-sil deneme --yil 2009 --ay 7"), HasSubstr("3 kayıt"));
+  EXPECT_EQ(s.Tamam("bordro deneme --yil 2009 --ay 7 --bicim json"), "[]\n");
+  EXPECT_THAT(s.Tamam("denetle deneme"), HasSubstr("sağlam"));
+}
+
+TEST(Sirket, EntriesComeFromAFile) {
+  const Sirket s;
+  s.Yaz("g.csv", "kod,ng,ht,fm1,yrd01,eksiksebebi,borckes\n002,20,3,4.5,150,7,10\n001,30,,,,,\n");
+  s.Tamam("hazirla deneme --yil 2009 --ay 7 --giris @g.csv");
+  const auto j = s("bordro deneme --yil 2009 --ay 7 --bicim json").Json();
+  EXPECT_EQ(j[0]["ng"], 30);
+  EXPECT_EQ(j[0]["ht"], 0) << "an empty cell is entered as zero";
+  EXPECT_EQ(j[1]["fm1"], 4.5);
+  EXPECT_EQ(j[1]["ucretsizizin"], 8);
+  EXPECT_EQ(j[1]["borckes"], "10.00");
+  EXPECT_EQ(j[2]["ng"], 12) << "who is not in the file follows the template";
+
+  s.Yaz("g.csv", "kod,ng,fm1,para\n001,31,241,1\n,5,-1,\n002,x,,\n");
+  EXPECT_THAT(s.Hata("hazirla deneme --yil 2009 --ay 7 --giris @g.csv"),
+              AllOf(HasSubstr("satır 1, para: giriş listesinde böyle bir alan olamaz"),
+                    HasSubstr("satır 2, ng: en çok 30 olabilir"), HasSubstr("satır 2, fm1: en çok 240 olabilir"),
+                    HasSubstr("satır 3, kod: boş bırakılamaz"), HasSubstr("satır 3, fm1: eksi olamaz"),
+                    HasSubstr("satır 4, ng: 0 ile 255 arasında")));
+}
+
+TEST(Sirket, ImportsTellEveryFaultAndSaveNothing) {
+  const Sirket s;
+  s.Yaz("p.csv",
+        "kod,adi,ucret,girtar,cins,yok\n"
+        "004,Ad,12;5,01.01.2009,0,\n"
+        "005,BuİsimYirmiHarftenUzundur,5,31.02.2009,2,\n"
+        "004,Ad,5,,0,\n");
+  EXPECT_THAT(s.Hata("personel-al deneme @p.csv"),
+              AllOf(HasSubstr("hiçbir kayıt alınmadı"), HasSubstr("satır 1, yok: böyle bir alan yok"),
+                    HasSubstr("satır 2, ucret: sayı olmalı"), HasSubstr("satır 3, adi: en çok 20 harf"),
+                    HasSubstr("satır 3, girtar: gg.aa.yyyy"), HasSubstr("satır 3, cins: 0 ile 1 arasında"),
+                    HasSubstr("satır 4, kod: dosyada iki kez var")));
+  s.Yaz("p.csv", "kod,ucret\n006,5\n");
+  EXPECT_THAT(s.Hata("personel-al deneme @p.csv"), HasSubstr("satır 2, girtar: Giriş Tarihi Hatalı"));
+
+  s.Yaz("p.csv", "kod,ucret,girtar,uyruk\n001,1100,01.01.2009,\n007,5,01.01.2009,T.C.\n");
+  EXPECT_THAT(s.Tamam("personel-al deneme @p.csv --dene"), HasSubstr("1 kayıt eklendi, 1 kayıt değişti (deneme"));
+  s.Yaz("a.csv", "kod,yakinlik,agiok\n007,1,1\n");
+  EXPECT_THAT(s.Hata("aile-al deneme @a.csv"), HasSubstr("satır 2, kod: bu kodla personel yok: 007"));
+
+  s.Tamam("personel-al deneme @p.csv");
+  s.Tamam("aile-al deneme @a.csv");
+  EXPECT_THAT(s.Tamam("aile-al deneme @a.csv"), HasSubstr("1 kayıt eklendi")) << "again, and the family is not doubled";
+  s.Yaz("p.csv", "kod,agi\n7,1\n007,1\n");
+  EXPECT_THAT(s.Hata("personel-al deneme @p.csv"), HasSubstr("satır 2, girtar")) << "7 is not 007";
+  s.Yaz("p.csv", "kod,agi,ucret\n007,1,2000\n");
+  s.Tamam("personel-al deneme @p.csv");
+  s.Tamam("hazirla deneme --yil 2009 --ay 7");
+  EXPECT_EQ(s("bordro deneme --yil 2009 --ay 7 --bicim json").Json()[3]["ogv"], "59.94") << "spouse counted once";
+}
+
+TEST(Sirket, DefinitionsAreTakenByTheirKey) {
+  const Sirket s;
+  s.Yaz("k.csv", "grup,k1,k2,y1\nPersonel,15,15,15\nUsta,7,15,0\n");
+  EXPECT_THAT(s.Tamam("tanim-al deneme kaztan @k.csv"), HasSubstr("2 kayıt eklendi"));
+  EXPECT_THAT(s.Tamam("tanim-al deneme kaztan @k.csv"), HasSubstr("2 kayıt değişti"));
+  s.Yaz("f.csv", "verda,issaati\nŞişli,7.5\n");
+  s.Tamam("tanim-al deneme firma @f.csv");
+  EXPECT_EQ(s.Tamam("sirketler"), "DENEME\tŞık Örgü\t07-2009\n") << "what the file does not name stays";
+  EXPECT_THAT(s.Hata("tanim-al deneme peruser @f.csv"), HasSubstr("bu tabloya dosyadan alınamaz"));
+}
+
+TEST(Kullanim, IsToldInTurkishWithStatusTwo) {
+  const Komut komut;
+  for (const char* degerler : {"", "yok", "hazirla", "hazirla a --yil 2009", "hazirla a --yil 2009 --ay 13",
+                               "bordro a --yil 2009 --ay 1 --bicim pdf", "sirketler --olmaz"}) {
+    const Cikti c = komut(degerler);
+    EXPECT_EQ(c.durum, 2) << degerler;
+    EXPECT_THAT(c.mesaj, HasSubstr("Yanlış kullanım")) << degerler;
+  }
+  EXPECT_THAT(komut("--help").cikti, AllOf(HasSubstr("Kullanım:"), HasSubstr("hazirla"), HasSubstr("hesapla")));
+  EXPECT_EQ(komut("hesapla --help").durum, 0);
+  for (const char* ad : {"../kacak", "a/b", "..", "' '"})
+    EXPECT_EQ(komut(std::string("sirket-ac ") + ad + " --kullanici a").durum, 1) << ad;
+  EXPECT_THAT(komut("bordro yok --yil 2009 --ay 1").mesaj, HasSubstr("Şirket Bulunamadı: YOK"));
+}
+
+// Garbage in any file: told, status 1, and the file stays as it is.
+TEST(Sirket, BrokenFilesAreToldAndKept) {
+  const Sirket s;
+  const std::string hazirla = "hazirla deneme --yil 2009 --ay 7";
+  s.Tamam(hazirla);
+  const std::pair<const char*, const char*> dosyalar[] = {
+      {"veri/yasal2.dat", "yasal2.dat"}, {"veri/gvtbl.dat", "gvtbl.dat"},   {"veri/agitbl.dat", "agitbl.dat"},
+      {"veri/hestur.dat", "hestur.dat"}, {"veri/kanun.dat", "kanun.dat"},   {"veri/DENEME/sablon.dat", "sablon.dat"},
+      {"veri/DENEME/kazanc.dat", "kazanc.dat"}, {"veri/DENEME/tolu.dat", "Dosya bozuk veya bir şirket veritabanı değil"}};
+  for (const auto& [dosya, mesaj] : dosyalar) {
+    const std::string eski = s.Oku(dosya);
+    s.Yaz(dosya, "çöp");
+    for (int kez = 0; kez < 2; ++kez) EXPECT_THAT(s.Hata(hazirla), HasSubstr(mesaj)) << dosya;
+    EXPECT_EQ(s.Oku(dosya), "çöp") << dosya;
+    s.Yaz(dosya, eski);
+  }
+  s.Tamam(hazirla);
+  EXPECT_THAT(s.Hata("bordro deneme --yil 2009 --ay 7 -o /dev/full/x"), HasSubstr("dosya yazılamadı"));
+  EXPECT_THAT(s.Hata("sirketler >/dev/full"), HasSubstr("Çıktı yazılamadı"));
+}
+
+// No output depends on the locale of the environment.
+TEST(Sirket, SpeaksTheSameInEveryLocale) {
+  const Sirket s;
+  s.Tamam("hazirla deneme --yil 2009 --ay 7");
+  std::system(("localedef -i tr_TR -f UTF-8 " + s.dizin.Yol() + "tr_TR.UTF-8 2>/dev/null; localedef -i de_DE -f UTF-8 " +
+               s.dizin.Yol() + "de_DE.UTF-8 2>/dev/null").c_str());
+  const std::string girdi = R"({"donem":{"yil":2009,"ay":7},"sicil":{"ucret":"1,250.55","agi":1},"giris":{"ng":30,"fm1":1.5}})";
+  for (const char* komut : {"bordro deneme --yil 2009 --ay 7", "bordro deneme --yil 2009 --ay 7 --bicim csv",
+                            "bordro deneme --yil 2009 --ay 7 --bicim json", "parametre", "hesapla --iz"}) {
+    const std::string c = s(komut, girdi, "LC_ALL=C").cikti;
+    EXPECT_FALSE(c.empty());
+    for (const char* dil : {"tr_TR.UTF-8", "de_DE.UTF-8"})
+      EXPECT_EQ(s(komut, girdi, "LOCPATH=" + s.dizin.Yol() + " LC_ALL=" + dil).cikti, c) << dil << " " << komut;
+  }
+}
+
+}  // namespace
+}  // namespace belvani
