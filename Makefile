@@ -35,9 +35,8 @@ fuzz:
 
 lint:
 	tools/deps.sh lint
-	cmake --preset dev
-	cmake --build --preset dev -j $(JOBS)
-	tools/lint.sh build/dev
+	cmake --preset lint
+	tools/lint.sh build/lint
 
 deps:
 	@tools/deps.sh

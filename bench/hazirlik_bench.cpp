@@ -1,5 +1,5 @@
-// A month of a whole company end to end (load, calculate, save, commit with synchronous=FULL), new and over a saved one,
-// for several sizes; one person in a store of 120,000 pay records.
+// A month of a whole company end to end (load, calculate, save, commit with synchronous=FULL), new and over a saved
+// one, for several sizes; one person in a store of 120,000 pay records.
 #include <benchmark/benchmark.h>
 
 #include "sirketuret.h"
@@ -33,8 +33,18 @@ void BirKisi(benchmark::State& durum) {
   }
 }
 
-BENCHMARK_CAPTURE(Toplu, yeni, false)->Unit(benchmark::kMillisecond)->Arg(1'000)->Arg(10'000)->Arg(50'000)->UseRealTime();
-BENCHMARK_CAPTURE(Toplu, ustune, true)->Unit(benchmark::kMillisecond)->Arg(1'000)->Arg(10'000)->Arg(50'000)->UseRealTime();
+BENCHMARK_CAPTURE(Toplu, yeni, false)
+    ->Unit(benchmark::kMillisecond)
+    ->Arg(1'000)
+    ->Arg(10'000)
+    ->Arg(50'000)
+    ->UseRealTime();
+BENCHMARK_CAPTURE(Toplu, ustune, true)
+    ->Unit(benchmark::kMillisecond)
+    ->Arg(1'000)
+    ->Arg(10'000)
+    ->Arg(50'000)
+    ->UseRealTime();
 BENCHMARK(BirKisi)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

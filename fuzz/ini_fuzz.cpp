@@ -12,6 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* veri, std::size_t boy)
   const std::string dosya = dizin.Yol() + "a.ini";
   if (!DosyaYaz(dosya, {reinterpret_cast<const char*>(veri), boy})) std::abort();
   (void)IniOku("Bordro", "Brdizin", "", dosya);
-  if (IniYaz("Bordro", "Brdizin", "ığüşöç 1", dosya) && IniOku("Bordro", "Brdizin", "", dosya) != "ığüşöç 1") std::abort();
+  if (IniYaz("Bordro", "Brdizin", "ığüşöç 1", dosya) && IniOku("Bordro", "Brdizin", "", dosya) != "ığüşöç 1")
+    std::abort();
   return 0;
 }

@@ -1,7 +1,6 @@
 // Runs the tests of one room: a fixed time zone, and settings that never touch the machine's own.
-#include <gmock/gmock.h>
-
 #include <cstdlib>
+#include <gmock/gmock.h>
 
 #include "gecici.h"
 

@@ -29,6 +29,8 @@ class GeciciDizin {
 };
 
 // A file of the project, shipped data for instance: KaynakYolu("data/mevzuat/").
-inline std::string KaynakYolu(const std::string& goreli) { return std::string(BELVANI_KAYNAK) + "/" + goreli; }
+inline std::string KaynakYolu(const std::string& goreli) {
+  return std::string(BELVANI_KAYNAK) + "/" + goreli;
+}
 
 }  // namespace belvani::test

@@ -1,4 +1,4 @@
-// Processes of a test. A store must not be open in the test while it starts one.
+// Processes of a test. No store may be open in the test while it starts one.
 #pragma once
 
 #include <csignal>
@@ -6,6 +6,7 @@
 #include <functional>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace belvani::test {
 
@@ -19,14 +20,12 @@ class Surec {
   ~Surec() {
     if (no_ > 0) Oldur();
   }
-  Surec(Surec&& s) noexcept : no_(s.no_) { s.no_ = 0; }
-  Surec& operator=(Surec&&) = delete;
+  Surec(Surec&& s) noexcept : no_(std::exchange(s.no_, 0)) {}
 
   // The number with which it ended; -1 when it was killed.
   int Bekle() {
     int durum = 0;
-    ::waitpid(no_, &durum, 0);
-    no_ = 0;
+    ::waitpid(std::exchange(no_, 0), &durum, 0);
     return WIFEXITED(durum) ? WEXITSTATUS(durum) : -1;
   }
   void Oldur() {
@@ -44,20 +43,12 @@ class Kapi {
   Kapi() {
     if (::pipe(uc_) != 0) std::abort();
   }
-  ~Kapi() {
-    ::close(uc_[0]);
-    ::close(uc_[1]);
-  }
-  Kapi(const Kapi&) = delete;
-  Kapi& operator=(const Kapi&) = delete;
-
-  void Ac() {
+  void Ac() const {
     if (::write(uc_[1], "", 1) != 1) std::abort();
   }
-  void Bekle() {
+  void Bekle() const {
     char bos = 0;
-    while (::read(uc_[0], &bos, 1) < 0) {
-    }
+    if (::read(uc_[0], &bos, 1) != 1) std::abort();
   }
 
  private:

@@ -43,24 +43,20 @@ void AktarimKomutlari(CLI::App& app, Genel& genel) {
   auto p = std::make_shared<AktarimSecenekleri>();
   auto* personel = Komut(app, "personel-al", "Personel ve kimlik bilgilerini (sicil, kimlik) dosyadan alır", *p);
   Dosya(*personel, *p);
-  personel->callback([&genel, p] {
-    SonucuYaz(*p, PersonelAktar(*genel.SirketAc(p->kod), DosyayiOku(p->dosya), p->Kip()));
-  });
+  personel->callback(
+      [&genel, p] { SonucuYaz(*p, PersonelAktar(*genel.SirketAc(p->kod), DosyayiOku(p->dosya), p->Kip())); });
 
   auto a = std::make_shared<AktarimSecenekleri>();
   auto* aile = Komut(app, "aile-al", "Eş ve çocukları (esco) alır; dosyadaki kişilerin eski kayıtları silinir", *a);
   Dosya(*aile, *a);
-  aile->callback([&genel, a] {
-    SonucuYaz(*a, AileAktar(*genel.SirketAc(a->kod), DosyayiOku(a->dosya), a->Kip()));
-  });
+  aile->callback([&genel, a] { SonucuYaz(*a, AileAktar(*genel.SirketAc(a->kod), DosyayiOku(a->dosya), a->Kip())); });
 
   auto t = std::make_shared<AktarimSecenekleri>();
   auto* tanim = Komut(app, "tanim-al", "Şirketin tanımlarını alır: firma, muaf, indir, sendika veya kaztan", *t);
   tanim->add_option("TABLO", t->tablo, "tablonun adı")->required();
   Dosya(*tanim, *t);
-  tanim->callback([&genel, t] {
-    SonucuYaz(*t, TanimAktar(*genel.SirketAc(t->kod), t->tablo, DosyayiOku(t->dosya), t->Kip()));
-  });
+  tanim->callback(
+      [&genel, t] { SonucuYaz(*t, TanimAktar(*genel.SirketAc(t->kod), t->tablo, DosyayiOku(t->dosya), t->Kip())); });
 }
 
 }  // namespace belvani::cli

@@ -1,5 +1,7 @@
 #include "cli/giris.h"
 
+#include <algorithm>
+
 #include "cli/ortak.h"
 #include "core/csv.h"
 #include "core/tables/uye.h"
@@ -64,8 +66,10 @@ std::vector<GirisSatiri> GirisListesiOku(const std::string& csv, const std::stri
     giris.satirNo = satir.satirNo;
     for (std::size_t i = 0; i < basliklar.size(); ++i) {
       std::string kusur;
-      if (basliklar[i] == "kod") giris.kod = Kirp(satir.hucreler[i]);
-      else if (const AlanTanimi* alan = GirisAlani(basliklar[i])) HucreIsle(*alan, satir.hucreler[i], giris, kusur);
+      if (basliklar[i] == "kod")
+        giris.kod = Kirp(satir.hucreler[i]);
+      else if (const AlanTanimi* alan = GirisAlani(basliklar[i]))
+        HucreIsle(*alan, satir.hucreler[i], giris, kusur);
       if (!kusur.empty()) kusurYaz(satir.satirNo, basliklar[i], kusur);
     }
     if (giris.kod.empty()) kusurYaz(satir.satirNo, "kod", "boş bırakılamaz");

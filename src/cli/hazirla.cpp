@@ -1,12 +1,10 @@
 // hazirla, bordro-sil
-#include "payroll/hazirlik/hazirlik.h"
-
-#include <unistd.h>
-
 #include <iostream>
+#include <unistd.h>
 
 #include "cli/giris.h"
 #include "cli/ortak.h"
+#include "payroll/hazirlik/hazirlik.h"
 #include "payroll/parametre/mevzuat.h"
 
 namespace belvani::cli {

@@ -1,5 +1,7 @@
 #include "cli/hesapgirdisi.h"
 
+#include <algorithm>
+
 #include "cli/giris.h"
 #include "core/tables/esco.h"
 #include "core/tables/firma.h"
@@ -35,7 +37,8 @@ std::vector<Kayit> Satirlar(const Json& nesne, const char* ad, Kusurlar& kusurla
     return satirlar;
   }
   for (const Json& satir : dizi)
-    JsondanKayit(satir, std::string(ad) + "[" + std::to_string(satirlar.size()) + "]", satirlar.emplace_back(), kusurlar);
+    JsondanKayit(satir, std::string(ad) + "[" + std::to_string(satirlar.size()) + "]", satirlar.emplace_back(),
+                 kusurlar);
   return satirlar;
 }
 
@@ -71,9 +74,9 @@ void DiziOku(const Json& json, const char* ad, std::size_t enCok, Uydur&& uydur,
     return;
   }
   for (std::size_t i = 0; i < N; ++i)
-    uydur(i, i < dizi.size() ? JsonDegeri({ad, tip, 0, AlanNiteligi::Serbest}, dizi[i],
-                                          "parametre." + std::string(ad), kusurlar)
-                             : Deger(Null{}));
+    uydur(i, i < dizi.size()
+                 ? JsonDegeri({ad, tip, 0, AlanNiteligi::Serbest}, dizi[i], "parametre." + std::string(ad), kusurlar)
+                 : Deger(Null{}));
 }
 
 // Rows by branch number, "1" to "32": {"1": {"ana": 0, "has": 5, …}}.
@@ -102,9 +105,9 @@ void ParametreleriOku(const Json& p, YasalParametreler& yasal, int& uygulama, Ku
   if (p.is_null()) return;
   if (!p.is_object()) return kusurlar.push_back("parametre: nesne olmalı");
   YasalOranlar& y = yasal.oranlar;
-  const std::pair<const char*, Tutar*> tutarlar[] = {{"AsgariUcret", &y.AsgariUcret}, {"SskTaban", &y.SskTaban},
-                                                     {"SskTavan", &y.SskTavan},       {"KidemTavan", &y.KidemTavan},
-                                                     {"MuafTavan", &y.MuafTavan},     {"AgiTaban", &yasal.agi.AgiTaban}};
+  const std::pair<const char*, Tutar*> tutarlar[] = {
+      {"AsgariUcret", &y.AsgariUcret}, {"SskTaban", &y.SskTaban},   {"SskTavan", &y.SskTavan},
+      {"KidemTavan", &y.KidemTavan},   {"MuafTavan", &y.MuafTavan}, {"AgiTaban", &yasal.agi.AgiTaban}};
   const std::pair<const char*, Tek*> oranlar[] = {
       {"DamgaOran", &y.DamgaOran},           {"MuafOran", &y.MuafOran},
       {"AgiKendisi", &yasal.agi.AgiKendisi}, {"AgiEsi", &yasal.agi.AgiEsi},
@@ -114,12 +117,15 @@ void ParametreleriOku(const Json& p, YasalParametreler& yasal, int& uygulama, Ku
     if (p.contains(ad)) *tutar = TutarDegeri(Tekli(p, ad, AlanTipi::Tutar, kusurlar));
   for (const auto& [ad, oran] : oranlar)
     if (p.contains(ad)) *oran = Tek(SayiDegeri(Tekli(p, ad, AlanTipi::Tek, kusurlar)));
-  DiziOku<3>(p, "SakatIndirim", 3, [&](std::size_t i, const Deger& d) { y.SakatIndirim[i] = TutarDegeri(d); },
-             AlanTipi::Tutar, kusurlar);
-  DiziOku<8>(p, "GvLimit", 8, [&](std::size_t i, const Deger& d) { yasal.gv.GvLimit[i] = TutarDegeri(d); },
-             AlanTipi::Tutar, kusurlar);
-  DiziOku<8>(p, "GvOran", 8, [&](std::size_t i, const Deger& d) { yasal.gv.GvOran[i] = Tek(SayiDegeri(d)); },
-             AlanTipi::Tek, kusurlar);
+  DiziOku<3>(
+      p, "SakatIndirim", 3, [&](std::size_t i, const Deger& d) { y.SakatIndirim[i] = TutarDegeri(d); }, AlanTipi::Tutar,
+      kusurlar);
+  DiziOku<8>(
+      p, "GvLimit", 8, [&](std::size_t i, const Deger& d) { yasal.gv.GvLimit[i] = TutarDegeri(d); }, AlanTipi::Tutar,
+      kusurlar);
+  DiziOku<8>(
+      p, "GvOran", 8, [&](std::size_t i, const Deger& d) { yasal.gv.GvOran[i] = Tek(SayiDegeri(d)); }, AlanTipi::Tek,
+      kusurlar);
   OranlariOku(p, "IsciOran", y.IsciOran, kusurlar);
   OranlariOku(p, "IsverenOran", y.IsverenOran, kusurlar);
   if (p.contains("uygulama")) uygulama = int(TamDegeri(Tekli(p, "uygulama", AlanTipi::Kisa, kusurlar)));
@@ -160,12 +166,16 @@ void FirmaTanimlariniOku(const Json& json, HesapGirdisi& h) {
   f.mesailer = VarsayilanFazlaMesailer();
   f.yardimlar = VarsayilanYardimlar();
   for (const Muaf& m : Satirlar<Muaf>(json, "muaf", h.kusurlar)) {
-    if (m.no < 1 || m.no > YardimSayisi) h.kusurlar.push_back("muaf.no: 1 ile 11 arasında olmalı");
-    else f.yardimlar[m.no - 1u] = {m.adi, m.indtip, m.oran, m.sabit};
+    if (m.no < 1 || m.no > YardimSayisi)
+      h.kusurlar.push_back("muaf.no: 1 ile 11 arasında olmalı");
+    else
+      f.yardimlar[m.no - 1u] = {m.adi, m.indtip, m.oran, m.sabit};
   }
   for (Indir& i : Satirlar<Indir>(json, "indir", h.kusurlar)) {
-    if (i.no < 1 || i.no > f.indirimler.size()) h.kusurlar.push_back("indir.no: 1 ile 3 arasında olmalı");
-    else f.indirimler[i.no - 1u] = std::move(i);
+    if (i.no < 1 || i.no > f.indirimler.size())
+      h.kusurlar.push_back("indir.no: 1 ile 3 arasında olmalı");
+    else
+      f.indirimler[i.no - 1u] = std::move(i);
   }
   f.sendikalar = Satirlar<Sendika>(json, "sendika", h.kusurlar);
 }
@@ -206,8 +216,8 @@ void GirisiOku(const Json& json, HesapGirdisi& h) {
 
 void BilinmeyenleriBildir(const Json& json, HesapGirdisi& h) {
   static constexpr std::string_view bilinen[] = {
-      "donem", "sicil",  "esco",   "giris",   "devgvmatrah", "devgvtutar", "calismagun", "firma",  "muaf",
-      "indir", "sendika", "kaztan", "parametre", "eskilira",   "toind1",     "toind2",     "toind3"};
+      "donem", "sicil",   "esco",   "giris",     "devgvmatrah", "devgvtutar", "calismagun", "firma", "muaf",
+      "indir", "sendika", "kaztan", "parametre", "eskilira",    "toind1",     "toind2",     "toind3"};
   for (const auto& [ad, deger] : json.items())
     if (std::find(std::begin(bilinen), std::end(bilinen), ad) == std::end(bilinen))
       h.uyarilar.push_back(ad + ": bilinmeyen alan, kullanılmadı");
@@ -240,8 +250,7 @@ BordroGirdi HesapGirdisi::Girdi() const {
   for (const auto& kolon : MesaiKolonlari) g.giris.*kolon.uye = Tek();
   for (const auto& kolon : YardimKolonlari) g.giris.*kolon.uye = Tutar();
   Brd::HerKolon([&](const auto& kolon) {
-    if (std::find(verilen.begin(), verilen.end(), kolon.ad) != verilen.end())
-      g.giris.*kolon.uye = giris.*kolon.uye;
+    if (std::find(verilen.begin(), verilen.end(), kolon.ad) != verilen.end()) g.giris.*kolon.uye = giris.*kolon.uye;
   });
   return g;
 }

@@ -12,10 +12,10 @@ namespace belvani::cli {
 struct HesapGirdisi {
   KisiVerisi kisi;
   Kosullar kosullar;
-  Brd giris;                             // entered values
-  std::vector<std::string> verilen;      // names of the entered columns
+  Brd giris;                         // entered values
+  std::vector<std::string> verilen;  // names of the entered columns
   int CalismaGun = 30;
-  std::vector<std::string> kusurlar;     // not empty: nothing can be calculated
+  std::vector<std::string> kusurlar;  // not empty: nothing can be calculated
   std::vector<std::string> uyarilar;
 
   // The person as he comes onto the screen, with the entered values. *this must outlive it.

@@ -32,7 +32,8 @@ Json BirHesap(Genel& genel, const Json& girdi, bool izli) {
   try {
     const BordroSonucu s = BordroHesapla(g, nullptr, izli ? &iz : nullptr);
     if (s.gunFazla)
-      return {{"hata", "Bu Personel " + std::to_string(g.CalismaGun) + " Gün Çalışmış, Çalışma Gününü Fazla Girmişiniz"}};
+      return {
+          {"hata", "Bu Personel " + std::to_string(g.CalismaGun) + " Gün Çalışmış, Çalışma Gününü Fazla Girmişiniz"}};
     Json sonuc = Json::object();
     KayitJson(s.brd, sonuc);
     sonuc["SskGun"] = s.SskGun;

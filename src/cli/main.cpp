@@ -13,9 +13,8 @@ constexpr int YanlisKullanim = 2;
 void TurkceYap(CLI::App& app) {
   auto bicim = std::make_shared<CLI::Formatter>();
   const std::pair<const char*, const char*> sozcukler[] = {
-      {"Usage", "Kullanım"}, {"OPTIONS", "SEÇENEKLER"}, {"SUBCOMMAND", "KOMUT"}, {"SUBCOMMANDS", "KOMUTLAR"},
-      {"REQUIRED", "(gerekli)"}, {"TEXT", "METİN"}, {"INT", "SAYI"},
-      {"POSITIONALS", "DEĞERLER"}};
+      {"Usage", "Kullanım"},     {"OPTIONS", "SEÇENEKLER"}, {"SUBCOMMAND", "KOMUT"}, {"SUBCOMMANDS", "KOMUTLAR"},
+      {"REQUIRED", "(gerekli)"}, {"TEXT", "METİN"},         {"INT", "SAYI"},         {"POSITIONALS", "DEĞERLER"}};
   for (const auto& [ingilizce, turkce] : sozcukler) bicim->label(ingilizce, turkce);
   bicim->column_width(28);
   app.formatter(bicim);
@@ -38,10 +37,8 @@ std::string KullanimKusuru(const CLI::ParseError& h) {
   if (TuruMu<CLI::RequiredError>(h)) return Degistir(ayrinti, " is required", " verilmemiş");
   if (TuruMu<CLI::ExtrasError>(h))
     return "tanınmayan değer:" + ayrinti.substr(std::min(ayrinti.size(), ayrinti.find(':') + 1));
-  if (TuruMu<CLI::ArgumentMismatch>(h))
-    return ayrinti.substr(0, ayrinti.find(':')) + " seçeneğinin değeri verilmemiş";
-  if (TuruMu<CLI::ValidationError>(h))
-    return Degistir(ayrinti, " not in ", " olamaz, şunlardan biri olmalı: ");
+  if (TuruMu<CLI::ArgumentMismatch>(h)) return ayrinti.substr(0, ayrinti.find(':')) + " seçeneğinin değeri verilmemiş";
+  if (TuruMu<CLI::ValidationError>(h)) return Degistir(ayrinti, " not in ", " olamaz, şunlardan biri olmalı: ");
   return ayrinti;
 }
 
@@ -58,8 +55,8 @@ int Calistir(int argc, char** argv) {
   app.add_option("--veri", genel.veri, "data dizini (verilmezse kurulumun data dizini)");
   app.require_subcommand(0, 1);
   app.set_version_flag("--version", "Belvani 2003.7", "programın sürümünü gösterir");
-  for (const KomutEkle ekle : {SirketKomutlari, ParametreKomutlari, AktarimKomutlari, HazirlaKomutlari, HesaplaKomutu,
-                               BordroKomutu})
+  for (const KomutEkle ekle :
+       {SirketKomutlari, ParametreKomutlari, AktarimKomutlari, HazirlaKomutlari, HesaplaKomutu, BordroKomutu})
     ekle(app, genel);
   for (CLI::App* komut : app.get_subcommands({})) komut->group("Komutlar");
   try {

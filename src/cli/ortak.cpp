@@ -15,8 +15,12 @@ constexpr int SonYil = 2100;
 
 }  // namespace
 
-void StandartHata::Bilgi(std::string_view metin) { std::cerr << metin << '\n'; }
-void StandartHata::Uyari(std::string_view metin) { std::cerr << metin << '\n'; }
+void StandartHata::Bilgi(std::string_view metin) {
+  std::cerr << metin << '\n';
+}
+void StandartHata::Uyari(std::string_view metin) {
+  std::cerr << metin << '\n';
+}
 bool StandartHata::Soru(std::string_view metin) {
   std::cerr << metin << " (hayır)\n";
   return false;
@@ -47,8 +51,8 @@ CLI::Option* SayiSecenegi(CLI::App& komut, const char* ad, const char* aciklama,
   const auto oku = [&deger, ad, enAz, enCok](const std::string& metin) {
     const auto sayi = TamSayiOku(metin);
     if (!sayi || *sayi < enAz || *sayi > enCok)
-      throw CLI::ValidationError(ad, std::to_string(enAz) + " ile " + std::to_string(enCok) +
-                                         " arasında bir sayı olmalı: " + metin);
+      throw CLI::ValidationError(
+          ad, std::to_string(enAz) + " ile " + std::to_string(enCok) + " arasında bir sayı olmalı: " + metin);
     deger = int(*sayi);
   };
   return komut.add_option_function<std::string>(ad, oku, aciklama)->type_name("SAYI");

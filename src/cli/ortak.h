@@ -25,7 +25,7 @@ class StandartHata : public Bildirim {
 
 // Options of the program itself.
 struct Genel {
-  std::string veri;   // --veri
+  std::string veri;  // --veri
   StandartHata bildirim;
 
   // The data path: --veri, else the machine's setting.
@@ -47,10 +47,10 @@ struct Donem {
   int yil = 0;
   int ay = 0;
 };
-Donem DonemOku(const std::string& metin);                     // "2009-07"
+Donem DonemOku(const std::string& metin);  // "2009-07"
 CLI::Option* YilSecenegi(CLI::App& komut, int& yil, const char* aciklama);
 CLI::Option* AySecenegi(CLI::App& komut, int& ay, const char* aciklama);
-void DonemSecenekleri(CLI::App& komut, Donem& donem);         // --yil, --ay
+void DonemSecenekleri(CLI::App& komut, Donem& donem);  // --yil, --ay
 
 template <class T>
 T& Degeri(Sonuc<T>& sonuc) {
@@ -59,8 +59,8 @@ T& Degeri(Sonuc<T>& sonuc) {
 }
 void Basarmali(const Durum& durum);
 
-std::string DosyayiOku(const std::string& yol);               // or KomutHatasi
-std::string GirdiyiOku();                                     // standard input to its end
+std::string DosyayiOku(const std::string& yol);  // or KomutHatasi
+std::string GirdiyiOku();                        // standard input to its end
 
 // To standard output, or whole into the file when one is named.
 void Yaz(const std::string& metin, const std::string& dosya = {});

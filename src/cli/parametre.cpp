@@ -27,7 +27,11 @@ void ParametreleriKur(Genel& genel, const KurSecenekleri& s) {
 }
 
 Json OranJson(const OranSatiri& o) {
-  return {{"ana", o.ana.Sayi()}, {"has", o.has.Sayi()}, {"mal", o.mal.Sayi()}, {"sgdp", o.sgdp.Sayi()}, {"isz", o.isz.Sayi()}};
+  return {{"ana", o.ana.Sayi()},
+          {"has", o.has.Sayi()},
+          {"mal", o.mal.Sayi()},
+          {"sgdp", o.sgdp.Sayi()},
+          {"isz", o.isz.Sayi()}};
 }
 
 Json ParametreJson(const YasalParametreler& p) {
@@ -37,10 +41,10 @@ Json ParametreJson(const YasalParametreler& p) {
                                                     {"SskTavan", y.SskTavan},       {"KidemTavan", y.KidemTavan},
                                                     {"MuafTavan", y.MuafTavan},     {"AgiTaban", p.agi.AgiTaban}};
   for (const auto& [ad, tutar] : tutarlar) j[ad] = OndalikMetin(tutar);
-  const std::pair<const char*, Tek> oranlar[] = {
-      {"DamgaOran", y.DamgaOran},         {"MuafOran", y.MuafOran},         {"AgiKendisi", p.agi.AgiKendisi},
-      {"AgiEsi", p.agi.AgiEsi},           {"AgiCocuk12", p.agi.AgiCocuk12}, {"AgiCocuk3", p.agi.AgiCocuk3},
-      {"AgiCocuk4", p.agi.AgiCocuk4}};
+  const std::pair<const char*, Tek> oranlar[] = {{"DamgaOran", y.DamgaOran},       {"MuafOran", y.MuafOran},
+                                                 {"AgiKendisi", p.agi.AgiKendisi}, {"AgiEsi", p.agi.AgiEsi},
+                                                 {"AgiCocuk12", p.agi.AgiCocuk12}, {"AgiCocuk3", p.agi.AgiCocuk3},
+                                                 {"AgiCocuk4", p.agi.AgiCocuk4}};
   for (const auto& [ad, oran] : oranlar) j[ad] = oran.Sayi();
   for (const Tutar t : y.SakatIndirim) j["SakatIndirim"].push_back(OndalikMetin(t));
   for (std::size_t i = 0; i < p.gv.GvLimit.size(); ++i) {
@@ -66,7 +70,8 @@ std::string ParametreMetni(const Json& j) {
   for (const auto& [ad, deger] : j.items()) {
     if (ad == "dallar" || ad == "kanun") continue;
     metin += ad + std::string(ad.size() < 14 ? 14 - ad.size() : 1, ' ');
-    if (!deger.is_array()) metin += (deger.is_string() ? deger.get<std::string>() : deger.dump());
+    if (!deger.is_array())
+      metin += (deger.is_string() ? deger.get<std::string>() : deger.dump());
     else
       for (const auto& e : deger) metin += (e.is_string() ? e.get<std::string>() : e.dump()) + "  ";
     metin += "\n";

@@ -1,8 +1,9 @@
 // sirket-ac, sirketler, denetle
+#include "core/session/sirket.h"
+
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
 #include "core/dosya.h"
-#include "core/session/sirket.h"
 
 namespace belvani::cli {
 namespace {

@@ -10,9 +10,9 @@ namespace belvani {
 class Bildirim {
  public:
   virtual ~Bildirim() = default;
-  virtual void Bilgi(std::string_view metin) = 0;   // a broken rule, something done
-  virtual void Uyari(std::string_view metin) = 0;   // a failed write, a risk
-  virtual bool Soru(std::string_view metin) = 0;    // true: yes
+  virtual void Bilgi(std::string_view metin) = 0;  // a broken rule, something done
+  virtual void Uyari(std::string_view metin) = 0;  // a failed write, a risk
+  virtual bool Soru(std::string_view metin) = 0;   // true: yes
 };
 
 // Something long that its caller may show and stop: called with how much of the whole is done; false cancels.

@@ -64,8 +64,7 @@ bool BosMu(const CsvSatiri& satir) {
 std::string BaslikKusuru(const std::vector<std::string>& basliklar) {
   for (std::size_t i = 0; i < basliklar.size(); ++i) {
     if (basliklar[i].empty()) return std::to_string(i + 1) + ". sütunun başlığı yok";
-    if (std::count(basliklar.begin(), basliklar.end(), basliklar[i]) > 1)
-      return "başlık iki kez var: " + basliklar[i];
+    if (std::count(basliklar.begin(), basliklar.end(), basliklar[i]) > 1) return "başlık iki kez var: " + basliklar[i];
   }
   return {};
 }

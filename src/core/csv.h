@@ -11,7 +11,7 @@
 namespace belvani {
 
 struct CsvSatiri {
-  int satirNo = 0;                     // line of the file on which the row starts, from 1
+  int satirNo = 0;  // line of the file on which the row starts, from 1
   std::vector<std::string> hucreler;
 };
 

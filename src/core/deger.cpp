@@ -15,30 +15,24 @@ Her(F...) -> Her<F...>;
 }  // namespace
 
 std::string MetinDegeri(const Deger& d) {
-  return std::visit(Her{[](const std::string& s) { return s; },
-                        [](std::int64_t n) { return std::to_string(n); },
-                        [](double n) { return SayiMetni(n); },
-                        [](Tutar t) { return OndalikMetin(t); },
-                        [](Tarih t) { return t.Metin(); },
-                        [](bool b) { return std::string(b ? "1" : "0"); },
+  return std::visit(Her{[](const std::string& s) { return s; }, [](std::int64_t n) { return std::to_string(n); },
+                        [](double n) { return SayiMetni(n); }, [](Tutar t) { return OndalikMetin(t); },
+                        [](Tarih t) { return t.Metin(); }, [](bool b) { return std::string(b ? "1" : "0"); },
                         [](const auto&) { return std::string(); }},
                     d);
 }
 
 std::int64_t TamDegeri(const Deger& d) {
-  return std::visit(Her{[](std::int64_t n) { return n; },
-                        [](bool b) { return std::int64_t(b); },
+  return std::visit(Her{[](std::int64_t n) { return n; }, [](bool b) { return std::int64_t(b); },
                         [](const auto&) { return std::int64_t(0); }},
                     d);
 }
 
 double SayiDegeri(const Deger& d) {
-  return std::visit(Her{[](std::int64_t n) { return double(n); },
-                        [](double n) { return n; },
-                        [](Tutar t) { return t.Sayi(); },
-                        [](bool b) { return double(b); },
-                        [](const auto&) { return 0.0; }},
-                    d);
+  return std::visit(
+      Her{[](std::int64_t n) { return double(n); }, [](double n) { return n; }, [](Tutar t) { return t.Sayi(); },
+          [](bool b) { return double(b); }, [](const auto&) { return 0.0; }},
+      d);
 }
 
 Tutar TutarDegeri(const Deger& d) {
@@ -51,6 +45,8 @@ Tarih TarihDegeri(const Deger& d) {
   return t == nullptr ? Tarih() : *t;
 }
 
-bool MantikDegeri(const Deger& d) { return SayiDegeri(d) != 0; }
+bool MantikDegeri(const Deger& d) {
+  return SayiDegeri(d) != 0;
+}
 
 }  // namespace belvani

@@ -18,7 +18,7 @@ struct Hata {
 template <class T = std::monostate>
 class [[nodiscard]] Sonuc {
  public:
-  Sonuc(T deger) : icerik_(std::move(deger)) {}       // NOLINT: a value is a result
+  Sonuc(T deger) : icerik_(std::move(deger)) {}            // NOLINT: a value is a result
   Sonuc(belvani::Hata hata) : icerik_(std::move(hata)) {}  // NOLINT: so is a failure
 
   explicit operator bool() const { return icerik_.index() == 0; }
@@ -36,6 +36,8 @@ class [[nodiscard]] Sonuc {
 };
 
 using Durum = Sonuc<>;
-inline Durum Tamam() { return std::monostate{}; }
+inline Durum Tamam() {
+  return std::monostate{};
+}
 
 }  // namespace belvani

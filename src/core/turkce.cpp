@@ -89,10 +89,11 @@ icu::UnicodeString Utf16(std::string_view utf8) {
 constexpr std::array<std::uint8_t, 256> YalinSiralar = [] {
   std::array<std::uint8_t, 256> siralar{};
   std::uint8_t sira = 0;
-  for (char c = '0'; c <= '9'; ++c) siralar[std::size_t(c)] = ++sira;
-  for (char c = 'A'; c <= 'Z'; ++c) {
-    siralar[std::size_t(c)] = ++sira;
-    siralar[std::size_t(c - 'A' + 'a')] = c == 'I' ? ++sira : sira;
+  for (std::size_t c = '0'; c <= '9'; ++c) siralar[c] = ++sira;
+  constexpr std::size_t KucukFarki = 'a' - 'A';
+  for (std::size_t c = 'A'; c <= 'Z'; ++c) {
+    siralar[c] = ++sira;
+    siralar[c + KucukFarki] = c == 'I' ? ++sira : sira;
   }
   return siralar;
 }();

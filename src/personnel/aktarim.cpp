@@ -1,5 +1,7 @@
 #include "personnel/aktarim.h"
 
+#include <algorithm>
+
 #include "personnel/hucreler.h"
 
 namespace belvani {
@@ -114,8 +116,8 @@ void TanimYaz(Depo& depo, const TanimTablosu& tanim, const AktarimDosyasi& dosya
   Imlec& rs = depo.*tanim.rs;
   const int anahtar = dosya.KolonSirasi(tanim.anahtar);
   for (const auto& satir : dosya.satirlar) {
-    const bool var = tanim.anahtar.empty() ? rs.IlkKayit()
-                                           : rs.KayitBul(tanim.anahtar, satir.degerler[std::size_t(anahtar)]);
+    const bool var =
+        tanim.anahtar.empty() ? rs.IlkKayit() : rs.KayitBul(tanim.anahtar, satir.degerler[std::size_t(anahtar)]);
     var ? rs.KayitDuzelt() : rs.KayitEkle();
     AlanlariYaz(rs, *TabloBul(tanim.ad), dosya, satir);
     Yaz(rs, satir.satirNo);

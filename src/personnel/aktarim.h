@@ -17,14 +17,14 @@ enum class AktarimKipi { Kaydet, YalnizDene };
 
 struct AktarimSorunu {
   int satirNo = 0;
-  std::string kolon;   // "" when it concerns the row
+  std::string kolon;  // "" when it concerns the row
   std::string neden;
 };
 
 struct AktarimSonucu {
   int eklenen = 0;
   int degisen = 0;
-  std::vector<AktarimSorunu> sorunlar;   // not empty: nothing was saved
+  std::vector<AktarimSorunu> sorunlar;  // not empty: nothing was saved
 };
 
 // Fields of `sicil` and `kimlik`, key `kod`. A person who is known already is changed in the columns of the file alone;

@@ -25,7 +25,8 @@ constexpr ListeSiniri ListeSinirlari[] = {
 
 std::string SinirKusuru(const AktarimKolonu& kolon, const Deger& deger) {
   for (const auto& s : ListeSinirlari)
-    if (s.tablo == kolon.tablo->ad && s.alan == kolon.alan->ad && (SayiDegeri(deger) < 0 || SayiDegeri(deger) > double(s.enCok)))
+    if (s.tablo == kolon.tablo->ad && s.alan == kolon.alan->ad &&
+        (SayiDegeri(deger) < 0 || SayiDegeri(deger) > double(s.enCok)))
       return "0 ile " + std::to_string(s.enCok) + " arasında olmalı";
   const bool ucret = kolon.alan->ad == "ucret" || kolon.alan->ad.starts_with("indtut");
   return ucret && SayiDegeri(deger) < 0 ? "eksi olamaz" : "";

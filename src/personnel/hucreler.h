@@ -18,7 +18,7 @@ struct AktarimKolonu {
 
 struct AktarimSatiri {
   int satirNo = 0;
-  std::vector<Deger> degerler;         // one for each column
+  std::vector<Deger> degerler;  // one for each column
 };
 
 struct AktarimDosyasi {
@@ -26,7 +26,7 @@ struct AktarimDosyasi {
   std::vector<AktarimSatiri> satirlar;
   std::vector<AktarimSorunu> sorunlar;
 
-  int KolonSirasi(std::string_view alan) const;                       // -1: not in the file
+  int KolonSirasi(std::string_view alan) const;                                // -1: not in the file
   std::string Metin(const AktarimSatiri& satir, std::string_view alan) const;  // "" when not in the file
 };
 

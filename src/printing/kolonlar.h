@@ -64,7 +64,8 @@ class Kolonlar {
  public:
   struct Tanim {
     template <class Okur>
-    Tanim(KolonBasligi baslik, int en, Okur okur, KolonNiteligi nitelikler = KolonNiteligi::Yok)
+    Tanim(KolonBasligi baslik, int en, Okur okur,  // NOLINT: the head is moved from
+          KolonNiteligi nitelikler = KolonNiteligi::Yok)
         : kolon{.baslik = std::move(baslik.uzun),
                 .kisaBaslik = std::move(baslik.kisa),
                 .en = en,

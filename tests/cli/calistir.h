@@ -14,8 +14,8 @@ namespace belvani::test {
 
 struct Cikti {
   int durum = 0;
-  std::string cikti;   // standard output
-  std::string mesaj;   // standard error
+  std::string cikti;  // standard output
+  std::string mesaj;  // standard error
 
   nlohmann::json Json() const { return nlohmann::json::parse(cikti); }
 };

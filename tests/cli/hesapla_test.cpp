@@ -11,7 +11,8 @@ using test::Cikti;
 using test::Komut;
 using testing::HasSubstr;
 
-constexpr const char* TamAy = R"({"donem":{"yil":2009,"ay":7},"sicil":{"ucret":1000,"agi":true},"giris":{"ng":26,"ht":4}})";
+constexpr const char* TamAy =
+    R"({"donem":{"yil":2009,"ay":7},"sicil":{"ucret":1000,"agi":true},"giris":{"ng":26,"ht":4}})";
 
 TEST(Hesapla, GivesEveryAmountByItsStoredName) {
   const Komut komut;
@@ -19,10 +20,11 @@ TEST(Hesapla, GivesEveryAmountByItsStoredName) {
   EXPECT_EQ(c.durum, 0) << c.mesaj;
   const auto j = c.Json();
   // 1000 − 140 − 10 = 850 taxed at 15 %; allowance 666 × 50 % × 15 %; duty 6 per thousand.
-  const std::pair<const char*, const char*> beklenen[] = {
-      {"brutkaz", "1000.00"}, {"sskkesinti", "140.00"}, {"issizisci", "10.00"}, {"gvmatrah", "850.00"},
-      {"gvtutar", "127.50"},  {"dvtutar", "6.00"},      {"ogv", "49.95"},       {"NetOdenen", "766.45"},
-      {"issizisveren", "20.00"}, {"sskkesintiisveren", "195.00"}};
+  const std::pair<const char*, const char*> beklenen[] = {{"brutkaz", "1000.00"},    {"sskkesinti", "140.00"},
+                                                          {"issizisci", "10.00"},    {"gvmatrah", "850.00"},
+                                                          {"gvtutar", "127.50"},     {"dvtutar", "6.00"},
+                                                          {"ogv", "49.95"},          {"NetOdenen", "766.45"},
+                                                          {"issizisveren", "20.00"}, {"sskkesintiisveren", "195.00"}};
   for (const auto& [ad, deger] : beklenen) EXPECT_EQ(j.at(ad), deger) << ad;
   EXPECT_EQ(j.at("sskisverenor"), 19.5);
   EXPECT_EQ(j.at("SskGun"), 30);
@@ -40,23 +42,31 @@ TEST(Hesapla, ReadsAllThatMayBeGiven) {
   const Durum durumlar[] = {
       {"amount as text", R"("sicil":{"ucret":"1,250.50"},"giris":{"ng":30})", "brutkaz", "1250.50"},
       {"carried base", R"("sicil":{"ucret":1000},"giris":{"ng":30},"devgvmatrah":"8700")", "gvtutar", "170.00"},
-      {"family", R"("sicil":{"ucret":1000,"agi":1},"giris":{"ng":30},"esco":[{"yakinlik":1,"agiok":1},{"yakinlik":4,"agiok":1}])",
+      {"family",
+       R"("sicil":{"ucret":1000,"agi":1},"giris":{"ng":30},"esco":[{"yakinlik":1,"agiok":1},{"yakinlik":4,"agiok":1}])",
        "ogv", "67.43"},
-      {"daily hours", R"("sicil":{"ucret":4,"ucretags":2},"giris":{"ng":30},"firma":{"issaati":7.5})", "brutkaz", "900.00"},
-      {"hazard", R"("sicil":{"ucret":1000},"giris":{"ng":30},"firma":{"tehlike":2,"sinif":1})", "sskkesintiisveren", "202.00"},
+      {"daily hours", R"("sicil":{"ucret":4,"ucretags":2},"giris":{"ng":30},"firma":{"issaati":7.5})", "brutkaz",
+       "900.00"},
+      {"hazard", R"("sicil":{"ucret":1000},"giris":{"ng":30},"firma":{"tehlike":2,"sinif":1})", "sskkesintiisveren",
+       "202.00"},
       {"decimals", R"("sicil":{"ucret":1000.4},"giris":{"ng":30},"firma":{"paraonda":0})", "sskkesinti", "140.00"},
       {"flags", R"("sicil":{"ucret":1000},"giris":{"ng":30,"yrd03":100},"kaztan":{"y3":2})", "sskmatrah", "1100.00"},
-      {"exemption", R"("sicil":{"ucret":1000},"giris":{"ng":30,"yrd03":100},"kaztan":{"y3":18},"muaf":[{"no":3,"indtip":5,"sabit":40}])",
+      {"exemption",
+       R"("sicil":{"ucret":1000},"giris":{"ng":30,"yrd03":100},"kaztan":{"y3":18},"muaf":[{"no":3,"indtip":5,"sabit":40}])",
        "sskmatrah", "1060.00"},
-      {"deduction", R"("sicil":{"ucret":1000,"indirim2":true,"indtut2":70},"giris":{"ng":30},"indir":[{"no":2,"indtip":2}])",
+      {"deduction",
+       R"("sicil":{"ucret":1000,"indirim2":true,"indtut2":70},"giris":{"ng":30},"indir":[{"no":2,"indtip":2}])",
        "indirim2", "50.00"},
-      {"year's ceiling", R"("sicil":{"ucret":1000,"indirim2":true,"indtut2":50},"giris":{"ng":30},"indir":[{"no":2,"indtip":2}],"toind2":8150)",
+      {"year's ceiling",
+       R"("sicil":{"ucret":1000,"indirim2":true,"indtut2":50},"giris":{"ng":30},"indir":[{"no":2,"indtip":2}],"toind2":8150)",
        "indirim2", "0.00"},
       {"union", R"("sicil":{"ucret":1000,"tasno":"x"},"giris":{"ng":30},"sendika":[{"kod":"X","yer":3,"oran":1.5}])",
        "sendika", "15.00"},
       {"debt", R"("sicil":{"ucret":1000},"giris":{"ng":30,"borckes":16.5})", "NetOdenen", "700.00"},
-      {"own figures", R"("sicil":{"ucrettipi":2},"giris":{"ng":30},"parametre":{"AsgariUcret":"700.00"})", "brutkaz", "700.00"},
-      {"own rates", R"("sicil":{"ucret":1000},"giris":{"ng":30},"parametre":{"IsciOran":{"1":{"has":4}}})", "sskkesinti", "130.00"},
+      {"own figures", R"("sicil":{"ucrettipi":2},"giris":{"ng":30},"parametre":{"AsgariUcret":"700.00"})", "brutkaz",
+       "700.00"},
+      {"own rates", R"("sicil":{"ucret":1000},"giris":{"ng":30},"parametre":{"IsciOran":{"1":{"has":4}}})",
+       "sskkesinti", "130.00"},
       {"old lira", R"("sicil":{"ucrettipi":2},"giris":{"ng":30},"eskilira":true)", "brutkaz", "693000000.00"},
       {"hire date", R"("sicil":{"ucret":900,"girtar":"17.07.2009"},"giris":{"ng":15})", "brutkaz", "450.00"},
       {"hire date, ISO", R"("sicil":{"ucret":900,"girtar":"2009-07-17"},"giris":{"ng":15})", "brutkaz", "450.00"},
@@ -95,7 +105,8 @@ TEST(Hesapla, TellsWhatIsWrong) {
       {R"({"donem":{"yil":2009,"ay":7},"giris":{"ng":31}})", "Çalışma Gününü Fazla Girmişiniz"},
       {R"({"donem":{"yil":2009,"ay":7},"sicil":{"sakatdrc":4}})", "Sakatlık derecesi"},
       {R"({"donem":{"yil":2009,"ay":7},"sicil":{"ucret":1e300}})", "sicil.ucret"},
-      {R"({"donem":{"yil":2009,"ay":7},"sicil":{"ucret":900000000000000,"ucretags":1},"giris":{"ng":30}})", "sınırı aşıyor"},
+      {R"({"donem":{"yil":2009,"ay":7},"sicil":{"ucret":900000000000000,"ucretags":1},"giris":{"ng":30}})",
+       "sınırı aşıyor"},
       {R"({"donem":{"yil":2009,"ay":7},"esco":{}})", "esco: dizi olmalı"},
       {R"({"donem":{"yil":2009,"ay":7},"muaf":[{"no":12}]})", "muaf.no"},
       {R"({"donem":{"yil":2009,"ay":7},"sicil":{"girtar":"01.08.2009"}})", "Döneme Uygun Değil"},

@@ -54,8 +54,8 @@ TEST(Sirket, FromOpeningToTheLedger) {
   for (const auto& kayit : j) EXPECT_THAT(s.Oku("b.csv"), HasSubstr("," + kayit["brutkaz"].get<std::string>() + ","));
 
   EXPECT_EQ(s("hazirla deneme --yil 2009 --ay 08").mesaj, "");
-  EXPECT_THAT(s("hazirla deneme --yil 2009 --ay 06").mesaj,
-              HasSubstr("asgari ücret 693.00, yayımlanan 666.00")) << "parameters of another half year";
+  EXPECT_THAT(s("hazirla deneme --yil 2009 --ay 06").mesaj, HasSubstr("asgari ücret 693.00, yayımlanan 666.00"))
+      << "parameters of another half year";
   EXPECT_THAT(s.Tamam("bordro-sil deneme --yil 2009 --ay 7"), HasSubstr("3 kayıt"));
   EXPECT_EQ(s.Tamam("bordro deneme --yil 2009 --ay 7 --bicim json"), "[]\n");
   EXPECT_THAT(s.Tamam("denetle deneme"), HasSubstr("sağlam"));
@@ -144,9 +144,14 @@ TEST(Sirket, BrokenFilesAreToldAndKept) {
   const std::string hazirla = "hazirla deneme --yil 2009 --ay 7";
   s.Tamam(hazirla);
   const std::pair<const char*, const char*> dosyalar[] = {
-      {"veri/yasal2.dat", "yasal2.dat"}, {"veri/gvtbl.dat", "gvtbl.dat"},   {"veri/agitbl.dat", "agitbl.dat"},
-      {"veri/hestur.dat", "hestur.dat"}, {"veri/kanun.dat", "kanun.dat"},   {"veri/DENEME/sablon.dat", "sablon.dat"},
-      {"veri/DENEME/kazanc.dat", "kazanc.dat"}, {"veri/DENEME/tolu.dat", "Dosya bozuk veya bir şirket veritabanı değil"}};
+      {"veri/yasal2.dat", "yasal2.dat"},
+      {"veri/gvtbl.dat", "gvtbl.dat"},
+      {"veri/agitbl.dat", "agitbl.dat"},
+      {"veri/hestur.dat", "hestur.dat"},
+      {"veri/kanun.dat", "kanun.dat"},
+      {"veri/DENEME/sablon.dat", "sablon.dat"},
+      {"veri/DENEME/kazanc.dat", "kazanc.dat"},
+      {"veri/DENEME/tolu.dat", "Dosya bozuk veya bir şirket veritabanı değil"}};
   for (const auto& [dosya, mesaj] : dosyalar) {
     const std::string eski = s.Oku(dosya);
     s.Yaz(dosya, "çöp");
@@ -163,9 +168,11 @@ TEST(Sirket, BrokenFilesAreToldAndKept) {
 TEST(Sirket, SpeaksTheSameInEveryLocale) {
   const Sirket s;
   s.Tamam("hazirla deneme --yil 2009 --ay 7");
-  std::system(("localedef -i tr_TR -f UTF-8 " + s.dizin.Yol() + "tr_TR.UTF-8 2>/dev/null; localedef -i de_DE -f UTF-8 " +
-               s.dizin.Yol() + "de_DE.UTF-8 2>/dev/null").c_str());
-  const std::string girdi = R"({"donem":{"yil":2009,"ay":7},"sicil":{"ucret":"1,250.55","agi":1},"giris":{"ng":30,"fm1":1.5}})";
+  std::system(("localedef -i tr_TR -f UTF-8 " + s.dizin.Yol() +
+               "tr_TR.UTF-8 2>/dev/null; localedef -i de_DE -f UTF-8 " + s.dizin.Yol() + "de_DE.UTF-8 2>/dev/null")
+                  .c_str());
+  const std::string girdi =
+      R"({"donem":{"yil":2009,"ay":7},"sicil":{"ucret":"1,250.55","agi":1},"giris":{"ng":30,"fm1":1.5}})";
   for (const char* komut : {"bordro deneme --yil 2009 --ay 7", "bordro deneme --yil 2009 --ay 7 --bicim csv",
                             "bordro deneme --yil 2009 --ay 7 --bicim json", "parametre", "hesapla --iz"}) {
     const std::string c = s(komut, girdi, "LC_ALL=C").cikti;

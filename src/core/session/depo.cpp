@@ -6,10 +6,16 @@
 namespace belvani {
 namespace {
 
+constexpr std::size_t EnCokFoto = 1'000'000'000;  // bytes: the most that a field of the store takes
+
 bool AcVeyaBildir(Veritabani& db, Imlec& rs, std::string_view tablo, const char* hataMetni, Bildirim& bildirim) {
   if (db.TabloAc(rs, tablo)) return true;
   bildirim.Uyari(hataMetni);
   return false;
+}
+
+void TabloYaratilamadi(std::string_view tablo, Bildirim& bildirim) {
+  bildirim.Uyari(std::string(tablo) + " SQL Tablosu Yaratılamadı");
 }
 
 void YoksaEkle(Veritabani& db, std::string_view tablo, std::string_view alan) {
@@ -19,20 +25,29 @@ void YoksaEkle(Veritabani& db, std::string_view tablo, std::string_view alan) {
 }  // namespace
 
 bool Depo::VeritabaniYarat(const std::string& yol, Bildirim& bildirim) {
+  TablolariKapat(KapatmaKapsami::VeritabaniDa);
   if (!db.DbYarat(yol)) {
     bildirim.Uyari(yol + "\nDatabase Yaratılamadı");
     return false;
   }
   for (const char* tablo : {"peruser", "firma", "sicil", "foto", "kimlik", "brd", "dvr", "esco", "muaf", "arac",
                             "indir", "sendika", "cari"})
-    if (!TabloYarat(tablo, bildirim)) return false;
+    if (!TabloYarat(tablo, bildirim)) {
+      VeritabaniKaldir(yol);
+      return false;
+    }
   return true;
+}
+
+void Depo::VeritabaniKaldir(const std::string& yol) {
+  TablolariKapat(KapatmaKapsami::VeritabaniDa);
+  MotorDosyasiniSil(yol);
 }
 
 bool Depo::TabloYarat(std::string_view tablo, Bildirim& bildirim) {
   const TabloTanimi* tanim = TabloBul(tablo);
   if (tanim != nullptr && db.TabloEkle(*tanim)) return true;
-  bildirim.Uyari(std::string(tablo) + " SQL Tablosu Yaratılamadı");
+  TabloYaratilamadi(tablo, bildirim);
   return false;
 }
 
@@ -63,9 +78,10 @@ bool Depo::VeritabaniAc(const std::string& yol, Bildirim& bildirim) {
 
 bool Depo::GecTabloyuAc(Imlec& rs, std::string_view tablo, const char* hataMetni, Bildirim& bildirim) {
   while (!db.TabloAc(rs, tablo)) {
-    if (TabloYarat(tablo, bildirim)) continue;
+    if (db.TabloEkle(*TabloBul(tablo))) continue;
     // Another computer may have made it between our two looks.
     if (db.TabloAc(rs, tablo)) return true;
+    TabloYaratilamadi(tablo, bildirim);
     bildirim.Uyari(hataMetni);
     return false;
   }
@@ -80,9 +96,9 @@ void Depo::TablolariKapat(KapatmaKapsami kapsam) {
 }
 
 bool Depo::FotoYaz(const std::string& kod, const std::string& dosya) {
-  const auto icerik = DosyaOku(dosya);
-  if (!icerik) return false;
   return db.Koru(false, [&] {
+    const auto icerik = DosyaOku(dosya, EnCokFoto);
+    if (!icerik) return false;
     Islem islem(db.IcMotor());
     if (foto.KayitBul("kod", kod)) foto.KayitSil();
     foto.KayitEkle();
@@ -95,11 +111,11 @@ bool Depo::FotoYaz(const std::string& kod, const std::string& dosya) {
 }
 
 bool Depo::FotoOku(const std::string& kod, const std::string& hedef) {
-  if (!foto.KayitBul("kod", kod)) return false;
-  const Deger resim = foto.AlanOku("resim");
+  const bool bulundu = foto.KayitBul("kod", kod);
+  const Deger resim = bulundu ? foto.AlanOku("resim") : Deger(Null{});
   const auto* baytlar = std::get_if<Baytlar>(&resim);
   const std::string icerik = baytlar == nullptr ? std::string() : std::string(baytlar->begin(), baytlar->end());
-  return bool(DosyaYaz(hedef, icerik));
+  return DosyaYaz(hedef, icerik) && bulundu;
 }
 
 }  // namespace belvani

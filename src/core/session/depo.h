@@ -20,8 +20,12 @@ struct Depo {
   Veritabani db;
   Imlec peruser, firma, sicil, foto, kimlik, brd, dvr, esco, muaf, arac, indir, kaztan, entpar, sendika, cari;
 
-  // Makes the store file `yol` and its tables; `kaztan` and `entpar` come with the first opening. Reports its failures.
+  // Makes the store file `yol` and its tables; `kaztan` and `entpar` come with the first opening. Reports its failures,
+  // and leaves no file behind then.
   bool VeritabaniYarat(const std::string& yol, Bildirim& bildirim);
+
+  // Closes everything and removes the store file `yol`.
+  void VeritabaniKaldir(const std::string& yol);
 
   // Makes one table of the schema by its name, with its fields and indexes. Reports its failure.
   bool TabloYarat(std::string_view tablo, Bildirim& bildirim);
@@ -38,7 +42,8 @@ struct Depo {
 
   // Puts the picture file into the person's `foto` record in place of what is there. False: unreadable or unsaved.
   bool FotoYaz(const std::string& kod, const std::string& dosya);
-  // Writes the person's picture to `hedef`; false when there is none.
+  // Writes the person's picture to `hedef`; false when there is none, and `hedef` is then emptied all the same, so that
+  // it never shows another person.
   bool FotoOku(const std::string& kod, const std::string& hedef);
 
  private:

@@ -1,5 +1,6 @@
 #include "core/session/oturum.h"
 
+#include <filesystem>
 #include <unistd.h>
 
 #include "core/ayarlar.h"
@@ -13,7 +14,7 @@
 namespace belvani {
 namespace {
 
-constexpr std::size_t RenkDosyasiBoyu = 42 * 4;
+constexpr std::size_t RenkDosyasiBoyu = 42 * sizeof(std::uint32_t);
 
 // Of the first run: beside the program, or with the user's own data where the program's directory is not ours to write.
 std::string IlkDataPath(const std::string& prgPath) {
@@ -28,6 +29,34 @@ bool DataDiziniYarat(const std::string& dataPath, Bildirim& bildirim) {
   }
   bildirim.Bilgi("Yeni Data Dizini Yaratıldı\n" + dataPath);
   return true;
+}
+
+std::string KullaniciKusuru(std::string_view kullanici, std::string_view sifre) {
+  if (Kirp(DenetimsizMetin(kullanici)).empty()) return "Kullanıcı adı boş olamaz";
+  const auto kusur = [](const AlanTanimi& alan, std::string_view deger) {
+    return DegerKusuru(alan, DenetimsizMetin(deger));
+  };
+  if (const std::string k = kusur(peruser::kod, kullanici); !k.empty()) return "Kullanıcı adı: " + k;
+  if (const std::string k = kusur(peruser::pasw, sifre); !k.empty()) return "Şifre: " + k;
+  return {};
+}
+
+bool IlkKullaniciYaz(Imlec& peruser, std::string_view kullanici, std::string_view sifre) {
+  peruser.KayitEkle();
+  peruser.AlanYaz("kod", std::string(kullanici));
+  peruser.AlanYaz("pasw", std::string(sifre));
+  peruser.AlanYaz("admin", true);
+  return peruser.KayitYaz();
+}
+
+// The store of a new company with its first user, open; on failure there is no store.
+Durum DepoKur(Depo& depo, const std::string& yol, std::string_view kullanici, std::string_view sifre,
+              Bildirim& bildirim) {
+  if (!depo.VeritabaniYarat(yol, bildirim)) return Hata{"Database Yaratılamadı: " + depo.db.SonHata()};
+  const bool acildi = depo.VeritabaniAc(yol, bildirim);
+  if (acildi && IlkKullaniciYaz(depo.peruser, kullanici, sifre)) return Tamam();
+  depo.VeritabaniKaldir(yol);
+  return Hata{(acildi ? "Kullanıcı Eklenemedi: " : "Database Açılamadı: ") + depo.db.SonHata()};
 }
 
 }  // namespace
@@ -57,7 +86,8 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
 void RenkYukle(Oturum& o) {
   const std::string yol = o.PrgPath + o.ResimYolu + "renk.dat";
   const auto icerik = DosyaOku(yol);
-  if (!icerik && DizinVar(o.PrgPath + o.ResimYolu)) (void)DosyaYaz(yol, "");
+  std::error_code hata;
+  if (DizinVar(o.PrgPath + o.ResimYolu) && !std::filesystem::exists(yol, hata)) (void)DosyaYaz(yol, "");
   std::string kayit = icerik.value_or("");
   kayit.resize(RenkDosyasiBoyu, '\0');
   for (std::size_t i = 0; i < o.Renkler.size(); ++i) {
@@ -70,8 +100,10 @@ void RenkYukle(Oturum& o) {
 Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim) {
   const auto dizin = SirketDizini(o.DataPath, sirket);
   if (!dizin) return dizin.Hatasi();
-  if (!o.depo.VeritabaniAc(*dizin + DepoDosyasi, bildirim))
+  if (!o.depo.VeritabaniAc(*dizin + DepoDosyasi, bildirim)) {
+    o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
     return Hata{"Database Açılamadı: " + *dizin + DepoDosyasi + "\n" + o.depo.db.SonHata()};
+  }
   o.FirmaKod = *SirketAdi(sirket);
   o.FirmaDizini = *dizin;
   return Tamam();
@@ -82,25 +114,18 @@ Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullani
   const auto ad = SirketAdi(sirket);
   if (!ad) return ad.Hatasi();
   if (SirketDizini(o.DataPath, *ad)) return Hata{"Bu adda bir şirket var: " + *ad};
-  std::string kusur;
-  for (const auto& [alan, deger] : {std::pair<const AlanTanimi&, std::string_view>(peruser::kod, kullanici),
-                                    std::pair<const AlanTanimi&, std::string_view>(peruser::pasw, sifre)})
-    if (MetindenDeger(alan, deger, kusur); !kusur.empty())
-      return Hata{(alan.ad == "kod" ? "Kullanıcı adı: " : "Şifre: ") + kusur};
+  if (const std::string kusur = KullaniciKusuru(kullanici, sifre); !kusur.empty()) return Hata{kusur};
 
   const std::string dizin = DizinSonu(o.DataPath + *ad);
   if (!DizinYarat(dizin)) return Hata{"Şirket Dizini Yaratılamıyor: " + dizin};
+  if (const Durum kuruldu = DepoKur(o.depo, dizin + DepoDosyasi, kullanici, sifre, bildirim); !kuruldu) {
+    // No half company stays behind; a directory in which others have put something meanwhile does.
+    std::error_code hata;
+    std::filesystem::remove(dizin.substr(0, dizin.size() - 1), hata);
+    return kuruldu;
+  }
   o.FirmaKod = *ad;
   o.FirmaDizini = dizin;
-  const std::string depo = dizin + DepoDosyasi;
-  if (!o.depo.VeritabaniYarat(depo, bildirim)) return Hata{"Database Yaratılamadı: " + o.depo.db.SonHata()};
-  if (!o.depo.VeritabaniAc(depo, bildirim)) return Hata{"Database Açılamadı: " + o.depo.db.SonHata()};
-  auto& peruser = o.depo.peruser;
-  peruser.KayitEkle();
-  peruser.AlanYaz("kod", std::string(kullanici));
-  peruser.AlanYaz("pasw", std::string(sifre));
-  peruser.AlanYaz("admin", true);
-  if (!peruser.KayitYaz()) return Hata{"Kullanıcı Eklenemedi: " + o.depo.db.SonHata()};
   FirmaIlkKayit(o, bildirim);
   return Tamam();
 }
@@ -171,9 +196,9 @@ bool VersiyonKontrol(Oturum& o, Bildirim& bildirim) {
   o.depo.firma.IlkKayit();
   const Tek depoVersiyonu(SayiDegeri(o.depo.firma.AlanOku("versiyon")));
   if (depoVersiyonu == o.Versiyon) return true;
-  bildirim.Uyari("Program Versiyonu ile Database Versiyonu Farklı...\nProgram Versiyon:" +
-                 SayiMetni(o.Versiyon.Sayi()) + "\nDatabase Versiyon:" + SayiMetni(depoVersiyonu.Sayi()) +
-                 "\nUpdate Programını Çalıştırınız...");
+  bildirim.Uyari(
+      "Program Versiyonu ile Database Versiyonu Farklı...\nProgram Versiyon:" + SayiMetni(o.Versiyon.Sayi()) +
+      "\nDatabase Versiyon:" + SayiMetni(depoVersiyonu.Sayi()) + "\nUpdate Programını Çalıştırınız...");
   return false;
 }
 

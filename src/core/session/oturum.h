@@ -15,27 +15,27 @@
 namespace belvani {
 
 struct Oturum {
-  std::string SeciliKod;                     // what a pick-list chose; its caller reads and clears it
-  std::string PencereTip;                    // mode word for the list window about to open
-  std::array<std::uint32_t, 42> Renkler{};   // colour table of renk.dat
-  std::string ResimYolu = "image/soft/";     // of the skin, below PrgPath
+  std::string SeciliKod;                    // what a pick-list chose; its caller reads and clears it
+  std::string PencereTip;                   // mode word for the list window about to open
+  std::array<std::uint32_t, 42> Renkler{};  // colour table of renk.dat
+  std::string ResimYolu = "image/soft/";    // of the skin, below PrgPath
   bool ResimKullan = true;
-  std::string DataPath;                      // root of the company directories; ends in a separator
-  std::string FirmaKod;                      // name of the company's directory, upper case
-  std::string PrgPath;                       // installed files; ends in a separator
-  int ListeSirasi = 1;                       // last search column of the lookup window
-  int firmayil = 0;                          // working year
-  int firmaay = 0;                           // working month, 1 to 12
+  std::string DataPath;  // root of the company directories; ends in a separator
+  std::string FirmaKod;  // name of the company's directory, upper case
+  std::string PrgPath;   // installed files; ends in a separator
+  int ListeSirasi = 1;   // last search column of the lookup window
+  int firmayil = 0;      // working year
+  int firmaay = 0;       // working month, 1 to 12
   Tek Versiyon = ProgramVersiyonu;
   std::string Kullanici = "BELVANI";
-  std::string ondeger = "Personel";          // default personnel class, the group of its earning flags
-  std::string unvan;                         // company title
+  std::string ondeger = "Personel";  // default personnel class, the group of its earning flags
+  std::string unvan;                 // company title
   std::string BilgisayarAdi;
-  int paraonda = 2;                          // decimals of money
+  int paraonda = 2;  // decimals of money
   std::string ParaBirimi = "TL";
   std::string KurusBirimi = "KR";
 
-  std::string FirmaDizini;                   // directory of the open company; ends in a separator
+  std::string FirmaDizini;  // directory of the open company; ends in a separator
   Depo depo;
 };
 
@@ -47,10 +47,11 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
 // The colour table from `<PrgPath><ResimYolu>renk.dat`; a missing file is made empty and gives zeros.
 void RenkYukle(Oturum& o);
 
-// Opens the company's store; "Database Açılamadı" or the name's fault otherwise.
+// Opens the company's store; "Database Açılamadı" or the name's fault otherwise, and then no store is open.
 Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim);
 
-// Makes a company with its store, its first user (an administrator) and its `firma` record, and leaves it open.
+// Makes a company with its store, its first user (an administrator) and its `firma` record, and leaves it open. On
+// failure no trace of the company stays on the disk, and no store is open.
 Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
                     Bildirim& bildirim);
 

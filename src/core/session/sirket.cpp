@@ -1,5 +1,8 @@
 #include "core/session/sirket.h"
 
+#include <algorithm>
+#include <filesystem>
+
 #include "core/dosya.h"
 #include "core/turkce.h"
 
@@ -12,7 +15,8 @@ constexpr std::size_t EnCokHarf = 64;
 constexpr std::size_t EnCokBayt = 200;  // a file name holds 255, and files of the company lie beside it while written
 
 bool YasakHarf(char c) {
-  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F || std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos;
+  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
+         std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos;
 }
 
 }  // namespace
@@ -45,8 +49,7 @@ std::vector<std::string> Sirketler(const std::string& dataPath) {
     const std::string ad = i->path().filename();
     if (i->is_directory(tur) && ad.front() != '.') adlar.push_back(ad);
   }
-  std::sort(adlar.begin(), adlar.end(),
-            [](const auto& a, const auto& b) { return TurkceKarsilastir(a, b) < 0; });
+  std::sort(adlar.begin(), adlar.end(), [](const auto& a, const auto& b) { return TurkceKarsilastir(a, b) < 0; });
   return adlar;
 }
 

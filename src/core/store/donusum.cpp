@@ -3,6 +3,36 @@
 #include "core/turkce.h"
 
 namespace belvani {
+namespace {
+
+// A value of another form that means the same; as it is where there is none.
+Deger Yaklastir(AlanTipi tip, const Deger& deger) {
+  const auto* mantik = std::get_if<bool>(&deger);
+  const auto* tarih = std::get_if<Tarih>(&deger);
+  if (NullMu(deger) || std::holds_alternative<Baytlar>(deger)) return deger;
+  switch (tip) {
+    case AlanTipi::Metin:
+      return DenetimsizMetin(MetinDegeri(deger));
+    case AlanTipi::Byte:
+    case AlanTipi::Kisa:
+    case AlanTipi::Uzun:
+      if (const auto* sayi = std::get_if<double>(&deger); sayi != nullptr && std::fabs(*sayi) < 1e15)
+        return std::int64_t(std::llrint(*sayi));
+      [[fallthrough]];
+    case AlanTipi::Tutar:
+    case AlanTipi::Tek:
+      return mantik == nullptr ? deger : Deger(std::int64_t(*mantik));
+    case AlanTipi::Mantik:
+      return tarih == nullptr ? Deger(MantikDegeri(deger)) : deger;
+    case AlanTipi::Tarih:
+      return tarih != nullptr && tarih->Bos() ? Deger(Null{}) : deger;
+    case AlanTipi::Ikili:
+      return deger;
+  }
+  return deger;
+}
+
+}  // namespace
 
 Deger KolondanDeger(const Komut& komut, int kolon, AlanTipi tip) {
   if (komut.Turu(kolon) == Komut::Tur::Null) return Null{};
@@ -10,9 +40,11 @@ Deger KolondanDeger(const Komut& komut, int kolon, AlanTipi tip) {
     case AlanTipi::Metin:
       return std::string(komut.Metin(kolon));
     case AlanTipi::Byte:
+      return std::int64_t(komut.TamSigan<std::uint8_t>(kolon));
     case AlanTipi::Kisa:
+      return std::int64_t(komut.TamSigan<std::int16_t>(kolon));
     case AlanTipi::Uzun:
-      return komut.Tam(kolon);
+      return std::int64_t(komut.TamSigan<std::int32_t>(kolon));
     case AlanTipi::Tutar:
       return Tutar::Hamdan(komut.Tam(kolon));
     case AlanTipi::Tek:
@@ -49,42 +81,19 @@ Deger Uydur(const AlanTanimi& alan, const Deger& deger, std::string& kusur) {
   kusur.clear();
   if (const auto* metin = std::get_if<std::string>(&deger); metin != nullptr && alan.tip != AlanTipi::Metin)
     return MetindenDeger(alan, *metin, kusur);
-  Deger uygun = deger;
-  if (!NullMu(deger)) {
-    switch (alan.tip) {
-      case AlanTipi::Metin:
-        uygun = DenetimsizMetin(MetinDegeri(deger));
-        break;
-      case AlanTipi::Byte:
-      case AlanTipi::Kisa:
-      case AlanTipi::Uzun:
-        if (const auto* sayi = std::get_if<double>(&deger); sayi != nullptr && std::fabs(*sayi) < 1e15)
-          uygun = std::int64_t(std::llrint(*sayi));
-        break;
-      case AlanTipi::Tutar:
-        if (!std::holds_alternative<Tarih>(deger)) uygun = TutarDegeri(deger);
-        break;
-      case AlanTipi::Tek:
-        if (!std::holds_alternative<Tarih>(deger)) uygun = Tek(SayiDegeri(deger)).Sayi();
-        break;
-      case AlanTipi::Mantik:
-        uygun = MantikDegeri(deger);
-        break;
-      case AlanTipi::Tarih:
-        if (const auto* tarih = std::get_if<Tarih>(&deger); tarih != nullptr && tarih->Bos()) uygun = Null{};
-        break;
-      case AlanTipi::Ikili:
-        break;
-    }
-  }
+  Deger uygun = Yaklastir(alan.tip, deger);
   kusur = DegerKusuru(alan, uygun);
-  return kusur.empty() ? uygun : Deger(Null{});
+  if (!kusur.empty() || NullMu(uygun)) return Null{};
+  // Only now, for an amount or a rate that is out of range has no value of its type.
+  if (alan.tip == AlanTipi::Tutar) return TutarDegeri(uygun);
+  if (alan.tip == AlanTipi::Tek) return Tek(SayiDegeri(uygun)).Sayi();
+  return uygun;
 }
 
 AlanTipi BildirilenTip(std::string_view tip) {
   static constexpr std::pair<std::string_view, AlanTipi> tipler[] = {
-      {"tinyint", AlanTipi::Byte}, {"smallint", AlanTipi::Kisa}, {"integer", AlanTipi::Uzun},
-      {"bigint", AlanTipi::Tutar}, {"real", AlanTipi::Tek},      {"date", AlanTipi::Tarih},
+      {"tinyint", AlanTipi::Byte},   {"smallint", AlanTipi::Kisa}, {"integer", AlanTipi::Uzun},
+      {"bigint", AlanTipi::Tutar},   {"real", AlanTipi::Tek},      {"date", AlanTipi::Tarih},
       {"boolean", AlanTipi::Mantik}, {"blob", AlanTipi::Ikili},
   };
   for (const auto& [ad, alanTipi] : tipler)

@@ -1,5 +1,7 @@
 #include "core/store/imlec.h"
 
+#include <algorithm>
+
 #include "core/store/donusum.h"
 #include "core/tables/tablolar.h"
 
@@ -9,10 +11,8 @@ namespace {
 const Deger OkunamayanDeger = std::int64_t(1);
 
 bool AdEsit(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i)
-    if ((a[i] | 0x20) != (b[i] | 0x20)) return false;
-  return true;
+  const auto kucuk = [](char c) { return c >= 'A' && c <= 'Z' ? char(c + 'a' - 'A') : c; };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return kucuk(x) == kucuk(y); });
 }
 
 Deger NullOkunusu(AlanTipi tip) {
@@ -45,6 +45,7 @@ void Imlec::TabloyaBagla(Veritabani& db, const TabloTanimi& tanim) {
     alanlar_.push_back({kolon.ad, tip, alan != nullptr ? *alan : AlanTanimi{"", tip, 255, AlanNiteligi::Serbest}});
   }
   db_ = &db;
+  acilisNo_ = db.AcilisNo();
   tanim_ = &tanim;
   SiraDegisti();
   UcaGit(Yon::Ileri);
@@ -73,12 +74,13 @@ void Imlec::SorguyaBagla(Veritabani& db, Komut& komut, const std::vector<SonucTi
     }
   }
   db_ = &db;
+  acilisNo_ = db.AcilisNo();
   okunanBoy_ = okunan_.size();
   konum_ = okunan_.empty() ? Konum::Bos : Konum::Kayitta;
 }
 
 int Imlec::KayitSayisi() {
-  if (db_ == nullptr) return 0;
+  if (!AcikMi()) return 0;
   if (tanim_ == nullptr) return int(okunan_.size());
   return db_->Koru(0, [&] {
     const auto komut = db_->IcMotor().Hazirla("select count(*) from " + std::string(tanim_->ad));
@@ -87,26 +89,25 @@ int Imlec::KayitSayisi() {
 }
 
 bool Imlec::IlkKayit() {
-  return db_ != nullptr && db_->Koru(false, [&] { return UcaGit(Yon::Ileri); });
+  return AcikMi() && db_->Koru(false, [&] { return UcaGit(Yon::Ileri); });
 }
 
 bool Imlec::SonKayit() {
-  return db_ != nullptr && db_->Koru(false, [&] { return UcaGit(Yon::Geri); });
+  return AcikMi() && db_->Koru(false, [&] { return UcaGit(Yon::Geri); });
 }
 
 bool Imlec::SonrakiKayit() {
-  if (db_ == nullptr || SonMu() || konum_ == Konum::Belirsiz) return false;
+  if (!AcikMi() || SonMu()) return false;
   return db_->Koru(false, [&] { return konum_ == Konum::Basta ? UcaGit(Yon::Ileri) : Yuru(Yon::Ileri); });
 }
 
 bool Imlec::OncekiKayit() {
-  if (db_ == nullptr || BasMi() || konum_ == Konum::Belirsiz) return false;
+  if (!AcikMi() || BasMi()) return false;
   return db_->Koru(false, [&] { return konum_ == Konum::Sonda ? UcaGit(Yon::Geri) : Yuru(Yon::Geri); });
 }
 
 bool Imlec::Konuma(int sira) {
-  if (db_ == nullptr || sira < 0) return false;
-  bekleyen_ = Bekleyen::Yok;
+  if (!AcikMi() || sira < 0) return false;
   if (tanim_ == nullptr) {
     if (std::size_t(sira) >= okunan_.size()) return false;
     okunanSira_ = std::size_t(sira);
@@ -116,12 +117,10 @@ bool Imlec::Konuma(int sira) {
   return db_->Koru(false, [&] {
     const auto komut = db_->IcMotor().Hazirla(SecimMetni() + SiraMetni(Yon::Ileri) + " limit 1 offset ?");
     komut->TamBagla(1, sira);
+    if (!komut->Adim()) return false;
+    bekleyen_ = Bekleyen::Yok;
     okunanBoy_ = 0;
     ardisik_ = 0;
-    if (!komut->Adim()) {
-      konum_ = Konum::Belirsiz;
-      return false;
-    }
     SatirAl(*komut, satir_);
     konum_ = Konum::Kayitta;
     return true;
@@ -129,7 +128,7 @@ bool Imlec::Konuma(int sira) {
 }
 
 bool Imlec::KayitBul(std::string_view indeks, const Deger& anahtar) {
-  if (db_ == nullptr || tanim_ == nullptr) return false;
+  if (!AcikMi() || tanim_ == nullptr) return false;
   const IndeksTanimi* tanim = tanim_->IndeksBul(indeks);
   if (tanim == nullptr) return false;
   return db_->Koru(false, [&] {
@@ -158,7 +157,7 @@ bool Imlec::KayitBul(std::string_view indeks, const Deger& anahtar) {
 }
 
 bool Imlec::IndeksSec(std::string_view indeks) {
-  if (db_ == nullptr || tanim_ == nullptr) return false;
+  if (!AcikMi() || tanim_ == nullptr) return false;
   const IndeksTanimi* tanim = tanim_->IndeksBul(indeks);
   if (tanim == nullptr) return false;
   if (indeks_ == tanim) return true;
@@ -178,72 +177,79 @@ int Imlec::AlanSirasi(std::string_view alan) const {
 
 Deger Imlec::AlanOku(std::string_view alan) {
   const int sira = AlanSirasi(alan);
-  if (db_ == nullptr || sira < 0) return OkunamayanDeger;
+  if (!AcikMi() || sira < 0) return OkunamayanDeger;
   const AlanBilgisi& bilgi = alanlar_[std::size_t(sira)];
   const auto goster = [&](const Deger& d) { return NullMu(d) ? NullOkunusu(bilgi.tip) : d; };
-  if (bekleyen_ != Bekleyen::Yok && yeni_[std::size_t(sira)]) return goster(*yeni_[std::size_t(sira)]);
+  if (bekleyen_ != Bekleyen::Yok && yeni_[std::size_t(sira)]) return goster(yeni_[std::size_t(sira)]->deger);
   if (bekleyen_ == Bekleyen::Ekleme) return NullOkunusu(bilgi.tip);
   if (konum_ != Konum::Kayitta) return OkunamayanDeger;
   return goster((tanim_ == nullptr ? okunan_[okunanSira_] : satir_).alanlar[std::size_t(sira)]);
 }
 
 void Imlec::KayitDuzelt() {
-  if (db_ == nullptr || tanim_ == nullptr || konum_ != Konum::Kayitta) return;
-  bekleyen_ = Bekleyen::Duzeltme;
+  if (!AcikMi() || tanim_ == nullptr) return;
+  bekleyen_ = konum_ == Konum::Kayitta ? Bekleyen::Duzeltme : Bekleyen::Yok;
   yeni_.assign(alanlar_.size(), std::nullopt);
-  kusur_.clear();
+  bilinmeyenAlan_.clear();
 }
 
 void Imlec::KayitEkle() {
-  if (db_ == nullptr || tanim_ == nullptr) return;
+  if (!AcikMi() || tanim_ == nullptr) return;
   bekleyen_ = Bekleyen::Ekleme;
   yeni_.assign(alanlar_.size(), std::nullopt);
-  kusur_.clear();
+  bilinmeyenAlan_.clear();
 }
 
 void Imlec::AlanYaz(std::string_view alan, const Deger& deger) {
   if (bekleyen_ == Bekleyen::Yok) return;
   const int sira = AlanSirasi(alan);
   if (sira < 0) {
-    kusur_ = "Alan yok: " + std::string(alan);
+    if (tanim_->AlanBul(alan) == nullptr) bilinmeyenAlan_ = alan;
     return;
   }
-  std::string kusur;
-  Deger uygun = Uydur(alanlar_[std::size_t(sira)].tanim, deger, kusur);
-  if (kusur.empty())
-    yeni_[std::size_t(sira)] = std::move(uygun);
-  else
-    kusur_ = alanlar_[std::size_t(sira)].ad + ": " + kusur;
+  YeniDeger& yeni = yeni_[std::size_t(sira)].emplace();
+  yeni.deger = Uydur(alanlar_[std::size_t(sira)].tanim, deger, yeni.kusur);
+  if (!yeni.kusur.empty()) yeni.deger = deger;
+}
+
+std::string Imlec::YazmaKusuru() const {
+  if (!bilinmeyenAlan_.empty()) return "Alan yok: " + bilinmeyenAlan_;
+  for (std::size_t i = 0; i < yeni_.size(); ++i)
+    if (yeni_[i] && !yeni_[i]->kusur.empty()) return alanlar_[i].ad + ": " + yeni_[i]->kusur;
+  return {};
+}
+
+// Parameters are the new values in the order of the fields, then, for an update, the row's number.
+std::string Imlec::YazmaMetni() const {
+  std::string adlar, sorular, atamalar;
+  for (std::size_t i = 0; i < yeni_.size(); ++i) {
+    if (!yeni_[i]) continue;
+    const std::string ayrac = adlar.empty() ? "" : ", ";
+    adlar += ayrac + alanlar_[i].ad;
+    sorular += ayrac + "?";
+    atamalar += ayrac + alanlar_[i].ad + " = ?";
+  }
+  const std::string tablo(tanim_->ad);
+  if (bekleyen_ == Bekleyen::Duzeltme)
+    return "update " + tablo + " set " + atamalar + " where " + db_->IcMotor().KimlikKolonu() + " = ?";
+  if (adlar.empty()) return "insert into " + tablo + " default values";
+  return "insert into " + tablo + " (" + adlar + ") values (" + sorular + ")";
 }
 
 bool Imlec::KayitYaz() {
-  if (db_ == nullptr || bekleyen_ == Bekleyen::Yok) return false;
-  if (!kusur_.empty()) {
-    db_->HataYaz(kusur_);
-    return false;
-  }
+  if (!AcikMi() || bekleyen_ == Bekleyen::Yok) return false;
   return db_->Koru(false, [&] {
-    std::string adlar, sorular, atamalar;
-    for (std::size_t i = 0; i < yeni_.size(); ++i) {
-      if (!yeni_[i]) continue;
-      const char* ayrac = adlar.empty() ? "" : ", ";
-      adlar += ayrac + alanlar_[i].ad;
-      sorular += ayrac + std::string("?");
-      atamalar += ayrac + alanlar_[i].ad + " = ?";
-    }
+    if (const std::string kusur = YazmaKusuru(); !kusur.empty()) throw MotorHatasi(MotorKusuru::Kisit, kusur);
     const bool ekleme = bekleyen_ == Bekleyen::Ekleme;
-    const std::string tablo(tanim_->ad);
-    if (adlar.empty() && !ekleme) {
+    const bool bos = std::none_of(yeni_.begin(), yeni_.end(), [](const auto& d) { return d.has_value(); });
+    if (bos && !ekleme) {
       bekleyen_ = Bekleyen::Yok;
       return true;
     }
-    const auto komut = db_->IcMotor().Hazirla(
-        !ekleme         ? "update " + tablo + " set " + atamalar + " where " + db_->IcMotor().KimlikKolonu() + " = ?"
-        : adlar.empty() ? "insert into " + tablo + " default values"
-                        : "insert into " + tablo + " (" + adlar + ") values (" + sorular + ")");
+    const auto komut = db_->IcMotor().Hazirla(YazmaMetni());
     int no = 0;
-    for (const auto& deger : yeni_)
-      if (deger) komut->Bagla(++no, *deger);
+    for (const auto& yeni : yeni_)
+      if (yeni) komut->Bagla(++no, yeni->deger);
     if (!ekleme) komut->TamBagla(++no, satir_.kimlik);
     komut->Calistir();
     if (!ekleme && db_->IcMotor().DegisenSatir() == 0)
@@ -255,7 +261,7 @@ bool Imlec::KayitYaz() {
 }
 
 void Imlec::KayitSil() {
-  if (db_ == nullptr || tanim_ == nullptr || konum_ != Konum::Kayitta) return;
+  if (!AcikMi() || tanim_ == nullptr || konum_ != Konum::Kayitta) return;
   db_->Koru(false, [&] {
     const auto komut = db_->IcMotor().Hazirla("delete from " + std::string(tanim_->ad) + " where " +
                                               db_->IcMotor().KimlikKolonu() + " = ?");

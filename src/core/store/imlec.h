@@ -4,11 +4,12 @@
 //
 // A table cursor runs in the order of its index (IndeksSec, KayitBul), or in the order of insertion. It asks the store
 // for the record after the one it stands on, so it needs no lock and sees what others have written; in a sequential
-// run it reads ahead, and forgets what it has read ahead as soon as this process writes. A query cursor holds all its
+// run it reads ahead, and forgets what it has read ahead as soon as its Veritabani writes. A query cursor holds all its
 // rows and is read-only.
 //
-// After a failed KayitBul, and after KayitSil, no record is current: AlanOku gives 1. After KayitSil the moves go on
-// from where the record was.
+// After KayitSil no record is current: AlanOku gives 1, and the moves go on from where the record was. After a failed
+// KayitBul, and after a move that the engine could not make (a broken file), none is either, and both SonMu and BasMi
+// hold, so that no loop runs on; IlkKayit, SonKayit, KayitBul and Konuma lead out of it.
 #pragma once
 
 #include <optional>
@@ -27,16 +28,16 @@ class Imlec {
   Imlec& operator=(const Imlec&) = delete;
 
   void RsKapat();
-  bool AcikMi() const { return db_ != nullptr; }
+  bool AcikMi() const { return db_ != nullptr && db_->AcilisNo() == acilisNo_; }
 
   int KayitSayisi();
   bool IlkKayit();
   bool SonKayit();
   bool OncekiKayit();
   bool SonrakiKayit();
-  bool Konuma(int sira);   // counted from 0
-  bool SonMu() const { return konum_ == Konum::Sonda || konum_ == Konum::Bos; }
-  bool BasMi() const { return konum_ == Konum::Basta || konum_ == Konum::Bos; }
+  bool Konuma(int sira);  // counted from 0; the cursor stays where it is when there is no such record
+  bool SonMu() const { return konum_ == Konum::Sonda || Kayitsiz(); }
+  bool BasMi() const { return konum_ == Konum::Basta || Kayitsiz(); }
 
   // Seeks one key value on an index of the schema, which becomes the cursor's order. Text keys ignore case.
   bool KayitBul(std::string_view indeks, const Deger& anahtar);
@@ -51,8 +52,9 @@ class Imlec {
 
   void KayitDuzelt();
   void KayitEkle();
-  // The value is fitted to the field (a number for money, digits for a number …). What does not fit makes KayitYaz
-  // fail, so that it is not lost unseen.
+  // The value is fitted to the field (a number for money, digits for a number …). What does not fit stays pending and
+  // makes KayitYaz fail until another value takes its place, so that it is not lost unseen. A column of the schema that
+  // an older store lacks is passed over.
   void AlanYaz(std::string_view alan, const Deger& deger);
   bool KayitYaz();
   void KayitSil();
@@ -68,16 +70,21 @@ class Imlec {
     std::int64_t kimlik = 0;
     std::vector<Deger> alanlar;
   };
+  struct YeniDeger {
+    Deger deger;
+    std::string kusur;  // why it does not fit; "" when it does
+  };
   struct AlanBilgisi {
     std::string ad;
     AlanTipi tip;
-    AlanTanimi tanim;   // of the schema, or made from the type
+    AlanTanimi tanim;  // of the schema, or made from the type
   };
 
   void TabloyaBagla(Veritabani& db, const TabloTanimi& tanim);
   void SorguyaBagla(Veritabani& db, Komut& komut, const std::vector<SonucTipi>& tipler);
 
   int AlanSirasi(std::string_view alan) const;
+  bool Kayitsiz() const { return konum_ == Konum::Bos || konum_ == Konum::Belirsiz; }
   bool UcaGit(Yon yon);
   bool Yuru(Yon yon);
   bool SorgudaYuru(Yon yon);
@@ -87,9 +94,13 @@ class Imlec {
   void SatirAl(const Komut& komut, Satir& satir) const;
   Komut& YuruKomutu(Yon yon);
   void SiraDegisti();
+  void SonrakiDenetle(const Satir& once, const Satir& sonra, Yon yon) const;
   void YenidenOku();
+  std::string YazmaKusuru() const;
+  std::string YazmaMetni() const;
 
   Veritabani* db_ = nullptr;
+  std::uint64_t acilisNo_ = 0;            // of db_, when the cursor was opened
   const TabloTanimi* tanim_ = nullptr;    // null for a query
   const IndeksTanimi* indeks_ = nullptr;  // null: order of insertion
   int indeksAlani_ = -1;                  // position of the index's field in alanlar_
@@ -110,8 +121,8 @@ class Imlec {
   std::unique_ptr<Komut> yuru_[2];
 
   Bekleyen bekleyen_ = Bekleyen::Yok;
-  std::vector<std::optional<Deger>> yeni_;
-  std::string kusur_;
+  std::vector<std::optional<YeniDeger>> yeni_;
+  std::string bilinmeyenAlan_;
 };
 
 }  // namespace belvani

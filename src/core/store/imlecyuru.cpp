@@ -1,7 +1,10 @@
 // How a cursor moves: one record at a time by its key, in blocks once a sequential run is under way.
 
+#include <algorithm>
+
 #include "core/store/donusum.h"
 #include "core/store/imlec.h"
+#include "core/turkce.h"
 
 namespace belvani {
 namespace {
@@ -50,6 +53,7 @@ bool Imlec::UcaGit(Yon yon) {
   }
   okunanBoy_ = 0;
   ardisik_ = 0;
+  konum_ = Konum::Belirsiz;
   const auto komut = db_->IcMotor().Hazirla(SecimMetni() + SiraMetni(yon) + " limit 1");
   if (!komut->Adim()) {
     konum_ = Konum::Bos;
@@ -100,6 +104,7 @@ bool Imlec::Yuru(Yon yon) {
     konum_ = Konum::Kayitta;
     return true;
   }
+  konum_ = Konum::Belirsiz;
   ardisik_ = okunanYon_ == yon ? ardisik_ + 1 : 0;
   const int boy = ardisik_ > ArdisikEsigi ? OnOkumaBoyu : 1;
   Komut& komut = YuruKomutu(yon);
@@ -110,7 +115,11 @@ bool Imlec::Yuru(Yon yon) {
   okunanBoy_ = okunanSira_ = 0;
   okunanYon_ = yon;
   okunanSurum_ = db_->IcMotor().YazmaSayaci();
-  while (komut.Adim()) SatirAl(komut, okunan_[okunanBoy_++]);
+  while (komut.Adim()) {
+    SatirAl(komut, okunan_[okunanBoy_]);
+    SonrakiDenetle(okunanBoy_ == 0 ? satir_ : okunan_[okunanBoy_ - 1], okunan_[okunanBoy_], yon);
+    ++okunanBoy_;
+  }
   if (OnOkumadanAl(yon)) {
     konum_ = Konum::Kayitta;
     return true;
@@ -119,10 +128,25 @@ bool Imlec::Yuru(Yon yon) {
   return false;
 }
 
+// In a broken store an index may lead back to records that were passed already, and a run would never end.
+void Imlec::SonrakiDenetle(const Satir& once, const Satir& sonra, Yon yon) const {
+  auto sira = sonra.kimlik <=> once.kimlik;
+  if (indeksAlani_ >= 0) {
+    const Deger& a = once.alanlar[std::size_t(indeksAlani_)];
+    const Deger& b = sonra.alanlar[std::size_t(indeksAlani_)];
+    const auto* aMetin = std::get_if<std::string>(&a);
+    const auto* bMetin = std::get_if<std::string>(&b);
+    const auto anahtar = aMetin != nullptr && bMetin != nullptr ? TurkceKarsilastir(*bMetin, *aMetin) <=> 0
+                                                                : TamDegeri(b) <=> TamDegeri(a);
+    if (anahtar != 0 || indeks_->tekil) sira = anahtar;
+  }
+  if (yon == Yon::Ileri ? sira <= 0 : sira >= 0)
+    throw MotorHatasi(MotorKusuru::Bozuk, "Veritabanının indeksi bozuk: " + std::string(tanim_->ad));
+}
+
 void Imlec::YenidenOku() {
   okunanBoy_ = 0;
-  const auto komut =
-      db_->IcMotor().Hazirla(SecimMetni() + " where " + db_->IcMotor().KimlikKolonu() + " = ?");
+  const auto komut = db_->IcMotor().Hazirla(SecimMetni() + " where " + db_->IcMotor().KimlikKolonu() + " = ?");
   komut->TamBagla(1, satir_.kimlik);
   if (komut->Adim()) SatirAl(*komut, satir_);
 }

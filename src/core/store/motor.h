@@ -12,6 +12,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/deger.h"
@@ -35,7 +36,7 @@ class Komut {
   virtual void NullBagla(int no) = 0;
   virtual void TamBagla(int no, std::int64_t deger) = 0;
   virtual void SayiBagla(int no, double deger) = 0;
-  virtual void MetinBagla(int no, std::string_view deger) = 0;   // copied
+  virtual void MetinBagla(int no, std::string_view deger) = 0;  // copied
   virtual void BaytBagla(int no, const Baytlar& deger) = 0;
 
   // True: a row stands ready. False: done; the statement may then be bound and run again.
@@ -56,6 +57,13 @@ class Komut {
   virtual std::string_view Metin(int i) const = 0;
   virtual Baytlar Bayt(int i) const = 0;
 
+  // A whole number that must fit the type; one that does not (a broken store) gives 0.
+  template <class T>
+  T TamSigan(int i) const {
+    const std::int64_t n = Tam(i);
+    return std::in_range<T>(n) ? T(n) : T(0);
+  }
+
   // Binds any value in the form in which the store keeps it: money scaled, dates ISO, booleans 0 and 1.
   void Bagla(int no, const Deger& deger);
   // Runs to the end; for statements without rows.
@@ -64,7 +72,7 @@ class Komut {
 
 struct MotorKolonu {
   std::string ad;
-  std::string tip;   // as the table declares it, lower case
+  std::string tip;  // as the table declares it, lower case
 };
 
 class Motor {
@@ -72,26 +80,29 @@ class Motor {
   virtual ~Motor() = default;
 
   virtual std::unique_ptr<Komut> Hazirla(std::string_view sql) = 0;
-  virtual void Calistir(std::string_view sql) = 0;   // statements without parameters, several at once
+  virtual void Calistir(std::string_view sql) = 0;  // statements without parameters, several at once
 
   // BEGIN IMMEDIATE: the write lock is taken at once, waiting for others up to `enCok`.
   virtual void IslemBaslat(std::chrono::milliseconds enCok) = 0;
   virtual void IslemOnayla() = 0;
   virtual void IslemGeriAl() noexcept = 0;
 
-  virtual std::vector<MotorKolonu> Kolonlar(std::string_view tablo) = 0;   // empty: no such table
+  virtual std::vector<MotorKolonu> Kolonlar(std::string_view tablo) = 0;  // empty: no such table
   virtual std::string KolonTanimi(const AlanTanimi& alan, bool birincil) const = 0;
-  virtual std::string KimlikKolonu() const = 0;      // the hidden number of a row
-  virtual std::int64_t SonKimlik() const = 0;        // of the row inserted last
-  virtual std::int64_t DegisenSatir() const = 0;     // by the last write
-  virtual std::uint64_t YazmaSayaci() const = 0;     // grows with every write of this process
+  virtual std::string KimlikKolonu() const = 0;   // the hidden number of a row
+  virtual std::int64_t SonKimlik() const = 0;     // of the row inserted last
+  virtual std::int64_t DegisenSatir() const = 0;  // by the last write
+  virtual std::uint64_t YazmaSayaci() const = 0;  // grows with every write of this process
 
   // "" when the store is sound, else what is wrong with it. Reads everything.
   virtual std::string ButunlukKusuru() = 0;
 };
 
-// Opens the store file at `yol`, or makes it anew; shared, for reading and writing.
+// Opens the store file at `yol`, or makes it anew where there is none; shared, for reading and writing.
 std::unique_ptr<Motor> MotorAc(const std::string& yol);
 std::unique_ptr<Motor> MotorYarat(const std::string& yol);
+
+// Removes a closed store, with what the engine has laid beside it.
+void MotorDosyasiniSil(const std::string& yol);
 
 }  // namespace belvani

@@ -11,10 +11,11 @@
 namespace belvani {
 
 // One column of the row that stands ready, into a member. Null reads as zero, empty text, no date.
+// clang-format off
 inline void KolonAl(const Komut& k, int i, std::string& d) { d.assign(k.Metin(i)); }
-inline void KolonAl(const Komut& k, int i, std::uint8_t& d) { d = std::uint8_t(k.Tam(i)); }
-inline void KolonAl(const Komut& k, int i, std::int16_t& d) { d = std::int16_t(k.Tam(i)); }
-inline void KolonAl(const Komut& k, int i, std::int32_t& d) { d = std::int32_t(k.Tam(i)); }
+inline void KolonAl(const Komut& k, int i, std::uint8_t& d) { d = k.TamSigan<std::uint8_t>(i); }
+inline void KolonAl(const Komut& k, int i, std::int16_t& d) { d = k.TamSigan<std::int16_t>(i); }
+inline void KolonAl(const Komut& k, int i, std::int32_t& d) { d = k.TamSigan<std::int32_t>(i); }
 inline void KolonAl(const Komut& k, int i, Tutar& d) { d = Tutar::Hamdan(k.Tam(i)); }
 inline void KolonAl(const Komut& k, int i, Tek& d) { d = Tek(k.Sayi(i)); }
 inline void KolonAl(const Komut& k, int i, Tarih& d) { d = Tarih::IsoOku(k.Metin(i)); }
@@ -30,6 +31,7 @@ inline void KolonBagla(Komut& k, int no, Tek d) { k.SayiBagla(no, d.Sayi()); }
 inline void KolonBagla(Komut& k, int no, Tarih d) { k.Bagla(no, d); }
 inline void KolonBagla(Komut& k, int no, bool d) { k.TamBagla(no, d ? 1 : 0); }
 inline void KolonBagla(Komut& k, int no, const Baytlar& d) { k.BaytBagla(no, d); }
+// clang-format on
 
 // The columns that the store's table really has.
 inline std::set<std::string, std::less<>> TabloKolonlari(Motor& motor, std::string_view tablo) {
@@ -61,8 +63,8 @@ int KayitAl(const Komut& komut, int ilk, Kayit& kayit) {
 // All rows of a table that meet `kosul` ("where … order by …").
 template <class Kayit>
 std::vector<Kayit> KayitlariOku(Motor& motor, const std::string& kosul = {}, const std::vector<Deger>& degerler = {}) {
-  const auto komut = motor.Hazirla("select " + SecimListesi<Kayit>(motor) + " from " + std::string(Kayit::TabloAdi) +
-                                   " " + kosul);
+  const auto komut =
+      motor.Hazirla("select " + SecimListesi<Kayit>(motor) + " from " + std::string(Kayit::TabloAdi) + " " + kosul);
   int no = 0;
   for (const Deger& d : degerler) komut->Bagla(++no, d);
   std::vector<Kayit> kayitlar;

@@ -9,9 +9,8 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 #include <sys/vfs.h>
-#include <unistd.h>
-
 #include <thread>
+#include <unistd.h>
 
 #include "core/store/motor.h"
 #include "core/turkce.h"
@@ -27,7 +26,7 @@ constexpr Milisaniye KilitBekleme{5000};
 const char* const OturumAyarlari =
     "pragma synchronous=full;"
     "pragma temp_store=memory;"
-    "pragma cache_size=-65536;"       // KiB
+    "pragma cache_size=-65536;"        // KiB
     "pragma wal_autocheckpoint=4000;"  // pages
     "pragma trusted_schema=off;"
     "pragma cell_size_check=on;";
@@ -100,7 +99,7 @@ class SqliteKomut final : public Komut {
   void TamBagla(int no, std::int64_t d) override { Sina(sqlite3_bind_int64(komut_, no, d)); }
   void SayiBagla(int no, double d) override { Sina(sqlite3_bind_double(komut_, no, d)); }
   void MetinBagla(int no, std::string_view d) override {
-    Sina(sqlite3_bind_text(komut_, no, d.data() == nullptr ? "" : d.data(), int(d.size()), SQLITE_TRANSIENT));
+    Sina(sqlite3_bind_text64(komut_, no, d.data() == nullptr ? "" : d.data(), d.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
   }
   void BaytBagla(int no, const Baytlar& d) override {
     Sina(sqlite3_bind_blob64(komut_, no, d.empty() ? static_cast<const void*>("") : d.data(), d.size(),
@@ -199,8 +198,10 @@ class SqliteMotor final : public Motor {
     SiraSurumunuYaz();
   }
 
-  // Indexes made under another version of the alphabet's order are rebuilt.
+  // Indexes made under another version of the alphabet's order are rebuilt. In a store of another program the number
+  // is not ours.
   void SirayiDenetle() {
+    if (TekDeger("pragma application_id") != UygulamaKimligi) return;
     if (TekDeger("pragma user_version") == SiraSurumu()) return;
     IslemBaslat(KilitBekleme);
     try {
@@ -314,15 +315,24 @@ std::unique_ptr<Motor> MotorAc(const std::string& yol) {
   return motor;
 }
 
+void MotorDosyasiniSil(const std::string& yol) {
+  for (const char* ek : {"", "-wal", "-shm", "-journal"}) ::unlink((yol + ek).c_str());
+}
+
 std::unique_ptr<Motor> MotorYarat(const std::string& yol) {
   // Made empty first, so that the file and all that the engine lays beside it are open to owner and group only.
   const int dosya = ::open(yol.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0660);
   if (dosya < 0) throw MotorHatasi(MotorKusuru::Acilamadi, KusurMetni(MotorKusuru::Acilamadi) + " [" + yol + "]");
   ::fchmod(dosya, 0660);
   ::close(dosya);
-  auto motor = std::make_unique<SqliteMotor>(yol);
-  motor->YeniDosyayiImzala();
-  return motor;
+  try {
+    auto motor = std::make_unique<SqliteMotor>(yol);
+    motor->YeniDosyayiImzala();
+    return motor;
+  } catch (...) {
+    MotorDosyasiniSil(yol);
+    throw;
+  }
 }
 
 }  // namespace belvani

@@ -1,5 +1,6 @@
 #include "core/store/veritabani.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 
@@ -63,16 +64,21 @@ bool Veritabani::DbYarat(const std::string& yol) {
   }
 }
 
-void Veritabani::DbKapat() { motor_.reset(); }
+void Veritabani::DbKapat() {
+  motor_.reset();
+  ++acilisNo_;
+}
 
 bool Veritabani::TabloAc(Imlec& rs, std::string_view tablo) {
   rs.RsKapat();
-  return Koru(false, [&] {
+  const bool acildi = Koru(false, [&] {
     const TabloTanimi* tanim = TabloBul(tablo);
     if (tanim == nullptr) throw MotorHatasi(MotorKusuru::Diger, "Tablo yok: " + std::string(tablo));
     rs.TabloyaBagla(*this, *tanim);
     return true;
   });
+  if (!acildi) rs.RsKapat();
+  return acildi;
 }
 
 bool Veritabani::SqlAc(Imlec& rs, std::string_view sql, const std::vector<Deger>& degerler,
@@ -103,6 +109,7 @@ bool Veritabani::AlanVarMi(std::string_view tablo, std::string_view alan) {
 
 bool Veritabani::AlanEkle(std::string_view tablo, const AlanTanimi& alan) {
   return Koru(false, [&] {
+    if (motor_->Kolonlar(tablo).empty()) throw MotorHatasi(MotorKusuru::Diger, "Tablo yok: " + std::string(tablo));
     // A column added to rows that stand already is Null in them, whatever it is to be later.
     AlanTanimi serbest = alan;
     serbest.nitelik = AlanNiteligi::Serbest;

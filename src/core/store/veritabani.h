@@ -38,6 +38,8 @@ class Veritabani {
   bool DbYarat(const std::string& yol);
   void DbKapat();
   bool AcikMi() const { return motor_ != nullptr; }
+  // Another number after each opening and closing: a cursor of an earlier one counts as closed.
+  std::uint64_t AcilisNo() const { return acilisNo_; }
 
   // Opens a cursor on a table of the schema, on its first record.
   bool TabloAc(Imlec& rs, std::string_view tablo);
@@ -72,6 +74,7 @@ class Veritabani {
 
  private:
   std::unique_ptr<Motor> motor_;
+  std::uint64_t acilisNo_ = 0;
   std::string sonHata_;
 };
 

@@ -29,24 +29,51 @@ enum class AlanTipi {
 };
 
 enum class AlanNiteligi {
-  Serbest,    // may be Null
-  Zorunlu,    // refuses Null
-  Otomatik,   // numbered by the store on insertion
-  Sonradan,   // not made with the table: added when the store is first opened
+  Serbest,   // may be Null
+  Zorunlu,   // refuses Null
+  Otomatik,  // numbered by the store on insertion
+  Sonradan,  // not made with the table: added when the store is first opened
 };
 
 // What a column of each type is in a record struct.
 template <AlanTipi>
 struct UyeTipi;
-template <> struct UyeTipi<AlanTipi::Metin> { using T = std::string; };
-template <> struct UyeTipi<AlanTipi::Byte> { using T = std::uint8_t; };
-template <> struct UyeTipi<AlanTipi::Kisa> { using T = std::int16_t; };
-template <> struct UyeTipi<AlanTipi::Uzun> { using T = std::int32_t; };
-template <> struct UyeTipi<AlanTipi::Tutar> { using T = Tutar; };
-template <> struct UyeTipi<AlanTipi::Tek> { using T = Tek; };
-template <> struct UyeTipi<AlanTipi::Tarih> { using T = Tarih; };
-template <> struct UyeTipi<AlanTipi::Mantik> { using T = bool; };
-template <> struct UyeTipi<AlanTipi::Ikili> { using T = Baytlar; };
+template <>
+struct UyeTipi<AlanTipi::Metin> {
+  using T = std::string;
+};
+template <>
+struct UyeTipi<AlanTipi::Byte> {
+  using T = std::uint8_t;
+};
+template <>
+struct UyeTipi<AlanTipi::Kisa> {
+  using T = std::int16_t;
+};
+template <>
+struct UyeTipi<AlanTipi::Uzun> {
+  using T = std::int32_t;
+};
+template <>
+struct UyeTipi<AlanTipi::Tutar> {
+  using T = Tutar;
+};
+template <>
+struct UyeTipi<AlanTipi::Tek> {
+  using T = Tek;
+};
+template <>
+struct UyeTipi<AlanTipi::Tarih> {
+  using T = Tarih;
+};
+template <>
+struct UyeTipi<AlanTipi::Mantik> {
+  using T = bool;
+};
+template <>
+struct UyeTipi<AlanTipi::Ikili> {
+  using T = Baytlar;
+};
 
 // A column by name; `boyut` counts letters and is 0 for everything but text.
 struct AlanTanimi {
@@ -64,7 +91,7 @@ struct Kolon : AlanTanimi {
 };
 
 struct IndeksTanimi {
-  std::string_view ad;                      // as `KayitBul` and `IndeksSec` know it
+  std::string_view ad;  // as `KayitBul` and `IndeksSec` know it
   std::vector<std::string_view> alanlar;
   bool tekil = false;
   bool birincil = false;
@@ -73,10 +100,10 @@ struct IndeksTanimi {
 struct TabloTanimi {
   std::string_view ad;
   std::vector<AlanTanimi> alanlar;
-  std::vector<IndeksTanimi> indeksler;      // of the schema
+  std::vector<IndeksTanimi> indeksler;        // of the schema
   std::vector<IndeksTanimi> sorguIndeksleri;  // of the engine's own queries; never named by logic
 
-  const AlanTanimi* AlanBul(std::string_view alan) const;      // case ignored; null when there is none
+  const AlanTanimi* AlanBul(std::string_view alan) const;  // case ignored; null when there is none
   const IndeksTanimi* IndeksBul(std::string_view indeks) const;
 };
 

@@ -1,5 +1,7 @@
 #include "core/tables/tablolar.h"
 
+#include <algorithm>
+
 namespace belvani {
 namespace {
 
@@ -10,7 +12,9 @@ TabloTanimi Tanim(std::vector<IndeksTanimi> indeksler, std::vector<IndeksTanimi>
   return t;
 }
 
-IndeksTanimi Anahtar(std::string_view alan) { return {alan, {alan}, true, true}; }
+IndeksTanimi Anahtar(std::string_view alan) {
+  return {alan, {alan}, true, true};
+}
 
 bool AdEsit(std::string_view a, std::string_view b) {
   const auto kucuk = [](char c) { return c >= 'A' && c <= 'Z' ? char(c + 'a' - 'A') : c; };

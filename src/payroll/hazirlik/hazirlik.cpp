@@ -1,5 +1,7 @@
 #include "payroll/hazirlik/hazirlik.h"
 
+#include <algorithm>
+
 #include "core/store/satirlar.h"
 #include "core/turkce.h"
 #include "payroll/hesap/satirlar.h"
@@ -28,9 +30,8 @@ class GirisListesi {
  public:
   GirisListesi(const std::vector<GirisSatiri>& girisler, std::vector<Sorun>& sorunlar) {
     for (const GirisSatiri& g : girisler) sirali_.push_back(&g);
-    std::stable_sort(sirali_.begin(), sirali_.end(), [](const auto* a, const auto* b) {
-      return TurkceKarsilastir(a->kod, b->kod) < 0;
-    });
+    std::stable_sort(sirali_.begin(), sirali_.end(),
+                     [](const auto* a, const auto* b) { return TurkceKarsilastir(a->kod, b->kod) < 0; });
     for (std::size_t i = 1; i < sirali_.size(); ++i)
       if (TurkceEsit(sirali_[i - 1]->kod, sirali_[i]->kod))
         sorunlar.push_back({Derece::Hata, sirali_[i]->kod, Satir(*sirali_[i]) + "bu kişi listede iki kez var"});
@@ -38,9 +39,9 @@ class GirisListesi {
   }
 
   const GirisSatiri* Bul(const std::string& kod) {
-    const auto i = std::lower_bound(sirali_.begin(), sirali_.end(), kod, [](const GirisSatiri* g, const std::string& k) {
-      return TurkceKarsilastir(g->kod, k) < 0;
-    });
+    const auto i =
+        std::lower_bound(sirali_.begin(), sirali_.end(), kod,
+                         [](const GirisSatiri* g, const std::string& k) { return TurkceKarsilastir(g->kod, k) < 0; });
     if (i == sirali_.end() || !TurkceEsit((*i)->kod, kod)) return nullptr;
     bulundu_[std::size_t(i - sirali_.begin())] = true;
     return *i;
@@ -100,8 +101,9 @@ class TopluIs {
     if (giris != nullptr) GirisiUygula(g.giris, *giris);
     BordroSonucu s = BordroHesapla(g, &k_.firma.sablon);
     if (s.gunFazla) {
-      return Yaz(kisi, giris, "Bu Personel " + std::to_string(CalismaGun) +
-                                  " Gün Çalışmış, Çalışma Gününü Fazla Girmişiniz (" + std::to_string(s.SskGun) + " gün)");
+      return Yaz(kisi, giris,
+                 "Bu Personel " + std::to_string(CalismaGun) + " Gün Çalışmış, Çalışma Gününü Fazla Girmişiniz (" +
+                     std::to_string(s.SskGun) + " gün)");
     }
     EksikGunuIsle(kisi, giris, CalismaGun, s);
     if (giris != nullptr) YayilanlariBildir(kisi, *giris, s.brd);
@@ -120,8 +122,10 @@ class TopluIs {
     const EksikGun eksik = EksikGunDenetle(s.SskGun, CalismaGun, ayGunu, s.brd.eksiksebebi, s.brd.ucretsizizin);
     s.brd.eksiksebebi = std::uint8_t(eksik.sebep);
     s.brd.ucretsizizin = std::uint8_t(eksik.ucretsizizin);
-    if (EksikSebepSec(eksik.sebep) < 0) Yaz(kisi, giris, "Eksik gün sebebi listede yok: " + std::to_string(eksik.sebep));
-    else if (!eksik.tamam) Yaz(kisi, giris, "Eksik Gün Bildirildi, Eksik Gün Sebebini giriniz");
+    if (EksikSebepSec(eksik.sebep) < 0)
+      Yaz(kisi, giris, "Eksik gün sebebi listede yok: " + std::to_string(eksik.sebep));
+    else if (!eksik.tamam)
+      Yaz(kisi, giris, "Eksik Gün Bildirildi, Eksik Gün Sebebini giriniz");
   }
 
   // A line that the template spreads over the days follows the template, here as on the payroll screen.
@@ -201,6 +205,8 @@ Sonuc<int> BordroSil(Oturum& o, int yil, int ay) {
   }
 }
 
-bool BordroTamamMi(int, int, int) { return true; }
+bool BordroTamamMi(int, int, int) {
+  return true;
+}
 
 }  // namespace belvani

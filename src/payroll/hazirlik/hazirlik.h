@@ -18,25 +18,25 @@ namespace belvani {
 
 // Days, hours, allowances, reason and debt of one person as they were entered.
 struct GirisSatiri {
-  int satirNo = 0;                     // line of the file, for messages
+  int satirNo = 0;  // line of the file, for messages
   std::string kod;
   Brd deger;
   std::set<std::string_view> verilen;  // names of the columns that were given
 };
 
 struct Sorun {
-  enum class Derece { Uyari, Hata };   // a Hata keeps the month from being saved
+  enum class Derece { Uyari, Hata };  // a Hata keeps the month from being saved
   Derece derece = Derece::Uyari;
-  std::string kod;                     // person; "" when it concerns none
+  std::string kod;  // person; "" when it concerns none
   std::string metin;
 };
 
 struct HazirlikSonucu {
   int kaydedilen = 0;
-  int donemDisi = 0;                   // did not work in the period
-  int netsiz = 0;                      // net not above zero: not saved
+  int donemDisi = 0;  // did not work in the period
+  int netsiz = 0;     // net not above zero: not saved
   std::vector<Sorun> sorunlar;
-  bool kaydedildi = false;             // false: some Hata, nothing was saved
+  bool kaydedildi = false;  // false: some Hata, nothing was saved
 };
 
 // Fails as a whole when the store cannot be written or `ilerleme` cancels.

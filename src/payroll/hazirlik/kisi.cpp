@@ -1,5 +1,7 @@
 #include "payroll/hazirlik/kisi.h"
 
+#include <algorithm>
+
 #include "core/store/satirlar.h"
 #include "core/turkce.h"
 #include "payroll/hesap/sablonyay.h"
@@ -46,7 +48,8 @@ std::vector<Kodlu<Aile>> AileleriOku(Motor& motor, const KisiSuzgeci& kisi) {
 std::vector<Kodlu<YilToplamlari>> YilToplamlariniOku(Motor& motor, const BordroDonemi& donem, const KisiSuzgeci& kisi) {
   const auto komut = motor.Hazirla(
       "select kod, sum(case when ay < ? then gvmatrah end), sum(case when ay < ? then gvtutar end), sum(indirim1), "
-      "sum(indirim2), sum(indirim3) from brd where yil = ?" + kisi.Kosul("and") + " group by kod order by kod");
+      "sum(indirim2), sum(indirim3) from brd where yil = ?" +
+      kisi.Kosul("and") + " group by kod order by kod");
   komut->TamBagla(1, donem.ay);
   komut->TamBagla(2, donem.ay);
   komut->TamBagla(3, donem.yil);
@@ -61,9 +64,8 @@ std::vector<Kodlu<YilToplamlari>> YilToplamlariniOku(Motor& motor, const BordroD
 std::vector<Brd> AyinKayitlariniOku(Motor& motor, const BordroDonemi& donem, const std::string* kod) {
   std::vector<Deger> degerler{std::int64_t(donem.yil), std::int64_t(donem.ay)};
   if (kod != nullptr) degerler.emplace_back(*kod);
-  return KayitlariOku<Brd>(motor,
-                           "where yil = ? and ay = ?" + KisiSuzgeci(kod).Kosul("and") + " and no = 1 order by kod, oto",
-                           degerler);
+  return KayitlariOku<Brd>(
+      motor, "where yil = ? and ay = ?" + KisiSuzgeci(kod).Kosul("and") + " and no = 1 order by kod, oto", degerler);
 }
 
 // Walks a list in code order beside the people, who come in code order too.
@@ -90,8 +92,8 @@ void KisileriOku(Motor& motor, const BordroDonemi& donem, const std::string* kod
   Eslesen aileler(AileleriOku(motor, kisi), koduAl);
   Eslesen yillar(YilToplamlariniOku(motor, donem, kisi), koduAl);
   Eslesen kayitlar(AyinKayitlariniOku(motor, donem, kod), koduAl);
-  const auto komut = motor.Hazirla("select " + SecimListesi<Sicil>(motor) + " from sicil" + kisi.Kosul("where") +
-                                   " order by kod");
+  const auto komut =
+      motor.Hazirla("select " + SecimListesi<Sicil>(motor) + " from sicil" + kisi.Kosul("where") + " order by kod");
   kisi.Bagla(*komut, 1);
   while (komut->Adim()) {
     KisiVerisi veri;

@@ -12,16 +12,16 @@ namespace belvani {
 
 // Sums of a person's stored records of the year.
 struct YilToplamlari {
-  Tutar gvmatrah;                       // of earlier months: carried into this one
+  Tutar gvmatrah;  // of earlier months: carried into this one
   Tutar gvtutar;
-  std::array<Tutar, 3> indirimler{};    // of all months
+  std::array<Tutar, 3> indirimler{};  // of all months
 };
 
 struct KisiVerisi {
   Sicil sicil;
   Aile aile;
   YilToplamlari yil;
-  std::optional<Brd> kayit;             // the month's saved record
+  std::optional<Brd> kayit;  // the month's saved record
 };
 
 // Values of a person from the store: one by code, or all in code order, with the same queries. Reading a company costs
@@ -36,7 +36,8 @@ void KisileriOku(Motor& motor, const BordroDonemi& donem, const std::function<bo
 BordroGirdi PersonelYukle(const KisiVerisi& kisi, const Kosullar& kosullar, int CalismaGun);
 
 // Premium rates of a branch: the sums of the employee's and employer's columns, on the employer's side with the
-// work-accident rate where the branch bears it; all 0 on the board-fee payroll. Branch 1 in 2009, rate 1 -> 14, 19.5, 1, 2.
+// work-accident rate where the branch bears it; all 0 on the board-fee payroll. Branch 1 in 2009, rate 1 -> 14, 19.5,
+// 1, 2.
 void OranlariYukle(Brd& brd, const Sicil& sicil, const YasalParametreler& yasal, Tek TehlikeOran);
 
 }  // namespace belvani

@@ -1,5 +1,7 @@
 #include "payroll/hazirlik/kosullar.h"
 
+#include <algorithm>
+
 #include "core/store/satirlar.h"
 #include "core/tables/firma.h"
 #include "core/tables/muaf.h"
@@ -32,7 +34,8 @@ Kaztan GrupSatiri(const std::string& grup, const KazancBayraklari& b) {
 }
 
 const Kaztan* GrupBul(const std::vector<Kaztan>& gruplar, std::string_view grup) {
-  const auto i = std::find_if(gruplar.begin(), gruplar.end(), [&](const Kaztan& g) { return TurkceEsit(g.grup, grup); });
+  const auto i =
+      std::find_if(gruplar.begin(), gruplar.end(), [&](const Kaztan& g) { return TurkceEsit(g.grup, grup); });
   return i == gruplar.end() ? nullptr : &*i;
 }
 

@@ -19,21 +19,21 @@ namespace belvani {
 // Parameters of a company: its files (`kazanc.dat`, `yardim.dat`, `fmesai.dat`, `sablon.dat`) and its tables (`kaztan`,
 // `muaf`, `indir`, `sendika`).
 struct FirmaParametreleri {
-  KazancBayraklari varsayilan;           // flags of the company's default group
+  KazancBayraklari varsayilan;  // flags of the company's default group
   std::vector<Kaztan> gruplar;
   FazlaMesailer mesailer{};
   YardimTanimlari yardimlar;
   IndirimTanimlari indirimler;
   std::vector<Sendika> sendikalar;
   Sablon sablon;
-  std::vector<std::string> uyarilar;     // files of a wrong size or with numbers that are none
+  std::vector<std::string> uyarilar;  // files of a wrong size or with numbers that are none
 };
 
 struct Kosullar {
   YasalParametreler yasal;
   FirmaParametreleri firma;
   BordroDonemi donem;
-  int uygulama = 0;       // code of the premium rules in force
+  int uygulama = 0;  // code of the premium rules in force
   Tek IsSaati{8};
   Tek TehlikeOran;
   int paraonda = 2;

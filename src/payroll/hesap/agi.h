@@ -14,9 +14,9 @@ namespace belvani {
 
 // Relatives as the rules count them.
 struct Aile {
-  int agiEs = 0;       // spouses counted for the allowance
-  int agiCocuk = 0;    // children counted for the allowance
-  int cocuk = 0;       // all children, for the exemption of the child allowance
+  int agiEs = 0;     // spouses counted for the allowance
+  int agiCocuk = 0;  // children counted for the allowance
+  int cocuk = 0;     // all children, for the exemption of the child allowance
 
   // One row of `esco`: kinship 1 is the spouse, 4 and above a child; agiok 1 counts.
   void Ekle(int yakinlik, int agiok) {

@@ -8,11 +8,30 @@ namespace {
 
 // Amounts that a calculation gives; zero before it.
 constexpr Tutar Brd::*SonucAlanlari[] = {
-    &Brd::topyardim,  &Brd::ucret,      &Brd::brutkaz,   &Brd::sskmatrah,   &Brd::sskmatrahisveren,
-    &Brd::sskkesinti, &Brd::sskkesintiisveren, &Brd::gvmatrah, &Brd::dvmatrah, &Brd::gvtutar,
-    &Brd::dvtutar,    &Brd::issizisci,  &Brd::issizisveren, &Brd::yuvarlama, &Brd::ucrizmatrah,
-    &Brd::katki,      &Brd::indirim1,   &Brd::indirim2,  &Brd::indirim3,    &Brd::sakindir,
-    &Brd::sendika,    &Brd::muaftutar,  &Brd::ogv,       &Brd::agimatrah,
+    &Brd::topyardim,
+    &Brd::ucret,
+    &Brd::brutkaz,
+    &Brd::sskmatrah,
+    &Brd::sskmatrahisveren,
+    &Brd::sskkesinti,
+    &Brd::sskkesintiisveren,
+    &Brd::gvmatrah,
+    &Brd::dvmatrah,
+    &Brd::gvtutar,
+    &Brd::dvtutar,
+    &Brd::issizisci,
+    &Brd::issizisveren,
+    &Brd::yuvarlama,
+    &Brd::ucrizmatrah,
+    &Brd::katki,
+    &Brd::indirim1,
+    &Brd::indirim2,
+    &Brd::indirim3,
+    &Brd::sakindir,
+    &Brd::sendika,
+    &Brd::muaftutar,
+    &Brd::ogv,
+    &Brd::agimatrah,
 };
 
 template <class Izleyici>
@@ -73,9 +92,13 @@ int SskGunu(const Brd& brd) {
   return toplam;
 }
 
-BordroSonucu BrutNetHesapla(const BordroGirdi& girdi) { return Calistir(girdi, Izsiz{}); }
+BordroSonucu BrutNetHesapla(const BordroGirdi& girdi) {
+  return Calistir(girdi, Izsiz{});
+}
 
-BordroSonucu BrutNetHesapla(const BordroGirdi& girdi, Iz& iz) { return Calistir(girdi, Izli{&iz}); }
+BordroSonucu BrutNetHesapla(const BordroGirdi& girdi, Iz& iz) {
+  return Calistir(girdi, Izli{&iz});
+}
 
 BordroSonucu BordroHesapla(const BordroGirdi& girdi, const Sablon* sablon, Iz* iz) {
   const int sskGun = SskGunu(girdi.giris);

@@ -31,27 +31,27 @@ using IndirimTanimlari = std::array<std::optional<Indir>, 3>;
 
 // Values that one calculation reads. What it points to must outlive the call.
 struct BordroGirdi {
-  const Sicil* sicil = nullptr;                  // wage terms, branch, law, deductions of the person
+  const Sicil* sicil = nullptr;  // wage terms, branch, law, deductions of the person
   const YasalParametreler* yasal = nullptr;
-  const YardimTanimlari* yardimlar = nullptr;    // exemption rules of the allowance lines
+  const YardimTanimlari* yardimlar = nullptr;  // exemption rules of the allowance lines
   const IndirimTanimlari* indirimler = nullptr;
-  const Sendika* sendika = nullptr;              // of the person; null when there is none
+  const Sendika* sendika = nullptr;  // of the person; null when there is none
 
   // Entered or carried: period, days, hours, allowances, rates and multipliers, damgaveror, devgvmatrah, devgvtutar,
   // borckes. Its amounts are not read.
   Brd giris;
-  KazancBayraklari bayraklar;                    // of the person's group
+  KazancBayraklari bayraklar;  // of the person's group
   Aile aile;
-  std::array<Tutar, 3> yilIndirimi{};            // deductions 1 to 3 of all stored months of the year
-  Tek IsSaati{8};                                // daily working hours of the company, never 0
-  Tek TehlikeOran;                               // TehlikeOrani of the company
+  std::array<Tutar, 3> yilIndirimi{};  // deductions 1 to 3 of all stored months of the year
+  Tek IsSaati{8};                      // daily working hours of the company, never 0
+  Tek TehlikeOran;                     // TehlikeOrani of the company
   int paraonda = 2;
-  int CalismaGun = 30;                           // days the person may work in the period
-  int uygulama = 0;                              // UygulamaBul of the month
+  int CalismaGun = 30;  // days the person may work in the period
+  int uygulama = 0;     // UygulamaBul of the month
 };
 
 struct BordroSonucu {
-  Brd brd;             // the whole record, ready to be stored
+  Brd brd;  // the whole record, ready to be stored
   Tutar NetOdenen;
   int SskGun = 0;
   bool gunFazla = false;  // more days than the person may work: nothing was calculated

@@ -10,7 +10,9 @@ constexpr int TersDonemGunu = 15;
 constexpr int Subat = 2;
 
 // The rule counts every fourth year as a leap year.
-int SubatGunu(int yil) { return yil % 4 == 0 ? 29 : 28; }
+int SubatGunu(int yil) {
+  return yil % 4 == 0 ? 29 : 28;
+}
 
 Tarih SonrakiAyinGunu(int yil, int ay, int gun) {
   return ay == 12 ? Tarih(yil + 1, 1, gun) : Tarih(yil, ay + 1, gun);
@@ -18,7 +20,9 @@ Tarih SonrakiAyinGunu(int yil, int ay, int gun) {
 
 }  // namespace
 
-Tarih BordroDonemi::Bas() const { return Tarih(yil, ay, tur == DonemTuru::Ters ? TersDonemGunu : 1); }
+Tarih BordroDonemi::Bas() const {
+  return Tarih(yil, ay, tur == DonemTuru::Ters ? TersDonemGunu : 1);
+}
 
 Tarih BordroDonemi::Son() const {
   return SonrakiAyinGunu(yil, ay, tur == DonemTuru::Ters ? TersDonemGunu : 1).Ekle(-1);
@@ -49,6 +53,8 @@ EksikGun EksikGunDenetle(int SskGun, int CalismaGun, int AyGunu, int sebep, int 
   return {sebep, ucretsizizin, sebep != 0 && ucretsizizin + SskGun == AyGunu};
 }
 
-int UcretsizIzinOnerisi(int SskGun, int AyGunu) { return SskGun == TamAy ? 0 : AyGunu - SskGun; }
+int UcretsizIzinOnerisi(int SskGun, int AyGunu) {
+  return SskGun == TamAy ? 0 : AyGunu - SskGun;
+}
 
 }  // namespace belvani

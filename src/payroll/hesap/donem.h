@@ -65,7 +65,7 @@ int EksikSebepSec(int kod);
 
 // What the entry of a person says about days not worked, and whether it is complete.
 struct EksikGun {
-  int sebep = 0;          // code
+  int sebep = 0;  // code
   int ucretsizizin = 0;
   bool tamam = false;
 };

@@ -61,10 +61,10 @@ class Hesap {
   const Izleyici izle_;
   const int sskGun_;
 
-  Brd k_;               // the record under calculation
+  Brd k_;  // the record under calculation
   Tutar gunlukUcret_;
   Tutar saatlikUcret_;
-  Tutar kalanMatrah_;   // income-tax base left after deductions: what is taxed this month
+  Tutar kalanMatrah_;  // income-tax base left after deductions: what is taxed this month
   Tutar net_;
 };
 

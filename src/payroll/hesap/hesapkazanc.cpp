@@ -11,10 +11,13 @@ void Hesap<I>::Ucret() {
   gunlukUcret_ = Tutar(k_.ucret.Sayi() / AyGunu30);
   saatlikUcret_ = Tutar(gunlukUcret_.Sayi() / g_.IsSaati.Sayi());
   izle_([&] {
-    return IzAdimi("ucret", "Aylık brüt ücret: kart ücreti aya çevrilir (günlük × 30, saatlik × 30 × iş saati), net ise "
+    return IzAdimi("ucret",
+                   "Aylık brüt ücret: kart ücreti aya çevrilir (günlük × 30, saatlik × 30 × iş saati), net ise "
                    "brüte çevrilir, asgari ise asgari ücret alınır",
-                   {{"Kart ücreti", sicil_.ucret}, {"Ücret tipi (0 brüt, 1 net, 2 asgari)", int(sicil_.ucrettipi)},
-                    {"Ücret esası (0 aylık, 1 günlük, 2 saatlik)", int(sicil_.ucretags)}, {"İş saati", g_.IsSaati},
+                   {{"Kart ücreti", sicil_.ucret},
+                    {"Ücret tipi (0 brüt, 1 net, 2 asgari)", int(sicil_.ucrettipi)},
+                    {"Ücret esası (0 aylık, 1 günlük, 2 saatlik)", int(sicil_.ucretags)},
+                    {"İş saati", g_.IsSaati},
                     {"Asgari ücret", yasal_.AsgariUcret}},
                    k_.ucret);
   });
@@ -34,8 +37,10 @@ void Hesap<I>::GunSatirlari() {
     MatrahlaraEkle(g_.bayraklar.k[i], gun * gunlukUcret_);
     if (gun != 0)
       izle_([&] {
-        return IzAdimi(GunKolonlari[i].ad, std::string(KazancAdlari[i]) + " = gün × günlük ücret; bayrakların gösterdiği "
-                       "matrahlara girer (2 SSK, 4 gelir vergisi, 8 damga)",
+        return IzAdimi(GunKolonlari[i].ad,
+                       std::string(KazancAdlari[i]) +
+                           " = gün × günlük ücret; bayrakların gösterdiği "
+                           "matrahlara girer (2 SSK, 4 gelir vergisi, 8 damga)",
                        {{"Gün", gun}, {"Günlük ücret", gunlukUcret_}, {"Bayraklar", int(g_.bayraklar.k[i])}},
                        gun * gunlukUcret_);
       });
@@ -43,7 +48,8 @@ void Hesap<I>::GunSatirlari() {
   k_.brutkaz = yuvarla_(k_.sskmatrah);
   if (k_.brutkaz > Tutar()) k_.ucret = k_.brutkaz;
   izle_([&] {
-    return IzAdimi("ucret", "Çalışılan günlerin ücreti = SSK matrahına giren gün satırlarının toplamı; yoksa aylık ücret",
+    return IzAdimi("ucret",
+                   "Çalışılan günlerin ücreti = SSK matrahına giren gün satırlarının toplamı; yoksa aylık ücret",
                    {{"Gün satırları", k_.brutkaz}}, k_.ucret);
   });
   if (HuzurHakkiMi(sicil_)) k_.sskmatrah = Tutar();
@@ -58,14 +64,16 @@ template <class I>
 void Hesap<I>::UcretliIzinMatrahi() {
   if (sskGun_ < 1) return;
   const bool tabanAltinda = k_.sskmatrah.Sayi() < GunlukSinir(yasal_.SskTaban, sskGun_);
-  k_.ucrizmatrah = uygulama_ != Uygulama::D2004 && tabanAltinda
-                       ? yuvarla_(k_.ui * yasal_.SskTaban.Sayi() / AyGunu30)
-                       : yuvarla_(k_.ui * k_.sskmatrah.Sayi() / sskGun_);
+  k_.ucrizmatrah = uygulama_ != Uygulama::D2004 && tabanAltinda ? yuvarla_(k_.ui * yasal_.SskTaban.Sayi() / AyGunu30)
+                                                                : yuvarla_(k_.ui * k_.sskmatrah.Sayi() / sskGun_);
   if (k_.ui != 0)
     izle_([&] {
-      return IzAdimi("ucrizmatrah", "Ücretli izin matrahı = izin günü × gün satırlarının SSK matrahı / prim günü; matrah "
+      return IzAdimi("ucrizmatrah",
+                     "Ücretli izin matrahı = izin günü × gün satırlarının SSK matrahı / prim günü; matrah "
                      "tabanın altındaysa izin günü × taban / 30",
-                     {{"Ücretli izin", int(k_.ui)}, {"Matrah (tavanla sınırlı)", k_.sskmatrah}, {"Prim günü", sskGun_},
+                     {{"Ücretli izin", int(k_.ui)},
+                      {"Matrah (tavanla sınırlı)", k_.sskmatrah},
+                      {"Prim günü", sskGun_},
                       {"SSK taban", yasal_.SskTaban}},
                      k_.ucrizmatrah);
     });
@@ -83,7 +91,9 @@ void Hesap<I>::MesaiSatirlari() {
       izle_([&] {
         return IzAdimi(MesaiKolonlari[i].ad,
                        std::string(KazancAdlari[GunSatiriSayisi + i]) + " = saat × çarpan × saatlik ücret",
-                       {{"Saat", saat}, {"Çarpan", carpan}, {"Saatlik ücret", saatlikUcret_},
+                       {{"Saat", saat},
+                        {"Çarpan", carpan},
+                        {"Saatlik ücret", saatlikUcret_},
                         {"Bayraklar", int(g_.bayraklar.k[GunSatiriSayisi + i])}},
                        yuvarla_(deger));
       });
@@ -102,10 +112,16 @@ void Hesap<I>::Yardimlar() {
       k_.muaftutar = MuafHesapla({tutar, tanim, k_.ng, sskGun_, g_.aile.cocuk, yasal_.SskTaban}, onceki, yuvarla_);
       if (tutar != Tutar() || k_.muaftutar != onceki)
         izle_([&] {
-          return IzAdimi("muaftutar", "SSK'dan muaf tutar: " + tanim.adi + " satırının muafiyet şekli uygulanır (taban "
-                         "günlüğü ile sınırlı)",
-                         {{"Tutar", tutar}, {"Muafiyet şekli", int(tanim.indtip)}, {"Oran %", tanim.oran},
-                          {"Sabit", tanim.sabit}, {"Prim günü", sskGun_}, {"Çocuk", g_.aile.cocuk}},
+          return IzAdimi("muaftutar",
+                         "SSK'dan muaf tutar: " + tanim.adi +
+                             " satırının muafiyet şekli uygulanır (taban "
+                             "günlüğü ile sınırlı)",
+                         {{"Tutar", tutar},
+                          {"Muafiyet şekli", int(tanim.indtip)},
+                          {"Oran %", tanim.oran},
+                          {"Sabit", tanim.sabit},
+                          {"Prim günü", sskGun_},
+                          {"Çocuk", g_.aile.cocuk}},
                          k_.muaftutar);
         });
     }
@@ -113,14 +129,17 @@ void Hesap<I>::Yardimlar() {
     k_.brutkaz += tutar;
     if (tutar != Tutar())
       izle_([&] {
-        return IzAdimi(YardimKolonlari[i].ad, tanim.adi + ": yardımlara ve brüte eklenir; bayrakların gösterdiği "
-                       "matrahlara girer", {{"Bayraklar", int(bayraklar)}}, tutar);
+        return IzAdimi(YardimKolonlari[i].ad,
+                       tanim.adi +
+                           ": yardımlara ve brüte eklenir; bayrakların gösterdiği "
+                           "matrahlara girer",
+                       {{"Bayraklar", int(bayraklar)}}, tutar);
       });
   }
   izle_([&] { return IzAdimi("topyardim", "Yardımların toplamı", {}, k_.topyardim); });
   izle_([&] {
-    return IzAdimi("brutkaz", "Brüt kazanç = gün satırları + fazla mesailer + yardımlar",
-                   {{"Yardımlar", k_.topyardim}}, k_.brutkaz);
+    return IzAdimi("brutkaz", "Brüt kazanç = gün satırları + fazla mesailer + yardımlar", {{"Yardımlar", k_.topyardim}},
+                   k_.brutkaz);
   });
 }
 
@@ -130,7 +149,8 @@ void Hesap<I>::SskMatrahi() {
   const Tutar tavan = sskGun_ < 1 ? yasal_.SskTavan : GunTavani();
   k_.sskmatrah = std::min(yuvarla_(k_.sskmatrah - k_.muaftutar), tavan);
   izle_([&] {
-    return IzAdimi("sskmatrah", "SSK matrahı = SSK'ya giren kazançlar − muaf tutar; gün tavanını geçemez (tavan / 30 × "
+    return IzAdimi("sskmatrah",
+                   "SSK matrahı = SSK'ya giren kazançlar − muaf tutar; gün tavanını geçemez (tavan / 30 × "
                    "prim günü)",
                    {{"SSK'ya giren kazançlar", once}, {"Muaf tutar", k_.muaftutar}, {"Tavan", tavan}}, k_.sskmatrah);
   });

@@ -39,10 +39,10 @@ void Hesap<I>::GelirVergisiMatrahi() {
   k_.dvmatrah = SifirdanAzOlmaz(k_.dvmatrah);
   kalanMatrah_ = k_.gvmatrah;
   izle_([&] {
-    return IzAdimi("gvmatrah", "Gelir vergisi matrahı = vergiye giren kazançlar − SSK işçi payı − işsizlik işçi payı",
-                   {{"Vergiye giren kazançlar", kazanc}, {"SSK işçi payı", k_.sskkesinti},
-                    {"İşsizlik işçi payı", k_.issizisci}},
-                   k_.gvmatrah);
+    return IzAdimi(
+        "gvmatrah", "Gelir vergisi matrahı = vergiye giren kazançlar − SSK işçi payı − işsizlik işçi payı",
+        {{"Vergiye giren kazançlar", kazanc}, {"SSK işçi payı", k_.sskkesinti}, {"İşsizlik işçi payı", k_.issizisci}},
+        k_.gvmatrah);
   });
   izle_([&] { return IzAdimi("dvmatrah", "Damga vergisine giren kazançların toplamı", {}, k_.dvmatrah); });
 }
@@ -66,15 +66,20 @@ void Hesap<I>::DigerIndirimler() {
     if (!(sicil_.*IndirimAnahtarlari[i].uye) || !tanim) continue;
     const Tutar kisiTutari = sicil_.*IndirimTutarlari[i].uye;
     Tutar& indirim = k_.*IndirimKolonlari[i].uye;
-    indirim = IndirimHesapla({*tanim, kisiTutari, k_.gvmatrah, k_.brutkaz, g_.yilIndirimi[i], yasal_.MuafTavan,
-                              kalanMatrah_},
-                             yuvarla_);
+    indirim = IndirimHesapla(
+        {*tanim, kisiTutari, k_.gvmatrah, k_.brutkaz, g_.yilIndirimi[i], yasal_.MuafTavan, kalanMatrah_}, yuvarla_);
     kalanMatrah_ -= indirim;
     izle_([&] {
-      return IzAdimi(IndirimKolonlari[i].ad, tanim->adi + ": kişinin tutarı, yoksa sabit tutar, o da yoksa matrahın oranı; "
-                     "brütün % 10'u (özel sigortada % 5'i) ile sınırlı, yıllık tavan aşılırsa o ay indirim yok",
-                     {{"İndirim yeri", int(tanim->indtip)}, {"Kişinin tutarı", kisiTutari}, {"Sabit", tanim->sabit},
-                      {"Oran %", tanim->oran}, {"Brüt kazanç", k_.brutkaz}, {"Yıl içi toplam", g_.yilIndirimi[i]},
+      return IzAdimi(IndirimKolonlari[i].ad,
+                     tanim->adi +
+                         ": kişinin tutarı, yoksa sabit tutar, o da yoksa matrahın oranı; "
+                         "brütün % 10'u (özel sigortada % 5'i) ile sınırlı, yıllık tavan aşılırsa o ay indirim yok",
+                     {{"İndirim yeri", int(tanim->indtip)},
+                      {"Kişinin tutarı", kisiTutari},
+                      {"Sabit", tanim->sabit},
+                      {"Oran %", tanim->oran},
+                      {"Brüt kazanç", k_.brutkaz},
+                      {"Yıl içi toplam", g_.yilIndirimi[i]},
                       {"Yıllık tavan", yasal_.MuafTavan}},
                      indirim);
     });
@@ -110,24 +115,32 @@ void Hesap<I>::IsverenTarafi() {
   k_.katki = s.katki;
   izle_([&] {
     return IzAdimi("sskmatrahisveren", "İşveren matrahı = işçi matrahı; ikinci dönemden sonra gün tabanına yükseltilir",
-                   {{"İşçi matrahı", k_.sskmatrah}, {"SSK taban", yasal_.SskTaban}, {"Prim günü", sskGun_},
+                   {{"İşçi matrahı", k_.sskmatrah},
+                    {"SSK taban", yasal_.SskTaban},
+                    {"Prim günü", sskGun_},
                     {"Uygulama dönemi", int(uygulama_)}},
                    s.sskmatrahisveren);
   });
   izle_([&] {
-    return IzAdimi("sskkesintiisveren", "SSK işveren payı = işveren matrahı × oran / 100 − izin günlerinin iş kazası primi "
+    return IzAdimi("sskkesintiisveren",
+                   "SSK işveren payı = işveren matrahı × oran / 100 − izin günlerinin iş kazası primi "
                    "+ taban farkının işçi payı",
-                   {{"İşveren matrahı", s.sskmatrahisveren}, {"Oran %", k_.sskisverenor}, {"Prim", s.prim},
-                    {"İzin düşümü", s.izinDususu}, {"İşçi farkı", s.isciFarki}},
+                   {{"İşveren matrahı", s.sskmatrahisveren},
+                    {"Oran %", k_.sskisverenor},
+                    {"Prim", s.prim},
+                    {"İzin düşümü", s.izinDususu},
+                    {"İşçi farkı", s.isciFarki}},
                    s.sskkesintiisveren);
   });
   izle_([&] {
-    return IzAdimi("issizisveren", "İşsizlik işveren payı = işveren matrahı × oran / 100 (taban farkında işçi payı da "
+    return IzAdimi("issizisveren",
+                   "İşsizlik işveren payı = işveren matrahı × oran / 100 (taban farkında işçi payı da "
                    "eklenir)",
                    {{"İşveren matrahı", s.sskmatrahisveren}, {"Oran %", k_.issizisverenor}}, s.issizisveren);
   });
   izle_([&] {
-    return IzAdimi("katki", "Devlet katkısı: 01.10.2008'den sonra kişinin kanununa göre; 2004 ilk yarısında tabana "
+    return IzAdimi("katki",
+                   "Devlet katkısı: 01.10.2008'den sonra kişinin kanununa göre; 2004 ilk yarısında tabana "
                    "tamamlanan fark",
                    {{"Kanun", int(k_.brdkanun)}, {"Uygulama dönemi", int(uygulama_)}}, s.katki);
   });
@@ -145,13 +158,16 @@ void Hesap<I>::AsgariGecimIndirimi() {
   k_.ogv = AgiHesapla(tablo, k_.agioran, g_.yasal->gv.GvOran[0], k_.gvtutar, yuvarla_);
   net_ += k_.ogv;
   izle_([&] {
-    return IzAdimi("agioran", "Asgari geçim indirimi oranı = kendisi + eş + çocuklar (en çok dört)",
-                   {{"Kendisi %", tablo.AgiKendisi}, {"Sayılan eş", g_.aile.agiEs}, {"Sayılan çocuk", g_.aile.agiCocuk}},
-                   k_.agioran);
+    return IzAdimi(
+        "agioran", "Asgari geçim indirimi oranı = kendisi + eş + çocuklar (en çok dört)",
+        {{"Kendisi %", tablo.AgiKendisi}, {"Sayılan eş", g_.aile.agiEs}, {"Sayılan çocuk", g_.aile.agiCocuk}},
+        k_.agioran);
   });
   izle_([&] {
     return IzAdimi("ogv", "Asgari geçim indirimi = taban × oran × ilk vergi dilimi oranı; gelir vergisini geçemez",
-                   {{"Taban", tablo.AgiTaban}, {"Oran %", k_.agioran}, {"İlk dilim %", g_.yasal->gv.GvOran[0]},
+                   {{"Taban", tablo.AgiTaban},
+                    {"Oran %", k_.agioran},
+                    {"İlk dilim %", g_.yasal->gv.GvOran[0]},
                     {"Gelir vergisi", k_.gvtutar}},
                    k_.ogv);
   });
@@ -162,10 +178,13 @@ void Hesap<I>::SendikaVeCirak() {
   if (g_.sendika != nullptr) {
     k_.sendika = SendikaHesapla(*g_.sendika, {net_, k_.sskmatrah, k_.brutkaz, k_.ucret}, yuvarla_);
     izle_([&] {
-      return IzAdimi("sendika", "Sendika aidatı: kesinti yerinin oranı veya sabit tutar, taban ve tavanla sınırlı; net "
+      return IzAdimi("sendika",
+                     "Sendika aidatı: kesinti yerinin oranı veya sabit tutar, taban ve tavanla sınırlı; net "
                      "yetmezse kesilmez",
-                     {{"Kesinti yeri", int(g_.sendika->yer)}, {"Oran %", g_.sendika->oran},
-                      {"Sabit", g_.sendika->sabit}, {"Net", net_}},
+                     {{"Kesinti yeri", int(g_.sendika->yer)},
+                      {"Oran %", g_.sendika->oran},
+                      {"Sabit", g_.sendika->sabit},
+                      {"Net", net_}},
                      k_.sendika);
     });
   }
@@ -194,10 +213,15 @@ void Hesap<I>::NetOdenen() {
                    {{"Sendika", k_.sendika}, {"Borç kesintisi", k_.borckes}}, k_.yuvarlama);
   });
   izle_([&] {
-    return IzAdimi("NetOdenen", "Net = brüt − SSK − işsizlik − gelir vergisi − damga vergisi + asgari geçim indirimi − "
+    return IzAdimi("NetOdenen",
+                   "Net = brüt − SSK − işsizlik − gelir vergisi − damga vergisi + asgari geçim indirimi − "
                    "özel kesintiler",
-                   {{"Brüt kazanç", k_.brutkaz}, {"SSK işçi payı", k_.sskkesinti}, {"İşsizlik", k_.issizisci},
-                    {"Gelir vergisi", k_.gvtutar}, {"Damga vergisi", k_.dvtutar}, {"A.G.İ.", k_.ogv},
+                   {{"Brüt kazanç", k_.brutkaz},
+                    {"SSK işçi payı", k_.sskkesinti},
+                    {"İşsizlik", k_.issizisci},
+                    {"Gelir vergisi", k_.gvtutar},
+                    {"Damga vergisi", k_.dvtutar},
+                    {"A.G.İ.", k_.ogv},
                     {"Özel kesintiler", k_.yuvarlama}},
                    net_);
   });

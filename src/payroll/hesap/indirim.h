@@ -6,8 +6,8 @@
 // Example: personal insurance of 100.00 on a gross of 1,000.00 -> limit 50.00, deducted 50.00.
 #pragma once
 
-#include "core/yuvarlama.h"
 #include "core/tables/indir.h"
+#include "core/yuvarlama.h"
 
 namespace belvani {
 
@@ -20,13 +20,13 @@ enum class IndirimYeri : std::uint8_t {
 };
 
 struct IndirimGirdisi {
-  const Indir& tanim;   // the deduction's row
-  Tutar kisiTutari;     // the person's own amount; 0: the row's fixed amount, and with that 0 its rate
+  const Indir& tanim;  // the deduction's row
+  Tutar kisiTutari;    // the person's own amount; 0: the row's fixed amount, and with that 0 its rate
   Tutar gvmatrah;
-  Tutar brutkaz;        // day lines, overtime and allowances
-  Tutar yilToplami;     // deducted in all months of the year, this one too when it is stored
-  Tutar MuafTavan;      // yearly ceiling
-  Tutar KalanMatrah;    // taxable base left
+  Tutar brutkaz;      // day lines, overtime and allowances
+  Tutar yilToplami;   // deducted in all months of the year, this one too when it is stored
+  Tutar MuafTavan;    // yearly ceiling
+  Tutar KalanMatrah;  // taxable base left
 };
 
 // The month's deduction, at most what is left of the base. Once the year's sum passes the ceiling, the whole month's

@@ -32,7 +32,7 @@ Tutar KanunKatkisi(const IsverenGirdisi& g, const IsverenSonucu& s, Tutar tabanG
       const bool malullukVar = PrimPayi(s.sskmatrahisveren, g.malulluk, yuvarla) > Tutar();
       return malullukVar ? yuvarla(Yuzde(s.sskmatrahisveren.Sayi(), BesPuan)) : Tutar();
     }
-    case 5921:   // law 4447, temporary article 9, and article 50: the share on the floor
+    case 5921:  // law 4447, temporary article 9, and article 50: the share on the floor
     case 44479:
       return yuvarla(Yuzde(tabanGun.Sayi(), g.sskisverenor.Sayi()));
     case 14447:  // law 4447, temporary article 7: first year whole, then a fifth less each year
@@ -51,7 +51,9 @@ Tutar KanunKatkisi(const IsverenGirdisi& g, const IsverenSonucu& s, Tutar tabanG
 
 }  // namespace
 
-Uygulama UygulamaSec(int kod) { return kod == 1 || kod == 3 || kod == 4 ? Uygulama(kod) : Uygulama::D2007; }
+Uygulama UygulamaSec(int kod) {
+  return kod == 1 || kod == 3 || kod == 4 ? Uygulama(kod) : Uygulama::D2007;
+}
 
 IsverenSonucu IsverenPayi(const IsverenGirdisi& g, Uygulama uygulama, Yuvarlayici yuvarla) {
   const DonemKurali& kural = Kurallar[int(uygulama) - 1];

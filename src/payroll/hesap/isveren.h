@@ -20,22 +20,22 @@ Uygulama UygulamaSec(int kod);
 
 struct IsverenGirdisi {
   int SskGun = 0;
-  int ui = 0;                 // paid-leave days
-  Tutar sskmatrah;            // the employee's base
-  Tutar sskkesinti;           // and shares
+  int ui = 0;        // paid-leave days
+  Tutar sskmatrah;   // the employee's base
+  Tutar sskkesinti;  // and shares
   Tutar issizisci;
   Tek sskiscior, issiziscior, sskisverenor, issizisverenor;  // percent
-  Tutar SskTaban;             // monthly floor
-  Tek TehlikeOran;            // work-accident rate of the company, percent
-  Tek malulluk;               // employer's invalidity and old-age rate of the person's branch, percent
-  int kanun = 0;              // law code of the person
+  Tutar SskTaban;                                            // monthly floor
+  Tek TehlikeOran;                                           // work-accident rate of the company, percent
+  Tek malulluk;   // employer's invalidity and old-age rate of the person's branch, percent
+  int kanun = 0;  // law code of the person
 };
 
 struct IsverenSonucu {
   Tutar sskmatrahisveren;
-  Tutar sskkesintiisveren;    // with the relief and the employee's shortfall
+  Tutar sskkesintiisveren;  // with the relief and the employee's shortfall
   Tutar issizisveren;
-  Tutar katki;                // the state's part, or in era 1 the top-up to the floor; nothing is reduced by it
+  Tutar katki;  // the state's part, or in era 1 the top-up to the floor; nothing is reduced by it
 
   // Parts of sskkesintiisveren, for the trace.
   Tutar prim;

@@ -11,8 +11,7 @@ Tutar MuafHesapla(const MuafiyetGirdisi& g, Tutar muaftutar, Yuvarlayici yuvarla
   const auto sinirli = [&](Tutar sinir) { return muaftutar + std::min(yuvarla(g.tutar), sinir); };
 
   const auto sekil = MuafiyetSekli(g.tanim.indtip);
-  if (sekil == MuafiyetSekli::FiiliGun)
-    return g.ng > 0 ? sinirli(yuvarla(g.ng * gunlukTaban * oran / 100)) : muaftutar;
+  if (sekil == MuafiyetSekli::FiiliGun) return g.ng > 0 ? sinirli(yuvarla(g.ng * gunlukTaban * oran / 100)) : muaftutar;
   if (g.SskGun < 1) return muaftutar;
   switch (sekil) {
     case MuafiyetSekli::ToplamGunCocuk:

@@ -12,19 +12,19 @@ namespace belvani {
 
 enum class MuafiyetSekli : std::uint8_t {
   Yok = 0,
-  FiiliGun = 1,         // "Fiili Gün": limit by the days worked
-  ToplamGunCocuk = 2,   // "Toplam Gun*Çocuk": limit by all days and the children, two at most
-  ToplamGun = 3,        // "Toplam Gun": limit by all days
-  KazancOran = 4,       // "Kazanc*Oran": a rate of the allowance; replaces what earlier lines gave
-  Sabit = 5,            // "Sabit": up to a fixed amount
+  FiiliGun = 1,        // "Fiili Gün": limit by the days worked
+  ToplamGunCocuk = 2,  // "Toplam Gun*Çocuk": limit by all days and the children, two at most
+  ToplamGun = 3,       // "Toplam Gun": limit by all days
+  KazancOran = 4,      // "Kazanc*Oran": a rate of the allowance; replaces what earlier lines gave
+  Sabit = 5,           // "Sabit": up to a fixed amount
 };
 
 struct MuafiyetGirdisi {
-  Tutar tutar;              // entered on the line
+  Tutar tutar;  // entered on the line
   const YardimTanimi& tanim;
-  int ng = 0;               // days worked
-  int SskGun = 0;           // premium days
-  int cocuk = 0;            // children, whether counted for the allowance or not
+  int ng = 0;      // days worked
+  int SskGun = 0;  // premium days
+  int cocuk = 0;   // children, whether counted for the allowance or not
   Tutar SskTaban;
 };
 

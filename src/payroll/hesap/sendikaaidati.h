@@ -5,8 +5,8 @@
 // Example: dues of 50.00 with a floor of 60.00 on a net of 55.00 -> 60.00 exceeds the net, so nothing is taken.
 #pragma once
 
-#include "core/yuvarlama.h"
 #include "core/tables/sendika.h"
+#include "core/yuvarlama.h"
 
 namespace belvani {
 

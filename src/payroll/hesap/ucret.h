@@ -15,10 +15,14 @@ enum class UcretAgs : std::uint8_t { Aylik = 0, Gunluk = 1, Saatlik = 2 };
 // Branch 7, "Çırak/Stajyer/Öğrenci": position 6 in the list.
 constexpr int CirakDurumu = 6;
 
-inline bool CirakMi(const Sicil& s) { return s.sskdurum == CirakDurumu; }
+inline bool CirakMi(const Sicil& s) {
+  return s.sskdurum == CirakDurumu;
+}
 
 // Paid on the board-fee payroll: no social security.
-inline bool HuzurHakkiMi(const Sicil& s) { return s.tur != 0; }
+inline bool HuzurHakkiMi(const Sicil& s) {
+  return s.tur != 0;
+}
 
 // Money-rounded monthly gross wage.
 Tutar AylikBrutUcret(const BordroGirdi& g, Yuvarlayici yuvarla);

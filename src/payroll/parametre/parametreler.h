@@ -29,17 +29,17 @@ struct OranSatiri {
 constexpr int DalSayisi = 32;  // insurance branches that have rates
 
 struct YasalOranlar {
-  std::array<OranSatiri, DalSayisi> IsciOran{};     // row r: branch number r + 1, the person's `sskdurum` r
+  std::array<OranSatiri, DalSayisi> IsciOran{};  // row r: branch number r + 1, the person's `sskdurum` r
   std::array<OranSatiri, DalSayisi> IsverenOran{};
-  Tutar AsgariUcret;                      // gross minimum wage, monthly
-  Tutar SskTaban;                         // floor of the premium base, monthly
-  Tutar SskTavan;                         // ceiling of the premium base, monthly
-  Tutar KidemTavan;                       // ceiling of severance pay for a year of service
-  Tek DamgaOran;                          // stamp duty on wages, per thousand
-  Tutar MuafTavan;                        // yearly ceiling of each deduction from the tax base
+  Tutar AsgariUcret;                        // gross minimum wage, monthly
+  Tutar SskTaban;                           // floor of the premium base, monthly
+  Tutar SskTavan;                           // ceiling of the premium base, monthly
+  Tutar KidemTavan;                         // ceiling of severance pay for a year of service
+  Tek DamgaOran;                            // stamp duty on wages, per thousand
+  Tutar MuafTavan;                          // yearly ceiling of each deduction from the tax base
   std::array<std::uint8_t, 16> Ayrilmis{};  // kept as read
-  std::array<Tutar, 3> SakatIndirim{};    // disability deduction, monthly, degrees 1 to 3
-  Tek MuafOran;                           // kept, not calculated with
+  std::array<Tutar, 3> SakatIndirim{};      // disability deduction, monthly, degrees 1 to 3
+  Tek MuafOran;                             // kept, not calculated with
 
   bool operator==(const YasalOranlar&) const = default;
 };
@@ -102,8 +102,8 @@ constexpr std::uint8_t Dv = 8;     // enters the stamp-duty base
 constexpr std::uint8_t Muaf = 16;  // exempt by its rule (allowances only)
 }  // namespace bayrak
 
-constexpr int KazancSayisi = 9;    // ng ht ui rt mi ha fm1 fm2 fm3
-constexpr int YardimSayisi = 11;   // yrd01 … yrd11
+constexpr int KazancSayisi = 9;   // ng ht ui rt mi ha fm1 fm2 fm3
+constexpr int YardimSayisi = 11;  // yrd01 … yrd11
 
 struct KazancBayraklari {
   std::array<std::uint8_t, KazancSayisi> k{};
@@ -153,7 +153,7 @@ Kanunlar VarsayilanKanunlar();
 FazlaMesailer VarsayilanFazlaMesailer();
 KazancBayraklari VarsayilanKazancBayraklari();  // earnings; all allowances 0
 YardimTanimlari VarsayilanYardimlar();
-Sablon VarsayilanSablon();                      // 26 days worked, 4 rest days
+Sablon VarsayilanSablon();  // 26 days worked, 4 rest days
 
 // The premium rules in force in a month: code of the first row that covers the month's first day (`bittar` itself is
 // outside); 0 when none does. 10.2008 -> 4.

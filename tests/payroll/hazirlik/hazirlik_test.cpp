@@ -3,7 +3,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
 #include <random>
 #include <thread>
 
@@ -28,11 +27,11 @@ std::vector<std::string> Metinler(const HazirlikSonucu& s) {
 TEST(TopluHazirla, SavesWhoBelongsToThePeriodAndEarns) {
   Sirket sirket;
   sirket.Kisi("1", 666);
-  sirket.Kisi("2", 666, Tarih(2009, 3, 1));                       // not yet
-  sirket.Kisi("3", 666, Tarih(2005, 1, 1), Tarih(2009, 1, 31));   // no more
-  sirket.Kisi("4", 666, Tarih(2009, 2, 17));                      // 12 days
-  sirket.Kisi("5", 0);                                            // earns nothing
-  sirket.Kisi("6", 666, Tarih());                                 // no hire date
+  sirket.Kisi("2", 666, Tarih(2009, 3, 1));                      // not yet
+  sirket.Kisi("3", 666, Tarih(2005, 1, 1), Tarih(2009, 1, 31));  // no more
+  sirket.Kisi("4", 666, Tarih(2009, 2, 17));                     // 12 days
+  sirket.Kisi("5", 0);                                           // earns nothing
+  sirket.Kisi("6", 666, Tarih());                                // no hire date
   const auto s = sirket.Hazirla(2009, 2);
   EXPECT_TRUE(s.kaydedildi);
   EXPECT_EQ(s.kaydedilen, 2);
@@ -136,15 +135,16 @@ TEST(TopluHazirla, TellsWhatItCannotCalculateAndGoesOn) {
   sirket.Kisi("3", 666);
   sirket.Kisi("4", 666);
   sirket.Kisi("5", 666);
-  sirket.motor().Calistir("update sicil set ucretags = 2 where kod = '2'; update sicil set sakatdrc = 4 where kod = '3';"
-                          "update sicil set sskdurum = 32 where kod = '4'; update sicil set hesap = 'yok' where kod = '5'");
+  sirket.motor().Calistir(
+      "update sicil set ucretags = 2 where kod = '2'; update sicil set sakatdrc = 4 where kod = '3';"
+      "update sicil set sskdurum = 32 where kod = '4'; update sicil set hesap = 'yok' where kod = '5'");
   const auto s = sirket.Hazirla(2009, 1);
   EXPECT_TRUE(s.kaydedildi);
   EXPECT_EQ(s.kaydedilen, 1);
   EXPECT_THAT(Metinler(s),
               ElementsAre("U 2: Hesaplanan bir tutar sınırı aşıyor", "U 3: Sakatlık derecesi 0 ile 3 arasında olmalı",
-                          HasSubstr("U 4: SSK durumu 32 için prim oranı yok"), HasSubstr("U 5: Hesap grubu tanımlı değil"),
-                          HasSubstr("U 5: Net sıfırın üstünde değil")));
+                          HasSubstr("U 4: SSK durumu 32 için prim oranı yok"),
+                          HasSubstr("U 5: Hesap grubu tanımlı değil"), HasSubstr("U 5: Net sıfırın üstünde değil")));
 }
 
 struct Iptalci : Ilerleme {

@@ -18,7 +18,9 @@ T Al(Sonuc<T> sonuc) {
   return std::move(*sonuc);
 }
 
-inline YasalParametreler Yasal(int yil, int ay) { return Al(MevzuatYukle(KaynakYolu("data/mevzuat/"), yil, ay)); }
+inline YasalParametreler Yasal(int yil, int ay) {
+  return Al(MevzuatYukle(KaynakYolu("data/mevzuat/"), yil, ay));
+}
 
 struct Sirket {
   GeciciDizin dizin;
@@ -58,8 +60,8 @@ struct Sirket {
     return KayitlariOku<Brd>(motor(), "where yil = ? and ay = ? order by kod", {std::int64_t(yil), std::int64_t(ay)});
   }
   Brd Kayit(const std::string& kod, int yil, int ay) {
-    const auto k = KayitlariOku<Brd>(motor(), "where kod = ? and yil = ? and ay = ?",
-                                     {kod, std::int64_t(yil), std::int64_t(ay)});
+    const auto k =
+        KayitlariOku<Brd>(motor(), "where kod = ? and yil = ? and ay = ?", {kod, std::int64_t(yil), std::int64_t(ay)});
     if (k.size() != 1) throw std::runtime_error(kod + ": " + std::to_string(k.size()) + " records");
     return k.front();
   }

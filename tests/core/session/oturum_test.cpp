@@ -1,0 +1,310 @@
+// From the start of the program to a login, with settings in a directory of the test.
+#include "core/session/oturum.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include "bildirim.h"
+#include "core/ayarlar.h"
+#include "core/dosya.h"
+#include "core/session/sirket.h"
+#include "core/store/satirlar.h"
+#include "core/tables/firma.h"
+#include "core/tables/peruser.h"
+#include "core/tablo.h"
+#include "gecici.h"
+#include "surec.h"
+
+namespace belvani {
+namespace {
+
+using test::GeciciDizin;
+using test::Iletiler;
+using test::Tablo;
+using I = std::int64_t;
+
+// Sets an environment variable for the time of a test.
+class Ortam {
+ public:
+  Ortam(const char* ad, const std::string& deger) : ad_(ad), eski_(std::getenv(ad)) { ::setenv(ad, deger.c_str(), 1); }
+  ~Ortam() { ::setenv(ad_, eski_.c_str(), 1); }
+  Ortam(const Ortam&) = delete;
+  Ortam& operator=(const Ortam&) = delete;
+
+ private:
+  const char* ad_;
+  std::string eski_;
+};
+
+struct OturumTest : testing::Test {
+  GeciciDizin d;
+  Ortam makine{"BELVANI_MAKINE_AYAR", d.Yol() + "makine.ini"};
+  Ortam kullanici{"BELVANI_KULLANICI_DIZIN", d.Yol() + "ayar"};
+  test::ToplayanBildirim b;
+  Oturum o;
+
+  OturumTest() { o.DataPath = d.Yol() + "veri/"; }
+
+  void Kur(const char* ad = "deneme") {
+    const auto sonuc = SirketOlustur(o, ad, "Ayşe", "gizli'", b);
+    ASSERT_TRUE(sonuc) << sonuc.HataMetni();
+  }
+  void Sql(const std::string& sql) { ASSERT_NO_THROW(o.depo.db.IcMotor().Calistir(sql)) << sql; }
+};
+
+mode_t Izin(const std::string& yol) {
+  struct stat s {};
+  return ::stat(yol.c_str(), &s) == 0 ? s.st_mode & 0777 : 0;
+}
+
+TEST_F(OturumTest, FirstRunThenRecordedPaths) {
+  const std::string prg = d.Yol() + "prg", data = prg + "/PerData/";
+  ASSERT_TRUE(DizinYarat(prg));
+  ASSERT_TRUE(Baslat(o, prg, "/komut/satiri", b));
+  EXPECT_EQ(b.Al(), Iletiler{"Bilgi: Yeni Data Dizini Yaratıldı\n" + data});
+  EXPECT_EQ(o.PrgPath + "|" + o.DataPath, prg + "/|" + data);
+  EXPECT_EQ(MakineAyari("PrgPath") + "|" + MakineAyari("DataPath"), prg + "/|" + data);
+  EXPECT_EQ(Izin(data), mode_t(0770));
+  EXPECT_EQ(o.Versiyon, Tek(2003.7));
+  EXPECT_EQ(o.BilgisayarAdi, BilgisayarAdiBul());
+  EXPECT_EQ(o.Kullanici + o.ParaBirimi + o.KurusBirimi + o.ResimYolu, "BELVANITLKRimage/soft/");
+  EXPECT_TRUE(o.ResimKullan && o.ListeSirasi == 1);
+  // {command line, data path of this run}; the record does not change.
+  for (const auto& [komut, yol] :
+       Tablo<std::string, std::string>{{"", data}, {"/baska yer", "/baska yer/"}, {"/x/", "/x/"}}) {
+    ASSERT_TRUE(Baslat(o, "/hic/onemli/degil", komut, b));
+    EXPECT_EQ(o.PrgPath + "|" + o.DataPath, prg + "/|" + yol);
+    EXPECT_EQ(MakineAyari("DataPath"), data);
+    EXPECT_EQ(b.Al(), Iletiler{});
+  }
+}
+
+// A program directory that is not ours to write, a data directory that cannot be made, settings that cannot be kept.
+TEST_F(OturumTest, FirstRunUnderDifficulties) {
+  const std::string dosya = d.Yol() + "PerData";
+  ASSERT_TRUE(DosyaYaz(dosya, ""));
+  EXPECT_FALSE(Baslat(o, d.Yol(), "", b));
+  EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Data Dizini Yaratılamıyor.\n" + dosya + "/\nHata Kodu:0"});
+  EXPECT_EQ(MakineAyari("PrgPath"), "");
+  const Ortam yazilmaz("BELVANI_MAKINE_AYAR", dosya + "/makine.ini");
+  EXPECT_TRUE(Baslat(o, "/proc/belvani", "", b));
+  EXPECT_EQ(o.DataPath, d.Yol() + "ayar/veri/PerData/");
+  EXPECT_TRUE(DizinVar(o.DataPath));
+  const auto iletiler = b.Al();
+  ASSERT_EQ(iletiler.size(), 3u);
+  EXPECT_EQ(iletiler[0], "Bilgi: Yeni Data Dizini Yaratıldı\n" + o.DataPath);
+  EXPECT_TRUE(iletiler[1].starts_with("Uyarı: ") && iletiler[2].starts_with("Uyarı: "));
+}
+
+TEST_F(OturumTest, ColourTable) {
+  using Uc = std::array<std::uint32_t, 3>;
+  o.PrgPath = d.Yol();
+  const std::string dizin = d.Yol() + o.ResimYolu, yol = dizin + "renk.dat";
+  const auto ilkIkiSon = [&] {
+    o.Renkler.fill(9);
+    RenkYukle(o);
+    return Uc{o.Renkler[0], o.Renkler[1], o.Renkler[41]};
+  };
+  EXPECT_EQ(ilkIkiSon(), Uc{});
+  ASSERT_TRUE(!std::filesystem::exists(dizin) && DizinYarat(dizin));
+  EXPECT_EQ(ilkIkiSon(), Uc{});
+  EXPECT_EQ(DosyaOku(yol), "");
+  const std::string kayit =
+      "\x01\x02\x03\xF4\xFF\xFF\xFF\xFF" + std::string(156, '\0') + std::string("\x05\0\0\x80", 4);
+  const Uc tam{0xF4030201, 0xFFFFFFFF, 0x80000005};
+  for (const auto& [icerik, renkler] :
+       Tablo<std::string, Uc>{{kayit, tam}, {kayit + "fazla", tam}, {kayit.substr(0, 6), {0xF4030201, 0xFFFF, 0}}}) {
+    ASSERT_TRUE(DosyaYaz(yol, icerik));
+    EXPECT_EQ(ilkIkiSon(), renkler);
+    EXPECT_EQ(DosyaOku(yol), icerik);
+  }
+  const std::string buyuk(65u << 20, 'x');  // what is not read is not replaced
+  ASSERT_TRUE(DosyaYaz(yol, buyuk));
+  EXPECT_EQ(ilkIkiSon(), Uc{});
+  EXPECT_EQ(std::filesystem::file_size(yol), buyuk.size());
+}
+
+TEST_F(OturumTest, NewCompanyIsOpenAndComplete) {
+  const mode_t eski = ::umask(0777);
+  Kur(" izmir ");
+  ::umask(eski);
+  EXPECT_EQ(o.FirmaKod + "|" + o.FirmaDizini, "İZMİR|" + d.Yol() + "veri/İZMİR/");
+  EXPECT_EQ(Izin(o.FirmaDizini), mode_t(0770));
+  EXPECT_EQ(Izin(o.FirmaDizini + "tolu.dat"), mode_t(0660));
+  const auto kullanicilar = KayitlariOku<Peruser>(o.depo.db.IcMotor());
+  EXPECT_EQ(kullanicilar, (std::vector<Peruser>{{"Ayşe", "gizli'", true}}));
+  EXPECT_TRUE(o.depo.kaztan.AcikMi() && VersiyonKontrol(o, b));
+  EXPECT_EQ(b.iletiler, Iletiler{});
+}
+
+// Every column: text is empty unless told, the rest is Null unless told. A record that is there is filled anew.
+TEST_F(OturumTest, FirstCompanyRecordFieldByField) {
+  Kur();
+  Sql("update firma set unvan = 'Eski', tersfirma = null, verda = 'Konak', issaati = 3");
+  FirmaIlkKayit(o, b);
+  const Tarih bugun = Tarih::Bugun();
+  const std::string unvan = "Yeni Şirket (" + std::to_string(bugun.Yil()) + ")";
+  // clang-format off
+  const std::map<std::string_view, Deger> yazilan{
+      {"unvan", unvan}, {"kurtar", bugun}, {"iskodu", I(1)}, {"yuvar", 0.0}, {"issaati", 8.0}, {"paraonda", I(2)},
+      {"firmayil", I(bugun.Yil())}, {"firmaay", I(bugun.Ay())}, {"tehlike", I(0)}, {"sinif", 0.0},
+      {"ondeger", std::string("Personel")}, {"kanun", std::string("00000")}, {"versiyon", 2003.7}};
+  // clang-format on
+  ASSERT_TRUE(o.depo.firma.KayitSayisi() == 1 && o.depo.firma.IlkKayit());
+  Firma::HerKolon([&](const AlanTanimi& alan) {
+    const auto i = yazilan.find(alan.ad);
+    const bool metin = alan.tip == AlanTipi::Metin, bos = i == yazilan.end();
+    Imlec s;
+    EXPECT_EQ(o.depo.db.SqlAc(s, "select 1 from firma where " + std::string(alan.ad) + " is null"), bos && !metin)
+        << alan.ad;
+    EXPECT_EQ(o.depo.firma.AlanOku(alan.ad), !bos ? i->second : metin ? Deger(std::string()) : Deger(I(0))) << alan.ad;
+  });
+  EXPECT_EQ(o.unvan + o.ondeger, unvan + "Personel");
+  EXPECT_EQ(o.firmayil * 100 + o.firmaay, bugun.Yil() * 100 + bugun.Ay());
+  Sql("drop table firma");
+  FirmaIlkKayit(o, b);
+  EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Firma Bilgileri Güncellenemedi"});
+}
+
+TEST_F(OturumTest, NewCompanyRefusedLeavesNoTrace) {
+  using Metin = const char*;
+  for (const auto& [ad, kod, sifre, metin] :
+       Tablo<Metin, Metin, Metin, Metin>{{"..", "a", "b", "Şirket adında kullanılamayan bir harf var"},
+                                         {"yeni", "", "b", "Kullanıcı adı boş olamaz"},
+                                         {"yeni", " \t", "b", "Kullanıcı adı boş olamaz"},
+                                         {"yeni", "çokuzunad", "b", "Kullanıcı adı: en çok 8 harf olabilir"},
+                                         {"yeni", "\xFF", "b", "Kullanıcı adı: okunamayan harf var"},
+                                         {"yeni", "a", "123456789", "Şifre: en çok 8 harf olabilir"}}) {
+    const auto sonuc = SirketOlustur(o, ad, kod, sifre, b);
+    ASSERT_FALSE(sonuc) << metin;
+    EXPECT_TRUE(sonuc.HataMetni().starts_with(metin)) << sonuc.HataMetni();
+    EXPECT_FALSE(std::filesystem::exists(o.DataPath));
+  }
+  ASSERT_TRUE(DizinYarat(o.DataPath + "izmir") && DosyaYaz(o.DataPath + "DOSYA", "x"));
+  EXPECT_EQ(SirketOlustur(o, "İzmir", "a", "b", b).HataMetni(), "Bu adda bir şirket var: İZMİR");
+  EXPECT_TRUE(std::filesystem::is_empty(o.DataPath + "izmir"));
+  EXPECT_EQ(SirketOlustur(o, "dosya", "a", "b", b).HataMetni(),
+            "Şirket Dizini Yaratılamıyor: " + o.DataPath + "DOSYA/");
+  EXPECT_EQ(DosyaOku(o.DataPath + "DOSYA"), "x");
+  EXPECT_EQ(o.FirmaKod, "");
+  EXPECT_EQ(b.iletiler, Iletiler{});
+}
+
+// The disk has room for `sinir` bytes a file. 0: the company is complete; 1: refused, and nothing of it is there.
+int DarDisktaKur(Oturum& o, rlim_t sinir) {
+  ::signal(SIGXFSZ, SIG_IGN);
+  const rlimit dar{sinir, sinir};
+  if (::setrlimit(RLIMIT_FSIZE, &dar) != 0) return 9;
+  test::ToplayanBildirim b;
+  if (SirketOlustur(o, "dar", "a", "b", b)) return o.depo.peruser.KayitSayisi() == 1 && SirketAc(o, "dar", b) ? 0 : 2;
+  return o.depo.db.AcikMi() || !o.FirmaKod.empty() || std::filesystem::exists(o.DataPath + "DAR") ? 3 : 1;
+}
+
+TEST_F(OturumTest, NewCompanyOnAFullDisk) {
+  int sayi[2] = {};
+  for (rlim_t sinir = 0; sinir < 2'000'000; sinir = sinir * 5 / 4 + 2000) {
+    o.DataPath = d.Yol() + std::to_string(sinir) + "/";
+    const int sonuc = test::Surec([&] { return DarDisktaKur(o, sinir); }).Bekle();
+    ASSERT_TRUE(sonuc == 0 || sonuc == 1) << sinir << ": " << sonuc;
+    ++sayi[sonuc];
+  }
+  EXPECT_TRUE(sayi[0] > 2 && sayi[1] > 9) << sayi[0] << " " << sayi[1];
+}
+
+// The one that loses must not take the winner's company away with its own.
+TEST_F(OturumTest, ManyMakeTheSameCompanyAtOnce) {
+  for (int kez = 0; kez < 10; ++kez) {
+    const std::string ad = "ortak" + std::to_string(kez);
+    std::vector<test::Surec> surecler;
+    for (const char* kod : {"1", "2", "3", "4"})
+      surecler.emplace_back([&, kod] { return SirketOlustur(o, ad, kod, "", b) ? 0 : 1; });
+    int kuran = 0;
+    for (auto& s : surecler) kuran += s.Bekle() == 0;
+    EXPECT_EQ(kuran, 1);
+    EXPECT_TRUE(SirketAc(o, ad, b) && o.depo.peruser.KayitSayisi() == 1 && FirmaYukle(o));
+    o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
+  }
+}
+
+TEST_F(OturumTest, CompanyThatCannotBeOpened) {
+  ASSERT_TRUE(DizinYarat(o.DataPath + "BOS") && DizinYarat(o.DataPath + "COP/tolu.dat"));
+  Kur();
+  Sql("drop table peruser");
+  const std::string acilamadi = "Database Açılamadı: " + o.DataPath;
+  for (const auto& [ad, metin] :
+       Tablo<const char*, std::string>{{"yok", "Şirket Bulunamadı: YOK"},
+                                       {"../deneme", "Şirket adında kullanılamayan bir harf var"},
+                                       {"bos", acilamadi + "BOS/tolu.dat\nVeritabanı dosyası açılamadı"},
+                                       {"cop", acilamadi + "COP/tolu.dat\nVeritabanı dosyası açılamadı"},
+                                       {"deneme", acilamadi + "DENEME/tolu.dat\nTablo yok: peruser"}}) {
+    Oturum yeni;
+    yeni.DataPath = o.DataPath;
+    const auto sonuc = SirketAc(yeni, ad, b);
+    ASSERT_FALSE(sonuc) << ad;
+    EXPECT_TRUE(sonuc.HataMetni().starts_with(metin)) << sonuc.HataMetni();
+    EXPECT_FALSE(yeni.depo.db.AcikMi());
+    EXPECT_EQ(yeni.FirmaKod + yeni.FirmaDizini, "");
+  }
+  EXPECT_TRUE(std::filesystem::is_empty(o.DataPath + "BOS"));
+  EXPECT_EQ(b.Al(), Iletiler{"Uyarı: PErUser SQL Tablosu Açılamadı"});
+}
+
+TEST_F(OturumTest, Login) {
+  Kur();
+  Sql("insert into peruser (kod, pasw) values ('bos', ''), ('null', null), ('BIR', '1'), ('x'';--', 'x'' or ''1')");
+  Sql("update firma set unvan = 'Ünvan', firmayil = 2008, firmaay = 10, paraonda = 0, ondeger = 'Memur'");
+  // {company, user, password, true: lets in}
+  // clang-format off
+  const Tablo<const char*, const char*, const char*, bool> durumlar{
+      {"deneme", "Ayşe", "gizli'", true}, {" Deneme ", "AYŞE", "gizli'", true}, {"deneme", "Ayşe", "Gizli'", false},
+      {"deneme", "Ayşe", "", false}, {"deneme", "Ayse", "gizli'", false}, {"deneme", "", "", false}, {"deneme", "bos", "", true},
+      {"deneme", "null", "", true}, {"deneme", "null", "0", false}, {"deneme", "bir", "1", false}, {"deneme", "bır", "1", true},
+      {"deneme", "Ayşe", "' or '1'='1", false}, {"deneme", "x';--", "x' or '1", true}, {"deneme", "' or 1=1 --", "", false}};
+  // clang-format on
+  for (const auto& [sirket, kod, sifre, girer] : durumlar) {
+    SCOPED_TRACE(std::string(kod) + "/" + sifre);
+    ASSERT_TRUE(SirketAc(o, "deneme", b));
+    o.unvan = o.ondeger = "";
+    const std::string onceki = KullaniciAyari("lastuser", "BELVANI");
+    EXPECT_EQ(OturumAc(o, sirket, kod, sifre, b), girer);
+    const Iletiler hatali{"Bilgi: Kullanıcı Adı veya Kullanıcı Şifresi\n           HATALI"};
+    EXPECT_EQ(b.Al(), girer ? Iletiler{} : hatali);
+    EXPECT_TRUE(o.depo.db.AcikMi());
+    EXPECT_EQ(o.depo.peruser.AcikMi() && o.depo.cari.AcikMi(), girer);
+    EXPECT_EQ(KullaniciAyari("lastuser", "BELVANI"), girer ? kod : onceki);
+    EXPECT_EQ(o.unvan + o.ondeger, girer ? "ÜnvanMemur" : "");
+    if (!girer) continue;
+    EXPECT_EQ(o.Kullanici + o.FirmaKod + KullaniciAyari("lastfirm", ""), std::string(kod) + "DENEMEDENEME");
+    EXPECT_EQ(o.firmayil * 1000 + o.firmaay * 10 + o.paraonda, 2'008'100);
+  }
+}
+
+TEST_F(OturumTest, LoginWithoutCompanyRecordAndSettings) {
+  Kur();
+  Sql("delete from firma");
+  o.firmayil = 1999, o.firmaay = 3, o.paraonda = 1, o.unvan = "Kalan", o.ondeger = "x";
+  ASSERT_TRUE(DosyaYaz(d.Yol() + "dosya", ""));
+  const Ortam yazilmaz("BELVANI_KULLANICI_DIZIN", d.Yol() + "dosya/x");
+  EXPECT_TRUE(OturumAc(o, "deneme", "ayşe", "gizli'", b));
+  EXPECT_EQ(b.iletiler.size(), 3u);  // two settings that could not be kept, and
+  EXPECT_EQ(b.iletiler.back(), "Bilgi: Firma Bilgilerini Vermeyi Unutmayınız.");
+  EXPECT_EQ(o.firmayil * 1000 + o.firmaay * 10 + o.paraonda, 1'999'031);
+  EXPECT_EQ(o.Kullanici + o.unvan + o.ondeger, "ayşeKalanPersonel");
+}
+
+TEST_F(OturumTest, Versions) {
+  Kur();
+  for (const std::string versiyon : {"2003.7", "2003.6", "2003.75", "2004.1", "0"}) {
+    Sql("update firma set versiyon = " + versiyon);
+    const bool ayni = versiyon == "2003.7";
+    EXPECT_EQ(VersiyonKontrol(o, b), ayni) << versiyon;
+    const Iletiler farkli{
+        "Uyarı: Program Versiyonu ile Database Versiyonu Farklı...\nProgram Versiyon:2003.7\nDatabase Versiyon:" +
+        versiyon + "\nUpdate Programını Çalıştırınız..."};
+    EXPECT_EQ(b.Al(), ayni ? Iletiler{} : farkli);
+  }
+}
+
+}  // namespace
+}  // namespace belvani

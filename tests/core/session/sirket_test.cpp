@@ -1,0 +1,74 @@
+// Company names and their directories.
+#include "core/session/sirket.h"
+
+#include <gtest/gtest.h>
+
+#include "core/dosya.h"
+#include "core/tablo.h"
+#include "gecici.h"
+
+namespace belvani {
+namespace {
+
+using test::GeciciDizin;
+using test::Tablo;
+
+std::string Kez(const char* harf, int kez) {
+  std::string s;
+  for (; kez > 0; --kez) s += harf;
+  return s;
+}
+
+TEST(SirketAdi, KeptInUpperCase) {
+  for (const auto& [metin, ad] : Tablo<std::string, std::string>{{"izmir", "İZMİR"},
+                                                                 {"ISPARTA", "ISPARTA"},
+                                                                 {"  Şişli ğüçö ", "ŞİŞLİ ĞÜÇÖ"},
+                                                                 {"a.b..", "A.B.."},
+                                                                 {"O'Neil; --", "O'NEİL; --"},
+                                                                 {Kez("ş", 64), Kez("Ş", 64)}}) {
+    const auto sonuc = SirketAdi(metin);
+    ASSERT_TRUE(sonuc) << metin << sonuc.HataMetni();
+    EXPECT_EQ(*sonuc, ad);
+  }
+}
+
+TEST(SirketAdi, Refused) {
+  const std::string bos = "Şirket adı boş olamaz", uzun = "Şirket adı çok uzun (en çok 64 harf)",
+                    harf =
+                        "Şirket adında kullanılamayan bir harf var: nokta ile başlayamaz, / \\ : * ? \" < > | içeremez";
+  // clang-format off
+  const Tablo<std::string, std::vector<std::string>> durumlar{
+      {bos, {"", "  "}}, {uzun, {std::string(65, 'a'), Kez("ş", 65), Kez("😀", 51), std::string(100'000, 'a')}},
+      {harf, {".", "..", "../A", "A/B", "/", "/etc", "A\\B", "..\\A", "C:", "A*", "A?", "\"A\"", "<A>", "A|B", ".gizli", "A\nB",
+              "A\t", std::string("A\0B", 3), "A\x7F", "A\x1B[2J", "\xFF", "A\xC3"}}};
+  // clang-format on
+  for (const auto& [kusur, adlar] : durumlar)
+    for (const auto& ad : adlar) {
+      ASSERT_FALSE(SirketAdi(ad)) << ad;
+      EXPECT_EQ(SirketAdi(ad).HataMetni(), kusur) << ad;
+      EXPECT_FALSE(SirketDizini("/tmp/", ad)) << ad;
+    }
+}
+
+TEST(SirketDizini, FoundInAnyTurkishCase) {
+  const GeciciDizin d;
+  for (const char* ad : {"izmir", "Isparta", "ÇORUM", "Şile", "Samsun", ".gizli"})
+    ASSERT_TRUE(DizinYarat(d.Yol() + ad));
+  ASSERT_TRUE(DosyaYaz(d.Yol() + "DOSYA", ""));
+  EXPECT_EQ(Sirketler(d.Yol()), (std::vector<std::string>{"ÇORUM", "Isparta", "izmir", "Samsun", "Şile"}));
+  EXPECT_TRUE(Sirketler(d.Yol() + "yok/").empty() && Sirketler(d.Yol() + "DOSYA").empty());
+  for (const auto& [ad, dizin] : Tablo<const char*, const char*>{
+           {"İZMİR", "izmir"}, {" İzmir ", "izmir"}, {"ısparta", "Isparta"}, {"çorum", "ÇORUM"}}) {
+    const auto sonuc = SirketDizini(d.Yol(), ad);
+    ASSERT_TRUE(sonuc) << ad;
+    EXPECT_EQ(*sonuc, d.Yol() + dizin + "/");
+  }
+  for (const auto& [ad, buyuk] :
+       Tablo<const char*, std::string>{{"isparta", "İSPARTA"}, {"IZMIR", "IZMIR"}, {"dosya", "DOSYA"}})
+    EXPECT_EQ(SirketDizini(d.Yol(), ad).HataMetni(), "Şirket Bulunamadı: " + buyuk);
+  ASSERT_TRUE(DizinYarat(d.Yol() + "İZMİR"));  // the kept form goes before one made by hand
+  EXPECT_EQ(*SirketDizini(d.Yol(), "izmir"), d.Yol() + "İZMİR/");
+}
+
+}  // namespace
+}  // namespace belvani
