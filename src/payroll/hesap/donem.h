@@ -26,7 +26,7 @@ struct BordroDonemi {
 enum class DonemUygunlugu { Uygun, DonemDisi, GirisTarihiHatali };
 
 struct CalismaGunu {
-  int CalismaGun = 0;  // days the person may work in the period, 0 to 30
+  int CalismaGun = 0;  // days the person may work in the period, at most 30; negative: left before hired
   DonemUygunlugu uygunluk = DonemUygunlugu::DonemDisi;
 };
 

@@ -3,7 +3,8 @@
 // Between gross and net stand three rounded deductions (premium, income tax, stamp duty), so there is no closed form;
 // the gross is found by halving. The answer holds for a full month of plain wage: days, allowances, deductions, union
 // fee and the minimum-living allowance are not looked at, and the whole monthly ceiling applies.
-// Example (2009, first half; 15 % premium, 6 per thousand): net 477.00 with nothing carried in -> gross 666.05.
+// Example (2009, first half; 15 % premium, 6 per thousand): net 477.00 with nothing carried in -> gross 665.73,
+// for 665.73 − 99.86 − 84.88 − 3.99 = 477.00.
 #pragma once
 
 #include "core/yuvarlama.h"
@@ -19,8 +20,8 @@ struct NettenBrutKosullari {
   int paraonda = 2;
 };
 
-// Some nets are reached by no gross, for the rounded deductions let the net jump by two kuruş; the search then stands
-// still between two neighbours and gives the last midpoint tried.
+// A net that no gross reaches (one between two kuruş, say) would let the search stand still between two neighbours for
+// ever; it then gives the last midpoint tried.
 Tutar NettenBrut(const GvTablosu& tablo, Tutar net, const NettenBrutKosullari& kosullar);
 
 }  // namespace belvani
