@@ -22,11 +22,6 @@ std::string_view BosluklariKirp(std::string_view s) {
   return s;
 }
 
-bool AdEsit(std::string_view a, std::string_view b) {
-  const auto kucuk = [](char c) { return c >= 'A' && c <= 'Z' ? char(c + 'a' - 'A') : c; };
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return kucuk(x) == kucuk(y); });
-}
-
 // A line that says nothing (blank, comment) has neither section nor key.
 struct Satir {
   std::optional<std::string_view> bolum;

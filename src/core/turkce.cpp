@@ -152,6 +152,11 @@ bool TurkceEsit(std::string_view a, std::string_view b) {
   return TurkceKarsilastir(a, b) == 0;
 }
 
+bool AdEsit(std::string_view a, std::string_view b) {
+  const auto kucuk = [](char c) { return c >= 'A' && c <= 'Z' ? char(c + 'a' - 'A') : c; };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return kucuk(x) == kucuk(y); });
+}
+
 std::uint32_t TurkceSiraSurumu() {
   UVersionInfo surum;
   ucol_getVersion(Siralayici(), surum);

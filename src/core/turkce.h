@@ -17,6 +17,9 @@ std::string KucukHarf(std::string_view metin);
 int TurkceKarsilastir(std::string_view a, std::string_view b);
 bool TurkceEsit(std::string_view a, std::string_view b);
 
+// Names that programs give (files' keys, tables, columns): the case of A-Z alone is ignored.
+bool AdEsit(std::string_view a, std::string_view b);
+
 // Changes whenever the order does (another version of the library): stored indexes must then be rebuilt.
 std::uint32_t TurkceSiraSurumu();
 

@@ -4,16 +4,12 @@
 
 #include "core/store/donusum.h"
 #include "core/tables/tablolar.h"
+#include "core/turkce.h"
 
 namespace belvani {
 namespace {
 
 const Deger OkunamayanDeger = std::int64_t(1);
-
-bool AdEsit(std::string_view a, std::string_view b) {
-  const auto kucuk = [](char c) { return c >= 'A' && c <= 'Z' ? char(c + 'a' - 'A') : c; };
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return kucuk(x) == kucuk(y); });
-}
 
 Deger NullOkunusu(AlanTipi tip) {
   if (tip == AlanTipi::Metin || tip == AlanTipi::Tarih) return std::string();

@@ -6,6 +6,7 @@
 
 #include "core/store/imlec.h"
 #include "core/tables/tablolar.h"
+#include "core/turkce.h"
 
 namespace belvani {
 namespace {
@@ -99,11 +100,8 @@ bool Veritabani::TabloVarMi(std::string_view tablo) {
 
 bool Veritabani::AlanVarMi(std::string_view tablo, std::string_view alan) {
   return Koru(false, [&] {
-    const AlanTanimi aranan{alan, AlanTipi::Metin, 0, AlanNiteligi::Serbest};
     const auto kolonlar = motor_->Kolonlar(tablo);
-    return std::any_of(kolonlar.begin(), kolonlar.end(), [&](const MotorKolonu& k) {
-      return TabloTanimi{"", {aranan}, {}, {}}.AlanBul(k.ad) != nullptr;
-    });
+    return std::any_of(kolonlar.begin(), kolonlar.end(), [&](const MotorKolonu& k) { return AdEsit(k.ad, alan); });
   });
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/turkce.h"
+
 namespace belvani {
 namespace {
 
@@ -14,11 +16,6 @@ TabloTanimi Tanim(std::vector<IndeksTanimi> indeksler, std::vector<IndeksTanimi>
 
 IndeksTanimi Anahtar(std::string_view alan) {
   return {alan, {alan}, true, true};
-}
-
-bool AdEsit(std::string_view a, std::string_view b) {
-  const auto kucuk = [](char c) { return c >= 'A' && c <= 'Z' ? char(c + 'a' - 'A') : c; };
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return kucuk(x) == kucuk(y); });
 }
 
 }  // namespace

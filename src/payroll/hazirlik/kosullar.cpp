@@ -82,7 +82,7 @@ FirmaParametreleri FirmaDosyalariYukle(Oturum& o, BozukDosya bozuk) {
   if (!o.ondeger.empty()) VarsayilanGrubuEkle(motor, f, o.ondeger, dosyadan);
   f.varsayilan = KazancGrupYukle(f, o.ondeger);
   f.mesailer = Al(f, FazlaMesaiYukle(o.FirmaDizini));
-  f.sablon = Al(f, bozuk == BozukDosya::Onarilir ? SablonYukle(o.FirmaDizini) : SablonOku(o.FirmaDizini));
+  f.sablon = Al(f, SablonYukle(o.FirmaDizini, bozuk));
   YardimlariOku(motor, f.yardimlar);
   for (Indir& satir : KayitlariOku<Indir>(motor))
     if (satir.no >= 1 && satir.no <= f.indirimler.size()) f.indirimler[satir.no - 1u] = std::move(satir);

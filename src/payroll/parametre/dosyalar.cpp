@@ -52,7 +52,7 @@ class Yukleyici {
   typename Kayit::Deger AlYaDaYaz(const typename Kayit::Deger& hazir, const std::string& sonuc) {
     const OkunanDosya dosya = Oku(dizin_ + std::string(Kayit::Dosya));
     if (const auto deger = Coz<Kayit>(dosya, sonuc)) return *deger;
-    if (!dosya.okunamadi) Yaz(Kayit::Dosya, KayitBaytlari<Kayit>(hazir));
+    Onar(Kayit::Dosya, dosya, KayitBaytlari<Kayit>(hazir));
     return hazir;
   }
 
@@ -79,16 +79,21 @@ class Yukleyici {
       Uyar(ad, "okunamadı: " + sonuc);
     else if (dosya.boy > 0)
       Uyar(ad, std::to_string(dosya.boy) + " bayt, " + beklenen + ": " + sonuc);
-    else if (eksik_ == Eksik::Bildirilir && ad != KanunKaydi::Dosya)  // nobody downloads or sends that one
+    else if (!EksikligiOlagan(ad))
       Uyar(ad, "yok ya da boş: " + sonuc);
   }
 
-  void Yaz(std::string_view ad, const std::string& baytlar) {
-    if (bozuk_ == BozukDosya::Kalir) return;
+  // Puts the built-in record in the place of a file that does not serve, so far as that is wanted.
+  void Onar(std::string_view ad, const OkunanDosya& dosya, const std::string& baytlar) {
+    const bool bosYer = dosya.boy == 0 && EksikligiOlagan(ad);
+    if (dosya.okunamadi || (bozuk_ == BozukDosya::Kalir && !bosYer)) return;
     if (const auto durum = DosyaYaz(dizin_ + std::string(ad), baytlar); !durum) uyarilar_.push_back(durum.HataMetni());
   }
 
   void Uyar(std::string_view ad, const std::string& metin) { uyarilar_.push_back(std::string(ad) + " " + metin); }
+
+  // Nobody downloads or sends kanun.dat.
+  bool EksikligiOlagan(std::string_view ad) const { return eksik_ == Eksik::Olagan || ad == KanunKaydi::Dosya; }
 
   const std::string& Dizin() const { return dizin_; }
   std::vector<std::string> Uyarilar() && { return std::move(uyarilar_); }
@@ -120,7 +125,7 @@ Kanunlar KanunlariYukle(Yukleyici& y) {
   if (dosya.boy > dosya.baytlar.size()) dosya.okunamadi = true;
   if (dosya.okunamadi || dosya.boy < EnAzKanunBoyu) {
     y.BoyUyarisi(KanunKaydi::Dosya, dosya, "en az 72 bayt olmalıydı", "hazır dönemler alındı.");
-    if (!dosya.okunamadi) y.Yaz(KanunKaydi::Dosya, KanunBaytlari(VarsayilanKanunlar()));
+    y.Onar(KanunKaydi::Dosya, dosya, KanunBaytlari(VarsayilanKanunlar()));
     return VarsayilanKanunlar();
   }
   if (dosya.boy % KanunKaydi::Boy != 0) y.Uyar(KanunKaydi::Dosya, "yarım bir satırla bitiyor: o satır alınmadı.");
@@ -161,7 +166,7 @@ Yukleme<KazancBayraklari> KazancBayraklariYukle(const std::string& firmaDizini) 
   KazancBayraklari bayraklar = VarsayilanKazancBayraklari();
   const OkunanDosya kazanc = Oku(y.Dizin() + std::string(KazancKaydi::Dosya));
   if (kazanc.boy == 0 && !kazanc.okunamadi)
-    y.Yaz(KazancKaydi::Dosya, KayitBaytlari<KazancKaydi>(bayraklar.k));
+    y.Onar(KazancKaydi::Dosya, kazanc, KayitBaytlari<KazancKaydi>(bayraklar.k));
   else
     bayraklar.k = y.Coz<KazancKaydi>(kazanc, "hazır kazanç tanımları alındı.").value_or(bayraklar.k);
   bayraklar.y = y.Al<YardimKaydi>("yardım tanımları sıfır alındı.").value_or(bayraklar.y);
@@ -184,8 +189,8 @@ Yukleme<FazlaMesailer> FazlaMesaiYukle(const std::string& firmaDizini) {
   return {mesailer, std::move(y).Uyarilar()};
 }
 
-Yukleme<Sablon> SablonYukle(const std::string& firmaDizini) {
-  Yukleyici y(firmaDizini, Yukleyici::Eksik::Olagan);
+Yukleme<Sablon> SablonYukle(const std::string& firmaDizini, BozukDosya bozuk) {
+  Yukleyici y(firmaDizini, Yukleyici::Eksik::Olagan, bozuk);
   const Sablon sablon = y.AlYaDaYaz<SablonKaydi>(VarsayilanSablon(), "hazır şablon yazıldı.");
   return {sablon, std::move(y).Uyarilar()};
 }

@@ -27,7 +27,8 @@ struct Yukleme {
 };
 
 // What becomes of a file that its loader would replace by the built-in record. The desktop repairs it in silence; a
-// batch run leaves it as it is, tells, and goes no further.
+// batch run leaves it as it is, tells, and goes no further. Where no file was expected (kanun.dat, files of a company),
+// both write the built-in one.
 enum class BozukDosya { Onarilir, Kalir };
 
 // All that the installation's files set; `simdiki` is what memory holds (a default value on the first run).
@@ -55,7 +56,7 @@ Yukleme<FazlaMesailer> FazlaMesaiYukle(const std::string& firmaDizini);
 
 // sablon.dat; not 135 bytes: the built-in template. SablonYukle (payroll screen, mass run) also writes it then;
 // SablonOku (the screen that edits it) leaves the file.
-Yukleme<Sablon> SablonYukle(const std::string& firmaDizini);
+Yukleme<Sablon> SablonYukle(const std::string& firmaDizini, BozukDosya bozuk = BozukDosya::Onarilir);
 Yukleme<Sablon> SablonOku(const std::string& firmaDizini);
 
 // Each writes its file whole: the old one stays where that fails.
