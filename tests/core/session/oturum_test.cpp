@@ -2,12 +2,12 @@
 #include "core/session/oturum.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "bildirim.h"
 #include "core/ayarlar.h"
 #include "core/dosya.h"
+#include "core/ortam.h"
 #include "core/session/sirket.h"
 #include "core/store/satirlar.h"
 #include "core/tables/firma.h"
@@ -21,26 +21,14 @@ namespace {
 
 using test::GeciciDizin;
 using test::Iletiler;
+using test::OrtamKoy;
 using test::Tablo;
 using I = std::int64_t;
 
-// Sets an environment variable for the time of a test.
-class Ortam {
- public:
-  Ortam(const char* ad, const std::string& deger) : ad_(ad), eski_(std::getenv(ad)) { ::setenv(ad, deger.c_str(), 1); }
-  ~Ortam() { ::setenv(ad_, eski_.c_str(), 1); }
-  Ortam(const Ortam&) = delete;
-  Ortam& operator=(const Ortam&) = delete;
-
- private:
-  const char* ad_;
-  std::string eski_;
-};
-
 struct OturumTest : testing::Test {
   GeciciDizin d;
-  Ortam makine{"BELVANI_MAKINE_AYAR", d.Yol() + "makine.ini"};
-  Ortam kullanici{"BELVANI_KULLANICI_DIZIN", d.Yol() + "ayar"};
+  test::Sonunda makine = OrtamKoy("BELVANI_MAKINE_AYAR", (d.Yol() + "makine.ini").c_str());
+  test::Sonunda kullanici = OrtamKoy("BELVANI_KULLANICI_DIZIN", (d.Yol() + "ayar").c_str());
   test::ToplayanBildirim b;
   Oturum o;
 
@@ -87,7 +75,7 @@ TEST_F(OturumTest, FirstRunUnderDifficulties) {
   EXPECT_FALSE(Baslat(o, d.Yol(), "", b));
   EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Data Dizini Yaratılamıyor.\n" + dosya + "/\nHata Kodu:0"});
   EXPECT_EQ(MakineAyari("PrgPath"), "");
-  const Ortam yazilmaz("BELVANI_MAKINE_AYAR", dosya + "/makine.ini");
+  const auto yazilmaz = OrtamKoy("BELVANI_MAKINE_AYAR", (dosya + "/makine.ini").c_str());
   EXPECT_TRUE(Baslat(o, "/proc/belvani", "", b));
   EXPECT_EQ(o.DataPath, d.Yol() + "ayar/veri/PerData/");
   EXPECT_TRUE(DizinVar(o.DataPath));
@@ -126,9 +114,8 @@ TEST_F(OturumTest, ColourTable) {
 }
 
 TEST_F(OturumTest, NewCompanyIsOpenAndComplete) {
-  const mode_t eski = ::umask(0777);
+  const auto maske = test::Maske(0777);
   Kur(" izmir ");
-  ::umask(eski);
   EXPECT_EQ(o.FirmaKod + "|" + o.FirmaDizini, "İZMİR|" + d.Yol() + "veri/İZMİR/");
   EXPECT_EQ(Izin(o.FirmaDizini), mode_t(0770));
   EXPECT_EQ(Izin(o.FirmaDizini + "tolu.dat"), mode_t(0660));
@@ -191,25 +178,20 @@ TEST_F(OturumTest, NewCompanyRefusedLeavesNoTrace) {
   EXPECT_EQ(b.iletiler, Iletiler{});
 }
 
-// The disk has room for `sinir` bytes a file. 0: the company is complete; 1: refused, and nothing of it is there.
-int DarDisktaKur(Oturum& o, rlim_t sinir) {
-  ::signal(SIGXFSZ, SIG_IGN);
-  const rlimit dar{sinir, sinir};
-  if (::setrlimit(RLIMIT_FSIZE, &dar) != 0) return 9;
-  test::ToplayanBildirim b;
-  if (SirketOlustur(o, "dar", "a", "b", b)) return o.depo.peruser.KayitSayisi() == 1 && SirketAc(o, "dar", b) ? 0 : 2;
-  return o.depo.db.AcikMi() || !o.FirmaKod.empty() || std::filesystem::exists(o.DataPath + "DAR") ? 3 : 1;
-}
-
 TEST_F(OturumTest, NewCompanyOnAFullDisk) {
-  int sayi[2] = {};
+  int kurulan = 0, kurulamayan = 0;
   for (rlim_t sinir = 0; sinir < 2'000'000; sinir = sinir * 5 / 4 + 2000) {
-    o.DataPath = d.Yol() + std::to_string(sinir) + "/";
-    const int sonuc = test::Surec([&] { return DarDisktaKur(o, sinir); }).Bekle();
-    ASSERT_TRUE(sonuc == 0 || sonuc == 1) << sinir << ": " << sonuc;
-    ++sayi[sonuc];
+    Oturum yeni;
+    yeni.DataPath = d.Yol() + std::to_string(sinir) + "/";
+    const auto dar = test::DarDisk(sinir);
+    const bool kuruldu = bool(SirketOlustur(yeni, "dar", "a", "b", b));
+    ++(kuruldu ? kurulan : kurulamayan);
+    EXPECT_EQ(yeni.FirmaKod, kuruldu ? "DAR" : "");
+    EXPECT_EQ(yeni.depo.db.AcikMi(), kuruldu);
+    EXPECT_EQ(std::filesystem::exists(yeni.DataPath + "DAR"), kuruldu) << sinir;
+    EXPECT_TRUE(!kuruldu || (SirketAc(yeni, "dar", b) && yeni.depo.peruser.KayitSayisi() == 1)) << sinir;
   }
-  EXPECT_TRUE(sayi[0] > 2 && sayi[1] > 9) << sayi[0] << " " << sayi[1];
+  EXPECT_TRUE(kurulan > 2 && kurulamayan > 9) << kurulan << " " << kurulamayan;
 }
 
 // The one that loses must not take the winner's company away with its own.
@@ -285,7 +267,7 @@ TEST_F(OturumTest, LoginWithoutCompanyRecordAndSettings) {
   Sql("delete from firma");
   o.firmayil = 1999, o.firmaay = 3, o.paraonda = 1, o.unvan = "Kalan", o.ondeger = "x";
   ASSERT_TRUE(DosyaYaz(d.Yol() + "dosya", ""));
-  const Ortam yazilmaz("BELVANI_KULLANICI_DIZIN", d.Yol() + "dosya/x");
+  const auto yazilmaz = OrtamKoy("BELVANI_KULLANICI_DIZIN", (d.Yol() + "dosya/x").c_str());
   EXPECT_TRUE(OturumAc(o, "deneme", "ayşe", "gizli'", b));
   EXPECT_EQ(b.iletiler.size(), 3u);  // two settings that could not be kept, and
   EXPECT_EQ(b.iletiler.back(), "Bilgi: Firma Bilgilerini Vermeyi Unutmayınız.");

@@ -210,6 +210,18 @@ TEST(AlanYaz, FitsTheValueToTheField) {
   }
 }
 
+TEST(KayitYazici, LeavesAutomaticAndUntouchedColumns) {
+  OrnekDepo d;
+  KayitYazici<Cari> yazici(d.db.IcMotor(), {"ack", "tutar"});
+  Cari kayit{"1", {}, "ilk", 1, Tutar(5.0), 77};
+  for (int i = 0; i < 2; ++i) yazici.Ekle(kayit);
+  d.db.IcMotor().Calistir("update cari set ack = 'kalan'");
+  kayit.islem = 9;
+  yazici.Degistir(kayit, 2);
+  const std::vector<Cari> beklenen{{"1", {}, "kalan", 1, {}, 1}, {"1", {}, "kalan", 9, {}, 2}};
+  EXPECT_EQ(KayitlariOku<Cari>(d.db.IcMotor(), "order by oto"), beklenen);
+}
+
 // A hand has been in the file: what is no value of its field's type reads as nothing, both ways alike.
 TEST(AlanOku, StrayValuesOfABrokenStore) {
   OrnekDepo d;

@@ -98,6 +98,7 @@ TEST(Veritabani, TablesAndFields) {
 
   EXPECT_TRUE(db.TabloVarMi("SICIL") && db.AlanVarMi("Sicil", "MESLEKKOD"));
   EXPECT_FALSE(db.TabloVarMi("firma") || db.AlanVarMi("sicil", "meslek") || db.AlanVarMi("firma", "unvan"));
+  EXPECT_TRUE(db.AlanEkle("sicil", {"yeni", AlanTipi::Byte, 0, AlanNiteligi::Zorunlu}));  // Null in rows that stand
   EXPECT_FALSE(db.TabloEkle(sicil) || db.AlanEkle("sicil", *sicil.AlanBul("meslekkod")));
   for (const char* yok : {"firma", "yok"}) {
     EXPECT_FALSE(db.AlanEkle(yok, *sicil.AlanBul("adi")) || db.TabloAc(rs, yok));
