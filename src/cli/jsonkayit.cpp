@@ -50,6 +50,8 @@ Json JsonOku(const std::string& metin) {
     return Json::parse(metin);
   } catch (const Json::parse_error& h) {
     throw KomutHatasi{"Girdi JSON değil (" + std::to_string(h.byte) + ". bayt)"};
+  } catch (const Json::out_of_range&) {
+    throw KomutHatasi{"Girdide sınırı aşan bir sayı var"};
   }
 }
 

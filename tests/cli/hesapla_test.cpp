@@ -94,6 +94,7 @@ TEST(Hesapla, TellsWhatIsWrong) {
   const Komut komut;
   const std::pair<const char*, const char*> durumlar[] = {
       {"{", "Girdi JSON değil"},
+      {R"({"donem":1e999})", "sınırı aşan bir sayı"},
       {"7", "Girdi bir JSON nesnesi olmalı"},
       {"{}", "donem"},
       {R"({"donem":{"yil":2009,"ay":13}})", "donem: yil veya ay hatalı"},
