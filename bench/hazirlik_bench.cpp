@@ -19,7 +19,7 @@ void Toplu(benchmark::State& durum, bool ustune) {
     (void)BordroSil(sirket.o, 2009, 7);
     durum.ResumeTiming();
   }
-  durum.counters["us_kisi"] = benchmark::Counter(double(kisi) * double(durum.iterations()) / 1e6,
+  durum.counters["milyon_kisi"] = benchmark::Counter(double(kisi) * double(durum.iterations()) / 1e6,
                                                  benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 
