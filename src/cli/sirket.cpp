@@ -1,9 +1,8 @@
 // sirket-ac, sirketler, denetle
-#include "core/session/sirket.h"
-
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
 #include "core/dosya.h"
+#include "core/session/sirketlistesi.h"
 
 namespace belvani::cli {
 namespace {
@@ -18,7 +17,8 @@ void SirketiAc(Genel& genel, const SirketAcSecenekleri& s) {
   Oturum o;
   o.DataPath = genel.DataPath();
   Basarmali(DizinYarat(o.DataPath));
-  Basarmali(SirketOlustur(o, s.kod, s.kullanici, s.sifre, genel.bildirim));
+  if (const auto acildi = SirketOlustur(o, s.kod, s.kullanici, s.sifre, genel.bildirim); !acildi)
+    throw KomutHatasi{acildi.HataMetni().empty() ? o.depo.db.SonHata() : acildi.HataMetni()};
   auto& firma = o.depo.firma;
   firma.IlkKayit();
   firma.KayitDuzelt();
@@ -29,32 +29,12 @@ void SirketiAc(Genel& genel, const SirketAcSecenekleri& s) {
   Yaz("Şirket açıldı: " + o.FirmaKod + "\n");
 }
 
-struct SirketBilgisi {
-  std::string kod, unvan, donem;
-};
-
-SirketBilgisi SirketiOku(const std::string& dataPath, const std::string& kod) {
-  Oturum o;
-  o.DataPath = dataPath;
-  // A directory without a sound store is listed with its own words, and the list goes on.
-  struct Sessiz : Bildirim {
-    void Bilgi(std::string_view) override {}
-    void Uyari(std::string_view) override {}
-    bool Soru(std::string_view) override { return false; }
-  } sessiz;
-  if (!belvani::SirketAc(o, kod, sessiz) || !FirmaYukle(o)) return {kod, "Database'e Ulaşılamadı", ""};
-  const std::string ay = std::to_string(o.firmaay);
-  return {kod, o.unvan, (ay.size() < 2 ? "0" + ay : ay) + "-" + std::to_string(o.firmayil)};
-}
-
 void SirketleriYaz(Genel& genel, bool json) {
-  const std::string dataPath = genel.DataPath();
   Json dizi = Json::array();
   std::string metin;
-  for (const auto& kod : Sirketler(dataPath)) {
-    const SirketBilgisi s = SirketiOku(dataPath, kod);
-    dizi.push_back({{"kod", s.kod}, {"unvan", s.unvan}, {"donem", s.donem}});
-    metin += s.kod + "\t" + s.unvan + "\t" + s.donem + "\n";
+  for (const SirketSatiri& s : SirketListesi(genel.DataPath())) {
+    dizi.push_back({{"kod", s.ad}, {"unvan", s.unvan}, {"donem", s.donem}});
+    metin += s.ad + "\t" + s.unvan + "\t" + s.donem + "\n";
   }
   Yaz(json ? dizi.dump(2) + "\n" : metin);
 }

@@ -12,7 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view Bolum = "personel";
 constexpr const char* OrtakDosya = "/etc/belvani/personel.ini";
 
 std::string Ortam(const char* ad) {
@@ -33,28 +32,28 @@ std::string MakineDosyasi() {
   return KullaniciDizini() + "makine.ini";
 }
 
-Durum Yaz(const std::string& dosya, std::string_view anahtar, std::string_view deger) {
+Durum Yaz(const std::string& dosya, std::string_view bolum, std::string_view anahtar, std::string_view deger) {
   if (const fs::path dizin = fs::path(dosya).parent_path(); !dizin.empty())
     if (auto d = DizinYarat(dizin); !d) return d;
-  return IniYaz(Bolum, anahtar, deger, dosya);
+  return IniYaz(bolum, anahtar, deger, dosya);
 }
 
 }  // namespace
 
 std::string MakineAyari(std::string_view anahtar) {
-  return IniOku(Bolum, anahtar, "", MakineDosyasi());
+  return IniOku(AnaBolum, anahtar, "", MakineDosyasi());
 }
 
 Durum MakineAyariYaz(std::string_view anahtar, std::string_view deger) {
-  return Yaz(MakineDosyasi(), anahtar, deger);
+  return Yaz(MakineDosyasi(), AnaBolum, anahtar, deger);
 }
 
-std::string KullaniciAyari(std::string_view anahtar, std::string_view varsayilan) {
-  return IniOku(Bolum, anahtar, varsayilan, KullaniciDizini() + "personel.ini");
+std::string KullaniciAyari(std::string_view anahtar, std::string_view varsayilan, std::string_view bolum) {
+  return IniOku(bolum, anahtar, varsayilan, KullaniciDizini() + "personel.ini");
 }
 
-Durum KullaniciAyariYaz(std::string_view anahtar, std::string_view deger) {
-  return Yaz(KullaniciDizini() + "personel.ini", anahtar, deger);
+Durum KullaniciAyariYaz(std::string_view anahtar, std::string_view deger, std::string_view bolum) {
+  return Yaz(KullaniciDizini() + "personel.ini", bolum, anahtar, deger);
 }
 
 std::string KullaniciDizini() {

@@ -129,6 +129,20 @@ std::string Tarih::KisaMetin() const {
   return GunAyYil(*this, 2);
 }
 
+std::string Tarih::UzunMetin() const {
+  if (Bos()) return {};
+  const std::string gun = std::to_string(Gun());
+  return (gun.size() < 2 ? "0" : "") + gun + " " + std::string(AyAdi(Ay())) + " " + Metin().substr(6) + " " +
+         std::string(GunAdi());
+}
+
+std::string_view Tarih::GunAdi() const {
+  // Day 0, 30.12.1899, was a Saturday.
+  static constexpr std::array<std::string_view, 7> adlar{"Cumartesi", "Pazar",    "Pazartesi", "Salı",
+                                                         "Çarşamba",  "Perşembe", "Cuma"};
+  return Bos() ? std::string_view() : adlar[std::size_t(((seri_ % 7) + 7) % 7)];
+}
+
 Tarih Tarih::Ekle(int gun) const {
   return Bos() ? *this : SeriNodan(double(seri_) + gun);
 }
@@ -142,9 +156,7 @@ int AyinGunSayisi(int yil, int ay) {
 }
 
 std::string_view AyAdi(int ay) {
-  static constexpr std::array<std::string_view, 12> adlar{"Ocak",   "Şubat",   "Mart",  "Nisan", "Mayıs", "Haziran",
-                                                          "Temmuz", "Ağustos", "Eylül", "Ekim",  "Kasım", "Aralık"};
-  return adlar.at(std::size_t(ay - 1));
+  return AyAdlari.at(std::size_t(ay - 1));
 }
 
 }  // namespace belvani

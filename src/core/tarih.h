@@ -4,6 +4,7 @@
 // text, on screen and paper "dd.MM.yyyy". Days from 01.01.0100 to 31.12.9999; anything else is Null.
 #pragma once
 
+#include <array>
 #include <compare>
 #include <cstdint>
 #include <limits>
@@ -32,6 +33,8 @@ class Tarih {
   std::string Iso() const;        // "" for Null
   std::string Metin() const;      // "dd.MM.yyyy", "" for Null
   std::string KisaMetin() const;  // "dd.MM.yy", "" for Null
+  std::string UzunMetin() const;  // "12 Mart 2005 Cumartesi", "" for Null
+  std::string_view GunAdi() const;
 
   Tarih Ekle(int gun) const;  // Null stays Null
 
@@ -49,7 +52,10 @@ int GunSayisi(Tarih a, Tarih b);
 // Length of a month: 28 to 31.
 int AyinGunSayisi(int yil, int ay);
 
-// "Ocak" … "Aralık"; ay 1 to 12.
+inline constexpr std::array<std::string_view, 12> AyAdlari{"Ocak",   "Şubat",   "Mart",  "Nisan", "Mayıs", "Haziran",
+                                                           "Temmuz", "Ağustos", "Eylül", "Ekim",  "Kasım", "Aralık"};
+
+// ay 1 to 12.
 std::string_view AyAdi(int ay);
 
 }  // namespace belvani

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "personnel/hucreler.h"
+#include "personnel/kayit.h"
 
 namespace belvani {
 namespace {
@@ -41,21 +42,6 @@ Sonuc<AktarimSonucu> Kaydet(Oturum& o, AktarimDosyasi& dosya, AktarimKipi kip, I
   } catch (const MotorHatasi& h) {
     return Hata{h.what()};
   }
-}
-
-void YeniKimlik(Imlec& rs) {
-  rs.KayitEkle();
-  Kimlik::HerKolon([&](const AlanTanimi& alan) {
-    if (alan.tip == AlanTipi::Metin) rs.AlanYaz(alan.ad, std::string());
-    if (alan.tip == AlanTipi::Byte) rs.AlanYaz(alan.ad, std::int64_t(0));
-  });
-  rs.AlanYaz("uyruk", std::string("T.C."));
-}
-
-void YeniSicil(Imlec& rs) {
-  rs.KayitEkle();
-  rs.AlanYaz("cikiskodu", std::int64_t(0));
-  rs.AlanYaz("cikissebebi", std::string());
 }
 
 void GirisTarihiniDenetle(AktarimDosyasi& dosya, const AktarimSatiri& satir, bool yeni) {

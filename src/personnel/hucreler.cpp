@@ -3,6 +3,7 @@
 #include <set>
 
 #include "core/turkce.h"
+#include "personnel/listeler.h"
 
 namespace belvani {
 namespace {
@@ -15,12 +16,28 @@ struct ListeSiniri {
 };
 
 constexpr ListeSiniri ListeSinirlari[] = {
-    {"sicil", "sskdurum", 32}, {"sicil", "ucrettipi", 2}, {"sicil", "ucretags", 2}, {"sicil", "sakatdrc", 3},
-    {"sicil", "tur", 18},      {"kimlik", "cins", 1},     {"kimlik", "medeni", 2},  {"kimlik", "dini", 5},
-    {"kimlik", "kan", 8},      {"kimlik", "tahsil", 5},   {"esco", "yakinlik", 9},  {"esco", "cins", 1},
-    {"esco", "agiok", 1},      {"muaf", "indtip", 5},     {"indir", "indtip", 4},   {"sendika", "yer", 4},
-    {"firma", "tehlike", 2},   {"firma", "sinif", 11},    {"firma", "paraonda", 4}, {"firma", "firmaay", 12},
-    {"muaf", "no", 11},        {"indir", "no", 3},
+    {"sicil", "sskdurum", 32},
+    {"sicil", "ucrettipi", SonSira(UcretTipleri)},
+    {"sicil", "ucretags", SonSira(UcretEsaslari)},
+    {"sicil", "sakatdrc", SonSira(SakatlikDereceleri)},
+    {"sicil", "tur", 18},
+    {"kimlik", "cins", SonSira(Cinsiyetler)},
+    {"kimlik", "medeni", SonSira(MedeniHaller)},
+    {"kimlik", "dini", SonSira(Dinler)},
+    {"kimlik", "kan", SonSira(KanGruplari)},
+    {"kimlik", "tahsil", SonSira(Tahsiller)},
+    {"esco", "yakinlik", std::ssize(Yakinliklar)},
+    {"esco", "cins", SonSira(KodluCinsiyetler)},
+    {"esco", "agiok", SonSira(AgiDurumlari)},
+    {"muaf", "indtip", 5},
+    {"indir", "indtip", 4},
+    {"sendika", "yer", 4},
+    {"firma", "tehlike", 2},
+    {"firma", "sinif", 11},
+    {"firma", "paraonda", 4},
+    {"firma", "firmaay", 12},
+    {"muaf", "no", 11},
+    {"indir", "no", 3},
 };
 
 std::string SinirKusuru(const AktarimKolonu& kolon, const Deger& deger) {

@@ -2,30 +2,12 @@
 // fault are tried in tests/cli, as their user sees them.
 #include "personnel/aktarim.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "bildirim.h"
-#include "core/store/satirlar.h"
-#include "core/tables/tablolar.h"
-#include "gecici.h"
+#include "sirket.h"
 
 namespace belvani {
 namespace {
 
-struct Aktarim : testing::Test {
-  test::GeciciDizin dizin;
-  test::ToplayanBildirim bildirim;
-  Oturum o;
-
-  void SetUp() override {
-    o.DataPath = dizin.Yol();
-    ASSERT_TRUE(SirketOlustur(o, "DENEME", "a", "", bildirim));
-  }
-  template <class Kayit>
-  std::vector<Kayit> Hepsi() {
-    return KayitlariOku<Kayit>(o.depo.db.IcMotor());
-  }
+struct Aktarim : test::SirketTesti {
   void Al(const char* csv) { EXPECT_TRUE(PersonelAktar(o, csv, AktarimKipi::Kaydet)->sorunlar.empty()) << csv; }
 };
 

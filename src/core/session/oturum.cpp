@@ -1,20 +1,22 @@
 #include "core/session/oturum.h"
 
+#include <cmath>
 #include <filesystem>
 #include <unistd.h>
 
 #include "core/ayarlar.h"
 #include "core/dosya.h"
 #include "core/sayi.h"
+#include "core/session/firmabilgi.h"
+#include "core/session/ilksatir.h"
+#include "core/session/kullanicilar.h"
+#include "core/session/renkler.h"
 #include "core/session/sirket.h"
-#include "core/tables/firma.h"
 #include "core/tables/peruser.h"
 #include "core/turkce.h"
 
 namespace belvani {
 namespace {
-
-constexpr std::size_t RenkDosyasiBoyu = 42 * sizeof(std::uint32_t);
 
 // Of the first run: beside the program, or with the user's own data where the program's directory is not ours to write.
 std::string IlkDataPath(const std::string& prgPath) {
@@ -31,16 +33,6 @@ bool DataDiziniYarat(const std::string& dataPath, Bildirim& bildirim) {
   return true;
 }
 
-std::string KullaniciKusuru(std::string_view kullanici, std::string_view sifre) {
-  if (Kirp(DenetimsizMetin(kullanici)).empty()) return "Kullanıcı adı boş olamaz";
-  const auto kusur = [](const AlanTanimi& alan, std::string_view deger) {
-    return DegerKusuru(alan, DenetimsizMetin(deger));
-  };
-  if (const std::string k = kusur(peruser::kod, kullanici); !k.empty()) return "Kullanıcı adı: " + k;
-  if (const std::string k = kusur(peruser::pasw, sifre); !k.empty()) return "Şifre: " + k;
-  return {};
-}
-
 bool IlkKullaniciYaz(Imlec& peruser, std::string_view kullanici, std::string_view sifre) {
   peruser.KayitEkle();
   peruser.AlanYaz("kod", std::string(kullanici));
@@ -52,7 +44,7 @@ bool IlkKullaniciYaz(Imlec& peruser, std::string_view kullanici, std::string_vie
 // The store of a new company with its first user, open; on failure there is no store.
 Durum DepoKur(Depo& depo, const std::string& yol, std::string_view kullanici, std::string_view sifre,
               Bildirim& bildirim) {
-  if (!depo.VeritabaniYarat(yol, bildirim)) return Hata{"Database Yaratılamadı: " + depo.db.SonHata()};
+  if (!depo.VeritabaniYarat(yol, bildirim)) return Hata{};
   const bool acildi = depo.VeritabaniAc(yol, bildirim);
   if (acildi && IlkKullaniciYaz(depo.peruser, kullanici, sifre)) return Tamam();
   depo.VeritabaniKaldir(yol);
@@ -81,20 +73,6 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
   o.ResimKullan = true;
   RenkYukle(o);
   return true;
-}
-
-void RenkYukle(Oturum& o) {
-  const std::string yol = o.PrgPath + o.ResimYolu + "renk.dat";
-  const auto icerik = DosyaOku(yol);
-  std::error_code hata;
-  if (DizinVar(o.PrgPath + o.ResimYolu) && !std::filesystem::exists(yol, hata)) (void)DosyaYaz(yol, "");
-  std::string kayit = icerik.value_or("");
-  kayit.resize(RenkDosyasiBoyu, '\0');
-  for (std::size_t i = 0; i < o.Renkler.size(); ++i) {
-    std::uint32_t renk = 0;
-    for (std::size_t b = 4; b-- > 0;) renk = renk << 8 | static_cast<unsigned char>(kayit[i * 4 + b]);
-    o.Renkler[i] = renk;
-  }
 }
 
 Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim) {
@@ -161,44 +139,35 @@ bool FirmaYukle(Oturum& o) {
 }
 
 void FirmaIlkKayit(Oturum& o, Bildirim& bildirim) {
-  const Tarih bugun = Tarih::Bugun();
-  o.firmaay = bugun.Ay();
-  o.firmayil = bugun.Yil();
-  o.ondeger = "Personel";
-  o.paraonda = 2;
-  o.unvan = "Yeni Şirket (" + std::to_string(o.firmayil) + ")";
+  Firma yeni = YeniFirma();
+  yeni.versiyon = o.Versiyon;
+  o.firmaay = yeni.firmaay;
+  o.firmayil = yeni.firmayil;
+  o.ondeger = yeni.ondeger;
+  o.paraonda = yeni.paraonda;
+  o.unvan = yeni.unvan;
 
   auto& firma = o.depo.firma;
   firma.IlkKayit() ? firma.KayitDuzelt() : firma.KayitEkle();
-  Firma::HerKolon([&](const AlanTanimi& alan) {
-    if (alan.tip == AlanTipi::Metin) firma.AlanYaz(alan.ad, std::string());
-  });
-  const std::pair<const char*, Deger> degerler[] = {
-      {"unvan", o.unvan},
-      {"kurtar", bugun},
-      {"iskodu", std::int64_t(1)},
-      {"yuvar", 0.0},
-      {"issaati", 8.0},
-      {"paraonda", std::int64_t(o.paraonda)},
-      {"firmayil", std::int64_t(o.firmayil)},
-      {"firmaay", std::int64_t(o.firmaay)},
-      {"tehlike", std::int64_t(0)},
-      {"sinif", 0.0},
-      {"ondeger", o.ondeger},
-      {"kanun", std::string("00000")},
-      {"versiyon", o.Versiyon.Sayi()},
-  };
-  for (const auto& [alan, deger] : degerler) firma.AlanYaz(alan, deger);
+  AlanlariYaz(firma, yeni, "tersfirma");
   if (!firma.KayitYaz()) bildirim.Uyari("Firma Bilgileri Güncellenemedi");
 }
 
-bool VersiyonKontrol(Oturum& o, Bildirim& bildirim) {
+Tek DepoVersiyonu(Oturum& o) {
   o.depo.firma.IlkKayit();
-  const Tek depoVersiyonu(SayiDegeri(o.depo.firma.AlanOku("versiyon")));
+  return Tek(SayiDegeri(o.depo.firma.AlanOku("versiyon")));
+}
+
+std::string VersiyonMetni(Tek versiyon) {
+  constexpr double Olcek = 10'000;
+  return SayiMetni(std::round(versiyon.Sayi() * Olcek) / Olcek);
+}
+
+bool VersiyonKontrol(Oturum& o, Bildirim& bildirim) {
+  const Tek depoVersiyonu = DepoVersiyonu(o);
   if (depoVersiyonu == o.Versiyon) return true;
-  bildirim.Uyari(
-      "Program Versiyonu ile Database Versiyonu Farklı...\nProgram Versiyon:" + SayiMetni(o.Versiyon.Sayi()) +
-      "\nDatabase Versiyon:" + SayiMetni(depoVersiyonu.Sayi()) + "\nUpdate Programını Çalıştırınız...");
+  bildirim.Uyari("Program Versiyonu ile Database Versiyonu Farklı...\nProgram Versiyon:" + VersiyonMetni(o.Versiyon) +
+                 "\nDatabase Versiyon:" + VersiyonMetni(depoVersiyonu) + "\nUpdate Programını Çalıştırınız...");
   return false;
 }
 

@@ -44,14 +44,12 @@ struct Oturum {
 // command line is then dropped. False: the data directory cannot be made, and the program must end.
 bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komutSatiri, Bildirim& bildirim);
 
-// The colour table from `<PrgPath><ResimYolu>renk.dat`; a missing file is made empty and gives zeros.
-void RenkYukle(Oturum& o);
-
 // Opens the company's store; "Database Açılamadı" or the name's fault otherwise, and then no store is open.
 Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim);
 
 // Makes a company with its store, its first user (an administrator) and its `firma` record, and leaves it open. On
-// failure no trace of the company stays on the disk, and no store is open.
+// failure no trace of the company stays on the disk, and no store is open. A store that could not be made has told of
+// itself: the failure's text is then empty.
 Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
                     Bildirim& bildirim);
 
@@ -64,6 +62,12 @@ bool FirmaYukle(Oturum& o);
 
 // The `firma` record of a new company.
 void FirmaIlkKayit(Oturum& o, Bildirim& bildirim);
+
+// `versiyon` of the `firma` record.
+Tek DepoVersiyonu(Oturum& o);
+
+// A version as users see it, at most four decimals: "2003.7".
+std::string VersiyonMetni(Tek versiyon);
 
 // True when program and store have the same version; otherwise the user is told of both.
 bool VersiyonKontrol(Oturum& o, Bildirim& bildirim);

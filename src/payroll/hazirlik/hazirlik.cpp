@@ -154,6 +154,18 @@ std::size_t KisiSayisi(Motor& motor) {
   return sayi;
 }
 
+// The number of the record that the person has in that month; another computer may have saved it meanwhile.
+std::optional<std::int64_t> AyinKaydi(Motor& motor, const Brd& brd) {
+  const auto komut = motor.Hazirla("select oto from brd where yil = ? and ay = ? and kod = ? and no = 1 order by oto");
+  komut->TamBagla(1, brd.yil);
+  komut->TamBagla(2, brd.ay);
+  komut->MetinBagla(3, brd.kod);
+  if (!komut->Adim()) return std::nullopt;
+  const std::int64_t oto = komut->Tam(0);
+  komut->Birak();
+  return oto;
+}
+
 }  // namespace
 
 Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const std::vector<GirisSatiri>& girisler,
@@ -184,8 +196,15 @@ Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const st
 void BordroKaydet(Motor& motor, const Brd& brd) {
   KayitYazici<Brd> yazici(motor, Dokunulmayan);
   Islem islem(motor);
-  if (brd.oto != 0) yazici.Degistir(brd, brd.oto);
-  if (brd.oto == 0 || motor.DegisenSatir() == 0) yazici.Ekle(brd);
+  bool yazildi = false;
+  if (brd.oto != 0) {
+    yazici.Degistir(brd, brd.oto);
+    yazildi = motor.DegisenSatir() != 0;
+  }
+  if (!yazildi) {
+    const auto baska = AyinKaydi(motor, brd);
+    baska ? yazici.Degistir(brd, *baska) : yazici.Ekle(brd);
+  }
   islem.Onayla();
 }
 

@@ -43,7 +43,8 @@ struct HazirlikSonucu {
 Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const std::vector<GirisSatiri>& girisler = {},
                                    Ilerleme* ilerleme = nullptr);
 
-// Saves one record: over the row `oto`, or, with 0 or a row that is gone, as a new one. Throws MotorHatasi.
+// Saves one record: over the row `oto`, or, with 0 or a row that is gone, over the one that the person has got in that
+// month meanwhile, else as a new one. Throws MotorHatasi.
 void BordroKaydet(Motor& motor, const Brd& brd);
 
 // Deletes all records of a month, of all people; gives their number.

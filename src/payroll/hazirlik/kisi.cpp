@@ -137,30 +137,33 @@ void KisileriOku(Motor& motor, const BordroDonemi& donem, const std::function<bo
 void OranlariYukle(Brd& brd, const Sicil& sicil, const YasalParametreler& yasal, Tek TehlikeOran) {
   brd.sskiscior = brd.sskisverenor = brd.issiziscior = brd.issizisverenor = Tek();
   if (HuzurHakkiMi(sicil) || sicil.sskdurum >= DalSayisi) return;
-  const auto toplam = [](const OranSatiri& o) { return o.ana.Sayi() + o.has.Sayi() + o.mal.Sayi() + o.sgdp.Sayi(); };
   const OranSatiri& isci = yasal.oranlar.IsciOran[sicil.sskdurum];
   const OranSatiri& isveren = yasal.oranlar.IsverenOran[sicil.sskdurum];
-  brd.sskiscior = Tek(toplam(isci));
-  brd.sskisverenor = Tek(toplam(isveren) + yasal.hesapTurleri[sicil.sskdurum].isKazasi * TehlikeOran.Sayi());
+  brd.sskiscior = Tek(OranToplami(isci));
+  brd.sskisverenor = Tek(OranToplami(isveren) + yasal.hesapTurleri[sicil.sskdurum].isKazasi * TehlikeOran.Sayi());
   brd.issiziscior = isci.isz;
   brd.issizisverenor = isveren.isz;
 }
 
-BordroGirdi PersonelYukle(const KisiVerisi& kisi, const Kosullar& k, int CalismaGun) {
-  BordroGirdi g;
+void KosullaraBagla(BordroGirdi& g, const KisiVerisi& kisi, const Kosullar& k) {
   g.sicil = &kisi.sicil;
   g.yasal = &k.yasal;
   g.yardimlar = &k.firma.yardimlar;
   g.indirimler = &k.firma.indirimler;
   g.sendika = SendikaBul(k.firma, kisi.sicil.tasno);
   g.bayraklar = KazancGrupYukle(k.firma, kisi.sicil.hesap);
-  g.aile = kisi.aile;
-  g.yilIndirimi = kisi.yil.indirimler;
   g.IsSaati = k.IsSaati;
   g.TehlikeOran = k.TehlikeOran;
   g.paraonda = k.paraonda;
-  g.CalismaGun = CalismaGun;
   g.uygulama = k.uygulama;
+}
+
+BordroGirdi PersonelYukle(const KisiVerisi& kisi, const Kosullar& k, int CalismaGun) {
+  BordroGirdi g;
+  KosullaraBagla(g, kisi, k);
+  g.aile = kisi.aile;
+  g.yilIndirimi = kisi.yil.indirimler;
+  g.CalismaGun = CalismaGun;
   if (kisi.kayit) {
     g.giris = *kisi.kayit;
     return g;

@@ -35,6 +35,9 @@ void KisileriOku(Motor& motor, const BordroDonemi& donem, const std::function<bo
 // `kisi` and `kosullar` must outlive the result.
 BordroGirdi PersonelYukle(const KisiVerisi& kisi, const Kosullar& kosullar, int CalismaGun);
 
+// Points a calculation of the person at these conditions; entries and rates stay.
+void KosullaraBagla(BordroGirdi& g, const KisiVerisi& kisi, const Kosullar& kosullar);
+
 // Premium rates of a branch: the sums of the employee's and employer's columns, on the employer's side with the
 // work-accident rate where the branch bears it; all 0 on the board-fee payroll. Branch 1 in 2009, rate 1 -> 14, 19.5,
 // 1, 2.

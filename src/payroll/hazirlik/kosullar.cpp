@@ -18,21 +18,6 @@ constexpr std::array<Kolon<Kaztan, std::uint8_t>, YardimSayisi> GrupYardimlari{
     kaztan::y1, kaztan::y2, kaztan::y3, kaztan::y4,  kaztan::y5, kaztan::y6,
     kaztan::y7, kaztan::y8, kaztan::y9, kaztan::y10, kaztan::y11};
 
-KazancBayraklari Bayraklar(const Kaztan& satir) {
-  KazancBayraklari b;
-  for (std::size_t i = 0; i < b.k.size(); ++i) b.k[i] = satir.*GrupKazanclari[i].uye;
-  for (std::size_t i = 0; i < b.y.size(); ++i) b.y[i] = satir.*GrupYardimlari[i].uye;
-  return b;
-}
-
-Kaztan GrupSatiri(const std::string& grup, const KazancBayraklari& b) {
-  Kaztan satir;
-  satir.grup = grup;
-  for (std::size_t i = 0; i < b.k.size(); ++i) satir.*GrupKazanclari[i].uye = b.k[i];
-  for (std::size_t i = 0; i < b.y.size(); ++i) satir.*GrupYardimlari[i].uye = b.y[i];
-  return satir;
-}
-
 const Kaztan* GrupBul(const std::vector<Kaztan>& gruplar, std::string_view grup) {
   const auto i =
       std::find_if(gruplar.begin(), gruplar.end(), [&](const Kaztan& g) { return TurkceEsit(g.grup, grup); });
@@ -72,6 +57,26 @@ std::string Satirlar(const char* baslik, const std::vector<std::string>& uyarila
   return metin;
 }
 
+Sonuc<Firma> FirmaSatiri(Oturum& o) {
+  auto firmalar = KayitlariOku<Firma>(o.depo.db.IcMotor());
+  if (firmalar.empty()) return Hata{"İşyeri Tanımlamaları Yapılmamış"};
+  return std::move(firmalar.front());
+}
+
+Kosullar Kur(const Firma& firma, const YasalParametreler& yasal, const FirmaParametreleri& parametreler, int yil,
+             int ay) {
+  Kosullar k;
+  k.yasal = yasal;
+  k.firma = parametreler;
+  k.donem = {yil, ay, firma.tersfirma ? DonemTuru::Ters : DonemTuru::Takvim};
+  k.uygulama = UygulamaBul(yasal.kanunlar, ay, yil);
+  k.IsSaatiYazili = firma.issaati.Sayi() > 0;
+  k.IsSaati = k.IsSaatiYazili ? firma.issaati : Tek(VarsayilanIsSaati);
+  k.TehlikeOran = TehlikeOrani(firma.tehlike, firma.sinif.Sayi());
+  k.paraonda = firma.paraonda;
+  return k;
+}
+
 }  // namespace
 
 FirmaParametreleri FirmaDosyalariYukle(Oturum& o, BozukDosya bozuk) {
@@ -103,30 +108,48 @@ Sonuc<YasalParametreler> YasalParametreleriAl(const std::string& dataPath) {
 
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay) {
   try {
-    const auto firmalar = KayitlariOku<Firma>(o.depo.db.IcMotor());
-    if (firmalar.empty()) return Hata{"İşyeri Tanımlamaları Yapılmamış"};
-    const Firma& firma = firmalar.front();
-    Kosullar k;
-    k.yasal = yasal;
-    k.firma = FirmaDosyalariYukle(o, BozukDosya::Kalir);
-    if (!k.firma.uyarilar.empty())
-      return Hata{Satirlar("Şirketin parametre dosyaları kullanılamıyor:", k.firma.uyarilar)};
-    k.donem = {yil, ay, firma.tersfirma ? DonemTuru::Ters : DonemTuru::Takvim};
-    k.uygulama = UygulamaBul(k.yasal.kanunlar, ay, yil);
-    k.IsSaati = firma.issaati.Sayi() > 0 ? firma.issaati : Tek(VarsayilanIsSaati);
-    k.TehlikeOran = TehlikeOrani(firma.tehlike, firma.sinif.Sayi());
-    k.paraonda = firma.paraonda;
-    return k;
+    const auto firma = FirmaSatiri(o);
+    if (!firma) return firma.Hatasi();
+    const FirmaParametreleri parametreler = FirmaDosyalariYukle(o, BozukDosya::Kalir);
+    if (!parametreler.uyarilar.empty())
+      return Hata{Satirlar("Şirketin parametre dosyaları kullanılamıyor:", parametreler.uyarilar)};
+    return Kur(*firma, yasal, parametreler, yil, ay);
   } catch (const MotorHatasi& h) {
     return Hata{h.what()};
   }
+}
+
+Sonuc<Kosullar> KosullariKur(Oturum& o, const YasalParametreler& yasal, const FirmaParametreleri& parametreler, int yil,
+                             int ay) {
+  try {
+    const auto firma = FirmaSatiri(o);
+    if (!firma) return firma.Hatasi();
+    return Kur(*firma, yasal, parametreler, yil, ay);
+  } catch (const MotorHatasi& h) {
+    return Hata{h.what()};
+  }
+}
+
+KazancBayraklari GrupBayraklari(const Kaztan& satir) {
+  KazancBayraklari b;
+  for (std::size_t i = 0; i < b.k.size(); ++i) b.k[i] = satir.*GrupKazanclari[i].uye;
+  for (std::size_t i = 0; i < b.y.size(); ++i) b.y[i] = satir.*GrupYardimlari[i].uye;
+  return b;
+}
+
+Kaztan GrupSatiri(std::string_view grup, const KazancBayraklari& b) {
+  Kaztan satir;
+  satir.grup = grup;
+  for (std::size_t i = 0; i < b.k.size(); ++i) satir.*GrupKazanclari[i].uye = b.k[i];
+  for (std::size_t i = 0; i < b.y.size(); ++i) satir.*GrupYardimlari[i].uye = b.y[i];
+  return satir;
 }
 
 KazancBayraklari KazancGrupYukle(const FirmaParametreleri& firma, std::string_view grup) {
   const std::string_view ad = Kirp(grup);
   if (ad.empty()) return firma.varsayilan;
   const Kaztan* satir = GrupBul(firma.gruplar, ad);
-  return satir == nullptr ? KazancBayraklari{} : Bayraklar(*satir);
+  return satir == nullptr ? KazancBayraklari{} : GrupBayraklari(*satir);
 }
 
 bool KazancGrubuVar(const FirmaParametreleri& firma, std::string_view grup) {

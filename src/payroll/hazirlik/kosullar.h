@@ -35,6 +35,7 @@ struct Kosullar {
   BordroDonemi donem;
   int uygulama = 0;  // code of the premium rules in force
   Tek IsSaati{8};
+  bool IsSaatiYazili = true;  // false: the company has no daily hours, and eight are used
   Tek TehlikeOran;
   int paraonda = 2;
 };
@@ -50,6 +51,14 @@ Sonuc<YasalParametreler> YasalParametreleriAl(const std::string& dataPath);
 // All conditions of a month of the open company under those parameters. The failure says what the company lacks or
 // which of its files is broken.
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay);
+
+// The same out of parameters that are already loaded; reads the company's record alone.
+Sonuc<Kosullar> KosullariKur(Oturum& o, const YasalParametreler& yasal, const FirmaParametreleri& firma, int yil,
+                             int ay);
+
+// The flags of a group as its row keeps them, both ways.
+KazancBayraklari GrupBayraklari(const Kaztan& satir);
+Kaztan GrupSatiri(std::string_view grup, const KazancBayraklari& bayraklar);
 
 // Flags of a group: `hesap` of the person. A blank group has the company's default flags, an unknown one none at all.
 KazancBayraklari KazancGrupYukle(const FirmaParametreleri& firma, std::string_view grup);

@@ -6,6 +6,9 @@
 // Example: personal insurance of 100.00 on a gross of 1,000.00 -> limit 50.00, deducted 50.00.
 #pragma once
 
+#include <array>
+#include <string_view>
+
 #include "core/tables/indir.h"
 #include "core/yuvarlama.h"
 
@@ -18,6 +21,10 @@ enum class IndirimYeri : std::uint8_t {
   OzelEmeklilikSigorta = 3,
   Askerlik = 4,
 };
+
+// As the screen lists them; the position is what is stored.
+inline constexpr std::array<std::string_view, 5> IndirimYerleri{"Hiçbiri", "Özel Emeklilik", "Özel Sigorta",
+                                                                "Özel Emeklilik+Sigorta", "Askerlik"};
 
 struct IndirimGirdisi {
   const Indir& tanim;  // the deduction's row

@@ -19,6 +19,10 @@ enum class MuafiyetSekli : std::uint8_t {
   Sabit = 5,           // "Sabit": up to a fixed amount
 };
 
+// As the screen lists them; the position is what is stored.
+inline constexpr std::array<std::string_view, 6> MuafiyetSekilleri{"Yok",        "Fiili Gün",   "Toplam Gun*Çocuk",
+                                                                   "Toplam Gun", "Kazanc*Oran", "Sabit"};
+
 struct MuafiyetGirdisi {
   Tutar tutar;  // entered on the line
   const YardimTanimi& tanim;

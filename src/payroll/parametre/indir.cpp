@@ -130,7 +130,8 @@ std::string DosyaAdresi(const std::string& yol) {
   return adres;
 }
 
-// The files that are fetched: as the server calls them and as they lie in the data path.
+// The files that are fetched, in the order of ParametreDosyasi: as the server calls them and as they lie in the data
+// path.
 struct Parametre {
   std::string_view uzak;
   std::string_view yerel;
@@ -140,6 +141,10 @@ constexpr std::array<Parametre, 4> parametreler{{{"yasal2.txt", YasalKaydi::Dosy
                                                  {"gvtbl.txt", GvKaydi::Dosya, GvKaydi::Boy},
                                                  {"agitbl.txt", AgiKaydi::Dosya, AgiKaydi::Boy},
                                                  {"hestur.txt", HesapTurKaydi::Dosya, HesapTurKaydi::Boy}}};
+
+std::string UzakAdres(const std::string& kaynak, const Parametre& p) {
+  return kaynak + "/download/" + std::string(p.uzak);
+}
 
 // In the order of `parametreler`.
 using ParametreBaytlari = std::array<std::string, parametreler.size()>;
@@ -157,7 +162,7 @@ std::string DonemDizini(int yil, int ay, Lira lira) {
 Sonuc<ParametreBaytlari> HepsiniAl(const std::string& kaynak, const IndirmeSiniri& sinir) {
   ParametreBaytlari hepsi;
   for (std::size_t i = 0; i < parametreler.size(); ++i) {
-    const std::string url = kaynak + "/download/" + std::string(parametreler[i].uzak);
+    const std::string url = UzakAdres(kaynak, parametreler[i]);
     auto baytlar = Al(url, sinir);
     if (!baytlar) return baytlar.Hatasi();
     if (baytlar->size() != parametreler[i].boy)
@@ -195,6 +200,12 @@ Durum ParametreIndir(const std::string& url, const std::string& dosya, const Ind
   const auto baytlar = Al(url, sinir);
   if (!baytlar) return baytlar.Hatasi();
   return DosyaYaz(dosya, *baytlar);
+}
+
+Durum ParametreDosyasiIndir(const std::string& dataPath, ParametreDosyasi dosya, const std::string& kaynak,
+                            const IndirmeSiniri& sinir) {
+  const Parametre& p = parametreler[std::size_t(dosya)];
+  return ParametreIndir(UzakAdres(kaynak, p), DizinSonu(dataPath) + std::string(p.yerel), sinir);
 }
 
 Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira) {

@@ -26,6 +26,12 @@ Durum ParametreIndir(const std::string& url, const std::string& dosya, const Ind
 // address of the shipped figures, written out in the user's cache directory. No separator at the end.
 Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira = Lira::Yeni);
 
+// Fetches one of the four files from `kaynak` (as ParametreAdresi gives it) over that of the data path, as
+// ParametreIndir does.
+enum class ParametreDosyasi { Yasal, Gv, Agi, HesapTur };
+Durum ParametreDosyasiIndir(const std::string& dataPath, ParametreDosyasi dosya, const std::string& kaynak,
+                            const IndirmeSiniri& sinir = {});
+
 // Fetches the four files from `kaynak` (as ParametreAdresi gives it), checks their sizes, and only then replaces those
 // of the data path: all four or none.
 Durum ParametreKur(const std::string& dataPath, const std::string& kaynak, const IndirmeSiniri& sinir = {});

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/tarih.h"
@@ -27,6 +28,11 @@ struct OranSatiri {
 };
 
 constexpr int DalSayisi = 32;  // insurance branches that have rates
+
+// The premium total of a side ("Top." on the rate screen): all but unemployment. 1 + 6 + 11 + 0 -> 18.
+inline double OranToplami(const OranSatiri& o) {
+  return o.ana.Sayi() + o.has.Sayi() + o.mal.Sayi() + o.sgdp.Sayi();
+}
 
 struct YasalOranlar {
   std::array<OranSatiri, DalSayisi> IsciOran{};  // row r: branch number r + 1, the person's `sskdurum` r
@@ -125,6 +131,7 @@ using YardimTanimlari = std::array<YardimTanimi, YardimSayisi>;
 
 // How a template allowance is spread over the days of a person.
 enum class SablonTipi : std::uint8_t { Sabit = 0, ToplamGun = 1, FiiliGun = 2 };
+inline constexpr std::array<std::string_view, 3> SablonTipAdlari{"Sabit", "Toplam Gun", "Fiili Gün"};
 
 // The month that most of the staff works, entered once.
 struct Sablon {
@@ -163,5 +170,10 @@ int UygulamaBul(const Kanunlar& kanunlar, int ay, int yil);
 // (tehlike 1), plus 0.2 for the high one (2), held between 1 and 6.5. Law 506, article 73; law 5510, article 83.
 // tehlike 1, sinif 1 -> 1.3; sinif 20 -> 6.5.
 Tek TehlikeOrani(int tehlike, double sinif);
+
+// The company's hazard class and degree as its card offers them; the position is what is stored.
+inline constexpr std::array<std::string_view, 3> TehlikeSiniflari{"Normal", "Alt", "Üst"};
+inline constexpr std::array<std::string_view, 12> TehlikeDereceleri{"1", "2", "3", "4",  "5",  "6",
+                                                                    "7", "8", "9", "10", "11", "12"};
 
 }  // namespace belvani

@@ -1,0 +1,32 @@
+// The company card: the single record of `firma`.
+//
+// The session repeats what all screens need of it (title, period, decimals, default class); a save writes the session
+// first, and the session stays written when the store then refuses the record.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/bildirim.h"
+#include "core/session/oturum.h"
+#include "core/tables/firma.h"
+
+namespace belvani {
+
+// What a new company starts with: this month and year, founded today, "Yeni Şirket (2009)", class "Personel".
+Firma YeniFirma();
+
+// The company's record, or the values of a new company when there is none.
+Firma FirmaOku(Oturum& o);
+
+// Saves the card. `versiyon` belongs to the upgrade: an edit keeps it, a new record gets the program's. `kanun` may be
+// as it was typed. False: "Firma Bilgileri Güncellenemedi" was told.
+bool FirmaKaydet(Oturum& o, const Firma& firma, Bildirim& bildirim);
+
+// A law number as the store keeps it, in five digits: "5510" -> "05510", "506" -> "00506", "yok" -> "00000".
+std::string KanunMetni(std::string_view metin);
+
+// "Örgü Ltd. (Temmuz.2009)"; the title alone while the session has no month.
+std::string AnaPencereBasligi(const Oturum& o);
+
+}  // namespace belvani

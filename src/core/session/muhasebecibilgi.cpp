@@ -1,0 +1,33 @@
+#include "core/session/muhasebecibilgi.h"
+
+#include "core/ini.h"
+
+namespace belvani {
+namespace {
+
+constexpr std::string_view Bolum = "Muhasebe";
+constexpr std::pair<const char*, std::string Muhasebeci::*> Anahtarlar[] = {
+    {"adsoyad", &Muhasebeci::adsoyad}, {"tcno", &Muhasebeci::tcno}, {"sicil", &Muhasebeci::sicil}};
+
+std::string Dosya(const Oturum& o) {
+  return o.FirmaDizini + "bordro.ini";
+}
+
+}  // namespace
+
+Muhasebeci MuhasebeciOku(const Oturum& o) {
+  Muhasebeci m;
+  for (const auto& [anahtar, uye] : Anahtarlar) m.*uye = IniOku(Bolum, anahtar, "", Dosya(o));
+  return m;
+}
+
+bool MuhasebeciKaydet(const Oturum& o, const Muhasebeci& m, Bildirim& bildirim) {
+  for (const auto& [anahtar, uye] : Anahtarlar)
+    if (const auto d = IniYaz(Bolum, anahtar, m.*uye, Dosya(o)); !d) {
+      bildirim.Uyari(d.HataMetni());
+      return false;
+    }
+  return true;
+}
+
+}  // namespace belvani

@@ -1,0 +1,26 @@
+// The accountant who signs the declarations. Kept beside the store, in `bordro.ini` of the company's directory, section
+// Muhasebe.
+#pragma once
+
+#include <string>
+
+#include "core/bildirim.h"
+#include "core/session/oturum.h"
+
+namespace belvani {
+
+struct Muhasebeci {
+  std::string adsoyad;  // "Adı Soyadı"
+  std::string tcno;     // "T.C. No"
+  std::string sicil;    // "Sicil"
+
+  bool operator==(const Muhasebeci&) const = default;
+};
+
+// What is not recorded is empty.
+Muhasebeci MuhasebeciOku(const Oturum& o);
+
+// False: why it could not be written was told.
+bool MuhasebeciKaydet(const Oturum& o, const Muhasebeci& m, Bildirim& bildirim);
+
+}  // namespace belvani

@@ -1,0 +1,106 @@
+#include "core/session/sirketlistesi.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "core/dosya.h"
+#include "core/session/sirket.h"
+#include "core/turkce.h"
+
+namespace belvani {
+namespace {
+
+namespace fs = std::filesystem;
+
+SirketSatiri SatirOku(const std::string& dataPath, const std::string& ad) {
+  Veritabani db;
+  Imlec firma;
+  if (!db.DbAc(dataPath + ad + "/" + DepoDosyasi) || !db.TabloAc(firma, "firma") || !firma.IlkKayit())
+    return {ad, "Database'e Ulaşılamadı", ""};
+  const std::string ay = firma.MetinOku("firmaay");
+  return {ad, firma.MetinOku("unvan"), (ay.size() < 2 ? "0" + ay : ay) + "-" + firma.MetinOku("firmayil")};
+}
+
+bool AyniDizin(const std::string& a, const std::string& b) {
+  std::error_code hata;
+  return fs::equivalent(a, b, hata);
+}
+
+// What stands in a company's directory, the store last; or why that cannot be deleted.
+Sonuc<std::vector<fs::path>> Silinecekler(const std::string& dizin) {
+  std::vector<fs::path> dosyalar;
+  std::error_code hata;
+  for (fs::directory_iterator i(dizin, hata), son; !hata && i != son; i.increment(hata)) {
+    if (i->symlink_status(hata).type() == fs::file_type::directory)
+      return Hata{"Şirket dizininde alt dizin var, hiçbir dosya silinmedi:\n" + i->path().string()};
+    dosyalar.push_back(i->path());
+  }
+  if (hata) return Hata{"Şirket dizini okunamadı, hiçbir dosya silinmedi:\n" + dizin};
+  std::stable_partition(dosyalar.begin(), dosyalar.end(), [](const auto& d) { return d.filename() != DepoDosyasi; });
+  return dosyalar;
+}
+
+// The company's store with everybody else kept out, as long as the result lives; null when the file is no store, which
+// nobody can have open. A connection of another computer or program, even an idle one, is told by its hold on the
+// write-ahead log, which leaving that journal mode asks for.
+Sonuc<std::unique_ptr<Motor>> TekBasinaAc(const std::string& yol) {
+  try {
+    auto motor = MotorAc(yol);
+    motor->Calistir("pragma journal_mode=delete; begin exclusive");
+    return motor;
+  } catch (const MotorHatasi& h) {
+    if (h.tur == MotorKusuru::Kilitli) return Hata{"Bu şirket şu anda kullanılıyor, hiçbir dosya silinmedi:\n" + yol};
+    return std::unique_ptr<Motor>();
+  }
+}
+
+Durum Sil(const fs::path& yol) {
+  std::error_code hata;
+  fs::remove(yol, hata);
+  if (!hata) return Tamam();
+  return Hata{"Şirket silinemedi, silinemeyen: " + yol.string()};
+}
+
+Durum DiziniSil(const std::string& dizin) {
+  const auto dosyalar = Silinecekler(dizin);
+  if (!dosyalar) return dosyalar.Hatasi();
+  const auto depo = TekBasinaAc(dizin + "/" + DepoDosyasi);
+  if (!depo) return depo.Hatasi();
+  for (const auto& dosya : *dosyalar)
+    if (auto d = Sil(dosya); !d) return d;
+  return Tamam();
+}
+
+}  // namespace
+
+std::vector<SirketSatiri> SirketListesi(const std::string& dataPath) {
+  std::vector<SirketSatiri> satirlar;
+  for (const auto& ad : Sirketler(dataPath)) satirlar.push_back(SatirOku(DizinSonu(dataPath), ad));
+  return satirlar;
+}
+
+std::vector<std::string> SilinebilirSirketler(const std::string& dataPath, const Oturum& o) {
+  std::vector<std::string> adlar = Sirketler(dataPath);
+  std::erase_if(adlar, [&](const std::string& ad) {
+    const std::string dizin = DizinSonu(dataPath) + ad;
+    std::error_code hata;
+    return BuyukHarf(ad) == BuyukHarf(o.FirmaKod) || fs::is_symlink(dizin, hata) || AyniDizin(dizin, o.FirmaDizini);
+  });
+  return adlar;
+}
+
+bool SirketSil(const std::string& dataPath, std::string_view ad, const Oturum& o, Bildirim& bildirim) {
+  const auto adlar = SilinebilirSirketler(dataPath, o);
+  if (std::find(adlar.begin(), adlar.end(), ad) == adlar.end()) {
+    bildirim.Uyari("Silinebilecek şirketler arasında yok: " + std::string(ad));
+    return false;
+  }
+  if (!bildirim.Soru("Firmayı Silmeye Eminmisiniz ?")) return false;
+  const std::string dizin = DizinSonu(dataPath) + std::string(ad);
+  Durum silindi = DiziniSil(dizin);
+  if (silindi) silindi = Sil(dizin);
+  if (!silindi) bildirim.Uyari(silindi.HataMetni());
+  return bool(silindi);
+}
+
+}  // namespace belvani

@@ -1,0 +1,35 @@
+// The list of companies, and the deletion of one.
+//
+// The list reads each store through a handle of its own, so that it can run while the session has one open.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/bildirim.h"
+#include "core/session/oturum.h"
+
+namespace belvani {
+
+struct SirketSatiri {
+  std::string ad;     // of the directory, the company's code
+  std::string unvan;  // title, or "Database'e Ulaşılamadı"
+  std::string donem;  // working month, "07-2009"; empty when the store could not be read
+
+  bool operator==(const SirketSatiri&) const = default;
+};
+
+// Every company below the data path, in Turkish order of the names.
+std::vector<SirketSatiri> SirketListesi(const std::string& dataPath);
+
+// Names of the directories that may be deleted: all real ones (no links) but that of the session's company, whose name
+// is compared without regard to Turkish case.
+std::vector<std::string> SilinebilirSirketler(const std::string& dataPath, const Oturum& o);
+
+// Asks, then deletes the directory `ad`, as SilinebilirSirketler names it, with every file in it. Refused, with nothing
+// deleted, are a name that is not in that list, a directory with a subdirectory, and a store that someone has open.
+// The store goes last, so that a removal that fails half way leaves a company that still opens. True when it is gone.
+bool SirketSil(const std::string& dataPath, std::string_view ad, const Oturum& o, Bildirim& bildirim);
+
+}  // namespace belvani

@@ -1,0 +1,58 @@
+// The in-place upgrade of a company store that an older program has made, one numbered step after the other.
+//
+// A step closes the cursors, opens the file anew, adds the fields that its version brought, opens the cursors, fills
+// the new fields and stamps `firma.versiyon`. Fields that are there already are passed over, so a step may be repeated;
+// its filling is then done again, too. Filling and stamp are one transaction: they happen whole or not at all.
+//
+//   step  from    to      fields                                           filled with
+//   0     older   2003.1  firma: tckimlik epos kanun versiyon semt         "", kanun "00000"; 0
+//                         adrilce adril pk; brd: ucretsizizin ogv;
+//                         sicil: tahsisno
+//   1     2003.1  2003.2  sicil: indirim1..3 indtut1..3; brd: ucrizmatrah  brd: 0; katki: what the employer's base
+//   lacks
+//                         katki indirim1..3 sakindir gocindir              to the floor of the social-security base
+//   2     2003.2  2003.3  firma: tersfirma                                 false
+//   3     2003.3  2003.4  brd: sendika borckes muaftutar
+//   4     2003.4  2003.5  sicil: kanun
+//   5     2003.5  2003.6  sicil: tur                                       from sskdurum, where not 1 to 18
+//   6     2003.6  2003.7  sicil: agi; esco: agiok; brd: agioran agimatrah  agi true; sskdurum 4: tur 1, others: tur 0
+//                         brdkanun                                         and sskdurum 0
+//
+// Example of step 1: floor 444.15, sskmatrahisveren 400.00 -> katki 44.15. Steps 0 to 4 stamp the program's version,
+// which carries the store to the end of the chain; which steps are open is therefore asked once, before the first.
+// The store must be this program's alone meanwhile; nothing but the screen's notice sees to that.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "core/bildirim.h"
+#include "core/session/oturum.h"
+#include "core/tutar.h"
+
+namespace belvani {
+
+inline constexpr std::size_t AdimSayisi = 7;
+using AdimIsaretleri = std::array<bool, AdimSayisi>;
+
+enum class GuncellemeSonucu {
+  Tamam,
+  IsaretYok,      // nothing was ticked: told, the screen stays
+  Basarisiz,      // the chain stops here
+  ProgramBitsin,  // the store could not be opened again: told, and the program must end
+};
+
+// What the box of a step says: "2003.1' den 2003.2 ' ye Geçiş".
+std::string_view AdimBasligi(std::size_t adim);
+
+// Steps whose version the store has not reached. Versions are compared as the texts that the screen shows.
+AdimIsaretleri AcikAdimlar(Tek depoVersiyonu);
+
+// One step, 0 to 6, on the session's company. `sskTaban` is the monthly floor of the social-security base as the
+// parameters have it now.
+GuncellemeSonucu VeritabaniGuncelle(Oturum& o, std::size_t adim, Tutar sskTaban, Bildirim& bildirim);
+
+// The ticked steps in ascending order, up to the first that fails.
+GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Bildirim& bildirim);
+
+}  // namespace belvani

@@ -1,0 +1,301 @@
+#include "payroll/hazirlik/giris.h"
+
+#include <algorithm>
+
+#include "core/store/satirlar.h"
+#include "core/turkce.h"
+#include "payroll/hesap/netbrut.h"
+#include "payroll/hesap/satirlar.h"
+
+namespace belvani {
+namespace {
+
+constexpr int TamAy = 30;
+constexpr const char* TasmaMetni = "Hesaplanan bir tutar sınırı aşıyor";
+
+CalismaUyarisi UyariYap(const Sicil& s, int CalismaGun) {
+  return {s.girtar.Bos() ? "??.??.????" : s.girtar.Metin(), s.ciktar.Bos() ? "Çalışıyor" : s.ciktar.Metin(),
+          CalismaGun};
+}
+
+// The code beside `kod` in that direction; "" at the end of the table.
+std::string YandakiKod(Motor& motor, KisiYonu yon, const std::string& kod) {
+  const bool geri = yon == KisiYonu::Onceki || yon == KisiYonu::Son;
+  const bool ucta = yon == KisiYonu::Ilk || yon == KisiYonu::Son || kod.empty();
+  const auto komut = motor.Hazirla(std::string("select kod from sicil") +
+                                   (ucta   ? ""
+                                    : geri ? " where kod < ?"
+                                           : " where kod > ?") +
+                                   " order by kod" + (geri ? " desc" : "") + " limit 1");
+  if (!ucta) komut->MetinBagla(1, kod);
+  if (!komut->Adim()) return {};
+  std::string bulunan(komut->Metin(0));
+  komut->Birak();
+  return bulunan;
+}
+
+// Lines that the fields themselves limit; a program may hand over anything.
+std::string GirisKusuru(const Brd& brd, const YardimTanimlari& yardimlar) {
+  for (std::size_t i = 0; i < MesaiKolonlari.size(); ++i) {
+    const double saat = (brd.*MesaiKolonlari[i].uye).Sayi();
+    const std::string ad(KazancAdlari[GunSatiriSayisi + i]);
+    if (saat > EnCokSaat) return ad + ": en çok " + std::to_string(EnCokSaat) + " olabilir";
+    if (saat < 0) return ad + ": eksi olamaz";
+  }
+  for (std::size_t i = 0; i < YardimKolonlari.size(); ++i)
+    if (brd.*YardimKolonlari[i].uye < Tutar()) return yardimlar[i].adi + ": eksi olamaz";
+  return {};
+}
+
+EkranToplamlari ToplamlariBul(const BordroSonucu& s) {
+  const Brd& b = s.brd;
+  EkranToplamlari t;
+  t.kazanclar = b.brutkaz - b.topyardim;
+  t.yardimlar = b.topyardim;
+  t.brut = b.brutkaz;
+  t.ssk = b.sskkesinti;
+  t.vergiler = b.gvtutar + b.dvtutar;
+  t.yasalKesinti = t.ssk + t.vergiler;
+  t.ozelKesinti = b.yuvarlama;
+  t.net = s.NetOdenen;
+  t.isciToplam = t.yasalKesinti + b.issizisci;
+  t.isverenToplam = b.sskkesintiisveren + b.issizisveren;
+  t.kumuleMatrah = b.devgvmatrah + b.gvmatrah;
+  t.kumuleVergi = b.devgvtutar + b.gvtutar;
+  t.SskGun = s.SskGun;
+  t.agi = b.ogv;
+  t.panel.muaf = b.muaftutar;
+  t.panel.indirim = b.sakindir + b.indirim1 + b.indirim2 + b.indirim3;
+  t.panel.toplam = t.panel.muaf + t.panel.indirim;
+  return t;
+}
+
+}  // namespace
+
+BordroGirisi::BordroGirisi(Oturum& oturum, const ParametreDeposu& parametreler, Bildirim& bildirim)
+    : o_(oturum), parametreler_(parametreler), bildirim_(bildirim) {}
+
+bool BordroGirisi::Ac() {
+  EkranTemizle();
+  kod_.clear();
+  auto k = KosullariKur(o_, parametreler_.yasal, parametreler_.firma, o_.firmayil, o_.firmaay);
+  if (!k) {
+    bildirim_.Bilgi(k.HataMetni());
+    return false;
+  }
+  kosullar_ = std::move(*k);
+  kosullar_.firma.sablon = SablonYukle(o_.FirmaDizini).deger;
+  surum_ = parametreler_.surum;
+  if (!kosullar_.IsSaatiYazili) bildirim_.Bilgi("Firma Bilgilerinde İş Saati Yazılmamış");
+  return true;
+}
+
+void BordroGirisi::AyDegistir(int ay) {
+  EkranTemizle();
+  kosullar_.donem.ay = ay;
+  kosullar_.uygulama = UygulamaBul(kosullar_.yasal.kanunlar, ay, kosullar_.donem.yil);
+}
+
+std::vector<std::string> BordroGirisi::BordroNolari() {
+  std::vector<std::string> nolar = o_.depo.db.Koru(std::vector<std::string>(), [&] {
+    const auto komut =
+        o_.depo.db.IcMotor().Hazirla("select no from brd where yil = ? and ay = ? group by no order by no");
+    komut->TamBagla(1, kosullar_.donem.yil);
+    komut->TamBagla(2, kosullar_.donem.ay);
+    std::vector<std::string> bulunan;
+    while (komut->Adim()) bulunan.push_back(std::to_string(komut->Tam(0)));
+    return bulunan;
+  });
+  nolar.emplace_back("Yeni");
+  return nolar;
+}
+
+void BordroGirisi::KapanisDenetimi() {
+  if (BordroTamamMi(kosullar_.donem.ay, kosullar_.donem.yil, 1)) return;
+  bildirim_.Bilgi("Bordrosu Hazırlanmamış Kişi veya Kişiler Var..\nDaha Sonra Tamamlamayı Unutmayınız..");
+}
+
+// What a parameter screen has saved meanwhile holds for the calculations after it.
+void BordroGirisi::ParametreleriTazele() {
+  if (surum_ == parametreler_.surum) return;
+  auto k = KosullariKur(o_, parametreler_.yasal, parametreler_.firma, kosullar_.donem.yil, kosullar_.donem.ay);
+  if (!k) return;
+  kosullar_ = std::move(*k);
+  surum_ = parametreler_.surum;
+  if (hal_ != Hal::KisiYok) KosullaraBagla(g_, kisi_, kosullar_);
+}
+
+KodSonucu BordroGirisi::KodAl(std::string_view metin) {
+  const std::string kod = BuyukHarf(Kirp(metin));
+  if (kod.empty()) return KodSonucu::Bos;
+  if (hal_ == Hal::KisiSecili && TurkceEsit(kod, kod_)) return KodSonucu::Yuklendi;
+  return Getir(kod, DonemDisiMetni::Gosterilir);
+}
+
+KodSonucu BordroGirisi::Git(KisiYonu yon) {
+  try {
+    const std::string kod = YandakiKod(o_.depo.db.IcMotor(), yon, kod_);
+    return kod.empty() ? KodSonucu::Bos : Getir(BuyukHarf(Kirp(kod)), DonemDisiMetni::Gosterilmez);
+  } catch (const MotorHatasi& h) {
+    bildirim_.Uyari(h.what());
+    return KodSonucu::Yuklenemedi;
+  }
+}
+
+KodSonucu BordroGirisi::Getir(const std::string& kod, DonemDisiMetni metin) {
+  ParametreleriTazele();
+  try {
+    auto kisi = KisiOku(o_.depo.db.IcMotor(), kosullar_.donem, kod);
+    EkranTemizle();
+    kod_ = kod;
+    if (!kisi) return KodSonucu::Bilinmiyor;
+    // The card's cursor stands on the person for every other screen too.
+    o_.depo.SicilBul(kisi->sicil.kod);
+    const CalismaGunu gun = GunSayisiBul(kosullar_.donem, kisi->sicil.girtar, kisi->sicil.ciktar);
+    switch (gun.uygunluk) {
+      case DonemUygunlugu::GirisTarihiHatali:
+        bildirim_.Bilgi("Personel Giriş Tarihi Hatalı");
+        return KodSonucu::DonemDisi;
+      case DonemUygunlugu::DonemDisi:
+        if (metin == DonemDisiMetni::Gosterilir)
+          bildirim_.Bilgi("Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil");
+        return KodSonucu::DonemDisi;
+      case DonemUygunlugu::Uygun:
+        break;
+    }
+    return KisiyiAc(std::move(*kisi), gun.CalismaGun);
+  } catch (const MotorHatasi& h) {
+    bildirim_.Uyari(h.what());
+    return KodSonucu::Yuklenemedi;
+  }
+}
+
+KodSonucu BordroGirisi::KisiyiAc(KisiVerisi kisi, int CalismaGun) {
+  kisi_ = std::move(kisi);
+  try {
+    g_ = PersonelYukle(kisi_, kosullar_, CalismaGun);
+  } catch (const TutarTasmasi&) {
+    // An allowance of the template, spread over the days, is beyond every range.
+    EkranTemizle();
+    bildirim_.Bilgi(TasmaMetni);
+    return KodSonucu::Yuklenemedi;
+  }
+  hal_ = Hal::KisiSecili;
+  if (CalismaGun != TamAy) uyari_ = UyariYap(kisi_.sicil, CalismaGun);
+  ayGunu_ = AyGunuBul(kosullar_.donem.ay, kosullar_.donem.yil, CalismaGun);
+  Hesapla();
+  return KodSonucu::Yuklendi;
+}
+
+void BordroGirisi::EkranTemizle() {
+  hal_ = Hal::KisiYok;
+  g_ = {};
+  kisi_ = {};
+  uyari_.reset();
+  sonuc_ = {};
+  toplamlar_ = {};
+  kusur_.clear();
+  ayGunu_ = 0;
+}
+
+const std::string& BordroGirisi::Hesapla() {
+  if (hal_ != Hal::KisiSecili) return kusur_;
+  ParametreleriTazele();
+  kusur_ = GirisKusuru(g_.giris, kosullar_.firma.yardimlar);
+  if (kusur_.empty()) kusur_ = GirdiKusuru(g_);
+  if (kusur_.empty()) HesaplaVeGoster();
+  if (kusur_.empty() && !sonuc_.gunFazla) return kusur_;
+  sonuc_.NetOdenen = toplamlar_.net = Tutar();
+  sonuc_.SskGun = toplamlar_.SskGun = SskGunu(g_.giris);
+  return kusur_;
+}
+
+void BordroGirisi::HesaplaVeGoster() {
+  try {
+    const BordroSonucu s = BordroHesapla(g_, &kosullar_.firma.sablon);
+    sonuc_.gunFazla = s.gunFazla;
+    if (s.gunFazla) return;
+    toplamlar_ = ToplamlariBul(s);
+    sonuc_ = s;
+    // The template has spread its allowances over the days.
+    for (const auto& kolon : YardimKolonlari) g_.giris.*kolon.uye = s.brd.*kolon.uye;
+  } catch (const TutarTasmasi&) {
+    kusur_ = TasmaMetni;
+  }
+}
+
+SebepSonrasi BordroGirisi::SebepSec(int sira) {
+  if (hal_ != Hal::KisiSecili || sira < 0 || std::size_t(sira) >= EksikSebepleri.size())
+    return SebepSonrasi::KodAlanina;
+  Brd& b = g_.giris;
+  b.eksiksebebi = std::uint8_t(BastakiSayi(EksikSebepleri[std::size_t(sira)].substr(0, 2)));
+  b.ucretsizizin = sira == 0 ? 0 : std::uint8_t(std::max(0, UcretsizIzinOnerisi(SskGunu(b), ayGunu_)));
+  return sira == 0 ? SebepSonrasi::KodAlanina : SebepSonrasi::UcretsizIzne;
+}
+
+void BordroGirisi::NettenBruteCevir(int alan) {
+  if (hal_ != Hal::KisiSecili || alan < brdalan::IlkYardim || alan > brdalan::SonYardim) return;
+  Brd& b = g_.giris;
+  Tutar& tutar = b.*YardimKolonlari[std::size_t(alan - brdalan::IlkYardim)].uye;
+  const Tek oran(b.sskiscior.Sayi() + b.issiziscior.Sayi());
+  try {
+    tutar = NettenBrut(
+        kosullar_.yasal.gv, tutar,
+        {oran.Sayi(), b.damgaveror.Sayi(), b.devgvmatrah, kosullar_.yasal.oranlar.SskTavan, kosullar_.paraonda});
+  } catch (const TutarTasmasi&) {
+    bildirim_.Bilgi(TasmaMetni);
+  }
+  Hesapla();
+}
+
+Tutar BordroGirisi::BorcLimiti() const {
+  return sonuc_.NetOdenen + g_.giris.borckes;
+}
+
+bool BordroGirisi::BorcAyarla(Tutar borc) {
+  if (hal_ != Hal::KisiSecili) return true;
+  if (borc < Tutar()) {
+    bildirim_.Bilgi("Kesinti Tutarı eksi olamaz");
+    return false;
+  }
+  if (const Tutar limit = BorcLimiti(); borc > limit) {
+    bildirim_.Bilgi("Kesinti Limit Aşıldı \n En fazla " + TutarMetni(limit, kosullar_.paraonda) + " Kesebilirsiniz.");
+    return false;
+  }
+  g_.giris.borckes = borc;
+  Hesapla();
+  return true;
+}
+
+std::string BordroGirisi::Baslik() const {
+  if (hal_ == Hal::KisiYok) return "Bordro Hazırlık";
+  const Sicil& s = kisi_.sicil;
+  return s.adi + " " + s.soyadi + " ( SSK No:" + s.sskno + ")";
+}
+
+std::string BordroGirisi::CalismaSatiri() const {
+  return hal_ == Hal::KisiYok ? "" : "Personel " + std::to_string(g_.CalismaGun) + " Gün Çalışmış..";
+}
+
+bool BordroGirisi::AlanAcik(int alan) const {
+  if (hal_ != Hal::KisiSecili) return false;
+  const auto acik = [](std::uint8_t bayraklar) { return (bayraklar & bayrak::Acik) != 0; };
+  if (alan >= brdalan::IlkGun && alan <= brdalan::SonMesai)
+    return acik(g_.bayraklar.k[std::size_t(alan - brdalan::IlkGun)]);
+  if (alan >= brdalan::IlkYardim && alan <= brdalan::SonYardim)
+    return acik(g_.bayraklar.y[std::size_t(alan - brdalan::IlkYardim)]);
+  return false;
+}
+
+Iz BordroGirisi::HesapIzi() const {
+  if (hal_ == Hal::KisiYok || !kusur_.empty()) return {};
+  Iz iz;
+  try {
+    BordroHesapla(g_, &kosullar_.firma.sablon, &iz);
+  } catch (const TutarTasmasi&) {
+    // Something was typed since the last calculation; what was done up to there is told.
+  }
+  return iz;
+}
+
+}  // namespace belvani

@@ -1,0 +1,189 @@
+// BordroGirisi: the entry of a month's payroll person by person: what the payroll screen holds and decides, without
+// the screen.
+//
+//   KisiYok --KodAl, Git--> KisiSecili --Kapat--> Kaydedildi --KodAl, Git--> KisiSecili
+//                              | KayitSil, BordroSil, AyDegistir, a code that is none
+//                              +--> KisiYok
+//
+// While a person is selected, the fields of entry edit Giris(), and Hesapla() is run whenever one of them is left; the
+// other fields show Sonuc() and Toplamlar(). Nothing typed is lost by a calculation that cannot be made, a failed save
+// or a refused closing. Bringing a person up costs four indexed queries, a calculation none.
+// Example: code "12", 20 days worked of 30, reason "01-İstirahat": 11 unpaid days in January, and Kapat() saves.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "payroll/hazirlik/hazirlik.h"
+#include "payroll/hazirlik/parametredeposu.h"
+
+namespace belvani {
+
+// The numbers by which the rules call the screen's fields.
+namespace brdalan {
+constexpr int Kod = 0;
+constexpr int IlkGun = 1;  // days 1 to 6, hours 7 to 9
+constexpr int SonMesai = 9;
+constexpr int IlkYardim = 10;
+constexpr int SonYardim = 20;
+constexpr int UcretsizIzin = 51;
+}  // namespace brdalan
+
+// Where the "Puantaj " button takes the month from. Only the template does anything.
+enum class PuantajKaynagi { ElIle, Sablondan, Puantajdan, Pdks };
+inline constexpr std::array<std::string_view, 4> PuantajKaynaklari{"El ile", "Şablondan", "Puantajdan", "P.D.K.S.'den"};
+
+enum class KodSonucu {
+  Bos,         // no code, or no further person in that direction: nothing has changed
+  Bilinmiyor,  // nobody has it; the screen is cleared
+  DonemDisi,   // the person does not belong to the period; the screen is cleared
+  Yuklendi,
+  Yuklenemedi,  // the store could not be read, or the template is out of range; told
+};
+
+enum class KisiYonu { Ilk, Onceki, Sonraki, Son };
+
+enum class KapanisSonucu {
+  Kapanmadi,       // no open entry, or a field that closes nothing
+  SonrakiVar,      // Kod() is the next person's code
+  Bitti,           // nobody is left: the screen closes
+  KaldiEksikGun,   // days are missing without a reason, or the unpaid days do not fill the month
+  KaldiGunFazla,   // more days than the person may work
+  KaldiNetsiz,     // net not above zero
+  KaldiHesapsiz,   // the calculation cannot be made
+  KaydetmeHatasi,  // the record was not saved; what was typed is kept
+  OkumaHatasi,     // saved, but the next person could not be read
+};
+
+// Where the focus goes after a reason for missing days was chosen.
+enum class SebepSonrasi { KodAlanina, UcretsizIzne };
+
+// The panel beside a person who cannot work the whole month.
+struct CalismaUyarisi {
+  std::string girisTarihi;  // "??.??.????" when there is none
+  std::string cikisTarihi;  // "Çalışıyor" when there is none
+  int gun = 0;              // "Çalışabileceği Gün"
+};
+
+// The panel of what lowered the bases; shown when `toplam` is above zero.
+struct MuafiyetPaneli {
+  Tutar muaf;     // exempt from the social-security base
+  Tutar indirim;  // disability and the three deductions
+  Tutar toplam;
+};
+
+// The fields that are shown and not entered, by number; most are kept in no record.
+struct EkranToplamlari {
+  Tutar kazanclar;      // 21 "Kazançlar"
+  Tutar yardimlar;      // 22 "Yardımlar"
+  Tutar brut;           // 23 "TOPLAM"
+  Tutar ssk;            // 24 "S.S.K."
+  Tutar vergiler;       // 25 "G.V.+D.V."
+  Tutar yasalKesinti;   // 26 the two before
+  Tutar ozelKesinti;    // 27 "Ö.Kes."
+  Tutar net;            // 28 "NET"; 0 stands for an empty field
+  Tutar isciToplam;     // 41
+  Tutar isverenToplam;  // 44
+  Tutar kumuleMatrah;   // 45
+  Tutar kumuleVergi;    // 46
+  int SskGun = 0;       // 47 "Toplam Gün"
+  Tutar agi;            // 50 "A.G.İ."
+  MuafiyetPaneli panel;
+};
+
+class BordroGirisi {
+ public:
+  enum class Hal { KisiYok, KisiSecili, Kaydedildi };
+
+  BordroGirisi(Oturum& oturum, const ParametreDeposu& parametreler, Bildirim& bildirim);
+  BordroGirisi(const BordroGirisi&) = delete;
+  BordroGirisi& operator=(const BordroGirisi&) = delete;
+
+  // For the session's period. Reads the template anew, and writes the built-in one where there is none. False: the
+  // company has no definitions or its store cannot be read, which is told.
+  bool Ac();
+  // Another month of the year: the screen is cleared, the code stays.
+  void AyDegistir(int ay);
+  // The run numbers found in the month, then "Yeni".
+  std::vector<std::string> BordroNolari();
+  // Asks, when the screen closes, whether everyone has his record.
+  void KapanisDenetimi();
+
+  // The code was typed, and an entry field entered. The person already being entered stays as he is.
+  KodSonucu KodAl(std::string_view metin);
+  // Home, PgUp, PgDn, End on the code field: from the last code on.
+  KodSonucu Git(KisiYonu yon);
+
+  // A field was left. Gives why the calculation cannot be made, "" when it was; the net is empty then, the other
+  // results stay as they were.
+  const std::string& Hesapla();
+  // Position in EksikSebepleri.
+  SebepSonrasi SebepSec(int sira);
+  // F9 on an allowance field: what stands in it is net and becomes gross.
+  void NettenBruteCevir(int alan);
+  // At most this may be taken for a debt: down to a net of zero.
+  Tutar BorcLimiti() const;
+  // The debt dialog confirms. False: over the limit, which is told, and the dialog stays open.
+  bool BorcAyarla(Tutar borc);
+
+  // The focus comes back to the code field from `ayrilanAlan`: the entry is checked, saved, and the next person sought.
+  KapanisSonucu Kapat(int ayrilanAlan);
+  // F7: the person's record of the month. True: deleted, and the screen is cleared.
+  bool KayitSil();
+  // Ctrl+F7: all records of the month.
+  bool AyinBordrosunuSil();
+  // The "Puantaj " button with the template: everybody's month, without a question. True: the screen closes.
+  bool SablondanHazirla(Ilerleme* ilerleme = nullptr);
+
+  Hal Durumu() const { return hal_; }
+  const std::string& Kod() const { return kod_; }
+  const BordroDonemi& Donem() const { return kosullar_.donem; }
+  const Kosullar& Kosul() const { return kosullar_; }
+  std::string Baslik() const;         // "Işıl Çağlar ( SSK No:34-1)"
+  std::string CalismaSatiri() const;  // "Personel 30 Gün Çalışmış.."
+  const std::optional<CalismaUyarisi>& CalismaPaneli() const { return uyari_; }
+  bool KayitVar() const { return kisi_.kayit.has_value(); }
+  int CalismaGun() const { return g_.CalismaGun; }
+  int AyGunu() const { return ayGunu_; }
+  // Fields 1 to 20: open for this person by the flags of his group.
+  bool AlanAcik(int alan) const;
+
+  Brd& Giris() { return g_.giris; }
+  const BordroSonucu& Sonuc() const { return sonuc_; }
+  const EkranToplamlari& Toplamlar() const { return toplamlar_; }
+  // The steps of the present calculation ("Neden bu tutar?"); made when asked for.
+  Iz HesapIzi() const;
+
+ private:
+  enum class DonemDisiMetni { Gosterilir, Gosterilmez };
+
+  void ParametreleriTazele();
+  KodSonucu Getir(const std::string& kod, DonemDisiMetni metin);
+  KodSonucu KisiyiAc(KisiVerisi kisi, int CalismaGun);
+  void EkranTemizle();
+  void HesaplaVeGoster();
+  bool EksikGunTamam();
+  bool Kaydet();
+  KapanisSonucu SonrakineGec();
+
+  Oturum& o_;
+  const ParametreDeposu& parametreler_;
+  Bildirim& bildirim_;
+  Kosullar kosullar_;
+  std::uint64_t surum_ = 0;  // of the parameters in kosullar_
+
+  Hal hal_ = Hal::KisiYok;
+  std::string kod_;
+  KisiVerisi kisi_;
+  BordroGirdi g_;  // points into kisi_ and kosullar_
+  int ayGunu_ = 0;
+  std::optional<CalismaUyarisi> uyari_;
+  BordroSonucu sonuc_;
+  EkranToplamlari toplamlar_;
+  std::string kusur_;
+};
+
+}  // namespace belvani

@@ -1,0 +1,146 @@
+// What ends the entry of a person or of the month: checking and saving, the walk to the next person, deleting, the mass
+// run.
+#include "core/store/satirlar.h"
+#include "core/turkce.h"
+#include "payroll/hazirlik/giris.h"
+
+namespace belvani {
+namespace {
+
+bool KapatanAlan(int alan) {
+  return (alan >= brdalan::IlkGun && alan <= brdalan::SonYardim) || alan == brdalan::UcretsizIzin;
+}
+
+struct Aranan {
+  std::string kod;  // "": nobody further belongs to the period
+  bool tarihHatali = false;
+};
+
+Aranan SonrakiUygun(Motor& motor, const BordroDonemi& donem, const std::string& kod) {
+  Aranan aranan;
+  const auto komut = motor.Hazirla("select kod, girtar, ciktar from sicil where kod > ? order by kod");
+  komut->MetinBagla(1, kod);
+  while (komut->Adim()) {
+    Tarih girtar, ciktar;
+    KolonAl(*komut, 1, girtar);
+    KolonAl(*komut, 2, ciktar);
+    const DonemUygunlugu uygunluk = GunSayisiBul(donem, girtar, ciktar).uygunluk;
+    if (uygunluk == DonemUygunlugu::GirisTarihiHatali) aranan.tarihHatali = true;
+    if (uygunluk != DonemUygunlugu::Uygun) continue;
+    aranan.kod = komut->Metin(0);
+    komut->Birak();
+    break;
+  }
+  return aranan;
+}
+
+}  // namespace
+
+// The days are all worked, or the rest has its reason and fills the month.
+bool BordroGirisi::EksikGunTamam() {
+  Brd& b = g_.giris;
+  const EksikGun eksik = EksikGunDenetle(sonuc_.SskGun, g_.CalismaGun, ayGunu_, b.eksiksebebi, b.ucretsizizin);
+  b.eksiksebebi = std::uint8_t(eksik.sebep);
+  b.ucretsizizin = std::uint8_t(eksik.ucretsizizin);
+  if (sonuc_.SskGun == g_.CalismaGun) return true;
+  if (!eksik.tamam && eksik.sebep != 0)
+    bildirim_.Bilgi("Eksik Gün Bildirildi\nÜcretsiz İzin ile Toplam Gün birlikte " + std::to_string(ayGunu_) +
+                    " olmalı");
+  else
+    bildirim_.Bilgi("Eksik Gün Bildirildi\nEksik Gün Sebebini giriniz");
+  return eksik.tamam;
+}
+
+KapanisSonucu BordroGirisi::Kapat(int ayrilanAlan) {
+  if (hal_ != Hal::KisiSecili || !KapatanAlan(ayrilanAlan)) return KapanisSonucu::Kapanmadi;
+  if (!Hesapla().empty()) {
+    bildirim_.Bilgi(kusur_);
+    return KapanisSonucu::KaldiHesapsiz;
+  }
+  if (sonuc_.gunFazla) {
+    bildirim_.Bilgi("Bu Personel " + std::to_string(g_.CalismaGun) + " Gün Çalışmış\nÇalışma Gününü Fazla Girmişiniz");
+    return KapanisSonucu::KaldiGunFazla;
+  }
+  if (!EksikGunTamam()) {
+    if (ayrilanAlan != brdalan::UcretsizIzin) uyari_.reset();
+    return KapanisSonucu::KaldiEksikGun;
+  }
+  if (sonuc_.NetOdenen <= Tutar()) return KapanisSonucu::KaldiNetsiz;
+  const bool kaydet = !KayitVar() || bildirim_.Soru("Puantaj Yeniden Kaydedilecek ?");
+  if (kaydet && !Kaydet()) return KapanisSonucu::KaydetmeHatasi;
+  return SonrakineGec();
+}
+
+bool BordroGirisi::Kaydet() {
+  Brd brd = sonuc_.brd;
+  brd.eksiksebebi = g_.giris.eksiksebebi;
+  brd.ucretsizizin = g_.giris.ucretsizizin;
+  const bool kaydedildi = o_.depo.db.Koru(false, [&] {
+    BordroKaydet(o_.depo.db.IcMotor(), brd);
+    return true;
+  });
+  if (!kaydedildi) bildirim_.Uyari("Bordro Kayıtları Güncellenemiyor");
+  return kaydedildi;
+}
+
+KapanisSonucu BordroGirisi::SonrakineGec() {
+  hal_ = Hal::Kaydedildi;
+  try {
+    const Aranan sonraki = SonrakiUygun(o_.depo.db.IcMotor(), kosullar_.donem, kisi_.sicil.kod);
+    if (sonraki.tarihHatali) bildirim_.Bilgi("Personel Giriş Tarihi Hatalı");
+    if (sonraki.kod.empty()) {
+      bildirim_.Bilgi("Bordro Hazırlık Sona Erdi");
+      return KapanisSonucu::Bitti;
+    }
+    o_.depo.SicilBul(sonraki.kod);
+    kod_ = BuyukHarf(Kirp(sonraki.kod));
+    return KapanisSonucu::SonrakiVar;
+  } catch (const MotorHatasi& h) {
+    bildirim_.Uyari(h.what());
+    return KapanisSonucu::OkumaHatasi;
+  }
+}
+
+bool BordroGirisi::KayitSil() {
+  if (hal_ != Hal::KisiSecili || !KayitVar()) return false;
+  if (!bildirim_.Soru("Kayıt Silinecek Eminmisiniz ?")) return false;
+  const bool silindi = o_.depo.db.Koru(false, [&] {
+    Motor& motor = o_.depo.db.IcMotor();
+    Islem islem(motor);
+    const auto komut = motor.Hazirla("delete from brd where oto = ?");
+    komut->TamBagla(1, kisi_.kayit->oto);
+    komut->Calistir();
+    const bool vardi = motor.DegisenSatir() != 0;
+    islem.Onayla();
+    return vardi;
+  });
+  if (silindi)
+    EkranTemizle();
+  else
+    bildirim_.Uyari("Kayıt Silinemedi");
+  return silindi;
+}
+
+bool BordroGirisi::AyinBordrosunuSil() {
+  if (!bildirim_.Soru("Bordro Tamamen Silinecek Eminmisiniz ?")) return false;
+  if (const auto silinen = BordroSil(o_, kosullar_.donem.yil, kosullar_.donem.ay); !silinen) {
+    bildirim_.Uyari(silinen.HataMetni());
+    return false;
+  }
+  bildirim_.Bilgi("Bordro Tamamen Silindi");
+  EkranTemizle();
+  return true;
+}
+
+bool BordroGirisi::SablondanHazirla(Ilerleme* ilerleme) {
+  ParametreleriTazele();
+  EkranTemizle();
+  if (const auto sonuc = TopluHazirla(o_, kosullar_, {}, ilerleme); !sonuc) {
+    bildirim_.Uyari(sonuc.HataMetni());
+    return false;
+  }
+  bildirim_.Bilgi("Bordro Hazırlık Tamamlandı");
+  return true;
+}
+
+}  // namespace belvani

@@ -1,0 +1,30 @@
+// What the parameter screens show and check beyond their fields.
+//
+// Example: brackets up to 8,700 and 22,000 show the lower bounds "" and "8,700".
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "payroll/parametre/parametreler.h"
+
+namespace belvani {
+
+// The lower bound that a bracket row shows: the limit of the row before it, in whole lira grouped by thousands; "" on
+// the first row and after an unused one. `satir` from 0.
+std::string GvAltSinirMetni(const GvTablosu& tablo, int satir);
+
+// What a row of the eras has wrong when it is left; "" when it may stand. A field that holds no day reads as Null.
+std::string KanunSatiriKusuru(const KanunSatiri& satir);
+
+// Positions of the branches that the rate screen lists: those with a number, of the 32 that have rates.
+std::vector<int> OranliDallar(const HesapTurleri& turler);
+
+// The allowance lines as the flags screen labels them, whatever they are named in the company.
+inline constexpr std::array<std::string_view, YardimSayisi> TanimYardimAdlari{
+    "Prim/İkramiye", "Yemek",        "Aile Yardımı", "Çocuk Yardımı",   "Doğum Yardımı",  "Evlilik Yardımı",
+    "Giyim Yardımı", "Ölüm Yardımı", "Yolluk",       "İhbar/Kasa Taz.", "Kıdem Tazmınatı"};
+
+}  // namespace belvani

@@ -1,0 +1,50 @@
+// The search of the lookup window: all people of the company in memory, narrowed with every key that is typed.
+//
+// Case is that of the Turkish alphabet, as in the store: "ış" finds IŞIL, not İŞCAN; "ali" finds ALİ. Marks count:
+// "cag" does not find ÇAĞ. What is typed is plain text, "*", "%" and "_" included. People who have left are listed too.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/bildirim.h"
+#include "core/session/oturum.h"
+#include "core/tarih.h"
+
+namespace belvani {
+
+struct KisiSatiri {
+  std::string kod;
+  std::string adi;
+  std::string soyadi;
+  Tarih ciktar;  // Null while employed
+};
+
+enum class AramaTuru { KodBastan, KodIcinde, AdBastan, AdIcinde };
+
+class KisiListesi {
+ public:
+  // The people in the order of their codes; "Sql Yaratılamıyor" and nothing when the store cannot give them.
+  static std::optional<KisiListesi> Oku(Oturum& o, Bildirim& bildirim);
+
+  const std::vector<KisiSatiri>& Kisiler() const { return kisiler_; }
+
+  // Positions in Kisiler() of those who are found, in its order. A name is first and family name joined; with a blank
+  // between them it is found as well ("Ali V" finds Ali Veli).
+  std::vector<std::size_t> Ara(AramaTuru tur, std::string_view metin) const;
+
+ private:
+  // In small letters; `ad` has a blank between the names.
+  struct Anahtar {
+    std::string kod, ad, bitisikAd;
+  };
+
+  void Ekle(KisiSatiri kisi);
+
+  std::vector<KisiSatiri> kisiler_;
+  std::vector<Anahtar> anahtarlar_;  // of the person at the same position
+};
+
+}  // namespace belvani

@@ -1,0 +1,84 @@
+#include "personnel/etiket.h"
+
+namespace belvani {
+namespace {
+
+struct Etiket {
+  std::string_view tablo;
+  std::string_view alan;
+  std::string_view metin;
+};
+
+constexpr Etiket Etiketler[] = {
+    {"sicil", "kod", "Sicil No"},
+    {"sicil", "adi", "Adı"},
+    {"sicil", "soyadi", "Soyadı"},
+    {"sicil", "ilksoyadi", "İlk Soyadı"},
+    {"sicil", "sskno", "SSK No"},
+    {"sicil", "sskdurum", "SSK Durum"},
+    {"sicil", "ucrettipi", "Ücret Tipi"},
+    {"sicil", "ucret", "Ücreti"},
+    {"sicil", "girtar", "Giriş Tarihi"},
+    {"sicil", "ciktar", "Çıkış Tarihi"},
+    {"sicil", "grup", "Grup"},
+    {"sicil", "tip", "Tip"},
+    {"sicil", "ozel", "Özel"},
+    {"sicil", "hesap", "Hesap Kodu"},
+    {"sicil", "tasno", "Sendika No"},
+    {"sicil", "verda", "Vergi Dairesi"},
+    {"sicil", "verno", "Hesap No"},
+    {"sicil", "iskolu", "Meslek Kolu"},
+    {"sicil", "kanun", "Kanun No"},
+    {"sicil", "tahsisno", "Tahsis No"},
+    {"sicil", "sakatdrc", "Sakatlık Drc."},
+    {"sicil", "agi", "Asgari Geçim İndirimi"},
+    {"sicil", "tur", "Huzur Hakkı Bordrosuna Aitlik"},
+
+    {"kimlik", "kod", "Sicil No"},
+    {"kimlik", "serino", "Seri No"},
+    {"kimlik", "tcno", "TC Kimlik"},
+    {"kimlik", "cins", "Cinsiyet"},
+    {"kimlik", "medeni", "Medeni Hal"},
+    {"kimlik", "baba", "Baba Adı"},
+    {"kimlik", "ana", "Ana Adı"},
+    {"kimlik", "uyruk", "Uyruk"},
+    {"kimlik", "dogyer", "Doğum Yeri"},
+    {"kimlik", "dogtar", "D. Tarihi"},
+    {"kimlik", "dini", "Dini"},
+    {"kimlik", "kan", "Kan Grubu"},
+    {"kimlik", "il", "İl"},
+    {"kimlik", "ilce", "İlçe"},
+    {"kimlik", "mahkoy", "Mahalle/Köy"},
+    {"kimlik", "cilt", "Cilt No"},
+    {"kimlik", "sayfa", "Sıra(Sayfa) No"},
+    {"kimlik", "kutuk", "Kütük(Aile) No"},
+    {"kimlik", "nufusd", "Verildiği Yer"},
+    {"kimlik", "versebeb", "Veriliş Nedeni"},
+    {"kimlik", "kayitno", "Kayıt No"},
+    {"kimlik", "vertar", "Veriliş Tarihi"},
+    {"kimlik", "tahsil", "Tahsil"},
+    {"kimlik", "adr1", "Adresi"},
+    {"kimlik", "adr2", "Adresi"},
+    {"kimlik", "tel", "Telefonu"},
+
+    {"esco", "kod", "Personel Kodu"},
+    {"esco", "tcno", "TC Kimlik"},
+    {"esco", "adi", "Adı"},
+    {"esco", "soyadi", "Soyadı"},
+    {"esco", "yakinlik", "Yakınlık"},
+    {"esco", "cins", "Cinsiyet"},
+    {"esco", "dogtar", "Doğum Tarihi"},
+    {"esco", "dogyer", "Doğum Yeri"},
+    {"esco", "adr", "Adres"},
+    {"esco", "agiok", "A.G.İ."},
+};
+
+}  // namespace
+
+std::string_view AlanEtiketi(std::string_view tablo, std::string_view alan) {
+  for (const Etiket& e : Etiketler)
+    if (e.tablo == tablo && e.alan == alan) return e.metin;
+  return alan;
+}
+
+}  // namespace belvani

@@ -1,0 +1,48 @@
+// The personnel card: a person's `sicil` record, the identity record that comes with it, and the photograph.
+//
+// All of it works on the session's shared cursors and seeks the person anew each time, for other screens move them.
+// Codes are trimmed and ignore case. Messages are for the card's user; a false result leaves what he typed to the
+// screen.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/bildirim.h"
+#include "core/session/oturum.h"
+#include "core/tables/sicil.h"
+#include "personnel/kayit.h"
+#include "personnel/listeler.h"
+
+namespace belvani {
+
+std::optional<Sicil> KartBul(Oturum& o, std::string_view kod);
+
+// The neighbour of the person on the screen ("" when there is none); nothing at the end of the list. A person whom
+// someone has deleted meanwhile keeps his place: 0002 gone, the one after him is 0003.
+std::optional<Sicil> KartGit(Oturum& o, Yon yon, std::string_view simdikiKod);
+
+// The wage that the card shows, and that its saving stores: the minimum wage of the law for those who are paid that.
+Tutar GosterilenUcret(const Sicil& kart, Tutar asgariUcret);
+
+// Saves the card: a known code is edited, a new one added, with its identity record if there is none. What the card
+// does not show (leaving code and reason, `meslekkod`) stays as the store has it. `yeniResim` is the picture file that
+// was chosen since the card came up, "" for none; it is stored after the card.
+bool KartKaydet(Oturum& o, const Sicil& kart, const std::string& yeniResim, Bildirim& bildirim);
+
+// Asks, and deletes card and identity together. Pay records, family, photograph and account stay, and belong to
+// whoever gets the code again.
+bool KartSil(Oturum& o, std::string_view kod, Bildirim& bildirim);
+
+// Stores the picture file in place of the person's picture.
+bool FotoYaz(Oturum& o, std::string_view kod, const std::string& dosya, Bildirim& bildirim);
+
+// Writes the person's picture to the file "gelenres" of the program's directory (the user's own where that is not ours
+// to write) and gives its path; nothing when he has none.
+std::optional<std::string> FotoOku(Oturum& o, std::string_view kod);
+
+// True when the person has no picture any more.
+bool FotoSil(Oturum& o, std::string_view kod, Bildirim& bildirim);
+
+}  // namespace belvani

@@ -1,0 +1,87 @@
+// The company card, the subcontractor, the accountant, and the paths of the installation.
+#include "core/session/firmabilgi.h"
+
+#include "core/ayarlar.h"
+#include "core/session/aracibilgi.h"
+#include "core/session/muhasebecibilgi.h"
+#include "core/session/ornekoturum.h"
+#include "core/session/yapiayari.h"
+#include "core/tablo.h"
+
+namespace belvani {
+namespace {
+
+using test::Iletiler;
+using test::Tablo;
+using FirmaBilgi = test::OrnekOturum;
+
+TEST(KanunMetni, LastFiveDigits) {
+  // clang-format off
+  for (const auto& [metin, kanun] : Tablo<const char*, const char*>{
+           {"5510", "05510"}, {"506", "00506"}, {"05084", "05084"}, {" 5510 ", "05510"}, {"1234567", "34567"}, {"", "00000"},
+           {"-5510", "00000"}, {"55.5", "00000"}, {"5510a", "00000"}})
+    // clang-format on
+    EXPECT_EQ(KanunMetni(metin), kanun) << metin;
+}
+
+TEST_F(FirmaBilgi, CardKeepsTheVersionOfTheStore) {
+  Kur();
+  Sql("update firma set versiyon = 2003.6, verda = 'Konak'; alter table firma drop column epos");
+  ASSERT_TRUE(SirketAc(o, "deneme", b));
+  Firma f = FirmaOku(o);  // of an older program: what it lacks reads as empty
+  EXPECT_EQ(f.verda + f.epos, "Konak");
+  f.unvan = "Örgü Ltd.";
+  f.kanun = "5510";
+  f.firmayil = 2009;
+  f.firmaay = 7;
+  f.ondeger = "Memur";
+  f.kurtar = {};
+  f.versiyon = Tek(1);
+  ASSERT_TRUE(FirmaKaydet(o, f, b));
+  EXPECT_EQ(AnaPencereBasligi(o) + o.ondeger, "Örgü Ltd. (Temmuz.2009)Memur");
+  f.kanun = "05510";
+  f.versiyon = Tek(2003.6);
+  EXPECT_EQ(FirmaOku(o), f);
+
+  Sql("delete from firma");
+  EXPECT_EQ(FirmaOku(o), YeniFirma());
+  ASSERT_TRUE(FirmaKaydet(o, f, b));
+  f.versiyon = o.Versiyon;
+  EXPECT_EQ(FirmaOku(o), f);
+  Firma uzun;
+  uzun.unvan = std::string(41, 'x');
+  EXPECT_FALSE(FirmaKaydet(o, uzun, b));
+  EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Firma Bilgileri Güncellenemedi"});
+  EXPECT_EQ(AnaPencereBasligi(o), uzun.unvan);  // the session stays written, here without a month
+  EXPECT_EQ(FirmaOku(o), f);
+}
+
+TEST_F(FirmaBilgi, SubcontractorAndAccountant) {
+  Kur();
+  Arac a = AraciOku(o);
+  EXPECT_EQ(a.kod, "000");
+  for (const char* kod : {"001", "007"}) {
+    a.kod = kod;
+    ASSERT_TRUE(AraciKaydet(o, a, b));
+  }
+  EXPECT_TRUE(AraciOku(o) == a && o.depo.arac.KayitSayisi() == 1);
+  a.kod = "1234";
+  EXPECT_FALSE(AraciKaydet(o, a, b));
+  EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Aracı Bilgileri Kaydedilemedi"});
+  const Muhasebeci m{"Şükrü Çağlar", "12345678901", " 42"};
+  ASSERT_TRUE(MuhasebeciOku(o) == Muhasebeci() && MuhasebeciKaydet(o, m, b));
+  EXPECT_EQ(MuhasebeciOku(o), m);
+  o.FirmaDizini = "/proc/yok/";
+  EXPECT_FALSE(MuhasebeciKaydet(o, m, b));
+  EXPECT_EQ(b.Al().size(), 1u);
+}
+
+TEST_F(FirmaBilgi, PathsOfTheInstallation) {
+  EXPECT_FALSE(YapiAyariKaydet(" ", "", b) || YapiAyariKaydet("/a", " ", b));
+  EXPECT_EQ(b.Al(), (Iletiler{"Uyarı: Bir Çalışma Dizini Verilmelidir.", "Uyarı: Bir Data Dizini Verilmelidir."}));
+  EXPECT_TRUE(YapiAyariKaydet("/opt/belvani", " /veri/ ", b));
+  EXPECT_EQ(MakineAyari("PrgPath") + MakineAyari("DataPath"), "/opt/belvani//veri/");
+}
+
+}  // namespace
+}  // namespace belvani

@@ -1,0 +1,268 @@
+// The payroll screen without the screen: who comes up, what closes and is saved; and that the shipped sample company,
+// typed in person by person, has the records of the mass run.
+#include "payroll/hazirlik/giris.h"
+
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <iterator>
+
+#include "core/csv.h"
+#include "core/tables/uye.h"
+#include "sirket.h"
+
+namespace belvani {
+namespace {
+
+using testing::ElementsAre;
+
+struct Ekran : test::Sirket {
+  ParametreDeposu depo;
+  BordroGirisi giris{o, depo, bildirim};
+
+  void Ac(int yil, int ay) {
+    depo.yasal = test::Yasal(yil, ay);
+    test::Al(depo.FirmaYukle(o));
+    o.firmayil = yil;
+    o.firmaay = ay;
+    ASSERT_TRUE(giris.Ac());
+  }
+};
+
+// Rows of a file of the sample company; columns of other tables are passed over.
+template <class Kayit>
+std::vector<GirisSatiri> OrnekOku(const std::string& ad, std::vector<Kayit>& kayitlar) {
+  std::ifstream dosya(test::KaynakYolu("data/ornek/" + ad), std::ios::binary);
+  const CsvTablosu csv = test::Al(CsvOku(std::string(std::istreambuf_iterator<char>(dosya), {})));
+  std::vector<GirisSatiri> girisler;
+  std::string kusur;
+  for (const CsvSatiri& satir : csv.satirlar) {
+    Kayit& kayit = kayitlar.emplace_back();
+    GirisSatiri& giris = girisler.emplace_back();
+    for (std::size_t i = 0; i < csv.basliklar.size(); ++i)
+      Kayit::HerKolon([&](const auto& kolon) {
+        if (kolon.ad != csv.basliklar[i]) return;
+        UyeyeYaz(kayit.*kolon.uye, MetindenDeger(kolon, satir.hucreler[i], kusur));
+        if (kolon.ad != "kod") giris.verilen.insert(kolon.ad);
+      });
+  }
+  return girisler;
+}
+
+template <class Kayit>
+void OrnekTablo(Ekran& e, const std::string& ad) {
+  std::vector<Kayit> kayitlar;
+  OrnekOku(ad, kayitlar);
+  e.motor().Calistir("delete from " + std::string(Kayit::TabloAdi));
+  for (const Kayit& k : kayitlar) e.Yaz(k);
+}
+
+std::vector<GirisSatiri> OrnekGirisleri(int yil, int ay) {
+  std::vector<Brd> degerler;
+  auto girisler =
+      OrnekOku("giris/" + std::to_string(yil) + (ay < 10 ? "-0" : "-") + std::to_string(ay) + ".csv", degerler);
+  for (std::size_t i = 0; i < girisler.size(); ++i) {
+    girisler[i].deger = degerler[i];
+    girisler[i].kod = degerler[i].kod;
+  }
+  return girisler;
+}
+
+// Types the month as a user would, from the first person to the last.
+void AyiGir(BordroGirisi& giris, const std::vector<GirisSatiri>& girisler) {
+  auto ilk = giris.Git(KisiYonu::Ilk);
+  while (ilk == KodSonucu::DonemDisi) ilk = giris.Git(KisiYonu::Sonraki);
+  auto sonuc = KapanisSonucu::SonrakiVar;
+  while (sonuc == KapanisSonucu::SonrakiVar) {
+    giris.KodAl(giris.Kod());
+    for (const GirisSatiri& g : girisler) {
+      if (g.kod != giris.Kod()) continue;
+      Brd::HerKolon([&](const auto& kolon) {
+        if (g.verilen.contains(kolon.ad) && kolon.ad != "eksiksebebi" && kolon.ad != "borckes")
+          giris.Giris().*kolon.uye = g.deger.*kolon.uye;
+      });
+      giris.Hesapla();
+      if (g.deger.eksiksebebi != 0) giris.SebepSec(EksikSebepSec(g.deger.eksiksebebi));
+      giris.BorcAyarla(g.deger.borckes);
+    }
+    sonuc = giris.Kapat(brdalan::UcretsizIzin);
+  }
+  EXPECT_EQ(sonuc, KapanisSonucu::Bitti) << giris.Kod();
+}
+
+TEST(BordroGirisi, GivesTheSampleCompanyTheRecordsOfTheMassRun) {
+  Ekran e;
+  e.motor().Calistir("pragma synchronous = off");
+  OrnekTablo<Firma>(e, "firma.csv");
+  OrnekTablo<Sicil>(e, "personel.csv");
+  OrnekTablo<Esco>(e, "aile.csv");
+  OrnekTablo<Kaztan>(e, "kaztan.csv");
+  OrnekTablo<Muaf>(e, "muaf.csv");
+  OrnekTablo<Indir>(e, "indir.csv");
+  OrnekTablo<Sendika>(e, "sendika.csv");
+  std::size_t sayi = 0;
+  for (const int yil : {2006, 2008, 2009}) {
+    Sablon sablon = VarsayilanSablon();
+    sablon.SablonYardim = {Tutar(30), Tutar(78), Tutar(33.33)};
+    sablon.SablonYardimTip = {0, std::uint8_t(yil - 2007), 1};  // each kind in turn; that of 2006 is none
+    ASSERT_TRUE(SablonKaydet(e.o.FirmaDizini, sablon));
+    for (int ay = 1; ay <= 12; ++ay) {
+      e.Ac(yil, ay);
+      const auto girisler = OrnekGirisleri(yil, ay);
+      AyiGir(e.giris, girisler);
+      const auto ekrandan = e.Kayitlar(yil, ay);
+      ASSERT_TRUE(BordroSil(e.o, yil, ay));
+      ASSERT_TRUE(test::Al(TopluHazirla(e.o, e.Kosul(yil, ay), girisler)).kaydedildi);
+      auto topludan = e.Kayitlar(yil, ay);
+      ASSERT_EQ(ekrandan.size(), topludan.size()) << yil << "-" << ay;
+      for (std::size_t i = 0; i < topludan.size(); ++i) {
+        topludan[i].oto = ekrandan[i].oto;
+        EXPECT_EQ(ekrandan[i], topludan[i]) << yil << "-" << ay << " " << topludan[i].kod;
+      }
+      sayi += topludan.size();
+    }
+  }
+  EXPECT_GT(sayi, 700u);
+}
+
+TEST(BordroGirisi, WalksOverWhoDoesNotBelongToThePeriod) {
+  Ekran e;
+  e.Kisi("a1", 900);
+  e.Kisi("B", 900, Tarih(2009, 5, 1));
+  e.Kisi("C", 900, Tarih());
+  e.Kisi("D", 900, Tarih(2009, 1, 20));
+  e.motor().Calistir("update firma set issaati = 0");
+  e.Ac(2009, 1);
+  EXPECT_EQ(e.giris.KodAl(" A1 "), KodSonucu::Yuklendi);
+  EXPECT_TRUE(e.giris.AlanAcik(2));
+  EXPECT_FALSE(e.giris.AlanAcik(3)) << "the built-in group opens the first two lines alone";
+  EXPECT_EQ(e.giris.Kapat(1), KapanisSonucu::SonrakiVar);
+  EXPECT_EQ(e.giris.Kod(), "D");
+  EXPECT_EQ(e.o.depo.sicil.MetinOku("kod"), "D") << "the card moves along for every screen";
+  EXPECT_EQ(e.giris.Kapat(1), KapanisSonucu::Kapanmadi) << "who is saved is closed";
+  EXPECT_EQ(e.giris.KodAl("d"), KodSonucu::Yuklendi);
+  EXPECT_EQ(e.giris.CalismaPaneli()->gun, 12);
+  e.giris.Giris().ng = 7;
+  e.giris.KodAl("D");
+  EXPECT_EQ(e.giris.Giris().ng, 7) << "who is being entered is not read again";
+  EXPECT_EQ(e.giris.KodAl("B"), KodSonucu::DonemDisi);
+  EXPECT_FALSE(e.giris.AlanAcik(1));
+  EXPECT_THAT(e.bildirim.Al(),
+              ElementsAre("Bilgi: Firma Bilgilerinde İş Saati Yazılmamış", "Bilgi: Personel Giriş Tarihi Hatalı",
+                          "Bilgi: Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil"));
+  e.motor().Calistir("delete from firma");
+  EXPECT_FALSE(e.giris.Ac());
+}
+
+TEST(BordroGirisi, ClosesOnlyOverCompleteDays) {
+  using enum KapanisSonucu;
+  const std::string sor = "Bilgi: Eksik Gün Bildirildi\nEksik Gün Sebebini giriniz";
+  const std::string son = "Bilgi: Bordro Hazırlık Sona Erdi";
+  struct Durum {
+    int ng, sebep, ucretsizizin, alan;  // ucretsizizin -1: as choosing the reason fills it
+    KapanisSonucu sonuc;
+    test::Iletiler iletiler;
+  };
+  const Durum durumlar[] = {
+      {30, 0, -1, 1, Bitti, {son}},
+      {20, 0, -1, 1, KaldiEksikGun, {sor}},
+      {20, 1, -1, 51, Bitti, {sor, son}},  // 11 of January's 31
+      {20, 1, 10, 51, KaldiEksikGun, {"Bilgi: Eksik Gün Bildirildi\nÜcretsiz İzin ile Toplam Gün birlikte 31 olmalı"}},
+      {31, 0, -1, 1, KaldiGunFazla, {"Bilgi: Bu Personel 30 Gün Çalışmış\nÇalışma Gününü Fazla Girmişiniz"}},
+      {0, 1, -1, 51, KaldiNetsiz, {sor}},
+      {30, 0, -1, 21, Kapanmadi, {}},  // a field of results
+  };
+  Ekran e;
+  e.Kisi("1", 900);
+  for (const Durum& d : durumlar) {
+    e.Ac(2009, 1);
+    e.giris.KodAl("1");
+    e.giris.Giris().ht = 0;
+    e.giris.Giris().ng = std::uint8_t(d.ng);
+    e.giris.Hesapla();
+    e.giris.SebepSec(d.sebep);
+    if (d.ucretsizizin >= 0) e.giris.Giris().ucretsizizin = std::uint8_t(d.ucretsizizin);
+    EXPECT_EQ(e.giris.Kapat(d.alan), d.sonuc) << d.ng;
+    EXPECT_EQ(e.bildirim.Al(), d.iletiler);
+    EXPECT_EQ(e.Kayitlar(2009, 1).size(), d.sonuc == Bitti ? 1u : 0u) << d.ng;
+    EXPECT_EQ(e.giris.Giris().ng, d.ng) << "what was typed stays";
+    test::Al(BordroSil(e.o, 2009, 1));
+  }
+}
+
+TEST(BordroGirisi, SavedAgainKeepsTheRatesAndAsks) {
+  Ekran e;
+  e.Kisi("1", 900);
+  e.Hazirla(2009, 1);
+  const Brd ilk = e.Kayit("1", 2009, 1);
+  e.Ac(2009, 1);
+  e.depo.yasal.oranlar.IsciOran[0].has = Tek(50);
+  ++e.depo.surum;
+  for (const bool cevap : {false, true}) {
+    e.bildirim.cevap = cevap;
+    e.giris.KodAl("1");
+    e.giris.Giris().fm1 = Tek(10);
+    EXPECT_EQ(e.giris.Kapat(1), KapanisSonucu::Bitti);
+    EXPECT_EQ(e.bildirim.Al()[0], "Soru: Puantaj Yeniden Kaydedilecek ?");
+    EXPECT_EQ(e.Kayit("1", 2009, 1) == ilk, !cevap);
+  }
+  const Brd yeni = e.Kayit("1", 2009, 1);
+  EXPECT_EQ(yeni.oto, ilk.oto);
+  EXPECT_EQ(yeni.sskiscior, ilk.sskiscior);
+  EXPECT_EQ(yeni.brutkaz, ilk.brutkaz + Tutar(56.25)) << "10 hours × 1.5 × 900 / 30 / 8";
+}
+
+TEST(BordroGirisi, TotalsDebtAndNetToGross) {
+  Ekran e;
+  e.Kisi("1", 693);
+  e.Ac(2009, 7);
+  e.giris.KodAl("1");
+  const EkranToplamlari& t = e.giris.Toplamlar();
+  EXPECT_EQ(t.yasalKesinti, Tutar(189.54)) << "premium, income tax, stamp duty";
+  EXPECT_EQ(t.isciToplam, Tutar(196.47)) << "and unemployment";
+  EXPECT_EQ(t.isverenToplam, Tutar(149));
+  EXPECT_EQ(t.net, Tutar(546.48));
+  EXPECT_FALSE(e.giris.BorcAyarla(Tutar(546.49)));
+  EXPECT_THAT(e.bildirim.Al(), ElementsAre("Bilgi: Kesinti Limit Aşıldı \n En fazla 546.48 Kesebilirsiniz."));
+  EXPECT_TRUE(e.giris.BorcAyarla(Tutar(46.48)));
+  EXPECT_EQ(t.net, Tutar(500));
+  EXPECT_EQ(e.giris.BorcLimiti(), Tutar(546.48));
+
+  e.giris.Giris().yrd02 = Tutar(477);
+  e.giris.NettenBruteCevir(11);
+  EXPECT_EQ(e.giris.Giris().yrd02, Tutar(665.73));
+  e.giris.Giris().fm1 = Tek(241);
+  EXPECT_EQ(e.giris.Kapat(11), KapanisSonucu::KaldiHesapsiz);
+  EXPECT_EQ(t.net, Tutar());
+}
+
+TEST(BordroGirisi, DeletesAndDoublesNothing) {
+  Ekran e;
+  for (const char* kod : {"1", "2"}) e.Kisi(kod, 900);
+  e.Ac(2009, 2);
+  e.giris.KodAl("2");
+  e.giris.Giris().fm1 = Tek(5);
+  e.motor().Calistir("create trigger dur before insert on brd begin select raise(abort, 'dur'); end");
+  EXPECT_EQ(e.giris.Kapat(7), KapanisSonucu::KaydetmeHatasi);
+  EXPECT_THAT(e.bildirim.Al(), ElementsAre("Uyarı: Bordro Kayıtları Güncellenemiyor"));
+  e.motor().Calistir("drop trigger dur");
+  e.Hazirla(2009, 2);  // another computer was quicker
+  EXPECT_EQ(e.giris.Kapat(7), KapanisSonucu::Bitti) << "a failed save keeps the entry open";
+  EXPECT_EQ(e.Kayit("2", 2009, 2).fm1, Tek(5));
+
+  e.bildirim.Al();
+  e.giris.KodAl("2");
+  EXPECT_TRUE(e.giris.KayitSil());
+  e.giris.KodAl("2");
+  EXPECT_FALSE(e.giris.KayitSil()) << "no record, no question";
+  EXPECT_EQ(e.Kayitlar(2009, 2).size(), 1u);
+  EXPECT_THAT(e.giris.BordroNolari(), ElementsAre("1", "Yeni"));
+  EXPECT_TRUE(e.giris.AyinBordrosunuSil());
+  EXPECT_THAT(e.bildirim.Al(),
+              ElementsAre("Soru: Kayıt Silinecek Eminmisiniz ?", "Soru: Bordro Tamamen Silinecek Eminmisiniz ?",
+                          "Bilgi: Bordro Tamamen Silindi"));
+  EXPECT_TRUE(e.Kayitlar(2009, 2).empty());
+}
+
+}  // namespace
+}  // namespace belvani

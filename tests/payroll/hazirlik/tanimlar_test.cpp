@@ -1,0 +1,76 @@
+// The tables of parameters: saved by key, and the session knows it at once.
+#include "payroll/hazirlik/tanimlar.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "core/ortam.h"
+#include "sirket.h"
+
+namespace belvani {
+namespace {
+
+using testing::ElementsAre;
+
+struct Tanimlar : test::Sirket {
+  ParametreDeposu depo;
+  TanimOrtami ortam{o, depo, bildirim};
+  Tanimlar() { test::Al(depo.FirmaYukle(o)); }
+};
+
+TEST(KazancGruplari, AreSavedAndDeletedByName) {
+  Tanimlar t;
+  KazancBayraklari b;
+  EXPECT_TRUE(KazancGrubuKaydet(t.ortam, " Usta ", b));
+  b.k[0] = 7;
+  b.y[10] = 31;
+  EXPECT_TRUE(KazancGrubuKaydet(t.ortam, "USTA", b)) << "the same group, case ignored";
+  EXPECT_TRUE(KazancGrubuKaydet(t.ortam, "personel", b));
+  EXPECT_THAT(KazancGruplari(t.depo.firma), ElementsAre("personel", "USTA"));
+  EXPECT_EQ(KazancGrupYukle(t.depo.firma, "usta"), b);
+  EXPECT_EQ(t.depo.firma.varsayilan, b) << "the default group holds for people without one";
+  EXPECT_FALSE(KazancGrubuSil(t.ortam, "PERSONEL"));
+  EXPECT_TRUE(KazancGrubuSil(t.ortam, "usta"));
+  t.motor().Calistir("create trigger dur before update on kaztan begin select raise(abort, 'dur'); end");
+  EXPECT_FALSE(KazancGrubuKaydet(t.ortam, "Personel", {}));
+  EXPECT_THAT(t.bildirim.Al(), ElementsAre("Bilgi: Varsayılan Hesap Silinemez\nYeniden Düzenlenir",
+                                           "Soru: usta Grubu\nKazanç Tanımlamalarını Silmek İstiyormusunuz ?",
+                                           "Uyarı: Kazanç Kayıtları Kaydedilemedi"));
+  EXPECT_THAT(KazancGruplari(t.depo.firma), ElementsAre("personel"));
+}
+
+TEST(Tanimlar, OfDeductionsAllowancesAndUnionsReachTheSession) {
+  Tanimlar t;
+  std::array<Indir, 3> indirimler;
+  indirimler[2].indtip = 4;
+  YardimTanimlari yardimlar = VarsayilanYardimlar();
+  yardimlar[10] = {"Kıdem", 5, Tek(1.5), Tutar(100)};
+  Sendika s;
+  s.kod = "01";
+  for (int kez = 0; kez < 2; ++kez)
+    EXPECT_TRUE(IndirimleriKaydet(t.ortam, indirimler) && YardimlariKaydet(t.ortam, yardimlar) &&
+                SendikaKaydet(t.ortam, s));
+  EXPECT_EQ(t.depo.firma.indirimler[2]->indtip, 4);
+  EXPECT_EQ(t.depo.firma.yardimlar, yardimlar);
+  EXPECT_EQ(t.depo.firma.sendikalar.size(), 1u);
+  s.adi = "Yirmi harften daha uzun";
+  EXPECT_FALSE(SendikaKaydet(t.ortam, s));
+  EXPECT_TRUE(SendikaSil(t.ortam, "01"));
+  EXPECT_EQ(SendikaBul(t.depo.firma, "01"), nullptr);
+  EXPECT_THAT(t.bildirim.Al(),
+              ElementsAre("Bilgi: adi: en çok 20 harf olabilir", "Soru: Kaydı Silmek İstiyormusunuz ?"));
+}
+
+TEST(ParametreDeposu, TakesOneDownloadedFile) {
+  Tanimlar t;
+  const auto kullanici = test::OrtamKoy("BELVANI_KULLANICI_DIZIN", t.dizin.Yol().c_str());
+  const auto veri = test::OrtamKoy("BELVANI_VERI_DIZIN", test::KaynakYolu("data").c_str());
+  t.o.firmayil = 2009;
+  t.o.firmaay = 7;
+  ASSERT_TRUE(t.depo.DosyaIndir(t.o, ParametreDosyasi::Gv));
+  EXPECT_EQ(t.depo.yasal.gv.GvLimit[0], Tutar(8700));
+  EXPECT_EQ(t.depo.yasal.oranlar.AsgariUcret, Tutar()) << "that file alone";
+}
+
+}  // namespace
+}  // namespace belvani
