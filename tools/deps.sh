@@ -5,7 +5,7 @@ set -eu
 
 paketler="g++ make cmake ninja-build ccache pkg-config libsqlite3-dev libicu-dev libcurl4-openssl-dev
   nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev librapidcheck-dev
-  sqlite3 locales"
+  qt6-base-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n fonts-dejavu-core xvfb xdotool sqlite3 locales"
 case "${1:-}" in
   lint) paketler="$paketler clang-format clang-tidy" ;;
   fuzz) paketler="$paketler clang libclang-rt-14-dev" ;;

@@ -1,0 +1,125 @@
+#include "app/ekranlar.h"
+
+#include "core/screens/araci.h"
+#include "core/screens/firbil.h"
+#include "core/screens/kulfrm.h"
+
+namespace belvani {
+namespace {
+
+// A screen that needs the session only, and one that also needs the parameters.
+template <class Ekran>
+std::unique_ptr<Form> Yap(const UygulamaBaglami& b) {
+  if constexpr (std::is_constructible_v<Ekran, EkranBaglami&>)
+    return std::make_unique<Ekran>(b.ekran);
+  else
+    return std::make_unique<Ekran>(b.ekran, b.parametreler);
+}
+
+const std::vector<EkranKaydi>& Tablo() {
+  static const std::vector<EkranKaydi> tablo{
+      {"Firma", "Firma Bilgileri", "firbil", "firma", "", Yap<firbil>},
+      {"Firma", "Aracı Bilgileri", "araci", "kisi", "", Yap<araci>},
+      {"Firma", "Firma Değiştir", "firdegistir", "degistir", "", nullptr, MenuIslemi::FirmaDegistir},
+      {"Firma", "Firma Listesi", "firlist"},
+      {"Firma", "Firma Sil", "firsil"},
+      {"Firma", "Çıkış", "cikis", "cikis", "", nullptr, MenuIslemi::Cikis},
+
+      {"Özlük", "Personel Kartları", "perkart"},
+      {"Özlük", "Personel Kimlik Bilgileri", "nufus"},
+      {"Özlük", "Eş ve Çocuk Bilgileri", "escofrm"},
+      {"Özlük", "Personel Girişi", "pergir"},
+      {"Özlük", "Personel Çıkışı", "percik"},
+      {"Özlük", "Personel Devir Bilgileri", "perdev"},
+      {"Özlük", "Personel Aylık Bilgileri", "kartxfrm", "", "Kartotex Raporu"},
+      {"Özlük", "Ücretler", "ucrfrm", "", "Ücretlendirme"},
+
+      {"Bordro", "Bordro Hazırlık", "brdhazir"},
+      {"Bordro", "Bordro Basımı", "brdbas"},
+      {"Bordro", "Özel Bordro Basımı", "ozelbrd"},
+      {"Bordro", "Ücret Pusulası", "brdzarf"},
+      {"Bordro", "Bordro Özeti", "brdozet"},
+      {"Bordro", "Asgari Geçim İndirimi Bordrosu", "agibrd"},
+      {"Bordro", "Ücretli İzinler Bordrosu", "ucrizin"},
+
+      {"Bildirgeler", "Aylık Bildirge (ek 9-4a)", "yaylik"},
+      {"Bildirgeler", "Eksik Gün Bildirim Formu EK-10", "ek10"},
+      {"Bildirgeler", "Aylık Bildirge", "aylik", "", "Aylık Bildirge Ek-1,Ek-2"},
+      {"Bildirgeler", "S.G.D.P. Bildirgesi", "sgdp"},
+      {"Bildirgeler", "Dört Aylık Bildirge", "dortaylik", "", "Dört Aylık Bordrosu"},
+      {"Bildirgeler", "İşçi Giriş Bildirim Listesi (Ek-1)", "ek1"},
+      {"Bildirgeler", "İşçi Çıkış Bildirim Listesi (Ek-2)", "ek2"},
+      {"Bildirgeler", "Dizi Pusulası", "dizipus"},
+      {"Bildirgeler", "İşten Ayrılma Bildirimi (İAB)", "iab"},
+      {"Bildirgeler", "İşgücü Çizelgesi", "isgucu"},
+
+      {"Viziteler", "Sigortalıya Ait Vizite", "vizite", "", "Sigortalı Vizite Kağıdı"},
+      {"Viziteler", "Eş ve Çocuklara Vizite", "esvizite", "", "Eş ve Çocuklar için Vizite"},
+      {"Viziteler", "Altı Aylık Sağlık Belgesi", "altiay", "", "Altı Aylık Vizite"},
+
+      {"Raporlar", "Özlük Bilgileri", "ozlukrap", "", "Özlük Raporu"},
+      {"Raporlar", "Bordro Raporlama", "bordrorap", "", "Bordro Raporu"},
+
+      {"Ek Moduller/Kıdem, İhbar Modülü", "Kıdem, İhbar Hesaplama", "kidihb"},
+      {"Ek Moduller/Kıdem, İhbar Modülü", "Kidem, İhbar İcmali", "kidicmal"},
+      {"Ek Moduller/Kıdem, İhbar Modülü", "Kıdem, İhbar Parametreleri", "kidpar"},
+      {"Ek Moduller/Kıdem, İhbar Modülü", "İhbar Süreleri Tablosu", "ihbsure"},
+      {"Ek Moduller/Personel Cari", "Avans Kaydı", "avans"},
+      {"Ek Moduller/Personel Cari", "Genel Borç Alacak", "borcalacak"},
+      {"Ek Moduller/Personel Cari", "Personel Cari", "percari"},
+      {"Ek Moduller/Personel Cari", "Otomatik Kesinti", "otokes"},
+      {"Ek Moduller/Banka Modülü", "Bankalar", "bankalar"},
+      {"Ek Moduller/Banka Modülü", "Banka Hesap Kodları", "bankahesap"},
+      {"Ek Moduller/Banka Modülü", "Banka Transfer İşlemleri", "bankatransfer"},
+      {"Ek Moduller/Banka Modülü", "Banka için Liste", "bankaliste"},
+      {"Ek Moduller/Banka Modülü", "Banka Dosyası Oluşturma", "bankadosya"},
+      {"Ek Moduller/P.D.K.S. Modülü", "PDKS'den Aktarımlar", "pdksaktar"},
+      {"Ek Moduller/P.D.K.S. Modülü", "PDKS Ayarları", "pdksayar"},
+
+      {"Entegrasyon", "Entegre İşlemi", "entyap", "", "Entegrasyon"},
+      {"Entegrasyon", "İşletmeye Entegre", "entisl", "", "İşletmeye Entegrasyon"},
+      {"Entegrasyon", "Entegrasyon Parametreleri", "entparfrm"},
+
+      {"Ek İşlemler", "Personel Kod Değişikliği", "perkod"},
+      {"Ek İşlemler", "Personel Kanun Değişikliği", "perkanun"},
+      {"Ek İşlemler", "Personel Transfer", "pertransfer"},
+      {"Ek İşlemler", "Devir İşlemleri", "devir"},
+      {"Ek İşlemler", "Yıllık Devir Bilgileri Kontrolu", "devkontrol"},
+      {"Ek İşlemler", "Kullanıcı İşlemleri", "kulfrm", "kullanici", "", Yap<kulfrm>},
+      {"Ek İşlemler", "Kontrol İşlemleri", "kontfrm", "kontrol", "Kontrol İşlemi"},
+      {"Ek İşlemler", "Database Update", "Dbupdate"},
+      {"Ek İşlemler", "Yapı Ayarları", "yapifrm"},
+      {"Ek İşlemler", "Personel Bul", "perbul"},
+
+      {"Parametreler", "Yasal Oranlar", "yyasor"},
+      {"Parametreler", "Gelir Vergisi Tablosu", "gvtablo"},
+      {"Parametreler", "Kazanç,Yardım Tanımları", "kykm", "", "Kazanç Yardım Tanımlama"},
+      {"Parametreler", "Kanun Tarihleri", "kanun"},
+      {"Parametreler", "İndirimler", "indfrm"},
+      {"Parametreler", "Yardım Tanımlama", "yrdisim"},
+      {"Parametreler", "Fazla Mesai Ayarları", "fazmes"},
+      {"Parametreler", "Sendika Bilgileri", "sendtan"},
+      {"Parametreler", "Hesap Türleri", "heskod"},
+      {"Parametreler", "A.G.İ. Parametresi", "agifrm"},
+      {"Parametreler", "Şablon Puantaj", "sabpu"},
+      {"Parametreler", "Muhasebeci Bilgileri", "muhbil"},
+
+      {"Yardım", "Kullanma Şekli", "yardim", "yardim", "", nullptr, MenuIslemi::Yardim},
+      {"Yardım", "Hakkında", "frmAbout", "bilgi", "", nullptr, MenuIslemi::Hakkinda},
+  };
+  return tablo;
+}
+
+}  // namespace
+
+std::span<const EkranKaydi> Ekranlar() {
+  return Tablo();
+}
+
+const EkranKaydi* KisayolEkrani(std::string_view program) {
+  const auto uyar = [&](const EkranKaydi& e) { return (e.kisayol.empty() ? e.baslik : e.kisayol) == program; };
+  const auto yer = std::ranges::find_if(Tablo(), uyar);
+  return yer == Tablo().end() ? nullptr : &*yer;
+}
+
+}  // namespace belvani

@@ -1,0 +1,42 @@
+// The registry of screens: one row for each entry of the main menu. The menu, the shortcuts of the desktop, the help
+// and the test that opens every screen all come from it. An entry whose screen is not built yet stands in the menu,
+// disabled.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <string_view>
+
+#include "payroll/hazirlik/parametredeposu.h"
+#include "ui/form.h"
+
+namespace belvani {
+
+// What every screen may be given.
+struct UygulamaBaglami {
+  EkranBaglami& ekran;
+  ParametreDeposu& parametreler;
+};
+
+// Entries that open no screen.
+enum class MenuIslemi { Yok, FirmaDegistir, Cikis, Yardim, Hakkinda, Gorunum };
+
+struct EkranKaydi {
+  std::string_view menu;    // "Ek Moduller/Banka Modülü": top entry, then submenu
+  std::string_view baslik;  // caption of the entry
+  std::string_view kelime;  // the screen's word; "mnu" before it names the entry. Also its page of the guide
+  std::string_view simge = {};
+  std::string_view kisayol = {};  // what the list of shortcut programs calls it, where that differs from the caption
+  std::function<std::unique_ptr<Form>(const UygulamaBaglami&)> yap = nullptr;
+  MenuIslemi islem = MenuIslemi::Yok;
+  FormModu mod = FormModu::Serbest;
+};
+
+// In the order of the menu.
+std::span<const EkranKaydi> Ekranlar();
+
+// The entry that a program of the shortcut list opens; null when no screen answers to it.
+const EkranKaydi* KisayolEkrani(std::string_view program);
+
+}  // namespace belvani

@@ -1,0 +1,40 @@
+// Message boxes titled "Belvani", and the box that shows how far a long work has come.
+#pragma once
+
+#include <QProgressDialog>
+
+#include "core/bildirim.h"
+#include "ui/ekran.h"
+
+namespace belvani {
+
+class BildirimKutusu final : public Bildirim {
+ public:
+  void Bilgi(std::string_view metin) override;
+  void Uyari(std::string_view metin) override;
+  bool Soru(std::string_view metin) override;
+};
+
+// Appears when the work takes longer than a blink; Esc or "Vazgeç" cancels.
+class IlerlemeKutusu final : public Ilerleme {
+ public:
+  IlerlemeKutusu(const QString& is, QWidget* ust);
+  bool Adim(std::size_t biten, std::size_t toplam) override;
+
+ private:
+  QProgressDialog kutu_;
+};
+
+// The platform's own dialogs.
+class SistemDialoglari final : public Dialoglar {
+ public:
+  std::optional<std::string> DosyaAc(const std::string& baslik, const std::string& dizin,
+                                     const std::string& filtre) override;
+  std::optional<std::string> DosyaKaydet(const std::string& baslik, const std::string& dizin,
+                                         const std::string& filtre) override;
+  std::optional<std::string> DizinSec(const std::string& baslik, const std::string& dizin) override;
+  std::optional<std::uint32_t> RenkSec(std::uint32_t renk) override;
+  std::optional<QFont> FontSec(const QFont& font) override;
+};
+
+}  // namespace belvani

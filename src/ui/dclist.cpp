@@ -1,0 +1,422 @@
+#include "ui/dclist.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPointer>
+
+#include "core/sayi.h"
+#include "ui/dclisthucre.h"
+#include "ui/metin.h"
+#include "ui/xtext.h"
+
+namespace belvani {
+namespace {
+
+struct KolonHarfi {
+  QChar harf;
+  dclistKolonu::Tip tip;
+  bool salt;
+};
+
+constexpr std::array<KolonHarfi, 8> KolonHarfleri{{
+    {u'a', dclistKolonu::Tip::Metin, false},
+    {u'n', dclistKolonu::Tip::Sayi, false},
+    {u't', dclistKolonu::Tip::Tarih, false},
+    {u's', dclistKolonu::Tip::Secim, false},
+    {u'm', dclistKolonu::Tip::Metin, true},
+    {u'b', dclistKolonu::Tip::Sayi, true},
+    {u'v', dclistKolonu::Tip::Metin, false},
+    {u'e', dclistKolonu::Tip::Metin, false},
+}};
+
+bool EnterMi(const QKeyEvent& olay) {
+  return olay.key() == Qt::Key_Return || olay.key() == Qt::Key_Enter;
+}
+
+}  // namespace
+
+dclist::dclist(Bildirim& bildirim, QWidget* ust)
+    : QTableView(ust), bildirim_(bildirim), model_(new dclistModel(this)) {
+  setModel(model_);
+  setItemDelegate(new dclistHucre(*this));
+  setAlternatingRowColors(true);
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(SingleSelection);
+  setEditTriggers(NoEditTriggers);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setShowGrid(false);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setSortIndicatorShown(false);
+  horizontalHeader()->setSectionsClickable(true);
+  connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int kolon) {
+    const bool ters = model_->SiraKolonu() == kolon &&
+                      horizontalHeader()->sortIndicatorOrder() == Qt::AscendingOrder;
+    const int satir = CurSat();
+    horizontalHeader()->setSortIndicatorShown(true);
+    horizontalHeader()->setSortIndicator(kolon, ters ? Qt::DescendingOrder : Qt::AscendingOrder);
+    model_->Sirala(kolon, horizontalHeader()->sortIndicatorOrder());
+    ChngSat(satir);
+  });
+}
+
+void dclist::CreateNewCaption(char tip, const QString& ad, const QString& baslik, int genislik, double enCok,
+                              int ondalik, int grup, HucreDenetimi denetim) {
+  const QChar kucuk = QChar::fromLatin1(tip).toLower();
+  const auto tanim = std::ranges::find_if(KolonHarfleri, [&](const KolonHarfi& k) { return k.harf == kucuk; });
+  if (tanim == KolonHarfleri.end()) return;
+  model_->KolonEkle({.tip = tanim->tip,
+                     .salt = tanim->salt,
+                     .gizli = false,
+                     .ad = ad,
+                     .baslik = baslik,
+                     .genislik = genislik,
+                     .enCok = enCok,
+                     .ondalik = ondalik,
+                     .grup = grup,
+                     .denetim = denetim,
+                     .secenekler = {}});
+  const int baslikEni = horizontalHeader()->fontMetrics().horizontalAdvance(baslik) + 20;
+  setColumnWidth(model_->columnCount() - 1, std::max(genislik * logicalDpiX() / 96, baslikEni));
+}
+
+void dclist::SecenekKoy(const QString& ad, const QStringList& secenekler) {
+  model_->KolonAyari(model_->KolonBul(ad)).secenekler = secenekler;
+}
+
+void dclist::Gizle(const QString& ad) {
+  const int kolon = model_->KolonBul(ad);
+  model_->KolonAyari(kolon).gizli = true;
+  setColumnHidden(kolon, true);
+}
+
+void dclist::GenisKolon(const QString& ad) {
+  horizontalHeader()->setSectionResizeMode(model_->KolonBul(ad), QHeaderView::Stretch);
+}
+
+void dclist::Reset() {
+  mod_ = Mod::Gezinme;
+  model_->KolonlariSil();
+}
+
+int dclist::Add() {
+  return model_->SatirEkle();
+}
+
+void dclist::Clear() {
+  mod_ = Mod::Gezinme;
+  model_->SatirlariSil();
+}
+
+QString dclist::Text(int satir, int kolon) const {
+  const bool var = satir >= 0 && satir < ListCount() && kolon >= 0 && kolon < model_->columnCount();
+  return var ? model_->Metin(satir, kolon) : QString();
+}
+
+QString dclist::TextByName(int satir, const QString& ad) const {
+  return Text(satir, model_->KolonBul(ad));
+}
+
+void dclist::TextByName(int satir, const QString& ad, const QString& metin) {
+  if (const int kolon = model_->KolonBul(ad); kolon >= 0) model_->MetinKoy(satir, kolon, metin);
+}
+
+QString dclist::CaptionByName(const QString& ad) const {
+  const int kolon = model_->KolonBul(ad);
+  return kolon < 0 ? QString() : model_->Kolonlar()[std::size_t(kolon)].baslik;
+}
+
+int dclist::FindByName(const QString& ad, const QString& metin, int ilk) {
+  const int kolon = model_->KolonBul(ad);
+  const QString aranan = TurkceKucuk(metin);
+  for (int satir = ilk; kolon >= 0 && satir < ListCount(); ++satir) {
+    if (TurkceKucuk(model_->Metin(satir, kolon)) != aranan) continue;
+    ChngSat(satir);
+    return satir;
+  }
+  return -1;
+}
+
+int dclist::CurSat() const {
+  return currentIndex().isValid() ? model_->GosterilenSatir(currentIndex().row()) : -1;
+}
+
+int dclist::CurrentCol() const {
+  return currentIndex().isValid() ? currentIndex().column() : -1;
+}
+
+void dclist::ChngSat(int satir) {
+  const int sira = satir < 0 || satir >= ListCount() ? -1 : model_->GosterilenSira(satir);
+  if (sira < 0) return;
+  int kolon = std::max(CurrentCol(), 0);
+  while (kolon + 1 < model_->columnCount() && isColumnHidden(kolon)) ++kolon;
+  setCurrentIndex(model_->index(sira, kolon));
+}
+
+bool dclist::MoveNext() {
+  const int sira = currentIndex().row() + 1;
+  if (sira >= model_->rowCount()) return false;
+  setCurrentIndex(model_->index(sira, std::max(CurrentCol(), 0)));
+  return true;
+}
+
+bool dclist::MovePre() {
+  const int sira = currentIndex().row() - 1;
+  if (sira < 0) return false;
+  setCurrentIndex(model_->index(sira, CurrentCol()));
+  return true;
+}
+
+void dclist::HucreyeGit(int satir, const QString& ad) {
+  const int sira = model_->GosterilenSira(satir);
+  if (sira >= 0) setCurrentIndex(model_->index(sira, model_->KolonBul(ad)));
+}
+
+void dclist::Editable(bool duzenlenir) {
+  duzenlenir_ = duzenlenir;
+  setSelectionBehavior(duzenlenir ? SelectItems : SelectRows);
+  setShowGrid(duzenlenir);
+  setEditTriggers(duzenlenir ? QAbstractItemView::EditTriggers(AnyKeyPressed | DoubleClicked) : NoEditTriggers);
+}
+
+void dclist::tazele(int satir) {
+  model_->Degisti(satir, false);
+  mod_ = Mod::Gezinme;
+  viewport()->update();
+}
+
+void dclist::Filtrele(const QString& aranan) {
+  if (!OkUpdateData()) return;
+  model_->Filtrele(aranan);
+  if (model_->rowCount() > 0) ChngSat(model_->GosterilenSatir(0));
+}
+
+QLineEdit* dclist::AramaKutusu(QWidget* ust) {
+  auto* kutu = new xtext(ust);
+  kutu->setPlaceholderText(QStringLiteral("Ara (Ctrl+F)"));
+  kutu->setClearButtonEnabled(true);
+  connect(kutu, &QLineEdit::textChanged, this, &dclist::Filtrele);
+  arama_ = kutu;
+  return kutu;
+}
+
+// A row that the owner has not taken yet is offered to him.
+bool dclist::OkUpdateData() {
+  const int satir = CurSat();
+  if (satir < 0 || bitiriliyor_) return true;
+  if (state() == EditingState) {
+    QWidget* duzenleyici = indexWidget(currentIndex());
+    if (duzenleyici != nullptr && !HucreBitir(duzenleyici)) return false;
+  }
+  if (!model_->DegistiMi(satir)) return true;
+  bitiriliyor_ = true;
+  const bool alindi = SatirGuncelle(satir);
+  bitiriliyor_ = false;
+  if (alindi && satir < ListCount()) tazele(satir);
+  return alindi;
+}
+
+QWidget* dclist::DuzenleyiciYap(QWidget* ust, int kolon) const {
+  const dclistKolonu& k = model_->Kolonlar()[std::size_t(kolon)];
+  if (k.tip == dclistKolonu::Tip::Secim && !k.secenekler.isEmpty()) {
+    auto* liste = new QComboBox(ust);
+    liste->addItems(k.secenekler);
+    return liste;
+  }
+  auto* yazi = new xtext(ust);
+  switch (k.tip) {
+    case dclistKolonu::Tip::Sayi:
+      yazi->xTextBicim(xtext::Tip::Sayi, k.enCok > 0 ? k.enCok : 9e13, Qt::AlignRight, true, k.ondalik, k.grup);
+      break;
+    case dclistKolonu::Tip::Tarih:
+      yazi->xTextBicim(xtext::Tip::Tarih, 0, Qt::AlignLeft, true);
+      break;
+    case dclistKolonu::Tip::Metin:
+    case dclistKolonu::Tip::Secim:
+      yazi->xTextBicim(xtext::Tip::Metin, k.enCok, Qt::AlignLeft, true);
+      break;
+  }
+  yazi->setFrame(false);
+  return yazi;
+}
+
+bool dclist::TarihKusurlu(const dclistKolonu& kolon, QString& metin) {
+  const bool gerek =
+      kolon.denetim == HucreDenetimi::TarihGerek || kolon.denetim == HucreDenetimi::TarihGerekTatilUyar;
+  if (metin.endsWith('.')) metin.chop(1);
+  // What is missing at the end comes from today: 12.03 typed in 2005 is 12.03.2005.
+  if (!metin.isEmpty() && metin.size() < 10) metin += Yazi(Tarih::Bugun().Metin()).mid(metin.size());
+  const Tarih tarih = Tarih::MetinOku(Utf8(metin));
+  if (tarih.Bos()) {
+    metin.clear();
+    if (gerek) bildirim_.Bilgi("Hatalı Tarih Girildi.\nDüzeltiniz.");
+    return gerek;
+  }
+  metin = Yazi(tarih.Metin());
+  const bool tatilUyar =
+      kolon.denetim == HucreDenetimi::TarihGerekTatilUyar || kolon.denetim == HucreDenetimi::TarihTatilUyar;
+  if (tatilUyar && (tarih.GunAdi() == "Cumartesi" || tarih.GunAdi() == "Pazar"))
+    bildirim_.Bilgi(tarih.UzunMetin() + "\nTatil gününe denk gelen tarih girdiniz.");
+  return false;
+}
+
+bool dclist::MetinKusurlu(const dclistKolonu& kolon, QString& metin) {
+  if (kolon.tip == dclistKolonu::Tip::Tarih) return TarihKusurlu(kolon, metin);
+  if (kolon.denetim == HucreDenetimi::MetinGerek && metin.trimmed().isEmpty()) {
+    bildirim_.Bilgi("En Az Bir Harf Girmelisiniz.");
+    return true;
+  }
+  if (kolon.denetim == HucreDenetimi::SayiGerek && kolon.tip == dclistKolonu::Tip::Sayi && !TutarOku(Utf8(metin))) {
+    bildirim_.Bilgi("Bir Sayi Girmelisiniz.");
+    return true;
+  }
+  return false;
+}
+
+bool dclist::HucreBitir(QWidget* duzenleyici) {
+  const int satir = CurSat();
+  const int kolon = CurrentCol();
+  const auto* liste = qobject_cast<QComboBox*>(duzenleyici);
+  const auto* yazi = qobject_cast<QLineEdit*>(duzenleyici);
+  QString metin = liste != nullptr ? liste->currentText() : yazi != nullptr ? yazi->text() : QString();
+  const dclistKolonu& tanim = model_->Kolonlar()[std::size_t(kolon)];
+  const QPointer<QWidget> duran(duzenleyici);
+  bitiriliyor_ = true;  // a message box takes the focus; that does not complete the row
+  const bool alinir = !MetinKusurlu(tanim, metin) && Dogrula(satir, tanim.ad, metin);
+  bitiriliyor_ = false;
+  if (!alinir) {
+    if (duran) duran->setFocus();
+    return false;
+  }
+  if (metin != model_->Metin(satir, kolon)) {
+    model_->MetinKoy(satir, kolon, metin);
+    model_->Degisti(satir, true);
+    if (mod_ == Mod::Gezinme) mod_ = Mod::Duzeltme;
+    HucreDegisti(satir, tanim.ad);
+  }
+  if (duran) {
+    closeEditor(duran, QAbstractItemDelegate::NoHint);
+    setFocus();
+  }
+  return true;
+}
+
+// Opens the next cell of the row that can be typed into; behind the last one the row is complete.
+void dclist::SonrakiHucre() {
+  const QModelIndex yer = currentIndex();
+  for (int kolon = yer.column() + 1; kolon < model_->columnCount(); ++kolon) {
+    const QModelIndex sonraki = yer.siblingAtColumn(kolon);
+    if (isColumnHidden(kolon) || !(sonraki.flags() & Qt::ItemIsEditable)) continue;
+    setCurrentIndex(sonraki);
+    edit(sonraki);
+    return;
+  }
+  if (!OkUpdateData()) return;
+  mod_ = Mod::Gezinme;
+  MoveNext();
+  const QModelIndex ilk = currentIndex().siblingAtColumn(0);
+  for (int kolon = 0; kolon < model_->columnCount(); ++kolon) {
+    const QModelIndex hucre = ilk.siblingAtColumn(kolon);
+    if (isColumnHidden(kolon) || !(hucre.flags() & Qt::ItemIsEditable)) continue;
+    setCurrentIndex(hucre);
+    return;
+  }
+}
+
+void dclist::DuzenlemeyeBasla() {
+  if (!currentIndex().isValid()) return YeniSatirAc();
+  if (currentIndex().flags() & Qt::ItemIsEditable)
+    edit(currentIndex());
+  else
+    SonrakiHucre();
+}
+
+void dclist::YeniSatirAc() {
+  if (!duzenlenir_ || !yeniSatirli_ || !OkUpdateData()) return;
+  const int satir = Add();
+  YeniSatir(satir);
+  mod_ = Mod::Ekleme;
+  setCurrentIndex(model_->index(model_->GosterilenSira(satir), 0));
+  const bool gizli = isColumnHidden(0) || !(currentIndex().flags() & Qt::ItemIsEditable);
+  gizli ? SonrakiHucre() : static_cast<void>(edit(currentIndex()));
+}
+
+void dclist::SimdikiSatiriSil() {
+  const int satir = CurSat();
+  if (satir < 0) return;
+  bitiriliyor_ = true;
+  const bool silindi = SatirSil(satir);
+  bitiriliyor_ = false;
+  if (silindi && satir < ListCount()) model_->SatirSil(satir);
+  mod_ = Mod::Gezinme;
+}
+
+void dclist::Kopyala() const {
+  QString metin;
+  for (int kolon = 0; kolon < model_->columnCount(); ++kolon) {
+    if (isColumnHidden(kolon)) continue;
+    if (!metin.isEmpty()) metin += '\t';
+    metin += Text(CurSat(), kolon);
+  }
+  QApplication::clipboard()->setText(metin);
+}
+
+void dclist::keyPressEvent(QKeyEvent* olay) {
+  if (Tus(*olay)) return;
+  if (olay->matches(QKeySequence::Copy)) return Kopyala();
+  if (olay->matches(QKeySequence::Find) && arama_ != nullptr) return arama_->setFocus(Qt::ShortcutFocusReason);
+  if (olay->key() == Qt::Key_Escape && !OkUpdateData()) {
+    model_->Degisti(CurSat(), false);  // refused and told: the next Esc leaves
+    return;
+  }
+  if (EnterMi(*olay)) {
+    if (duzenlenir_) return DuzenlemeyeBasla();
+    if (CurSat() >= 0) Secildi(CurSat());
+    return;
+  }
+  if (duzenlenir_ && olay->key() == Qt::Key_Insert) return YeniSatirAc();
+  if (duzenlenir_ && olay->key() == Qt::Key_Delete) return SimdikiSatiriSil();
+  if (duzenlenir_ && olay->key() == Qt::Key_Down && currentIndex().row() == model_->rowCount() - 1 && yeniSatirli_)
+    return YeniSatirAc();
+  if (olay->key() == Qt::Key_Escape || (olay->key() >= Qt::Key_F1 && olay->key() <= Qt::Key_F12)) {
+    olay->ignore();  // to the screen
+    return;
+  }
+  QTableView::keyPressEvent(olay);
+}
+
+void dclist::mouseDoubleClickEvent(QMouseEvent* olay) {
+  QTableView::mouseDoubleClickEvent(olay);
+  if (!duzenlenir_ && CurSat() >= 0) Secildi(CurSat());
+}
+
+void dclist::focusOutEvent(QFocusEvent* olay) {
+  QTableView::focusOutEvent(olay);
+  const QWidget* yeni = QApplication::focusWidget();
+  const bool iceride = yeni != nullptr && isAncestorOf(yeni);
+  if (!iceride && state() != EditingState && olay->reason() != Qt::PopupFocusReason) OkUpdateData();
+}
+
+void dclist::currentChanged(const QModelIndex& simdiki, const QModelIndex& onceki) {
+  const bool baskaSatir = simdiki.row() != onceki.row();
+  if (baskaSatir && onceki.isValid() && onceki.row() < model_->rowCount() && !bitiriliyor_) {
+    const int satir = model_->GosterilenSatir(onceki.row());
+    if (model_->DegistiMi(satir)) {
+      bitiriliyor_ = true;
+      if (SatirGuncelle(satir) && satir < ListCount()) tazele(satir);
+      bitiriliyor_ = false;
+    }
+    mod_ = Mod::Gezinme;
+  }
+  QTableView::currentChanged(simdiki, onceki);
+  if (baskaSatir && simdiki.isValid()) SatirSecildi(model_->GosterilenSatir(simdiki.row()));
+}
+
+}  // namespace belvani

@@ -1,0 +1,23 @@
+#include "ui/ekran.h"
+
+#include <QDialog>
+#include <QVBoxLayout>
+
+#include "ui/form.h"
+
+namespace belvani {
+
+void FormGoster(EkranBaglami& baglam, std::unique_ptr<Form> form, FormModu mod) {
+  if (mod == FormModu::Serbest) return baglam.gosterici.SerbestGoster(std::move(form));
+  QDialog kutu(baglam.gosterici.ModalUst());
+  kutu.setWindowTitle(form->windowTitle());
+  auto* duzen = new QVBoxLayout(&kutu);
+  duzen->setContentsMargins(0, 0, 0, 0);
+  duzen->setSizeConstraint(QLayout::SetMinimumSize);
+  duzen->addWidget(form.get());
+  kutu.exec();
+  duzen->removeWidget(form.get());
+  form->setParent(nullptr);
+}
+
+}  // namespace belvani

@@ -1,0 +1,121 @@
+// Form: what all screens share.
+//
+//   Esc closes · F5 saves · F7 deletes · F2 lookup · Ctrl+Home, Ctrl+End, Page Up, Page Down move through records
+//   Enter goes to the next field
+//
+// A screen declares its fields as rows (ui/alan.h) and its commands; layout, tab order, keys, loading and reading
+// follow. It holds no rules: those are functions that it calls.
+#pragma once
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QWidget>
+#include <map>
+
+#include "ui/alandenetimi.h"
+#include "ui/ekran.h"
+#include "ui/xbutton.h"
+
+namespace belvani {
+
+enum class FormKomutu { Kaydet, Sil, Rehber, Ilk, Onceki, Sonraki, Son, Kapat };
+
+class Form : public QWidget {
+  Q_OBJECT
+ public:
+  // `kelime`: the screen's word ("perkart"), its name for menus, settings, help and tests.
+  Form(EkranBaglami& baglam, const QString& kelime, const QString& baslik);
+
+  QString Kelime() const { return objectName(); }
+  void Kapat();
+
+  // Editors in the order of their rows.
+  const std::vector<std::unique_ptr<AlanDenetimi>>& Denetimler() const { return denetimler_; }
+  AlanDenetimi& Denetim(std::string_view ad) const;
+  xtext& YaziKutusu(std::string_view ad) const;
+
+ Q_SIGNALS:
+  void Kapandi();
+
+ protected:
+  EkranBaglami& Baglam() const { return baglam_; }
+  Oturum& Oturumu() const { return baglam_.oturum; }
+  Bildirim& Bildirimi() const { return baglam_.bildirim; }
+
+  // The body, from top to bottom; the row of commands follows it.
+  QVBoxLayout* Govde() { return govde_; }
+
+  // Fields under their headings, the groups of each inner list one below the other, the lists side by side.
+  void AlanlariDiz(std::vector<std::vector<AlanGrubu>> sutunlar);
+  // The same for one group, for screens that lay themselves out.
+  QWidget* GrupYap(const AlanGrubu& grup);
+
+  // A command with its key; a text gives it a button in the bottom row.
+  void Komut(FormKomutu komut, std::function<void()> islev, const QString& dugme = {});
+  // A button of the bottom row with no key of its own. `simge` names its picture.
+  xButton* DugmeEkle(const QString& metin, const QString& simge, std::function<void()> islev);
+  // Keys of a widget that is not a declared field.
+  void Izle(QWidget* parca);
+  // A key besides those of the commands.
+  void TusBagla(const QKeySequence& tus, const QString& aciklama, std::function<void()> islev);
+
+  // Called with the trimmed key when the key field is left with a text that differs from the last one handled.
+  void AnahtarBagla(std::string_view ad, std::function<void(const std::string&)> bulunacak);
+  void AnahtarKoy(const std::string& anahtar);  // counts as handled
+  std::string SonAnahtar() const { return sonAnahtar_; }
+  // Puts a code into the key field and looks it up, as if typed.
+  void AnahtarAra(const std::string& anahtar);
+
+  template <class Kayit>
+  void Yukle(const Kayit& kayit) {
+    for (const auto& d : denetimler_)
+      if (d->Satir().kayitTuru == typeid(Kayit)) d->Koy(d->Satir().oku(&kayit));
+  }
+
+  // All fields of this record, or none: the first one that cannot be stored is told and takes the focus.
+  template <class Kayit>
+  bool Oku(Kayit& kayit) {
+    if (!AlanlarSaglam(typeid(Kayit))) return false;
+    for (const auto& d : denetimler_)
+      if (d->Satir().kayitTuru == typeid(Kayit) && !d->Satir().ek.kapali) d->Satir().yaz(&kayit, d->Oku());
+    return true;
+  }
+  bool AlanlarSaglam(std::type_index kayitTuru);
+  void Temizle();
+  void IlkAlanaGit();
+  void OdakVer(std::string_view ad);
+  // Any field was changed by the user.
+  std::function<void(AlanDenetimi&)> AlanDegisti = [](AlanDenetimi&) {};
+
+  // The opening flourish after a save: the changed screen blinks its edge once. It carries no logic.
+  void ZoomEfekt();
+
+  void showEvent(QShowEvent* olay) override;
+  void keyPressEvent(QKeyEvent* olay) override;
+  bool eventFilter(QObject* nesne, QEvent* olay) override;
+
+ private:
+  struct TusIslevi {
+    QKeySequence tus;
+    QString aciklama;
+    std::function<void()> islev;
+  };
+
+  bool TusuIsle(const QKeyEvent& olay);
+  void DenetimEkle(const belvani::Alan& alan, QWidget* ust);
+  void KomutSatiriYap();
+  void AnahtarDenetle();
+  void IpucuYaz();
+
+  EkranBaglami& baglam_;
+  QVBoxLayout* govde_ = nullptr;
+  QHBoxLayout* komutSatiri_ = nullptr;
+  QLabel* ipucu_ = nullptr;
+  std::vector<std::unique_ptr<AlanDenetimi>> denetimler_;
+  std::vector<TusIslevi> tuslar_;
+  std::string anahtarAdi_, sonAnahtar_;
+  std::function<void(const std::string&)> anahtarBul_;
+  bool acildi_ = false;
+};
+
+}  // namespace belvani

@@ -1,0 +1,6 @@
+// Compiled once for all screens.
+#pragma once
+
+#include <QtWidgets/QtWidgets>
+
+#include "core/pch.h"

@@ -1,0 +1,15 @@
+// The program's own pictures, drawn as SVG (data/simgeler/) and recoloured to the text colour of the look in force.
+#pragma once
+
+#include <QIcon>
+#include <QString>
+
+namespace belvani {
+
+// "kaydet", "sil", "ara", "yazici" …; an unknown name gives an empty icon.
+QIcon Simge(const QString& ad);
+
+// The colour in which pictures are drawn from now on.
+void SimgeRengi(const QColor& renk);
+
+}  // namespace belvani

@@ -1,0 +1,146 @@
+// A session on a fresh company, for tests that open screens and type into them key by key.
+//
+//   EkranOrtami ortam;
+//   auto& kart = ortam.Ac<perkart>(ortam.parametreler);
+//   ortam.Yaz("001\nIşıl\nÇağlar\n");           // Enter goes from field to field
+//   ortam.Bas(Qt::Key_F5);
+#pragma once
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+#include <vector>
+
+#include "bildirim.h"
+#include "gecici.h"
+#include "payroll/hazirlik/parametredeposu.h"
+#include "payroll/parametre/mevzuat.h"
+#include "ui/form.h"
+#include "ui/metin.h"
+
+namespace belvani::test {
+
+// What the file, folder, colour and font dialogs answer: what the test has put here.
+struct BetikDialoglari final : Dialoglar {
+  std::optional<std::string> dosya, dizin;
+  std::optional<std::uint32_t> renk;
+  std::optional<QFont> font;
+
+  std::optional<std::string> DosyaAc(const std::string&, const std::string&, const std::string&) override {
+    return dosya;
+  }
+  std::optional<std::string> DosyaKaydet(const std::string&, const std::string&, const std::string&) override {
+    return dosya;
+  }
+  std::optional<std::string> DizinSec(const std::string&, const std::string&) override { return dizin; }
+  std::optional<std::uint32_t> RenkSec(std::uint32_t) override { return renk; }
+  std::optional<QFont> FontSec(const QFont&) override { return font; }
+};
+
+// Screens as bare windows, kept until the test ends.
+struct PencereGosterici final : FormGosterici {
+  std::vector<std::unique_ptr<Form>> formlar;
+  int baslikDegisimi = 0;
+
+  void SerbestGoster(std::unique_ptr<Form> form) override {
+    form->show();
+    form->activateWindow();
+    QApplication::setActiveWindow(form.get());
+    formlar.push_back(std::move(form));
+    QCoreApplication::processEvents();
+  }
+  QWidget* ModalUst() override { return nullptr; }
+  void BaslikDegisti() override { ++baslikDegisimi; }
+};
+
+inline void TusGonder(QWidget* hedef, int tus, Qt::KeyboardModifiers degistirici, const QString& metin) {
+  for (const QEvent::Type tur : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent olay(tur, tus, degistirici, metin);
+    QCoreApplication::sendEvent(hedef, &olay);
+    hedef = QApplication::focusWidget();
+    if (hedef == nullptr) return;
+  }
+}
+
+class EkranOrtami {
+ public:
+  // The company TEST with the user "ayse", password "gizli", the law of July 2009, working month July 2009.
+  EkranOrtami() {
+    oturum.PrgPath = dizin.Yol() + "prg/";
+    oturum.DataPath = dizin.Yol() + "veri/";
+    oturum.BilgisayarAdi = "MASA1";
+    std::filesystem::create_directories(oturum.PrgPath);
+    std::filesystem::create_directories(oturum.DataPath);
+    const auto yasal = MevzuatYukle(KaynakYolu("data/mevzuat/"), 2009, 7);
+    EXPECT_TRUE(yasal);
+    EXPECT_TRUE(YasalOranlarKaydet(oturum.DataPath, yasal->oranlar));
+    EXPECT_TRUE(GvTablosuKaydet(oturum.DataPath, yasal->gv));
+    EXPECT_TRUE(AgiTablosuKaydet(oturum.DataPath, yasal->agi));
+    EXPECT_TRUE(SirketOlustur(oturum, "TEST", "ayse", "gizli", bildirim));
+    EXPECT_TRUE(OturumAc(oturum, "TEST", "ayse", "gizli", bildirim));
+    oturum.depo.firma.IlkKayit();
+    oturum.depo.firma.KayitDuzelt();
+    oturum.depo.firma.AlanYaz("firmayil", std::int64_t(2009));
+    oturum.depo.firma.AlanYaz("firmaay", std::int64_t(7));
+    EXPECT_TRUE(oturum.depo.firma.KayitYaz());
+    FirmaYukle(oturum);
+    parametreler.YasalYukle(oturum.DataPath);
+    EXPECT_TRUE(parametreler.FirmaYukle(oturum));
+    bildirim.Al();
+  }
+  ~EkranOrtami() { gosterici.formlar.clear(); }
+
+  // Opens a screen and gives it the keyboard.
+  template <class Ekran, class... Arg>
+  Ekran& Ac(Arg&&... arg) {
+    gosterici.SerbestGoster(std::make_unique<Ekran>(ekran, std::forward<Arg>(arg)...));
+    return static_cast<Ekran&>(*gosterici.formlar.back());
+  }
+
+  // Types into whatever has the focus; "\n" is Enter.
+  static void Yaz(const char* metin) {
+    for (const QChar harf : QString::fromUtf8(metin)) {
+      QWidget* odak = QApplication::focusWidget();
+      ASSERT_NE(odak, nullptr) << "the focus is lost before '" << QString(harf).toStdString() << "'";
+      if (harf == '\n')
+        TusGonder(odak, Qt::Key_Return, Qt::NoModifier, "\r");
+      else
+        TusGonder(odak, harf.toUpper().unicode(), Qt::NoModifier, QString(harf));
+    }
+  }
+  static void Bas(Qt::Key tus, Qt::KeyboardModifiers degistirici = Qt::NoModifier) {
+    QWidget* odak = QApplication::focusWidget();
+    ASSERT_NE(odak, nullptr) << "the focus is lost";
+    TusGonder(odak, tus, degistirici, {});
+  }
+  // Name of the field that has the focus.
+  static std::string Odak() {
+    const QWidget* odak = QApplication::focusWidget();
+    return odak == nullptr ? "" : odak->objectName().toStdString();
+  }
+  // Runs `is` inside the next modal window that opens.
+  static void ModaldaYap(std::function<void()> is) {
+    QTimer::singleShot(0, qApp, [is = std::move(is)] {
+      ASSERT_NE(QApplication::activeModalWidget(), nullptr) << "no modal window came up";
+      QApplication::setActiveWindow(QApplication::activeModalWidget());
+      is();
+    });
+  }
+
+  GeciciDizin dizin;
+  ToplayanBildirim bildirim;
+  Oturum oturum;
+  ParametreDeposu parametreler;
+  BetikDialoglari dialoglar;
+  PencereGosterici gosterici;
+  EkranBaglami ekran{oturum, bildirim, dialoglar, gosterici};
+};
+
+// The text of a field of a screen.
+inline std::string AlanMetni(const Form& form, std::string_view ad) {
+  return Utf8(form.YaziKutusu(ad).text());
+}
+
+}  // namespace belvani::test
