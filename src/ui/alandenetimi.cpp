@@ -97,7 +97,7 @@ class YaziDenetimi final : public AlanDenetimi {
   Deger Oku() const override {
     const Deger deger = yazi_->Value();
     if (yazi_->TextTip() != xtext::Tip::Sayi || alan_.tanim.tip == AlanTipi::Tutar) return deger;
-    if (alan_.tanim.tip == AlanTipi::Tek) return TutarDegeri(deger).Sayi();
+    if (alan_.tanim.tip == AlanTipi::Tek) return SayiDegeri(deger);
     return std::int64_t(TutarDegeri(deger).Sayi());
   }
   void Temizle() override { yazi_->xReset(); }

@@ -13,7 +13,7 @@ namespace belvani {
 namespace {
 
 constexpr int GostermeGecikmesi = 400;  // ms
-constexpr int AdimAraligi = 64;
+constexpr int AdimAraligi = 40;        // ms between two looks at the box
 
 int Goster(QMessageBox::Icon simge, std::string_view metin, QMessageBox::StandardButtons dugmeler) {
   QMessageBox kutu(simge, QStringLiteral("Belvani"), Yazi(metin), dugmeler, QApplication::activeWindow());
@@ -60,7 +60,8 @@ IlerlemeKutusu::IlerlemeKutusu(const QString& is, QWidget* ust) : kutu_(is, QStr
 }
 
 bool IlerlemeKutusu::Adim(std::size_t biten, std::size_t toplam) {
-  if (biten % AdimAraligi != 0 && biten != toplam) return true;
+  if (biten != toplam && gecen_.isValid() && gecen_.elapsed() < AdimAraligi) return true;
+  gecen_.start();
   kutu_.setMaximum(int(toplam));
   kutu_.setValue(int(biten));
   QApplication::processEvents();

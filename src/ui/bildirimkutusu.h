@@ -1,6 +1,7 @@
 // Message boxes titled "Belvani", and the box that shows how far a long work has come.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QProgressDialog>
 
 #include "core/bildirim.h"
@@ -23,6 +24,7 @@ class IlerlemeKutusu final : public Ilerleme {
 
  private:
   QProgressDialog kutu_;
+  QElapsedTimer gecen_;
 };
 
 // The platform's own dialogs.

@@ -52,10 +52,12 @@ dclist::dclist(Bildirim& bildirim, QWidget* ust)
   setShowGrid(false);
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setSortIndicatorShown(false);
   horizontalHeader()->setSectionsClickable(true);
+  ensurePolished();
+  horizontalHeader()->ensurePolished();
+  YaziyaUydur();
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int kolon) {
     const bool ters = model_->SiraKolonu() == kolon &&
                       horizontalHeader()->sortIndicatorOrder() == Qt::AscendingOrder;
@@ -65,6 +67,35 @@ dclist::dclist(Bildirim& bildirim, QWidget* ust)
     model_->Sirala(kolon, horizontalHeader()->sortIndicatorOrder());
     ChngSat(satir);
   });
+}
+
+// Rows as high and columns as wide as the fonts of the list need.
+void dclist::YaziyaUydur() {
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
+  const QFontMetrics baslik = horizontalHeader()->fontMetrics();
+  for (int kolon = 0; kolon < model_->columnCount(); ++kolon) {
+    const int en = baslik.horizontalAdvance(model_->Kolonlar()[std::size_t(kolon)].baslik) + 20;
+    if (!isColumnHidden(kolon) && columnWidth(kolon) < en) setColumnWidth(kolon, en);
+  }
+}
+
+void dclist::changeEvent(QEvent* olay) {
+  QTableView::changeEvent(olay);
+  if (olay->type() == QEvent::FontChange || olay->type() == QEvent::StyleChange) YaziyaUydur();
+}
+
+// A cell that is open while the window goes takes no leave of the list.
+dclist::~dclist() {
+  delete itemDelegate();
+}
+
+void dclist::SahibiGitti() {
+  SatirGuncelle = [](int) { return true; };
+  SatirSil = [](int) { return false; };
+  Dogrula = [](int, const QString&, QString&) { return true; };
+  YeniSatir = SatirSecildi = Secildi = [](int) {};
+  HucreDegisti = [](int, const QString&) {};
+  Tus = [](const QKeyEvent&) { return false; };
 }
 
 void dclist::CreateNewCaption(char tip, const QString& ad, const QString& baslik, int genislik, double enCok,
@@ -372,6 +403,11 @@ void dclist::keyPressEvent(QKeyEvent* olay) {
   if (Tus(*olay)) return;
   if (olay->matches(QKeySequence::Copy)) return Kopyala();
   if (olay->matches(QKeySequence::Find) && arama_ != nullptr) return arama_->setFocus(Qt::ShortcutFocusReason);
+  if (olay->key() == Qt::Key_Escape && mod_ == Mod::Ekleme && !model_->DegistiMi(CurSat())) {
+    model_->SatirSil(CurSat());  // a fresh row into which nothing was typed
+    mod_ = Mod::Gezinme;
+    return;
+  }
   if (olay->key() == Qt::Key_Escape && !OkUpdateData()) {
     model_->Degisti(CurSat(), false);  // refused and told: the next Esc leaves
     return;

@@ -26,6 +26,7 @@ class dclist : public QTableView {
   enum class Mod { Gezinme = 0, Duzeltme = 1, Ekleme = 2 };
 
   dclist(Bildirim& bildirim, QWidget* ust = nullptr);
+  ~dclist() override;
 
   // Kinds: a text, n number, t date, s fixed choice, m text and b number that the owner fills, v and e text; capitals
   // alike. Any other letter adds no column.
@@ -79,6 +80,9 @@ class dclist : public QTableView {
   std::function<void(int)> Secildi = [](int) {};             // Enter or double click on a row of a list to read
   std::function<bool(const QKeyEvent&)> Tus = [](const QKeyEvent&) { return false; };  // true: eaten
 
+  // The owner is being destroyed: nothing is asked of him any more.
+  void SahibiGitti();
+
   // For the cell editor.
   bool HucreBitir(QWidget* duzenleyici);
   bool Bitiriliyor() const { return bitiriliyor_; }
@@ -90,8 +94,10 @@ class dclist : public QTableView {
   void focusOutEvent(QFocusEvent* olay) override;
   void currentChanged(const QModelIndex& simdiki, const QModelIndex& onceki) override;
   void mouseDoubleClickEvent(QMouseEvent* olay) override;
+  void changeEvent(QEvent* olay) override;
 
  private:
+  void YaziyaUydur();
   bool MetinKusurlu(const dclistKolonu& kolon, QString& metin);
   bool TarihKusurlu(const dclistKolonu& kolon, QString& metin);
   void YeniSatirAc();

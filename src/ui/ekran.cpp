@@ -1,6 +1,8 @@
 #include "ui/ekran.h"
 
+#include <QApplication>
 #include <QDialog>
+#include <QPointer>
 #include <QVBoxLayout>
 
 #include "ui/form.h"
@@ -15,9 +17,13 @@ void FormGoster(EkranBaglami& baglam, std::unique_ptr<Form> form, FormModu mod) 
   duzen->setContentsMargins(0, 0, 0, 0);
   duzen->setSizeConstraint(QLayout::SetMinimumSize);
   duzen->addWidget(form.get());
+  const QPointer<QWidget> onceki = QApplication::focusWidget();
   kutu.exec();
   duzen->removeWidget(form.get());
   form->setParent(nullptr);
+  if (!onceki) return;
+  onceki->activateWindow();
+  onceki->setFocus();
 }
 
 }  // namespace belvani

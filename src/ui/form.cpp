@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "core/turkce.h"
+#include "ui/dclist.h"
 #include "ui/metin.h"
 #include "ui/simge.h"
 
@@ -62,6 +63,13 @@ Form::Form(EkranBaglami& baglam, const QString& kelime, const QString& baslik) :
   TusBagla(Tanim(FormKomutu::Kapat).tus, Tanim(FormKomutu::Kapat).aciklama, [this] { Kapat(); });
 }
 
+// The key field may lose the focus on its way out; nobody is there to look the key up any more.
+Form::~Form() {
+  for (const auto& d : denetimler_)
+    if (xtext* yazi = d->YaziKutusu()) yazi->disconnect(this);
+  for (dclist* liste : findChildren<dclist*>()) liste->SahibiGitti();
+}
+
 void Form::KomutSatiriYap() {
   komutSatiri_ = new QHBoxLayout;
   komutSatiri_->setSpacing(8);
@@ -94,21 +102,22 @@ xtext& Form::YaziKutusu(std::string_view ad) const {
   return *Denetim(ad).YaziKutusu();
 }
 
-void Form::DenetimEkle(const belvani::Alan& alan, QWidget* ust) {
+AlanDenetimi& Form::DenetimEkle(const belvani::Alan& alan, QWidget* ust) {
   auto& denetim = *denetimler_.emplace_back(DenetimYap(alan, ust, baglam_.oturum.paraonda));
   denetim.Degisti = [this, &denetim] { AlanDegisti(denetim); };
   for (QWidget* odak : denetim.Odaklar()) Izle(odak);
+  return denetim;
 }
 
 QWidget* Form::GrupYap(const AlanGrubu& grup) {
   auto* kutu = new QGroupBox(Yazi(grup.baslik), this);
   auto* izgara = new QGridLayout(kutu);
   izgara->setHorizontalSpacing(10);
-  izgara->setVerticalSpacing(6);
+  izgara->setVerticalSpacing(satirAraligi_);
+  if (satirAraligi_ < 6) izgara->setContentsMargins(4, 0, 4, 0);
   int sira = 0;
   for (const belvani::Alan& alan : grup.alanlar) {
-    DenetimEkle(alan, kutu);
-    AlanDenetimi& denetim = *denetimler_.back();
+    AlanDenetimi& denetim = DenetimEkle(alan, kutu);
     const int satir = sira / grup.sutun;
     const int sutun = (sira % grup.sutun) * 3;
     ++sira;
@@ -117,7 +126,7 @@ QWidget* Form::GrupYap(const AlanGrubu& grup) {
       etiket->setBuddy(denetim.Odak());
       izgara->addWidget(etiket, satir, sutun, Qt::AlignLeft | Qt::AlignVCenter);
     }
-    if (denetim.KendiBasligi() && alan.etiket.size() > 24)
+    if (denetim.KendiBasligi())
       izgara->addWidget(denetim.Parca(), satir, sutun, 1, 2, Qt::AlignLeft | Qt::AlignVCenter);
     else
       izgara->addWidget(denetim.Parca(), satir, sutun + 1, Qt::AlignLeft | Qt::AlignVCenter);
@@ -175,7 +184,9 @@ void Form::IpucuYaz() {
     const bool dugmeli = t.tus == Tanim(FormKomutu::Ilk).tus || t.tus == Tanim(FormKomutu::Son).tus ||
                          t.tus == Tanim(FormKomutu::Onceki).tus || t.tus == Tanim(FormKomutu::Sonraki).tus;
     if (dugmeli || t.aciklama.isEmpty()) continue;
-    parcalar += "<b>" + t.tus.toString(QKeySequence::PortableText) + "</b>&nbsp;" + t.aciklama.toHtmlEscaped();
+    const QString ad = t.tus == QKeySequence(Qt::Key_Return) ? QStringLiteral("Enter")
+                                                              : t.tus.toString(QKeySequence::PortableText);
+    parcalar += "<b>" + ad + "</b>&nbsp;" + t.aciklama.toHtmlEscaped();
   }
   std::rotate(parcalar.begin(), parcalar.begin() + 1, parcalar.end());  // "Esc" last
   ipucu_->setText(parcalar.join("&nbsp;&nbsp; "));
@@ -269,6 +280,11 @@ void Form::IlkAlanaGit() {
   }
 }
 
+// What was loaded into the field with the keyboard is typed over by the next key.
+void Form::SecimiYenile() {
+  if (auto* yazi = qobject_cast<xtext*>(focusWidget())) yazi->selectAll();
+}
+
 void Form::OdakVer(std::string_view ad) {
   Denetim(ad).Odak()->setFocus(Qt::TabFocusReason);
 }
@@ -276,13 +292,12 @@ void Form::OdakVer(std::string_view ad) {
 void Form::showEvent(QShowEvent* olay) {
   QWidget::showEvent(olay);
   if (std::exchange(acildi_, true)) return;
-  if (focusWidget() == nullptr) IlkAlanaGit();
+  if (ilkOdak_ != nullptr) return ilkOdak_->setFocus(Qt::TabFocusReason);
+  if (focusWidget() == nullptr || focusWidget() == this) IlkAlanaGit();
 }
 
-void Form::ZoomEfekt() {
-  ipucu_->setProperty("kaydedildi", true);
-  const QString eski = ipucu_->text();
-  ipucu_->setText(QStringLiteral("✓ Kaydedildi"));
+void Form::ZoomEfekt(const QString& olan) {
+  ipucu_->setText(QStringLiteral("✓ ") + olan);
   QTimer::singleShot(1500, this, [this] { IpucuYaz(); });
 }
 

@@ -25,6 +25,7 @@ class Form : public QWidget {
  public:
   // `kelime`: the screen's word ("perkart"), its name for menus, settings, help and tests.
   Form(EkranBaglami& baglam, const QString& kelime, const QString& baslik);
+  ~Form() override;
 
   QString Kelime() const { return objectName(); }
   void Kapat();
@@ -49,6 +50,11 @@ class Form : public QWidget {
   void AlanlariDiz(std::vector<std::vector<AlanGrubu>> sutunlar);
   // The same for one group, for screens that lay themselves out.
   QWidget* GrupYap(const AlanGrubu& grup);
+  // One editor alone, to be placed by the screen.
+  AlanDenetimi& DenetimEkle(const belvani::Alan& alan, QWidget* ust);
+
+  // Rows of the groups made from now on stand closer together; for screens with very many of them.
+  void SikDiz() { satirAraligi_ = 2; }
 
   // A command with its key; a text gives it a button in the bottom row.
   void Komut(FormKomutu komut, std::function<void()> islev, const QString& dugme = {});
@@ -70,6 +76,7 @@ class Form : public QWidget {
   void Yukle(const Kayit& kayit) {
     for (const auto& d : denetimler_)
       if (d->Satir().kayitTuru == typeid(Kayit)) d->Koy(d->Satir().oku(&kayit));
+    SecimiYenile();
   }
 
   // All fields of this record, or none: the first one that cannot be stored is told and takes the focus.
@@ -84,11 +91,13 @@ class Form : public QWidget {
   void Temizle();
   void IlkAlanaGit();
   void OdakVer(std::string_view ad);
+  // Where the keyboard begins, when that is not the first field. Focus given before the screen is shown is lost.
+  void IlkOdak(QWidget* parca) { ilkOdak_ = parca; }
   // Any field was changed by the user.
   std::function<void(AlanDenetimi&)> AlanDegisti = [](AlanDenetimi&) {};
 
-  // The opening flourish after a save: the changed screen blinks its edge once. It carries no logic.
-  void ZoomEfekt();
+  // The flourish after a save or deletion: the line of hints says so for a moment. It carries no logic.
+  void ZoomEfekt(const QString& olan = QStringLiteral("Kaydedildi"));
 
   void showEvent(QShowEvent* olay) override;
   void keyPressEvent(QKeyEvent* olay) override;
@@ -102,9 +111,9 @@ class Form : public QWidget {
   };
 
   bool TusuIsle(const QKeyEvent& olay);
-  void DenetimEkle(const belvani::Alan& alan, QWidget* ust);
   void KomutSatiriYap();
   void AnahtarDenetle();
+  void SecimiYenile();
   void IpucuYaz();
 
   EkranBaglami& baglam_;
@@ -115,6 +124,8 @@ class Form : public QWidget {
   std::vector<TusIslevi> tuslar_;
   std::string anahtarAdi_, sonAnahtar_;
   std::function<void(const std::string&)> anahtarBul_;
+  int satirAraligi_ = 6;
+  QWidget* ilkOdak_ = nullptr;
   bool acildi_ = false;
 };
 

@@ -62,7 +62,7 @@ pencere::pencere(EkranBaglami& baglam)
   ListeyiDoldur();
   liste_->FindByName("kod", Yazi(Oturumu().SeciliKod));
   Oturumu().SeciliKod.clear();
-  aranan_->setFocus();
+  IlkOdak(aranan_);
 }
 
 void pencere::ListeyiDoldur() {

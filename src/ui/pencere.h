@@ -6,6 +6,8 @@
 #include "ui/dclist.h"
 #include "ui/form.h"
 
+class QComboBox;
+
 namespace belvani {
 
 class pencere : public Form {

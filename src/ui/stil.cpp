@@ -1,6 +1,7 @@
 #include "ui/stil.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QLibraryInfo>
 #include <QPainter>
 #include <QPalette>
@@ -9,6 +10,7 @@
 #include <QStyleOption>
 #include <QTranslator>
 
+#include "ui/metin.h"
 #include "ui/renk.h"
 #include "ui/simge.h"
 
@@ -57,6 +59,7 @@ class BelvaniStili final : public QProxyStyle {
   int styleHint(StyleHint ipucu, const QStyleOption* secenek, const QWidget* parca,
                 QStyleHintReturn* sonuc) const override {
     if (ipucu == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    if (ipucu == SH_LineEdit_PasswordCharacter) return '*';
     return QProxyStyle::styleHint(ipucu, secenek, parca, sonuc);
   }
 };
@@ -76,6 +79,7 @@ QPalette Palet(const RenkTablosu& t) {
   p.setColor(QPalette::ToolTipBase, renk(Renk::IpucuArka));
   p.setColor(QPalette::ToolTipText, renk(Renk::IpucuText));
   p.setColor(QPalette::PlaceholderText, renk(Renk::SolukYazi));
+  p.setColor(QPalette::Mid, renk(Renk::Cerceve));
   p.setColor(QPalette::Link, renk(Renk::Vurgu));
   for (const auto rol : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
     p.setColor(QPalette::Disabled, rol, renk(Renk::PasifText));
@@ -89,17 +93,23 @@ QGroupBox { border: 1px solid @Cerceve; border-radius: 6px; margin-top: 1.4ex; p
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 2px 5px; color: @Vurgu; }
 QLabel { padding: 2px 0; }
 QLineEdit, QComboBox, QPlainTextEdit, QTextEdit, QSpinBox {
-  background: @TextArka; color: @Yazi; border: 1px solid @Cerceve; border-radius: 4px; padding: 2px 6px;
-  min-height: 1.5em; selection-background-color: @Vurgu; selection-color: @VurguText; }
+  background: @TextArka; color: @Yazi; border: 1px solid @Cerceve; border-radius: 4px; padding: 2px 6px; selection-background-color: @Vurgu; selection-color: @VurguText; }
 QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QTextEdit:focus {
   background: @TextOdakArka; border: 2px solid @Vurgu; padding: 1px 5px; }
-QLineEdit:read-only, QLineEdit:disabled, QComboBox:disabled { background: @PasifArka; color: @PasifText; }
+QLineEdit, QComboBox { min-height: 1.5em; }
+QLineEdit:read-only { background: @PasifArka; }
+QLineEdit:disabled, QComboBox:disabled { background: @PasifArka; color: @PasifText; }
 QLineEdit QToolButton { border: none; background: transparent; padding: 0; }
 QTableView QLineEdit, QTableView QComboBox { border-radius: 0; min-height: 0; padding: 0 4px; }
 QComboBox::drop-down { border: none; width: 22px; }
 QComboBox::down-arrow { image: url(:/simgeler/@AcilirOk.svg); width: 14px; height: 14px; }
 QComboBox QAbstractItemView { background: @TextArka; color: @Yazi; border: 1px solid @Cerceve;
   selection-background-color: @Vurgu; selection-color: @VurguText; }
+QTextBrowser, QTextBrowser:focus { background: @PencereArka; border: 1px solid @Cerceve; padding: 8px 14px; }
+QTextBrowser:focus { border-color: @Vurgu; }
+QListWidget#dizin { background: @PencereArka; border: 1px solid @Cerceve; border-radius: 4px; padding: 4px; outline: 0; }
+QListWidget#dizin:focus { border-color: @Vurgu; }
+QListWidget#dizin::item:selected { background: @GridSecili; color: @GridSeciliText; }
 QPushButton { background: @PasifArka; color: @Yazi; border: 1px solid @Cerceve; border-radius: 5px;
   padding: 5px 12px; min-height: 1.3em; }
 QPushButton:hover { border-color: @Vurgu; }
@@ -109,12 +119,13 @@ QPushButton:disabled { color: @PasifText; }
 QPushButton[birincil="true"] { background: @Vurgu; color: @VurguText; border-color: @Vurgu; }
 QPushButton[birincil="true"]:focus { border: 2px solid @Yazi; }
 QPushButton[birincil="true"]:disabled { background: @PasifArka; color: @PasifText; border-color: @Cerceve; }
+QPushButton[renk="true"] { text-align: left; padding: 4px 8px; }
+QPushButton[renk="true"]:focus { padding: 3px 7px; }
 QCheckBox:focus, QRadioButton:focus { color: @Vurgu; }
 QTableView { background: @GridArka; alternate-background-color: @GridZebra; color: @GridText; gridline-color: @GridCizgi;
   border: 1px solid @Cerceve; border-radius: 4px; selection-background-color: @GridSecili;
   selection-color: @GridSeciliText; outline: 0; }
 QTableView:focus { border: 1px solid @Vurgu; }
-QTableView::item { padding: 0 5px; }
 QTableView::item:selected:active:focus { background: @GridAktif; color: @GridAktifText; }
 QHeaderView { background: @GridBaslik; }
 QHeaderView::section { background: @GridBaslik; color: @GridBaslikText; border: none; padding: 5px 6px; }
@@ -164,7 +175,15 @@ QString SayfaYaz(const RenkTablosu& t, bool koyu) {
 
 }  // namespace
 
-void StilKur(QApplication& uygulama, const RenkTablosu& renkler) {
+QFont FontYap(const YaziTipi& yazi) {
+  QFont font = QApplication::font();
+  if (QFontDatabase::hasFamily(Yazi(yazi.ad))) font.setFamilies({Yazi(yazi.ad)});
+  font.setPointSize(yazi.boyut);
+  font.setBold(yazi.kalinlik == Kalinlik::Kalin);
+  return font;
+}
+
+void StilKur(QApplication& uygulama, const RenkTablosu& renkler, const GridYazilari& yazilar) {
   SimgeleriYukle();
   static bool kuruldu = false;
   if (!std::exchange(kuruldu, true)) {
@@ -174,6 +193,8 @@ void StilKur(QApplication& uygulama, const RenkTablosu& renkler) {
   const QColor yazi = RenkYap(RenkAl(renkler, Renk::Yazi));
   SimgeRengi(yazi);
   QApplication::setPalette(Palet(renkler));
+  QApplication::setFont(FontYap(yazilar.baslik), "QHeaderView");
+  QApplication::setFont(FontYap(yazilar.detay), "QTableView");
   uygulama.setStyleSheet(SayfaYaz(renkler, yazi.lightness() > 128));
 }
 

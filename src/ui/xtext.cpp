@@ -73,7 +73,7 @@ void xtext::xTextBicim(Tip tip, double enCok, Qt::Alignment hiza, bool tumunuSec
 Deger xtext::Value() const {
   switch (tip_) {
     case Tip::Sayi:
-      return HamDeger(ham_);
+      return yuklenen_ ? *yuklenen_ : HamDeger(ham_);
     case Tip::Tarih: {
       const auto tarih = Tarih::MetinOku(Utf8(text()));
       return tarih.Bos() ? Deger(Null{}) : Deger(tarih);
@@ -90,6 +90,7 @@ void xtext::DegerKoy(const Deger& deger) {
     case Tip::Sayi: {
       const Tutar tutar = TutarDegeri(deger);
       ham_ = tutar == Tutar() ? QString() : HamMetin(tutar, ondalik_);
+      yuklenen_ = NullMu(deger) ? Deger(Tutar()) : deger;
       SayiyiGoster();
       break;
     }
@@ -118,6 +119,7 @@ bool xtext::SetRecord(Imlec& rs) {
 }
 
 void xtext::xReset() {
+  yuklenen_.reset();
   ham_.clear();
   clear();
   setToolTip({});
@@ -197,6 +199,7 @@ void xtext::inputMethodEvent(QInputMethodEvent* olay) {
 }
 
 void xtext::HarfYaz(const QString& harfler) {
+  yuklenen_.reset();
   for (const QChar harf : harfler) {
     if (std::exchange(ilkTus_, false)) {
       ham_.clear();
@@ -240,6 +243,7 @@ bool xtext::TarihHarfi(QChar harf) {
 
 void xtext::GeriSil() {
   ilkTus_ = false;
+  yuklenen_.reset();
   if (tip_ == Tip::Sayi) {
     ham_.chop(1);
     SayiyiGoster();
@@ -257,6 +261,7 @@ void xtext::Yapistir() {
   if (tip_ == Tip::Sayi) {
     const auto tutar = TutarOku(metin);
     if (!tutar || *tutar < Tutar() || tutar->Sayi() > enCok_) return QApplication::beep();
+    yuklenen_.reset();
     ham_ = HamMetin(*tutar, ondalik_);
     SayiyiGoster();
   } else {

@@ -12,6 +12,7 @@
 
 #include <QLineEdit>
 #include <QToolButton>
+#include <optional>
 
 #include "core/deger.h"
 
@@ -36,7 +37,8 @@ class xtext : public QLineEdit {
   int Onda() const { return ondalik_; }
   double MaxLenght() const { return enCok_; }
 
-  // The value: a text, a number as Tutar, a date or Null. Loading does not count as a change.
+  // The value: a text, a number, a date or Null. Loading does not count as a change, and what was loaded and not typed
+  // over comes back as it was, with decimals that the field does not show.
   Deger Value() const;
   void DegerKoy(const Deger& deger);
   bool Bos() const { return text().isEmpty(); }
@@ -83,6 +85,7 @@ class xtext : public QLineEdit {
   bool tumunuSec_ = false;
   bool ilkTus_ = true;
   QString ham_;  // digits of a number as typed: "1250.5"
+  std::optional<Deger> yuklenen_;  // a number that nobody has typed over yet
   std::string alan_;
   QToolButton* buton_ = nullptr;
 };

@@ -59,6 +59,7 @@ inline void TusGonder(QWidget* hedef, int tus, Qt::KeyboardModifiers degistirici
   for (const QEvent::Type tur : {QEvent::KeyPress, QEvent::KeyRelease}) {
     QKeyEvent olay(tur, tus, degistirici, metin);
     QCoreApplication::sendEvent(hedef, &olay);
+    QCoreApplication::processEvents();
     hedef = QApplication::focusWidget();
     if (hedef == nullptr) return;
   }
@@ -125,7 +126,11 @@ class EkranOrtami {
     QTimer::singleShot(0, qApp, [is = std::move(is)] {
       ASSERT_NE(QApplication::activeModalWidget(), nullptr) << "no modal window came up";
       QApplication::setActiveWindow(QApplication::activeModalWidget());
+      QWidget* modal = QApplication::activeModalWidget();
       is();
+      if (modal != QApplication::activeModalWidget()) return;
+      ADD_FAILURE() << "the modal window was not left";
+      modal->close();
     });
   }
 

@@ -7,19 +7,20 @@ araci::araci(EkranBaglami& baglam)
   AlanlariDiz({{{"Aracı",
                  {{arac::kod, "Aracı Kodu"},
                   {arac::isim1, "Ad Soyad (Ünvan)"},
-                  {arac::isim2, ""},
+                  {arac::isim2, "Ünvan (devam)"},
                   {arac::tcno, "T.C. No"},
                   {arac::vergi, "Vergi No"}}},
                 {"Adres",
                  {{arac::adr1, "Adres"},
-                  {arac::adr2, ""},
+                  {arac::adr2, "Adres (devam)"},
                   {arac::semt, "Semt"},
                   {arac::ilce, "İlçe"},
                   {arac::il, "İl"},
                   {arac::pk, "Posta Kodu"},
                   {arac::tel, "Telefon"},
                   {arac::epos, "E-posta"}}}}});
-  Komut(FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
   Yukle(araci_);
 }
 

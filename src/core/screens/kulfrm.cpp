@@ -24,16 +24,23 @@ kulfrm::kulfrm(EkranBaglami& baglam)
   liste_->CreateNewCaption('m', "kod", "Kullanıcı", 180);
   liste_->CreateNewCaption('m', "pasw", "Şifre", 0);
   liste_->Gizle("pasw");
+  liste_->setObjectName("dclist1");
   liste_->GenisKolon("kod");
   liste_->setMinimumSize(220, 180);
-  liste_->SatirSecildi = [this](int satir) {
-    Yukle(Giris{Utf8(liste_->TextByName(satir, "kod")), Utf8(liste_->TextByName(satir, "pasw")), {}, {}});
-  };
+  liste_->SatirSecildi = [this](int satir) { Goster(satir); };
+  // The current row too: it takes the place of what was typed meanwhile.
+  connect(liste_, &QTableView::clicked, this, [this] { Goster(liste_->CurSat()); });
   AlanlariDiz({Gruplar});
   Govde()->addWidget(liste_, 1);
-  Komut(FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
-  Komut(FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Komut(
+      FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
   ListeyiDoldur();
+}
+
+void kulfrm::Goster(int satir) {
+  Yukle(Giris{Utf8(liste_->TextByName(satir, "kod")), Utf8(liste_->TextByName(satir, "pasw")), {}, {}});
 }
 
 // The list comes back on its first user.

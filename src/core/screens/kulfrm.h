@@ -15,6 +15,7 @@ class kulfrm : public Form {
   void Kaydet();
   void Sil();
   void ListeyiDoldur();
+  void Goster(int satir);
 
   dclist* liste_;
 };

@@ -16,6 +16,7 @@ constexpr std::string_view Bolum = "gorunum";
 constexpr std::string_view YaziBolumu = "quick";
 constexpr std::string_view SirketDosyalari[] = {"tolu", "kazanc", "yardim", "fmesai", "sablon", "genel"};
 constexpr int EnKucukYazi = 4, EnBuyukYazi = 96;
+constexpr std::uint32_t EnBuyukRenk = 0xFFFFFF;
 
 int YaziBoyu(std::string_view metin, int varsayilan) {
   const int boy = BastakiSayi(metin);
@@ -100,6 +101,13 @@ Durum GorunumYaz(const Oturum& o, const GorunumAyari& a) {
 void GorunumUygula(Oturum& o, const GorunumAyari& ayar) {
   o.ResimYolu = AltYol(ayar.imagepath, GorunumAyari().imagepath);
   o.ResimKullan = ayar.imagekullan;
+}
+
+RenkTablosu GecerliRenkler(const Oturum& o, const GorunumAyari& ayar) {
+  RenkTablosu tablo = GecerliRenkler(o);
+  const auto form = RenkOku(ayar.formbackcolor);
+  if (form && *form <= EnBuyukRenk) tablo[std::size_t(Renk::FormArka)] = *form;
+  return tablo;
 }
 
 std::optional<std::uint32_t> RenkOku(std::string_view metin) {

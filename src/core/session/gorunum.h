@@ -41,6 +41,10 @@ Durum GorunumYaz(const Oturum& o, const GorunumAyari& ayar);
 // The session's share of it: `ResimYolu` and `ResimKullan`.
 void GorunumUygula(Oturum& o, const GorunumAyari& ayar);
 
+// The colours to paint with: the session's table, with this computer's colour of screens where that is a colour and not
+// one of the desktop's.
+RenkTablosu GecerliRenkler(const Oturum& o, const GorunumAyari& ayar);
+
 // "&H00ECFAE4&" -> 0x00ECFAE4; nothing for a text that is no colour.
 std::optional<std::uint32_t> RenkOku(std::string_view metin);
 std::string RenkMetni(std::uint32_t renk);

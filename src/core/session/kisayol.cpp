@@ -11,7 +11,7 @@
 namespace belvani {
 namespace {
 
-constexpr std::string_view DosyaAdi = "tolu.icn";
+constexpr std::string_view DosyaAdi = "tolu.icn", BozukAdi = "tolu.icn.bozuk";
 constexpr KodSayfasi Sayfa = KodSayfasi::Windows1254;
 
 struct MetinAlani {
@@ -69,6 +69,13 @@ std::string Baytlari(const Kisayol& k) {
   return metin(AdAlani) + char(k.program) + metin(IkonAlani) + metin(ParametreAlani);
 }
 
+// A file that could not be read is kept beside the new one.
+Durum BozuguSakla(const Oturum& o) {
+  if (KisayollariOku(o)) return Tamam();
+  const auto icerik = DosyaOku(ProgramDosyasi(o.PrgPath, DosyaAdi));
+  return icerik ? ProgramDosyasiYaz(o.PrgPath, BozukAdi, *icerik) : Tamam();
+}
+
 }  // namespace
 
 std::vector<Kisayol> IlkKisayollar() {
@@ -102,6 +109,7 @@ Durum KisayollariYaz(const Oturum& o, const std::vector<Kisayol>& kisayollar) {
     if (std::string kusur = Kusuru(k); !kusur.empty()) return Hata{std::move(kusur)};
     icerik += Baytlari(k);
   }
+  if (const Durum d = BozuguSakla(o); !d) return d;
   return ProgramDosyasiYaz(o.PrgPath, DosyaAdi, icerik);
 }
 

@@ -100,7 +100,7 @@ struct Kisayol {
 std::vector<Kisayol> IlkKisayollar();
 
 // The shortcuts in order. A broken file is told as a failure, and the desktop is then empty; it stays as it is until
-// the next write.
+// the next write, and then goes on as tolu.icn.bozuk.
 Sonuc<std::vector<Kisayol>> KisayollariOku(const Oturum& o);
 
 // Writes all of them, in one step. What does not fit its field is refused with its name, and nothing is written.

@@ -1,7 +1,6 @@
 #include "payroll/parametre/mevzuat.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -9,6 +8,7 @@
 
 #include "core/dosya.h"
 #include "core/sayi.h"
+#include "core/veridizini.h"
 
 namespace belvani {
 namespace {
@@ -181,13 +181,7 @@ std::string DonemUyusmazligi(const YasalParametreler& kurulu, int yil, int ay) {
 }
 
 std::string MevzuatDizini() {
-  const char* ortam = std::getenv("BELVANI_VERI_DIZIN");
-  if (ortam != nullptr && *ortam != '\0') return DizinSonu(ortam) + "mevzuat/";
-  const std::string kurulu = BELVANI_KURULU_VERI "/mevzuat/";
-#ifdef BELVANI_KAYNAK_VERI
-  if (!DizinVar(kurulu)) return BELVANI_KAYNAK_VERI "/mevzuat/";
-#endif
-  return kurulu;
+  return VeriDizini("mevzuat");
 }
 
 }  // namespace belvani

@@ -25,8 +25,7 @@ Sonuc<YasalParametreler> MevzuatYukle(const std::string& dizin, int yil, int ay,
 // for it, in either unit. "" when it is, or when nothing is known of the month. The files themselves bear no date.
 std::string DonemUyusmazligi(const YasalParametreler& kurulu, int yil, int ay);
 
-// Where the shipped figures lie, with a separator at the end: mevzuat/ in the directory that the environment names
-// (BELVANI_VERI_DIZIN), else in the installed one, else, in development builds, in the source tree.
+// Where the shipped figures lie (core/veridizini.h), with a separator at the end.
 std::string MevzuatDizini();
 
 // The limit of the last tax bracket, which the law leaves open: above any possible base.

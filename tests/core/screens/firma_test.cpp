@@ -1,6 +1,5 @@
 #include "core/screens/firbil.h"
 #include "core/screens/kulfrm.h"
-
 #include "ekran/ortam.h"
 
 namespace belvani::test {

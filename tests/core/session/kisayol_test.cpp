@@ -69,6 +69,9 @@ TEST_F(KisayolTest, BrokenFile) {
     EXPECT_FALSE(KisayollariOku(o) || KisayolSil(o, 0));
     EXPECT_EQ(DosyaOku(d.Yol() + "tolu.icn"), icerik);
   }
+  const auto bozuk = DosyaOku(d.Yol() + "tolu.icn");
+  ASSERT_TRUE(KisayollariYaz(o, {}) && KisayollariYaz(o, {}));
+  EXPECT_EQ(DosyaOku(d.Yol() + "tolu.icn.bozuk"), bozuk) << "what could not be read is not lost";
 }
 
 }  // namespace

@@ -1,8 +1,7 @@
 // The upgrade: which steps are open, and a store of the oldest program brought through all of them.
 #include "core/session/yukseltme.h"
 
-#include <sstream>
-
+#include "core/session/eskidepo.h"
 #include "core/session/ornekoturum.h"
 #include "core/session/sirket.h"
 #include "core/store/satirlar.h"
@@ -18,24 +17,11 @@ using test::Tablo;
 const AdimIsaretleri Hepsi{true, true, true, true, true, true, true};
 const Tutar Taban(444.15);
 
-// The columns that the steps bring, by table, in a store that has been open before.
-const std::pair<const char*, const char*> YeniKolonlar[] = {
-    {"firma", "tckimlik epos kanun versiyon semt adrilce adril pk tersfirma"},
-    {"brd",
-     "ucretsizizin ogv ucrizmatrah katki indirim1 indirim2 indirim3 sakindir gocindir sendika borckes muaftutar "
-     "agioran agimatrah brdkanun"},
-    {"sicil", "tahsisno indirim1 indirim2 indirim3 indtut1 indtut2 indtut3 kanun tur agi"},
-    {"esco", "agiok"}};
-
 struct Yukseltme : test::OrnekOturum {
   Yukseltme() { Kur(); }
 
   void Yaslandir() {
-    Sql("drop index brd_yil; drop index esco_kod");
-    for (const auto& [tablo, adlar] : YeniKolonlar) {
-      std::istringstream kelimeler(adlar);
-      for (std::string ad; kelimeler >> ad;) Sql(std::string("alter table ") + tablo + " drop column " + ad);
-    }
+    test::DepoyuYaslandir(o);
     ASSERT_TRUE(SirketAc(o, "deneme", b));
   }
   GuncellemeSonucu Adim(std::size_t no) { return VeritabaniGuncelle(o, no, Taban, b); }

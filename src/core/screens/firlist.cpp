@@ -1,0 +1,73 @@
+#include "core/screens/firlist.h"
+
+#include <QHideEvent>
+#include <QLineEdit>
+
+#include "core/screens/mesgul.h"
+#include "core/session/sirketlistesi.h"
+#include "ui/metin.h"
+
+namespace belvani {
+
+firlist::firlist(EkranBaglami& baglam)
+    : Form(baglam, "firlist", QStringLiteral("Firma Listesi")),
+      secici_(std::exchange(baglam.oturum.PencereTip, {}) == "pen"),
+      liste_(new dclist(baglam.bildirim, this)) {
+  aranan_ = liste_->AramaKutusu(this);
+  aranan_->setObjectName("aranan");
+  liste_->CreateNewCaption('m', "kod", "Firma", 160);
+  liste_->CreateNewCaption('m', "unvan", "Ünvan", 240);
+  liste_->CreateNewCaption('m', "donem", "Dönem", 80);
+  liste_->setObjectName("dclist1");
+  liste_->GenisKolon("unvan");
+  liste_->setMinimumSize(secici_ ? 520 : 680, 360);
+  Govde()->addWidget(aranan_);
+  Govde()->addWidget(liste_, 1);
+  Izle(aranan_);
+  setTabOrder(aranan_, liste_);
+  if (secici_) SeciciYap();
+  ListeyiDoldur();
+  IlkOdak(aranan_);
+}
+
+void firlist::SeciciYap() {
+  liste_->SatirSecildi = [this](int satir) { Oturumu().SeciliKod = Utf8(liste_->TextByName(satir, "kod")); };
+  liste_->Secildi = [this](int) { Sec(); };
+  liste_->setFocusPolicy(Qt::NoFocus);  // its rows are walked from the search box
+  for (const Qt::Key tus : {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp})
+    TusBagla(QKeySequence(tus), {}, [this, tus] {
+      QKeyEvent olay(QEvent::KeyPress, tus, Qt::NoModifier);
+      QCoreApplication::sendEvent(liste_, &olay);
+    });
+  TusBagla(Qt::Key_Return, {}, [this] { Sec(); });
+  TusBagla(Qt::Key_Enter, QStringLiteral("Seç"), [this] { Sec(); });
+}
+
+void firlist::ListeyiDoldur() {
+  const std::string simdiki = Oturumu().SeciliKod;
+  const MesgulImlec mesgul;
+  dclistModel& model = liste_->Model();
+  model.TopluBasla();
+  for (const SirketSatiri& sirket : SirketListesi(Oturumu().DataPath)) {
+    const int satir = liste_->Add();
+    liste_->TextByName(satir, "kod", Yazi(sirket.ad));
+    liste_->TextByName(satir, "unvan", Yazi(sirket.unvan));
+    liste_->TextByName(satir, "donem", Yazi(sirket.donem));
+  }
+  model.TopluBitir();
+  if (liste_->FindByName("kod", Yazi(simdiki)) < 0) liste_->ChngSat(0);
+}
+
+void firlist::Sec() {
+  if (liste_->CurSat() < 0) return;
+  secildi_ = true;
+  Kapat();
+}
+
+// Every other way out of the picker chooses nothing.
+void firlist::hideEvent(QHideEvent* olay) {
+  Form::hideEvent(olay);
+  if (secici_ && !secildi_ && !olay->spontaneous()) Oturumu().SeciliKod.clear();
+}
+
+}  // namespace belvani

@@ -1,0 +1,64 @@
+#include "payroll/screens/parametreekrani.h"
+
+#include <QApplication>
+
+#include "core/turkce.h"
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+class MesgulImleci {
+ public:
+  MesgulImleci() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~MesgulImleci() { QApplication::restoreOverrideCursor(); }
+  MesgulImleci(const MesgulImleci&) = delete;
+  MesgulImleci& operator=(const MesgulImleci&) = delete;
+};
+
+}  // namespace
+
+ParametreEkrani::ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, const QString& kelime,
+                                 const QString& baslik)
+    : Form(baglam, kelime, baslik), parametreler_(parametreler) {
+  AlanDegisti = [this](AlanDenetimi& alan) { degisen_.insert(&alan); };
+}
+
+void ParametreEkrani::IndirDugmesi(ParametreDosyasi dosya, std::function<void()> goster) {
+  DugmeEkle(QStringLiteral("Parametre İndir"), QStringLiteral("indir"), [this, dosya, goster = std::move(goster)] {
+    const Durum durum = [&] {
+      const MesgulImleci mesgul;
+      return parametreler_.DosyaIndir(Oturumu(), dosya);
+    }();
+    if (!durum) return Bildirimi().Uyari("Parametre Bulunamadı..");
+    Bildirimi().Bilgi("Parametre İndirildi..");
+    goster();
+  });
+}
+
+bool ParametreEkrani::YasalYazildi(const Durum& durum) {
+  if (!durum) {
+    Bildirimi().Uyari(durum.HataMetni());
+    return false;
+  }
+  parametreler_.YasalYukle(Oturumu().DataPath);
+  ZoomEfekt();
+  return true;
+}
+
+bool ParametreEkrani::FirmaYazildi(const Durum& durum) {
+  const Durum yuklenen = durum ? parametreler_.FirmaYukle(Oturumu()) : durum;
+  if (!yuklenen) {
+    Bildirimi().Uyari(yuklenen.HataMetni());
+    return false;
+  }
+  ZoomEfekt();
+  return true;
+}
+
+void ParametreEkrani::AnahtariBul(std::string_view ad) {
+  const std::string anahtar(Kirp(Utf8(YaziKutusu(ad).text())));
+  if (!anahtar.empty() && anahtar != SonAnahtar()) AnahtarAra(anahtar);
+}
+
+}  // namespace belvani

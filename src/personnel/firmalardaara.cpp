@@ -1,0 +1,62 @@
+#include "personnel/firmalardaara.h"
+
+#include "core/dosya.h"
+#include "core/session/sirket.h"
+#include "core/store/satirlar.h"
+#include "core/turkce.h"
+
+namespace belvani {
+namespace {
+
+struct FirmaSatiri {
+  std::string unvan;
+  std::string donem;
+};
+
+FirmaSatiri FirmaSatiriOku(Motor& motor) {
+  FirmaSatiri satir;
+  const auto komut = motor.Hazirla("select unvan, firmaay, firmayil from firma limit 1");
+  if (!komut->Adim()) return satir;
+  KolonAl(*komut, 0, satir.unvan);
+  const std::string ay = std::to_string(komut->Tam(1));
+  satir.donem = (ay.size() < 2 ? "0" + ay : ay) + "-" + std::to_string(komut->Tam(2));
+  return satir;
+}
+
+std::vector<BulunanKisi> SirketteAra(const std::string& dizin, const std::string& ad, const std::string& aranan) {
+  std::vector<BulunanKisi> bulunanlar;
+  const auto motor = MotorAc(dizin + ad + "/" + DepoDosyasi);
+  motor->Calistir("pragma query_only=on");
+  const FirmaSatiri firma = FirmaSatiriOku(*motor);
+  const auto komut = motor->Hazirla("select adi, soyadi from sicil order by kod");
+  while (komut->Adim()) {
+    std::string adi, soyadi;
+    KolonAl(*komut, 0, adi);
+    KolonAl(*komut, 1, soyadi);
+    const std::string adsoy = adi + " " + soyadi;
+    if (KucukHarf(adsoy).find(aranan) != std::string::npos)
+      bulunanlar.push_back({adsoy, firma.unvan.empty() ? ad : ad + " - " + firma.unvan, firma.donem});
+  }
+  return bulunanlar;
+}
+
+}  // namespace
+
+std::vector<BulunanKisi> FirmalardaAra(const std::string& dataPath, std::string_view adsoy, Ilerleme& ilerleme) {
+  std::vector<BulunanKisi> bulunanlar;
+  const std::string aranan = KucukHarf(Kirp(DenetimsizMetin(adsoy)));
+  if (aranan.empty()) return bulunanlar;
+  const auto sirketler = Sirketler(dataPath);
+  for (std::size_t i = 0; i < sirketler.size(); ++i) {
+    if (!ilerleme.Adim(i, sirketler.size())) return bulunanlar;
+    try {
+      std::ranges::move(SirketteAra(DizinSonu(dataPath), sirketler[i], aranan), std::back_inserter(bulunanlar));
+    } catch (const MotorHatasi&) {
+      continue;  // no store, or one that cannot be read
+    }
+  }
+  ilerleme.Adim(sirketler.size(), sirketler.size());
+  return bulunanlar;
+}
+
+}  // namespace belvani
