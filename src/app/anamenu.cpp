@@ -1,25 +1,81 @@
 #include "app/anamenu.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QShortcut>
+#include <QTimer>
 
+#include "app/gorun.h"
+#include "app/hakkinda.h"
+#include "app/menuharfi.h"
+#include "app/yardim.h"
 #include "core/session/firmabilgi.h"
 #include "ui/metin.h"
 #include "ui/simge.h"
+#include "ui/stil.h"
 
 namespace belvani {
+namespace {
+
+constexpr int BasamakAdimi = 26;  // between windows that open one after the other
+
+QWidget* IlkOdak(QWidget* ekran) {
+  for (QWidget* parca = ekran->nextInFocusChain(); parca != ekran; parca = parca->nextInFocusChain()) {
+    const bool olur = ekran->isAncestorOf(parca) && parca->isVisibleTo(ekran) && parca->isEnabled();
+    if (olur && (parca->focusPolicy() & Qt::TabFocus)) return parca;
+  }
+  return ekran;
+}
+
+}  // namespace
 
 anamenu::anamenu(EkranBaglami& ekran, ParametreDeposu& parametreler)
-    : ekran_(ekran), parametreler_(parametreler), alan_(new QMdiArea(this)) {
+    : ekran_(ekran), parametreler_(parametreler), alan_(new QMdiArea(this)), durum_(new DurumCubugu(this)) {
   setObjectName("anamenu");
   setCentralWidget(alan_);
+  setStatusBar(durum_);
   alan_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   alan_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   alan_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+  alan_->setFrameShape(QFrame::NoFrame);
+  GorunumuUygula();
+  MasaustuYap();
   MenuYap();
+  TuslariBagla();
+  YardimTusuKur(*qApp);
   BaslikDegisti();
   resize(1280, 740);
+}
+
+anamenu::~anamenu() {
+  EkranlariKapat();
+}
+
+// What this computer shows for the company.
+void anamenu::GorunumuUygula() {
+  Oturum& o = ekran_.oturum;
+  const GorunumAyari ayar = GorunumOku(o);
+  const std::string eskiYol = o.ResimYolu;
+  GorunumUygula(o, ayar);
+  if (o.ResimYolu != eskiYol) RenkYukle(o);
+  StilKur(*qApp, GecerliRenkler(o, ayar));
+}
+
+void anamenu::MasaustuYap() {
+  masaustu_ = new Form1(ekran_, alan_->viewport());
+  masaustu_->lower();
+  masaustu_->Calistirilacak = [this](const Kisayol& k) { Calistir(k); };
+  masaustu_->Islem = [this](MenuIslemi islem) { Islem(islem); };
+  alan_->viewport()->installEventFilter(this);
+  masaustu_->installEventFilter(this);
+  connect(alan_, &QMdiArea::subWindowActivated, this, [this](const QMdiSubWindow* pencere) {
+    if (masaustu_ == nullptr) return;
+    masaustu_->lower();
+    if (pencere == nullptr && alan_->subWindowList().isEmpty()) masaustu_->OdakAl();
+  });
 }
 
 QMenu* anamenu::AltMenu(std::string_view yol) {
@@ -38,22 +94,62 @@ QMenu* anamenu::AltMenu(std::string_view yol) {
 
 void anamenu::MenuYap() {
   for (const EkranKaydi& kayit : Ekranlar()) {
-    QAction* giris = AltMenu(kayit.menu)->addAction(Simge(Yazi(kayit.simge)), Yazi(kayit.baslik));
+    QAction* giris = AltMenu(kayit.menu)->addAction(Yazi(kayit.baslik));
     giris->setObjectName("mnu" + Yazi(kayit.kelime));
-    giris->setEnabled(kayit.yap != nullptr || kayit.islem != MenuIslemi::Yok);
+    giris->setEnabled(Acilir(kayit));
     connect(giris, &QAction::triggered, this, [this, &kayit] { Ac(kayit); });
+    girisler_.emplace_back(giris, &kayit);
   }
+  MenuHarfleriKoy(*menuBar());
+  SimgeleriKoy();
 }
 
-void anamenu::Ac(const EkranKaydi& kayit) {
-  if (kayit.islem != MenuIslemi::Yok) return Islem(kayit.islem);
-  if (kayit.yap == nullptr) return;
+// Pictures take the text colour of the look in force.
+void anamenu::SimgeleriKoy() {
+  for (const auto& [giris, kayit] : girisler_)
+    giris->setIcon(ekran_.oturum.ResimKullan ? Simge(Yazi(kayit->simge)) : QIcon());
+}
+
+void anamenu::TuslariBagla() {
+  const auto bagla = [this](const QKeySequence& tus, auto islev) {
+    auto* kisayol = new QShortcut(tus, this);
+    connect(kisayol, &QShortcut::activated, this, islev);
+  };
+  bagla(QKeySequence(Qt::CTRL | Qt::Key_D), [this] { MasaustuneGit(); });
+  bagla(Qt::Key_F10, [this] { menuBar()->setActiveAction(menuBar()->actions().value(0)); });
+  bagla(QKeySequence(Qt::CTRL | Qt::Key_Tab), [this] { alan_->activateNextSubWindow(); });
+  bagla(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), [this] { alan_->activatePreviousSubWindow(); });
+}
+
+// F6 is the desktop's only where the screen has no use of its own for it.
+void anamenu::keyPressEvent(QKeyEvent* olay) {
+  if (olay->key() == Qt::Key_F6 && olay->modifiers() == Qt::NoModifier) return MasaustuneGit();
+  QMainWindow::keyPressEvent(olay);
+}
+
+bool anamenu::OneGetir(const QString& kelime) {
   for (QMdiSubWindow* pencere : alan_->subWindowList()) {
-    if (pencere->widget() == nullptr || pencere->widget()->objectName() != Yazi(kayit.kelime)) continue;
+    if (pencere->widget() == nullptr || pencere->widget()->objectName() != kelime) continue;
+    masaustu_->lower();
     alan_->setActiveSubWindow(pencere);
-    return;
+    return true;
   }
+  return false;
+}
+
+void anamenu::Ac(const EkranKaydi& kayit, std::string_view parametre) {
+  if (kayit.islem != MenuIslemi::Yok) return Islem(kayit.islem);
+  if (kayit.yap == nullptr || OneGetir(Yazi(kayit.kelime))) return;
+  ekran_.oturum.PencereTip = parametre.empty() ? kayit.pencereTip : parametre;
   FormGoster(ekran_, kayit.yap({ekran_, parametreler_}), kayit.mod);
+}
+
+void anamenu::Calistir(const Kisayol& kisayol) {
+  const std::string_view program = KisayolProgramlari.at(kisayol.program);
+  const EkranKaydi* kayit = KisayolEkrani(program);
+  if (kayit == nullptr || !Acilir(*kayit))
+    return ekran_.bildirim.Bilgi(std::string(program) + "\nBu ekran bu sürümde yok.");
+  Ac(*kayit, kisayol.parametre);
 }
 
 void anamenu::Islem(MenuIslemi islem) {
@@ -66,33 +162,95 @@ void anamenu::Islem(MenuIslemi islem) {
       close();
       break;
     case MenuIslemi::Yardim:
+      YardimGoster("index");
+      break;
     case MenuIslemi::Hakkinda:
+      FormGoster(ekran_, std::make_unique<frmAbout>(ekran_), FormModu::Modal);
+      break;
     case MenuIslemi::Gorunum:
+      GorunumAc();
+      break;
     case MenuIslemi::Yok:
       break;
   }
 }
 
+void anamenu::GorunumAc() {
+  if (OneGetir("gorun")) return;
+  // The desktop may be gone before the screen that takes its changes back.
+  const auto goster = [hedef = masaustu_](const GorunumAyari& ayar) {
+    if (hedef != nullptr) hedef->GorunumKoy(ayar);
+  };
+  FormGoster(ekran_, std::make_unique<gorun>(ekran_, goster));
+}
+
+void anamenu::MasaustuneGit() {
+  QMdiSubWindow* pencere = alan_->currentSubWindow();
+  const bool masaustunde = masaustu_->isAncestorOf(QApplication::focusWidget());
+  if (!masaustunde) {
+    masaustu_->raise();
+    masaustu_->OdakAl();
+    return;
+  }
+  masaustu_->lower();
+  if (pencere == nullptr || pencere->widget() == nullptr) return;
+  QWidget* odak = pencere->widget()->focusWidget();
+  (odak != nullptr ? odak : pencere->widget())->setFocus(Qt::ShortcutFocusReason);
+}
+
 void anamenu::SerbestGoster(std::unique_ptr<Form> form) {
   Form* ekran = form.release();
+  QPointer<QWidget> odak = ekran->focusWidget();  // what the screen has chosen itself
   ekran->setAttribute(Qt::WA_DeleteOnClose);
-  QMdiSubWindow* pencere = alan_->addSubWindow(ekran, Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                                                          Qt::WindowCloseButtonHint);
+  QMdiSubWindow* pencere = alan_->addSubWindow(
+      ekran, Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
   pencere->setAttribute(Qt::WA_DeleteOnClose);
   pencere->setWindowIcon({});
+  pencere->installEventFilter(this);
   ekran->show();
-  pencere->adjustSize();
+  Yerlestir(*pencere);
   pencere->show();
   alan_->setActiveSubWindow(pencere);
+  // The window inside the area gives the keyboard to the screen as a whole.
+  if (odak == nullptr && ekran->focusWidget() != ekran) odak = ekran->focusWidget();
+  (odak != nullptr ? odak.data() : IlkOdak(ekran))->setFocus(Qt::TabFocusReason);
+}
+
+// Where it stood last, else in the middle and a step aside for every window that is open; always wholly in view.
+void anamenu::Yerlestir(QMdiSubWindow& pencere) {
+  pencere.adjustSize();
+  const QSize alan = alan_->viewport()->size();
+  pencere.resize(pencere.size().boundedTo(alan));
+  QPoint yer;
+  if (const auto son = yerler_.find(pencere.widget()->objectName()); son != yerler_.end()) {
+    yer = son->second;
+  } else {
+    const int basamak = BasamakAdimi * int(alan_->subWindowList().size() - 1);
+    yer = QPoint((alan.width() - pencere.width()) / 2 + basamak, (alan.height() - pencere.height()) / 3 + basamak);
+  }
+  pencere.move(std::clamp(yer.x(), 0, std::max(0, alan.width() - pencere.width())),
+               std::clamp(yer.y(), 0, std::max(0, alan.height() - pencere.height())));
 }
 
 void anamenu::BaslikDegisti() {
   setWindowTitle(Yazi(AnaPencereBasligi(ekran_.oturum)));
+  masaustu_->BaslikYaz();
+  durum_->Yaz(ekran_.oturum);
 }
 
 void anamenu::EkranlariKapat() {
-  QList<QMdiSubWindow*> acik = alan_->subWindowList();
-  while (!acik.isEmpty()) delete acik.takeLast();
+  QList<QMdiSubWindow*> acik = alan_->subWindowList(QMdiArea::CreationOrder);
+  while (!acik.isEmpty()) {
+    QMdiSubWindow* son = acik.takeLast();
+    son->close();  // a screen may have something to take back
+    delete son;
+  }
+}
+
+void anamenu::showEvent(QShowEvent* olay) {
+  QMainWindow::showEvent(olay);
+  if (alan_->subWindowList().isEmpty()) masaustu_->OdakAl();
+  QTimer::singleShot(0, masaustu_, &Form1::KusuruBildir);  // with the window behind it
 }
 
 void anamenu::closeEvent(QCloseEvent* olay) {
@@ -101,7 +259,19 @@ void anamenu::closeEvent(QCloseEvent* olay) {
   Q_EMIT Kapandi();
 }
 
+void anamenu::changeEvent(QEvent* olay) {
+  QMainWindow::changeEvent(olay);
+  if (olay->type() == QEvent::PaletteChange) SimgeleriKoy();
+}
+
 bool anamenu::eventFilter(QObject* nesne, QEvent* olay) {
+  const bool alanDegisti = nesne == alan_->viewport() && olay->type() == QEvent::Resize;
+  // Scrolling the area moves what is in it, the desktop too.
+  const bool kaydi = nesne == masaustu_ && olay->type() == QEvent::Move && !masaustu_->pos().isNull();
+  if (masaustu_ != nullptr && (alanDegisti || kaydi)) masaustu_->setGeometry(alan_->viewport()->rect());
+  if (const auto* pencere = qobject_cast<QMdiSubWindow*>(nesne);
+      pencere != nullptr && olay->type() == QEvent::Close && pencere->widget() != nullptr)
+    yerler_[pencere->widget()->objectName()] = pencere->pos();
   return QMainWindow::eventFilter(nesne, olay);
 }
 

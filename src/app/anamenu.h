@@ -1,11 +1,17 @@
 // anamenu: the main window. Its menu is the registry of screens; screens open as windows inside it, above the desktop
 // with the user's shortcuts.
+//
+//   Alt+letter, F10  menu        F6, Ctrl+D  desktop and back        F1  guide
+//   Ctrl+Tab, Ctrl+Shift+Tab  next and previous screen               Ctrl+F4  close the screen
 #pragma once
 
 #include <QMainWindow>
 #include <QMdiArea>
+#include <QPointer>
+#include <map>
 
-#include "app/ekranlar.h"
+#include "app/durumcubugu.h"
+#include "app/masaustu.h"
 
 namespace belvani {
 
@@ -13,15 +19,21 @@ class anamenu : public QMainWindow, public FormGosterici {
   Q_OBJECT
  public:
   explicit anamenu(EkranBaglami& ekran, ParametreDeposu& parametreler);
+  ~anamenu() override;
 
-  // Opens the screen of a menu entry; one that is open already comes to the front.
-  void Ac(const EkranKaydi& kayit);
+  // Opens the screen of a menu entry; one that is open already comes to the front. A `parametre` goes to the screen as
+  // its mode word, in place of the entry's own.
+  void Ac(const EkranKaydi& kayit, std::string_view parametre = {});
   void Islem(MenuIslemi islem);
+  void Calistir(const Kisayol& kisayol);
+  // The desktop comes to the front with the keyboard; from there, back to the screen.
+  void MasaustuneGit();
 
   void SerbestGoster(std::unique_ptr<Form> form) override;
   QWidget* ModalUst() override { return this; }
   void BaslikDegisti() override;
 
+  Form1& Masaustu() { return *masaustu_; }
   // Closes every screen, from the last to the first.
   void EkranlariKapat();
   // Why the window was closed.
@@ -31,17 +43,30 @@ class anamenu : public QMainWindow, public FormGosterici {
   void Kapandi();
 
  protected:
+  void showEvent(QShowEvent* olay) override;
   void closeEvent(QCloseEvent* olay) override;
+  void keyPressEvent(QKeyEvent* olay) override;
+  void changeEvent(QEvent* olay) override;
   bool eventFilter(QObject* nesne, QEvent* olay) override;
 
  private:
+  void GorunumuUygula();
+  void MasaustuYap();
   void MenuYap();
+  void TuslariBagla();
   QMenu* AltMenu(std::string_view yol);
+  void SimgeleriKoy();
+  void Yerlestir(QMdiSubWindow& pencere);
+  bool OneGetir(const QString& kelime);
+  void GorunumAc();
 
   EkranBaglami& ekran_;
   ParametreDeposu& parametreler_;
   QMdiArea* alan_;
-  QWidget* masaustu_ = nullptr;
+  QPointer<Form1> masaustu_;
+  DurumCubugu* durum_;
+  std::vector<std::pair<QAction*, const EkranKaydi*>> girisler_;
+  std::map<QString, QPoint> yerler_;  // where each screen stood when it was closed
   bool firmaDegissin_ = false;
 };
 

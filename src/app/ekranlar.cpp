@@ -1,8 +1,30 @@
 #include "app/ekranlar.h"
 
+#include "core/screens/Dbupdate.h"
 #include "core/screens/araci.h"
 #include "core/screens/firbil.h"
+#include "core/screens/firlist.h"
+#include "core/screens/firsil.h"
 #include "core/screens/kulfrm.h"
+#include "core/screens/muhbil.h"
+#include "core/screens/yapifrm.h"
+#include "payroll/screens/agifrm.h"
+#include "payroll/screens/brdhazir.h"
+#include "payroll/screens/fazmes.h"
+#include "payroll/screens/gvtablo.h"
+#include "payroll/screens/heskod.h"
+#include "payroll/screens/indfrm.h"
+#include "payroll/screens/kanun.h"
+#include "payroll/screens/kykm.h"
+#include "payroll/screens/sabpu.h"
+#include "payroll/screens/sendtan.h"
+#include "payroll/screens/yrdisim.h"
+#include "payroll/screens/yyasor.h"
+#include "personnel/screens/escofrm.h"
+#include "personnel/screens/kontfrm.h"
+#include "personnel/screens/nufus.h"
+#include "personnel/screens/perbul.h"
+#include "personnel/screens/perkart.h"
 
 namespace belvani {
 namespace {
@@ -21,20 +43,20 @@ const std::vector<EkranKaydi>& Tablo() {
       {"Firma", "Firma Bilgileri", "firbil", "firma", "", Yap<firbil>},
       {"Firma", "Aracı Bilgileri", "araci", "kisi", "", Yap<araci>},
       {"Firma", "Firma Değiştir", "firdegistir", "degistir", "", nullptr, MenuIslemi::FirmaDegistir},
-      {"Firma", "Firma Listesi", "firlist"},
-      {"Firma", "Firma Sil", "firsil"},
+      {"Firma", "Firma Listesi", "firlist", "liste", "", Yap<firlist>},
+      {"Firma", "Firma Sil", "firsil", "sil", "", Yap<firsil>},
       {"Firma", "Çıkış", "cikis", "cikis", "", nullptr, MenuIslemi::Cikis},
 
-      {"Özlük", "Personel Kartları", "perkart"},
-      {"Özlük", "Personel Kimlik Bilgileri", "nufus"},
-      {"Özlük", "Eş ve Çocuk Bilgileri", "escofrm"},
+      {"Özlük", "Personel Kartları", "perkart", "kisi", "", Yap<perkart>},
+      {"Özlük", "Personel Kimlik Bilgileri", "nufus", "kimlik", "", Yap<nufus>},
+      {"Özlük", "Eş ve Çocuk Bilgileri", "escofrm", "aile", "", Yap<escofrm>},
       {"Özlük", "Personel Girişi", "pergir"},
       {"Özlük", "Personel Çıkışı", "percik"},
       {"Özlük", "Personel Devir Bilgileri", "perdev"},
       {"Özlük", "Personel Aylık Bilgileri", "kartxfrm", "", "Kartotex Raporu"},
       {"Özlük", "Ücretler", "ucrfrm", "", "Ücretlendirme"},
 
-      {"Bordro", "Bordro Hazırlık", "brdhazir"},
+      {"Bordro", "Bordro Hazırlık", "brdhazir", "bordro", "", Yap<brdhazir>},
       {"Bordro", "Bordro Basımı", "brdbas"},
       {"Bordro", "Özel Bordro Basımı", "ozelbrd"},
       {"Bordro", "Ücret Pusulası", "brdzarf"},
@@ -86,23 +108,23 @@ const std::vector<EkranKaydi>& Tablo() {
       {"Ek İşlemler", "Devir İşlemleri", "devir"},
       {"Ek İşlemler", "Yıllık Devir Bilgileri Kontrolu", "devkontrol"},
       {"Ek İşlemler", "Kullanıcı İşlemleri", "kulfrm", "kullanici", "", Yap<kulfrm>},
-      {"Ek İşlemler", "Kontrol İşlemleri", "kontfrm", "kontrol", "Kontrol İşlemi"},
-      {"Ek İşlemler", "Database Update", "Dbupdate"},
-      {"Ek İşlemler", "Yapı Ayarları", "yapifrm"},
-      {"Ek İşlemler", "Personel Bul", "perbul"},
+      {"Ek İşlemler", "Kontrol İşlemleri", "kontfrm", "kontrol", "Kontrol İşlemi", Yap<kontfrm>},
+      {"Ek İşlemler", "Database Update", "Dbupdate", "yukselt", "", Yap<Dbupdate>, MenuIslemi::Yok, FormModu::Modal},
+      {"Ek İşlemler", "Yapı Ayarları", "yapifrm", "klasor", "", Yap<yapifrm>},
+      {"Ek İşlemler", "Personel Bul", "perbul", "ara", "", Yap<perbul>},
 
-      {"Parametreler", "Yasal Oranlar", "yyasor"},
-      {"Parametreler", "Gelir Vergisi Tablosu", "gvtablo"},
-      {"Parametreler", "Kazanç,Yardım Tanımları", "kykm", "", "Kazanç Yardım Tanımlama"},
-      {"Parametreler", "Kanun Tarihleri", "kanun"},
-      {"Parametreler", "İndirimler", "indfrm"},
-      {"Parametreler", "Yardım Tanımlama", "yrdisim"},
-      {"Parametreler", "Fazla Mesai Ayarları", "fazmes"},
-      {"Parametreler", "Sendika Bilgileri", "sendtan"},
-      {"Parametreler", "Hesap Türleri", "heskod"},
-      {"Parametreler", "A.G.İ. Parametresi", "agifrm"},
-      {"Parametreler", "Şablon Puantaj", "sabpu"},
-      {"Parametreler", "Muhasebeci Bilgileri", "muhbil"},
+      {"Parametreler", "Yasal Oranlar", "yyasor", "oran", "", Yap<yyasor>},
+      {"Parametreler", "Gelir Vergisi Tablosu", "gvtablo", "tablo", "", Yap<gvtablo>, MenuIslemi::Yok, FormModu::Serbest, "GV"},
+      {"Parametreler", "Kazanç,Yardım Tanımları", "kykm", "kontrol", "Kazanç Yardım Tanımlama", Yap<kykm>},
+      {"Parametreler", "Kanun Tarihleri", "kanun", "takvim", "", Yap<belvani::kanun>},
+      {"Parametreler", "İndirimler", "indfrm", "oran", "", Yap<indfrm>},
+      {"Parametreler", "Yardım Tanımlama", "yrdisim", "duzelt", "", Yap<yrdisim>},
+      {"Parametreler", "Fazla Mesai Ayarları", "fazmes", "takvim", "", Yap<fazmes>},
+      {"Parametreler", "Sendika Bilgileri", "sendtan", "aile", "", Yap<sendtan>},
+      {"Parametreler", "Hesap Türleri", "heskod", "liste", "", Yap<heskod>, MenuIslemi::Yok, FormModu::Serbest, "edit"},
+      {"Parametreler", "A.G.İ. Parametresi", "agifrm", "oran", "", Yap<agifrm>},
+      {"Parametreler", "Şablon Puantaj", "sabpu", "sablon", "", Yap<sabpu>},
+      {"Parametreler", "Muhasebeci Bilgileri", "muhbil", "kisi", "", Yap<muhbil>},
 
       {"Yardım", "Kullanma Şekli", "yardim", "yardim", "", nullptr, MenuIslemi::Yardim},
       {"Yardım", "Hakkında", "frmAbout", "bilgi", "", nullptr, MenuIslemi::Hakkinda},
@@ -110,13 +132,37 @@ const std::vector<EkranKaydi>& Tablo() {
   return tablo;
 }
 
+// Opened from the desktop only.
+const EkranKaydi GorunumEkrani{"", "Görünüm Ayarları", "gorun", "gorunum", "", nullptr, MenuIslemi::Gorunum};
+
+struct MenuSimgesi {
+  std::string_view menu, simge;
+};
+constexpr MenuSimgesi MenuSimgeleri[] = {
+    {"Firma", "firma"},      {"Özlük", "kisi"},        {"Bordro", "bordro"},    {"Bildirgeler", "tablo"},
+    {"Viziteler", "kimlik"}, {"Raporlar", "yazici"},   {"Ek Moduller", "borc"}, {"Entegrasyon", "indir"},
+    {"Ek İşlemler", "ayar"}, {"Parametreler", "oran"}, {"Yardım", "yardim"},
+};
+
 }  // namespace
 
 std::span<const EkranKaydi> Ekranlar() {
   return Tablo();
 }
 
+bool Acilir(const EkranKaydi& kayit) {
+  return kayit.yap != nullptr || kayit.islem != MenuIslemi::Yok;
+}
+
+std::string_view SimgeAdi(const EkranKaydi& kayit) {
+  if (!kayit.simge.empty()) return kayit.simge;
+  const auto menu = kayit.menu.substr(0, kayit.menu.find('/'));
+  const auto yer = std::ranges::find(MenuSimgeleri, menu, &MenuSimgesi::menu);
+  return yer == std::end(MenuSimgeleri) ? "belvani" : yer->simge;
+}
+
 const EkranKaydi* KisayolEkrani(std::string_view program) {
+  if (program == GorunumEkrani.baslik) return &GorunumEkrani;
   const auto uyar = [&](const EkranKaydi& e) { return (e.kisayol.empty() ? e.baslik : e.kisayol) == program; };
   const auto yer = std::ranges::find_if(Tablo(), uyar);
   return yer == Tablo().end() ? nullptr : &*yer;

@@ -31,12 +31,20 @@ struct EkranKaydi {
   std::function<std::unique_ptr<Form>(const UygulamaBaglami&)> yap = nullptr;
   MenuIslemi islem = MenuIslemi::Yok;
   FormModu mod = FormModu::Serbest;
+  std::string_view pencereTip = {};  // mode word of a screen that several entries share
 };
 
 // In the order of the menu.
 std::span<const EkranKaydi> Ekranlar();
 
-// The entry that a program of the shortcut list opens; null when no screen answers to it.
+// The entry does something: its screen is built, or it opens none.
+bool Acilir(const EkranKaydi& kayit);
+
+// The picture of the entry, or that of its menu.
+std::string_view SimgeAdi(const EkranKaydi& kayit);
+
+// The entry that a program of the shortcut list opens; null when no screen answers to it. "Görünüm Ayarları" stands in
+// no menu.
 const EkranKaydi* KisayolEkrani(std::string_view program);
 
 }  // namespace belvani

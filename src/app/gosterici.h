@@ -1,0 +1,22 @@
+// The place where screens appear, for a context that is made before its main window.
+#pragma once
+
+#include <QApplication>
+
+#include "app/anamenu.h"
+
+namespace belvani {
+
+struct AnaPencereGosterici final : FormGosterici {
+  anamenu* pencere = nullptr;
+
+  void SerbestGoster(std::unique_ptr<Form> form) override {
+    if (pencere != nullptr) pencere->SerbestGoster(std::move(form));
+  }
+  QWidget* ModalUst() override { return pencere != nullptr ? pencere : QApplication::activeWindow(); }
+  void BaslikDegisti() override {
+    if (pencere != nullptr) pencere->BaslikDegisti();
+  }
+};
+
+}  // namespace belvani

@@ -1,0 +1,81 @@
+#include "app/program.h"
+
+#include <QEventLoop>
+
+#include "app/gosterici.h"
+#include "core/screens/Dbupdate.h"
+#include "core/screens/startfrm.h"
+#include "ui/bildirimkutusu.h"
+#include "ui/metin.h"
+#include "ui/stil.h"
+
+namespace belvani {
+namespace {
+
+class Program {
+ public:
+  explicit Program(QApplication& uygulama) : uygulama_(uygulama) {}
+
+  int Yurut() {
+    while (true) {
+      const QString programDizini = QCoreApplication::applicationDirPath();
+      const QString komutSatiri = QCoreApplication::arguments().mid(1).join(' ');
+      if (!Baslat(oturum_, Utf8(programDizini), Utf8(komutSatiri), bildirim_)) return 1;
+      StilKur(uygulama_, GecerliRenkler(oturum_));
+      if (GirisYap(ekran_) == GirisSonucu::Cikis) return 0;
+      parametreler_.YasalYukle(oturum_.DataPath);
+      if (const Durum d = parametreler_.FirmaYukle(oturum_); !d) bildirim_.Uyari(d.HataMetni());
+      const bool yeniden = AnaPencere();
+      oturum_.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
+      if (!yeniden) return 0;
+    }
+  }
+
+ private:
+  // True when another company was asked for.
+  bool AnaPencere() {
+    anamenu pencere(ekran_, parametreler_);
+    gosterici_.pencere = &pencere;
+    QEventLoop dongu;
+    QObject::connect(&pencere, &anamenu::Kapandi, &dongu, &QEventLoop::quit);
+    pencere.show();
+    QCoreApplication::processEvents();
+    const bool devam = VersiyonKontrol(oturum_, bildirim_) ||
+                       VeritabaniGuncelleGoster(ekran_, parametreler_) != GuncellemeSonucu::ProgramBitsin;
+    if (devam && pencere.isVisible()) dongu.exec();
+    pencere.EkranlariKapat();
+    gosterici_.pencere = nullptr;
+    return devam && pencere.FirmaDegissinMi();
+  }
+
+  QApplication& uygulama_;
+  BildirimKutusu bildirim_;
+  SistemDialoglari dialoglar_;
+  AnaPencereGosterici gosterici_;
+  Oturum oturum_;
+  ParametreDeposu parametreler_;
+  EkranBaglami ekran_{oturum_, bildirim_, dialoglar_, gosterici_};
+};
+
+}  // namespace
+
+bool Uygulama::notify(QObject* alici, QEvent* olay) {
+  try {
+    return QApplication::notify(alici, olay);
+  } catch (const std::exception& hata) {
+    BildirimKutusu().Uyari("Beklenmeyen bir hata oldu; yapılan iş kaydedilmemiş olabilir.\n" +
+                           std::string(hata.what()));
+    return true;
+  }
+}
+
+int ProgramiYurut(Uygulama& uygulama) {
+  QApplication::setApplicationName(QStringLiteral("belvani"));
+  QApplication::setApplicationDisplayName(QStringLiteral("Belvani"));
+  QApplication::setQuitOnLastWindowClosed(false);
+  CeviriYukle(uygulama);
+  StilKur(uygulama, AcikRenkler());
+  return Program(uygulama).Yurut();
+}
+
+}  // namespace belvani

@@ -1,0 +1,156 @@
+// The main window: its menu, its windows, and the guide behind F1.
+#include "app/anamenu.h"
+
+#include <QFile>
+#include <QMenuBar>
+
+#include "app/anaortam.h"
+#include "app/menuharfi.h"
+#include "app/yardim.h"
+#include "core/screens/firbil.h"
+#include "core/screens/kulfrm.h"
+#include "core/veridizini.h"
+
+namespace belvani::test {
+namespace {
+
+yardim* AcikYardim() {
+  for (QWidget* pencere : QApplication::topLevelWidgets())
+    if (auto* y = qobject_cast<yardim*>(pencere); y != nullptr && y->isVisible()) return y;
+  return nullptr;
+}
+
+void HarflerTek(const QWidget& menu, const QString& yol) {
+  QSet<QKeySequence> harfler;
+  for (const QAction* giris : menu.actions()) {
+    const QKeySequence harf = QKeySequence::mnemonic(giris->text());
+    EXPECT_FALSE(harf.isEmpty()) << Utf8(yol + giris->text());
+    EXPECT_FALSE(harfler.contains(harf)) << Utf8(yol + giris->text());
+    harfler.insert(harf);
+    if (giris->menu() != nullptr) HarflerTek(*giris->menu(), yol + giris->text() + "/");
+  }
+}
+
+TEST(Anamenu, EveryEntryIsReachedByItsOwnLetter) {
+  AnaOrtam ortam;
+  HarflerTek(*ortam.pencere->menuBar(), "");
+  QSet<QString> adlar;
+  for (const QAction* giris : ortam.pencere->findChildren<QAction*>(QRegularExpression("^mnu"))) {
+    EXPECT_FALSE(adlar.contains(giris->objectName())) << Utf8(giris->objectName());
+    adlar.insert(giris->objectName());
+  }
+  EXPECT_EQ(adlar.size(), qsizetype(Ekranlar().size()));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10);
+  EXPECT_EQ(QApplication::activePopupWidget(), ortam.pencere->menuBar()->actions().first()->menu());
+  QApplication::activePopupWidget()->close();
+  EXPECT_EQ(HarfliBasliklar({"İndirimler", "ırmak", "Iğdır", "Ek İşlemler", "Ek", "E"}),
+            (QStringList{"İ&ndirimler", "&ırmak", "I&ğdır", "&Ek İşlemler", "E&k", "E"}))
+      << "ı and I are one key; İ is no plain key";
+}
+
+TEST(Anamenu, WindowsOpenInViewAndRememberTheirPlace) {
+  AnaOrtam ortam;
+  ortam.pencere->resize(1366, 728);
+  for (const char* kelime : {"firbil", "araci", "kulfrm"}) ortam.pencere->Ac(AnaOrtam::Kayit(kelime));
+  QCoreApplication::processEvents();
+  for (const QMdiSubWindow* pencere : ortam.Alan().subWindowList())
+    EXPECT_TRUE(ortam.Alan().viewport()->rect().contains(pencere->geometry())) << pencere->geometry().bottom();
+
+  ASSERT_NE(ortam.Onde<kulfrm>(), nullptr);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(ortam.Onde<kulfrm>(), nullptr);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+  ASSERT_NE(ortam.Onde<kulfrm>(), nullptr);
+  ortam.Alan().activeSubWindow()->move(40, 50);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4, Qt::ControlModifier);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(ortam.Alan().subWindowList().size(), 2);
+  EXPECT_NE(QApplication::focusWidget(), nullptr);
+  ortam.pencere->Ac(AnaOrtam::Kayit("kulfrm"));
+  EXPECT_EQ(ortam.Alan().activeSubWindow()->pos(), QPoint(40, 50));
+
+  std::vector<std::string> kapanan;
+  for (const QMdiSubWindow* pencere : ortam.Alan().subWindowList())
+    QObject::connect(pencere->widget(), &QObject::destroyed,
+                     [&, ad = Utf8(pencere->widget()->objectName())] { kapanan.push_back(ad); });
+  ortam.pencere->EkranlariKapat();
+  EXPECT_EQ(kapanan, (std::vector<std::string>{"kulfrm", "araci", "firbil"}));
+  EXPECT_EQ(ortam.Odak(), "simgeler") << "the keyboard is with the desktop";
+}
+
+TEST(Anamenu, TheModeWordGoesBeforeTheScreen) {
+  AnaOrtam ortam;
+  std::string gorulen;
+  EkranKaydi kayit = AnaOrtam::Kayit("gvtablo");
+  kayit.yap = [&](const UygulamaBaglami& b) {
+    gorulen = b.ekran.oturum.PencereTip;
+    return std::make_unique<firbil>(b.ekran);
+  };
+  ortam.pencere->Ac(kayit);
+  EXPECT_EQ(gorulen, "GV");
+  EXPECT_EQ(AnaOrtam::Kayit("heskod").pencereTip, "edit");
+  ortam.pencere->Ac(AnaOrtam::Kayit("kulfrm"));
+  EXPECT_EQ(ortam.oturum.PencereTip, "") << "no screen gets the word of another";
+}
+
+TEST(Yardim, F1OpensThePageOfTheScreen) {
+  AnaOrtam ortam;
+  ortam.Bas(Qt::Key_F1);
+  ASSERT_NE(AcikYardim(), nullptr);
+  EXPECT_EQ(AcikYardim()->Kelime(), "masaustu");
+  ortam.pencere->Ac(AnaOrtam::Kayit("firbil"));
+  QApplication::setActiveWindow(ortam.pencere.get());
+  ortam.Onde<firbil>()->Denetim("unvan").Odak()->setFocus();
+  ortam.Bas(Qt::Key_F1);
+  EXPECT_EQ(AcikYardim()->Kelime(), "firbil");
+  EXPECT_EQ(AcikYardim()->findChild<QListWidget*>()->currentItem()->text(), "Firma Bilgileri");
+  EXPECT_TRUE(AcikYardim()->findChild<QTextBrowser*>()->toPlainText().contains("Firma Bilgileri"));
+  QApplication::setActiveWindow(AcikYardim());
+  ortam.Bas(Qt::Key_Escape);
+  EXPECT_EQ(AcikYardim(), nullptr);
+
+  // Above a dialog it has to belong to the dialog, or it would get no keys.
+  ortam.ModaldaYap([] {
+    EkranOrtami::Bas(Qt::Key_F1);
+    ASSERT_NE(AcikYardim(), nullptr);
+    EXPECT_EQ(AcikYardim()->Kelime(), "frmAbout");
+    EXPECT_EQ(AcikYardim()->parentWidget(), QApplication::activeModalWidget());
+    AcikYardim()->close();
+    QApplication::activeModalWidget()->close();
+  });
+  ortam.pencere->Islem(MenuIslemi::Hakkinda);
+}
+
+TEST(Yardim, TheSearchFindsByCaptionAndText) {
+  AnaOrtam ortam;
+  yardim& pencere = YardimGoster("index");
+  const auto gorunenler = [&] {
+    QStringList basliklar;
+    const auto* dizin = pencere.findChild<QListWidget*>();
+    for (int i = 0; i < dizin->count(); ++i)
+      if (!dizin->item(i)->isHidden()) basliklar += dizin->item(i)->text();
+    return basliklar;
+  };
+  EXPECT_EQ(gorunenler().mid(0, 2), (QStringList{"Kullanma Şekli", "Başlangıç"}));
+  auto& aranan = *pencere.findChild<QLineEdit*>();
+  aranan.setText("TEHLİKE SINIFI");
+  EXPECT_TRUE(gorunenler().contains("Firma Bilgileri"));
+  EXPECT_FALSE(gorunenler().contains("Kısa Yol"));
+  aranan.clear();
+  EXPECT_EQ(gorunenler().size(), qsizetype(YardimSayfalari().size()));
+  pencere.close();
+}
+
+TEST(Yardim, EveryBuiltScreenHasItsPage) {
+  std::vector<std::string> eksik;
+  const auto ara = [&](std::string_view kelime) {
+    if (!QFile::exists(Yazi(VeriDizini("yardim")) + Yazi(kelime) + ".html")) eksik.emplace_back(kelime);
+  };
+  for (const EkranKaydi& kayit : Ekranlar())
+    if (kayit.yap != nullptr) ara(kayit.kelime);
+  for (const char* kelime : {"index", "baslangic", "masaustu", "gorun", "kyol", "frmAbout"}) ara(kelime);
+  EXPECT_EQ(eksik, std::vector<std::string>{});
+}
+
+}  // namespace
+}  // namespace belvani::test
