@@ -3,14 +3,24 @@
 PRESET ?= dev
 JOBS ?= $(shell nproc)
 CLI = build/$(PRESET)/src/cli/belvani-cli
+MASAUSTU = build/$(PRESET)/src/app/belvani
+RESIMLER = build/$(PRESET)/src/app/belvani-resimler
 
-.PHONY: run test bench lint fuzz deps asan clean
+.PHONY: screenshots run test bench lint fuzz deps asan clean
 
-# The main job on the sample company: made in a scratch data path, all its months prepared, the last ledger printed.
+# The main job on the sample company. With a display: the desktop opens on it. Without one: it is made in a scratch data
+# path, all its months are prepared, and the last ledger is printed.
 run: deps
 	@cmake --preset $(PRESET) >/dev/null
-	@cmake --build --preset $(PRESET) --target belvani-cli -j $(JOBS)
-	@tools/ornek.sh $(CLI)
+	@cmake --build --preset $(PRESET) --target belvani-cli belvani -j $(JOBS)
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then tools/masaustu.sh $(CLI) $(MASAUSTU) build/ornek; \
+	else tools/ornek.sh $(CLI); fi
+
+# Pictures of every screen, filled from the sample company, for the documentation.
+screenshots: deps
+	@cmake --preset $(PRESET) >/dev/null
+	@cmake --build --preset $(PRESET) --target belvani-cli belvani-resimler -j $(JOBS)
+	@tools/resimler.sh $(CLI) $(RESIMLER) docs/img
 
 test: deps
 	cmake --preset $(PRESET)

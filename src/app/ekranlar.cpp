@@ -114,7 +114,8 @@ const std::vector<EkranKaydi>& Tablo() {
       {"Ek İşlemler", "Personel Bul", "perbul", "ara", "", Yap<perbul>},
 
       {"Parametreler", "Yasal Oranlar", "yyasor", "oran", "", Yap<yyasor>},
-      {"Parametreler", "Gelir Vergisi Tablosu", "gvtablo", "tablo", "", Yap<gvtablo>, MenuIslemi::Yok, FormModu::Serbest, "GV"},
+      {"Parametreler", "Gelir Vergisi Tablosu", "gvtablo", "tablo", "", Yap<gvtablo>, MenuIslemi::Yok,
+       FormModu::Serbest, "GV"},
       {"Parametreler", "Kazanç,Yardım Tanımları", "kykm", "kontrol", "Kazanç Yardım Tanımlama", Yap<kykm>},
       {"Parametreler", "Kanun Tarihleri", "kanun", "takvim", "", Yap<belvani::kanun>},
       {"Parametreler", "İndirimler", "indfrm", "oran", "", Yap<indfrm>},

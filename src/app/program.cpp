@@ -3,6 +3,7 @@
 #include <QEventLoop>
 
 #include "app/gosterici.h"
+#include "app/yardim.h"
 #include "core/screens/Dbupdate.h"
 #include "core/screens/startfrm.h"
 #include "ui/bildirimkutusu.h"
@@ -74,6 +75,7 @@ int ProgramiYurut(Uygulama& uygulama) {
   QApplication::setApplicationDisplayName(QStringLiteral("Belvani"));
   QApplication::setQuitOnLastWindowClosed(false);
   CeviriYukle(uygulama);
+  YardimTusuKur(uygulama);
   StilKur(uygulama, AcikRenkler());
   return Program(uygulama).Yurut();
 }

@@ -1,17 +1,22 @@
 // belvani-resimler DATA_PATH COMPANY USER PASSWORD OUTPUT_DIRECTORY [WORD …]
 //
-// Opens every screen of the registry (or those whose words are given) on a company and writes a picture of each. Meant
-// for the documentation and for looking at the screens after a change; needs no display.
-#include <QApplication>
+// Opens every screen (or those whose words are given) on a company, fills it as a user would, and writes a picture of
+// each. Meant for the documentation and for looking at the screens after a change; needs no display.
 #include <QDir>
-#include <QMdiArea>
+#include <QKeyEvent>
 #include <QMdiSubWindow>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <clocale>
 #include <iostream>
 
-#include "app/anamenu.h"
+#include "app/gosterici.h"
+#include "app/program.h"
+#include "app/yardim.h"
+#include "core/screens/startfrm.h"
+#include "payroll/screens/brckes.h"
 #include "ui/metin.h"
+#include "ui/pencere.h"
 #include "ui/stil.h"
 
 namespace belvani {
@@ -39,47 +44,139 @@ class DialogYok final : public Dialoglar {
   std::optional<QFont> FontSec(const QFont&) override { return {}; }
 };
 
-// The main window comes after the context that it is part of.
-struct AracidanGosterici final : FormGosterici {
-  anamenu* hedef = nullptr;
-  void SerbestGoster(std::unique_ptr<Form> form) override { hedef->SerbestGoster(std::move(form)); }
-  QWidget* ModalUst() override { return hedef; }
+// What is pressed before the picture is taken: keys by name, separated by blanks; other words are typed.
+struct Doldurma {
+  const char* kelime;
+  const char* tuslar;
+};
+constexpr Doldurma Doldurmalar[] = {
+    {"perkart", "Ctrl+Home PgDown"},
+    {"nufus", "Ctrl+Home PgDown"},
+    {"escofrm", "Ctrl+Home PgDown PgDown PgDown"},
+    {"brdhazir", "Home PgDown PgDown PgDown Return F4"},
+    {"sendtan", "F2 Return"},
+    {"perbul", "Ay Return"},
 };
 
-int ResimleriYap(const QStringList& arg) {
-  MetinBildirimi bildirim;
-  DialogYok dialoglar;
-  AracidanGosterici gosterici;
-  Oturum oturum;
-  oturum.DataPath = Utf8(arg[1]) + "/";
-  oturum.PrgPath = oturum.DataPath;
-  if (const Durum d = SirketAc(oturum, Utf8(arg[2]), bildirim); !d) {
-    std::cerr << d.HataMetni() << "\n";
-    return 1;
+class Resimler {
+ public:
+  Resimler(const QStringList& arg, QApplication& uygulama) : arg_(arg), uygulama_(uygulama) {}
+
+  int Yap() {
+    oturum_.DataPath = Utf8(arg_[1]) + "/";
+    oturum_.PrgPath = oturum_.DataPath;
+    oturum_.BilgisayarAdi = "MUHASEBE";
+    QDir().mkpath(arg_[5]);
+    if (Istenen("startfrm")) GirisResmi();
+    if (!Gir()) return 1;
+    anamenu pencere(ekran_, parametreler_);
+    gosterici_.pencere = &pencere;
+    pencere.resize(1366, 728);
+    pencere.show();
+    if (Istenen("anamenu")) Kaydet(pencere, "anamenu");
+    for (const EkranKaydi& kayit : Ekranlar())
+      if (kayit.yap != nullptr && Istenen(Yazi(kayit.kelime))) EkranResmi(pencere, kayit);
+    if (Istenen("pencere")) ModalResmi("pencere", [this] { PersonelSec(ekran_, ""); });
+    if (Istenen("brckes")) BorcResmi();
+    if (Istenen("gorun")) {
+      pencere.Islem(MenuIslemi::Gorunum);
+      Kaydet(*pencere.findChild<QMdiArea*>()->activeSubWindow(), "gorun");
+      pencere.EkranlariKapat();
+    }
+    if (Istenen("frmAbout")) ModalResmi("frmAbout", [&] { pencere.Islem(MenuIslemi::Hakkinda); });
+    if (Istenen("yardim")) {
+      yardim guide(&pencere);
+      guide.Ac("brdhazir");
+      guide.show();
+      Kaydet(guide, "yardim");
+    }
+    if (Istenen("anamenu-koyu")) {
+      pencere.Ac(*KisayolEkrani("Personel Kartları"));
+      Bas("Ctrl+Home");
+      StilKur(uygulama_, KoyuRenkler());
+      Kaydet(pencere, "anamenu-koyu");
+      StilKur(uygulama_, AcikRenkler());
+    }
+    pencere.EkranlariKapat();
+    return 0;
   }
-  if (!OturumAc(oturum, Utf8(arg[2]), Utf8(arg[3]), Utf8(arg[4]), bildirim)) return 1;
-  ParametreDeposu parametreler;
-  parametreler.YasalYukle(oturum.DataPath);
-  if (const Durum d = parametreler.FirmaYukle(oturum); !d) std::cerr << d.HataMetni() << "\n";
-  EkranBaglami ekran{oturum, bildirim, dialoglar, gosterici};
-  anamenu pencere(ekran, parametreler);
-  gosterici.hedef = &pencere;
-  pencere.resize(1366, 728);
-  pencere.show();
-  QDir().mkpath(arg[5]);
-  const QStringList istenen = arg.mid(6);
-  QCoreApplication::processEvents();
-  if (istenen.isEmpty()) pencere.grab().save(arg[5] + "/anamenu.png");
-  for (const EkranKaydi& kayit : Ekranlar()) {
-    const QString kelime = Yazi(kayit.kelime);
-    if (kayit.yap == nullptr || (!istenen.isEmpty() && !istenen.contains(kelime))) continue;
-    pencere.SerbestGoster(kayit.yap({ekran, parametreler}));
+
+ private:
+  bool Istenen(const QString& kelime) const { return arg_.size() == 6 || arg_.mid(6).contains(kelime); }
+
+  bool Gir() {
+    if (const Durum d = SirketAc(oturum_, Utf8(arg_[2]), bildirim_); !d) {
+      std::cerr << d.HataMetni() << "\n";
+      return false;
+    }
+    if (!OturumAc(oturum_, Utf8(arg_[2]), Utf8(arg_[3]), Utf8(arg_[4]), bildirim_)) return false;
+    parametreler_.YasalYukle(oturum_.DataPath);
+    if (const Durum d = parametreler_.FirmaYukle(oturum_); !d) std::cerr << d.HataMetni() << "\n";
+    return true;
+  }
+
+  void Kaydet(QWidget& parca, const QString& kelime) {
     QCoreApplication::processEvents();
-    pencere.findChild<QMdiArea*>()->activeSubWindow()->grab().save(arg[5] + "/" + kelime + ".png");
+    parca.grab().save(arg_[5] + "/" + kelime + ".png");
+  }
+
+  static void Bas(const char* tuslar) {
+    for (const QString& ad : QString::fromUtf8(tuslar).split(' ', Qt::SkipEmptyParts)) {
+      const QKeySequence dizi(ad);
+      const bool tusMu = ad.size() > 1 && dizi.count() == 1 && dizi[0].key() != Qt::Key_unknown;
+      for (const QChar harf : tusMu ? QString("?") : ad) {
+        QWidget* odak = QApplication::focusWidget();
+        if (odak == nullptr) return;
+        QKeyEvent olay(QEvent::KeyPress, tusMu ? int(dizi[0].key()) : harf.unicode(),
+                       tusMu ? dizi[0].keyboardModifiers() : Qt::KeyboardModifiers(),
+                       tusMu ? QString() : QString(harf));
+        QCoreApplication::sendEvent(odak, &olay);
+        QCoreApplication::processEvents();
+      }
+    }
+  }
+
+  void EkranResmi(anamenu& pencere, const EkranKaydi& kayit) {
+    oturum_.PencereTip = kayit.pencereTip;
+    pencere.SerbestGoster(kayit.yap({ekran_, parametreler_}));
+    QCoreApplication::processEvents();
+    for (const Doldurma& d : Doldurmalar)
+      if (kayit.kelime == d.kelime) Bas(d.tuslar);
+    Kaydet(*pencere.findChild<QMdiArea*>()->activeSubWindow(), Yazi(kayit.kelime));
     pencere.EkranlariKapat();
   }
-  return 0;
-}
+
+  // A window that stays until it is left: the picture is taken from inside, and Esc leaves it.
+  void ModalResmi(const QString& kelime, const std::function<void()>& ac) {
+    QTimer::singleShot(100, &uygulama_, [this, kelime] {
+      QWidget* modal = QApplication::activeModalWidget();
+      if (modal == nullptr) return;
+      Kaydet(*modal, kelime);
+      modal->close();
+    });
+    ac();
+  }
+
+  void GirisResmi() {
+    ModalResmi("startfrm", [this] { startfrm(ekran_).exec(); });
+  }
+
+  void BorcResmi() {
+    BordroGirisi giris(oturum_, parametreler_, bildirim_);
+    giris.Ac();
+    giris.Git(KisiYonu::Ilk);
+    ModalResmi("brckes", [&] { FormGoster(ekran_, std::make_unique<brckes>(ekran_, giris), FormModu::Modal); });
+  }
+
+  QStringList arg_;
+  QApplication& uygulama_;
+  MetinBildirimi bildirim_;
+  DialogYok dialoglar_;
+  AnaPencereGosterici gosterici_;
+  Oturum oturum_;
+  ParametreDeposu parametreler_;
+  EkranBaglami ekran_{oturum_, bildirim_, dialoglar_, gosterici_};
+};
 
 }  // namespace
 }  // namespace belvani
@@ -90,13 +187,14 @@ int main(int argc, char** argv) {
   qputenv("BELVANI_KULLANICI_DIZIN", ayarlar.path().toUtf8());
   qputenv("BELVANI_MAKINE_AYAR", (ayarlar.path() + "/makine.ini").toUtf8());
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication uygulama(argc, argv);
+  belvani::Uygulama uygulama(argc, argv);
   std::setlocale(LC_NUMERIC, "C");
-  if (uygulama.arguments().size() < 6) {
+  const QStringList arg = QCoreApplication::arguments();
+  if (arg.size() < 6) {
     std::cerr << "kullanım: belvani-resimler VERİ_DİZİNİ ŞİRKET KULLANICI ŞİFRE ÇIKTI_DİZİNİ [EKRAN …]\n";
     return 2;
   }
   belvani::CeviriYukle(uygulama);
   belvani::StilKur(uygulama, belvani::AcikRenkler());
-  return belvani::ResimleriYap(uygulama.arguments());
+  return belvani::Resimler(arg, uygulama).Yap();
 }

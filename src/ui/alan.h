@@ -28,17 +28,17 @@ constexpr int ParaOndalik = -1;    // decimals of money in the company's books
 inline constexpr std::array<std::string_view, 1> SonraDolar{""};
 
 struct AlanEki {
-  bool anahtar = false;                         // the record's key: leaving it looks the record up, F2 its list
+  bool anahtar = false;                          // the record's key: leaving it looks the record up, F2 its list
   std::span<const std::string_view> liste = {};  // choices; the position is stored
-  int listeTabani = 0;                          // number of the first choice
-  bool secenek = false;                         // choices as option buttons side by side
-  bool kutu = false;                            // a check box for a number: 0 or 1
+  int listeTabani = 0;                           // number of the first choice
+  bool secenek = false;                          // choices as option buttons side by side
+  bool kutu = false;                             // a check box for a number: 0 or 1
   int ondalik = TipinOndaligi;
-  double enCok = 0;      // largest number; 0: what the type holds
-  int harf = 0;          // width in letters; 0: follows from the type
-  bool kapali = false;   // shown, not typed into
-  bool sifre = false;    // masked
-  bool rehber = false;   // has a lookup list (F2)
+  double enCok = 0;     // largest number; 0: what the type holds
+  int harf = 0;         // width in letters; 0: follows from the type
+  bool kapali = false;  // shown, not typed into
+  bool sifre = false;   // masked
+  bool rehber = false;  // has a lookup list (F2)
   const char* ipucu = "";
 };
 
@@ -55,7 +55,11 @@ class Alan {
   // A value of an array member: DiziUyesi("k1", &Sablon::SablonGun, 0).
   Alan(AlanTanimi alanTanimi, std::type_index tur, std::function<Deger(const void*)> okuyan,
        std::function<void(void*, const Deger&)> yazan, const char* etiketMetni, AlanEki ekler = {})
-      : tanim(alanTanimi), etiket(etiketMetni), ek(ekler), kayitTuru(tur), oku(std::move(okuyan)),
+      : tanim(alanTanimi),
+        etiket(etiketMetni),
+        ek(ekler),
+        kayitTuru(tur),
+        oku(std::move(okuyan)),
         yaz(std::move(yazan)) {}
 
   AlanTanimi tanim;
@@ -69,14 +73,22 @@ class Alan {
 // The column type that a C++ type stands for.
 template <class U>
 constexpr AlanTipi TipiBul() {
-  if constexpr (std::is_same_v<U, Tutar>) return AlanTipi::Tutar;
-  else if constexpr (std::is_same_v<U, Tek>) return AlanTipi::Tek;
-  else if constexpr (std::is_same_v<U, Tarih>) return AlanTipi::Tarih;
-  else if constexpr (std::is_same_v<U, bool>) return AlanTipi::Mantik;
-  else if constexpr (std::is_same_v<U, std::uint8_t>) return AlanTipi::Byte;
-  else if constexpr (std::is_same_v<U, std::int16_t>) return AlanTipi::Kisa;
-  else if constexpr (std::is_same_v<U, std::int32_t>) return AlanTipi::Uzun;
-  else return AlanTipi::Metin;
+  if constexpr (std::is_same_v<U, Tutar>)
+    return AlanTipi::Tutar;
+  else if constexpr (std::is_same_v<U, Tek>)
+    return AlanTipi::Tek;
+  else if constexpr (std::is_same_v<U, Tarih>)
+    return AlanTipi::Tarih;
+  else if constexpr (std::is_same_v<U, bool>)
+    return AlanTipi::Mantik;
+  else if constexpr (std::is_same_v<U, std::uint8_t>)
+    return AlanTipi::Byte;
+  else if constexpr (std::is_same_v<U, std::int16_t>)
+    return AlanTipi::Kisa;
+  else if constexpr (std::is_same_v<U, std::int32_t>)
+    return AlanTipi::Uzun;
+  else
+    return AlanTipi::Metin;
 }
 
 // A member of a struct that is no table; `harf` is the longest text.
@@ -87,8 +99,8 @@ constexpr Kolon<Kayit, U> Uye(std::string_view ad, U Kayit::*uye, int harf = 0) 
 
 // The element `sira` of an array member.
 template <class Kayit, class U, std::size_t N>
-Alan DiziAlani(std::string_view ad, std::array<U, N> Kayit::*uye, std::size_t sira, const char* etiket,
-               AlanEki ek = {}, int harf = 0) {
+Alan DiziAlani(std::string_view ad, std::array<U, N> Kayit::*uye, std::size_t sira, const char* etiket, AlanEki ek = {},
+               int harf = 0) {
   return Alan(
       AlanTanimi{ad, TipiBul<U>(), harf, AlanNiteligi::Serbest}, typeid(Kayit),
       [=](const void* k) { return UyeDegeri((static_cast<const Kayit*>(k)->*uye)[sira]); },

@@ -19,7 +19,7 @@ class AlanDenetimi {
 
   const belvani::Alan& Satir() const { return alan_; }
 
-  virtual QWidget* Parca() = 0;              // stands in the form
+  virtual QWidget* Parca() = 0;                // stands in the form
   virtual QWidget* Odak() { return Parca(); }  // takes the focus
   virtual std::vector<QWidget*> Odaklar() { return {Odak()}; }
   virtual void Koy(const Deger& deger) = 0;  // no change is reported

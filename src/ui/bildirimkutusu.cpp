@@ -13,7 +13,7 @@ namespace belvani {
 namespace {
 
 constexpr int GostermeGecikmesi = 400;  // ms
-constexpr int AdimAraligi = 40;        // ms between two looks at the box
+constexpr int AdimAraligi = 40;         // ms between two looks at the box
 
 int Goster(QMessageBox::Icon simge, std::string_view metin, QMessageBox::StandardButtons dugmeler) {
   QMessageBox kutu(simge, QStringLiteral("Belvani"), Yazi(metin), dugmeler, QApplication::activeWindow());
@@ -70,14 +70,12 @@ bool IlerlemeKutusu::Adim(std::size_t biten, std::size_t toplam) {
 
 std::optional<std::string> SistemDialoglari::DosyaAc(const std::string& baslik, const std::string& dizin,
                                                      const std::string& filtre) {
-  return Secilen(
-      QFileDialog::getOpenFileName(QApplication::activeWindow(), Yazi(baslik), Yazi(dizin), Suzgec(filtre)));
+  return Secilen(QFileDialog::getOpenFileName(QApplication::activeWindow(), Yazi(baslik), Yazi(dizin), Suzgec(filtre)));
 }
 
 std::optional<std::string> SistemDialoglari::DosyaKaydet(const std::string& baslik, const std::string& dizin,
                                                          const std::string& filtre) {
-  return Secilen(
-      QFileDialog::getSaveFileName(QApplication::activeWindow(), Yazi(baslik), Yazi(dizin), Suzgec(filtre)));
+  return Secilen(QFileDialog::getSaveFileName(QApplication::activeWindow(), Yazi(baslik), Yazi(dizin), Suzgec(filtre)));
 }
 
 std::optional<std::string> SistemDialoglari::DizinSec(const std::string& baslik, const std::string& dizin) {

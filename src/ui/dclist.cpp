@@ -39,8 +39,7 @@ bool EnterMi(const QKeyEvent& olay) {
 
 }  // namespace
 
-dclist::dclist(Bildirim& bildirim, QWidget* ust)
-    : QTableView(ust), bildirim_(bildirim), model_(new dclistModel(this)) {
+dclist::dclist(Bildirim& bildirim, QWidget* ust) : QTableView(ust), bildirim_(bildirim), model_(new dclistModel(this)) {
   setModel(model_);
   setItemDelegate(new dclistHucre(*this));
   setAlternatingRowColors(true);
@@ -59,8 +58,7 @@ dclist::dclist(Bildirim& bildirim, QWidget* ust)
   horizontalHeader()->ensurePolished();
   YaziyaUydur();
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int kolon) {
-    const bool ters = model_->SiraKolonu() == kolon &&
-                      horizontalHeader()->sortIndicatorOrder() == Qt::AscendingOrder;
+    const bool ters = model_->SiraKolonu() == kolon && horizontalHeader()->sortIndicatorOrder() == Qt::AscendingOrder;
     const int satir = CurSat();
     horizontalHeader()->setSortIndicatorShown(true);
     horizontalHeader()->setSortIndicator(kolon, ters ? Qt::DescendingOrder : Qt::AscendingOrder);
@@ -279,8 +277,7 @@ QWidget* dclist::DuzenleyiciYap(QWidget* ust, int kolon) const {
 }
 
 bool dclist::TarihKusurlu(const dclistKolonu& kolon, QString& metin) {
-  const bool gerek =
-      kolon.denetim == HucreDenetimi::TarihGerek || kolon.denetim == HucreDenetimi::TarihGerekTatilUyar;
+  const bool gerek = kolon.denetim == HucreDenetimi::TarihGerek || kolon.denetim == HucreDenetimi::TarihGerekTatilUyar;
   if (metin.endsWith('.')) metin.chop(1);
   // What is missing at the end comes from today: 12.03 typed in 2005 is 12.03.2005.
   if (!metin.isEmpty() && metin.size() < 10) metin += Yazi(Tarih::Bugun().Metin()).mid(metin.size());

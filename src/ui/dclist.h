@@ -49,7 +49,7 @@ class dclist : public QTableView {
   int FindByName(const QString& ad, const QString& metin, int ilk = 0);
   dclistModel& Model() { return *model_; }
 
-  int CurSat() const;      // current row, -1 without one
+  int CurSat() const;  // current row, -1 without one
   int CurrentCol() const;
   Mod CurrentMode() const { return mod_; }
   void ChngSat(int satir);
@@ -71,13 +71,13 @@ class dclist : public QTableView {
   // The owner's part. Each is called with the row.
   std::function<bool(int)> SatirGuncelle = [](int) { return true; };
   std::function<bool(int)> SatirSil = [](int) { return false; };  // asks and deletes; true removes the row
-  std::function<void(int)> YeniSatir = [](int) {};                 // fills a fresh row
+  std::function<void(int)> YeniSatir = [](int) {};                // fills a fresh row
   // Leaving a cell with a new text: false keeps the cursor. May change the text.
   std::function<bool(int, const QString&, QString&)> Dogrula = [](int, const QString&, QString&) { return true; };
   // A cell has taken a new text.
   std::function<void(int, const QString&)> HucreDegisti = [](int, const QString&) {};
-  std::function<void(int)> SatirSecildi = [](int) {};        // another row is current
-  std::function<void(int)> Secildi = [](int) {};             // Enter or double click on a row of a list to read
+  std::function<void(int)> SatirSecildi = [](int) {};  // another row is current
+  std::function<void(int)> Secildi = [](int) {};       // Enter or double click on a row of a list to read
   std::function<bool(const QKeyEvent&)> Tus = [](const QKeyEvent&) { return false; };  // true: eaten
 
   // The owner is being destroyed: nothing is asked of him any more.

@@ -184,8 +184,8 @@ void Form::IpucuYaz() {
     const bool dugmeli = t.tus == Tanim(FormKomutu::Ilk).tus || t.tus == Tanim(FormKomutu::Son).tus ||
                          t.tus == Tanim(FormKomutu::Onceki).tus || t.tus == Tanim(FormKomutu::Sonraki).tus;
     if (dugmeli || t.aciklama.isEmpty()) continue;
-    const QString ad = t.tus == QKeySequence(Qt::Key_Return) ? QStringLiteral("Enter")
-                                                              : t.tus.toString(QKeySequence::PortableText);
+    const QString ad =
+        t.tus == QKeySequence(Qt::Key_Return) ? QStringLiteral("Enter") : t.tus.toString(QKeySequence::PortableText);
     parcalar += "<b>" + ad + "</b>&nbsp;" + t.aciklama.toHtmlEscaped();
   }
   std::rotate(parcalar.begin(), parcalar.begin() + 1, parcalar.end());  // "Esc" last

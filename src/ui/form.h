@@ -34,6 +34,7 @@ class Form : public QWidget {
   const std::vector<std::unique_ptr<AlanDenetimi>>& Denetimler() const { return denetimler_; }
   AlanDenetimi& Denetim(std::string_view ad) const;
   xtext& YaziKutusu(std::string_view ad) const;
+  void OdakVer(std::string_view ad);
 
  Q_SIGNALS:
   void Kapandi();
@@ -90,7 +91,6 @@ class Form : public QWidget {
   bool AlanlarSaglam(std::type_index kayitTuru);
   void Temizle();
   void IlkAlanaGit();
-  void OdakVer(std::string_view ad);
   // Where the keyboard begins, when that is not the first field. Focus given before the screen is shown is lost.
   void IlkOdak(QWidget* parca) { ilkOdak_ = parca; }
   // Any field was changed by the user.

@@ -34,7 +34,8 @@ class BelvaniStili final : public QProxyStyle {
       return QProxyStyle::drawComplexControl(denetim, secenek, boya, parca);
     const bool etkin = (baslik->titleBarState & Qt::WindowActive) != 0;
     const QPalette& palet = secenek->palette;
-    const QColor yazi = etkin ? palet.color(QPalette::HighlightedText) : palet.color(QPalette::Disabled, QPalette::Text);
+    const QColor yazi =
+        etkin ? palet.color(QPalette::HighlightedText) : palet.color(QPalette::Disabled, QPalette::Text);
     boya->fillRect(secenek->rect, etkin ? palet.color(QPalette::Highlight) : palet.color(QPalette::AlternateBase));
     boya->setPen(yazi);
     QRect metinYeri = subControlRect(CC_TitleBar, baslik, SC_TitleBarLabel, parca);
@@ -49,6 +50,40 @@ class BelvaniStili final : public QProxyStyle {
     const QPoint orta = kapat.center();
     boya->drawLine(orta + QPoint(-yaricap, -yaricap), orta + QPoint(yaricap, yaricap));
     boya->drawLine(orta + QPoint(-yaricap, yaricap), orta + QPoint(yaricap, -yaricap));
+  }
+
+  // Boxes and rounds with an outline that stands out from light and dark surfaces alike.
+  void drawPrimitive(PrimitiveElement oge, const QStyleOption* secenek, QPainter* boya,
+                     const QWidget* parca) const override {
+    if (oge != PE_IndicatorCheckBox && oge != PE_IndicatorRadioButton && oge != PE_IndicatorItemViewItemCheck)
+      return QProxyStyle::drawPrimitive(oge, secenek, boya, parca);
+    const bool etkin = (secenek->state & State_Enabled) != 0;
+    const bool odakta = (secenek->state & State_HasFocus) != 0;
+    const QPalette& palet = secenek->palette;
+    const auto grup = etkin ? QPalette::Active : QPalette::Disabled;
+    const QRectF kutu = QRectF(secenek->rect).adjusted(1.5, 1.5, -1.5, -1.5);
+    boya->save();
+    boya->setRenderHint(QPainter::Antialiasing);
+    boya->setBrush(palet.color(grup, QPalette::Base));
+    boya->setPen(
+        QPen(odakta ? palet.color(QPalette::Highlight) : palet.color(grup, QPalette::PlaceholderText), odakta ? 2 : 1));
+    const bool yuvarlak = oge == PE_IndicatorRadioButton;
+    yuvarlak ? boya->drawEllipse(kutu) : boya->drawRoundedRect(kutu, 2, 2);
+    if (secenek->state & State_On) {
+      const QColor isaret = palet.color(grup, QPalette::Text);
+      const QRectF ic =
+          kutu.adjusted(kutu.width() * 0.25, kutu.height() * 0.25, -kutu.width() * 0.25, -kutu.height() * 0.25);
+      if (yuvarlak) {
+        boya->setPen(Qt::NoPen);
+        boya->setBrush(isaret);
+        boya->drawEllipse(ic);
+      } else {
+        boya->setPen(QPen(isaret, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        boya->drawPolyline(QPolygonF{
+            {ic.left(), ic.center().y()}, {ic.center().x() - ic.width() * 0.1, ic.bottom()}, {ic.right(), ic.top()}});
+      }
+    }
+    boya->restore();
   }
 
   int pixelMetric(PixelMetric olcu, const QStyleOption* secenek, const QWidget* parca) const override {
@@ -128,7 +163,8 @@ QTableView { background: @GridArka; alternate-background-color: @GridZebra; colo
 QTableView:focus { border: 1px solid @Vurgu; }
 QTableView::item:selected:active:focus { background: @GridAktif; color: @GridAktifText; }
 QHeaderView { background: @GridBaslik; }
-QHeaderView::section { background: @GridBaslik; color: @GridBaslikText; border: none; padding: 5px 6px; }
+QHeaderView::section { background: @GridBaslik; color: @GridBaslikText; border: none; padding: 5px 3px; }
+QTableCornerButton::section { background: @GridBaslik; border: none; }
 QMenuBar { background: @MenuArka; color: @MenuText; padding: 2px; }
 QMenuBar::item { padding: 5px 10px; border-radius: 4px; background: transparent; }
 QMenuBar::item:selected { background: @GridSecili; color: @GridSeciliText; }
@@ -153,20 +189,34 @@ QString SayfaYaz(const RenkTablosu& t, bool koyu) {
   };
   // Longer names first, so that none is taken for the beginning of another.
   static constexpr Ad adlar[] = {
-      {Renk::GridSeciliText, "GridSeciliText"}, {Renk::GridBaslikText, "GridBaslikText"},
-      {Renk::GridAktifText, "GridAktifText"},   {Renk::TextOdakArka, "TextOdakArka"},
-      {Renk::PencereArka, "PencereArka"},       {Renk::GridBaslik, "GridBaslik"},
-      {Renk::GridSecili, "GridSecili"},         {Renk::ToplamArka, "ToplamArka"},
-      {Renk::ToplamText, "ToplamText"},         {Renk::GridAktif, "GridAktif"},
-      {Renk::GridCizgi, "GridCizgi"},           {Renk::GridZebra, "GridZebra"},
-      {Renk::IpucuArka, "IpucuArka"},           {Renk::IpucuText, "IpucuText"},
-      {Renk::PasifArka, "PasifArka"},           {Renk::PasifText, "PasifText"},
-      {Renk::SolukYazi, "SolukYazi"},           {Renk::VurguText, "VurguText"},
-      {Renk::GridArka, "GridArka"},             {Renk::GridText, "GridText"},
-      {Renk::HataArka, "HataArka"},             {Renk::HataText, "HataText"},
-      {Renk::MenuArka, "MenuArka"},             {Renk::MenuText, "MenuText"},
-      {Renk::TextArka, "TextArka"},             {Renk::Cerceve, "Cerceve"},
-      {Renk::Vurgu, "Vurgu"},                   {Renk::Yazi, "Yazi"},
+      {Renk::GridSeciliText, "GridSeciliText"},
+      {Renk::GridBaslikText, "GridBaslikText"},
+      {Renk::GridAktifText, "GridAktifText"},
+      {Renk::TextOdakArka, "TextOdakArka"},
+      {Renk::PencereArka, "PencereArka"},
+      {Renk::GridBaslik, "GridBaslik"},
+      {Renk::GridSecili, "GridSecili"},
+      {Renk::ToplamArka, "ToplamArka"},
+      {Renk::ToplamText, "ToplamText"},
+      {Renk::GridAktif, "GridAktif"},
+      {Renk::GridCizgi, "GridCizgi"},
+      {Renk::GridZebra, "GridZebra"},
+      {Renk::IpucuArka, "IpucuArka"},
+      {Renk::IpucuText, "IpucuText"},
+      {Renk::PasifArka, "PasifArka"},
+      {Renk::PasifText, "PasifText"},
+      {Renk::SolukYazi, "SolukYazi"},
+      {Renk::VurguText, "VurguText"},
+      {Renk::GridArka, "GridArka"},
+      {Renk::GridText, "GridText"},
+      {Renk::HataArka, "HataArka"},
+      {Renk::HataText, "HataText"},
+      {Renk::MenuArka, "MenuArka"},
+      {Renk::MenuText, "MenuText"},
+      {Renk::TextArka, "TextArka"},
+      {Renk::Cerceve, "Cerceve"},
+      {Renk::Vurgu, "Vurgu"},
+      {Renk::Yazi, "Yazi"},
   };
   QString sayfa = QString::fromUtf8(Sayfa);
   for (const Ad& a : adlar) sayfa.replace("@" + QString(a.ad), RenkYap(RenkAl(t, a.renk)).name());

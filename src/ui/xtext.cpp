@@ -136,6 +136,12 @@ void xtext::ButonKoy(const QString& ipucu) {
   setTextMargins(0, 0, fontMetrics().height() + 6, 0);
 }
 
+// The picture takes the text colour of the look in force.
+void xtext::changeEvent(QEvent* olay) {
+  QLineEdit::changeEvent(olay);
+  if (olay->type() == QEvent::PaletteChange && buton_ != nullptr) buton_->setIcon(Simge("ara"));
+}
+
 void xtext::resizeEvent(QResizeEvent* olay) {
   QLineEdit::resizeEvent(olay);
   if (buton_ == nullptr) return;

@@ -1,5 +1,5 @@
-// xtext: the one-line field of every screen. It holds a text, a number or a date, formats while the user types, moves on
-// with Enter, and loads and stores itself from a named field of a record.
+// xtext: the one-line field of every screen. It holds a text, a number or a date, formats while the user types, moves
+// on with Enter, and loads and stores itself from a named field of a record.
 //
 //   Enter, Down    next field           Delete      empties a number or date wherever the caret stands
 //   Up             previous field       "+"         three zeros at the end of a number
@@ -55,9 +55,9 @@ class xtext : public QLineEdit {
   void ButonKoy(const QString& ipucu);
 
  Q_SIGNALS:
-  void Change();         // after every accepted key
-  void Lookup();         // F2, or a press of the picture button
-  void Ayrildi();        // focus has gone
+  void Change();   // after every accepted key
+  void Lookup();   // F2, or a press of the picture button
+  void Ayrildi();  // focus has gone
 
  protected:
   void keyPressEvent(QKeyEvent* olay) override;
@@ -65,6 +65,7 @@ class xtext : public QLineEdit {
   void focusOutEvent(QFocusEvent* olay) override;
   void inputMethodEvent(QInputMethodEvent* olay) override;
   void resizeEvent(QResizeEvent* olay) override;
+  void changeEvent(QEvent* olay) override;
 
  private:
   bool OrtakTus(const QKeyEvent& olay);
@@ -84,7 +85,7 @@ class xtext : public QLineEdit {
   int grup_ = 3;
   bool tumunuSec_ = false;
   bool ilkTus_ = true;
-  QString ham_;  // digits of a number as typed: "1250.5"
+  QString ham_;                    // digits of a number as typed: "1250.5"
   std::optional<Deger> yuklenen_;  // a number that nobody has typed over yet
   std::string alan_;
   QToolButton* buton_ = nullptr;

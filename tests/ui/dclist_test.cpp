@@ -47,8 +47,7 @@ TEST(Dclist, ARowIsTypedCheckedAndHandedOverOnce) {
   EXPECT_EQ(l.bildirim.Al(), Iletiler{"Bilgi: Hatalı Tarih Girildi.\nDüzeltiniz."}) << "the cursor stays";
   EkranOrtami::Bas(Qt::Key_Delete);
   EkranOrtami::Yaz("11072009\n1500\n");
-  EXPECT_EQ(l.bildirim.Al(),
-            Iletiler{"Bilgi: 11 Temmuz 2009 Cumartesi\nTatil gününe denk gelen tarih girdiniz."});
+  EXPECT_EQ(l.bildirim.Al(), Iletiler{"Bilgi: 11 Temmuz 2009 Cumartesi\nTatil gününe denk gelen tarih girdiniz."});
   EXPECT_TRUE(l.kaydedilen.empty());
   EkranOrtami::Yaz("4\n");
   EXPECT_EQ(l.kaydedilen, std::vector<std::string>{"Ş1|11.07.2009||150.00|4-1.Çocuk|"}) << "1500 is above the limit";

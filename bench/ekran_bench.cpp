@@ -1,0 +1,183 @@
+// Speed of the screens: lists of 100,000 rows, the lookup window at 10,000 people, a person with ten years of records
+// on the payroll screen, the exit of a field.
+#include <QApplication>
+#include <benchmark/benchmark.h>
+#include <clocale>
+
+#include "payroll/screens/brdhazir.h"
+#include "sirketuret.h"
+#include "ui/dclist.h"
+#include "ui/metin.h"
+#include "ui/pencere.h"
+
+namespace belvani {
+namespace {
+
+class SessizBildirim final : public Bildirim {
+ public:
+  void Bilgi(std::string_view) override {}
+  void Uyari(std::string_view) override {}
+  bool Soru(std::string_view) override { return true; }
+};
+
+SessizBildirim bildirim;
+
+void ListeyiDoldur(dclist& liste, const std::vector<QString>& hucreler, int satirlar) {
+  liste.Model().TopluBasla();
+  liste.Clear();
+  for (int i = 0; i < satirlar; ++i) {
+    const int satir = liste.Add();
+    for (int k = 0; k < 4; ++k) liste.Text(satir, k, hucreler[std::size_t(i * 4 + k)]);
+  }
+  liste.Model().TopluBitir();
+}
+
+struct BuyukListe {
+  static constexpr int Satir = 100'000;
+  std::vector<QString> hucreler;
+  dclist liste{bildirim};
+
+  BuyukListe() {
+    for (int i = 0; i < Satir; ++i)
+      for (const QString& h : {QString::number(i), QStringLiteral("Işıl Gökçe %1").arg(i % 977),
+                               QStringLiteral("Çağlar %1").arg(i % 1231), QStringLiteral("01.07.2009")})
+        hucreler.push_back(h);
+    for (const char* ad : {"kod", "adi", "soyadi", "tarih"}) liste.CreateNewCaption('m', ad, ad, 120);
+    liste.resize(700, 500);
+    liste.show();
+  }
+};
+
+BuyukListe& Liste() {
+  static BuyukListe liste;
+  return liste;
+}
+
+// Filling and showing, up to the painted list.
+void ListeAcilisi(benchmark::State& durum) {
+  for (auto _ : durum) {
+    ListeyiDoldur(Liste().liste, Liste().hucreler, BuyukListe::Satir);
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(ListeAcilisi)->Unit(benchmark::kMillisecond);
+
+void ListeSuzme(benchmark::State& durum) {
+  ListeyiDoldur(Liste().liste, Liste().hucreler, BuyukListe::Satir);
+  const QStringList tuslar{"ç", "ça", "çağ", "çağlar 12", "ışıl", "9999", ""};
+  qsizetype i = 0;
+  for (auto _ : durum) {
+    Liste().liste.Filtrele(tuslar[i++ % tuslar.size()]);
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(ListeSuzme)->Unit(benchmark::kMillisecond);
+
+class DialogYok final : public Dialoglar {
+ public:
+  std::optional<std::string> DosyaAc(const std::string&, const std::string&, const std::string&) override { return {}; }
+  std::optional<std::string> DosyaKaydet(const std::string&, const std::string&, const std::string&) override {
+    return {};
+  }
+  std::optional<std::string> DizinSec(const std::string&, const std::string&) override { return {}; }
+  std::optional<std::uint32_t> RenkSec(std::uint32_t) override { return {}; }
+  std::optional<QFont> FontSec(const QFont&) override { return {}; }
+};
+
+struct Yok final : FormGosterici {
+  void SerbestGoster(std::unique_ptr<Form>) override {}
+  QWidget* ModalUst() override { return nullptr; }
+};
+
+// 10,000 people with ten years of pay records each.
+struct BuyukSirket {
+  static constexpr int Kisi = 10'000;
+  bench::Sirket sirket{Kisi, 2009, 1, 120};
+  ParametreDeposu parametreler;
+  DialogYok dialoglar;
+  Yok gosterici;
+  EkranBaglami ekran{sirket.o, bildirim, dialoglar, gosterici};
+
+  BuyukSirket() {
+    parametreler.yasal = sirket.kosullar.yasal;
+    parametreler.firma = sirket.kosullar.firma;
+    sirket.o.firmayil = 2009;
+    sirket.o.firmaay = 1;
+  }
+  static std::string Kod(int i) { return bench::OrnekKisi(i * 7919 % Kisi).kod; }
+};
+
+BuyukSirket& Sirket() {
+  static BuyukSirket sirket;
+  return sirket;
+}
+
+void Bas(int tus, const QString& metin = {}) {
+  QWidget* odak = QApplication::focusWidget();
+  QKeyEvent olay(QEvent::KeyPress, tus, Qt::NoModifier, metin);
+  QCoreApplication::sendEvent(odak, &olay);
+  QCoreApplication::processEvents();
+}
+
+// From the Enter behind the code to the painted screen.
+void KisiGelisi(benchmark::State& durum) {
+  brdhazir form(Sirket().ekran, Sirket().parametreler);
+  form.show();
+  QApplication::setActiveWindow(&form);
+  int i = 0;
+  for (auto _ : durum) {
+    form.OdakVer("kod");
+    form.YaziKutusu("kod").DegerKoy(BuyukSirket::Kod(++i));
+    Bas(Qt::Key_Return);
+    if (form.Giris().Durumu() != BordroGirisi::Hal::KisiSecili) durum.SkipWithError("nobody came up");
+  }
+}
+BENCHMARK(KisiGelisi)->Unit(benchmark::kMillisecond);
+
+// From the Enter in a day field to the painted results.
+void AlandanCikis(benchmark::State& durum) {
+  brdhazir form(Sirket().ekran, Sirket().parametreler);
+  form.show();
+  QApplication::setActiveWindow(&form);
+  form.OdakVer("kod");
+  form.YaziKutusu("kod").DegerKoy(BuyukSirket::Kod(1));
+  Bas(Qt::Key_Return);
+  int i = 0;
+  for (auto _ : durum) {
+    durum.PauseTiming();
+    form.OdakVer("ng");
+    QCoreApplication::processEvents();
+    Bas(Qt::Key_1 + i++ % 9, QString::number(1 + i % 9));
+    durum.ResumeTiming();
+    Bas(Qt::Key_Return);
+  }
+}
+BENCHMARK(AlandanCikis)->Unit(benchmark::kMillisecond);
+
+// One key in the lookup window.
+void RehberTusu(benchmark::State& durum) {
+  pencere form(Sirket().ekran);
+  form.show();
+  QApplication::setActiveWindow(&form);
+  form.findChild<QComboBox*>()->setCurrentIndex(3);  // by name, anywhere
+  auto* aranan = form.findChild<xtext*>();
+  const QStringList metinler{"a", "ay", "", "ş", "iş"};
+  qsizetype i = 0;
+  for (auto _ : durum) {
+    aranan->setText(metinler[i++ % metinler.size()]);
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(RehberTusu)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace belvani
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication uygulama(argc, argv);
+  std::setlocale(LC_NUMERIC, "C");
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
