@@ -326,6 +326,8 @@ bool brdhazir::eventFilter(QObject* nesne, QEvent* olay) {
 }
 
 void brdhazir::AlanaGirildi(AlanDenetimi* yeni) {
+  // Passed through on the way to another field.
+  if (!yeni->Parca()->hasFocus()) return;
   AlanDenetimi* eski = std::exchange(simdiki_, yeni);
   if (eski == yeni) return;
   if (eski != nullptr) GirisiOku();
