@@ -39,7 +39,7 @@ class Program {
     gosterici_.pencere = &pencere;
     QEventLoop dongu;
     QObject::connect(&pencere, &anamenu::Kapandi, &dongu, &QEventLoop::quit);
-    pencere.show();
+    pencere.showMaximized();
     QCoreApplication::processEvents();
     const bool devam = VersiyonKontrol(oturum_, bildirim_) ||
                        VeritabaniGuncelleGoster(ekran_, parametreler_) != GuncellemeSonucu::ProgramBitsin;

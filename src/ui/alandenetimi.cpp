@@ -1,10 +1,12 @@
 #include "ui/alandenetimi.h"
 
+#include <QAbstractItemView>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QRadioButton>
+#include <QStylePainter>
 
 #include "ui/metin.h"
 
@@ -110,9 +112,31 @@ class YaziDenetimi final : public AlanDenetimi {
   xtext* yazi_;
 };
 
+// A list that may be narrower than its choices: the closed one ends in "…", the opened one shows them whole.
+class DarListe final : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+  void showPopup() override {
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    QComboBox::showPopup();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QStyleOptionComboBox ayar;
+    initStyleOption(&ayar);
+    const QRect yer = style()->subControlRect(QStyle::CC_ComboBox, &ayar, QStyle::SC_ComboBoxEditField, this);
+    ayar.currentText = fontMetrics().elidedText(ayar.currentText, Qt::ElideRight, yer.width() - 2);
+    QStylePainter boya(this);
+    boya.drawComplexControl(QStyle::CC_ComboBox, ayar);
+    boya.drawControl(QStyle::CE_ComboBoxLabel, ayar);
+  }
+};
+
 class ListeDenetimi final : public AlanDenetimi {
  public:
-  ListeDenetimi(const belvani::Alan& alan, QWidget* ust) : AlanDenetimi(alan), liste_(new QComboBox(ust)) {
+  ListeDenetimi(const belvani::Alan& alan, QWidget* ust) : AlanDenetimi(alan), liste_(new DarListe(ust)) {
     for (const std::string_view secenek : alan.ek.liste) liste_->addItem(Yazi(secenek));
     liste_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     liste_->setMaxVisibleItems(20);

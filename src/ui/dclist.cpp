@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QPointer>
 
-#include "core/sayi.h"
+#include "ui/dclistdenetim.h"
 #include "ui/dclisthucre.h"
 #include "ui/metin.h"
 #include "ui/xtext.h"
@@ -276,38 +276,6 @@ QWidget* dclist::DuzenleyiciYap(QWidget* ust, int kolon) const {
   return yazi;
 }
 
-bool dclist::TarihKusurlu(const dclistKolonu& kolon, QString& metin) {
-  const bool gerek = kolon.denetim == HucreDenetimi::TarihGerek || kolon.denetim == HucreDenetimi::TarihGerekTatilUyar;
-  if (metin.endsWith('.')) metin.chop(1);
-  // What is missing at the end comes from today: 12.03 typed in 2005 is 12.03.2005.
-  if (!metin.isEmpty() && metin.size() < 10) metin += Yazi(Tarih::Bugun().Metin()).mid(metin.size());
-  const Tarih tarih = Tarih::MetinOku(Utf8(metin));
-  if (tarih.Bos()) {
-    metin.clear();
-    if (gerek) bildirim_.Bilgi("Hatalı Tarih Girildi.\nDüzeltiniz.");
-    return gerek;
-  }
-  metin = Yazi(tarih.Metin());
-  const bool tatilUyar =
-      kolon.denetim == HucreDenetimi::TarihGerekTatilUyar || kolon.denetim == HucreDenetimi::TarihTatilUyar;
-  if (tatilUyar && (tarih.GunAdi() == "Cumartesi" || tarih.GunAdi() == "Pazar"))
-    bildirim_.Bilgi(tarih.UzunMetin() + "\nTatil gününe denk gelen tarih girdiniz.");
-  return false;
-}
-
-bool dclist::MetinKusurlu(const dclistKolonu& kolon, QString& metin) {
-  if (kolon.tip == dclistKolonu::Tip::Tarih) return TarihKusurlu(kolon, metin);
-  if (kolon.denetim == HucreDenetimi::MetinGerek && metin.trimmed().isEmpty()) {
-    bildirim_.Bilgi("En Az Bir Harf Girmelisiniz.");
-    return true;
-  }
-  if (kolon.denetim == HucreDenetimi::SayiGerek && kolon.tip == dclistKolonu::Tip::Sayi && !TutarOku(Utf8(metin))) {
-    bildirim_.Bilgi("Bir Sayi Girmelisiniz.");
-    return true;
-  }
-  return false;
-}
-
 bool dclist::HucreBitir(QWidget* duzenleyici) {
   const int satir = CurSat();
   const int kolon = CurrentCol();
@@ -317,10 +285,10 @@ bool dclist::HucreBitir(QWidget* duzenleyici) {
   const dclistKolonu& tanim = model_->Kolonlar()[std::size_t(kolon)];
   const QPointer<QWidget> duran(duzenleyici);
   bitiriliyor_ = true;  // a message box takes the focus; that does not complete the row
-  const bool alinir = !MetinKusurlu(tanim, metin) && Dogrula(satir, tanim.ad, metin);
+  const bool alinir = HucreDenetle(tanim, metin, bildirim_) && Dogrula(satir, tanim.ad, metin);
   bitiriliyor_ = false;
   if (!alinir) {
-    if (duran) duran->setFocus();
+    if (duran && duran->isVisible()) duran->setFocus();  // a screen that is going takes the keyboard from nobody
     return false;
   }
   if (metin != model_->Metin(satir, kolon)) {

@@ -98,8 +98,6 @@ class dclist : public QTableView {
 
  private:
   void YaziyaUydur();
-  bool MetinKusurlu(const dclistKolonu& kolon, QString& metin);
-  bool TarihKusurlu(const dclistKolonu& kolon, QString& metin);
   void YeniSatirAc();
   void SimdikiSatiriSil();
   void Kopyala() const;

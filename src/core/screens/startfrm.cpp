@@ -182,7 +182,9 @@ void startfrm::IlkBosAlanaGit() {
 
 void startfrm::showEvent(QShowEvent* olay) {
   QDialog::showEvent(olay);
-  if (!olay->spontaneous()) IlkBosAlanaGit();
+  if (olay->spontaneous()) return;
+  activateWindow();  // the program's first window: some desktops leave the keyboard where it was
+  IlkBosAlanaGit();
 }
 
 bool startfrm::TusuIsle(const QObject* alan, int tus) {

@@ -4,8 +4,8 @@
 #include <QKeyEvent>
 #include <QTimer>
 
-#include "payroll/hesap/satirlar.h"
 #include "payroll/screens/brckes.h"
+#include "payroll/screens/brdhaziralanlar.h"
 #include "ui/bildirimkutusu.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
@@ -13,78 +13,7 @@
 namespace belvani {
 namespace {
 
-// What the screen holds besides record and sums.
-struct Secim {
-  std::string kod;
-  int sebep = 0;  // position in EksikSebepleri
-};
-
-constexpr int TutarHarfi = 11;
 constexpr int UyariAraligi = 600;  // ms, of the blinking warning
-
-// An amount of the calculated record: shown, not typed.
-template <class U>
-Alan Sonucta(Kolon<Brd, U> kolon, const char* etiket, AlanEki ek = {}) {
-  ek.kapali = true;
-  if (ek.harf == 0) ek.harf = TutarHarfi;
-  return Alan(
-      kolon, typeid(BordroSonucu),
-      [uye = kolon.uye](const void* s) { return UyeDegeri(static_cast<const BordroSonucu*>(s)->brd.*uye); },
-      [](void*, const Deger&) {}, etiket, ek);
-}
-
-Alan Toplamda(std::string_view ad, Tutar EkranToplamlari::*uye, const char* etiket) {
-  return {Uye(ad, uye), etiket, {.harf = TutarHarfi, .kapali = true}};
-}
-
-std::vector<Alan> GunAlanlari() {
-  std::vector<Alan> alanlar;
-  for (std::size_t i = 0; i < GunKolonlari.size(); ++i)
-    alanlar.emplace_back(GunKolonlari[i], KazancAdlari[i].data(), AlanEki{.enCok = EnCokGun});
-  for (std::size_t i = 0; i < MesaiKolonlari.size(); ++i)
-    alanlar.emplace_back(MesaiKolonlari[i], KazancAdlari[GunSatiriSayisi + i].data(),
-                         AlanEki{.enCok = EnCokSaat, .harf = 6});
-  return alanlar;
-}
-
-std::vector<Alan> YardimAlanlari(const YardimTanimlari& yardimlar) {
-  std::vector<Alan> alanlar;
-  for (std::size_t i = 0; i < YardimKolonlari.size(); ++i)
-    alanlar.emplace_back(YardimKolonlari[i], yardimlar[i].adi.c_str(), AlanEki{.harf = TutarHarfi});
-  return alanlar;
-}
-
-std::vector<AlanGrubu> OzetGruplari() {
-  return {{"Bordro Özeti",
-           {Toplamda("kazanclar", &EkranToplamlari::kazanclar, "Kazançlar"),
-            Toplamda("yardimlar", &EkranToplamlari::yardimlar, "Yardımlar"),
-            Toplamda("brut", &EkranToplamlari::brut, "TOPLAM"), Toplamda("ssk", &EkranToplamlari::ssk, "S.S.K."),
-            Toplamda("vergiler", &EkranToplamlari::vergiler, "G.V.+D.V."),
-            Toplamda("yasalKesinti", &EkranToplamlari::yasalKesinti, "Kesintiler"),
-            Toplamda("ozelKesinti", &EkranToplamlari::ozelKesinti, "Ö.Kes."),
-            Toplamda("agi", &EkranToplamlari::agi, "A.G.İ."), Toplamda("net", &EkranToplamlari::net, "NET"),
-            Alan(Uye("SskGun", &EkranToplamlari::SskGun), "Toplam Gün", {.kapali = true}),
-            Sonucta(brd::brutkaz, "Brüt Gelir")}}};
-}
-
-std::vector<AlanGrubu> AyrintiGruplari() {
-  return {{"Matrahlar",
-           {Sonucta(brd::sskmatrah, "SSK Matrahı"), Sonucta(brd::gvmatrah, "GV Matrahı"),
-            Sonucta(brd::devgvmatrah, "Dev. GV Matrahı"), Sonucta(brd::devgvtutar, "Dev. GV Tutarı"),
-            Toplamda("kumuleMatrah", &EkranToplamlari::kumuleMatrah, "Kümüle Gelir Vergisi"),
-            Toplamda("kumuleVergi", &EkranToplamlari::kumuleVergi, "Kümüle G.V. Tutarı")},
-           2},
-          {"İşçi ve İşveren Payları",
-           {Sonucta(brd::sskiscior, "SSK İşçi %", {.harf = 7}), Sonucta(brd::sskkesinti, "SSK İşçi"),
-            Sonucta(brd::issiziscior, "İşsizlik İşçi %", {.harf = 7}), Sonucta(brd::issizisci, "İşsizlik İşçi"),
-            Sonucta(brd::sskisverenor, "SSK İşveren %", {.harf = 7}), Sonucta(brd::gvtutar, "Gelir Vergisi"),
-            Sonucta(brd::issizisverenor, "İşsizlik İşvr. %", {.harf = 7}), Sonucta(brd::dvtutar, "Damga Vergisi"),
-            Sonucta(brd::sskkesintiisveren, "SSK İşveren"),
-            Toplamda("isciToplam", &EkranToplamlari::isciToplam, "İşçi TOPLAM"),
-            Sonucta(brd::issizisveren, "İşsizlik İşveren"),
-            Toplamda("isverenToplam", &EkranToplamlari::isverenToplam, "İşveren TOPLAM")},
-           2}};
-}
 
 // Of a list that is reached by a key and stands outside the walk of Enter.
 QComboBox* Liste(QWidget* ust) {
@@ -156,7 +85,7 @@ void brdhazir::UstSatirYap() {
 
 // The code comes first in the walk of Enter.
 void brdhazir::KodAlaniYap(QHBoxLayout* satir) {
-  DenetimEkle({Uye("kod", &Secim::kod, brd::kod.boyut), "Sicil No", {.anahtar = true}}, this);
+  DenetimEkle(KodAlani(), this);
   satir->addWidget(new QLabel(QStringLiteral("Sicil No"), this));
   satir->addWidget(Denetim("kod").Parca());
   kisi_->setProperty("baslik", true);
@@ -176,15 +105,12 @@ void brdhazir::GovdeYap() {
     orta->addLayout(dikey);
     return dikey;
   };
-  sutun({{"Günler ve Mesai", GunAlanlari()}});
-  sutun({{"Yardımlar", YardimAlanlari(giris_.Kosul().firma.yardimlar)}});
+  sutun({GunGrubu()});
+  sutun({YardimGrubu(giris_.Kosul().firma.yardimlar)});
   sutun(OzetGruplari());
-  auto* sag = sutun(AyrintiGruplari());
-  sag->insertWidget(0, GrupYap({"Eksik Gün",
-                                {{Uye("sebep", &Secim::sebep), "Eksik Gün S.", {.liste = EksikSebepleri, .harf = 11}},
-                                 {brd::ucretsizizin, "Ücretsiz İzin", {.enCok = 31}},
-                                 {brd::rapcalismadi, "Raporda Çalışmadı", {.kutu = true}}},
-                                3}));
+  // What is typed comes before what follows from it, in the order of Tab too.
+  auto* eksikGun = GrupYap(EksikGunGrubu());
+  sutun(AyrintiGruplari())->insertWidget(0, eksikGun);
   Govde()->addLayout(orta);
   kusur_->setProperty("hata", true);
   Govde()->addWidget(kusur_);
@@ -227,7 +153,7 @@ void brdhazir::TuslariBagla() {
   TusBagla(Qt::Key_F9, QStringLiteral("Netten Brüte"), [this] {
     if (simdiki_ == nullptr) return;
     GirisiOku();
-    giris_.NettenBruteCevir(AlanNo(*simdiki_));
+    giris_.NettenBruteCevir(BordroAlanNo(simdiki_->Satir().tanim.ad));
     Goster();
   });
   TusBagla(QKeySequence(Qt::CTRL | Qt::Key_B), QStringLiteral("Borç"), [this] { BorcSor(); });
@@ -250,20 +176,6 @@ void brdhazir::UyariRengi(bool kirmizi) {
 
 QString brdhazir::Para(Tutar tutar) const {
   return Yazi(TutarMetni(tutar, Oturumu().paraonda));
-}
-
-// The numbers by which the rules know the fields.
-int brdhazir::AlanNo(const AlanDenetimi& alan) const {
-  const std::string_view ad = alan.Satir().tanim.ad;
-  if (ad == "kod") return brdalan::Kod;
-  if (ad == brd::ucretsizizin.ad || ad == "sebep" || ad == brd::rapcalismadi.ad) return brdalan::UcretsizIzin;
-  for (std::size_t i = 0; i < GunKolonlari.size(); ++i)
-    if (GunKolonlari[i].ad == ad) return brdalan::IlkGun + int(i);
-  for (std::size_t i = 0; i < MesaiKolonlari.size(); ++i)
-    if (MesaiKolonlari[i].ad == ad) return brdalan::IlkGun + GunSatiriSayisi + int(i);
-  for (std::size_t i = 0; i < YardimKolonlari.size(); ++i)
-    if (YardimKolonlari[i].ad == ad) return brdalan::IlkYardim + int(i);
-  return -1;  // a result
 }
 
 AlanDenetimi* brdhazir::Sahibi(const QObject* nesne) const {
@@ -333,7 +245,7 @@ void brdhazir::AlanaGirildi(AlanDenetimi* yeni) {
   if (eski != nullptr) GirisiOku();
   const bool sonuc = yeni->Satir().ek.kapali;
   neden_->Goster(giris_.HesapIzi(), yeni->Satir().tanim.ad, Yazi(yeni->Satir().etiket));
-  if (!sonuc && yeni->Satir().tanim.ad == "kod" && eski != nullptr) KodaGirildi(AlanNo(*eski));
+  if (!sonuc && yeni->Satir().tanim.ad == "kod" && eski != nullptr) KodaGirildi(BordroAlanNo(eski->Satir().tanim.ad));
 }
 
 // Back on the code field: the person's entry closes.
@@ -407,7 +319,7 @@ void brdhazir::AcikAlanlariKur() {
   const bool secili = giris_.Durumu() == BordroGirisi::Hal::KisiSecili;
   const bool eksik = secili && giris_.Toplamlar().SskGun != giris_.CalismaGun();
   for (const auto& d : Denetimler()) {
-    const int no = AlanNo(*d);
+    const int no = BordroAlanNo(d->Satir().tanim.ad);
     if (no >= brdalan::IlkGun && no <= brdalan::SonYardim) d->Parca()->setEnabled(giris_.AlanAcik(no));
     // With all days worked there is nothing to give a reason for: Enter goes from the last line to the code.
     if (no == brdalan::UcretsizIzin) d->Parca()->setEnabled(secili && (eksik || d->Parca()->hasFocus()));
@@ -450,7 +362,7 @@ void brdhazir::SonuclaraGit() {
 }
 
 void brdhazir::BorcSor() {
-  const int no = simdiki_ == nullptr ? -1 : AlanNo(*simdiki_);
+  const int no = simdiki_ == nullptr ? -1 : BordroAlanNo(simdiki_->Satir().tanim.ad);
   if (giris_.Durumu() != BordroGirisi::Hal::KisiSecili || no < brdalan::IlkGun || no > brdalan::SonYardim) return;
   GirisiOku();
   FormGoster(Baglam(), std::make_unique<brckes>(Baglam(), giris_), FormModu::Modal);

@@ -46,7 +46,6 @@ class brdhazir : public Form {
   void TopluHazirla();
   void SonuclaraGit();
   void BorcSor();
-  int AlanNo(const AlanDenetimi& alan) const;
   AlanDenetimi* Sahibi(const QObject* nesne) const;
   void KodaDon();
   QString Para(Tutar tutar) const;

@@ -1,0 +1,28 @@
+// The fields of the payroll screen: one row a field.
+#pragma once
+
+#include "payroll/hazirlik/giris.h"
+#include "ui/alan.h"
+
+namespace belvani {
+
+// What the screen holds besides record and sums.
+struct BordroSecimi {
+  std::string kod;
+  int sebep = 0;  // position in EksikSebepleri
+};
+
+// Entered: they edit the record, reason and code the struct above.
+Alan KodAlani();
+AlanGrubu GunGrubu();
+AlanGrubu YardimGrubu(const YardimTanimlari& yardimlar);
+AlanGrubu EksikGunGrubu();
+
+// Shown: the sums of the entry, and amounts of the calculated record.
+std::vector<AlanGrubu> OzetGruplari();
+std::vector<AlanGrubu> AyrintiGruplari();
+
+// The number by which the rules know an entered field (brdalan); -1 for a result.
+int BordroAlanNo(std::string_view ad);
+
+}  // namespace belvani
