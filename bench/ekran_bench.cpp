@@ -9,6 +9,7 @@
 #include "payroll/screens/brdhazir.h"
 #include "sirketuret.h"
 #include "ui/dclist.h"
+#include "ui/dialogyok.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
 
@@ -74,17 +75,6 @@ void ListeSuzme(benchmark::State& durum) {
   }
 }
 BENCHMARK(ListeSuzme)->Unit(benchmark::kMillisecond);
-
-class DialogYok final : public Dialoglar {
- public:
-  std::optional<std::string> DosyaAc(const std::string&, const std::string&, const std::string&) override { return {}; }
-  std::optional<std::string> DosyaKaydet(const std::string&, const std::string&, const std::string&) override {
-    return {};
-  }
-  std::optional<std::string> DizinSec(const std::string&, const std::string&) override { return {}; }
-  std::optional<std::uint32_t> RenkSec(std::uint32_t) override { return {}; }
-  std::optional<QFont> FontSec(const QFont&) override { return {}; }
-};
 
 struct Yok final : FormGosterici {
   void SerbestGoster(std::unique_ptr<Form>) override {}

@@ -15,6 +15,7 @@
 #include "app/yardim.h"
 #include "core/screens/startfrm.h"
 #include "payroll/screens/brckes.h"
+#include "ui/dialogyok.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
 #include "ui/stil.h"
@@ -31,17 +32,6 @@ class MetinBildirimi final : public Bildirim {
     std::cerr << metin << "\n";
     return false;
   }
-};
-
-class DialogYok final : public Dialoglar {
- public:
-  std::optional<std::string> DosyaAc(const std::string&, const std::string&, const std::string&) override { return {}; }
-  std::optional<std::string> DosyaKaydet(const std::string&, const std::string&, const std::string&) override {
-    return {};
-  }
-  std::optional<std::string> DizinSec(const std::string&, const std::string&) override { return {}; }
-  std::optional<std::uint32_t> RenkSec(std::uint32_t) override { return {}; }
-  std::optional<QFont> FontSec(const QFont&) override { return {}; }
 };
 
 // What is pressed before the picture is taken: keys by name, separated by blanks; other words are typed.

@@ -2,13 +2,11 @@
 #pragma once
 
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 
 #include "core/session/depo.h"
-#include "core/store/satirlar.h"
-#include "core/tables/uye.h"
+#include "core/store/imlecsatir.h"
 #include "core/turkce.h"
 #include "personnel/etiket.h"
 
@@ -16,8 +14,6 @@ namespace belvani {
 
 // Moves through the people, in the order of their codes.
 enum class Yon { Ilk, Son, Onceki, Sonraki };
-
-using AlanAdlari = std::set<std::string, std::less<>>;
 
 // A typed code as the store keeps it: no control characters, no blanks at its ends.
 inline std::string TemizKod(std::string_view kod) {
@@ -27,17 +23,6 @@ inline std::string TemizKod(std::string_view kod) {
 // The code before or after `kod` (first and last of all: `kod` does not matter), in a table with the column `kod`.
 // `kod` itself need not be there. Throws MotorHatasi.
 std::optional<std::string> KomsuKod(Motor& motor, std::string_view tablo, Yon yon, std::string_view kod);
-
-// The record on which the cursor stands. Columns that an older store lacks read as zero or empty.
-template <class Kayit>
-Kayit ImlectenOku(Veritabani& db, Imlec& rs) {
-  const auto var = db.Koru(AlanAdlari(), [&] { return TabloKolonlari(db.IcMotor(), Kayit::TabloAdi); });
-  Kayit kayit;
-  Kayit::HerKolon([&](const auto& kolon) {
-    if (var.contains(kolon.ad)) UyeyeYaz(kayit.*kolon.uye, rs.AlanOku(kolon.ad));
-  });
-  return kayit;
-}
 
 template <class Kayit>
 std::optional<Kayit> KoduBul(Veritabani& db, Imlec& rs, std::string_view kod) {
@@ -54,15 +39,6 @@ std::optional<Kayit> KodaGit(Veritabani& db, Imlec& rs, Yon yon, std::string_vie
       db.Koru(std::optional<std::string>(), [&] { return KomsuKod(db.IcMotor(), Kayit::TabloAdi, yon, simdiki); });
   auto kayit = KoduBul<Kayit>(db, rs, hedef.value_or(simdiki));
   return hedef ? std::move(kayit) : std::nullopt;
-}
-
-// Into the pending record of the cursor, the automatic number and the columns of `dokunma` left out.
-template <class Kayit>
-void AlanlariYaz(Imlec& rs, const Kayit& kayit, const AlanAdlari& dokunma) {
-  Kayit::HerKolon([&](const auto& kolon) {
-    if (kolon.nitelik != AlanNiteligi::Otomatik && !dokunma.contains(kolon.ad))
-      rs.AlanYaz(kolon.ad, UyeDegeri(kayit.*kolon.uye));
-  });
 }
 
 // "Adı: en çok 20 harf olabilir", one line for each field that does not fit its column; "" when all do.

@@ -4,7 +4,7 @@
 #include <QGroupBox>
 #include <QShowEvent>
 
-#include "core/screens/mesgul.h"
+#include "ui/mesgul.h"
 #include "ui/metin.h"
 
 namespace belvani {

@@ -3,8 +3,8 @@
 #include <QHideEvent>
 #include <QLineEdit>
 
-#include "core/screens/mesgul.h"
 #include "core/session/sirketlistesi.h"
+#include "ui/mesgul.h"
 #include "ui/metin.h"
 
 namespace belvani {

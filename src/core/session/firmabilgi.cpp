@@ -49,7 +49,7 @@ bool FirmaKaydet(Oturum& o, const Firma& firma, Bildirim& bildirim) {
   auto& rs = o.depo.firma;
   const bool var = rs.IlkKayit();
   var ? rs.KayitDuzelt() : rs.KayitEkle();
-  AlanlariYaz(rs, yazilan, "versiyon");
+  AlanlariYaz(rs, yazilan, {"versiyon"});
   if (!var) rs.AlanYaz("versiyon", o.Versiyon.Sayi());
   if (rs.KayitYaz()) return true;
   bildirim.Uyari("Firma Bilgileri Güncellenemedi");

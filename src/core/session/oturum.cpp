@@ -149,7 +149,7 @@ void FirmaIlkKayit(Oturum& o, Bildirim& bildirim) {
 
   auto& firma = o.depo.firma;
   firma.IlkKayit() ? firma.KayitDuzelt() : firma.KayitEkle();
-  AlanlariYaz(firma, yeni, "tersfirma");
+  AlanlariYaz(firma, yeni, {"tersfirma"});
   if (!firma.KayitYaz()) bildirim.Uyari("Firma Bilgileri Güncellenemedi");
 }
 

@@ -1,23 +1,10 @@
 #include "payroll/screens/parametreekrani.h"
 
-#include <QApplication>
-
 #include "core/turkce.h"
+#include "ui/mesgul.h"
 #include "ui/metin.h"
 
 namespace belvani {
-namespace {
-
-class MesgulImleci {
- public:
-  MesgulImleci() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-  ~MesgulImleci() { QApplication::restoreOverrideCursor(); }
-  MesgulImleci(const MesgulImleci&) = delete;
-  MesgulImleci& operator=(const MesgulImleci&) = delete;
-};
-
-}  // namespace
-
 ParametreEkrani::ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, const QString& kelime,
                                  const QString& baslik)
     : Form(baglam, kelime, baslik), parametreler_(parametreler) {
@@ -27,7 +14,7 @@ ParametreEkrani::ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametr
 void ParametreEkrani::IndirDugmesi(ParametreDosyasi dosya, std::function<void()> goster) {
   DugmeEkle(QStringLiteral("Parametre İndir"), QStringLiteral("indir"), [this, dosya, goster = std::move(goster)] {
     const Durum durum = [&] {
-      const MesgulImleci mesgul;
+      const MesgulImlec mesgul;
       return parametreler_.DosyaIndir(Oturumu(), dosya);
     }();
     if (!durum) return Bildirimi().Uyari("Parametre Bulunamadı..");
