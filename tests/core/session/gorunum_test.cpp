@@ -25,7 +25,7 @@ double Parlaklik(std::uint32_t bgr) {
 }
 
 double Karsitlik(std::uint32_t a, std::uint32_t b) {
-  const auto [az, cok] = std::minmax(Parlaklik(a), Parlaklik(b));
+  const auto [az, cok] = std::minmax({Parlaklik(a), Parlaklik(b)});
   return (cok + 0.05) / (az + 0.05);
 }
 
