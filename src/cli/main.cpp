@@ -56,7 +56,7 @@ int Calistir(int argc, char** argv) {
   app.require_subcommand(0, 1);
   app.set_version_flag("--version", "Belvani 2003.7", "programın sürümünü gösterir");
   for (const KomutEkle ekle :
-       {SirketKomutlari, ParametreKomutlari, AktarimKomutlari, HazirlaKomutlari, HesaplaKomutu, BordroKomutu})
+       {SirketKomutlari, ParametreKomutlari, AktarimKomutlari, HazirlaKomutlari, HesaplaKomutu, BelgeKomutlari})
     ekle(app, genel);
   for (CLI::App* komut : app.get_subcommands({})) komut->group("Komutlar");
   try {

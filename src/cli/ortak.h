@@ -41,7 +41,7 @@ void ParametreKomutlari(CLI::App& app, Genel& genel);
 void AktarimKomutlari(CLI::App& app, Genel& genel);
 void HazirlaKomutlari(CLI::App& app, Genel& genel);
 void HesaplaKomutu(CLI::App& app, Genel& genel);
-void BordroKomutu(CLI::App& app, Genel& genel);
+void BelgeKomutlari(CLI::App& app, Genel& genel);
 
 struct Donem {
   int yil = 0;

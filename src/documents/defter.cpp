@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "documents/turetilen.h"
+#include "documents/turetilensatir.h"
 #include "printing/kolonlar.h"
 
 namespace belvani {
@@ -10,27 +10,9 @@ namespace {
 
 using enum KolonNiteligi;
 
-// A record with the values that depend on the rate of stamp duty.
-struct DefterSatiri {
-  DefterSatiri(const BordroSatiri& satir, Tek damgaOran, Yuvarlayici yuvarla)
-      : brd(satir.brd),
-        sicil(satir.sicil),
-        tcno(satir.tcno),
-        damga(AgiDahilDamga(brd, damgaOran, yuvarla)),
-        kesintiler(Kesintiler(brd, damgaOran, yuvarla)),
-        net(NetOdenen(brd, damgaOran, yuvarla)) {}
-
-  const Brd& brd;
-  const Sicil& sicil;
-  const std::string& tcno;
-  Tutar damga;
-  Tutar kesintiler;
-  Tutar net;
-};
-
 // The widths of numbers are the least that their heads need, for a number column grows by itself. As they stand here
 // all columns together take 219 of the 228 letters of the smallest print.
-const Kolonlar<DefterSatiri> kolonlar{
+const Kolonlar<TuretilmisSatir> kolonlar{
     {"Kod No", 8, [](auto& s) { return s.brd.kod; }},
     {{"S.S.K. No", "SSK No"}, 13, [](auto& s) { return s.sicil.sskno; }},
     {"T.C. No", 11, [](auto& s) { return s.tcno; }},
@@ -57,40 +39,32 @@ const Kolonlar<DefterSatiri> kolonlar{
     {"İmza", 8, [](auto&) { return Null{}; }, HerZaman},
 };
 
-std::vector<DefterSatiri> DefterSatirlari(const std::vector<BordroSatiri>& satirlar, const DefterBaslik& baslik) {
-  const Yuvarlayici yuvarla(baslik.paraonda);
-  std::vector<DefterSatiri> sonuc;
-  sonuc.reserve(satirlar.size());
-  for (const auto& satir : satirlar) sonuc.emplace_back(satir, baslik.damgaOran, yuvarla);
-  return sonuc;
+Tutar Topla(const std::vector<BordroSatiri>& satirlar, Tutar (*oku)(const Brd&)) {
+  Tutar toplam;
+  for (const auto& satir : satirlar) toplam += oku(satir.brd);
+  return toplam;
 }
 
 std::vector<UstSatir> UstSatirlar(const DefterBaslik& baslik) {
   const Firma& firma = baslik.firma;
-  const BordroDonemi donem{baslik.yil, baslik.ay, firma.tersfirma ? DonemTuru::Ters : DonemTuru::Takvim};
   return {
-      {.orta = DonemMetni(donem)},
-      {.sol = "ÜNVANI : " + firma.unvan},
-      {.sol = "SSK İŞYERİ SİCİL No : " + IsyeriSicilNo(firma)},
-      {.sol = "VERGİ DAİRESİ HESAP No : " + firma.verda + " - " + firma.verno, .sag = "Sayfa : ", .sayfaNo = true},
+      {.orta = DonemMetni(BelgeDonemi(baslik))},
+      UnvanSatiri(firma),
+      IsyeriSatiri(firma),
+      VergiDairesiSatiri(firma),
       {.sol = "ADRES : " + firma.adr1 + " " + firma.adr2},
   };
 }
 
 // The employer's side of the month.
 std::vector<BlokSatiri> Icmal(const std::vector<BordroSatiri>& satirlar) {
-  const auto topla = [&](auto oku) {
-    Tutar toplam;
-    for (const auto& satir : satirlar) toplam += oku(satir.brd);
-    return toplam;
-  };
   return {
       {"Toplam Personel : ", std::int64_t(satirlar.size())},
-      {"Toplam SSK İşveren Matrahı :", topla([](auto& b) { return b.sskmatrahisveren; })},
-      {"Toplam SSK İşveren Kesintisi :", topla([](auto& b) { return b.sskkesintiisveren; })},
-      {"Toplam İşveren Devlet Katkısı:", topla([](auto& b) { return b.katki; })},
-      {"Toplam İşsizliik İşveren Kesintisi :", topla([](auto& b) { return b.issizisveren; })},
-      {"Toplam Ödenecek SSK Primi :", topla(OdenecekSskPrimi)},
+      IsverenMatrahi(satirlar),
+      IsverenKesintisi(satirlar),
+      {"Toplam İşveren Devlet Katkısı:", Topla(satirlar, [](auto& b) { return b.katki; })},
+      IsverenIssizligi(satirlar),
+      {"Toplam Ödenecek SSK Primi :", Topla(satirlar, OdenecekSskPrimi)},
   };
 }
 
@@ -114,16 +88,44 @@ std::vector<std::string> DefterAnahtarAdlari() {
 
 Rapor DefterRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBaslik& baslik,
                    const DefterSecenek& secenek) {
-  const auto yeniBordro = [&](const DefterSatiri& onceki, const DefterSatiri& satir) {
+  const auto yeniBordro = [&](const TuretilmisSatir& onceki, const TuretilmisSatir& satir) {
     return secenek.herBordroYeni && onceki.brd.no != satir.brd.no;
   };
   Rapor rapor =
-      RaporYap(kolonlar.Secilen(secenek.kolonlar), DefterSatirlari(satirlar, baslik), baslik.paraonda, yeniBordro);
+      RaporYap(kolonlar.Secilen(secenek.kolonlar), TuretilmisSatirlar(satirlar, baslik), baslik.paraonda, yeniBordro);
   rapor.baslik = "HİZMET ERBABI ÜCRET BORDROSU";
   rapor.ekranBasligi = "Ücret Bordrosu";
   rapor.ustSatirlar = UstSatirlar(baslik);
   if (secenek.icmal && !satirlar.empty()) rapor.sonBlok = Icmal(satirlar);
   return rapor;
+}
+
+UstSatir UnvanSatiri(const Firma& firma) {
+  return {.sol = "ÜNVANI : " + firma.unvan};
+}
+
+UstSatir IsyeriSatiri(const Firma& firma) {
+  return {.sol = "SSK İŞYERİ SİCİL No : " + IsyeriSicilNo(firma)};
+}
+
+UstSatir VergiDairesiSatiri(const Firma& firma) {
+  return {.sol = "VERGİ DAİRESİ HESAP No : " + firma.verda + " - " + firma.verno, .sag = "Sayfa : ", .sayfaNo = true};
+}
+
+BlokSatiri IsverenMatrahi(const std::vector<BordroSatiri>& satirlar) {
+  return {"Toplam SSK İşveren Matrahı :", Topla(satirlar, [](auto& b) { return b.sskmatrahisveren; })};
+}
+
+BlokSatiri IsverenKesintisi(const std::vector<BordroSatiri>& satirlar) {
+  return {"Toplam SSK İşveren Kesintisi :", Topla(satirlar, [](auto& b) { return b.sskkesintiisveren; })};
+}
+
+BlokSatiri IsverenIssizligi(const std::vector<BordroSatiri>& satirlar) {
+  return {"Toplam İşsizliik İşveren Kesintisi :", Topla(satirlar, [](auto& b) { return b.issizisveren; })};
+}
+
+BordroDonemi BelgeDonemi(const DefterBaslik& baslik) {
+  return {baslik.yil, baslik.ay, baslik.firma.tersfirma ? DonemTuru::Ters : DonemTuru::Takvim};
 }
 
 std::string DonemMetni(const BordroDonemi& donem) {

@@ -44,6 +44,7 @@ struct MetinAraligi {
 enum class DefterSirasi {
   Kod,    // by run, then personnel code
   SskNo,  // by run, then social-security number
+  Kisi,   // by personnel code, then run
 };
 
 // Which records.
@@ -84,6 +85,19 @@ struct DefterSecenek {
 
 // No rows: a document without rows and end block. Throws TutarTasmasi when an amount leaves its range.
 Rapor DefterRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBaslik& baslik, const DefterSecenek& secenek);
+
+// The lines of the employer at the head of wage papers, and the page number.
+UstSatir UnvanSatiri(const Firma& firma);
+UstSatir IsyeriSatiri(const Firma& firma);
+UstSatir VergiDairesiSatiri(const Firma& firma);
+
+// Sums of the employer's side, as the end blocks of wage papers name them.
+BlokSatiri IsverenMatrahi(const std::vector<BordroSatiri>& satirlar);
+BlokSatiri IsverenKesintisi(const std::vector<BordroSatiri>& satirlar);
+BlokSatiri IsverenIssizligi(const std::vector<BordroSatiri>& satirlar);
+
+// The period of the papers of a month.
+BordroDonemi BelgeDonemi(const DefterBaslik& baslik);
 
 // "Ocak 2008 DÖNEMİ"; of a company whose period straddles the month "15.01.2008 İLE 14.02.2008 DÖNEMİ ".
 std::string DonemMetni(const BordroDonemi& donem);

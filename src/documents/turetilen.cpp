@@ -4,6 +4,15 @@
 
 namespace belvani {
 
+int GunToplami(const Brd& brd) {
+  return brd.ng + brd.ht + brd.rt + brd.ui + brd.ha + brd.mi;
+}
+
+Tutar GunlukBrut(const Brd& brd, Yuvarlayici yuvarla) {
+  const int gun = GunToplami(brd);
+  return gun == 0 ? Tutar() : yuvarla(brd.ucret.Sayi() / gun);
+}
+
 Tutar GvIndirimi(const Brd& brd) {
   return brd.indirim1 + brd.indirim2 + brd.indirim3 + brd.sakindir;
 }

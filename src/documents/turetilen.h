@@ -14,6 +14,12 @@
 
 namespace belvani {
 
+// Days of the month that count for premiums: worked, rest days, public holidays, paid leave, sick days, excused leave.
+int GunToplami(const Brd& brd);
+
+// `ucret` over those days; 0 without any.
+Tutar GunlukBrut(const Brd& brd, Yuvarlayici yuvarla);
+
 // Deductions from the income-tax base: indirim1 + indirim2 + indirim3 + sakindir.
 Tutar GvIndirimi(const Brd& brd);
 

@@ -36,7 +36,7 @@ int UstSatirEni(const UstSatir& satir) {
   int en = 0;
   for (const auto& parca : {satir.sol, satir.orta, satir.sag})
     if (!parca.empty()) en += Harf(parca) + 1;
-  return en + (satir.sayfaNo ? SayfaNoHarfi : 0);
+  return en + (satir.sayfaNo ? SayfaNoHarfi : 0) + (satir.sayfaSayisi ? SayfaNoHarfi : 0);
 }
 
 }  // namespace

@@ -7,17 +7,19 @@
 //   Rapor rapor = RaporYap(kolonlar, satirlar, paraonda);
 //
 // A column is a head (or two: paper, screen), a width in letters, what it shows of a row, and what is special about it.
-// The kind of the column follows from the type that its reader gives: text, whole number, Tutar, Tarih; Null makes an
-// empty column for the pen.
+// The kind of the column follows from the type that its reader gives: text, whole number, Tutar, Tek (a rate), Tarih,
+// or any of them as std::optional, whose absence is an empty cell; Null makes an empty column for the pen.
 #pragma once
 
 #include <algorithm>
 #include <concepts>
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <span>
 #include <type_traits>
 
+#include "core/tek.h"
 #include "printing/rapor.h"
 
 namespace belvani {
@@ -37,19 +39,29 @@ constexpr bool NiteligiVar(KolonNiteligi hepsi, KolonNiteligi biri) {
 }
 
 struct KolonBasligi {
-  KolonBasligi(const char* baslik) : uzun(baslik), kisa(baslik) {}  // NOLINT: a text is a head
+  KolonBasligi(const char* baslik) : uzun(baslik), kisa(baslik) {}             // NOLINT: a text is a head
+  KolonBasligi(std::string baslik) : uzun(baslik), kisa(std::move(baslik)) {}  // NOLINT: the same
   KolonBasligi(const char* kagitta, const char* ekranda) : uzun(kagitta), kisa(ekranda) {}
 
   std::string uzun;
   std::string kisa;
 };
 
+constexpr int OranOndaligi = 1;  // "67.5" percent
+
+template <class Deger>
+struct Secmeli : std::false_type {};
+template <class Deger>
+struct Secmeli<std::optional<Deger>> : std::true_type {};
+
 template <class Deger>
 constexpr KolonTuru DegerinKolonTuru(KolonNiteligi nitelik) {
   static_assert(!std::same_as<Deger, bool>, "a truth value has no printed form");
-  if constexpr (std::same_as<Deger, Null>)
+  if constexpr (Secmeli<Deger>::value)
+    return DegerinKolonTuru<typename Deger::value_type>(nitelik);
+  else if constexpr (std::same_as<Deger, Null>)
     return KolonTuru::Bos;
-  else if constexpr (std::same_as<Deger, Tutar>)
+  else if constexpr (std::same_as<Deger, Tutar> || std::same_as<Deger, Tek>)
     return KolonTuru::Tutar;
   else if constexpr (std::same_as<Deger, Tarih>)
     return NiteligiVar(nitelik, KolonNiteligi::KisaTarih) ? KolonTuru::KisaTarih : KolonTuru::Tarih;
@@ -72,16 +84,22 @@ class Kolonlar {
                 .tur = DegerinKolonTuru<std::decay_t<std::invoke_result_t<Okur, const Satir&>>>(nitelikler),
                 .toplanir = NiteligiVar(nitelikler, KolonNiteligi::Toplanir)},
           nitelik(nitelikler),
+          oran(std::same_as<std::decay_t<std::invoke_result_t<Okur, const Satir&>>, Tek>),
           oku([okur](const Satir& satir) { return HucreYap(okur(satir)); }) {}
 
     RaporKolonu kolon;
     KolonNiteligi nitelik;
+    bool oran;  // its decimals are not those of money
     std::function<Hucre(const Satir&)> oku;
 
    private:
     template <class Deger>
     static Hucre HucreYap(Deger deger) {
-      if constexpr (std::integral<Deger>)
+      if constexpr (Secmeli<Deger>::value)
+        return deger ? HucreYap(*deger) : Hucre(Null{});
+      else if constexpr (std::same_as<Deger, Tek>)
+        return Tutar(deger.Sayi());
+      else if constexpr (std::integral<Deger>)
         return std::int64_t(deger);
       else if constexpr (std::constructible_from<std::string, Deger>)
         return std::string(std::move(deger));
@@ -91,6 +109,12 @@ class Kolonlar {
   };
 
   Kolonlar(std::initializer_list<Tanim> tanimlar) : tanimlar_(tanimlar) {}
+
+  void Ekle(Tanim tanim) { tanimlar_.push_back(std::move(tanim)); }
+  friend Kolonlar operator+(Kolonlar a, const Kolonlar& b) {
+    a.tanimlar_.insert(a.tanimlar_.end(), b.tanimlar_.begin(), b.tanimlar_.end());
+    return a;
+  }
 
   // Heads of the columns that the user may switch off, in the order of the switches.
   std::vector<std::string> AnahtarAdlari() const {
@@ -118,7 +142,7 @@ class Kolonlar {
     std::vector<RaporKolonu> kolonlar;
     for (const auto& tanim : tanimlar_) {
       kolonlar.push_back(tanim.kolon);
-      if (tanim.kolon.tur == KolonTuru::Tutar) kolonlar.back().ondalik = paraOndaligi;
+      if (tanim.kolon.tur == KolonTuru::Tutar) kolonlar.back().ondalik = tanim.oran ? OranOndaligi : paraOndaligi;
     }
     Rapor rapor(std::move(kolonlar));
     rapor.paraOndaligi = paraOndaligi;
@@ -130,6 +154,13 @@ class Kolonlar {
     hucreler.reserve(tanimlar_.size());
     for (const auto& tanim : tanimlar_) hucreler.push_back(tanim.oku(satir));
     return hucreler;
+  }
+
+  // The row as labelled values, for a slip.
+  std::vector<BlokSatiri> Blok(const Satir& satir) const {
+    std::vector<BlokSatiri> blok;
+    for (const auto& tanim : tanimlar_) blok.push_back({tanim.kolon.baslik, tanim.oku(satir)});
+    return blok;
   }
 
  private:

@@ -33,21 +33,7 @@ void Yerlestir(std::string& satir, int yer, const std::string& metin) {
 
 // Whether the line at `yer` is one of the table's, with columns.
 bool TabloMu(const Sayfa& sayfa, std::size_t yer) {
-  if (yer >= sayfa.satirlar.size()) return false;
-  switch (sayfa.satirlar[yer].tur) {
-    case SayfaSatirTuru::KolonBasligi:
-    case SayfaSatirTuru::Bos:
-    case SayfaSatirTuru::Govde:
-    case SayfaSatirTuru::Nakil:
-    case SayfaSatirTuru::Toplam:
-      return true;
-    case SayfaSatirTuru::Baslik:
-    case SayfaSatirTuru::UstSatir:
-    case SayfaSatirTuru::Cizgi:
-    case SayfaSatirTuru::Blok:
-      return false;
-  }
-  return false;
+  return yer < sayfa.satirlar.size() && TabloSatiriMi(sayfa.satirlar[yer].tur);
 }
 
 Hiza KolonHizasi(const RaporKolonu& kolon) {
@@ -59,9 +45,11 @@ class MetinYazici {
   MetinYazici(const Rapor& rapor, const SayfaDuzeni& duzen)
       : rapor_(rapor), duzen_(duzen), bicim_(KagitBicimle(rapor, duzen)), kolonSayisi_(bicim_.enler.size()) {}
 
-  std::string Yaz() const {
+  std::string Yaz() {
     std::string metin;
-    for (const auto& sayfa : SayfalaraBol(rapor_, bicim_, duzen_)) {
+    const auto sayfalar = SayfalaraBol(rapor_, bicim_, duzen_);
+    sayfaSayisi_ = sayfalar.size();
+    for (const auto& sayfa : sayfalar) {
       if (sayfa.no > 1) metin += '\f';
       for (std::size_t i = 0; i < sayfa.satirlar.size(); ++i) {
         std::string satir = DenetimsizMetin(Satir(sayfa, i));
@@ -106,7 +94,7 @@ class MetinYazici {
   }
 
   std::string Ust(const UstSatir& ust, int sayfaNo) const {
-    const std::string sag = ust.sag + (ust.sayfaNo ? std::to_string(sayfaNo) : "");
+    const std::string sag = UstSagMetni(ust, sayfaNo, sayfaSayisi_);
     std::string satir = ust.sol;
     Yerlestir(satir, OrtaYer(ust.orta), ust.orta);
     Yerlestir(satir, bicim_.en - int(HarfSayisi(sag)), sag);
@@ -171,6 +159,7 @@ class MetinYazici {
   const SayfaDuzeni& duzen_;
   const KagitBicimi bicim_;
   const std::size_t kolonSayisi_;
+  std::size_t sayfaSayisi_ = 0;
 };
 
 }  // namespace

@@ -33,6 +33,13 @@ std::string TarihMetni(Tarih tarih, KolonTuru tur) {
 
 }  // namespace
 
+std::string UstSagMetni(const UstSatir& satir, int sayfaNo, std::size_t sayfaSayisi) {
+  std::string metin = satir.sag;
+  if (satir.sayfaNo) metin += std::to_string(sayfaNo);
+  if (satir.sayfaSayisi) metin += "/" + std::to_string(sayfaSayisi);
+  return metin;
+}
+
 Rapor::Rapor(std::vector<RaporKolonu> kolonlar)
     : kolonlar_(std::move(kolonlar)), birikim_(kolonlar_.size()), sinirlar_(kolonlar_.size()) {}
 
@@ -60,6 +67,10 @@ std::vector<Hucre> Rapor::AraToplam(std::size_t satirSayisi) const {
   std::vector<Hucre> toplamlar(kolonlar_.size());
   for (std::size_t k = 0; k < kolonlar_.size(); ++k)
     if (kolonlar_[k].toplanir) toplamlar[k] = Hamdan(birikim_[satirSayisi * kolonlar_.size() + k], kolonlar_[k].tur);
+  if (const auto etiketKolonu =
+          std::find_if(kolonlar_.begin(), kolonlar_.end(), [](const auto& k) { return k.tur == KolonTuru::Metin; });
+      !toplamEtiketi.empty() && etiketKolonu != kolonlar_.end())
+    toplamlar[std::size_t(etiketKolonu - kolonlar_.begin())] = toplamEtiketi;
   return toplamlar;
 }
 

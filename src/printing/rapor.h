@@ -50,8 +50,12 @@ struct UstSatir {
   std::string sol = {};
   std::string orta = {};
   std::string sag = {};
-  bool sayfaNo = false;  // the page number follows `sag`
+  bool sayfaNo = false;      // the page number follows `sag`
+  bool sayfaSayisi = false;  // "/" and the number of pages follow that
 };
+
+// The right end of an upper line on a page: "Shf : 2/5".
+std::string UstSagMetni(const UstSatir& satir, int sayfaNo, std::size_t sayfaSayisi);
 
 // A labelled value below the totals.
 struct BlokSatiri {
@@ -63,8 +67,9 @@ class Rapor {
  public:
   explicit Rapor(std::vector<RaporKolonu> kolonlar);
 
-  std::string baslik;        // on paper
-  std::string ekranBasligi;  // on the screen and in a spreadsheet
+  std::string baslik;         // on paper
+  std::string ekranBasligi;   // on the screen and in a spreadsheet
+  std::string toplamEtiketi;  // in the first text column of the sums; "" where sums have no label
   std::vector<UstSatir> ustSatirlar;
   std::vector<BlokSatiri> sonBlok;
   int paraOndaligi = 2;  // of the amounts in `sonBlok`
@@ -75,7 +80,7 @@ class Rapor {
   const std::vector<RaporKolonu>& Kolonlar() const { return kolonlar_; }
   const std::vector<RaporSatiri>& Satirlar() const { return satirlar_; }
 
-  // Sums of the first `satirSayisi` rows; Null in the columns that are not summed.
+  // Sums of the first `satirSayisi` rows, with their label; Null in the other columns that are not summed.
   std::vector<Hucre> AraToplam(std::size_t satirSayisi) const;
   std::vector<Hucre> Toplam() const { return AraToplam(satirlar_.size()); }
   bool ToplamVar() const;

@@ -83,6 +83,23 @@ class Sayfalayici {
 
 }  // namespace
 
+bool TabloSatiriMi(SayfaSatirTuru tur) {
+  switch (tur) {
+    case Tur::KolonBasligi:
+    case Tur::Bos:
+    case Tur::Govde:
+    case Tur::Nakil:
+    case Tur::Toplam:
+      return true;
+    case Tur::Baslik:
+    case Tur::UstSatir:
+    case Tur::Cizgi:
+    case Tur::Blok:
+      return false;
+  }
+  return false;
+}
+
 std::vector<Sayfa> SayfalaraBol(const Rapor& rapor, const KagitBicimi& bicim, const SayfaDuzeni& duzen) {
   return Sayfalayici(rapor, bicim, duzen).Bol();
 }

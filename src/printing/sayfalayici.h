@@ -31,6 +31,9 @@ enum class SayfaSatirTuru {
   Blok,          // `sira`: of Rapor::sonBlok
 };
 
+// Whether lines of this kind have columns.
+bool TabloSatiriMi(SayfaSatirTuru tur);
+
 struct SayfaSatiri {
   SayfaSatirTuru tur;
   std::size_t sira = 0;

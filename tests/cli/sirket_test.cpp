@@ -61,6 +61,40 @@ TEST(Sirket, FromOpeningToTheLedger) {
   EXPECT_THAT(s.Tamam("denetle deneme"), HasSubstr("sağlam"));
 }
 
+TEST(Sirket, PapersComeInEveryForm) {
+  const Sirket s;
+  s.Tamam("hazirla deneme --yil 2009 --ay 7");
+  const std::pair<const char*, const char*> belgeler[] = {
+      {"pusula deneme --yil 2009 --ay 7", "ÜCRET PUSULASI\n"},
+      {"icmal deneme --yil 2009 --ay 7", "BORDRO ÖZETİ\n"},
+      {"ozel-bordro deneme --yil 2009 --ay 7", "HİZMET ERBABI ÜCRET BORDROSU\n"},
+      {"izin deneme --yil 2009", "Ücretli İzinler Listesi\n"},
+      {"agi deneme --yil 2009 --ay 7", "ASGARİ GEÇİM İNDİRİMİ BORDROSU\n"},
+      {"bordro deneme --yil 2009 --ay 7", "HİZMET ERBABI ÜCRET BORDROSU\n"},
+  };
+  for (const auto& [komut, baslik] : belgeler) {
+    SCOPED_TRACE(komut);
+    EXPECT_THAT(s.Tamam(komut), HasSubstr(baslik));
+    EXPECT_THAT(s.Tamam(std::string(komut) + " --bicim csv"), HasSubstr("\r\n"));
+    s.Tamam(std::string(komut) + " --bicim xlsx -o @b.xlsx");
+    EXPECT_THAT(s.Oku("b.xlsx"), AllOf(testing::StartsWith("PK\x03\x04"), HasSubstr("xl/worksheets/sheet1.xml")));
+  }
+  const auto ozet = s("icmal deneme --yil 2009 --ay 7 --bicim json").Json();
+  EXPECT_EQ(ozet["icmal"]["Toplam Brüt Ücret"], "3780.50");
+  const auto pusula = s("pusula deneme --yil 2009 --ay 7 --bicim json").Json();
+  EXPECT_EQ(pusula["satirlar"][2]["Adı Soyadı"], "İnci Öztürk");
+  EXPECT_EQ(pusula["toplam"]["Toplam Kazanç"], "3780.50");
+  EXPECT_EQ(s("izin deneme --yil 2009 --tip yok").durum, 2);
+  EXPECT_THAT(s("agi deneme --yil 2008 --ay 1").mesaj, HasSubstr("Bu dönemde bordro kaydı yok"));
+  s.Yaz("eski.xlsx", "eski");
+  EXPECT_THAT(s.Hata("bordro deneme --yil 2009 --ay 7 --bicim xlsx -o @yok/b.xlsx"), HasSubstr("dizin bulunamadı"));
+  EXPECT_THAT(s.Hata("bordro deneme --yil 2009 --ay 7 --bicim xlsx -o @"), HasSubstr("dosya yazılamadı"));
+  const Cikti yersiz = s("bordro deneme --yil 2009 --ay 7 --bicim xlsx -o @eski.xlsx", "", "TMPDIR=/yok");
+  EXPECT_EQ(yersiz.durum, 1);
+  EXPECT_THAT(yersiz.mesaj, HasSubstr("Tablo dosyası yazılamadı"));
+  EXPECT_EQ(s.Oku("eski.xlsx"), "eski");
+}
+
 TEST(Sirket, EntriesComeFromAFile) {
   const Sirket s;
   s.Yaz("g.csv", "kod,ng,ht,fm1,yrd01,eksiksebebi,borckes\n002,20,3,4.5,150,7,10\n001,30,,,,,\n");

@@ -1,0 +1,70 @@
+#include "cli/belgecikti.h"
+
+#include "printing/csvyazici.h"
+#include "printing/metinyazici.h"
+#include "printing/xlsxyazici.h"
+
+namespace belvani::cli {
+namespace {
+
+Json HucreJson(const Hucre& hucre) {
+  return std::visit([](const auto& deger) { return DegerJson(Deger(deger)); }, hucre);
+}
+
+// A name may come twice (the company names its allowances as it likes): the second gets a number, so none is lost.
+void UyeEkle(Json& nesne, const std::string& ad, const Hucre& deger) {
+  std::string tekAd = ad;
+  for (int no = 2; nesne.contains(tekAd); ++no) tekAd = ad + " " + std::to_string(no);
+  nesne[tekAd] = HucreJson(deger);
+}
+
+Json HucrelerJson(const Rapor& rapor, const std::vector<Hucre>& hucreler) {
+  Json nesne = Json::object();
+  for (std::size_t k = 0; k < hucreler.size(); ++k)
+    if (rapor.Kolonlar()[k].tur != KolonTuru::Bos) UyeEkle(nesne, rapor.Kolonlar()[k].kisaBaslik, hucreler[k]);
+  return nesne;
+}
+
+Json BlokJson(const std::vector<BlokSatiri>& blok) {
+  Json nesne = Json::object();
+  for (const auto& satir : blok) {
+    std::string ad(satir.etiket);
+    ad.erase(ad.find_last_not_of(" :") + 1);
+    UyeEkle(nesne, ad.substr(std::min(ad.size(), ad.find_first_not_of(' '))), satir.deger);
+  }
+  return nesne;
+}
+
+Json RaporJson(const Rapor& rapor) {
+  Json json{{"baslik", rapor.ekranBasligi}, {"satirlar", Json::array()}};
+  for (const auto& satir : rapor.Satirlar()) json["satirlar"].push_back(HucrelerJson(rapor, satir.hucreler));
+  if (rapor.ToplamVar()) json["toplam"] = HucrelerJson(rapor, rapor.Toplam());
+  if (!rapor.sonBlok.empty()) json["icmal"] = BlokJson(rapor.sonBlok);
+  return json;
+}
+
+std::string Xlsx(const Belge& belge) {
+  auto baytlar = belge.yapraklar ? XlsxYapraklari(*belge.yapraklar) : XlsxRaporu(belge.tablo);
+  return std::move(Degeri(baytlar));
+}
+
+std::string Cikti(const Belge& belge, const std::string& bicim) {
+  if (bicim == "csv") return CsvRaporu(belge.tablo);
+  if (bicim == "json") return RaporJson(belge.tablo).dump(2) + "\n";
+  if (bicim == "xlsx") return Xlsx(belge);
+  return belge.yapraklar ? MetinYapraklari(*belge.yapraklar, belge.duzen) : MetinRaporu(belge.tablo, belge.duzen);
+}
+
+}  // namespace
+
+void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti) {
+  komut.add_option("--bicim", cikti.bicim, "metin, csv, json veya xlsx")
+      ->check(CLI::IsMember({"metin", "csv", "json", "xlsx"}));
+  komut.add_option("-o", cikti.dosya, "yazılacak dosya (verilmezse ekrana)");
+}
+
+void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti) {
+  Yaz(Cikti(belge, cikti.bicim), cikti.dosya);
+}
+
+}  // namespace belvani::cli

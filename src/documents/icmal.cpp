@@ -1,0 +1,154 @@
+#include "documents/icmal.h"
+
+#include "core/store/satirlar.h"
+#include "documents/sorgumetni.h"
+#include "documents/turetilen.h"
+#include "printing/kolonlar.h"
+
+namespace belvani {
+namespace {
+
+constexpr int DestekPrimiDurumu = 1;  // branch 2, "S.G.D.P. Tabi Çalışanlar"
+
+bool AsgariUcretliMi(const Brd& b, Tutar asgariUcret, Yuvarlayici yuvarla) {
+  return GunlukBrut(b, yuvarla) == yuvarla(asgariUcret.Sayi() / GunToplami(b));
+}
+
+void Ekle(IcmalPaylari& paylar, Tutar isci, Tutar isveren) {
+  paylar.isci += isci;
+  paylar.isveren += isveren;
+}
+
+void Ekle(Icmal& i, const IcmalGirdisi& girdi) {
+  const Brd& b = girdi.brd;
+  Ekle(i.sskMatrahi, b.sskmatrah, b.sskmatrahisveren);
+  Ekle(girdi.sskdurum == DestekPrimiDurumu ? i.sgdpKesintisi : i.sskKesintisi, b.sskkesinti, b.sskkesintiisveren);
+  Ekle(i.issizlik, b.issizisci, b.issizisveren);
+  i.gvMatrahi += b.gvmatrah;
+  i.gvKesintisi += b.gvtutar;
+  i.damgaMatrahi += b.dvmatrah;
+  i.damgaKesintisi += b.dvtutar;
+  i.agi += b.ogv;
+  i.digerKesinti += b.sendika + b.borckes;
+  i.brut += b.brutkaz;
+  i.normalGun += b.ng;
+  i.haftaTatili += b.ht + b.rt;
+  i.izinGun += b.ui + b.ha + b.mi;
+  i.eksikGun += b.ucretsizizin;
+}
+
+struct OzetSatiri {
+  const char* aciklama;
+  std::optional<Tutar> isci;
+  std::optional<Tutar> isveren = std::nullopt;
+
+  OzetSatiri(const char* a, Tutar i) : aciklama(a), isci(i) {}
+  OzetSatiri(const char* a, const IcmalPaylari& p) : aciklama(a), isci(p.isci), isveren(p.isveren) {}
+};
+
+const Kolonlar<OzetSatiri> kolonlar{
+    {"Açıklama", 30, [](auto& s) { return s.aciklama; }},
+    {"İşçi Payları", 14, [](auto& s) { return s.isci; }},
+    {"İşveren Payları", 15, [](auto& s) { return s.isveren; }},
+};
+
+std::vector<OzetSatiri> Satirlar(const Icmal& i) {
+  return {
+      {"Ssk Matrahı ", i.sskMatrahi},
+      {"Ssk Kesintisi ", i.sskKesintisi},
+      {"G.V. Matrahı ", i.gvMatrahi},
+      {"G.V. Kesintisi ", i.gvKesintisi},
+      {"İşsizlik Sigorta Kesintisi ", i.issizlik},
+      {"Damga Vergisi Matrahı ", i.damgaMatrahi},
+      {"Damga Vergisi Kesintisi ", i.damgaKesintisi},
+      {"A.G.İ. ", i.agi},
+      {"S.G.D.P. Kesintisi ", i.sgdpKesintisi},
+      {"Toplam Ssk Kesintisi ", i.ToplamSsk()},
+      {"Toplam Vergi Kesintisi ", i.ToplamVergi()},
+      {"Ödemeler Toplamı ", i.OdemelerToplami()},
+      {"Personel Ödemeleri ", i.PersonelOdemeleri()},
+      {"A.G.İ. Ödemeleri ", i.agi},
+  };
+}
+
+std::vector<BlokSatiri> Sayilar(const Icmal& i) {
+  const auto tam = [](int sayi) { return Hucre(std::int64_t(sayi)); };
+  return {
+      {"Asgari Ücretli", tam(i.asgariUcretli)},
+      {" Ücretli", tam(i.ucretli)},
+      {"Toplam Ücretli", tam(i.asgariUcretli + i.ucretli)},
+      {"Normal Gün", tam(i.normalGun)},
+      {"Hafta Tatili", tam(i.haftaTatili)},
+      {"İzin Gün", tam(i.izinGun)},
+      {"Toplam Gün", tam(i.ToplamGun())},
+      {"Eksik Gün", tam(i.eksikGun)},
+      {"Toplam Brüt Ücret ", i.brut},
+  };
+}
+
+}  // namespace
+
+IcmalPaylari Icmal::ToplamSsk() const {
+  return {sskKesintisi.isci + sgdpKesintisi.isci + issizlik.isci,
+          sskKesintisi.isveren + sgdpKesintisi.isveren + issizlik.isveren};
+}
+
+Tutar Icmal::ToplamVergi() const {
+  return gvKesintisi + damgaKesintisi;
+}
+
+IcmalPaylari Icmal::OdemelerToplami() const {
+  return {ToplamSsk().isci + ToplamVergi(), ToplamSsk().isveren};
+}
+
+Tutar Icmal::PersonelOdemeleri() const {
+  return brut - OdemelerToplami().isci - digerKesinti;
+}
+
+Icmal IcmalHesapla(std::span<const IcmalGirdisi> girdiler, Tutar asgariUcret, Yuvarlayici yuvarla) {
+  Icmal icmal;
+  for (const auto& girdi : girdiler) {
+    if (GunToplami(girdi.brd) == 0) continue;
+    Ekle(icmal, girdi);
+    ++(AsgariUcretliMi(girdi.brd, asgariUcret, yuvarla) ? icmal.asgariUcretli : icmal.ucretli);
+  }
+  return icmal;
+}
+
+std::array<Icmal, 12> IcmalSerisi(std::span<const IcmalGirdisi> yilinGirdileri, Tutar asgariUcret,
+                                  Yuvarlayici yuvarla) {
+  std::array<std::vector<IcmalGirdisi>, 12> aylar;
+  for (const auto& girdi : yilinGirdileri)
+    if (girdi.brd.ay >= 1 && girdi.brd.ay <= 12) aylar[girdi.brd.ay - 1u].push_back(girdi);
+  std::array<Icmal, 12> seri;
+  for (std::size_t ay = 0; ay < seri.size(); ++ay) seri[ay] = IcmalHesapla(aylar[ay], asgariUcret, yuvarla);
+  return seri;
+}
+
+Rapor IcmalRaporu(const Icmal& icmal, const DefterBaslik& baslik) {
+  Rapor rapor = RaporYap(kolonlar, Satirlar(icmal), baslik.paraonda);
+  rapor.baslik = "BORDRO ÖZETİ";
+  rapor.ekranBasligi = "Bordro Özeti";
+  rapor.ustSatirlar = {{.orta = DonemMetni(BelgeDonemi(baslik))},
+                       UnvanSatiri(baslik.firma),
+                       IsyeriSatiri(baslik.firma),
+                       VergiDairesiSatiri(baslik.firma)};
+  rapor.sonBlok = Sayilar(icmal);
+  return rapor;
+}
+
+std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, std::optional<int> ay) {
+  SorguMetni sorgu("select " + SecimListesi<Brd>(motor, "b") +
+                       ", s.sskdurum from brd b join sicil s on s.kod = b.kod where b.yil = ?",
+                   {std::int64_t(yil)});
+  if (ay) sorgu.Ekle(" and b.ay = ?", std::int64_t(*ay));
+  const auto komut = sorgu.Hazirla(motor);
+  std::vector<IcmalGirdisi> girdiler;
+  while (komut->Adim()) {
+    IcmalGirdisi& girdi = girdiler.emplace_back();
+    KolonAl(*komut, KayitAl(*komut, 0, girdi.brd), girdi.sskdurum);
+  }
+  return girdiler;
+}
+
+}  // namespace belvani

@@ -1,0 +1,56 @@
+#include "documents/ozelbordro.h"
+
+#include "documents/turetilensatir.h"
+#include "printing/kolonlar.h"
+
+namespace belvani {
+namespace {
+
+using enum KolonNiteligi;
+
+const Kolonlar<TuretilmisSatir> kolonlar{
+    {"S.", 3, [](auto& s) { return s.sira; }},
+    {"SSK No", 13, [](auto& s) { return s.sicil.sskno; }},
+    {"T.C.No", 11, [](auto& s) { return s.tcno; }},
+    {"Ad Soyad", 24, [](auto& s) { return AdSoyad(s.sicil); }},
+    {"N.G.", 4, [](auto& s) { return s.brd.ng; }, Toplanir},
+    {"HT.", 3, [](auto& s) { return s.brd.ht; }, Toplanir},
+    {"RT.", 3, [](auto& s) { return s.brd.rt; }, Toplanir},
+    {"Üİ.", 3, [](auto& s) { return s.brd.ui; }, Toplanir},
+    {"Mİ.", 3, [](auto& s) { return s.brd.mi; }, Toplanir},
+    {{"Topl. Gün", "Top."}, 5, [](auto& s) { return GunToplami(s.brd); }, Toplanir},
+    {"G.Brüt ücret", 6, [](auto& s) { return s.gunlukBrut; }},
+    {"Brüt Kazanç", 8, [](auto& s) { return s.brd.brutkaz - s.brd.yrd02 - s.brd.yrd09; }, Toplanir},
+    {"Yemek", 6, [](auto& s) { return s.brd.yrd02; }, Toplanir},
+    {"Yol", 6, [](auto& s) { return s.brd.yrd09; }, Toplanir},
+    {"Toplam Kazanç", 8, [](auto& s) { return s.brd.brutkaz; }, Toplanir},
+    {"Pek İndirim", 7, [](auto& s) { return s.brd.muaftutar; }, Toplanir},
+    {"PEK", 8, [](auto& s) { return s.brd.sskmatrah; }, Toplanir},
+    {"SSK Primi", 7, [](auto& s) { return s.brd.sskkesinti; }, Toplanir},
+    {"İşsizlik", 8, [](auto& s) { return s.brd.issizisci; }, Toplanir},
+    {"Kümüle G.V.M.", 8, [](auto& s) { return s.brd.devgvmatrah; }, Toplanir},
+    {"G.V Matrahı", 8, [](auto& s) { return s.brd.gvmatrah; }, Toplanir},
+    {"G.Vergisi", 9, [](auto& s) { return s.brd.gvtutar; }, Toplanir},
+    {"Damga V.", 6, [](auto& s) { return s.damga; }, Toplanir},
+    {"Toplam Kesinti", 8, [](auto& s) { return s.kesintiler; }, Toplanir},
+    {"Agi+Net Ödeme", 8, [](auto& s) { return s.net; }, Toplanir},
+};
+
+}  // namespace
+
+Rapor OzelBordroRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBaslik& baslik) {
+  const Firma& firma = baslik.firma;
+  Rapor rapor = RaporYap(kolonlar, TuretilmisSatirlar(satirlar, baslik), baslik.paraonda);
+  rapor.baslik = "HİZMET ERBABI ÜCRET BORDROSU";
+  rapor.ekranBasligi = "Hizmet Erbabı Ücret Bordrosu";
+  rapor.ustSatirlar = {{.orta = DonemMetni(BelgeDonemi(baslik))},
+                       UnvanSatiri(firma),
+                       IsyeriSatiri(firma),
+                       {.sol = "BÖLGE ÇALIŞMA DOSYA No : " + firma.bolcal},
+                       VergiDairesiSatiri(firma)};
+  if (!satirlar.empty())
+    rapor.sonBlok = {IsverenMatrahi(satirlar), IsverenKesintisi(satirlar), IsverenIssizligi(satirlar)};
+  return rapor;
+}
+
+}  // namespace belvani

@@ -1,0 +1,179 @@
+#include "documents/pusula.h"
+
+#include "core/store/satirlar.h"
+#include "core/tables/muaf.h"
+#include "documents/turetilensatir.h"
+#include "printing/kolonlar.h"
+
+namespace belvani {
+namespace {
+
+using enum KolonNiteligi;
+
+// A field of the slip; as a head of the table its label loses what only fills it up: "Ücreti             :" ->
+// "Ücreti".
+template <class Okur>
+Kolonlar<TuretilmisSatir>::Tanim Alan(const char* etiket, Okur okur, KolonNiteligi nitelik = Yok) {
+  std::string baslik = etiket;
+  baslik.erase(baslik.find_last_not_of(" *:") + 1);
+  return {KolonBasligi(etiket, baslik.c_str()), 24, okur, nitelik};
+}
+
+std::string CikisMetni(const Sicil& sicil) {
+  return sicil.ciktar.Bos() ? "Çalışıyor" : sicil.ciktar.Metin();
+}
+
+Tutar FazlaMesaiTutari(const Brd& brd) {
+  return brd.brutkaz - brd.ucret - brd.topyardim;
+}
+
+const Kolonlar<TuretilmisSatir> kimlik{
+    Alan("Personel Kodu :", [](auto& s) { return s.brd.kod; }),
+    Alan("Adı Soyadı    :", [](auto& s) { return AdSoyad(s.sicil); }),
+    Alan("SSK No        :", [](auto& s) { return s.sicil.sskno; }),
+    Alan("T.C.Kimlik No :", [](auto& s) { return s.tcno; }),
+};
+
+const Kolonlar<TuretilmisSatir> kazanclar{
+    Alan("İşe Giriş Tarihi   :", [](auto& s) { return s.sicil.girtar; }),
+    Alan("İşten Çıkış Tarihi :", [](auto& s) { return CikisMetni(s.sicil); }),
+    Alan(
+        "Ücreti             :", [](auto& s) { return s.brd.ucret; }, Toplanir),
+    Alan(
+        "Fazla Mesai        :", [](auto& s) { return FazlaMesaiTutari(s.brd); }, Toplanir),
+    Alan(
+        "Yardımlar          :", [](auto& s) { return s.brd.topyardim; }, Toplanir),
+    Alan(
+        "Toplam Kazanç  *** :", [](auto& s) { return s.brd.brutkaz; }, Toplanir),
+    Alan(
+        "Normal Gün         :", [](auto& s) { return s.brd.ng; }, Toplanir),
+    Alan(
+        "Hafta Sonu         :", [](auto& s) { return s.brd.ht; }, Toplanir),
+    Alan(
+        "Resmi Tatil        :", [](auto& s) { return s.brd.rt; }, Toplanir),
+    Alan(
+        "Ücretli İzin       :", [](auto& s) { return s.brd.ui; }, Toplanir),
+    Alan(
+        "Hasta  Gün         :", [](auto& s) { return s.brd.ha; }, Toplanir),
+    Alan(
+        "Mazeret İzni       :", [](auto& s) { return s.brd.mi; }, Toplanir),
+    Alan(
+        "Eksik Gün          :", [](auto& s) { return s.brd.ucretsizizin; }, Toplanir),
+};
+
+const Kolonlar<TuretilmisSatir> kesilenler{
+    Alan(
+        "Ssk Matrahı        :", [](auto& s) { return s.brd.sskmatrah; }, Toplanir),
+    Alan(
+        "Ssk Kesintisi      :", [](auto& s) { return s.brd.sskkesinti; }, Toplanir),
+    Alan(
+        "İşsizlik Kesintisi :", [](auto& s) { return s.brd.issizisci; }, Toplanir),
+    Alan(
+        "Dev.G.V. Matrahı   :", [](auto& s) { return s.brd.devgvmatrah; }, Toplanir),
+    Alan(
+        "G.V. Matrahı       :", [](auto& s) { return s.brd.gvmatrah; }, Toplanir),
+    Alan(
+        "G.V. Tutarı        :", [](auto& s) { return s.brd.gvtutar; }, Toplanir),
+    Alan(
+        "D.V. Matrahı       :", [](auto& s) { return s.brd.dvmatrah; }, Toplanir),
+    Alan(
+        "D.V. Tutarı        :", [](auto& s) { return s.damga; }, Toplanir),
+    Alan(
+        "Toplam Kesinti     :", [](auto& s) { return s.kesintiler; }, Toplanir),
+    Alan(
+        "Ö.G.İ. Ödemesi     :", [](auto& s) { return s.brd.ogv; }, Toplanir),
+    Alan(
+        "Net Ödenen    ***  :", [](auto& s) { return s.net; }, Toplanir),
+};
+
+constexpr std::array<Tutar Brd::*, YardimSayisi> yardimlar{&Brd::yrd01, &Brd::yrd02, &Brd::yrd03, &Brd::yrd04,
+                                                           &Brd::yrd05, &Brd::yrd06, &Brd::yrd07, &Brd::yrd08,
+                                                           &Brd::yrd09, &Brd::yrd10, &Brd::yrd11};
+
+// What only the graphic and the spreadsheet form have room for.
+Kolonlar<TuretilmisSatir> EkAlanlar(const PusulaBaslik& baslik) {
+  Kolonlar<TuretilmisSatir> alanlar{
+      Alan(
+          "SSK İşveren Matrahı", [](auto& s) { return s.brd.sskmatrahisveren; }, Toplanir),
+      Alan(
+          "SSK İşveren Kesintisi", [](auto& s) { return s.brd.sskkesintiisveren; }, Toplanir),
+      Alan(
+          "SSK İşveren İşsizlik", [](auto& s) { return s.brd.issizisveren; }, Toplanir),
+      Alan(
+          "SSK Muafiyet", [](auto& s) { return s.brd.muaftutar; }, Toplanir),
+      Alan(
+          "Kümüle G.V.Matrahı", [](auto& s) { return s.brd.devgvmatrah; }, Toplanir),
+  };
+  for (std::size_t i = 0; i < yardimlar.size(); ++i)
+    alanlar.Ekle(Alan(
+        baslik.yardimAdlari[i].c_str(), [i](auto& s) { return s.brd.*yardimlar[i]; }, Toplanir));
+  return alanlar + Kolonlar<TuretilmisSatir>{
+                       Alan(
+                           "Sendika", [](auto& s) { return s.brd.sendika; }, Toplanir),
+                       Alan(
+                           "Borç Kes.", [](auto& s) { return s.brd.borckes; }, Toplanir),
+                       Alan(
+                           "İşveren Devlet Katkısı", [](auto& s) { return s.brd.katki; }, Toplanir),
+                       Alan(
+                           "Sakatlık İndirimi", [](auto& s) { return s.brd.sakindir; }, Toplanir),
+                       Alan(
+                           "İndirim 1", [](auto& s) { return s.brd.indirim1; }, Toplanir),
+                       Alan(
+                           "İndirim 2", [](auto& s) { return s.brd.indirim2; }, Toplanir),
+                       Alan(
+                           "İndirim 3", [](auto& s) { return s.brd.indirim3; }, Toplanir),
+                   };
+}
+
+// As DonemMetni, in the letters of a slip.
+std::string PusulaDonemi(const BordroDonemi& donem) {
+  switch (donem.tur) {
+    case DonemTuru::Takvim:
+      return std::string(AyAdi(donem.ay)) + " " + std::to_string(donem.yil) + " Dönemi";
+    case DonemTuru::Ters:
+      return donem.Bas().Metin() + " ile " + donem.Son().Metin() + " Dönemi";
+  }
+  return {};
+}
+
+constexpr const char* pusulaBasligi = "ÜCRET PUSULASI";
+
+}  // namespace
+
+std::array<std::string, YardimSayisi> YardimAdlariOku(Motor& motor) {
+  std::array<std::string, YardimSayisi> adlar;
+  const auto varsayilan = VarsayilanYardimlar();
+  for (std::size_t i = 0; i < adlar.size(); ++i) adlar[i] = varsayilan[i].adi;
+  for (const auto& satir : KayitlariOku<Muaf>(motor))
+    if (satir.no >= 1 && satir.no <= YardimSayisi && !satir.adi.empty()) adlar[satir.no - 1u] = satir.adi;
+  return adlar;
+}
+
+YaprakBelgesi PusulaBelgesi(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik) {
+  const Firma& firma = baslik.defter.firma;
+  const auto ekAlanlar = EkAlanlar(baslik);
+  YaprakBelgesi belge{.baslik = pusulaBasligi, .paraOndaligi = baslik.defter.paraonda, .yapraklar = {}};
+  for (const auto& satir : TuretilmisSatirlar(satirlar, baslik.defter)) {
+    Yaprak& yaprak = belge.yapraklar.emplace_back();
+    yaprak.altBaslik = PusulaDonemi(BelgeDonemi(baslik.defter));
+    yaprak.bas = {{"Firma İsmi    :", firma.unvan}, {"İşyeri Sicil  :", IsyeriSicilNo(firma)}};
+    for (auto& alan : kimlik.Blok(satir)) yaprak.bas.push_back(std::move(alan));
+    yaprak.sol = kazanclar.Blok(satir);
+    yaprak.sag = kesilenler.Blok(satir);
+    yaprak.ek = ekAlanlar.Blok(satir);
+    yaprak.cumleler = {"Ücret hesap pusulasını, ücretimi nakten aldım. Bu bordro bilgilerine istinaden müesseseniz",
+                       "ile ücret yönünden bir ilişiğim kalmamıştır.", "", "   İ M Z A"};
+  }
+  return belge;
+}
+
+Rapor PusulaRaporu(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik) {
+  Rapor rapor = RaporYap(kimlik + kazanclar + kesilenler + EkAlanlar(baslik),
+                         TuretilmisSatirlar(satirlar, baslik.defter), baslik.defter.paraonda);
+  rapor.baslik = pusulaBasligi;
+  rapor.ekranBasligi = "Ücret Pusulası";
+  rapor.ustSatirlar = {{.orta = PusulaDonemi(BelgeDonemi(baslik.defter))}, UnvanSatiri(baslik.defter.firma)};
+  return rapor;
+}
+
+}  // namespace belvani

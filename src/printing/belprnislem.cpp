@@ -1,0 +1,68 @@
+#include "printing/belprnislem.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "core/dosya.h"
+
+namespace belvani {
+namespace {
+
+constexpr const char* Kullanim = "Kullanım: belprn DOSYA [--yazici AD] [--sil]";
+
+// Through a child that ends at once, so that nobody has to wait for the program itself.
+bool AyriCalistir(std::vector<std::string> komut) {
+  std::vector<char*> arguman;
+  arguman.reserve(komut.size() + 1);
+  for (auto& parca : komut) arguman.push_back(parca.data());
+  arguman.push_back(nullptr);
+  const pid_t cocuk = ::fork();
+  if (cocuk == 0) {
+    ::setsid();
+    if (::fork() == 0) {
+      ::execv(arguman[0], arguman.data());
+      ::_exit(127);
+    }
+    ::_exit(0);
+  }
+  return cocuk > 0 && ::waitpid(cocuk, nullptr, 0) == cocuk;
+}
+
+}  // namespace
+
+Durum Belprn(const std::vector<std::string>& argumanlar, Kuyruk& kuyruk) {
+  BaskiIsi is{.tur = IsTuru::Ham, .yazici = {}, .ad = {}, .icerik = {}, .kopya = 1};
+  std::string dosya;
+  bool sil = false;
+  for (std::size_t i = 0; i < argumanlar.size(); ++i) {
+    if (argumanlar[i] == "--sil")
+      sil = true;
+    else if (argumanlar[i] == "--yazici" && i + 1 < argumanlar.size())
+      is.yazici = argumanlar[++i];
+    else if (dosya.empty() && !argumanlar[i].starts_with("--"))
+      dosya = argumanlar[i];
+    else
+      return Hata{Kullanim};
+  }
+  if (dosya.empty()) return Hata{Kullanim};
+  auto icerik = DosyaOku(dosya);
+  if (!icerik) return Hata{dosya + ": dosya okunamadı"};
+  is.icerik = std::move(*icerik);
+  is.ad = dosya.substr(dosya.rfind('/') + 1);
+  if (is.icerik.empty()) return Hata{dosya + ": dosya boş"};
+  if (const auto sonuc = kuyruk.Gonder(is); !sonuc) return sonuc.Hatasi();
+  if (sil) ::unlink(dosya.c_str());
+  return Tamam();
+}
+
+Durum BelprnBaslat(const std::string& programDizini, const std::string& dosya, const std::string& yazici,
+                   Kuyruk& kuyruk) {
+  const std::string program = DizinSonu(programDizini) + "belprn";
+  if (::access(program.c_str(), X_OK) != 0) return Hata{program + ": program bulunamadı"};
+  const auto secilen = YaziciSec(kuyruk, yazici);
+  if (!secilen) return secilen.Hatasi();
+  if (!AyriCalistir({program, dosya, "--yazici", secilen->ad, "--sil"})) return Hata{program + ": başlatılamadı"};
+  return Tamam();
+}
+
+}  // namespace belvani

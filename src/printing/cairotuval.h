@@ -1,0 +1,93 @@
+// Surfaces drawn by Cairo: a PDF, and the picture of one page.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/sonuc.h"
+#include "core/tarih.h"
+#include "printing/tuval.h"
+
+struct _cairo;          // NOLINT: the names are Cairo's
+struct _cairo_surface;  // NOLINT
+
+namespace belvani {
+
+// What both have in common. Without an open page nothing is drawn.
+class CairoTuval : public Tuval {
+ public:
+  ~CairoTuval() override;
+  CairoTuval(const CairoTuval&) = delete;
+  CairoTuval& operator=(const CairoTuval&) = delete;
+
+  void Metin(Nokta yer, std::string_view metin, const Yazi& yazi) override;
+  void Cizgi(Nokta bas, Nokta son, double kalinlik) override;
+  void Kutu(const Dikdortgen& kutu, double kalinlik) override;
+  void DoluKutu(const Dikdortgen& kutu, BoyaRengi renk) override;
+  bool Resim(const Dikdortgen& kutu, std::string_view png) override;
+
+ protected:
+  CairoTuval() = default;
+
+  void CizimeBasla(_cairo_surface* yuzey, double birimMm);  // `birimMm`: units of the surface in a millimetre
+  void CizimiBitir();
+  _cairo* Cizim() { return cizim_; }
+
+ private:
+  void YaziSec(const Yazi& yazi);
+
+  _cairo* cizim_ = nullptr;
+  Yazi secili_;  // the font that the drawing has now
+  bool yaziSecildi_ = false;
+};
+
+struct PdfBilgisi {
+  std::string baslik;
+  Tarih tarih = Tarih(2009, 1, 1);  // fixed, so that the same document always gives the same bytes
+};
+
+// Letters are embedded and can be read back out of the file.
+class PdfTuvali final : public CairoTuval {
+ public:
+  explicit PdfTuvali(const PdfBilgisi& bilgi = {});
+  ~PdfTuvali() override;
+
+  void SayfaBasla(KagitBoyu boy) override;
+  void SayfaBitir() override;
+
+  // Ends the document and gives its bytes. A document without a page is a failure: paper writers print nothing then.
+  Sonuc<std::string> Belge();
+
+ private:
+  std::string baytlar_;
+  _cairo_surface* yuzey_;
+  int sayfalar_ = 0;
+};
+
+// One page of a document, as dots. The other pages are passed over, so a preview costs the memory of one page.
+class ResimTuvali final : public CairoTuval {
+ public:
+  // `dpi`: dots per inch, 24 to 600; `sayfa` from 1.
+  ResimTuvali(double dpi, int sayfa);
+  ~ResimTuvali() override;
+
+  void SayfaBasla(KagitBoyu boy) override;
+  void SayfaBitir() override;
+
+  int SayfaSayisi() const { return sayfalar_; }  // of the whole document
+  int En() const { return en_; }                 // 0 when the document has no such page
+  int Boy() const { return boy_; }
+  const std::vector<std::uint32_t>& Noktalar() const { return noktalar_; }  // 0xFFRRGGBB, row by row
+
+ private:
+  double dpi_;
+  int istenen_;
+  int sayfalar_ = 0;
+  int en_ = 0;
+  int boy_ = 0;
+  std::vector<std::uint32_t> noktalar_;
+  _cairo_surface* yuzey_ = nullptr;
+};
+
+}  // namespace belvani

@@ -1,0 +1,171 @@
+#include <algorithm>
+#include <limits>
+
+#include "core/turkce.h"
+#include "printing/grafikyazici.h"
+
+namespace belvani {
+namespace {
+
+constexpr double RahatPunto = 7;       // below this a sheet is turned sideways
+constexpr double SatirAraligi = 1.12;  // of the height of letters
+constexpr double KolonBoslugu = 0.7;   // between columns, of the size of letters
+constexpr double EnCokEkBosluk = 4;    // millimetres more between columns where the sheet has room
+constexpr double OrtalamaHarf = 0.62;  // width of a letter, of its size
+constexpr double DarHucre = 0.6;       // how narrow a single long text may become
+
+// Widths below are those of letters one point high.
+Yazi BirPunto(const GrafikDuzeni& duzen, YaziKalinligi kalinlik) {
+  return {.punto = 1, .kalinlik = kalinlik, .aile = duzen.aile};
+}
+
+// The widest number of as many letters as the column needs: digits are all equally wide.
+double SayiEni(const Rapor& rapor, std::size_t k, int gruplama, const Yazi& yazi) {
+  const RaporKolonu& kolon = rapor.Kolonlar()[k];
+  const std::int64_t enCok = std::numeric_limits<std::int64_t>::max();
+  const Hucre dolu = kolon.tur == KolonTuru::Tutar ? Hucre(Tutar::Hamdan(enCok)) : Hucre(enCok);
+  const std::string metin = HucreMetni(dolu, kolon, gruplama);
+  const auto harf = std::min(metin.size(), std::size_t(rapor.GerekliEn(k, gruplama)));
+  return MetinEni(std::string_view(metin).substr(metin.size() - harf), yazi);
+}
+
+// The label of the sums, which stands in the first text column.
+std::string_view Etiketi(const Rapor& rapor, std::size_t k) {
+  const auto& kolonlar = rapor.Kolonlar();
+  const auto ilk = std::find_if(kolonlar.begin(), kolonlar.end(), [](auto& o) { return o.tur == KolonTuru::Metin; });
+  return ilk == kolonlar.begin() + std::ptrdiff_t(k) ? std::string_view(rapor.toplamEtiketi) : std::string_view();
+}
+
+double MetinKolonuEni(const Rapor& rapor, std::size_t k, const Yazi& yazi) {
+  double enUzun = MetinEni(Etiketi(rapor, k), yazi);
+  for (const auto& satir : rapor.Satirlar())
+    if (const auto* metin = std::get_if<std::string>(&satir.hucreler[k]))
+      enUzun = std::max(enUzun, MetinEni(*metin, yazi));
+  const double bildirilen = rapor.Kolonlar()[k].en * OrtalamaHarf * PuntoMm;
+  return std::min(enUzun, std::max(bildirilen, DarHucre * enUzun));
+}
+
+double IcerikEni(const Rapor& rapor, std::size_t k, int gruplama, const Yazi& yazi) {
+  const RaporKolonu& kolon = rapor.Kolonlar()[k];
+  switch (kolon.tur) {
+    case KolonTuru::Metin:
+      return MetinKolonuEni(rapor, k, yazi);
+    case KolonTuru::Tam:
+    case KolonTuru::Tutar:
+      return SayiEni(rapor, k, gruplama, yazi);
+    case KolonTuru::Tarih:
+      return MetinEni("00.00.0000", yazi);
+    case KolonTuru::KisaTarih:
+      return MetinEni("00.00.00", yazi);
+    case KolonTuru::Bos:
+      return kolon.en * OrtalamaHarf * PuntoMm;
+  }
+  return 0;
+}
+
+// The head in two lines of which none is cut: broken where the text printer breaks it, or later.
+IkiSatir TamBaslik(const RaporKolonu& kolon) {
+  const auto harfler = [](const IkiSatir& b) { return HarfSayisi(b[0]) + HarfSayisi(b[1]); };
+  const std::size_t harf = HarfSayisi(kolon.baslik);
+  int en = std::max(kolon.en, 1);
+  IkiSatir baslik = BaslikBol(kolon.baslik, en);
+  while (harfler(baslik) + 1 < harf) baslik = BaslikBol(kolon.baslik, ++en);
+  return baslik;
+}
+
+KagitBicimi Kagit(const Rapor& rapor, int gruplama) {
+  KagitBicimi kagit;
+  kagit.gruplama = gruplama;
+  for (const auto& kolon : rapor.Kolonlar()) {
+    kagit.basliklar.push_back(TamBaslik(kolon));
+    if (!kagit.basliklar.back()[0].empty()) kagit.baslikBoyu = 2;
+  }
+  return kagit;
+}
+
+std::vector<double> Enler(const Rapor& rapor, const GrafikDuzeni& duzen, const KagitBicimi& kagit) {
+  const Yazi yazi = BirPunto(duzen, YaziKalinligi::Normal);
+  const Yazi kalin = BirPunto(duzen, YaziKalinligi::Kalin);
+  std::vector<double> enler;
+  for (std::size_t k = 0; k < rapor.Kolonlar().size(); ++k) {
+    double en = IcerikEni(rapor, k, kagit.gruplama, yazi);
+    for (const auto& baslik : kagit.basliklar[k]) en = std::max(en, MetinEni(baslik, kalin));
+    enler.push_back(en);
+  }
+  return enler;
+}
+
+double TabloEni(const std::vector<double>& enler) {
+  double toplam = KolonBoslugu * PuntoMm * (std::max(1.0, double(enler.size())) - 1);
+  for (const double en : enler) toplam += en;
+  return toplam;
+}
+
+double KullanilirEn(KagitYonu yon) {
+  return A4(yon).en - 2 * KenarMm;
+}
+
+// The size at which a table of this width fills the sheet, narrowing left out.
+double DoluPunto(KagitYonu yon, double tabloEni) {
+  return tabloEni > 0 ? KullanilirEn(yon) / tabloEni : std::numeric_limits<double>::max();
+}
+
+KagitYonu YonSec(const GrafikDuzeni& duzen, double tabloEni) {
+  if (duzen.yon) return *duzen.yon;
+  const bool sigar = DoluPunto(KagitYonu::Dikey, tabloEni) >= std::min(duzen.punto, RahatPunto);
+  return sigar ? KagitYonu::Dikey : KagitYonu::Yatay;
+}
+
+// Size and narrowness of the letters.
+void YaziKur(GrafikBicimi& bicim, const GrafikDuzeni& duzen, double tabloEni) {
+  const double dolu = DoluPunto(bicim.yon, tabloEni);
+  bicim.yazi = {.punto = std::min(duzen.punto, dolu), .aile = duzen.aile};
+  if (dolu >= EnKucukPunto || dolu >= duzen.punto) return;
+  bicim.yazi.genislik = std::max(EnDarYazi, dolu / EnKucukPunto);
+  bicim.yazi.punto = dolu / bicim.yazi.genislik;
+  bicim.okunur = bicim.yazi.punto >= EnKucukPunto * 0.999;
+}
+
+void KolonlariYerlestir(GrafikBicimi& bicim, const std::vector<double>& enler) {
+  const double olcek = bicim.yazi.punto * bicim.yazi.genislik;
+  const double aralik = std::max(1.0, double(enler.size()) - 1);
+  const double bos = KullanilirEn(bicim.yon) - TabloEni(enler) * olcek;
+  const double bosluk = KolonBoslugu * PuntoMm * olcek + std::clamp(bos / aralik, 0.0, EnCokEkBosluk);
+  double x = 0;
+  for (const double en : enler) {
+    bicim.kolonlar.push_back({x, en * olcek});
+    bicim.en = x + en * olcek;
+    x = bicim.en + bosluk;
+  }
+}
+
+double UstSatirEni(const UstSatir& satir, const Yazi& yazi) {
+  double en = (int(satir.sayfaNo) + int(satir.sayfaSayisi)) * MetinEni("/0000", yazi);
+  for (const auto& parca : {satir.sol, satir.orta, satir.sag})
+    if (!parca.empty()) en += MetinEni(parca, yazi) + yazi.punto * PuntoMm;
+  return en;
+}
+
+}  // namespace
+
+GrafikBicimi GrafikBicimle(const Rapor& rapor, const GrafikDuzeni& duzen) {
+  GrafikBicimi bicim;
+  bicim.kagit = Kagit(rapor, BinlikGruplama);
+  auto enler = Enler(rapor, duzen, bicim.kagit);
+  const KagitYonu genis = duzen.yon.value_or(KagitYonu::Yatay);
+  if (DoluPunto(genis, TabloEni(enler)) < std::min(duzen.punto, EnKucukPunto * EnDarYazi)) {
+    bicim.kagit.gruplama = 0;
+    enler = Enler(rapor, duzen, bicim.kagit);
+  }
+  bicim.yon = YonSec(duzen, TabloEni(enler));
+  YaziKur(bicim, duzen, TabloEni(enler));
+  KolonlariYerlestir(bicim, enler);
+  for (const auto& satir : rapor.ustSatirlar) bicim.en = std::max(bicim.en, UstSatirEni(satir, bicim.yazi));
+  bicim.en = std::max(bicim.en, MetinEni(rapor.baslik, bicim.yazi) * 1.5);
+  bicim.en = std::min(bicim.en, KullanilirEn(bicim.yon));
+  bicim.satirBoyu = SatirBoyu(bicim.yazi) * SatirAraligi;
+  bicim.satirSayisi = int((A4(bicim.yon).boy - 2 * KenarMm) / bicim.satirBoyu);
+  return bicim;
+}
+
+}  // namespace belvani

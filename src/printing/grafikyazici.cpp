@@ -1,0 +1,168 @@
+#include "printing/grafikyazici.h"
+
+#include <algorithm>
+
+#include "printing/sayfalayici.h"
+
+namespace belvani {
+namespace {
+
+constexpr BoyaRengi AcikGri = 0xEDEDED;
+constexpr double BaslikOrani = 1.25;  // title to rows, in size
+constexpr double BlokAraligi = 3;     // millimetres between label and value of the end block
+
+MetinHizasi Hiza(const RaporKolonu& kolon) {
+  return kolon.Sayisal() ? MetinHizasi::Sag : MetinHizasi::Sol;
+}
+
+class GrafikYazici {
+ public:
+  GrafikYazici(const Rapor& rapor, const GrafikDuzeni& duzen, Tuval& tuval)
+      : rapor_(rapor), duzen_(duzen), tuval_(tuval), bicim_(GrafikBicimle(rapor, duzen)), kalin_(bicim_.yazi) {
+    kalin_.kalinlik = YaziKalinligi::Kalin;
+    for (const auto& b : rapor_.sonBlok) {
+      etiketEni_ = std::max(etiketEni_, MetinEni(b.etiket, bicim_.yazi));
+      degerEni_ = std::max(degerEni_, MetinEni(BlokMetni(b, rapor_), bicim_.yazi));
+    }
+  }
+
+  GrafikSonucu Yaz() {
+    const SayfaDuzeni sayfaDuzeni{.satirSayisi = bicim_.satirSayisi, .satirArasi = duzen_.satirArasi};
+    const auto sayfalar = SayfalaraBol(rapor_, bicim_.kagit, sayfaDuzeni);
+    sayfaSayisi_ = sayfalar.size();
+    for (const auto& sayfa : sayfalar) SayfaCiz(sayfa);
+    GrafikSonucu sonuc{.sayfaSayisi = int(sayfalar.size()), .bicim = bicim_, .uyari = {}};
+    if (!bicim_.okunur)
+      sonuc.uyari =
+          "Liste kağıda sığmayacak kadar geniş: okunması güç, çok küçük harflerle basıldı. "
+          "Kolon sayısını azaltınız.";
+    return sonuc;
+  }
+
+ private:
+  void SayfaCiz(const Sayfa& sayfa) {
+    tuval_.SayfaBasla(A4(bicim_.yon));
+    for (std::size_t i = 0; i < sayfa.satirlar.size(); ++i) {
+      y_ = KenarMm + double(i) * bicim_.satirBoyu;
+      SatirCiz(sayfa, sayfa.satirlar[i]);
+    }
+    if (duzen_.kolonArasi == KolonArasi::DikCizgi) DikCizgiler(sayfa);
+    tuval_.SayfaBitir();
+  }
+
+  void SatirCiz(const Sayfa& sayfa, const SayfaSatiri& satir) {
+    switch (satir.tur) {
+      case SayfaSatirTuru::Baslik:
+        return BaslikCiz();
+      case SayfaSatirTuru::UstSatir:
+        return UstCiz(rapor_.ustSatirlar[satir.sira], sayfa.no);
+      case SayfaSatirTuru::KolonBasligi:
+        return KolonBasliklari(satir.sira);
+      case SayfaSatirTuru::Cizgi: {
+        const double orta = y_ + bicim_.satirBoyu / 2;
+        return tuval_.Cizgi({KenarMm, orta}, {KenarMm + TabloEni(), orta}, InceCizgi);
+      }
+      case SayfaSatirTuru::Bos:
+        return;
+      case SayfaSatirTuru::Govde:
+        return Hucreler(rapor_.Satirlar()[satir.sira].hucreler);
+      case SayfaSatirTuru::Nakil:
+      case SayfaSatirTuru::Toplam:
+        tuval_.DoluKutu({KenarMm, y_, TabloEni(), bicim_.satirBoyu}, AcikGri);
+        return Hucreler(rapor_.AraToplam(satir.sira));
+      case SayfaSatirTuru::Blok:
+        return BlokCiz(rapor_.sonBlok[satir.sira]);
+    }
+  }
+
+  double TabloEni() const { return bicim_.kolonlar.empty() ? 0 : bicim_.kolonlar.back().x + bicim_.kolonlar.back().en; }
+
+  // The box of a column, or of any other stretch of the line.
+  Dikdortgen Yer(double x, double en) const { return {KenarMm + x, y_, en, bicim_.satirBoyu}; }
+
+  void BaslikCiz() {
+    Yazi yazi = kalin_;
+    yazi.punto *= BaslikOrani;
+    MetinKutuya(tuval_, Yer(0, bicim_.en), rapor_.baslik, yazi, MetinHizasi::Orta);
+  }
+
+  // Left, middle and right part. Where they would touch, all are printed narrower and the middle one moves.
+  void UstCiz(const UstSatir& ust, int sayfaNo) {
+    const std::string sag = UstSagMetni(ust, sayfaNo, sayfaSayisi_);
+    Yazi yazi = bicim_.yazi;
+    const auto en = [&](const std::string& metin) { return MetinEni(metin, yazi); };
+    const double ara = yazi.punto * PuntoMm;
+    const double gereken = en(ust.sol) + en(ust.orta) + en(sag) + 2 * ara;
+    if (gereken > bicim_.en) yazi.genislik *= (bicim_.en - 2 * ara) / (gereken - 2 * ara);
+    const double enSol = ust.sol.empty() ? 0 : en(ust.sol) + ara;
+    const double enSag = bicim_.en - en(sag) - ara - en(ust.orta);
+    const double orta = std::max(enSol, std::min((bicim_.en - en(ust.orta)) / 2, enSag));
+    MetinKutuya(tuval_, Yer(0, bicim_.en), ust.sol, yazi, MetinHizasi::Sol);
+    MetinKutuya(tuval_, Yer(orta, bicim_.en), ust.orta, yazi, MetinHizasi::Sol);
+    MetinKutuya(tuval_, Yer(0, bicim_.en), sag, yazi, MetinHizasi::Sag);
+  }
+
+  void KolonBasliklari(std::size_t sira) {
+    tuval_.DoluKutu({KenarMm, y_, TabloEni(), bicim_.satirBoyu}, AcikGri);
+    for (std::size_t k = 0; k < bicim_.kolonlar.size(); ++k)
+      MetinKutuya(tuval_, Yer(bicim_.kolonlar[k].x, bicim_.kolonlar[k].en), bicim_.kagit.basliklar[k][sira], kalin_,
+                  Hiza(rapor_.Kolonlar()[k]));
+  }
+
+  void Hucreler(const std::vector<Hucre>& hucreler) {
+    for (std::size_t k = 0; k < bicim_.kolonlar.size(); ++k) {
+      const RaporKolonu& kolon = rapor_.Kolonlar()[k];
+      MetinKutuya(tuval_, Yer(bicim_.kolonlar[k].x, bicim_.kolonlar[k].en),
+                  HucreMetni(hucreler[k], kolon, bicim_.kagit.gruplama), bicim_.yazi, Hiza(kolon));
+    }
+  }
+
+  void BlokCiz(const BlokSatiri& blok) {
+    const double sigan = bicim_.en < etiketEni_ + BlokAraligi + degerEni_ ? A4(bicim_.yon).en - 2 * KenarMm : bicim_.en;
+    const double degerYeri = std::min(etiketEni_ + BlokAraligi, std::max(0.0, sigan - degerEni_));
+    MetinKutuya(tuval_, Yer(0, degerYeri), blok.etiket, bicim_.yazi, MetinHizasi::Sol);
+    MetinKutuya(tuval_, Yer(degerYeri, degerEni_), BlokMetni(blok, rapor_), bicim_.yazi, MetinHizasi::Sag);
+  }
+
+  // Between the columns, over each stretch of lines that have columns.
+  void DikCizgiler(const Sayfa& sayfa) {
+    const auto tablo = [&](std::size_t i) { return i < sayfa.satirlar.size() && TabloSatiriMi(sayfa.satirlar[i].tur); };
+    const auto cizgi = [&](std::size_t i) {
+      return i < sayfa.satirlar.size() && sayfa.satirlar[i].tur == SayfaSatirTuru::Cizgi;
+    };
+    const auto yer = [&](std::size_t i) { return KenarMm + double(i) * bicim_.satirBoyu; };
+    for (std::size_t i = 0; i < sayfa.satirlar.size(); ++i) {
+      if (!tablo(i)) continue;
+      const std::size_t bas = i;
+      while (tablo(i) || (cizgi(i) && tablo(i + 1))) ++i;
+      const double yarim = bicim_.satirBoyu / 2;
+      DikCiz(yer(bas) - (bas > 0 && cizgi(bas - 1) ? yarim : 0), yer(i) + (cizgi(i) ? yarim : 0));
+    }
+  }
+
+  void DikCiz(double ust, double alt) {
+    for (std::size_t k = 1; k < bicim_.kolonlar.size(); ++k) {
+      const KolonYeri& onceki = bicim_.kolonlar[k - 1];
+      const double x = KenarMm + (onceki.x + onceki.en + bicim_.kolonlar[k].x) / 2;
+      tuval_.Cizgi({x, ust}, {x, alt}, InceCizgi);
+    }
+  }
+
+  const Rapor& rapor_;
+  const GrafikDuzeni& duzen_;
+  Tuval& tuval_;
+  const GrafikBicimi bicim_;
+  Yazi kalin_;
+  std::size_t sayfaSayisi_ = 0;
+  double etiketEni_ = 0;
+  double degerEni_ = 0;
+  double y_ = 0;  // upper edge of the line being drawn
+};
+
+}  // namespace
+
+GrafikSonucu GrafikRaporu(const Rapor& rapor, const GrafikDuzeni& duzen, Tuval& tuval) {
+  return GrafikYazici(rapor, duzen, tuval).Yaz();
+}
+
+}  // namespace belvani

@@ -1,0 +1,211 @@
+#include "printing/xlsxkitap.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <locale.h>
+#include <utility>
+#include <vector>
+#include <xlsxwriter.h>
+
+#include "core/dosya.h"
+#include "core/turkce.h"
+#include "printing/zipdosya.h"
+
+namespace belvani {
+namespace {
+
+constexpr std::size_t SayfaAdiHarfi = 31;
+constexpr std::int32_t IlkGun = 61;  // 01.03.1900: from here on both calendars count alike
+constexpr std::size_t EnBuyukDosya = std::size_t(2) << 30;
+constexpr const char* SayfaParcasi = "xl/worksheets/sheet1.xml";
+
+// The library prints numbers by the locale of the thread: a decimal comma would spoil the file.
+class NoktaliSayilar {
+ public:
+  NoktaliSayilar() : onceki_(::uselocale(C())) {}
+  ~NoktaliSayilar() { ::uselocale(onceki_); }
+  NoktaliSayilar(const NoktaliSayilar&) = delete;
+  NoktaliSayilar& operator=(const NoktaliSayilar&) = delete;
+
+ private:
+  static locale_t C() {
+    static const locale_t c = ::newlocale(LC_ALL_MASK, "C", nullptr);
+    return c;
+  }
+  locale_t onceki_;
+};
+
+// Broken bytes would make the whole file unreadable; they are taken for the older programs' code page.
+std::string SaglamMetin(std::string_view metin) {
+  return DenetimsizMetin(GecerliUtf8(metin) ? std::string(metin) : KodSayfasindan(metin, KodSayfasi::Windows1254));
+}
+
+std::string SayfaAdi(std::string_view ad) {
+  std::string temiz = SaglamMetin(ad);
+  std::replace_if(
+      temiz.begin(), temiz.end(),
+      [](char c) { return std::string_view("[]:*?/\\'").find(c) != std::string_view::npos; }, ' ');
+  temiz = Kirp(IlkHarfler(Kirp(temiz), SayfaAdiHarfi));
+  return temiz.empty() ? "Rapor" : temiz;
+}
+
+std::size_t Say(std::string_view metin, std::string_view aranan) {
+  std::size_t adet = 0;
+  for (std::size_t i = 0; (i = metin.find(aranan, i)) != std::string_view::npos; i += aranan.size()) ++adet;
+  return adet;
+}
+
+// Whether the text of a part ends as XML does.
+bool TamMi(std::string_view parca) {
+  const auto son = parca.find_last_not_of("\r\n");
+  return son != std::string_view::npos && parca[son] == '>';
+}
+
+lxw_format* BicimYap(lxw_workbook* kitap, const XlsxStili& stil) {
+  lxw_format* bicim = workbook_add_format(kitap);
+  if (!stil.sayiBicimi.empty()) format_set_num_format(bicim, stil.sayiBicimi.c_str());
+  if (stil.koyu || stil.baslik) format_set_bold(bicim);
+  if (stil.baslik) {
+    format_set_text_wrap(bicim);
+    format_set_align(bicim, LXW_ALIGN_VERTICAL_CENTER);
+    format_set_bottom(bicim, LXW_BORDER_THIN);
+    format_set_bg_color(bicim, 0xE7E9EC);
+  }
+  return bicim;
+}
+
+}  // namespace
+
+struct XlsxKitap::Ic {
+  explicit Ic(std::string_view sayfaAdi) : yol(GeciciDosya()) {
+    if (yol.empty()) return;
+    const NoktaliSayilar nokta;
+    lxw_workbook_options secenekler = {.constant_memory = LXW_TRUE, .tmpdir = nullptr, .use_zip64 = LXW_FALSE};
+    kitap = workbook_new_opt(yol.c_str(), &secenekler);
+    if (kitap != nullptr) sayfa = workbook_add_worksheet(kitap, SayfaAdi(sayfaAdi).c_str());
+  }
+  ~Ic() {
+    Kapat();
+    std::error_code hata;
+    if (!yol.empty()) std::filesystem::remove(yol, hata);
+  }
+
+  lxw_error Kapat() {
+    if (kitap == nullptr) return LXW_ERROR_CREATING_TMPFILE;
+    const NoktaliSayilar nokta;
+    return workbook_close(std::exchange(kitap, nullptr));
+  }
+
+  // The library does not look whether its own temporary files were written to the end, so the file is read back: every
+  // part whole, and in the sheet as many cells as were written.
+  bool Saglam(const ZipDosyasi& dosya) const {
+    std::size_t hucreler = 0;
+    for (const auto& ad : dosya.Adlar()) {
+      const auto parca = dosya.Oku(ad);
+      if (!parca || !TamMi(*parca)) return false;
+      if (ad == SayfaParcasi) hucreler = Say(*parca, "<c r=\"");
+    }
+    return hucreler == hucreSayisi;
+  }
+
+  std::string yol;
+  lxw_workbook* kitap = nullptr;
+  lxw_worksheet* sayfa = nullptr;
+  std::vector<std::pair<XlsxStili, lxw_format*>> stiller;
+  lxw_error kusur = LXW_NO_ERROR;
+  std::size_t hucreSayisi = 0;
+};
+
+XlsxKitap::XlsxKitap(std::string_view sayfaAdi) : ic_(std::make_unique<Ic>(sayfaAdi)) {}
+XlsxKitap::~XlsxKitap() = default;
+
+XlsxKitap::Stil XlsxKitap::StilEkle(const XlsxStili& stil) {
+  // One format for each look, and none for the plain one: the library searches for the twin of a format at every cell.
+  auto& stiller = ic_->stiller;
+  const auto ayni = std::find_if(stiller.begin(), stiller.end(), [&](const auto& s) { return s.first == stil; });
+  if (ayni != stiller.end()) return Stil(ayni - stiller.begin());
+  stiller.emplace_back(stil, stil == XlsxStili{} || ic_->kitap == nullptr ? nullptr : BicimYap(ic_->kitap, stil));
+  return Stil(stiller.size()) - 1;
+}
+
+void XlsxKitap::KolonEni(int kolon, double harf) {
+  if (ic_->sayfa != nullptr) worksheet_set_column(ic_->sayfa, lxw_col_t(kolon), lxw_col_t(kolon), harf, nullptr);
+}
+
+void XlsxKitap::UstuDondur(int satir) {
+  if (ic_->sayfa == nullptr) return;
+  worksheet_freeze_panes(ic_->sayfa, lxw_row_t(satir), 0);
+  worksheet_repeat_rows(ic_->sayfa, lxw_row_t(satir - 1), lxw_row_t(satir - 1));
+}
+
+void XlsxKitap::YatayYazdir() {
+  if (ic_->sayfa == nullptr) return;
+  worksheet_set_landscape(ic_->sayfa);
+  worksheet_set_paper(ic_->sayfa, 9);  // A4
+  worksheet_fit_to_pages(ic_->sayfa, 1, 0);
+}
+
+void XlsxKitap::Yaz(int satir, int kolon, const Hucre& hucre, Stil stil) {
+  if (ic_->sayfa == nullptr || ic_->kusur != LXW_NO_ERROR) return;
+  const NoktaliSayilar nokta;
+  lxw_format* bicim = ic_->stiller[std::size_t(stil)].second;
+  const auto metin = [&](const std::string& m) {
+    if (m.empty()) return;
+    ic_->kusur = worksheet_write_string(ic_->sayfa, lxw_row_t(satir), lxw_col_t(kolon), m.c_str(), bicim);
+    ++ic_->hucreSayisi;
+  };
+  const auto sayi = [&](double s) {
+    ic_->kusur = worksheet_write_number(ic_->sayfa, lxw_row_t(satir), lxw_col_t(kolon), s, bicim);
+    ++ic_->hucreSayisi;
+  };
+  if (const auto* m = std::get_if<std::string>(&hucre)) metin(SaglamMetin(*m));
+  if (const auto* tam = std::get_if<std::int64_t>(&hucre)) sayi(double(*tam));
+  if (const auto* tutar = std::get_if<Tutar>(&hucre)) sayi(tutar->Sayi());
+  if (const auto* tarih = std::get_if<Tarih>(&hucre); tarih != nullptr && !tarih->Bos()) {
+    if (tarih->SeriNo() >= IlkGun)
+      sayi(tarih->SeriNo());
+    else
+      metin(tarih->Metin());
+  }
+}
+
+Sonuc<std::string> XlsxKitap::Bitir() {
+  if (ic_->sayfa == nullptr) return Hata{"Tablo dosyası yazılamadı: geçici dosya açılamıyor"};
+  if (ic_->kusur == LXW_ERROR_WORKSHEET_INDEX_OUT_OF_RANGE)
+    return Hata{"Tablo dosyası yazılamadı: bir sayfa en çok 1,048,576 satır alır"};
+  if (ic_->kusur != LXW_NO_ERROR) return Hata{"Tablo dosyası yazılamadı: bir hücre en çok 32,767 harf alır"};
+  const Hata yazilamadi{"Tablo dosyası yazılamadı: geçici dosyaların dizini dolu ya da yazılamıyor"};
+  if (ic_->Kapat() != LXW_NO_ERROR) return yazilamadi;
+  auto baytlar = DosyaOku(ic_->yol, EnBuyukDosya);
+  if (!baytlar) return yazilamadi;
+  const auto dosya = ZipDosyasi::Ac(*baytlar);
+  if (!dosya || !ic_->Saglam(*dosya)) return yazilamadi;
+  return std::move(*baytlar);
+}
+
+std::string XlsxTutarBicimi(int ondalik) {
+  return XlsxSifirliBicim(ondalik) + ";-" + XlsxSifirliBicim(ondalik) + ";";
+}
+
+std::string XlsxSifirliBicim(int ondalik) {
+  return ondalik > 0 ? "#,##0." + std::string(std::size_t(ondalik), '0') : "#,##0";
+}
+
+XlsxStili KolonStili(const RaporKolonu& kolon) {
+  switch (kolon.tur) {
+    case KolonTuru::Tam:
+      return {.sayiBicimi = XlsxTutarBicimi(0)};
+    case KolonTuru::Tutar:
+      return {.sayiBicimi = XlsxTutarBicimi(kolon.ondalik)};
+    case KolonTuru::Tarih:
+      return {.sayiBicimi = XlsxTarihBicimi};
+    case KolonTuru::KisaTarih:
+      return {.sayiBicimi = XlsxKisaTarihBicimi};
+    case KolonTuru::Metin:
+    case KolonTuru::Bos:
+      return {};
+  }
+  return {};
+}
+
+}  // namespace belvani

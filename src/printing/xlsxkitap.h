@@ -1,0 +1,65 @@
+// XlsxKitap: a spreadsheet file (.xlsx) of one sheet that is written row by row, top to bottom. Memory does not grow
+// with the rows. The bytes are the same under every locale of the process.
+//
+//   XlsxKitap kitap("Ücret Bordrosu");
+//   const auto tutar = kitap.StilEkle({.sayiBicimi = XlsxTutarBicimi(2)});
+//   kitap.Yaz(0, 3, Tutar(1234.5), tutar);
+//   Sonuc<std::string> baytlar = kitap.Bitir();
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "core/sonuc.h"
+#include "printing/rapor.h"
+
+namespace belvani {
+
+struct XlsxStili {
+  std::string sayiBicimi = {};  // in the file's own notation; empty: general
+  bool koyu = false;
+  bool baslik = false;  // of a column: lined, on grey, wrapped
+
+  bool operator==(const XlsxStili&) const = default;
+};
+
+// Whole numbers and amounts as paper shows them: grouped, zero empty. XlsxTutarBicimi(2) -> "#,##0.00;-#,##0.00;".
+std::string XlsxTutarBicimi(int ondalik);
+// The same with zero shown.
+std::string XlsxSifirliBicim(int ondalik);
+constexpr const char* XlsxTarihBicimi = "dd.mm.yyyy";
+constexpr const char* XlsxKisaTarihBicimi = "dd.mm.yy";
+
+class XlsxKitap {
+ public:
+  using Stil = int;
+
+  explicit XlsxKitap(std::string_view sayfaAdi);
+  ~XlsxKitap();
+  XlsxKitap(const XlsxKitap&) = delete;
+  XlsxKitap& operator=(const XlsxKitap&) = delete;
+
+  Stil StilEkle(const XlsxStili& stil);
+
+  void KolonEni(int kolon, double harf);
+  void UstuDondur(int satir);  // rows above it stay in sight
+  void YatayYazdir();          // landscape, as wide as one page
+
+  // Rows and columns count from 0; a row may not be written once a later one is. Null writes nothing. A day before
+  // March 1900, which a spreadsheet cannot count, is written as text.
+  void Yaz(int satir, int kolon, const Hucre& hucre, Stil stil);
+
+  // The file, once. Fails when a row or a text is beyond what a sheet holds, or the system's temporary directory is
+  // full or missing; there is never half a file.
+  Sonuc<std::string> Bitir();
+
+ private:
+  struct Ic;
+  std::unique_ptr<Ic> ic_;
+};
+
+// How a cell of a column looks in a spreadsheet.
+XlsxStili KolonStili(const RaporKolonu& kolon);
+
+}  // namespace belvani

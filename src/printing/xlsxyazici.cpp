@@ -1,0 +1,170 @@
+#include "printing/xlsxyazici.h"
+
+#include <algorithm>
+
+#include "core/turkce.h"
+#include "printing/xlsxkitap.h"
+
+namespace belvani {
+namespace {
+
+constexpr int EnGenisKolon = 60;
+constexpr int KolonPayi = 2;
+constexpr int TarihEni = 10;
+
+class RaporSayfasi {
+ public:
+  explicit RaporSayfasi(const Rapor& rapor)
+      : rapor_(rapor),
+        kitap_(rapor.ekranBasligi),
+        duz_(kitap_.StilEkle({})),
+        koyu_(kitap_.StilEkle({.koyu = true})),
+        baslik_(kitap_.StilEkle({.baslik = true})) {
+    for (const auto& kolon : rapor.Kolonlar()) {
+      XlsxStili stil = KolonStili(kolon);
+      govde_.push_back(kitap_.StilEkle(stil));
+      stil.koyu = true;
+      toplam_.push_back(kitap_.StilEkle(stil));
+    }
+  }
+
+  Sonuc<std::string> Yaz() {
+    KolonEnleri();
+    kitap_.YatayYazdir();
+    Basi();
+    for (const auto& satir : rapor_.Satirlar()) SatirYaz(satir.hucreler, govde_);
+    if (rapor_.ToplamVar() && !rapor_.Satirlar().empty()) SatirYaz(rapor_.Toplam(), toplam_);
+    Blok();
+    return kitap_.Bitir();
+  }
+
+ private:
+  void KolonEnleri() {
+    for (std::size_t k = 0; k < rapor_.Kolonlar().size(); ++k) {
+      const RaporKolonu& kolon = rapor_.Kolonlar()[k];
+      const bool tarih = kolon.tur == KolonTuru::Tarih || kolon.tur == KolonTuru::KisaTarih;
+      const int gerekli = tarih ? TarihEni : rapor_.GerekliEn(k, BinlikGruplama);
+      const int en = std::max({gerekli, int(HarfSayisi(kolon.kisaBaslik)), kolon.tur == KolonTuru::Bos ? kolon.en : 0});
+      enler_.push_back(std::min(en, EnGenisKolon) + KolonPayi);
+      kitap_.KolonEni(int(k), enler_.back());
+    }
+  }
+
+  void Basi() {
+    kitap_.Yaz(satir_++, 0, rapor_.ekranBasligi, koyu_);
+    for (const auto& ust : rapor_.ustSatirlar) {
+      std::string metin;
+      for (const auto& parca : {ust.sol, ust.orta, ust.sayfaNo ? std::string() : ust.sag}) {
+        if (Kirp(parca).empty()) continue;
+        metin += (metin.empty() ? "" : "   ") + std::string(Kirp(parca));
+      }
+      if (!metin.empty()) kitap_.Yaz(satir_++, 0, metin, duz_);
+    }
+    for (std::size_t k = 0; k < rapor_.Kolonlar().size(); ++k)
+      kitap_.Yaz(satir_, int(k), rapor_.Kolonlar()[k].kisaBaslik, baslik_);
+    kitap_.UstuDondur(++satir_);
+  }
+
+  void SatirYaz(const std::vector<Hucre>& hucreler, const std::vector<XlsxKitap::Stil>& stiller) {
+    for (std::size_t k = 0; k < hucreler.size(); ++k) kitap_.Yaz(satir_, int(k), hucreler[k], stiller[k]);
+    ++satir_;
+  }
+
+  // Values stand in the first column that the longest label leaves free.
+  int BlokKolonu() const {
+    std::size_t etiketEni = 0;
+    for (const auto& b : rapor_.sonBlok) etiketEni = std::max(etiketEni, HarfSayisi(b.etiket));
+    int kolon = 1;
+    for (std::size_t yer = 0; std::size_t(kolon) <= enler_.size(); ++kolon)
+      if ((yer += std::size_t(enler_[std::size_t(kolon) - 1])) >= etiketEni) break;
+    return kolon;
+  }
+
+  void Blok() {
+    if (rapor_.sonBlok.empty()) return;
+    ++satir_;
+    const auto tutar = kitap_.StilEkle({.sayiBicimi = XlsxTutarBicimi(rapor_.paraOndaligi)});
+    const auto tam = kitap_.StilEkle({.sayiBicimi = XlsxTutarBicimi(0)});
+    const int kolon = BlokKolonu();
+    for (const auto& b : rapor_.sonBlok) {
+      kitap_.Yaz(satir_, 0, b.etiket, duz_);
+      kitap_.Yaz(satir_++, kolon, b.deger, std::holds_alternative<Tutar>(b.deger) ? tutar : tam);
+    }
+  }
+
+  const Rapor& rapor_;
+  XlsxKitap kitap_;
+  XlsxKitap::Stil duz_;
+  XlsxKitap::Stil koyu_;
+  XlsxKitap::Stil baslik_;
+  std::vector<XlsxKitap::Stil> govde_;
+  std::vector<XlsxKitap::Stil> toplam_;
+  std::vector<int> enler_;
+  int satir_ = 0;
+};
+
+// Two blocks side by side, columns A to D.
+class YaprakSayfasi {
+ public:
+  explicit YaprakSayfasi(const YaprakBelgesi& belge)
+      : belge_(belge),
+        kitap_(belge.baslik),
+        duz_(kitap_.StilEkle({})),
+        koyu_(kitap_.StilEkle({.koyu = true})),
+        tutar_(kitap_.StilEkle({.sayiBicimi = XlsxSifirliBicim(belge.paraOndaligi)})),
+        tarih_(kitap_.StilEkle({.sayiBicimi = XlsxTarihBicimi})) {}
+
+  Sonuc<std::string> Yaz() {
+    for (int k = 0; k < 4; ++k) kitap_.KolonEni(k, k % 2 == 0 ? 28 : 16);
+    for (const auto& yaprak : belge_.yapraklar) YaprakYaz(yaprak);
+    return kitap_.Bitir();
+  }
+
+ private:
+  void YaprakYaz(const Yaprak& yaprak) {
+    kitap_.Yaz(satir_++, 0, belge_.baslik, koyu_);
+    kitap_.Yaz(satir_++, 0, yaprak.altBaslik, duz_);
+    Bloklar(yaprak.bas, {});
+    ++satir_;
+    Bloklar(yaprak.sol, yaprak.sag);
+    ++satir_;
+    const auto orta = yaprak.ek.begin() + std::ptrdiff_t((yaprak.ek.size() + 1) / 2);
+    Bloklar({yaprak.ek.begin(), orta}, {orta, yaprak.ek.end()});
+    for (const auto& cumle : yaprak.cumleler) kitap_.Yaz(satir_++, 0, cumle, duz_);
+    satir_ += 2;
+  }
+
+  void Bloklar(const std::vector<BlokSatiri>& sol, const std::vector<BlokSatiri>& sag) {
+    for (std::size_t i = 0; i < std::max(sol.size(), sag.size()); ++i, ++satir_) {
+      if (i < sol.size()) AlanYaz(0, sol[i]);
+      if (i < sag.size()) AlanYaz(2, sag[i]);
+    }
+  }
+
+  void AlanYaz(int kolon, const BlokSatiri& alan) {
+    kitap_.Yaz(satir_, kolon, alan.etiket, duz_);
+    const bool tutar = std::holds_alternative<Tutar>(alan.deger);
+    const bool tarih = std::holds_alternative<Tarih>(alan.deger);
+    kitap_.Yaz(satir_, kolon + 1, alan.deger, tutar ? tutar_ : tarih ? tarih_ : duz_);
+  }
+
+  const YaprakBelgesi& belge_;
+  XlsxKitap kitap_;
+  XlsxKitap::Stil duz_;
+  XlsxKitap::Stil koyu_;
+  XlsxKitap::Stil tutar_;
+  XlsxKitap::Stil tarih_;
+  int satir_ = 0;
+};
+
+}  // namespace
+
+Sonuc<std::string> XlsxRaporu(const Rapor& rapor) {
+  return RaporSayfasi(rapor).Yaz();
+}
+
+Sonuc<std::string> XlsxYapraklari(const YaprakBelgesi& belge) {
+  return YaprakSayfasi(belge).Yaz();
+}
+
+}  // namespace belvani

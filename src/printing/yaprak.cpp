@@ -1,0 +1,113 @@
+#include "printing/yaprak.h"
+
+#include <algorithm>
+
+#include "core/sayi.h"
+#include "core/turkce.h"
+
+namespace belvani {
+namespace {
+
+constexpr int BloklarArasi = 4;
+constexpr int YapraklarArasi = 3;  // lines
+constexpr int EnKucukEn = 76;
+
+std::string Bosluk(std::size_t harf) {
+  return std::string(harf, ' ');
+}
+
+std::string Solda(const std::string& metin, std::size_t en) {
+  return metin + Bosluk(en - std::min(en, HarfSayisi(metin)));
+}
+
+std::string Sagda(const std::string& metin, std::size_t en) {
+  return Bosluk(en - std::min(en, HarfSayisi(metin))) + metin;
+}
+
+std::string Ortada(const std::string& metin, std::size_t en) {
+  return Bosluk(en / 2 - std::min(en / 2, HarfSayisi(metin) / 2)) + metin;
+}
+
+// The letters that labels and values of a block take, over all slips, so that all have the same columns.
+struct BlokEni {
+  std::size_t etiket = 0;
+  std::size_t deger = 0;
+
+  void Genislet(const std::vector<BlokSatiri>& blok, int ondalik) {
+    for (const auto& satir : blok) {
+      etiket = std::max(etiket, HarfSayisi(satir.etiket));
+      deger = std::max(deger, HarfSayisi(YaprakMetni(satir.deger, ondalik)));
+    }
+  }
+  std::size_t Tamami() const { return etiket + 1 + deger; }
+};
+
+class YaprakMetinYazici {
+ public:
+  explicit YaprakMetinYazici(const YaprakBelgesi& belge) : belge_(belge) {
+    for (const auto& yaprak : belge.yapraklar) {
+      sol_.Genislet(yaprak.sol, belge.paraOndaligi);
+      sag_.Genislet(yaprak.sag, belge.paraOndaligi);
+    }
+    en_ = std::max<std::size_t>(EnKucukEn, sol_.Tamami() + BloklarArasi + sag_.Tamami());
+  }
+
+  std::vector<std::string> Satirlar(const Yaprak& yaprak) const {
+    std::vector<std::string> satirlar{Ortada(belge_.baslik, en_), Ortada(yaprak.altBaslik, en_)};
+    for (const auto& satir : yaprak.bas) satirlar.push_back(satir.etiket + " " + Deger(satir));
+    satirlar.push_back(Cizgi());
+    for (std::size_t i = 0; i < std::max(yaprak.sol.size(), yaprak.sag.size()); ++i)
+      satirlar.push_back(Alan(yaprak.sol, i, sol_) + Bosluk(BloklarArasi) + Alan(yaprak.sag, i, sag_));
+    satirlar.push_back(Cizgi());
+    satirlar.insert(satirlar.end(), yaprak.cumleler.begin(), yaprak.cumleler.end());
+    for (auto& satir : satirlar) {
+      satir = DenetimsizMetin(satir);
+      satir.erase(satir.find_last_not_of(' ') + 1);
+    }
+    return satirlar;
+  }
+
+ private:
+  std::string Deger(const BlokSatiri& satir) const { return YaprakMetni(satir.deger, belge_.paraOndaligi); }
+  std::string Cizgi() const { return std::string(en_, '-'); }
+
+  std::string Alan(const std::vector<BlokSatiri>& blok, std::size_t i, const BlokEni& en) const {
+    if (i >= blok.size()) return Bosluk(en.Tamami());
+    return Solda(blok[i].etiket, en.etiket) + " " + Sagda(Deger(blok[i]), en.deger);
+  }
+
+  const YaprakBelgesi& belge_;
+  BlokEni sol_;
+  BlokEni sag_;
+  std::size_t en_ = 0;
+};
+
+}  // namespace
+
+std::string YaprakMetni(const Hucre& hucre, int paraOndaligi) {
+  if (const auto* tutar = std::get_if<Tutar>(&hucre)) return TutarMetni(*tutar, paraOndaligi);
+  if (const auto* tam = std::get_if<std::int64_t>(&hucre)) return std::to_string(*tam);
+  return HucreMetni(hucre, {});
+}
+
+std::string MetinYapraklari(const YaprakBelgesi& belge, const SayfaDuzeni& duzen) {
+  const YaprakMetinYazici yazici(belge);
+  std::string metin;
+  int dolu = 0;  // lines of the open page
+  for (const auto& yaprak : belge.yapraklar) {
+    const auto satirlar = yazici.Satirlar(yaprak);
+    const int boy = int(satirlar.size());
+    if (dolu > 0 && dolu + YapraklarArasi + boy >= duzen.satirSayisi) {
+      metin += '\f';
+      dolu = 0;
+    } else if (dolu > 0) {
+      metin.append(YapraklarArasi, '\n');
+      dolu += YapraklarArasi;
+    }
+    for (const auto& satir : satirlar) metin += satir + '\n';
+    dolu += boy;
+  }
+  return metin;
+}
+
+}  // namespace belvani

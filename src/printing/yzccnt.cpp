@@ -1,0 +1,59 @@
+#include "printing/yzccnt.h"
+
+#include <algorithm>
+
+#include "core/turkce.h"
+
+namespace belvani {
+
+std::string SagBosluk(std::string_view metin, int n) {
+  const std::size_t en = std::size_t(std::max(n, 0));
+  std::string alan(IlkHarfler(metin, en));
+  return alan.append(en - HarfSayisi(alan), ' ');
+}
+
+std::string SolBosluk(std::string_view metin, int n) {
+  const std::size_t en = std::size_t(std::max(n, 0));
+  const std::size_t harf = HarfSayisi(metin);
+  if (harf > en) return std::string(metin.substr(IlkHarfler(metin, harf - en).size()));
+  return std::string(en - harf, ' ').append(metin);
+}
+
+std::string TutarAlan(Tutar deger, int n, int ondalik, int gruplama) {
+  std::string metin = SayiFormat(OndalikMetin(deger), ondalik, gruplama);
+  if (int(metin.size()) > n) metin = SayiFormat(OndalikMetin(deger), ondalik, 0);
+  return SolBosluk(metin, n);
+}
+
+std::string OrtalaMetin(std::string_view metin, int n) {
+  const std::string_view kirpik = Kirp(metin);
+  const int bosluk = n / 2 - int(HarfSayisi(kirpik)) / 2;
+  return std::string(std::size_t(std::max(bosluk, 0)), ' ').append(kirpik);
+}
+
+void yzccnt::YzcKutu(double x1, double y1, double x2, double y2) {
+  const auto [sol, sag] = std::minmax(x1, x2);
+  const auto [ust, alt] = std::minmax(y1, y2);
+  tuval_.Kutu({sol, ust, sag - sol, alt - ust});
+}
+
+void yzccnt::YzcCizgi(double x1, double y1, double x2, double y2) {
+  tuval_.Cizgi({x1, y1}, {x2, y2});
+}
+
+void yzccnt::YzcYaz(std::string_view metin, double x, double y, double punto, YaziKalinligi kalinlik) {
+  if (punto > 0) yazi_.punto = punto;
+  yazi_.kalinlik = kalinlik;
+  tuval_.Metin({x, y}, metin, yazi_);
+}
+
+void yzccnt::YzcHizali(std::string_view metin, double x, double y, double en, double punto, YaziKalinligi kalinlik,
+                       MetinHizasi hiza) {
+  if (punto > 0) yazi_.punto = punto;
+  yazi_.kalinlik = kalinlik;
+  if (hiza == MetinHizasi::Sol) return YzcYaz(SiganMetin(metin, en, yazi_), x, y, 0, kalinlik);
+  const double metinEni = MetinEni(metin, yazi_);
+  YzcYaz(metin, x - (hiza == MetinHizasi::Sag ? metinEni : metinEni / 2), y, 0, kalinlik);
+}
+
+}  // namespace belvani

@@ -1,0 +1,55 @@
+// yzccnt: texts in fields of fixed width, and the primitives of pages that are drawn freely.
+//
+// Lengths are counted in letters. Numbers go through SayiFormat: "." before decimals, nothing for zero.
+//   TutarAlan(1234.5, 10, 2, 3) -> "  1,234.50";  TutarAlan(1234567.89, 10, 2, 3) -> "1234567.89"
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/deger.h"
+#include "core/sayi.h"
+#include "printing/tuval.h"
+
+namespace belvani {
+
+// Left in n letters: filled up, or cut at its end.
+std::string SagBosluk(std::string_view metin, int n);
+
+// Right in n letters: filled up, or cut at its front.
+std::string SolBosluk(std::string_view metin, int n);
+
+// An amount right in n letters. One that is too long loses its thousands marks before it loses digits.
+std::string TutarAlan(Tutar deger, int n, int ondalik, int gruplama);
+
+// A field of a record (anything with AlanOku), right in n letters.
+template <class Kayit>
+std::string AlanSayi(Kayit& kayit, std::string_view alan, int n, int ondalik, int gruplama) {
+  return SolBosluk(SayiFormat(MetinDegeri(kayit.AlanOku(alan)), ondalik, gruplama), n);
+}
+
+// The trimmed text in the middle of n letters; not filled up behind.
+std::string OrtalaMetin(std::string_view metin, int n);
+
+// Draws on an open page, in its millimetres. The size of letters stays until another one is given.
+class yzccnt {
+ public:
+  explicit yzccnt(Tuval& tuval) : tuval_(tuval) {}
+
+  void YzcKutu(double x1, double y1, double x2, double y2);
+  void YzcCizgi(double x1, double y1, double x2, double y2);
+
+  // `punto` 0: as before.
+  void YzcYaz(std::string_view metin, double x, double y, double punto, YaziKalinligi kalinlik = YaziKalinligi::Normal);
+
+  // Left: from x on, cut at its end until it is no wider than `en`. Right: ends at x. Middle: x is its middle. The two
+  // last know no width.
+  void YzcHizali(std::string_view metin, double x, double y, double en, double punto, YaziKalinligi kalinlik,
+                 MetinHizasi hiza);
+
+ private:
+  Tuval& tuval_;
+  Yazi yazi_;
+};
+
+}  // namespace belvani

@@ -1,0 +1,124 @@
+#include "printing/zipdosya.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <zip.h>
+
+namespace belvani {
+namespace {
+
+Hata ZipHatasi() {
+  return Hata{"Zip arşivi değil ya da bozuk"};
+}
+
+struct ParcaSil {
+  void operator()(zip_file_t* parca) const { zip_fclose(parca); }
+};
+
+}  // namespace
+
+// The archive as the library sees it; `kaynak` holds its bytes, before and after.
+struct ZipDosyasi::Arsiv {
+  explicit Arsiv(std::string_view baytlar) {
+    // The library may free the buffer of a changed archive even when it is not its own, so it gets one of its own.
+    void* kopya = std::malloc(baytlar.size() + 1);
+    if (kopya == nullptr) return;
+    std::memcpy(kopya, baytlar.data(), baytlar.size());
+    kaynak = zip_source_buffer_create(kopya, baytlar.size(), 1, nullptr);
+    if (kaynak == nullptr) {
+      std::free(kopya);
+      return;
+    }
+    zip_source_keep(kaynak);
+    zip = zip_open_from_source(kaynak, ZIP_CHECKCONS, nullptr);
+    if (zip == nullptr) zip_source_free(kaynak);  // what the archive would have taken over
+  }
+  ~Arsiv() {
+    if (zip != nullptr) zip_discard(zip);
+    if (kaynak != nullptr) zip_source_free(kaynak);
+  }
+  Arsiv(const Arsiv&) = delete;
+  Arsiv& operator=(const Arsiv&) = delete;
+
+  bool Degistir(const std::string& ad, const std::optional<std::string>& icerik) const {
+    const auto yer = zip_name_locate(zip, ad.c_str(), 0);
+    if (!icerik) return yer < 0 || zip_delete(zip, zip_uint64_t(yer)) == 0;
+    zip_stat_t bilgi;
+    const bool tarihli = yer >= 0 && zip_stat_index(zip, zip_uint64_t(yer), 0, &bilgi) == 0;
+    zip_source_t* parca = zip_source_buffer(zip, icerik->data(), icerik->size(), 0);
+    if (parca == nullptr) return false;
+    const auto yeni = zip_file_add(zip, ad.c_str(), parca, ZIP_FL_OVERWRITE | ZIP_FL_ENC_UTF_8);
+    if (yeni < 0) {
+      zip_source_free(parca);
+      return false;
+    }
+    return !tarihli || zip_file_set_mtime(zip, zip_uint64_t(yeni), bilgi.mtime, 0) == 0;
+  }
+
+  // Writes the changes into `kaynak`.
+  bool Kapat() {
+    if (zip_close(zip) != 0) return false;
+    zip = nullptr;
+    return true;
+  }
+
+  std::optional<std::string> Baytlar() const {
+    if (zip_source_open(kaynak) != 0) return std::nullopt;
+    std::string baytlar;
+    char blok[65536];
+    zip_int64_t n = 0;
+    while ((n = zip_source_read(kaynak, blok, sizeof blok)) > 0) baytlar.append(blok, std::size_t(n));
+    zip_source_close(kaynak);
+    if (n < 0) return std::nullopt;
+    return baytlar;
+  }
+
+  zip_source_t* kaynak = nullptr;
+  zip_t* zip = nullptr;
+};
+
+Sonuc<ZipDosyasi> ZipDosyasi::Ac(std::string baytlar) {
+  if (baytlar.empty()) return ZipHatasi();  // for the library that is an archive too
+  ZipDosyasi dosya(std::move(baytlar));
+  const Arsiv arsiv(dosya.baytlar_);
+  if (arsiv.zip == nullptr) return ZipHatasi();
+  const auto adet = zip_get_num_entries(arsiv.zip, 0);
+  for (zip_int64_t i = 0; i < adet; ++i)
+    if (const char* ad = zip_get_name(arsiv.zip, zip_uint64_t(i), 0)) dosya.adlar_.emplace_back(ad);
+  if (dosya.adlar_.empty()) return ZipHatasi();
+  return dosya;
+}
+
+std::optional<std::string> ZipDosyasi::Oku(const std::string& ad) const {
+  if (const auto d = degisen_.find(ad); d != degisen_.end()) return d->second;
+  const Arsiv arsiv(baytlar_);
+  zip_stat_t bilgi;
+  if (arsiv.zip == nullptr || zip_stat(arsiv.zip, ad.c_str(), 0, &bilgi) != 0 || bilgi.size > EnBuyukParca)
+    return std::nullopt;
+  const std::unique_ptr<zip_file_t, ParcaSil> parca(zip_fopen(arsiv.zip, ad.c_str(), 0));
+  if (!parca) return std::nullopt;
+  std::string icerik(bilgi.size, '\0');
+  std::size_t okunan = 0;
+  while (okunan < icerik.size()) {
+    const auto n = zip_fread(parca.get(), icerik.data() + okunan, icerik.size() - okunan);
+    if (n <= 0) return std::nullopt;
+    okunan += std::size_t(n);
+  }
+  char fazla = 0;
+  if (zip_fread(parca.get(), &fazla, 1) != 0) return std::nullopt;  // also checks the part's sum
+  return icerik;
+}
+
+Sonuc<std::string> ZipDosyasi::Bitir() const {
+  if (degisen_.empty()) return baytlar_;
+  Arsiv arsiv(baytlar_);
+  if (arsiv.zip == nullptr) return ZipHatasi();
+  for (const auto& [ad, icerik] : degisen_)
+    if (!arsiv.Degistir(ad, icerik)) return ZipHatasi();
+  if (!arsiv.Kapat()) return ZipHatasi();
+  auto baytlar = arsiv.Baytlar();
+  if (!baytlar) return ZipHatasi();
+  return std::move(*baytlar);
+}
+
+}  // namespace belvani

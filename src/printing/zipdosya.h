@@ -1,0 +1,42 @@
+// ZipDosyasi: a zip archive in memory, as office documents are. Parts that are not touched keep their stored bytes.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/sonuc.h"
+
+namespace belvani {
+
+class ZipDosyasi {
+ public:
+  // Fails on bytes that are no zip archive.
+  static Sonuc<ZipDosyasi> Ac(std::string baytlar);
+
+  const std::vector<std::string>& Adlar() const { return adlar_; }
+
+  // A part as it is now; nothing when there is none, or it cannot be unpacked, or is larger than EnBuyukParca.
+  std::optional<std::string> Oku(const std::string& ad) const;
+
+  void Degistir(const std::string& ad, std::string icerik) { degisen_[ad] = std::move(icerik); }
+  void Sil(const std::string& ad) { degisen_[ad] = std::nullopt; }
+
+  // The archive with its changes. The dates of changed parts stay, so equal changes give equal bytes.
+  Sonuc<std::string> Bitir() const;
+
+  static constexpr std::size_t EnBuyukParca = 256u << 20;
+
+ private:
+  struct Arsiv;
+  explicit ZipDosyasi(std::string baytlar) : baytlar_(std::move(baytlar)) {}
+
+  std::string baytlar_;
+  std::vector<std::string> adlar_;
+  std::map<std::string, std::optional<std::string>> degisen_;  // nothing: deleted
+};
+
+}  // namespace belvani

@@ -1,0 +1,276 @@
+// The papers beside the ledger. Their totals are held against the store's own sums over the same records.
+#include <gmock/gmock.h>
+#include <random>
+
+#include "core/store/ornekdepo.h"
+#include "documents/agilistesi.h"
+#include "documents/deftersorgu.h"
+#include "documents/icmal.h"
+#include "documents/izin.h"
+#include "documents/ornekler.h"
+#include "documents/ozelbordro.h"
+#include "documents/pusula.h"
+#include "printing/metinyazici.h"
+
+namespace belvani {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr int Yil = 2008;
+constexpr int Ay = 7;
+const Yuvarlayici kurus(2);
+
+// Forty people and three years of records with anything in them; also records of a person whose card is gone.
+struct DoluDepo : test::OrnekDepo {
+  std::mt19937 rastgele{20080701};
+
+  DoluDepo() {
+    Motor& motor = db.IcMotor();
+    motor.IslemBaslat({});
+    KayitYazici<Sicil> kartlar(motor);
+    KayitYazici<Brd> kayitlar(motor);
+    for (int kisi = 0; kisi < 40; ++kisi) {
+      Sicil s;
+      s.kod = "P" + std::to_string(100 + kisi);
+      s.adi = "Ad" + std::to_string(kisi);
+      s.sskdurum = std::uint8_t(kisi % 3);
+      if (kisi != 7) kartlar.Ekle(s);
+      for (int yil = Yil - 1; yil <= Yil + 1; ++yil)
+        for (int ay = 1; ay <= 12; ++ay)
+          for (int no = 1; no <= (kisi % 5 == 0 ? 2 : 1); ++no) kayitlar.Ekle(Kayit(s.kod, yil, ay, no));
+    }
+    motor.IslemOnayla();
+  }
+
+  int Sayi(int enCok) { return std::uniform_int_distribution(0, enCok)(rastgele); }
+
+  Brd Kayit(const std::string& kod, int yil, int ay, int no) {
+    Brd b;
+    Brd::HerKolon([&](const auto& kolon) {
+      using Tur = typename std::decay_t<decltype(kolon)>::UyeTuru;
+      if constexpr (std::same_as<Tur, Tutar>) b.*kolon.uye = Tutar::Hamdan(100 * Sayi(900'000));
+    });
+    for (const auto gun : {&Brd::ng, &Brd::ht, &Brd::ui, &Brd::rt, &Brd::ha, &Brd::mi, &Brd::ucretsizizin})
+      b.*gun = std::uint8_t(Sayi(9) < 7 ? Sayi(8) : 0);
+    if (Sayi(9) == 0) b.ng = b.ht = b.ui = b.rt = b.ha = b.mi = 0;
+    b.yil = std::int16_t(yil);
+    b.ay = std::uint8_t(ay);
+    b.no = std::uint8_t(no);
+    b.kod = kod;
+    return b;
+  }
+
+  // What SQL adds up; scaled, for amounts.
+  std::int64_t Topla(const std::string& ifade, const std::string& kosul = "yil = 2008 and ay = 7") {
+    const auto komut = db.IcMotor().Hazirla("select coalesce(sum(" + ifade + "), 0) from brd where " + kosul +
+                                            " and kod in (select kod from sicil)");
+    return komut->Adim() ? komut->Tam(0) : -1;
+  }
+  std::vector<BordroSatiri> Satirlar(DefterSirasi sira) {
+    return DefterSatirlariOku(db.IcMotor(),
+                              {.yil = Yil, .ay = Ay, .kod = {}, .grup = {}, .tip = {}, .ozel = {}, .sira = sira});
+  }
+};
+
+DoluDepo& Depo() {
+  static DoluDepo depo;
+  return depo;
+}
+
+std::int64_t Ham(const Hucre& hucre) {
+  if (const auto* tutar = std::get_if<Tutar>(&hucre)) return tutar->Ham();
+  return std::get<std::int64_t>(hucre);
+}
+
+std::int64_t Toplam(const Rapor& rapor, std::string_view baslik) {
+  for (std::size_t k = 0; k < rapor.Kolonlar().size(); ++k)
+    if (rapor.Kolonlar()[k].kisaBaslik == baslik) return Ham(rapor.Toplam()[k]);
+  ADD_FAILURE() << "no column " << baslik;
+  return 0;
+}
+
+PusulaBaslik Baslik() {
+  return {.defter = test::OrnekBaslik(),
+          .yardimAdlari = {"Y1", "Yemek", "Y3", "Y4", "Y5", "Y6", "Y7", "Y8", "Yol", "Y10", "Y11"}};
+}
+
+constexpr const char* Gunler = "ng + ht + rt + ui + ha + mi";
+
+TEST(Belgeler, ToplamlarKayitlarinToplamidir) {
+  const Rapor pusula = PusulaRaporu(Depo().Satirlar(DefterSirasi::Kisi), Baslik());
+  const Rapor ozel = OzelBordroRaporu(Depo().Satirlar(DefterSirasi::SskNo), test::OrnekBaslik());
+  const struct {
+    const Rapor& rapor;
+    const char* baslik;
+    const char* ifade;
+  } ornekler[] = {
+      {pusula, "Ücreti", "ucret"},
+      {pusula, "Fazla Mesai", "brutkaz - ucret - topyardim"},
+      {pusula, "Toplam Kazanç", "brutkaz"},
+      {pusula, "Hafta Sonu", "ht"},
+      {pusula, "Hasta  Gün", "ha"},
+      {pusula, "Mazeret İzni", "mi"},
+      {pusula, "Eksik Gün", "ucretsizizin"},
+      {pusula, "Ssk Kesintisi", "sskkesinti"},
+      {pusula, "D.V. Matrahı", "dvmatrah"},
+      {pusula, "Ö.G.İ. Ödemesi", "ogv"},
+      {pusula, "SSK İşveren İşsizlik", "issizisveren"},
+      {pusula, "SSK Muafiyet", "muaftutar"},
+      {pusula, "Y1", "yrd01"},
+      {pusula, "Yol", "yrd09"},
+      {pusula, "Y11", "yrd11"},
+      {pusula, "Sakatlık İndirimi", "sakindir"},
+      {pusula, "İndirim 3", "indirim3"},
+      {ozel, "Mİ.", "mi"},
+      {ozel, "Top.", Gunler},
+      {ozel, "Brüt Kazanç", "brutkaz - yrd02 - yrd09"},
+      {ozel, "Yemek", "yrd02"},
+      {ozel, "Yol", "yrd09"},
+      {ozel, "Pek İndirim", "muaftutar"},
+      {ozel, "PEK", "sskmatrah"},
+      {ozel, "Kümüle G.V.M.", "devgvmatrah"},
+      {ozel, "G.Vergisi", "gvtutar"},
+  };
+  for (const auto& o : ornekler) EXPECT_EQ(Toplam(o.rapor, o.baslik), Depo().Topla(o.ifade)) << o.baslik;
+  EXPECT_EQ(Ham(ozel.sonBlok[1].deger), Depo().Topla("sskkesintiisveren"));
+  EXPECT_EQ(Toplam(pusula, "Net Ödenen"), Depo().Topla("brutkaz + ogv") - Toplam(pusula, "Toplam Kesinti"));
+  EXPECT_EQ(Toplam(pusula, "Net Ödenen"), Toplam(ozel, "Agi+Net Ödeme"));
+}
+
+TEST(Belgeler, IcmalKayitlarinToplamidir) {
+  const auto yil = IcmalGirdileriOku(Depo().db.IcMotor(), Yil, std::nullopt);
+  const auto ay = IcmalGirdileriOku(Depo().db.IcMotor(), Yil, Ay);
+  const Icmal i = IcmalHesapla(ay, Tutar(638.7), kurus);
+  const std::string gunlu = "yil = 2008 and ay = 7 and " + std::string(Gunler) + " > 0";
+  const std::string destek = gunlu + " and kod in (select kod from sicil where sskdurum = 1)";
+  EXPECT_EQ(i.sgdpKesintisi.isveren.Ham(), Depo().Topla("sskkesintiisveren", destek));
+  EXPECT_EQ((i.sskKesintisi.isci + i.sgdpKesintisi.isci).Ham(), Depo().Topla("sskkesinti", gunlu));
+  EXPECT_EQ(i.ToplamSsk().isveren.Ham(), Depo().Topla("sskkesintiisveren + issizisveren", gunlu));
+  EXPECT_EQ(i.OdemelerToplami().isci, i.ToplamSsk().isci + i.ToplamVergi());
+  EXPECT_EQ(i.PersonelOdemeleri().Ham(),
+            Depo().Topla("brutkaz - sskkesinti - issizisci - gvtutar - dvtutar - sendika - borckes", gunlu));
+  EXPECT_EQ(i.ToplamGun(), Depo().Topla(Gunler, gunlu));
+  EXPECT_EQ(i.asgariUcretli + i.ucretli, Depo().Topla("1", gunlu));
+  EXPECT_LT(i.ucretli, int(ay.size())) << "records without days are in the sample";
+
+  const auto seri = IcmalSerisi(yil, Tutar(638.7), kurus);
+  EXPECT_EQ(seri[Ay - 1].PersonelOdemeleri(), i.PersonelOdemeleri());
+  Tutar brut;
+  for (const auto& a : seri) brut += a.brut;
+  EXPECT_EQ(brut.Ham(), Depo().Topla("brutkaz", "yil = 2008 and " + std::string(Gunler) + " > 0"));
+
+  const Rapor rapor = IcmalRaporu(i, test::OrnekBaslik());
+  ASSERT_EQ(rapor.Satirlar().size(), 14u);
+  EXPECT_EQ(rapor.Satirlar()[11].hucreler[0], Hucre(std::string("Ödemeler Toplamı ")));
+  EXPECT_EQ(rapor.Satirlar()[11].hucreler[1], Hucre(i.OdemelerToplami().isci));
+  EXPECT_EQ(rapor.Satirlar()[3].hucreler[2], Hucre(Null{})) << "income tax has no employer's side";
+}
+
+TEST(Belgeler, AgiVeIzinKayitlarinToplamidir) {
+  Motor& motor = Depo().db.IcMotor();
+  DefterSecim secim;
+  secim.yil = Yil;
+  secim.ay = Ay;
+  const Rapor agi = AgiListesi(AgiKisileriOku(motor, secim), {.unvan = "Çınar", .yil = Yil, .agiTaban = Tutar(608.4)});
+  EXPECT_EQ(agi.Satirlar().size(), 39u);
+  EXPECT_EQ(Toplam(agi, "Mart"), Depo().Topla("ogv", "yil = 2008 and ay = 3"));
+  EXPECT_EQ(Toplam(agi, "Ağustos"), 0);
+  EXPECT_EQ(Toplam(agi, "İnd.Tutarı"), Depo().Topla("ogv", "yil = 2008 and ay <= 7"));
+  secim.noBit = 1;
+  secim.kod = {.bas = "p110", .bit = "P119"};
+  EXPECT_EQ(Toplam(AgiListesi(AgiKisileriOku(motor, secim), {}), "Mart"),
+            Depo().Topla("ogv", "yil = 2008 and ay = 3 and no = 1 and kod between 'P110' and 'P119'"));
+
+  const auto kisiler = IzinleriOku(motor, Yil, {});
+  const Rapor ozet = IzinListesi(kisiler, Yil, IzinRaporu::Icmal);
+  EXPECT_EQ(ozet.Satirlar().size(), 39u);
+  EXPECT_EQ(Toplam(ozet, "Ö.İ.Gün"), Depo().Topla("ui", "yil < 2008"));
+  EXPECT_EQ(Toplam(ozet, "T.İ.Gün"), Depo().Topla("ui", "yil <= 2008"));
+  EXPECT_EQ(Toplam(IzinListesi(kisiler, Yil, IzinRaporu::Personel), "İ.Gün"), Depo().Topla("ui", "yil <= 2008"));
+  const Rapor donem = IzinListesi(kisiler, Yil, IzinRaporu::Donemsel);
+  EXPECT_EQ(Toplam(donem, "Aralık"), Depo().Topla("ui", "yil = 2008 and ay = 12"));
+  EXPECT_EQ(Toplam(donem, "T.İ.Gün"), Toplam(ozet, "Bu Yıl"));
+}
+
+TEST(Pusula, MetinYapragi) {
+  PusulaBaslik baslik = Baslik();
+  baslik.defter.firma.tersfirma = true;
+  const YaprakBelgesi belge = PusulaBelgesi({test::AsgariUcretli(), test::Ayrilan()}, baslik);
+  const std::string metin = MetinYapraklari(belge, {.satirSayisi = 30});
+  const auto ayrac = metin.find('\f');
+  ASSERT_NE(ayrac, std::string::npos);
+  const std::string ilk = metin.substr(0, ayrac);
+  const std::string ikinci = metin.substr(ayrac);
+  for (const char* parca :
+       {"ÜCRET PUSULASI\n", "15.01.2008 ile 14.02.2008 Dönemi\n", "Firma İsmi    : Çınar Tekstil San. ve Tic. A.Ş.\n",
+        "İşyeri Sicil  : 2 1721 01 1034567 034 12 77\n", "İşten Çıkış Tarihi :  Çalışıyor    Ssk Kesintisi      :  ",
+        "Yardımlar          :       0.00    ", "Ücretli İzin       :          0    ", "Net Ödenen    ***  :   481.28\n",
+        "istinaden müesseseniz\n", "   İ M Z A\n"})
+    EXPECT_THAT(ilk, HasSubstr(parca));
+  EXPECT_THAT(ikinci, HasSubstr("İşten Çıkış Tarihi : 20.01.2008    "));
+  EXPECT_THAT(ikinci, Not(HasSubstr("Çalışıyor")));
+  EXPECT_EQ(belge.yapraklar[0].ek.size(), 5u + 11 + 7);
+  EXPECT_EQ(belge.yapraklar[0].ek[6].etiket, "Yemek");
+}
+
+TEST(Icmal, AsgariUcretliGunuGununeSayilir) {
+  const struct {
+    const char* ad;
+    double ucret;
+    int ng;
+    int asgari;
+  } ornekler[] = {
+      {"the minimum wage of a whole month", 608.40, 30, 1},
+      {"half a month of it counts as another wage", 304.20, 15, 0},
+      {"its whole amount for fewer days", 608.40, 15, 1},
+      {"a kuruş that a day does not show", 608.41, 30, 1},
+      {"more", 700.00, 30, 0},
+  };
+  for (const auto& o : ornekler) {
+    IcmalGirdisi g;
+    g.brd.ucret = Tutar(o.ucret);
+    g.brd.ng = std::uint8_t(o.ng);
+    const Icmal i = IcmalHesapla({&g, 1}, Tutar(608.4), kurus);
+    EXPECT_EQ(i.asgariUcretli, o.asgari) << o.ad;
+    EXPECT_EQ(i.ucretli, 1 - o.asgari) << o.ad;
+  }
+}
+
+TEST(AgiListesi, KisilerVeBaslik) {
+  AgiKisisi var{.kod = "1", .adSoyad = "Işıl Güneş", .agioran = Tek(67.5), .agimatrah = Tutar(608.4)};
+  var.aylar[0] = Tutar(61.6);
+  const AgiKisisi yok{.kod = "2", .adSoyad = "Ali Can", .agioran = {}, .agimatrah = {}};
+  const Rapor rapor = AgiListesi({var, yok}, {.unvan = "Çınar", .yil = 2008, .agiTaban = Tutar(608.4)});
+  const std::string metin = MetinRaporu(rapor, {});
+  for (const char* parca : {"2008 YILI\n", "Asgari Ücretin Yıllık Brüt Tutarı : 7,300.80 ", "Shf : 1/1\n",
+                            "   1 Işıl Güneş            67.5     608.40      61.60      61.60\n", "   2 Ali Can\n",
+                            "     T O P L A M                                61.60      61.60\n"})
+    EXPECT_THAT(metin, HasSubstr(parca));
+}
+
+TEST(OzelBordro, GunsuzKayit) {
+  BordroSatiri satir = test::AsgariUcretli();
+  satir.brd.ucret = Tutar(300.0);
+  satir.brd.ng = satir.brd.ht = 0;
+  const auto gunluk = [&] { return OzelBordroRaporu({satir}, test::OrnekBaslik()).Satirlar()[0].hucreler[10]; };
+  EXPECT_EQ(gunluk(), Hucre(Tutar()));
+  satir.brd.ha = 7;
+  EXPECT_EQ(gunluk(), Hucre(Tutar(42.86)));
+  EXPECT_TRUE(OzelBordroRaporu({}, test::OrnekBaslik()).sonBlok.empty());
+}
+
+TEST(Pusula, YardimAdlari) {
+  test::OrnekDepo depo;
+  Muaf satir;
+  satir.no = 2;
+  satir.adi = "Öğle Yemeği";
+  KayitYazici<Muaf>(depo.db.IcMotor()).Ekle(satir);
+  const auto adlar = YardimAdlariOku(depo.db.IcMotor());
+  EXPECT_EQ(adlar[1], "Öğle Yemeği");
+  EXPECT_EQ(adlar[0], VarsayilanYardimlar()[0].adi);
+}
+
+}  // namespace
+}  // namespace belvani

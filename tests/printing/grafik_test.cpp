@@ -1,0 +1,209 @@
+// Pages: what a PDF says when it is read back, and where things stand.
+#include <cstdio>
+#include <gmock/gmock.h>
+
+#include "core/dosya.h"
+#include "gecici.h"
+#include "printing/cairotuval.h"
+#include "printing/grafikyazici.h"
+#include "printing/kayittuvali.h"
+#include "printing/ornek.h"
+
+// fontconfig keeps a little of its settings for ever.
+extern "C" const char* __lsan_default_suppressions();   // NOLINT: the name is the sanitizer's
+extern "C" const char* __lsan_default_suppressions() {  // NOLINT
+  return "leak:libfontconfig";
+}
+
+namespace belvani {
+namespace {
+
+using test::Kalem;
+using test::KalemRaporu;
+using test::KayitTuvali;
+using test::OgeTuru;
+using testing::HasSubstr;
+
+std::string Calistir(const std::string& komut) {
+  std::string cikti;
+  FILE* boru = popen(komut.c_str(), "r");
+  if (boru == nullptr) return cikti;
+  char blok[4096];
+  for (std::size_t n; (n = fread(blok, 1, sizeof blok, boru)) > 0;) cikti.append(blok, n);
+  pclose(boru);
+  return cikti;
+}
+
+std::vector<Kalem> Kalemler(int adet) {
+  std::vector<Kalem> kalemler;
+  for (int i = 1; i <= adet; ++i)
+    kalemler.push_back({.ad = "Kalem " + std::to_string(i), .gun = Tarih(2008, 1, 1), .adet = 1, .tutar = Tutar(1.5)});
+  return kalemler;
+}
+
+Rapor GenisRapor(int kolonSayisi) {
+  RaporKolonu kolon;
+  kolon.tur = KolonTuru::Tutar;
+  kolon.ondalik = 2;
+  const std::vector<RaporKolonu> kolonlar(std::size_t(kolonSayisi), kolon);
+  Rapor rapor(kolonlar);
+  rapor.Ekle({std::vector<Hucre>(kolonlar.size(), Tutar(-1234567.89))});
+  return rapor;
+}
+
+TEST(Grafik, PdfMetniVeBaytlari) {
+  const std::string harfler = "Işıl Öğütçü İğneadalı ŞÜKRÜYE ĞÇ │ 1,234.50";
+  const auto ciz = [&] {
+    PdfTuvali pdf({.baslik = "ÜCRET BORDROSU"});
+    for (const auto yon : {KagitYonu::Dikey, KagitYonu::Yatay}) {
+      pdf.SayfaBasla(A4(yon));
+      pdf.Metin({20, 20}, harfler, {.punto = 9});
+      pdf.Metin({20, 40}, "Eğik Ç\x80\n", {.aile = YaziAilesi::EsEnli, .durus = YaziDurusu::Egik, .genislik = 0.7});
+      pdf.DoluKutu({20, 60, 30, 10}, 0x336699);
+      pdf.SayfaBitir();
+    }
+    return *pdf.Belge();
+  };
+  const test::GeciciDizin dizin;
+  const std::string yol = dizin.Yol() + "a.pdf";
+  ASSERT_TRUE(DosyaYaz(yol, ciz()));
+  const std::string metin = Calistir("pdftotext -layout " + yol + " -");
+  EXPECT_THAT(metin, HasSubstr(harfler));
+  EXPECT_THAT(metin, HasSubstr("Eğik Ç?"));
+  const std::string bilgi = Calistir("pdfinfo -l 2 " + yol);
+  for (const char* satir : {"ÜCRET BORDROSU", "Pages:           2", "Page    1 size:  595.276 x 841.89 pts (A4)",
+                            "Page    2 size:  841.89 x 595.276 pts (A4)"})
+    EXPECT_THAT(bilgi, HasSubstr(satir));
+  EXPECT_THAT(Calistir("pdffonts " + yol), HasSubstr("DejaVuSansMono"));
+  EXPECT_THAT(Calistir("pdffonts " + yol), Not(HasSubstr(" no  ")));  // all embedded
+  EXPECT_EQ(ciz(), ciz());
+  EXPECT_EQ(PdfTuvali().Belge().HataMetni(), "Yazdırılacak sayfa yok");
+}
+
+// The preview shows the asked page alone, with dots where the page has ink.
+TEST(Grafik, OnizlemeSayfasi) {
+  ResimTuvali resim(254, 2);
+  for (int sayfa = 1; sayfa <= 3; ++sayfa) {
+    resim.SayfaBasla(A4(KagitYonu::Yatay));
+    resim.DoluKutu({10.0 * sayfa, 10, 5, 5}, 0xFF0000);
+    resim.SayfaBitir();
+  }
+  EXPECT_EQ(resim.SayfaSayisi(), 3);
+  ASSERT_EQ(resim.En(), 2970);
+  ASSERT_EQ(resim.Boy(), 2100);
+  const auto nokta = [&](int x, int y) { return resim.Noktalar()[std::size_t(y * resim.En() + x)]; };
+  EXPECT_EQ(nokta(225, 125), 0xFFFF0000);
+  EXPECT_EQ(nokta(125, 125), 0xFFFFFFFF);
+  EXPECT_FALSE(resim.Resim({0, 0, 10, 10}, "png değil"));
+  EXPECT_EQ(ResimTuvali(100, 9).En(), 0);
+}
+
+TEST(Grafik, KutuyaSigdirilir) {
+  KayitTuvali tuval;
+  tuval.SayfaBasla(A4(KagitYonu::Dikey));
+  MetinKutuya(tuval, {10, 10, 8, 5}, "123,456,789.00", {.punto = 10}, MetinHizasi::Sag);
+  const auto& oge = tuval.sayfalar[0].ogeler[0];
+  EXPECT_EQ(oge.metin, "123,456,789.00");
+  EXPECT_NEAR(oge.kutu.x, 10, 1e-6);
+  EXPECT_NEAR(oge.Sag(), 18, 1e-6);
+}
+
+TEST(GrafikYazici, SayfaninSatirlari) {
+  Rapor rapor = KalemRaporu({{.ad = "Işıl", .gun = Tarih(2008, 2, 29), .adet = 2, .tutar = Tutar(1234.5)}});
+  rapor.ustSatirlar = {{.orta = "Şubat 2008"},
+                       {.sol = "ÜNVANI : Çınar", .sag = "Sayfa : ", .sayfaNo = true, .sayfaSayisi = true}};
+  rapor.toplamEtiketi = "TOPLAM";
+  rapor.sonBlok = {{"Tutar :", Tutar(1224.5)}};
+  KayitTuvali tuval;
+  const auto sonuc = GrafikRaporu(rapor, {}, tuval);
+  ASSERT_EQ(sonuc.sayfaSayisi, 1);
+  EXPECT_EQ(sonuc.uyari, "");
+  EXPECT_THAT(tuval.sayfalar[0].Satirlar(),
+              testing::ElementsAre("KALEM LİSTESİ", "Şubat 2008", "ÜNVANI : Çınar|Sayfa : 1/1", "Toplam",
+                                   "Adı|Gün|Adet|Tutar|Birikmiş|İmza", "Işıl|29.02.08|2|1,234.50", "TOPLAM|2|1,234.50",
+                                   "Tutar :|1,224.50"));
+  KayitTuvali bos;
+  EXPECT_EQ(GrafikRaporu(KalemRaporu({}), {}, bos).sayfaSayisi, 0);
+  EXPECT_TRUE(bos.sayfalar.empty());
+}
+
+// At the border: as many rows as leave ten lines free fill one page; one more begins the next, with its own head and
+// sums. Everything lies inside the printable part of the sheet, and columns do not overlap.
+TEST(GrafikYazici, SayfaSinirlari) {
+  const GrafikDuzeni duzen{.yon = {}, .punto = 10, .kolonArasi = KolonArasi::DikCizgi};
+  const auto sayfala = [&](int adet) {
+    KayitTuvali tuval;
+    GrafikRaporu(KalemRaporu(Kalemler(adet)), duzen, tuval);
+    return tuval;
+  };
+  const int satir = GrafikBicimle(KalemRaporu(Kalemler(200)), duzen).satirSayisi;
+  const int bas = 5;  // title, rule, two lines of heads, rule
+  EXPECT_EQ(satir, 61);
+  EXPECT_EQ(sayfala(satir - 10 - bas).sayfalar.size(), 1u);
+  const KayitTuvali iki = sayfala(satir - 10 - bas + 1);
+  ASSERT_EQ(iki.sayfalar.size(), 2u);
+  EXPECT_EQ(iki.sayfalar[0].Satirlar().back(), "46|69.00");
+  EXPECT_EQ(iki.sayfalar[1].Satirlar().back(), "47|70.50");
+  EXPECT_THAT(iki.sayfalar[1].Satirlar(), testing::Contains("Kalem 47|01.01.08|1|1.50"));
+  for (const auto& oge : iki.sayfalar[0].ogeler) {
+    EXPECT_GE(oge.kutu.x, KenarMm - 1e-6);
+    EXPECT_LE(oge.Sag(), 210 - KenarMm + 1e-6);
+    EXPECT_LE(oge.Alt(), 297 - KenarMm + 1e-6);
+  }
+}
+
+TEST(GrafikYazici, GenislikYonuVeBoyuSecer) {
+  const struct {
+    const char* ad;
+    int kolon;
+    std::optional<KagitYonu> yon;
+    KagitYonu beklenenYon;
+    bool okunur;
+    int gruplama;
+  } ornekler[] = {
+      {"few columns", 6, {}, KagitYonu::Dikey, true, BinlikGruplama},
+      {"more than upright letters can hold", 12, {}, KagitYonu::Yatay, true, BinlikGruplama},
+      {"the user's choice stands", 6, KagitYonu::Yatay, KagitYonu::Yatay, true, BinlikGruplama},
+      {"narrow letters, no thousands marks", 27, {}, KagitYonu::Yatay, true, 0},
+      {"wider than a sheet can be read", 60, {}, KagitYonu::Yatay, false, 0},
+  };
+  for (const auto& o : ornekler) {
+    SCOPED_TRACE(o.ad);
+    KayitTuvali tuval;
+    const auto sonuc = GrafikRaporu(GenisRapor(o.kolon), {.yon = o.yon}, tuval);
+    EXPECT_EQ(sonuc.bicim.yon, o.beklenenYon);
+    EXPECT_EQ(sonuc.uyari.empty(), o.okunur);
+    EXPECT_EQ(sonuc.bicim.kagit.gruplama, o.gruplama);
+    double sag = 0;
+    for (const auto& oge : tuval.sayfalar[0].ogeler) {
+      if (oge.metin != (o.gruplama ? "-1,234,567.89" : "-1234567.89")) continue;
+      EXPECT_GT(oge.kutu.x, sag);
+      EXPECT_EQ(oge.yazi.genislik, sonuc.bicim.yazi.genislik);
+      sag = oge.Sag();
+    }
+    EXPECT_GT(sag, 0);
+    EXPECT_LE(sag, A4(o.beklenenYon).en - KenarMm + 1e-6);
+    EXPECT_EQ(sonuc.bicim.yazi.punto >= EnKucukPunto * 0.999, o.okunur);
+  }
+}
+
+// One very long text is narrowed in its own cell; nothing is cut, and the others keep their size.
+TEST(GrafikYazici, UzunMetinKesilmez) {
+  const std::string uzun = "Abdurrahmanoğulları Çelebizadeoğlu";
+  KayitTuvali tuval;
+  GrafikRaporu(KalemRaporu({{.ad = uzun, .tutar = Tutar(1.0)}, {.ad = "Ali"}}), {}, tuval);
+  bool var = false;
+  for (const auto& oge : tuval.sayfalar[0].ogeler) {
+    if (oge.metin != uzun) {
+      EXPECT_EQ(oge.yazi.genislik, 1) << oge.metin;
+      continue;
+    }
+    var = true;
+    EXPECT_LT(oge.yazi.genislik, 1);
+    EXPECT_GT(oge.yazi.genislik, 0.55);
+  }
+  EXPECT_TRUE(var);
+}
+
+}  // namespace
+}  // namespace belvani
