@@ -1,6 +1,5 @@
 #include "ui/alandenetimi.h"
 
-#include <QAbstractItemView>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -112,15 +111,10 @@ class YaziDenetimi final : public AlanDenetimi {
   xtext* yazi_;
 };
 
-// A list that may be narrower than its choices: the closed one ends in "…", the opened one shows them whole.
+// A choice that is longer than the closed list ends in "…".
 class DarListe final : public QComboBox {
  public:
   using QComboBox::QComboBox;
-
-  void showPopup() override {
-    view()->setMinimumWidth(view()->sizeHintForColumn(0) + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
-    QComboBox::showPopup();
-  }
 
  protected:
   void paintEvent(QPaintEvent*) override {
