@@ -1,8 +1,11 @@
 #include "cli/belgecikti.h"
 
+#include <algorithm>
+
 #include "printing/csvyazici.h"
 #include "printing/metinyazici.h"
 #include "printing/xlsxyazici.h"
+#include "printing/yazdir.h"
 
 namespace belvani::cli {
 namespace {
@@ -48,22 +51,45 @@ std::string Xlsx(const Belge& belge) {
   return std::move(Degeri(baytlar));
 }
 
+std::string Ham(const Belge& belge) {
+  return belge.yapraklar ? YapraklarDosBelgesi(*belge.yapraklar, belge.duzen)
+                         : RaporDosBelgesi(belge.tablo, belge.duzen);
+}
+
+void PdfYaz(const Belge& belge, const std::string& dosya) {
+  auto sonuc = belge.yapraklar ? YapraklarPdf(*belge.yapraklar, dosya) : RaporPdf(belge.tablo, belge.grafik, dosya);
+  const YazdirmaSonucu& yazilan = Degeri(sonuc);
+  if (!yazilan.gonderildi) throw KomutHatasi{"Basılacak kayıt yok, PDF dosyası yazılmadı"};
+  if (!yazilan.uyari.empty()) StandartHata().Uyari(yazilan.uyari);
+}
+
 std::string Cikti(const Belge& belge, const std::string& bicim) {
   if (bicim == "csv") return CsvRaporu(belge.tablo);
   if (bicim == "json") return RaporJson(belge.tablo).dump(2) + "\n";
   if (bicim == "xlsx") return Xlsx(belge);
+  if (bicim == "ham") return Ham(belge);
   return belge.yapraklar ? MetinYapraklari(*belge.yapraklar, belge.duzen) : MetinRaporu(belge.tablo, belge.duzen);
+}
+
+// Whether a terminal can show it.
+bool EkranaYazilir(const std::string& bicim) {
+  return bicim == "metin" || bicim == "csv" || bicim == "json";
 }
 
 }  // namespace
 
 void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti) {
-  komut.add_option("--bicim", cikti.bicim, "metin, csv, json veya xlsx")
-      ->check(CLI::IsMember({"metin", "csv", "json", "xlsx"}));
-  komut.add_option("-o", cikti.dosya, "yazılacak dosya (verilmezse ekrana)");
+  komut.add_option("--bicim", cikti.bicim, "metin, csv, json, xlsx, pdf veya ham (metin yazıcısının baytları)")
+      ->check(CLI::IsMember({"metin", "csv", "json", "xlsx", "pdf", "ham"}));
+  komut.add_option("-o", cikti.dosya, "yazılacak dosya (metin, csv ve json verilmezse ekrana)");
+  komut.parse_complete_callback([&cikti] {
+    if (cikti.dosya.empty() && !EkranaYazilir(cikti.bicim))
+      throw CLI::ValidationError("--bicim", cikti.bicim + " ekrana yazılmaz, dosyasını veriniz: -o DOSYA");
+  });
 }
 
 void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti) {
+  if (cikti.bicim == "pdf") return PdfYaz(belge, cikti.dosya);
   Yaz(Cikti(belge, cikti.bicim), cikti.dosya);
 }
 

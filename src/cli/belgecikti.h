@@ -6,6 +6,7 @@
 
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
+#include "printing/grafikyazici.h"
 #include "printing/kagit.h"
 #include "printing/rapor.h"
 #include "printing/yaprak.h"
@@ -14,7 +15,7 @@ namespace belvani::cli {
 
 struct BelgeCiktisi {
   std::string bicim = "metin";
-  std::string dosya;  // empty: standard output
+  std::string dosya;  // empty: standard output, for the forms that are text
 };
 
 // --bicim, -o
@@ -22,10 +23,12 @@ void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti);
 
 struct Belge {
   Rapor tablo;
-  std::optional<YaprakBelgesi> yapraklar = std::nullopt;  // of a paper of slips: its form as text and as spreadsheet
+  std::optional<YaprakBelgesi> yapraklar = std::nullopt;  // of a paper of slips: all its forms but csv and json
   SayfaDuzeni duzen = {};
+  GrafikDuzeni grafik = {};  // the PDF of `tablo`
 };
 
+// A report too wide for its pages is told on standard error. Without records there is no PDF: KomutHatasi.
 void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti);
 
 }  // namespace belvani::cli

@@ -67,8 +67,16 @@ void Defter(const Is& is) {
   if (cikti.bicim == "json") return Yaz(KayitlarJson(satirlar).dump(2) + "\n", cikti.dosya);
   is.BosSoyle(satirlar.empty());
   DefterSecenek secenek;
-  secenek.kolonlar = DefterAyariOku(is.oturum.FirmaDizini + "bordro.ini").kolonlar;
-  BelgeYaz({.tablo = DefterRaporu(satirlar, is.Baslik(is.Yasal()), secenek), .duzen = secenek.duzen}, cikti);
+  const DefterAyari ayar = DefterAyariOku(is.oturum.FirmaDizini + "bordro.ini");
+  secenek.kolonlar = ayar.kolonlar;
+  BelgeYaz({.tablo = DefterRaporu(satirlar, is.Baslik(is.Yasal()), secenek),
+            .duzen = secenek.duzen,
+            .grafik = {.yon = {},
+                       .punto = double(ayar.punto),
+                       .aile = AileBul(ayar.yaziTipi),
+                       .satirArasi = secenek.duzen.satirArasi,
+                       .kolonArasi = secenek.duzen.kolonArasi}},
+           cikti);
 }
 
 void Pusula(const Is& is) {

@@ -3,6 +3,7 @@
 
 #include "printing/grafikyazici.h"
 #include "printing/kuyruk.h"
+#include "printing/yaprak.h"
 #include "printing/yzcayar.h"
 
 namespace belvani {
@@ -20,5 +21,9 @@ Sonuc<YazdirmaSonucu> RaporPdf(const Rapor& rapor, const GrafikDuzeni& duzen, co
 
 // The text report as the dot-matrix printer takes it; empty without rows. Lines of over 80 letters are condensed.
 std::string RaporDosBelgesi(const Rapor& rapor, const SayfaDuzeni& duzen);
+
+// Slips in the same two forms.
+Sonuc<YazdirmaSonucu> YapraklarPdf(const YaprakBelgesi& belge, const std::string& dosya);
+std::string YapraklarDosBelgesi(const YaprakBelgesi& belge, const SayfaDuzeni& duzen);
 
 }  // namespace belvani

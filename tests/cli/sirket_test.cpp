@@ -1,8 +1,12 @@
 // A company's road on the command line: opened, filled, prepared, printed, damaged.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <iterator>
+#include <set>
+#include <sstream>
 
 #include "calistir.h"
+#include "core/turkce.h"
 
 namespace belvani {
 namespace {
@@ -61,6 +65,30 @@ TEST(Sirket, FromOpeningToTheLedger) {
   EXPECT_THAT(s.Tamam("denetle deneme"), HasSubstr("sağlam"));
 }
 
+// The words of a text without what only fills its lines up.
+std::set<std::string> Sozcukler(std::string metin) {
+  for (char& c : metin)
+    if (std::string_view(":*-\f").find(c) != std::string_view::npos) c = ' ';
+  std::istringstream akis(metin);
+  return {std::istream_iterator<std::string>(akis), {}};
+}
+
+// What the text form of a paper says, the PDF says too, and the printer's bytes say letter for letter.
+void PdfVeHamAyni(const Sirket& s, const std::string& komut) {
+  std::string metin = s.Tamam(komut);
+  s.Tamam(komut + " --bicim pdf -o @b.pdf");
+  const std::string yol = s.dizin.Yol();
+  ASSERT_EQ(std::system(("pdftotext -layout " + yol + "b.pdf " + yol + "b.txt").c_str()), 0);
+  const auto pdf = Sozcukler(s.Oku("b.txt"));
+  for (const auto& sozcuk : Sozcukler(metin)) EXPECT_TRUE(sozcuk.size() <= 2 || pdf.contains(sozcuk)) << sozcuk;
+
+  s.Tamam(komut + " --bicim ham -o @b.ham");
+  std::string ham = s.Oku("b.ham");
+  std::erase_if(ham, [](char c) { return c == '\r' || c == '\f' || c == '\x0F' || c == '\x12'; });
+  std::erase(metin, '\f');
+  EXPECT_EQ(ham, KodSayfasina(metin, KodSayfasi::Dos857));
+}
+
 TEST(Sirket, PapersComeInEveryForm) {
   const Sirket s;
   s.Tamam("hazirla deneme --yil 2009 --ay 7");
@@ -78,7 +106,18 @@ TEST(Sirket, PapersComeInEveryForm) {
     EXPECT_THAT(s.Tamam(std::string(komut) + " --bicim csv"), HasSubstr("\r\n"));
     s.Tamam(std::string(komut) + " --bicim xlsx -o @b.xlsx");
     EXPECT_THAT(s.Oku("b.xlsx"), AllOf(testing::StartsWith("PK\x03\x04"), HasSubstr("xl/worksheets/sheet1.xml")));
+    PdfVeHamAyni(s, komut);
   }
+  EXPECT_THAT(s.Oku("b.ham"), AllOf(testing::StartsWith("\x0F"),
+                                    HasSubstr("I\x9F\x8Dl \x80"
+                                              "a\xA7lar"),
+                                    HasSubstr("\r\n"), testing::EndsWith("\f\x12")))
+      << "condensed, in letters of code page 857";
+  s.Yaz("veri/DENEME/bordro.ini", "[Bordro]\nBrdfont=Times New Roman\n");
+  s.Tamam("bordro deneme --yil 2009 --ay 7 --bicim pdf -o @b.pdf");
+  EXPECT_THAT(s.Oku("b.pdf"), HasSubstr("DejaVuSerif")) << "the font of the ledger's settings";
+  EXPECT_THAT(s.Hata("pusula deneme --yil 2008 --ay 1 --bicim pdf -o @yok.pdf"), HasSubstr("PDF dosyası yazılmadı"));
+  EXPECT_EQ(s.Oku("yok.pdf"), "");
   const auto ozet = s("icmal deneme --yil 2009 --ay 7 --bicim json").Json();
   EXPECT_EQ(ozet["icmal"]["Toplam Brüt Ücret"], "3780.50");
   const auto pusula = s("pusula deneme --yil 2009 --ay 7 --bicim json").Json();
@@ -160,10 +199,15 @@ TEST(Sirket, DefinitionsAreTakenByTheirKey) {
 TEST(Kullanim, IsToldInTurkishWithStatusTwo) {
   const Komut komut;
   for (const char* degerler : {"", "yok", "hazirla", "hazirla a --yil 2009", "hazirla a --yil 2009 --ay 13",
-                               "bordro a --yil 2009 --ay 1 --bicim pdf", "sirketler --olmaz"}) {
+                               "bordro a --yil 2009 --ay 1 --bicim ods", "sirketler --olmaz"}) {
     const Cikti c = komut(degerler);
     EXPECT_EQ(c.durum, 2) << degerler;
     EXPECT_THAT(c.mesaj, HasSubstr("Yanlış kullanım")) << degerler;
+  }
+  for (const std::string bicim : {"xlsx", "pdf", "ham"}) {
+    const Cikti c = komut("bordro a --yil 2009 --ay 1 --bicim " + bicim);
+    EXPECT_EQ(c.durum, 2);
+    EXPECT_THAT(c.mesaj, HasSubstr(bicim + " ekrana yazılmaz, dosyasını veriniz: -o DOSYA"));
   }
   EXPECT_THAT(komut("--help").cikti, AllOf(HasSubstr("Kullanım:"), HasSubstr("hazirla"), HasSubstr("hesapla")));
   EXPECT_EQ(komut("hesapla --help").durum, 0);
