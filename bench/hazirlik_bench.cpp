@@ -20,7 +20,7 @@ void Toplu(benchmark::State& durum, bool ustune) {
     durum.ResumeTiming();
   }
   durum.counters["milyon_kisi"] = benchmark::Counter(double(kisi) * double(durum.iterations()) / 1e6,
-                                                 benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+                                                     benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 
 void BirKisi(benchmark::State& durum) {

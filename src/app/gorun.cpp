@@ -67,8 +67,8 @@ gorun::gorun(EkranBaglami& baglam, std::function<void(const GorunumAyari&)> gost
   findChild<QPushButton*>("renk0")->setFocus();
 }
 
-QPushButton* gorun::RenkDugmesi(const QString& baslik, std::function<QColor()> oku,
-                                std::function<void(std::uint32_t)> yaz) {
+QPushButton* gorun::RenkDugmesi(const QString& baslik, const std::function<QColor()>& oku,
+                                const std::function<void(std::uint32_t)>& yaz) {
   auto* dugme = new xButton(baslik, {}, this);
   dugme->setProperty("renk", true);
   dugme->setIconSize(SwatchBoyu);
@@ -108,7 +108,7 @@ void gorun::RenkSec(std::size_t sira, std::uint32_t renk) {
 
 QWidget* gorun::HazirlariYap() {
   auto* duzen = new QHBoxLayout;
-  const auto ekle = [&](const char* ad, const char* nesne, std::function<void()> islev) {
+  const auto ekle = [&](const char* ad, const char* nesne, const std::function<void()>& islev) {
     auto* dugme = new xButton(QString::fromUtf8(ad), {}, this);
     dugme->setObjectName(nesne);
     Izle(dugme);

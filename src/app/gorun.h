@@ -36,7 +36,8 @@ class gorun : public Form {
   QWidget* ResimSatiriYap();
   QWidget* OrnekYap();
   // A button that shows its colour; `yaz` takes the chosen one.
-  QPushButton* RenkDugmesi(const QString& baslik, std::function<QColor()> oku, std::function<void(std::uint32_t)> yaz);
+  QPushButton* RenkDugmesi(const QString& baslik, const std::function<QColor()>& oku,
+                           const std::function<void(std::uint32_t)>& yaz);
   void RenkSec(std::size_t sira, std::uint32_t renk);
   void TabloKoy(const RenkTablosu& tablo, const std::string& zemin);
   YaziTipi YaziSec(const YaziTipi& eski);

@@ -88,6 +88,7 @@ class Resimler {
       StilKur(uygulama_, AcikRenkler());
     }
     pencere.EkranlariKapat();
+    gosterici_.pencere = nullptr;
     return 0;
   }
 

@@ -48,7 +48,7 @@ class Form : public QWidget {
   QVBoxLayout* Govde() { return govde_; }
 
   // Fields under their headings, the groups of each inner list one below the other, the lists side by side.
-  void AlanlariDiz(std::vector<std::vector<AlanGrubu>> sutunlar);
+  void AlanlariDiz(const std::vector<std::vector<AlanGrubu>>& sutunlar);
   // The same for one group, for screens that lay themselves out.
   QWidget* GrupYap(const AlanGrubu& grup);
   // One editor alone, to be placed by the screen.

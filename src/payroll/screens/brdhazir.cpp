@@ -98,7 +98,7 @@ void brdhazir::GovdeYap() {
   SikDiz();
   auto* orta = new QHBoxLayout;
   orta->setSpacing(10);
-  const auto sutun = [&](std::vector<AlanGrubu> gruplar) {
+  const auto sutun = [&](const std::vector<AlanGrubu>& gruplar) {
     auto* dikey = new QVBoxLayout;
     for (const AlanGrubu& grup : gruplar) dikey->addWidget(GrupYap(grup));
     dikey->addStretch(1);
