@@ -12,6 +12,7 @@
 #include "app/hakkinda.h"
 #include "app/menuharfi.h"
 #include "app/yardim.h"
+#include "core/screens/Dbupdate.h"
 #include "core/session/firmabilgi.h"
 #include "ui/metin.h"
 #include "ui/simge.h"
@@ -169,6 +170,10 @@ void anamenu::Islem(MenuIslemi islem) {
       break;
     case MenuIslemi::Gorunum:
       GorunumAc();
+      break;
+    case MenuIslemi::Guncelle:
+      // Without its store the program cannot go on.
+      if (VeritabaniGuncelleGoster(ekran_, parametreler_) == GuncellemeSonucu::ProgramBitsin) close();
       break;
     case MenuIslemi::Yok:
       break;

@@ -109,7 +109,7 @@ const std::vector<EkranKaydi>& Tablo() {
       {"Ek İşlemler", "Yıllık Devir Bilgileri Kontrolu", "devkontrol"},
       {"Ek İşlemler", "Kullanıcı İşlemleri", "kulfrm", "kullanici", "", Yap<kulfrm>},
       {"Ek İşlemler", "Kontrol İşlemleri", "kontfrm", "kontrol", "Kontrol İşlemi", Yap<kontfrm>},
-      {"Ek İşlemler", "Database Update", "Dbupdate", "yukselt", "", Yap<Dbupdate>, MenuIslemi::Yok, FormModu::Modal},
+      {"Ek İşlemler", "Database Update", "Dbupdate", "yukselt", "", Yap<Dbupdate>, MenuIslemi::Guncelle},
       {"Ek İşlemler", "Yapı Ayarları", "yapifrm", "klasor", "", Yap<yapifrm>},
       {"Ek İşlemler", "Personel Bul", "perbul", "ara", "", Yap<perbul>},
 

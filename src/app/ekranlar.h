@@ -19,8 +19,8 @@ struct UygulamaBaglami {
   ParametreDeposu& parametreler;
 };
 
-// Entries that open no screen.
-enum class MenuIslemi { Yok, FirmaDegistir, Cikis, Yardim, Hakkinda, Gorunum };
+// Entries that do more than open a screen, or something else.
+enum class MenuIslemi { Yok, FirmaDegistir, Cikis, Yardim, Hakkinda, Gorunum, Guncelle };
 
 struct EkranKaydi {
   std::string_view menu;    // "Ek Moduller/Banka Modülü": top entry, then submenu
