@@ -28,14 +28,16 @@ std::vector<BulunanKisi> SirketteAra(const std::string& dizin, const std::string
   const auto motor = MotorAc(dizin + ad + "/" + DepoDosyasi);
   motor->Calistir("pragma query_only=on");
   const FirmaSatiri firma = FirmaSatiriOku(*motor);
+  const std::string firmaAdi = firma.unvan.empty() ? ad : ad + " - " + firma.unvan;
   const auto komut = motor->Hazirla("select adi, soyadi from sicil order by kod");
   while (komut->Adim()) {
     std::string adi, soyadi;
     KolonAl(*komut, 0, adi);
     KolonAl(*komut, 1, soyadi);
-    const std::string adsoy = adi + " " + soyadi;
+    std::string adsoy = adi;
+    adsoy.append(" ").append(soyadi);
     if (KucukHarf(adsoy).find(aranan) != std::string::npos)
-      bulunanlar.push_back({adsoy, firma.unvan.empty() ? ad : ad + " - " + firma.unvan, firma.donem});
+      bulunanlar.push_back({adsoy, firmaAdi, firma.donem});
   }
   return bulunanlar;
 }
