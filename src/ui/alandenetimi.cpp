@@ -111,7 +111,7 @@ class YaziDenetimi final : public AlanDenetimi {
   xtext* yazi_;
 };
 
-// A choice that is longer than the closed list ends in "…".
+// A list that is narrower than its choices: the closed one ends in "…".
 class DarListe final : public QComboBox {
  public:
   using QComboBox::QComboBox;
@@ -130,7 +130,7 @@ class DarListe final : public QComboBox {
 
 class ListeDenetimi final : public AlanDenetimi {
  public:
-  ListeDenetimi(const belvani::Alan& alan, QWidget* ust) : AlanDenetimi(alan), liste_(new DarListe(ust)) {
+  ListeDenetimi(const belvani::Alan& alan, QWidget* ust) : AlanDenetimi(alan), liste_(alan.ek.harf > 0 ? new DarListe(ust) : new QComboBox(ust)) {
     for (const std::string_view secenek : alan.ek.liste) liste_->addItem(Yazi(secenek));
     liste_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     liste_->setMaxVisibleItems(20);

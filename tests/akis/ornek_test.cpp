@@ -7,7 +7,7 @@
 namespace belvani::test {
 namespace {
 
-struct OrnekSirket {
+struct OrnekSirket : EkranParcalari {
   OrnekSirket() {
     const std::string komut =
         "sh '" + KaynakYolu("tools/ornek.sh") + "' '" BELVANI_CLI "' '" + dizin.Yol() + "' >/dev/null";
@@ -18,26 +18,12 @@ struct OrnekSirket {
     EXPECT_TRUE(parametreler.FirmaYukle(oturum));
     bildirim.cevap = false;  // nothing is saved again
   }
-  ~OrnekSirket() { gosterici.formlar.clear(); }
 
   void DonemeGec(int yil, int ay) {
     ASSERT_TRUE(ParametreKur(oturum.DataPath, *ParametreAdresi(yil, ay)));
     parametreler.YasalYukle(oturum.DataPath);
-    oturum.depo.firma.IlkKayit();
-    oturum.depo.firma.KayitDuzelt();
-    oturum.depo.firma.AlanYaz("firmayil", std::int64_t(yil));
-    oturum.depo.firma.AlanYaz("firmaay", std::int64_t(ay));
-    ASSERT_TRUE(oturum.depo.firma.KayitYaz());
-    ASSERT_TRUE(FirmaYukle(oturum));
+    DonemYaz(yil, ay);
   }
-
-  GeciciDizin dizin;
-  ToplayanBildirim bildirim;
-  Oturum oturum;
-  ParametreDeposu parametreler;
-  BetikDialoglari dialoglar;
-  PencereGosterici gosterici;
-  EkranBaglami ekran{oturum, bildirim, dialoglar, gosterici};
 };
 
 // Of the fields whose text is not that of the record: "sskmatrah 693.00 instead of 665.00".

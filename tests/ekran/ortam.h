@@ -65,7 +65,33 @@ inline void TusGonder(QWidget* hedef, int tus, Qt::KeyboardModifiers degistirici
   }
 }
 
-class EkranOrtami {
+// What screens work with; no company is open.
+struct EkranParcalari {
+  EkranParcalari() = default;
+  EkranParcalari(const EkranParcalari&) = delete;
+  EkranParcalari& operator=(const EkranParcalari&) = delete;
+  ~EkranParcalari() { gosterici.formlar.clear(); }
+
+  // The company's working month, in the store and in the session.
+  void DonemYaz(int yil, int ay) {
+    oturum.depo.firma.IlkKayit();
+    oturum.depo.firma.KayitDuzelt();
+    oturum.depo.firma.AlanYaz("firmayil", std::int64_t(yil));
+    oturum.depo.firma.AlanYaz("firmaay", std::int64_t(ay));
+    EXPECT_TRUE(oturum.depo.firma.KayitYaz());
+    FirmaYukle(oturum);
+  }
+
+  GeciciDizin dizin;
+  ToplayanBildirim bildirim;
+  Oturum oturum;
+  ParametreDeposu parametreler;
+  BetikDialoglari dialoglar;
+  PencereGosterici gosterici;
+  EkranBaglami ekran{oturum, bildirim, dialoglar, gosterici};
+};
+
+class EkranOrtami : public EkranParcalari {
  public:
   // The company TEST with the user "ayse", password "gizli", the law of July 2009, working month July 2009.
   EkranOrtami() {
@@ -81,17 +107,11 @@ class EkranOrtami {
     EXPECT_TRUE(AgiTablosuKaydet(oturum.DataPath, yasal->agi));
     EXPECT_TRUE(SirketOlustur(oturum, "TEST", "ayse", "gizli", bildirim));
     EXPECT_TRUE(OturumAc(oturum, "TEST", "ayse", "gizli", bildirim));
-    oturum.depo.firma.IlkKayit();
-    oturum.depo.firma.KayitDuzelt();
-    oturum.depo.firma.AlanYaz("firmayil", std::int64_t(2009));
-    oturum.depo.firma.AlanYaz("firmaay", std::int64_t(7));
-    EXPECT_TRUE(oturum.depo.firma.KayitYaz());
-    FirmaYukle(oturum);
+    DonemYaz(2009, 7);
     parametreler.YasalYukle(oturum.DataPath);
     EXPECT_TRUE(parametreler.FirmaYukle(oturum));
     bildirim.Al();
   }
-  ~EkranOrtami() { gosterici.formlar.clear(); }
 
   // Opens a screen and gives it the keyboard.
   template <class Ekran, class... Arg>
@@ -133,14 +153,6 @@ class EkranOrtami {
       modal->close();
     });
   }
-
-  GeciciDizin dizin;
-  ToplayanBildirim bildirim;
-  Oturum oturum;
-  ParametreDeposu parametreler;
-  BetikDialoglari dialoglar;
-  PencereGosterici gosterici;
-  EkranBaglami ekran{oturum, bildirim, dialoglar, gosterici};
 };
 
 // The text of a field of a screen.

@@ -1,5 +1,5 @@
 // gvtablo: the eight brackets of a tax table. With the mode "GV" in the session's PencereTip it is the income-tax table
-// ("Gelir Vergisi Tablosu"), otherwise that of the special-expense deduction ("Özel Gider İndirimi GV Tablosu").
+// ("Gelir Vergisi Tablosu"), otherwise that of the private-expense refund ("Özel Gider İndirimi GV Tablosu").
 #pragma once
 
 #include "payroll/screens/listeekrani.h"
