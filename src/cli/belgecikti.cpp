@@ -3,9 +3,6 @@
 #include <algorithm>
 
 #include "printing/csvyazici.h"
-#include "printing/metinyazici.h"
-#include "printing/xlsxyazici.h"
-#include "printing/yazdir.h"
 
 namespace belvani::cli {
 namespace {
@@ -47,28 +44,27 @@ Json RaporJson(const Rapor& rapor) {
 }
 
 std::string Xlsx(const Belge& belge) {
-  auto baytlar = belge.yapraklar ? XlsxYapraklari(*belge.yapraklar) : XlsxRaporu(belge.tablo);
+  auto baytlar = belge.Xlsx();
   return std::move(Degeri(baytlar));
 }
 
-std::string Ham(const Belge& belge) {
-  return belge.yapraklar ? YapraklarDosBelgesi(*belge.yapraklar, belge.duzen)
-                         : RaporDosBelgesi(belge.tablo, belge.duzen);
+std::string Uyarili(std::string cikti, const std::string& uyari) {
+  if (!uyari.empty()) StandartHata().Uyari(uyari);
+  return cikti;
 }
 
-void PdfYaz(const Belge& belge, const std::string& dosya) {
-  auto sonuc = belge.yapraklar ? YapraklarPdf(*belge.yapraklar, dosya) : RaporPdf(belge.tablo, belge.grafik, dosya);
-  const YazdirmaSonucu& yazilan = Degeri(sonuc);
-  if (!yazilan.gonderildi) throw KomutHatasi{"Basılacak kayıt yok, PDF dosyası yazılmadı"};
-  if (!yazilan.uyari.empty()) StandartHata().Uyari(yazilan.uyari);
+std::string Pdf(const Belge& belge) {
+  auto pdf = BelgePdf(belge);
+  if (Degeri(pdf).baytlar.empty()) throw KomutHatasi{"Basılacak kayıt yok, PDF dosyası yazılmadı"};
+  return Uyarili(std::move(pdf->baytlar), pdf->uyari);
 }
 
-std::string Cikti(const Belge& belge, const std::string& bicim) {
-  if (bicim == "csv") return CsvRaporu(belge.tablo);
-  if (bicim == "json") return RaporJson(belge.tablo).dump(2) + "\n";
+std::string Cikti(const Belge& belge, const Rapor& tablo, const std::string& bicim) {
+  if (bicim == "csv") return CsvRaporu(tablo);
+  if (bicim == "json") return RaporJson(tablo).dump(2) + "\n";
   if (bicim == "xlsx") return Xlsx(belge);
-  if (bicim == "ham") return Ham(belge);
-  return belge.yapraklar ? MetinYapraklari(*belge.yapraklar, belge.duzen) : MetinRaporu(belge.tablo, belge.duzen);
+  if (bicim == "pdf") return Pdf(belge);
+  return Uyarili(bicim == "ham" ? BelgeHam(belge) : belge.Metin(), belge.MetinUyarisi());
 }
 
 // Whether a terminal can show it.
@@ -88,9 +84,12 @@ void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti) {
   });
 }
 
+void BelgeYaz(const Belge& belge, const Rapor& tablo, const BelgeCiktisi& cikti) {
+  Yaz(Cikti(belge, tablo, cikti.bicim), cikti.dosya);
+}
+
 void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti) {
-  if (cikti.bicim == "pdf") return PdfYaz(belge, cikti.dosya);
-  Yaz(Cikti(belge, cikti.bicim), cikti.dosya);
+  BelgeYaz(belge, *belge.Tablo(), cikti);
 }
 
 }  // namespace belvani::cli

@@ -1,15 +1,11 @@
 // How the commands of the papers give what they made: the form and the file are the user's choice, one for all papers.
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
-#include "printing/grafikyazici.h"
-#include "printing/kagit.h"
-#include "printing/rapor.h"
-#include "printing/yaprak.h"
+#include "printing/belge.h"
 
 namespace belvani::cli {
 
@@ -21,14 +17,9 @@ struct BelgeCiktisi {
 // --bicim, -o
 void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti);
 
-struct Belge {
-  Rapor tablo;
-  std::optional<YaprakBelgesi> yapraklar = std::nullopt;  // of a paper of slips: all its forms but csv and json
-  SayfaDuzeni duzen = {};
-  GrafikDuzeni grafik = {};  // the PDF of `tablo`
-};
-
-// A report too wide for its pages is told on standard error. Without records there is no PDF: KomutHatasi.
-void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti);
+// `tablo`: the paper's rows for csv and json. A report too wide for its pages is told on standard error. Without
+// records there is no PDF: KomutHatasi.
+void BelgeYaz(const Belge& belge, const Rapor& tablo, const BelgeCiktisi& cikti);
+void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti);  // of a paper that is a table
 
 }  // namespace belvani::cli

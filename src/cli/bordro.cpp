@@ -1,13 +1,8 @@
 // bordro, pusula, icmal, ozel-bordro, izin, agi: the papers of the pay records
 #include "cli/belgecikti.h"
-#include "core/store/satirlar.h"
-#include "documents/agilistesi.h"
-#include "documents/defterayari.h"
+#include "documents/bordrobelgeleri.h"
 #include "documents/deftersorgu.h"
 #include "documents/icmal.h"
-#include "documents/izin.h"
-#include "documents/ozelbordro.h"
-#include "documents/pusula.h"
 #include "payroll/hazirlik/kosullar.h"
 
 namespace belvani::cli {
@@ -17,6 +12,7 @@ struct BelgeSecenekleri {
   std::string kod;
   Donem donem;
   std::string izinTipi = "icmal";
+  int sayfada = int(SayfadaYaprak::Iki);
   BelgeCiktisi cikti;
 };
 
@@ -25,33 +21,24 @@ struct Is {
   Genel& genel;
   Oturum& oturum;
   const BelgeSecenekleri& secenekler;
+  YasalParametreler yasal;
 
-  Motor& Store() const { return oturum.depo.db.IcMotor(); }
+  BelgeKaynagi Kaynak() const {
+    return {.motor = oturum.depo.db.IcMotor(), .yasal = yasal, .paraonda = oturum.paraonda};
+  }
   int Yil() const { return secenekler.donem.yil; }
   int Ay() const { return secenekler.donem.ay; }
-  YasalParametreler Yasal() const {
-    auto yasal = YasalParametreleriAl(oturum.DataPath);
-    return std::move(Degeri(yasal));
-  }
-  Firma FirmaKaydi() const { return KayitlariOku<Firma>(Store()).front(); }
-
-  DefterSecim Secim(DefterSirasi sira) const {
+  DefterSecim Secim() const {
     DefterSecim secim;
     secim.yil = Yil();
     secim.ay = Ay();
-    secim.sira = sira;
     return secim;
   }
-  DefterBaslik Baslik(const YasalParametreler& yasal) const {
-    return {.yil = Yil(),
-            .ay = Ay(),
-            .firma = FirmaKaydi(),
-            .damgaOran = yasal.oranlar.DamgaOran,
-            .paraonda = oturum.paraonda};
+  void Ver(const Belge& belge, const Rapor& tablo) const {
+    if (tablo.Satirlar().empty()) genel.bildirim.Bilgi("Bu dönemde bordro kaydı yok");
+    BelgeYaz(belge, tablo, secenekler.cikti);
   }
-  void BosSoyle(bool bos) const {
-    if (bos) genel.bildirim.Bilgi("Bu dönemde bordro kaydı yok");
-  }
+  void Ver(const std::unique_ptr<Belge>& belge) const { Ver(*belge, *belge->Tablo()); }
 };
 
 // The ledger as JSON is for other programs: the records with all their fields.
@@ -62,43 +49,28 @@ Json KayitlarJson(const std::vector<BordroSatiri>& satirlar) {
 }
 
 void Defter(const Is& is) {
-  const auto satirlar = DefterSatirlariOku(is.Store(), is.Secim(DefterSirasi::Kod));
   const BelgeCiktisi& cikti = is.secenekler.cikti;
-  if (cikti.bicim == "json") return Yaz(KayitlarJson(satirlar).dump(2) + "\n", cikti.dosya);
-  is.BosSoyle(satirlar.empty());
-  DefterSecenek secenek;
+  if (cikti.bicim == "json")
+    return Yaz(KayitlarJson(DefterSatirlariOku(is.Kaynak().motor, is.Secim())).dump(2) + "\n", cikti.dosya);
   const DefterAyari ayar = DefterAyariOku(is.oturum.FirmaDizini + "bordro.ini");
+  DefterSecenek secenek;
   secenek.kolonlar = ayar.kolonlar;
-  BelgeYaz({.tablo = DefterRaporu(satirlar, is.Baslik(is.Yasal()), secenek),
-            .duzen = secenek.duzen,
-            .grafik = {.yon = {},
-                       .punto = double(ayar.punto),
-                       .aile = AileBul(ayar.yaziTipi),
-                       .satirArasi = secenek.duzen.satirArasi,
-                       .kolonArasi = secenek.duzen.kolonArasi}},
-           cikti);
+  is.Ver(DefterBelgesi(is.Kaynak(), is.Secim(), secenek, {.yaziTipi = ayar.yaziTipi, .punto = ayar.punto}));
 }
 
 void Pusula(const Is& is) {
-  const auto satirlar = DefterSatirlariOku(is.Store(), is.Secim(DefterSirasi::Kisi));
-  is.BosSoyle(satirlar.empty());
-  const PusulaBaslik baslik{.defter = is.Baslik(is.Yasal()), .yardimAdlari = YardimAdlariOku(is.Store())};
-  BelgeYaz({.tablo = PusulaRaporu(satirlar, baslik), .yapraklar = PusulaBelgesi(satirlar, baslik)},
-           is.secenekler.cikti);
+  const auto sayfada = SayfadaYaprak(is.secenekler.sayfada);
+  is.Ver(*UcretPusulalari(is.Kaynak(), is.Secim(), sayfada), PusulaTablosu(is.Kaynak(), is.Secim()));
 }
 
 void Ozet(const Is& is) {
-  const auto yasal = is.Yasal();
-  const auto girdiler = IcmalGirdileriOku(is.Store(), is.Yil(), is.Ay());
-  is.BosSoyle(girdiler.empty());
-  const Icmal icmal = IcmalHesapla(girdiler, yasal.oranlar.AsgariUcret, Yuvarlayici(is.oturum.paraonda));
-  BelgeYaz({.tablo = IcmalRaporu(icmal, is.Baslik(yasal))}, is.secenekler.cikti);
+  if (IcmalGirdileriOku(is.Kaynak().motor, is.Yil(), is.Ay()).empty())
+    is.genel.bildirim.Bilgi("Bu dönemde bordro kaydı yok");
+  is.Ver(IcmalBelgesi(is.Kaynak(), is.Yil(), is.Ay()));
 }
 
 void OzelBordro(const Is& is) {
-  const auto satirlar = DefterSatirlariOku(is.Store(), is.Secim(DefterSirasi::SskNo));
-  is.BosSoyle(satirlar.empty());
-  BelgeYaz({.tablo = OzelBordroRaporu(satirlar, is.Baslik(is.Yasal()))}, is.secenekler.cikti);
+  is.Ver(OzelBordroBelgesi(is.Kaynak(), is.Secim(), {}, {}));
 }
 
 void Izin(const Is& is) {
@@ -106,18 +78,11 @@ void Izin(const Is& is) {
   const IzinRaporu rapor = tip == "personel" ? IzinRaporu::Personel
                            : tip == "donem"  ? IzinRaporu::Donemsel
                                              : IzinRaporu::Icmal;
-  BelgeYaz({.tablo = IzinListesi(IzinleriOku(is.Store(), is.Yil(), {}), is.Yil(), rapor)}, is.secenekler.cikti);
+  BelgeYaz(*IzinBelgesi(is.Kaynak(), is.Yil(), {}, rapor, {}), is.secenekler.cikti);
 }
 
 void Agi(const Is& is) {
-  const auto yasal = is.Yasal();
-  const auto kisiler = AgiKisileriOku(is.Store(), is.Secim(DefterSirasi::Kisi));
-  is.BosSoyle(kisiler.empty());
-  const AgiBaslik baslik{.unvan = is.FirmaKaydi().unvan,
-                         .yil = is.Yil(),
-                         .agiTaban = AgiTabaniIle(yasal.agi, yasal.oranlar.AsgariUcret).AgiTaban,
-                         .paraonda = is.oturum.paraonda};
-  BelgeYaz({.tablo = AgiListesi(kisiler, baslik)}, is.secenekler.cikti);
+  is.Ver(AgiBelgesi(is.Kaynak(), is.Secim()));
 }
 
 enum class Sorulan { YilVeAy, Yil };
@@ -152,10 +117,14 @@ void BelgeKomutlari(CLI::App& app, Genel& genel) {
       komut->add_option("--tip", s->izinTipi, "icmal, personel (kişilerin ayları) veya donem (yılın ayları)")
           ->check(CLI::IsMember({"icmal", "personel", "donem"}));
     }
+    if (belge.yap == Pusula)
+      komut->add_option("--sayfada", s->sayfada, "PDF'in bir yaprağındaki pusula: 1, 2 veya 4")
+          ->check(CLI::IsMember({1, 2, 4}));
     CiktiSecenekleri(*komut, s->cikti);
     komut->callback([&genel, s, yap = belge.yap] {
       const auto o = genel.SirketAc(s->kod);
-      yap({genel, *o, *s});
+      auto yasal = YasalParametreleriAl(o->DataPath);
+      yap({genel, *o, *s, std::move(Degeri(yasal))});
     });
   }
 }

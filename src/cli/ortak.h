@@ -42,6 +42,7 @@ void AktarimKomutlari(CLI::App& app, Genel& genel);
 void HazirlaKomutlari(CLI::App& app, Genel& genel);
 void HesaplaKomutu(CLI::App& app, Genel& genel);
 void BelgeKomutlari(CLI::App& app, Genel& genel);
+void BildirgeKomutu(CLI::App& app, Genel& genel);
 
 struct Donem {
   int yil = 0;

@@ -101,7 +101,7 @@ Rapor DefterRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBaslik
 }
 
 UstSatir UnvanSatiri(const Firma& firma) {
-  return {.sol = "ÜNVANI : " + firma.unvan};
+  return {.sol = "ÜNVANI : " + firma.unvan, .sirket = true};
 }
 
 UstSatir IsyeriSatiri(const Firma& firma) {

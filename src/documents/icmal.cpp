@@ -115,16 +115,6 @@ Icmal IcmalHesapla(std::span<const IcmalGirdisi> girdiler, Tutar asgariUcret, Yu
   return icmal;
 }
 
-std::array<Icmal, 12> IcmalSerisi(std::span<const IcmalGirdisi> yilinGirdileri, Tutar asgariUcret,
-                                  Yuvarlayici yuvarla) {
-  std::array<std::vector<IcmalGirdisi>, 12> aylar;
-  for (const auto& girdi : yilinGirdileri)
-    if (girdi.brd.ay >= 1 && girdi.brd.ay <= 12) aylar[girdi.brd.ay - 1u].push_back(girdi);
-  std::array<Icmal, 12> seri;
-  for (std::size_t ay = 0; ay < seri.size(); ++ay) seri[ay] = IcmalHesapla(aylar[ay], asgariUcret, yuvarla);
-  return seri;
-}
-
 Rapor IcmalRaporu(const Icmal& icmal, const DefterBaslik& baslik) {
   Rapor rapor = RaporYap(kolonlar, Satirlar(icmal), baslik.paraonda);
   rapor.baslik = "BORDRO ÖZETİ";
@@ -137,11 +127,10 @@ Rapor IcmalRaporu(const Icmal& icmal, const DefterBaslik& baslik) {
   return rapor;
 }
 
-std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, std::optional<int> ay) {
+std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, int ay) {
   SorguMetni sorgu("select " + SecimListesi<Brd>(motor, "b") +
-                       ", s.sskdurum from brd b join sicil s on s.kod = b.kod where b.yil = ?",
-                   {std::int64_t(yil)});
-  if (ay) sorgu.Ekle(" and b.ay = ?", std::int64_t(*ay));
+                       ", s.sskdurum from brd b join sicil s on s.kod = b.kod where b.yil = ? and b.ay = ?",
+                   {std::int64_t(yil), std::int64_t(ay)});
   const auto komut = sorgu.Hazirla(motor);
   std::vector<IcmalGirdisi> girdiler;
   while (komut->Adim()) {

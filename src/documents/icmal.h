@@ -5,8 +5,6 @@
 // Premiums of people under the support premium (pensioners who work) stand in a line of their own.
 #pragma once
 
-#include <array>
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -54,12 +52,9 @@ struct Icmal {
 
 Icmal IcmalHesapla(std::span<const IcmalGirdisi> girdiler, Tutar asgariUcret, Yuvarlayici yuvarla);
 
-// The months of a year, for a chart: each by its own records. `asgariUcret` counts heads only.
-std::array<Icmal, 12> IcmalSerisi(std::span<const IcmalGirdisi> yilinGirdileri, Tutar asgariUcret, Yuvarlayici yuvarla);
-
 Rapor IcmalRaporu(const Icmal& icmal, const DefterBaslik& baslik);
 
-// Of a month, or of the whole year; people whose card is gone are not in it. Throws MotorHatasi.
-std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, std::optional<int> ay);
+// Of a month; people whose card is gone are not in it. Throws MotorHatasi.
+std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, int ay);
 
 }  // namespace belvani

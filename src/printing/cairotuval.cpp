@@ -69,7 +69,7 @@ void CairoTuval::CizimiBitir() {
   cizim_ = nullptr;
 }
 
-void CairoTuval::YaziSec(const Yazi& yazi) {
+void CairoTuval::YaziSec(const YaziBicimi& yazi) {
   if (yaziSecildi_ && yazi == secili_) return;
   cairo_set_font_face(cizim_, HarfTablosu::Al(yazi.aile, yazi.kalinlik).Tip());
   const double boy = yazi.punto * PuntoMm;
@@ -80,7 +80,7 @@ void CairoTuval::YaziSec(const Yazi& yazi) {
   yaziSecildi_ = true;
 }
 
-void CairoTuval::Metin(Nokta yer, std::string_view metin, const Yazi& yazi) {
+void CairoTuval::Metin(Nokta yer, std::string_view metin, const YaziBicimi& yazi) {
   const CozulmusMetin& cozulmus = Coz(metin);
   if (cizim_ == nullptr || cozulmus.kodlar.empty() || yazi.punto <= 0 || yazi.genislik <= 0) return;
   HarfTablosu& tablo = HarfTablosu::Al(yazi.aile, yazi.kalinlik);

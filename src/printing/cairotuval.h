@@ -21,7 +21,7 @@ class CairoTuval : public Tuval {
   CairoTuval(const CairoTuval&) = delete;
   CairoTuval& operator=(const CairoTuval&) = delete;
 
-  void Metin(Nokta yer, std::string_view metin, const Yazi& yazi) override;
+  void Metin(Nokta yer, std::string_view metin, const YaziBicimi& yazi) override;
   void Cizgi(Nokta bas, Nokta son, double kalinlik) override;
   void Kutu(const Dikdortgen& kutu, double kalinlik) override;
   void DoluKutu(const Dikdortgen& kutu, BoyaRengi renk) override;
@@ -35,10 +35,10 @@ class CairoTuval : public Tuval {
   _cairo* Cizim() { return cizim_; }
 
  private:
-  void YaziSec(const Yazi& yazi);
+  void YaziSec(const YaziBicimi& yazi);
 
   _cairo* cizim_ = nullptr;
-  Yazi secili_;  // the font that the drawing has now
+  YaziBicimi secili_;  // the font that the drawing has now
   bool yaziSecildi_ = false;
 };
 

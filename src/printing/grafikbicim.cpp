@@ -15,12 +15,12 @@ constexpr double OrtalamaHarf = 0.62;  // width of a letter, of its size
 constexpr double DarHucre = 0.6;       // how narrow a single long text may become
 
 // Widths below are those of letters one point high.
-Yazi BirPunto(const GrafikDuzeni& duzen, YaziKalinligi kalinlik) {
+YaziBicimi BirPunto(const GrafikDuzeni& duzen, YaziKalinligi kalinlik) {
   return {.punto = 1, .kalinlik = kalinlik, .aile = duzen.aile};
 }
 
 // The widest number of as many letters as the column needs: digits are all equally wide.
-double SayiEni(const Rapor& rapor, std::size_t k, int gruplama, const Yazi& yazi) {
+double SayiEni(const Rapor& rapor, std::size_t k, int gruplama, const YaziBicimi& yazi) {
   const RaporKolonu& kolon = rapor.Kolonlar()[k];
   const std::int64_t enCok = std::numeric_limits<std::int64_t>::max();
   const Hucre dolu = kolon.tur == KolonTuru::Tutar ? Hucre(Tutar::Hamdan(enCok)) : Hucre(enCok);
@@ -36,7 +36,7 @@ std::string_view Etiketi(const Rapor& rapor, std::size_t k) {
   return ilk == kolonlar.begin() + std::ptrdiff_t(k) ? std::string_view(rapor.toplamEtiketi) : std::string_view();
 }
 
-double MetinKolonuEni(const Rapor& rapor, std::size_t k, const Yazi& yazi) {
+double MetinKolonuEni(const Rapor& rapor, std::size_t k, const YaziBicimi& yazi) {
   double enUzun = MetinEni(Etiketi(rapor, k), yazi);
   for (const auto& satir : rapor.Satirlar())
     if (const auto* metin = std::get_if<std::string>(&satir.hucreler[k]))
@@ -45,7 +45,14 @@ double MetinKolonuEni(const Rapor& rapor, std::size_t k, const Yazi& yazi) {
   return std::min(enUzun, std::max(bildirilen, DarHucre * enUzun));
 }
 
-double IcerikEni(const Rapor& rapor, std::size_t k, int gruplama, const Yazi& yazi) {
+// Digits are all equally wide, names of months are not.
+double TarihEni(KolonTuru tur, const YaziBicimi& yazi) {
+  double en = 0;
+  for (int ay = 1; ay <= 12; ++ay) en = std::max(en, MetinEni(TarihMetni(Tarih(2000, ay, 28), tur), yazi));
+  return en;
+}
+
+double IcerikEni(const Rapor& rapor, std::size_t k, int gruplama, const YaziBicimi& yazi) {
   const RaporKolonu& kolon = rapor.Kolonlar()[k];
   switch (kolon.tur) {
     case KolonTuru::Metin:
@@ -54,9 +61,12 @@ double IcerikEni(const Rapor& rapor, std::size_t k, int gruplama, const Yazi& ya
     case KolonTuru::Tutar:
       return SayiEni(rapor, k, gruplama, yazi);
     case KolonTuru::Tarih:
-      return MetinEni("00.00.0000", yazi);
     case KolonTuru::KisaTarih:
-      return MetinEni("00.00.00", yazi);
+    case KolonTuru::UzunTarih:
+    case KolonTuru::GunAy:
+    case KolonTuru::Gun:
+    case KolonTuru::Ay:
+      return TarihEni(kolon.tur, yazi);
     case KolonTuru::Bos:
       return kolon.en * OrtalamaHarf * PuntoMm;
   }
@@ -84,8 +94,8 @@ KagitBicimi Kagit(const Rapor& rapor, int gruplama) {
 }
 
 std::vector<double> Enler(const Rapor& rapor, const GrafikDuzeni& duzen, const KagitBicimi& kagit) {
-  const Yazi yazi = BirPunto(duzen, YaziKalinligi::Normal);
-  const Yazi kalin = BirPunto(duzen, YaziKalinligi::Kalin);
+  const YaziBicimi yazi = BirPunto(duzen, YaziKalinligi::Normal);
+  const YaziBicimi kalin = BirPunto(duzen, YaziKalinligi::Kalin);
   std::vector<double> enler;
   for (std::size_t k = 0; k < rapor.Kolonlar().size(); ++k) {
     double en = IcerikEni(rapor, k, kagit.gruplama, yazi);
@@ -139,7 +149,7 @@ void KolonlariYerlestir(GrafikBicimi& bicim, const std::vector<double>& enler) {
   }
 }
 
-double UstSatirEni(const UstSatir& satir, const Yazi& yazi) {
+double UstSatirEni(const UstSatir& satir, const YaziBicimi& yazi) {
   double en = (int(satir.sayfaNo) + int(satir.sayfaSayisi)) * MetinEni("/0000", yazi);
   for (const auto& parca : {satir.sol, satir.orta, satir.sag})
     if (!parca.empty()) en += MetinEni(parca, yazi) + yazi.punto * PuntoMm;

@@ -1,7 +1,6 @@
 #include "printing/grafikyaprak.h"
 
 #include <algorithm>
-#include <array>
 #include <span>
 
 #include "printing/grafikyazici.h"
@@ -9,20 +8,29 @@
 namespace belvani {
 namespace {
 
-constexpr double EnBuyukPunto = 8;
-constexpr double BaslikOrani = 1.25;  // title to rows, in size
-constexpr double EtiketAraligi = 2;   // millimetres between label and value
-constexpr double BloklarArasi = 4;    // millimetres, at least
-constexpr double YapraklarArasi = 6;  // millimetres, with a line to cut along in the middle
-constexpr double CizgiPayi = 0.5;     // lines that a rule takes
-constexpr std::size_t BlokSayisi = 4;
+constexpr double EnBuyukPunto = 10;
+constexpr double BaslikOrani = 1.25;   // title to rows, in size
+constexpr double EtiketAraligi = 1.5;  // millimetres between label and value
+constexpr double BloklarArasi = 4;     // millimetres, at least
+constexpr double EnCokAra = 24;        // and at most
+constexpr double CizgiPayi = 0.5;      // lines that a rule takes
+constexpr double SatirAraligi = 1.1;   // of the height of letters
 constexpr KagitBoyu Kagit = A4(KagitYonu::Dikey);
-constexpr double SayfaEni = Kagit.en - 2 * KenarMm;
-constexpr double SayfaBoyu = Kagit.boy - 2 * KenarMm;
+constexpr std::size_t BlokSayisi = GrafikYapraklar::BlokSayisi;
 
 using Blok = std::span<const BlokSatiri>;
+using BlokEni = GrafikYapraklar::BlokEni;
 
-// Side by side: left, right, and the two halves of what the text form leaves out.
+// How the sheet is divided, and how many blocks of a slip stand side by side.
+struct Bolunme {
+  int sutun, satir;
+  std::size_t yanYana;
+};
+constexpr Bolunme BolunmeBul(int sayfada) {
+  return sayfada == 4 ? Bolunme{2, 2, 2} : sayfada == 2 ? Bolunme{1, 2, BlokSayisi} : Bolunme{1, 1, 2};
+}
+
+// Left, right, and the two halves of what the text form leaves out.
 std::array<Blok, BlokSayisi> Bloklar(const Yaprak& yaprak) {
   const Blok ek = yaprak.ek;
   const std::size_t yarim = (ek.size() + 1) / 2;
@@ -34,155 +42,164 @@ std::string_view Etiket(std::string_view etiket) {
   return etiket.substr(0, etiket.find_last_not_of(" *:") + 1);
 }
 
-double SatirSayisi(const Yaprak& yaprak) {
-  std::size_t blok = 0;
-  for (const Blok& b : Bloklar(yaprak)) blok = std::max(blok, b.size());
-  return double(2 + yaprak.bas.size() + blok + yaprak.cumleler.size()) + 2 * CizgiPayi;
+double SatirSayisi(const Yaprak& yaprak, std::size_t yanYana) {
+  const auto bloklar = Bloklar(yaprak);
+  std::size_t satir = 2 + yaprak.bas.size() + yaprak.cumleler.size();
+  double cizgi = 1;
+  for (std::size_t b = 0; b < BlokSayisi; b += yanYana) {
+    std::size_t boy = 0;
+    for (std::size_t k = b; k < b + yanYana; ++k) boy = std::max(boy, bloklar[k].size());
+    satir += boy;
+    ++cizgi;
+  }
+  return double(satir) + cizgi * CizgiPayi;
 }
 
-// Millimetres that labels and values of a block take, over all slips.
-struct BlokEni {
-  double etiket = 0;
-  double deger = 0;
-
-  double Tamami() const { return etiket == 0 && deger == 0 ? 0 : etiket + EtiketAraligi + deger; }
-};
-
-class YaprakCizici {
+// Draws one slip line by line from the upper edge of its place.
+class YaprakKalemi {
  public:
-  YaprakCizici(const YaprakBelgesi& belge, Tuval& tuval) : belge_(belge), tuval_(tuval) {
-    yazi_.punto = EnBuyukPunto;
-    Olc();
-    const double oran = SigmaOrani();
-    if (oran < 1) {
-      yazi_.punto *= oran;
-      Olc();
-    }
-    satirBoyu_ = SatirBoyu(yazi_);
-  }
+  YaprakKalemi(Tuval& tuval, const Dikdortgen& yer, const YaziBicimi& yazi)
+      : tuval_(tuval), yer_(yer), yazi_(yazi), satirBoyu_(SatirBoyu(yazi) * SatirAraligi), y_(yer.y) {}
 
-  GrafikYaprakSonucu Yaz() {
-    GrafikYaprakSonucu sonuc;
-    for (const auto& yaprak : belge_.yapraklar) {
-      const double boy = SatirSayisi(yaprak) * satirBoyu_;
-      const bool sigar = sonuc.sayfaSayisi > 0 && y_ + YapraklarArasi + boy <= KenarMm + SayfaBoyu;
-      sigar ? AraCiz() : SayfaBasla(sonuc.sayfaSayisi++);
-      YaprakCiz(yaprak);
-    }
-    if (sonuc.sayfaSayisi > 0) tuval_.SayfaBitir();
-    if (yazi_.punto < EnKucukPunto)
-      sonuc.uyari = "Yapraklar kağıda sığmayacak kadar büyük: okunması güç, çok küçük harflerle basıldı.";
-    return sonuc;
-  }
-
- private:
-  // How much smaller letters have to be for the widest blocks and the tallest slip.
-  double SigmaOrani() const {
-    double harfEni = 0;
-    for (const auto& en : enler_) harfEni += en.etiket + en.deger;
-    double satir = 0;
-    for (const auto& yaprak : belge_.yapraklar) satir = std::max(satir, SatirSayisi(yaprak));
-    const double boy = satir * SatirBoyu(yazi_);
-    constexpr double bosluk = EtiketAraligi * BlokSayisi + BloklarArasi * (BlokSayisi - 1);
-    return std::min({1.0, (SayfaEni - bosluk) / std::max(1.0, harfEni), SayfaBoyu / std::max(1.0, boy)});
-  }
-
-  void Olc() {
-    enler_ = {};
-    basEtiketi_ = 0;
-    for (const auto& yaprak : belge_.yapraklar) {
-      const auto bloklar = Bloklar(yaprak);
-      for (std::size_t b = 0; b < BlokSayisi; ++b)
-        for (const auto& satir : bloklar[b]) {
-          enler_[b].etiket = std::max(enler_[b].etiket, MetinEni(Etiket(satir.etiket), yazi_));
-          enler_[b].deger = std::max(enler_[b].deger, MetinEni(Deger(satir), yazi_));
-        }
-      for (const auto& satir : yaprak.bas) basEtiketi_ = std::max(basEtiketi_, MetinEni(Etiket(satir.etiket), yazi_));
-    }
-  }
-
-  std::string Deger(const BlokSatiri& satir) const { return YaprakMetni(satir.deger, belge_.paraOndaligi); }
-
-  void SayfaBasla(int oncekiler) {
-    if (oncekiler > 0) tuval_.SayfaBitir();
-    tuval_.SayfaBasla(Kagit);
-    y_ = KenarMm;
-  }
-
-  void AraCiz() {
-    const double orta = y_ + YapraklarArasi / 2;
-    tuval_.Cizgi({0, orta}, {Kagit.en, orta}, InceCizgi);
-    y_ += YapraklarArasi;
-  }
-
-  void YaprakCiz(const Yaprak& yaprak) {
-    Yazi baslik = yazi_;
-    baslik.punto *= BaslikOrani;
-    baslik.kalinlik = YaziKalinligi::Kalin;
-    Satir(belge_.baslik, baslik, MetinHizasi::Orta);
-    Satir(yaprak.altBaslik, yazi_, MetinHizasi::Orta);
-    for (const auto& satir : yaprak.bas) BasSatiri(satir);
-    CizgiCiz();
-    BloklariCiz(Bloklar(yaprak));
-    CizgiCiz();
-    for (const auto& cumle : yaprak.cumleler) Satir(cumle, yazi_, MetinHizasi::Sol);
-  }
-
-  void Satir(const std::string& metin, const Yazi& yazi, MetinHizasi hiza) {
-    Kutuya(0, SayfaEni, metin, yazi, hiza);
+  void Satir(std::string_view metin, const YaziBicimi& yazi, MetinHizasi hiza) {
+    Kutuya(0, yer_.en, metin, yazi, hiza);
     y_ += satirBoyu_;
   }
 
-  void BasSatiri(const BlokSatiri& satir) {
-    const double yer = std::min(basEtiketi_, SayfaEni / 2) + EtiketAraligi;
-    Kutuya(0, yer - EtiketAraligi, Etiket(satir.etiket), yazi_, MetinHizasi::Sol);
-    Kutuya(yer, SayfaEni - yer, Deger(satir), yazi_, MetinHizasi::Sol);
+  void BasSatiri(std::string_view etiket, std::string_view deger, double etiketEni) {
+    const double yer = std::min(etiketEni, yer_.en / 2) + EtiketAraligi;
+    Kutuya(0, yer - EtiketAraligi, etiket, yazi_, MetinHizasi::Sol);
+    Kutuya(yer, yer_.en - yer, deger, yazi_, MetinHizasi::Sol);
     y_ += satirBoyu_;
   }
 
-  void CizgiCiz() {
+  void Cizgi() {
     const double orta = y_ + CizgiPayi * satirBoyu_ / 2;
-    tuval_.Cizgi({KenarMm, orta}, {KenarMm + SayfaEni, orta}, InceCizgi);
+    tuval_.Cizgi({yer_.x, orta}, {yer_.x + yer_.en, orta}, InceCizgi);
     y_ += CizgiPayi * satirBoyu_;
   }
 
-  // The blocks share the width that they leave free.
-  void BloklariCiz(const std::array<Blok, BlokSayisi>& bloklar) {
-    double bos = SayfaEni;
-    for (const auto& en : enler_) bos -= en.Tamami();
+  // Blocks side by side, which share the width that they leave free.
+  void Blokla(std::span<const Blok> bloklar, std::span<const BlokEni> enler, int paraOndaligi) {
+    double bos = yer_.en;
+    for (const BlokEni& en : enler) bos -= en.etiket + EtiketAraligi + en.deger;
+    const double ara = std::min(EnCokAra, bos / double(bloklar.size() - 1));
     const double ust = y_;
     double x = 0;
     double alt = ust;
-    for (std::size_t b = 0; b < BlokSayisi; ++b) {
+    for (std::size_t b = 0; b < bloklar.size(); ++b) {
       y_ = ust;
-      for (const auto& satir : bloklar[b]) {
-        Kutuya(x, enler_[b].etiket, Etiket(satir.etiket), yazi_, MetinHizasi::Sol);
-        Kutuya(x + enler_[b].etiket + EtiketAraligi, enler_[b].deger, Deger(satir), yazi_, MetinHizasi::Sag);
+      const double degerYeri = x + enler[b].etiket + EtiketAraligi;
+      for (const BlokSatiri& satir : bloklar[b]) {
+        Kutuya(x, enler[b].etiket, Etiket(satir.etiket), yazi_, MetinHizasi::Sol);
+        Kutuya(degerYeri, enler[b].deger, YaprakMetni(satir.deger, paraOndaligi), yazi_, MetinHizasi::Sag);
         y_ += satirBoyu_;
       }
       alt = std::max(alt, y_);
-      x += enler_[b].Tamami() + bos / (BlokSayisi - 1);
+      x = degerYeri + enler[b].deger + ara;
     }
     y_ = alt;
   }
 
-  void Kutuya(double x, double en, std::string_view metin, const Yazi& yazi, MetinHizasi hiza) {
-    MetinKutuya(tuval_, {KenarMm + x, y_, en, satirBoyu_}, metin, yazi, hiza);
+ private:
+  void Kutuya(double x, double en, std::string_view metin, const YaziBicimi& yazi, MetinHizasi hiza) {
+    MetinKutuya(tuval_, {yer_.x + x, y_, en, satirBoyu_}, metin, yazi, hiza);
   }
 
-  const YaprakBelgesi& belge_;
   Tuval& tuval_;
-  Yazi yazi_;
-  std::array<BlokEni, BlokSayisi> enler_;
-  double basEtiketi_ = 0;
-  double satirBoyu_ = 0;
-  double y_ = 0;  // upper edge of the line being drawn
+  const Dikdortgen yer_;
+  const YaziBicimi& yazi_;
+  const double satirBoyu_;
+  double y_;  // upper edge of the line being drawn
 };
 
 }  // namespace
 
-GrafikYaprakSonucu GrafikYapraklari(const YaprakBelgesi& belge, Tuval& tuval) {
-  return YaprakCizici(belge, tuval).Yaz();
+GrafikYapraklar::GrafikYapraklar(const YaprakBelgesi& belge, SayfadaYaprak sayfada)
+    : belge_(belge), sayfada_(int(sayfada)) {
+  yazi_.punto = EnBuyukPunto;
+  Olc();
+  const double oran = SigmaOrani();
+  if (oran >= 1) return;
+  yazi_.punto *= oran;
+  Olc();
+}
+
+void GrafikYapraklar::Olc() {
+  enler_ = {};
+  basEtiketi_ = 0;
+  for (const auto& yaprak : belge_.yapraklar) {
+    const auto bloklar = Bloklar(yaprak);
+    for (std::size_t b = 0; b < BlokSayisi; ++b)
+      for (const auto& satir : bloklar[b]) {
+        enler_[b].etiket = std::max(enler_[b].etiket, MetinEni(Etiket(satir.etiket), yazi_));
+        enler_[b].deger = std::max(enler_[b].deger, MetinEni(YaprakMetni(satir.deger, belge_.paraOndaligi), yazi_));
+      }
+    for (const auto& satir : yaprak.bas) basEtiketi_ = std::max(basEtiketi_, MetinEni(Etiket(satir.etiket), yazi_));
+  }
+}
+
+// How much smaller letters have to be for the widest blocks and the tallest slip.
+double GrafikYapraklar::SigmaOrani() const {
+  const std::size_t yanYana = BolunmeBul(sayfada_).yanYana;
+  const Dikdortgen yer = Yer(0);
+  double oran = 1;
+  for (std::size_t b = 0; b < BlokSayisi; b += yanYana) {
+    double harfEni = 0;
+    for (std::size_t k = b; k < b + yanYana; ++k) harfEni += enler_[k].etiket + enler_[k].deger;
+    const double bosluk = EtiketAraligi * double(yanYana) + BloklarArasi * double(yanYana - 1);
+    oran = std::min(oran, (yer.en - bosluk) / std::max(1.0, harfEni));
+  }
+  double satir = 0;
+  for (const auto& yaprak : belge_.yapraklar) satir = std::max(satir, SatirSayisi(yaprak, yanYana));
+  return std::min(oran, yer.boy / std::max(1.0, satir * SatirBoyu(yazi_) * SatirAraligi));
+}
+
+int GrafikYapraklar::SayfaSayisi() const {
+  return (int(belge_.yapraklar.size()) + sayfada_ - 1) / sayfada_;
+}
+
+// The place of the slip `sira` of a sheet.
+Dikdortgen GrafikYapraklar::Yer(int sira) const {
+  const Bolunme b = BolunmeBul(sayfada_);
+  const double en = Kagit.en / b.sutun;
+  const double boy = Kagit.boy / b.satir;
+  return {en * (sira % b.sutun) + KenarMm, boy * (sira / b.sutun) + KenarMm, en - 2 * KenarMm, boy - 2 * KenarMm};
+}
+
+void GrafikYapraklar::SayfaCiz(int no, Tuval& tuval) const {
+  const Bolunme b = BolunmeBul(sayfada_);
+  tuval.SayfaBasla(Kagit);
+  if (b.satir > 1) tuval.Cizgi({0, Kagit.boy / 2}, {Kagit.en, Kagit.boy / 2}, InceCizgi);
+  if (b.sutun > 1) tuval.Cizgi({Kagit.en / 2, 0}, {Kagit.en / 2, Kagit.boy}, InceCizgi);
+  const int ilk = (no - 1) * sayfada_;
+  const int son = std::min(ilk + sayfada_, int(belge_.yapraklar.size()));
+  for (int i = ilk; i < son; ++i) YaprakCiz(belge_.yapraklar[std::size_t(i)], Yer(i - ilk), tuval);
+  tuval.SayfaBitir();
+}
+
+void GrafikYapraklar::YaprakCiz(const Yaprak& yaprak, const Dikdortgen& yer, Tuval& tuval) const {
+  const std::size_t yanYana = BolunmeBul(sayfada_).yanYana;
+  YaprakKalemi kalem(tuval, yer, yazi_);
+  YaziBicimi baslik = yazi_;
+  baslik.punto *= BaslikOrani;
+  baslik.kalinlik = YaziKalinligi::Kalin;
+  kalem.Satir(belge_.baslik, baslik, MetinHizasi::Orta);
+  kalem.Satir(yaprak.altBaslik, yazi_, MetinHizasi::Orta);
+  for (const auto& satir : yaprak.bas)
+    kalem.BasSatiri(Etiket(satir.etiket), YaprakMetni(satir.deger, belge_.paraOndaligi), basEtiketi_);
+  const auto bloklar = Bloklar(yaprak);
+  for (std::size_t b = 0; b < BlokSayisi; b += yanYana) {
+    kalem.Cizgi();
+    kalem.Blokla(std::span(bloklar).subspan(b, yanYana), std::span(enler_).subspan(b, yanYana), belge_.paraOndaligi);
+  }
+  kalem.Cizgi();
+  for (const auto& cumle : yaprak.cumleler) kalem.Satir(cumle, yazi_, MetinHizasi::Sol);
+}
+
+std::string GrafikYapraklar::Uyari() const {
+  if (yazi_.punto >= EnKucukPunto) return {};
+  return "Yapraklar kağıda sığmayacak kadar büyük: okunması güç, çok küçük harflerle basıldı.";
 }
 
 }  // namespace belvani

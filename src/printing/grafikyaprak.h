@@ -1,4 +1,4 @@
-// Slips drawn on pages: one below the other, as many whole ones on an A4 sheet as fit.
+// Slips drawn on A4 sheets: one, two or four on each, with lines to cut along.
 //
 //                     ÜCRET PUSULASI
 //                   Ocak 2008 Dönemi
@@ -8,22 +8,49 @@
 //   -------------------------------------------------------------------------------------------
 //   Ücret hesap pusulasını, …
 //
-// Unlike the text form it has room for `ek`, in two more blocks. All slips have the same columns and size of letters:
-// 8 points, or as small as the widest and the tallest slip need; nothing is cut.
+// Unlike the text form it has room for `ek`, in two more blocks: beside the others on half a sheet, below them else.
+// All slips have the same columns and size of letters, as large as the widest and the tallest slip let them be; nothing
+// is cut.
 #pragma once
 
-#include <string>
+#include <array>
+#include <vector>
 
-#include "printing/tuval.h"
+#include "printing/cizilenbelge.h"
 #include "printing/yaprak.h"
 
 namespace belvani {
 
-struct GrafikYaprakSonucu {
-  int sayfaSayisi = 0;  // 0 without slips
-  std::string uyari;    // of letters too small to be read with ease; else empty
-};
+enum class SayfadaYaprak { Bir = 1, Iki = 2, Dort = 4 };
 
-GrafikYaprakSonucu GrafikYapraklari(const YaprakBelgesi& belge, Tuval& tuval);
+// The document must outlive it.
+class GrafikYapraklar final : public CizilenBelge {
+ public:
+  GrafikYapraklar(const YaprakBelgesi& belge, SayfadaYaprak sayfada);
+
+  int SayfaSayisi() const override;
+  void SayfaCiz(int no, Tuval& tuval) const override;
+  // Of letters too small to be read with ease.
+  std::string Uyari() const override;
+
+  static constexpr std::size_t BlokSayisi = 4;
+  // Millimetres that labels and values of a block take, over all slips.
+  struct BlokEni {
+    double etiket = 0;
+    double deger = 0;
+  };
+
+ private:
+  void Olc();
+  double SigmaOrani() const;
+  void YaprakCiz(const Yaprak& yaprak, const Dikdortgen& yer, Tuval& tuval) const;
+  Dikdortgen Yer(int sira) const;
+
+  const YaprakBelgesi& belge_;
+  int sayfada_;
+  YaziBicimi yazi_;
+  std::array<BlokEni, BlokSayisi> enler_;
+  double basEtiketi_ = 0;
+};
 
 }  // namespace belvani

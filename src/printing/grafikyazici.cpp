@@ -15,10 +15,16 @@ MetinHizasi Hiza(const RaporKolonu& kolon) {
   return kolon.Sayisal() ? MetinHizasi::Sag : MetinHizasi::Sol;
 }
 
-class GrafikYazici {
+// Draws a page.
+class RaporKalemi {
  public:
-  GrafikYazici(const Rapor& rapor, const GrafikDuzeni& duzen, Tuval& tuval)
-      : rapor_(rapor), duzen_(duzen), tuval_(tuval), bicim_(GrafikBicimle(rapor, duzen)), kalin_(bicim_.yazi) {
+  RaporKalemi(const Rapor& rapor, const GrafikDuzeni& duzen, const GrafikBicimi& bicim, int sayfaSayisi, Tuval& tuval)
+      : rapor_(rapor),
+        duzen_(duzen),
+        tuval_(tuval),
+        bicim_(bicim),
+        kalin_(bicim.yazi),
+        sayfaSayisi_(std::size_t(sayfaSayisi)) {
     kalin_.kalinlik = YaziKalinligi::Kalin;
     for (const auto& b : rapor_.sonBlok) {
       etiketEni_ = std::max(etiketEni_, MetinEni(b.etiket, bicim_.yazi));
@@ -26,30 +32,15 @@ class GrafikYazici {
     }
   }
 
-  GrafikSonucu Yaz() {
-    const SayfaDuzeni sayfaDuzeni{.satirSayisi = bicim_.satirSayisi, .satirArasi = duzen_.satirArasi};
-    const auto sayfalar = SayfalaraBol(rapor_, bicim_.kagit, sayfaDuzeni);
-    sayfaSayisi_ = sayfalar.size();
-    for (const auto& sayfa : sayfalar) SayfaCiz(sayfa);
-    GrafikSonucu sonuc{.sayfaSayisi = int(sayfalar.size()), .bicim = bicim_, .uyari = {}};
-    if (!bicim_.okunur)
-      sonuc.uyari =
-          "Liste kağıda sığmayacak kadar geniş: okunması güç, çok küçük harflerle basıldı. "
-          "Kolon sayısını azaltınız.";
-    return sonuc;
-  }
-
- private:
   void SayfaCiz(const Sayfa& sayfa) {
-    tuval_.SayfaBasla(A4(bicim_.yon));
     for (std::size_t i = 0; i < sayfa.satirlar.size(); ++i) {
       y_ = KenarMm + double(i) * bicim_.satirBoyu;
       SatirCiz(sayfa, sayfa.satirlar[i]);
     }
     if (duzen_.kolonArasi == KolonArasi::DikCizgi) DikCizgiler(sayfa);
-    tuval_.SayfaBitir();
   }
 
+ private:
   void SatirCiz(const Sayfa& sayfa, const SayfaSatiri& satir) {
     switch (satir.tur) {
       case SayfaSatirTuru::Baslik:
@@ -81,7 +72,7 @@ class GrafikYazici {
   Dikdortgen Yer(double x, double en) const { return {KenarMm + x, y_, en, bicim_.satirBoyu}; }
 
   void BaslikCiz() {
-    Yazi yazi = kalin_;
+    YaziBicimi yazi = kalin_;
     yazi.punto *= BaslikOrani;
     MetinKutuya(tuval_, Yer(0, bicim_.en), rapor_.baslik, yazi, MetinHizasi::Orta);
   }
@@ -89,7 +80,7 @@ class GrafikYazici {
   // Left, middle and right part. Where they would touch, all are printed narrower and the middle one moves.
   void UstCiz(const UstSatir& ust, int sayfaNo) {
     const std::string sag = UstSagMetni(ust, sayfaNo, sayfaSayisi_);
-    Yazi yazi = bicim_.yazi;
+    YaziBicimi yazi = bicim_.yazi;
     const auto en = [&](const std::string& metin) { return MetinEni(metin, yazi); };
     const double ara = yazi.punto * PuntoMm;
     const double gereken = en(ust.sol) + en(ust.orta) + en(sag) + 2 * ara;
@@ -151,9 +142,9 @@ class GrafikYazici {
   const Rapor& rapor_;
   const GrafikDuzeni& duzen_;
   Tuval& tuval_;
-  const GrafikBicimi bicim_;
-  Yazi kalin_;
-  std::size_t sayfaSayisi_ = 0;
+  const GrafikBicimi& bicim_;
+  YaziBicimi kalin_;
+  std::size_t sayfaSayisi_;
   double etiketEni_ = 0;
   double degerEni_ = 0;
   double y_ = 0;  // upper edge of the line being drawn
@@ -161,8 +152,39 @@ class GrafikYazici {
 
 }  // namespace
 
-GrafikSonucu GrafikRaporu(const Rapor& rapor, const GrafikDuzeni& duzen, Tuval& tuval) {
-  return GrafikYazici(rapor, duzen, tuval).Yaz();
+GrafikRapor::GrafikRapor(const Rapor& rapor, GrafikDuzeni duzen)
+    : rapor_(rapor), duzen_(std::move(duzen)), bicim_(GrafikBicimle(rapor, duzen_)) {
+  sayfalar_ = SayfalaraBol(rapor_, bicim_.kagit, {.satirSayisi = bicim_.satirSayisi, .satirArasi = duzen_.satirArasi});
+}
+
+int GrafikRapor::SayfaSayisi() const {
+  return int(sayfalar_.size()) + (EkKendiSayfasinda() ? 1 : 0);
+}
+
+// Where the last page has no room for it.
+bool GrafikRapor::EkKendiSayfasinda() const {
+  if (!duzen_.ek || sayfalar_.empty()) return false;
+  const double dolu = double(sayfalar_.back().satirlar.size() + 1) * bicim_.satirBoyu;
+  return dolu + duzen_.ek->boy > A4(bicim_.yon).boy - 2 * KenarMm;
+}
+
+void GrafikRapor::SayfaCiz(int no, Tuval& tuval) const {
+  tuval.SayfaBasla(A4(bicim_.yon));
+  const bool rapordan = no <= int(sayfalar_.size());
+  double dolu = 0;
+  if (rapordan) {
+    const Sayfa& sayfa = sayfalar_[std::size_t(no - 1)];
+    RaporKalemi(rapor_, duzen_, bicim_, SayfaSayisi(), tuval).SayfaCiz(sayfa);
+    dolu = double(sayfa.satirlar.size() + 1) * bicim_.satirBoyu;
+  }
+  if (duzen_.ek && no == SayfaSayisi())
+    duzen_.ek->ciz(tuval, {KenarMm, KenarMm + dolu, A4(bicim_.yon).en - 2 * KenarMm, duzen_.ek->boy});
+  tuval.SayfaBitir();
+}
+
+std::string GrafikRapor::Uyari() const {
+  if (bicim_.okunur || sayfalar_.empty()) return {};
+  return "Liste kağıda sığmayacak kadar geniş: okunması güç, çok küçük harflerle basıldı. Kolon sayısını azaltınız.";
 }
 
 }  // namespace belvani

@@ -5,11 +5,14 @@
 // nothing is ever cut.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "printing/cizilenbelge.h"
 #include "printing/kagit.h"
-#include "printing/tuval.h"
+#include "printing/sayfalayici.h"
 
 namespace belvani {
 
@@ -17,12 +20,19 @@ namespace belvani {
 constexpr double EnKucukPunto = 5;
 constexpr double EnDarYazi = 0.8;
 
+// Something drawn below the last line of a report, a chart for instance, as wide as the sheet.
+struct EkCizim {
+  double boy = 0;  // millimetres
+  std::function<void(Tuval&, const Dikdortgen&)> ciz;
+};
+
 struct GrafikDuzeni {
   std::optional<KagitYonu> yon;  // nothing: upright while the letters stay readable with ease, else sideways
   double punto = 8;              // the largest
   YaziAilesi aile = YaziAilesi::Duz;
   SatirArasi satirArasi = SatirArasi::Hicbiri;
   KolonArasi kolonArasi = KolonArasi::BosBirak;
+  std::optional<EkCizim> ek = {};
 };
 
 struct KolonYeri {
@@ -32,7 +42,7 @@ struct KolonYeri {
 
 struct GrafikBicimi {
   KagitYonu yon = KagitYonu::Dikey;
-  Yazi yazi;             // of the rows
+  YaziBicimi yazi;       // of the rows
   double satirBoyu = 0;  // millimetres
   int satirSayisi = 0;   // lines of a page
   double en = 0;         // of the table and of the lines above it, millimetres
@@ -43,12 +53,24 @@ struct GrafikBicimi {
 
 GrafikBicimi GrafikBicimle(const Rapor& rapor, const GrafikDuzeni& duzen);
 
-struct GrafikSonucu {
-  int sayfaSayisi = 0;  // 0 for a report without rows
-  GrafikBicimi bicim;
-  std::string uyari;  // of a report too wide for the sheet, which is then printed too small; else empty
-};
+// The pages of a report, which must outlive it.
+class GrafikRapor final : public CizilenBelge {
+ public:
+  GrafikRapor(const Rapor& rapor, GrafikDuzeni duzen);
 
-GrafikSonucu GrafikRaporu(const Rapor& rapor, const GrafikDuzeni& duzen, Tuval& tuval);
+  int SayfaSayisi() const override;
+  void SayfaCiz(int no, Tuval& tuval) const override;
+  // Of a report too wide for the sheet, which is then printed too small.
+  std::string Uyari() const override;
+  const GrafikBicimi& Bicim() const { return bicim_; }
+
+ private:
+  bool EkKendiSayfasinda() const;
+
+  const Rapor& rapor_;
+  GrafikDuzeni duzen_;
+  GrafikBicimi bicim_;
+  std::vector<Sayfa> sayfalar_;
+};
 
 }  // namespace belvani

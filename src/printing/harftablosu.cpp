@@ -142,14 +142,14 @@ Durum YaziTipleriVar() {
   return Tamam();
 }
 
-double MetinEni(std::string_view metin, const Yazi& yazi) {
+double MetinEni(std::string_view metin, const YaziBicimi& yazi) {
   HarfTablosu& tablo = HarfTablosu::Al(yazi.aile, yazi.kalinlik);
   double en = 0;
   for (const char32_t kod : Coz(metin).kodlar) en += tablo.Bul(kod).en;
   return en * yazi.punto * PuntoMm * yazi.genislik;
 }
 
-double SatirBoyu(const Yazi& yazi) {
+double SatirBoyu(const YaziBicimi& yazi) {
   return HarfTablosu::Al(yazi.aile, yazi.kalinlik).satirBoyu * yazi.punto * PuntoMm;
 }
 

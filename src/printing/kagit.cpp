@@ -19,7 +19,7 @@ int KolonEni(const Rapor& rapor, std::size_t k, int gruplama) {
   const int gerekli = rapor.GerekliEn(k, gruplama);
   if (kolon.Sayisal()) return std::max(gerekli, kolon.en);
   if (kolon.tur == KolonTuru::Metin) return std::min(std::max(gerekli, Harf(kolon.baslik)), kolon.en);
-  return kolon.en;
+  return std::max(TarihHarfi(kolon.tur), kolon.en);
 }
 
 std::vector<int> Enler(const Rapor& rapor, int gruplama) {

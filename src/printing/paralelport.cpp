@@ -23,6 +23,10 @@ LpPortu::~LpPortu() {
     if (no >= 0) ::close(no);
 }
 
+bool LpPortu::Var(int no) {
+  return no >= 0 && no <= EnCokPort && ::access((onek_ + std::to_string(no)).c_str(), F_OK) == 0;
+}
+
 int LpPortu::Ac(int no) {
   if (no < 0 || no > EnCokPort) return -1;
   int& acik = acik_[std::size_t(no)];

@@ -18,6 +18,7 @@ constexpr int EnCokPort = 4;
 class ParalelPort {
  public:
   virtual ~ParalelPort() = default;
+  virtual bool Var(int no) = 0;                                  // whether the computer has this port
   virtual std::uint8_t DosPrint(int no, std::uint8_t bayt) = 0;  // sends a byte; the status after it
   virtual std::uint8_t GetStatus(int no) = 0;
 };
@@ -30,6 +31,7 @@ class LpPortu final : public ParalelPort {
   LpPortu(const LpPortu&) = delete;
   LpPortu& operator=(const LpPortu&) = delete;
 
+  bool Var(int no) override;
   std::uint8_t DosPrint(int no, std::uint8_t bayt) override;
   std::uint8_t GetStatus(int no) override;
 

@@ -59,7 +59,7 @@ bool prnx::GrafikAc(const prnxAcilis& acilis) {
   tur_ = Tur::Grafik;
   kolon_ = KolonSayisi(acilis);
   yazi_ = {.punto = std::max(Font.fontsize, 1.0), .aile = AileBul(Font.fontname)};
-  Yazi kalin = yazi_;
+  YaziBicimi kalin = yazi_;
   kalin.kalinlik = YaziKalinligi::Kalin;
   satirBoyu_ = SatirBoyu(kalin);
   ayar_.YzcSatir = std::min(int((A4(ayar_.YzcYon).boy - 2 * KenarMm) / satirBoyu_), EnCokSatir);
@@ -119,7 +119,7 @@ void prnx::Lprint(std::string_view metin, int en, SatirSonu sonu, MetinHizasi hi
 }
 
 void prnx::GrafikHucre(std::string_view metin, int en, MetinHizasi hiza, HucreBicem bicem) {
-  Yazi yazi = yazi_;
+  YaziBicimi yazi = yazi_;
   if (BicemVar(bicem, HucreBicem::Kalin)) yazi.kalinlik = YaziKalinligi::Kalin;
   if (BicemVar(bicem, HucreBicem::Egik)) yazi.durus = YaziDurusu::Egik;
   const Dikdortgen hucre{x_, y_, HucreEni(en), satirBoyu_};

@@ -81,7 +81,7 @@ class prnx {
   int sayfa_ = 0;
   int satir_ = 0;
   bool sayfaAcik_ = false;
-  Yazi yazi_;
+  YaziBicimi yazi_;
   double satirBoyu_ = 0;
   double x_ = 0;
   double y_ = 0;

@@ -27,16 +27,50 @@ std::int64_t Topla(std::int64_t a, std::int64_t b) {
   return sonuc;
 }
 
+}  // namespace
+
 std::string TarihMetni(Tarih tarih, KolonTuru tur) {
-  return tur == KolonTuru::KisaTarih ? tarih.KisaMetin() : tarih.Metin();
+  if (tarih.Bos()) return {};
+  const std::string tam = tarih.Metin();
+  switch (tur) {
+    case KolonTuru::KisaTarih:
+      return tarih.KisaMetin();
+    case KolonTuru::UzunTarih:
+      return tam.substr(0, 2) + " " + std::string(AyAdi(tarih.Ay())) + " " + tam.substr(6);
+    case KolonTuru::GunAy:
+      return tam.substr(0, 5);
+    case KolonTuru::Gun:
+      return tam.substr(0, 2);
+    case KolonTuru::Ay:
+      return tam.substr(3, 2);
+    case KolonTuru::Tarih:
+    case KolonTuru::Metin:
+    case KolonTuru::Tam:
+    case KolonTuru::Tutar:
+    case KolonTuru::Bos:
+      break;
+  }
+  return tam;
 }
 
-}  // namespace
+int TarihHarfi(KolonTuru tur) {
+  const Tarih enUzun(2000, 8, 30);  // no month has more letters than Ağustos
+  return TarihMi(tur) ? int(HarfSayisi(TarihMetni(enUzun, tur))) : 0;
+}
 
 std::string UstSagMetni(const UstSatir& satir, int sayfaNo, std::size_t sayfaSayisi) {
   std::string metin = satir.sag;
   if (satir.sayfaNo) metin += std::to_string(sayfaNo);
   if (satir.sayfaSayisi) metin += "/" + std::to_string(sayfaSayisi);
+  return metin;
+}
+
+std::string UstEkranMetni(const UstSatir& satir) {
+  std::string metin;
+  for (const auto& parca : {satir.sol, satir.orta, satir.sayfaNo ? std::string() : satir.sag}) {
+    if (Kirp(parca).empty()) continue;
+    metin += (metin.empty() ? "" : "   ") + std::string(Kirp(parca));
+  }
   return metin;
 }
 
@@ -81,7 +115,7 @@ bool Rapor::ToplamVar() const {
 int Rapor::GerekliEn(std::size_t kolon, int gruplama) const {
   const RaporKolonu& k = kolonlar_[kolon];
   const Sinir& sinir = sinirlar_[kolon];
-  if (!k.Sayisal()) return int(sinir.harf);
+  if (!k.Sayisal()) return std::max(int(sinir.harf), TarihHarfi(k.tur));
   const auto en = [&](std::int64_t ham) { return HarfSayisi(HucreMetni(Hamdan(ham, k.tur), k, gruplama)); };
   return int(std::max(en(sinir.enKucuk), en(sinir.enBuyuk)));
 }

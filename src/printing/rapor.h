@@ -26,8 +26,22 @@ enum class KolonTuru {
   Tutar,      // amount, shown with `ondalik` decimals
   Tarih,      // dd.MM.yyyy
   KisaTarih,  // dd.MM.yy
+  UzunTarih,  // dd MMMM yyyy
+  GunAy,      // dd.MM
+  Gun,        // dd
+  Ay,         // MM
   Bos,        // nothing: room for the pen, a signature for instance
 };
+
+constexpr bool TarihMi(KolonTuru tur) {
+  return tur >= KolonTuru::Tarih && tur <= KolonTuru::Ay;
+}
+
+// A day in the form of such a column, "" for Null: UzunTarih -> "05 Mart 2005".
+std::string TarihMetni(Tarih tarih, KolonTuru tur);
+
+// The most letters that one takes; 0 for the other kinds.
+int TarihHarfi(KolonTuru tur);
 
 struct RaporKolonu {
   std::string baslik;      // on paper
@@ -52,10 +66,14 @@ struct UstSatir {
   std::string sag = {};
   bool sayfaNo = false;      // the page number follows `sag`
   bool sayfaSayisi = false;  // "/" and the number of pages follow that
+  bool sirket = false;       // `sol` names the company
 };
 
 // The right end of an upper line on a page: "Shf : 2/5".
 std::string UstSagMetni(const UstSatir& satir, int sayfaNo, std::size_t sayfaSayisi);
+
+// The line where there are no pages, on the screen and in a spreadsheet: its parts without the page number.
+std::string UstEkranMetni(const UstSatir& satir);
 
 // A labelled value below the totals.
 struct BlokSatiri {
@@ -85,7 +103,8 @@ class Rapor {
   std::vector<Hucre> Toplam() const { return AraToplam(satirlar_.size()); }
   bool ToplamVar() const;
 
-  // The most letters that a column needs for its cells and sums, numbers in groups of `gruplama` digits.
+  // The most letters that a column needs for its cells and sums, numbers in groups of `gruplama` digits. The label of
+  // the sums is not among them.
   int GerekliEn(std::size_t kolon, int gruplama) const;
 
  private:

@@ -12,12 +12,12 @@ YaziAilesi AileBul(std::string_view ad) {
   return YaziAilesi::Duz;
 }
 
-std::string_view SiganMetin(std::string_view metin, double en, const Yazi& yazi) {
+std::string_view SiganMetin(std::string_view metin, double en, const YaziBicimi& yazi) {
   while (!metin.empty() && MetinEni(metin, yazi) > en) metin = IlkHarfler(metin, HarfSayisi(metin) - 1);
   return metin;
 }
 
-void MetinKutuya(Tuval& tuval, const Dikdortgen& kutu, std::string_view metin, Yazi yazi, MetinHizasi hiza) {
+void MetinKutuya(Tuval& tuval, const Dikdortgen& kutu, std::string_view metin, YaziBicimi yazi, MetinHizasi hiza) {
   if (metin.empty() || kutu.en <= 0) return;
   double en = MetinEni(metin, yazi);
   if (en > kutu.en) {

@@ -49,14 +49,14 @@ enum class YaziAilesi { Duz, EsEnli, Tirnakli };  // DejaVu Sans, Sans Mono, Ser
 enum class YaziKalinligi { Normal, Kalin };
 enum class YaziDurusu { Dik, Egik };
 
-struct Yazi {
+struct YaziBicimi {
   double punto = 10;
   YaziKalinligi kalinlik = YaziKalinligi::Normal;
   YaziAilesi aile = YaziAilesi::Duz;
   YaziDurusu durus = YaziDurusu::Dik;
   double genislik = 1;  // letters made narrower (below 1) keep their height
 
-  bool operator==(const Yazi&) const = default;
+  bool operator==(const YaziBicimi&) const = default;
 };
 
 // The family for a font that a user or an old settings file names: "Courier New" is fixed-width, "Times" has serifs,
@@ -76,7 +76,7 @@ class Tuval {
   virtual void SayfaBitir() = 0;
 
   // Letters that do not print are passed over; a broken byte prints as "?".
-  virtual void Metin(Nokta yer, std::string_view metin, const Yazi& yazi) = 0;
+  virtual void Metin(Nokta yer, std::string_view metin, const YaziBicimi& yazi) = 0;
   virtual void Cizgi(Nokta bas, Nokta son, double kalinlik = InceCizgi) = 0;
   virtual void Kutu(const Dikdortgen& kutu, double kalinlik = InceCizgi) = 0;
   virtual void DoluKutu(const Dikdortgen& kutu, BoyaRengi renk) = 0;
@@ -85,14 +85,14 @@ class Tuval {
 };
 
 // Width of a text, and height of a line of it.
-double MetinEni(std::string_view metin, const Yazi& yazi);
-double SatirBoyu(const Yazi& yazi);
+double MetinEni(std::string_view metin, const YaziBicimi& yazi);
+double SatirBoyu(const YaziBicimi& yazi);
 
 // The most of a text's beginning that is not wider than `en`, whole letters.
-std::string_view SiganMetin(std::string_view metin, double en, const Yazi& yazi);
+std::string_view SiganMetin(std::string_view metin, double en, const YaziBicimi& yazi);
 
 // A text in a box, in the middle of its height. One that is wider is made narrower until it fits: a number that loses
 // digits would be another number.
-void MetinKutuya(Tuval& tuval, const Dikdortgen& kutu, std::string_view metin, Yazi yazi, MetinHizasi hiza);
+void MetinKutuya(Tuval& tuval, const Dikdortgen& kutu, std::string_view metin, YaziBicimi yazi, MetinHizasi hiza);
 
 }  // namespace belvani

@@ -201,6 +201,14 @@ XlsxStili KolonStili(const RaporKolonu& kolon) {
       return {.sayiBicimi = XlsxTarihBicimi};
     case KolonTuru::KisaTarih:
       return {.sayiBicimi = XlsxKisaTarihBicimi};
+    case KolonTuru::UzunTarih:
+      return {.sayiBicimi = XlsxUzunTarihBicimi};
+    case KolonTuru::GunAy:
+      return {.sayiBicimi = "dd.mm"};
+    case KolonTuru::Gun:
+      return {.sayiBicimi = "dd"};
+    case KolonTuru::Ay:
+      return {.sayiBicimi = "mm"};
     case KolonTuru::Metin:
     case KolonTuru::Bos:
       return {};

@@ -30,6 +30,7 @@ std::string XlsxTutarBicimi(int ondalik);
 std::string XlsxSifirliBicim(int ondalik);
 constexpr const char* XlsxTarihBicimi = "dd.mm.yyyy";
 constexpr const char* XlsxKisaTarihBicimi = "dd.mm.yy";
+constexpr const char* XlsxUzunTarihBicimi = "[$-41F]dd mmmm yyyy";  // names of months in Turkish everywhere
 
 class XlsxKitap {
  public:

@@ -6,6 +6,7 @@
 
 #include "core/sayi.h"
 #include "core/turkce.h"
+#include "printing/xlscevir.h"
 #include "printing/xlsxsayfa.h"
 #include "printing/zipdosya.h"
 
@@ -14,7 +15,6 @@ namespace {
 
 constexpr const char* TurlerParcasi = "[Content_Types].xml";
 constexpr std::int32_t IlkGun = 61;  // 01.03.1900: earlier days have no number in a workbook
-constexpr std::string_view BilesikDosya = "\xd0\xcf\x11\xe0";
 
 struct SayfaYeri {
   std::string ad;
@@ -221,7 +221,7 @@ XlsxSablon::XlsxSablon(XlsxSablon&&) noexcept = default;
 XlsxSablon& XlsxSablon::operator=(XlsxSablon&&) noexcept = default;
 
 Sonuc<XlsxSablon> XlsxSablon::Ac(std::string baytlar) {
-  if (baytlar.starts_with(BilesikDosya))
+  if (XlsMi(baytlar))
     return Hata{"Çalışma kitabı eski biçimde (.xls) ya da parolalı: parolasız .xlsx olarak kaydediniz"};
   auto zip = ZipDosyasi::Ac(std::move(baytlar));
   if (!zip) return Hata{"Dosya bir çalışma kitabı (.xlsx) değil ya da bozuk"};

@@ -10,7 +10,6 @@ namespace {
 
 constexpr int EnGenisKolon = 60;
 constexpr int KolonPayi = 2;
-constexpr int TarihEni = 10;
 
 class RaporSayfasi {
  public:
@@ -42,8 +41,9 @@ class RaporSayfasi {
   void KolonEnleri() {
     for (std::size_t k = 0; k < rapor_.Kolonlar().size(); ++k) {
       const RaporKolonu& kolon = rapor_.Kolonlar()[k];
-      const bool tarih = kolon.tur == KolonTuru::Tarih || kolon.tur == KolonTuru::KisaTarih;
-      const int gerekli = tarih ? TarihEni : rapor_.GerekliEn(k, BinlikGruplama);
+      // The full form of a day also where its column shows less: days before 1900 go in as texts.
+      const int enAz = TarihMi(kolon.tur) ? TarihHarfi(KolonTuru::Tarih) : 0;
+      const int gerekli = std::max(enAz, rapor_.GerekliEn(k, BinlikGruplama));
       const int en = std::max({gerekli, int(HarfSayisi(kolon.kisaBaslik)), kolon.tur == KolonTuru::Bos ? kolon.en : 0});
       enler_.push_back(std::min(en, EnGenisKolon) + KolonPayi);
       kitap_.KolonEni(int(k), enler_.back());
@@ -52,14 +52,8 @@ class RaporSayfasi {
 
   void Basi() {
     kitap_.Yaz(satir_++, 0, rapor_.ekranBasligi, koyu_);
-    for (const auto& ust : rapor_.ustSatirlar) {
-      std::string metin;
-      for (const auto& parca : {ust.sol, ust.orta, ust.sayfaNo ? std::string() : ust.sag}) {
-        if (Kirp(parca).empty()) continue;
-        metin += (metin.empty() ? "" : "   ") + std::string(Kirp(parca));
-      }
-      if (!metin.empty()) kitap_.Yaz(satir_++, 0, metin, duz_);
-    }
+    for (const auto& ust : rapor_.ustSatirlar)
+      if (const std::string metin = UstEkranMetni(ust); !metin.empty()) kitap_.Yaz(satir_++, 0, metin, duz_);
     for (std::size_t k = 0; k < rapor_.Kolonlar().size(); ++k)
       kitap_.Yaz(satir_, int(k), rapor_.Kolonlar()[k].kisaBaslik, baslik_);
     kitap_.UstuDondur(++satir_);

@@ -9,7 +9,7 @@
 // False, without a message, until xprnReset.
 //
 //   xprn yazici(ayar, ortam);
-//   if (!yazici.OpenDosPrint()) return Uyari("Dos Yazıcı Dosyası Açılamıyor");
+//   if (!yazici.OpenDosPrint()) return Uyari(DosDosyasiAcilamiyor);
 //   yazici.DosDirectPrint(OrtalaMetin("ÜCRET PUSULASI", 80), SatirSonu::Var, DosBicem::Kalin);
 //   yazici.CloseDosPrint();
 #pragma once
@@ -26,6 +26,9 @@
 #include "printing/yzcayar.h"
 
 namespace belvani {
+
+// What a document says when OpenDosPrint gives False.
+inline constexpr const char* DosDosyasiAcilamiyor = "Dos Yazıcı Dosyası Açılamıyor";
 
 enum class SatirSonu { Yok, Var };
 

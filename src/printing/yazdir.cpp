@@ -3,106 +3,138 @@
 #include <algorithm>
 #include <ranges>
 
-#include "core/dosya.h"
-#include "core/turkce.h"
-#include "printing/cairotuval.h"
+#include "printing/belprnislem.h"
 #include "printing/doskod.h"
-#include "printing/grafikyaprak.h"
-#include "printing/metinyazici.h"
+#include "printing/metincizimi.h"
+#include "printing/xprn.h"
 
 namespace belvani {
 namespace {
-
-constexpr std::size_t NormalSatirHarfi = 80;
-
-struct Pdf {
-  std::string baytlar;  // empty: no rows
-  std::string uyari;
-};
-
-// `ciz` draws the pages, and tells their number and a warning.
-template <class Ciz>
-Sonuc<Pdf> PdfYap(const std::string& baslik, Ciz ciz) {
-  PdfTuvali tuval({.baslik = baslik});
-  const auto sonuc = ciz(tuval);
-  if (sonuc.sayfaSayisi == 0) return Pdf{};
-  auto belge = tuval.Belge();
-  if (!belge) return belge.Hatasi();
-  return Pdf{std::move(*belge), sonuc.uyari};
-}
-
-Sonuc<Pdf> RaporPdfYap(const Rapor& rapor, const GrafikDuzeni& duzen) {
-  return PdfYap(rapor.baslik, [&](Tuval& tuval) { return GrafikRaporu(rapor, duzen, tuval); });
-}
-
-Sonuc<YazdirmaSonucu> PdfYaz(const Sonuc<Pdf>& pdf, const std::string& dosya) {
-  if (!pdf) return pdf.Hatasi();
-  if (pdf->baytlar.empty()) return YazdirmaSonucu{};
-  if (const Durum yazildi = DosyaYaz(dosya, pdf->baytlar); !yazildi) return yazildi.Hatasi();
-  return YazdirmaSonucu{true, pdf->uyari};
-}
-
-DosSiklik Siklik(std::size_t satirHarfi) {
-  return satirHarfi > NormalSatirHarfi ? DosSiklik::Sikisik : DosSiklik::Normal;
-}
-
-std::size_t EnUzunSatir(std::string_view metin) {
-  std::size_t harf = 0;
-  for (const auto satir : std::views::split(metin, '\n'))
-    harf = std::max(harf, HarfSayisi(std::string_view(satir.begin(), satir.end())));
-  return harf;
-}
 
 std::string Birlestir(const std::string& a, const std::string& b) {
   return a.empty() || b.empty() ? a + b : a + "\n" + b;
 }
 
+// "LPT1:" -> 0; -1 for anything else.
+int PortNo(const std::string& yazici) {
+  const bool port = yazici.size() == 5 && yazici.starts_with("LPT") && yazici.ends_with(":");
+  const int no = port ? yazici[3] - '1' : -1;
+  return no >= 0 && no <= EnCokPort ? no : -1;
+}
+
+std::string PortAdi(int no) {
+  return "LPT" + std::to_string(no + 1) + ":";
+}
+
+// The pieces of a text print: the printer's set-up, the lines, what ends a page. `yaz` false stops.
+template <class Yaz>
+bool MetniYaz(const std::string& metin, int kopya, Yaz yaz) {
+  const bool sikisik = EnUzunSatir(metin) > NormalSatirHarfi;
+  if (sikisik && !yaz(DosSikisik.ac, SatirSonu::Yok)) return false;
+  for (int i = 0; i < kopya; ++i)
+    for (const auto sayfa : std::views::split(std::string_view(metin), '\f')) {
+      std::string_view kalan(sayfa.begin(), sayfa.end());
+      while (!kalan.empty()) {
+        const auto son = std::min(kalan.find('\n'), kalan.size());
+        if (!yaz(kalan.substr(0, son), SatirSonu::Var)) return false;
+        kalan.remove_prefix(std::min(son + 1, kalan.size()));
+      }
+      if (!yaz(DosSayfaAt, SatirSonu::Yok)) return false;
+    }
+  return !sikisik || yaz(DosSikisik.kapat, SatirSonu::Yok);
+}
+
+// Where a text goes, and who watches over it.
+struct MetinIsi {
+  const Belge& belge;
+  std::string metin;
+  BaskiOrtami& ortam;
+  Bildirim& bildirim;
+  Ilerleme* ilerleme;
+
+  // Asked at each letter; the watcher only now and then.
+  xprnOrtami XprnOrtami() const {
+    xprnOrtami o{.bildirim = bildirim, .port = ortam.port, .belprn = {}};
+    if (ilerleme == nullptr) return o;
+    const std::size_t toplam = metin.size() * std::size_t(std::max(1, belge.Ayar().YzcKopya));
+    o.escBasili = [ilerleme = ilerleme, toplam, harf = std::size_t(0)]() mutable {
+      constexpr std::size_t aralik = 512;
+      return ++harf % aralik == 0 && !ilerleme->Adim(std::min(harf, toplam), toplam);
+    };
+    return o;
+  }
+};
+
+Sonuc<YazdirmaSonucu> PortaYaz(const MetinIsi& is) {
+  YzcAyarlari ayar = is.belge.Ayar();
+  xprn yazici(ayar, is.XprnOrtami());
+  yazici.DosPrintPort(PortNo(ayar.yazici));
+  if (!yazici.CheckDosPrint()) return YazdirmaSonucu{};
+  const bool tamam = MetniYaz(is.metin, ayar.YzcKopya, [&](std::string_view parca, SatirSonu sonu) {
+    return yazici.DosDirectPrint2(parca, sonu);
+  });
+  return YazdirmaSonucu{tamam, is.belge.MetinUyarisi()};
+}
+
+// A print that was stopped sends what it has written so far: the printer may have begun it.
+Sonuc<YazdirmaSonucu> MetinYazdir(const MetinIsi& is) {
+  if (is.metin.empty()) return YazdirmaSonucu{};
+  YzcAyarlari ayar = is.belge.Ayar();
+  if (PortNo(ayar.yazici) >= 0) return PortaYaz(is);
+  const auto yazici = YaziciSec(is.ortam.kuyruk, ayar.yazici);
+  if (!yazici) return yazici.Hatasi();
+  xprnOrtami xprnOrtami = is.XprnOrtami();
+  xprnOrtami.belprn = [&](const std::string& dosya) {
+    return BelprnBaslat(is.ortam.programDizini, dosya, yazici->ad, is.ortam.kuyruk);
+  };
+  xprn akis(ayar, xprnOrtami);
+  if (!akis.OpenDosPrint()) return Hata{DosDosyasiAcilamiyor};
+  const bool tamam = MetniYaz(is.metin, ayar.YzcKopya,
+                              [&](std::string_view parca, SatirSonu sonu) { return akis.DosDirectPrint(parca, sonu); });
+  if (const Durum gitti = akis.CloseDosPrint(); !gitti) return gitti.Hatasi();
+  return YazdirmaSonucu{tamam, Birlestir(is.belge.MetinUyarisi(), yazici->bekleyen)};
+}
+
+Sonuc<YazdirmaSonucu> GrafikYazdir(const Belge& belge, BaskiOrtami& ortam, Ilerleme* ilerleme) {
+  const YzcAyarlari& ayar = belge.Ayar();
+  if (PortNo(ayar.yazici) >= 0) return Hata{ayar.yazici + ": bu yazıcıya yalnız Dot Matrix (Dos Mod) ile basılabilir"};
+  const auto yazici = YaziciSec(ortam.kuyruk, ayar.yazici);
+  if (!yazici) return yazici.Hatasi();
+  auto pdf = BelgePdf(belge, ilerleme);
+  if (!pdf) return pdf.Hatasi();
+  if (pdf->baytlar.empty()) return YazdirmaSonucu{};
+  const BaskiIsi is{.tur = IsTuru::Pdf,
+                    .yazici = yazici->ad,
+                    .ad = ayar.YzcBaslik,
+                    .icerik = std::move(pdf->baytlar),
+                    .kopya = ayar.YzcKopya};
+  if (const auto no = ortam.kuyruk.Gonder(is); !no) return no.Hatasi();
+  return YazdirmaSonucu{true, Birlestir(pdf->uyari, yazici->bekleyen)};
+}
+
 }  // namespace
 
-Sonuc<YazdirmaSonucu> RaporYazdir(const Rapor& rapor, const YzcAyarlari& ayar, GrafikDuzeni duzen, Kuyruk& kuyruk) {
-  BaskiIsi is{.tur = IsTuru::Ham, .yazici = ayar.yazici, .ad = ayar.YzcBaslik, .icerik = {}, .kopya = ayar.YzcKopya};
-  std::string uyari;
-  switch (YolSec(ayar)) {
+Sonuc<std::vector<YaziciBilgisi>> YaziciListesi(BaskiOrtami& ortam) {
+  auto liste = ortam.kuyruk.Yazicilar();
+  std::vector<YaziciBilgisi> portlar;
+  for (int no = 0; no <= EnCokPort; ++no)
+    if (ortam.port.Var(no))
+      portlar.push_back({.ad = PortAdi(no), .aciklama = "Paralel port (Dos Mod)", .aygit = {}, .bekleyen = {}});
+  if (!liste) return portlar.empty() ? std::move(liste) : Sonuc(std::move(portlar));
+  liste->insert(liste->end(), portlar.begin(), portlar.end());
+  return liste;
+}
+
+Sonuc<YazdirmaSonucu> BelgeYazdir(const Belge& belge, BaskiOrtami& ortam, Bildirim& bildirim, Ilerleme* ilerleme) {
+  switch (YolSec(belge.Ayar())) {
     case BaskiYolu::Yok:
       return YazdirmaSonucu{};
-    case BaskiYolu::Metin: {
-      const SayfaDuzeni sayfa{
-          .satirSayisi = ayar.YzcSatir, .satirArasi = duzen.satirArasi, .kolonArasi = duzen.kolonArasi};
-      is.icerik = RaporDosBelgesi(rapor, sayfa);
-      break;
-    }
-    case BaskiYolu::Grafik: {
-      duzen.yon = ayar.YzcYon;
-      auto pdf = RaporPdfYap(rapor, duzen);
-      if (!pdf) return pdf.Hatasi();
-      is.tur = IsTuru::Pdf;
-      is.icerik = std::move(pdf->baytlar);
-      uyari = pdf->uyari;
-      break;
-    }
+    case BaskiYolu::Metin:
+      return MetinYazdir({belge, belge.Metin(), ortam, bildirim, ilerleme});
+    case BaskiYolu::Grafik:
+      return GrafikYazdir(belge, ortam, ilerleme);
   }
-  if (is.icerik.empty()) return YazdirmaSonucu{};
-  const auto yazici = YaziciSec(kuyruk, ayar.yazici);
-  if (!yazici) return yazici.Hatasi();
-  if (const auto no = kuyruk.Gonder(is); !no) return no.Hatasi();
-  return YazdirmaSonucu{true, Birlestir(uyari, yazici->bekleyen)};
-}
-
-Sonuc<YazdirmaSonucu> RaporPdf(const Rapor& rapor, const GrafikDuzeni& duzen, const std::string& dosya) {
-  return PdfYaz(RaporPdfYap(rapor, duzen), dosya);
-}
-
-std::string RaporDosBelgesi(const Rapor& rapor, const SayfaDuzeni& duzen) {
-  return DosBelgesi(MetinRaporu(rapor, duzen), Siklik(std::size_t(KagitBicimle(rapor, duzen).en)));
-}
-
-Sonuc<YazdirmaSonucu> YapraklarPdf(const YaprakBelgesi& belge, const std::string& dosya) {
-  return PdfYaz(PdfYap(belge.baslik, [&](Tuval& tuval) { return GrafikYapraklari(belge, tuval); }), dosya);
-}
-
-std::string YapraklarDosBelgesi(const YaprakBelgesi& belge, const SayfaDuzeni& duzen) {
-  const std::string metin = MetinYapraklari(belge, duzen);
-  return DosBelgesi(metin, Siklik(EnUzunSatir(metin)));
+  return YazdirmaSonucu{};
 }
 
 }  // namespace belvani

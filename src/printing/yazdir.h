@@ -1,29 +1,42 @@
-// A report on its way to paper or into a file, whichever the print settings say.
+// A document on its way to a printer.
+//
+// Drawn pages go to the print server as a PDF. Text goes byte by byte: through a temporary file that the small program
+// belprn hands to the print server as it is, or straight to a parallel port of this computer.
 #pragma once
 
-#include "printing/grafikyazici.h"
+#include <functional>
+#include <string>
+
+#include "core/bildirim.h"
+#include "printing/belge.h"
 #include "printing/kuyruk.h"
-#include "printing/yaprak.h"
-#include "printing/yzcayar.h"
+#include "printing/paralelport.h"
 
 namespace belvani {
 
+// The printers that a program works with, and what it needs for them.
+struct BaskiOrtami {
+  Kuyruk& kuyruk;
+  ParalelPort& port;
+  std::string programDizini;  // where belprn lies
+  // Opens a file in the program that the user has for it; false when there is none.
+  std::function<bool(const std::string& dosya)> dosyaAc;
+  std::function<bool(const std::string& adres)> adresAc;  // a page of the web, in the user's browser
+  std::string yazici = {};                                // as chosen in this run; empty: the system's own choice
+};
+
 struct YazdirmaSonucu {
-  bool gonderildi = false;  // not, when the dialog was given up or the report has no rows
+  bool gonderildi = false;  // not, when the dialog was given up, the print stopped, or there is nothing to print
   std::string uyari;        // too wide a list, a printer that waits for paper; else empty
 };
 
-// The way that YolSec tells. `duzen` without its orientation, which is that of the settings.
-Sonuc<YazdirmaSonucu> RaporYazdir(const Rapor& rapor, const YzcAyarlari& ayar, GrafikDuzeni duzen, Kuyruk& kuyruk);
+// Everything that can print: the printers of the print server, then the parallel ports of this computer, named "LPT1:"
+// and so on. A print server that does not answer is a failure only where there is no port either.
+Sonuc<std::vector<YaziciBilgisi>> YaziciListesi(BaskiOrtami& ortam);
 
-// The drawn report as a PDF file.
-Sonuc<YazdirmaSonucu> RaporPdf(const Rapor& rapor, const GrafikDuzeni& duzen, const std::string& dosya);
-
-// The text report as the dot-matrix printer takes it; empty without rows. Lines of over 80 letters are condensed.
-std::string RaporDosBelgesi(const Rapor& rapor, const SayfaDuzeni& duzen);
-
-// Slips in the same two forms.
-Sonuc<YazdirmaSonucu> YapraklarPdf(const YaprakBelgesi& belge, const std::string& dosya);
-std::string YapraklarDosBelgesi(const YaprakBelgesi& belge, const SayfaDuzeni& duzen);
+// By the way that the document's settings tell (YolSec). `ilerleme` shows it and stops it: a drawn print between two
+// pages, a text print at any letter. What the user must answer while a port prints goes through `bildirim`.
+Sonuc<YazdirmaSonucu> BelgeYazdir(const Belge& belge, BaskiOrtami& ortam, Bildirim& bildirim,
+                                  Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -49,7 +49,7 @@ class yzccnt {
 
  private:
   Tuval& tuval_;
-  Yazi yazi_;
+  YaziBicimi yazi_;
 };
 
 }  // namespace belvani

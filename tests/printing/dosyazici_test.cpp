@@ -10,35 +10,17 @@
 #include "printing/ornek.h"
 #include "printing/prnx.h"
 #include "printing/sahtekuyruk.h"
+#include "printing/sahteport.h"
 #include "printing/xprn.h"
-#include "printing/yazdir.h"
 #include "printing/yzccnt.h"
 
 namespace belvani {
 namespace {
 
 using namespace std::string_literals;
+using test::SahtePort;
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-// Gives the scripted statuses in turn, then the last for ever; keeps the bytes that were taken.
-struct SahtePort final : ParalelPort {
-  std::vector<std::uint8_t> durumlar = {port::Alindi};
-  std::string alinan;
-  std::vector<int> portlar;
-
-  std::uint8_t GetStatus(int no) override {
-    portlar.push_back(no);
-    const std::uint8_t durum = durumlar.front();
-    if (durumlar.size() > 1) durumlar.erase(durumlar.begin());
-    return durum;
-  }
-  std::uint8_t DosPrint(int no, std::uint8_t bayt) override {
-    const std::uint8_t durum = GetStatus(no);
-    if (durum & port::Alindi) alinan += static_cast<char>(bayt);
-    return durum;
-  }
-};
 
 struct Duzenek {
   test::GeciciDizin dizin;
@@ -152,8 +134,6 @@ TEST(Xprn, DosyayaVeYazilamayanHedef) {
   EXPECT_EQ(d.gonderilen, "");
   ASSERT_TRUE(yazici.DosyayaAc("/proc/olmaz/pusula.prn"));
   EXPECT_EQ(yazici.CloseDosPrint().HataMetni(), "/proc/olmaz/pusula.prn: dosya yazılamadı (dizin bulunamadı)");
-  const auto yazilan = RaporPdf(test::KalemRaporu({{.ad = "a"}}), {}, "/dev/full/liste.pdf");
-  EXPECT_EQ(yazilan.HataMetni(), "/dev/full/liste.pdf: dosya yazılamadı (yoldaki bir ad dizin değil)");
 }
 
 TEST(Xprn, PortDurumlari) {
@@ -307,28 +287,6 @@ TEST(Prnx, GrafikIzgara) {
   EXPECT_NEAR(o[2].kutu.x, o[1].kutu.x, 1e-9);
   EXPECT_NEAR(o[3].kutu.en, 281, 1e-9);
   EXPECT_GT(o[3].kutu.y, o[1].Alt());
-}
-
-TEST(Yazdir, YollarVeUyarilar) {
-  const Rapor rapor = test::KalemRaporu({{.ad = "Işıl", .tutar = Tutar(1.0)}});
-  test::SahteKuyruk kuyruk;
-  YzcAyarlari ayar;
-  ayar.YzcKopya = 2;
-  EXPECT_FALSE(RaporYazdir(rapor, ayar, {}, kuyruk)->gonderildi);
-  ayar.YzcTamam = true;
-  kuyruk.yazicilar[1].bekleyen = "Yazıcıda Kağıt Yok";
-  EXPECT_EQ(RaporYazdir(rapor, ayar, {}, kuyruk)->uyari, "Yazıcıda Kağıt Yok");
-  ayar.YzcDosMod = true;
-  ASSERT_TRUE(RaporYazdir(rapor, ayar, {}, kuyruk)->gonderildi);
-  EXPECT_FALSE(RaporYazdir(test::KalemRaporu({}), ayar, {}, kuyruk)->gonderildi);
-  ASSERT_EQ(kuyruk.isler.size(), 2u);
-  EXPECT_THAT(kuyruk.isler[0].icerik, testing::StartsWith("%PDF"));
-  EXPECT_EQ(kuyruk.isler[0].kopya, 2);
-  EXPECT_EQ(kuyruk.isler[1].tur, IsTuru::Ham);
-  EXPECT_THAT(kuyruk.isler[1].icerik, HasSubstr("\r\nI\x9F\x8Dl "));
-  EXPECT_THAT(kuyruk.isler[1].icerik, testing::EndsWith("-\r\n\f"));
-  kuyruk.yazicilar.clear();
-  EXPECT_EQ(RaporYazdir(rapor, ayar, {}, kuyruk).HataMetni(), "Seçili Yazıcı Yok... Yazıcı Yükleyiniz.");
 }
 
 }  // namespace

@@ -115,16 +115,15 @@ TEST(GrafikYazici, SayfaninSatirlari) {
   rapor.toplamEtiketi = "TOPLAM";
   rapor.sonBlok = {{"Tutar :", Tutar(1224.5)}};
   KayitTuvali tuval;
-  const auto sonuc = GrafikRaporu(rapor, {}, tuval);
-  ASSERT_EQ(sonuc.sayfaSayisi, 1);
-  EXPECT_EQ(sonuc.uyari, "");
+  const GrafikRapor sayfalar(rapor, {});
+  SayfalariCiz(sayfalar, tuval);
+  ASSERT_EQ(sayfalar.SayfaSayisi(), 1);
+  EXPECT_EQ(sayfalar.Uyari(), "");
   EXPECT_THAT(tuval.sayfalar[0].Satirlar(),
               testing::ElementsAre("KALEM LİSTESİ", "Şubat 2008", "ÜNVANI : Çınar|Sayfa : 1/1", "Toplam",
                                    "Adı|Gün|Adet|Tutar|Birikmiş|İmza", "Işıl|29.02.08|2|1,234.50", "TOPLAM|2|1,234.50",
                                    "Tutar :|1,224.50"));
-  KayitTuvali bos;
-  EXPECT_EQ(GrafikRaporu(KalemRaporu({}), {}, bos).sayfaSayisi, 0);
-  EXPECT_TRUE(bos.sayfalar.empty());
+  EXPECT_EQ(GrafikRapor(KalemRaporu({}), {}).SayfaSayisi(), 0);
 }
 
 // At the border: as many rows as leave ten lines free fill one page; one more begins the next, with its own head and
@@ -133,7 +132,8 @@ TEST(GrafikYazici, SayfaSinirlari) {
   const GrafikDuzeni duzen{.yon = {}, .punto = 10, .kolonArasi = KolonArasi::DikCizgi};
   const auto sayfala = [&](int adet) {
     KayitTuvali tuval;
-    GrafikRaporu(KalemRaporu(Kalemler(adet)), duzen, tuval);
+    const Rapor rapor = KalemRaporu(Kalemler(adet));
+    SayfalariCiz(GrafikRapor(rapor, duzen), tuval);
     return tuval;
   };
   const int satir = GrafikBicimle(KalemRaporu(Kalemler(200)), duzen).satirSayisi;
@@ -170,20 +170,22 @@ TEST(GrafikYazici, GenislikYonuVeBoyuSecer) {
   for (const auto& o : ornekler) {
     SCOPED_TRACE(o.ad);
     KayitTuvali tuval;
-    const auto sonuc = GrafikRaporu(GenisRapor(o.kolon), {.yon = o.yon}, tuval);
-    EXPECT_EQ(sonuc.bicim.yon, o.beklenenYon);
-    EXPECT_EQ(sonuc.uyari.empty(), o.okunur);
-    EXPECT_EQ(sonuc.bicim.kagit.gruplama, o.gruplama);
+    const Rapor rapor = GenisRapor(o.kolon);
+    const GrafikRapor sayfalar(rapor, {.yon = o.yon});
+    SayfalariCiz(sayfalar, tuval);
+    EXPECT_EQ(sayfalar.Bicim().yon, o.beklenenYon);
+    EXPECT_EQ(sayfalar.Uyari().empty(), o.okunur);
+    EXPECT_EQ(sayfalar.Bicim().kagit.gruplama, o.gruplama);
     double sag = 0;
     for (const auto& oge : tuval.sayfalar[0].ogeler) {
       if (oge.metin != (o.gruplama ? "-1,234,567.89" : "-1234567.89")) continue;
       EXPECT_GT(oge.kutu.x, sag);
-      EXPECT_EQ(oge.yazi.genislik, sonuc.bicim.yazi.genislik);
+      EXPECT_EQ(oge.yazi.genislik, sayfalar.Bicim().yazi.genislik);
       sag = oge.Sag();
     }
     EXPECT_GT(sag, 0);
     EXPECT_LE(sag, A4(o.beklenenYon).en - KenarMm + 1e-6);
-    EXPECT_EQ(sonuc.bicim.yazi.punto >= EnKucukPunto * 0.999, o.okunur);
+    EXPECT_EQ(sayfalar.Bicim().yazi.punto >= EnKucukPunto * 0.999, o.okunur);
   }
 }
 
@@ -191,7 +193,8 @@ TEST(GrafikYazici, GenislikYonuVeBoyuSecer) {
 TEST(GrafikYazici, UzunMetinKesilmez) {
   const std::string uzun = "Abdurrahmanoğulları Çelebizadeoğlu";
   KayitTuvali tuval;
-  GrafikRaporu(KalemRaporu({{.ad = uzun, .tutar = Tutar(1.0)}, {.ad = "Ali"}}), {}, tuval);
+  const Rapor rapor = KalemRaporu({{.ad = uzun, .tutar = Tutar(1.0)}, {.ad = "Ali"}});
+  SayfalariCiz(GrafikRapor(rapor, {}), tuval);
   bool var = false;
   for (const auto& oge : tuval.sayfalar[0].ogeler) {
     if (oge.metin != uzun) {

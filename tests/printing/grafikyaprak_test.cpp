@@ -37,49 +37,54 @@ bool UstUste(const Oge& soldaki, const Oge& sagdaki) {
          soldaki.Sag() > sagdaki.kutu.x;
 }
 
-TEST(GrafikYapraklari, TamYapraklarKagidaSigar) {
+TEST(GrafikYapraklar, SayfayaBolunur) {
   const struct {
     const char* ad;
+    SayfadaYaprak sayfada;
     std::size_t satir;
     Tutar tutar;
-    std::size_t sayfa;  // of seven slips
+    std::size_t sayfa;  // of five slips
     bool okunur;
   } ornekler[] = {
-      {"as many lines as fit three times", 22, Tutar(1841.26), 3, true},
-      {"one line more", 23, Tutar(1841.26), 4, true},
-      {"the longest amounts", 15, Tutar(900'000'000'000'000.0), 2, true},
-      {"taller than a sheet", 200, Tutar(1.0), 7, false},
+      {"one", SayfadaYaprak::Bir, 22, Tutar(1841.26), 5, true},
+      {"two", SayfadaYaprak::Iki, 22, Tutar(1841.26), 3, true},
+      {"four", SayfadaYaprak::Dort, 22, Tutar(1841.26), 2, true},
+      {"four with the longest amounts", SayfadaYaprak::Dort, 15, Tutar(900'000'000'000.0), 2, true},
+      {"taller than a sheet", SayfadaYaprak::Bir, 200, Tutar(1.0), 5, false},
   };
   for (const auto& o : ornekler) {
     SCOPED_TRACE(o.ad);
     KayitTuvali tuval;
-    const auto sonuc = GrafikYapraklari(Fisler(7, o.satir, o.tutar), tuval);
-    EXPECT_EQ(std::size_t(sonuc.sayfaSayisi), tuval.sayfalar.size());
+    const YaprakBelgesi fisler = Fisler(5, o.satir, o.tutar);
+    const GrafikYapraklar sayfalar(fisler, o.sayfada);
+    SayfalariCiz(sayfalar, tuval);
+    EXPECT_EQ(std::size_t(sayfalar.SayfaSayisi()), tuval.sayfalar.size());
     EXPECT_EQ(tuval.sayfalar.size(), o.sayfa);
-    EXPECT_EQ(sonuc.uyari.empty(), o.okunur);
+    EXPECT_EQ(sayfalar.Uyari().empty(), o.okunur);
+    std::size_t fis = 0;
     for (const auto& sayfa : tuval.sayfalar) {
-      EXPECT_EQ(sayfa.Satirlar().front(), "FİŞ");
-      EXPECT_EQ(sayfa.Satirlar().back(), "Aldım.");
-      double sag = 0;
-      for (const auto& oge : Metinler(sayfa)) {
+      const auto metinler = Metinler(sayfa);
+      for (const auto& oge : metinler) {
+        fis += oge.metin == "Aldım.";
         EXPECT_NEAR(oge.yazi.genislik, 1, 1e-6) << oge.metin;
         EXPECT_GE(oge.kutu.x, KenarMm - 1e-6);
         EXPECT_LE(oge.Sag(), 210 - KenarMm + 1e-6);
         EXPECT_LE(oge.Alt(), 297 - KenarMm + 1e-6);
-        sag = std::max(sag, oge.Sag());
-        for (const auto& diger : Metinler(sayfa)) EXPECT_FALSE(UstUste(oge, diger)) << oge.metin << " " << diger.metin;
+        const bool yatayAsar = o.sayfada == SayfadaYaprak::Dort && oge.kutu.x < 105 && oge.Sag() > 105 - KenarMm;
+        const bool dikeyAsar = o.sayfada != SayfadaYaprak::Bir && oge.kutu.y < 148 && oge.Alt() > 148.5;
+        EXPECT_FALSE(yatayAsar || dikeyAsar) << oge.metin << ": over the line to cut along";
+        for (const auto& diger : metinler) EXPECT_FALSE(UstUste(oge, diger)) << oge.metin << " " << diger.metin;
       }
-      EXPECT_NEAR(sag, 210 - KenarMm, 1e-6) << "the blocks take the whole width";
     }
+    EXPECT_EQ(fis, 5u);
   }
-  KayitTuvali bos;
-  EXPECT_EQ(GrafikYapraklari({}, bos).sayfaSayisi, 0);
-  EXPECT_TRUE(bos.sayfalar.empty());
+  EXPECT_EQ(GrafikYapraklar(YaprakBelgesi{}, SayfadaYaprak::Iki).SayfaSayisi(), 0);
 }
 
-TEST(GrafikYapraklari, EtiketlerDolgusuz) {
+TEST(GrafikYapraklar, EtiketlerDolgusuz) {
   KayitTuvali tuval;
-  GrafikYapraklari(Fisler(1, 1, Tutar()), tuval);
+  const YaprakBelgesi fis = Fisler(1, 1, Tutar());
+  SayfalariCiz(GrafikYapraklar(fis, SayfadaYaprak::Iki), tuval);
   std::vector<std::string> metinler;
   for (const auto& oge : Metinler(tuval.sayfalar[0])) metinler.push_back(oge.metin);
   EXPECT_THAT(metinler, testing::ElementsAre("FİŞ", "Ocak", "Adı", "Işıl", "Toplam Kazanç", "0.00", "Net", "0.00",

@@ -15,7 +15,7 @@ struct Oge {
   OgeTuru tur;
   Dikdortgen kutu;  // of a line: its start, and how far its end lies away
   std::string metin = {};
-  Yazi yazi = {};
+  YaziBicimi yazi = {};
 
   double Sag() const { return kutu.x + kutu.en; }
   double Alt() const { return kutu.y + kutu.boy; }
@@ -53,7 +53,7 @@ struct KayitTuvali final : Tuval {
     sayfaAcik = true;
   }
   void SayfaBitir() override { sayfaAcik = false; }
-  void Metin(Nokta yer, std::string_view metin, const Yazi& yazi) override {
+  void Metin(Nokta yer, std::string_view metin, const YaziBicimi& yazi) override {
     Ekle({OgeTuru::Metin, {yer.x, yer.y, MetinEni(metin, yazi), SatirBoyu(yazi)}, std::string(metin), yazi});
   }
   void Cizgi(Nokta bas, Nokta son, double) override {

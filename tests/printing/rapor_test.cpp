@@ -4,6 +4,7 @@
 
 #include "printing/kagit.h"
 #include "printing/ornek.h"
+#include "printing/xlsxkitap.h"
 
 namespace belvani {
 namespace {
@@ -76,6 +77,32 @@ TEST(Kagit, BaslikBol) {
       {"Ad", 0, {"", ""}},
   };
   for (const auto& o : ornekler) EXPECT_EQ(BaslikBol(o.baslik, o.en), o.beklenen) << o.baslik;
+}
+
+// On paper no column is too narrow for its days, whatever was asked for; a spreadsheet shows them in the same form.
+TEST(Kagit, TarihBicimleri) {
+  struct {
+    KolonTuru tur;
+    const char* metin;
+    int en;
+    const char* xlsx;
+  } const ornekler[] = {
+      {KolonTuru::Tarih, "05.08.2009", 10, "dd.mm.yyyy"},
+      {KolonTuru::KisaTarih, "05.08.09", 8, "dd.mm.yy"},
+      {KolonTuru::GunAy, "05.08", 5, "dd.mm"},
+      {KolonTuru::UzunTarih, "05 Ağustos 2009", 15, "[$-41F]dd mmmm yyyy"},
+      {KolonTuru::Gun, "05", 3, "dd"},
+      {KolonTuru::Ay, "08", 3, "mm"},
+  };
+  for (const auto& o : ornekler) {
+    Rapor rapor({{.baslik = "T", .kisaBaslik = "T", .en = 3, .tur = o.tur}});
+    rapor.Ekle({{Tarih(2009, 8, 5)}});
+    rapor.Ekle({{Tarih()}});
+    EXPECT_EQ(HucreMetni(rapor.Satirlar()[0].hucreler[0], rapor.Kolonlar()[0]), o.metin);
+    EXPECT_EQ(HucreMetni(rapor.Satirlar()[1].hucreler[0], rapor.Kolonlar()[0]), "");
+    EXPECT_EQ(KagitBicimle(rapor, {}).enler[0], o.en) << o.metin;
+    EXPECT_EQ(KolonStili(rapor.Kolonlar()[0]).sayiBicimi, o.xlsx);
+  }
 }
 
 TEST(Kagit, SayilarKesilmez) {

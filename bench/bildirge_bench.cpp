@@ -1,0 +1,78 @@
+// The monthly declaration of a whole company: reading the month and the one before it, rows, totals and premiums; the
+// totals anew after an edit; the checks and the bytes of the electronic file.
+#include <benchmark/benchmark.h>
+
+#include "core/store/satirlar.h"
+#include "core/tables/kimlik.h"
+#include "declarations/aylikbildirge.h"
+#include "sirketuret.h"
+
+namespace belvani::bench {
+namespace {
+
+constexpr int Kisi = 10'000;
+
+class Sessiz : public Bildirim {
+ public:
+  void Bilgi(std::string_view) override {}
+  void Uyari(std::string_view) override {}
+  bool Soru(std::string_view) override { return true; }
+};
+
+// Ten years of pay records for everyone.
+struct BildirgeSirketi {
+  Sirket sirket{Kisi, 2009, 7, 120};
+  Sessiz bildirim;
+  AylikBildirge bildirge{sirket.o, sirket.kosullar.yasal, bildirim};
+
+  BildirgeSirketi() {
+    Motor& motor = sirket.o.depo.db.IcMotor();
+    Islem islem(motor);
+    KayitYazici<Kimlik> yazici(motor);
+    for (int i = 0; i < Kisi; ++i) {
+      Kimlik kimlik;
+      kimlik.kod = OrnekKisi(i).kod;
+      kimlik.tcno = "10000000146";
+      yazici.Ekle(kimlik);
+    }
+    motor.Calistir(
+        "update firma set unvan = 'Deneme', adr1 = 'Ümraniye', sektor = '2', meslek = '1721', sube = '0101', "
+        "dosya = '1034567', il = '34', ilce = '12', kontrol = '07'");
+    islem.Onayla();
+    bildirge.Ac();
+    bildirge.Secim().yil = 2009;
+    bildirge.Secim().ay = 6;
+    bildirge.Hesapla();
+  }
+};
+
+AylikBildirge& Ortak() {
+  static BildirgeSirketi sirket;
+  return sirket.bildirge;
+}
+
+void Hesapla(benchmark::State& durum) {
+  AylikBildirge& bildirge = Ortak();
+  for (auto _ : durum)
+    if (!bildirge.Hesapla() || bildirge.Tamami().satirlar.size() != Kisi) durum.SkipWithError("not everyone is in it");
+}
+
+void SatirDuzeltme(benchmark::State& durum) {
+  AylikBildirge& bildirge = Ortak();
+  for (auto _ : durum) bildirge.SatirYaz(Kisi / 2, bildirge.Tamami().satirlar[Kisi / 2]);
+}
+
+void Xml(benchmark::State& durum) {
+  AylikBildirge& bildirge = Ortak();
+  for (auto _ : durum)
+    if (!bildirge.XmlHazirla()) durum.SkipWithError("no file");
+}
+
+BENCHMARK(Hesapla)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(SatirDuzeltme)->Unit(benchmark::kMillisecond);
+BENCHMARK(Xml)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace belvani::bench
+
+BENCHMARK_MAIN();

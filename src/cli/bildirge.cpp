@@ -1,0 +1,255 @@
+// bildirge: the monthly declaration of a company
+#include <algorithm>
+#include <iostream>
+
+#include "cli/jsonkayit.h"
+#include "cli/ortak.h"
+#include "core/session/firmabilgi.h"
+#include "core/turkce.h"
+#include "declarations/aylikbildirge.h"
+#include "declarations/bildirgeformu.h"
+#include "declarations/bildirgetablosu.h"
+#include "payroll/hazirlik/kosullar.h"
+
+namespace belvani::cli {
+namespace {
+
+constexpr std::array<std::string_view, 3> Mahiyetler{"I", "E", "A"};  // in the order of BelgeMahiyeti
+
+struct BildirgeSecenekleri {
+  std::string kod;
+  Donem donem;
+  std::string belge = "00";
+  std::optional<std::string> kanun;
+  std::string mahiyet = "A";
+  std::string bicim = "json";
+  std::string dosya;
+  bool evet = false;
+};
+
+// With --evet whatever is asked is answered yes.
+class Cevaplayan : public StandartHata {
+ public:
+  explicit Cevaplayan(bool evet) : evet_(evet) {}
+  bool Soru(std::string_view metin) override {
+    if (!evet_) return StandartHata::Soru(metin);
+    std::cerr << metin << " (evet)\n";
+    return true;
+  }
+
+ private:
+  bool evet_;
+};
+
+// ---- selection
+
+[[noreturn]] void Tanimsiz(const char* ne, const std::string& deger, const std::vector<std::string>& liste) {
+  std::string metin = deger + ne;
+  for (std::size_t i = 1; i < liste.size(); ++i) metin += "\n  " + liste[i];
+  throw KomutHatasi{metin};
+}
+
+int BelgeSirasi(const std::vector<std::string>& turler, const std::string& belge) {
+  const std::string kod = belge.size() < 2 ? "0" + belge : belge;
+  const auto tur = std::ranges::find_if(turler, [&](const std::string& t) { return t.starts_with(kod + "-"); });
+  if (tur == turler.end()) Tanimsiz(" belge türü yok, tanımlı olanlar:", belge, turler);
+  return int(tur - turler.begin());
+}
+
+// As it is on the cards, or without its zeros: 5510 for "05510".
+int KanunSirasi(const std::vector<std::string>& kanunlar, const std::string& kanun) {
+  for (const std::string& aranan : {kanun, KanunMetni(kanun)})
+    for (std::size_t i = 1; i < kanunlar.size(); ++i)
+      if (TurkceEsit(kanunlar[i], aranan)) return int(i);
+  Tanimsiz(" kanununa bağlı kişi yok, kişilerin kanunları:", kanun, kanunlar);
+}
+
+void Sec(AylikBildirge& bildirge, const BildirgeSecenekleri& s) {
+  BildirgeSecimi& secim = bildirge.Secim();
+  secim.yil = s.donem.yil;
+  secim.ay = s.donem.ay;
+  secim.belgeTuru = BelgeSirasi(bildirge.BelgeTurleri(), s.belge);
+  if (s.kanun) secim.kanun = KanunSirasi(bildirge.KanunSecenekleri(), *s.kanun);
+  secim.mahiyet = BelgeMahiyeti(std::ranges::find(Mahiyetler, s.mahiyet) - Mahiyetler.begin());
+}
+
+// ---- JSON: rows by the names of the columns, then what stands below the grid
+
+Json HucreJson(const std::string& hucre, HucreTuru tur) {
+  switch (tur) {
+    case HucreTuru::Metin:
+      return hucre;
+    case HucreTuru::Tutar:
+      return DegerJson(HucreTutari(hucre));
+    case HucreTuru::Tam:
+      return hucre.empty() ? Json() : Json(HucreTami(hucre));
+    case HucreTuru::Tarih:
+      return hucre.empty() ? Json() : Json(hucre);
+  }
+  return {};
+}
+
+Json SatirJson(const BildirgeSatiri& satir) {
+  Json json = Json::object();
+  for (const auto& kolon : BildirgeKolonlari) json[std::string(kolon.ad)] = HucreJson(satir.*kolon.hucre, kolon.tur);
+  return json;
+}
+
+Json ToplamJson(const BildirgeToplamlari& t) {
+  return {{"sigortali", t.sigortali},
+          {"gun", t.gun},
+          {"giren", t.giren},
+          {"ayrilan", t.ayrilan},
+          {"ucretsizIzinli", t.ucretsizIzinli},
+          {"ucretsizGun", t.ucretsizGun},
+          {"ucretliIzinli", t.ucretliIzinli},
+          {"ucretliGun", t.ucretliGun},
+          {"ucretliKazanc", DegerJson(t.ucretliKazanc)}};
+}
+
+Json BranslarJson(const Bildirge& b) {
+  constexpr std::array<const char*, BransSayisi> adlar{"kisaVade", "analik", "saglik",
+                                                       "uzunVade", "destek", "issizlik"};
+  Json json = Json::object();
+  for (std::size_t i = 0; i < BransSayisi; ++i) {
+    Json& brans = json[adlar[i]];
+    brans["matrah"] = DegerJson(b.toplamlar.*BransMatrahlari[i]);
+    brans["oran"] = b.PrimOran[i].Sayi();
+    if (i != AnalikBransi) brans["prim"] = DegerJson(b.prim.primler[i]);
+  }
+  return json;
+}
+
+std::string JsonMetni(AylikBildirge& bildirge) {
+  const Bildirge& b = bildirge.Tamami();
+  Json satirlar = Json::array();
+  for (const auto& satir : b.satirlar) satirlar.push_back(SatirJson(satir));
+  const Json json{{"yil", b.secim.yil},
+                  {"ay", b.secim.ay},
+                  {"mahiyet", Mahiyetler[std::size_t(b.secim.mahiyet)]},
+                  {"belgeTuru", bildirge.BelgeTurleri()[std::size_t(b.secim.belgeTuru)]},
+                  {"kanun", bildirge.KanunSecenekleri()[std::size_t(b.secim.kanun)]},
+                  {"satirlar", std::move(satirlar)},
+                  {"toplamlar", ToplamJson(b.toplamlar)},
+                  {"branslar", BranslarJson(b)},
+                  {"devletKatkisi", DegerJson(b.DevletKatki)},
+                  {"genelToplam", DegerJson(b.prim.genelToplam)}};
+  return json.dump(2) + "\n";
+}
+
+// ---- forms
+
+struct Is {
+  AylikBildirge& bildirge;
+  Oturum& oturum;
+  Bildirim& bildirim;
+  const std::string& dosya;
+
+  BildirgeKagidi Kagit() const { return KagitHazirla(bildirge, oturum); }
+  void KagitKosullari(AylikBildirge::Cikti cikti) const {
+    if (bildirge.KagitKosullari(cikti) == AylikBildirge::CiktiKarari::Yok)
+      throw KomutHatasi{"Bildirge kağıda dökülmedi"};
+  }
+  void Ver(const std::string& icerik, const std::string& uyari) const {
+    if (!uyari.empty()) bildirim.Uyari(uyari);
+    cli::Yaz(icerik, dosya);
+  }
+};
+
+void JsonYaz(const Is& is) {
+  Yaz(JsonMetni(is.bildirge), is.dosya);
+}
+
+void XmlDosyasi(const Is& is) {
+  const KomutHatasi yazilmadi{"Bildirge dosyası yazılmadı"};
+  if (!is.bildirge.XmlKosullari()) throw yazilmadi;
+  if (!is.dosya.empty()) {
+    if (!is.bildirge.XmlYaz(is.dosya)) throw yazilmadi;
+    return;
+  }
+  const auto icerik = is.bildirge.XmlHazirla();
+  if (!icerik) throw yazilmadi;
+  Yaz(*icerik);
+}
+
+void PdfDosyasi(const Is& is) {
+  is.KagitKosullari(AylikBildirge::Cikti::Kagit);
+  auto pdf = BelgePdf(*BildirgeBelgesi(is.Kagit()));
+  is.Ver(Degeri(pdf).baytlar, pdf->uyari);
+}
+
+void MatbuMetni(const Is& is) {
+  is.KagitKosullari(AylikBildirge::Cikti::Kagit);
+  is.bildirim.Bilgi(MatbuUyarisi);
+  Yaz(BildirgeYazdir(is.Kagit()), is.dosya);
+}
+
+void ExcelDosyasi(const Is& is) {
+  is.KagitKosullari(AylikBildirge::Cikti::Tablo);
+  auto sablon = TabloSablonu(is.oturum);
+  auto tablo = BildirgeTablosuYap(std::move(Degeri(sablon)), is.Kagit());
+  is.Ver(Degeri(tablo).baytlar, tablo->uyari);
+}
+
+enum class Ekran { Olur, Olmaz };
+
+struct Bicim {
+  const char* ad;
+  void (*yaz)(const Is& is);
+  Ekran ekran = Ekran::Olur;
+};
+
+constexpr Bicim bicimler[] = {{"json", JsonYaz},
+                              {"xml", XmlDosyasi},
+                              {"pdf", PdfDosyasi, Ekran::Olmaz},
+                              {"xlsx", ExcelDosyasi, Ekran::Olmaz},
+                              {"metin", MatbuMetni}};
+
+// What a terminal cannot show needs a file.
+void DosyayiIste(const BildirgeSecenekleri& s) {
+  for (const Bicim& bicim : bicimler)
+    if (s.bicim == bicim.ad && bicim.ekran == Ekran::Olmaz && s.dosya.empty())
+      throw CLI::ValidationError("--bicim", s.bicim + " ekrana yazılmaz, dosyasını veriniz: -o DOSYA");
+}
+
+void KimliksizleriSoyle(const std::vector<std::string>& kodlar, Bildirim& bildirim) {
+  if (kodlar.empty()) return;
+  std::string metin = "Kimlik bilgisi olmayanlar bildirgeye alınmadı:";
+  for (const auto& kod : kodlar) metin += " " + kod;
+  bildirim.Uyari(metin);
+}
+
+void BildirgeYap(Genel& genel, const BildirgeSecenekleri& s) {
+  const auto o = genel.SirketAc(s.kod);
+  auto yasal = YasalParametreleriAl(o->DataPath);
+  Cevaplayan bildirim(s.evet);
+  AylikBildirge bildirge(*o, Degeri(yasal), bildirim);
+  if (!bildirge.Ac()) throw KomutHatasi{"Şirketin kayıtları okunamadı"};
+  Sec(bildirge, s);
+  if (!bildirge.Hesapla()) throw KomutHatasi{"Bildirge hesaplanamadı"};
+  KimliksizleriSoyle(bildirge.Tamami().kimliksizler, bildirim);
+  for (const Bicim& bicim : bicimler)
+    if (s.bicim == bicim.ad) bicim.yaz({bildirge, *o, bildirim, s.dosya});
+}
+
+}  // namespace
+
+void BildirgeKomutu(CLI::App& app, Genel& genel) {
+  auto s = std::make_shared<BildirgeSecenekleri>();
+  auto* komut = app.add_subcommand("bildirge", "Ayın SGK aylık prim ve hizmet bildirgesini verir");
+  komut->add_option("KOD", s->kod, "şirket")->required();
+  DonemSecenekleri(*komut, s->donem);
+  komut->add_option("--belge", s->belge, "belge türünün numarası (verilmezse hepsi)")->type_name("NN");
+  komut->add_option("--kanun", s->kanun, "yalnız bu kanuna bağlı kişiler");
+  komut->add_option("--mahiyet", s->mahiyet, "A asıl, E ek, I iptal")->check(CLI::IsMember({"A", "E", "I"}));
+  std::vector<std::string> adlar;
+  for (const Bicim& bicim : bicimler) adlar.emplace_back(bicim.ad);
+  komut->add_option("--bicim", s->bicim, "json, xml (e-bildirge dosyası), pdf, xlsx veya metin (matbu evrak)")
+      ->check(CLI::IsMember(adlar));
+  komut->add_option("-o", s->dosya, "yazılacak dosya (pdf ve xlsx dışında verilmezse ekrana)");
+  komut->add_flag("--evet", s->evet, "sorulan sorulara evet der");
+  komut->parse_complete_callback([s] { DosyayiIste(*s); });
+  komut->callback([&genel, s] { BildirgeYap(genel, *s); });
+}
+
+}  // namespace belvani::cli

@@ -1,0 +1,31 @@
+// What must be right before a declaration leaves the program, whether as a file, on paper or in a spreadsheet.
+//
+// The user is told of the first fault alone, in the order of the checks: month, company, then row by row.
+// Example: check code "00" -> "Hatalı İşyeri Kontrol Kodu..  01 ile 99 arası olmalı".
+#pragma once
+
+#include <string>
+
+#include "core/bildirim.h"
+#include "core/tables/firma.h"
+#include "declarations/bildirgehesap.h"
+
+namespace belvani {
+
+// The employer as the declaration names him.
+struct IsyeriBilgileri {
+  std::string IsyeriSicil;    // register number, 21 characters
+  std::string KontrolNo;      // its check digits
+  std::string AraciNo;        // code of the subcontractor, "000" for none
+  std::string IsyeriUnvan;    // at most 50 letters
+  std::string IsyeriAdres;    // at most 50 letters
+  std::string IsyeriVergiNo;  // may be empty
+  std::string FirmaKanun;     // law of rows that have none of their own
+};
+
+IsyeriBilgileri IsyeriniHazirla(const Firma& firma, const std::string& araciKodu);
+
+// True: every check passed, or the user let through what he may. False: he was told why.
+bool BildirgeKontrol(const Bildirge& bildirge, const IsyeriBilgileri& isyeri, Bildirim& bildirim);
+
+}  // namespace belvani

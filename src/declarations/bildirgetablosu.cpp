@@ -1,0 +1,242 @@
+#include "declarations/bildirgetablosu.h"
+
+#include "core/dosya.h"
+#include "core/sayi.h"
+#include "core/turkce.h"
+#include "core/veridizini.h"
+#include "printing/xlscevir.h"
+#include "printing/xlsxsablon.h"
+
+namespace belvani {
+namespace {
+
+constexpr const char* SablonAdi = "aylik";
+constexpr int BelgeKolonu = 213;
+constexpr int SayacKolonu = 50;
+constexpr int IlkKisiSatiri = 101;
+constexpr int KisiSatirAdimi = 5;
+constexpr int ToplamSatiri = IlkKisiSatiri + TabloKisiSayisi * KisiSatirAdimi;
+constexpr const char* AracisizKod = "000";
+
+// Empties a cell.
+constexpr Null Bos{};
+
+Hucre Metin(std::string_view metin) {
+  const std::string_view kirpik = Kirp(metin);
+  return kirpik.empty() ? Hucre(Bos) : Hucre(std::string(kirpik));
+}
+
+Hucre Pozitif(int sayi) {
+  return sayi > 0 ? Hucre(std::int64_t(sayi)) : Hucre(Bos);
+}
+
+// A code of the grid: a number, or whatever stands there.
+Hucre Kod(std::string_view hucre) {
+  const auto sayi = TamSayiOku(hucre);
+  return sayi ? Hucre(std::int64_t(*sayi)) : Metin(hucre);
+}
+
+Hucre Oran(const std::string& metin) {
+  const auto oran = TutarOku(metin);
+  return oran ? Hucre(*oran) : Metin(metin);
+}
+
+std::string Adres(const std::string& adr1, const std::string& adr2) {
+  return adr1 + " " + adr2;
+}
+
+// Fills cells until one fails.
+class Dolduran {
+ public:
+  explicit Dolduran(XlsxSablon& sablon) : sablon_(sablon) {}
+
+  void SetExcel(const std::string& adres, const Hucre& deger) {
+    if (durum_) durum_ = sablon_.Yaz("", adres, deger);
+  }
+  // Row and column counted from 1.
+  void SetExcell(int satir, int kolon, const Hucre& deger) { SetExcel(XlsxAdresi(satir - 1, kolon - 1), deger); }
+  void KisiHucresi(const char* kolon, int satir, const Hucre& deger) { SetExcel(kolon + std::to_string(satir), deger); }
+
+  const Durum& Sonucu() const { return durum_; }
+
+ private:
+  XlsxSablon& sablon_;
+  Durum durum_ = Tamam();
+};
+
+constexpr const char* KisiKolonlari[] = {"i",  "ap", "bn", "cl", "dc", "dj", "ea", "es",
+                                         "fc", "fq", "gb", "gm", "gx", "hi", "hz"};
+
+void ExcelBosalt(Dolduran& d) {
+  for (int satir = IlkKisiSatiri; satir < ToplamSatiri; satir += KisiSatirAdimi)
+    for (const char* kolon : KisiKolonlari) d.KisiHucresi(kolon, satir, Bos);
+}
+
+void BelgeYaz(Dolduran& d, const BildirgeKagidi& k) {
+  d.SetExcell(8, BelgeKolonu, std::int64_t(k.yil));
+  d.SetExcell(12, BelgeKolonu, IkiHane(k.ay));
+  d.SetExcell(18, BelgeKolonu, k.mahiyet == BelgeMahiyeti::Asil ? Hucre(std::string("X")) : Hucre(Bos));
+  d.SetExcell(27, BelgeKolonu, Metin(k.belgeTuru));
+  d.SetExcell(32, BelgeKolonu, Metin(k.kanun));
+  d.SetExcel("he40", std::int64_t(1));
+  d.SetExcel("he46", std::int64_t(1));
+}
+
+void TaraflariYaz(Dolduran& d, const Firma& f, const Arac& a) {
+  d.SetExcel("bz19", std::string("X"));
+  d.SetExcel("dp19", a.kod == AracisizKod ? Hucre(Bos) : Hucre(std::string("X")));
+  const std::pair<const char*, std::string> hucreler[] = {
+      {"aw23", f.unvan},
+      {"aw29", Adres(f.adr1, f.adr2)},
+      {"aw34", "Semt: " + f.semt},
+      {"bt37", "İl: " + f.adril},
+      {"bt34", "İlçe: " + f.adrilce},
+      {"bt40", "Posta Kodu: " + f.pk},
+      {"aw43", f.tel},
+      {"bt43", f.epos},
+      {"aw47", f.verno},
+      {"cp23", a.isim1},
+      {"cp29", Adres(a.adr1, a.adr2)},
+      {"cp34", "Semt: " + a.semt},
+      {"ef37", "İl: " + a.il},
+      {"ef34", "İlçe: " + a.ilce},
+      {"ef40", "Posta Kodu: " + a.pk},
+      {"cp43", a.tel},
+      {"ef43", a.epos},
+      {"cp47", a.tcno},
+      {"ef47", a.vergi},
+  };
+  for (const auto& [adres, deger] : hucreler) d.SetExcel(adres, Metin(deger));
+}
+
+void SayaclariYaz(Dolduran& d, const BildirgeToplamlari& t) {
+  const Hucre sayaclar[] = {
+      std::int64_t(t.sigortali),     std::int64_t(t.gun),        std::int64_t(t.giren), std::int64_t(t.ayrilan),
+      std::int64_t(t.ucretliIzinli), std::int64_t(t.ucretliGun), t.ucretliKazanc};
+  int satir = 61;
+  for (const auto& sayac : sayaclar) {
+    d.SetExcell(satir, SayacKolonu, sayac);
+    satir += 4;
+  }
+}
+
+void BranslariYaz(Dolduran& d, const BildirgeKagidi& k) {
+  int satir = 65;
+  for (const std::size_t sira : KagitBransSirasi) {
+    const KagitBransi& brans = k.branslar[sira];
+    const std::string no = std::to_string(satir);
+    d.SetExcel("em" + no, brans.matrah);
+    d.SetExcel("gn" + no, Oran(brans.oran));
+    d.SetExcel("hl" + no, brans.prim);
+    satir += 4;
+  }
+  d.SetExcel("hl85", k.genelToplam);
+}
+
+void TarihYaz(Dolduran& d, int satir, const char* gunKolonu, const char* ayKolonu, std::string_view hucre) {
+  const Tarih gun = HucreTarihi(hucre);
+  if (gun.Bos()) return;
+  d.KisiHucresi(gunKolonu, satir, IkiHane(gun.Gun()));
+  d.KisiHucresi(ayKolonu, satir, IkiHane(gun.Ay()));
+}
+
+// What of a person's base is wage and what bonus.
+struct KazancBolumu {
+  Tutar ucret;
+  Tutar ikramiye;
+};
+
+KazancBolumu KazanciBol(const BildirgeSatiri& s) {
+  const Tutar kazanc = HucreTutari(s.primkazanc);
+  const Tutar ikramiye = HucreTutari(s.primdisi);
+  return {.ucret = kazanc > Tutar() ? kazanc - ikramiye : Tutar(), .ikramiye = ikramiye > Tutar() ? ikramiye : Tutar()};
+}
+
+void KisiYaz(Dolduran& d, int satir, const BildirgeSatiri& s, const KazancBolumu& kazanc) {
+  d.KisiHucresi("i", satir, Metin(s.tcno));
+  d.KisiHucresi("ap", satir, Metin(s.adi));
+  d.KisiHucresi("bn", satir, Metin(s.soyadi));
+  d.KisiHucresi("cl", satir, Metin(s.ilksoyadi));
+  d.KisiHucresi("dc", satir, Pozitif(HucreTami(s.gun)));
+  if (HucreTutari(s.primkazanc) > Tutar()) d.KisiHucresi("dj", satir, kazanc.ucret);
+  if (kazanc.ikramiye > Tutar()) d.KisiHucresi("ea", satir, kazanc.ikramiye);
+  d.KisiHucresi("es", satir, Pozitif(HucreTami(s.ui)));
+  if (const Tutar izin = HucreTutari(s.uiucret); izin > Tutar()) d.KisiHucresi("fc", satir, izin);
+  TarihYaz(d, satir, "fq", "gb", s.girtar);
+  TarihYaz(d, satir, "gm", "gx", s.ciktar);
+  d.KisiHucresi("hi", satir, Kod(s.eksik));
+  d.KisiHucresi("hz", satir, Kod(s.ciksebeb));
+}
+
+// Gives the number of people. The sums come last: where an eleventh person stands on their line, they are what counts.
+int KisileriYaz(Dolduran& d, const BildirgeKagidi& k) {
+  KazancBolumu toplam;
+  int kisi = 0;
+  for (const auto& s : k.satirlar) {
+    if (HucreSayisi(s.sigkol) <= 0) continue;
+    const KazancBolumu kazanc = KazanciBol(s);
+    KisiYaz(d, IlkKisiSatiri + kisi++ * KisiSatirAdimi, s, kazanc);
+    toplam.ucret += kazanc.ucret;
+    toplam.ikramiye += kazanc.ikramiye;
+  }
+  d.KisiHucresi("dc", ToplamSatiri, std::int64_t(k.toplamlar.sigortali));
+  d.KisiHucresi("dj", ToplamSatiri, toplam.ucret);
+  d.KisiHucresi("ea", ToplamSatiri, toplam.ikramiye);
+  d.KisiHucresi("es", ToplamSatiri, std::int64_t(k.toplamlar.ucretliGun));
+  d.KisiHucresi("fc", ToplamSatiri, k.toplamlar.ucretliKazanc);
+  return kisi;
+}
+
+std::string TasmaUyarisi(int kisi) {
+  if (kisi <= TabloKisiSayisi) return {};
+  return "Excel formunda " + std::to_string(TabloKisiSayisi) + " kişilik yer var, bildirgede " + std::to_string(kisi) +
+         " kişi var.\n11. kişi toplamların satırına, sonrakiler onun altına yazıldı.";
+}
+
+Sonuc<std::string> EskiSablon(const std::string& dosya, const std::string& donusturucu) {
+  auto xlsx = XlsxeCevir(dosya, donusturucu);
+  if (xlsx) return std::move(*xlsx);
+  return Hata{dosya + ": Excel formu eski biçimde (.xls) ve çevrilemedi. LibreOffice kurunuz ya da formu Excel'de " +
+              ".xlsx olarak kaydediniz."};
+}
+
+}  // namespace
+
+Sonuc<BildirgeTablosu> BildirgeTablosuYap(std::string sablon, const BildirgeKagidi& kagit) {
+  if (kagit.satirlar.empty()) return BildirgeTablosu{std::move(sablon), {}};
+  auto kitap = XlsxSablon::Ac(std::move(sablon));
+  if (!kitap) return kitap.Hatasi();
+  Dolduran d(*kitap);
+  ExcelBosalt(d);
+  BelgeYaz(d, kagit);
+  TaraflariYaz(d, kagit.firma, kagit.arac);
+  SayaclariYaz(d, kagit.toplamlar);
+  BranslariYaz(d, kagit);
+  const int kisi = KisileriYaz(d, kagit);
+  d.SetExcel("cg178", Metin(kagit.muhasebeci.adsoyad));
+  d.SetExcel("cg183", Metin(kagit.muhasebeci.sicil));
+  if (!d.Sonucu()) return d.Sonucu().Hatasi();
+  auto baytlar = kitap->Bitir();
+  if (!baytlar) return baytlar.Hatasi();
+  return BildirgeTablosu{std::move(*baytlar), TasmaUyarisi(kisi)};
+}
+
+Sonuc<std::string> TabloSablonu(const std::vector<std::string>& dizinler, const std::string& donusturucu) {
+  std::string aranan;
+  for (const auto& dizin : dizinler) {
+    const std::string yol = dizin + SablonAdi;
+    if (auto xlsx = DosyaOku(yol + ".xlsx")) return std::move(*xlsx);
+    if (DosyaOku(yol + ".xls")) return EskiSablon(yol + ".xls", donusturucu);
+    aranan += "\n" + yol + ".xlsx";
+  }
+  return Hata{"Excel formu bulunamadı, aranan yerler:" + aranan};
+}
+
+Sonuc<std::string> TabloSablonu(const Oturum& oturum) {
+  std::vector dizinler{oturum.DataPath};
+  if (!oturum.PrgPath.empty()) dizinler.push_back(oturum.PrgPath);
+  dizinler.push_back(VeriDizini("sablon"));
+  return TabloSablonu(dizinler);
+}
+
+}  // namespace belvani

@@ -1,0 +1,181 @@
+#include "declarations/bildirgexml.h"
+
+#include <algorithm>
+
+#include "core/sayi.h"
+#include "core/turkce.h"
+
+namespace belvani {
+namespace {
+
+constexpr std::size_t IsimHarfi = 18;
+constexpr std::string_view RaporIsareti = "2";
+constexpr std::string_view BozanIsaretler = "\"&<";
+
+std::string IkiHane(int sayi) {
+  return sayi < 10 ? "0" + std::to_string(sayi) : std::to_string(sayi);
+}
+
+std::string_view MahiyetHarfi(BelgeMahiyeti mahiyet) {
+  switch (mahiyet) {
+    case BelgeMahiyeti::Iptal:
+      return "I";
+    case BelgeMahiyeti::Ek:
+      return "E";
+    case BelgeMahiyeti::Asil:
+      return "A";
+  }
+  return {};
+}
+
+// Day and month: 1 February is "0102".
+std::string GunAy(Tarih gun) {
+  return IkiHane(gun.Gun()) + IkiHane(gun.Ay());
+}
+
+std::string Isim(std::string_view hucre) {
+  return std::string(Kirp(IlkHarfler(hucre, IsimHarfi)));
+}
+
+// The second block of control characters, which ISO-8859-9 has behind the letters of ASCII.
+bool UstDenetim(char c) {
+  const auto bayt = static_cast<unsigned char>(c);
+  return bayt >= 0x80 && bayt < 0xA0;
+}
+
+bool Yazilabilir(std::string_view metin) {
+  const bool yalin = std::ranges::all_of(metin, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  return yalin || KodSayfasinaSigar(metin, KodSayfasi::Iso8859_9);
+}
+
+class Yazan {
+ public:
+  explicit Yazan(Yuvarlayici yuvarla) : yuvarla_(yuvarla) {}
+
+  BildirgeDosyasi Yaz(const Bildirge& bildirge, const IsyeriBilgileri& isyeri) {
+    Satir(R"(<?xml version="1.0" encoding="iSO-8859-9" ?>)");
+    Satir("<AYLIKBILDIRGELER>");
+    IsyeriYaz(isyeri);
+    BordroYaz(bildirge.secim);
+    GruplariYaz(bildirge.satirlar, isyeri.FirmaKanun);
+    Satir("</AYLIKBILDIRGELER>");
+    BildirgeDosyasi dosya{KodSayfasina(metin_, KodSayfasi::Iso8859_9), std::move(sorunlar_)};
+    std::erase_if(dosya.icerik, UstDenetim);
+    return dosya;
+  }
+
+ private:
+  void Satir(std::string_view satir) { metin_.append(satir).append("\r\n"); }
+
+  // ` AD="deger"`
+  void Ozellik(std::string_view ad, std::string_view deger) {
+    const std::string temiz = DenetimsizMetin(deger);
+    if (temiz.find_first_of(BozanIsaretler) != std::string::npos)
+      Sorun(ad, "\" & < işaretlerinden biri var, dosya okunamaz");
+    if (!Yazilabilir(temiz)) Sorun(ad, "dosyaya yazılamayan harf var, yerine ? konur");
+    metin_.append(" ").append(ad).append("=\"").append(temiz).append("\"");
+  }
+  void Sorun(std::string_view ad, std::string_view ne) {
+    sorunlar_.push_back(sahip_ + ": " + std::string(ad) + " bilgisinde " + std::string(ne));
+  }
+
+  void DoluysaOzellik(std::string_view ad, std::string_view deger) {
+    if (!deger.empty()) Ozellik(ad, deger);
+  }
+  void PozitifseOzellik(std::string_view ad, const std::string& hucre) {
+    if (HucreSayisi(hucre) > 0) Ozellik(ad, Kirp(hucre));
+  }
+  void TarihOzelligi(std::string_view ad, const std::string& hucre) {
+    if (const Tarih gun = HucreTarihi(hucre); !gun.Bos()) Ozellik(ad, GunAy(gun));
+  }
+
+  void IsyeriYaz(const IsyeriBilgileri& isyeri) {
+    sahip_ = "İşyeri";
+    metin_ += "\t<ISYERI";
+    Ozellik("ISYERISICIL", isyeri.IsyeriSicil);
+    Ozellik("KONTROLNO", isyeri.KontrolNo);
+    Ozellik("ISYERIARACINO", isyeri.AraciNo);
+    Ozellik("ISYERIUNVAN", isyeri.IsyeriUnvan);
+    Ozellik("ISYERIADRES", isyeri.IsyeriAdres);
+    DoluysaOzellik("ISYERIVERGINO", isyeri.IsyeriVergiNo);
+    Satir(" />");
+  }
+
+  void BordroYaz(const BildirgeSecimi& secim) {
+    metin_ += "\t<BORDRO";
+    Ozellik("DONEMAY", IkiHane(secim.ay));
+    Ozellik("DONEMYIL", std::to_string(secim.yil));
+    Ozellik("BELGEMAHIYET", MahiyetHarfi(secim.mahiyet));
+    Satir(" />");
+  }
+
+  void GruplariYaz(const std::vector<BildirgeSatiri>& satirlar, const std::string& FirmaKanun) {
+    std::string belgeTuru, kanun;
+    int sira = 0;
+    for (const auto& satir : satirlar) {
+      const std::string satirKanunu(HucreSayisi(satir.kanun) == 0 ? FirmaKanun : Kirp(satir.kanun));
+      sahip_ = SatirSahibi(satir);
+      if (sira == 0 || satir.sigkol != belgeTuru || satirKanunu != kanun) {
+        if (sira > 0) GrupKapat();
+        belgeTuru = satir.sigkol;
+        kanun = satirKanunu;
+        sira = 0;
+        GrupAc(belgeTuru, kanun);
+      }
+      SigortaliYaz(satir, ++sira);
+    }
+    if (sira > 0) GrupKapat();
+  }
+
+  void GrupAc(std::string_view belgeTuru, std::string_view kanun) {
+    metin_ += "\t<BILDIRGELER";
+    Ozellik("BELGETURU", belgeTuru);
+    Ozellik("KANUN", kanun);
+    Satir(">");
+    Satir("\t\t<SIGORTALILAR>");
+  }
+  void GrupKapat() {
+    Satir("\t\t</SIGORTALILAR>");
+    Satir("\t</BILDIRGELER>");
+  }
+
+  void SigortaliYaz(const BildirgeSatiri& satir, int sira) {
+    metin_ += "\t\t\t<SIGORTALI";
+    Ozellik("SIRA", std::to_string(sira));
+    Ozellik("SIGORTALISICIL", satir.sskno);
+    DoluysaOzellik("TCKNO", satir.tcno);
+    Ozellik("AD", Isim(satir.adi));
+    Ozellik("SOYAD", Isim(satir.soyadi));
+    DoluysaOzellik("ILKSOYAD", Isim(satir.ilksoyadi));
+    Ozellik("PEK", YalinMetin(yuvarla_(HucreTutari(satir.primkazanc))));
+    Ozellik("PRIM_IKRAMIYE", YalinMetin(yuvarla_(HucreTutari(satir.ikramiye))));
+    Ozellik("GUN", SayiMetni(HucreSayisi(satir.gun)));
+    TarihOzelligi("GIRISGUN", satir.girtar);
+    TarihOzelligi("CIKISGUN", satir.ciktar);
+    PozitifseOzellik("UCRETLIIZINGUN", satir.ui);
+    PozitifseOzellik("UIPEK", satir.uiucret);
+    PozitifseOzellik("EKSIKGUNSAYISI", satir.eksikgunsayisi);
+    PozitifseOzellik("EKSIKGUNNEDENI", satir.eksik);
+    PozitifseOzellik("ISTENCIKISNEDENI", satir.ciksebeb);
+    DoluysaOzellik("MESLEKKOD", Kirp(satir.meslekkod));
+    if (HucreSayisi(satir.rapcalismadi) > 0) Ozellik("RAPCALISTI", RaporIsareti);
+    Satir(" />");
+  }
+
+  Yuvarlayici yuvarla_;
+  std::string metin_;
+  std::string sahip_;  // of the values being written
+  std::vector<std::string> sorunlar_;
+};
+
+}  // namespace
+
+BildirgeDosyasi BildirgeXml(const Bildirge& bildirge, const IsyeriBilgileri& isyeri, Yuvarlayici yuvarla) {
+  return Yazan(yuvarla).Yaz(bildirge, isyeri);
+}
+
+std::string XmlDosyaAdi(const BildirgeSecimi& secim) {
+  return "Bordro" + std::to_string(secim.kanun) + IkiHane(secim.ay) + std::to_string(secim.yil) + ".xml";
+}
+
+}  // namespace belvani

@@ -1,0 +1,32 @@
+#include "declarations/ebildirgeadresi.h"
+
+#include "core/dosya.h"
+#include "core/ini.h"
+#include "core/turkce.h"
+
+namespace belvani {
+namespace {
+
+constexpr const char* Dosya = "belvani.ini";
+constexpr std::string_view Bolum = "Internet";
+constexpr std::string_view Anahtar = "EBildirge";
+constexpr const char* VarsayilanAdres = "https://ebildirge.sgk.gov.tr/";
+
+bool WebAdresiMi(std::string_view adres) {
+  return (adres.starts_with("https://") || adres.starts_with("http://")) && !adres.ends_with("//") &&
+         adres.find_first_of(" \t\r\n\"") == std::string_view::npos;
+}
+
+}  // namespace
+
+std::string EBildirgeAdresi(const std::string& dataPath) {
+  const std::string adres = IniOku(Bolum, Anahtar, VarsayilanAdres, DizinSonu(dataPath) + Dosya);
+  return WebAdresiMi(adres) ? adres : VarsayilanAdres;
+}
+
+Durum EBildirgeAdresiYaz(const std::string& dataPath, const std::string& adres) {
+  if (!WebAdresiMi(adres)) return Hata{"Adres http:// veya https:// ile başlamalıdır"};
+  return IniYaz(Bolum, Anahtar, adres, DizinSonu(dataPath) + Dosya);
+}
+
+}  // namespace belvani

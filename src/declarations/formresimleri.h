@@ -1,0 +1,51 @@
+// The forms that a user may go over before they are printed: drawn pages whose values he moves and edits, by the word
+// that selects them.
+//
+//   "ek9"   the monthly declaration       values named as in bildirgeformu.h
+//   "ek10"  the missing-days form         "isveren.unvan", "kisi3.tcno", "muhasebeci.adsoyad"
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "declarations/bildirgekagidi.h"
+#include "printing/formsayfasi.h"
+
+namespace belvani {
+
+// All pages of the declaration; the first is the form itself.
+std::vector<FormSayfasi> Ek9Resmi(const BildirgeKagidi& kagit);
+
+// A person who was paid for fewer days than the month has.
+struct EksikGunKisisi {
+  std::string sskno{};
+  std::string tcno{};
+  std::string adi{};
+  std::string soyadi{};
+  int gun = 0;
+  int eksikGun = 0;
+  int sebep = 0;  // code
+};
+
+struct EksikGunFormu {
+  int yil = 0;
+  int ay = 1;
+  Firma firma{};
+  Arac arac{};
+  Muhasebeci muhasebeci{};
+  std::vector<EksikGunKisisi> kisiler{};
+};
+
+constexpr std::size_t EksikGunSayfaKisisi = 20;
+
+// Twenty people a page, at least one page.
+std::vector<FormSayfasi> Ek10Resmi(const EksikGunFormu& form);
+
+// The people of a declaration who have a reason for missing days, in its order.
+std::vector<EksikGunKisisi> EksikGunKisileri(const std::vector<BildirgeSatiri>& satirlar);
+
+// Asked before a form without people is printed.
+inline constexpr const char* BosFormSorusu = "Boş rapor yazılsın mı?";
+inline constexpr const char* EksikGunBos = "Eksik gün raporu boş";
+
+}  // namespace belvani

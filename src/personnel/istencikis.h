@@ -1,0 +1,61 @@
+// Leaving: the day, code and reason on a person's card, and taking them back. Pay records stay as they are; the payroll
+// of the last month reads the day.
+//
+// Also the payments of the release paper ("İBRANAME"), which are typed for it and kept nowhere. On the shared cursors,
+// as in personnel/kart.h.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/bildirim.h"
+#include "core/session/oturum.h"
+#include "core/tarih.h"
+#include "core/tutar.h"
+#include "personnel/cikiskodlari.h"
+
+namespace belvani {
+
+struct CikisFormu {
+  std::string kod;
+  std::string adSoyad;  // this and the next are shown, not typed
+  std::string sskno;
+  Tarih girtar;
+  Tarih ciktar;
+  std::uint8_t cikiskodu = 0;  // position in CikisKodlari
+  std::string cikissebebi;
+  std::string adr1;  // where he will be found; from his identity, and for the paper alone
+  std::string adr2;
+  std::string tel;
+};
+
+std::optional<CikisFormu> CikisBul(Oturum& o, std::string_view kod);
+
+// Records that the person has left; a second time overwrites the first. He may leave on the day of his hiring. The
+// first check that fails is told, and nothing is saved then.
+bool CikisKaydet(Oturum& o, const CikisFormu& form, Bildirim& bildirim);
+
+// Makes the person employed again, without a question. False: there is no such person, which is not told, or the store
+// refused, which is.
+bool CikisGeriAl(Oturum& o, std::string_view kod, Bildirim& bildirim);
+
+// The payments of the release, as the screen's grid shows them; its last row is "TOPLAM".
+inline constexpr std::string_view OdemeSatirlari[] = {"Ücretler+ Fazla Mesai", "Kull. İzin Ücretleri", "Sosyal Haklar",
+                                                      "İhbar Tazminatı", "Kıdem Tazminatı"};
+inline constexpr std::string_view OdemeKolonlari[] = {"Brüt Kazanç", "Yasal Kesinti", "Net Kazanç", "Özel Kesinti",
+                                                      "Net Ödenen"};
+inline constexpr std::string_view OdemeToplamEtiketi = "TOPLAM";
+
+using OdemeSatiri = std::array<Tutar, std::size(OdemeKolonlari)>;
+
+struct IbranameOdemeleri {
+  std::array<OdemeSatiri, std::size(OdemeSatirlari)> satirlar{};
+
+  // The sum of each column. Throws TutarTasmasi.
+  OdemeSatiri Toplam() const;
+};
+
+}  // namespace belvani

@@ -1,0 +1,132 @@
+#include "printing/belge.h"
+
+#include <algorithm>
+
+#include "printing/cairotuval.h"
+#include "printing/doskod.h"
+#include "printing/metincizimi.h"
+#include "printing/metinyazici.h"
+#include "printing/xlsxyazici.h"
+
+namespace belvani {
+namespace {
+
+// The first line whose right end is free; a new one at the end when there is none.
+UstSatir& SagiBosSatir(Rapor& rapor) {
+  const auto bos = [](const UstSatir& s) { return s.sag.empty() && !s.sayfaNo && !s.sayfaSayisi; };
+  const auto yer = std::ranges::find_if(rapor.ustSatirlar, bos);
+  return yer != rapor.ustSatirlar.end() ? *yer : rapor.ustSatirlar.emplace_back();
+}
+
+void SirketiAyarla(Rapor& rapor, bool yazilsin, const std::string& unvan) {
+  const bool var = std::ranges::any_of(rapor.ustSatirlar, &UstSatir::sirket);
+  if (!yazilsin) {
+    for (auto& satir : rapor.ustSatirlar)
+      if (satir.sirket) satir.sol.clear();
+  } else if (!var && !unvan.empty()) {
+    rapor.ustSatirlar.insert(rapor.ustSatirlar.begin(), {.sol = unvan, .sirket = true});
+  }
+}
+
+void SayfaNoAyarla(Rapor& rapor, bool yazilsin) {
+  const auto numarali = [](const UstSatir& s) { return s.sayfaNo || s.sayfaSayisi; };
+  const auto yer = std::ranges::find_if(rapor.ustSatirlar, numarali);
+  if (yazilsin && yer == rapor.ustSatirlar.end()) {
+    UstSatir& satir = SagiBosSatir(rapor);
+    satir.sag = "Sayfa No : ";
+    satir.sayfaNo = true;
+  } else if (!yazilsin && yer != rapor.ustSatirlar.end()) {
+    yer->sag.clear();
+    yer->sayfaNo = yer->sayfaSayisi = false;
+  }
+}
+
+}  // namespace
+
+Rapor BasligiAyarla(Rapor rapor, const YzcAyarlari& ayar, const std::string& unvan, Tarih bugun) {
+  rapor.baslik = ayar.YzcBaslikYaz ? ayar.YzcBaslik : std::string();
+  SirketiAyarla(rapor, ayar.YzcSirketYaz, unvan);
+  SayfaNoAyarla(rapor, ayar.YzcSayfaNoYaz);
+  if (ayar.YzcTarihYaz) SagiBosSatir(rapor).sag = "Tarih : " + bugun.Metin();
+  std::erase_if(rapor.ustSatirlar, [](const UstSatir& s) {
+    return s.sol.empty() && s.orta.empty() && s.sag.empty() && !s.sayfaNo && !s.sayfaSayisi;
+  });
+  return rapor;
+}
+
+RaporBelgesi::RaporBelgesi(Rapor rapor, YzcAyarlari ilk, GrafikDuzeni grafik, SayfaDuzeni sayfa, std::string unvan)
+    : Belge(std::move(ilk)),
+      tablo_(std::make_shared<const Rapor>(std::move(rapor))),
+      kagit_(tablo_),
+      grafik_(std::move(grafik)),
+      sayfa_(sayfa),
+      unvan_(std::move(unvan)) {}
+
+void RaporBelgesi::Ayarla(const YzcAyarlari& ayar) {
+  Belge::Ayarla(ayar);
+  kagit_ = std::make_shared<Rapor>(BasligiAyarla(*tablo_, ayar, unvan_, Tarih::Bugun()));
+  grafik_.yon = ayar.YzcYon;
+  sayfa_.satirSayisi = ayar.YzcSatir;
+}
+
+std::unique_ptr<CizilenBelge> RaporBelgesi::Cizim() const {
+  return std::make_unique<GrafikRapor>(*kagit_, grafik_);
+}
+
+std::string RaporBelgesi::Metin() const {
+  return MetinRaporu(*kagit_, sayfa_);
+}
+
+std::string RaporBelgesi::MetinUyarisi() const {
+  const int en = KagitBicimle(*kagit_, sayfa_).en;
+  if (en <= sayfa_.en) return {};
+  return "Liste yazıcının satırına sığmıyor: satırlar " + std::to_string(en) + " harf, yazıcı en çok " +
+         std::to_string(sayfa_.en) + " harf yazar. Kolon sayısını azaltınız.";
+}
+
+Sonuc<std::string> RaporBelgesi::Xlsx() const {
+  return XlsxRaporu(*tablo_);
+}
+
+YaprakliBelge::YaprakliBelge(YaprakBelgesi yapraklar, SayfadaYaprak sayfada, YzcAyarlari ilk)
+    : Belge(std::move(ilk)), yapraklar_(std::move(yapraklar)), sayfada_(sayfada) {}
+
+void YaprakliBelge::Ayarla(const YzcAyarlari& ayar) {
+  Belge::Ayarla(ayar);
+  yapraklar_.baslik = ayar.YzcBaslikYaz ? ayar.YzcBaslik : std::string();
+}
+
+std::unique_ptr<CizilenBelge> YaprakliBelge::Cizim() const {
+  return std::make_unique<GrafikYapraklar>(yapraklar_, sayfada_);
+}
+
+std::string YaprakliBelge::Metin() const {
+  return MetinYapraklari(yapraklar_, {.satirSayisi = Ayar().YzcSatir});
+}
+
+Sonuc<std::string> YaprakliBelge::Xlsx() const {
+  return XlsxYapraklari(yapraklar_);
+}
+
+std::unique_ptr<CizilenBelge> BelgeSayfalari(const Belge& belge) {
+  if (!belge.Ayar().YzcDosMod)
+    if (auto cizim = belge.Cizim()) return cizim;
+  return std::make_unique<MetinCizimi>(belge.Metin(), belge.Ayar().YzcSatir);
+}
+
+Sonuc<PdfCiktisi> BelgePdf(const Belge& belge, Ilerleme* ilerleme) {
+  const auto sayfalar = BelgeSayfalari(belge);
+  if (sayfalar->SayfaSayisi() == 0) return PdfCiktisi{};
+  PdfTuvali tuval({.baslik = belge.Baslik()});
+  if (!SayfalariCiz(*sayfalar, tuval, ilerleme)) return PdfCiktisi{};
+  auto baytlar = tuval.Belge();
+  if (!baytlar) return baytlar.Hatasi();
+  return PdfCiktisi{std::move(*baytlar), sayfalar->Uyari()};
+}
+
+std::string BelgeHam(const Belge& belge) {
+  const std::string metin = belge.Metin();
+  return DosBelgesi(metin, EnUzunSatir(metin) > NormalSatirHarfi ? DosSiklik::Sikisik : DosSiklik::Normal);
+}
+
+}  // namespace belvani

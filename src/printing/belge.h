@@ -1,0 +1,104 @@
+// Belge: a paper in all the forms that it has: drawn pages, text for a dot-matrix printer, a table for the screen, a
+// spreadsheet. Its print command says nothing of any of them; the print settings choose.
+//
+//   RaporBelgesi belge(DefterRaporu(…), {.YzcYon = KagitYonu::Yatay});
+//   belge.Ayarla(ayar);                             // as the print dialog was left
+//   Sonuc<PdfCiktisi> pdf = BelgePdf(belge);
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "core/sonuc.h"
+#include "core/tarih.h"
+#include "printing/grafikyaprak.h"
+#include "printing/grafikyazici.h"
+#include "printing/yaprak.h"
+#include "printing/yzcayar.h"
+
+namespace belvani {
+
+class Belge {
+ public:
+  // What its print dialog starts with.
+  explicit Belge(YzcAyarlari ilk) : ayar_(std::move(ilk)) {}
+  virtual ~Belge() = default;
+
+  // Heads, lines of a page, orientation, copies and way as the settings say. Without it the document is as it was made.
+  virtual void Ayarla(const YzcAyarlari& ayar) { ayar_ = ayar; }
+  const YzcAyarlari& Ayar() const { return ayar_; }
+
+  virtual std::string Baslik() const = 0;
+  // The drawn form, as long as this document lives; null for one that has none.
+  virtual std::unique_ptr<CizilenBelge> Cizim() const = 0;
+  // The text form, UTF-8; empty for one that has none, or nothing to print.
+  virtual std::string Metin() const = 0;
+  // Told in place of a text print that does not exist.
+  virtual std::string MetinYok() const { return "Bu belge yalnız grafik yazıcıdan alınabilir."; }
+  // What its user should know about the text form (lines too long for the printer); else empty.
+  virtual std::string MetinUyarisi() const { return {}; }
+  // For the screen; null for a paper that is no table.
+  virtual std::shared_ptr<const Rapor> Tablo() const { return nullptr; }
+  // The spreadsheet file.
+  virtual Sonuc<std::string> Xlsx() const = 0;
+
+ private:
+  YzcAyarlari ayar_;
+};
+
+// A list.
+class RaporBelgesi : public Belge {
+ public:
+  // `unvan` of the company stands in the head when the settings ask for it and the report does not have it itself.
+  RaporBelgesi(Rapor rapor, YzcAyarlari ilk = {}, GrafikDuzeni grafik = {}, SayfaDuzeni sayfa = {},
+               std::string unvan = {});
+
+  void Ayarla(const YzcAyarlari& ayar) override;
+  std::string Baslik() const override { return kagit_->baslik; }
+  std::unique_ptr<CizilenBelge> Cizim() const override;
+  std::string Metin() const override;
+  std::string MetinUyarisi() const override;
+  std::shared_ptr<const Rapor> Tablo() const override { return tablo_; }
+  Sonuc<std::string> Xlsx() const override;
+
+ private:
+  std::shared_ptr<const Rapor> tablo_;
+  std::shared_ptr<const Rapor> kagit_;  // with the head of the settings
+  GrafikDuzeni grafik_;
+  SayfaDuzeni sayfa_;
+  std::string unvan_;
+};
+
+// Slips.
+class YaprakliBelge final : public Belge {
+ public:
+  YaprakliBelge(YaprakBelgesi yapraklar, SayfadaYaprak sayfada, YzcAyarlari ilk = {});
+
+  void Ayarla(const YzcAyarlari& ayar) override;
+  std::string Baslik() const override { return yapraklar_.baslik; }
+  std::unique_ptr<CizilenBelge> Cizim() const override;
+  std::string Metin() const override;
+  Sonuc<std::string> Xlsx() const override;
+
+ private:
+  YaprakBelgesi yapraklar_;
+  SayfadaYaprak sayfada_;
+};
+
+// The report's head as the settings want it: title, day of printing, page number, company. What is off and stands in
+// the report goes; what is on and does not stand there comes.
+Rapor BasligiAyarla(Rapor rapor, const YzcAyarlari& ayar, const std::string& unvan, Tarih bugun);
+
+struct PdfCiktisi {
+  std::string baytlar;  // empty: nothing to print, or given up
+  std::string uyari;
+};
+
+// The pages of the way that the settings choose: of the text way, the text pages as they would print.
+std::unique_ptr<CizilenBelge> BelgeSayfalari(const Belge& belge);
+Sonuc<PdfCiktisi> BelgePdf(const Belge& belge, Ilerleme* ilerleme = nullptr);
+
+// The text form as the bytes that a dot-matrix printer takes; empty without any.
+std::string BelgeHam(const Belge& belge);
+
+}  // namespace belvani

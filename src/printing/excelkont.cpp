@@ -1,0 +1,132 @@
+#include "printing/excelkont.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+
+#include "core/dosya.h"
+#include "core/turkce.h"
+#include "printing/xlscevir.h"
+#include "printing/xlsxkitap.h"
+#include "printing/xlsxsayfa.h"
+
+namespace belvani {
+namespace {
+
+constexpr const char* ExcelYok = "Excell Yüklü Değil veya Desteklenmeyen Versiyon";
+constexpr int EnGenisKolon = 60;
+constexpr int KolonPayi = 2;
+constexpr std::size_t EnUzunAd = 80;  // letters; with Turkish ones well below what a file system takes
+
+// A file name out of a title: no separators, no dot in front.
+std::string DosyaAdi(std::string_view baslik) {
+  std::string ad = DenetimsizMetin(baslik);
+  std::replace_if(
+      ad.begin(), ad.end(), [](char c) { return std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos; },
+      '_');
+  ad = Kirp(IlkHarfler(Kirp(ad), EnUzunAd));
+  if (ad.starts_with('.')) ad[0] = '_';
+  return ad.empty() ? "tablo" : ad;
+}
+
+std::string Bicim(const Hucre& deger, int paraOndaligi) {
+  if (std::holds_alternative<Tutar>(deger)) return XlsxSifirliBicim(paraOndaligi);
+  return std::holds_alternative<Tarih>(deger) ? XlsxTarihBicimi : "";
+}
+
+int HucreHarfi(const Hucre& deger, int paraOndaligi) {
+  RaporKolonu kolon;
+  kolon.ondalik = paraOndaligi;
+  return int(HarfSayisi(HucreMetni(deger, kolon)));
+}
+
+}  // namespace
+
+Durum excelkont::OpenExcell(const std::string& dosya) {
+  hucreler_.clear();
+  sablon_.reset();
+  kusur_.reset();
+  dosya_.clear();
+  acik_ = false;
+  if (!dosya.empty())
+    if (const Durum acildi = SablonAc(dosya); !acildi) return acildi;
+  acik_ = true;
+  return Tamam();
+}
+
+Durum excelkont::SablonAc(const std::string& dosya) {
+  auto baytlar = DosyaOku(dosya);
+  if (!baytlar) return Hata{dosya + ": dosya okunamadı"};
+  if (XlsMi(*baytlar)) {
+    auto cevrilen = XlsxeCevir(dosya, islevler_.donusturucu);
+    if (!cevrilen) return Hata{ExcelYok};
+    baytlar = std::move(*cevrilen);
+  }
+  auto sablon = XlsxSablon::Ac(std::move(*baytlar));
+  if (!sablon) return sablon.Hatasi();
+  sablon_ = std::move(*sablon);
+  sablonAdi_ = std::filesystem::path(dosya).stem().string();
+  return Tamam();
+}
+
+Durum excelkont::Kusur(Durum durum) {
+  if (!durum && !kusur_) kusur_ = durum.Hatasi();
+  return durum;
+}
+
+Durum excelkont::SetExcell(int satir, int kolon, const Hucre& deger, ExcelYazisi yazi) {
+  if (!acik_) return Kusur(Hata{"Açık bir çalışma kitabı yok"});
+  const std::string adres = satir < 1 || kolon < 1 ? "" : XlsxAdresi(satir - 1, kolon - 1);
+  if (!XlsxYeriOku(adres))
+    return Kusur(Hata{"Sayfada satır " + std::to_string(satir) + ", kolon " + std::to_string(kolon) + " yok"});
+  if (sablon_) return Kusur(sablon_->Yaz("", adres, deger));
+  hucreler_.insert_or_assign({satir, kolon}, YeniHucre{deger, yazi});
+  return Tamam();
+}
+
+Durum excelkont::SetExcel(std::string_view adres, const Hucre& deger, ExcelYazisi yazi) {
+  const auto yer = XlsxYeriOku(adres);
+  if (!yer) return Kusur(Hata{"Hücre adresi değil: '" + std::string(adres) + "'"});
+  return SetExcell(yer->satir, yer->kolon, deger, yazi);
+}
+
+Sonuc<std::string> excelkont::YeniKitap() const {
+  XlsxKitap kitap(Baslik);
+  const int ondalik = std::clamp(ParaOndaligi, 0, 4);
+  std::map<int, int> enler;
+  // A heading runs over into its empty neighbours and does not widen its column.
+  for (const auto& [yer, hucre] : hucreler_)
+    if (hucre.yazi == ExcelYazisi::Normal)
+      enler[yer.second] = std::max(enler[yer.second], HucreHarfi(hucre.deger, ondalik));
+  for (const auto& [kolon, harf] : enler) kitap.KolonEni(kolon - 1, std::min(harf, EnGenisKolon) + KolonPayi);
+  for (const auto& [yer, hucre] : hucreler_)
+    kitap.Yaz(yer.first - 1, yer.second - 1, hucre.deger,
+              kitap.StilEkle({.sayiBicimi = Bicim(hucre.deger, ondalik), .koyu = hucre.yazi == ExcelYazisi::Koyu}));
+  return kitap.Bitir();
+}
+
+// In a directory of its own, so that a workbook which is still open from before stays as it is.
+Sonuc<std::string> excelkont::DosyaYeri() const {
+  if (islevler_.yolSor) return islevler_.yolSor().value_or("");
+  std::error_code hata;
+  std::string dizin = (std::filesystem::temp_directory_path(hata) / "belvani-XXXXXX").string();
+  if (hata || ::mkdtemp(dizin.data()) == nullptr) return Hata{"Geçici dizin açılamadı"};
+  return dizin + "/" + DosyaAdi(Baslik.empty() && sablon_ ? sablonAdi_ : Baslik) + ".xlsx";
+}
+
+Durum excelkont::CloseExcell() {
+  if (!acik_) return Hata{"Açık bir çalışma kitabı yok"};
+  if (kusur_) return *kusur_;
+  const auto baytlar = sablon_ ? sablon_->Bitir() : YeniKitap();
+  if (!baytlar) return baytlar.Hatasi();
+  const auto yol = DosyaYeri();
+  if (!yol) return yol.Hatasi();
+  if (yol->empty()) return Tamam();
+  if (const Durum yazildi = DosyaYaz(*yol, *baytlar); !yazildi) return yazildi;
+  acik_ = false;
+  dosya_ = *yol;
+  if (gorunur_ && (!islevler_.ac || !islevler_.ac(dosya_))) return Hata{ExcelYok};
+  return Tamam();
+}
+
+}  // namespace belvani

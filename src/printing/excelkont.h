@@ -1,0 +1,78 @@
+// excelkont: a sheet that is filled cell by cell, for papers that are no list: a new workbook, or a form that the user
+// has as a workbook.
+//
+//   excelkont excel({.ac = …});
+//   excel.Baslik = "TAZMİNAT HESAPLAMA TABLOSU";
+//   excel.OpenExcell();                                    // or OpenExcell(dizin + "aylik.xls")
+//   excel.SetExcell(1, 1, excel.Baslik, ExcelYazisi::Koyu);
+//   excel.SetExcel("b2", Tutar(1250.5));
+//   Durum durum = excel.CloseExcell();
+//
+// Rows and columns count from 1, as a spreadsheet counts them: SetExcell(40, 213, …) is the cell "he40". Numbers and
+// days go in as such. A form keeps its own looks, so bold letters are for new workbooks only; one of the old form
+// (.xls) is first turned into .xlsx by the office program of this computer.
+//
+// The first failure of a cell is kept and comes back from CloseExcell, so a writer of two hundred cells asks once.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "printing/xlsxsablon.h"
+
+namespace belvani {
+
+enum class ExcelYazisi { Normal, Koyu };
+
+struct ExcelIslevleri {
+  // Hands the finished file to the user's spreadsheet program; false: there is none.
+  std::function<bool(const std::string& dosya)> ac;
+  // Where the file goes; nothing when its user gave up. Not bound: a new directory among the temporary ones.
+  std::function<std::optional<std::string>()> yolSor = nullptr;
+  std::string donusturucu = "soffice";
+};
+
+class excelkont {
+ public:
+  explicit excelkont(ExcelIslevleri islevler) : islevler_(std::move(islevler)) {}
+
+  std::string Baslik;  // names sheet and file of a new workbook
+  int ParaOndaligi = 2;
+
+  // A new workbook, or the workbook of the file. What was open and not closed is dropped.
+  Durum OpenExcell(const std::string& dosya = {});
+
+  Durum SetExcell(int satir, int kolon, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
+  Durum SetExcel(std::string_view adres, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
+
+  // Writes the file and opens it in the user's program. When that fails the file stays where Dosya() tells.
+  Durum CloseExcell();
+  void ExVisible(bool gorunur) { gorunur_ = gorunur; }  // false: CloseExcell only writes the file
+
+  const std::string& Dosya() const { return dosya_; }  // as it was written; "" before, and when its user gave up
+
+ private:
+  struct YeniHucre {
+    Hucre deger;
+    ExcelYazisi yazi;
+  };
+
+  Durum SablonAc(const std::string& dosya);
+  Durum Kusur(Durum durum);
+  Sonuc<std::string> YeniKitap() const;
+  Sonuc<std::string> DosyaYeri() const;
+
+  ExcelIslevleri islevler_;
+  std::map<std::pair<int, int>, YeniHucre> hucreler_;  // by row and column, from 1
+  std::optional<XlsxSablon> sablon_;
+  std::string sablonAdi_;
+  std::optional<Hata> kusur_;
+  std::string dosya_;
+  bool acik_ = false;
+  bool gorunur_ = true;
+};
+
+}  // namespace belvani

@@ -1,0 +1,40 @@
+#include "printing/formbelgesi.h"
+
+namespace belvani {
+namespace {
+
+class FormCizimi final : public CizilenBelge {
+ public:
+  explicit FormCizimi(const std::vector<FormSayfasi>& sayfalar) : sayfalar_(sayfalar) {}
+
+  int SayfaSayisi() const override { return int(sayfalar_.size()); }
+  void SayfaCiz(int no, Tuval& tuval) const override { FormCiz(sayfalar_.at(std::size_t(no) - 1), tuval); }
+
+ private:
+  const std::vector<FormSayfasi>& sayfalar_;
+};
+
+YzcAyarlari VarOlanYollar(YzcAyarlari ayar, bool cizim, bool metin) {
+  ayar.YzcGrafikAcik = cizim;
+  ayar.YzcDosAcik = metin;
+  if (!cizim || !metin) ayar.YzcDosMod = metin;
+  return ayar;
+}
+
+}  // namespace
+
+FormBelgesi::FormBelgesi(YzcAyarlari ilk, std::vector<FormSayfasi> sayfalar, std::string metin)
+    : Belge(VarOlanYollar(std::move(ilk), !sayfalar.empty(), !metin.empty())),
+      sayfalar_(std::move(sayfalar)),
+      metin_(std::move(metin)) {}
+
+std::unique_ptr<CizilenBelge> FormBelgesi::Cizim() const {
+  if (sayfalar_.empty()) return nullptr;
+  return std::make_unique<FormCizimi>(sayfalar_);
+}
+
+Sonuc<std::string> FormBelgesi::Xlsx() const {
+  return Hata{"Bu belge bir form; Excel'e gönderilemez."};
+}
+
+}  // namespace belvani

@@ -1,0 +1,31 @@
+// FormBelgesi: a paper of fixed forms: its drawn pages and its text, as they were made. It is no table.
+//
+//   FormBelgesi belge({.YzcBaslik = "Vizite Kağıdı"}, sayfalar, metin);
+#pragma once
+
+#include <vector>
+
+#include "printing/belge.h"
+#include "printing/formsayfasi.h"
+
+namespace belvani {
+
+// A screen that lets its user move and edit the values gives the pages back by a new FormBelgesi.
+class FormBelgesi final : public Belge {
+ public:
+  // `sayfalar` or `metin` may be empty: such a paper has only the other form, and the dialog offers no more.
+  FormBelgesi(YzcAyarlari ilk, std::vector<FormSayfasi> sayfalar, std::string metin);
+
+  std::string Baslik() const override { return Ayar().YzcBaslik; }
+  std::unique_ptr<CizilenBelge> Cizim() const override;
+  std::string Metin() const override { return metin_; }
+  Sonuc<std::string> Xlsx() const override;
+
+  const std::vector<FormSayfasi>& Sayfalar() const { return sayfalar_; }
+
+ private:
+  std::vector<FormSayfasi> sayfalar_;
+  std::string metin_;
+};
+
+}  // namespace belvani

@@ -1,0 +1,98 @@
+#include "printing/formsayfasi.h"
+
+#include <algorithm>
+#include <cassert>
+
+#include "core/turkce.h"
+
+namespace belvani {
+namespace {
+
+void HucrelereYaz(const FormAlani& alan, Tuval& tuval) {
+  std::string_view kalan = alan.deger;
+  const int harf = int(HarfSayisi(kalan));
+  const double en = alan.yer.en / alan.hucre;
+  const int ilk = alan.hiza == MetinHizasi::Sag ? alan.hucre - harf : 0;
+  for (int i = 0; i < harf; ++i) {
+    const std::string_view basamak = IlkHarfler(kalan, 1);
+    kalan.remove_prefix(basamak.size());
+    MetinKutuya(tuval, {alan.yer.x + (ilk + i) * en, alan.yer.y, en, alan.yer.boy}, basamak, alan.yazi,
+                MetinHizasi::Orta);
+  }
+}
+
+void AlanCiz(const FormAlani& alan, Tuval& tuval) {
+  if (alan.hucre > 0 && int(HarfSayisi(alan.deger)) <= alan.hucre) return HucrelereYaz(alan, tuval);
+  MetinKutuya(tuval, alan.yer, alan.deger, alan.yazi, alan.hiza);
+}
+
+// Letters without the control characters; a value has no blanks at its ends.
+std::string TemizDeger(std::string_view deger) {
+  return std::string(Kirp(DenetimsizMetin(deger)));
+}
+
+}  // namespace
+
+void FormCiz(const FormSayfasi& sayfa, Tuval& tuval) {
+  tuval.SayfaBasla(sayfa.boy);
+  for (const auto& k : sayfa.kutular) tuval.Kutu(k.yer, k.kalinlik);
+  for (const auto& c : sayfa.cizgiler) tuval.Cizgi(c.bas, c.son, c.kalinlik);
+  for (const auto& r : sayfa.resimler) tuval.Resim(r.yer, r.png);
+  for (const auto& y : sayfa.yazilar) MetinKutuya(tuval, y.yer, y.metin, y.yazi, y.hiza);
+  for (const auto& a : sayfa.alanlar) AlanCiz(a, tuval);
+  tuval.SayfaBitir();
+}
+
+void FormKurucu::Kutu(const Dikdortgen& yer, double kalinlik) {
+  sayfa_.kutular.push_back({yer, kalinlik});
+}
+
+void FormKurucu::Cizgi(Nokta bas, Nokta son, double kalinlik) {
+  sayfa_.cizgiler.push_back({bas, son, kalinlik});
+}
+
+void FormKurucu::Resim(const Dikdortgen& yer, std::string_view png) {
+  sayfa_.resimler.push_back({yer, std::string(png)});
+}
+
+void FormKurucu::Etiket(const Dikdortgen& yer, std::string_view metin, MetinHizasi hiza) {
+  sayfa_.yazilar.push_back({yer, std::string(metin), etiketYazisi, hiza});
+}
+
+void FormKurucu::Alan(std::string_view ad, const Dikdortgen& yer, std::string_view deger, MetinHizasi hiza) {
+  assert(std::ranges::none_of(sayfa_.alanlar, [&](const FormAlani& a) { return a.ad == ad; }));
+  sayfa_.alanlar.push_back({std::string(ad), yer, TemizDeger(deger), degerYazisi, hiza});
+}
+
+void FormKurucu::Basamaklar(std::string_view ad, const HucreDizisi& hucreler, std::string_view deger,
+                            MetinHizasi hiza) {
+  const Dikdortgen tamami = hucreler.Tamami();
+  Kutu(tamami);
+  for (int i = 1; i < hucreler.sayi; ++i) {
+    const double x = hucreler.x + i * hucreler.en;
+    Cizgi({x, hucreler.y}, {x, hucreler.y + hucreler.boy});
+  }
+  Alan(ad, tamami, deger, hiza);
+  sayfa_.alanlar.back().hucre = hucreler.sayi;
+}
+
+void FormKurucu::Isaret(std::string_view ad, const Dikdortgen& yer, bool isaretli) {
+  Kutu(yer);
+  Alan(ad, yer, isaretli ? "X" : "", MetinHizasi::Orta);
+}
+
+Dikdortgen FormKurucu::Tablo(Nokta solUst, const std::vector<double>& kolonEnleri, double satirBoyu, int satirSayisi) {
+  Dikdortgen tamami{solUst.x, solUst.y, 0, satirBoyu * satirSayisi};
+  for (const double en : kolonEnleri) {
+    if (tamami.en > 0) Cizgi({solUst.x + tamami.en, tamami.y}, {solUst.x + tamami.en, tamami.y + tamami.boy});
+    tamami.en += en;
+  }
+  for (int i = 1; i < satirSayisi; ++i) {
+    const double y = solUst.y + i * satirBoyu;
+    Cizgi({solUst.x, y}, {solUst.x + tamami.en, y});
+  }
+  Kutu(tamami);
+  return tamami;
+}
+
+}  // namespace belvani

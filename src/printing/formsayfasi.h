@@ -1,0 +1,108 @@
+// FormSayfasi: a page of a fixed form, as data: its frame and words, and the values written into it.
+//
+// The frame (boxes, lines, words, pictures) is the paper as the law prints it. The values are named, so that a screen
+// can show them over the drawn form, move them and change their texts; what it changed is drawn the same way.
+//
+//   FormKurucu form(A4(KagitYonu::Dikey));
+//   form.Kutu({10, 10, 60, 8});
+//   form.Etiket({11, 10, 20, 8}, "SSK No");
+//   form.Basamaklar("sskno", {.x = 30, .y = 11, .sayi = 7, .en = 5, .boy = 6}, "1034567");
+//   FormCiz(form.Sayfa(), tuval);
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "printing/tuval.h"
+
+namespace belvani {
+
+struct FormYazisi {
+  Dikdortgen yer;
+  std::string metin;
+  YaziBicimi yazi;
+  MetinHizasi hiza = MetinHizasi::Sol;
+};
+
+struct FormCizgisi {
+  Nokta bas;
+  Nokta son;
+  double kalinlik = InceCizgi;
+};
+
+struct FormKutusu {
+  Dikdortgen yer;
+  double kalinlik = InceCizgi;
+};
+
+struct FormResmi {
+  Dikdortgen yer;
+  std::string png;
+};
+
+struct FormAlani {
+  std::string ad;  // only one of this name on a page
+  Dikdortgen yer;
+  std::string deger;
+  YaziBicimi yazi;
+  MetinHizasi hiza = MetinHizasi::Sol;
+  int hucre = 0;  // not 0: one letter a cell, `yer` being that many cells of equal width
+};
+
+struct FormSayfasi {
+  KagitBoyu boy;
+  std::vector<FormKutusu> kutular;
+  std::vector<FormCizgisi> cizgiler;
+  std::vector<FormResmi> resimler;
+  std::vector<FormYazisi> yazilar;
+  std::vector<FormAlani> alanlar;
+};
+
+// One page, from SayfaBasla to SayfaBitir. Words and values stand in the middle of the height of their boxes; what is
+// wider than its box is made narrower, never cut. A value with more letters than cells is written as one text over all
+// of them, narrow enough.
+void FormCiz(const FormSayfasi& sayfa, Tuval& tuval);
+
+// Cells of equal size, side by side, for one digit each.
+struct HucreDizisi {
+  double x = 0;
+  double y = 0;
+  int sayi = 0;
+  double en = 0;   // of a cell
+  double boy = 0;  // of a cell
+
+  Dikdortgen Tamami() const { return {x, y, sayi * en, boy}; }
+};
+
+// Puts a page together. Words and values take the letters that are set at the time.
+class FormKurucu {
+ public:
+  explicit FormKurucu(KagitBoyu boy) { sayfa_.boy = boy; }
+
+  YaziBicimi etiketYazisi{.punto = 7};
+  YaziBicimi degerYazisi{.punto = 9, .kalinlik = YaziKalinligi::Kalin};
+
+  void Kutu(const Dikdortgen& yer, double kalinlik = InceCizgi);
+  void Cizgi(Nokta bas, Nokta son, double kalinlik = InceCizgi);
+  void Resim(const Dikdortgen& yer, std::string_view png);
+  void Etiket(const Dikdortgen& yer, std::string_view metin, MetinHizasi hiza = MetinHizasi::Sol);
+  void Alan(std::string_view ad, const Dikdortgen& yer, std::string_view deger, MetinHizasi hiza = MetinHizasi::Sol);
+
+  // The cells with their frame, and a value in them from the left, or so that its last letter is in the last cell.
+  void Basamaklar(std::string_view ad, const HucreDizisi& hucreler, std::string_view deger,
+                  MetinHizasi hiza = MetinHizasi::Sag);
+
+  // A box to tick: "X" in it, or nothing.
+  void Isaret(std::string_view ad, const Dikdortgen& yer, bool isaretli);
+
+  // The frame of a table with its inner lines; gives the whole of it.
+  Dikdortgen Tablo(Nokta solUst, const std::vector<double>& kolonEnleri, double satirBoyu, int satirSayisi);
+
+  const FormSayfasi& Sayfa() const { return sayfa_; }
+
+ private:
+  FormSayfasi sayfa_;
+};
+
+}  // namespace belvani

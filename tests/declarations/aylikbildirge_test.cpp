@@ -1,0 +1,182 @@
+// The declaration over a store: which records, in which order, and what editing does.
+#include "sirket.h"
+
+namespace belvani {
+namespace {
+
+using test::BildirgeSirketi;
+using test::Sigortali;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+TEST(AylikBildirge, SecimSiralamaVeAtlananlar) {
+  BildirgeSirketi s;
+  const auto ekle = [&](const char* kod, const char* sskno, const char* kanun, int durum) -> Sigortali {
+    Sigortali p(kod);
+    p.sicil.sskno = sskno;
+    p.sicil.kanun = kanun;
+    p.sicil.sskdurum = std::uint8_t(durum);
+    s.Ekle(p);
+    return p;
+  };
+  ekle("a", "1000", "05510", 0);
+  ekle("b", "999", "05510", 0);
+  ekle("c", "5", "05510", 1);
+  ekle("d", "77777", "", 0);
+  Sigortali ikinciBordro = ekle("e", "998", "05510", 0);
+  ikinciBordro.brd.no = 2;
+  s.Yaz(ikinciBordro.brd);
+  Sigortali kurul("f"), kimliksiz("g"), kartsiz("h");
+  kurul.sicil.tur = 1;
+  s.Ekle(kurul);
+  s.Yaz(kimliksiz.sicil);
+  s.Yaz(kimliksiz.brd);
+  s.Yaz(kartsiz.brd);
+  s.Ekle(Sigortali("i", 2009, 8));
+
+  const Bildirge& b = s.Hesapla();
+  EXPECT_THAT(s.Kolon(&BildirgeSatiri::sskno), ElementsAre("77777", "998", "998", "999", "1000", "5"));
+  EXPECT_THAT(b.kimliksizler, ElementsAre("g"));
+  EXPECT_EQ(b.toplamlar.sigortali, 6);
+  EXPECT_EQ(b.toplamlar.gun, 180);
+  EXPECT_THAT(s.bildirge.KanunSecenekleri(), ElementsAre("Tümü", "", "05510"));
+  EXPECT_EQ(s.bildirge.BelgeTurleri()[2], "02-S.G.D.P. Tabi Çalışanlar");
+  EXPECT_EQ(s.bildirge.BelgeTurleri().size(), 34u);
+
+  s.bildirge.Secim().kanun = 1;
+  ASSERT_TRUE(s.bildirge.Hesapla());
+  EXPECT_THAT(s.Kolon(&BildirgeSatiri::sskno), ElementsAre("77777"));
+  s.bildirge.Secim().kanun = 2;
+  s.bildirge.Secim().belgeTuru = 2;
+  ASSERT_TRUE(s.bildirge.Hesapla());
+  EXPECT_THAT(s.Kolon(&BildirgeSatiri::sskno), ElementsAre("5"));
+  EXPECT_EQ(s.bildirge.OranMetni(4), "30");
+  s.bildirge.Secim().ay = 6;
+  ASSERT_TRUE(s.bildirge.Hesapla());
+  EXPECT_TRUE(b.satirlar.empty());
+  EXPECT_EQ(b.toplamlar, BildirgeToplamlari());
+}
+
+TEST(AylikBildirge, OncekiAylaKarsilastirir) {
+  BildirgeSirketi s;
+  const auto onceki = [&](const char* kod, int yil, int ay, double matrah, int gun) {
+    Sigortali p(kod, yil, ay);
+    p.brd.sskmatrahisveren = Tutar(matrah);
+    p.brd.ng = std::uint8_t(gun - p.brd.ht);
+    s.Yaz(p.brd);
+  };
+  for (const char* kod : {"1ayni", "2gun", "3matrah", "4yok", "5ilk", "6kod", "7para"}) {
+    Sigortali p(kod, 2009, 1);
+    p.sicil.sskno = std::string(1, kod[0]);
+    if (p.sicil.kod == "7para") p.brd.sskmatrahisveren = Tutar(2'000'000.0);
+    s.Ekle(p);
+  }
+  onceki("1ayni", 2008, 12, 1000, 30);
+  onceki("2gun", 2008, 12, 1000, 29);
+  onceki("3matrah", 2008, 12, 1000.01, 30);
+  onceki("4yok", 2008, 11, 1000, 30);
+  onceki("4yok", 2009, 12, 1000, 30);
+  onceki("5ilk", 2008, 12, 1000, 30);
+  onceki("5ilk", 2008, 12, 900, 15);
+  onceki("6KOD", 2008, 12, 1000, 30);
+  onceki("7para", 2008, 12, 2, 30);
+  ASSERT_TRUE(s.bildirge.Ac());
+  s.bildirge.Secim().ay = 1;
+  ASSERT_TRUE(s.bildirge.Hesapla());
+  EXPECT_THAT(s.Kolon(&BildirgeSatiri::farkmivar), ElementsAre("0", "1", "1", "1", "0", "0", "1"));
+  EXPECT_EQ(s.Kolon(&BildirgeSatiri::primkazanc)[6], "2") << "compared as stored, shown converted";
+}
+
+TEST(AylikBildirge, TersDonemVeTehlikeOrani) {
+  BildirgeSirketi s;
+  s.motor().Calistir("update firma set tersfirma = 1, tehlike = 1, sinif = 1");
+  Sigortali p("1");
+  p.sicil.girtar = Tarih(2009, 8, 14);
+  s.Ekle(p);
+  EXPECT_EQ(s.Hesapla().toplamlar.giren, 1);
+  EXPECT_EQ(s.bildirge.OranMetni(0), "1.3");
+  EXPECT_EQ(s.bildirge.PrimMetni(0), "13.00");
+  EXPECT_EQ(s.bildirge.PrimMetni(1), "");
+  EXPECT_EQ(s.bildirge.GenelToplamMetni(), "168.00") << "13 + 125 + 0 + 30";
+}
+
+TEST(AylikBildirge, SatirlarDuzenlenirVeSilinir) {
+  BildirgeSirketi s;
+  Sigortali p("1");
+  p.brd.katki = Tutar(50.0);
+  s.Ekle(p);
+  s.Ekle(Sigortali("2"));
+  const Bildirge& b = s.Hesapla();
+  BildirgeSatiri satir = b.satirlar[0];
+  satir.gun = "29";
+  satir.primkazanc = "2,000.00";
+  EXPECT_TRUE(s.bildirge.SatirYaz(0, satir));
+  EXPECT_EQ(b.satirlar[0].primkazanc, "2000");
+  EXPECT_EQ(b.toplamlar.gun, 59);
+  EXPECT_EQ(s.bildirge.PrimMetni(0), "30.00");
+  EXPECT_TRUE(s.bildirge.SatirSil(1));
+  EXPECT_EQ(b.toplamlar.sigortali, 1);
+  EXPECT_EQ(s.bildirge.PrimMetni(1), "-50.00") << "of the records that were read";
+
+  BildirgeToplamlari t = b.toplamlar;
+  t.kisaVade = Tutar(100.0);
+  EXPECT_TRUE(s.bildirge.ToplamlariYaz(t));
+  EXPECT_EQ(s.bildirge.PrimMetni(0), "1.00");
+
+  satir.primkazanc = "900000000000000";
+  EXPECT_TRUE(s.bildirge.SatirYaz(5, satir)) << "behind the last: a new row";
+  EXPECT_FALSE(s.bildirge.SatirYaz(0, satir));
+  EXPECT_THAT(s.bildirim.Al(), ElementsAre("Uyarı: Tutar sınırı aşıldı"));
+  EXPECT_EQ(b.toplamlar, BildirgeToplamlari());
+  EXPECT_EQ(b.satirlar.size(), 2u);
+  EXPECT_TRUE(s.bildirge.Hesapla());
+  EXPECT_EQ(b.toplamlar.gun, 60) << "calculated anew, the edits are gone";
+}
+
+TEST(AylikBildirge, OkunamayanDepoSoylenir) {
+  BildirgeSirketi s;
+  s.Ekle(Sigortali("1"));
+  s.Hesapla();
+  s.motor().Calistir("drop table kimlik");
+  EXPECT_FALSE(s.bildirge.Hesapla());
+  EXPECT_THAT(s.bildirim.Al(), ElementsAre(HasSubstr("Uyarı: Veritabanı işlemi yapılamadı")));
+  EXPECT_TRUE(s.bildirge.Tamami().satirlar.empty());
+  s.motor().Calistir("delete from firma");
+  EXPECT_TRUE(s.bildirge.Ac());
+  EXPECT_THAT(s.bildirim.Al(), ElementsAre("Bilgi: İşyeri Tanımlamaları Yapılmamış"));
+}
+
+TEST(AylikBildirge, KagitKosullari) {
+  using enum AylikBildirge::CiktiKarari;
+  using enum AylikBildirge::Cikti;
+  BildirgeSirketi s;
+  s.Hesapla();
+  EXPECT_EQ(s.bildirge.KagitKosullari(Kagit), BosForm);
+  s.bildirim.cevap = false;
+  EXPECT_EQ(s.bildirge.KagitKosullari(Kagit), Yok);
+  EXPECT_FALSE(s.bildirge.XmlKosullari());
+  for (const char* kod : {"1", "2", "3", "4", "5"}) s.Ekle(Sigortali(kod));
+  s.Hesapla();
+  EXPECT_TRUE(s.bildirge.XmlKosullari());
+  EXPECT_EQ(s.bildirge.KagitKosullari(Kagit), Yok);
+  s.bildirge.Secim().belgeTuru = 1;
+  EXPECT_EQ(s.bildirge.KagitKosullari(Kagit), Yok);
+  EXPECT_FALSE(s.bildirge.XmlKosullari());
+  s.bildirge.Secim().kanun = 1;
+  EXPECT_EQ(s.bildirge.KagitKosullari(Tablo), Bildirge);
+  s.Ekle(Sigortali("6"));
+  ASSERT_TRUE(s.bildirge.Hesapla());
+  EXPECT_EQ(s.bildirge.KagitKosullari(Tablo), Bildirge);
+  EXPECT_EQ(s.bildirge.KagitKosullari(Kagit), Bildirge);
+  const std::string bos = "Soru: Bildirge HesaplatılmamışBoş Bildirge Basılsın mı ?";
+  const std::string kollar = "\nSigorta Kollarına Göre Alınız";
+  EXPECT_THAT(s.bildirim.Al(),
+              ElementsAre(bos, bos, "Bilgi: Bildirge Hesaplatılmamış",
+                          "Bilgi: Bildirge Yazılımında Tümünü Birden Alamazsınız" + kollar,
+                          "Bilgi: Bildirge Yazılımında kanunların Tümünü Birden Alamazsınız" + kollar,
+                          "Bilgi: Bildirgeyi  Tüm Sigorta Kolları İçin Hesaplatın",
+                          "Bilgi: 5 veya Daha Fazla Personel için E-Bildirge Kullanma Zorunluluğu Vardır.."));
+}
+
+}  // namespace
+}  // namespace belvani
