@@ -1,17 +1,19 @@
 // Speed of the screens: lists of 100,000 rows, the lookup window at 10,000 people, a person with ten years of records
-// on the payroll screen, the exit of a field.
+// on the payroll screen, the exit of a field, a ledger of 10,000 people in the report grid.
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <benchmark/benchmark.h>
 #include <clocale>
 
+#include "defteruret.h"
 #include "payroll/screens/brdhazir.h"
-#include "sirketuret.h"
 #include "ui/dclist.h"
 #include "ui/dialogyok.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
+#include "ui/perekr.h"
+#include "ui/sistembaskisi.h"
 
 namespace belvani {
 namespace {
@@ -88,7 +90,8 @@ struct BuyukSirket {
   ParametreDeposu parametreler;
   DialogYok dialoglar;
   Yok gosterici;
-  EkranBaglami ekran{sirket.o, bildirim, dialoglar, gosterici};
+  SistemBaskisi baski;
+  EkranBaglami ekran{sirket.o, bildirim, dialoglar, gosterici, baski.ortam};
 
   BuyukSirket() {
     parametreler.yasal = sirket.kosullar.yasal;
@@ -164,6 +167,60 @@ void RehberTusu(benchmark::State& durum) {
   }
 }
 BENCHMARK(RehberTusu)->Unit(benchmark::kMillisecond);
+
+struct BuyukDefter {
+  std::shared_ptr<const Rapor> rapor = std::make_shared<const Rapor>(bench::OrnekDefter(10'000));
+  std::unique_ptr<perekr> Ac() const {
+    auto form = std::make_unique<perekr>(Sirket().ekran, rapor, PerekrIslevleri());
+    form->resize(1325, 640);
+    form->show();
+    QCoreApplication::processEvents();
+    return form;
+  }
+};
+
+const BuyukDefter& Defter() {
+  static const BuyukDefter defter;
+  return defter;
+}
+
+// From the finished report to the painted grid.
+void GridAcilisi(benchmark::State& durum) {
+  Defter();
+  Sirket();
+  for (auto _ : durum) benchmark::DoNotOptimize(Defter().Ac());
+}
+BENCHMARK(GridAcilisi)->Unit(benchmark::kMillisecond);
+
+// One page of rows down, painted.
+void GridKaydirma(benchmark::State& durum) {
+  const auto form = Defter().Ac();
+  QApplication::setActiveWindow(form.get());
+  form->Xgrid1().setFocus();
+  for (auto _ : durum) {
+    if (form->Xgrid1().CurrentRow() > 9'900) form->Xgrid1().CurrentRow(0);
+    Bas(Qt::Key_PageDown);
+  }
+}
+BENCHMARK(GridKaydirma)->Unit(benchmark::kMillisecond);
+
+// By an amount (1) or a name (3), and back to the report's order.
+void GridSiralama(benchmark::State& durum) {
+  const auto form = Defter().Ac();
+  for (auto _ : durum) {
+    for (int i = 0; i < 3; ++i) form->Xgrid1().Sirala(int(durum.range(0)));
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(GridSiralama)->Arg(3)->Arg(9)->Unit(benchmark::kMillisecond);
+
+// A text that stands nowhere: every cell is looked at.
+void GridArama(benchmark::State& durum) {
+  const auto form = Defter().Ac();
+  const QString aranan = durum.range(0) == 0 ? "gökçex" : "99.999";
+  for (auto _ : durum) benchmark::DoNotOptimize(form->Xgrid1().Bul(aranan, xgrid::Yon::Ileri));
+}
+BENCHMARK(GridArama)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace belvani

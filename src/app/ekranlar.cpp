@@ -8,6 +8,13 @@
 #include "core/screens/kulfrm.h"
 #include "core/screens/muhbil.h"
 #include "core/screens/yapifrm.h"
+#include "declarations/screens/yaylik.h"
+#include "documents/screens/agibrd.h"
+#include "documents/screens/brdbas.h"
+#include "documents/screens/brdicmal.h"
+#include "documents/screens/brdui.h"
+#include "documents/screens/brdzarf.h"
+#include "documents/screens/setbrd.h"
 #include "payroll/screens/agifrm.h"
 #include "payroll/screens/brdhazir.h"
 #include "payroll/screens/fazmes.h"
@@ -24,6 +31,8 @@
 #include "personnel/screens/kontfrm.h"
 #include "personnel/screens/nufus.h"
 #include "personnel/screens/perbul.h"
+#include "personnel/screens/percik.h"
+#include "personnel/screens/pergir.h"
 #include "personnel/screens/perkart.h"
 
 namespace belvani {
@@ -50,21 +59,21 @@ const std::vector<EkranKaydi>& Tablo() {
       {"Özlük", "Personel Kartları", "perkart", "kisi", "", Yap<perkart>},
       {"Özlük", "Personel Kimlik Bilgileri", "nufus", "kimlik", "", Yap<nufus>},
       {"Özlük", "Eş ve Çocuk Bilgileri", "escofrm", "aile", "", Yap<escofrm>},
-      {"Özlük", "Personel Girişi", "pergir"},
-      {"Özlük", "Personel Çıkışı", "percik"},
+      {"Özlük", "Personel Girişi", "pergir", "yeni", "", Yap<pergir>},
+      {"Özlük", "Personel Çıkışı", "percik", "cikis", "", Yap<percik>},
       {"Özlük", "Personel Devir Bilgileri", "perdev"},
       {"Özlük", "Personel Aylık Bilgileri", "kartxfrm", "", "Kartotex Raporu"},
       {"Özlük", "Ücretler", "ucrfrm", "", "Ücretlendirme"},
 
       {"Bordro", "Bordro Hazırlık", "brdhazir", "bordro", "", Yap<brdhazir>},
-      {"Bordro", "Bordro Basımı", "brdbas"},
-      {"Bordro", "Özel Bordro Basımı", "ozelbrd"},
-      {"Bordro", "Ücret Pusulası", "brdzarf"},
-      {"Bordro", "Bordro Özeti", "brdozet"},
-      {"Bordro", "Asgari Geçim İndirimi Bordrosu", "agibrd"},
-      {"Bordro", "Ücretli İzinler Bordrosu", "ucrizin"},
+      {"Bordro", "Bordro Basımı", "brdbas", "yazici", "", Yap<brdbas>},
+      {"Bordro", "Özel Bordro Basımı", "setbrd", "yazici", "", Yap<setbrd>},
+      {"Bordro", "Ücret Pusulası", "brdzarf", "kimlik", "", Yap<brdzarf>},
+      {"Bordro", "Bordro Özeti", "brdicmal", "tablo", "", Yap<brdicmal>},
+      {"Bordro", "Asgari Geçim İndirimi Bordrosu", "agibrd", "oran", "", Yap<agibrd>},
+      {"Bordro", "Ücretli İzinler Bordrosu", "brdui", "takvim", "", Yap<brdui>},
 
-      {"Bildirgeler", "Aylık Bildirge (ek 9-4a)", "yaylik"},
+      {"Bildirgeler", "Aylık Bildirge (ek 9-4a)", "yaylik", "tablo", "", Yap<yaylik>},
       {"Bildirgeler", "Eksik Gün Bildirim Formu EK-10", "ek10"},
       {"Bildirgeler", "Aylık Bildirge", "aylik", "", "Aylık Bildirge Ek-1,Ek-2"},
       {"Bildirgeler", "S.G.D.P. Bildirgesi", "sgdp"},

@@ -8,6 +8,7 @@
 #include "core/screens/startfrm.h"
 #include "ui/bildirimkutusu.h"
 #include "ui/metin.h"
+#include "ui/sistembaskisi.h"
 #include "ui/stil.h"
 
 namespace belvani {
@@ -55,7 +56,8 @@ class Program {
   AnaPencereGosterici gosterici_;
   Oturum oturum_;
   ParametreDeposu parametreler_;
-  EkranBaglami ekran_{oturum_, bildirim_, dialoglar_, gosterici_};
+  SistemBaskisi baski_;
+  EkranBaglami ekran_{oturum_, bildirim_, dialoglar_, gosterici_, baski_.ortam};
 };
 
 }  // namespace

@@ -18,6 +18,7 @@
 #include "ui/dialogyok.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
+#include "ui/sistembaskisi.h"
 #include "ui/stil.h"
 
 namespace belvani {
@@ -166,7 +167,8 @@ class Resimler {
   AnaPencereGosterici gosterici_;
   Oturum oturum_;
   ParametreDeposu parametreler_;
-  EkranBaglami ekran_{oturum_, bildirim_, dialoglar_, gosterici_};
+  SistemBaskisi baski_;
+  EkranBaglami ekran_{oturum_, bildirim_, dialoglar_, gosterici_, baski_.ortam};
 };
 
 }  // namespace

@@ -130,7 +130,8 @@ class DarListe final : public QComboBox {
 
 class ListeDenetimi final : public AlanDenetimi {
  public:
-  ListeDenetimi(const belvani::Alan& alan, QWidget* ust) : AlanDenetimi(alan), liste_(alan.ek.harf > 0 ? new DarListe(ust) : new QComboBox(ust)) {
+  ListeDenetimi(const belvani::Alan& alan, QWidget* ust)
+      : AlanDenetimi(alan), liste_(alan.ek.harf > 0 ? new DarListe(ust) : new QComboBox(ust)) {
     for (const std::string_view secenek : alan.ek.liste) liste_->addItem(Yazi(secenek));
     liste_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     liste_->setMaxVisibleItems(20);
@@ -188,6 +189,11 @@ class SecenekDenetimi final : public AlanDenetimi {
       duzen->addWidget(dugme);
     }
     duzen->addStretch();
+    // Tab stops at the chosen one.
+    QObject::connect(grup_, &QButtonGroup::buttonToggled, parca_, [](QAbstractButton* dugme, bool secildi) {
+      dugme->setFocusPolicy(secildi ? Qt::StrongFocus : Qt::ClickFocus);
+    });
+    for (QAbstractButton* dugme : grup_->buttons()) dugme->setFocusPolicy(Qt::ClickFocus);
     QObject::connect(grup_, &QButtonGroup::idClicked, parca_, [this] { Degisti(); });
     Koy(std::int64_t(0));
   }

@@ -8,6 +8,7 @@
 
 #include "core/bildirim.h"
 #include "core/session/oturum.h"
+#include "printing/yazdir.h"
 
 namespace belvani {
 
@@ -48,6 +49,7 @@ struct EkranBaglami {
   Bildirim& bildirim;
   Dialoglar& dialoglar;
   FormGosterici& gosterici;
+  BaskiOrtami& baski;
 };
 
 // Shows a screen: FormGoster(baglam, std::make_unique<perkart>(baglam, …)).

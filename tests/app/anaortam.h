@@ -53,7 +53,7 @@ class AnaOrtam : public EkranOrtami {
   }
 
   AnaPencereGosterici gostericisi;
-  EkranBaglami baglam{oturum, bildirim, dialoglar, gostericisi};
+  EkranBaglami baglam{oturum, bildirim, dialoglar, gostericisi, baski};
   std::unique_ptr<anamenu> pencere;
 };
 

@@ -17,6 +17,8 @@
 #include "gecici.h"
 #include "payroll/hazirlik/parametredeposu.h"
 #include "payroll/parametre/mevzuat.h"
+#include "printing/sahtekuyruk.h"
+#include "printing/sahteport.h"
 #include "ui/form.h"
 #include "ui/metin.h"
 
@@ -82,13 +84,27 @@ struct EkranParcalari {
     FirmaYukle(oturum);
   }
 
+  bool Acildi(const std::string& dosya) {
+    acilanlar.push_back(dosya);
+    return dosyaAcilir;
+  }
+
   GeciciDizin dizin;
   ToplayanBildirim bildirim;
   Oturum oturum;
   ParametreDeposu parametreler;
   BetikDialoglari dialoglar;
   PencereGosterici gosterici;
-  EkranBaglami ekran{oturum, bildirim, dialoglar, gosterici};
+  SahteKuyruk kuyruk;
+  SahtePort port;
+  std::vector<std::string> acilanlar;  // files and addresses handed to the user's programs
+  bool dosyaAcilir = true;
+  BaskiOrtami baski{.kuyruk = kuyruk,
+                    .port = port,
+                    .programDizini = dizin.Yol(),
+                    .dosyaAc = [this](const std::string& dosya) { return Acildi(dosya); },
+                    .adresAc = [this](const std::string& adres) { return Acildi(adres); }};
+  EkranBaglami ekran{oturum, bildirim, dialoglar, gosterici, baski};
 };
 
 class EkranOrtami : public EkranParcalari {

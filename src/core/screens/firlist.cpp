@@ -4,10 +4,34 @@
 #include <QLineEdit>
 
 #include "core/session/sirketlistesi.h"
+#include "printing/kolonlar.h"
+#include "ui/basim.h"
 #include "ui/mesgul.h"
 #include "ui/metin.h"
 
 namespace belvani {
+namespace {
+
+constexpr const char* ListeBasligi = "Firmalar Listesi";
+
+const Kolonlar<SirketSatiri> kolonlar{
+    {"Firma", 24, [](auto& s) { return s.ad; }},
+    {"Ünvan", 60, [](auto& s) { return s.unvan; }},
+    {"Dönem", 8, [](auto& s) { return s.donem; }},
+};
+
+RaporBelgesi ListeBelgesi(const std::string& dataPath) {
+  Rapor rapor = RaporYap(kolonlar, SirketListesi(dataPath), 2);
+  rapor.baslik = rapor.ekranBasligi = ListeBasligi;
+  YzcAyarlari ayar;
+  ayar.YzcBaslik = ListeBasligi;
+  ayar.YzcSirketYaz = false;
+  GrafikDuzeni grafik;
+  grafik.punto = 9;
+  return {std::move(rapor), ayar, grafik};
+}
+
+}  // namespace
 
 firlist::firlist(EkranBaglami& baglam)
     : Form(baglam, "firlist", QStringLiteral("Firma Listesi")),
@@ -25,7 +49,7 @@ firlist::firlist(EkranBaglami& baglam)
   Govde()->addWidget(liste_, 1);
   Izle(aranan_);
   setTabOrder(aranan_, liste_);
-  if (secici_) SeciciYap();
+  secici_ ? SeciciYap() : CiktiKomutlari();
   ListeyiDoldur();
   IlkOdak(aranan_);
 }
@@ -41,6 +65,19 @@ void firlist::SeciciYap() {
     });
   TusBagla(Qt::Key_Return, {}, [this] { Sec(); });
   TusBagla(Qt::Key_Enter, QStringLiteral("Seç"), [this] { Sec(); });
+}
+
+void firlist::CiktiKomutlari() {
+  const auto komut = [this](Qt::Key tus, const char* ad, const char* simge, std::function<void(RaporBelgesi&)> islev) {
+    const auto yap = [this, islev] {
+      RaporBelgesi belge = ListeBelgesi(Oturumu().DataPath);
+      islev(belge);
+    };
+    TusBagla(QKeySequence(tus), QString::fromUtf8(ad), yap);
+    DugmeEkle(QString::fromUtf8(ad), simge, yap);
+  };
+  komut(Qt::Key_F8, "Yazdır", "yazici", [this](RaporBelgesi& belge) { BelgeBas(Baglam(), belge); });
+  komut(Qt::Key_F9, "Excel'e Gönder", "tablo", [this](RaporBelgesi& belge) { BelgeExceleGonder(Baglam(), belge); });
 }
 
 void firlist::ListeyiDoldur() {

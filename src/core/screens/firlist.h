@@ -1,5 +1,6 @@
 // firlist ("Firma Listesi"): all companies of the data path. `PencereTip` "pen" makes it a picker, which leaves the
-// company in `SeciliKod`: Enter or a double click chooses, Esc leaves without one. Otherwise it is a list to read.
+// company in `SeciliKod`: Enter or a double click chooses, Esc leaves without one. Otherwise it is a list to read,
+// print (F8) and send to a spreadsheet (F9).
 #pragma once
 
 #include "ui/dclist.h"
@@ -17,6 +18,7 @@ class firlist : public Form {
  private:
   void ListeyiDoldur();
   void SeciciYap();
+  void CiktiKomutlari();
   void Sec();
 
   bool secici_;

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "payroll/screens/parametreekrani.h"
-#include "payroll/screens/satirtablosu.h"
+#include "ui/satirtablosu.h"
 
 namespace belvani {
 

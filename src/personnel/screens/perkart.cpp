@@ -7,20 +7,13 @@
 
 #include "personnel/kart.h"
 #include "personnel/screens/resimkutusu.h"
+#include "personnel/screens/sigortakollari.h"
 #include "ui/metin.h"
 
 namespace belvani {
 namespace {
 
 constexpr auto FotoFiltresi = "Resim Dosyası(*.bmp,*.gif,*.jpg)|*.bmp;*.gif;*.jpg";
-
-// "01-Tüm Sigorta Kolları"; a person keeps the position in this list.
-std::vector<std::string> SigortaKollari(const HesapTurleri& turler) {
-  std::vector<std::string> adlar;
-  for (const HesapTuru& tur : turler)
-    if (tur.no != 0) adlar.push_back((tur.no < 10 ? "0" : "") + std::to_string(tur.no) + "-" + tur.ack);
-  return adlar;
-}
 
 AlanGrubu KimlikGrubu() {
   return {"Personel",

@@ -116,11 +116,14 @@ class SatirTablosu {
 
   // The cursor stays where it is when the number of rows does.
   void Doldur(const std::vector<Satir>& satirlar) {
-    if (liste_.ListCount() != int(satirlar.size())) {
+    const bool yeni = liste_.ListCount() != int(satirlar.size());
+    if (yeni) {
       liste_.Clear();
+      liste_.Model().TopluBasla();
       for (std::size_t i = 0; i < satirlar.size(); ++i) liste_.Add();
     }
     for (std::size_t i = 0; i < satirlar.size(); ++i) Goster(i, satirlar[i]);
+    if (yeni) liste_.Model().TopluBitir();
     if (liste_.CurSat() >= 0 || satirlar.empty()) return;
     const auto ilk = std::ranges::find_if(kolonlar_, [](const auto& k) { return bool(k.al); });
     liste_.HucreyeGit(0, (ilk == kolonlar_.end() ? kolonlar_.begin() : ilk)->ad);

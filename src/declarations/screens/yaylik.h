@@ -1,0 +1,43 @@
+// yaylik ("Aylık Bildirge (EK-9  (4a))"): the month's premium and service declaration. The grid and the totals are
+// views of AylikBildirge; what the user changes in them goes there at once, and every way out starts from there.
+//
+//   F5 Hesapla    F8 Yazıcıya Yazdır    F9 Excel'e gönderim    F11 E-Bildirge Hazırla
+#pragma once
+
+#include "declarations/aylikbildirge.h"
+#include "payroll/hazirlik/parametredeposu.h"
+#include "ui/form.h"
+#include "ui/satirtablosu.h"
+
+class QGridLayout;
+
+namespace belvani {
+
+class yaylik : public Form {
+ public:
+  yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler);
+
+  const AylikBildirge& Bildirge() const { return bildirge_; }
+
+ private:
+  QWidget* PrimTablosu();
+  void Hesapla();
+  void Goster();
+  void ToplamlariGoster();
+  bool SatirAl(int satir);
+  bool SatirSil(int satir);
+  void AlanDegisince(const AlanDenetimi& alan);
+  void Yazdir();
+  void ExceleGonder();
+  void EBildirge();
+
+  AylikBildirge bildirge_;
+  dclist* liste_;
+  SatirTablosu<BildirgeSatiri> tablo_;
+  std::array<QLabel*, BransSayisi> oranlar_{};
+  std::array<QLabel*, BransSayisi> primler_{};
+  QLabel* genelToplam_ = nullptr;
+  QLabel* eksikler_ = nullptr;
+};
+
+}  // namespace belvani

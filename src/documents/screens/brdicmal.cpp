@@ -1,0 +1,117 @@
+#include "documents/screens/brdicmal.h"
+
+#include <QLabel>
+#include <QTimer>
+
+#include "documents/icmalgrafigi.h"
+#include "printing/cairotuval.h"
+#include "ui/metin.h"
+#include "ui/onizleme.h"
+
+namespace belvani {
+namespace {
+
+constexpr double GrafikEniMm = 150;
+constexpr double GrafikBoyuMm = 72;
+constexpr double GrafikDpi = 96;
+constexpr int CerceveNoktasi = 10;  // pixels that the label itself needs
+constexpr double KenarPayi = 2;
+
+QString Hucre(const std::string& metin, const char* hiza) {
+  return QStringLiteral("<td align='%1' style='padding:2px 10px'>%2</td>").arg(hiza, Yazi(metin).toHtmlEscaped());
+}
+
+// The report's rows under their heads.
+QString SatirTablosu(const Rapor& rapor) {
+  QString html = QStringLiteral("<table cellspacing='0'><tr>");
+  const auto& kolonlar = rapor.Kolonlar();
+  const auto hiza = [&](std::size_t k) { return kolonlar[k].Sayisal() ? "right" : "left"; };
+  for (std::size_t k = 0; k < kolonlar.size(); ++k)
+    html += Hucre(kolonlar[k].kisaBaslik, hiza(k)).replace("<td", "<th").replace("</td", "</th");
+  html += "</tr>";
+  for (const auto& satir : rapor.Satirlar()) {
+    html += "<tr>";
+    for (std::size_t k = 0; k < kolonlar.size(); ++k)
+      html += Hucre(HucreMetni(satir.hucreler[k], kolonlar[k]), hiza(k));
+    html += "</tr>";
+  }
+  return html + "</table>";
+}
+
+QString BlokTablosu(const Rapor& rapor) {
+  QString html = QStringLiteral("<table cellspacing='0'>");
+  for (const auto& satir : rapor.sonBlok)
+    html += "<tr>" + Hucre(satir.etiket, "left") + Hucre(BlokMetni(satir, rapor), "right") + "</tr>";
+  return html + "</table>";
+}
+
+QLabel* KartYap(QWidget* ust, const char* ad) {
+  auto* etiket = new QLabel(ust);
+  etiket->setObjectName(ad);
+  etiket->setTextFormat(Qt::RichText);
+  etiket->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  etiket->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  return etiket;
+}
+
+}  // namespace
+
+brdicmal::brdicmal(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : BelgeEkrani(baglam, parametreler, "brdicmal", QStringLiteral("Bordro Özeti")),
+      satirlar_(KartYap(this, "satirlar")),
+      sayilar_(KartYap(this, "sayilar")),
+      grafik_(new QLabel(this)) {
+  AlanlariDiz({{DonemAlanlari("Yıl", "Ay")}});
+  auto* yatay = new QHBoxLayout;
+  auto* sag = new QVBoxLayout;
+  yatay->setSpacing(24);
+  yatay->addWidget(satirlar_);
+  sag->addWidget(sayilar_);
+  sag->addWidget(grafik_);
+  sag->addStretch(1);
+  yatay->addLayout(sag, 1);
+  Govde()->addLayout(yatay, 1);
+  grafik_->setObjectName("grafik");
+  grafik_->setFixedSize(int(GrafikEniMm / 25.4 * GrafikDpi) + CerceveNoktasi,
+                        int(GrafikBoyuMm / 25.4 * GrafikDpi) + CerceveNoktasi);
+  BelgeKomutlari();
+  Yukle(IlkSecim());
+  AlanDegisti = [this](AlanDenetimi&) { Goster(); };
+  Goster();
+}
+
+std::unique_ptr<Belge> brdicmal::BelgeYap() {
+  SecimFormu secim;
+  return Oku(secim) ? IcmalBelgesi(Kaynak(), secim.yil, secim.ay) : nullptr;
+}
+
+// The figures at once; the chart, which reads a year, when the screen has been painted.
+void brdicmal::Goster() {
+  const AlanDenetimi& yil = Denetim("yil");
+  if (!yil.Kusur().empty()) return;
+  if (const auto belge = Hazirla()) {
+    satirlar_->setText(SatirTablosu(*belge->Tablo()));
+    sayilar_->setText(BlokTablosu(*belge->Tablo()));
+  }
+  QTimer::singleShot(0, this, [this] { GrafikCiz(); });
+}
+
+void brdicmal::GrafikCiz() {
+  SecimFormu secim;
+  if (!Oku(secim)) return;
+  const double oran = devicePixelRatioF();
+  ResimTuvali tuval(GrafikDpi * oran, 1);
+  tuval.SayfaBasla({GrafikEniMm, GrafikBoyuMm});
+  try {
+    const Dikdortgen yer{KenarPayi, KenarPayi, GrafikEniMm - 2 * KenarPayi, GrafikBoyuMm - 2 * KenarPayi};
+    IcmalGrafigi(IcmalSerisiOku(Kaynak().motor, secim.yil, secim.ay), tuval, yer);
+  } catch (const MotorHatasi& hata) {
+    return Bildirimi().Uyari(hata.what());
+  }
+  tuval.SayfaBitir();
+  QImage resim = NoktaResmi(tuval);
+  resim.setDevicePixelRatio(oran);
+  grafik_->setPixmap(QPixmap::fromImage(std::move(resim)));
+}
+
+}  // namespace belvani

@@ -1,0 +1,28 @@
+// brdicmal ("Bordro Özeti"): the totals of a month, employee and employer side by side, with the chart of the twelve
+// months up to it. A change of year or month works them out again.
+#pragma once
+
+#include "documents/screens/belgeekrani.h"
+
+class QLabel;
+class QTableWidget;
+
+namespace belvani {
+
+class brdicmal : public BelgeEkrani {
+ public:
+  brdicmal(EkranBaglami& baglam, ParametreDeposu& parametreler);
+
+ protected:
+  std::unique_ptr<Belge> BelgeYap() override;
+
+ private:
+  void Goster();
+  void GrafikCiz();
+
+  QLabel* satirlar_;
+  QLabel* sayilar_;
+  QLabel* grafik_;
+};
+
+}  // namespace belvani

@@ -1,0 +1,164 @@
+#include "ui/basim.h"
+
+#include <QDate>
+#include <QDir>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include "core/dosya.h"
+#include "ui/bildirimkutusu.h"
+#include "ui/mesgul.h"
+#include "ui/metin.h"
+#include "ui/onizleme.h"
+#include "ui/perekr.h"
+
+namespace belvani {
+namespace {
+
+constexpr const char* PdfFiltresi = "PDF Dosyası(*.pdf)|*.pdf";
+constexpr const char* XlsxFiltresi = "Excel Dosyası(*.xlsx)|*.xlsx";
+constexpr const char* MetinFiltresi = "Yazıcı Dosyası(*.prn)|*.prn";
+constexpr const char* BasilacakYok = "Basılacak kayıt yok";
+constexpr const char* ExcelYok = "Excell Yüklü Değil veya Desteklenmeyen Versiyon";
+
+// A file name out of a title.
+QString DosyaAdi(const std::string& baslik, const QString& uzanti) {
+  QString ad;
+  for (const QChar harf : Yazi(baslik)) ad += harf.isLetterOrNumber() || harf == '.' ? harf : QChar('_');
+  return (ad.isEmpty() ? QStringLiteral("belge") : ad) + uzanti;
+}
+
+// Where the user wants the file, with its extension; nothing when given up.
+std::optional<std::string> DosyaSor(EkranBaglami& baglam, const std::string& baslik, const char* filtre,
+                                    const QString& uzanti) {
+  const QString dizin = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  auto yol = baglam.dialoglar.DosyaKaydet("Kaydet", Utf8(QDir(dizin).filePath(DosyaAdi(baslik, uzanti))), filtre);
+  if (yol && !Yazi(*yol).endsWith(uzanti, Qt::CaseInsensitive)) *yol += Utf8(uzanti);
+  return yol;
+}
+
+// True when the file is written; else it was told why not.
+bool Kaydet(EkranBaglami& baglam, const std::string& yol, std::string_view baytlar) {
+  if (const Durum yazildi = DosyaYaz(yol, baytlar); !yazildi) {
+    baglam.bildirim.Uyari(yazildi.HataMetni());
+    return false;
+  }
+  return true;
+}
+
+// Each returns whether the dialog has done its work and stays away.
+
+bool Yazdir(EkranBaglami& baglam, const Belge& belge) {
+  IlerlemeKutusu ilerleme(QStringLiteral("Yazdırılıyor…"), baglam.gosterici.ModalUst());
+  const auto sonuc = BelgeYazdir(belge, baglam.baski, baglam.bildirim, &ilerleme);
+  if (!sonuc) {
+    baglam.bildirim.Uyari(sonuc.HataMetni());
+    return false;
+  }
+  if (!sonuc->uyari.empty()) baglam.bildirim.Uyari(sonuc->uyari);
+  return true;
+}
+
+bool PdfKaydet(EkranBaglami& baglam, const Belge& belge) {
+  const auto yol = DosyaSor(baglam, belge.Baslik(), PdfFiltresi, ".pdf");
+  if (!yol) return false;
+  IlerlemeKutusu ilerleme(QStringLiteral("PDF hazırlanıyor…"), baglam.gosterici.ModalUst());
+  const auto pdf = BelgePdf(belge, &ilerleme);
+  if (!pdf) baglam.bildirim.Uyari(pdf.HataMetni());
+  if (!pdf || pdf->baytlar.empty() || !Kaydet(baglam, *yol, pdf->baytlar)) return false;
+  if (!pdf->uyari.empty()) baglam.bildirim.Uyari(pdf->uyari);
+  return true;
+}
+
+bool MetinKaydet(EkranBaglami& baglam, const Belge& belge) {
+  const auto yol = DosyaSor(baglam, belge.Baslik(), MetinFiltresi, ".prn");
+  if (!yol || !Kaydet(baglam, *yol, BelgeHam(belge))) return false;
+  if (const std::string uyari = belge.MetinUyarisi(); !uyari.empty()) baglam.bildirim.Uyari(uyari);
+  return true;
+}
+
+bool Onizle(EkranBaglami& baglam, const Belge& belge) {
+  const std::string uyari = belge.Ayar().YzcDosMod ? belge.MetinUyarisi() : std::string();
+  if (!uyari.empty()) baglam.bildirim.Uyari(uyari);
+  FormGoster(baglam, std::make_unique<onizleme>(baglam, BelgeSayfalari(belge)), FormModu::Modal);
+  return false;
+}
+
+bool Yap(EkranBaglami& baglam, const Belge& belge, YzcKarar karar) {
+  switch (karar) {
+    case YzcKarar::Vazgec:
+      return true;
+    case YzcKarar::Yazdir:
+      return Yazdir(baglam, belge);
+    case YzcKarar::Onizle:
+      return Onizle(baglam, belge);
+    case YzcKarar::PdfKaydet:
+      return PdfKaydet(baglam, belge);
+    case YzcKarar::MetinKaydet:
+      return MetinKaydet(baglam, belge);
+  }
+  return true;
+}
+
+YzcKarar AyarSor(EkranBaglami& baglam, YzcAyarlari& ayar) {
+  auto form = std::make_unique<yzcsetup>(baglam, ayar);
+  const yzcsetup& ekran = *form;
+  YzcKarar karar = YzcKarar::Vazgec;
+  QObject::connect(form.get(), &Form::Kapandi, [&] { karar = ekran.Karar(); });
+  FormGoster(baglam, std::move(form), FormModu::Modal);
+  return karar;
+}
+
+bool BosMu(const Belge& belge) {
+  const auto tablo = belge.Tablo();
+  return tablo != nullptr ? tablo->Satirlar().empty() : BelgeSayfalari(belge)->SayfaSayisi() == 0;
+}
+
+}  // namespace
+
+void BelgeBas(EkranBaglami& baglam, Belge& belge) {
+  BelgeBas(baglam, belge, [](YzcKarar, const YzcAyarlari&) { return false; });
+}
+
+void BelgeBas(EkranBaglami& baglam, Belge& belge, const BasimSozu& once) {
+  if (BosMu(belge)) return baglam.bildirim.Bilgi(BasilacakYok);
+  YzcAyarlari ayar = belge.Ayar();
+  ayar.yazici = baglam.baski.yazici;
+  while (true) {
+    const YzcKarar karar = AyarSor(baglam, ayar);
+    baglam.baski.yazici = ayar.yazici;
+    if (karar == YzcKarar::Vazgec) return;
+    if (ayar.YzcDosMod && !ayar.YzcDosAcik) return baglam.bildirim.Bilgi(belge.MetinYok());
+    belge.Ayarla(ayar);
+    if (once(karar, ayar) || Yap(baglam, belge, karar)) return;
+  }
+}
+
+void BelgeExceleGonder(EkranBaglami& baglam, const Belge& belge) {
+  Sonuc<std::string> baytlar = [&] {
+    const MesgulImlec mesgul;
+    return belge.Xlsx();
+  }();
+  if (!baytlar) return baglam.bildirim.Uyari(baytlar.HataMetni());
+  TabloyuAc(baglam, belge.Baslik(), *baytlar);
+}
+
+void TabloyuAc(EkranBaglami& baglam, const std::string& ad, const std::string& baytlar) {
+  QTemporaryDir dizin(QDir::tempPath() + QStringLiteral("/belvani-XXXXXX"));
+  dizin.setAutoRemove(false);  // the spreadsheet program has it now
+  const std::string gecici = Utf8(dizin.filePath(DosyaAdi(ad, ".xlsx")));
+  if (dizin.isValid() && Kaydet(baglam, gecici, baytlar) && baglam.baski.dosyaAc(gecici)) return;
+  dizin.remove();
+  baglam.bildirim.Uyari(ExcelYok);
+  if (const auto yol = DosyaSor(baglam, ad, XlsxFiltresi, ".xlsx")) Kaydet(baglam, *yol, baytlar);
+}
+
+void BelgeEkranaListele(EkranBaglami& baglam, std::shared_ptr<Belge> belge) {
+  const auto tablo = belge->Tablo();
+  if (tablo == nullptr) return baglam.bildirim.Bilgi("Bu Liste Sadece Yazıcıdan Alınabilir.");
+  const PerekrIslevleri islevler{.yazdir = [&baglam, belge] { BelgeBas(baglam, *belge); },
+                                 .excel = [&baglam, belge] { BelgeExceleGonder(baglam, *belge); }};
+  FormGoster(baglam, std::make_unique<perekr>(baglam, tablo, islevler));
+}
+
+}  // namespace belvani

@@ -1,0 +1,32 @@
+// The three ways out of every document: its print command with the print dialog, preview and files; the spreadsheet;
+// the list on the screen. A document screen makes its Belge and calls one of these.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "printing/belge.h"
+#include "ui/yzcsetup.h"
+
+namespace belvani {
+
+// " Yazıcıya Yazdır": opens yzcsetup and does what its user decides: printer, preview (and back to the dialog), PDF, or
+// the bytes of a dot-matrix print in a file. What goes wrong is told, and the dialog comes back with nothing lost.
+void BelgeBas(EkranBaglami& baglam, Belge& belge);
+
+// The same, with a say of the screen before something is done: true when it has seen to the decision itself.
+using BasimSozu = std::function<bool(YzcKarar karar, const YzcAyarlari& ayar)>;
+void BelgeBas(EkranBaglami& baglam, Belge& belge, const BasimSozu& once);
+
+// " Excel'e Gönder": writes the workbook and opens it in the user's spreadsheet program. Without such a program the
+// user is told so and chooses where the file goes.
+void BelgeExceleGonder(EkranBaglami& baglam, const Belge& belge);
+
+// The same for the bytes of a workbook; `ad` names its file.
+void TabloyuAc(EkranBaglami& baglam, const std::string& ad, const std::string& baytlar);
+
+// " Ekrana Listele": the report grid, which prints and goes to the spreadsheet from there. A paper that is no table
+// says that it can only be printed.
+void BelgeEkranaListele(EkranBaglami& baglam, std::shared_ptr<Belge> belge);
+
+}  // namespace belvani

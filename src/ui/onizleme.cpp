@@ -1,0 +1,99 @@
+#include "ui/onizleme.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+// Dots per inch, before the scale of the screen; the first shows an upright sheet nearly whole.
+constexpr double Buyuklukler[] = {60, 80, 100, 130, 170, 220};
+constexpr int VarsayilanBuyukluk = 2;
+
+}  // namespace
+
+QImage NoktaResmi(const ResimTuvali& tuval) {
+  if (tuval.En() == 0) return {};
+  const auto* noktalar = reinterpret_cast<const uchar*>(tuval.Noktalar().data());
+  return QImage(noktalar, tuval.En(), tuval.Boy(), tuval.En() * 4, QImage::Format_RGB32).copy();
+}
+
+QImage SayfaResmi(const CizilenBelge& belge, int sayfa, double dpi) {
+  if (sayfa < 1 || sayfa > belge.SayfaSayisi()) return {};
+  ResimTuvali tuval(dpi, 1);
+  belge.SayfaCiz(sayfa, tuval);
+  return NoktaResmi(tuval);
+}
+
+onizleme::onizleme(EkranBaglami& baglam, std::unique_ptr<CizilenBelge> sayfalar)
+    : Form(baglam, "onizleme", QStringLiteral("Önizleme")),
+      sayfalar_(std::move(sayfalar)),
+      buyukluk_(VarsayilanBuyukluk),
+      alan_(new QScrollArea(this)),
+      resim_(new QLabel),
+      durum_(new QLabel(this)) {
+  alan_->setWidget(resim_);
+  alan_->setWidgetResizable(true);
+  alan_->setFocusPolicy(Qt::StrongFocus);
+  alan_->setObjectName("sayfa");
+  resim_->setAlignment(Qt::AlignCenter);
+  durum_->setObjectName("durum");
+  durum_->setAlignment(Qt::AlignCenter);
+  const QSize ekran = QGuiApplication::primaryScreen()->availableSize();
+  alan_->setMinimumSize(std::min(1000, ekran.width() - 160), std::min(680, ekran.height() - 220));
+  Govde()->addWidget(durum_);
+  Govde()->addWidget(alan_, 1);
+  Izle(alan_);
+  const auto tus = [this](Qt::Key t, const char* ad, std::function<void()> islev) {
+    TusBagla(QKeySequence(t), QString::fromUtf8(ad), std::move(islev));
+  };
+  tus(Qt::Key_PageDown, "Sonraki", [this] { SayfayaGit(sayfa_ + 1); });
+  tus(Qt::Key_PageUp, "Önceki", [this] { SayfayaGit(sayfa_ - 1); });
+  tus(Qt::Key_Home, "", [this] { SayfayaGit(1); });
+  tus(Qt::Key_End, "", [this] { SayfayaGit(sayfalar_->SayfaSayisi()); });
+  tus(Qt::Key_Plus, "Büyüt", [this] { Buyut(1); });
+  tus(Qt::Key_Minus, "Küçült", [this] { Buyut(-1); });
+  for (const Qt::Key ok : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right})
+    tus(ok, "", [this, ok] { Kaydir(ok); });
+  DugmeEkle(QStringLiteral("Ö&nceki"), "onceki", [this] { SayfayaGit(sayfa_ - 1); });
+  DugmeEkle(QStringLiteral("&Sonraki"), "sonraki", [this] { SayfayaGit(sayfa_ + 1); });
+  DugmeEkle(QStringLiteral("&Kapat"), "kapat", [this] { Kapat(); });
+  IlkOdak(alan_);
+  SayfayaGit(1);
+}
+
+void onizleme::SayfayaGit(int no) {
+  sayfa_ = std::clamp(no, std::min(1, sayfalar_->SayfaSayisi()), sayfalar_->SayfaSayisi());
+  alan_->verticalScrollBar()->setValue(0);
+  Ciz();
+}
+
+void onizleme::Buyut(int adim) {
+  buyukluk_ = std::clamp(buyukluk_ + adim, 0, int(std::size(Buyuklukler)) - 1);
+  Ciz();
+}
+
+void onizleme::Kaydir(Qt::Key tus) {
+  const bool dikey = tus == Qt::Key_Up || tus == Qt::Key_Down;
+  QScrollBar* cubuk = dikey ? alan_->verticalScrollBar() : alan_->horizontalScrollBar();
+  const int adim = cubuk->pageStep() / 4;
+  cubuk->setValue(cubuk->value() + (tus == Qt::Key_Up || tus == Qt::Key_Left ? -adim : adim));
+}
+
+void onizleme::Ciz() {
+  const double oran = devicePixelRatioF();
+  QImage resim = SayfaResmi(*sayfalar_, sayfa_, Buyuklukler[buyukluk_] * oran);
+  if (resim.isNull()) {
+    durum_->setText(QStringLiteral("Basılacak kayıt yok"));
+    return;
+  }
+  resim.setDevicePixelRatio(oran);
+  resim_->setPixmap(QPixmap::fromImage(std::move(resim)));
+  durum_->setText(QStringLiteral("Sayfa %1 / %2").arg(sayfa_).arg(sayfalar_->SayfaSayisi()));
+}
+
+}  // namespace belvani

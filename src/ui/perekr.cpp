@@ -1,0 +1,92 @@
+#include "ui/perekr.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QScreen>
+
+#include "core/sayi.h"
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+constexpr double EkranEni = 0.97, EkranBoyu = 0.83;  // of the desktop
+constexpr int AramaHarfi = 24;
+
+}  // namespace
+
+perekr::perekr(EkranBaglami& baglam, std::shared_ptr<const Rapor> rapor, const PerekrIslevleri& islevler)
+    : Form(baglam, "perekr", QStringLiteral("Ekran İzleme")), xgrid1_(new xgrid(this)) {
+  if (!rapor->ekranBasligi.empty()) setWindowTitle(Yazi(rapor->ekranBasligi));
+  xgrid1_->RaporKoy(std::move(rapor));
+  xgrid1_->setMinimumSize(480, 240);
+  Govde()->setSpacing(8);
+  Govde()->addWidget(UstSatirlar());
+  Govde()->addLayout(AramaSatiri());
+  Govde()->addWidget(xgrid1_, 1);
+  Izle(xgrid1_);
+  TuslariBagla(islevler);
+  IlkOdak(xgrid1_);
+}
+
+QWidget* perekr::UstSatirlar() {
+  auto* kutu = new QWidget(this);
+  auto* duzen = new QVBoxLayout(kutu);
+  duzen->setContentsMargins(0, 0, 0, 0);
+  duzen->setSpacing(0);
+  for (const UstSatir& satir : Belgesi().ustSatirlar) {
+    const QString metin = Yazi(UstEkranMetni(satir));
+    if (metin.isEmpty()) continue;
+    auto* etiket = new QLabel(metin, kutu);
+    etiket->setTextFormat(Qt::PlainText);
+    etiket->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // a long address does not widen the screen
+    duzen->addWidget(etiket);
+  }
+  kutu->setVisible(duzen->count() > 0);
+  return kutu;
+}
+
+QLayout* perekr::AramaSatiri() {
+  auto* satir = new QHBoxLayout;
+  QLineEdit* arama = xgrid1_->AramaKutusu(this);
+  arama->setFixedWidth(fontMetrics().averageCharWidth() * AramaHarfi);
+  auto* bulunamadi = new QLabel(QStringLiteral("Bulunamadı"), this);
+  bulunamadi->setProperty("hata", true);
+  bulunamadi->hide();
+  xgrid1_->Arandi = [bulunamadi](bool bulundu) { bulunamadi->setVisible(!bulundu); };
+  auto* adet = new QLabel(Yazi(TutarMetni(Tutar(double(Belgesi().Satirlar().size())), 0)) + " satır", this);
+  adet->setProperty("soluk", true);
+  QComboBox* secici = xgrid1_->SayfaSecici(this);
+  satir->addWidget(arama);
+  satir->addWidget(bulunamadi);
+  satir->addStretch(1);
+  satir->addWidget(adet);
+  satir->addWidget(secici);
+  Izle(arama);
+  Izle(secici);
+  return satir;
+}
+
+void perekr::TuslariBagla(const PerekrIslevleri& islevler) {
+  const auto komut = [this](const std::function<void()>& islev, std::function<void()>& gridIslevi, Qt::Key tus,
+                            const QString& aciklama, const QString& metin, const QString& simge) {
+    if (!islev) return;
+    gridIslevi = islev;
+    TusBagla(QKeySequence(tus), aciklama, gridIslevi);
+    DugmeEkle(metin, simge, gridIslevi)->setToolTip(metin.trimmed() + " (" + QKeySequence(tus).toString() + ")");
+  };
+  komut(islevler.yazdir, xgrid1_->YazdirIslevi, Qt::Key_F8, "Yazdır", " Yazıcıya Yazdır", "yazici");
+  komut(islevler.excel, xgrid1_->ExcelIslevi, Qt::Key_F9, "Excel", " Excel'e Gönder", "tablo");
+  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_F), "Bul", [this] { xgrid1_->AramayaGit(); });
+  TusBagla(QKeySequence(Qt::Key_F3), "Sonraki", [this] { xgrid1_->SonrakiniBul(xgrid::Yon::Ileri); });
+  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_S), "Sırala", [this] { xgrid1_->Sirala(xgrid1_->CurrentColon()); });
+  DugmeEkle("Kapat", "kapat", [this] { Kapat(); })->setToolTip("Kapat (Esc)");
+}
+
+// As large as the main window lets it be.
+QSize perekr::sizeHint() const {
+  const QSize ekran = screen()->availableSize();
+  return {int(ekran.width() * EkranEni), int(ekran.height() * EkranBoyu)};
+}
+
+}  // namespace belvani

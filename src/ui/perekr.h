@@ -1,0 +1,36 @@
+// perekr ("Ekran İzleme"): a report on the screen, which prints what it shows and sends it to a spreadsheet. Reports
+// pass it on to FormGoster.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "ui/form.h"
+#include "ui/xgrid.h"
+
+namespace belvani {
+
+// Bound by the writer of the report; a command that is not bound is not offered.
+struct PerekrIslevleri {
+  std::function<void()> yazdir = nullptr;  // " Yazıcıya Yazdır"
+  std::function<void()> excel = nullptr;   // " Excel'e Gönder"
+};
+
+class perekr : public Form {
+ public:
+  perekr(EkranBaglami& baglam, std::shared_ptr<const Rapor> rapor, const PerekrIslevleri& islevler);
+
+  const Rapor& Belgesi() const { return xgrid1_->Belgesi(); }
+  xgrid& Xgrid1() const { return *xgrid1_; }
+
+  QSize sizeHint() const override;
+
+ private:
+  QWidget* UstSatirlar();
+  QLayout* AramaSatiri();
+  void TuslariBagla(const PerekrIslevleri& islevler);
+
+  xgrid* xgrid1_;
+};
+
+}  // namespace belvani

@@ -1,0 +1,62 @@
+#include "ui/yazicisec.h"
+
+#include "ui/dclist.h"
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+class yazicisec : public Form {
+ public:
+  yazicisec(EkranBaglami& baglam, const std::vector<YaziciBilgisi>& yazicilar, const std::string& simdiki)
+      : Form(baglam, "yazicisec", QStringLiteral("Yazıcı Seç")), liste_(new dclist(baglam.bildirim, this)) {
+    liste_->setObjectName("liste");
+    liste_->CreateNewCaption('m', "ad", "Yazıcı", 180);
+    liste_->CreateNewCaption('m', "aciklama", "Açıklama", 220);
+    liste_->CreateNewCaption('m', "durum", "Durum", 200);
+    liste_->GenisKolon("aciklama");
+    liste_->setMinimumSize(620, 260);
+    for (const YaziciBilgisi& y : yazicilar) {
+      const int satir = liste_->Add();
+      liste_->TextByName(satir, "ad", Yazi(y.ad));
+      liste_->TextByName(satir, "aciklama", Yazi(y.aciklama));
+      liste_->TextByName(satir, "durum", y.isAliyor ? Yazi(y.bekleyen) : QStringLiteral("Yeni iş kabul etmiyor"));
+    }
+    if (liste_->FindByName("ad", Yazi(simdiki)) < 0) liste_->ChngSat(0);
+    liste_->Secildi = [this](int) { Sec(); };
+    Govde()->addWidget(liste_, 1);
+    Izle(liste_);
+    TusBagla(Qt::Key_Return, QStringLiteral("Seç"), [this] { Sec(); });
+    IlkOdak(liste_);
+  }
+
+  std::optional<std::string> Secilen() const { return secilen_; }
+
+ private:
+  void Sec() {
+    if (liste_->CurSat() < 0) return;
+    secilen_ = Utf8(liste_->TextByName(liste_->CurSat(), "ad"));
+    Kapat();
+  }
+
+  dclist* liste_;
+  std::optional<std::string> secilen_;
+};
+
+}  // namespace
+
+std::optional<std::string> YaziciSecimi(EkranBaglami& baglam, const std::string& simdiki) {
+  const auto yazicilar = YaziciListesi(baglam.baski);
+  if (!yazicilar || yazicilar->empty()) {
+    baglam.bildirim.Uyari(yazicilar ? YaziciYok : yazicilar.HataMetni());
+    return std::nullopt;
+  }
+  auto form = std::make_unique<yazicisec>(baglam, *yazicilar, simdiki);
+  const yazicisec& ekran = *form;
+  std::optional<std::string> secilen;
+  QObject::connect(form.get(), &Form::Kapandi, [&] { secilen = ekran.Secilen(); });
+  FormGoster(baglam, std::move(form), FormModu::Modal);
+  return secilen;
+}
+
+}  // namespace belvani

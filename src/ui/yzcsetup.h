@@ -1,0 +1,38 @@
+// yzcsetup ("Yazıcı Ayarları"): the print dialog that every document opens first. It shows the print settings that the
+// document has set, and stores them back when it is left by one of its ways out.
+#pragma once
+
+#include "printing/yzcayar.h"
+#include "ui/form.h"
+
+namespace belvani {
+
+enum class YzcKarar {
+  Vazgec,
+  Yazdir,       // "&Tamam"
+  Onizle,       // "Önizleme"
+  PdfKaydet,    // "PDF'e Kaydet"
+  MetinKaydet,  // "Dosyaya Kaydet": the bytes of a dot-matrix print
+};
+
+class yzcsetup : public Form {
+ public:
+  // `ayar` must outlive the screen.
+  yzcsetup(EkranBaglami& baglam, YzcAyarlari& ayar);
+
+  YzcKarar Karar() const { return karar_; }
+
+ private:
+  void Goster();
+  void KipDegisti();
+  void YaziciGoster();
+  void YaziciSec();
+  void Bitir(YzcKarar karar);
+
+  YzcAyarlari& ayar_;
+  YzcKarar karar_ = YzcKarar::Vazgec;
+  QLabel* yazici_;
+  xButton* metinKaydet_ = nullptr;
+};
+
+}  // namespace belvani

@@ -1,0 +1,146 @@
+// From the print command to the printer, the preview and the file, by keys.
+#include <gmock/gmock.h>
+
+#include "core/dosya.h"
+#include "ekran/ortam.h"
+#include "printing/kolonlar.h"
+#include "ui/basim.h"
+#include "ui/onizleme.h"
+#include "ui/perekr.h"
+#include "ui/yzcsetup.h"
+
+namespace belvani::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+struct Kisi {
+  std::string ad;
+  Tutar tutar;
+};
+
+std::shared_ptr<RaporBelgesi> Liste(int satir = 1) {
+  static const Kolonlar<Kisi> kolonlar{
+      {"Adı", 20, [](auto& k) { return k.ad; }},
+      {"Tutar", 10, [](auto& k) { return k.tutar; }, KolonNiteligi::Toplanir},
+  };
+  Rapor rapor = RaporYap(kolonlar, std::vector<Kisi>(std::size_t(satir), {"Işıl Öğütçü", Tutar(1.5)}), 2);
+  rapor.baslik = rapor.ekranBasligi = "LİSTE";
+  YzcAyarlari ayar;
+  ayar.YzcBaslik = "LİSTE";
+  return std::make_shared<RaporBelgesi>(std::move(rapor), ayar);
+}
+
+// Does a step in each of the windows that come up one after the other.
+void SiraylaYap(std::vector<std::function<void()>> adimlar, int deneme = 400) {
+  if (adimlar.empty()) return;
+  QTimer::singleShot(5, qApp, [adimlar = std::move(adimlar), deneme] {
+    QWidget* modal = QApplication::activeModalWidget();
+    if (modal == nullptr || modal->findChild<Form*>() == nullptr) {
+      ASSERT_GT(deneme, 0) << "no modal window came up";
+      return SiraylaYap(adimlar, deneme - 1);
+    }
+    QApplication::setActiveWindow(modal);
+    adimlar.front()();
+    SiraylaYap({adimlar.begin() + 1, adimlar.end()});
+  });
+}
+
+const auto bas = [](Qt::Key tus) { return [tus] { EkranOrtami::Bas(tus); }; };
+
+TEST(Basim, AyarlarYaziciyaGider) {
+  EkranOrtami ortam;
+  const auto belge = Liste();
+  EkranOrtami::ModaldaYap([&] {
+    auto& form = *QApplication::activeModalWidget()->findChild<yzcsetup*>();
+    EXPECT_EQ(ortam.Odak(), "YzcBaslik");
+    EXPECT_EQ(form.findChild<QLabel*>("yazici")->text(), "matris");
+    ortam.Yaz("AYLIK ");  // the title is selected: typing replaces it
+    form.Denetim("YzcKopya").Odak()->setFocus();
+    ortam.Yaz("3");
+    ortam.Bas(Qt::Key_F8);
+  });
+  BelgeBas(ortam.ekran, *belge);
+  ASSERT_EQ(ortam.kuyruk.isler.size(), 1u);
+  EXPECT_THAT(ortam.kuyruk.isler[0].ad, StartsWith("AYLIK"));
+  EXPECT_EQ(ortam.kuyruk.isler[0].kopya, 3);
+  EXPECT_THAT(ortam.kuyruk.isler[0].icerik, StartsWith("%PDF"));
+}
+
+// The preview comes back to the dialog; a PDF that cannot be written too, and nothing is lost.
+TEST(Basim, OnizlemeVePdf) {
+  EkranOrtami ortam;
+  const auto belge = Liste(200);
+  const auto pdfBas = [] {
+    QPushButton* dugme = nullptr;
+    for (auto* d : QApplication::activeModalWidget()->findChildren<QPushButton*>())
+      if (d->text().contains("PDF")) dugme = d;
+    ASSERT_NE(dugme, nullptr);
+    dugme->click();
+  };
+  ortam.dialoglar.dosya = ortam.dizin.Yol() + "yok/liste";
+  SiraylaYap({bas(Qt::Key_F6),
+              [&] {
+                auto& ekran = *QApplication::activeModalWidget()->findChild<onizleme*>();
+                EXPECT_EQ(ekran.Sayfa(), 1);
+                ortam.Bas(Qt::Key_PageDown);
+                EXPECT_EQ(ekran.Sayfa(), 2);
+                ortam.Bas(Qt::Key_End);
+                EXPECT_EQ(ekran.findChild<QLabel*>("durum")->text(), QString("Sayfa %1 / %1").arg(ekran.Sayfa()));
+                ortam.Bas(Qt::Key_Escape);
+              },
+              pdfBas,
+              [&] {
+                EXPECT_THAT(ortam.bildirim.Al(), ElementsAre(HasSubstr("dosya yazılamadı")));
+                ortam.dialoglar.dosya = ortam.dizin.Yol() + "liste";
+                pdfBas();
+              }});
+  BelgeBas(ortam.ekran, *belge);
+  EXPECT_THAT(DosyaOku(ortam.dizin.Yol() + "liste.pdf").value_or(""), StartsWith("%PDF"));
+  EXPECT_TRUE(ortam.kuyruk.isler.empty());
+}
+
+TEST(Basim, MetinYoluVeYazicisizlik) {
+  EkranOrtami ortam;
+  ortam.kuyruk.yazicilar.clear();
+  const auto belge = Liste();
+  ortam.dialoglar.dosya = ortam.dizin.Yol() + "liste";
+  SiraylaYap({[&] {
+                auto& form = *QApplication::activeModalWidget()->findChild<yzcsetup*>();
+                EXPECT_EQ(form.findChild<QLabel*>("yazici")->text(), QString::fromUtf8(YaziciYok));
+                ortam.Bas(Qt::Key_F8);
+              },
+              [&] {
+                EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Uyarı: " + std::string(YaziciYok)));
+                auto& form = *QApplication::activeModalWidget()->findChild<yzcsetup*>();
+                EXPECT_TRUE(form.Denetim("YzcYon").Odak()->isEnabled());
+                form.Denetim("mod").Odak()->setFocus();
+                ortam.Bas(Qt::Key_Right);
+                EXPECT_FALSE(form.Denetim("YzcYon").Odak()->isEnabled());
+                for (auto* d : form.findChildren<QPushButton*>())
+                  if (d->text().contains("Dosyaya")) return d->click();
+              }});
+  BelgeBas(ortam.ekran, *belge);
+  EXPECT_THAT(DosyaOku(ortam.dizin.Yol() + "liste.prn").value_or(""), HasSubstr("\r\nI\x9F\x8Dl "));
+  BelgeBas(ortam.ekran, *Liste(0));
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: Basılacak kayıt yok"));
+}
+
+TEST(Basim, ExcelProgramiAcilirYaDaDosyaKalir) {
+  EkranOrtami ortam;
+  BelgeExceleGonder(ortam.ekran, *Liste());
+  ASSERT_EQ(ortam.acilanlar.size(), 1u);
+  EXPECT_THAT(ortam.acilanlar[0], testing::EndsWith("/LİSTE.xlsx"));
+  EXPECT_THAT(DosyaOku(ortam.acilanlar[0]).value_or(""), StartsWith("PK"));
+  std::filesystem::remove_all(std::filesystem::path(ortam.acilanlar[0]).parent_path());
+  ortam.dosyaAcilir = false;
+  ortam.dialoglar.dosya = ortam.dizin.Yol() + "liste.xlsx";
+  BelgeExceleGonder(ortam.ekran, *Liste());
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Uyarı: Excell Yüklü Değil veya Desteklenmeyen Versiyon"));
+  EXPECT_THAT(DosyaOku(*ortam.dialoglar.dosya).value_or(""), StartsWith("PK"));
+}
+
+}  // namespace
+}  // namespace belvani::test
