@@ -24,6 +24,7 @@ struct BildirgeSecenekleri {
   std::string mahiyet = "A";
   std::string bicim = "json";
   std::string dosya;
+  std::vector<std::string> haric;
   bool evet = false;
 };
 
@@ -71,6 +72,19 @@ void Sec(AylikBildirge& bildirge, const BildirgeSecenekleri& s) {
   secim.belgeTuru = BelgeSirasi(bildirge.BelgeTurleri(), s.belge);
   if (s.kanun) secim.kanun = KanunSirasi(bildirge.KanunSecenekleri(), *s.kanun);
   secim.mahiyet = BelgeMahiyeti(std::ranges::find(Mahiyetler, s.mahiyet) - Mahiyetler.begin());
+}
+
+// Takes people out of the declaration, as the user of the screen deletes their rows.
+void Cikar(AylikBildirge& bildirge, const std::vector<std::string>& sskNolar) {
+  for (const std::string& no : sskNolar) {
+    bool cikti = false;
+    for (std::size_t i = bildirge.Tamami().satirlar.size(); i-- > 0;) {
+      if (bildirge.Tamami().satirlar[i].sskno != no) continue;
+      cikti = true;
+      if (!bildirge.SatirSil(i)) throw KomutHatasi{"Bildirge hesaplanamadı"};
+    }
+    if (!cikti) throw KomutHatasi{no + ": bildirgede bu SSK sicil numarası yok"};
+  }
 }
 
 // ---- JSON: rows by the names of the columns, then what stands below the grid
@@ -228,6 +242,7 @@ void BildirgeYap(Genel& genel, const BildirgeSecenekleri& s) {
   Sec(bildirge, s);
   if (!bildirge.Hesapla()) throw KomutHatasi{"Bildirge hesaplanamadı"};
   KimliksizleriSoyle(bildirge.Tamami().kimliksizler, bildirim);
+  Cikar(bildirge, s.haric);
   for (const Bicim& bicim : bicimler)
     if (s.bicim == bicim.ad) bicim.yaz({bildirge, *o, bildirim, s.dosya});
 }
@@ -247,6 +262,7 @@ void BildirgeKomutu(CLI::App& app, Genel& genel) {
   komut->add_option("--bicim", s->bicim, "json, xml (e-bildirge dosyası), pdf, xlsx veya metin (matbu evrak)")
       ->check(CLI::IsMember(adlar));
   komut->add_option("-o", s->dosya, "yazılacak dosya (pdf ve xlsx dışında verilmezse ekrana)");
+  komut->add_option("--haric", s->haric, "bu SSK sicil numaralı kişiyi bildirgeden çıkarır")->type_name("NO");
   komut->add_flag("--evet", s->evet, "sorulan sorulara evet der");
   komut->parse_complete_callback([s] { DosyayiIste(*s); });
   komut->callback([&genel, s] { BildirgeYap(genel, *s); });

@@ -13,7 +13,6 @@
 namespace belvani {
 namespace {
 
-constexpr const char* ExcelYok = "Excell Yüklü Değil veya Desteklenmeyen Versiyon";
 constexpr int EnGenisKolon = 60;
 constexpr int KolonPayi = 2;
 constexpr std::size_t EnUzunAd = 80;  // letters; with Turkish ones well below what a file system takes

@@ -25,6 +25,9 @@
 
 namespace belvani {
 
+// Told when there is no program to open a workbook, or to convert one.
+inline constexpr const char* ExcelYok = "Excell Yüklü Değil veya Desteklenmeyen Versiyon";
+
 enum class ExcelYazisi { Normal, Koyu };
 
 struct ExcelIslevleri {

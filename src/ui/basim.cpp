@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include "core/dosya.h"
+#include "printing/excelkont.h"
 #include "ui/bildirimkutusu.h"
 #include "ui/mesgul.h"
 #include "ui/metin.h"
@@ -19,7 +20,6 @@ constexpr const char* PdfFiltresi = "PDF Dosyası(*.pdf)|*.pdf";
 constexpr const char* XlsxFiltresi = "Excel Dosyası(*.xlsx)|*.xlsx";
 constexpr const char* MetinFiltresi = "Yazıcı Dosyası(*.prn)|*.prn";
 constexpr const char* BasilacakYok = "Basılacak kayıt yok";
-constexpr const char* ExcelYok = "Excell Yüklü Değil veya Desteklenmeyen Versiyon";
 
 // A file name out of a title.
 QString DosyaAdi(const std::string& baslik, const QString& uzanti) {

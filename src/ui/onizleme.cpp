@@ -10,9 +10,12 @@
 namespace belvani {
 namespace {
 
-// Dots per inch, before the scale of the screen; the first shows an upright sheet nearly whole.
-constexpr double Buyuklukler[] = {60, 80, 100, 130, 170, 220};
+// Of the size at which a sheet is as wide as the window.
+constexpr double Buyuklukler[] = {0.5, 0.7, 1, 1.3, 1.7, 2.2};
 constexpr int VarsayilanBuyukluk = 2;
+constexpr double OlcmeDpi = 24;
+constexpr double EnCokDpi = 110;  // an upright sheet is not blown up to the whole width
+constexpr int KenarPayi = 24;     // pixels for the scroll bar
 
 }  // namespace
 
@@ -44,7 +47,7 @@ onizleme::onizleme(EkranBaglami& baglam, std::unique_ptr<CizilenBelge> sayfalar)
   durum_->setObjectName("durum");
   durum_->setAlignment(Qt::AlignCenter);
   const QSize ekran = QGuiApplication::primaryScreen()->availableSize();
-  alan_->setMinimumSize(std::min(1000, ekran.width() - 160), std::min(680, ekran.height() - 220));
+  alan_->setMinimumSize(std::min(1240, ekran.width() - 100), std::min(680, ekran.height() - 200));
   Govde()->addWidget(durum_);
   Govde()->addWidget(alan_, 1);
   Izle(alan_);
@@ -56,6 +59,8 @@ onizleme::onizleme(EkranBaglami& baglam, std::unique_ptr<CizilenBelge> sayfalar)
   tus(Qt::Key_Home, "", [this] { SayfayaGit(1); });
   tus(Qt::Key_End, "", [this] { SayfayaGit(sayfalar_->SayfaSayisi()); });
   tus(Qt::Key_Plus, "Büyüt", [this] { Buyut(1); });
+  // On many keyboards it is a shifted key.
+  TusBagla(QKeySequence(Qt::SHIFT | Qt::Key_Plus), {}, [this] { Buyut(1); });
   tus(Qt::Key_Minus, "Küçült", [this] { Buyut(-1); });
   for (const Qt::Key ok : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right})
     tus(ok, "", [this, ok] { Kaydir(ok); });
@@ -84,9 +89,15 @@ void onizleme::Kaydir(Qt::Key tus) {
   cubuk->setValue(cubuk->value() + (tus == Qt::Key_Up || tus == Qt::Key_Left ? -adim : adim));
 }
 
+// Dots per inch at which the page is as wide as the window.
+double onizleme::SiganDpi() const {
+  const int en = SayfaResmi(*sayfalar_, sayfa_, OlcmeDpi).width();
+  return en > 0 ? std::min(EnCokDpi, OlcmeDpi * (alan_->minimumWidth() - KenarPayi) / en) : OlcmeDpi;
+}
+
 void onizleme::Ciz() {
   const double oran = devicePixelRatioF();
-  QImage resim = SayfaResmi(*sayfalar_, sayfa_, Buyuklukler[buyukluk_] * oran);
+  QImage resim = SayfaResmi(*sayfalar_, sayfa_, SiganDpi() * Buyuklukler[buyukluk_] * oran);
   if (resim.isNull()) {
     durum_->setText(QStringLiteral("Basılacak kayıt yok"));
     return;

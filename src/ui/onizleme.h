@@ -22,6 +22,7 @@ class onizleme : public Form {
   void SayfayaGit(int no);
   void Buyut(int adim);
   void Kaydir(Qt::Key tus);
+  double SiganDpi() const;
   void Ciz();
 
   std::unique_ptr<CizilenBelge> sayfalar_;

@@ -243,9 +243,10 @@ void StilKur(QApplication& uygulama, const RenkTablosu& renkler, const GridYazil
   const QColor yazi = RenkYap(RenkAl(renkler, Renk::Yazi));
   SimgeRengi(yazi);
   QApplication::setPalette(Palet(renkler));
+  uygulama.setStyleSheet(SayfaYaz(renkler, yazi.lightness() > 128));
+  // After the style sheet, whose first setting drops the fonts of classes.
   QApplication::setFont(FontYap(yazilar.baslik), "QHeaderView");
   QApplication::setFont(FontYap(yazilar.detay), "QTableView");
-  uygulama.setStyleSheet(SayfaYaz(renkler, yazi.lightness() > 128));
 }
 
 void CeviriYukle(QApplication& uygulama) {

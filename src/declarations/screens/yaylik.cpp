@@ -52,9 +52,11 @@ constexpr BransSatiri Branslar[BransSayisi] = {
     {"destek", "Sosyal Güvenlik Destek Primi"}, {"issizlik", "İşsizlik Sigortası Primi"}};
 
 int Genislik(const BildirgeKolonu& kolon) {
-  constexpr int harfGenisligi = 8;
-  constexpr int enDar = 44;
+  constexpr int harfGenisligi = 7;
+  constexpr int enDar = 46;
   constexpr int enGenis = 118;
+  constexpr int tutarEni = 94;
+  if (kolon.tur == HucreTuru::Tutar) return tutarEni;
   return std::clamp(kolon.harf * harfGenisligi + 12, enDar, enGenis);
 }
 
@@ -96,7 +98,7 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
     OdakVer("yil");
     return true;
   };
-  liste_->setMinimumSize(900, 200);
+  liste_->setMinimumSize(1270, 212);
   eksikler_ = new QLabel(this);
   eksikler_->setProperty("hata", true);
   eksikler_->setObjectName("eksikler");
@@ -113,7 +115,7 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
       FormKomutu::Kaydet, [this] { Hesapla(); }, QStringLiteral("&Hesapla"));
   TusBagla(Qt::Key_F5, QStringLiteral("Hesapla"), [this] { Hesapla(); });
   const auto komut = [this](Qt::Key tus, const char* ad, const char* simge, void (yaylik::*islev)()) {
-    TusBagla(QKeySequence(tus), {}, [this, islev] { (this->*islev)(); });
+    TusBagla(QKeySequence(tus), QString::fromUtf8(ad).trimmed(), [this, islev] { (this->*islev)(); });
     DugmeEkle(QString::fromUtf8(ad), simge, [this, islev] { (this->*islev)(); });
   };
   komut(Qt::Key_F8, " Yazıcıya Yazdır ", "yazici", &yaylik::Yazdir);

@@ -25,6 +25,7 @@ yzckopy::yzckopy(EkranBaglami& baglam, std::vector<FormSayfasi> sayfalar, YzcAya
   TusBagla(Qt::Key_PageDown, QStringLiteral("Sonraki Sayfa"), [this] { Git(1); });
   TusBagla(Qt::Key_PageUp, QStringLiteral("Önceki Sayfa"), [this] { Git(-1); });
   TusBagla(QKeySequence(Qt::CTRL | Qt::Key_Plus), QStringLiteral("Büyüt"), [this] { yuzey_->Buyut(1); });
+  TusBagla(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Plus), {}, [this] { yuzey_->Buyut(1); });
   TusBagla(QKeySequence(Qt::CTRL | Qt::Key_Minus), QStringLiteral("Küçült"), [this] { yuzey_->Buyut(-1); });
   TusBagla(Qt::Key_F8, {}, [this] { Yazdir(); });
   DugmeEkle(QStringLiteral(" &Yazdır"), "yazici", [this] { Yazdir(); })->setToolTip(QStringLiteral("Yazdır (F8)"));

@@ -5,8 +5,8 @@
 namespace belvani {
 namespace {
 
-constexpr int AdEni = 145;
-constexpr int TutarEni = 145;
+constexpr int AdEni = 190;
+constexpr int TutarEni = 132;
 constexpr double EnCokOdeme = 99'999'999'999.9999;  // five of them stay far inside what an amount can be
 
 constexpr std::array<const char*, std::size(OdemeKolonlari)> KolonAdlari{"brut", "kesinti", "net", "ozel", "odenen"};
