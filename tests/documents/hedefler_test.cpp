@@ -2,6 +2,7 @@
 // as plain values, and they are the sums of the stored records; for random companies.
 #include <gmock/gmock.h>
 
+#include "bol.h"
 #include "core/sayi.h"
 #include "core/turkce.h"
 #include "documents/bordrobelgeleri.h"
@@ -15,6 +16,7 @@ namespace belvani {
 namespace {
 
 using test::Ay;
+using test::Bol;
 using test::Yil;
 
 Tutar Deger(const Hucre& hucre) {
@@ -33,15 +35,6 @@ std::vector<std::pair<std::size_t, Tutar>> Toplamlar(const Rapor& rapor) {
     toplamlar.emplace_back(k, toplam);
   }
   return toplamlar;
-}
-
-std::vector<std::string> Bol(const std::string& metin, const std::string& ayrac) {
-  std::vector<std::string> parcalar;
-  std::size_t bas = 0;
-  for (std::size_t son; (son = metin.find(ayrac, bas)) != std::string::npos; bas = son + ayrac.size())
-    parcalar.push_back(metin.substr(bas, son - bas));
-  parcalar.push_back(metin.substr(bas));
-  return parcalar;
 }
 
 Tutar Okunan(std::string_view metin) {

@@ -6,10 +6,13 @@
 
 #include "bildirim.h"
 #include "core/dosya.h"
+#include "core/ortam.h"
 #include "gecici.h"
+#include "printing/cupskuyrugu.h"
 #include "printing/kayittuvali.h"
 #include "printing/metincizimi.h"
 #include "printing/ornek.h"
+#include "printing/ozelcups.h"
 #include "printing/sahtekuyruk.h"
 #include "printing/sahteport.h"
 #include "printing/yazdir.h"
@@ -72,7 +75,7 @@ struct Ortam {
   // A belprn that keeps what it is told.
   Ortam() {
     const std::string program = dizin.Yol() + "belprn";
-    EXPECT_TRUE(DosyaYaz(program, "#!/bin/sh\ncp \"$1\" '" + dizin.Yol() + "basilan.yeni'\nrm \"$1\"\nmv '" +
+    EXPECT_TRUE(DosyaYaz(program, "#!/bin/sh\nexec 2>/dev/null\ncp \"$1\" '" + dizin.Yol() + "basilan.yeni'\nrm \"$1\"\nmv '" +
                                       dizin.Yol() + "basilan.yeni' '" + dizin.Yol() + "basilan'\n"));
     ::chmod(program.c_str(), 0700);
   }
@@ -124,6 +127,49 @@ TEST(BelgeYazdir, MetinBelprnUzerinden) {
   ayar.YzcDosMod = false;
   EXPECT_FALSE(o.Yazdir(ayar, &vazgecen)->gonderildi);
   EXPECT_TRUE(o.kuyruk.isler.empty());
+}
+
+// The whole road of a text: temporary file, belprn, print server, printer.
+TEST(BelgeYazdir, MetinGercekSunucuya) {
+  const test::OzelCups cups;
+  if (!cups.Hazir()) GTEST_SKIP() << "no print server on this computer";
+  const auto sunucu = test::OrtamKoy("CUPS_SERVER", cups.Soket().c_str());
+  CupsKuyrugu kuyruk;
+  Ortam o;
+  BaskiOrtami baski{
+      .kuyruk = kuyruk, .port = o.port, .programDizini = BELVANI_BELPRN_DIZINI, .dosyaAc = {}, .adresAc = {}};
+  YzcAyarlari ayar;
+  ayar.YzcTamam = ayar.YzcDosMod = true;
+  RaporBelgesi belge(Liste());
+  belge.Ayarla(ayar);
+  ASSERT_TRUE(BelgeYazdir(belge, baski, o.bildirim)->gonderildi);
+  const std::string basilan = cups.Basilan(1);
+  EXPECT_THAT(basilan, HasSubstr("\r\nI\x9F\x8Dl "));
+  EXPECT_THAT(basilan, EndsWith("-\r\n\f"));
+}
+
+TEST(BelgeYazdir, DoluDiskteEskiDosyaKalir) {
+  Ortam o;
+  YzcAyarlari ayar;
+  ayar.YzcTamam = ayar.YzcDosMod = true;
+  RaporBelgesi belge(Liste());
+  const std::string pdf = BelgePdf(belge)->baytlar;
+  const std::string dosya = o.dizin.Yol() + "liste.pdf";
+  ASSERT_TRUE(DosyaYaz(dosya, "eski"));
+  std::string metinHatasi, pdfHatasi, xlsxHatasi;
+  {
+    const auto dolu = test::DarDisk(64);
+    metinHatasi = o.Yazdir(ayar).HataMetni();
+    pdfHatasi = DosyaYaz(dosya, pdf).HataMetni();
+    const auto xlsx = belge.Xlsx();
+    xlsxHatasi = xlsx ? "" : xlsx.HataMetni();
+  }
+  EXPECT_THAT(metinHatasi, HasSubstr("yazılamadı"));
+  EXPECT_THAT(pdfHatasi, HasSubstr("yazılamadı"));
+  EXPECT_FALSE(xlsxHatasi.empty());
+  EXPECT_EQ(DosyaOku(dosya), "eski");
+  const auto gecici = test::OrtamKoy("TMPDIR", "/yok");
+  EXPECT_EQ(o.Yazdir(ayar).HataMetni(), "Dos Yazıcı Dosyası Açılamıyor");
 }
 
 TEST(BelgeYazdir, Port) {

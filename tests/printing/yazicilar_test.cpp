@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
 
+#include "bol.h"
 #include "core/sayi.h"
 #include "core/turkce.h"
 #include "printing/csvyazici.h"
@@ -11,17 +12,9 @@
 namespace belvani {
 namespace {
 
+using test::Bol;
 using test::Kalem;
 using test::KalemRaporu;
-
-std::vector<std::string> Bol(const std::string& metin, const std::string& ayrac) {
-  std::vector<std::string> parcalar;
-  std::size_t bas = 0;
-  for (std::size_t son; (son = metin.find(ayrac, bas)) != std::string::npos; bas = son + ayrac.size())
-    parcalar.push_back(metin.substr(bas, son - bas));
-  parcalar.push_back(metin.substr(bas));
-  return parcalar;
-}
 
 const std::vector<Kalem> ikiKalem = {
     {.ad = "Işıl", .gun = Tarih(2008, 2, 29), .adet = 2, .tutar = Tutar(1234.5), .birikmis = Tutar(0.5)},
