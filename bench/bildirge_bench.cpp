@@ -2,8 +2,6 @@
 // totals anew after an edit; the checks and the bytes of the electronic file.
 #include <benchmark/benchmark.h>
 
-#include "core/store/satirlar.h"
-#include "core/tables/kimlik.h"
 #include "declarations/aylikbildirge.h"
 #include "sirketuret.h"
 
@@ -27,18 +25,9 @@ struct BildirgeSirketi {
 
   BildirgeSirketi() {
     Motor& motor = sirket.o.depo.db.IcMotor();
-    Islem islem(motor);
-    KayitYazici<Kimlik> yazici(motor);
-    for (int i = 0; i < Kisi; ++i) {
-      Kimlik kimlik;
-      kimlik.kod = OrnekKisi(i).kod;
-      kimlik.tcno = "10000000146";
-      yazici.Ekle(kimlik);
-    }
     motor.Calistir(
         "update firma set unvan = 'Deneme', adr1 = 'Ümraniye', sektor = '2', meslek = '1721', sube = '0101', "
         "dosya = '1034567', il = '34', ilce = '12', kontrol = '07'");
-    islem.Onayla();
     bildirge.Ac();
     bildirge.Secim().yil = 2009;
     bildirge.Secim().ay = 6;

@@ -6,7 +6,9 @@
 #include <benchmark/benchmark.h>
 #include <clocale>
 
+#include "declarations/screens/yaylik.h"
 #include "defteruret.h"
+#include "documents/screens/brdicmal.h"
 #include "payroll/screens/brdhazir.h"
 #include "ui/dclist.h"
 #include "ui/dialogyok.h"
@@ -145,7 +147,8 @@ void AlandanCikis(benchmark::State& durum) {
     durum.PauseTiming();
     form.OdakVer("ng");
     QCoreApplication::processEvents();
-    Bas(Qt::Key_1 + i++ % 9, QString::number(1 + i % 9));
+    Bas(Qt::Key_1 + i % 9, QString::number(1 + i % 9));
+    ++i;
     durum.ResumeTiming();
     Bas(Qt::Key_Return);
   }
@@ -167,6 +170,38 @@ void RehberTusu(benchmark::State& durum) {
   }
 }
 BENCHMARK(RehberTusu)->Unit(benchmark::kMillisecond);
+
+// The last month with pay, as the session's.
+struct SonAy {
+  SonAy() { Sirket().sirket.o.firmaay = 6; }
+  ~SonAy() { Sirket().sirket.o.firmaay = 7; }
+};
+
+// The monthly declaration of 10,000 people, worked out and painted.
+void BildirgeHesapla(benchmark::State& durum) {
+  const SonAy ay;
+  yaylik form(Sirket().ekran, Sirket().parametreler);
+  form.show();
+  QApplication::setActiveWindow(&form);
+  QCoreApplication::processEvents();
+  for (auto _ : durum) {
+    Bas(Qt::Key_F5);
+    QCoreApplication::processEvents();
+  }
+  durum.counters["satir"] = double(form.Bildirge().Tamami().satirlar.size());
+}
+BENCHMARK(BildirgeHesapla)->Unit(benchmark::kMillisecond);
+
+// The screen of the summary, with its chart.
+void OzetAcilisi(benchmark::State& durum) {
+  const SonAy ay;
+  for (auto _ : durum) {
+    brdicmal form(Sirket().ekran, Sirket().parametreler);
+    form.show();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(OzetAcilisi)->Unit(benchmark::kMillisecond);
 
 struct BuyukDefter {
   std::shared_ptr<const Rapor> rapor = std::make_shared<const Rapor>(bench::OrnekDefter(10'000));

@@ -6,6 +6,7 @@
 #include "core/store/satirlar.h"
 #include "core/tables/esco.h"
 #include "core/tables/indir.h"
+#include "core/tables/kimlik.h"
 #include "core/tables/muaf.h"
 #include "payroll/parametre/indir.h"
 #include "payroll/parametre/mevzuat.h"
@@ -35,10 +36,15 @@ std::string YediHane(int sira) {
 void KisileriYaz(Motor& motor, int kisi) {
   Islem islem(motor);
   KayitYazici<Sicil> sicil(motor);
+  KayitYazici<Kimlik> kimlikler(motor);
   KayitYazici<Esco> esco(motor);
   for (int i = 0; i < kisi; ++i) {
     const Sicil s = OrnekKisi(i);
     sicil.Ekle(s);
+    Kimlik kimlik;
+    kimlik.kod = s.kod;
+    kimlik.tcno = "10000000146";
+    kimlikler.Ekle(kimlik);
     for (int yakin = 0; yakin < i % 4; ++yakin) {
       Esco e;
       e.kod = s.kod;

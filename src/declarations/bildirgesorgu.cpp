@@ -1,8 +1,5 @@
 #include "declarations/bildirgesorgu.h"
 
-#include <tuple>
-
-#include "core/store/satirlar.h"
 #include "documents/sorgumetni.h"
 #include "documents/turetilen.h"
 
@@ -21,26 +18,11 @@ constexpr auto SicilKolonlari =
     std::tuple{sicil::sskdurum, sicil::sskno,  sicil::adi,       sicil::soyadi, sicil::ilksoyadi,
                sicil::girtar,   sicil::ciktar, sicil::cikiskodu, sicil::kanun,  sicil::meslekkod};
 
-template <class Kolonlar>
-std::string Liste(const Kolonlar& kolonlar, const std::string& on) {
-  std::string liste;
-  const auto ekle = [&](const AlanTanimi& kolon) { liste += (liste.empty() ? "" : ", ") + on + std::string(kolon.ad); };
-  std::apply([&](const auto&... kolon) { (ekle(kolon), ...); }, kolonlar);
-  return liste;
-}
-
-// Returns the column after them.
-template <class Kolonlar, class Kayit>
-int KolonlariAl(const Komut& komut, int ilk, const Kolonlar& kolonlar, Kayit& kayit) {
-  std::apply([&](const auto&... kolon) { (KolonAl(komut, ilk++, kayit.*kolon.uye), ...); }, kolonlar);
-  return ilk;
-}
-
 // An empty law and none at all are one.
 constexpr const char* Kanun = "(coalesce(trim(s.kanun), '')) collate turkce";
 
 SorguMetni Sorgu(const BildirgeSuzgeci& suzgec) {
-  SorguMetni sorgu("select " + Liste(BrdKolonlari, "b.") + ", " + Liste(SicilKolonlari, "s.") +
+  SorguMetni sorgu("select " + KolonListesi(BrdKolonlari, "b.") + ", " + KolonListesi(SicilKolonlari, "s.") +
                        ", k.tcno, k.kod is not null from brd b join sicil s on s.kod = b.kod "
                        "left join kimlik k on k.kod = b.kod "
                        "where b.yil = ? and b.ay = ? and coalesce(s.tur, 0) = 0",
@@ -64,7 +46,7 @@ std::vector<std::string> KisiKanunlari(Motor& motor) {
 
 OncekiAyKayitlari::OncekiAyKayitlari(Motor& motor, int yil, int ay) {
   const auto komut =
-      motor.Hazirla("select " + Liste(GunKolonlari, "") + " from brd where yil = ? and ay = ? order by oto");
+      motor.Hazirla("select " + KolonListesi(GunKolonlari, "") + " from brd where yil = ? and ay = ? order by oto");
   komut->TamBagla(1, ay == 1 ? yil - 1 : yil);
   komut->TamBagla(2, ay == 1 ? AralikAyi : ay - 1);
   Brd brd;

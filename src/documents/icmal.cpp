@@ -1,12 +1,24 @@
 #include "documents/icmal.h"
 
-#include "core/store/satirlar.h"
 #include "documents/sorgumetni.h"
 #include "documents/turetilen.h"
 #include "printing/kolonlar.h"
 
 namespace belvani {
 namespace {
+
+// The columns that are read of a pay record.
+constexpr auto BrdKolonlari = std::tuple{brd::ng,           brd::ht,
+                                         brd::rt,           brd::ui,
+                                         brd::ha,           brd::mi,
+                                         brd::ucretsizizin, brd::ucret,
+                                         brd::sskmatrah,    brd::sskmatrahisveren,
+                                         brd::sskkesinti,   brd::sskkesintiisveren,
+                                         brd::issizisci,    brd::issizisveren,
+                                         brd::gvmatrah,     brd::gvtutar,
+                                         brd::dvmatrah,     brd::dvtutar,
+                                         brd::ogv,          brd::sendika,
+                                         brd::borckes,      brd::brutkaz};
 
 constexpr int DestekPrimiDurumu = 1;  // branch 2, "S.G.D.P. Tabi Çalışanlar"
 
@@ -128,14 +140,14 @@ Rapor IcmalRaporu(const Icmal& icmal, const DefterBaslik& baslik) {
 }
 
 std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, int ay) {
-  SorguMetni sorgu("select " + SecimListesi<Brd>(motor, "b") +
+  SorguMetni sorgu("select " + KolonListesi(BrdKolonlari, "b.") +
                        ", s.sskdurum from brd b join sicil s on s.kod = b.kod where b.yil = ? and b.ay = ?",
                    {std::int64_t(yil), std::int64_t(ay)});
   const auto komut = sorgu.Hazirla(motor);
   std::vector<IcmalGirdisi> girdiler;
   while (komut->Adim()) {
     IcmalGirdisi& girdi = girdiler.emplace_back();
-    KolonAl(*komut, KayitAl(*komut, 0, girdi.brd), girdi.sskdurum);
+    KolonAl(*komut, KolonlariAl(*komut, 0, BrdKolonlari, girdi.brd), girdi.sskdurum);
   }
   return girdiler;
 }

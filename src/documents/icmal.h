@@ -15,7 +15,7 @@
 namespace belvani {
 
 struct IcmalGirdisi {
-  Brd brd;
+  Brd brd;                    // what the summary reads of it
   std::uint8_t sskdurum = 0;  // of the person
 };
 

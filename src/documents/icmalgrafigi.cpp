@@ -40,8 +40,7 @@ std::string AyMetni(const IcmalAyi& ay) {
 
 class GrafikKalemi {
  public:
-  GrafikKalemi(const std::array<IcmalAyi, 12>& seri, Tuval& tuval, const Dikdortgen& yer)
-      : seri_(seri), tuval_(tuval), yer_(yer) {
+  GrafikKalemi(const IcmalSerisi& seri, Tuval& tuval, const Dikdortgen& yer) : seri_(seri), tuval_(tuval), yer_(yer) {
     alan_ = {yer.x + EksenPayi, yer.y + UstPayi, yer.en - EksenPayi, yer.boy - UstPayi - AltPayi};
     for (const auto& ay : seri) {
       for (const Seri& s : Seriler) enBuyuk_ = std::max(enBuyuk_, (ay.*s.deger).Sayi());
@@ -100,7 +99,7 @@ class GrafikKalemi {
                 MetinHizasi::Orta);
   }
 
-  const std::array<IcmalAyi, 12>& seri_;
+  const IcmalSerisi& seri_;
   Tuval& tuval_;
   const Dikdortgen yer_;
   Dikdortgen alan_;  // of the bars of amounts
@@ -118,7 +117,7 @@ double EksenUcu(double enBuyuk) {
   return 10 * basamak;
 }
 
-void IcmalGrafigi(const std::array<IcmalAyi, 12>& seri, Tuval& tuval, const Dikdortgen& yer) {
+void IcmalGrafigi(const IcmalSerisi& seri, Tuval& tuval, const Dikdortgen& yer) {
   GrafikKalemi(seri, tuval, yer).Ciz();
 }
 

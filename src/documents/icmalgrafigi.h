@@ -10,7 +10,7 @@ namespace belvani {
 constexpr double IcmalGrafigiBoyu = 80;  // millimetres that it needs on a page
 
 // Months without pay have no bar; a series without any is an empty frame with a word.
-void IcmalGrafigi(const std::array<IcmalAyi, 12>& seri, Tuval& tuval, const Dikdortgen& yer);
+void IcmalGrafigi(const IcmalSerisi& seri, Tuval& tuval, const Dikdortgen& yer);
 
 // The upper end of an axis that holds `enBuyuk`, so that its five steps are round numbers. 6,840 -> 7,500; 0 -> 1.
 double EksenUcu(double enBuyuk);

@@ -18,7 +18,13 @@ struct IcmalAyi {
   int kisi = 0;   // people with pay in the month
 };
 
-// The twelve months that end with this one, oldest first; a month without pay is zero. Throws MotorHatasi.
-std::array<IcmalAyi, 12> IcmalSerisiOku(Motor& motor, int yil, int ay);
+// One month; without pay it is zero. Throws MotorHatasi.
+IcmalAyi IcmalAyiOku(Motor& motor, int yil, int ay);
+
+using IcmalSerisi = std::array<IcmalAyi, 12>;
+
+// The twelve months that end with this one, oldest first, not read yet; and read. Throws MotorHatasi.
+IcmalSerisi BosIcmalSerisi(int yil, int ay);
+IcmalSerisi IcmalSerisiOku(Motor& motor, int yil, int ay);
 
 }  // namespace belvani

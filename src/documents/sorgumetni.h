@@ -4,12 +4,33 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "core/store/motor.h"
+#include "core/store/satirlar.h"
 #include "documents/defter.h"
 
 namespace belvani {
+
+// A query that needs a few columns of a wide table names them in a tuple: reading all of them costs ten times as much.
+//
+//   constexpr auto kolonlar = std::tuple{brd::kod, brd::ng};
+//   "select " + KolonListesi(kolonlar, "b.") + " from brd b"          // "b.kod, b.ng"
+//   const int sonraki = KolonlariAl(*komut, 0, kolonlar, kayit);       // into the record; the column after them
+template <class Kolonlar>
+std::string KolonListesi(const Kolonlar& kolonlar, const std::string& on) {
+  std::string liste;
+  const auto ekle = [&](const AlanTanimi& kolon) { liste += (liste.empty() ? "" : ", ") + on + std::string(kolon.ad); };
+  std::apply([&](const auto&... kolon) { (ekle(kolon), ...); }, kolonlar);
+  return liste;
+}
+
+template <class Kolonlar, class Kayit>
+int KolonlariAl(const Komut& komut, int ilk, const Kolonlar& kolonlar, Kayit& kayit) {
+  std::apply([&](const auto&... kolon) { (KolonAl(komut, ilk++, kayit.*kolon.uye), ...); }, kolonlar);
+  return ilk;
+}
 
 class SorguMetni {
  public:

@@ -31,7 +31,8 @@ QString DosyaAdi(const std::string& baslik, const QString& uzanti) {
 // Where the user wants the file, with its extension; nothing when given up.
 std::optional<std::string> DosyaSor(EkranBaglami& baglam, const std::string& baslik, const char* filtre,
                                     const QString& uzanti) {
-  const QString dizin = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  QString dizin = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  if (!QDir(dizin).exists()) dizin = QDir::homePath();
   auto yol = baglam.dialoglar.DosyaKaydet("Kaydet", Utf8(QDir(dizin).filePath(DosyaAdi(baslik, uzanti))), filtre);
   if (yol && !Yazi(*yol).endsWith(uzanti, Qt::CaseInsensitive)) *yol += Utf8(uzanti);
   return yol;

@@ -4,11 +4,13 @@
 #include "documents/agilistesi.h"
 #include "documents/doludepo.h"
 #include "documents/icmal.h"
+#include "documents/icmalgrafigi.h"
 #include "documents/icmalserisi.h"
 #include "documents/izin.h"
 #include "documents/ornekler.h"
 #include "documents/ozelbordro.h"
 #include "documents/pusula.h"
+#include "printing/kayittuvali.h"
 #include "printing/metinyazici.h"
 
 namespace belvani {
@@ -114,6 +116,18 @@ TEST(Belgeler, IcmalKayitlarinToplamidir) {
   for (const auto& a : seri) brut += a.brut;
   EXPECT_EQ(brut.Ham(), Depo().Topla("brutkaz", "(yil = 2008 and ay <= 7 or yil = 2007 and ay > 7) and " +
                                                     std::string(Gunler) + " > 0"));
+
+  // The chart: three bars and a bar of people for each month, on one scale.
+  test::KayitTuvali tuval;
+  tuval.SayfaBasla(A4(KagitYonu::Dikey));
+  IcmalGrafigi(seri, tuval, {10, 10, 190, IcmalGrafigiBoyu});
+  const auto& sayfa = tuval.sayfalar[0];
+  EXPECT_EQ(sayfa.Say(test::OgeTuru::DoluKutu), 4u + 6u + 12u * 3u) << "legend, axis, bars; the random nets lie below zero";
+  for (const auto& oge : sayfa.ogeler)
+    EXPECT_TRUE(oge.kutu.y >= 10 && oge.Alt() <= 10 + IcmalGrafigiBoyu + 1e-6) << oge.metin;
+  EXPECT_THAT(sayfa.Satirlar(), testing::Contains(HasSubstr("07.08")));
+  for (const auto& [enBuyuk, uc] : {std::pair(6840.0, 7500.0), {0.0, 1.0}, {1000.0, 1000.0}, {99.9, 100.0}})
+    EXPECT_DOUBLE_EQ(EksenUcu(enBuyuk), uc);
 
   const Rapor rapor = IcmalRaporu(i, test::OrnekBaslik());
   ASSERT_EQ(rapor.Satirlar().size(), 14u);

@@ -16,7 +16,7 @@ yzckopy::yzckopy(EkranBaglami& baglam, std::vector<FormSayfasi> sayfalar, YzcAya
   alan_->setFocusPolicy(Qt::NoFocus);
   alan_->verticalScrollBar()->setObjectName("dik");
   alan_->horizontalScrollBar()->setObjectName("yatay");
-  alan_->setMinimumSize(960, 480);
+  alan_->setMinimumSize(1150, 480);  // an A4 sheet across, whole
   yuzey_->Gorunsun = [this](const QRect& yer) { alan_->ensureVisible(yer.center().x(), yer.center().y(), 120, 90); };
   durum_->setObjectName("durum");
   Govde()->addWidget(durum_);

@@ -2,6 +2,7 @@
 // months up to it. A change of year or month works them out again.
 #pragma once
 
+#include "documents/icmalserisi.h"
 #include "documents/screens/belgeekrani.h"
 
 class QLabel;
@@ -18,11 +19,14 @@ class brdicmal : public BelgeEkrani {
 
  private:
   void Goster();
+  void AyiOku(int surum, std::size_t sira);
   void GrafikCiz();
 
   QLabel* satirlar_;
   QLabel* sayilar_;
   QLabel* grafik_;
+  IcmalSerisi seri_;    // of the chart
+  int seriSurumu_ = 0;  // grows with each choice of a month: what is still being read for another one stops
 };
 
 }  // namespace belvani
