@@ -29,6 +29,7 @@ class Belge {
   const YzcAyarlari& Ayar() const { return ayar_; }
 
   virtual std::string Baslik() const = 0;
+  virtual bool Bos() const = 0;  // nothing to print
   // The drawn form, as long as this document lives; null for one that has none.
   virtual std::unique_ptr<CizilenBelge> Cizim() const = 0;
   // The text form, UTF-8; empty for one that has none, or nothing to print.
@@ -55,6 +56,7 @@ class RaporBelgesi : public Belge {
 
   void Ayarla(const YzcAyarlari& ayar) override;
   std::string Baslik() const override { return kagit_->baslik; }
+  bool Bos() const override { return tablo_->Satirlar().empty(); }
   std::unique_ptr<CizilenBelge> Cizim() const override;
   std::string Metin() const override;
   std::string MetinUyarisi() const override;
@@ -76,6 +78,7 @@ class YaprakliBelge final : public Belge {
 
   void Ayarla(const YzcAyarlari& ayar) override;
   std::string Baslik() const override { return yapraklar_.baslik; }
+  bool Bos() const override { return yapraklar_.yapraklar.empty(); }
   std::unique_ptr<CizilenBelge> Cizim() const override;
   std::string Metin() const override;
   Sonuc<std::string> Xlsx() const override;

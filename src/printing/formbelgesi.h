@@ -17,6 +17,7 @@ class FormBelgesi final : public Belge {
   FormBelgesi(YzcAyarlari ilk, std::vector<FormSayfasi> sayfalar, std::string metin);
 
   std::string Baslik() const override { return Ayar().YzcBaslik; }
+  bool Bos() const override { return sayfalar_.empty() && metin_.empty(); }
   std::unique_ptr<CizilenBelge> Cizim() const override;
   std::string Metin() const override { return metin_; }
   Sonuc<std::string> Xlsx() const override;

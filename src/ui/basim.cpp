@@ -110,11 +110,6 @@ YzcKarar AyarSor(EkranBaglami& baglam, YzcAyarlari& ayar) {
   return karar;
 }
 
-bool BosMu(const Belge& belge) {
-  const auto tablo = belge.Tablo();
-  return tablo != nullptr ? tablo->Satirlar().empty() : BelgeSayfalari(belge)->SayfaSayisi() == 0;
-}
-
 }  // namespace
 
 void BelgeBas(EkranBaglami& baglam, Belge& belge) {
@@ -122,7 +117,7 @@ void BelgeBas(EkranBaglami& baglam, Belge& belge) {
 }
 
 void BelgeBas(EkranBaglami& baglam, Belge& belge, const BasimSozu& once) {
-  if (BosMu(belge)) return baglam.bildirim.Bilgi(BasilacakYok);
+  if (belge.Bos()) return baglam.bildirim.Bilgi(BasilacakYok);
   YzcAyarlari ayar = belge.Ayar();
   ayar.yazici = baglam.baski.yazici;
   while (true) {
