@@ -11,6 +11,7 @@ namespace {
 struct BelgeSecenekleri {
   std::string kod;
   Donem donem;
+  DefterSecim secim;  // who; the period comes from `donem`
   std::string izinTipi = "icmal";
   int sayfada = int(SayfadaYaprak::Iki);
   BelgeCiktisi cikti;
@@ -29,7 +30,7 @@ struct Is {
   int Yil() const { return secenekler.donem.yil; }
   int Ay() const { return secenekler.donem.ay; }
   DefterSecim Secim() const {
-    DefterSecim secim;
+    DefterSecim secim = secenekler.secim;
     secim.yil = Yil();
     secim.ay = Ay();
     return secim;
@@ -78,7 +79,7 @@ void Izin(const Is& is) {
   const IzinRaporu rapor = tip == "personel" ? IzinRaporu::Personel
                            : tip == "donem"  ? IzinRaporu::Donemsel
                                              : IzinRaporu::Icmal;
-  BelgeYaz(*IzinBelgesi(is.Kaynak(), is.Yil(), {}, rapor, {}), is.secenekler.cikti);
+  BelgeYaz(*IzinBelgesi(is.Kaynak(), is.Yil(), is.secenekler.secim.kod, rapor, {}), is.secenekler.cikti);
 }
 
 void Agi(const Is& is) {
@@ -86,6 +87,31 @@ void Agi(const Is& is) {
 }
 
 enum class Sorulan { YilVeAy, Yil };
+
+// Ranges of people, both ends included.
+struct AralikSecenegi {
+  const char* ad;
+  const char* aciklama;
+  MetinAraligi DefterSecim::*aralik;
+};
+constexpr AralikSecenegi araliklar[] = {
+    {"--kod", "personel kodları, ilk ve son", &DefterSecim::kod},
+    {"--grup", "gruplar, ilk ve son", &DefterSecim::grup},
+    {"--tip", "tipler, ilk ve son", &DefterSecim::tip},
+    {"--ozel", "özel kodlar, ilk ve son", &DefterSecim::ozel},
+};
+
+void AralikEkle(CLI::App& komut, const AralikSecenegi& secenek, const std::shared_ptr<BelgeSecenekleri>& s) {
+  komut
+      .add_option_function<std::vector<std::string>>(
+          secenek.ad,
+          [s, aralik = secenek.aralik](const std::vector<std::string>& uclar) {
+            s->secim.*aralik = {uclar[0], uclar[1]};
+          },
+          secenek.aciklama)
+      ->expected(2)
+      ->type_name("BAŞ BİT");
+}
 
 struct BelgeKomutu {
   const char* ad;
@@ -112,7 +138,10 @@ void BelgeKomutlari(CLI::App& app, Genel& genel) {
     komut->add_option("KOD", s->kod, "şirket")->required();
     if (belge.sorulan == Sorulan::YilVeAy) {
       DonemSecenekleri(*komut, s->donem);
+      if (belge.yap != Ozet)
+        for (const auto& aralik : araliklar) AralikEkle(*komut, aralik, s);
     } else {
+      AralikEkle(*komut, araliklar[0], s);
       YilSecenegi(*komut, s->donem.yil, "bu yılın sonuna kadar")->required();
       komut->add_option("--tip", s->izinTipi, "icmal, personel (kişilerin ayları) veya donem (yılın ayları)")
           ->check(CLI::IsMember({"icmal", "personel", "donem"}));

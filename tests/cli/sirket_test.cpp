@@ -123,6 +123,10 @@ TEST(Sirket, PapersComeInEveryForm) {
   const auto pusula = s("pusula deneme --yil 2009 --ay 7 --bicim json").Json();
   EXPECT_EQ(pusula["satirlar"][2]["Adı Soyadı"], "İnci Öztürk");
   EXPECT_EQ(pusula["toplam"]["Toplam Kazanç"], "3780.50");
+  const auto biri = s("pusula deneme --yil 2009 --ay 7 --kod 002 002 --bicim json").Json();
+  ASSERT_EQ(biri["satirlar"].size(), 1u);
+  EXPECT_EQ(biri["satirlar"][0]["Adı Soyadı"], pusula["satirlar"][1]["Adı Soyadı"]);
+  EXPECT_EQ(s("bordro deneme --yil 2009 --ay 7 --kod 002").durum, 2) << "a range has two ends";
   EXPECT_EQ(s("izin deneme --yil 2009 --tip yok").durum, 2);
   EXPECT_THAT(s("agi deneme --yil 2008 --ay 1").mesaj, HasSubstr("Bu dönemde bordro kaydı yok"));
   s.Yaz("eski.xlsx", "eski");

@@ -123,7 +123,9 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
   komut(Qt::Key_F11, " E-Bildirge Hazırla ", "indir", &yaylik::EBildirge);
   bildirge_.Ac();
   SecenekleriKoy(Denetim("belgeTuru"), bildirge_.BelgeTurleri());
-  SecenekleriKoy(Denetim("kanun"), bildirge_.KanunSecenekleri());
+  auto kanunlar = bildirge_.KanunSecenekleri();
+  std::ranges::replace(kanunlar, std::string(), std::string("(boş)"));  // of people without a law
+  SecenekleriKoy(Denetim("kanun"), kanunlar);
   Yukle(SecimFormu{.yil = std::int16_t(bildirge_.Secim().yil), .ay = std::uint8_t(bildirge_.Secim().ay)});
   AlanDegisti = [this](AlanDenetimi& alan) { AlanDegisince(alan); };
   ToplamlariGoster();
