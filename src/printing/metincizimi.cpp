@@ -1,7 +1,6 @@
 #include "printing/metincizimi.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "core/turkce.h"
 
@@ -15,21 +14,24 @@ constexpr double SatirMm = IncMm / 6;
 constexpr double EnDarKagitMm = 8.5 * IncMm;
 constexpr double MetinPunto = 11;
 
-template <class Islev>
-void Ayir(std::string_view metin, char ayrac, Islev islev) {
-  for (const auto parca : std::views::split(metin, ayrac)) islev(std::string_view(parca.begin(), parca.end()));
-}
-
 }  // namespace
+
+std::vector<std::string_view> Parcala(std::string_view metin, char ayrac) {
+  std::vector<std::string_view> parcalar;
+  for (std::size_t son; (son = metin.find(ayrac)) != std::string_view::npos; metin.remove_prefix(son + 1))
+    parcalar.push_back(metin.substr(0, son));
+  parcalar.push_back(metin);
+  return parcalar;
+}
 
 std::size_t EnUzunSatir(std::string_view metin) {
   std::size_t harf = 0;
-  Ayir(metin, '\n', [&](std::string_view satir) { harf = std::max(harf, HarfSayisi(satir)); });
+  for (const std::string_view satir : Parcala(metin, '\n')) harf = std::max(harf, HarfSayisi(satir));
   return harf;
 }
 
 MetinCizimi::MetinCizimi(std::string metin, int satirSayisi) : metin_(std::move(metin)) {
-  if (!metin_.empty()) Ayir(metin_, '\f', [&](std::string_view sayfa) { sayfalar_.push_back(sayfa); });
+  if (!metin_.empty()) sayfalar_ = Parcala(metin_, '\f');
   const std::size_t harf = EnUzunSatir(metin_);
   const double harfMm = harf > NormalSatirHarfi ? SikisikHarfMm : NormalHarfMm;
   yazi_ = {.punto = MetinPunto, .aile = YaziAilesi::EsEnli};
@@ -42,10 +44,10 @@ MetinCizimi::MetinCizimi(std::string metin, int satirSayisi) : metin_(std::move(
 void MetinCizimi::SayfaCiz(int no, Tuval& tuval) const {
   tuval.SayfaBasla(kagit_);
   double y = 0;
-  Ayir(sayfalar_[std::size_t(no - 1)], '\n', [&](std::string_view satir) {
+  for (const std::string_view satir : Parcala(sayfalar_[std::size_t(no - 1)], '\n')) {
     tuval.Metin({KenarMm, y}, satir, yazi_);
     y += SatirMm;
-  });
+  }
   tuval.SayfaBitir();
 }
 

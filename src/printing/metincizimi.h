@@ -15,6 +15,9 @@ namespace belvani {
 // Lines that fit in letters of normal width; longer ones are condensed on the printer too.
 constexpr std::size_t NormalSatirHarfi = 80;
 
+// The parts of a text between the letters `ayrac`; at least one. They lie in the text itself.
+std::vector<std::string_view> Parcala(std::string_view metin, char ayrac);
+
 // The letters of the longest line.
 std::size_t EnUzunSatir(std::string_view metin);
 

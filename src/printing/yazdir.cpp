@@ -1,7 +1,6 @@
 #include "printing/yazdir.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "printing/belprnislem.h"
 #include "printing/doskod.h"
@@ -32,13 +31,11 @@ bool MetniYaz(const std::string& metin, int kopya, Yaz yaz) {
   const bool sikisik = EnUzunSatir(metin) > NormalSatirHarfi;
   if (sikisik && !yaz(DosSikisik.ac, SatirSonu::Yok)) return false;
   for (int i = 0; i < kopya; ++i)
-    for (const auto sayfa : std::views::split(std::string_view(metin), '\f')) {
-      std::string_view kalan(sayfa.begin(), sayfa.end());
-      while (!kalan.empty()) {
-        const auto son = std::min(kalan.find('\n'), kalan.size());
-        if (!yaz(kalan.substr(0, son), SatirSonu::Var)) return false;
-        kalan.remove_prefix(std::min(son + 1, kalan.size()));
-      }
+    for (const std::string_view sayfa : Parcala(metin, '\f')) {
+      // The last line of a page ends like the others.
+      for (const std::string_view satir :
+           Parcala(sayfa.substr(0, sayfa.ends_with('\n') ? sayfa.size() - 1 : sayfa.size()), '\n'))
+        if (!yaz(satir, SatirSonu::Var)) return false;
       if (!yaz(DosSayfaAt, SatirSonu::Yok)) return false;
     }
   return !sikisik || yaz(DosSikisik.kapat, SatirSonu::Yok);

@@ -149,7 +149,7 @@ void TabloyuAc(EkranBaglami& baglam, const std::string& ad, const std::string& b
   if (const auto yol = DosyaSor(baglam, ad, XlsxFiltresi, ".xlsx")) Kaydet(baglam, *yol, baytlar);
 }
 
-void BelgeEkranaListele(EkranBaglami& baglam, std::shared_ptr<Belge> belge) {
+void BelgeEkranaListele(EkranBaglami& baglam, const std::shared_ptr<Belge>& belge) {
   const auto tablo = belge->Tablo();
   if (tablo == nullptr) return baglam.bildirim.Bilgi("Bu Liste Sadece Yazıcıdan Alınabilir.");
   const PerekrIslevleri islevler{.yazdir = [&baglam, belge] { BelgeBas(baglam, *belge); },

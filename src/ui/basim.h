@@ -27,6 +27,6 @@ void TabloyuAc(EkranBaglami& baglam, const std::string& ad, const std::string& b
 
 // " Ekrana Listele": the report grid, which prints and goes to the spreadsheet from there. A paper that is no table
 // says that it can only be printed.
-void BelgeEkranaListele(EkranBaglami& baglam, std::shared_ptr<Belge> belge);
+void BelgeEkranaListele(EkranBaglami& baglam, const std::shared_ptr<Belge>& belge);
 
 }  // namespace belvani

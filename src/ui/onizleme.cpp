@@ -22,7 +22,7 @@ constexpr int KenarPayi = 24;     // pixels for the scroll bar
 QImage NoktaResmi(const ResimTuvali& tuval) {
   if (tuval.En() == 0) return {};
   const auto* noktalar = reinterpret_cast<const uchar*>(tuval.Noktalar().data());
-  return QImage(noktalar, tuval.En(), tuval.Boy(), tuval.En() * 4, QImage::Format_RGB32).copy();
+  return QImage(noktalar, tuval.En(), tuval.Boy(), qsizetype(tuval.En()) * 4, QImage::Format_RGB32).copy();
 }
 
 QImage SayfaResmi(const CizilenBelge& belge, int sayfa, double dpi) {

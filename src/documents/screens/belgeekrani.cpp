@@ -81,7 +81,7 @@ void BelgeEkrani::BelgeKomutlari() {
     DugmeEkle(QString::fromUtf8(ad), simge, std::move(islev));
   };
   komut(Qt::Key_F6, " Ekrana Listele", "liste", [this] {
-    if (std::shared_ptr<Belge> belge = Hazirla()) BelgeEkranaListele(Baglam(), std::move(belge));
+    if (const std::shared_ptr<Belge> belge = Hazirla()) BelgeEkranaListele(Baglam(), belge);
   });
   komut(Qt::Key_F8, " Yazıcıya Yazdır", "yazici", [this] {
     if (const auto belge = Hazirla()) BelgeBas(Baglam(), *belge);
