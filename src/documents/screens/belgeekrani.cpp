@@ -2,6 +2,7 @@
 
 #include <QFont>
 
+#include "core/tables/sicil.h"
 #include "ui/basim.h"
 #include "ui/mesgul.h"
 #include "ui/metin.h"
@@ -10,7 +11,6 @@
 namespace belvani {
 namespace {
 
-constexpr int KodHarfi = 12;
 constexpr const char* BaslangicBitis = "Başlangıç ve Bitiş";
 
 // The field at the end of a range.
@@ -42,8 +42,8 @@ AlanGrubu DonemAlanlari(const char* yilEtiketi, const char* ayEtiketi) {
 
 AlanGrubu KodAraligi(const char* kodEtiketi) {
   return {BaslangicBitis,
-          {{Uye("kodBas", &SecimFormu::kodBas, KodHarfi), kodEtiketi, {.rehber = true}},
-           {Uye("kodBit", &SecimFormu::kodBit, KodHarfi), Bitis(kodEtiketi).c_str(), {.rehber = true}}},
+          {{Uye("kodBas", &SecimFormu::kodBas, sicil::kod.boyut), kodEtiketi, {.rehber = true}},
+           {Uye("kodBit", &SecimFormu::kodBit, sicil::kod.boyut), Bitis(kodEtiketi).c_str(), {.rehber = true}}},
           2};
 }
 
@@ -52,12 +52,12 @@ AlanGrubu AralikAlanlari(bool numarali, const char* kodEtiketi) {
   if (numarali)
     grup.alanlar = {{Uye("noBas", &SecimFormu::noBas), "Bordro no", {.enCok = 99}},
                     {Uye("noBit", &SecimFormu::noBit), "Bordro no Bitiş", {.enCok = 99}}};
-  const std::vector<Alan> kisiler{{Uye("grupBas", &SecimFormu::grupBas, KodHarfi), "Grup"},
-                                  {Uye("grupBit", &SecimFormu::grupBit, KodHarfi), "Grup Bitiş"},
-                                  {Uye("tipBas", &SecimFormu::tipBas, KodHarfi), "Tip"},
-                                  {Uye("tipBit", &SecimFormu::tipBit, KodHarfi), "Tip Bitiş"},
-                                  {Uye("ozelBas", &SecimFormu::ozelBas, KodHarfi), "Özel"},
-                                  {Uye("ozelBit", &SecimFormu::ozelBit, KodHarfi), "Özel Bitiş"}};
+  const std::vector<Alan> kisiler{{Uye("grupBas", &SecimFormu::grupBas, sicil::grup.boyut), "Grup"},
+                                  {Uye("grupBit", &SecimFormu::grupBit, sicil::grup.boyut), "Grup Bitiş"},
+                                  {Uye("tipBas", &SecimFormu::tipBas, sicil::tip.boyut), "Tip"},
+                                  {Uye("tipBit", &SecimFormu::tipBit, sicil::tip.boyut), "Tip Bitiş"},
+                                  {Uye("ozelBas", &SecimFormu::ozelBas, sicil::ozel.boyut), "Özel"},
+                                  {Uye("ozelBit", &SecimFormu::ozelBit, sicil::ozel.boyut), "Özel Bitiş"}};
   for (const auto& alanlar : {KodAraligi(kodEtiketi).alanlar, kisiler})
     grup.alanlar.insert(grup.alanlar.end(), alanlar.begin(), alanlar.end());
   return grup;
