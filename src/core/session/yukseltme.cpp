@@ -185,6 +185,8 @@ GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar 
     if (isaretli[i])
       if (const auto sonuc = VeritabaniGuncelle(o, i, sskTaban, bildirim); sonuc != GuncellemeSonucu::Tamam)
         return sonuc;
+  // The store is whole without them, only slower: nobody is told when they cannot be made.
+  o.depo.db.SorguIndeksleriKur();
   return GuncellemeSonucu::Tamam;
 }
 

@@ -11,8 +11,12 @@
 namespace belvani {
 namespace {
 
-std::string IndeksKur(std::string_view tablo, const std::string& ad, const IndeksTanimi& indeks) {
+enum class Varsa { Kusurdur, Gecilir };
+
+std::string IndeksKur(std::string_view tablo, const std::string& ad, const IndeksTanimi& indeks,
+                      Varsa varsa = Varsa::Kusurdur) {
   std::string sql = indeks.tekil ? "create unique index " : "create index ";
+  if (varsa == Varsa::Gecilir) sql += "if not exists ";
   sql += ad + " on " + std::string(tablo) + " (";
   for (std::size_t i = 0; i < indeks.alanlar.size(); ++i) sql += (i ? ", " : "") + std::string(indeks.alanlar[i]);
   return sql + ")";
@@ -132,6 +136,18 @@ bool Veritabani::TabloEkle(const TabloTanimi& tanim) {
         motor_->Calistir(IndeksKur(tanim.ad, std::string(tanim.ad) + "_" + std::string(indeks.ad), indeks));
     for (const auto& indeks : tanim.sorguIndeksleri)
       motor_->Calistir(IndeksKur(tanim.ad, std::string(indeks.ad), indeks));
+    islem.Onayla();
+    return true;
+  });
+}
+
+bool Veritabani::SorguIndeksleriKur() {
+  return Koru(false, [&] {
+    Islem islem(*motor_);
+    for (const TabloTanimi& tanim : Tablolar())
+      for (const auto& indeks : tanim.sorguIndeksleri)
+        if (!motor_->Kolonlar(tanim.ad).empty())
+          motor_->Calistir(IndeksKur(tanim.ad, std::string(indeks.ad), indeks, Varsa::Gecilir));
     islem.Onayla();
     return true;
   });

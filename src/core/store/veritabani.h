@@ -53,6 +53,8 @@ class Veritabani {
   bool AlanEkle(std::string_view tablo, const AlanTanimi& alan);
   bool TabloEkle(const TabloTanimi& tanim);
   bool TabloVarMi(std::string_view tablo);
+  // The indexes of the engine's own queries, on the tables of a store that an older program has made.
+  bool SorguIndeksleriKur();
 
   const std::string& SonHata() const { return sonHata_; }
   void HataYaz(std::string metin);

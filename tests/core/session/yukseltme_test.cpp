@@ -87,7 +87,12 @@ TEST_F(Yukseltme, RepeatedSteps) {
   Sql("insert into sicil (kod, sskdurum, tur, tahsisno, kanun) values ('1', 2, 18, '7', '05084'), ('2', 2, 19, '', "
       "'')");
   Sql("insert into brd (kod, ogv, katki, sskmatrahisveren, sendika) values ('1', 5, 6, 9000000, 8)");
+  const char* donemIndeksleri =
+      "select count(*) from sqlite_master where type = 'index' and name like 'brd!_%' escape '!'";
+  const std::string ilk = Satir(donemIndeksleri);
+  Sql("drop index brd_ay");  // an older program knew nothing of it
   ASSERT_EQ(AdimlariYurut(o, {true, true, true, true, true, true, false}, Taban, b), GuncellemeSonucu::Tamam);
+  EXPECT_EQ(Satir(donemIndeksleri), ilk);
   EXPECT_EQ(Satir("select epos || kanun, tersfirma, versiyon from firma"), "00000 0 2003.6");
   EXPECT_EQ(Satir("select tur, tahsisno || kanun from sicil order by kod"), "18 705084 15 ");
   EXPECT_EQ(Satir("select ogv, katki, sendika from brd"), "5 0 8");
