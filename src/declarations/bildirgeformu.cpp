@@ -226,6 +226,7 @@ int Sigortalilar(FormKurucu& f, int satir, const BildirgeKagidi& kagit, const Ka
   satir = TabloBasligi(f, KagitSolu, satir + 1, kolonlar);
   if (!ilkSayfa) satir = ToplamSatiri(f, satir, "ÖNCEKİ SAYFADAN DEVİRLER", "devreden", sayfa.devir, kagit.paraonda);
   std::vector<double> enler;
+  enler.reserve(kolonlar.size());
   for (const auto& k : kolonlar) enler.push_back(k.en);
   f.Tablo({KagitSolu, satir * SatirMm}, enler, SatirMm, kapasite);
   for (std::size_t i = sayfa.ilk; i < sayfa.son; ++i)
@@ -303,6 +304,7 @@ std::vector<FormSayfasi> BildirgeSayfalari(const BildirgeKagidi& kagit) {
   const auto bolumler = SayfalaraBol(kagit.satirlar);
   const int sayfaSayisi = int(bolumler.size());
   std::vector<FormSayfasi> sayfalar;
+  sayfalar.reserve(bolumler.size());
   for (const auto& bolum : bolumler)
     sayfalar.push_back((bolum.no == 1 ? BildirgeBirinciSayfa : BildirgeDevamSayfasi)(kagit, bolum, sayfaSayisi));
   return sayfalar;

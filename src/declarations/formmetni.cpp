@@ -57,6 +57,7 @@ std::string FormMetni(const FormSayfasi& sayfa) {
 
 std::string FormMetni(const std::vector<FormSayfasi>& sayfalar) {
   std::vector<std::string> metinler;
+  metinler.reserve(sayfalar.size());
   for (const auto& sayfa : sayfalar) metinler.push_back(FormMetni(sayfa));
   return SayfalariBirlestir(metinler);
 }

@@ -47,6 +47,7 @@ int Kisiler(FormKurucu& f, int satir, const EksikGunFormu& form, std::size_t ilk
   const auto& kolonlar = Kolonlar();
   satir = TabloBasligi(f, KagitSolu, satir, kolonlar);
   std::vector<double> enler;
+  enler.reserve(kolonlar.size());
   for (const auto& k : kolonlar) enler.push_back(k.en);
   f.Tablo({KagitSolu, satir * SatirMm}, enler, SatirMm, int(EksikGunSayfaKisisi));
   const std::size_t son = std::min(form.kisiler.size(), ilk + EksikGunSayfaKisisi);

@@ -1,6 +1,7 @@
 #include "declarations/kagitparcalari.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/turkce.h"
 #include "declarations/bildirgekagidi.h"
@@ -144,7 +145,7 @@ int Taraf(FormKurucu& f, const Dikdortgen& ustSatir, std::string_view baslik, co
           const TarafBilgisi& taraf) {
   constexpr double etiketEni = 24;
   const double en = ustSatir.en;
-  int satir = int(ustSatir.y / SatirMm + 0.5);
+  int satir = int(std::lround(ustSatir.y / SatirMm));
   f.Kutu(ustSatir);
   Baslik(f, ustSatir, baslik, 7);
   satir = Kutucuklar(f, ustSatir.x, satir + 1, {{en, "Adı Soyadı / Ünvanı", etiketEni, on + ".unvan", taraf.unvan}});

@@ -36,8 +36,7 @@ std::vector<BulunanKisi> SirketteAra(const std::string& dizin, const std::string
     KolonAl(*komut, 1, soyadi);
     std::string adsoy = adi;
     adsoy.append(" ").append(soyadi);
-    if (KucukHarf(adsoy).find(aranan) != std::string::npos)
-      bulunanlar.push_back({adsoy, firmaAdi, firma.donem});
+    if (KucukHarf(adsoy).find(aranan) != std::string::npos) bulunanlar.push_back({adsoy, firmaAdi, firma.donem});
   }
   return bulunanlar;
 }

@@ -164,7 +164,9 @@ Dikdortgen GrafikYapraklar::Yer(int sira) const {
   const Bolunme b = BolunmeBul(sayfada_);
   const double en = Kagit.en / b.sutun;
   const double boy = Kagit.boy / b.satir;
-  return {en * (sira % b.sutun) + KenarMm, boy * (sira / b.sutun) + KenarMm, en - 2 * KenarMm, boy - 2 * KenarMm};
+  const int sutun = sira % b.sutun;
+  const int satir = sira / b.sutun;
+  return {en * sutun + KenarMm, boy * satir + KenarMm, en - 2 * KenarMm, boy - 2 * KenarMm};
 }
 
 void GrafikYapraklar::SayfaCiz(int no, Tuval& tuval) const {

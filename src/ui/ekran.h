@@ -1,6 +1,7 @@
 // What a screen is given to work with, and how screens are shown.
 #pragma once
 
+#include <QFont>
 #include <QString>
 #include <memory>
 #include <optional>
@@ -9,6 +10,8 @@
 #include "core/bildirim.h"
 #include "core/session/oturum.h"
 #include "printing/yazdir.h"
+
+class QWidget;
 
 namespace belvani {
 

@@ -122,7 +122,8 @@ TEST(Belgeler, IcmalKayitlarinToplamidir) {
   tuval.SayfaBasla(A4(KagitYonu::Dikey));
   IcmalGrafigi(seri, tuval, {10, 10, 190, IcmalGrafigiBoyu});
   const auto& sayfa = tuval.sayfalar[0];
-  EXPECT_EQ(sayfa.Say(test::OgeTuru::DoluKutu), 4u + 6u + 12u * 3u) << "legend, axis, bars; the random nets lie below zero";
+  EXPECT_EQ(sayfa.Say(test::OgeTuru::DoluKutu), 4u + 6u + 12u * 3u)
+      << "legend, axis, bars; the random nets lie below zero";
   for (const auto& oge : sayfa.ogeler)
     EXPECT_TRUE(oge.kutu.y >= 10 && oge.Alt() <= 10 + IcmalGrafigiBoyu + 1e-6) << oge.metin;
   EXPECT_THAT(sayfa.Satirlar(), testing::Contains(HasSubstr("07.08")));

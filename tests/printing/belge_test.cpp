@@ -75,8 +75,9 @@ struct Ortam {
   // A belprn that keeps what it is told.
   Ortam() {
     const std::string program = dizin.Yol() + "belprn";
-    EXPECT_TRUE(DosyaYaz(program, "#!/bin/sh\nexec 2>/dev/null\ncp \"$1\" '" + dizin.Yol() + "basilan.yeni'\nrm \"$1\"\nmv '" +
-                                      dizin.Yol() + "basilan.yeni' '" + dizin.Yol() + "basilan'\n"));
+    EXPECT_TRUE(DosyaYaz(program, "#!/bin/sh\nexec 2>/dev/null\ncp \"$1\" '" + dizin.Yol() +
+                                      "basilan.yeni'\nrm \"$1\"\nmv '" + dizin.Yol() + "basilan.yeni' '" + dizin.Yol() +
+                                      "basilan'\n"));
     ::chmod(program.c_str(), 0700);
   }
   std::string Basilan() const {

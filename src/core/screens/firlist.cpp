@@ -68,7 +68,8 @@ void firlist::SeciciYap() {
 }
 
 void firlist::CiktiKomutlari() {
-  const auto komut = [this](Qt::Key tus, const char* ad, const char* simge, std::function<void(RaporBelgesi&)> islev) {
+  const auto komut = [this](Qt::Key tus, const char* ad, const char* simge,
+                            const std::function<void(RaporBelgesi&)>& islev) {
     const auto yap = [this, islev] {
       RaporBelgesi belge = ListeBelgesi(Oturumu().DataPath);
       islev(belge);

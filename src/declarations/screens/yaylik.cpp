@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 
 #include "declarations/screens/intefrm.h"
 #include "declarations/screens/yaylikcikti.h"
