@@ -6,10 +6,10 @@
 #include <benchmark/benchmark.h>
 #include <clocale>
 
-#include "declarations/screens/yaylik.h"
 #include "defteruret.h"
-#include "documents/screens/brdicmal.h"
-#include "payroll/screens/brdhazir.h"
+#include "screens/declarations/yaylik.h"
+#include "screens/documents/brdicmal.h"
+#include "screens/payroll/brdhazir.h"
 #include "ui/dclist.h"
 #include "ui/dialogyok.h"
 #include "ui/metin.h"

@@ -24,7 +24,7 @@ class Sessiz : public Bildirim {
 template <class T>
 T Al(Sonuc<T> sonuc) {
   if (sonuc) return std::move(*sonuc);
-  std::cerr << sonuc.HataMetni() << '\n';
+  std::cerr << sonuc.KusurMetni() << '\n';
   std::exit(1);
 }
 

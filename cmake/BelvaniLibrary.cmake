@@ -1,26 +1,30 @@
-# belvani_library(NAME core LAYER logic FOLDER core SOURCES a.cpp … [USES other …] [LIBS PkgConfig::X …])
+# belvani_library(NAME core LAYER logic FOLDER core [USES other …] [LIBS PkgConfig::X …] [EXCEPT main.cpp …])
 #
-# One folder below src/ is one library. USES names the rooms this room may see: configuration fails when a file of
-# the room includes a header of any other, or when a library of the logic layer uses one of the screen layer.
-# Qt's include directories are given to the screen layer alone, so a logic library cannot reach Qt by accident.
-
-set(BELVANI_ODALAR "" CACHE INTERNAL "folder of each library, NAME=FOLDER")
+# One folder below src/ is one library, made of all its .cpp files but those of EXCEPT. USES names the rooms whose
+# headers this room may include, each by itself: what a used room uses in its turn is not seen. Configuration fails when
+# a file of the room includes a header of any other, when a library of the logic layer uses one of the screen layer, and
+# when the table of rooms in docs/architecture.md says something else. Qt's include directories are given to the screen
+# layer alone, so a logic library cannot reach Qt by accident.
 
 function(belvani_library)
-  cmake_parse_arguments(L "" "NAME;LAYER;FOLDER" "SOURCES;USES;LIBS" ${ARGN})
+  cmake_parse_arguments(L "" "NAME;LAYER;FOLDER" "USES;LIBS;EXCEPT" ${ARGN})
   if(NOT L_LAYER MATCHES "^(logic|screen)$")
     message(FATAL_ERROR "${L_NAME}: LAYER must be logic or screen")
   endif()
-  add_library(belvani_${L_NAME} STATIC ${L_SOURCES})
+  file(GLOB kaynaklar CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${L_FOLDER}/*.cpp)
+  foreach(haric ${L_EXCEPT})
+    list(REMOVE_ITEM kaynaklar ${CMAKE_SOURCE_DIR}/src/${L_FOLDER}/${haric})
+  endforeach()
+  add_library(belvani_${L_NAME} STATIC ${kaynaklar})
   target_include_directories(belvani_${L_NAME} PUBLIC ${CMAKE_SOURCE_DIR}/src)
-  set_target_properties(belvani_${L_NAME} PROPERTIES BELVANI_LAYER ${L_LAYER})
+  set_target_properties(belvani_${L_NAME} PROPERTIES BELVANI_LAYER ${L_LAYER} BELVANI_FOLDER ${L_FOLDER})
   set(gorunen ${L_FOLDER})
   foreach(kullanilan ${L_USES})
     get_target_property(katman belvani_${kullanilan} BELVANI_LAYER)
     if(L_LAYER STREQUAL "logic" AND katman STREQUAL "screen")
       message(FATAL_ERROR "${L_NAME} (logic) must not use ${kullanilan} (screen)")
     endif()
-    get_target_property(klasor belvani_${kullanilan} BELVANI_GORUNEN)
+    get_target_property(klasor belvani_${kullanilan} BELVANI_FOLDER)
     list(APPEND gorunen ${klasor})
     target_link_libraries(belvani_${L_NAME} PUBLIC belvani_${kullanilan})
   endforeach()
@@ -30,9 +34,8 @@ function(belvani_library)
     endif()
     target_link_libraries(belvani_${L_NAME} PUBLIC ${kutuphane})
   endforeach()
-  list(REMOVE_DUPLICATES gorunen)
-  set_target_properties(belvani_${L_NAME} PROPERTIES BELVANI_GORUNEN "${gorunen}")
   belvani_include_denetimi(${L_NAME} ${L_FOLDER} "${gorunen}")
+  belvani_belge_denetimi(${L_FOLDER} "${gorunen}")
   # Each layer's first room compiles the headers that the others of the layer reuse.
   if(L_LAYER STREQUAL "screen")
     set_target_properties(belvani_${L_NAME} PROPERTIES AUTOMOC ON)
@@ -46,9 +49,13 @@ function(belvani_library)
   endif()
 endfunction()
 
-# Every `#include "folder/file.h"` of the room must name a room that it may see.
+# Every `#include "folder/file.h"` of the room must name a room that it may see, and every room it may see must be
+# named by one of them: an arrow that nobody walks is not drawn.
 function(belvani_include_denetimi ad klasor gorunen)
-  file(GLOB dosyalar ${CMAKE_SOURCE_DIR}/src/${klasor}/*.h ${CMAKE_SOURCE_DIR}/src/${klasor}/*.cpp)
+  set(gorulmeyen ${gorunen})
+  list(REMOVE_ITEM gorulmeyen ${klasor})
+  file(GLOB dosyalar ${CMAKE_SOURCE_DIR}/src/${klasor}/*.h ${CMAKE_SOURCE_DIR}/src/${klasor}/*.cpp
+    ${CMAKE_SOURCE_DIR}/src/${klasor}/*.inc)
   foreach(dosya ${dosyalar})
     file(STRINGS ${dosya} satirlar REGEX "^#include \"[^\"]+\"")
     foreach(satir ${satirlar})
@@ -56,6 +63,23 @@ function(belvani_include_denetimi ad klasor gorunen)
       if(NOT oda IN_LIST gorunen)
         message(FATAL_ERROR "${dosya} includes ${oda}, which ${ad} may not use (allowed: ${gorunen})")
       endif()
+      list(REMOVE_ITEM gorulmeyen ${oda})
     endforeach()
   endforeach()
+  if(gorulmeyen)
+    message(FATAL_ERROR "${ad} names rooms that none of its files includes: ${gorulmeyen}")
+  endif()
+endfunction()
+
+# The room's row of the table in docs/architecture.md: "| `documents` | `core`, `printing` |", sorted.
+function(belvani_belge_denetimi klasor gorunen)
+  list(REMOVE_ITEM gorunen ${klasor})
+  list(SORT gorunen)
+  list(TRANSFORM gorunen REPLACE "(.+)" "`\\1`")
+  list(JOIN gorunen ", " metin)
+  set(beklenen "| `${klasor}` | ${metin} |")
+  file(STRINGS ${CMAKE_SOURCE_DIR}/docs/architecture.md satirlar REGEX "^\\| `${klasor}` \\|")
+  if(NOT satirlar STREQUAL beklenen)
+    message(FATAL_ERROR "docs/architecture.md, the table of rooms: the row of ${klasor} must read\n${beklenen}")
+  endif()
 endfunction()

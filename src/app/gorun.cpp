@@ -303,7 +303,7 @@ void gorun::Kaydet() {
   };
   if (const Durum d = yaz(); !d) {
     Oturumu().Renkler = eski;
-    Bildirimi().Uyari(d.HataMetni());
+    Bildirimi().Uyari(d.KusurMetni());
     return;
   }
   GorunumUygula(Oturumu(), secim_.ayar);

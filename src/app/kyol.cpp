@@ -74,7 +74,7 @@ void kyol::Kaydet() {
   Giris giris;
   if (!Oku(giris)) return;
   if (const Durum d = kaydet_({giris.ad, std::size_t(giris.program), giris.ikon, giris.parametre}); !d) {
-    Bildirimi().Bilgi(d.HataMetni());
+    Bildirimi().Bilgi(d.KusurMetni());
     OdakVer("ad");
     return;
   }

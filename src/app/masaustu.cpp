@@ -79,7 +79,7 @@ void Form1::SimgeleriKur() {
 void Form1::KisayollariYukle() {
   const auto okunan = KisayollariOku(ekran_.oturum);
   Goster(okunan ? *okunan : std::vector<Kisayol>(), 0);
-  kusur_ = okunan ? std::string() : okunan.HataMetni();
+  kusur_ = okunan ? std::string() : okunan.KusurMetni();
 }
 
 void Form1::KusuruBildir() {
@@ -101,7 +101,7 @@ void Form1::Goster(std::vector<Kisayol> kisayollar, int secili) {
 
 bool Form1::Yaz(std::vector<Kisayol> kisayollar, int secili) {
   if (const Durum d = KisayollariYaz(ekran_.oturum, kisayollar); !d) {
-    ekran_.bildirim.Uyari(d.HataMetni());
+    ekran_.bildirim.Uyari(d.KusurMetni());
     return false;
   }
   Goster(std::move(kisayollar), secili);
@@ -279,7 +279,7 @@ void Form1::Duzenle(int sira) {
 
 void Form1::Sil(int sira) {
   if (!ekran_.bildirim.Soru("Kısa Yol Silinecek ?\n" + kisayollar_.at(std::size_t(sira)).ad)) return;
-  if (const Durum d = KisayolSil(ekran_.oturum, std::size_t(sira)); !d) return ekran_.bildirim.Uyari(d.HataMetni());
+  if (const Durum d = KisayolSil(ekran_.oturum, std::size_t(sira)); !d) return ekran_.bildirim.Uyari(d.KusurMetni());
   std::vector<Kisayol> kalan = kisayollar_;
   kalan.erase(kalan.begin() + sira);
   Goster(std::move(kalan), sira);
@@ -315,7 +315,7 @@ void Form1::ResimEkle() {
 void Form1::ResimKaydet(const GorunumAyari& ayar) {
   if (ayar.backresimvarmi && ResimOku(ayar.backresim, QSize(64, 64)).isNull())
     return ekran_.bildirim.Bilgi("Resim okunamadı:\n" + ayar.backresim);
-  if (const Durum d = GorunumYaz(ekran_.oturum, ayar); !d) return ekran_.bildirim.Uyari(d.HataMetni());
+  if (const Durum d = GorunumYaz(ekran_.oturum, ayar); !d) return ekran_.bildirim.Uyari(d.KusurMetni());
   GorunumKoy(ayar);
 }
 

@@ -4,8 +4,8 @@
 
 #include "app/gosterici.h"
 #include "app/yardim.h"
-#include "core/screens/Dbupdate.h"
-#include "core/screens/startfrm.h"
+#include "screens/core/Dbupdate.h"
+#include "screens/core/startfrm.h"
 #include "ui/bildirimkutusu.h"
 #include "ui/metin.h"
 #include "ui/sistembaskisi.h"
@@ -26,7 +26,7 @@ class Program {
       StilKur(uygulama_, GecerliRenkler(oturum_));
       if (GirisYap(ekran_) == GirisSonucu::Cikis) return 0;
       parametreler_.YasalYukle(oturum_.DataPath);
-      if (const Durum d = parametreler_.FirmaYukle(oturum_); !d) bildirim_.Uyari(d.HataMetni());
+      if (const Durum d = parametreler_.FirmaYukle(oturum_); !d) bildirim_.Uyari(d.KusurMetni());
       const bool yeniden = AnaPencere();
       oturum_.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
       if (!yeniden) return 0;

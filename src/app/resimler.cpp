@@ -13,8 +13,8 @@
 #include "app/gosterici.h"
 #include "app/program.h"
 #include "app/yardim.h"
-#include "core/screens/startfrm.h"
-#include "payroll/screens/brckes.h"
+#include "screens/core/startfrm.h"
+#include "screens/payroll/brckes.h"
 #include "ui/dialogyok.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
@@ -101,12 +101,12 @@ class Resimler {
 
   bool Gir() {
     if (const Durum d = SirketAc(oturum_, Utf8(arg_[2]), bildirim_); !d) {
-      std::cerr << d.HataMetni() << "\n";
+      std::cerr << d.KusurMetni() << "\n";
       return false;
     }
     if (!OturumAc(oturum_, Utf8(arg_[2]), Utf8(arg_[3]), Utf8(arg_[4]), bildirim_)) return false;
     parametreler_.YasalYukle(oturum_.DataPath);
-    if (const Durum d = parametreler_.FirmaYukle(oturum_); !d) std::cerr << d.HataMetni() << "\n";
+    if (const Durum d = parametreler_.FirmaYukle(oturum_); !d) std::cerr << d.KusurMetni() << "\n";
     return true;
   }
 

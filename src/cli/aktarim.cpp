@@ -14,7 +14,7 @@ struct AktarimSecenekleri {
 };
 
 void SonucuYaz(const AktarimSecenekleri& s, Sonuc<AktarimSonucu> sonuc) {
-  if (!sonuc) throw KomutHatasi{s.dosya + ": " + sonuc.HataMetni()};
+  if (!sonuc) throw KomutHatasi{s.dosya + ": " + sonuc.KusurMetni()};
   if (!sonuc->sorunlar.empty()) {
     std::string metin = s.dosya + ": hiçbir kayıt alınmadı";
     for (const auto& sorun : sonuc->sorunlar)

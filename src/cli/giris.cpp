@@ -49,7 +49,7 @@ const AlanTanimi* GirisAlani(std::string_view ad) {
 
 std::vector<GirisSatiri> GirisListesiOku(const std::string& csv, const std::string& dosyaAdi) {
   auto okunan = CsvOku(csv);
-  if (!okunan) throw KomutHatasi{dosyaAdi + ": " + okunan.HataMetni()};
+  if (!okunan) throw KomutHatasi{dosyaAdi + ": " + okunan.KusurMetni()};
   std::string kusurlar;
   const auto kusurYaz = [&](int satir, const std::string& kolon, const std::string& neden) {
     kusurlar += "\n  satır " + std::to_string(satir) + ", " + kolon + ": " + neden;

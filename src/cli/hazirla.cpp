@@ -39,8 +39,8 @@ void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
   const auto girisler = s.giris.empty() ? std::vector<GirisSatiri>() : GirisListesiOku(DosyayiOku(s.giris), s.giris);
   TerminalIlerlemesi ilerleme;
   auto sonuc = TopluHazirla(*o, *kosullar, girisler, &ilerleme);
-  for (const Sorun& sorun : Degeri(sonuc).sorunlar)
-    genel.bildirim.Uyari((sorun.derece == Sorun::Derece::Hata ? "Hata: " : "Uyarı: ") +
+  for (const Kusur& sorun : Degeri(sonuc).sorunlar)
+    genel.bildirim.Uyari((sorun.derece == Derece::Hata ? "Hata: " : "Uyarı: ") +
                          (sorun.kod.empty() ? "" : sorun.kod + ": ") + sorun.metin);
   if (!sonuc->kaydedildi) throw KomutHatasi{"Bordro kaydedilmedi: girişlerde hata var"};
   Yaz("Bordro Hazırlık Tamamlandı: " + std::to_string(sonuc->kaydedilen) + " kişi kaydedildi, " +

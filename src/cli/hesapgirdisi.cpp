@@ -141,7 +141,7 @@ void YasaliOku(const Json& json, HesapGirdisi& h) {
   else if (Uye(json, "parametre").is_object())
     h.kosullar.yasal = {{}, {}, {}, VarsayilanHesapTurleri(), VarsayilanKanunlar()};
   else
-    h.kusurlar.push_back(yasal.HataMetni());
+    h.kusurlar.push_back(yasal.KusurMetni());
   h.kosullar.uygulama = UygulamaBul(h.kosullar.yasal.kanunlar, donem.ay, donem.yil);
   ParametreleriOku(Uye(json, "parametre"), h.kosullar.yasal, h.kosullar.uygulama, h.kusurlar);
 }

@@ -72,7 +72,7 @@ void DonemSecenekleri(CLI::App& komut, Donem& donem) {
 }
 
 void Basarmali(const Durum& durum) {
-  if (!durum) throw KomutHatasi{durum.HataMetni()};
+  if (!durum) throw KomutHatasi{durum.KusurMetni()};
 }
 
 std::string DosyayiOku(const std::string& yol) {

@@ -55,7 +55,7 @@ void DonemSecenekleri(CLI::App& komut, Donem& donem);  // --yil, --ay
 
 template <class T>
 T& Degeri(Sonuc<T>& sonuc) {
-  if (!sonuc) throw KomutHatasi{sonuc.HataMetni()};
+  if (!sonuc) throw KomutHatasi{sonuc.KusurMetni()};
   return *sonuc;
 }
 void Basarmali(const Durum& durum);

@@ -18,7 +18,7 @@ void SirketiAc(Genel& genel, const SirketAcSecenekleri& s) {
   o.DataPath = genel.DataPath();
   Basarmali(DizinYarat(o.DataPath));
   if (const auto acildi = SirketOlustur(o, s.kod, s.kullanici, s.sifre, genel.bildirim); !acildi)
-    throw KomutHatasi{acildi.HataMetni().empty() ? o.depo.db.SonHata() : acildi.HataMetni()};
+    throw KomutHatasi{acildi.KusurMetni().empty() ? o.depo.db.SonHata() : acildi.KusurMetni()};
   auto& firma = o.depo.firma;
   firma.IlkKayit();
   firma.KayitDuzelt();

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/kusur.h"
+
 namespace belvani {
 
 class Bildirim {
@@ -13,6 +15,9 @@ class Bildirim {
   virtual void Bilgi(std::string_view metin) = 0;  // a broken rule, something done
   virtual void Uyari(std::string_view metin) = 0;  // a failed write, a risk
   virtual bool Soru(std::string_view metin) = 0;   // true: yes
+
+  // A fault in the box of its degree.
+  void KusuruGoster(const Kusur& kusur) { kusur.derece == Derece::Bilgi ? Bilgi(kusur.metin) : Uyari(kusur.metin); }
 };
 
 // Something long that its caller may show and stop: called with how much of the whole is done; false cancels.

@@ -73,21 +73,21 @@ std::string BaslikKusuru(const std::vector<std::string>& basliklar) {
 
 Sonuc<CsvTablosu> CsvOku(std::string_view metin) {
   if (metin.substr(0, Utf8Imi.size()) == Utf8Imi) metin.remove_prefix(Utf8Imi.size());
-  if (!GecerliUtf8(metin)) return Hata{"dosya UTF-8 değil"};
-  if (metin.find('\0') != std::string_view::npos) return Hata{"dosya bir metin dosyası değil"};
+  if (!GecerliUtf8(metin)) return Kusur{"dosya UTF-8 değil"};
+  if (metin.find('\0') != std::string_view::npos) return Kusur{"dosya bir metin dosyası değil"};
   Okuyucu okuyucu(metin, AyracBul(metin));
   CsvTablosu tablo;
   for (const auto& baslik : okuyucu.Satir().hucreler) tablo.basliklar.emplace_back(Kirp(baslik));
-  if (const std::string kusur = BaslikKusuru(tablo.basliklar); !kusur.empty()) return Hata{"satır 1: " + kusur};
+  if (const std::string kusur = BaslikKusuru(tablo.basliklar); !kusur.empty()) return Kusur{"satır 1: " + kusur};
   while (!okuyucu.Bitti()) {
     CsvSatiri satir = okuyucu.Satir();
     if (BosMu(satir)) continue;
     if (satir.hucreler.size() > tablo.basliklar.size())
-      return Hata{"satır " + std::to_string(satir.satirNo) + ": başlıklardan çok alan var"};
+      return Kusur{"satır " + std::to_string(satir.satirNo) + ": başlıklardan çok alan var"};
     satir.hucreler.resize(tablo.basliklar.size());
     tablo.satirlar.push_back(std::move(satir));
   }
-  if (okuyucu.TirnakAcik()) return Hata{"kapanmamış bir tırnak var"};
+  if (okuyucu.TirnakAcik()) return Kusur{"kapanmamış bir tırnak var"};
   return tablo;
 }
 

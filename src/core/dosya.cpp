@@ -45,8 +45,8 @@ std::string SistemHatasi(int kod) {
   }
 }
 
-Hata DosyaHatasi(const std::string& yol, const char* ne, int kod) {
-  return Hata{yol + ": " + ne + " (" + SistemHatasi(kod) + ")"};
+Kusur DosyaHatasi(const std::string& yol, const char* ne, int kod) {
+  return Kusur{yol + ": " + ne + " (" + SistemHatasi(kod) + ")"};
 }
 
 class DosyaTutamagi {

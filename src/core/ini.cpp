@@ -126,10 +126,10 @@ std::string IniOku(std::string_view bolum, std::string_view anahtar, std::string
 }
 
 Durum IniYaz(std::string_view bolum, std::string_view anahtar, std::string_view deger, const std::string& dosya) {
-  if (!GecerliUtf8(deger)) return Hata{dosya + ": yazılacak değerde okunamayan harf var"};
+  if (!GecerliUtf8(deger)) return Kusur{dosya + ": yazılacak değerde okunamayan harf var"};
   const auto eski = DosyaOku(dosya, EnCokDosyaBayti);
   std::error_code hata;
-  if (!eski && std::filesystem::exists(dosya, hata)) return Hata{dosya + ": dosya okunamadı, değiştirilmedi"};
+  if (!eski && std::filesystem::exists(dosya, hata)) return Kusur{dosya + ": dosya okunamadı, değiştirilmedi"};
   IniMetni m = SatirlaraAyir(eski.value_or(""));
   const std::string duz = DenetimsizMetin(deger);
   // Blanks and quotes at the ends would be lost by the next read.
@@ -137,7 +137,7 @@ Durum IniYaz(std::string_view bolum, std::string_view anahtar, std::string_view 
   DegeriKoy(m, bolum, anahtar, std::string(anahtar) + "=" + (tirnak ? "\"" + duz + "\"" : duz));
   std::string baytlar(m.im ? Utf8Imi : "");
   for (const auto& satir : m.satirlar) baytlar += satir;
-  if (baytlar.size() > EnCokDosyaBayti) return Hata{dosya + ": dosya çok büyük"};  // no read would take it
+  if (baytlar.size() > EnCokDosyaBayti) return Kusur{dosya + ": dosya çok büyük"};  // no read would take it
   return DosyaYaz(dosya, baytlar);
 }
 

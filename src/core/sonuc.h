@@ -1,25 +1,22 @@
-// Sonuc<T>: a value, or the Turkish text that tells the user why there is none.
+// Sonuc<T>: a value, or the fault that tells the user why there is none.
 //
 // For failures that are expected: a broken file, a refused name, a full disk. Our own faults are asserts.
 #pragma once
 
 #include <cassert>
 #include <optional>
-#include <string>
 #include <utility>
 #include <variant>
 
+#include "core/kusur.h"
+
 namespace belvani {
 
-struct Hata {
-  std::string metin;
-};
-
-template <class T = std::monostate>
+template <class T = std::monostate, class K = Kusur>
 class [[nodiscard]] Sonuc {
  public:
-  Sonuc(T deger) : icerik_(std::move(deger)) {}            // NOLINT: a value is a result
-  Sonuc(belvani::Hata hata) : icerik_(std::move(hata)) {}  // NOLINT: so is a failure
+  Sonuc(T deger) : icerik_(std::move(deger)) {}  // NOLINT: a value is a result
+  Sonuc(K kusur) : icerik_(std::move(kusur)) {}  // NOLINT: so is a fault
 
   explicit operator bool() const { return icerik_.index() == 0; }
   T& operator*() { return std::get<0>(icerik_); }
@@ -27,12 +24,12 @@ class [[nodiscard]] Sonuc {
   T* operator->() { return &std::get<0>(icerik_); }
   const T* operator->() const { return &std::get<0>(icerik_); }
 
-  // The text of the failure; only when there is no value.
-  const std::string& HataMetni() const { return std::get<1>(icerik_).metin; }
-  belvani::Hata Hatasi() const { return std::get<1>(icerik_); }
+  // The fault and its text; only when there is no value.
+  const K& Kusuru() const { return std::get<1>(icerik_); }
+  const std::string& KusurMetni() const { return std::get<1>(icerik_).metin; }
 
  private:
-  std::variant<T, belvani::Hata> icerik_;
+  std::variant<T, K> icerik_;
 };
 
 using Durum = Sonuc<>;

@@ -19,7 +19,7 @@ constexpr const char* Hesaplatilmamis = "Bildirge Hesaplatılmamış";
 std::vector<std::string> BelgeTuruListesi(const HesapTurleri& turler) {
   std::vector<std::string> liste{"00-Tümü"};
   for (const auto& tur : turler)
-    if (tur.no > 0) liste.push_back(BelgeTuruMetni(tur.no) + "-" + tur.ack);
+    if (tur.no > 0) liste.push_back(IkiHane(tur.no) + "-" + tur.ack);
   return liste;
 }
 
@@ -183,7 +183,7 @@ bool AylikBildirge::XmlYaz(const std::string& dosya) {
   const auto icerik = XmlHazirla();
   if (!icerik) return false;
   if (const Durum yazildi = DosyaYaz(dosya, *icerik); !yazildi) {
-    bildirim_.Uyari("Verilen Dosya Adı Hatalı. (Örnek: c:\\bordro112003.xml)\n" + yazildi.HataMetni());
+    bildirim_.Uyari("Verilen Dosya Adı Hatalı. (Örnek: c:\\bordro112003.xml)\n" + yazildi.KusurMetni());
     return false;
   }
   bildirim_.Bilgi("XML Dosya Hazırlandı");

@@ -47,7 +47,7 @@ BildirgeSatiri SatirYap(const BildirgeKaydi& kayit, const BildirgeKosullari& k) 
   const bool ayrildi = DonemIcinde(k.donem, sicil.ciktar);
   const std::string yardimlar = tutar(brd.topyardim);
   return {
-      .sigkol = BelgeTuruMetni(sicil.sskdurum + 1),
+      .sigkol = IkiHane(sicil.sskdurum + 1),
       .sskno = sicil.sskno,
       .tcno = kayit.tcno,
       .adi = sicil.adi,

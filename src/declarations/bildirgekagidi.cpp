@@ -48,7 +48,7 @@ BildirgeKagidi KagitHazirla(const AylikBildirge& bildirge, Oturum& oturum) {
                        .toplamlar = b.toplamlar,
                        .satirlar = b.satirlar,
                        .paraonda = oturum.paraonda};
-  if (secim.belgeTuru > 0) kagit.belgeTuru = BelgeTuruMetni(bildirge.BelgeTuru());
+  if (secim.belgeTuru > 0) kagit.belgeTuru = IkiHane(bildirge.BelgeTuru());
   if (secim.kanun > 0) kagit.kanun = bildirge.KanunSecenekleri()[std::size_t(secim.kanun)];
   BranslariAl(kagit, bildirge);
   return kagit;
@@ -87,11 +87,6 @@ std::string KagitTutari(Tutar tutar, int paraonda) {
 
 std::string KagitSayisi(int sayi) {
   return sayi == 0 ? std::string() : std::to_string(sayi);
-}
-
-std::string IkiHane(int sayi) {
-  const std::string metin = std::to_string(sayi);
-  return metin.size() < 2 ? "0" + metin : metin;
 }
 
 std::string KagitTarihi(std::string_view hucre) {

@@ -77,8 +77,6 @@ std::vector<KagitSayfasi> SayfalaraBol(const std::vector<BildirgeSatiri>& satirl
 // "1,250.00"; empty for zero. Likewise "30".
 std::string KagitTutari(Tutar tutar, int paraonda);
 std::string KagitSayisi(int sayi);
-// "07".
-std::string IkiHane(int sayi);
 // Day and month of a cell with a date: "05 - 07"; else empty.
 std::string KagitTarihi(std::string_view hucre);
 // The province group of the register number: "34" -> "034".

@@ -60,14 +60,14 @@ std::string YalinMetin(Tutar tutar) {
   return metin;
 }
 
-std::string BelgeTuruMetni(int belgeTuru) {
-  const std::string metin = std::to_string(belgeTuru);
+std::string IkiHane(int sayi) {
+  const std::string metin = std::to_string(sayi);
   return metin.size() < 2 ? "0" + metin : metin;
 }
 
 BildirgeSatiri Duzenli(BildirgeSatiri satir) {
   for (const auto& kolon : BildirgeKolonlari) satir.*kolon.hucre = DuzenliHucre(satir.*kolon.hucre, kolon.tur);
-  if (const int belgeTuru = HucreTami(satir.sigkol); belgeTuru > 0) satir.sigkol = BelgeTuruMetni(belgeTuru);
+  if (const int belgeTuru = HucreTami(satir.sigkol); belgeTuru > 0) satir.sigkol = IkiHane(belgeTuru);
   return satir;
 }
 

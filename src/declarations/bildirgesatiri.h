@@ -87,8 +87,8 @@ Tarih HucreTarihi(std::string_view hucre);
 // "1250.5", "3000".
 std::string YalinMetin(Tutar tutar);
 
-// "01".
-std::string BelgeTuruMetni(int belgeTuru);
+// A month, a day, a document type in two digits: "07".
+std::string IkiHane(int sayi);
 
 // The row with its number cells in the form above, as they may have been typed with grouping ("1,250.50") or, where
 // whole numbers belong, with a fraction, which is dropped. A cell that is no number stays as it is.

@@ -196,8 +196,8 @@ std::string TasmaUyarisi(int kisi) {
 Sonuc<std::string> EskiSablon(const std::string& dosya, const std::string& donusturucu) {
   auto xlsx = XlsxeCevir(dosya, donusturucu);
   if (xlsx) return std::move(*xlsx);
-  return Hata{dosya + ": Excel formu eski biçimde (.xls) ve çevrilemedi. LibreOffice kurunuz ya da formu Excel'de " +
-              ".xlsx olarak kaydediniz."};
+  return Kusur{dosya + ": Excel formu eski biçimde (.xls) ve çevrilemedi. LibreOffice kurunuz ya da formu Excel'de " +
+               ".xlsx olarak kaydediniz."};
 }
 
 }  // namespace
@@ -205,7 +205,7 @@ Sonuc<std::string> EskiSablon(const std::string& dosya, const std::string& donus
 Sonuc<BildirgeTablosu> BildirgeTablosuYap(std::string sablon, const BildirgeKagidi& kagit) {
   if (kagit.satirlar.empty()) return BildirgeTablosu{std::move(sablon), {}};
   auto kitap = XlsxSablon::Ac(std::move(sablon));
-  if (!kitap) return kitap.Hatasi();
+  if (!kitap) return kitap.Kusuru();
   Dolduran d(*kitap);
   ExcelBosalt(d);
   BelgeYaz(d, kagit);
@@ -215,9 +215,9 @@ Sonuc<BildirgeTablosu> BildirgeTablosuYap(std::string sablon, const BildirgeKagi
   const int kisi = KisileriYaz(d, kagit);
   d.SetExcel("cg178", Metin(kagit.muhasebeci.adsoyad));
   d.SetExcel("cg183", Metin(kagit.muhasebeci.sicil));
-  if (!d.Sonucu()) return d.Sonucu().Hatasi();
+  if (!d.Sonucu()) return d.Sonucu().Kusuru();
   auto baytlar = kitap->Bitir();
-  if (!baytlar) return baytlar.Hatasi();
+  if (!baytlar) return baytlar.Kusuru();
   return BildirgeTablosu{std::move(*baytlar), TasmaUyarisi(kisi)};
 }
 
@@ -229,7 +229,7 @@ Sonuc<std::string> TabloSablonu(const std::vector<std::string>& dizinler, const 
     if (DosyaOku(yol + ".xls")) return EskiSablon(yol + ".xls", donusturucu);
     aranan += "\n" + yol + ".xlsx";
   }
-  return Hata{"Excel formu bulunamadı, aranan yerler:" + aranan};
+  return Kusur{"Excel formu bulunamadı, aranan yerler:" + aranan};
 }
 
 Sonuc<std::string> TabloSablonu(const Oturum& oturum) {

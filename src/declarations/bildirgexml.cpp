@@ -12,10 +12,6 @@ constexpr std::size_t IsimHarfi = 18;
 constexpr std::string_view RaporIsareti = "2";
 constexpr std::string_view BozanIsaretler = "\"&<";
 
-std::string IkiHane(int sayi) {
-  return sayi < 10 ? "0" + std::to_string(sayi) : std::to_string(sayi);
-}
-
 std::string_view MahiyetHarfi(BelgeMahiyeti mahiyet) {
   switch (mahiyet) {
     case BelgeMahiyeti::Iptal:

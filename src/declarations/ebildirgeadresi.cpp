@@ -25,7 +25,7 @@ std::string EBildirgeAdresi(const std::string& dataPath) {
 }
 
 Durum EBildirgeAdresiYaz(const std::string& dataPath, const std::string& adres) {
-  if (!WebAdresiMi(adres)) return Hata{"Adres http:// veya https:// ile başlamalıdır"};
+  if (!WebAdresiMi(adres)) return Kusur{"Adres http:// veya https:// ile başlamalıdır"};
   return IniYaz(Bolum, Anahtar, adres, DizinSonu(dataPath) + Dosya);
 }
 

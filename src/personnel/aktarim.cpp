@@ -38,9 +38,9 @@ Sonuc<AktarimSonucu> Kaydet(Oturum& o, AktarimDosyasi& dosya, AktarimKipi kip, I
     if (sonuc.sorunlar.empty() && kip == AktarimKipi::Kaydet) islem.Onayla();
     return sonuc;
   } catch (const YazmaHatasi& h) {
-    return Hata{"satır " + std::to_string(h.satirNo) + ": kayıt yazılamadı: " + o.depo.db.SonHata()};
+    return Kusur{"satır " + std::to_string(h.satirNo) + ": kayıt yazılamadı: " + o.depo.db.SonHata()};
   } catch (const MotorHatasi& h) {
-    return Hata{h.what()};
+    return Kusur{h.what()};
   }
 }
 
@@ -115,7 +115,7 @@ void TanimYaz(Depo& depo, const TanimTablosu& tanim, const AktarimDosyasi& dosya
 
 Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, std::string_view csv, AktarimKipi kip) {
   auto dosya = AktarimDosyasiOku(csv, {TabloBul("sicil"), TabloBul("kimlik")}, "kod", AnahtarKurali::Tekil);
-  if (!dosya) return dosya.Hatasi();
+  if (!dosya) return dosya.Kusuru();
   return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) {
     for (const auto& satir : dosya->satirlar) PersonelYaz(o.depo, *dosya, satir, sonuc);
   });
@@ -123,7 +123,7 @@ Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, std::string_view csv, AktarimKipi 
 
 Sonuc<AktarimSonucu> AileAktar(Oturum& o, std::string_view csv, AktarimKipi kip) {
   auto dosya = AktarimDosyasiOku(csv, {TabloBul("esco")}, "kod", AnahtarKurali::TekrarEder);
-  if (!dosya) return dosya.Hatasi();
+  if (!dosya) return dosya.Kusuru();
   return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { AileYaz(o.depo, *dosya, sonuc); });
 }
 
@@ -131,10 +131,10 @@ Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, std::string_v
   const auto tanim = std::find_if(std::begin(TanimTablolari), std::end(TanimTablolari),
                                   [&](const TanimTablosu& t) { return t.ad == tablo; });
   if (tanim == std::end(TanimTablolari))
-    return Hata{"bu tabloya dosyadan alınamaz: " + std::string(tablo) + " (firma, muaf, indir, sendika, kaztan)"};
+    return Kusur{"bu tabloya dosyadan alınamaz: " + std::string(tablo) + " (firma, muaf, indir, sendika, kaztan)"};
   auto dosya = AktarimDosyasiOku(csv, {TabloBul(tanim->ad)}, tanim->anahtar, AnahtarKurali::Tekil);
-  if (!dosya) return dosya.Hatasi();
-  if (tanim->anahtar.empty() && dosya->satirlar.size() != 1) return Hata{"firma dosyasında tek bir satır olmalı"};
+  if (!dosya) return dosya.Kusuru();
+  if (tanim->anahtar.empty() && dosya->satirlar.size() != 1) return Kusur{"firma dosyasında tek bir satır olmalı"};
   return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) {
     if (dosya->sorunlar.empty()) TanimYaz(o.depo, *tanim, *dosya, sonuc);
   });

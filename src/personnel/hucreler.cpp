@@ -98,7 +98,7 @@ std::string AktarimDosyasi::Metin(const AktarimSatiri& satir, std::string_view a
 Sonuc<AktarimDosyasi> AktarimDosyasiOku(std::string_view csv, const std::vector<const TabloTanimi*>& tablolar,
                                         std::string_view anahtar, AnahtarKurali kural) {
   const auto tablo = CsvOku(csv);
-  if (!tablo) return tablo.Hatasi();
+  if (!tablo) return tablo.Kusuru();
   AktarimDosyasi dosya;
   for (const auto& baslik : tablo->basliklar) {
     dosya.kolonlar.push_back(KolonBul(tablolar, baslik));

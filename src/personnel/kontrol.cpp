@@ -99,9 +99,9 @@ std::vector<KontrolSatiri> Denetle(Motor& motor) {
 
 Sonuc<std::vector<KontrolSatiri>> KontrolRaporu(Oturum& o) {
   using Rapor = Sonuc<std::vector<KontrolSatiri>>;
-  const Rapor basarisiz = Hata{"Personel kayıtları okunamadı"};
+  const Rapor basarisiz = Kusur{"Personel kayıtları okunamadı"};
   Rapor rapor = o.depo.db.Koru(basarisiz, [&]() -> Rapor { return Denetle(o.depo.db.IcMotor()); });
-  return rapor ? rapor : Hata{basarisiz.HataMetni() + ": " + o.depo.db.SonHata()};
+  return rapor ? rapor : Kusur{basarisiz.KusurMetni() + ": " + o.depo.db.SonHata()};
 }
 
 }  // namespace belvani

@@ -120,7 +120,7 @@ Sonuc<PdfCiktisi> BelgePdf(const Belge& belge, Ilerleme* ilerleme) {
   PdfTuvali tuval({.baslik = belge.Baslik()});
   if (!SayfalariCiz(*sayfalar, tuval, ilerleme)) return PdfCiktisi{};
   auto baytlar = tuval.Belge();
-  if (!baytlar) return baytlar.Hatasi();
+  if (!baytlar) return baytlar.Kusuru();
   return PdfCiktisi{std::move(*baytlar), sayfalar->Uyari()};
 }
 

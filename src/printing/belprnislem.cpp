@@ -42,15 +42,15 @@ Durum Belprn(const std::vector<std::string>& argumanlar, Kuyruk& kuyruk) {
     else if (dosya.empty() && !argumanlar[i].starts_with("--"))
       dosya = argumanlar[i];
     else
-      return Hata{Kullanim};
+      return Kusur{Kullanim};
   }
-  if (dosya.empty()) return Hata{Kullanim};
+  if (dosya.empty()) return Kusur{Kullanim};
   auto icerik = DosyaOku(dosya);
-  if (!icerik) return Hata{dosya + ": dosya okunamadı"};
+  if (!icerik) return Kusur{dosya + ": dosya okunamadı"};
   is.icerik = std::move(*icerik);
   is.ad = dosya.substr(dosya.rfind('/') + 1);
-  if (is.icerik.empty()) return Hata{dosya + ": dosya boş"};
-  if (const auto sonuc = kuyruk.Gonder(is); !sonuc) return sonuc.Hatasi();
+  if (is.icerik.empty()) return Kusur{dosya + ": dosya boş"};
+  if (const auto sonuc = kuyruk.Gonder(is); !sonuc) return sonuc.Kusuru();
   if (sil) ::unlink(dosya.c_str());
   return Tamam();
 }
@@ -58,10 +58,10 @@ Durum Belprn(const std::vector<std::string>& argumanlar, Kuyruk& kuyruk) {
 Durum BelprnBaslat(const std::string& programDizini, const std::string& dosya, const std::string& yazici,
                    Kuyruk& kuyruk) {
   const std::string program = DizinSonu(programDizini) + "belprn";
-  if (::access(program.c_str(), X_OK) != 0) return Hata{program + ": program bulunamadı"};
+  if (::access(program.c_str(), X_OK) != 0) return Kusur{program + ": program bulunamadı"};
   const auto secilen = YaziciSec(kuyruk, yazici);
-  if (!secilen) return secilen.Hatasi();
-  if (!AyriCalistir({program, dosya, "--yazici", secilen->ad, "--sil"})) return Hata{program + ": başlatılamadı"};
+  if (!secilen) return secilen.Kusuru();
+  if (!AyriCalistir({program, dosya, "--yazici", secilen->ad, "--sil"})) return Kusur{program + ": başlatılamadı"};
   return Tamam();
 }
 

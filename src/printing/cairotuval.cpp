@@ -162,11 +162,11 @@ void PdfTuvali::SayfaBitir() {
 
 Sonuc<std::string> PdfTuvali::Belge() {
   SayfaBitir();
-  if (sayfalar_ == 0) return Hata{"Yazdırılacak sayfa yok"};
-  if (const Durum durum = YaziTipleriVar(); !durum) return durum.Hatasi();
+  if (sayfalar_ == 0) return Kusur{"Yazdırılacak sayfa yok"};
+  if (const Durum durum = YaziTipleriVar(); !durum) return durum.Kusuru();
   cairo_surface_finish(yuzey_);
   if (const auto durum = cairo_surface_status(yuzey_); durum != CAIRO_STATUS_SUCCESS)
-    return Hata{std::string("PDF hazırlanamadı (") + cairo_status_to_string(durum) + ")"};
+    return Kusur{std::string("PDF hazırlanamadı (") + cairo_status_to_string(durum) + ")"};
   return std::move(baytlar_);
 }
 

@@ -20,28 +20,28 @@ Baglanti Baglan(const std::string& sunucu) {
   return {httpConnect2(ad, ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, BaglantiMs, nullptr), &httpClose};
 }
 
-Hata ServisYok() {
-  return Hata{"Yazıcı servisine ulaşılamıyor (CUPS çalışmıyor)"};
+Kusur ServisYok() {
+  return Kusur{"Yazıcı servisine ulaşılamıyor (CUPS çalışmıyor)"};
 }
 
-Hata SonCupsHatasi(const std::string& yazici) {
+Kusur SonCupsHatasi(const std::string& yazici) {
   switch (static_cast<int>(cupsLastError())) {
     case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
       return ServisYok();
     case IPP_STATUS_ERROR_NOT_FOUND:
-      return Hata{yazici + " adında bir yazıcı yok"};
+      return Kusur{yazici + " adında bir yazıcı yok"};
     case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
-      return Hata{yazici + ": yazıcı yeni iş kabul etmiyor"};
+      return Kusur{yazici + ": yazıcı yeni iş kabul etmiyor"};
     case IPP_STATUS_ERROR_FORBIDDEN:
     case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
     case IPP_STATUS_ERROR_NOT_AUTHORIZED:
-      return Hata{yazici + ": bu yazıcıya yazdırma izniniz yok"};
+      return Kusur{yazici + ": bu yazıcıya yazdırma izniniz yok"};
     case IPP_STATUS_ERROR_REQUEST_ENTITY:
-      return Hata{yazici + ": belge kuyruğa sığmadı (yazıcı kuyruğunun diski dolu)"};
+      return Kusur{yazici + ": belge kuyruğa sığmadı (yazıcı kuyruğunun diski dolu)"};
     case IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED:
-      return Hata{yazici + ": yazıcı bu belge türünü basmıyor"};
+      return Kusur{yazici + ": yazıcı bu belge türünü basmıyor"};
     default:
-      return Hata{yazici + ": yazdırılamadı (" + cupsLastErrorString() + ")"};
+      return Kusur{yazici + ": yazdırılamadı (" + cupsLastErrorString() + ")"};
   }
 }
 
@@ -130,7 +130,7 @@ Sonuc<std::vector<YaziciBilgisi>> CupsKuyrugu::Yazicilar() {
 
 Sonuc<int> CupsKuyrugu::Gonder(const BaskiIsi& istenen) {
   const auto secilen = YaziciSec(*this, istenen.yazici);
-  if (!secilen) return secilen.Hatasi();
+  if (!secilen) return secilen.Kusuru();
   BaskiIsi is = istenen;
   is.yazici = secilen->ad;
   const std::string ad = is.ad.empty() ? "Belvani" : is.ad;
@@ -143,7 +143,7 @@ Sonuc<int> CupsKuyrugu::Gonder(const BaskiIsi& istenen) {
       cupsStartDocument(http.get(), is.yazici.c_str(), no, ad.c_str(), bicim, 1) == HTTP_STATUS_CONTINUE &&
       IcerigiYolla(http.get(), is);
   if (yollandi && Basarili(cupsFinishDocument(http.get(), is.yazici.c_str()))) return no;
-  const Hata hata = SonCupsHatasi(is.yazici);
+  const Kusur hata = SonCupsHatasi(is.yazici);
   if (const Baglanti yeni = Baglan(sunucu_)) cupsCancelJob2(yeni.get(), is.yazici.c_str(), no, 1);
   return hata;
 }

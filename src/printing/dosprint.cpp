@@ -5,7 +5,7 @@ namespace belvani {
 Durum dosprint::Ac(const std::string& yazici, const std::string& isAdi, int kopya) {
   acik_ = false;
   const auto secilen = YaziciSec(kuyruk_, yazici);
-  if (!secilen) return secilen.Hatasi();
+  if (!secilen) return secilen.Kusuru();
   is_ = {.tur = IsTuru::Ham, .yazici = secilen->ad, .ad = isAdi, .icerik = {}, .kopya = kopya};
   acik_ = true;
   return Tamam();
@@ -22,7 +22,7 @@ Durum dosprint::Kapat() {
   if (is_.icerik.empty()) return Tamam();
   const auto sonuc = kuyruk_.Gonder(is_);
   is_.icerik.clear();
-  if (!sonuc) return sonuc.Hatasi();
+  if (!sonuc) return sonuc.Kusuru();
   return Tamam();
 }
 

@@ -55,37 +55,37 @@ Durum excelkont::OpenExcell(const std::string& dosya) {
 
 Durum excelkont::SablonAc(const std::string& dosya) {
   auto baytlar = DosyaOku(dosya);
-  if (!baytlar) return Hata{dosya + ": dosya okunamadı"};
+  if (!baytlar) return Kusur{dosya + ": dosya okunamadı"};
   if (XlsMi(*baytlar)) {
     auto cevrilen = XlsxeCevir(dosya, islevler_.donusturucu);
-    if (!cevrilen) return Hata{ExcelYok};
+    if (!cevrilen) return Kusur{ExcelYok};
     baytlar = std::move(*cevrilen);
   }
   auto sablon = XlsxSablon::Ac(std::move(*baytlar));
-  if (!sablon) return sablon.Hatasi();
+  if (!sablon) return sablon.Kusuru();
   sablon_ = std::move(*sablon);
   sablonAdi_ = std::filesystem::path(dosya).stem().string();
   return Tamam();
 }
 
-Durum excelkont::Kusur(Durum durum) {
-  if (!durum && !kusur_) kusur_ = durum.Hatasi();
+Durum excelkont::KusuruTut(Durum durum) {
+  if (!durum && !kusur_) kusur_ = durum.Kusuru();
   return durum;
 }
 
 Durum excelkont::SetExcell(int satir, int kolon, const Hucre& deger, ExcelYazisi yazi) {
-  if (!acik_) return Kusur(Hata{"Açık bir çalışma kitabı yok"});
+  if (!acik_) return KusuruTut(Kusur{"Açık bir çalışma kitabı yok"});
   const std::string adres = satir < 1 || kolon < 1 ? "" : XlsxAdresi(satir - 1, kolon - 1);
   if (!XlsxYeriOku(adres))
-    return Kusur(Hata{"Sayfada satır " + std::to_string(satir) + ", kolon " + std::to_string(kolon) + " yok"});
-  if (sablon_) return Kusur(sablon_->Yaz("", adres, deger));
+    return KusuruTut(Kusur{"Sayfada satır " + std::to_string(satir) + ", kolon " + std::to_string(kolon) + " yok"});
+  if (sablon_) return KusuruTut(sablon_->Yaz("", adres, deger));
   hucreler_.insert_or_assign({satir, kolon}, YeniHucre{deger, yazi});
   return Tamam();
 }
 
 Durum excelkont::SetExcel(std::string_view adres, const Hucre& deger, ExcelYazisi yazi) {
   const auto yer = XlsxYeriOku(adres);
-  if (!yer) return Kusur(Hata{"Hücre adresi değil: '" + std::string(adres) + "'"});
+  if (!yer) return KusuruTut(Kusur{"Hücre adresi değil: '" + std::string(adres) + "'"});
   return SetExcell(yer->satir, yer->kolon, deger, yazi);
 }
 
@@ -109,22 +109,22 @@ Sonuc<std::string> excelkont::DosyaYeri() const {
   if (islevler_.yolSor) return islevler_.yolSor().value_or("");
   std::error_code hata;
   std::string dizin = (std::filesystem::temp_directory_path(hata) / "belvani-XXXXXX").string();
-  if (hata || ::mkdtemp(dizin.data()) == nullptr) return Hata{"Geçici dizin açılamadı"};
+  if (hata || ::mkdtemp(dizin.data()) == nullptr) return Kusur{"Geçici dizin açılamadı"};
   return dizin + "/" + DosyaAdi(Baslik.empty() && sablon_ ? sablonAdi_ : Baslik) + ".xlsx";
 }
 
 Durum excelkont::CloseExcell() {
-  if (!acik_) return Hata{"Açık bir çalışma kitabı yok"};
+  if (!acik_) return Kusur{"Açık bir çalışma kitabı yok"};
   if (kusur_) return *kusur_;
   const auto baytlar = sablon_ ? sablon_->Bitir() : YeniKitap();
-  if (!baytlar) return baytlar.Hatasi();
+  if (!baytlar) return baytlar.Kusuru();
   const auto yol = DosyaYeri();
-  if (!yol) return yol.Hatasi();
+  if (!yol) return yol.Kusuru();
   if (yol->empty()) return Tamam();
   if (const Durum yazildi = DosyaYaz(*yol, *baytlar); !yazildi) return yazildi;
   acik_ = false;
   dosya_ = *yol;
-  if (gorunur_ && (!islevler_.ac || !islevler_.ac(dosya_))) return Hata{ExcelYok};
+  if (gorunur_ && (!islevler_.ac || !islevler_.ac(dosya_))) return Kusur{ExcelYok};
   return Tamam();
 }
 

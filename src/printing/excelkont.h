@@ -64,7 +64,7 @@ class excelkont {
   };
 
   Durum SablonAc(const std::string& dosya);
-  Durum Kusur(Durum durum);
+  Durum KusuruTut(Durum durum);
   Sonuc<std::string> YeniKitap() const;
   Sonuc<std::string> DosyaYeri() const;
 
@@ -72,7 +72,7 @@ class excelkont {
   std::map<std::pair<int, int>, YeniHucre> hucreler_;  // by row and column, from 1
   std::optional<XlsxSablon> sablon_;
   std::string sablonAdi_;
-  std::optional<Hata> kusur_;
+  std::optional<Kusur> kusur_;
   std::string dosya_;
   bool acik_ = false;
   bool gorunur_ = true;

@@ -34,7 +34,7 @@ std::unique_ptr<CizilenBelge> FormBelgesi::Cizim() const {
 }
 
 Sonuc<std::string> FormBelgesi::Xlsx() const {
-  return Hata{"Bu belge bir form; Excel'e gönderilemez."};
+  return Kusur{"Bu belge bir form; Excel'e gönderilemez."};
 }
 
 }  // namespace belvani

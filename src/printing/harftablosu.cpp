@@ -138,7 +138,7 @@ const CozulmusMetin& Coz(std::string_view metin) {
 Durum YaziTipleriVar() {
   for (const auto aile : {YaziAilesi::Duz, YaziAilesi::EsEnli, YaziAilesi::Tirnakli})
     if (!AdEsit(Alan(Bul(aile, YaziKalinligi::Normal), FC_FAMILY), AileAdi(aile)))
-      return Hata{std::string(AileAdi(aile)) + " yazı tipi yüklü değil (fonts-dejavu-core paketini yükleyiniz)"};
+      return Kusur{std::string(AileAdi(aile)) + " yazı tipi yüklü değil (fonts-dejavu-core paketini yükleyiniz)"};
   return Tamam();
 }
 

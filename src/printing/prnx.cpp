@@ -69,7 +69,7 @@ bool prnx::GrafikAc(const prnxAcilis& acilis) {
 bool prnx::HamAc(const std::string& baslik, const prnxAcilis& acilis) {
   tampon_ = acilis.condensed ? DosSikisik.ac : "";
   const Durum durum = ham_.Ac(ayar_.yazici, ayar_.YzcBaslik.empty() ? baslik : ayar_.YzcBaslik, ayar_.YzcKopya);
-  if (!durum) sonHata_ = durum.HataMetni();
+  if (!durum) sonHata_ = durum.KusurMetni();
   if (durum) tur_ = Tur::Ham;
   return bool(durum);
 }

@@ -88,12 +88,12 @@ Sonuc<std::string> XlsxeCevir(const std::string& dosya, const std::string& progr
   const CalismaDizini dizin;
   std::error_code hata;
   const std::filesystem::path kaynak = std::filesystem::absolute(dosya, hata);
-  if (hata || dizin.Yol().empty()) return Hata{Cevrilmedi};
+  if (hata || dizin.Yol().empty()) return Kusur{Cevrilmedi};
   const pid_t cocuk = Baslat({program, "-env:UserInstallation=file://" + dizin.Yol() + "/ayar", "--headless",
                               "--convert-to", "xlsx", "--outdir", dizin.Yol(), kaynak.string()});
-  if (cocuk < 0 || !Bekle(cocuk)) return Hata{Cevrilmedi};
+  if (cocuk < 0 || !Bekle(cocuk)) return Kusur{Cevrilmedi};
   auto baytlar = DosyaOku(dizin.Yol() + "/" + kaynak.stem().string() + ".xlsx");
-  if (!baytlar || baytlar->empty()) return Hata{Cevrilmedi};
+  if (!baytlar || baytlar->empty()) return Kusur{Cevrilmedi};
   return std::move(*baytlar);
 }
 

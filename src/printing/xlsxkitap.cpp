@@ -170,11 +170,11 @@ void XlsxKitap::Yaz(int satir, int kolon, const Hucre& hucre, Stil stil) {
 }
 
 Sonuc<std::string> XlsxKitap::Bitir() {
-  if (ic_->sayfa == nullptr) return Hata{"Tablo dosyası yazılamadı: geçici dosya açılamıyor"};
+  if (ic_->sayfa == nullptr) return Kusur{"Tablo dosyası yazılamadı: geçici dosya açılamıyor"};
   if (ic_->kusur == LXW_ERROR_WORKSHEET_INDEX_OUT_OF_RANGE)
-    return Hata{"Tablo dosyası yazılamadı: bir sayfa en çok 1,048,576 satır alır"};
-  if (ic_->kusur != LXW_NO_ERROR) return Hata{"Tablo dosyası yazılamadı: bir hücre en çok 32,767 harf alır"};
-  const Hata yazilamadi{"Tablo dosyası yazılamadı: geçici dosyaların dizini dolu ya da yazılamıyor"};
+    return Kusur{"Tablo dosyası yazılamadı: bir sayfa en çok 1,048,576 satır alır"};
+  if (ic_->kusur != LXW_NO_ERROR) return Kusur{"Tablo dosyası yazılamadı: bir hücre en çok 32,767 harf alır"};
+  const Kusur yazilamadi{"Tablo dosyası yazılamadı: geçici dosyaların dizini dolu ya da yazılamıyor"};
   if (ic_->Kapat() != LXW_NO_ERROR) return yazilamadi;
   auto baytlar = DosyaOku(ic_->yol, EnBuyukDosya);
   if (!baytlar) return yazilamadi;

@@ -222,25 +222,25 @@ XlsxSablon& XlsxSablon::operator=(XlsxSablon&&) noexcept = default;
 
 Sonuc<XlsxSablon> XlsxSablon::Ac(std::string baytlar) {
   if (XlsMi(baytlar))
-    return Hata{"Çalışma kitabı eski biçimde (.xls) ya da parolalı: parolasız .xlsx olarak kaydediniz"};
+    return Kusur{"Çalışma kitabı eski biçimde (.xls) ya da parolalı: parolasız .xlsx olarak kaydediniz"};
   auto zip = ZipDosyasi::Ac(std::move(baytlar));
-  if (!zip) return Hata{"Dosya bir çalışma kitabı (.xlsx) değil ya da bozuk"};
+  if (!zip) return Kusur{"Dosya bir çalışma kitabı (.xlsx) değil ya da bozuk"};
   auto ic = std::make_unique<Ic>(std::move(*zip));
-  if (!ic->Oku()) return Hata{"Dosya bir çalışma kitabı (.xlsx) değil: içinde sayfa yok"};
+  if (!ic->Oku()) return Kusur{"Dosya bir çalışma kitabı (.xlsx) değil: içinde sayfa yok"};
   return XlsxSablon(std::move(ic));
 }
 
 Durum XlsxSablon::Yaz(std::string_view sayfa, std::string_view adres, const Hucre& deger) {
   const SayfaYeri* bulunan = ic_->SayfaBul(sayfa);
-  if (bulunan == nullptr) return Hata{"Çalışma kitabında '" + std::string(sayfa) + "' sayfası yok"};
+  if (bulunan == nullptr) return Kusur{"Çalışma kitabında '" + std::string(sayfa) + "' sayfası yok"};
   const auto yer = XlsxYeriOku(adres);
-  if (!yer) return Hata{"Hücre adresi değil: '" + std::string(adres) + "'"};
+  if (!yer) return Kusur{"Hücre adresi değil: '" + std::string(adres) + "'"};
   XlsxSayfa* acik = ic_->SayfaAc(bulunan->parca);
-  if (acik == nullptr) return Hata{"Çalışma kitabının '" + bulunan->ad + "' sayfası bozuk"};
+  if (acik == nullptr) return Kusur{"Çalışma kitabının '" + bulunan->ad + "' sayfası bozuk"};
   const auto hucre = acik->Hucre(*yer);
   if (hucre.child("f").attribute("ref"))
-    return Hata{bulunan->ad + "!" + std::string(adres) +
-                ": bu hücrenin formülü başka hücrelerle ortak, üzerine yazılamaz"};
+    return Kusur{bulunan->ad + "!" + std::string(adres) +
+                 ": bu hücrenin formülü başka hücrelerle ortak, üzerine yazılamaz"};
   ic_->HucreYaz(hucre, deger);
   return Tamam();
 }

@@ -79,33 +79,33 @@ Sonuc<YazdirmaSonucu> MetinYazdir(const MetinIsi& is) {
   YzcAyarlari ayar = is.belge.Ayar();
   if (PortNo(ayar.yazici) >= 0) return PortaYaz(is);
   const auto yazici = YaziciSec(is.ortam.kuyruk, ayar.yazici);
-  if (!yazici) return yazici.Hatasi();
+  if (!yazici) return yazici.Kusuru();
   xprnOrtami xprnOrtami = is.XprnOrtami();
   xprnOrtami.belprn = [&](const std::string& dosya) {
     return BelprnBaslat(is.ortam.programDizini, dosya, yazici->ad, is.ortam.kuyruk);
   };
   xprn akis(ayar, xprnOrtami);
-  if (!akis.OpenDosPrint()) return Hata{DosDosyasiAcilamiyor};
+  if (!akis.OpenDosPrint()) return Kusur{DosDosyasiAcilamiyor};
   const bool tamam = MetniYaz(is.metin, ayar.YzcKopya,
                               [&](std::string_view parca, SatirSonu sonu) { return akis.DosDirectPrint(parca, sonu); });
-  if (const Durum gitti = akis.CloseDosPrint(); !gitti) return gitti.Hatasi();
+  if (const Durum gitti = akis.CloseDosPrint(); !gitti) return gitti.Kusuru();
   return YazdirmaSonucu{tamam, Birlestir(is.belge.MetinUyarisi(), yazici->bekleyen)};
 }
 
 Sonuc<YazdirmaSonucu> GrafikYazdir(const Belge& belge, BaskiOrtami& ortam, Ilerleme* ilerleme) {
   const YzcAyarlari& ayar = belge.Ayar();
-  if (PortNo(ayar.yazici) >= 0) return Hata{ayar.yazici + ": bu yazıcıya yalnız Dot Matrix (Dos Mod) ile basılabilir"};
+  if (PortNo(ayar.yazici) >= 0) return Kusur{ayar.yazici + ": bu yazıcıya yalnız Dot Matrix (Dos Mod) ile basılabilir"};
   const auto yazici = YaziciSec(ortam.kuyruk, ayar.yazici);
-  if (!yazici) return yazici.Hatasi();
+  if (!yazici) return yazici.Kusuru();
   auto pdf = BelgePdf(belge, ilerleme);
-  if (!pdf) return pdf.Hatasi();
+  if (!pdf) return pdf.Kusuru();
   if (pdf->baytlar.empty()) return YazdirmaSonucu{};
   const BaskiIsi is{.tur = IsTuru::Pdf,
                     .yazici = yazici->ad,
                     .ad = ayar.YzcBaslik,
                     .icerik = std::move(pdf->baytlar),
                     .kopya = ayar.YzcKopya};
-  if (const auto no = ortam.kuyruk.Gonder(is); !no) return no.Hatasi();
+  if (const auto no = ortam.kuyruk.Gonder(is); !no) return no.Kusuru();
   return YazdirmaSonucu{true, Birlestir(pdf->uyari, yazici->bekleyen)};
 }
 
@@ -117,7 +117,8 @@ Sonuc<std::vector<YaziciBilgisi>> YaziciListesi(BaskiOrtami& ortam) {
   for (int no = 0; no <= EnCokPort; ++no)
     if (ortam.port.Var(no))
       portlar.push_back({.ad = PortAdi(no), .aciklama = "Paralel port (Dos Mod)", .aygit = {}, .bekleyen = {}});
-  if (!liste) return portlar.empty() ? std::move(liste) : Sonuc(std::move(portlar));
+  if (!liste && portlar.empty()) return liste;
+  if (!liste) return portlar;
   liste->insert(liste->end(), portlar.begin(), portlar.end());
   return liste;
 }

@@ -7,8 +7,8 @@
 namespace belvani {
 namespace {
 
-Hata ZipHatasi() {
-  return Hata{"Zip arşivi değil ya da bozuk"};
+Kusur ZipHatasi() {
+  return Kusur{"Zip arşivi değil ya da bozuk"};
 }
 
 struct ParcaSil {

@@ -62,6 +62,8 @@ class Alan {
         oku(std::move(okuyan)),
         yaz(std::move(yazan)) {}
 
+  AlanTutamagi Tutamak() const { return {kayitTuru, tanim.ad}; }
+
   AlanTanimi tanim;
   std::string etiket;
   AlanEki ek;

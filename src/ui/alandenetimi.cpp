@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QRadioButton>
 #include <QStylePainter>
+#include <cmath>
 
 #include "ui/metin.h"
 
@@ -111,6 +112,13 @@ class YaziDenetimi final : public AlanDenetimi {
   xtext* yazi_;
 };
 
+// The place of a stored value in a field's list of `sayi` choices, whatever number the column holds it as; -1 when it
+// is none of them.
+int SecenekSirasi(const belvani::Alan& alan, const Deger& deger, int sayi) {
+  const double sira = SayiDegeri(deger) - alan.ek.listeTabani;
+  return sira >= 0 && sira < sayi && sira == std::floor(sira) ? int(sira) : -1;
+}
+
 // A list that is narrower than its choices: the closed one ends in "…".
 class DarListe final : public QComboBox {
  public:
@@ -140,10 +148,9 @@ class ListeDenetimi final : public AlanDenetimi {
   }
   QWidget* Parca() override { return liste_; }
   void Koy(const Deger& deger) override {
-    disaridaki_ = TamDegeri(deger);
-    liste_->setCurrentIndex(int(disaridaki_) - alan_.ek.listeTabani);
+    disaridaki_ = deger;
+    liste_->setCurrentIndex(SecenekSirasi(alan_, deger, liste_->count()));
   }
-  // A stored number that the list does not know stays as it is.
   Deger Oku() const override {
     const int sira = liste_->currentIndex();
     return sira < 0 ? disaridaki_ : std::int64_t(sira + alan_.ek.listeTabani);
@@ -154,7 +161,7 @@ class ListeDenetimi final : public AlanDenetimi {
 
  private:
   QComboBox* liste_;
-  std::int64_t disaridaki_ = 0;
+  Deger disaridaki_;  // a stored value that the list does not know stays as it is
 };
 
 class KutuDenetimi final : public AlanDenetimi {
@@ -204,8 +211,8 @@ class SecenekDenetimi final : public AlanDenetimi {
     return {dugmeler.begin(), dugmeler.end()};
   }
   void Koy(const Deger& deger) override {
-    QAbstractButton* dugme = grup_->button(int(TamDegeri(deger)) - alan_.ek.listeTabani);
-    (dugme != nullptr ? dugme : grup_->button(0))->setChecked(true);
+    const int sira = SecenekSirasi(alan_, deger, int(grup_->buttons().size()));
+    grup_->button(std::max(0, sira))->setChecked(true);
   }
   Deger Oku() const override { return std::int64_t(grup_->checkedId() + alan_.ek.listeTabani); }
   void Temizle() override { Koy(std::int64_t(alan_.ek.listeTabani)); }
@@ -218,9 +225,10 @@ class SecenekDenetimi final : public AlanDenetimi {
 
 }  // namespace
 
-std::string AlanDenetimi::Kusur() const {
+std::optional<Kusur> AlanDenetimi::Kusuru() const {
   const std::string kusur = DegerKusuru(alan_.tanim, Oku());
-  return kusur.empty() ? kusur : alan_.etiket + ": " + kusur;
+  if (kusur.empty()) return std::nullopt;
+  return KuralKusuru(alan_.etiket + ": " + kusur, alan_.Tutamak());
 }
 
 std::unique_ptr<AlanDenetimi> DenetimYap(const belvani::Alan& alan, QWidget* ust, int paraOndalik) {

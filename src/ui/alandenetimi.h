@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "ui/alan.h"
 #include "ui/xtext.h"
@@ -28,8 +29,8 @@ class AlanDenetimi {
   virtual void Kapat(bool kapali) = 0;
   virtual bool KendiBasligi() const { return false; }  // its caption is part of it (check box)
 
-  // Why what stands in it cannot be stored: "Adı: en çok 20 harf"; "" when it can.
-  std::string Kusur() const;
+  // Why what stands in it cannot be stored: "Adı: en çok 20 harf"; nothing when it can.
+  std::optional<Kusur> Kusuru() const;
 
   // The user changed it. Held off while the program loads values.
   std::function<void()> Degisti = [] {};

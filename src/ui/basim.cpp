@@ -41,7 +41,7 @@ std::optional<std::string> DosyaSor(EkranBaglami& baglam, const std::string& bas
 // True when the file is written; else it was told why not.
 bool Kaydet(EkranBaglami& baglam, const std::string& yol, std::string_view baytlar) {
   if (const Durum yazildi = DosyaYaz(yol, baytlar); !yazildi) {
-    baglam.bildirim.Uyari(yazildi.HataMetni());
+    baglam.bildirim.Uyari(yazildi.KusurMetni());
     return false;
   }
   return true;
@@ -53,7 +53,7 @@ bool Yazdir(EkranBaglami& baglam, const Belge& belge) {
   IlerlemeKutusu ilerleme(QStringLiteral("Yazdırılıyor…"), baglam.gosterici.ModalUst());
   const auto sonuc = BelgeYazdir(belge, baglam.baski, baglam.bildirim, &ilerleme);
   if (!sonuc) {
-    baglam.bildirim.Uyari(sonuc.HataMetni());
+    baglam.bildirim.Uyari(sonuc.KusurMetni());
     return false;
   }
   if (!sonuc->uyari.empty()) baglam.bildirim.Uyari(sonuc->uyari);
@@ -65,7 +65,7 @@ bool PdfKaydet(EkranBaglami& baglam, const Belge& belge) {
   if (!yol) return false;
   IlerlemeKutusu ilerleme(QStringLiteral("PDF hazırlanıyor…"), baglam.gosterici.ModalUst());
   const auto pdf = BelgePdf(belge, &ilerleme);
-  if (!pdf) baglam.bildirim.Uyari(pdf.HataMetni());
+  if (!pdf) baglam.bildirim.Uyari(pdf.KusurMetni());
   if (!pdf || pdf->baytlar.empty() || !Kaydet(baglam, *yol, pdf->baytlar)) return false;
   if (!pdf->uyari.empty()) baglam.bildirim.Uyari(pdf->uyari);
   return true;
@@ -135,7 +135,7 @@ void BelgeExceleGonder(EkranBaglami& baglam, const Belge& belge) {
     const MesgulImlec mesgul;
     return belge.Xlsx();
   }();
-  if (!baytlar) return baglam.bildirim.Uyari(baytlar.HataMetni());
+  if (!baytlar) return baglam.bildirim.Uyari(baytlar.KusurMetni());
   TabloyuAc(baglam, belge.Baslik(), *baytlar);
 }
 

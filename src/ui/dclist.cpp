@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
+#include <map>
 
 #include "ui/dclistdenetim.h"
 #include "ui/dclisthucre.h"
@@ -362,6 +363,13 @@ void dclist::Kopyala() const {
     metin += Text(CurSat(), kolon);
   }
   QApplication::clipboard()->setText(metin);
+}
+
+void dclist::Gezin(Qt::Key tus) {
+  static const std::map<Qt::Key, CursorAction> hareketler{
+      {Qt::Key_Up, MoveUp}, {Qt::Key_Down, MoveDown}, {Qt::Key_PageUp, MovePageUp}, {Qt::Key_PageDown, MovePageDown}};
+  const QModelIndex yer = moveCursor(hareketler.at(tus), Qt::NoModifier);
+  if (yer.isValid()) setCurrentIndex(yer);
 }
 
 void dclist::keyPressEvent(QKeyEvent* olay) {

@@ -80,6 +80,10 @@ class dclist : public QTableView {
   std::function<void(int)> Secildi = [](int) {};       // Enter or double click on a row of a list to read
   std::function<bool(const QKeyEvent&)> Tus = [](const QKeyEvent&) { return false; };  // true: eaten
 
+  // One of the keys that walk through rows (arrows, Page Up, Page Down), for lists that are walked from a search box.
+  // At the ends of the list it does nothing.
+  void Gezin(Qt::Key tus);
+
   // The owner is being destroyed: nothing is asked of him any more.
   void SahibiGitti();
 

@@ -158,6 +158,15 @@ xButton* Form::DugmeEkle(const QString& metin, const QString& simge, std::functi
   return dugme;
 }
 
+xButton* Form::DugmeEkle(const QKeySequence& tus, const QString& metin, const QString& simge,
+                         std::function<void()> islev) {
+  const QString ad = metin.trimmed();
+  TusBagla(tus, ad, islev);
+  xButton* dugme = DugmeEkle(metin, simge, std::move(islev));
+  dugme->setToolTip(ad + " (" + tus.toString(QKeySequence::PortableText) + ")");
+  return dugme;
+}
+
 void Form::Komut(FormKomutu komut, std::function<void()> islev, const QString& dugme) {
   const KomutTanimi& tanim = Tanim(komut);
   TusBagla(tanim.tus, tanim.aciklama, islev);
@@ -176,6 +185,11 @@ void Form::TusBagla(const QKeySequence& tus, const QString& aciklama, std::funct
   std::erase_if(tuslar_, [&](const TusIslevi& t) { return t.tus == tus; });
   tuslar_.push_back({tus, aciklama, std::move(islev)});
   IpucuYaz();
+}
+
+void Form::ListedeGezin(dclist& liste) {
+  for (const Qt::Key tus : {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp})
+    TusBagla(QKeySequence(tus), {}, [&liste, tus] { liste.Gezin(tus); });
 }
 
 void Form::IpucuYaz() {
@@ -258,13 +272,23 @@ bool Form::AlanlarSaglam(std::type_index kayitTuru) {
     if (d->Satir().kayitTuru != kayitTuru || d->Satir().ek.kapali) continue;
     const xtext* yazi = d->YaziKutusu();
     const bool hataliTarih = yazi != nullptr && yazi->HataliTarih();
-    const std::string kusur = hataliTarih ? d->Satir().etiket + " Hatalı" : d->Kusur();
-    if (kusur.empty()) continue;
-    Bildirimi().Bilgi(kusur);
-    d->Odak()->setFocus();
+    const auto kusur = hataliTarih ? KuralKusuru(d->Satir().etiket + " Hatalı", d->Satir().Tutamak()) : d->Kusuru();
+    if (!kusur) continue;
+    Bildir(*kusur);
     return false;
   }
   return true;
+}
+
+void Form::Bildir(const Kusur& kusur) {
+  Bildirimi().KusuruGoster(kusur);
+  if (AlanDenetimi* alan = DenetimBul(kusur.alan)) alan->Odak()->setFocus(Qt::TabFocusReason);
+}
+
+AlanDenetimi* Form::DenetimBul(AlanTutamagi alan) const {
+  for (const auto& d : denetimler_)
+    if (d->Satir().Tutamak() == alan) return d.get();
+  return nullptr;
 }
 
 void Form::Temizle() {

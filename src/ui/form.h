@@ -18,6 +18,8 @@
 
 namespace belvani {
 
+class dclist;
+
 enum class FormKomutu { Kaydet, Sil, Rehber, Ilk, Onceki, Sonraki, Son, Kapat };
 
 class Form : public QWidget {
@@ -33,6 +35,8 @@ class Form : public QWidget {
   // Editors in the order of their rows.
   const std::vector<std::unique_ptr<AlanDenetimi>>& Denetimler() const { return denetimler_; }
   AlanDenetimi& Denetim(std::string_view ad) const;
+  // The editor of a column; null when this screen does not show it.
+  AlanDenetimi* DenetimBul(AlanTutamagi alan) const;
   xtext& YaziKutusu(std::string_view ad) const;
   void OdakVer(std::string_view ad);
 
@@ -61,10 +65,14 @@ class Form : public QWidget {
   void Komut(FormKomutu komut, std::function<void()> islev, const QString& dugme = {});
   // A button of the bottom row with no key of its own. `simge` names its picture.
   xButton* DugmeEkle(const QString& metin, const QString& simge, std::function<void()> islev);
+  // A button and its key together; the line of hints names the key.
+  xButton* DugmeEkle(const QKeySequence& tus, const QString& metin, const QString& simge, std::function<void()> islev);
   // Keys of a widget that is not a declared field.
   void Izle(QWidget* parca);
   // A key besides those of the commands.
   void TusBagla(const QKeySequence& tus, const QString& aciklama, std::function<void()> islev);
+  // The keys that walk through rows go to this list, wherever the cursor stands: for a list below a search box.
+  void ListedeGezin(dclist& liste);
 
   // Called with the trimmed key when the key field is left with a text that differs from the last one handled.
   void AnahtarBagla(std::string_view ad, std::function<void(const std::string&)> bulunacak);
@@ -89,6 +97,8 @@ class Form : public QWidget {
     return true;
   }
   bool AlanlarSaglam(std::type_index kayitTuru);
+  // Tells the fault, once, and puts the cursor into its field where this screen has it.
+  void Bildir(const Kusur& kusur);
   void Temizle();
   void IlkAlanaGit();
   // Where the keyboard begins, when that is not the first field. Focus given before the screen is shown is lost.

@@ -44,14 +44,7 @@ pencere::pencere(EkranBaglami& baglam)
   Izle(tur_);
   Izle(aranan_);
   aranan_->setPlaceholderText(QStringLiteral("Aranan"));
-  // Keys of the list while the text is typed.
-  const auto gezin = [this](Qt::Key tus) {
-    TusBagla(QKeySequence(tus), {}, [this, tus] {
-      QKeyEvent olay(QEvent::KeyPress, tus, Qt::NoModifier);
-      QCoreApplication::sendEvent(liste_, &olay);
-    });
-  };
-  for (const Qt::Key tus : {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp}) gezin(tus);
+  ListedeGezin(*liste_);
   for (const Qt::Key tus : {Qt::Key_Return, Qt::Key_Enter})
     TusBagla(QKeySequence(tus), tus == Qt::Key_Return ? QStringLiteral("Seç") : QString(),
              [this] { Sec(liste_->CurSat()); });

@@ -69,14 +69,13 @@ QLayout* perekr::AramaSatiri() {
 
 void perekr::TuslariBagla(const PerekrIslevleri& islevler) {
   const auto komut = [this](const std::function<void()>& islev, std::function<void()>& gridIslevi, Qt::Key tus,
-                            const QString& aciklama, const QString& metin, const QString& simge) {
+                            const QString& metin, const QString& simge) {
     if (!islev) return;
     gridIslevi = islev;
-    TusBagla(QKeySequence(tus), aciklama, gridIslevi);
-    DugmeEkle(metin, simge, gridIslevi)->setToolTip(metin.trimmed() + " (" + QKeySequence(tus).toString() + ")");
+    DugmeEkle(tus, metin, simge, gridIslevi);
   };
-  komut(islevler.yazdir, xgrid1_->YazdirIslevi, Qt::Key_F8, "Yazdır", " Yazıcıya Yazdır", "yazici");
-  komut(islevler.excel, xgrid1_->ExcelIslevi, Qt::Key_F9, "Excel", " Excel'e Gönder", "tablo");
+  komut(islevler.yazdir, xgrid1_->YazdirIslevi, Qt::Key_F8, " Yazıcıya Yazdır", "yazici");
+  komut(islevler.excel, xgrid1_->ExcelIslevi, Qt::Key_F9, " Excel'e Gönder", "tablo");
   TusBagla(QKeySequence(Qt::CTRL | Qt::Key_F), "Bul", [this] { xgrid1_->AramayaGit(); });
   TusBagla(QKeySequence(Qt::Key_F3), "Sonraki", [this] { xgrid1_->SonrakiniBul(xgrid::Yon::Ileri); });
   TusBagla(QKeySequence(Qt::CTRL | Qt::Key_S), "Sırala", [this] { xgrid1_->Sirala(xgrid1_->CurrentColon()); });

@@ -207,7 +207,7 @@ void xtext::inputMethodEvent(QInputMethodEvent* olay) {
 void xtext::HarfYaz(const QString& harfler) {
   yuklenen_.reset();
   for (const QChar harf : harfler) {
-    if (std::exchange(ilkTus_, false)) {
+    if (std::exchange(ilkTus_, false) || HepsiSecili()) {
       ham_.clear();
       if (tip_ == Tip::Tarih) clear();
     }
@@ -247,11 +247,15 @@ bool xtext::TarihHarfi(QChar harf) {
   return true;
 }
 
+bool xtext::HepsiSecili() const {
+  return !text().isEmpty() && selectedText() == text();
+}
+
 void xtext::GeriSil() {
   ilkTus_ = false;
   yuklenen_.reset();
   if (tip_ == Tip::Sayi) {
-    ham_.chop(1);
+    HepsiSecili() ? ham_.clear() : ham_.chop(1);
     SayiyiGoster();
   } else {
     QString metin = hasSelectedText() ? QString() : text();

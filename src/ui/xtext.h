@@ -73,6 +73,7 @@ class xtext : public QLineEdit {
   bool SayiHarfi(QChar harf);
   bool TarihHarfi(QChar harf);
   void GeriSil();
+  bool HepsiSecili() const;
   void Yapistir();
   void SayiyiGoster();
   void Bitir();

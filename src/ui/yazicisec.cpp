@@ -48,7 +48,7 @@ class yazicisec : public Form {
 std::optional<std::string> YaziciSecimi(EkranBaglami& baglam, const std::string& simdiki) {
   const auto yazicilar = YaziciListesi(baglam.baski);
   if (!yazicilar || yazicilar->empty()) {
-    baglam.bildirim.Uyari(yazicilar ? YaziciYok : yazicilar.HataMetni());
+    baglam.bildirim.Uyari(yazicilar ? YaziciYok : yazicilar.KusurMetni());
     return std::nullopt;
   }
   auto form = std::make_unique<yazicisec>(baglam, *yazicilar, simdiki);

@@ -3,10 +3,10 @@
 
 #include "app/anaortam.h"
 #include "core/ayarlar.h"
-#include "core/screens/startfrm.h"
 #include "core/store/satirlar.h"
 #include "payroll/hazirlik/hazirlik.h"
 #include "personnel/aile.h"
+#include "screens/core/startfrm.h"
 
 namespace belvani::test {
 namespace {

@@ -2,7 +2,7 @@
 #include "core/session/oturum.h"
 #include "core/store/satirlar.h"
 #include "ekran/ortam.h"
-#include "payroll/screens/brdhazir.h"
+#include "screens/payroll/brdhazir.h"
 
 namespace belvani::test {
 namespace {

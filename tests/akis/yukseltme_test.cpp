@@ -1,10 +1,10 @@
 // A company of the oldest program: login, upgrade, and a day's work in it, by keys.
 #include "app/anaortam.h"
-#include "core/screens/Dbupdate.h"
 #include "core/session/eskidepo.h"
 #include "core/store/satirlar.h"
 #include "personnel/kart.h"
-#include "personnel/screens/perkart.h"
+#include "screens/core/Dbupdate.h"
+#include "screens/personnel/perkart.h"
 
 namespace belvani::test {
 namespace {

@@ -7,9 +7,9 @@
 #include "app/anaortam.h"
 #include "app/menuharfi.h"
 #include "app/yardim.h"
-#include "core/screens/firbil.h"
-#include "core/screens/kulfrm.h"
 #include "core/veridizini.h"
+#include "screens/core/firbil.h"
+#include "screens/core/kulfrm.h"
 
 namespace belvani::test {
 namespace {

@@ -4,7 +4,7 @@
 #include <QHeaderView>
 
 #include "app/anaortam.h"
-#include "core/screens/kulfrm.h"
+#include "screens/core/kulfrm.h"
 #include "ui/dclist.h"
 #include "ui/renk.h"
 #include "ui/stil.h"

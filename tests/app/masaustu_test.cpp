@@ -4,7 +4,7 @@
 #include "app/anaortam.h"
 #include "app/kyol.h"
 #include "core/dosya.h"
-#include "core/screens/firbil.h"
+#include "screens/core/firbil.h"
 
 namespace belvani::test {
 namespace {

@@ -9,7 +9,7 @@ namespace {
 
 // Rows as "line: cell|cell", the header first.
 std::string Duz(const Sonuc<CsvTablosu>& tablo) {
-  if (!tablo) return "hata: " + tablo.HataMetni();
+  if (!tablo) return "hata: " + tablo.KusurMetni();
   std::string metin;
   for (const auto& b : tablo->basliklar) metin += b + "|";
   for (const auto& satir : tablo->satirlar) {

@@ -50,7 +50,7 @@ TEST(DosyaYaz, AFailureLeavesTheOldContentAndNothingElse) {
                                                                   {dosya + "/b.dat", "yoldaki bir ad dizin değil"},
                                                                   {d.Yol() + "yok/b.dat", "dizin bulunamadı"},
                                                                   {d.Yol() + std::string(300, 'x'), "ad çok uzun"}})
-    EXPECT_EQ(DosyaYaz(yol, "yeni").HataMetni(), yol + ": dosya yazılamadı (" + neden + ")");
+    EXPECT_EQ(DosyaYaz(yol, "yeni").KusurMetni(), yol + ": dosya yazılamadı (" + neden + ")");
   const auto geri = test::DarDisk(1000);
   EXPECT_FALSE(DosyaYaz(dosya, std::string(5000, 'y')));
   EXPECT_EQ(DosyaOku(dosya), "eski");
@@ -81,7 +81,7 @@ TEST(Dizin, MakingAndFinding) {
   }
   ASSERT_TRUE(DosyaYaz(d.Yol() + "dosya", ""));
   for (const char* ad : {"dosya", "yok", "dosya/alt"}) EXPECT_FALSE(DizinVar(d.Yol() + ad));
-  EXPECT_EQ(DizinYarat(d.Yol() + "dosya/alt").HataMetni(),
+  EXPECT_EQ(DizinYarat(d.Yol() + "dosya/alt").KusurMetni(),
             d.Yol() + "dosya: dizin yaratılamadı (bu adda bir dosya var)");
   for (const auto& [yol, sonu] : Tablo<const char*, const char*>{
            {"/veri", "/veri/"}, {"/veri//", "/veri/"}, {"a/", "a/"}, {"/", "/"}, {"", "./"}})

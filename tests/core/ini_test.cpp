@@ -76,7 +76,7 @@ TEST(IniYaz, WhatCannotBeReadIsNotReplaced) {
   const std::string dosya = d.Yol() + "a.ini";
   const std::string cokBuyuk((1u << 20) + 1, ';');
   ASSERT_TRUE(DosyaYaz(dosya, cokBuyuk));
-  EXPECT_EQ(IniYaz("b", "k", "1", dosya).HataMetni(), dosya + ": dosya okunamadı, değiştirilmedi");
+  EXPECT_EQ(IniYaz("b", "k", "1", dosya).KusurMetni(), dosya + ": dosya okunamadı, değiştirilmedi");
   EXPECT_EQ(DosyaOku(dosya), cokBuyuk);
   ASSERT_TRUE(DosyaYaz(dosya, "[b]\nk=eski\n"));
   EXPECT_FALSE(IniYaz("b", "k", "\xFE\xFF", dosya));

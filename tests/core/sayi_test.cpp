@@ -93,7 +93,7 @@ std::vector<std::string> Ornekler() {
           Tarih(2008, 2, 29).Metin() + Tarih(2008, 2, 29).Iso(),
           BuyukHarf("ılık iğne TITLE title") + KucukHarf("IĞDIR İZMİR"),
           std::to_string(TurkceKarsilastir("ı", "i")),
-          DosyaYaz("/dev/null/a", "").HataMetni()};
+          DosyaYaz("/dev/null/a", "").KusurMetni()};
 }
 
 struct AlmanSayisi : std::numpunct<char> {

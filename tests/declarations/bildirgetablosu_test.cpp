@@ -29,7 +29,7 @@ TEST(BildirgeTablosu, HucrelerAdreslerinde) {
       test::Satir("sigkol=01|tcno=10000000146|adi=Işıl|soyadi=Çağ|ilksoyadi=Öz|primkazanc=1250.5|primdisi=0|gun=15|"
                   "girtar=05.07.2009|ciktar=20.12.2009|eksik=6|ciksebeb=3"));
   const auto tablo = BildirgeTablosuYap(Sablon(), kagit);
-  ASSERT_TRUE(tablo) << tablo.HataMetni();
+  ASSERT_TRUE(tablo) << tablo.KusurMetni();
   EXPECT_EQ(tablo->uyari, "");
   const auto bos = XlsxOku(Sablon());
   auto dolu = XlsxOku(tablo->baytlar);
@@ -176,7 +176,7 @@ TEST(BildirgeTablosu, SablonunYeri) {
   const std::string kullanici = d.Yol() + "veri/", program = d.Yol() + "program/";
   const std::vector dizinler{kullanici, program};
   ASSERT_TRUE(DizinYarat(kullanici) && DizinYarat(program));
-  EXPECT_THAT(TabloSablonu(dizinler).HataMetni(), HasSubstr(program + "aylik.xlsx"));
+  EXPECT_THAT(TabloSablonu(dizinler).KusurMetni(), HasSubstr(program + "aylik.xlsx"));
   ASSERT_TRUE(DosyaYaz(program + "aylik.xlsx", "kurulu"));
   EXPECT_EQ(*TabloSablonu(dizinler), "kurulu");
 
@@ -188,7 +188,7 @@ TEST(BildirgeTablosu, SablonunYeri) {
   std::filesystem::permissions(ofis, std::filesystem::perms::owner_all);
   ASSERT_TRUE(DosyaYaz(kullanici + "aylik.xls", "\xd0\xcf\x11\xe0 eski"));
   EXPECT_EQ(*TabloSablonu(dizinler, ofis), "\xd0\xcf\x11\xe0 eski");
-  EXPECT_THAT(TabloSablonu(dizinler, ofis + "yok").HataMetni(), HasSubstr(".xlsx olarak kaydediniz"));
+  EXPECT_THAT(TabloSablonu(dizinler, ofis + "yok").KusurMetni(), HasSubstr(".xlsx olarak kaydediniz"));
 
   ASSERT_TRUE(DosyaYaz(kullanici + "aylik.xlsx", "kullanıcının"));
   EXPECT_EQ(*TabloSablonu(dizinler), "kullanıcının");

@@ -108,7 +108,7 @@ TEST(BelgeYazdir, GrafikIsiKuyruga) {
   EXPECT_EQ(o.kuyruk.isler[0].kopya, 2);
   EXPECT_EQ(o.kuyruk.isler[0].ad, "LİSTE");
   o.kuyruk.yazicilar.clear();
-  EXPECT_EQ(o.Yazdir(ayar).HataMetni(), YaziciYok);
+  EXPECT_EQ(o.Yazdir(ayar).KusurMetni(), YaziciYok);
 }
 
 TEST(BelgeYazdir, MetinBelprnUzerinden) {
@@ -160,17 +160,17 @@ TEST(BelgeYazdir, DoluDiskteEskiDosyaKalir) {
   std::string metinHatasi, pdfHatasi, xlsxHatasi;
   {
     const auto dolu = test::DarDisk(64);
-    metinHatasi = o.Yazdir(ayar).HataMetni();
-    pdfHatasi = DosyaYaz(dosya, pdf).HataMetni();
+    metinHatasi = o.Yazdir(ayar).KusurMetni();
+    pdfHatasi = DosyaYaz(dosya, pdf).KusurMetni();
     const auto xlsx = belge.Xlsx();
-    xlsxHatasi = xlsx ? "" : xlsx.HataMetni();
+    xlsxHatasi = xlsx ? "" : xlsx.KusurMetni();
   }
   EXPECT_THAT(metinHatasi, HasSubstr("yazılamadı"));
   EXPECT_THAT(pdfHatasi, HasSubstr("yazılamadı"));
   EXPECT_FALSE(xlsxHatasi.empty());
   EXPECT_EQ(DosyaOku(dosya), "eski");
   const auto gecici = test::OrtamKoy("TMPDIR", "/yok");
-  EXPECT_EQ(o.Yazdir(ayar).HataMetni(), "Dos Yazıcı Dosyası Açılamıyor");
+  EXPECT_EQ(o.Yazdir(ayar).KusurMetni(), "Dos Yazıcı Dosyası Açılamıyor");
 }
 
 TEST(BelgeYazdir, Port) {
@@ -180,7 +180,7 @@ TEST(BelgeYazdir, Port) {
   YzcAyarlari ayar;
   ayar.YzcTamam = true;
   ayar.yazici = "LPT1:";
-  EXPECT_THAT(o.Yazdir(ayar).HataMetni(), HasSubstr("yalnız Dot Matrix"));
+  EXPECT_THAT(o.Yazdir(ayar).KusurMetni(), HasSubstr("yalnız Dot Matrix"));
   ayar.YzcDosMod = true;
   ASSERT_TRUE(o.Yazdir(ayar)->gonderildi);
   EXPECT_THAT(o.port.alinan, HasSubstr("\r\nI\x9F\x8Dl "));

@@ -133,7 +133,7 @@ TEST(Xprn, DosyayaVeYazilamayanHedef) {
   EXPECT_EQ(*DosyaOku(dosya), "\xA7\r\n");
   EXPECT_EQ(d.gonderilen, "");
   ASSERT_TRUE(yazici.DosyayaAc("/proc/olmaz/pusula.prn"));
-  EXPECT_EQ(yazici.CloseDosPrint().HataMetni(), "/proc/olmaz/pusula.prn: dosya yazılamadı (dizin bulunamadı)");
+  EXPECT_EQ(yazici.CloseDosPrint().KusurMetni(), "/proc/olmaz/pusula.prn: dosya yazılamadı (dizin bulunamadı)");
 }
 
 TEST(Xprn, PortDurumlari) {

@@ -68,7 +68,7 @@ TEST(Excelkont, BozukHucreDosyayaGecmezVeKapanirkenSoylenir) {
     const Durum ilk = e.excel.SetExcell(satir, kolon, Tutar(1.0));
     EXPECT_FALSE(ilk) << satir << "," << kolon;
     EXPECT_FALSE(e.excel.SetExcel("1A", Null{}));
-    EXPECT_EQ(e.excel.CloseExcell().HataMetni(), ilk.HataMetni()) << "the first one";
+    EXPECT_EQ(e.excel.CloseExcell().KusurMetni(), ilk.KusurMetni()) << "the first one";
     EXPECT_TRUE(e.acilan.empty() && e.excel.Dosya().empty());
   }
 }
@@ -107,7 +107,7 @@ TEST(Excelkont, AcilamayanKitapVeProgram) {
   e.acilir = false;
   ASSERT_TRUE(e.excel.OpenExcell());
   EXPECT_TRUE(e.excel.SetExcel("A1", std::string("x")));
-  EXPECT_EQ(e.excel.CloseExcell().HataMetni(), ExcelYok);
+  EXPECT_EQ(e.excel.CloseExcell().KusurMetni(), ExcelYok);
   EXPECT_EQ(e.Hucreler()["A1"].deger, "x") << "the file is there nevertheless";
 }
 
@@ -150,7 +150,7 @@ TEST(Excelkont, EskiKitapOnceCevrilir) {
     const Durum acildi = excel.OpenExcell(eski);
     ASSERT_EQ(bool(acildi), d.olur) << d.ad;
     if (acildi) continue;
-    EXPECT_EQ(acildi.HataMetni(), ExcelYok) << d.ad;
+    EXPECT_EQ(acildi.KusurMetni(), ExcelYok) << d.ad;
   }
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(e.dizin.Yol()), {}), 3) << "nothing else came about";
 }

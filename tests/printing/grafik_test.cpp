@@ -77,7 +77,7 @@ TEST(Grafik, PdfMetniVeBaytlari) {
   EXPECT_THAT(Calistir("pdffonts " + yol), HasSubstr("DejaVuSansMono"));
   EXPECT_THAT(Calistir("pdffonts " + yol), Not(HasSubstr(" no  ")));  // all embedded
   EXPECT_EQ(ciz(), ciz());
-  EXPECT_EQ(PdfTuvali().Belge().HataMetni(), "Yazdırılacak sayfa yok");
+  EXPECT_EQ(PdfTuvali().Belge().KusurMetni(), "Yazdırılacak sayfa yok");
 }
 
 // The preview shows the asked page alone, with dots where the page has ink.

@@ -20,7 +20,7 @@ struct SahteKuyruk final : Kuyruk {
 
   Sonuc<std::vector<YaziciBilgisi>> Yazicilar() override { return yazicilar; }
   Sonuc<int> Gonder(const BaskiIsi& is) override {
-    if (!hata.empty()) return Hata{hata};
+    if (!hata.empty()) return Kusur{hata};
     isler.push_back(is);
     return int(isler.size());
   }

@@ -55,7 +55,7 @@ std::string Form() {
 TEST(XlsxSablon, Doldurur) {
   const std::string once = Form();
   auto sablon = XlsxSablon::Ac(once);
-  ASSERT_TRUE(sablon) << sablon.HataMetni();
+  ASSERT_TRUE(sablon) << sablon.KusurMetni();
   const std::pair<const char*, Hucre> yazilanlar[] = {
       {"B2", std::string(" Işıl <&> Çağ ")},
       {"D2", Tarih(2008, 2, 29)},
@@ -130,17 +130,17 @@ TEST(XlsxSablon, Reddeder) {
   for (const auto& [baytlar, neden] : dosyalar) {
     const auto sablon = XlsxSablon::Ac(baytlar);
     ASSERT_FALSE(sablon) << neden;
-    EXPECT_THAT(sablon.HataMetni(), HasSubstr(neden));
+    EXPECT_THAT(sablon.KusurMetni(), HasSubstr(neden));
   }
   auto sablon = XlsxSablon::Ac(form);
-  EXPECT_THAT(sablon->Yaz("Üçüncü", "A1", Null{}).HataMetni(), HasSubstr("'Üçüncü' sayfası yok"));
-  EXPECT_THAT(sablon->Yaz("", "B9", std::int64_t(1)).HataMetni(), HasSubstr("başka hücrelerle ortak"));
+  EXPECT_THAT(sablon->Yaz("Üçüncü", "A1", Null{}).KusurMetni(), HasSubstr("'Üçüncü' sayfası yok"));
+  EXPECT_THAT(sablon->Yaz("", "B9", std::int64_t(1)).KusurMetni(), HasSubstr("başka hücrelerle ortak"));
   for (const char* adres :
        {"", "A", "1", "A0", "A01", "1A", "A1B", "A-1", "XFE1", "A1048577", "ABCD1", "Ç1", "A99999999"})
-    EXPECT_THAT(sablon->Yaz("", adres, Null{}).HataMetni(), HasSubstr("Hücre adresi değil")) << adres;
+    EXPECT_THAT(sablon->Yaz("", adres, Null{}).KusurMetni(), HasSubstr("Hücre adresi değil")) << adres;
   EXPECT_TRUE(sablon->Yaz("", "xfd1048576", std::int64_t(1)));
   auto bozuk = XlsxSablon::Ac(parcasiz(Sayfa2));
-  EXPECT_THAT(bozuk->Yaz("ikinci", "A1", Null{}).HataMetni(), HasSubstr("sayfası bozuk"));
+  EXPECT_THAT(bozuk->Yaz("ikinci", "A1", Null{}).KusurMetni(), HasSubstr("sayfası bozuk"));
 }
 
 TEST(XlsxSablon, Adresler) {

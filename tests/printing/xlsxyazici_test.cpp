@@ -21,7 +21,7 @@ using testing::HasSubstr;
 
 std::string Xlsx(const Rapor& rapor) {
   auto baytlar = XlsxRaporu(rapor);
-  EXPECT_TRUE(baytlar) << baytlar.HataMetni();
+  EXPECT_TRUE(baytlar) << baytlar.KusurMetni();
   return baytlar ? *baytlar : "";
 }
 
@@ -91,11 +91,11 @@ TEST(XlsxYazici, GecersizAdVeBaytlar) {
 }
 
 TEST(XlsxYazici, SigmayanSoylenir) {
-  EXPECT_THAT(XlsxRaporu(KalemRaporu({{.ad = std::string(40'000, 'x')}})).HataMetni(), HasSubstr("32,767 harf"));
+  EXPECT_THAT(XlsxRaporu(KalemRaporu({{.ad = std::string(40'000, 'x')}})).KusurMetni(), HasSubstr("32,767 harf"));
   XlsxKitap kitap("a");
   const auto duz = kitap.StilEkle({});
   kitap.Yaz(1'048'576, 0, std::int64_t(1), duz);
-  EXPECT_THAT(kitap.Bitir().HataMetni(), HasSubstr("1,048,576 satır"));
+  EXPECT_THAT(kitap.Bitir().KusurMetni(), HasSubstr("1,048,576 satır"));
 }
 
 // No room for the temporary files, wherever it ends: a failure is told, and a half workbook never passes for a whole
@@ -106,7 +106,7 @@ TEST(XlsxYazici, DolanDiskSoylenir) {
     const auto disk = test::DarDisk(sinir);
     const auto sonuc = XlsxRaporu(rapor);
     ASSERT_FALSE(sonuc) << sinir;
-    EXPECT_THAT(sonuc.HataMetni(), HasSubstr("Tablo dosyası yazılamadı")) << sinir;
+    EXPECT_THAT(sonuc.KusurMetni(), HasSubstr("Tablo dosyası yazılamadı")) << sinir;
   }
 }
 

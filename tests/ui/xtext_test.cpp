@@ -79,6 +79,21 @@ TEST(Xtext, TheFirstKeyReplacesAndWhatWasLoadedStaysExact) {
   EXPECT_EQ(a.Metin(), "7.00");
 }
 
+TEST(Xtext, WhatIsSelectedIsTypedOver) {
+  Alanlar a(xtext::Tip::Sayi, 1e9, 2);
+  for (const char* sonra : {"", "c"}) {  // a copy in between keeps the selection
+    a.alan.DegerKoy(Tutar(1250));
+    EkranOrtami::Bas(Qt::Key_End);
+    EkranOrtami::Bas(Qt::Key_A, Qt::ControlModifier);
+    if (*sonra != '\0') EkranOrtami::Bas(Qt::Key_C, Qt::ControlModifier);
+    a.Yaz("7");
+    EXPECT_EQ(a.Metin(), "7.00");
+  }
+  EkranOrtami::Bas(Qt::Key_A, Qt::ControlModifier);
+  EkranOrtami::Bas(Qt::Key_Backspace);
+  EXPECT_EQ(a.Metin(), "");
+}
+
 TEST(Xtext, DatesAreTypedByTheirRules) {
   struct {
     const char* tuslar;

@@ -90,7 +90,7 @@ Sonuc<std::vector<Kisayol>> KisayollariOku(const Oturum& o) {
   const std::string yol = ProgramDosyasi(o.PrgPath, DosyaAdi);
   std::error_code hata;
   if (!std::filesystem::exists(yol, hata)) return IlkKisayollar();
-  const Hata bozuk{"Kısa yol dosyası okunamadı: " + yol};
+  const Kusur bozuk{"Kısa yol dosyası okunamadı: " + yol};
   const auto icerik = DosyaOku(yol, EnCokKisayol * KayitBoyu);
   if (!icerik || icerik->size() % KayitBoyu != 0) return bozuk;
   std::vector<Kisayol> liste;
@@ -103,10 +103,10 @@ Sonuc<std::vector<Kisayol>> KisayollariOku(const Oturum& o) {
 }
 
 Durum KisayollariYaz(const Oturum& o, const std::vector<Kisayol>& kisayollar) {
-  if (kisayollar.size() > EnCokKisayol) return Hata{"En çok " + std::to_string(EnCokKisayol) + " kısa yol olabilir"};
+  if (kisayollar.size() > EnCokKisayol) return Kusur{"En çok " + std::to_string(EnCokKisayol) + " kısa yol olabilir"};
   std::string icerik;
   for (const auto& k : kisayollar) {
-    if (std::string kusur = Kusuru(k); !kusur.empty()) return Hata{std::move(kusur)};
+    if (std::string kusur = Kusuru(k); !kusur.empty()) return Kusur{std::move(kusur)};
     icerik += Baytlari(k);
   }
   if (const Durum d = BozuguSakla(o); !d) return d;
@@ -115,8 +115,8 @@ Durum KisayollariYaz(const Oturum& o, const std::vector<Kisayol>& kisayollar) {
 
 Durum KisayolSil(const Oturum& o, std::size_t sira) {
   auto liste = KisayollariOku(o);
-  if (!liste) return liste.Hatasi();
-  if (sira >= liste->size()) return Hata{"Böyle bir kısa yol yok"};
+  if (!liste) return liste.Kusuru();
+  if (sira >= liste->size()) return Kusur{"Böyle bir kısa yol yok"};
   liste->erase(liste->begin() + std::ptrdiff_t(sira));
   return KisayollariYaz(o, *liste);
 }

@@ -24,7 +24,7 @@ Muhasebeci MuhasebeciOku(const Oturum& o) {
 bool MuhasebeciKaydet(const Oturum& o, const Muhasebeci& m, Bildirim& bildirim) {
   for (const auto& [anahtar, uye] : Anahtarlar)
     if (const auto d = IniYaz(Bolum, anahtar, m.*uye, Dosya(o)); !d) {
-      bildirim.Uyari(d.HataMetni());
+      bildirim.Uyari(d.KusurMetni());
       return false;
     }
   return true;

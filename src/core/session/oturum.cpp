@@ -44,11 +44,11 @@ bool IlkKullaniciYaz(Imlec& peruser, std::string_view kullanici, std::string_vie
 // The store of a new company with its first user, open; on failure there is no store.
 Durum DepoKur(Depo& depo, const std::string& yol, std::string_view kullanici, std::string_view sifre,
               Bildirim& bildirim) {
-  if (!depo.VeritabaniYarat(yol, bildirim)) return Hata{};
+  if (!depo.VeritabaniYarat(yol, bildirim)) return Kusur{};
   const bool acildi = depo.VeritabaniAc(yol, bildirim);
   if (acildi && IlkKullaniciYaz(depo.peruser, kullanici, sifre)) return Tamam();
   depo.VeritabaniKaldir(yol);
-  return Hata{(acildi ? "Kullanıcı Eklenemedi: " : "Database Açılamadı: ") + depo.db.SonHata()};
+  return Kusur{(acildi ? "Kullanıcı Eklenemedi: " : "Database Açılamadı: ") + depo.db.SonHata()};
 }
 
 }  // namespace
@@ -66,7 +66,7 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
     o.DataPath = IlkDataPath(o.PrgPath);
     if (!DataDiziniYarat(o.DataPath, bildirim)) return false;
     for (const auto& [anahtar, deger] : {std::pair("PrgPath", o.PrgPath), std::pair("DataPath", o.DataPath)})
-      if (const auto d = MakineAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.HataMetni());
+      if (const auto d = MakineAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.KusurMetni());
   }
   o.Kullanici = "BELVANI";
   o.ListeSirasi = 1;
@@ -77,10 +77,10 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
 
 Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim) {
   const auto dizin = SirketDizini(o.DataPath, sirket);
-  if (!dizin) return dizin.Hatasi();
+  if (!dizin) return dizin.Kusuru();
   if (!o.depo.VeritabaniAc(*dizin + DepoDosyasi, bildirim)) {
     o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
-    return Hata{"Database Açılamadı: " + *dizin + DepoDosyasi + "\n" + o.depo.db.SonHata()};
+    return Kusur{"Database Açılamadı: " + *dizin + DepoDosyasi + "\n" + o.depo.db.SonHata()};
   }
   o.FirmaKod = *SirketAdi(sirket);
   o.FirmaDizini = *dizin;
@@ -90,12 +90,12 @@ Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim) {
 Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
                     Bildirim& bildirim) {
   const auto ad = SirketAdi(sirket);
-  if (!ad) return ad.Hatasi();
-  if (SirketDizini(o.DataPath, *ad)) return Hata{"Bu adda bir şirket var: " + *ad};
-  if (const std::string kusur = KullaniciKusuru(kullanici, sifre); !kusur.empty()) return Hata{kusur};
+  if (!ad) return ad.Kusuru();
+  if (SirketDizini(o.DataPath, *ad)) return Kusur{"Bu adda bir şirket var: " + *ad};
+  if (const std::string kusur = KullaniciKusuru(kullanici, sifre); !kusur.empty()) return Kusur{kusur};
 
   const std::string dizin = DizinSonu(o.DataPath + *ad);
-  if (!DizinYarat(dizin)) return Hata{"Şirket Dizini Yaratılamıyor: " + dizin};
+  if (!DizinYarat(dizin)) return Kusur{"Şirket Dizini Yaratılamıyor: " + dizin};
   if (const Durum kuruldu = DepoKur(o.depo, dizin + DepoDosyasi, kullanici, sifre, bildirim); !kuruldu) {
     // No half company stays behind; a directory in which others have put something meanwhile does.
     std::error_code hata;
@@ -119,7 +119,7 @@ bool OturumAc(Oturum& o, std::string_view sirket, std::string_view kullanici, st
   o.FirmaKod = BuyukHarf(Kirp(sirket));
   o.Kullanici = kullanici;
   for (const auto& [anahtar, deger] : {std::pair("lastfirm", o.FirmaKod), std::pair("lastuser", o.Kullanici)})
-    if (const auto d = KullaniciAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.HataMetni());
+    if (const auto d = KullaniciAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.KusurMetni());
   if (!FirmaYukle(o)) {
     o.ondeger = "Personel";
     bildirim.Bilgi("Firma Bilgilerini Vermeyi Unutmayınız.");

@@ -23,22 +23,22 @@ bool YasakHarf(char c) {
 
 Sonuc<std::string> SirketAdi(std::string_view metin) {
   const std::string_view kirpik = Kirp(metin);
-  if (kirpik.empty()) return Hata{"Şirket adı boş olamaz"};
+  if (kirpik.empty()) return Kusur{"Şirket adı boş olamaz"};
   if (!GecerliUtf8(kirpik) || kirpik.front() == '.' || std::any_of(kirpik.begin(), kirpik.end(), YasakHarf))
-    return Hata{"Şirket adında kullanılamayan bir harf var: nokta ile başlayamaz, / \\ : * ? \" < > | içeremez"};
+    return Kusur{"Şirket adında kullanılamayan bir harf var: nokta ile başlayamaz, / \\ : * ? \" < > | içeremez"};
   std::string ad = BuyukHarf(kirpik);
-  if (HarfSayisi(ad) > EnCokHarf || ad.size() > EnCokBayt) return Hata{"Şirket adı çok uzun (en çok 64 harf)"};
+  if (HarfSayisi(ad) > EnCokHarf || ad.size() > EnCokBayt) return Kusur{"Şirket adı çok uzun (en çok 64 harf)"};
   return ad;
 }
 
 Sonuc<std::string> SirketDizini(const std::string& dataPath, std::string_view ad) {
   const auto aranan = SirketAdi(ad);
-  if (!aranan) return aranan.Hatasi();
+  if (!aranan) return aranan.Kusuru();
   // The kept form first; a directory made by hand may be written in any case.
   if (DizinVar(dataPath + *aranan)) return DizinSonu(dataPath + *aranan);
   for (const auto& sirket : Sirketler(dataPath))
     if (BuyukHarf(sirket) == *aranan) return DizinSonu(dataPath + sirket);
-  return Hata{"Şirket Bulunamadı: " + *aranan};
+  return Kusur{"Şirket Bulunamadı: " + *aranan};
 }
 
 std::vector<std::string> Sirketler(const std::string& dataPath) {

@@ -32,10 +32,10 @@ Sonuc<std::vector<fs::path>> Silinecekler(const std::string& dizin) {
   std::error_code hata;
   for (fs::directory_iterator i(dizin, hata), son; !hata && i != son; i.increment(hata)) {
     if (i->symlink_status(hata).type() == fs::file_type::directory)
-      return Hata{"Şirket dizininde alt dizin var, hiçbir dosya silinmedi:\n" + i->path().string()};
+      return Kusur{"Şirket dizininde alt dizin var, hiçbir dosya silinmedi:\n" + i->path().string()};
     dosyalar.push_back(i->path());
   }
-  if (hata) return Hata{"Şirket dizini okunamadı, hiçbir dosya silinmedi:\n" + dizin};
+  if (hata) return Kusur{"Şirket dizini okunamadı, hiçbir dosya silinmedi:\n" + dizin};
   std::stable_partition(dosyalar.begin(), dosyalar.end(), [](const auto& d) { return d.filename() != DepoDosyasi; });
   return dosyalar;
 }
@@ -49,7 +49,7 @@ Sonuc<std::unique_ptr<Motor>> TekBasinaAc(const std::string& yol) {
     motor->Calistir("pragma journal_mode=delete; begin exclusive");
     return motor;
   } catch (const MotorHatasi& h) {
-    if (h.tur == MotorKusuru::Kilitli) return Hata{"Bu şirket şu anda kullanılıyor, hiçbir dosya silinmedi:\n" + yol};
+    if (h.tur == MotorKusuru::Kilitli) return Kusur{"Bu şirket şu anda kullanılıyor, hiçbir dosya silinmedi:\n" + yol};
     return std::unique_ptr<Motor>();
   }
 }
@@ -58,14 +58,14 @@ Durum Sil(const fs::path& yol) {
   std::error_code hata;
   fs::remove(yol, hata);
   if (!hata) return Tamam();
-  return Hata{"Şirket silinemedi, silinemeyen: " + yol.string()};
+  return Kusur{"Şirket silinemedi, silinemeyen: " + yol.string()};
 }
 
 Durum DiziniSil(const std::string& dizin) {
   const auto dosyalar = Silinecekler(dizin);
-  if (!dosyalar) return dosyalar.Hatasi();
+  if (!dosyalar) return dosyalar.Kusuru();
   const auto depo = TekBasinaAc(dizin + "/" + DepoDosyasi);
-  if (!depo) return depo.Hatasi();
+  if (!depo) return depo.Kusuru();
   for (const auto& dosya : *dosyalar)
     if (auto d = Sil(dosya); !d) return d;
   return Tamam();
@@ -99,7 +99,7 @@ bool SirketSil(const std::string& dataPath, std::string_view ad, const Oturum& o
   const std::string dizin = DizinSonu(dataPath) + std::string(ad);
   Durum silindi = DiziniSil(dizin);
   if (silindi) silindi = Sil(dizin);
-  if (!silindi) bildirim.Uyari(silindi.HataMetni());
+  if (!silindi) bildirim.Uyari(silindi.KusurMetni());
   return bool(silindi);
 }
 

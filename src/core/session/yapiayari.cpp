@@ -14,7 +14,7 @@ bool YapiAyariKaydet(std::string_view prgPath, std::string_view dataPath, Bildir
   }
   for (const auto& [anahtar, yol] : {std::pair("PrgPath", prg), std::pair("DataPath", data)})
     if (const auto d = MakineAyariYaz(anahtar, DizinSonu(yol)); !d) {
-      bildirim.Uyari(d.HataMetni());
+      bildirim.Uyari(d.KusurMetni());
       return false;
     }
   bildirim.Bilgi("Yeni Ayarlar Kaydedildi\nGeçerli Olabilmesi İçin Programdan Çıkıp Girmelisiniz..");

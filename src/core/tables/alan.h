@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/deger.h"
+#include "core/kusur.h"
 #include "core/tarih.h"
 #include "core/tek.h"
 #include "core/tutar.h"
@@ -88,6 +89,8 @@ template <class Kayit, class Uye>
 struct Kolon : AlanTanimi {
   using UyeTuru = Uye;
   Uye Kayit::*uye;
+
+  operator AlanTutamagi() const { return {typeid(Kayit), this->ad}; }  // NOLINT: a column names its field
 };
 
 struct IndeksTanimi {

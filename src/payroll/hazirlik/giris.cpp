@@ -80,7 +80,7 @@ bool BordroGirisi::Ac() {
   kod_.clear();
   auto k = KosullariKur(o_, parametreler_.yasal, parametreler_.firma, o_.firmayil, o_.firmaay);
   if (!k) {
-    bildirim_.Bilgi(k.HataMetni());
+    bildirim_.Bilgi(k.KusurMetni());
     return false;
   }
   kosullar_ = std::move(*k);

@@ -124,7 +124,7 @@ bool BordroGirisi::KayitSil() {
 bool BordroGirisi::AyinBordrosunuSil() {
   if (!bildirim_.Soru("Bordro Tamamen Silinecek Eminmisiniz ?")) return false;
   if (const auto silinen = BordroSil(o_, kosullar_.donem.yil, kosullar_.donem.ay); !silinen) {
-    bildirim_.Uyari(silinen.HataMetni());
+    bildirim_.Uyari(silinen.KusurMetni());
     return false;
   }
   bildirim_.Bilgi("Bordro Tamamen Silindi");
@@ -136,7 +136,7 @@ bool BordroGirisi::SablondanHazirla(Ilerleme* ilerleme) {
   ParametreleriTazele();
   EkranTemizle();
   if (const auto sonuc = TopluHazirla(o_, kosullar_, {}, ilerleme); !sonuc) {
-    bildirim_.Uyari(sonuc.HataMetni());
+    bildirim_.Uyari(sonuc.KusurMetni());
     return false;
   }
   bildirim_.Bilgi("Bordro Hazırlık Tamamlandı");

@@ -17,8 +17,6 @@ const std::set<std::string, std::less<>> Dokunulmayan{"gocindir"};
 
 struct Iptal {};
 
-using Derece = Sorun::Derece;
-
 void GirisiUygula(Brd& brd, const GirisSatiri& giris) {
   Brd::HerKolon([&](const auto& kolon) {
     if (giris.verilen.contains(kolon.ad)) brd.*kolon.uye = giris.deger.*kolon.uye;
@@ -28,13 +26,13 @@ void GirisiUygula(Brd& brd, const GirisSatiri& giris) {
 // Entries by person, in any order, found once each.
 class GirisListesi {
  public:
-  GirisListesi(const std::vector<GirisSatiri>& girisler, std::vector<Sorun>& sorunlar) {
+  GirisListesi(const std::vector<GirisSatiri>& girisler, Kusurlar& sorunlar) {
     for (const GirisSatiri& g : girisler) sirali_.push_back(&g);
     std::stable_sort(sirali_.begin(), sirali_.end(),
                      [](const auto* a, const auto* b) { return TurkceKarsilastir(a->kod, b->kod) < 0; });
     for (std::size_t i = 1; i < sirali_.size(); ++i)
       if (TurkceEsit(sirali_[i - 1]->kod, sirali_[i]->kod))
-        sorunlar.push_back({Derece::Hata, sirali_[i]->kod, Satir(*sirali_[i]) + "bu kişi listede iki kez var"});
+        sorunlar.push_back({.metin = Satir(*sirali_[i]) + "bu kişi listede iki kez var", .kod = sirali_[i]->kod});
     bulundu_.resize(sirali_.size());
   }
 
@@ -47,10 +45,10 @@ class GirisListesi {
     return *i;
   }
 
-  void BulunmayanlariYaz(std::vector<Sorun>& sorunlar) const {
+  void BulunmayanlariYaz(Kusurlar& sorunlar) const {
     for (std::size_t i = 0; i < sirali_.size(); ++i)
       if (!bulundu_[i] && (i == 0 || !TurkceEsit(sirali_[i - 1]->kod, sirali_[i]->kod)))
-        sorunlar.push_back({Derece::Hata, sirali_[i]->kod, Satir(*sirali_[i]) + "bu kodla personel yok"});
+        sorunlar.push_back({.metin = Satir(*sirali_[i]) + "bu kodla personel yok", .kod = sirali_[i]->kod});
   }
 
   static std::string Satir(const GirisSatiri& g) { return "satır " + std::to_string(g.satirNo) + ": "; }
@@ -88,7 +86,7 @@ class TopluIs {
   HazirlikSonucu Bitir() {
     girisler_.BulunmayanlariYaz(sonuc_.sorunlar);
     sonuc_.kaydedildi = std::none_of(sonuc_.sorunlar.begin(), sonuc_.sorunlar.end(),
-                                     [](const Sorun& s) { return s.derece == Derece::Hata; });
+                                     [](const Kusur& s) { return s.derece == Derece::Hata; });
     return std::move(sonuc_);
   }
 
@@ -137,8 +135,10 @@ class TopluIs {
 
   // What an entry list has wrong keeps the month from being saved; the rest is told and passed over.
   void Yaz(const KisiVerisi& kisi, const GirisSatiri* giris, const std::string& metin) {
-    sonuc_.sorunlar.push_back({giris == nullptr ? Derece::Uyari : Derece::Hata, kisi.sicil.kod,
-                               (giris == nullptr ? "" : GirisListesi::Satir(*giris)) + metin});
+    sonuc_.sorunlar.push_back({.metin = (giris == nullptr ? "" : GirisListesi::Satir(*giris)) + metin,
+                               .kod = kisi.sicil.kod,
+                               .satir = giris == nullptr ? 0 : giris->satirNo,
+                               .derece = giris == nullptr ? Derece::Uyari : Derece::Hata});
   }
 
   const Kosullar& k_;
@@ -187,9 +187,9 @@ Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const st
     if (ilerleme != nullptr) ilerleme->Adim(toplam, toplam);
     return sonuc;
   } catch (const Iptal&) {
-    return Hata{"Bordro hazırlık iptal edildi, hiçbir kayıt değişmedi"};
+    return Kusur{"Bordro hazırlık iptal edildi, hiçbir kayıt değişmedi"};
   } catch (const MotorHatasi& h) {
-    return Hata{std::string("Bordro Kayıtları Güncellenemiyor: ") + h.what()};
+    return Kusur{std::string("Bordro Kayıtları Güncellenemiyor: ") + h.what()};
   }
 }
 
@@ -220,7 +220,7 @@ Sonuc<int> BordroSil(Oturum& o, int yil, int ay) {
     islem.Onayla();
     return silinen;
   } catch (const MotorHatasi& h) {
-    return Hata{std::string("Bordro silinemedi: ") + h.what()};
+    return Kusur{std::string("Bordro silinemedi: ") + h.what()};
   }
 }
 

@@ -24,18 +24,11 @@ struct GirisSatiri {
   std::set<std::string_view> verilen;  // names of the columns that were given
 };
 
-struct Sorun {
-  enum class Derece { Uyari, Hata };  // a Hata keeps the month from being saved
-  Derece derece = Derece::Uyari;
-  std::string kod;  // person; "" when it concerns none
-  std::string metin;
-};
-
 struct HazirlikSonucu {
   int kaydedilen = 0;
-  int donemDisi = 0;  // did not work in the period
-  int netsiz = 0;     // net not above zero: not saved
-  std::vector<Sorun> sorunlar;
+  int donemDisi = 0;        // did not work in the period
+  int netsiz = 0;           // net not above zero: not saved
+  Kusurlar sorunlar;        // by person; a Hata keeps the month from being saved
   bool kaydedildi = false;  // false: some Hata, nothing was saved
 };
 

@@ -59,7 +59,7 @@ std::string Satirlar(const char* baslik, const std::vector<std::string>& uyarila
 
 Sonuc<Firma> FirmaSatiri(Oturum& o) {
   auto firmalar = KayitlariOku<Firma>(o.depo.db.IcMotor());
-  if (firmalar.empty()) return Hata{"İşyeri Tanımlamaları Yapılmamış"};
+  if (firmalar.empty()) return Kusur{"İşyeri Tanımlamaları Yapılmamış"};
   return std::move(firmalar.front());
 }
 
@@ -99,23 +99,23 @@ Sonuc<YasalParametreler> YasalParametreleriAl(const std::string& dataPath) {
   auto yukleme = YasalDosyalariYukle(dataPath, {}, BozukDosya::Kalir);
   const char* const care = "\nDönemin parametrelerini kurunuz: belvani-cli parametre-kur --donem YYYY-AA";
   if (!yukleme.uyarilar.empty())
-    return Hata{Satirlar("Yasal parametre dosyaları kullanılamıyor:", yukleme.uyarilar) + care};
+    return Kusur{Satirlar("Yasal parametre dosyaları kullanılamıyor:", yukleme.uyarilar) + care};
   const YasalOranlar& y = yukleme.deger.oranlar;
   if (y.AsgariUcret <= Tutar() || y.SskTaban <= Tutar() || y.SskTavan < y.SskTaban)
-    return Hata{std::string("Yasal parametreler eksik: asgari ücret, SSK tabanı veya tavanı yok") + care};
+    return Kusur{std::string("Yasal parametreler eksik: asgari ücret, SSK tabanı veya tavanı yok") + care};
   return std::move(yukleme.deger);
 }
 
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay) {
   try {
     const auto firma = FirmaSatiri(o);
-    if (!firma) return firma.Hatasi();
+    if (!firma) return firma.Kusuru();
     const FirmaParametreleri parametreler = FirmaDosyalariYukle(o, BozukDosya::Kalir);
     if (!parametreler.uyarilar.empty())
-      return Hata{Satirlar("Şirketin parametre dosyaları kullanılamıyor:", parametreler.uyarilar)};
+      return Kusur{Satirlar("Şirketin parametre dosyaları kullanılamıyor:", parametreler.uyarilar)};
     return Kur(*firma, yasal, parametreler, yil, ay);
   } catch (const MotorHatasi& h) {
-    return Hata{h.what()};
+    return Kusur{h.what()};
   }
 }
 
@@ -123,10 +123,10 @@ Sonuc<Kosullar> KosullariKur(Oturum& o, const YasalParametreler& yasal, const Fi
                              int ay) {
   try {
     const auto firma = FirmaSatiri(o);
-    if (!firma) return firma.Hatasi();
+    if (!firma) return firma.Kusuru();
     return Kur(*firma, yasal, parametreler, yil, ay);
   } catch (const MotorHatasi& h) {
-    return Hata{h.what()};
+    return Kusur{h.what()};
   }
 }
 

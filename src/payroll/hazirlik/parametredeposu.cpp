@@ -22,13 +22,13 @@ Durum ParametreDeposu::FirmaYukle(Oturum& o) {
     ++surum;
     return Tamam();
   } catch (const MotorHatasi& h) {
-    return Hata{h.what()};
+    return Kusur{h.what()};
   }
 }
 
 Durum ParametreDeposu::DosyaIndir(const Oturum& o, ParametreDosyasi dosya, const IndirmeSiniri& sinir) {
   const auto kaynak = ParametreAdresi(o.firmayil, o.firmaay, DefterLirasi(o));
-  if (!kaynak) return kaynak.Hatasi();
+  if (!kaynak) return kaynak.Kusuru();
   if (auto durum = ParametreDosyasiIndir(o.DataPath, dosya, *kaynak, sinir); !durum) return durum;
   YasalYukle(o.DataPath);
   return Tamam();

@@ -35,7 +35,7 @@ std::string KayitKusuru(const Kayit& kayit) {
 
 bool Tazele(TanimOrtami ortam) {
   const auto durum = ortam.parametreler.FirmaYukle(ortam.oturum);
-  if (!durum) ortam.bildirim.Uyari(durum.HataMetni());
+  if (!durum) ortam.bildirim.Uyari(durum.KusurMetni());
   return bool(durum);
 }
 

@@ -87,7 +87,7 @@ class Yukleyici {
   void Onar(std::string_view ad, const OkunanDosya& dosya, const std::string& baytlar) {
     const bool bosYer = dosya.boy == 0 && EksikligiOlagan(ad);
     if (dosya.okunamadi || (bozuk_ == BozukDosya::Kalir && !bosYer)) return;
-    if (const auto durum = DosyaYaz(dizin_ + std::string(ad), baytlar); !durum) uyarilar_.push_back(durum.HataMetni());
+    if (const auto durum = DosyaYaz(dizin_ + std::string(ad), baytlar); !durum) uyarilar_.push_back(durum.KusurMetni());
   }
 
   void Uyar(std::string_view ad, const std::string& metin) { uyarilar_.push_back(std::string(ad) + " " + metin); }
@@ -219,8 +219,8 @@ Durum HesapTurleriKaydet(const std::string& dataPath, const HesapTurleri& turler
 
 Durum KanunlarKaydet(const std::string& dataPath, const Kanunlar& kanunlar) {
   for (const auto& satir : kanunlar) {
-    if (satir.bastar.Bos()) return Hata{"Kanun Başlangıç Tarihi Hatalı"};
-    if (satir.bittar.Bos()) return Hata{"Kanun Bitiş Tarihi Hatalı"};
+    if (satir.bastar.Bos()) return Kusur{"Kanun Başlangıç Tarihi Hatalı"};
+    if (satir.bittar.Bos()) return Kusur{"Kanun Bitiş Tarihi Hatalı"};
   }
   return DosyaYaz(DizinSonu(dataPath) + std::string(KanunKaydi::Dosya), KanunBaytlari(kanunlar));
 }

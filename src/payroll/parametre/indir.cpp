@@ -42,7 +42,7 @@ Sonuc<Adres> AdresCoz(const std::string& url) {
     const auto yol = AdresParcasi(adres.get(), CURLUPART_PATH, CURLU_URLDECODE);
     if (sema && yol && (*sema == "file" || *sema == "http" || *sema == "https")) return Adres{*sema, *yol};
   }
-  return Hata{"Parametre adresi http:, https: ya da file: ile başlayan tam bir adres olmalı: " + url};
+  return Kusur{"Parametre adresi http:, https: ya da file: ile başlayan tam bir adres olmalı: " + url};
 }
 
 // The body of a response as it arrives.
@@ -59,7 +59,7 @@ std::size_t GovdeyeEkle(const char* veri, std::size_t boy, std::size_t adet, voi
   return n;
 }
 
-Hata IndirmeHatasi(const std::string& url, const std::string& neden) {
+Kusur IndirmeHatasi(const std::string& url, const std::string& neden) {
   return {"Parametre Bulunamadı: " + url + " (" + neden + ")"};
 }
 
@@ -109,7 +109,7 @@ Sonuc<std::string> AgdanAl(const std::string& url, const std::string& sema, cons
 // A local file is read here, not by libcurl: that would wait for ever on a pipe and take a directory for a file.
 Sonuc<std::string> Al(const std::string& url, const IndirmeSiniri& sinir) {
   const auto adres = AdresCoz(url);
-  if (!adres) return adres.Hatasi();
+  if (!adres) return adres.Kusuru();
   if (adres->sema != "file") return AgdanAl(url, adres->sema, sinir);
   if (auto baytlar = DosyaOku(adres->yol, sinir.enCokBayt)) return *baytlar;
   return IndirmeHatasi(url, "dosya okunamadı");
@@ -164,10 +164,10 @@ Sonuc<ParametreBaytlari> HepsiniAl(const std::string& kaynak, const IndirmeSinir
   for (std::size_t i = 0; i < parametreler.size(); ++i) {
     const std::string url = UzakAdres(kaynak, parametreler[i]);
     auto baytlar = Al(url, sinir);
-    if (!baytlar) return baytlar.Hatasi();
+    if (!baytlar) return baytlar.Kusuru();
     if (baytlar->size() != parametreler[i].boy)
-      return Hata{"Parametre dosyası hatalı: " + url + " " + std::to_string(baytlar->size()) + " bayt, " +
-                  std::to_string(parametreler[i].boy) + " bayt olmalıydı"};
+      return Kusur{"Parametre dosyası hatalı: " + url + " " + std::to_string(baytlar->size()) + " bayt, " +
+                   std::to_string(parametreler[i].boy) + " bayt olmalıydı"};
     hepsi[i] = std::move(*baytlar);
   }
   return hepsi;
@@ -180,14 +180,14 @@ Sonuc<EskiHal> EskiHaliAl(const std::string& yol) {
   std::error_code hata;
   if (const auto baytlar = DosyaOku(yol)) return EskiHal(*baytlar);
   if (!fs::exists(yol, hata) && !hata) return EskiHal();
-  return Hata{"Eski parametre dosyası okunamadı, değiştirilmedi: " + yol};
+  return Kusur{"Eski parametre dosyası okunamadı, değiştirilmedi: " + yol};
 }
 
 // The text of what could not be put back; "" when all is as it was.
 std::string GeriKoy(const std::string& yol, const EskiHal& eski) {
   if (eski) {
     const auto durum = DosyaYaz(yol, *eski);
-    return durum ? std::string() : "; eski hali geri konamadı: " + durum.HataMetni();
+    return durum ? std::string() : "; eski hali geri konamadı: " + durum.KusurMetni();
   }
   std::error_code hata;
   fs::remove(yol, hata);
@@ -198,7 +198,7 @@ std::string GeriKoy(const std::string& yol, const EskiHal& eski) {
 
 Durum ParametreIndir(const std::string& url, const std::string& dosya, const IndirmeSiniri& sinir) {
   const auto baytlar = Al(url, sinir);
-  if (!baytlar) return baytlar.Hatasi();
+  if (!baytlar) return baytlar.Kusuru();
   return DosyaYaz(dosya, *baytlar);
 }
 
@@ -214,33 +214,33 @@ Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira) {
   if (!ayar.empty()) return ayar;
 
   const auto parametre = MevzuatYukle(MevzuatDizini(), yil, ay, lira);
-  if (!parametre) return parametre.Hatasi();
+  if (!parametre) return parametre.Kusuru();
   const std::string kok = DonemDizini(yil, ay, lira);
   const std::string dizin = kok + "/download/";
-  if (auto durum = DizinYarat(dizin); !durum) return durum.Hatasi();
+  if (auto durum = DizinYarat(dizin); !durum) return durum.Kusuru();
   const ParametreBaytlari hepsi = BaytlaraCevir(*parametre);
   for (std::size_t i = 0; i < parametreler.size(); ++i)
-    if (auto durum = DosyaYaz(dizin + std::string(parametreler[i].uzak), hepsi[i]); !durum) return durum.Hatasi();
+    if (auto durum = DosyaYaz(dizin + std::string(parametreler[i].uzak), hepsi[i]); !durum) return durum.Kusuru();
   return DosyaAdresi(fs::absolute(kok).lexically_normal());
 }
 
 Durum ParametreKur(const std::string& dataPath, const std::string& kaynak, const IndirmeSiniri& sinir) {
   const auto yeni = HepsiniAl(kaynak, sinir);
-  if (!yeni) return yeni.Hatasi();
+  if (!yeni) return yeni.Kusuru();
   std::array<std::string, parametreler.size()> yollar;
   std::array<EskiHal, parametreler.size()> eski;
   for (std::size_t i = 0; i < parametreler.size(); ++i) {
     yollar[i] = DizinSonu(dataPath) + std::string(parametreler[i].yerel);
     auto hal = EskiHaliAl(yollar[i]);
-    if (!hal) return hal.Hatasi();
+    if (!hal) return hal.Kusuru();
     eski[i] = std::move(*hal);
   }
   for (std::size_t i = 0; i < parametreler.size(); ++i) {
     const auto durum = DosyaYaz(yollar[i], (*yeni)[i]);
     if (durum) continue;
-    std::string metin = durum.HataMetni();
+    std::string metin = durum.KusurMetni();
     while (i-- > 0) metin += GeriKoy(yollar[i], eski[i]);
-    return Hata{metin};
+    return Kusur{metin};
   }
   return Tamam();
 }

@@ -155,17 +155,17 @@ Tutar AcikDilimLimiti(Lira lira) {
 
 Sonuc<YasalParametreler> MevzuatYukle(const std::string& dizin, int yil, int ay, Lira lira) {
   const Tarih ilkGun(yil, ay, 1);
-  if (ilkGun.Bos()) return Hata{"Dönem hatalı: " + std::to_string(ay) + "/" + std::to_string(yil)};
+  if (ilkGun.Bos()) return Kusur{"Dönem hatalı: " + std::to_string(ay) + "/" + std::to_string(yil)};
   const std::string ad = std::to_string(yil) + (ay <= 6 ? "-1.json" : "-2.json");
   const auto metin = DosyaOku(DizinSonu(dizin) + ad, EnCokMevzuatBayti);
   const std::string donemAdi = std::string(AyAdi(ay)) + " " + std::to_string(yil);
-  if (!metin) return Hata{donemAdi + " için yasal parametre yok (" + DizinSonu(dizin) + ad + " okunamadı)."};
+  if (!metin) return Kusur{donemAdi + " için yasal parametre yok (" + DizinSonu(dizin) + ad + " okunamadı)."};
   const Json kok = Json::parse(*metin, nullptr, false);
-  if (kok.is_discarded()) return Hata{"Yasal parametre dosyası bozuk: " + DizinSonu(dizin) + ad};
+  if (kok.is_discarded()) return Kusur{"Yasal parametre dosyası bozuk: " + DizinSonu(dizin) + ad};
   try {
     return DonemOku(DonemBul(kok, ilkGun), lira);
   } catch (const MevzuatKusuru& kusur) {
-    return Hata{donemAdi + " yasal parametreleri okunamadı (" + ad + "): " + kusur.metin};
+    return Kusur{donemAdi + " yasal parametreleri okunamadı (" + ad + "): " + kusur.metin};
   }
 }
 

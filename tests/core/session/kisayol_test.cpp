@@ -50,7 +50,7 @@ TEST_F(KisayolTest, WhatDoesNotFitIsRefusedWhole) {
            {{"x\ny", 1, "", "日本"}, "Kısa Yol Adı: kullanılamayan bir harf var"},
            {{"x", 1, "", "日本"}, "Parametre: kullanılamayan bir harf var"}})
     // clang-format on
-    EXPECT_EQ(KisayollariYaz(o, {iyi, k}).HataMetni(), kusur);
+    EXPECT_EQ(KisayollariYaz(o, {iyi, k}).KusurMetni(), kusur);
   EXPECT_FALSE(KisayollariYaz(o, Liste(101, iyi)));
   EXPECT_EQ(Oku(), Liste{iyi});
 }

@@ -120,13 +120,13 @@ TEST_F(OturumTest, NewCompanyRefusedLeavesNoTrace) {
                                          {"yeni", "a", "123456789", "Şifre: en çok 8 harf olabilir"}}) {
     const auto sonuc = SirketOlustur(o, ad, kod, sifre, b);
     ASSERT_FALSE(sonuc) << metin;
-    EXPECT_TRUE(sonuc.HataMetni().starts_with(metin)) << sonuc.HataMetni();
+    EXPECT_TRUE(sonuc.KusurMetni().starts_with(metin)) << sonuc.KusurMetni();
     EXPECT_FALSE(std::filesystem::exists(o.DataPath));
   }
   ASSERT_TRUE(DizinYarat(o.DataPath + "izmir") && DosyaYaz(o.DataPath + "DOSYA", "x"));
-  EXPECT_EQ(SirketOlustur(o, "İzmir", "a", "b", b).HataMetni(), "Bu adda bir şirket var: İZMİR");
+  EXPECT_EQ(SirketOlustur(o, "İzmir", "a", "b", b).KusurMetni(), "Bu adda bir şirket var: İZMİR");
   EXPECT_TRUE(std::filesystem::is_empty(o.DataPath + "izmir"));
-  EXPECT_EQ(SirketOlustur(o, "dosya", "a", "b", b).HataMetni(),
+  EXPECT_EQ(SirketOlustur(o, "dosya", "a", "b", b).KusurMetni(),
             "Şirket Dizini Yaratılamıyor: " + o.DataPath + "DOSYA/");
   EXPECT_EQ(DosyaOku(o.DataPath + "DOSYA"), "x");
   EXPECT_EQ(o.FirmaKod, "");
@@ -144,7 +144,7 @@ TEST_F(OturumTest, NewCompanyOnAFullDisk) {
     // A store that could not be made is told once: by itself or by the result.
     const Iletiler iletiler = b.Al();
     const bool bildirildi = !iletiler.empty() && iletiler.front().ends_with("Yaratılamadı");
-    const std::string hata = kuruldu ? "" : sonuc.HataMetni();
+    const std::string hata = kuruldu ? "" : sonuc.KusurMetni();
     EXPECT_TRUE(kuruldu || hata.starts_with("Database Açılamadı") || bildirildi == hata.empty()) << sinir << hata;
     ++(kuruldu ? kurulan : kurulamayan);
     EXPECT_EQ(yeni.FirmaKod, kuruldu ? "DAR" : "");
@@ -185,7 +185,7 @@ TEST_F(OturumTest, CompanyThatCannotBeOpened) {
     yeni.DataPath = o.DataPath;
     const auto sonuc = SirketAc(yeni, ad, b);
     ASSERT_FALSE(sonuc) << ad;
-    EXPECT_TRUE(sonuc.HataMetni().starts_with(metin)) << sonuc.HataMetni();
+    EXPECT_TRUE(sonuc.KusurMetni().starts_with(metin)) << sonuc.KusurMetni();
     EXPECT_FALSE(yeni.depo.db.AcikMi());
     EXPECT_EQ(yeni.FirmaKod + yeni.FirmaDizini, "");
   }

@@ -27,7 +27,7 @@ TEST(SirketAdi, KeptInUpperCase) {
                                                                  {"O'Neil; --", "O'NEİL; --"},
                                                                  {Kez("ş", 64), Kez("Ş", 64)}}) {
     const auto sonuc = SirketAdi(metin);
-    ASSERT_TRUE(sonuc) << metin << sonuc.HataMetni();
+    ASSERT_TRUE(sonuc) << metin << sonuc.KusurMetni();
     EXPECT_EQ(*sonuc, ad);
   }
 }
@@ -45,7 +45,7 @@ TEST(SirketAdi, Refused) {
   for (const auto& [kusur, adlar] : durumlar)
     for (const auto& ad : adlar) {
       ASSERT_FALSE(SirketAdi(ad)) << ad;
-      EXPECT_EQ(SirketAdi(ad).HataMetni(), kusur) << ad;
+      EXPECT_EQ(SirketAdi(ad).KusurMetni(), kusur) << ad;
       EXPECT_FALSE(SirketDizini("/tmp/", ad)) << ad;
     }
 }
@@ -65,7 +65,7 @@ TEST(SirketDizini, FoundInAnyTurkishCase) {
   }
   for (const auto& [ad, buyuk] :
        Tablo<const char*, std::string>{{"isparta", "İSPARTA"}, {"IZMIR", "IZMIR"}, {"dosya", "DOSYA"}})
-    EXPECT_EQ(SirketDizini(d.Yol(), ad).HataMetni(), "Şirket Bulunamadı: " + buyuk);
+    EXPECT_EQ(SirketDizini(d.Yol(), ad).KusurMetni(), "Şirket Bulunamadı: " + buyuk);
   ASSERT_TRUE(DizinYarat(d.Yol() + "İZMİR"));  // the kept form goes before one made by hand
   EXPECT_EQ(*SirketDizini(d.Yol(), "izmir"), d.Yol() + "İZMİR/");
 }

@@ -19,8 +19,8 @@ using testing::HasSubstr;
 
 std::vector<std::string> Metinler(const HazirlikSonucu& s) {
   std::vector<std::string> metinler;
-  for (const Sorun& x : s.sorunlar)
-    metinler.push_back((x.derece == Sorun::Derece::Hata ? "H " : "U ") + x.kod + ": " + x.metin);
+  for (const Kusur& x : s.sorunlar)
+    metinler.push_back((x.derece == Derece::Hata ? "H " : "U ") + x.kod + ": " + x.metin);
   return metinler;
 }
 
@@ -160,7 +160,7 @@ TEST(TopluHazirla, CancelledChangesNothing) {
   Sirket sirket;
   for (int i = 0; i < 600; ++i) sirket.Kisi(std::to_string(i), 700);
   Iptalci iptalci(500);
-  EXPECT_THAT(TopluHazirla(sirket.o, sirket.Kosul(2009, 1), {}, &iptalci).HataMetni(), HasSubstr("iptal edildi"));
+  EXPECT_THAT(TopluHazirla(sirket.o, sirket.Kosul(2009, 1), {}, &iptalci).KusurMetni(), HasSubstr("iptal edildi"));
   EXPECT_TRUE(sirket.Kayitlar(2009, 1).empty());
 }
 

@@ -143,7 +143,7 @@ TEST(KazancGruplari, SeedTheDefaultOnceAndThenLiveInTheStore) {
 
 TEST(Kosullar, TellWhatIsMissing) {
   Sirket sirket;
-  EXPECT_THAT(YasalParametreleriAl(sirket.dizin.Yol()).HataMetni(), testing::HasSubstr("yasal2.dat yok ya da boş"));
+  EXPECT_THAT(YasalParametreleriAl(sirket.dizin.Yol()).KusurMetni(), testing::HasSubstr("yasal2.dat yok ya da boş"));
   const YasalParametreler yasal = test::Yasal(2009, 1);
   sirket.motor().Calistir("update firma set issaati = 0, tehlike = 2, sinif = 6, tersfirma = 1");
   const Kosullar k = test::Al(KosullariYukle(sirket.o, yasal, 2009, 1));
@@ -152,7 +152,7 @@ TEST(Kosullar, TellWhatIsMissing) {
   EXPECT_EQ(k.donem.Son(), Tarih(2009, 2, 14));
   EXPECT_EQ(k.uygulama, 4);
   sirket.motor().Calistir("delete from firma");
-  EXPECT_EQ(KosullariYukle(sirket.o, yasal, 2009, 1).HataMetni(), "İşyeri Tanımlamaları Yapılmamış");
+  EXPECT_EQ(KosullariYukle(sirket.o, yasal, 2009, 1).KusurMetni(), "İşyeri Tanımlamaları Yapılmamış");
 }
 
 }  // namespace

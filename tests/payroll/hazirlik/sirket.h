@@ -14,7 +14,7 @@ namespace belvani::test {
 
 template <class T>
 T Al(Sonuc<T> sonuc) {
-  if (!sonuc) throw std::runtime_error(sonuc.HataMetni());
+  if (!sonuc) throw std::runtime_error(sonuc.KusurMetni());
   return std::move(*sonuc);
 }
 

@@ -207,7 +207,7 @@ TEST(Bordro, Apprentice) {
 // The worked example of bordro.h, on the shipped figures.
 TEST(Bordro, MinimumWageOfJuly2009) {
   const auto yasal = MevzuatYukle(test::KaynakYolu("data/mevzuat/"), 2009, 7);
-  ASSERT_TRUE(yasal) << yasal.HataMetni();
+  ASSERT_TRUE(yasal) << yasal.KusurMetni();
   Ornek o;
   o.yasal = *yasal;
   o.sicil.ucret = Tutar(693);

@@ -141,8 +141,8 @@ TEST_F(Dosyalar, ErasShorterThanFourRowsBecomeTheBuiltInOnes) {
   const std::string once(2u << 20, '\x11');  // many rows, perhaps
   Yaz("kanun.dat", once);
   EXPECT_EQ(YasalDosyalariYukle(Dizin(), {}).deger.kanunlar, VarsayilanKanunlar());
-  EXPECT_EQ(KanunlarKaydet(Dizin(), {{Tarih(), Tarih(2008, 1, 1), 1}}).HataMetni(), "Kanun Başlangıç Tarihi Hatalı");
-  EXPECT_EQ(KanunlarKaydet(Dizin(), {{Tarih(2008, 1, 1), Tarih(), 1}}).HataMetni(), "Kanun Bitiş Tarihi Hatalı");
+  EXPECT_EQ(KanunlarKaydet(Dizin(), {{Tarih(), Tarih(2008, 1, 1), 1}}).KusurMetni(), "Kanun Başlangıç Tarihi Hatalı");
+  EXPECT_EQ(KanunlarKaydet(Dizin(), {{Tarih(2008, 1, 1), Tarih(), 1}}).KusurMetni(), "Kanun Bitiş Tarihi Hatalı");
   EXPECT_EQ(Oku("kanun.dat"), once);
 }
 

@@ -34,7 +34,7 @@ TEST_F(Indir, TheBytesOfAnAddressLandAsTheyAre) {
                                        {sunucu.Kok() + "/bos", ""},
                                        {"FILE://localhost" + Yol("kaynak%20%2525%20%C3%BC%23%3F.txt"), icerik}}) {
     const auto durum = ParametreIndir(url, Yol("hedef.dat"));
-    EXPECT_TRUE(durum) << durum.HataMetni();
+    EXPECT_TRUE(durum) << durum.KusurMetni();
     EXPECT_EQ(Oku("hedef.dat"), beklenen) << url;
   }
 }
@@ -67,7 +67,7 @@ TEST_F(Indir, AFailureLeavesTheFile) {
                                        {"ftp://127.0.0.1/x", "http:, https: ya da file:"},
                                        {Yol("gizli"), "http:, https: ya da file:"},
                                        {"", "http:, https: ya da file:"}}) {
-    EXPECT_THAT(ParametreIndir(url, Yol("hedef.dat"), sinir).HataMetni(), HasSubstr(neden)) << url;
+    EXPECT_THAT(ParametreIndir(url, Yol("hedef.dat"), sinir).KusurMetni(), HasSubstr(neden)) << url;
     EXPECT_EQ(Oku("hedef.dat"), "eski") << url;
   }
   EXPECT_EQ(DosyaSayisi(), 3) << "no remains";
@@ -77,7 +77,7 @@ TEST_F(Indir, TheSettingNamesTheServer) {
   ASSERT_TRUE(MakineAyariYaz("ParametreAdresi", "http://sunucu.ornek/p// "));
   EXPECT_EQ(*ParametreAdresi(2009, 7), "http://sunucu.ornek/p");
   ASSERT_TRUE(MakineAyariYaz("ParametreAdresi", ""));
-  EXPECT_THAT(ParametreAdresi(2012, 7).HataMetni(), HasSubstr("Temmuz 2012"));
+  EXPECT_THAT(ParametreAdresi(2012, 7).KusurMetni(), HasSubstr("Temmuz 2012"));
 }
 
 TEST_F(Indir, ShippedFiguresInstallAndLoad) {
@@ -85,9 +85,9 @@ TEST_F(Indir, ShippedFiguresInstallAndLoad) {
   for (const auto& [yil, ay, lira] :
        Tablo<int, int, Lira>{{2009, 7, Lira::Yeni}, {2003, 1, Lira::Eski}, {2003, 1, Lira::Yeni}}) {
     const auto adres = ParametreAdresi(yil, ay, lira);
-    ASSERT_TRUE(adres) << adres.HataMetni();
+    ASSERT_TRUE(adres) << adres.KusurMetni();
     const auto kuruldu = ParametreKur(Dizin(), *adres);
-    ASSERT_TRUE(kuruldu) << kuruldu.HataMetni();
+    ASSERT_TRUE(kuruldu) << kuruldu.KusurMetni();
     const YasalParametreler p = *MevzuatYukle(MevzuatDizini(), yil, ay, lira);
     const YasalParametreler okunan = YasalDosyalariYukle(Dizin(), {}).deger;
     EXPECT_EQ(okunan.oranlar, p.oranlar) << yil;
@@ -113,7 +113,7 @@ TEST_F(Indir, AllFourFilesAreReplacedOrNone) {
     const auto durum = ParametreKur(Dizin(), sunucu.Kok(), {.baglanti = 1s, .toplam = 2s});
     const bool tamam = *neden == '\0';
     EXPECT_EQ(bool(durum), tamam) << yol;
-    EXPECT_THAT(durum ? std::string() : durum.HataMetni(), HasSubstr(neden));
+    EXPECT_THAT(durum ? std::string() : durum.KusurMetni(), HasSubstr(neden));
     for (const auto& [ad, boy] : boylar) EXPECT_EQ(Oku(ad + ".dat"), tamam ? std::string(boy, 'y') : "eski") << yol;
   }
 }
@@ -125,7 +125,7 @@ TEST_F(Indir, AWriteThatFailsMidwayPutsTheOldFilesBack) {
   const auto geri = test::DarDisk(3000);  // all but the 4050 bytes of hestur.dat fit
   const auto durum = ParametreKur(Dizin(), adres);
   ASSERT_FALSE(durum);
-  EXPECT_THAT(durum.HataMetni(), HasSubstr("hestur.dat"));
+  EXPECT_THAT(durum.KusurMetni(), HasSubstr("hestur.dat"));
   EXPECT_EQ(Oku("yasal2.dat") + Oku("hestur.dat"), "eski yasal2eski hestur");
   EXPECT_EQ(DosyaSayisi(), 2) << "files that did not exist are gone again";
 }
@@ -133,7 +133,7 @@ TEST_F(Indir, AWriteThatFailsMidwayPutsTheOldFilesBack) {
 TEST_F(Indir, AnOldFileThatCannotBeKeptStopsTheInstallation) {
   Yaz("yasal2.dat", "eski yasal2");
   ASSERT_TRUE(DizinYarat(Yol("agitbl.dat")));
-  EXPECT_THAT(ParametreKur(Dizin(), *ParametreAdresi(2009, 7)).HataMetni(),
+  EXPECT_THAT(ParametreKur(Dizin(), *ParametreAdresi(2009, 7)).KusurMetni(),
               HasSubstr("Eski parametre dosyası okunamadı"));
   EXPECT_EQ(Oku("yasal2.dat"), "eski yasal2");
   EXPECT_EQ(DosyaSayisi(), 2);

@@ -23,7 +23,7 @@ const std::string mevzuat = test::KaynakYolu("data/mevzuat/");
 
 YasalParametreler Yukle(int yil, int ay, Lira lira = Lira::Yeni) {
   const auto p = MevzuatYukle(mevzuat, yil, ay, lira);
-  EXPECT_TRUE(p) << yil << "/" << ay << ": " << p.HataMetni();
+  EXPECT_TRUE(p) << yil << "/" << ay << ": " << p.KusurMetni();
   return p ? *p : YasalParametreler();
 }
 
@@ -167,8 +167,8 @@ TEST(Mevzuat, EveryFigureTellsCertaintyAndSources) {
 }
 
 TEST(Mevzuat, WhatIsMissingOrBrokenIsToldInTurkish) {
-  EXPECT_THAT(MevzuatYukle(mevzuat, 2010, 1).HataMetni(), HasSubstr("Ocak 2010 için yasal parametre yok"));
-  EXPECT_THAT(MevzuatYukle(mevzuat, 2009, 13).HataMetni(), HasSubstr("Dönem hatalı: 13/2009"));
+  EXPECT_THAT(MevzuatYukle(mevzuat, 2010, 1).KusurMetni(), HasSubstr("Ocak 2010 için yasal parametre yok"));
+  EXPECT_THAT(MevzuatYukle(mevzuat, 2009, 13).KusurMetni(), HasSubstr("Dönem hatalı: 13/2009"));
 
   const test::GeciciDizin dizin;
   const Json saglam = Json::parse(*DosyaOku(mevzuat + "2009-2.json"));
@@ -193,7 +193,7 @@ TEST(Mevzuat, WhatIsMissingOrBrokenIsToldInTurkish) {
                                        {boz("/primOranlari/0/dal", 0), "dal 1 ile 32 arasında olmalı"}}) {
     ASSERT_TRUE(DosyaYaz(dizin.Yol() + "2009-2.json", metin));
     for (const Lira lira : {Lira::Yeni, Lira::Eski})
-      EXPECT_THAT(MevzuatYukle(dizin.Yol(), 2009, 8, lira).HataMetni(), HasSubstr(ileti));
+      EXPECT_THAT(MevzuatYukle(dizin.Yol(), 2009, 8, lira).KusurMetni(), HasSubstr(ileti));
   }
   ASSERT_TRUE(DosyaYaz(dizin.Yol() + "2009-2.json", boz("/bit", "2009-08-01")));
   EXPECT_TRUE(MevzuatYukle(dizin.Yol(), 2009, 8)) << "the last day belongs to the period";
@@ -210,7 +210,7 @@ RC_GTEST_PROP(Mevzuat, NoDamageToAFileBreaksTheLoader, ()) {
   }
   RC_ASSERT(bool(DosyaYaz(dizin.Yol() + "2008-2.json", metin)));
   const auto p = MevzuatYukle(dizin.Yol(), 2008, 11, Lira::Eski);
-  if (!p) RC_ASSERT(!p.HataMetni().empty());
+  if (!p) RC_ASSERT(!p.KusurMetni().empty());
 }
 
 TEST(Mevzuat, TheEnvironmentNamesTheDirectory) {

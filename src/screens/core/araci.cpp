@@ -1,0 +1,32 @@
+#include "screens/core/araci.h"
+
+namespace belvani {
+
+araci::araci(EkranBaglami& baglam)
+    : Form(baglam, "araci", QStringLiteral("Aracı Bilgileri")), araci_(AraciOku(baglam.oturum)) {
+  AlanlariDiz({{{"Aracı",
+                 {{arac::kod, "Aracı Kodu"},
+                  {arac::isim1, "Ad Soyad (Ünvan)"},
+                  {arac::isim2, "Ünvan (devam)"},
+                  {arac::tcno, "T.C. No"},
+                  {arac::vergi, "Vergi No"}}},
+                {"Adres",
+                 {{arac::adr1, "Adres"},
+                  {arac::adr2, "Adres (devam)"},
+                  {arac::semt, "Semt"},
+                  {arac::ilce, "İlçe"},
+                  {arac::il, "İl"},
+                  {arac::pk, "Posta Kodu"},
+                  {arac::tel, "Telefon"},
+                  {arac::epos, "E-posta"}}}}});
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Yukle(araci_);
+}
+
+void araci::Kaydet() {
+  if (!Oku(araci_) || !AraciKaydet(Oturumu(), araci_, Bildirimi())) return;
+  Kapat();
+}
+
+}  // namespace belvani

@@ -1,0 +1,97 @@
+#include "screens/core/firbil.h"
+
+#include "payroll/parametre/parametreler.h"
+
+namespace belvani {
+namespace {
+
+constexpr std::string_view TehlikeDereceleri[] = {"Normal", "Alt", "Üst"};
+constexpr std::string_view Siniflar[] = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12"};
+
+// The work-accident rate that follows from class and degree; shown, never stored.
+struct PrimOrani {
+  Tek oran;
+};
+constexpr auto TehlikeOranAlani = Uye("tehlikeoran", &PrimOrani::oran);
+
+std::vector<std::vector<AlanGrubu>> Gruplar() {
+  return {{{"Ünvan", {{firma::unvan, "Ünvan", {.harf = 40}}}},
+           {"S.S.K Sicil No",
+            {{firma::sektor, "Sektör"},
+             {firma::meslek, "Meslek"},
+             {firma::sube, "Şube"},
+             {firma::dosya, "Dosya", {.harf = 10}},
+             {firma::il, "İl"},
+             {firma::ilce, "İlçe"},
+             {firma::kontrol, "Kontrol"}},
+            4},
+           {"Kayıtlar",
+            {{firma::kurtar, "Kuruluş Tarihi"},
+             {firma::isi, "İş Nevi", {.harf = 15}},
+             {firma::ticsicil, "Tic.Sicil No", {.harf = 15}},
+             {firma::iskur, "İşkur Birimi", {.harf = 15}},
+             {firma::verda, "V.Dairesi", {.harf = 15}},
+             {firma::verno, "V. H.No", {.harf = 15}},
+             {firma::bolcal, "Bölge Çal.No", {.harf = 15}},
+             {firma::bolsube, "Böl.Çal. Şube", {.harf = 15}},
+             {firma::iskodu, "İş Kodu"},
+             {firma::tckimlik, "TcNo"}},
+            2},
+           {"Tasarruf Kesintisi",
+            {{firma::tasarrufno, "Tas. No", {.harf = 13}},
+             {firma::tasarrufsube, "Banka", {.harf = 13}},
+             {firma::tasarrufhesap, "Hesap No", {.harf = 13}}},
+            3}},
+          {{"Dönem",
+            {{firma::firmaay, "Dönem Ay", {.liste = AyAdlari, .listeTabani = 1}},
+             {firma::firmayil, "Dönem Yıl", {.enCok = 9999}},
+             {firma::tersfirma, "Dönem 15.01.2004 - 14.02.2004 gibi"}},
+            2},
+           {"Kurallar",
+            {{firma::tehlike, "Teh.Derecesi", {.liste = TehlikeDereceleri}},
+             {firma::sinif, "Tehlike Sınıfı", {.liste = Siniflar}},
+             {TehlikeOranAlani, "İş Kazası Oranı", {.ondalik = 1, .kapali = true}},
+             {firma::kanun, "Kanun", {.harf = 8, .ipucu = "Beş haneli kanun numarası, örneğin 05510"}},
+             {firma::issaati, "Çalışma Saati", {.enCok = 24, .ipucu = "Günlük çalışma saati"}},
+             {firma::paraonda, "Para Ondalığı", {.enCok = 4}},
+             {firma::yuvar, "Yuvarlama"},
+             {firma::ondeger, "Öndeğer Hesap", {.ipucu = "Yeni personelin kazanç grubu"}}},
+            2},
+           {"Adres", {{firma::adr1, "Adres", {.harf = 40}}, {firma::adr2, "Adres (devam)", {.harf = 40}}}},
+           {"Semt ve İletişim",
+            {{firma::semt, "Semt", {.harf = 15}},
+             {firma::adrilce, "İlçe", {.harf = 20}},
+             {firma::adril, "İl", {.harf = 15}},
+             {firma::pk, "Posta Kodu"},
+             {firma::tel, "Telefon", {.harf = 15}},
+             {firma::epos, "E-posta", {.harf = 20}}},
+            2}}};
+}
+
+}  // namespace
+
+firbil::firbil(EkranBaglami& baglam)
+    : Form(baglam, "firbil", QStringLiteral("Firma Bilgileri")), firma_(FirmaOku(baglam.oturum)) {
+  AlanlariDiz(Gruplar());
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Yukle(firma_);
+  OraniGoster();
+  AlanDegisti = [this](AlanDenetimi& alan) {
+    if (alan.Satir().tanim.ad == "tehlike" || alan.Satir().tanim.ad == "sinif") OraniGoster();
+  };
+}
+
+void firbil::OraniGoster() {
+  const auto derece = int(TamDegeri(Denetim("tehlike").Oku()));
+  Yukle(PrimOrani{TehlikeOrani(derece, SayiDegeri(Denetim("sinif").Oku()))});
+}
+
+void firbil::Kaydet() {
+  if (!Oku(firma_)) return;
+  FirmaKaydet(Oturumu(), firma_, Bildirimi());
+  Baglam().gosterici.BaslikDegisti();
+  Kapat();
+}
+
+}  // namespace belvani

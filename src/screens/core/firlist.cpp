@@ -1,0 +1,102 @@
+#include "screens/core/firlist.h"
+
+#include <QHideEvent>
+#include <QLineEdit>
+
+#include "core/session/sirketlistesi.h"
+#include "printing/kolonlar.h"
+#include "ui/basim.h"
+#include "ui/mesgul.h"
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+constexpr const char* ListeBasligi = "Firmalar Listesi";
+
+const Kolonlar<SirketSatiri> kolonlar{
+    {"Firma", 24, [](auto& s) { return s.ad; }},
+    {"Ünvan", 60, [](auto& s) { return s.unvan; }},
+    {"Dönem", 8, [](auto& s) { return s.donem; }},
+};
+
+RaporBelgesi ListeBelgesi(const std::string& dataPath) {
+  Rapor rapor = RaporYap(kolonlar, SirketListesi(dataPath), 2);
+  rapor.baslik = rapor.ekranBasligi = ListeBasligi;
+  YzcAyarlari ayar;
+  ayar.YzcBaslik = ListeBasligi;
+  ayar.YzcSirketYaz = false;
+  GrafikDuzeni grafik;
+  grafik.punto = 9;
+  return {std::move(rapor), ayar, grafik};
+}
+
+}  // namespace
+
+firlist::firlist(EkranBaglami& baglam)
+    : Form(baglam, "firlist", QStringLiteral("Firma Listesi")),
+      secici_(std::exchange(baglam.oturum.PencereTip, {}) == "pen"),
+      liste_(new dclist(baglam.bildirim, this)) {
+  aranan_ = liste_->AramaKutusu(this);
+  aranan_->setObjectName("aranan");
+  liste_->CreateNewCaption('m', "kod", "Firma", 160);
+  liste_->CreateNewCaption('m', "unvan", "Ünvan", 240);
+  liste_->CreateNewCaption('m', "donem", "Dönem", 80);
+  liste_->setObjectName("dclist1");
+  liste_->GenisKolon("unvan");
+  liste_->setMinimumSize(secici_ ? 520 : 680, 360);
+  Govde()->addWidget(aranan_);
+  Govde()->addWidget(liste_, 1);
+  Izle(aranan_);
+  setTabOrder(aranan_, liste_);
+  secici_ ? SeciciYap() : CiktiKomutlari();
+  ListeyiDoldur();
+  IlkOdak(aranan_);
+}
+
+void firlist::SeciciYap() {
+  liste_->SatirSecildi = [this](int satir) { Oturumu().SeciliKod = Utf8(liste_->TextByName(satir, "kod")); };
+  liste_->Secildi = [this](int) { Sec(); };
+  liste_->setFocusPolicy(Qt::NoFocus);  // its rows are walked from the search box
+  ListedeGezin(*liste_);
+  TusBagla(Qt::Key_Return, {}, [this] { Sec(); });
+  TusBagla(Qt::Key_Enter, QStringLiteral("Seç"), [this] { Sec(); });
+}
+
+void firlist::CiktiKomutlari() {
+  DugmeEkle(Qt::Key_F8, QStringLiteral("Yazdır"), "yazici", [this] {
+    RaporBelgesi belge = ListeBelgesi(Oturumu().DataPath);
+    BelgeBas(Baglam(), belge);
+  });
+  DugmeEkle(Qt::Key_F9, QStringLiteral("Excel'e Gönder"), "tablo",
+            [this] { BelgeExceleGonder(Baglam(), ListeBelgesi(Oturumu().DataPath)); });
+}
+
+void firlist::ListeyiDoldur() {
+  const std::string simdiki = Oturumu().SeciliKod;
+  const MesgulImlec mesgul;
+  dclistModel& model = liste_->Model();
+  model.TopluBasla();
+  for (const SirketSatiri& sirket : SirketListesi(Oturumu().DataPath)) {
+    const int satir = liste_->Add();
+    liste_->TextByName(satir, "kod", Yazi(sirket.ad));
+    liste_->TextByName(satir, "unvan", Yazi(sirket.unvan));
+    liste_->TextByName(satir, "donem", Yazi(sirket.donem));
+  }
+  model.TopluBitir();
+  if (liste_->FindByName("kod", Yazi(simdiki)) < 0) liste_->ChngSat(0);
+}
+
+void firlist::Sec() {
+  if (liste_->CurSat() < 0) return;
+  secildi_ = true;
+  Kapat();
+}
+
+// Every other way out of the picker chooses nothing.
+void firlist::hideEvent(QHideEvent* olay) {
+  Form::hideEvent(olay);
+  if (secici_ && !secildi_ && !olay->spontaneous()) Oturumu().SeciliKod.clear();
+}
+
+}  // namespace belvani

@@ -1,0 +1,28 @@
+#include "screens/core/muhbil.h"
+
+#include "core/session/muhasebecibilgi.h"
+
+namespace belvani {
+namespace {
+
+const AlanGrubu Grup{"Muhasebeci",
+                     {{Uye("adsoyad", &Muhasebeci::adsoyad, 50), "Adı Soyadı"},
+                      {Uye("tcno", &Muhasebeci::tcno, 15), "T.C. No"},
+                      {Uye("sicil", &Muhasebeci::sicil, 30), "Sicil"}}};
+
+}  // namespace
+
+muhbil::muhbil(EkranBaglami& baglam) : Form(baglam, "muhbil", QStringLiteral("Muhasebeci Bilgileri")) {
+  AlanlariDiz({{Grup}});
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  DugmeEkle(QStringLiteral("Vazgeç"), "kapat", [this] { Kapat(); });
+  Yukle(MuhasebeciOku(baglam.oturum));
+}
+
+void muhbil::Kaydet() {
+  Muhasebeci muhasebeci;
+  if (Oku(muhasebeci) && MuhasebeciKaydet(Oturumu(), muhasebeci, Bildirimi())) Kapat();
+}
+
+}  // namespace belvani

@@ -1,0 +1,55 @@
+#include "screens/core/yapifrm.h"
+
+#include <QGridLayout>
+
+#include "core/session/yapiayari.h"
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+constexpr int EnCokHarf = 1024;
+
+struct Dizinler {
+  std::string prg, data;
+};
+
+const AlanGrubu Grup{"Dizinler",
+                     {{Uye("PrgPath", &Dizinler::prg, EnCokHarf), "Program Dizini", {.harf = 52}},
+                      {Uye("DataPath", &Dizinler::data, EnCokHarf), "Data Dizini", {.harf = 52}}}};
+
+}  // namespace
+
+yapifrm::yapifrm(EkranBaglami& baglam) : Form(baglam, "yapifrm", QStringLiteral("Yapı Ayarları")) {
+  QWidget* kutu = GrupYap(Grup);
+  auto* izgara = static_cast<QGridLayout*>(kutu->layout());
+  for (int satir = 0; satir < int(Denetimler().size()); ++satir) {
+    xtext& alan = *Denetimler()[std::size_t(satir)]->YaziKutusu();
+    auto* dugme = new xButton("?", {}, kutu);
+    dugme->setFocusPolicy(Qt::NoFocus);  // Enter goes from field to field; F2 is its key
+    dugme->setToolTip(QStringLiteral("Dizin seç (F2)"));
+    connect(dugme, &QPushButton::clicked, this, [this, &alan] { DizinSec(alan); });
+    izgara->addWidget(dugme, satir, 2, Qt::AlignLeft);
+  }
+  Govde()->addWidget(kutu);
+  TusBagla(Qt::Key_F2, QStringLiteral("Dizin Seç"), [this] {
+    if (auto* alan = dynamic_cast<xtext*>(focusWidget())) DizinSec(*alan);
+  });
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Yukle(Dizinler{Oturumu().PrgPath, Oturumu().DataPath});
+}
+
+void yapifrm::DizinSec(xtext& alan) {
+  if (const auto dizin = Baglam().dialoglar.DizinSec("Dizin Seçiniz", Utf8(alan.text()))) alan.DegerKoy(*dizin);
+  alan.setFocus();
+}
+
+void yapifrm::Kaydet() {
+  Dizinler dizinler;
+  if (!Oku(dizinler)) return;
+  YapiAyariKaydet(dizinler.prg, dizinler.data, Bildirimi());
+  IlkAlanaGit();
+}
+
+}  // namespace belvani

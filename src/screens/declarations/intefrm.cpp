@@ -1,0 +1,55 @@
+#include "screens/declarations/intefrm.h"
+
+#include "core/turkce.h"
+#include "declarations/ebildirgeadresi.h"
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+struct Baglanti {
+  std::string adres;
+  std::string dosya;
+};
+
+constexpr int AdresHarfi = 200;
+constexpr int YolHarfi = 400;
+constexpr int AlanHarfi = 64;
+
+}  // namespace
+
+intefrm::intefrm(EkranBaglami& baglam, const std::string& dosya)
+    : Form(baglam, "intefrm", QStringLiteral("İnternet İşlemleri")), dosya_(dosya) {
+  AlanlariDiz(
+      {{{"Gönderim",
+         {{Uye("adres", &Baglanti::adres, AdresHarfi), "Adres", {.harf = AlanHarfi}},
+          {Uye("dosya", &Baglanti::dosya, YolHarfi), "Bildirge Dosyası", {.harf = AlanHarfi, .kapali = true}}}}}});
+  auto* yol = new QLabel(
+      QStringLiteral("Adres internet tarayıcınızda açılır. Bildirge dosyasını oradaki sayfaya kendiniz yüklersiniz;\n"
+                     "program hiçbir şey göndermez."),
+      this);
+  yol->setProperty("soluk", true);
+  Govde()->addWidget(yol);
+  DugmeEkle(QStringLiteral("Sayfayı &Aç"), "calistir", [this] { AdresAc(); });
+  DugmeEkle(QStringLiteral("&Dizini Aç"), "klasor", [this] { DizinAc(); });
+  TusBagla(Qt::Key_F5, QStringLiteral("Sayfayı Aç"), [this] { AdresAc(); });
+  Yukle(Baglanti{EBildirgeAdresi(Oturumu().DataPath), dosya_});
+}
+
+void intefrm::AdresAc() {
+  Baglanti baglanti;
+  if (!Oku(baglanti)) return;
+  const std::string adres(Kirp(baglanti.adres));
+  if (adres != EBildirgeAdresi(Oturumu().DataPath))
+    if (const Durum yazildi = EBildirgeAdresiYaz(Oturumu().DataPath, adres); !yazildi)
+      return Bildirimi().Uyari(yazildi.KusurMetni());
+  if (!Baglam().baski.adresAc(adres))
+    Bildirimi().Uyari("Bilgisayarda adresi açacak bir internet tarayıcısı bulunamadı");
+}
+
+void intefrm::DizinAc() {
+  const std::string dizin = dosya_.substr(0, dosya_.rfind('/') + 1);
+  if (!Baglam().baski.dosyaAc(dizin)) Bildirimi().Uyari(dizin + ": dizin açılamadı");
+}
+
+}  // namespace belvani

@@ -1,0 +1,59 @@
+#include "screens/declarations/yaylikcikti.h"
+
+#include "declarations/bildirgeformu.h"
+#include "declarations/bildirgetablosu.h"
+#include "declarations/formresimleri.h"
+#include "screens/declarations/yzckopy.h"
+#include "ui/basim.h"
+#include "ui/mesgul.h"
+
+namespace belvani {
+namespace {
+
+using Cikti = AylikBildirge::Cikti;
+using CiktiKarari = AylikBildirge::CiktiKarari;
+
+// Runs `is` on the paper's values; what cannot be told as a value of it is told to the user.
+template <class Is>
+void KagitIle(EkranBaglami& baglam, AylikBildirge& bildirge, Cikti cikti, Is is) {
+  const CiktiKarari karar = bildirge.KagitKosullari(cikti);
+  if (karar == CiktiKarari::Yok) return;
+  try {
+    is(KagitHazirla(bildirge, baglam.oturum));
+  } catch (const MotorHatasi& hata) {
+    baglam.bildirim.Uyari(hata.what());
+  } catch (const TutarTasmasi& hata) {
+    baglam.bildirim.Uyari(hata.what());
+  }
+}
+
+// Before the dialog's decision is carried out: a text print asks for its pre-printed sheet, a drawn one shows the form.
+bool BaskidanOnce(EkranBaglami& baglam, const BildirgeKagidi& kagit, YzcKarar karar, const YzcAyarlari& ayar) {
+  if (karar != YzcKarar::Yazdir) return false;
+  if (ayar.YzcDosMod) return !baglam.bildirim.Soru(MatbuUyarisi);
+  FormGoster(baglam, std::make_unique<yzckopy>(baglam, Ek9Resmi(kagit), ayar));
+  return true;
+}
+
+}  // namespace
+
+void BildirgeYazdir(EkranBaglami& baglam, AylikBildirge& bildirge) {
+  KagitIle(baglam, bildirge, Cikti::Kagit, [&](const BildirgeKagidi& kagit) {
+    BelgeBas(baglam, *BildirgeBelgesi(kagit),
+             [&](YzcKarar karar, const YzcAyarlari& ayar) { return BaskidanOnce(baglam, kagit, karar, ayar); });
+  });
+}
+
+void BildirgeExceleGonder(EkranBaglami& baglam, AylikBildirge& bildirge) {
+  KagitIle(baglam, bildirge, Cikti::Tablo, [&](const BildirgeKagidi& kagit) {
+    const MesgulImlec mesgul;
+    auto sablon = TabloSablonu(baglam.oturum);
+    if (!sablon) return baglam.bildirim.Uyari(sablon.KusurMetni());
+    const auto tablo = BildirgeTablosuYap(std::move(*sablon), kagit);
+    if (!tablo) return baglam.bildirim.Uyari(tablo.KusurMetni());
+    if (!tablo->uyari.empty()) baglam.bildirim.Uyari(tablo->uyari);
+    TabloyuAc(baglam, "aylik", tablo->baytlar);
+  });
+}
+
+}  // namespace belvani

@@ -1,0 +1,50 @@
+#include "screens/declarations/yzckopy.h"
+
+#include "printing/formbelgesi.h"
+#include "ui/basim.h"
+
+namespace belvani {
+
+yzckopy::yzckopy(EkranBaglami& baglam, std::vector<FormSayfasi> sayfalar, YzcAyarlari ayar)
+    : Form(baglam, "yzckopy", QStringLiteral("Form Yazdırma")),
+      ayar_(std::move(ayar)),
+      yuzey_(new FormYuzeyi(std::move(sayfalar))),
+      alan_(new QScrollArea(this)),
+      durum_(new QLabel(this)) {
+  alan_->setWidget(yuzey_);
+  alan_->setAlignment(Qt::AlignCenter);
+  alan_->setFocusPolicy(Qt::NoFocus);
+  alan_->verticalScrollBar()->setObjectName("dik");
+  alan_->horizontalScrollBar()->setObjectName("yatay");
+  alan_->setMinimumSize(1150, 480);  // an A4 sheet across, whole
+  yuzey_->Gorunsun = [this](const QRect& yer) { alan_->ensureVisible(yer.center().x(), yer.center().y(), 120, 90); };
+  durum_->setObjectName("durum");
+  Govde()->addWidget(durum_);
+  Govde()->addWidget(alan_, 1);
+  Izle(yuzey_);
+  TusBagla(Qt::Key_PageDown, QStringLiteral("Sonraki Sayfa"), [this] { Git(1); });
+  TusBagla(Qt::Key_PageUp, QStringLiteral("Önceki Sayfa"), [this] { Git(-1); });
+  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_Plus), QStringLiteral("Büyüt"), [this] { yuzey_->Buyut(1); });
+  TusBagla(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Plus), {}, [this] { yuzey_->Buyut(1); });
+  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_Minus), QStringLiteral("Küçült"), [this] { yuzey_->Buyut(-1); });
+  TusBagla(Qt::Key_F8, {}, [this] { Yazdir(); });
+  DugmeEkle(QStringLiteral(" &Yazdır"), "yazici", [this] { Yazdir(); })->setToolTip(QStringLiteral("Yazdır (F8)"));
+  DugmeEkle(QStringLiteral("&Kapat"), "kapat", [this] { Kapat(); });
+  IlkOdak(yuzey_);
+  Git(0);
+}
+
+void yzckopy::Git(int adim) {
+  yuzey_->SayfayaGit(yuzey_->Sayfa() + adim);
+  durum_->setText(
+      QStringLiteral("Sayfa %1 / %2    Değerleri Tab ile geziniz; ok tuşları ya da fare taşır, Enter değiştirir.")
+          .arg(yuzey_->Sayfa() + 1)
+          .arg(yuzey_->Sayfalar().size()));
+}
+
+void yzckopy::Yazdir() {
+  FormBelgesi belge(ayar_, yuzey_->Sayfalar(), {});
+  BelgeBas(Baglam(), belge);
+}
+
+}  // namespace belvani

@@ -1,0 +1,34 @@
+#include "screens/payroll/brckes.h"
+
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+struct Kesinti {
+  Tutar tutar;
+};
+
+}  // namespace
+
+brckes::brckes(EkranBaglami& baglam, BordroGirisi& giris)
+    : Form(baglam, "brckes", QStringLiteral("-Borç Kesintisi-")), giris_(giris) {
+  AlanlariDiz({{{"Borç Kesintisi", {{Uye("tutar", &Kesinti::tutar), "Kesinti Tutarı"}}}}});
+  auto* limit = new QLabel("En fazla " + Yazi(TutarMetni(giris.BorcLimiti(), Oturumu().paraonda)), this);
+  limit->setProperty("soluk", true);
+  Govde()->addWidget(limit);
+  Komut(
+      FormKomutu::Kaydet, [this] { Onayla(); }, QStringLiteral("Tamam"));
+  DugmeEkle(QStringLiteral("Vazgeç"), "kapat", [this] { Kapat(); });
+  for (const Qt::Key tus : {Qt::Key_Return, Qt::Key_Enter}) TusBagla(QKeySequence(tus), {}, [this] { Onayla(); });
+  Yukle(Kesinti{giris.Giris().borckes});
+}
+
+void brckes::Onayla() {
+  Kesinti kesinti;
+  if (!Oku(kesinti)) return;
+  if (giris_.BorcAyarla(kesinti.tutar)) return Kapat();
+  Yukle(kesinti);  // the next key types over it
+}
+
+}  // namespace belvani

@@ -1,0 +1,384 @@
+#include "screens/payroll/brdhazir.h"
+
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QTimer>
+
+#include "screens/payroll/brckes.h"
+#include "screens/payroll/brdhaziralanlar.h"
+#include "ui/bildirimkutusu.h"
+#include "ui/metin.h"
+#include "ui/pencere.h"
+
+namespace belvani {
+namespace {
+
+constexpr int UyariAraligi = 600;  // ms, of the blinking warning
+
+// Of a list that is reached by a key and stands outside the walk of Enter.
+QComboBox* Liste(QWidget* ust) {
+  auto* liste = new QComboBox(ust);
+  liste->setFocusPolicy(Qt::ClickFocus);
+  return liste;
+}
+
+}  // namespace
+
+brdhazir::brdhazir(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : Form(baglam, "brdhazir", QStringLiteral("Bordro Hazırlık")),
+      giris_(baglam.oturum, parametreler, baglam.bildirim),
+      ay_(Liste(this)),
+      bordroNo_(Liste(this)),
+      kaynak_(Liste(this)),
+      kisi_(new QLabel(this)),
+      uyari_(new QLabel(this)),
+      kusur_(new QLabel(this)),
+      muafiyet_(new QLabel(this)),
+      neden_(new NedenPaneli(this)) {
+  acik_ = giris_.Ac();
+  UstSatirYap();
+  GovdeYap();
+  TuslariBagla();
+  AlanDegisti = [this](AlanDenetimi& alan) {
+    if (std::ranges::find(degisen_, &alan) == degisen_.end()) degisen_.push_back(&alan);
+  };
+  Goster();
+}
+
+void brdhazir::UstSatirYap() {
+  auto* kodSatiri = new QHBoxLayout;
+  KodAlaniYap(kodSatiri);
+  auto* satir = new QHBoxLayout;
+  satir->setSpacing(10);
+  for (const std::string_view ad : AyAdlari) ay_->addItem(Yazi(ad));
+  ay_->setCurrentIndex(Oturumu().firmaay - 1);
+  for (const std::string_view ad : PuantajKaynaklari) kaynak_->addItem(Yazi(ad));
+  BordroNoDoldur();
+  const auto ekle = [&](const QString& ad, QWidget* parca) {
+    satir->addWidget(new QLabel(ad, this));
+    satir->addWidget(parca);
+    Izle(parca);
+  };
+
+  auto* yil = new QLabel(QString::number(Oturumu().firmayil), this);
+  yil->setProperty("baslik", true);
+  ekle(QStringLiteral("Dönem Ay,Yıl"), ay_);
+  satir->addWidget(yil);
+  ekle(QStringLiteral("Bordro No"), bordroNo_);
+  satir->addStretch(1);
+  ekle(QStringLiteral("Puantaj Kaynağı"), kaynak_);
+  auto* puantaj = new xButton(QStringLiteral("Puantaj "), "puantaj", this);
+  puantaj->setFocusPolicy(Qt::ClickFocus);
+  connect(puantaj, &QPushButton::clicked, this, &brdhazir::TopluHazirla);
+  satir->addWidget(puantaj);
+  Govde()->addLayout(satir);
+  Govde()->addLayout(kodSatiri);
+  connect(ay_, &QComboBox::activated, this, [this](int sira) {
+    giris_.AyDegistir(sira + 1);
+    BordroNoDoldur();
+    simdiki_ = nullptr;
+    degisen_.clear();
+    Goster();
+    OdakVer("kod");
+  });
+}
+
+// The code comes first in the walk of Enter.
+void brdhazir::KodAlaniYap(QHBoxLayout* satir) {
+  DenetimEkle(KodAlani(), this);
+  satir->addWidget(new QLabel(QStringLiteral("Sicil No"), this));
+  satir->addWidget(Denetim("kod").Parca());
+  kisi_->setProperty("baslik", true);
+  satir->addWidget(kisi_);
+  satir->addWidget(uyari_);
+  satir->addStretch(1);
+}
+
+void brdhazir::GovdeYap() {
+  SikDiz();
+  auto* orta = new QHBoxLayout;
+  orta->setSpacing(10);
+  const auto sutun = [&](const std::vector<AlanGrubu>& gruplar) {
+    auto* dikey = new QVBoxLayout;
+    for (const AlanGrubu& grup : gruplar) dikey->addWidget(GrupYap(grup));
+    dikey->addStretch(1);
+    orta->addLayout(dikey);
+    return dikey;
+  };
+  sutun({GunGrubu()});
+  sutun({YardimGrubu(giris_.Kosul().firma.yardimlar)});
+  sutun(OzetGruplari());
+  // What is typed comes before what follows from it, in the order of Tab too.
+  auto* eksikGun = GrupYap(EksikGunGrubu());
+  sutun(AyrintiGruplari())->insertWidget(0, eksikGun);
+  Govde()->addLayout(orta);
+  kusur_->setProperty("hata", true);
+  Govde()->addWidget(kusur_);
+  muafiyet_->setProperty("soluk", true);
+  Govde()->addWidget(muafiyet_);
+  Govde()->addWidget(neden_);
+  YaziKutusu("net").setProperty("toplam", true);
+  YaziKutusu("brut").setProperty("toplam", true);
+  for (const auto& d : Denetimler())
+    if (d->Satir().ek.kapali) d->Odak()->setFocusPolicy(Qt::ClickFocus);
+
+  auto* yanip = new QTimer(this);
+  connect(yanip, &QTimer::timeout, this, [this] {
+    if (giris_.CalismaPaneli().has_value()) UyariRengi(!uyari_->property("hata").toBool());
+  });
+  yanip->start(UyariAraligi);
+}
+
+void brdhazir::TuslariBagla() {
+  Komut(FormKomutu::Rehber, [this] {
+    if (const auto kod = PersonelSec(Baglam(), giris_.Kod())) {
+      YaziKutusu("kod").DegerKoy(*kod);
+      KodaDon();
+    }
+  });
+  Komut(FormKomutu::Sil, [this] {
+    GirisiOku();
+    if (giris_.KayitSil()) {
+      Goster();
+      KodaDon();
+    }
+  });
+  TusBagla(Qt::Key_F5, QStringLiteral("Sicil No"), [this] { KodaDon(); });
+  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_F7), QStringLiteral("Ayı Sil"), [this] {
+    if (!giris_.AyinBordrosunuSil()) return;
+    BordroNoDoldur();
+    Goster();
+    KodaDon();
+  });
+  TusBagla(Qt::Key_F9, QStringLiteral("Netten Brüte"), [this] {
+    if (simdiki_ == nullptr) return;
+    GirisiOku();
+    giris_.NettenBruteCevir(BordroAlanNo(simdiki_->Satir().tanim.ad));
+    Goster();
+  });
+  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_B), QStringLiteral("Borç"), [this] { BorcSor(); });
+  TusBagla(Qt::Key_F4, QStringLiteral("Neden?"), [this] { SonuclaraGit(); });
+  TusBagla(Qt::Key_F6, QStringLiteral("Ay"), [this] { ay_->setFocus(); });
+  TusBagla(Qt::Key_F8, QStringLiteral("Puantaj"), [this] {
+    if (kaynak_->hasFocus() && kaynak_->currentIndex() == int(PuantajKaynagi::Sablondan)) return TopluHazirla();
+    kaynak_->setFocus();
+  });
+  connect(&YaziKutusu("kod"), &xtext::Lookup, this, [this] {
+    QKeyEvent f2(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
+    keyPressEvent(&f2);
+  });
+}
+
+void brdhazir::UyariRengi(bool kirmizi) {
+  uyari_->setProperty("hata", kirmizi);
+  uyari_->style()->polish(uyari_);
+}
+
+QString brdhazir::Para(Tutar tutar) const {
+  return Yazi(TutarMetni(tutar, Oturumu().paraonda));
+}
+
+AlanDenetimi* brdhazir::Sahibi(const QObject* nesne) const {
+  for (const auto& d : Denetimler())
+    if (d->Parca() == nesne) return d.get();
+  return nullptr;
+}
+
+// The person of the typed code; the entry fields open.
+bool brdhazir::KisiyiGetir() {
+  const KodSonucu sonuc = giris_.KodAl(Utf8(YaziKutusu("kod").text()));
+  if (sonuc == KodSonucu::Bos) return false;
+  degisen_.clear();
+  Goster();
+  return sonuc == KodSonucu::Yuklendi;
+}
+
+void brdhazir::Git(KisiYonu yon) {
+  if (giris_.Git(yon) == KodSonucu::Bos) return;
+  YaziKutusu("kod").DegerKoy(giris_.Kod());
+  YaziKutusu("kod").selectAll();
+  degisen_.clear();
+  Goster();
+}
+
+bool brdhazir::eventFilter(QObject* nesne, QEvent* olay) {
+  AlanDenetimi* alan = Sahibi(nesne);
+  if (olay->type() == QEvent::FocusIn && alan != nullptr) {
+    // After the move is complete: messages may come up.
+    QMetaObject::invokeMethod(
+        this, [this, alan] { AlanaGirildi(alan); }, Qt::QueuedConnection);
+    return Form::eventFilter(nesne, olay);
+  }
+  if (olay->type() != QEvent::KeyPress || alan == nullptr) return Form::eventFilter(nesne, olay);
+  const int tus = static_cast<QKeyEvent*>(olay)->key();
+  const bool duz = static_cast<QKeyEvent*>(olay)->modifiers() == Qt::NoModifier ||
+                   static_cast<QKeyEvent*>(olay)->modifiers() == Qt::KeypadModifier;
+  const bool enter = tus == Qt::Key_Return || tus == Qt::Key_Enter;
+  const std::string_view ad = alan->Satir().tanim.ad;
+  if (ad == "kod" && duz) {
+    static const std::map<int, KisiYonu> yonler{{Qt::Key_Home, KisiYonu::Ilk},
+                                                {Qt::Key_End, KisiYonu::Son},
+                                                {Qt::Key_PageUp, KisiYonu::Onceki},
+                                                {Qt::Key_PageDown, KisiYonu::Sonraki}};
+    if (const auto yon = yonler.find(tus); yon != yonler.end()) {
+      Git(yon->second);
+      return true;
+    }
+    // Fields open only when a person has come up, so the first one is gone to from here.
+    if (enter || tus == Qt::Key_Tab || tus == Qt::Key_Down) {
+      if (KisiyiGetir()) focusNextPrevChild(true);
+      return true;
+    }
+  }
+  if (ad == "sebep" && enter) {
+    SebepSecildi();
+    return true;
+  }
+  return Form::eventFilter(nesne, olay);
+}
+
+void brdhazir::AlanaGirildi(AlanDenetimi* yeni) {
+  // Passed through on the way to another field.
+  if (!yeni->Parca()->hasFocus()) return;
+  AlanDenetimi* eski = std::exchange(simdiki_, yeni);
+  if (eski == yeni) return;
+  if (eski != nullptr) GirisiOku();
+  const bool sonuc = yeni->Satir().ek.kapali;
+  neden_->Goster(giris_.HesapIzi(), yeni->Satir().tanim.ad, Yazi(yeni->Satir().etiket));
+  if (!sonuc && yeni->Satir().tanim.ad == "kod" && eski != nullptr) KodaGirildi(BordroAlanNo(eski->Satir().tanim.ad));
+}
+
+// Back on the code field: the person's entry closes.
+void brdhazir::KodaGirildi(int ayrilan) {
+  const KapanisSonucu sonuc = giris_.Kapat(ayrilan);
+  switch (sonuc) {
+    case KapanisSonucu::SonrakiVar:
+      YaziKutusu("kod").DegerKoy(giris_.Kod());
+      YaziKutusu("kod").selectAll();
+      BordroNoDoldur();
+      break;
+    case KapanisSonucu::Bitti:
+      Kapat();
+      return;
+    case KapanisSonucu::KaldiEksikGun:
+      Goster();
+      OdakVer(ayrilan == brdalan::UcretsizIzin ? "sebep" : "kod");
+      return;
+    case KapanisSonucu::Kapanmadi:
+    case KapanisSonucu::KaldiGunFazla:
+    case KapanisSonucu::KaldiNetsiz:
+    case KapanisSonucu::KaldiHesapsiz:
+    case KapanisSonucu::KaydetmeHatasi:
+    case KapanisSonucu::OkumaHatasi:
+      break;
+  }
+  Goster();
+}
+
+// What was typed goes into the entry, and the calculation is run.
+void brdhazir::GirisiOku() {
+  if (giris_.Durumu() != BordroGirisi::Hal::KisiSecili) return degisen_.clear();
+  for (AlanDenetimi* alan : degisen_) {
+    if (alan->Satir().kayitTuru == typeid(Brd)) alan->Satir().yaz(&giris_.Giris(), alan->Oku());
+    if (alan->Satir().tanim.ad == "sebep") giris_.SebepSec(int(TamDegeri(alan->Oku())));
+  }
+  degisen_.clear();
+  kusurMetni_ = giris_.Hesapla();
+  Goster();
+}
+
+void brdhazir::Goster() {
+  kisi_->setText(giris_.Durumu() == BordroGirisi::Hal::KisiYok ? QString() : Yazi(giris_.Baslik()));
+  setWindowTitle(Yazi(giris_.Baslik()));
+  if (giris_.Durumu() == BordroGirisi::Hal::KisiYok) {
+    for (const auto& d : Denetimler())
+      if (d->Satir().tanim.ad != "kod") d->Temizle();
+    neden_->Bosalt();
+  } else {
+    Yukle(giris_.Giris());
+    Yukle(giris_.Sonuc());
+    Yukle(giris_.Toplamlar());
+    Denetim("sebep").Koy(std::int64_t(std::max(0, EksikSebepSec(giris_.Giris().eksiksebebi))));
+  }
+  const auto& panel = giris_.CalismaPaneli();
+  uyari_->setText(panel ? "Giriş Tarihi " + Yazi(panel->girisTarihi) + "  Çıkış Tarihi " + Yazi(panel->cikisTarihi) +
+                              "  Çalışabileceği Gün " + QString::number(panel->gun)
+                        : Yazi(giris_.CalismaSatiri()));
+  UyariRengi(panel.has_value());
+  if (giris_.Durumu() == BordroGirisi::Hal::KisiYok) kusurMetni_.clear();
+  kusur_->setText(Yazi(kusurMetni_));
+  kusur_->setVisible(!kusurMetni_.empty());
+  const MuafiyetPaneli& muafiyet = giris_.Toplamlar().panel;
+  muafiyet_->setText("SSK'dan muaf " + Para(muafiyet.muaf) + "   Vergi indirimleri " + Para(muafiyet.indirim) +
+                     "   Toplam " + Para(muafiyet.toplam));
+  muafiyet_->setVisible(muafiyet.toplam > Tutar());
+  AcikAlanlariKur();
+}
+
+void brdhazir::AcikAlanlariKur() {
+  const bool secili = giris_.Durumu() == BordroGirisi::Hal::KisiSecili;
+  const bool eksik = secili && giris_.Toplamlar().SskGun != giris_.CalismaGun();
+  for (const auto& d : Denetimler()) {
+    const int no = BordroAlanNo(d->Satir().tanim.ad);
+    if (no >= brdalan::IlkGun && no <= brdalan::SonYardim) d->Parca()->setEnabled(giris_.AlanAcik(no));
+    // With all days worked there is nothing to give a reason for: Enter goes from the last line to the code.
+    if (no == brdalan::UcretsizIzin) d->Parca()->setEnabled(secili && (eksik || d->Parca()->hasFocus()));
+  }
+  Denetim(brd::rapcalismadi.ad).Odak()->setFocusPolicy(eksik ? Qt::StrongFocus : Qt::ClickFocus);
+  Denetim(brd::rapcalismadi.ad).Parca()->setEnabled(secili);
+}
+
+void brdhazir::SebepSecildi() {
+  degisen_.push_back(&Denetim("sebep"));
+  const auto sonra = giris_.SebepSec(int(TamDegeri(Denetim("sebep").Oku())));
+  GirisiOku();
+  sonra == SebepSonrasi::KodAlanina ? KodaDon() : OdakVer(brd::ucretsizizin.ad);
+}
+
+void brdhazir::KodaDon() {
+  YaziKutusu("kod").setFocus(Qt::TabFocusReason);
+}
+
+void brdhazir::BordroNoDoldur() {
+  bordroNo_->clear();
+  for (const std::string& no : giris_.BordroNolari()) bordroNo_->addItem(Yazi(no));
+}
+
+void brdhazir::TopluHazirla() {
+  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan)) return;
+  IlerlemeKutusu ilerleme(QStringLiteral("Bordro hazırlanıyor…"), this);
+  if (giris_.SablondanHazirla(&ilerleme)) return Kapat();
+  Goster();
+  KodaDon();
+}
+
+// The results can be walked as well, to see why each is what it is.
+void brdhazir::SonuclaraGit() {
+  if (giris_.Durumu() == BordroGirisi::Hal::KisiYok) return;
+  const bool sonucta = simdiki_ != nullptr && simdiki_->Satir().ek.kapali;
+  for (const auto& d : Denetimler())
+    if (d->Satir().ek.kapali) d->Odak()->setFocusPolicy(sonucta ? Qt::ClickFocus : Qt::StrongFocus);
+  sonucta ? KodaDon() : OdakVer("net");
+}
+
+void brdhazir::BorcSor() {
+  const int no = simdiki_ == nullptr ? -1 : BordroAlanNo(simdiki_->Satir().tanim.ad);
+  if (giris_.Durumu() != BordroGirisi::Hal::KisiSecili || no < brdalan::IlkGun || no > brdalan::SonYardim) return;
+  GirisiOku();
+  FormGoster(Baglam(), std::make_unique<brckes>(Baglam(), giris_), FormModu::Modal);
+  Goster();
+}
+
+void brdhazir::showEvent(QShowEvent* olay) {
+  Form::showEvent(olay);
+  if (!acik_)
+    QMetaObject::invokeMethod(
+        this, [this] { Kapat(); }, Qt::QueuedConnection);
+}
+
+void brdhazir::closeEvent(QCloseEvent* olay) {
+  if (acik_) giris_.KapanisDenetimi();
+  Form::closeEvent(olay);
+}
+
+}  // namespace belvani

@@ -1,0 +1,100 @@
+#include "screens/payroll/brdhaziralanlar.h"
+
+#include "payroll/hesap/satirlar.h"
+
+namespace belvani {
+namespace {
+
+constexpr int TutarHarfi = 11;
+
+// An amount of the calculated record: shown, not typed.
+template <class U>
+Alan Sonucta(Kolon<Brd, U> kolon, const char* etiket, AlanEki ek = {}) {
+  ek.kapali = true;
+  if (ek.harf == 0) ek.harf = TutarHarfi;
+  return Alan(
+      kolon, typeid(BordroSonucu),
+      [uye = kolon.uye](const void* s) { return UyeDegeri(static_cast<const BordroSonucu*>(s)->brd.*uye); },
+      [](void*, const Deger&) {}, etiket, ek);
+}
+
+Alan Toplamda(std::string_view ad, Tutar EkranToplamlari::*uye, const char* etiket) {
+  return {Uye(ad, uye), etiket, {.harf = TutarHarfi, .kapali = true}};
+}
+
+}  // namespace
+
+Alan KodAlani() {
+  return {Uye("kod", &BordroSecimi::kod, brd::kod.boyut), "Sicil No", {.anahtar = true}};
+}
+
+AlanGrubu GunGrubu() {
+  AlanGrubu grup{"Günler ve Mesai", {}};
+  for (std::size_t i = 0; i < GunKolonlari.size(); ++i)
+    grup.alanlar.emplace_back(GunKolonlari[i], KazancAdlari[i].data(), AlanEki{.enCok = EnCokGun});
+  for (std::size_t i = 0; i < MesaiKolonlari.size(); ++i)
+    grup.alanlar.emplace_back(MesaiKolonlari[i], KazancAdlari[GunSatiriSayisi + i].data(),
+                              AlanEki{.enCok = EnCokSaat, .harf = 6});
+  return grup;
+}
+
+AlanGrubu YardimGrubu(const YardimTanimlari& yardimlar) {
+  AlanGrubu grup{"Yardımlar", {}};
+  for (std::size_t i = 0; i < YardimKolonlari.size(); ++i)
+    grup.alanlar.emplace_back(YardimKolonlari[i], yardimlar[i].adi.c_str(), AlanEki{.harf = TutarHarfi});
+  return grup;
+}
+
+std::vector<AlanGrubu> OzetGruplari() {
+  return {{"Bordro Özeti",
+           {Toplamda("kazanclar", &EkranToplamlari::kazanclar, "Kazançlar"),
+            Toplamda("yardimlar", &EkranToplamlari::yardimlar, "Yardımlar"),
+            Toplamda("brut", &EkranToplamlari::brut, "TOPLAM"), Toplamda("ssk", &EkranToplamlari::ssk, "S.S.K."),
+            Toplamda("vergiler", &EkranToplamlari::vergiler, "G.V.+D.V."),
+            Toplamda("yasalKesinti", &EkranToplamlari::yasalKesinti, "Kesintiler"),
+            Toplamda("ozelKesinti", &EkranToplamlari::ozelKesinti, "Ö.Kes."),
+            Toplamda("agi", &EkranToplamlari::agi, "A.G.İ."), Toplamda("net", &EkranToplamlari::net, "NET"),
+            Alan(Uye("SskGun", &EkranToplamlari::SskGun), "Toplam Gün", {.kapali = true}),
+            Sonucta(brd::brutkaz, "Brüt Gelir")}}};
+}
+
+std::vector<AlanGrubu> AyrintiGruplari() {
+  return {{"Matrahlar",
+           {Sonucta(brd::sskmatrah, "SSK Matrahı"), Sonucta(brd::gvmatrah, "GV Matrahı"),
+            Sonucta(brd::devgvmatrah, "Dev. GV Matrahı"), Sonucta(brd::devgvtutar, "Dev. GV Tutarı"),
+            Toplamda("kumuleMatrah", &EkranToplamlari::kumuleMatrah, "Kümüle Gelir Vergisi"),
+            Toplamda("kumuleVergi", &EkranToplamlari::kumuleVergi, "Kümüle G.V. Tutarı")},
+           2},
+          {"İşçi ve İşveren Payları",
+           {Sonucta(brd::sskiscior, "SSK İşçi %", {.harf = 7}), Sonucta(brd::sskkesinti, "SSK İşçi"),
+            Sonucta(brd::issiziscior, "İşsizlik İşçi %", {.harf = 7}), Sonucta(brd::issizisci, "İşsizlik İşçi"),
+            Sonucta(brd::sskisverenor, "SSK İşveren %", {.harf = 7}), Sonucta(brd::gvtutar, "Gelir Vergisi"),
+            Sonucta(brd::issizisverenor, "İşsizlik İşvr. %", {.harf = 7}), Sonucta(brd::dvtutar, "Damga Vergisi"),
+            Sonucta(brd::sskkesintiisveren, "SSK İşveren"),
+            Toplamda("isciToplam", &EkranToplamlari::isciToplam, "İşçi TOPLAM"),
+            Sonucta(brd::issizisveren, "İşsizlik İşveren"),
+            Toplamda("isverenToplam", &EkranToplamlari::isverenToplam, "İşveren TOPLAM")},
+           2}};
+}
+
+AlanGrubu EksikGunGrubu() {
+  return {"Eksik Gün",
+          {{Uye("sebep", &BordroSecimi::sebep), "Eksik Gün S.", {.liste = EksikSebepleri, .harf = 16}},
+           {brd::ucretsizizin, "Ücretsiz İzin", {.enCok = 31, .harf = 3}},
+           {brd::rapcalismadi, "Raporda Çalışmadı", {.kutu = true}}},
+          3};
+}
+
+int BordroAlanNo(std::string_view ad) {
+  if (ad == "kod") return brdalan::Kod;
+  if (ad == brd::ucretsizizin.ad || ad == "sebep" || ad == brd::rapcalismadi.ad) return brdalan::UcretsizIzin;
+  for (std::size_t i = 0; i < GunKolonlari.size(); ++i)
+    if (GunKolonlari[i].ad == ad) return brdalan::IlkGun + int(i);
+  for (std::size_t i = 0; i < MesaiKolonlari.size(); ++i)
+    if (MesaiKolonlari[i].ad == ad) return brdalan::IlkGun + GunSatiriSayisi + int(i);
+  for (std::size_t i = 0; i < YardimKolonlari.size(); ++i)
+    if (YardimKolonlari[i].ad == ad) return brdalan::IlkYardim + int(i);
+  return -1;  // a result
+}
+
+}  // namespace belvani

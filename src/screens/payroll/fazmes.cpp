@@ -1,0 +1,29 @@
+#include "screens/payroll/fazmes.h"
+
+namespace belvani {
+namespace {
+
+constexpr std::string_view MesaiAdlari[] = {"Fazla Mesai", "Tatil Mesai", "Tatil Fazla Mesai"};
+
+}  // namespace
+
+fazmes::fazmes(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : ListeEkrani(baglam, parametreler, "fazmes", QStringLiteral("Fazla Mesai Ayarlamaları"),
+                  {AdKolonu<FazlaMesai>("Mesai", 170, MesaiAdlari),
+                   UyeKolonu("oran", "Ücret Çarpanı", 130, &FazlaMesai::oran, {.enCok = 99}),
+                   UyeKolonu("limit", "Limit", 110, &FazlaMesai::limit, {.enCok = 9999})}) {
+  Ac(3);
+}
+
+std::vector<FazlaMesai> fazmes::Satirlar() const {
+  const FazlaMesailer& mesailer = Parametreler().firma.mesailer;
+  return {mesailer.begin(), mesailer.end()};
+}
+
+bool fazmes::Yaz(const std::vector<FazlaMesai>& satirlar) {
+  FazlaMesailer mesailer;
+  std::ranges::copy(satirlar, mesailer.begin());
+  return FirmaYazildi(FazlaMesaiKaydet(Oturumu().FirmaDizini, mesailer));
+}
+
+}  // namespace belvani

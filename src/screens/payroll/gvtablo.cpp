@@ -1,0 +1,66 @@
+#include "screens/payroll/gvtablo.h"
+
+#include "payroll/parametre/ekrankurallari.h"
+
+namespace belvani {
+namespace {
+
+constexpr double EnCokLimit = 99'999'999'999'999;
+
+std::vector<SatirKolonu<VergiDilimi>> Kolonlar(int paraonda) {
+  return {{'b', "alt", "Matrah Aralığı", 150, [](const VergiDilimi& d, std::size_t) { return d.alt; }},
+          UyeKolonu("limit", "Üst Sınır", 170, &VergiDilimi::limit, {.enCok = EnCokLimit, .ondalik = paraonda}),
+          UyeKolonu("oran", "%Vergi", 90, &VergiDilimi::oran, {.enCok = 100})};
+}
+
+GvTablosu Tablo(const std::vector<VergiDilimi>& satirlar) {
+  GvTablosu tablo;
+  for (std::size_t i = 0; i < satirlar.size(); ++i) {
+    tablo.GvLimit[i] = satirlar[i].limit;
+    tablo.GvOran[i] = satirlar[i].oran;
+  }
+  return tablo;
+}
+
+}  // namespace
+
+gvtablo::gvtablo(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : gvtablo(baglam, parametreler,
+              std::exchange(baglam.oturum.PencereTip, {}) == "GV" ? Tur::GelirVergisi : Tur::OzelGider) {}
+
+gvtablo::gvtablo(EkranBaglami& baglam, ParametreDeposu& parametreler, Tur tur)
+    : ListeEkrani(baglam, parametreler, "gvtablo",
+                  tur == Tur::GelirVergisi ? QStringLiteral("Gelir Vergisi Tablosu")
+                                           : QStringLiteral("Özel Gider İndirimi GV Tablosu"),
+                  Kolonlar(baglam.oturum.paraonda)),
+      tur_(tur),
+      ozel_(OzelGvYukle(baglam.oturum.DataPath).deger) {
+  Liste().HucreDegisti = [this](int, const QString&) { AltSinirlariGoster(); };
+  if (tur_ == Tur::GelirVergisi) IndirDugmesi(ParametreDosyasi::Gv, [this] { ListeyiGoster(); });
+  Ac(8);
+}
+
+std::vector<VergiDilimi> gvtablo::Satirlar() const {
+  const GvTablosu& tablo = tur_ == Tur::GelirVergisi ? Parametreler().yasal.gv : ozel_;
+  std::vector<VergiDilimi> satirlar;
+  for (std::size_t i = 0; i < tablo.GvLimit.size(); ++i)
+    satirlar.push_back({GvAltSinirMetni(tablo, int(i)), tablo.GvLimit[i], tablo.GvOran[i]});
+  return satirlar;
+}
+
+bool gvtablo::Yaz(const std::vector<VergiDilimi>& satirlar) {
+  const GvTablosu tablo = Tablo(satirlar);
+  if (tur_ == Tur::GelirVergisi) return YasalYazildi(GvTablosuKaydet(Oturumu().DataPath, tablo));
+  if (!YasalYazildi(OzelGvKaydet(Oturumu().DataPath, tablo))) return false;
+  ozel_ = tablo;
+  return true;
+}
+
+// The bound of a row follows the limit typed above it.
+void gvtablo::AltSinirlariGoster() {
+  const GvTablosu tablo = Tablo(Okunan());
+  for (int satir = 0; satir < Liste().ListCount(); ++satir)
+    Liste().TextByName(satir, "alt", Yazi(GvAltSinirMetni(tablo, satir)));
+}
+
+}  // namespace belvani

@@ -1,0 +1,18 @@
+// heskod ("Hesap Türleri"): the fifty insurance branches. With the mode "edit" in the session's PencereTip they can be
+// changed; a row is saved when it is left.
+#pragma once
+
+#include "screens/payroll/listeekrani.h"
+
+namespace belvani {
+
+class heskod : public ListeEkrani<HesapTuru> {
+ public:
+  heskod(EkranBaglami& baglam, ParametreDeposu& parametreler);
+
+ private:
+  std::vector<HesapTuru> Satirlar() const override;
+  bool Yaz(const std::vector<HesapTuru>& satirlar) override;
+};
+
+}  // namespace belvani

@@ -1,0 +1,36 @@
+#include "screens/payroll/indfrm.h"
+
+#include "payroll/hesap/indirim.h"
+
+namespace belvani {
+namespace {
+
+constexpr std::string_view IndirimAdlari[] = {"İndirim1", "İndirim2", "İndirim3"};
+
+}  // namespace
+
+indfrm::indfrm(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : ListeEkrani(baglam, parametreler, "indfrm", QStringLiteral("İndirimler"),
+                  {AdKolonu<Indir>("", 80, IndirimAdlari),
+                   UyeKolonu("adi", "İndirim İsmi", 190, &Indir::adi, {.enCok = indir::adi.boyut}),
+                   UyeKolonu("sabit", "Sabit İndirim", 120, &Indir::sabit, {.ondalik = baglam.oturum.paraonda}),
+                   UyeKolonu("oran", "% İndirim", 90, &Indir::oran, {.enCok = 100}),
+                   UyeKolonu("indtip", "İndirim Yeri", 200, &Indir::indtip, {.liste = IndirimYerleri})}) {
+  Ac(3);
+}
+
+std::vector<Indir> indfrm::Satirlar() const {
+  std::vector<Indir> satirlar;
+  for (const auto& tanim : Parametreler().firma.indirimler) satirlar.push_back(tanim.value_or(Indir{}));
+  return satirlar;
+}
+
+bool indfrm::Yaz(const std::vector<Indir>& satirlar) {
+  std::array<Indir, 3> indirimler;
+  std::ranges::copy(satirlar, indirimler.begin());
+  if (!IndirimleriKaydet(Tanimlar(), indirimler)) return false;
+  ZoomEfekt();
+  return true;
+}
+
+}  // namespace belvani

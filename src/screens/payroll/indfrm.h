@@ -1,0 +1,17 @@
+// indfrm ("İndirimler"): the three deductions from the income-tax base.
+#pragma once
+
+#include "screens/payroll/listeekrani.h"
+
+namespace belvani {
+
+class indfrm : public ListeEkrani<Indir> {
+ public:
+  indfrm(EkranBaglami& baglam, ParametreDeposu& parametreler);
+
+ private:
+  std::vector<Indir> Satirlar() const override;
+  bool Yaz(const std::vector<Indir>& satirlar) override;
+};
+
+}  // namespace belvani

@@ -1,0 +1,66 @@
+#include "screens/payroll/kanun.h"
+
+#include <QTimer>
+
+#include "payroll/parametre/ekrankurallari.h"
+
+namespace belvani {
+namespace {
+
+constexpr int GorunenSatir = 10;
+
+}  // namespace
+
+kanun::kanun(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : ListeEkrani(baglam, parametreler, "kanun", QStringLiteral("Kanun Tarihleri"),
+                  {UyeKolonu("bastar", "Baş.Tarihi", 120, &KanunSatiri::bastar),
+                   UyeKolonu("bittar", "Bit.Tarihi", 120, &KanunSatiri::bittar),
+                   UyeKolonu("uygulama", "Uygulama", 100, &KanunSatiri::uygulama, {.enCok = 32767})}) {
+  Liste().YeniSatirli(true);
+  Liste().SatirGuncelle = [this](int satir) { return SatirSaglam(satir); };
+  Liste().SatirSil = [this](int) { return Bildirimi().Soru("Satır Silinecek..\nEminmisiniz ???"); };
+  // A text that is no date has come here as an empty one; what was typed stays in the cell.
+  Liste().Dogrula = [this](int, const QString& kolon, QString& metin) {
+    if (kolon == "uygulama" || !metin.isEmpty()) return true;
+    const Tarih dolu(2004, 1, 1);
+    Bildirimi().Bilgi(kolon == "bastar" ? KanunSatiriKusuru({{}, dolu}) : KanunSatiriKusuru({dolu, {}}));
+    return false;
+  };
+  auto* tuslar = new QLabel(QStringLiteral("Insert satır ekler, Delete siler."), this);
+  tuslar->setProperty("soluk", true);
+  Govde()->addWidget(tuslar);
+  Ac(GorunenSatir);
+}
+
+std::vector<KanunSatiri> kanun::Satirlar() const {
+  return Parametreler().yasal.kanunlar;
+}
+
+// Rows that were opened and never filled are left out.
+bool kanun::Yaz(const std::vector<KanunSatiri>& satirlar) {
+  Kanunlar dolular;
+  for (std::size_t i = 0; i < satirlar.size(); ++i) {
+    if (satirlar[i] == KanunSatiri{}) continue;
+    if (!SatirSaglam(int(i))) return false;
+    dolular.push_back(satirlar[i]);
+  }
+  if (!YasalYazildi(KanunlarKaydet(Oturumu().DataPath, dolular))) return false;
+  if (Parametreler().yasal.kanunlar != dolular)
+    Bildirimi().Bilgi("Dörtten az satır saklanamaz; hazır kanun tarihleri geri konuldu.");
+  return true;
+}
+
+// The cursor comes back to a row that cannot stand, whichever way it was left.
+bool kanun::SatirSaglam(int satir) {
+  const KanunSatiri okunan = Okunan()[std::size_t(satir)];
+  const std::string kusur = KanunSatiriKusuru(okunan);
+  if (kusur.empty()) return true;
+  Bildirimi().Bilgi(kusur);
+  QTimer::singleShot(0, &Liste(), [this, satir, bos = okunan.bastar.Bos()] {
+    Liste().HucreyeGit(satir, bos ? "bastar" : "bittar");
+    Liste().setFocus();
+  });
+  return false;
+}
+
+}  // namespace belvani

@@ -1,0 +1,98 @@
+#include "screens/payroll/kykm.h"
+
+#include <QGroupBox>
+
+#include "core/turkce.h"
+#include "payroll/hesap/satirlar.h"
+#include "payroll/parametre/ekrankurallari.h"
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+constexpr BayrakSutunu Sutunlar[] = {{bayrak::Acik, "Giriş", "Bordro Hazırlık'ta girişe açık"},
+                                     {bayrak::Ssk, "SSK", "SSK matrahına girer"},
+                                     {bayrak::Gv, "G.V.", "Gelir vergisi matrahına girer"},
+                                     {bayrak::Dv, "D.V.", "Damga vergisi matrahına girer"},
+                                     {bayrak::Muaf, "Muaf", "Muafiyet kuralı kadarı SSK matrahından düşülür"}};
+constexpr std::span<const BayrakSutunu> YardimSutunlari = Sutunlar;
+constexpr std::span<const BayrakSutunu> KazancSutunlari = YardimSutunlari.first(4);  // earnings have no exemption
+
+QGroupBox* Kutuda(const QString& baslik, QWidget* parca) {
+  auto* kutu = new QGroupBox(baslik);
+  auto* duzen = new QVBoxLayout(kutu);
+  duzen->addWidget(parca, 0, Qt::AlignLeft | Qt::AlignTop);
+  duzen->addStretch(1);
+  return kutu;
+}
+
+}  // namespace
+
+kykm::kykm(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : ParametreEkrani(baglam, parametreler, "kykm", QStringLiteral("Kazanç, Yardım Tanımları")),
+      gruplar_(new dclist(baglam.bildirim, this)) {
+  gruplar_->setObjectName("gruplar");
+  gruplar_->CreateNewCaption('m', "grup", "Grup", 190);
+  gruplar_->GenisKolon("grup");
+  gruplar_->setMinimumWidth(210);
+  Yerlestir();
+  gruplar_->SatirSecildi = [this](int satir) { GrupGoster(Utf8(gruplar_->Text(satir, 0))); };
+  // A new name keeps the flags on the screen: a new group starts as a copy.
+  AnahtarBagla("grup", [this](const std::string& ad) {
+    if (KazancGrubuVar(Parametreler().firma, ad)) GrupGoster(ad);
+  });
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Komut(
+      FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
+  GruplariGoster(Oturumu().ondeger);
+  IlkOdak(gruplar_);
+}
+
+void kykm::Yerlestir() {
+  auto* sol = new QVBoxLayout;
+  sol->addWidget(gruplar_, 1);
+  sol->addWidget(GrupYap({"Grup", {{kaztan::grup, "Adı", {.harf = 18}}}}));
+  kazanclar_ = new BayrakIzgarasi(KazancAdlari, KazancSutunlari, this);
+  yardimlar_ = new BayrakIzgarasi(TanimYardimAdlari, YardimSutunlari, this);
+  kazanclar_->setObjectName("kazanclar");
+  yardimlar_->setObjectName("yardimlar");
+  auto* yatay = new QHBoxLayout;
+  yatay->setSpacing(12);
+  yatay->addLayout(sol, 1);
+  yatay->addWidget(Kutuda(QStringLiteral("Kazançlar"), kazanclar_));
+  yatay->addWidget(Kutuda(QStringLiteral("Yardımlar"), yardimlar_));
+  Govde()->addLayout(yatay, 1);
+}
+
+void kykm::GruplariGoster(const std::string& secili) {
+  gruplar_->Clear();
+  for (const std::string& ad : KazancGruplari(Parametreler().firma)) gruplar_->Text(gruplar_->Add(), 0, Yazi(ad));
+  if (gruplar_->FindByName("grup", Yazi(secili)) < 0) gruplar_->ChngSat(0);
+}
+
+void kykm::GrupGoster(const std::string& grup) {
+  AnahtarKoy(grup);
+  bayraklar_ = KazancGrupYukle(Parametreler().firma, grup);
+  kazanclar_->Koy(bayraklar_.k);
+  yardimlar_->Koy(bayraklar_.y);
+}
+
+void kykm::Kaydet() {
+  AnahtariBul("grup");
+  if (!AlanlarSaglam(typeid(Kaztan))) return;
+  const std::string grup(Kirp(Utf8(YaziKutusu("grup").text())));
+  kazanclar_->Al(bayraklar_.k);
+  yardimlar_->Al(bayraklar_.y);
+  if (!KazancGrubuKaydet(Tanimlar(), grup, bayraklar_)) return;
+  ZoomEfekt();
+  GruplariGoster(grup);
+}
+
+void kykm::Sil() {
+  if (gruplar_->CurSat() < 0 || !KazancGrubuSil(Tanimlar(), Utf8(gruplar_->Text(gruplar_->CurSat(), 0)))) return;
+  GruplariGoster(Oturumu().ondeger);
+  gruplar_->setFocus();
+}
+
+}  // namespace belvani

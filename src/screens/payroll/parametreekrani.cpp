@@ -1,0 +1,51 @@
+#include "screens/payroll/parametreekrani.h"
+
+#include "core/turkce.h"
+#include "ui/mesgul.h"
+#include "ui/metin.h"
+
+namespace belvani {
+ParametreEkrani::ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, const QString& kelime,
+                                 const QString& baslik)
+    : Form(baglam, kelime, baslik), parametreler_(parametreler) {
+  AlanDegisti = [this](AlanDenetimi& alan) { degisen_.insert(&alan); };
+}
+
+void ParametreEkrani::IndirDugmesi(ParametreDosyasi dosya, std::function<void()> goster) {
+  DugmeEkle(QStringLiteral("Parametre İndir"), QStringLiteral("indir"), [this, dosya, goster = std::move(goster)] {
+    const Durum durum = [&] {
+      const MesgulImlec mesgul;
+      return parametreler_.DosyaIndir(Oturumu(), dosya);
+    }();
+    if (!durum) return Bildirimi().Uyari("Parametre Bulunamadı..");
+    Bildirimi().Bilgi("Parametre İndirildi..");
+    goster();
+  });
+}
+
+bool ParametreEkrani::YasalYazildi(const Durum& durum) {
+  if (!durum) {
+    Bildirimi().Uyari(durum.KusurMetni());
+    return false;
+  }
+  parametreler_.YasalYukle(Oturumu().DataPath);
+  ZoomEfekt();
+  return true;
+}
+
+bool ParametreEkrani::FirmaYazildi(const Durum& durum) {
+  const Durum yuklenen = durum ? parametreler_.FirmaYukle(Oturumu()) : durum;
+  if (!yuklenen) {
+    Bildirimi().Uyari(yuklenen.KusurMetni());
+    return false;
+  }
+  ZoomEfekt();
+  return true;
+}
+
+void ParametreEkrani::AnahtariBul(std::string_view ad) {
+  const std::string anahtar(Kirp(Utf8(YaziKutusu(ad).text())));
+  if (!anahtar.empty() && anahtar != SonAnahtar()) AnahtarAra(anahtar);
+}
+
+}  // namespace belvani

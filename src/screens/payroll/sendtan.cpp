@@ -1,0 +1,91 @@
+#include "screens/payroll/sendtan.h"
+
+#include "core/turkce.h"
+#include "payroll/hesap/sendikaaidati.h"
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+AlanGrubu Alanlar() {
+  return {"Sendika",
+          {{sendika::kod, "Sendika No", {.anahtar = true}},
+           {sendika::adi, "Sendika Adı"},
+           {sendika::sabit, "Sabit Kesinti"},
+           {sendika::oran, "Oran Kesinti", {.enCok = 100}},
+           {sendika::taban, "Taban"},
+           {sendika::tavan, "Tavan"},
+           {sendika::yer, "Kesinti Yeri", {.liste = KesintiYerleri}}}};
+}
+
+}  // namespace
+
+sendtan::sendtan(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : ParametreEkrani(baglam, parametreler, "sendtan", QStringLiteral("Sendika Tanımları")) {
+  auto* yatay = new QHBoxLayout;
+  yatay->setSpacing(12);
+  yatay->addWidget(GrupYap(Alanlar()));
+  liste_ = new dclist(baglam.bildirim, this);
+  liste_->setObjectName("liste");
+  liste_->CreateNewCaption('m', "kod", "Sendika No", 90);
+  liste_->CreateNewCaption('m', "adi", "Sendika Adı", 220);
+  liste_->GenisKolon("adi");
+  liste_->setMinimumSize(330, 220);
+  liste_->Secildi = [this](int satir) {
+    AnahtarAra(Utf8(liste_->Text(satir, 0)));
+    OdakVer("adi");
+  };
+  yatay->addWidget(liste_, 1);
+  Govde()->addLayout(yatay, 1);
+  AnahtarBagla("kod", [this](const std::string& kod) { Bul(kod); });
+  Komut(FormKomutu::Rehber, [this] { liste_->setFocus(); });
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Komut(
+      FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
+  ListeyiGoster();
+  Goster(sendika_);
+}
+
+void sendtan::ListeyiGoster() {
+  liste_->Clear();
+  for (const Sendika& s : Parametreler().firma.sendikalar) {
+    const int satir = liste_->Add();
+    liste_->Text(satir, 0, Yazi(s.kod));
+    liste_->Text(satir, 1, Yazi(s.adi));
+  }
+  liste_->ChngSat(0);
+}
+
+// Under a code that is not there yet, what stands on the screen becomes the new union.
+void sendtan::Bul(const std::string& kod) {
+  const Sendika* bulunan = SendikaBul(Parametreler().firma, kod);
+  if (bulunan == nullptr) return;
+  sendika_ = *bulunan;
+  Goster(sendika_);
+}
+
+void sendtan::Kaydet() {
+  AnahtariBul("kod");
+  Sendika sendika = sendika_;
+  if (!DegisenleriOku(sendika) || !SendikaKaydet(Tanimlar(), sendika)) return;
+  ZoomEfekt();
+  Yenile();
+}
+
+void sendtan::Sil() {
+  const std::string kod(Kirp(Utf8(YaziKutusu("kod").text())));
+  if (SendikaBul(Parametreler().firma, kod) == nullptr) return Bildirimi().Bilgi("Silinecek Kayıt Bulunamadı");
+  if (SendikaSil(Tanimlar(), kod)) Yenile();
+}
+
+// Ready for the next one.
+void sendtan::Yenile() {
+  ListeyiGoster();
+  Temizle();
+  sendika_ = {};
+  Goster(sendika_);
+  IlkAlanaGit();
+}
+
+}  // namespace belvani

@@ -1,0 +1,37 @@
+#include "screens/payroll/yrdisim.h"
+
+#include "core/tables/muaf.h"
+#include "payroll/hesap/muafiyet.h"
+
+namespace belvani {
+namespace {
+
+constexpr std::string_view YardimNolari[] = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11"};
+static_assert(std::size(YardimNolari) == YardimSayisi);
+
+}  // namespace
+
+yrdisim::yrdisim(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : ListeEkrani(baglam, parametreler, "yrdisim", QStringLiteral("Yardım İsimlendirme"),
+                  {AdKolonu<YardimTanimi>("No", 40, YardimNolari),
+                   UyeKolonu("adi", "Açıklama", 220, &YardimTanimi::adi, {.enCok = muaf::adi.boyut}),
+                   UyeKolonu("indtip", "Muafiyet Şekli", 180, &YardimTanimi::indtip, {.liste = MuafiyetSekilleri}),
+                   UyeKolonu("oran", "Oran %", 90, &YardimTanimi::oran, {.enCok = 9999}),
+                   UyeKolonu("sabit", "Sabit", 120, &YardimTanimi::sabit, {.ondalik = baglam.oturum.paraonda})}) {
+  Ac(YardimSayisi);
+}
+
+std::vector<YardimTanimi> yrdisim::Satirlar() const {
+  const YardimTanimlari& yardimlar = Parametreler().firma.yardimlar;
+  return {yardimlar.begin(), yardimlar.end()};
+}
+
+bool yrdisim::Yaz(const std::vector<YardimTanimi>& satirlar) {
+  YardimTanimlari yardimlar;
+  std::ranges::copy(satirlar, yardimlar.begin());
+  if (!YardimlariKaydet(Tanimlar(), yardimlar)) return false;
+  ZoomEfekt();
+  return true;
+}
+
+}  // namespace belvani

@@ -1,0 +1,17 @@
+// yrdisim ("Yardım İsimlendirme"): names and exemption rules of the eleven allowances.
+#pragma once
+
+#include "screens/payroll/listeekrani.h"
+
+namespace belvani {
+
+class yrdisim : public ListeEkrani<YardimTanimi> {
+ public:
+  yrdisim(EkranBaglami& baglam, ParametreDeposu& parametreler);
+
+ private:
+  std::vector<YardimTanimi> Satirlar() const override;
+  bool Yaz(const std::vector<YardimTanimi>& satirlar) override;
+};
+
+}  // namespace belvani

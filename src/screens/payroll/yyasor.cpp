@@ -1,0 +1,128 @@
+#include "screens/payroll/yyasor.h"
+
+#include "payroll/parametre/ekrankurallari.h"
+#include "payroll/parametre/mevzuat.h"
+#include "screens/payroll/kolonbasliklari.h"
+
+namespace belvani {
+namespace {
+
+constexpr int AdGenisligi = 300;
+constexpr int OranGenisligi = 60;
+constexpr int ListeBoyu = 300;
+
+struct OranKolonu {
+  const char* ad;
+  const char* iad;  // of the employer's side
+  const char* baslik;
+  Tek OranSatiri::*oran;
+};
+constexpr OranKolonu OranKolonlari[] = {{"ana", "iana", "Ana.", &OranSatiri::ana},
+                                        {"has", "ihas", "Hast.", &OranSatiri::has},
+                                        {"mal", "imal", "Mal.", &OranSatiri::mal},
+                                        {"sgdp", "isgdp", "SGDP", &OranSatiri::sgdp},
+                                        {"isz", "iisz", "İşsz.", &OranSatiri::isz}};
+
+std::vector<SatirKolonu<DalSatiri>> Kolonlar() {
+  std::vector<SatirKolonu<DalSatiri>> kolonlar{
+      {'b', "no", "No", 36, [](const DalSatiri& d, std::size_t) { return std::to_string(d.no); }},
+      {'m', "ack", "Hesap Türü", AdGenisligi, [](const DalSatiri& d, std::size_t) { return d.ack; }}};
+  const auto tarafiEkle = [&](OranSatiri DalSatiri::*taraf, const char* OranKolonu::*ad, const char* toplamAdi) {
+    for (const OranKolonu& k : OranKolonlari)
+      kolonlar.push_back(UyeKolonuYap<DalSatiri>(
+          k.*ad, k.baslik, OranGenisligi, [ taraf, oran = k.oran ](auto& dal) -> auto& { return dal.*taraf.*oran; },
+          {.enCok = 100}));
+    kolonlar.push_back({'b', toplamAdi, "Top.", OranGenisligi,
+                        [taraf](const DalSatiri& d, std::size_t) { return SayiHucresi(OranToplami(d.*taraf), 2); }});
+  };
+  tarafiEkle(&DalSatiri::isci, &OranKolonu::ad, "top");
+  tarafiEkle(&DalSatiri::isveren, &OranKolonu::iad, "itop");
+  return kolonlar;
+}
+
+AlanGrubu Tutarlar() {
+  const auto sakatlik = [](const char* ad, std::size_t sira, const char* etiket) {
+    return DiziAlani(ad, &YasalOranlar::SakatIndirim, sira, etiket);
+  };
+  return {"",
+          {{Uye("AsgariUcret", &YasalOranlar::AsgariUcret), "Asgari Ücret"},
+           {Uye("SskTaban", &YasalOranlar::SskTaban), "SSK Taban Matrah"},
+           {Uye("SskTavan", &YasalOranlar::SskTavan), "SSK Tavan Matrah"},
+           {Uye("KidemTavan", &YasalOranlar::KidemTavan), "Kıdem T. Tavan"},
+           sakatlik("SakatIndirim1", 0, "Sakatlık İndirimi -1"),
+           sakatlik("SakatIndirim2", 1, "Sakatlık İndirimi -2"),
+           sakatlik("SakatIndirim3", 2, "Sakatlık İndirimi -3"),
+           {Uye("DamgaOran", &YasalOranlar::DamgaOran), "Damga Vergisi (Binde)", {.enCok = 1000}},
+           {Uye("MuafTavan", &YasalOranlar::MuafTavan), "Sigorta Muaf. Tavan"},
+           {Uye("MuafOran", &YasalOranlar::MuafOran), "Sigorta Muaf. Oran"}},
+          4};
+}
+
+std::vector<DalSatiri> Dallar(const YasalParametreler& yasal) {
+  std::vector<DalSatiri> dallar;
+  for (const int sira : OranliDallar(yasal.hesapTurleri)) {
+    const HesapTuru& tur = yasal.hesapTurleri[std::size_t(sira)];
+    if (tur.no > DalSayisi) continue;  // a number of the user's own, without rates
+    dallar.push_back({tur.no, tur.ack, yasal.oranlar.IsciOran[tur.no - 1u], yasal.oranlar.IsverenOran[tur.no - 1u]});
+  }
+  return dallar;
+}
+
+}  // namespace
+
+yyasor::yyasor(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : ParametreEkrani(baglam, parametreler, "yyasor", QStringLiteral("Yasal Oranlar")),
+      liste_(new dclist(baglam.bildirim, this)),
+      tablo_(*liste_, Kolonlar()),
+      uyari_(new QLabel(this)) {
+  uyari_->setProperty("hata", true);
+  uyari_->setObjectName("donemuyari");
+  liste_->setObjectName("liste");
+  liste_->Editable(true);
+  liste_->YeniSatirli(false);
+  liste_->SatirGuncelle = [this](int satir) { return SatirAl(satir); };
+  SatirlaraYerAc(*liste_, 0);
+  liste_->setMinimumHeight(ListeBoyu);
+  liste_->GenisKolon("ack");
+  auto* basliklar = new KolonBasliklari(*liste_, this);
+  basliklar->Ekle(QStringLiteral("SSK İşçi Oranları"), "ana", "top");
+  basliklar->Ekle(QStringLiteral("SSK İşveren Oranları"), "iana", "itop");
+  Govde()->addWidget(uyari_);
+  Govde()->addWidget(basliklar);
+  Govde()->addWidget(liste_, 1);
+  AlanlariDiz({{Tutarlar()}});
+  IndirDugmesi(ParametreDosyasi::Yasal, [this] { Goster(); });
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  IlkOdak(liste_);
+  Goster();
+}
+
+void yyasor::Goster() {
+  dallar_ = Dallar(Parametreler().yasal);
+  tablo_.Doldur(dallar_);
+  ParametreEkrani::Goster(Parametreler().yasal.oranlar);
+  const std::string uyusmazlik = DonemUyusmazligi(Parametreler().yasal, Oturumu().firmayil, Oturumu().firmaay);
+  uyari_->setText(Yazi(uyusmazlik));
+  uyari_->setVisible(!uyusmazlik.empty());
+}
+
+// A row is left: its totals follow.
+bool yyasor::SatirAl(int satir) {
+  DalSatiri& dal = dallar_[std::size_t(satir)];
+  dal = tablo_.Oku(std::size_t(satir), dal);
+  tablo_.Goster(std::size_t(satir), dal);
+  return true;
+}
+
+void yyasor::Kaydet() {
+  YasalOranlar oranlar = Parametreler().yasal.oranlar;
+  if (!liste_->OkUpdateData() || !DegisenleriOku(oranlar)) return;
+  for (const DalSatiri& dal : dallar_) {
+    oranlar.IsciOran[dal.no - 1u] = dal.isci;
+    oranlar.IsverenOran[dal.no - 1u] = dal.isveren;
+  }
+  if (YasalYazildi(YasalOranlarKaydet(Oturumu().DataPath, oranlar))) Goster();
+}
+
+}  // namespace belvani

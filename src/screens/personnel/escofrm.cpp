@@ -1,0 +1,159 @@
+#include "screens/personnel/escofrm.h"
+
+#include <QKeyEvent>
+
+#include "personnel/aile.h"
+#include "personnel/kart.h"
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+struct KodluKolon {
+  const char* ad;
+  Liste secenekler;
+  std::uint8_t Esco::*uye;
+};
+
+const std::array<KodluKolon, 3> KodluKolonlar{{{"yakinlik", Yakinliklar, &Esco::yakinlik},
+                                               {"cins", KodluCinsiyetler, &Esco::cins},
+                                               {"agi", AgiDurumlari, &Esco::agiok}}};
+
+struct MetinKolonu {
+  const char* ad;
+  std::string Esco::*uye;
+};
+
+constexpr MetinKolonu MetinKolonlari[] = {{"tckimlik", &Esco::tcno},
+                                          {"adi", &Esco::adi},
+                                          {"soyadi", &Esco::soyadi},
+                                          {"dogyer", &Esco::dogyer},
+                                          {"adr", &Esco::adr}};
+
+QStringList Secenekler(Liste liste) {
+  QStringList metinler;
+  for (const std::string_view secenek : liste) metinler += Yazi(secenek);
+  return metinler;
+}
+
+}  // namespace
+
+escofrm::escofrm(EkranBaglami& baglam)
+    : PersonelFormu(baglam, "escofrm", QStringLiteral("Eş ve Çocuk Bilgileri")),
+      liste_(new dclist(baglam.bildirim, this)) {
+  AlanlariDiz({{{"Personel", {EtiketliAlan(esco::kod, {.anahtar = true}), AdSoyAlani()}, 2}}});
+  ListeyiKur();
+  Govde()->addWidget(liste_, 1);
+  auto* ipucu = new QLabel(
+      QStringLiteral(
+          "Listede: Enter düzeltir · Insert yeni satır ekler · Delete siler. Satırdan ayrılınca kaydedilir."),
+      this);
+  ipucu->setProperty("soluk", true);
+  Govde()->addWidget(ipucu);
+  setTabOrder(&YaziKutusu("kod"), liste_);
+  Komut(FormKomutu::Kaydet, [this] { liste_->OkUpdateData(); });
+  PersonelKomutlari();
+}
+
+void escofrm::ListeyiKur() {
+  const auto ekle = [this](char tip, const char* ad, auto kolon, int genislik) {
+    liste_->CreateNewCaption(tip, ad, Yazi(AlanEtiketi(Esco::TabloAdi, kolon.ad)), genislik, kolon.boyut);
+  };
+  ekle('a', "tckimlik", esco::tcno, 110);
+  ekle('a', "adi", esco::adi, 120);
+  ekle('a', "soyadi", esco::soyadi, 120);
+  ekle('s', "yakinlik", esco::yakinlik, 100);
+  ekle('s', "cins", esco::cins, 90);
+  ekle('t', "dogtar", esco::dogtar, 100);
+  ekle('a', "dogyer", esco::dogyer, 120);
+  ekle('a', "adr", esco::adr, 230);
+  ekle('s', "agi", esco::agiok, 90);
+  ekle('b', "oto", esco::oto, 0);
+  for (const KodluKolon& k : KodluKolonlar) liste_->SecenekKoy(k.ad, Secenekler(k.secenekler));
+  liste_->Gizle("oto");
+  liste_->GenisKolon("adr");
+  liste_->setMinimumSize(1080, 300);
+  liste_->SatirGuncelle = [this](int satir) { return SatirKaydet(satir); };
+  liste_->SatirSil = [this](int satir) { return SatirSil(satir); };
+  liste_->Tus = [this](const QKeyEvent& olay) { return ListeTusu(olay); };
+}
+
+// A row that was not taken must not be lost: the list then stays with its person.
+bool escofrm::Bul(const std::string& kod) {
+  if (liste_->OkUpdateData()) {
+    Goster(kod);
+    return true;
+  }
+  AnahtarKoy(kod_);
+  liste_->setFocus();
+  return false;
+}
+
+void escofrm::Git(Yon yon) {
+  if (!liste_->OkUpdateData()) return;
+  if (const auto kart = KartGit(Oturumu(), yon, kod_)) Goster(kart->kod);
+}
+
+void escofrm::Goster(const std::string& kod) {
+  kod_ = kod;
+  AnahtarKoy(kod);
+  AdiGoster(kod);
+  liste_->Model().TopluBasla();
+  liste_->Clear();
+  for (const Esco& esco : AileOku(Oturumu(), kod)) SatiriGoster(liste_->Add(), esco);
+  liste_->Model().TopluBitir();
+  liste_->Editable(true);
+  liste_->ChngSat(0);
+  AlaniSec();
+}
+
+void escofrm::SatiriGoster(int satir, const Esco& esco) {
+  for (const MetinKolonu& k : MetinKolonlari) liste_->TextByName(satir, k.ad, Yazi(esco.*k.uye));
+  for (const KodluKolon& k : KodluKolonlar)
+    liste_->TextByName(satir, k.ad, Yazi(KodluMetin(k.secenekler, esco.*k.uye)));
+  liste_->TextByName(satir, "dogtar", Yazi(esco.dogtar.Metin()));
+  liste_->TextByName(satir, "oto", QString::number(esco.oto));
+}
+
+// A coded cell that was never opened takes the first choice, which its editor would have shown.
+Esco escofrm::SatirdanOku(int satir) const {
+  Esco esco;
+  esco.kod = kod_;
+  for (const MetinKolonu& k : MetinKolonlari) esco.*k.uye = Utf8(liste_->TextByName(satir, k.ad));
+  for (const KodluKolon& k : KodluKolonlar) {
+    const std::string hucre = Utf8(liste_->TextByName(satir, k.ad));
+    esco.*k.uye = KodSayisi(hucre.empty() ? k.secenekler.front() : std::string_view(hucre));
+  }
+  esco.dogtar = Tarih::MetinOku(Utf8(liste_->TextByName(satir, "dogtar")));
+  esco.oto = liste_->TextByName(satir, "oto").toInt();
+  return esco;
+}
+
+bool escofrm::SatirKaydet(int satir) {
+  const auto oto = AileKaydet(Oturumu(), SatirdanOku(satir), Bildirimi());
+  if (!oto) return false;
+  for (const Esco& esco : AileOku(Oturumu(), kod_))
+    if (esco.oto == *oto) SatiriGoster(satir, esco);
+  ZoomEfekt();
+  return true;
+}
+
+bool escofrm::SatirSil(int satir) {
+  const int oto = liste_->TextByName(satir, "oto").toInt();
+  const bool hicKaydedilmedi = oto == 0;
+  return hicKaydedilmedi ? Bildirimi().Soru("Kayıt Silinecek ?") : AileSil(Oturumu(), oto, Bildirimi());
+}
+
+// Keys of the screen that the list would keep for its own rows.
+bool escofrm::ListeTusu(const QKeyEvent& olay) {
+  const bool kisiTusu =
+      olay.key() == Qt::Key_PageUp || olay.key() == Qt::Key_PageDown || olay.key() == Qt::Key_F2 ||
+      olay.key() == Qt::Key_F5 ||
+      (olay.modifiers() == Qt::ControlModifier && (olay.key() == Qt::Key_Home || olay.key() == Qt::Key_End));
+  if (!kisiTusu) return false;
+  QKeyEvent ekrana(QEvent::KeyPress, olay.key(), olay.modifiers());
+  keyPressEvent(&ekrana);
+  return true;
+}
+
+}  // namespace belvani

@@ -1,0 +1,43 @@
+#include "screens/personnel/kontfrm.h"
+
+#include <QGroupBox>
+#include <QLineEdit>
+
+#include "personnel/kontrol.h"
+#include "ui/metin.h"
+
+namespace belvani {
+
+kontfrm::kontfrm(EkranBaglami& baglam)
+    : Form(baglam, "kontfrm", QStringLiteral("Kontrol İşlemleri")), liste_(new dclist(baglam.bildirim, this)) {
+  liste_->CreateNewCaption('m', "kod", "Kod", 90);
+  liste_->CreateNewCaption('m', "adsoy", "Adı Soyadı", 240);
+  liste_->CreateNewCaption('m', "sonuc", "Sonuç", 320);
+  liste_->GenisKolon("sonuc");
+  liste_->setMinimumSize(700, 380);
+  auto* kutu = new QGroupBox(QStringLiteral("Kontrol Sonucları"), this);
+  auto* duzen = new QVBoxLayout(kutu);
+  QLineEdit* arama = liste_->AramaKutusu(kutu);
+  Izle(arama);
+  duzen->addWidget(arama);
+  duzen->addWidget(liste_, 1);
+  Govde()->addWidget(kutu, 1);
+  Doldur();
+  IlkOdak(liste_);
+}
+
+void kontfrm::Doldur() {
+  const auto rapor = KontrolRaporu(Oturumu());
+  if (!rapor) return Bildirimi().Uyari(rapor.KusurMetni());
+  liste_->Model().TopluBasla();
+  for (const KontrolSatiri& kusur : *rapor) {
+    const int satir = liste_->Add();
+    liste_->Text(satir, 0, Yazi(kusur.kod));
+    liste_->Text(satir, 1, Yazi(kusur.adsoy));
+    liste_->Text(satir, 2, Yazi(kusur.sonuc));
+  }
+  liste_->Model().TopluBitir();
+  liste_->ChngSat(0);
+}
+
+}  // namespace belvani

@@ -1,0 +1,79 @@
+#include "screens/personnel/nufus.h"
+
+#include "personnel/kimlik.h"
+
+namespace belvani {
+namespace {
+
+std::vector<std::vector<AlanGrubu>> Gruplar() {
+  return {{{"Personel", {EtiketliAlan(kimlik::kod, {.anahtar = true}), AdSoyAlani()}, 2},
+           {"Kimlik",
+            {EtiketliAlan(kimlik::serino), EtiketliAlan(kimlik::tcno, {.harf = 15}),
+             EtiketliAlan(kimlik::cins, {.liste = Cinsiyetler, .harf = 13}),
+             EtiketliAlan(kimlik::medeni, {.liste = MedeniHaller, .harf = 13}), EtiketliAlan(kimlik::baba),
+             EtiketliAlan(kimlik::ana), EtiketliAlan(kimlik::uyruk, {.harf = 15}), EtiketliAlan(kimlik::dogyer),
+             EtiketliAlan(kimlik::dogtar), EtiketliAlan(kimlik::dini, {.liste = Dinler, .harf = 13}),
+             EtiketliAlan(kimlik::kan, {.liste = KanGruplari, .harf = 13})},
+            2},
+           {"Nüfusa Kayıtlı Olduğu Yer",
+            {EtiketliAlan(kimlik::il), EtiketliAlan(kimlik::ilce), EtiketliAlan(kimlik::mahkoy),
+             EtiketliAlan(kimlik::cilt), EtiketliAlan(kimlik::sayfa), EtiketliAlan(kimlik::kutuk)},
+            2}},
+          {{"Nüfus Cüzdanı",
+            {EtiketliAlan(kimlik::nufusd), EtiketliAlan(kimlik::versebeb), EtiketliAlan(kimlik::kayitno),
+             EtiketliAlan(kimlik::vertar)}},
+           {"Tahsil ve Adres",
+            {EtiketliAlan(kimlik::tahsil, {.liste = Tahsiller, .harf = 13}), EtiketliAlan(kimlik::adr1),
+             Alan(kimlik::adr2, ""), EtiketliAlan(kimlik::tel)}}}};
+}
+
+}  // namespace
+
+nufus::nufus(EkranBaglami& baglam) : PersonelFormu(baglam, "nufus", QStringLiteral("Personel Kimlik Bilgileri")) {
+  AlanlariDiz(Gruplar());
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Komut(
+      FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
+  PersonelKomutlari();
+  Temizle();
+}
+
+bool nufus::Bul(const std::string& kod) {
+  if (const auto kimlik = KimlikBul(Oturumu(), kod)) {
+    Goster(*kimlik);
+    return true;
+  }
+  Temizle();
+  AnahtarKoy(kod);
+  AdiGoster(kod);
+  return false;
+}
+
+void nufus::Git(Yon yon) {
+  if (const auto kimlik = KimlikGit(Oturumu(), yon, SonAnahtar())) Goster(*kimlik);
+}
+
+void nufus::Goster(const Kimlik& kimlik) {
+  Temizle();
+  Yukle(kimlik);
+  AnahtarKoy(kimlik.kod);
+  AdiGoster(kimlik.kod);
+  AlaniSec();
+}
+
+// The record stays on the screen; the code of the next person may be typed over this one's.
+void nufus::Kaydet() {
+  Kimlik kimlik;
+  if (!EkrandakiMi() || !Oku(kimlik) || !KimlikKaydet(Oturumu(), kimlik, Bildirimi())) return;
+  KoddanBasla();
+  ZoomEfekt();
+}
+
+void nufus::Sil() {
+  if (!EkrandakiMi() || !KimlikSil(Oturumu(), YazilanKod(), Bildirimi())) return;
+  Temizle();
+  KoddanBasla();
+}
+
+}  // namespace belvani

@@ -1,0 +1,135 @@
+#include "screens/personnel/percik.h"
+
+#include <QGroupBox>
+
+#include "core/session/firmabilgi.h"
+#include "core/tables/kimlik.h"
+#include "core/tables/sicil.h"
+#include "documents/ibraname.h"
+#include "personnel/kart.h"
+#include "screens/personnel/odemetablosu.h"
+#include "ui/basim.h"
+
+namespace belvani {
+namespace {
+
+constexpr int AdSoyadHarfi = sicil::adi.boyut + 1 + sicil::soyadi.boyut;
+constexpr int AdresHarfi = 30;
+
+AlanGrubu PersonelGrubu() {
+  return {"Personel",
+          {{Uye("kod", &CikisFormu::kod, sicil::kod.boyut), "Sicil No", {.anahtar = true}},
+           {Uye("adSoyad", &CikisFormu::adSoyad, AdSoyadHarfi), "Adı Soyadı", {.harf = AdSoyadHarfi, .kapali = true}},
+           {Uye("sskno", &CikisFormu::sskno, sicil::sskno.boyut), "SSK Sicil No", {.kapali = true}}},
+          3};
+}
+
+AlanGrubu CikisGrubu() {
+  return {"Çıkış",
+          {{Uye("girtar", &CikisFormu::girtar), "Giriş Tarihi", {.ipucu = "İbranameye basılır; kartı değiştirmez"}},
+           {Uye("ciktar", &CikisFormu::ciktar), "Çıkış Tarihi"},
+           {Uye("cikiskodu", &CikisFormu::cikiskodu), "Çıkış Kodu", {.liste = CikisKodlari}},
+           {Uye("cikissebebi", &CikisFormu::cikissebebi, sicil::cikissebebi.boyut), "Çıkış Sebebi"}}};
+}
+
+AlanGrubu AdresGrubu() {
+  return {"Tebligat Adresi",
+          {{Uye("adr1", &CikisFormu::adr1, kimlik::adr1.boyut), "Adresi", {.harf = AdresHarfi}},
+           {Uye("adr2", &CikisFormu::adr2, kimlik::adr2.boyut), "", {.harf = AdresHarfi}},
+           {Uye("tel", &CikisFormu::tel, kimlik::tel.boyut), "Telefon"}}};
+}
+
+}  // namespace
+
+percik::percik(EkranBaglami& baglam) : PersonelFormu(baglam, "percik", QStringLiteral("Personel İşten Çıkış Formu")) {
+  Yerlestir();
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Çıkış Kaydet"));
+  DugmeEkle(QStringLiteral("Çıkış Geri Al"), "degistir", [this] { GeriAl(); });
+  DugmeEkle(Qt::Key_F8, QStringLiteral(" Yazdır "), "yazici", [this] { Yazdir(); });
+  PersonelKomutlari();
+  Goster({});
+}
+
+void percik::Yerlestir() {
+  Govde()->addWidget(GrupYap(PersonelGrubu()));
+  Govde()->addWidget(GrupYap(CikisGrubu()));
+  auto* yatay = new QHBoxLayout;
+  yatay->setSpacing(12);
+  yatay->addWidget(GrupYap(AdresGrubu()));
+  auto* kutu = new QGroupBox(QStringLiteral("İbraname Ödemeleri"), this);
+  auto* icerik = new QVBoxLayout(kutu);
+  odemeler_ = new OdemeTablosu(Bildirimi(), Oturumu().paraonda, kutu);
+  icerik->addWidget(odemeler_, 0, Qt::AlignLeft | Qt::AlignTop);
+  yatay->addWidget(kutu, 1);
+  Govde()->addLayout(yatay);
+}
+
+bool percik::Bul(const std::string& kod) {
+  const auto bulunan = CikisBul(Oturumu(), kod);
+  CikisFormu form = bulunan.value_or(CikisFormu());
+  if (!bulunan) form.kod = kod;
+  Goster(form);
+  return bulunan.has_value();
+}
+
+void percik::Git(Yon yon) {
+  if (const auto kart = KartGit(Oturumu(), yon, SonAnahtar())) Bul(kart->kod);
+}
+
+void percik::Goster(const CikisFormu& form) {
+  Temizle();
+  Yukle(form);
+  odemeler_->Bosalt();
+  AnahtarKoy(form.kod);
+  AlaniSec();
+}
+
+// A date that is none goes on as an empty one: the checks of leaving have their own words for it.
+CikisFormu percik::Okunan() const {
+  CikisFormu form;
+  for (const auto& d : Denetimler()) d->Satir().yaz(&form, d->Oku());
+  return form;
+}
+
+// The person stays on the screen, for his release; the code of the next one may be typed over his.
+void percik::Kaydet() {
+  if (!EkrandakiMi()) return;
+  const CikisFormu form = Okunan();
+  if (!CikisKaydet(Oturumu(), form, Bildirimi())) return KusuraGit(form);
+  KoddanBasla();
+  ZoomEfekt();
+}
+
+// To the field that was told of.
+void percik::KusuraGit(const CikisFormu& form) {
+  if (form.girtar.Bos())
+    OdakVer("girtar");
+  else if (form.ciktar < form.girtar)
+    OdakVer("ciktar");
+  else if (form.cikiskodu == 0)
+    OdakVer("cikiskodu");
+  else if (Kirp(form.cikissebebi).empty())
+    OdakVer("cikissebebi");
+  else
+    KoddanBasla();
+}
+
+void percik::GeriAl() {
+  if (!EkrandakiMi() || !CikisGeriAl(Oturumu(), YazilanKod(), Bildirimi())) return;
+  Goster({});
+  KoddanBasla();
+  ZoomEfekt(QStringLiteral("Çıkış geri alındı"));
+}
+
+void percik::Yazdir() {
+  if (!EkrandakiMi() || !odemeler_->Bitir()) return;
+  const auto belge = IbranameBelgesi({.form = Okunan(),
+                                      .firma = FirmaOku(Oturumu()),
+                                      .odemeler = odemeler_->Oku(),
+                                      .tarih = Tarih::Bugun(),
+                                      .paraonda = Oturumu().paraonda});
+  BelgeBas(Baglam(), *belge);
+}
+
+}  // namespace belvani

@@ -1,0 +1,137 @@
+#include "screens/personnel/pergir.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+
+#include "core/dosya.h"
+#include "core/session/firmabilgi.h"
+#include "documents/girisbildirgesi.h"
+#include "personnel/kart.h"
+#include "screens/personnel/pergiralanlar.h"
+#include "screens/personnel/sigortakollari.h"
+#include "ui/basim.h"
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+constexpr const char* AmblemDosyasi = "Image/ssklogo.png";
+
+}  // namespace
+
+pergir::pergir(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : PersonelFormu(baglam, "pergir", QStringLiteral("Sigortalı İşe Giriş Formu")), parametreler_(parametreler) {
+  Yerlestir();
+  SecenekleriKoy(Denetim("sskdurum"), SigortaKollari(parametreler.yasal.hesapTurleri));
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral(" Kaydet "));
+  DugmeEkle(Qt::Key_F8, QStringLiteral(" Yazdır "), "yazici", [this] { Yazdir(); });
+  PersonelKomutlari();
+  AlanDegisti = [this](AlanDenetimi& alan) {
+    if (alan.Satir().tanim.ad == "emekliTercihi") TahsisNoyuAcKapat();
+  };
+  Goster(BosGirisFormu(Tarih::Bugun()));
+}
+
+// The keyboard goes through the paper's numbers: down each column, from left to right.
+void pergir::Yerlestir() {
+  auto* yatay = new QHBoxLayout;
+  yatay->setSpacing(12);
+  const auto sutun = [&](const std::vector<QWidget*>& gruplar) {
+    auto* dikey = new QVBoxLayout;
+    dikey->setSpacing(10);
+    for (QWidget* grup : gruplar) dikey->addWidget(grup);
+    dikey->addStretch(1);
+    yatay->addLayout(dikey);
+  };
+  sutun({GrupYap(GirisBasligi()), GrupYap(GirisKimligi())});
+  sutun({GrupYap(GirisNufusKaydi()), GrupYap(GirisAdresi()), SandiklariYap()});
+  sutun({GrupYap(GirisEskiIsyeri()), GrupYap(GirisBilgileri())});
+  Govde()->addLayout(yatay);
+}
+
+// A body, its number of the person beside it, its pension below.
+QWidget* pergir::SandiklariYap() {
+  auto* kutu = new QGroupBox(QString::fromUtf8(SandikBasligi), this);
+  auto* izgara = new QGridLayout(kutu);
+  izgara->setHorizontalSpacing(10);
+  izgara->setVerticalSpacing(6);
+  for (std::size_t i = 0; i < SandikSayisi; ++i) {
+    const SandikAlanlari alanlar = SandikSatiri(i);
+    const int satir = int(i) * 2;
+    izgara->addWidget(DenetimEkle(alanlar.uye, kutu).Parca(), satir, 0);
+    AlanDenetimi& no = DenetimEkle(alanlar.no, kutu);
+    auto* etiket = new QLabel(Yazi(alanlar.no.etiket), kutu);
+    etiket->setBuddy(no.Odak());
+    izgara->addWidget(etiket, satir, 1);
+    izgara->addWidget(no.Parca(), satir, 2, Qt::AlignLeft);
+    izgara->addWidget(DenetimEkle(alanlar.aylik, kutu).Parca(), satir + 1, 0, 1, 3);
+  }
+  izgara->setColumnStretch(2, 1);
+  return kutu;
+}
+
+bool pergir::Bul(const std::string& kod) {
+  const Tarih bugun = Tarih::Bugun();
+  auto bulunan = GirisBul(Oturumu(), kod, bugun);
+  GirisFormu form = bulunan ? std::move(*bulunan) : BosGirisFormu(bugun);
+  if (!bulunan) form.sicil.kod = kod;
+  Goster(form);
+  return bulunan.has_value();
+}
+
+void pergir::Git(Yon yon) {
+  if (const auto kart = KartGit(Oturumu(), yon, SonAnahtar())) Bul(kart->kod);
+}
+
+void pergir::Goster(const GirisFormu& form) {
+  Temizle();
+  Yukle(form.sicil);
+  Yukle(form.kimlik);
+  Yukle(form.ek);
+  AnahtarKoy(form.sicil.kod);
+  TahsisNoyuAcKapat();
+  AlaniSec();
+}
+
+void pergir::TahsisNoyuAcKapat() {
+  Denetim("tahsisno").Kapat(!TahsisNoAcik(std::uint8_t(TamDegeri(Denetim("emekliTercihi").Oku()))));
+}
+
+// What was typed, when its dates can stand. They are judged first, and by the rules of the declaration.
+std::optional<GirisFormu> pergir::Okunan() {
+  GirisFormu form;
+  form.sicil.girtar = TarihDegeri(Denetim("girtar").Oku());
+  form.ek.islemTarihi = TarihDegeri(Denetim("islemTarihi").Oku());
+  if (!GirisDenetle(form, Bildirimi())) {
+    OdakVer(!form.sicil.girtar.Bos() && form.ek.islemTarihi.Bos() ? "islemTarihi" : "girtar");
+    return std::nullopt;
+  }
+  if (!Oku(form.sicil) || !Oku(form.kimlik) || !Oku(form.ek)) return std::nullopt;
+  return form;
+}
+
+// The person stays on the screen, to be printed; the code of the next one may be typed over his.
+void pergir::Kaydet() {
+  if (!EkrandakiMi()) return;
+  const auto form = Okunan();
+  if (!form) return;
+  const bool kaydedildi = GirisKaydet(Oturumu(), *form, parametreler_.yasal.oranlar.AsgariUcret, Bildirimi());
+  if (kaydedildi || YazilanKod().empty()) KoddanBasla();
+  if (kaydedildi) ZoomEfekt();
+}
+
+void pergir::Yazdir() {
+  if (!EkrandakiMi()) return;
+  auto form = Okunan();
+  if (!form) return;
+  const auto& sskDurumu = dynamic_cast<QComboBox&>(*Denetim("sskdurum").Odak());
+  const auto belge = GirisBildirgesiBelgesi({.form = std::move(*form),
+                                             .firma = FirmaOku(Oturumu()),
+                                             .sskDurumu = Utf8(sskDurumu.currentText()),
+                                             .amblemPng = DosyaOku(Oturumu().DataPath + AmblemDosyasi).value_or("")});
+  BelgeBas(Baglam(), *belge);
+}
+
+}  // namespace belvani

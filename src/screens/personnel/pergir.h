@@ -1,0 +1,30 @@
+// pergir ("Sigortalı İşe Giriş Formu"): a new employee in the order of the entry declaration, which it also prints.
+#pragma once
+
+#include "payroll/hazirlik/parametredeposu.h"
+#include "personnel/isegiris.h"
+#include "screens/personnel/personelformu.h"
+
+namespace belvani {
+
+class pergir : public PersonelFormu {
+ public:
+  pergir(EkranBaglami& baglam, ParametreDeposu& parametreler);
+
+ protected:
+  bool Bul(const std::string& kod) override;
+  void Git(Yon yon) override;
+
+ private:
+  void Yerlestir();
+  QWidget* SandiklariYap();
+  void Goster(const GirisFormu& form);
+  void TahsisNoyuAcKapat();
+  std::optional<GirisFormu> Okunan();
+  void Kaydet();
+  void Yazdir();
+
+  ParametreDeposu& parametreler_;
+};
+
+}  // namespace belvani

@@ -1,0 +1,219 @@
+#include "screens/personnel/perkart.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QGroupBox>
+
+#include "personnel/kart.h"
+#include "screens/personnel/resimkutusu.h"
+#include "screens/personnel/sigortakollari.h"
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+constexpr auto FotoFiltresi = "Resim Dosyası(*.bmp,*.gif,*.jpg)|*.bmp;*.gif;*.jpg";
+
+AlanGrubu KimlikGrubu() {
+  return {"Personel",
+          {EtiketliAlan(sicil::kod, {.anahtar = true}), EtiketliAlan(sicil::adi, {.harf = 26}),
+           EtiketliAlan(sicil::soyadi, {.harf = 26}), EtiketliAlan(sicil::ilksoyadi, {.harf = 26}),
+           EtiketliAlan(sicil::sskno, {.harf = 26}), EtiketliAlan(sicil::sskdurum, {.liste = SonraDolar, .harf = 26})}};
+}
+
+AlanGrubu UcretGrubu() {
+  return {"Ücret",
+          {EtiketliAlan(sicil::ucrettipi, {.liste = UcretTipleri, .harf = 14}),
+           EtiketliAlan(sicil::ucret, {.ondalik = ParaOndalik}),
+           {sicil::ucretags, "Ücret Esası", {.liste = UcretEsaslari, .secenek = true}}}};
+}
+
+AlanGrubu TarihGrubu() {
+  return {"Tarihler", {EtiketliAlan(sicil::girtar), EtiketliAlan(sicil::ciktar)}, 2};
+}
+
+AlanGrubu KodGrubu() {
+  return {"Gruplar",
+          {EtiketliAlan(sicil::grup), EtiketliAlan(sicil::tip), EtiketliAlan(sicil::ozel), EtiketliAlan(sicil::hesap),
+           EtiketliAlan(sicil::iskolu), EtiketliAlan(sicil::kanun, {.harf = 8})},
+          2};
+}
+
+AlanGrubu VergiGrubu() {
+  return {"Vergi, Sendika, Emeklilik",
+          {EtiketliAlan(sicil::tasno, {.harf = 20}), EtiketliAlan(sicil::verda, {.harf = 20}),
+           EtiketliAlan(sicil::verno, {.harf = 20}),
+           EtiketliAlan(sicil::tahsisno, {.harf = 20, .ipucu = "Sadece Emeklilerde Kullanılacaktır"}),
+           EtiketliAlan(sicil::sakatdrc, {.liste = SakatlikDereceleri, .harf = 14})}};
+}
+
+// What the company calls its deduction; `no` from 0.
+std::string IndirimAdi(const IndirimTanimlari& tanimlar, std::size_t no) {
+  const bool adli = tanimlar[no] && !tanimlar[no]->adi.empty();
+  return adli ? tanimlar[no]->adi : "İndirim " + std::to_string(no + 1);
+}
+
+AlanGrubu BordroGrubu() {
+  return {"Bordro",
+          {{sicil::agi, " Asgari Geçim İndirimi "}, {sicil::tur, " Huzur Hakkı Bordrosuna Aitlik ", {.kutu = true}}}};
+}
+
+}  // namespace
+
+perkart::perkart(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : PersonelFormu(baglam, "perkart", QStringLiteral("Personel Kartları")), parametreler_(parametreler) {
+  Yerlestir();
+  SecenekleriKoy(Denetim("sskdurum"), SigortaKollari(parametreler.yasal.hesapTurleri));
+  Komut(
+      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Komut(
+      FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
+  PersonelKomutlari();
+  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_R), QStringLiteral("Resim Ekle"), [this] { ResimEkle(); });
+  TusBagla(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R), QStringLiteral("Resim Sil"), [this] { ResimSil(); });
+  AlanDegisti = [this](AlanDenetimi& alan) {
+    if (alan.Satir().tanim.ad == "ucrettipi") UcretTipiDegisti();
+  };
+  Bosalt();
+}
+
+// What every new card needs stands first, in the left column.
+void perkart::Yerlestir() {
+  auto* yatay = new QHBoxLayout;
+  yatay->setSpacing(12);
+  const auto sutun = [&](const std::vector<QWidget*>& gruplar) {
+    auto* dikey = new QVBoxLayout;
+    dikey->setSpacing(10);
+    for (QWidget* grup : gruplar) dikey->addWidget(grup);
+    dikey->addStretch(1);
+    yatay->addLayout(dikey);
+  };
+  sutun({GrupYap(KimlikGrubu()), GrupYap(UcretGrubu()), GrupYap(BordroGrubu())});
+  sutun({GrupYap(TarihGrubu()), GrupYap(KodGrubu()), GrupYap(VergiGrubu())});
+  sutun({IndirimleriYap(), ResmiYap()});
+  Govde()->addLayout(yatay);
+}
+
+QWidget* perkart::IndirimleriYap() {
+  auto* kutu = new QGroupBox(QStringLiteral("İndirimler"), this);
+  auto* izgara = new QGridLayout(kutu);
+  izgara->setHorizontalSpacing(14);
+  izgara->setVerticalSpacing(6);
+  const auto ekle = [&](int no, const auto& isaret, const auto& tutar) {
+    const std::string ad = IndirimAdi(parametreler_.firma.indirimler, std::size_t(no));
+    izgara->addWidget(DenetimEkle({isaret, ad.c_str()}, kutu).Parca(), no, 0);
+    izgara->addWidget(
+        DenetimEkle({tutar, ad.c_str(), {.ondalik = ParaOndalik, .harf = 12, .ipucu = "İndirim tutarı"}}, kutu).Parca(),
+        no, 1);
+  };
+  ekle(0, sicil::indirim1, sicil::indtut1);
+  ekle(1, sicil::indirim2, sicil::indtut2);
+  ekle(2, sicil::indirim3, sicil::indtut3);
+  izgara->setColumnStretch(0, 1);
+  return kutu;
+}
+
+QWidget* perkart::ResmiYap() {
+  auto* kutu = new QGroupBox(QStringLiteral("Fotoğraf"), this);
+  auto* icerik = new QHBoxLayout(kutu);
+  resim_ = new ResimKutusu(kutu);
+  icerik->addWidget(resim_, 0, Qt::AlignHCenter);
+  resim_->Ekle = [this] { ResimEkle(); };
+  resim_->Sil = [this] { ResimSil(); };
+  Izle(resim_);
+  return kutu;
+}
+
+bool perkart::Bul(const std::string& kod) {
+  if (const auto kart = KartBul(Oturumu(), kod)) {
+    Goster(*kart);
+    return true;
+  }
+  Bosalt();
+  AnahtarKoy(kod);
+  return false;
+}
+
+void perkart::Git(Yon yon) {
+  if (const auto kart = KartGit(Oturumu(), yon, SonAnahtar())) Goster(*kart);
+}
+
+void perkart::Goster(const Sicil& kart) {
+  Bosalt();
+  Sicil gosterilen = kart;
+  gosterilen.ucret = GosterilenUcret(kart, parametreler_.yasal.oranlar.AsgariUcret);
+  Yukle(gosterilen);
+  AnahtarKoy(kart.kod);
+  yaziliUcret_ = kart.ucret;
+  UcretiAcKapat();
+  if (const auto dosya = FotoOku(Oturumu(), kart.kod)) resim_->Goster(*dosya);
+  AlaniSec();
+}
+
+void perkart::Bosalt() {
+  Temizle();
+  yeniResim_.clear();
+  yaziliUcret_ = {};
+  resim_->Bosalt();
+  UcretiAcKapat();
+}
+
+// The minimum wage is shown and not typed; the wage that stood there comes back with another kind.
+void perkart::UcretTipiDegisti() {
+  Sicil kart;
+  AlanDenetimi& ucret = Denetim("ucret");
+  const bool asgariydi = ucret.YaziKutusu()->isReadOnly();
+  if (!asgariydi) yaziliUcret_ = TutarDegeri(ucret.Oku());
+  kart.ucrettipi = std::uint8_t(TamDegeri(Denetim("ucrettipi").Oku()));
+  kart.ucret = yaziliUcret_;
+  ucret.Koy(GosterilenUcret(kart, parametreler_.yasal.oranlar.AsgariUcret));
+  UcretiAcKapat();
+}
+
+void perkart::UcretiAcKapat() {
+  Denetim("ucret").Kapat(TamDegeri(Denetim("ucrettipi").Oku()) == AsgariUcretSirasi);
+}
+
+void perkart::Kaydet() {
+  if (!EkrandakiMi()) return;
+  Sicil kart;
+  if (!Oku(kart)) return;
+  if (!KartKaydet(Oturumu(), kart, yeniResim_, Bildirimi())) return KusuraGit(kart);
+  Bosalt();
+  KoddanBasla();
+  ZoomEfekt();
+}
+
+// To the field that a card cannot do without.
+void perkart::KusuraGit(const Sicil& kart) {
+  if (Kirp(kart.kod).empty())
+    KoddanBasla();
+  else if (kart.girtar.Bos())
+    OdakVer("girtar");
+}
+
+void perkart::Sil() {
+  if (!EkrandakiMi() || !KartSil(Oturumu(), YazilanKod(), Bildirimi())) return;
+  Bosalt();
+  KoddanBasla();
+}
+
+void perkart::ResimEkle() {
+  const std::string dizin =
+      yeniResim_.empty() ? Utf8(QDir::homePath()) : Utf8(QFileInfo(Yazi(yeniResim_)).absolutePath());
+  const auto dosya = Baglam().dialoglar.DosyaAc("Resim Seçiniz", dizin, FotoFiltresi);
+  if (!dosya) return;
+  if (resim_->Goster(*dosya))
+    yeniResim_ = *dosya;
+  else
+    Bildirimi().Bilgi("Resim Dosyası Okunamadı\n" + *dosya);
+}
+
+void perkart::ResimSil() {
+  if (!EkrandakiMi() || !FotoSil(Oturumu(), YazilanKod(), Bildirimi())) return;
+  yeniResim_.clear();
+  resim_->Bosalt();
+}
+
+}  // namespace belvani

@@ -1,0 +1,48 @@
+#include "screens/personnel/personelformu.h"
+
+#include "core/turkce.h"
+#include "personnel/kimlik.h"
+#include "ui/metin.h"
+#include "ui/pencere.h"
+
+namespace belvani {
+
+void PersonelFormu::PersonelKomutlari() {
+  Komut(
+      FormKomutu::Rehber, [this] { RehberAc(); }, QStringLiteral(" Personel  Rehberi "));
+  Komut(FormKomutu::Ilk, [this] { Git(Yon::Ilk); });
+  Komut(FormKomutu::Onceki, [this] { Git(Yon::Onceki); });
+  Komut(FormKomutu::Sonraki, [this] { Git(Yon::Sonraki); });
+  Komut(FormKomutu::Son, [this] { Git(Yon::Son); });
+  AnahtarBagla("kod", [this](const std::string& kod) { Bul(kod); });
+}
+
+std::string PersonelFormu::YazilanKod() const {
+  return std::string(Kirp(Utf8(YaziKutusu("kod").text())));
+}
+
+bool PersonelFormu::EkrandakiMi() {
+  const std::string kod = YazilanKod();
+  if (kod.empty() || kod == SonAnahtar()) return true;
+  return !Bul(kod);
+}
+
+void PersonelFormu::AdiGoster(const std::string& kod) {
+  Yukle(KisiBasligi{KisiAdi(Oturumu(), kod)});
+}
+
+void PersonelFormu::KoddanBasla() {
+  OdakVer("kod");
+}
+
+void PersonelFormu::AlaniSec() {
+  if (auto* yazi = qobject_cast<xtext*>(focusWidget())) yazi->selectAll();
+}
+
+void PersonelFormu::RehberAc() {
+  const auto secilen = PersonelSec(Baglam(), YazilanKod());
+  if (secilen) AnahtarAra(*secilen);
+  KoddanBasla();
+}
+
+}  // namespace belvani

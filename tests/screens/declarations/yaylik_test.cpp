@@ -1,0 +1,152 @@
+// The monthly declaration by keys: calculated, edited, declared.
+#include "screens/declarations/yaylik.h"
+
+#include <gmock/gmock.h>
+
+#include "core/dosya.h"
+#include "ekran/ortam.h"
+#include "screens/declarations/intefrm.h"
+#include "screens/declarations/yzckopy.h"
+
+namespace belvani::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+// Two insured people with a finished month, of a company that may declare.
+struct BildirgeOrtami : EkranOrtami {
+  BildirgeOrtami() {
+    Imlec& firma = oturum.depo.firma;
+    firma.IlkKayit();
+    firma.KayitDuzelt();
+    for (const auto& [alan, deger] : {std::pair("unvan", "Çınar Tekstil"),
+                                      {"sektor", "2"},
+                                      {"meslek", "1711"},
+                                      {"sube", "0101"},
+                                      {"dosya", "0045678"},
+                                      {"il", "016"},
+                                      {"ilce", "09"},
+                                      {"kontrol", "47"},
+                                      {"kanun", "05510"},
+                                      {"adr1", "Atatürk Cad. 5"}})
+      firma.AlanYaz(alan, std::string(deger));
+    EXPECT_TRUE(firma.KayitYaz());
+    KisiEkle("001", "Işıl", "10000000146", 1000);
+    KisiEkle("002", "Şükrü", "10000000214", 1500);
+  }
+
+  void KisiEkle(const char* kod, const char* ad, const char* tcno, double matrah) {
+    Imlec& sicil = oturum.depo.sicil;
+    sicil.KayitEkle();
+    sicil.AlanYaz("kod", std::string(kod));
+    sicil.AlanYaz("adi", std::string(ad));
+    sicil.AlanYaz("soyadi", std::string("Gün"));
+    sicil.AlanYaz("sskno", std::string("34012004") + kod);
+    sicil.AlanYaz("kanun", std::string("05510"));
+    sicil.AlanYaz("girtar", Tarih(2008, 1, 1));
+    EXPECT_TRUE(sicil.KayitYaz());
+    Imlec& kimlik = oturum.depo.kimlik;
+    kimlik.KayitEkle();
+    kimlik.AlanYaz("kod", std::string(kod));
+    kimlik.AlanYaz("tcno", std::string(tcno));
+    EXPECT_TRUE(kimlik.KayitYaz());
+    Imlec& brd = oturum.depo.brd;
+    brd.KayitEkle();
+    brd.AlanYaz("kod", std::string(kod));
+    brd.AlanYaz("yil", std::int64_t(2009));
+    brd.AlanYaz("ay", std::int64_t(7));
+    brd.AlanYaz("no", std::int64_t(1));
+    brd.AlanYaz("ng", std::int64_t(30));
+    brd.AlanYaz("sskmatrah", Tutar(matrah));
+    brd.AlanYaz("sskmatrahisveren", Tutar(matrah));
+    EXPECT_TRUE(brd.KayitYaz());
+  }
+};
+
+TEST(Yaylik, HesaplaDuzeltBildir) {
+  BildirgeOrtami ortam;
+  auto& form = ortam.Ac<yaylik>(ortam.parametreler);
+  EXPECT_EQ(ortam.Odak(), "yil");
+  ortam.Bas(Qt::Key_F11);
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: Bildirge Hesaplatılmamış"));
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(AlanMetni(form, "sigortali"), "2");
+  EXPECT_EQ(AlanMetni(form, "gun"), "60");
+  EXPECT_EQ(AlanMetni(form, "saglik"), "2,500.00");
+  EXPECT_EQ(form.findChild<QLabel*>("prim2")->text(), "312.50");  // 12.5 %
+
+  // A row changed in the grid: totals, premiums and the file follow it.
+  auto& liste = *form.findChild<dclist*>("dclist1");
+  liste.setFocus();
+  liste.HucreyeGit(0, "gun");
+  ortam.Yaz("29");
+  ASSERT_TRUE(liste.OkUpdateData());
+  EXPECT_EQ(AlanMetni(form, "gun"), "59");
+  ortam.dialoglar.dosya = ortam.dizin.Yol() + "bildirge.xml";
+  ortam.bildirim.cevap = false;  // not to the web page
+  form.OdakVer("yil");
+  ortam.Bas(Qt::Key_F11);
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: XML Dosya Hazırlandı", StartsWith("Soru: E-Bildirgeyi")));
+  const std::string xml = DosyaOku(*ortam.dialoglar.dosya).value_or("");
+  EXPECT_THAT(xml, HasSubstr("PEK=\"1000\" PRIM_IKRAMIYE=\"0\" GUN=\"29\""));
+  EXPECT_THAT(xml, HasSubstr("AD=\"\xDE\xFCkr\xFC\""));
+
+  // The base is typed over: only the premiums change.
+  form.YaziKutusu("saglik").setFocus();
+  ortam.Yaz("1000\n");
+  EXPECT_EQ(form.findChild<QLabel*>("prim2")->text(), "125.00");
+  // The second row goes.
+  liste.setFocus();
+  liste.ChngSat(1);
+  ortam.Bas(Qt::Key_Delete);
+  EXPECT_EQ(AlanMetni(form, "sigortali"), "1");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(AlanMetni(form, "sigortali"), "2") << "calculated anew out of the store";
+}
+
+TEST(Yaylik, KagitIcinSecimGerekir) {
+  BildirgeOrtami ortam;
+  auto& form = ortam.Ac<yaylik>(ortam.parametreler);
+  ortam.Bas(Qt::Key_F5);
+  ortam.Bas(Qt::Key_F8);
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre(HasSubstr("Tümünü Birden Alamazsınız\nSigorta Kollarına Göre Alınız")));
+  form.Denetim("belgeTuru").Odak()->setFocus();
+  ortam.Bas(Qt::Key_Down);
+  form.Denetim("kanun").Odak()->setFocus();
+  ortam.Bas(Qt::Key_Down);
+  EXPECT_EQ(form.Bildirge().Tamami().satirlar.size(), 2u) << "a change of a list calculates";
+  EkranOrtami::ModaldaYap([&] { ortam.Bas(Qt::Key_F8); });
+  ortam.Bas(Qt::Key_F8);
+  auto* resim = dynamic_cast<yzckopy*>(ortam.gosterici.formlar.back().get());
+  ASSERT_NE(resim, nullptr) << "the drawn form comes up to be looked at";
+
+  // A value moved and changed on the form is printed so, and nothing else changes.
+  FormYuzeyi& yuzey = resim->Yuzey();
+  const FormAlani once = yuzey.Sayfalar()[0].alanlar[0];
+  ortam.Bas(Qt::Key_Right);
+  ortam.Yaz("7x\n");
+  EXPECT_EQ(yuzey.Sayfalar()[0].alanlar[0].deger, "7x");
+  EXPECT_NEAR(yuzey.Sayfalar()[0].alanlar[0].yer.x, once.yer.x + 0.5, 1e-6);
+  EkranOrtami::ModaldaYap([&] { ortam.Bas(Qt::Key_F8); });
+  ortam.Bas(Qt::Key_F8);
+  ASSERT_EQ(ortam.kuyruk.isler.size(), 1u);
+  EXPECT_EQ(ortam.kuyruk.isler[0].ad, "AYLIK BİLDİRGE EK-3");
+}
+
+TEST(Intefrm, AdresKaydedilirVeAcilir) {
+  EkranOrtami ortam;
+  auto& form = ortam.Ac<intefrm>("/tmp/a/bildirge.xml");
+  ortam.Yaz("ftp://a");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre(HasSubstr("http:// veya https://")));
+  form.YaziKutusu("adres").selectAll();
+  ortam.Yaz("https://ornek.gov.tr/b");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_THAT(ortam.acilanlar, ElementsAre("https://ornek.gov.tr/b"));
+  EXPECT_EQ(AlanMetni(ortam.Ac<intefrm>("x"), "adres"), "https://ornek.gov.tr/b");
+}
+
+}  // namespace
+}  // namespace belvani::test

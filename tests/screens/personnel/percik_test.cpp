@@ -1,0 +1,121 @@
+// Leaving, by keys.
+#include "screens/personnel/percik.h"
+
+#include "ekran/ortam.h"
+#include "personnel/kart.h"
+#include "screens/personnel/metinbas.h"
+#include "ui/dclist.h"
+#include "ui/xbutton.h"
+
+namespace belvani::test {
+namespace {
+
+struct Percik : testing::Test {
+  EkranOrtami ortam;
+  percik* form = nullptr;
+
+  void SetUp() override {
+    for (const char* kod : {"001", "002"}) {
+      Sicil s;
+      s.kod = kod;
+      s.adi = kod[2] == '1' ? "Ali" : "Can";
+      s.soyadi = "Veli";
+      s.girtar = Tarih(2005, 1, 1);
+      ASSERT_TRUE(KartKaydet(ortam.oturum, s, "", ortam.bildirim));
+    }
+    form = &ortam.Ac<percik>();
+  }
+  std::string Metin(std::string_view ad) { return AlanMetni(*form, ad); }
+  Sicil Kart() { return KartBul(ortam.oturum, "001").value(); }
+  dclist& Liste(const char* ad) { return *form->findChild<dclist*>(ad); }
+  std::string Toplam(const char* kolon) { return Utf8(Liste("toplam").TextByName(0, kolon)); }
+  void Dugme(const char* metin) {
+    for (auto* dugme : form->findChildren<xButton*>()) {
+      if (dugme->text() != QString::fromUtf8(metin)) continue;
+      dugme->setFocus();
+      return ortam.Bas(Qt::Key_Space);
+    }
+    FAIL() << metin;
+  }
+};
+
+TEST_F(Percik, ChecksTellTheirWordsAndLeadToTheirFields) {
+  const auto basinca = [&](const char* ileti, const char* odak) {
+    ortam.Bas(Qt::Key_F5);
+    EXPECT_EQ(ortam.bildirim.Al(), Iletiler{std::string("Bilgi: ") + ileti});
+    EXPECT_EQ(ortam.Odak(), odak);
+  };
+  basinca("Giriş Tarihi Hatası", "girtar");
+  form->Denetim("kod").Odak()->setFocus();
+  ortam.Yaz("001\n");
+  EXPECT_EQ(Metin("adSoyad") + Metin("girtar"), "Ali Veli01.01.2005");
+  ortam.Yaz("\n31022009\n");
+  basinca("Çıkış Tarihi Hatası", "ciktar");
+  ortam.Yaz("31122004\n");
+  basinca("Çıkış Tarihi,Giriş Tarihinden Büyük veya Eşit Olmalı", "ciktar");
+  ortam.Yaz("01012005\n");
+  basinca("Çıkış Kodunu Seçmelisiniz", "cikiskodu");
+  ortam.Yaz("12\n   \n");
+  basinca("Çıkış Sebebini Doldurunuz", "cikissebebi");
+  EXPECT_TRUE(Kart().ciktar.Bos());
+  ortam.Yaz("Askerlik");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+  EXPECT_EQ(std::tuple(Kart().ciktar, int(Kart().cikiskodu), Kart().cikissebebi),
+            std::tuple(Tarih(2005, 1, 1), 12, std::string("Askerlik")));
+  EXPECT_EQ(Metin("adSoyad"), "Ali Veli") << "the release is still to be printed";
+  EXPECT_EQ(ortam.Odak(), "kod");
+}
+
+TEST_F(Percik, AnExitIsOverwrittenAndTakenBack) {
+  for (const char* tarih : {"30062009", "31072009"}) {
+    ortam.Yaz((std::string("001\n\n") + tarih + "\n04\nKapandı").c_str());
+    ortam.Bas(Qt::Key_F5);
+    EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+  }
+  EXPECT_EQ(Kart().ciktar, Tarih(2009, 7, 31));
+  ortam.Bas(Qt::Key_PageDown);
+  EXPECT_EQ(Metin("adSoyad") + Metin("ciktar") + Metin("cikissebebi"), "Can Veli");
+  ortam.Bas(Qt::Key_PageUp);
+  EXPECT_EQ(Metin("ciktar"), "31.07.2009");
+  Dugme("Çıkış Geri Al");
+  EXPECT_EQ(std::tuple(Kart().ciktar, int(Kart().cikiskodu), Kart().cikissebebi),
+            std::tuple(Tarih(), 0, std::string()));
+  EXPECT_EQ(Metin("kod") + Metin("adSoyad"), "");
+  EXPECT_EQ(ortam.Odak(), "kod");
+
+  ortam.Yaz("777\n01012005\n");
+  Dugme("Çıkış Geri Al");
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+  EXPECT_EQ(Metin("kod") + Metin("girtar"), "77701.01.2005") << "an unknown code does nothing";
+}
+
+TEST_F(Percik, SumsFollowTheCellsAndGoOnThePaper) {
+  ortam.Yaz("001\n");
+  form->Denetim("tel").Odak()->setFocus();
+  ortam.Yaz("0312\n");
+  ASSERT_TRUE(Liste("odemeler").hasFocus());
+  EXPECT_EQ(Toplam("brut"), "0.00");
+  ortam.Yaz("1000.5\n200.25\n");  // typing opens the cell, Enter opens the next
+  EXPECT_EQ(Toplam("brut") + " " + Toplam("kesinti"), "1,000.50 200.25");
+  ortam.Yaz("\n\n800\n12345678\n");  // behind the last column comes the next kind of payment
+  EXPECT_EQ(Toplam("brut") + " " + Toplam("odenen"), "12,346,678.50 800.00");
+  Liste("odemeler").HucreyeGit(0, "brut");
+  ortam.Bas(Qt::Key_Delete);
+  EXPECT_EQ(Toplam("brut"), "12,345,678.00");
+  Liste("odemeler").HucreyeGit(4, "odenen");
+  ortam.Yaz("77.5");
+
+  const std::string kagit = MetinBas(ortam, "İBRANAME");  // with the cell still open
+  for (const std::string& parca : {std::string("Ali Veli"), std::string("0312"), std::string("12,345,678.00"),
+                                   std::string("877.50"), Tarih::Bugun().Metin()})
+    EXPECT_NE(kagit.find(parca), kagit.npos) << parca;
+
+  QApplication::setActiveWindow(form);
+  form->Denetim("kod").Odak()->setFocus();
+  ortam.Yaz("002\n");
+  EXPECT_EQ(Toplam("brut") + Toplam("odenen"), "0.000.00") << "payments are one person's";
+}
+
+}  // namespace
+}  // namespace belvani::test

@@ -1,0 +1,136 @@
+// Hiring, by keys.
+#include "screens/personnel/pergir.h"
+
+#include <QComboBox>
+
+#include "ekran/ortam.h"
+#include "personnel/kart.h"
+#include "personnel/kimlik.h"
+#include "screens/personnel/metinbas.h"
+
+namespace belvani::test {
+namespace {
+
+const std::string Bugun = Tarih::Bugun().Metin();
+const std::string Yarin = Tarih::Bugun().Ekle(1).Metin();
+constexpr auto Dikkat =
+    "Uyarı: * * *  D İ K K A T * * * \nİşe giriş tarihi işlem tarihinden en az 1 gün sonra olması tavsiye edilir";
+
+struct Pergir : testing::Test {
+  EkranOrtami ortam;
+  pergir* form = nullptr;
+
+  void SetUp() override { form = &ortam.Ac<pergir>(ortam.parametreler); }
+  std::string Metin(std::string_view ad) { return AlanMetni(*form, ad); }
+  void Alana(std::string_view ad, const std::string& metin) {
+    form->Denetim(ad).Odak()->setFocus();
+    metin.empty() ? ortam.Bas(Qt::Key_Delete) : ortam.Yaz((metin + "\n").c_str());
+  }
+};
+
+TEST_F(Pergir, ANewPersonIsEnteredInTheOrderOfThePaper) {
+  EXPECT_EQ(ortam.Odak(), "kod");
+  EXPECT_EQ(Metin("girtar") + Metin("islemTarihi") + Metin("dogtar"), Bugun + Bugun);
+  ortam.Yaz("001\n3401200412345\nT\nA12\n10000000146\nÇağlar\n\nIşıl\nÖmer\nŞükran\nİzmir\n31121975\nK\nAzerbaycan\n");
+  ortam.Yaz("Iğdır\nTuzluca\nGüneyli\n1\n2\n3\nGül Sok.\nÇankaya\nL\n");
+  ortam.Bas(Qt::Key_Space);
+  ortam.Yaz("\n77\n\n\n\n\n\n\n\nEski A.Ş.\nYeni Cad.\nAnkara\nÇankaya\n1234567890\n");
+  EXPECT_EQ(ortam.Odak(), "girtar");
+  ortam.Yaz((Yarin + "\n\n02\n").c_str());
+  EXPECT_EQ(ortam.Odak(), "emekliTercihi");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+  EXPECT_EQ(ortam.Odak(), "kod");
+
+  const auto kart = KartBul(ortam.oturum, "001");
+  const auto kimlik = KimlikBul(ortam.oturum, "001");
+  ASSERT_TRUE(kart && kimlik) << "both records at once";
+  EXPECT_EQ(kart->adi + kart->soyadi + kart->sskno, "IşılÇağlar3401200412345");
+  EXPECT_EQ(kart->girtar.Metin(), Yarin);
+  EXPECT_EQ(kart->sskdurum, 1);
+  EXPECT_EQ(kart->ucret, Tutar(693.0));
+  EXPECT_EQ(kimlik->serino + kimlik->baba + kimlik->uyruk + kimlik->kutuk + kimlik->adr2, "A12ÖmerAzerbaycan3Çankaya");
+  EXPECT_EQ(kimlik->dogtar, Tarih(1975, 12, 31));
+  EXPECT_EQ(std::pair(kimlik->cins, kimlik->tahsil), std::pair(std::uint8_t(1), std::uint8_t(3)));
+
+  EXPECT_EQ(Metin("eskiUnvan") + Metin("sandikNo0"), "Eski A.Ş.77") << "still to be printed";
+  ortam.Yaz("002\n");
+  EXPECT_EQ(Metin("kod") + Metin("adi") + Metin("uyruk"), "002T.C.");
+  ortam.Bas(Qt::Key_PageUp);
+  EXPECT_EQ(Metin("adi") + Metin("eskiUnvan") + Metin("sandikNo0"), "Işıl") << "of the paper alone, not kept";
+  EXPECT_FALSE(MantikDegeri(form->Denetim("sandik0").Oku()));
+}
+
+TEST_F(Pergir, BothDatesAreJudgedBeforeSavingAndPrinting) {
+  const struct {
+    std::string giris, islem, ileti, odak;
+  } satirlar[] = {
+      {"31022009", Bugun, "Uyarı: İşe Giriş Tarihi Hatalı", "girtar"},
+      {Yarin, "99", "Uyarı: İşlem Tarihi Hatalı", "islemTarihi"},
+      {Bugun, Bugun, Dikkat, "girtar"},
+  };
+  ortam.Yaz("001\n");
+  for (const auto& [giris, islem, ileti, odak] : satirlar) {
+    Alana("girtar", giris);
+    Alana("islemTarihi", islem);
+    for (const Qt::Key tus : {Qt::Key_F5, Qt::Key_F8}) {
+      ortam.Bas(tus);
+      EXPECT_EQ(ortam.bildirim.Al(), Iletiler{ileti});
+      EXPECT_EQ(ortam.Odak(), odak);
+    }
+  }
+  Alana("girtar", Yarin);
+  Alana("islemTarihi", Bugun);
+  Alana("dogtar", "31022009");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: 9-Doğum Tarihi Hatalı"}) << "would be lost";
+  Alana("dogtar", "");
+  Alana("kod", " ");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: Personel Sicil Kodu Hatalı"});
+  EXPECT_EQ(ortam.Odak(), "kod");
+  EXPECT_FALSE(KartBul(ortam.oturum, "001"));
+}
+
+TEST_F(Pergir, AKnownPersonKeepsWhatTheScreenDoesNotShow) {
+  Sicil kart;
+  kart.kod = "001";
+  kart.adi = "Işıl";
+  kart.girtar = Tarih(2005, 1, 1);
+  kart.ucret = Tutar(1500.0);
+  kart.tahsisno = "55";
+  ASSERT_TRUE(KartKaydet(ortam.oturum, kart, "", ortam.bildirim));
+  ortam.Yaz("001");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{}) << "a person who is not seen yet is shown, not overwritten";
+  EXPECT_EQ(Metin("adi") + Metin("girtar"), "Işıl01.01.2005");
+
+  EXPECT_TRUE(form->YaziKutusu("tahsisno").isReadOnly());
+  form->Denetim("emekliTercihi").Odak()->setFocus();
+  for (const bool acik : {true, false}) {
+    ortam.Bas(Qt::Key_Down);  // "S.G.D.P.", then "Tüm Sigorta Kolları"
+    EXPECT_EQ(form->YaziKutusu("tahsisno").isReadOnly(), !acik);
+  }
+  Alana("soyadi", "Şen");
+  Alana("islemTarihi", "31122004");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+  kart.soyadi = "Şen";
+  EXPECT_EQ(KartBul(ortam.oturum, "001"), kart);
+}
+
+TEST_F(Pergir, ThePaperHasWhatIsOnTheScreen) {
+  ortam.Yaz("001\n");
+  Alana("adi", "Ali");
+  Alana("girtar", Yarin);
+  Alana("sskdurum", "02");
+  Alana("eskiAdres", "Eski Cad.");
+  const std::string kol = Utf8(dynamic_cast<QComboBox&>(*form->Denetim("sskdurum").Odak()).currentText());
+  const std::string kagit = MetinBas(ortam, "Sigortalı İşe Giriş Bildirgesi");
+  for (const std::string& parca : {std::string("Ali"), Yarin, Bugun, kol.substr(0, 3), std::string("Eski Cad.")})
+    EXPECT_NE(kagit.find(parca), kagit.npos) << parca;
+  EXPECT_FALSE(KartBul(ortam.oturum, "001")) << "printing saves nothing";
+}
+
+}  // namespace
+}  // namespace belvani::test
