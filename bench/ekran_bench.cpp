@@ -89,7 +89,7 @@ struct Yok final : FormGosterici {
 struct BuyukSirket {
   static constexpr int Kisi = 10'000;
   bench::Sirket sirket{Kisi, 2009, 7, 120};
-  ParametreDeposu parametreler;
+  ParametreDeposu parametreler{sirket.o};
   DialogYok dialoglar;
   Yok gosterici;
   SistemBaskisi baski;
@@ -97,9 +97,9 @@ struct BuyukSirket {
 
   BuyukSirket() {
     parametreler.yasal = sirket.kosullar.yasal;
-    parametreler.firma = sirket.kosullar.firma;
-    sirket.o.firmayil = 2009;
-    sirket.o.firmaay = 7;
+    bench::Al(parametreler.firma.Yukle());
+    sirket.o.firma.firmayil = 2009;
+    sirket.o.firma.firmaay = 7;
   }
   static std::string Kod(int i) { return bench::OrnekKisi(i * 7919 % Kisi).kod; }
 };
@@ -173,8 +173,8 @@ BENCHMARK(RehberTusu)->Unit(benchmark::kMillisecond);
 
 // The last month with pay, as the session's.
 struct SonAy {
-  SonAy() { Sirket().sirket.o.firmaay = 6; }
-  ~SonAy() { Sirket().sirket.o.firmaay = 7; }
+  SonAy() { Sirket().sirket.o.firma.firmaay = 6; }
+  ~SonAy() { Sirket().sirket.o.firma.firmaay = 7; }
 };
 
 // The monthly declaration of 10,000 people, worked out and painted.

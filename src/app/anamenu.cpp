@@ -47,11 +47,13 @@ anamenu::anamenu(EkranBaglami& ekran, ParametreDeposu& parametreler)
   MenuYap();
   TuslariBagla();
   YardimTusuKur(*qApp);
-  BaslikDegisti();
+  FirmaDegisti();
+  parametreler_.firma.Degisti = [this] { FirmaDegisti(); };
   resize(1280, 740);
 }
 
 anamenu::~anamenu() {
+  parametreler_.firma.Degisti = [] {};
   EkranlariKapat();
 }
 
@@ -237,10 +239,12 @@ void anamenu::Yerlestir(QMdiSubWindow& pencere) {
                std::clamp(yer.y(), 0, std::max(0, alan.height() - pencere.height())));
 }
 
-void anamenu::BaslikDegisti() {
+void anamenu::FirmaDegisti() {
   setWindowTitle(Yazi(AnaPencereBasligi(ekran_.oturum)));
   masaustu_->BaslikYaz();
   durum_->Yaz(ekran_.oturum);
+  for (QMdiSubWindow* pencere : alan_->subWindowList())
+    if (auto* form = qobject_cast<Form*>(pencere->widget())) form->FirmaDegisti();
 }
 
 void anamenu::EkranlariKapat() {

@@ -31,7 +31,6 @@ class anamenu : public QMainWindow, public FormGosterici {
 
   void SerbestGoster(std::unique_ptr<Form> form) override;
   QWidget* ModalUst() override { return this; }
-  void BaslikDegisti() override;
 
   Form1& Masaustu() { return *masaustu_; }
   // Closes every screen, from the last to the first.
@@ -50,6 +49,8 @@ class anamenu : public QMainWindow, public FormGosterici {
   bool eventFilter(QObject* nesne, QEvent* olay) override;
 
  private:
+  // Title, desktop, status bar and every open screen show the company as it now is.
+  void FirmaDegisti();
   void GorunumuUygula();
   void MasaustuYap();
   void MenuYap();

@@ -33,8 +33,8 @@ DurumCubugu::DurumCubugu(QWidget* ust) : QStatusBar(ust) {
 void DurumCubugu::Yaz(const Oturum& o) {
   Koy(firma_, Yazi(o.FirmaKod), EnCokAdEni, Qt::ElideRight);
   Koy(kullanici_, QStringLiteral("Kullanıcı: ") + Yazi(o.Kullanici), EnCokAdEni, Qt::ElideRight);
-  const bool ayVar = o.firmaay >= 1 && o.firmaay <= 12;
-  donem_->setText(ayVar ? Yazi(AyAdi(o.firmaay)) + " " + QString::number(o.firmayil) : QString());
+  const bool ayVar = o.firma.firmaay >= 1 && o.firma.firmaay <= 12;
+  donem_->setText(ayVar ? Yazi(AyAdi(o.firma.firmaay)) + " " + QString::number(o.firma.firmayil) : QString());
   Koy(depo_, Yazi(o.FirmaDizini + DepoDosyasi), EnCokYolEni, Qt::ElideMiddle);
 }
 

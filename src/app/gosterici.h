@@ -14,9 +14,6 @@ struct AnaPencereGosterici final : FormGosterici {
     if (pencere != nullptr) pencere->SerbestGoster(std::move(form));
   }
   QWidget* ModalUst() override { return pencere != nullptr ? pencere : QApplication::activeWindow(); }
-  void BaslikDegisti() override {
-    if (pencere != nullptr) pencere->BaslikDegisti();
-  }
 };
 
 }  // namespace belvani

@@ -26,7 +26,7 @@ class Program {
       StilKur(uygulama_, GecerliRenkler(oturum_));
       if (GirisYap(ekran_) == GirisSonucu::Cikis) return 0;
       parametreler_.YasalYukle(oturum_.DataPath);
-      if (const Durum d = parametreler_.FirmaYukle(oturum_); !d) bildirim_.Uyari(d.KusurMetni());
+      if (const Durum d = parametreler_.firma.Yukle(); !d) bildirim_.Uyari(d.KusurMetni());
       const bool yeniden = AnaPencere();
       oturum_.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
       if (!yeniden) return 0;
@@ -55,7 +55,7 @@ class Program {
   SistemDialoglari dialoglar_;
   AnaPencereGosterici gosterici_;
   Oturum oturum_;
-  ParametreDeposu parametreler_;
+  ParametreDeposu parametreler_{oturum_};
   SistemBaskisi baski_;
   EkranBaglami ekran_{oturum_, bildirim_, dialoglar_, gosterici_, baski_.ortam};
 };

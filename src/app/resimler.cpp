@@ -106,7 +106,7 @@ class Resimler {
     }
     if (!OturumAc(oturum_, Utf8(arg_[2]), Utf8(arg_[3]), Utf8(arg_[4]), bildirim_)) return false;
     parametreler_.YasalYukle(oturum_.DataPath);
-    if (const Durum d = parametreler_.FirmaYukle(oturum_); !d) std::cerr << d.KusurMetni() << "\n";
+    if (const Durum d = parametreler_.firma.Yukle(); !d) std::cerr << d.KusurMetni() << "\n";
     return true;
   }
 
@@ -169,7 +169,7 @@ class Resimler {
   DialogYok dialoglar_;
   AnaPencereGosterici gosterici_;
   Oturum oturum_;
-  ParametreDeposu parametreler_;
+  ParametreDeposu parametreler_{oturum_};
   SistemBaskisi baski_;
   EkranBaglami ekran_{oturum_, bildirim_, dialoglar_, gosterici_, baski_.ortam};
 };

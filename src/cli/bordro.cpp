@@ -25,7 +25,7 @@ struct Is {
   YasalParametreler yasal;
 
   BelgeKaynagi Kaynak() const {
-    return {.motor = oturum.depo.db.IcMotor(), .yasal = yasal, .paraonda = oturum.paraonda};
+    return {.motor = oturum.depo.db.IcMotor(), .yasal = yasal, .paraonda = oturum.firma.paraonda};
   }
   int Yil() const { return secenekler.donem.yil; }
   int Ay() const { return secenekler.donem.ay; }

@@ -57,8 +57,8 @@ bool AylikBildirge::Koru(Is&& is) {
 
 bool AylikBildirge::Ac() {
   bildirge_ = {};
-  bildirge_.secim.yil = o_.firmayil;
-  bildirge_.secim.ay = o_.firmaay;
+  bildirge_.secim.yil = o_.firma.firmayil;
+  bildirge_.secim.ay = o_.firma.firmaay;
   belgeTurleri_ = BelgeTuruListesi(yasal_.hesapTurleri);
   kanunlar_ = {"Tümü"};
   tehlikeOrani_ = {};
@@ -140,11 +140,11 @@ std::string AylikBildirge::OranMetni(std::size_t brans) const {
 }
 
 std::string AylikBildirge::PrimMetni(std::size_t brans) const {
-  return SayiFormat(YalinMetin(bildirge_.prim.primler[brans]), o_.paraonda, Gruplama);
+  return SayiFormat(YalinMetin(bildirge_.prim.primler[brans]), o_.firma.paraonda, Gruplama);
 }
 
 std::string AylikBildirge::GenelToplamMetni() const {
-  return SayiFormat(YalinMetin(bildirge_.prim.genelToplam), o_.paraonda, Gruplama);
+  return SayiFormat(YalinMetin(bildirge_.prim.genelToplam), o_.firma.paraonda, Gruplama);
 }
 
 IsyeriBilgileri AylikBildirge::Isyeri() {

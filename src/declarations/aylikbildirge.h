@@ -84,7 +84,7 @@ class AylikBildirge {
   bool ToplamlariYenile();
   template <class Is>
   bool Koru(Is&& is);
-  Yuvarlayici Yuvarla() const { return Yuvarlayici(o_.paraonda); }
+  Yuvarlayici Yuvarla() const { return Yuvarlayici(o_.firma.paraonda); }
 
   Oturum& o_;
   const YasalParametreler& yasal_;

@@ -47,7 +47,7 @@ BildirgeKagidi KagitHazirla(const AylikBildirge& bildirge, Oturum& oturum) {
                        .muhasebeci = MuhasebeciOku(oturum),
                        .toplamlar = b.toplamlar,
                        .satirlar = b.satirlar,
-                       .paraonda = oturum.paraonda};
+                       .paraonda = oturum.firma.paraonda};
   if (secim.belgeTuru > 0) kagit.belgeTuru = IkiHane(bildirge.BelgeTuru());
   if (secim.kanun > 0) kagit.kanun = bildirge.KanunSecenekleri()[std::size_t(secim.kanun)];
   BranslariAl(kagit, bildirge);

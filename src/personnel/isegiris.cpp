@@ -41,7 +41,7 @@ bool SicilYaz(Oturum& o, const Sicil& sicil, Tutar asgariUcret) {
   if (o.depo.SicilBul(sicil.kod))
     rs.KayitDuzelt();
   else
-    YeniKart(rs, sicil.kod, o.ondeger, asgariUcret);
+    YeniKart(rs, sicil.kod, o.firma.ondeger, asgariUcret);
   AlanlariYaz(rs, sicil, Gorunmeyenler<Sicil>(sicilAlanlari));
   return rs.KayitYaz();
 }

@@ -82,11 +82,7 @@ int HarfGenisligi(const belvani::Alan& alan) {
 class YaziDenetimi final : public AlanDenetimi {
  public:
   YaziDenetimi(const belvani::Alan& alan, QWidget* ust, int paraOndalik) : AlanDenetimi(alan), yazi_(new xtext(ust)) {
-    const bool tarih = alan.tanim.tip == AlanTipi::Tarih;
-    const bool sayi = !tarih && alan.tanim.tip != AlanTipi::Metin;
-    const auto tip = tarih ? xtext::Tip::Tarih : sayi ? xtext::Tip::Sayi : xtext::Tip::Metin;
-    const bool parali = alan.tanim.tip == AlanTipi::Tutar || alan.tanim.tip == AlanTipi::Tek;
-    yazi_->xTextBicim(tip, EnCok(alan), Qt::AlignLeft, true, Ondalik(alan, paraOndalik), parali ? 3 : 0);
+    Bicimle(paraOndalik);
     yazi_->RecordField(std::string(alan.tanim.ad));
     const int harf = HarfGenisligi(alan) + (alan.ek.anahtar || alan.ek.rehber ? 3 : 0);
     yazi_->setFixedWidth(yazi_->fontMetrics().horizontalAdvance('0') * harf + 18);
@@ -103,12 +99,26 @@ class YaziDenetimi final : public AlanDenetimi {
     return std::int64_t(TutarDegeri(deger).Sayi());
   }
   void Temizle() override { yazi_->xReset(); }
+  void ParaOndaligi(int ondalik) override {
+    if (yazi_->TextTip() != xtext::Tip::Sayi || Ondalik(alan_, ondalik) == yazi_->Onda()) return;
+    const Deger deger = yazi_->Value();
+    Bicimle(ondalik);
+    yazi_->DegerKoy(deger);
+  }
   void Kapat(bool kapali) override {
     yazi_->setReadOnly(kapali);
     yazi_->setFocusPolicy(kapali ? Qt::NoFocus : Qt::StrongFocus);
   }
 
  private:
+  void Bicimle(int paraOndalik) {
+    const bool tarih = alan_.tanim.tip == AlanTipi::Tarih;
+    const bool sayi = !tarih && alan_.tanim.tip != AlanTipi::Metin;
+    const auto tip = tarih ? xtext::Tip::Tarih : sayi ? xtext::Tip::Sayi : xtext::Tip::Metin;
+    const bool parali = alan_.tanim.tip == AlanTipi::Tutar || alan_.tanim.tip == AlanTipi::Tek;
+    yazi_->xTextBicim(tip, EnCok(alan_), Qt::AlignLeft, true, Ondalik(alan_, paraOndalik), parali ? 3 : 0);
+  }
+
   xtext* yazi_;
 };
 

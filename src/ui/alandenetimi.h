@@ -27,6 +27,7 @@ class AlanDenetimi {
   virtual Deger Oku() const = 0;
   virtual void Temizle() = 0;
   virtual void Kapat(bool kapali) = 0;
+  virtual void ParaOndaligi(int) {}                    // the company's books have other decimals now
   virtual bool KendiBasligi() const { return false; }  // its caption is part of it (check box)
 
   // Why what stands in it cannot be stored: "Adı: en çok 20 harf"; nothing when it can.

@@ -28,8 +28,6 @@ class FormGosterici {
   virtual ~FormGosterici() = default;
   virtual void SerbestGoster(std::unique_ptr<Form> form) = 0;
   virtual QWidget* ModalUst() = 0;
-  // After a change of company title or period.
-  virtual void BaslikDegisti() {}
 };
 
 // The platform's dialogs; a test answers by script. Nothing chosen: empty.

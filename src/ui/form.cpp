@@ -103,7 +103,7 @@ xtext& Form::YaziKutusu(std::string_view ad) const {
 }
 
 AlanDenetimi& Form::DenetimEkle(const belvani::Alan& alan, QWidget* ust) {
-  auto& denetim = *denetimler_.emplace_back(DenetimYap(alan, ust, baglam_.oturum.paraonda));
+  auto& denetim = *denetimler_.emplace_back(DenetimYap(alan, ust, baglam_.oturum.firma.paraonda));
   denetim.Degisti = [this, &denetim] { AlanDegisti(denetim); };
   for (QWidget* odak : denetim.Odaklar()) Izle(odak);
   return denetim;
@@ -289,6 +289,10 @@ AlanDenetimi* Form::DenetimBul(AlanTutamagi alan) const {
   for (const auto& d : denetimler_)
     if (d->Satir().Tutamak() == alan) return d.get();
   return nullptr;
+}
+
+void Form::FirmaDegisti() {
+  for (const auto& d : denetimler_) d->ParaOndaligi(baglam_.oturum.firma.paraonda);
 }
 
 void Form::Temizle() {

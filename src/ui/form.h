@@ -40,6 +40,10 @@ class Form : public QWidget {
   xtext& YaziKutusu(std::string_view ad) const;
   void OdakVer(std::string_view ad);
 
+  // The company's card or parameters have changed while this is open. Amounts take the company's decimals; a screen
+  // that shows more of the company looks again. The month it was opened for stays.
+  virtual void FirmaDegisti();
+
  Q_SIGNALS:
   void Kapandi();
 

@@ -16,7 +16,7 @@ struct IlkGun : AnaOrtam {
   IlkGun() {
     pencere.reset();
     gostericisi.pencere = nullptr;
-    parametreler = {};
+    parametreler.yasal = {};
     oturum.DataPath = dizin.Yol() + "yeni/";
     EXPECT_TRUE(KullaniciAyariYaz("lastfirm", "") && KullaniciAyariYaz("lastuser", "BELVANI"));
   }
@@ -62,7 +62,7 @@ TEST(IlkBordro, FromAnEmptyDataPathByKeysAlone) {
   ASSERT_EQ(GirisYap(o.baglam), GirisSonucu::Girildi);
   EXPECT_EQ(o.bildirim.Al(), Iletiler{"Soru: Şirket Bulunamadı\nYeni Şirket Açılacak ?"});
   o.parametreler.YasalYukle(o.oturum.DataPath);
-  ASSERT_TRUE(o.parametreler.FirmaYukle(o.oturum));
+  ASSERT_TRUE(o.parametreler.firma.Yukle());
   o.Yeniden();
   EXPECT_EQ(o.bildirim.Al(), Iletiler{});
 
@@ -74,7 +74,7 @@ TEST(IlkBordro, FromAnEmptyDataPathByKeysAlone) {
   o.Yaz("7.5");
   o.Bas(Qt::Key_F5);
   EXPECT_EQ(o.bildirim.Al(), Iletiler{});
-  EXPECT_EQ(o.oturum.firmayil * 100 + o.oturum.firmaay, 200907);
+  EXPECT_EQ(o.oturum.firma.firmayil * 100 + o.oturum.firma.firmaay, 200907);
   EXPECT_TRUE(o.pencere->windowTitle().contains("Işıl Dokuma Ltd.")) << o.pencere->windowTitle().toStdString();
 
   for (const char* giris : {"Yasal Oranlar", "Gelir Vergisi Tablosu", "A.G.İ. Parametresi", "Hesap Türleri"}) {

@@ -15,7 +15,7 @@ struct OrnekSirket : EkranParcalari {
     oturum.PrgPath = oturum.DataPath = dizin.Yol();
     EXPECT_TRUE(SirketAc(oturum, "ORNEK", bildirim));
     EXPECT_TRUE(OturumAc(oturum, "ORNEK", "ornek", "ornek", bildirim));
-    EXPECT_TRUE(parametreler.FirmaYukle(oturum));
+    EXPECT_TRUE(parametreler.firma.Yukle());
     bildirim.cevap = false;  // nothing is saved again
   }
 
@@ -65,7 +65,7 @@ TEST(Ornek, TheScreenShowsEveryStoredRecord) {
     form.setUpdatesEnabled(false);  // painting would take most of the time
     for (const Brd& brd : std::span(ilk, son)) {
       EkranOrtami::Yaz((brd.kod + "\n").c_str());
-      const std::string fark = Farklar(form, brd, o.oturum.paraonda);
+      const std::string fark = Farklar(form, brd, o.oturum.firma.paraonda);
       const std::string kim = std::to_string(brd.yil) + "-" + std::to_string(brd.ay) + " " + brd.kod;
       if (!fark.empty()) (TavaniAsar.contains(kim) ? asan : farklar).push_back(kim + fark);
       EkranOrtami::Bas(Qt::Key_F5);

@@ -23,7 +23,7 @@ TEST(Yukseltme, AnOldCompanyIsWorkedInAfterItsUpgrade) {
 
   ASSERT_TRUE(SirketAc(o.oturum, "TEST", o.bildirim));
   ASSERT_TRUE(OturumAc(o.oturum, "TEST", "ayse", "gizli", o.bildirim));
-  ASSERT_TRUE(o.parametreler.FirmaYukle(o.oturum));
+  ASSERT_TRUE(o.parametreler.firma.Yukle());
   o.Yeniden();
   EXPECT_EQ(o.bildirim.Al(), Iletiler{});
   EXPECT_FALSE(VersiyonKontrol(o.oturum, o.bildirim));

@@ -84,7 +84,7 @@ TEST(Anamenu, TheModeWordGoesBeforeTheScreen) {
   EkranKaydi kayit = AnaOrtam::Kayit("gvtablo");
   kayit.yap = [&](const UygulamaBaglami& b) {
     gorulen = b.ekran.oturum.PencereTip;
-    return std::make_unique<firbil>(b.ekran);
+    return std::make_unique<firbil>(b.ekran, b.parametreler);
   };
   ortam.pencere->Ac(kayit);
   EXPECT_EQ(gorulen, "GV");

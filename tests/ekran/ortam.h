@@ -44,7 +44,6 @@ struct BetikDialoglari final : Dialoglar {
 // Screens as bare windows, kept until the test ends.
 struct PencereGosterici final : FormGosterici {
   std::vector<std::unique_ptr<Form>> formlar;
-  int baslikDegisimi = 0;
 
   void SerbestGoster(std::unique_ptr<Form> form) override {
     form->show();
@@ -54,7 +53,9 @@ struct PencereGosterici final : FormGosterici {
     QCoreApplication::processEvents();
   }
   QWidget* ModalUst() override { return nullptr; }
-  void BaslikDegisti() override { ++baslikDegisimi; }
+  void FirmaDegisti() {
+    for (const auto& form : formlar) form->FirmaDegisti();
+  }
 };
 
 inline void TusGonder(QWidget* hedef, int tus, Qt::KeyboardModifiers degistirici, const QString& metin) {
@@ -69,7 +70,9 @@ inline void TusGonder(QWidget* hedef, int tus, Qt::KeyboardModifiers degistirici
 
 // What screens work with; no company is open.
 struct EkranParcalari {
-  EkranParcalari() = default;
+  EkranParcalari() {
+    parametreler.firma.Degisti = [this] { gosterici.FirmaDegisti(); };
+  }
   EkranParcalari(const EkranParcalari&) = delete;
   EkranParcalari& operator=(const EkranParcalari&) = delete;
   ~EkranParcalari() { gosterici.formlar.clear(); }
@@ -92,7 +95,7 @@ struct EkranParcalari {
   GeciciDizin dizin;
   ToplayanBildirim bildirim;
   Oturum oturum;
-  ParametreDeposu parametreler;
+  ParametreDeposu parametreler{oturum};
   BetikDialoglari dialoglar;
   PencereGosterici gosterici;
   SahteKuyruk kuyruk;
@@ -125,7 +128,7 @@ class EkranOrtami : public EkranParcalari {
     EXPECT_TRUE(OturumAc(oturum, "TEST", "ayse", "gizli", bildirim));
     DonemYaz(2009, 7);
     parametreler.YasalYukle(oturum.DataPath);
-    EXPECT_TRUE(parametreler.FirmaYukle(oturum));
+    EXPECT_TRUE(parametreler.firma.Yukle());
     bildirim.Al();
   }
 

@@ -54,7 +54,7 @@ TEST_F(IseGiris, ChecksStopTheFirstThatFails) {
 }
 
 TEST_F(IseGiris, ANewPersonGetsBothRecordsWithTheirDefaults) {
-  o.ondeger = "İşçi";
+  o.firma.ondeger = "İşçi";
   GirisFormu form = Yeni(" a1 ");
   form.sicil.adi = "Işıl";
   form.sicil.sskdurum = 1;

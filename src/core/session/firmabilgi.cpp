@@ -8,14 +8,6 @@ namespace {
 
 constexpr std::size_t KanunHanesi = 5;
 
-void OturumaYaz(Oturum& o, const Firma& firma) {
-  o.unvan = firma.unvan;
-  o.firmaay = firma.firmaay;
-  o.firmayil = firma.firmayil;
-  o.ondeger = firma.ondeger;
-  o.paraonda = firma.paraonda;
-}
-
 std::string SonHaneler(const std::string& rakamlar, std::size_t hane) {
   const std::string dolu = std::string(hane, '0') + rakamlar;
   return dolu.substr(dolu.size() - hane);
@@ -42,18 +34,17 @@ Firma FirmaOku(Oturum& o) {
   return IlkSatir<Firma>(o.depo.db, o.depo.firma).value_or(YeniFirma());
 }
 
-bool FirmaKaydet(Oturum& o, const Firma& firma, Bildirim& bildirim) {
-  OturumaYaz(o, firma);
-  Firma yazilan = firma;
-  yazilan.kanun = KanunMetni(firma.kanun);
+Durum FirmaKaydet(Oturum& o, const Firma& firma) {
   auto& rs = o.depo.firma;
   const bool var = rs.IlkKayit();
+  o.firma = firma;
+  o.firma.kanun = KanunMetni(firma.kanun);
+  o.firma.versiyon = var ? DepoVersiyonu(o) : o.Versiyon;
   var ? rs.KayitDuzelt() : rs.KayitEkle();
-  AlanlariYaz(rs, yazilan, {"versiyon"});
-  if (!var) rs.AlanYaz("versiyon", o.Versiyon.Sayi());
-  if (rs.KayitYaz()) return true;
-  bildirim.Uyari("Firma Bilgileri Güncellenemedi");
-  return false;
+  AlanlariYaz(rs, o.firma, {});
+  if (!rs.KayitYaz()) return Kusur{"Firma Bilgileri Güncellenemedi"};
+  o.firmaVar = true;
+  return Tamam();
 }
 
 std::string KanunMetni(std::string_view metin) {
@@ -62,8 +53,9 @@ std::string KanunMetni(std::string_view metin) {
 }
 
 std::string AnaPencereBasligi(const Oturum& o) {
-  if (o.firmaay < 1 || o.firmaay > 12) return o.unvan;
-  return o.unvan + " (" + std::string(AyAdi(o.firmaay)) + "." + SonHaneler(std::to_string(o.firmayil), 4) + ")";
+  if (o.firma.firmaay < 1 || o.firma.firmaay > 12) return o.firma.unvan;
+  return o.firma.unvan + " (" + std::string(AyAdi(o.firma.firmaay)) + "." +
+         SonHaneler(std::to_string(o.firma.firmayil), 4) + ")";
 }
 
 }  // namespace belvani

@@ -1,7 +1,7 @@
 // The company card: the single record of `firma`.
 //
-// The session repeats what all screens need of it (title, period, decimals, default class); a save writes the session
-// first, and the session stays written when the store then refuses the record.
+// The session holds it (`Oturum::firma`); a save writes the session first, and the session stays written when the store
+// then refuses the record. While parameters are loaded, save it through FirmaDurumu, which keeps them in step.
 #pragma once
 
 #include <string>
@@ -20,8 +20,8 @@ Firma YeniFirma();
 Firma FirmaOku(Oturum& o);
 
 // Saves the card. `versiyon` belongs to the upgrade: an edit keeps it, a new record gets the program's. `kanun` may be
-// as it was typed. False: "Firma Bilgileri Güncellenemedi" was told.
-bool FirmaKaydet(Oturum& o, const Firma& firma, Bildirim& bildirim);
+// as it was typed.
+Durum FirmaKaydet(Oturum& o, const Firma& firma);
 
 // A law number as the store keeps it, in five digits: "5510" -> "05510", "506" -> "00506", "yok" -> "00000".
 std::string KanunMetni(std::string_view metin);

@@ -121,36 +121,35 @@ bool OturumAc(Oturum& o, std::string_view sirket, std::string_view kullanici, st
   for (const auto& [anahtar, deger] : {std::pair("lastfirm", o.FirmaKod), std::pair("lastuser", o.Kullanici)})
     if (const auto d = KullaniciAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.KusurMetni());
   if (!FirmaYukle(o)) {
-    o.ondeger = "Personel";
+    o.firma.ondeger = KartsizFirma().ondeger;
     bildirim.Bilgi("Firma Bilgilerini Vermeyi Unutmayınız.");
   }
   return true;
 }
 
+Firma KartsizFirma() {
+  Firma kart;
+  kart.ondeger = "Personel";
+  kart.paraonda = 2;
+  return kart;
+}
+
 bool FirmaYukle(Oturum& o) {
-  auto& firma = o.depo.firma;
-  if (!firma.IlkKayit()) return false;
-  o.unvan = firma.MetinOku("unvan");
-  o.firmayil = int(firma.TamOku("firmayil"));
-  o.firmaay = int(firma.TamOku("firmaay"));
-  o.paraonda = int(firma.TamOku("paraonda"));
-  o.ondeger = firma.MetinOku("ondeger");
-  return true;
+  auto kart = IlkSatir<Firma>(o.depo.db, o.depo.firma);
+  o.firmaVar = kart.has_value();
+  if (kart) o.firma = std::move(*kart);
+  return o.firmaVar;
 }
 
 void FirmaIlkKayit(Oturum& o, Bildirim& bildirim) {
   Firma yeni = YeniFirma();
   yeni.versiyon = o.Versiyon;
-  o.firmaay = yeni.firmaay;
-  o.firmayil = yeni.firmayil;
-  o.ondeger = yeni.ondeger;
-  o.paraonda = yeni.paraonda;
-  o.unvan = yeni.unvan;
-
+  o.firma = yeni;
   auto& firma = o.depo.firma;
   firma.IlkKayit() ? firma.KayitDuzelt() : firma.KayitEkle();
   AlanlariYaz(firma, yeni, {"tersfirma"});
-  if (!firma.KayitYaz()) bildirim.Uyari("Firma Bilgileri Güncellenemedi");
+  o.firmaVar = firma.KayitYaz();
+  if (!o.firmaVar) bildirim.Uyari("Firma Bilgileri Güncellenemedi");
 }
 
 Tek DepoVersiyonu(Oturum& o) {

@@ -11,8 +11,12 @@
 #include "core/bildirim.h"
 #include "core/session/depo.h"
 #include "core/sonuc.h"
+#include "core/tables/firma.h"
 
 namespace belvani {
+
+// What stands for the card of a company that has none: class "Personel", two decimals, no month.
+Firma KartsizFirma();
 
 struct Oturum {
   std::string SeciliKod;                    // what a pick-list chose; its caller reads and clears it
@@ -24,19 +28,20 @@ struct Oturum {
   std::string FirmaKod;  // name of the company's directory, upper case
   std::string PrgPath;   // installed files; ends in a separator
   int ListeSirasi = 1;   // last search column of the lookup window
-  int firmayil = 0;      // working year
-  int firmaay = 0;       // working month, 1 to 12
   Tek Versiyon = ProgramVersiyonu;
   std::string Kullanici = "BELVANI";
-  std::string ondeger = "Personel";  // default personnel class, the group of its earning flags
-  std::string unvan;                 // company title
   std::string BilgisayarAdi;
-  int paraonda = 2;  // decimals of money
   std::string ParaBirimi = "TL";
   std::string KurusBirimi = "KR";
 
   std::string FirmaDizini;  // directory of the open company; ends in a separator
   Depo depo;
+
+  // The company's card as this program knows it, the only copy of it: title, working month and year, decimals, default
+  // class and all else. From the login on, and after each save; a colleague's save is seen at the next login.
+  // FirmaYukle and FirmaKaydet write it.
+  Firma firma = KartsizFirma();
+  bool firmaVar = false;  // false: the company has no card yet
 };
 
 // Start, up to the login: version and computer name, `PrgPath` and `DataPath` from the machine's settings, a command
@@ -57,7 +62,7 @@ Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullani
 bool OturumAc(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
               Bildirim& bildirim);
 
-// The session fields of the `firma` record (title, period, decimals, default class); false when there is none.
+// The card of the open company into the session; false when there is none, and the session's stays as it was.
 bool FirmaYukle(Oturum& o);
 
 // The `firma` record of a new company.

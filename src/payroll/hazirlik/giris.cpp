@@ -78,14 +78,15 @@ BordroGirisi::BordroGirisi(Oturum& oturum, const ParametreDeposu& parametreler, 
 bool BordroGirisi::Ac() {
   EkranTemizle();
   kod_.clear();
-  auto k = KosullariKur(o_, parametreler_.yasal, parametreler_.firma, o_.firmayil, o_.firmaay);
+  auto k = KosullariKur(o_, parametreler_.yasal, parametreler_.firma.Parametreler(),
+                        parametreler_.firma.Kart().firmayil, parametreler_.firma.Kart().firmaay);
   if (!k) {
     bildirim_.Bilgi(k.KusurMetni());
     return false;
   }
   kosullar_ = std::move(*k);
   kosullar_.firma.sablon = SablonYukle(o_.FirmaDizini).deger;
-  surum_ = parametreler_.surum;
+  surum_ = parametreler_.Surum();
   if (!kosullar_.IsSaatiYazili) bildirim_.Bilgi("Firma Bilgilerinde İş Saati Yazılmamış");
   return true;
 }
@@ -117,11 +118,12 @@ void BordroGirisi::KapanisDenetimi() {
 
 // What a parameter screen has saved meanwhile holds for the calculations after it.
 void BordroGirisi::ParametreleriTazele() {
-  if (surum_ == parametreler_.surum) return;
-  auto k = KosullariKur(o_, parametreler_.yasal, parametreler_.firma, kosullar_.donem.yil, kosullar_.donem.ay);
+  if (surum_ == parametreler_.Surum()) return;
+  auto k = KosullariKur(o_, parametreler_.yasal, parametreler_.firma.Parametreler(), kosullar_.donem.yil,
+                        kosullar_.donem.ay);
   if (!k) return;
   kosullar_ = std::move(*k);
-  surum_ = parametreler_.surum;
+  surum_ = parametreler_.Surum();
   if (hal_ != Hal::KisiYok) KosullaraBagla(g_, kisi_, kosullar_);
 }
 

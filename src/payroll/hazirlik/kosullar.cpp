@@ -57,12 +57,6 @@ std::string Satirlar(const char* baslik, const std::vector<std::string>& uyarila
   return metin;
 }
 
-Sonuc<Firma> FirmaSatiri(Oturum& o) {
-  auto firmalar = KayitlariOku<Firma>(o.depo.db.IcMotor());
-  if (firmalar.empty()) return Kusur{"İşyeri Tanımlamaları Yapılmamış"};
-  return std::move(firmalar.front());
-}
-
 Kosullar Kur(const Firma& firma, const YasalParametreler& yasal, const FirmaParametreleri& parametreler, int yil,
              int ay) {
   Kosullar k;
@@ -84,8 +78,8 @@ FirmaParametreleri FirmaDosyalariYukle(Oturum& o, BozukDosya bozuk) {
   FirmaParametreleri f;
   f.gruplar = KayitlariOku<Kaztan>(motor);
   const auto dosyadan = Al(f, KazancBayraklariYukle(o.FirmaDizini));
-  if (!o.ondeger.empty()) VarsayilanGrubuEkle(motor, f, o.ondeger, dosyadan);
-  f.varsayilan = KazancGrupYukle(f, o.ondeger);
+  if (!o.firma.ondeger.empty()) VarsayilanGrubuEkle(motor, f, o.firma.ondeger, dosyadan);
+  f.varsayilan = KazancGrupYukle(f, o.firma.ondeger);
   f.mesailer = Al(f, FazlaMesaiYukle(o.FirmaDizini));
   f.sablon = Al(f, SablonYukle(o.FirmaDizini, bozuk));
   YardimlariOku(motor, f.yardimlar);
@@ -108,26 +102,20 @@ Sonuc<YasalParametreler> YasalParametreleriAl(const std::string& dataPath) {
 
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay) {
   try {
-    const auto firma = FirmaSatiri(o);
-    if (!firma) return firma.Kusuru();
+    FirmaYukle(o);
     const FirmaParametreleri parametreler = FirmaDosyalariYukle(o, BozukDosya::Kalir);
     if (!parametreler.uyarilar.empty())
       return Kusur{Satirlar("Şirketin parametre dosyaları kullanılamıyor:", parametreler.uyarilar)};
-    return Kur(*firma, yasal, parametreler, yil, ay);
+    return KosullariKur(o, yasal, parametreler, yil, ay);
   } catch (const MotorHatasi& h) {
     return Kusur{h.what()};
   }
 }
 
-Sonuc<Kosullar> KosullariKur(Oturum& o, const YasalParametreler& yasal, const FirmaParametreleri& parametreler, int yil,
-                             int ay) {
-  try {
-    const auto firma = FirmaSatiri(o);
-    if (!firma) return firma.Kusuru();
-    return Kur(*firma, yasal, parametreler, yil, ay);
-  } catch (const MotorHatasi& h) {
-    return Kusur{h.what()};
-  }
+Sonuc<Kosullar> KosullariKur(const Oturum& o, const YasalParametreler& yasal, const FirmaParametreleri& parametreler,
+                             int yil, int ay) {
+  if (!o.firmaVar) return KuralKusuru("İşyeri Tanımlamaları Yapılmamış");
+  return Kur(o.firma, yasal, parametreler, yil, ay);
 }
 
 KazancBayraklari GrupBayraklari(const Kaztan& satir) {

@@ -48,12 +48,12 @@ FirmaParametreleri FirmaDosyalariYukle(Oturum& o, BozukDosya bozuk = BozukDosya:
 // empty of figures is a failure, and stays as it is.
 Sonuc<YasalParametreler> YasalParametreleriAl(const std::string& dataPath);
 
-// All conditions of a month of the open company under those parameters. The failure says what the company lacks or
-// which of its files is broken.
+// All conditions of a month of the open company under those parameters; reads its card anew. The failure says what the
+// company lacks or which of its files is broken.
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay);
 
-// The same out of parameters that are already loaded; reads the company's record alone.
-Sonuc<Kosullar> KosullariKur(Oturum& o, const YasalParametreler& yasal, const FirmaParametreleri& firma, int yil,
+// The same out of parameters that are already loaded, and the session's card.
+Sonuc<Kosullar> KosullariKur(const Oturum& o, const YasalParametreler& yasal, const FirmaParametreleri& firma, int yil,
                              int ay);
 
 // The flags of a group as its row keeps them, both ways.

@@ -34,7 +34,7 @@ std::string KayitKusuru(const Kayit& kayit) {
 }
 
 bool Tazele(TanimOrtami ortam) {
-  const auto durum = ortam.parametreler.FirmaYukle(ortam.oturum);
+  const auto durum = ortam.parametreler.firma.Yukle();
   if (!durum) ortam.bildirim.Uyari(durum.KusurMetni());
   return bool(durum);
 }
@@ -104,7 +104,7 @@ bool KazancGrubuKaydet(TanimOrtami ortam, std::string_view grup, const KazancBay
 
 bool KazancGrubuSil(TanimOrtami ortam, std::string_view grup) {
   const std::string ad(Kirp(grup));
-  if (TurkceEsit(ad, Kirp(ortam.oturum.ondeger))) {
+  if (TurkceEsit(ad, Kirp(ortam.oturum.firma.ondeger))) {
     ortam.bildirim.Bilgi("Varsayılan Hesap Silinemez\nYeniden Düzenlenir");
     return false;
   }

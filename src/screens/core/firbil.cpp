@@ -70,8 +70,10 @@ std::vector<std::vector<AlanGrubu>> Gruplar() {
 
 }  // namespace
 
-firbil::firbil(EkranBaglami& baglam)
-    : Form(baglam, "firbil", QStringLiteral("Firma Bilgileri")), firma_(FirmaOku(baglam.oturum)) {
+firbil::firbil(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : Form(baglam, "firbil", QStringLiteral("Firma Bilgileri")),
+      durum_(parametreler.firma),
+      firma_(FirmaOku(baglam.oturum)) {
   AlanlariDiz(Gruplar());
   Komut(
       FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
@@ -89,8 +91,7 @@ void firbil::OraniGoster() {
 
 void firbil::Kaydet() {
   if (!Oku(firma_)) return;
-  FirmaKaydet(Oturumu(), firma_, Bildirimi());
-  Baglam().gosterici.BaslikDegisti();
+  if (const Durum kaydedildi = durum_.KartKaydet(firma_); !kaydedildi) Bildir(kaydedildi.Kusuru());
   Kapat();
 }
 

@@ -2,18 +2,20 @@
 #pragma once
 
 #include "core/session/firmabilgi.h"
+#include "payroll/hazirlik/parametredeposu.h"
 #include "ui/form.h"
 
 namespace belvani {
 
 class firbil : public Form {
  public:
-  explicit firbil(EkranBaglami& baglam);
+  firbil(EkranBaglami& baglam, ParametreDeposu& parametreler);
 
  private:
   void Kaydet();
   void OraniGoster();
 
+  FirmaDurumu& durum_;
   Firma firma_;
 };
 

@@ -87,7 +87,7 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : Form(baglam, "yaylik", QStringLiteral("Aylık Bildirge (EK-9  (4a))")),
       bildirge_(baglam.oturum, parametreler.yasal, baglam.bildirim),
       liste_(new dclist(baglam.bildirim, this)),
-      tablo_(*liste_, Kolonlar(baglam.oturum.paraonda)) {
+      tablo_(*liste_, Kolonlar(baglam.oturum.firma.paraonda)) {
   liste_->setObjectName("dclist1");
   for (const BildirgeKolonu& k : BildirgeKolonlari)
     if (k.baslik.empty()) liste_->Gizle(QString::fromLatin1(k.ad.data(), int(k.ad.size())));

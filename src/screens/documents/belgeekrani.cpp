@@ -98,13 +98,13 @@ void BelgeEkrani::FontDugmesi(BelgeYazisi& yazi) {
 
 SecimFormu BelgeEkrani::IlkSecim() const {
   SecimFormu secim;
-  secim.yil = std::int16_t(Oturumu().firmayil);
-  secim.ay = std::uint8_t(Oturumu().firmaay);
+  secim.yil = std::int16_t(Oturumu().firma.firmayil);
+  secim.ay = std::uint8_t(Oturumu().firma.firmaay);
   return secim;
 }
 
 BelgeKaynagi BelgeEkrani::Kaynak() const {
-  return {.motor = Oturumu().depo.db.IcMotor(), .yasal = parametreler_.yasal, .paraonda = Oturumu().paraonda};
+  return {.motor = Oturumu().depo.db.IcMotor(), .yasal = parametreler_.yasal, .paraonda = Oturumu().firma.paraonda};
 }
 
 std::unique_ptr<Belge> BelgeEkrani::Hazirla() {

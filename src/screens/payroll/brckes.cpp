@@ -14,7 +14,7 @@ struct Kesinti {
 brckes::brckes(EkranBaglami& baglam, BordroGirisi& giris)
     : Form(baglam, "brckes", QStringLiteral("-Borç Kesintisi-")), giris_(giris) {
   AlanlariDiz({{{"Borç Kesintisi", {{Uye("tutar", &Kesinti::tutar), "Kesinti Tutarı"}}}}});
-  auto* limit = new QLabel("En fazla " + Yazi(TutarMetni(giris.BorcLimiti(), Oturumu().paraonda)), this);
+  auto* limit = new QLabel("En fazla " + Yazi(TutarMetni(giris.BorcLimiti(), Oturumu().firma.paraonda)), this);
   limit->setProperty("soluk", true);
   Govde()->addWidget(limit);
   Komut(

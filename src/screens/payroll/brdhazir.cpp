@@ -51,7 +51,7 @@ void brdhazir::UstSatirYap() {
   auto* satir = new QHBoxLayout;
   satir->setSpacing(10);
   for (const std::string_view ad : AyAdlari) ay_->addItem(Yazi(ad));
-  ay_->setCurrentIndex(Oturumu().firmaay - 1);
+  ay_->setCurrentIndex(Oturumu().firma.firmaay - 1);
   for (const std::string_view ad : PuantajKaynaklari) kaynak_->addItem(Yazi(ad));
   BordroNoDoldur();
   const auto ekle = [&](const QString& ad, QWidget* parca) {
@@ -60,7 +60,7 @@ void brdhazir::UstSatirYap() {
     Izle(parca);
   };
 
-  auto* yil = new QLabel(QString::number(Oturumu().firmayil), this);
+  auto* yil = new QLabel(QString::number(Oturumu().firma.firmayil), this);
   yil->setProperty("baslik", true);
   ekle(QStringLiteral("Dönem Ay,Yıl"), ay_);
   satir->addWidget(yil);
@@ -175,7 +175,7 @@ void brdhazir::UyariRengi(bool kirmizi) {
 }
 
 QString brdhazir::Para(Tutar tutar) const {
-  return Yazi(TutarMetni(tutar, Oturumu().paraonda));
+  return Yazi(TutarMetni(tutar, Oturumu().firma.paraonda));
 }
 
 AlanDenetimi* brdhazir::Sahibi(const QObject* nesne) const {

@@ -16,7 +16,7 @@ fazmes::fazmes(EkranBaglami& baglam, ParametreDeposu& parametreler)
 }
 
 std::vector<FazlaMesai> fazmes::Satirlar() const {
-  const FazlaMesailer& mesailer = Parametreler().firma.mesailer;
+  const FazlaMesailer& mesailer = Parametreler().firma.Parametreler().mesailer;
   return {mesailer.begin(), mesailer.end()};
 }
 

@@ -32,7 +32,7 @@ gvtablo::gvtablo(EkranBaglami& baglam, ParametreDeposu& parametreler, Tur tur)
     : ListeEkrani(baglam, parametreler, "gvtablo",
                   tur == Tur::GelirVergisi ? QStringLiteral("Gelir Vergisi Tablosu")
                                            : QStringLiteral("Özel Gider İndirimi GV Tablosu"),
-                  Kolonlar(baglam.oturum.paraonda)),
+                  Kolonlar(baglam.oturum.firma.paraonda)),
       tur_(tur),
       ozel_(OzelGvYukle(baglam.oturum.DataPath).deger) {
   Liste().HucreDegisti = [this](int, const QString&) { AltSinirlariGoster(); };

@@ -13,7 +13,7 @@ indfrm::indfrm(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ListeEkrani(baglam, parametreler, "indfrm", QStringLiteral("İndirimler"),
                   {AdKolonu<Indir>("", 80, IndirimAdlari),
                    UyeKolonu("adi", "İndirim İsmi", 190, &Indir::adi, {.enCok = indir::adi.boyut}),
-                   UyeKolonu("sabit", "Sabit İndirim", 120, &Indir::sabit, {.ondalik = baglam.oturum.paraonda}),
+                   UyeKolonu("sabit", "Sabit İndirim", 120, &Indir::sabit, {.ondalik = baglam.oturum.firma.paraonda}),
                    UyeKolonu("oran", "% İndirim", 90, &Indir::oran, {.enCok = 100}),
                    UyeKolonu("indtip", "İndirim Yeri", 200, &Indir::indtip, {.liste = IndirimYerleri})}) {
   Ac(3);
@@ -21,7 +21,7 @@ indfrm::indfrm(EkranBaglami& baglam, ParametreDeposu& parametreler)
 
 std::vector<Indir> indfrm::Satirlar() const {
   std::vector<Indir> satirlar;
-  for (const auto& tanim : Parametreler().firma.indirimler) satirlar.push_back(tanim.value_or(Indir{}));
+  for (const auto& tanim : Parametreler().firma.Parametreler().indirimler) satirlar.push_back(tanim.value_or(Indir{}));
   return satirlar;
 }
 

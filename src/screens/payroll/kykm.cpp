@@ -39,13 +39,13 @@ kykm::kykm(EkranBaglami& baglam, ParametreDeposu& parametreler)
   gruplar_->SatirSecildi = [this](int satir) { GrupGoster(Utf8(gruplar_->Text(satir, 0))); };
   // A new name keeps the flags on the screen: a new group starts as a copy.
   AnahtarBagla("grup", [this](const std::string& ad) {
-    if (KazancGrubuVar(Parametreler().firma, ad)) GrupGoster(ad);
+    if (KazancGrubuVar(Parametreler().firma.Parametreler(), ad)) GrupGoster(ad);
   });
   Komut(
       FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
   Komut(
       FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
-  GruplariGoster(Oturumu().ondeger);
+  GruplariGoster(Oturumu().firma.ondeger);
   IlkOdak(gruplar_);
 }
 
@@ -67,13 +67,14 @@ void kykm::Yerlestir() {
 
 void kykm::GruplariGoster(const std::string& secili) {
   gruplar_->Clear();
-  for (const std::string& ad : KazancGruplari(Parametreler().firma)) gruplar_->Text(gruplar_->Add(), 0, Yazi(ad));
+  for (const std::string& ad : KazancGruplari(Parametreler().firma.Parametreler()))
+    gruplar_->Text(gruplar_->Add(), 0, Yazi(ad));
   if (gruplar_->FindByName("grup", Yazi(secili)) < 0) gruplar_->ChngSat(0);
 }
 
 void kykm::GrupGoster(const std::string& grup) {
   AnahtarKoy(grup);
-  bayraklar_ = KazancGrupYukle(Parametreler().firma, grup);
+  bayraklar_ = KazancGrupYukle(Parametreler().firma.Parametreler(), grup);
   kazanclar_->Koy(bayraklar_.k);
   yardimlar_->Koy(bayraklar_.y);
 }
@@ -91,7 +92,7 @@ void kykm::Kaydet() {
 
 void kykm::Sil() {
   if (gruplar_->CurSat() < 0 || !KazancGrubuSil(Tanimlar(), Utf8(gruplar_->Text(gruplar_->CurSat(), 0)))) return;
-  GruplariGoster(Oturumu().ondeger);
+  GruplariGoster(Oturumu().firma.ondeger);
   gruplar_->setFocus();
 }
 

@@ -34,7 +34,7 @@ bool ParametreEkrani::YasalYazildi(const Durum& durum) {
 }
 
 bool ParametreEkrani::FirmaYazildi(const Durum& durum) {
-  const Durum yuklenen = durum ? parametreler_.FirmaYukle(Oturumu()) : durum;
+  const Durum yuklenen = durum ? parametreler_.firma.Yukle() : durum;
   if (!yuklenen) {
     Bildirimi().Uyari(yuklenen.KusurMetni());
     return false;

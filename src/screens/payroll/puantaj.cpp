@@ -35,7 +35,7 @@ puantaj::puantaj(EkranBaglami& baglam) : Form(baglam, "puantaj", QStringLiteral(
   liste->GenisKolon("adsoy");
   liste->setMinimumSize(980, 320);
   Govde()->addWidget(liste, 1);
-  Yukle(Donem{std::int16_t(Oturumu().firmaay), std::int16_t(Oturumu().firmayil)});
+  Yukle(Donem{std::int16_t(Oturumu().firma.firmaay), std::int16_t(Oturumu().firma.firmayil)});
 }
 
 }  // namespace belvani

@@ -35,7 +35,7 @@ AlanGrubu Yardimlar(const YardimTanimlari& tanimlar) {
 sabpu::sabpu(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ParametreEkrani(baglam, parametreler, "sabpu", QStringLiteral("Şablon Puantaj")),
       sablon_(SablonOku(baglam.oturum.FirmaDizini).deger) {
-  AlanlariDiz({{Gunler()}, {Yardimlar(parametreler.firma.yardimlar)}});
+  AlanlariDiz({{Gunler()}, {Yardimlar(parametreler.firma.Parametreler().yardimlar)}});
   Komut(
       FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
   Goster(sablon_);

@@ -49,7 +49,7 @@ sendtan::sendtan(EkranBaglami& baglam, ParametreDeposu& parametreler)
 
 void sendtan::ListeyiGoster() {
   liste_->Clear();
-  for (const Sendika& s : Parametreler().firma.sendikalar) {
+  for (const Sendika& s : Parametreler().firma.Parametreler().sendikalar) {
     const int satir = liste_->Add();
     liste_->Text(satir, 0, Yazi(s.kod));
     liste_->Text(satir, 1, Yazi(s.adi));
@@ -59,7 +59,7 @@ void sendtan::ListeyiGoster() {
 
 // Under a code that is not there yet, what stands on the screen becomes the new union.
 void sendtan::Bul(const std::string& kod) {
-  const Sendika* bulunan = SendikaBul(Parametreler().firma, kod);
+  const Sendika* bulunan = SendikaBul(Parametreler().firma.Parametreler(), kod);
   if (bulunan == nullptr) return;
   sendika_ = *bulunan;
   Goster(sendika_);
@@ -75,7 +75,8 @@ void sendtan::Kaydet() {
 
 void sendtan::Sil() {
   const std::string kod(Kirp(Utf8(YaziKutusu("kod").text())));
-  if (SendikaBul(Parametreler().firma, kod) == nullptr) return Bildirimi().Bilgi("Silinecek Kayıt Bulunamadı");
+  if (SendikaBul(Parametreler().firma.Parametreler(), kod) == nullptr)
+    return Bildirimi().Bilgi("Silinecek Kayıt Bulunamadı");
   if (SendikaSil(Tanimlar(), kod)) Yenile();
 }
 

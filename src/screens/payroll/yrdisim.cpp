@@ -17,12 +17,12 @@ yrdisim::yrdisim(EkranBaglami& baglam, ParametreDeposu& parametreler)
                    UyeKolonu("adi", "Açıklama", 220, &YardimTanimi::adi, {.enCok = muaf::adi.boyut}),
                    UyeKolonu("indtip", "Muafiyet Şekli", 180, &YardimTanimi::indtip, {.liste = MuafiyetSekilleri}),
                    UyeKolonu("oran", "Oran %", 90, &YardimTanimi::oran, {.enCok = 9999}),
-                   UyeKolonu("sabit", "Sabit", 120, &YardimTanimi::sabit, {.ondalik = baglam.oturum.paraonda})}) {
+                   UyeKolonu("sabit", "Sabit", 120, &YardimTanimi::sabit, {.ondalik = baglam.oturum.firma.paraonda})}) {
   Ac(YardimSayisi);
 }
 
 std::vector<YardimTanimi> yrdisim::Satirlar() const {
-  const YardimTanimlari& yardimlar = Parametreler().firma.yardimlar;
+  const YardimTanimlari& yardimlar = Parametreler().firma.Parametreler().yardimlar;
   return {yardimlar.begin(), yardimlar.end()};
 }
 

@@ -102,7 +102,8 @@ void yyasor::Goster() {
   dallar_ = Dallar(Parametreler().yasal);
   tablo_.Doldur(dallar_);
   ParametreEkrani::Goster(Parametreler().yasal.oranlar);
-  const std::string uyusmazlik = DonemUyusmazligi(Parametreler().yasal, Oturumu().firmayil, Oturumu().firmaay);
+  const std::string uyusmazlik =
+      DonemUyusmazligi(Parametreler().yasal, Oturumu().firma.firmayil, Oturumu().firma.firmaay);
   uyari_->setText(Yazi(uyusmazlik));
   uyari_->setVisible(!uyusmazlik.empty());
 }

@@ -59,7 +59,7 @@ void percik::Yerlestir() {
   yatay->addWidget(GrupYap(AdresGrubu()));
   auto* kutu = new QGroupBox(QStringLiteral("İbraname Ödemeleri"), this);
   auto* icerik = new QVBoxLayout(kutu);
-  odemeler_ = new OdemeTablosu(Bildirimi(), Oturumu().paraonda, kutu);
+  odemeler_ = new OdemeTablosu(Bildirimi(), Oturumu().firma.paraonda, kutu);
   icerik->addWidget(odemeler_, 0, Qt::AlignLeft | Qt::AlignTop);
   yatay->addWidget(kutu, 1);
   Govde()->addLayout(yatay);
@@ -128,7 +128,7 @@ void percik::Yazdir() {
                                       .firma = FirmaOku(Oturumu()),
                                       .odemeler = odemeler_->Oku(),
                                       .tarih = Tarih::Bugun(),
-                                      .paraonda = Oturumu().paraonda});
+                                      .paraonda = Oturumu().firma.paraonda});
   BelgeBas(Baglam(), *belge);
 }
 

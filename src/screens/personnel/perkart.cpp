@@ -101,7 +101,7 @@ QWidget* perkart::IndirimleriYap() {
   izgara->setHorizontalSpacing(14);
   izgara->setVerticalSpacing(6);
   const auto ekle = [&](int no, const auto& isaret, const auto& tutar) {
-    const std::string ad = IndirimAdi(parametreler_.firma.indirimler, std::size_t(no));
+    const std::string ad = IndirimAdi(parametreler_.firma.Parametreler().indirimler, std::size_t(no));
     izgara->addWidget(DenetimEkle({isaret, ad.c_str()}, kutu).Parca(), no, 0);
     izgara->addWidget(
         DenetimEkle({tutar, ad.c_str(), {.ondalik = ParaOndalik, .harf = 12, .ipucu = "İndirim tutarı"}}, kutu).Parca(),

@@ -37,21 +37,22 @@ TEST_F(FirmaBilgi, CardKeepsTheVersionOfTheStore) {
   f.ondeger = "Memur";
   f.kurtar = {};
   f.versiyon = Tek(1);
-  ASSERT_TRUE(FirmaKaydet(o, f, b));
-  EXPECT_EQ(AnaPencereBasligi(o) + o.ondeger, "Örgü Ltd. (Temmuz.2009)Memur");
+  ASSERT_TRUE(FirmaKaydet(o, f));
+  EXPECT_EQ(AnaPencereBasligi(o) + o.firma.ondeger, "Örgü Ltd. (Temmuz.2009)Memur");
   f.kanun = "05510";
   f.versiyon = Tek(2003.6);
   EXPECT_EQ(FirmaOku(o), f);
 
   Sql("delete from firma");
   EXPECT_EQ(FirmaOku(o), YeniFirma());
-  ASSERT_TRUE(FirmaKaydet(o, f, b));
+  ASSERT_TRUE(FirmaKaydet(o, f));
   f.versiyon = o.Versiyon;
   EXPECT_EQ(FirmaOku(o), f);
   Firma uzun;
   uzun.unvan = std::string(41, 'x');
-  EXPECT_FALSE(FirmaKaydet(o, uzun, b));
-  EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Firma Bilgileri Güncellenemedi"});
+  const Durum kaydedilmedi = FirmaKaydet(o, uzun);
+  ASSERT_FALSE(kaydedilmedi);
+  EXPECT_EQ(kaydedilmedi.KusurMetni(), "Firma Bilgileri Güncellenemedi");
   EXPECT_EQ(AnaPencereBasligi(o), uzun.unvan);  // the session stays written, here without a month
   EXPECT_EQ(FirmaOku(o), f);
 }

@@ -102,8 +102,8 @@ TEST_F(OturumTest, FirstCompanyRecordFieldByField) {
         << alan.ad;
     EXPECT_EQ(o.depo.firma.AlanOku(alan.ad), !bos ? i->second : metin ? Deger(std::string()) : Deger(I(0))) << alan.ad;
   });
-  EXPECT_EQ(o.unvan + o.ondeger, unvan + "Personel");
-  EXPECT_EQ(o.firmayil * 100 + o.firmaay, bugun.Yil() * 100 + bugun.Ay());
+  EXPECT_EQ(o.firma.unvan + o.firma.ondeger, unvan + "Personel");
+  EXPECT_EQ(o.firma.firmayil * 100 + o.firma.firmaay, bugun.Yil() * 100 + bugun.Ay());
   Sql("drop table firma");
   FirmaIlkKayit(o, b);
   EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Firma Bilgileri Güncellenemedi"});
@@ -208,7 +208,7 @@ TEST_F(OturumTest, Login) {
   for (const auto& [sirket, kod, sifre, girer] : durumlar) {
     SCOPED_TRACE(std::string(kod) + "/" + sifre);
     ASSERT_TRUE(SirketAc(o, "deneme", b));
-    o.unvan = o.ondeger = "";
+    o.firma.unvan = o.firma.ondeger = "";
     const std::string onceki = KullaniciAyari("lastuser", "BELVANI");
     EXPECT_EQ(OturumAc(o, sirket, kod, sifre, b), girer);
     const Iletiler hatali{"Bilgi: Kullanıcı Adı veya Kullanıcı Şifresi\n           HATALI"};
@@ -216,24 +216,24 @@ TEST_F(OturumTest, Login) {
     EXPECT_TRUE(o.depo.db.AcikMi());
     EXPECT_EQ(o.depo.peruser.AcikMi() && o.depo.cari.AcikMi(), girer);
     EXPECT_EQ(KullaniciAyari("lastuser", "BELVANI"), girer ? kod : onceki);
-    EXPECT_EQ(o.unvan + o.ondeger, girer ? "ÜnvanMemur" : "");
+    EXPECT_EQ(o.firma.unvan + o.firma.ondeger, girer ? "ÜnvanMemur" : "");
     if (!girer) continue;
     EXPECT_EQ(o.Kullanici + o.FirmaKod + KullaniciAyari("lastfirm", ""), std::string(kod) + "DENEMEDENEME");
-    EXPECT_EQ(o.firmayil * 1000 + o.firmaay * 10 + o.paraonda, 2'008'100);
+    EXPECT_EQ(o.firma.firmayil * 1000 + o.firma.firmaay * 10 + o.firma.paraonda, 2'008'100);
   }
 }
 
 TEST_F(OturumTest, LoginWithoutCompanyRecordAndSettings) {
   Kur();
   Sql("delete from firma");
-  o.firmayil = 1999, o.firmaay = 3, o.paraonda = 1, o.unvan = "Kalan", o.ondeger = "x";
+  o.firma.firmayil = 1999, o.firma.firmaay = 3, o.firma.paraonda = 1, o.firma.unvan = "Kalan", o.firma.ondeger = "x";
   ASSERT_TRUE(DosyaYaz(d.Yol() + "dosya", ""));
   const auto yazilmaz = OrtamKoy("BELVANI_KULLANICI_DIZIN", (d.Yol() + "dosya/x").c_str());
   EXPECT_TRUE(OturumAc(o, "deneme", "ayşe", "gizli'", b));
   EXPECT_EQ(b.iletiler.size(), 3u);  // two settings that could not be kept, and
   EXPECT_EQ(b.iletiler.back(), "Bilgi: Firma Bilgilerini Vermeyi Unutmayınız.");
-  EXPECT_EQ(o.firmayil * 1000 + o.firmaay * 10 + o.paraonda, 1'999'031);
-  EXPECT_EQ(o.Kullanici + o.unvan + o.ondeger, "ayşeKalanPersonel");
+  EXPECT_EQ(o.firma.firmayil * 1000 + o.firma.firmaay * 10 + o.firma.paraonda, 1'999'031);
+  EXPECT_EQ(o.Kullanici + o.firma.unvan + o.firma.ondeger, "ayşeKalanPersonel");
 }
 
 TEST_F(OturumTest, Versions) {

@@ -17,14 +17,15 @@ namespace {
 using testing::ElementsAre;
 
 struct Ekran : test::Sirket {
-  ParametreDeposu depo;
+  ParametreDeposu depo{o};
   BordroGirisi giris{o, depo, bildirim};
 
   void Ac(int yil, int ay) {
     depo.yasal = test::Yasal(yil, ay);
-    test::Al(depo.FirmaYukle(o));
-    o.firmayil = yil;
-    o.firmaay = ay;
+    ASSERT_TRUE(FirmaYukle(o));
+    test::Al(depo.firma.Yukle());
+    o.firma.firmayil = std::int16_t(yil);
+    o.firma.firmaay = std::uint8_t(ay);
     ASSERT_TRUE(giris.Ac());
   }
 };
@@ -151,6 +152,7 @@ TEST(BordroGirisi, WalksOverWhoDoesNotBelongToThePeriod) {
               ElementsAre("Bilgi: Firma Bilgilerinde İş Saati Yazılmamış", "Bilgi: Personel Giriş Tarihi Hatalı",
                           "Bilgi: Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil"));
   e.motor().Calistir("delete from firma");
+  EXPECT_FALSE(FirmaYukle(e.o));
   EXPECT_FALSE(e.giris.Ac());
 }
 
@@ -197,7 +199,7 @@ TEST(BordroGirisi, SavedAgainKeepsTheRatesAndAsks) {
   const Brd ilk = e.Kayit("1", 2009, 1);
   e.Ac(2009, 1);
   e.depo.yasal.oranlar.IsciOran[0].has = Tek(50);
-  ++e.depo.surum;
+  ++e.depo.yasalSurumu;
   for (const bool cevap : {false, true}) {
     e.bildirim.cevap = cevap;
     e.giris.KodAl("1");

@@ -13,9 +13,9 @@ namespace {
 using testing::ElementsAre;
 
 struct Tanimlar : test::Sirket {
-  ParametreDeposu depo;
+  ParametreDeposu depo{o};
   TanimOrtami ortam{o, depo, bildirim};
-  Tanimlar() { test::Al(depo.FirmaYukle(o)); }
+  Tanimlar() { test::Al(depo.firma.Yukle()); }
 };
 
 TEST(KazancGruplari, AreSavedAndDeletedByName) {
@@ -26,9 +26,9 @@ TEST(KazancGruplari, AreSavedAndDeletedByName) {
   b.y[10] = 31;
   EXPECT_TRUE(KazancGrubuKaydet(t.ortam, "USTA", b)) << "the same group, case ignored";
   EXPECT_TRUE(KazancGrubuKaydet(t.ortam, "personel", b));
-  EXPECT_THAT(KazancGruplari(t.depo.firma), ElementsAre("personel", "USTA"));
-  EXPECT_EQ(KazancGrupYukle(t.depo.firma, "usta"), b);
-  EXPECT_EQ(t.depo.firma.varsayilan, b) << "the default group holds for people without one";
+  EXPECT_THAT(KazancGruplari(t.depo.firma.Parametreler()), ElementsAre("personel", "USTA"));
+  EXPECT_EQ(KazancGrupYukle(t.depo.firma.Parametreler(), "usta"), b);
+  EXPECT_EQ(t.depo.firma.Parametreler().varsayilan, b) << "the default group holds for people without one";
   EXPECT_FALSE(KazancGrubuSil(t.ortam, "PERSONEL"));
   EXPECT_TRUE(KazancGrubuSil(t.ortam, "usta"));
   t.motor().Calistir("create trigger dur before update on kaztan begin select raise(abort, 'dur'); end");
@@ -36,7 +36,7 @@ TEST(KazancGruplari, AreSavedAndDeletedByName) {
   EXPECT_THAT(t.bildirim.Al(), ElementsAre("Bilgi: Varsayılan Hesap Silinemez\nYeniden Düzenlenir",
                                            "Soru: usta Grubu\nKazanç Tanımlamalarını Silmek İstiyormusunuz ?",
                                            "Uyarı: Kazanç Kayıtları Kaydedilemedi"));
-  EXPECT_THAT(KazancGruplari(t.depo.firma), ElementsAre("personel"));
+  EXPECT_THAT(KazancGruplari(t.depo.firma.Parametreler()), ElementsAre("personel"));
 }
 
 TEST(Tanimlar, OfDeductionsAllowancesAndUnionsReachTheSession) {
@@ -50,13 +50,13 @@ TEST(Tanimlar, OfDeductionsAllowancesAndUnionsReachTheSession) {
   for (int kez = 0; kez < 2; ++kez)
     EXPECT_TRUE(IndirimleriKaydet(t.ortam, indirimler) && YardimlariKaydet(t.ortam, yardimlar) &&
                 SendikaKaydet(t.ortam, s));
-  EXPECT_EQ(t.depo.firma.indirimler[2]->indtip, 4);
-  EXPECT_EQ(t.depo.firma.yardimlar, yardimlar);
-  EXPECT_EQ(t.depo.firma.sendikalar.size(), 1u);
+  EXPECT_EQ(t.depo.firma.Parametreler().indirimler[2]->indtip, 4);
+  EXPECT_EQ(t.depo.firma.Parametreler().yardimlar, yardimlar);
+  EXPECT_EQ(t.depo.firma.Parametreler().sendikalar.size(), 1u);
   s.adi = "Yirmi harften daha uzun";
   EXPECT_FALSE(SendikaKaydet(t.ortam, s));
   EXPECT_TRUE(SendikaSil(t.ortam, "01"));
-  EXPECT_EQ(SendikaBul(t.depo.firma, "01"), nullptr);
+  EXPECT_EQ(SendikaBul(t.depo.firma.Parametreler(), "01"), nullptr);
   EXPECT_THAT(t.bildirim.Al(),
               ElementsAre("Bilgi: adi: en çok 20 harf olabilir", "Soru: Kaydı Silmek İstiyormusunuz ?"));
 }
@@ -65,8 +65,8 @@ TEST(ParametreDeposu, TakesOneDownloadedFile) {
   Tanimlar t;
   const auto kullanici = test::OrtamKoy("BELVANI_KULLANICI_DIZIN", t.dizin.Yol().c_str());
   const auto veri = test::OrtamKoy("BELVANI_VERI_DIZIN", test::KaynakYolu("data").c_str());
-  t.o.firmayil = 2009;
-  t.o.firmaay = 7;
+  t.o.firma.firmayil = 2009;
+  t.o.firma.firmaay = 7;
   ASSERT_TRUE(t.depo.DosyaIndir(t.o, ParametreDosyasi::Gv));
   EXPECT_EQ(t.depo.yasal.gv.GvLimit[0], Tutar(8700));
   EXPECT_EQ(t.depo.yasal.oranlar.AsgariUcret, Tutar()) << "that file alone";

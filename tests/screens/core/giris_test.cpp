@@ -43,7 +43,7 @@ TEST_F(GirisEkrani, FirstRunMakesACompanyAndItsFirstUser) {
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Şirket Bulunamadı\nYeni Şirket Açılacak ?"});
   EXPECT_EQ(ortam.oturum.FirmaKod, "IŞIL ÖRGÜ");
   EXPECT_EQ(ortam.oturum.Kullanici, "Çağlar");
-  EXPECT_EQ(ortam.oturum.firmaay, Tarih::Bugun().Ay());
+  EXPECT_EQ(ortam.oturum.firma.firmaay, Tarih::Bugun().Ay());
   EXPECT_EQ(KullaniciAyari("lastfirm", ""), "IŞIL ÖRGÜ");
   const auto kullanicilar = Kullanicilar(ortam.oturum);
   ASSERT_EQ(kullanicilar.size(), 1u);
@@ -61,7 +61,7 @@ TEST_F(GirisEkrani, WrongPasswordKeepsTheScreenWithThePasswordSelected) {
   ortam.Yaz("gizli\n");  // over the selected one
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
   EXPECT_EQ(form->result(), QDialog::Accepted);
-  EXPECT_EQ(ortam.oturum.firmaay, 7);
+  EXPECT_EQ(ortam.oturum.firma.firmaay, 7);
 }
 
 TEST_F(GirisEkrani, CompaniesThatCannotBeOpenedOrMade) {

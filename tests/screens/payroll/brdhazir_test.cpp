@@ -13,10 +13,10 @@ struct Bordro : EkranOrtami {
     Kisi("001", "Işıl", Tarih(2007, 3, 1));
     Kisi("002", "Gökçe", Tarih(2009, 7, 20));
     Kisi("003", "Ümit", Tarih(2009, 8, 1));  // does not belong to July
-    KazancBayraklari acik = parametreler.firma.varsayilan;
+    KazancBayraklari acik = parametreler.firma.Parametreler().varsayilan;
     acik.k[2] = 15;  // paid leave
     acik.y[0] = 15;
-    EXPECT_TRUE(KazancGrubuKaydet({oturum, parametreler, bildirim}, oturum.ondeger, acik));
+    EXPECT_TRUE(KazancGrubuKaydet({oturum, parametreler, bildirim}, oturum.firma.ondeger, acik));
     bildirim.Al();
   }
   void Kisi(const char* kod, const char* adi, Tarih giris) {
@@ -92,7 +92,7 @@ TEST(Brdhazir, SavingAgainAsksAndKeepsTheOldRates) {
   o.Bas(Qt::Key_F5);
   ASSERT_EQ(o.Kayitlar().size(), 1u);
   o.parametreler.yasal.oranlar.IsciOran[0].mal = Tek(19);
-  ++o.parametreler.surum;
+  ++o.parametreler.yasalSurumu;
   o.Yaz("001\n25\n5\n");
   o.bildirim.cevap = true;
   o.Bas(Qt::Key_F5);

@@ -29,16 +29,16 @@ TEST(Kykm, FlagsOfANewGroupAndTheProtectedDefault) {
   ortam.Bas(Qt::Key_Space);
   ortam.Bas(Qt::Key_F5);
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
-  const KazancBayraklari isci = KazancGrupYukle(ortam.parametreler.firma, "işçi");
+  const KazancBayraklari isci = KazancGrupYukle(ortam.parametreler.firma.Parametreler(), "işçi");
   EXPECT_EQ(isci.k[0], 14);
   EXPECT_EQ(isci.k[1], 13);
   EXPECT_EQ(isci.k[2], 14);
   EXPECT_EQ(isci.y[0], 16);
-  EXPECT_EQ(KazancGrupYukle(ortam.parametreler.firma, "Personel").k[0], 15);
+  EXPECT_EQ(KazancGrupYukle(ortam.parametreler.firma.Parametreler(), "Personel").k[0], 15);
 
   ortam.Bas(Qt::Key_F7);
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: İşçi Grubu\nKazanç Tanımlamalarını Silmek İstiyormusunuz ?"});
-  EXPECT_EQ(KazancGruplari(ortam.parametreler.firma), std::vector<std::string>{"Personel"});
+  EXPECT_EQ(KazancGruplari(ortam.parametreler.firma.Parametreler()), std::vector<std::string>{"Personel"});
   EXPECT_EQ(ortam.Odak(), "gruplar");
   ortam.Bas(Qt::Key_F7);
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: Varsayılan Hesap Silinemez\nYeniden Düzenlenir"});
@@ -56,7 +56,7 @@ TEST(Sabpu, WritesTheWholeRecordAndCloses) {
   EXPECT_FALSE(form.isVisible());
   EXPECT_EQ(std::filesystem::file_size(ortam.oturum.FirmaDizini + "sablon.dat"), 135u);
   const Sablon sablon = SablonOku(ortam.oturum.FirmaDizini).deger;
-  EXPECT_EQ(sablon, ortam.parametreler.firma.sablon);
+  EXPECT_EQ(sablon, ortam.parametreler.firma.Parametreler().sablon);
   EXPECT_EQ(sablon.SablonGun[0], Tek(25));
   EXPECT_EQ(sablon.SablonGun[1], Tek(5));
   EXPECT_EQ(sablon.SablonYardim[1], Tutar(110.5));
@@ -70,26 +70,26 @@ TEST(Sendtan, AddsChangesAndDeletesAUnion) {
   form.Denetim("yer").Odak()->setFocus();
   ortam.Yaz("B");  // "Brüt Kazanç"
   ortam.Bas(Qt::Key_F5);
-  ASSERT_NE(SendikaBul(ortam.parametreler.firma, "10"), nullptr);
-  EXPECT_EQ(SendikaBul(ortam.parametreler.firma, "10")->yer, 3);
+  ASSERT_NE(SendikaBul(ortam.parametreler.firma.Parametreler(), "10"), nullptr);
+  EXPECT_EQ(SendikaBul(ortam.parametreler.firma.Parametreler(), "10")->yer, 3);
   EXPECT_EQ(ortam.Odak(), "kod");
   EXPECT_EQ(AlanMetni(form, "adi"), "");
 
   ortam.Yaz("10");
   ortam.Bas(Qt::Key_F5);  // without having left the code
-  EXPECT_EQ(SendikaBul(ortam.parametreler.firma, "10")->adi, "Teksif");
+  EXPECT_EQ(SendikaBul(ortam.parametreler.firma.Parametreler(), "10")->adi, "Teksif");
   ortam.Bas(Qt::Key_F2);
   ortam.Bas(Qt::Key_Return);
   EXPECT_EQ(ortam.Odak(), "adi");
   ortam.Yaz("Öz İplik\n");
   ortam.Bas(Qt::Key_F5);
-  EXPECT_EQ(SendikaBul(ortam.parametreler.firma, "10")->adi, "Öz İplik");
-  EXPECT_EQ(SendikaBul(ortam.parametreler.firma, "10")->oran, Tek(1.25));
+  EXPECT_EQ(SendikaBul(ortam.parametreler.firma.Parametreler(), "10")->adi, "Öz İplik");
+  EXPECT_EQ(SendikaBul(ortam.parametreler.firma.Parametreler(), "10")->oran, Tek(1.25));
 
   ortam.Yaz("10\n");
   ortam.Bas(Qt::Key_F7);
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Kaydı Silmek İstiyormusunuz ?"});
-  EXPECT_TRUE(ortam.parametreler.firma.sendikalar.empty());
+  EXPECT_TRUE(ortam.parametreler.firma.Parametreler().sendikalar.empty());
   EXPECT_EQ(ortam.Odak(), "kod");
 }
 
@@ -98,7 +98,7 @@ TEST(CompanyLists, RowsReachTheFilesAndTables) {
   ortam.Ac<fazmes>(ortam.parametreler);
   ortam.Yaz("1.75\n\n");
   ortam.Bas(Qt::Key_F5);
-  EXPECT_EQ(ortam.parametreler.firma.mesailer[0].oran, Tek(1.75));
+  EXPECT_EQ(ortam.parametreler.firma.Parametreler().mesailer[0].oran, Tek(1.75));
   EXPECT_EQ(std::filesystem::file_size(ortam.oturum.FirmaDizini + "fmesai.dat"), 24u);
 
   ortam.Ac<indfrm>(ortam.parametreler);
@@ -106,20 +106,20 @@ TEST(CompanyLists, RowsReachTheFilesAndTables) {
   ortam.Bas(Qt::Key_Down);  // "Özel Sigorta"
   ortam.Yaz("\n");
   ortam.Bas(Qt::Key_F5);
-  ASSERT_TRUE(ortam.parametreler.firma.indirimler[0]);
-  EXPECT_EQ(ortam.parametreler.firma.indirimler[0]->adi, "Hayat Sig.");
-  EXPECT_EQ(ortam.parametreler.firma.indirimler[0]->sabit, Tutar(50));
-  EXPECT_EQ(ortam.parametreler.firma.indirimler[0]->indtip, 2);
+  ASSERT_TRUE(ortam.parametreler.firma.Parametreler().indirimler[0]);
+  EXPECT_EQ(ortam.parametreler.firma.Parametreler().indirimler[0]->adi, "Hayat Sig.");
+  EXPECT_EQ(ortam.parametreler.firma.Parametreler().indirimler[0]->sabit, Tutar(50));
+  EXPECT_EQ(ortam.parametreler.firma.Parametreler().indirimler[0]->indtip, 2);
 
   ortam.Ac<yrdisim>(ortam.parametreler);
   ortam.Bas(Qt::Key_Down);
   ortam.Yaz("Yemek\nF\n6\n\n");
   ortam.Bas(Qt::Key_F5);
-  const YardimTanimi& yemek = ortam.parametreler.firma.yardimlar[1];
+  const YardimTanimi& yemek = ortam.parametreler.firma.Parametreler().yardimlar[1];
   EXPECT_EQ(yemek.adi, "Yemek");
   EXPECT_EQ(yemek.indtip, 1);
   EXPECT_EQ(yemek.oran, Tek(6));
-  EXPECT_EQ(ortam.parametreler.firma.yardimlar[0].adi, "Prim/İkramiye");
+  EXPECT_EQ(ortam.parametreler.firma.Parametreler().yardimlar[0].adi, "Prim/İkramiye");
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
 }
 

@@ -72,7 +72,7 @@ TEST(Yyasor, TellsThatTheRatesAreOfAnotherMonthAndFetchesTheRightOnes) {
   EXPECT_FALSE(uyari->isVisible());
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 
-  ortam.oturum.firmayil = 1999;  // nothing is shipped for it
+  ortam.oturum.firma.firmayil = 1999;  // nothing is shipped for it
   DugmeyeBas(form, "Parametre İndir");
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Uyarı: Parametre Bulunamadı.."});
   EXPECT_EQ(Dosyadan(ortam).oranlar.AsgariUcret, Tutar(693));
