@@ -6,7 +6,7 @@ CLI = build/$(PRESET)/src/cli/belvani-cli
 MASAUSTU = build/$(PRESET)/src/app/belvani
 RESIMLER = build/$(PRESET)/src/app/belvani-resimler
 
-.PHONY: screenshots run test bench lint fuzz deps asan clean
+.PHONY: screenshots run test altin bench lint fuzz deps asan clean
 
 # The main job on the sample company. With a display: the desktop opens on it. Without one: it is made in a scratch data
 # path, all its months are prepared, and the last ledger is printed.
@@ -26,6 +26,14 @@ test: deps
 	cmake --preset $(PRESET)
 	cmake --build --preset $(PRESET) -j $(JOBS)
 	ctest --preset $(PRESET) -j $(JOBS)
+
+# The approved records of all papers, written anew from what the program does now. Read their diff before it is
+# committed: it is what changes on paper.
+altin: deps
+	cmake --preset $(PRESET)
+	cmake --build --preset $(PRESET) --target test_altin -j $(JOBS)
+	BELVANI_ALTIN=yaz build/$(PRESET)/tests/test_altin --gtest_brief=1
+	git status --short tests/altin/kayit
 
 # The same tests under the address and undefined-behaviour sanitizers.
 asan:

@@ -13,9 +13,11 @@ enum class OgeTuru { Metin, Cizgi, Kutu, DoluKutu, Resim };
 
 struct Oge {
   OgeTuru tur;
-  Dikdortgen kutu;  // of a line: its start, and how far its end lies away
-  std::string metin = {};
+  Dikdortgen kutu;         // of a line: its start, and how far its end lies away
+  std::string metin = {};  // of a picture: its bytes
   YaziBicimi yazi = {};
+  double kalinlik = 0;  // of a line or a frame, millimetres
+  BoyaRengi renk = 0;   // of a filled box
 
   double Sag() const { return kutu.x + kutu.en; }
   double Alt() const { return kutu.y + kutu.boy; }
@@ -56,13 +58,17 @@ struct KayitTuvali final : Tuval {
   void Metin(Nokta yer, std::string_view metin, const YaziBicimi& yazi) override {
     Ekle({OgeTuru::Metin, {yer.x, yer.y, MetinEni(metin, yazi), SatirBoyu(yazi)}, std::string(metin), yazi});
   }
-  void Cizgi(Nokta bas, Nokta son, double) override {
-    Ekle({OgeTuru::Cizgi, {bas.x, bas.y, son.x - bas.x, son.y - bas.y}});
+  void Cizgi(Nokta bas, Nokta son, double kalinlik) override {
+    Ekle({.tur = OgeTuru::Cizgi, .kutu = {bas.x, bas.y, son.x - bas.x, son.y - bas.y}, .kalinlik = kalinlik});
   }
-  void Kutu(const Dikdortgen& kutu, double) override { Ekle({OgeTuru::Kutu, kutu}); }
-  void DoluKutu(const Dikdortgen& kutu, BoyaRengi) override { Ekle({OgeTuru::DoluKutu, kutu}); }
-  bool Resim(const Dikdortgen& kutu, std::string_view) override {
-    Ekle({OgeTuru::Resim, kutu});
+  void Kutu(const Dikdortgen& kutu, double kalinlik) override {
+    Ekle({.tur = OgeTuru::Kutu, .kutu = kutu, .kalinlik = kalinlik});
+  }
+  void DoluKutu(const Dikdortgen& kutu, BoyaRengi renk) override {
+    Ekle({.tur = OgeTuru::DoluKutu, .kutu = kutu, .renk = renk});
+  }
+  bool Resim(const Dikdortgen& kutu, std::string_view png) override {
+    Ekle({.tur = OgeTuru::Resim, .kutu = kutu, .metin = std::string(png)});
     return true;
   }
 

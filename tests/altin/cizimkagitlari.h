@@ -1,0 +1,194 @@
+// The papers as they are drawn, and those that only screens make: statutory forms, entry declaration, release.
+#pragma once
+
+#include "altin/kagitlar.h"
+#include "altin/sayfametni.h"
+#include "bol.h"
+#include "core/session/firmabilgi.h"
+#include "declarations/aylikbildirge.h"
+#include "declarations/bildirgeformu.h"
+#include "declarations/formresimleri.h"
+#include "documents/girisbildirgesi.h"
+#include "documents/ibraname.h"
+
+namespace belvani::test {
+
+using BelgeYap = std::function<std::unique_ptr<Belge>(OrnekSirket&)>;
+
+inline Kagit Cizim(const Ay& ay, const char* ad, const BelgeYap& yap) {
+  return {ay, std::string(ad) + ".cizim.txt", [=](OrnekSirket& o) { return CizimMetni(*yap(o)->Cizim()); }};
+}
+
+// ---- lists
+
+inline DefterSecenek ButunKolonlar() {
+  DefterSecenek secenek;
+  secenek.kolonlar.fill(true);
+  return secenek;
+}
+
+// Few columns in large letters, so that a small company fills more than a page.
+inline DefterSecenek BuyukDefter() {
+  DefterSecenek secenek;
+  secenek.kolonlar = DefterAnahtarlariOku("1010000000000100000101");
+  secenek.duzen.satirArasi = SatirArasi::CizgiCek;
+  secenek.duzen.kolonArasi = KolonArasi::DikCizgi;
+  return secenek;
+}
+
+// A text as it stands, its page ends as lines.
+inline std::string MetinSayfalari(const std::string& metin) {
+  std::string sayfalar;
+  for (const auto& sayfa : Bol(metin, "\f")) sayfalar += (sayfalar.empty() ? "" : "<FF>\n") + sayfa;
+  return sayfalar;
+}
+
+inline Kagit GenisDefter(const Ay& ay) {
+  return {ay, "bordro-butun.metin", [](OrnekSirket& o) {
+            return MetinSayfalari(DefterBelgesi(o.Kaynak(), o.Secim("", "ZZZZ"), ButunKolonlar(), {})->Metin());
+          }};
+}
+
+// With every line that the print dialog can put above a list; the day of printing is not part of the record.
+inline std::string BaslikliMetin(OrnekSirket& o) {
+  const auto belge = DefterBelgesi(o.Kaynak(), o.Secim("", "ZZZZ"), {}, {});
+  YzcAyarlari ayar = belge->Ayar();
+  ayar.YzcSatir = 33;
+  belge->Ayarla(ayar);
+  std::string metin = MetinSayfalari(belge->Metin());
+  const std::string bugun = Tarih::Bugun().Metin();
+  for (std::size_t i; (i = metin.find(bugun)) != std::string::npos;) metin.replace(i, bugun.size(), "gg.aa.yyyy");
+  return metin;
+}
+
+inline Kagit Izinler(const char* ad, IzinRaporu tip, MetinAraligi kod) {
+  return Cizim(SonAy, ad, [=](OrnekSirket& o) { return IzinBelgesi(o.Kaynak(), o.donem.yil, kod, tip, {}); });
+}
+
+inline Kagit Pusulalar(const char* ad, SayfadaYaprak sayfada, const char* ilk, const char* son) {
+  return Cizim(SonAy, ad, [=](OrnekSirket& o) { return UcretPusulalari(o.Kaynak(), o.Secim(ilk, son), sayfada); });
+}
+
+inline Kagit Ozet(const Ay& ay) {
+  return Cizim(ay, "icmal", [=](OrnekSirket& o) { return IcmalBelgesi(o.Kaynak(), ay.yil, ay.ay); });
+}
+
+inline Kagitlar CizilenListeler() {
+  const auto defter = [](const DefterSecenek& secenek, const BelgeYazisi& yazi, const char* ilk, const char* son) {
+    return [=](OrnekSirket& o) { return DefterBelgesi(o.Kaynak(), o.Secim(ilk, son), secenek, yazi); };
+  };
+  return {Cizim(SonAy, "bordro", defter(ButunKolonlar(), {}, "001", "008")),
+          Cizim(UcuncuDonem, "bordro-sayfali", defter(BuyukDefter(), {.yaziTipi = "Times", .punto = 16}, "", "ZZZZ")),
+          GenisDefter(BirinciDonem),
+          GenisDefter(UcuncuDonem),
+          Kagit{DorduncuDonem, "bordro-baslikli.metin", BaslikliMetin},
+          Cizim(IkinciDonem, "ozel-bordro",
+                [](OrnekSirket& o) {
+                  return OzelBordroBelgesi(o.Kaynak(), o.Secim("009", "013"), {}, {.yaziTipi = "Courier New"});
+                }),
+          Cizim(SonAy, "agi", [](OrnekSirket& o) { return AgiBelgesi(o.Kaynak(), o.Secim("008", "013")); }),
+          Ozet(BirinciDonem),
+          Ozet(SonAy),
+          Pusulalar("pusula-1", SayfadaYaprak::Bir, "010", "010"),
+          Pusulalar("pusula-2", SayfadaYaprak::Iki, "001", "003"),
+          Pusulalar("pusula-4", SayfadaYaprak::Dort, "009", "013"),
+          Izinler("izin-icmal", IzinRaporu::Icmal, {"001", "013"}),
+          Izinler("izin-personel", IzinRaporu::Personel, {"004", "011"}),
+          Izinler("izin-donem", IzinRaporu::Donemsel, {})};
+}
+
+// ---- the declaration
+
+// Document type 01 under one law, or all people together.
+inline BildirgeKagidi BildirgeKagidiYap(OrnekSirket& o, const char* kanun) {
+  AylikBildirge bildirge(o.oturum, o.yasal, o.bildirim);
+  bildirge.Ac();
+  BildirgeSecimi& secim = bildirge.Secim();
+  secim.yil = o.donem.yil;
+  secim.ay = o.donem.ay;
+  if (kanun != nullptr) {
+    const auto& kanunlar = bildirge.KanunSecenekleri();
+    secim.kanun = int(std::ranges::find(kanunlar, kanun) - kanunlar.begin());
+    secim.belgeTuru = 1;
+  }
+  bildirge.Hesapla();
+  BildirgeKagidi kagit = KagitHazirla(bildirge, o.oturum);
+  kagit.arac.kod = "007";
+  kagit.arac.isim1 = "Çözgü Taşeronluk";
+  kagit.arac.adr1 = "Masura Sok. No:4";
+  kagit.arac.tel = "0224 555 90 90";
+  return kagit;
+}
+
+// The same people again and again until there are `kisi`.
+inline BildirgeKagidi Kalabalik(BildirgeKagidi kagit, std::size_t kisi) {
+  const std::size_t ilk = kagit.satirlar.size();
+  for (std::size_t i = 0; kagit.satirlar.size() < kisi; ++i) kagit.satirlar.push_back(kagit.satirlar[i % ilk]);
+  return kagit;
+}
+
+inline std::vector<FormSayfasi> EksikGunSayfalari(OrnekSirket& o) {
+  const BildirgeKagidi kagit = BildirgeKagidiYap(o, nullptr);
+  return Ek10Resmi({.yil = kagit.yil,
+                    .ay = kagit.ay,
+                    .firma = kagit.firma,
+                    .arac = kagit.arac,
+                    .muhasebeci = kagit.muhasebeci,
+                    .kisiler = EksikGunKisileri(kagit.satirlar)});
+}
+
+inline Kagitlar BildirgeKagitlari() {
+  constexpr const char* kanun = "05510";
+  return {
+      {IkinciDonem, "bildirge.cizim.txt",
+       [](OrnekSirket& o) { return CizimMetni(BildirgeSayfalari(BildirgeKagidiYap(o, kanun))); }},
+      {SonAy, "bildirge-alanlar.txt", [](OrnekSirket& o) { return AlanMetni(Ek9Resmi(BildirgeKagidiYap(o, kanun))); }},
+      {SonAy, "bildirge-kalabalik.metin",
+       [](OrnekSirket& o) { return BildirgeYazdir(Kalabalik(BildirgeKagidiYap(o, kanun), 34)); }},
+      {SonAy, "eksikgun.cizim.txt", [](OrnekSirket& o) { return CizimMetni(EksikGunSayfalari(o)); }},
+      {SonAy, "eksikgun-alanlar.txt", [](OrnekSirket& o) { return AlanMetni(EksikGunSayfalari(o)); }}};
+}
+
+// ---- a person's papers
+
+inline GirisBildirgesi GirisKagidi(OrnekSirket& o) {
+  GirisFormu form = GirisBul(o.oturum, "006", Tarih(2008, 9, 29)).value();
+  form.ek.sandik = {true, false, true};
+  form.ek.sandikAyligi = {false, true, false};
+  form.ek.sandikNo = {"ES 1204", "", "BAG 77"};
+  form.ek.emekliTercihi = 2;
+  form.ek.eskiUnvan = "İplik ve Boya A.Ş.";
+  form.ek.eskiAdres = "Fabrika Yolu No:9";
+  form.ek.eskiIl = "Bursa";
+  form.ek.eskiIlce = "Gürsu";
+  form.ek.vergiNo = "1234567890";
+  return {.form = form, .firma = FirmaOku(o.oturum), .sskDurumu = "01-Tüm Sigorta Kolları", .amblemPng = "amblem"};
+}
+
+inline Ibraname CikisKagidi(OrnekSirket& o) {
+  Ibraname kagit{.form = CikisBul(o.oturum, "005").value(),
+                 .firma = FirmaOku(o.oturum),
+                 .odemeler = {},
+                 .tarih = Tarih(2008, 9, 30),
+                 .paraonda = o.oturum.paraonda};
+  // Each cell another amount, so that no two can change places unseen.
+  std::int64_t sayac = 0;
+  for (OdemeSatiri& satir : kagit.odemeler.satirlar)
+    for (Tutar& hucre : satir) hucre = Tutar(double(++sayac) * 1234.56);
+  return kagit;
+}
+
+inline Kagitlar KisiKagitlari() {
+  return {
+      {UcuncuDonem, "giris.cizim.txt",
+       [](OrnekSirket& o) { return CizimMetni(GirisBildirgesiSayfalari(GirisKagidi(o))); }},
+      {UcuncuDonem, "giris.metin", [](OrnekSirket& o) { return GirisBildirgesiMetni(GirisKagidi(o)); }},
+      {UcuncuDonem, "giris.ham.txt",
+       [](OrnekSirket& o) { return HamMetni(BelgeHam(*GirisBildirgesiBelgesi(GirisKagidi(o)))); }},
+      {UcuncuDonem, "ibraname.cizim.txt", [](OrnekSirket& o) { return CizimMetni(IbranameSayfalari(CikisKagidi(o))); }},
+      {UcuncuDonem, "ibraname.metin", [](OrnekSirket& o) { return IbranameMetni(CikisKagidi(o)); }},
+      {UcuncuDonem, "ibraname-duz.metin",
+       [](OrnekSirket& o) { return IbranameMetni(CikisKagidi(o), CerceveTuru::Duz); }}};
+}
+
+}  // namespace belvani::test
