@@ -5,6 +5,7 @@
 #include <cairo.h>
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 #include "printing/harftablosu.h"
 
@@ -46,6 +47,38 @@ void ResmiBoya(cairo_t* cizim, cairo_surface_t* resim, const Dikdortgen& kutu) {
 
 }  // namespace
 
+// Texts of one look are shown by one call: the library takes longer over a call than over the letters of a cell.
+struct CairoTuval::MetinYigini {
+  YaziBicimi yazi;
+  bool yaziSecildi = false;  // `yazi` is the font of the drawing
+  std::string utf8;
+  std::vector<cairo_glyph_t> sekiller;
+  std::vector<cairo_text_cluster_t> kumeler;
+
+  void Ekle(Nokta yer, const CozulmusMetin& metin) {
+    HarfTablosu& tablo = HarfTablosu::Al(yazi.aile, yazi.kalinlik);
+    const double boy = yazi.punto * PuntoMm;
+    for (std::size_t i = 0; i < metin.kodlar.size(); ++i) {
+      const Harf& harf = tablo.Bul(metin.kodlar[i]);
+      sekiller.push_back({harf.sekil, yer.x, yer.y + tablo.ustBoy * boy});
+      kumeler.push_back({metin.uzunluklar[i], 1});
+      yer.x += harf.en * boy * yazi.genislik;
+    }
+    utf8 += metin.utf8;
+  }
+
+  void Bas(cairo_t* cizim) {
+    if (sekiller.empty()) return;
+    cairo_show_text_glyphs(cizim, utf8.data(), int(utf8.size()), sekiller.data(), int(sekiller.size()), kumeler.data(),
+                           int(kumeler.size()), cairo_text_cluster_flags_t(0));
+    utf8.clear();
+    sekiller.clear();
+    kumeler.clear();
+  }
+};
+
+CairoTuval::CairoTuval() : yigin_(std::make_unique<MetinYigini>()) {}
+
 CairoTuval::~CairoTuval() {
   CizimiBitir();
 }
@@ -61,78 +94,107 @@ void CairoTuval::CizimeBasla(_cairo_surface* yuzey, double birimMm) {
   cairo_set_font_options(cizim_, secenek);
   cairo_font_options_destroy(secenek);
   cairo_set_source_rgb(cizim_, 0, 0, 0);
-  yaziSecildi_ = false;
+  yigin_->yaziSecildi = false;
 }
 
 void CairoTuval::CizimiBitir() {
-  if (cizim_ != nullptr) cairo_destroy(cizim_);
+  if (Cizim() != nullptr) cairo_destroy(cizim_);
   cizim_ = nullptr;
 }
 
+_cairo* CairoTuval::Cizim() {
+  if (cizim_ != nullptr) yigin_->Bas(cizim_);
+  return cizim_;
+}
+
 void CairoTuval::YaziSec(const YaziBicimi& yazi) {
-  if (yaziSecildi_ && yazi == secili_) return;
-  cairo_set_font_face(cizim_, HarfTablosu::Al(yazi.aile, yazi.kalinlik).Tip());
+  if (yigin_->yaziSecildi && yazi == yigin_->yazi) return;
+  cairo_t* cizim = Cizim();
+  cairo_set_font_face(cizim, HarfTablosu::Al(yazi.aile, yazi.kalinlik).Tip());
   const double boy = yazi.punto * PuntoMm;
   cairo_matrix_t m;
   cairo_matrix_init(&m, boy * yazi.genislik, 0, yazi.durus == YaziDurusu::Egik ? -EgimOrani * boy : 0, boy, 0, 0);
-  cairo_set_font_matrix(cizim_, &m);
-  secili_ = yazi;
-  yaziSecildi_ = true;
+  cairo_set_font_matrix(cizim, &m);
+  yigin_->yazi = yazi;
+  yigin_->yaziSecildi = true;
 }
 
 void CairoTuval::Metin(Nokta yer, std::string_view metin, const YaziBicimi& yazi) {
+  if (cizim_ == nullptr || yazi.punto <= 0 || yazi.genislik <= 0) return;
   const CozulmusMetin& cozulmus = Coz(metin);
-  if (cizim_ == nullptr || cozulmus.kodlar.empty() || yazi.punto <= 0 || yazi.genislik <= 0) return;
-  HarfTablosu& tablo = HarfTablosu::Al(yazi.aile, yazi.kalinlik);
-  const double boy = yazi.punto * PuntoMm;
-  std::vector<cairo_glyph_t> sekiller;
-  std::vector<cairo_text_cluster_t> kumeler;
-  sekiller.reserve(cozulmus.kodlar.size());
-  kumeler.reserve(cozulmus.kodlar.size());
-  double x = yer.x;
-  for (std::size_t i = 0; i < cozulmus.kodlar.size(); ++i) {
-    const Harf& harf = tablo.Bul(cozulmus.kodlar[i]);
-    sekiller.push_back({harf.sekil, x, yer.y + tablo.ustBoy * boy});
-    kumeler.push_back({cozulmus.uzunluklar[i], 1});
-    x += harf.en * boy * yazi.genislik;
-  }
+  if (cozulmus.kodlar.empty()) return;
   YaziSec(yazi);
-  cairo_show_text_glyphs(cizim_, cozulmus.utf8.data(), int(cozulmus.utf8.size()), sekiller.data(), int(sekiller.size()),
-                         kumeler.data(), int(kumeler.size()), cairo_text_cluster_flags_t(0));
+  yigin_->Ekle(yer, cozulmus);
 }
 
 void CairoTuval::Cizgi(Nokta bas, Nokta son, double kalinlik) {
-  if (cizim_ == nullptr) return;
-  cairo_set_line_width(cizim_, kalinlik);
-  cairo_move_to(cizim_, bas.x, bas.y);
-  cairo_line_to(cizim_, son.x, son.y);
-  cairo_stroke(cizim_);
+  cairo_t* cizim = Cizim();
+  if (cizim == nullptr) return;
+  cairo_set_line_width(cizim, kalinlik);
+  cairo_move_to(cizim, bas.x, bas.y);
+  cairo_line_to(cizim, son.x, son.y);
+  cairo_stroke(cizim);
 }
 
 void CairoTuval::Kutu(const Dikdortgen& kutu, double kalinlik) {
-  if (cizim_ == nullptr) return;
-  cairo_set_line_width(cizim_, kalinlik);
-  cairo_rectangle(cizim_, kutu.x, kutu.y, kutu.en, kutu.boy);
-  cairo_stroke(cizim_);
+  cairo_t* cizim = Cizim();
+  if (cizim == nullptr) return;
+  cairo_set_line_width(cizim, kalinlik);
+  cairo_rectangle(cizim, kutu.x, kutu.y, kutu.en, kutu.boy);
+  cairo_stroke(cizim);
 }
 
 void CairoTuval::DoluKutu(const Dikdortgen& kutu, BoyaRengi renk) {
-  if (cizim_ == nullptr) return;
+  cairo_t* cizim = Cizim();
+  if (cizim == nullptr) return;
   const auto pay = [&](int kaydir) { return double((renk >> kaydir) & 0xFF) / 255; };
-  cairo_set_source_rgb(cizim_, pay(16), pay(8), pay(0));
-  cairo_rectangle(cizim_, kutu.x, kutu.y, kutu.en, kutu.boy);
-  cairo_fill(cizim_);
-  cairo_set_source_rgb(cizim_, 0, 0, 0);
+  cairo_set_source_rgb(cizim, pay(16), pay(8), pay(0));
+  cairo_rectangle(cizim, kutu.x, kutu.y, kutu.en, kutu.boy);
+  cairo_fill(cizim);
+  cairo_set_source_rgb(cizim, 0, 0, 0);
 }
 
 bool CairoTuval::Resim(const Dikdortgen& kutu, std::string_view png) {
   PngKaynagi kaynak{png};
   cairo_surface_t* resim = cairo_image_surface_create_from_png_stream(&PngOku, &kaynak);
   const bool okundu = cairo_surface_status(resim) == CAIRO_STATUS_SUCCESS;
-  if (okundu && cizim_ != nullptr) ResmiBoya(cizim_, resim, kutu);
+  if (cairo_t* cizim = Cizim(); okundu && cizim != nullptr) ResmiBoya(cizim, resim, kutu);
   cairo_surface_destroy(resim);
   return okundu;
 }
+
+// Draws into a recording, which a PDF holds once however many pages show it.
+class PdfTuvali::KalipTuvali final : public CairoTuval {
+ public:
+  KalipTuvali(KagitBoyu boy, const std::string& ad) {
+    const cairo_rectangle_t sayfa{0, 0, boy.en / PuntoMm, boy.boy / PuntoMm};
+    yuzey_ = cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &sayfa);
+    auto* kopya = new std::string(ad);
+    cairo_surface_set_mime_data(
+        yuzey_, CAIRO_MIME_TYPE_UNIQUE_ID, reinterpret_cast<unsigned char*>(kopya->data()), kopya->size(),
+        [](void* s) { delete static_cast<std::string*>(s); }, kopya);
+    CizimeBasla(yuzey_, 1 / PuntoMm);
+  }
+  ~KalipTuvali() override {
+    CizimiBitir();
+    cairo_surface_destroy(yuzey_);
+  }
+
+  void SayfaBasla(KagitBoyu) override {}
+  void SayfaBitir() override {}
+
+  void Bas(cairo_t* sayfa) {
+    CizimiBitir();
+    cairo_save(sayfa);
+    cairo_identity_matrix(sayfa);
+    cairo_set_source_surface(sayfa, yuzey_, 0, 0);
+    cairo_paint(sayfa);
+    cairo_restore(sayfa);
+  }
+
+ private:
+  cairo_surface_t* yuzey_;
+};
 
 PdfTuvali::PdfTuvali(const PdfBilgisi& bilgi)
     : yuzey_(cairo_pdf_surface_create_for_stream(&PdfTopla, &baytlar_, 1, 1)) {
@@ -149,15 +211,27 @@ PdfTuvali::~PdfTuvali() {
 }
 
 void PdfTuvali::SayfaBasla(KagitBoyu boy) {
+  boy_ = boy;
   cairo_pdf_surface_set_size(yuzey_, boy.en / PuntoMm, boy.boy / PuntoMm);
   CizimeBasla(yuzey_, 1 / PuntoMm);
   ++sayfalar_;
 }
 
 void PdfTuvali::SayfaBitir() {
-  if (Cizim() == nullptr) return;
-  cairo_show_page(Cizim());
+  cairo_t* cizim = Cizim();
+  if (cizim == nullptr) return;
+  for (KalipTuvali* kalip : std::exchange(sayfadakiler_, {})) kalip->Bas(cizim);
+  cairo_show_page(cizim);
   CizimiBitir();
+}
+
+Tuval& PdfTuvali::Kalip(std::string_view anahtar) {
+  auto yer = kaliplar_.find(anahtar);
+  if (yer == kaliplar_.end())
+    yer = kaliplar_.emplace(anahtar, std::make_unique<KalipTuvali>(boy_, std::to_string(kaliplar_.size()))).first;
+  KalipTuvali* kalip = yer->second.get();
+  if (std::ranges::find(sayfadakiler_, kalip) == sayfadakiler_.end()) sayfadakiler_.push_back(kalip);
+  return *kalip;
 }
 
 Sonuc<std::string> PdfTuvali::Belge() {

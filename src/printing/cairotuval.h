@@ -1,6 +1,7 @@
 // Surfaces drawn by Cairo: a PDF, and the picture of one page.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,18 +29,19 @@ class CairoTuval : public Tuval {
   bool Resim(const Dikdortgen& kutu, std::string_view png) override;
 
  protected:
-  CairoTuval() = default;
+  CairoTuval();
 
   void CizimeBasla(_cairo_surface* yuzey, double birimMm);  // `birimMm`: units of the surface in a millimetre
   void CizimiBitir();
-  _cairo* Cizim() { return cizim_; }
+  // The open drawing with all its texts; null without one.
+  _cairo* Cizim();
 
  private:
+  struct MetinYigini;
   void YaziSec(const YaziBicimi& yazi);
 
   _cairo* cizim_ = nullptr;
-  YaziBicimi secili_;  // the font that the drawing has now
-  bool yaziSecildi_ = false;
+  std::unique_ptr<MetinYigini> yigin_;  // texts that are not drawn yet
 };
 
 struct PdfBilgisi {
@@ -55,14 +57,20 @@ class PdfTuvali final : public CairoTuval {
 
   void SayfaBasla(KagitBoyu boy) override;
   void SayfaBitir() override;
+  Tuval& Kalip(std::string_view anahtar) override;
 
   // Ends the document and gives its bytes. A document without a page is a failure: paper writers print nothing then.
   Sonuc<std::string> Belge();
 
  private:
+  class KalipTuvali;
+
   std::string baytlar_;
   _cairo_surface* yuzey_;
   int sayfalar_ = 0;
+  KagitBoyu boy_;  // of the open page
+  std::map<std::string, std::unique_ptr<KalipTuvali>, std::less<>> kaliplar_;
+  std::vector<KalipTuvali*> sayfadakiler_;  // asked for by the open page
 };
 
 // One page of a document, as dots. The other pages are passed over, so a preview costs the memory of one page.

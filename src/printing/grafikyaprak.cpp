@@ -55,27 +55,39 @@ double SatirSayisi(const Yaprak& yaprak, std::size_t yanYana) {
   return double(satir) + cizgi * CizgiPayi;
 }
 
+// All words of a slip that are no values. Slips of the same words differ in their values alone.
+std::string Sozler(const Yaprak& yaprak) {
+  std::string sozler = yaprak.altBaslik;
+  for (const auto* blok : {&yaprak.bas, &yaprak.sol, &yaprak.sag, &yaprak.ek}) {
+    sozler += '\f';
+    for (const auto& satir : *blok) (sozler += satir.etiket) += '\n';
+  }
+  for (const auto& cumle : yaprak.cumleler) (sozler += '\n') += cumle;
+  return sozler;
+}
+
 // Draws one slip line by line from the upper edge of its place.
 class YaprakKalemi {
  public:
-  YaprakKalemi(Tuval& tuval, const Dikdortgen& yer, const YaziBicimi& yazi)
-      : tuval_(tuval), yer_(yer), yazi_(yazi), satirBoyu_(SatirBoyu(yazi) * SatirAraligi), y_(yer.y) {}
+  // `kalip` takes the words, `tuval` the values.
+  YaprakKalemi(Tuval& tuval, Tuval& kalip, const Dikdortgen& yer, const YaziBicimi& yazi)
+      : tuval_(tuval), kalip_(kalip), yer_(yer), yazi_(yazi), satirBoyu_(SatirBoyu(yazi) * SatirAraligi), y_(yer.y) {}
 
   void Satir(std::string_view metin, const YaziBicimi& yazi, MetinHizasi hiza) {
-    Kutuya(0, yer_.en, metin, yazi, hiza);
+    Kutuya(kalip_, 0, yer_.en, metin, yazi, hiza);
     y_ += satirBoyu_;
   }
 
   void BasSatiri(std::string_view etiket, std::string_view deger, double etiketEni) {
     const double yer = std::min(etiketEni, yer_.en / 2) + EtiketAraligi;
-    Kutuya(0, yer - EtiketAraligi, etiket, yazi_, MetinHizasi::Sol);
-    Kutuya(yer, yer_.en - yer, deger, yazi_, MetinHizasi::Sol);
+    Kutuya(kalip_, 0, yer - EtiketAraligi, etiket, yazi_, MetinHizasi::Sol);
+    Kutuya(tuval_, yer, yer_.en - yer, deger, yazi_, MetinHizasi::Sol);
     y_ += satirBoyu_;
   }
 
   void Cizgi() {
     const double orta = y_ + CizgiPayi * satirBoyu_ / 2;
-    tuval_.Cizgi({yer_.x, orta}, {yer_.x + yer_.en, orta}, InceCizgi);
+    kalip_.Cizgi({yer_.x, orta}, {yer_.x + yer_.en, orta}, InceCizgi);
     y_ += CizgiPayi * satirBoyu_;
   }
 
@@ -91,8 +103,8 @@ class YaprakKalemi {
       y_ = ust;
       const double degerYeri = x + enler[b].etiket + EtiketAraligi;
       for (const BlokSatiri& satir : bloklar[b]) {
-        Kutuya(x, enler[b].etiket, Etiket(satir.etiket), yazi_, MetinHizasi::Sol);
-        Kutuya(degerYeri, enler[b].deger, YaprakMetni(satir.deger, paraOndaligi), yazi_, MetinHizasi::Sag);
+        Kutuya(kalip_, x, enler[b].etiket, Etiket(satir.etiket), yazi_, MetinHizasi::Sol);
+        Kutuya(tuval_, degerYeri, enler[b].deger, YaprakMetni(satir.deger, paraOndaligi), yazi_, MetinHizasi::Sag);
         y_ += satirBoyu_;
       }
       alt = std::max(alt, y_);
@@ -102,11 +114,12 @@ class YaprakKalemi {
   }
 
  private:
-  void Kutuya(double x, double en, std::string_view metin, const YaziBicimi& yazi, MetinHizasi hiza) {
-    MetinKutuya(tuval_, {yer_.x + x, y_, en, satirBoyu_}, metin, yazi, hiza);
+  void Kutuya(Tuval& nereye, double x, double en, std::string_view metin, const YaziBicimi& yazi, MetinHizasi hiza) {
+    MetinKutuya(nereye, {yer_.x + x, y_, en, satirBoyu_}, metin, yazi, hiza);
   }
 
   Tuval& tuval_;
+  Tuval& kalip_;
   const Dikdortgen yer_;
   const YaziBicimi& yazi_;
   const double satirBoyu_;
@@ -172,17 +185,20 @@ Dikdortgen GrafikYapraklar::Yer(int sira) const {
 void GrafikYapraklar::SayfaCiz(int no, Tuval& tuval) const {
   const Bolunme b = BolunmeBul(sayfada_);
   tuval.SayfaBasla(Kagit);
-  if (b.satir > 1) tuval.Cizgi({0, Kagit.boy / 2}, {Kagit.en, Kagit.boy / 2}, InceCizgi);
-  if (b.sutun > 1) tuval.Cizgi({Kagit.en / 2, 0}, {Kagit.en / 2, Kagit.boy}, InceCizgi);
+  if (b.satir > 1) tuval.Kalip("kesim").Cizgi({0, Kagit.boy / 2}, {Kagit.en, Kagit.boy / 2}, InceCizgi);
+  if (b.sutun > 1) tuval.Kalip("kesim").Cizgi({Kagit.en / 2, 0}, {Kagit.en / 2, Kagit.boy}, InceCizgi);
   const int ilk = (no - 1) * sayfada_;
   const int son = std::min(ilk + sayfada_, int(belge_.yapraklar.size()));
-  for (int i = ilk; i < son; ++i) YaprakCiz(belge_.yapraklar[std::size_t(i)], Yer(i - ilk), tuval);
+  for (int i = ilk; i < son; ++i) {
+    const Yaprak& yaprak = belge_.yapraklar[std::size_t(i)];
+    YaprakCiz(yaprak, Yer(i - ilk), tuval, tuval.Kalip(std::to_string(i - ilk) + Sozler(yaprak)));
+  }
   tuval.SayfaBitir();
 }
 
-void GrafikYapraklar::YaprakCiz(const Yaprak& yaprak, const Dikdortgen& yer, Tuval& tuval) const {
+void GrafikYapraklar::YaprakCiz(const Yaprak& yaprak, const Dikdortgen& yer, Tuval& tuval, Tuval& kalip) const {
   const std::size_t yanYana = BolunmeBul(sayfada_).yanYana;
-  YaprakKalemi kalem(tuval, yer, yazi_);
+  YaprakKalemi kalem(tuval, kalip, yer, yazi_);
   YaziBicimi baslik = yazi_;
   baslik.punto *= BaslikOrani;
   baslik.kalinlik = YaziKalinligi::Kalin;

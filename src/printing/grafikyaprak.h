@@ -43,7 +43,7 @@ class GrafikYapraklar final : public CizilenBelge {
  private:
   void Olc();
   double SigmaOrani() const;
-  void YaprakCiz(const Yaprak& yaprak, const Dikdortgen& yer, Tuval& tuval) const;
+  void YaprakCiz(const Yaprak& yaprak, const Dikdortgen& yer, Tuval& tuval, Tuval& kalip) const;
   Dikdortgen Yer(int sira) const;
 
   const YaprakBelgesi& belge_;

@@ -94,9 +94,10 @@ class RaporKalemi {
   }
 
   void KolonBasliklari(std::size_t sira) {
-    tuval_.DoluKutu({KenarMm, y_, TabloEni(), bicim_.satirBoyu}, AcikGri);
+    Tuval& kalip = tuval_.Kalip("başlık " + std::to_string(sira) + " " + std::to_string(y_));
+    kalip.DoluKutu({KenarMm, y_, TabloEni(), bicim_.satirBoyu}, AcikGri);
     for (std::size_t k = 0; k < bicim_.kolonlar.size(); ++k)
-      MetinKutuya(tuval_, Yer(bicim_.kolonlar[k].x, bicim_.kolonlar[k].en), bicim_.kagit.basliklar[k][sira], kalin_,
+      MetinKutuya(kalip, Yer(bicim_.kolonlar[k].x, bicim_.kolonlar[k].en), bicim_.kagit.basliklar[k][sira], kalin_,
                   Hiza(rapor_.Kolonlar()[k]));
   }
 
@@ -132,10 +133,11 @@ class RaporKalemi {
   }
 
   void DikCiz(double ust, double alt) {
+    Tuval& kalip = tuval_.Kalip("kolon çizgileri " + std::to_string(ust) + " " + std::to_string(alt));
     for (std::size_t k = 1; k < bicim_.kolonlar.size(); ++k) {
       const KolonYeri& onceki = bicim_.kolonlar[k - 1];
       const double x = KenarMm + (onceki.x + onceki.en + bicim_.kolonlar[k].x) / 2;
-      tuval_.Cizgi({x, ust}, {x, alt}, InceCizgi);
+      kalip.Cizgi({x, ust}, {x, alt}, InceCizgi);
     }
   }
 

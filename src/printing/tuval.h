@@ -24,6 +24,8 @@ enum class KagitYonu { Dikey = 1, Yatay = 2 };
 struct KagitBoyu {
   double en = 0;
   double boy = 0;
+
+  bool operator==(const KagitBoyu&) const = default;
 };
 
 constexpr KagitBoyu A4(KagitYonu yon) {
@@ -36,6 +38,8 @@ constexpr double KenarMm = 8;
 struct Nokta {
   double x = 0;
   double y = 0;
+
+  bool operator==(const Nokta&) const = default;
 };
 
 struct Dikdortgen {
@@ -43,6 +47,8 @@ struct Dikdortgen {
   double y = 0;
   double en = 0;
   double boy = 0;
+
+  bool operator==(const Dikdortgen&) const = default;
 };
 
 enum class YaziAilesi { Duz, EsEnli, Tirnakli };  // DejaVu Sans, Sans Mono, Serif
@@ -82,6 +88,11 @@ class Tuval {
   virtual void DoluKutu(const Dikdortgen& kutu, BoyaRengi renk) = 0;
   // A picture (PNG) as large as the box allows, in its middle, not distorted. False when it cannot be read.
   virtual bool Resim(const Dikdortgen& kutu, std::string_view png) = 0;
+
+  // Where the parts of the open page go that other pages have too: frames, heads, captions. A PDF keeps what the first
+  // page drew there under the key, lays it over that page and over every later one that asks for the key, and passes
+  // over what those draw there; so the key says all that the parts depend on. Any other surface is its own Kalip.
+  virtual Tuval& Kalip(std::string_view /*anahtar*/) { return *this; }
 };
 
 // Width of a text, and height of a line of it.
