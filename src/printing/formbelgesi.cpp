@@ -1,5 +1,7 @@
 #include "printing/formbelgesi.h"
 
+#include <algorithm>
+
 namespace belvani {
 namespace {
 
@@ -8,7 +10,11 @@ class FormCizimi final : public CizilenBelge {
   explicit FormCizimi(const std::vector<FormSayfasi>& sayfalar) : sayfalar_(sayfalar) {}
 
   int SayfaSayisi() const override { return int(sayfalar_.size()); }
-  void SayfaCiz(int no, Tuval& tuval) const override { FormCiz(sayfalar_.at(std::size_t(no) - 1), tuval); }
+  void SayfaCiz(int no, Tuval& tuval) const override {
+    const FormSayfasi& sayfa = sayfalar_.at(std::size_t(no) - 1);
+    const auto ilk = std::ranges::find_if(sayfalar_, [&](const FormSayfasi& s) { return AyniForm(s, sayfa); });
+    FormCiz(sayfa, tuval, "form " + std::to_string(ilk - sayfalar_.begin()));
+  }
 
  private:
   const std::vector<FormSayfasi>& sayfalar_;

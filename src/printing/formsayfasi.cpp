@@ -33,14 +33,20 @@ std::string TemizDeger(std::string_view deger) {
 
 }  // namespace
 
-void FormCiz(const FormSayfasi& sayfa, Tuval& tuval) {
+void FormCiz(const FormSayfasi& sayfa, Tuval& tuval, std::string_view kalipAdi) {
   tuval.SayfaBasla(sayfa.boy);
-  for (const auto& k : sayfa.kutular) tuval.Kutu(k.yer, k.kalinlik);
-  for (const auto& c : sayfa.cizgiler) tuval.Cizgi(c.bas, c.son, c.kalinlik);
-  for (const auto& r : sayfa.resimler) tuval.Resim(r.yer, r.png);
-  for (const auto& y : sayfa.yazilar) MetinKutuya(tuval, y.yer, y.metin, y.yazi, y.hiza);
+  Tuval& kalip = kalipAdi.empty() ? tuval : tuval.Kalip(kalipAdi);
+  for (const auto& k : sayfa.kutular) kalip.Kutu(k.yer, k.kalinlik);
+  for (const auto& c : sayfa.cizgiler) kalip.Cizgi(c.bas, c.son, c.kalinlik);
+  for (const auto& r : sayfa.resimler) kalip.Resim(r.yer, r.png);
+  for (const auto& y : sayfa.yazilar) MetinKutuya(kalip, y.yer, y.metin, y.yazi, y.hiza);
   for (const auto& a : sayfa.alanlar) AlanCiz(a, tuval);
   tuval.SayfaBitir();
+}
+
+bool AyniForm(const FormSayfasi& a, const FormSayfasi& b) {
+  return a.boy == b.boy && a.kutular == b.kutular && a.cizgiler == b.cizgiler && a.resimler == b.resimler &&
+         a.yazilar == b.yazilar;
 }
 
 void FormKurucu::Kutu(const Dikdortgen& yer, double kalinlik) {

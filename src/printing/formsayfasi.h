@@ -23,22 +23,30 @@ struct FormYazisi {
   std::string metin;
   YaziBicimi yazi;
   MetinHizasi hiza = MetinHizasi::Sol;
+
+  bool operator==(const FormYazisi&) const = default;
 };
 
 struct FormCizgisi {
   Nokta bas;
   Nokta son;
   double kalinlik = InceCizgi;
+
+  bool operator==(const FormCizgisi&) const = default;
 };
 
 struct FormKutusu {
   Dikdortgen yer;
   double kalinlik = InceCizgi;
+
+  bool operator==(const FormKutusu&) const = default;
 };
 
 struct FormResmi {
   Dikdortgen yer;
   std::string png;
+
+  bool operator==(const FormResmi&) const = default;
 };
 
 struct FormAlani {
@@ -61,8 +69,11 @@ struct FormSayfasi {
 
 // One page, from SayfaBasla to SayfaBitir. Words and values stand in the middle of the height of their boxes; what is
 // wider than its box is made narrower, never cut. A value with more letters than cells is written as one text over all
-// of them, narrow enough.
-void FormCiz(const FormSayfasi& sayfa, Tuval& tuval);
+// of them, narrow enough. Pages given the same `kalip` have the same frame and words, which are kept once (see Tuval).
+void FormCiz(const FormSayfasi& sayfa, Tuval& tuval, std::string_view kalip = {});
+
+// Whether they differ in their values alone.
+bool AyniForm(const FormSayfasi& a, const FormSayfasi& b);
 
 // Cells of equal size, side by side, for one digit each.
 struct HucreDizisi {

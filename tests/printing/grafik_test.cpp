@@ -5,6 +5,8 @@
 #include "core/dosya.h"
 #include "gecici.h"
 #include "printing/cairotuval.h"
+#include "printing/formbelgesi.h"
+#include "printing/grafikyaprak.h"
 #include "printing/grafikyazici.h"
 #include "printing/kayittuvali.h"
 #include "printing/ornek.h"
@@ -22,7 +24,9 @@ using test::Kalem;
 using test::KalemRaporu;
 using test::KayitTuvali;
 using test::OgeTuru;
+using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
 
 std::string Calistir(const std::string& komut) {
   std::string cikti;
@@ -78,6 +82,73 @@ TEST(Grafik, PdfMetniVeBaytlari) {
   EXPECT_THAT(Calistir("pdffonts " + yol), Not(HasSubstr(" no  ")));  // all embedded
   EXPECT_EQ(ciz(), ciz());
   EXPECT_EQ(PdfTuvali().Belge().KusurMetni(), "Yazdırılacak sayfa yok");
+}
+
+std::string SayfaMetni(const std::string& yol, int sayfa) {
+  const std::string no = std::to_string(sayfa);
+  return Calistir("pdftotext -layout -f " + no + " -l " + no + " " + yol + " -");
+}
+
+// What pages have in common stands on each that asks for it and on no other, at its place, readable; a page that draws
+// through looks the same.
+TEST(Grafik, KalipSayfalarinOrtagi) {
+  const test::GeciciDizin dizin;
+  const auto sayfaYap = [](Tuval& sayfa, Tuval& kalip, const std::string& deger) {
+    kalip.Kutu({20, 20, 60, 10});
+    MetinKutuya(kalip, {20, 20, 30, 10}, "İşsizlik Ğ", {.punto = 9}, MetinHizasi::Sol);
+    MetinKutuya(sayfa, {50, 20, 30, 10}, deger, {.punto = 9}, MetinHizasi::Sag);
+    MetinKutuya(kalip, {20, 40, 30, 10}, "Eğik", {.durus = YaziDurusu::Egik}, MetinHizasi::Sol);
+  };
+  const auto belge = [&](const std::string& ad, bool kalipli) {
+    PdfTuvali pdf;
+    for (const char* deger : {"11.25", "", "22.50"}) {
+      pdf.SayfaBasla(A4(KagitYonu::Dikey));
+      if (*deger != '\0') sayfaYap(pdf, kalipli ? pdf.Kalip("kutu") : pdf, deger);
+      pdf.SayfaBitir();
+    }
+    const std::string yol = dizin.Yol() + ad;
+    EXPECT_TRUE(DosyaYaz(yol, *pdf.Belge()));
+    return yol;
+  };
+  const std::string kalipli = belge("kalipli.pdf", true);
+  EXPECT_THAT(SayfaMetni(kalipli, 1), AllOf(HasSubstr("İşsizlik Ğ"), HasSubstr("11.25"), HasSubstr("Eğik")));
+  EXPECT_THAT(SayfaMetni(kalipli, 2), Not(HasSubstr("İşsizlik")));
+  EXPECT_THAT(SayfaMetni(kalipli, 3), AllOf(HasSubstr("İşsizlik Ğ"), HasSubstr("22.50"), Not(HasSubstr("11.25"))));
+  EXPECT_EQ(Calistir("pdftoppm -r 100 -gray " + kalipli), Calistir("pdftoppm -r 100 -gray " + belge("duz.pdf", false)));
+}
+
+// Slips, forms and lists share what is the same and nothing else.
+TEST(Grafik, KaliplariKaristirmaz) {
+  const test::GeciciDizin dizin;
+  const auto yaz = [&](const CizilenBelge& belge) {
+    PdfTuvali pdf;
+    SayfalariCiz(belge, pdf);
+    const std::string yol = dizin.Yol() + "a.pdf";
+    EXPECT_TRUE(DosyaYaz(yol, *pdf.Belge()));
+    return yol;
+  };
+  YaprakBelgesi fisler{.baslik = "FİŞ", .yapraklar = {}};
+  for (const char* etiket : {"Ücreti :", "Ücreti :", "Yevmiyesi :"})
+    fisler.yapraklar.push_back(
+        {.altBaslik = {}, .bas = {{etiket, Tutar(1.5)}}, .sol = {}, .sag = {}, .ek = {}, .cumleler = {}});
+  const std::string fis = yaz(GrafikYapraklar(fisler, SayfadaYaprak::Bir));
+  EXPECT_THAT(SayfaMetni(fis, 2), HasSubstr("Ücreti"));
+  EXPECT_THAT(SayfaMetni(fis, 3), AllOf(HasSubstr("Yevmiyesi"), Not(HasSubstr("Ücreti")), HasSubstr("FİŞ")));
+
+  std::vector<FormSayfasi> sayfalar;
+  for (const char* etiket : {"Sicil No", "Sicil No", "Adı Soyadı"}) {
+    FormKurucu form(A4(KagitYonu::Dikey));
+    form.Etiket({10, 10, 30, 8}, etiket);
+    form.Alan("deger", {40, 10, 30, 8}, "Işıl " + std::to_string(sayfalar.size()));
+    sayfalar.push_back(form.Sayfa());
+  }
+  const std::string form = yaz(*FormBelgesi({}, sayfalar, "").Cizim());
+  EXPECT_THAT(SayfaMetni(form, 2), AllOf(HasSubstr("Sicil No"), HasSubstr("Işıl 1")));
+  EXPECT_THAT(SayfaMetni(form, 3), AllOf(HasSubstr("Adı Soyadı"), HasSubstr("Işıl 2"), Not(HasSubstr("Sicil"))));
+
+  const Rapor rapor = KalemRaporu(Kalemler(150));
+  const std::string liste = yaz(GrafikRapor(rapor, {.yon = {}, .kolonArasi = KolonArasi::DikCizgi}));
+  for (const int sayfa : {1, 2, 3}) EXPECT_THAT(SayfaMetni(liste, sayfa), HasSubstr("Birikmiş")) << sayfa;
 }
 
 // The preview shows the asked page alone, with dots where the page has ink.
