@@ -4,39 +4,12 @@
 #include <QClipboard>
 #include <QKeyEvent>
 
-#include "core/sayi.h"
 #include "core/store/imlec.h"
-#include "core/turkce.h"
 #include "ui/metin.h"
 #include "ui/simge.h"
 
 namespace belvani {
 namespace {
-
-constexpr int TarihBoyu = 10;
-
-QString Gruplu(Tutar tutar, int ondalik, int grup) {
-  std::string metin = TutarMetni(tutar, ondalik);
-  if (grup == 0) std::erase(metin, ',');
-  return Yazi(metin);
-}
-
-// The amount without grouping and without zeros at its end, as it would have been typed.
-QString HamMetin(Tutar tutar, int ondalik) {
-  std::string metin = TutarMetni(tutar, ondalik);
-  std::erase(metin, ',');
-  if (metin.find('.') != std::string::npos) {
-    metin.erase(metin.find_last_not_of('0') + 1);
-    if (metin.back() == '.') metin.pop_back();
-  }
-  return Yazi(metin);
-}
-
-Tutar HamDeger(const QString& ham) {
-  QString metin = ham;
-  if (metin.endsWith('.')) metin.chop(1);
-  return TutarOku(Utf8(metin)).value_or(Tutar());
-}
 
 bool DuzenlemeTusu(const QKeyEvent& olay) {
   return olay.matches(QKeySequence::Copy) || olay.matches(QKeySequence::SelectAll) || olay.key() == Qt::Key_Home ||
@@ -60,48 +33,35 @@ void xtext::xTextBicim(Tip tip, double enCok, Qt::Alignment hiza, bool tumunuSec
   tip_ = tip;
   enCok_ = enCok;
   ondalik_ = ondalik;
-  grup_ = grup;
   tumunuSec_ = tumunuSec || tip != Tip::Metin;
   setAlignment((tip == Tip::Sayi ? Qt::AlignRight : hiza) | Qt::AlignVCenter);
-  // Numbers and dates are typed by their own rules; the line editor only shows them.
+  switch (tip) {
+    case Tip::Sayi:
+      girdi_ = std::make_unique<SayiGirdisi>(SayiGirdisi::Bicim{enCok, ondalik, grup});
+      break;
+    case Tip::Tarih:
+      girdi_ = std::make_unique<TarihGirdisi>();
+      break;
+    case Tip::Metin:
+      girdi_.reset();
+      break;
+  }
   setMaxLength(tip == Tip::Metin && enCok > 0 ? int(enCok) : 32767);
-  if (tip == Tip::Tarih) setMaxLength(TarihBoyu);
   setContextMenuPolicy(tip == Tip::Metin ? Qt::DefaultContextMenu : Qt::NoContextMenu);
   setAcceptDrops(tip == Tip::Metin);
 }
 
 Deger xtext::Value() const {
-  switch (tip_) {
-    case Tip::Sayi:
-      return yuklenen_ ? *yuklenen_ : HamDeger(ham_);
-    case Tip::Tarih: {
-      const auto tarih = Tarih::MetinOku(Utf8(text()));
-      return tarih.Bos() ? Deger(Null{}) : Deger(tarih);
-    }
-    case Tip::Metin:
-      break;
-  }
-  return Utf8(text());
+  return girdi_ ? girdi_->Oku() : Utf8(text());
 }
 
 void xtext::DegerKoy(const Deger& deger) {
-  ilkTus_ = true;
-  switch (tip_) {
-    case Tip::Sayi: {
-      const Tutar tutar = TutarDegeri(deger);
-      ham_ = tutar == Tutar() ? QString() : HamMetin(tutar, ondalik_);
-      yuklenen_ = NullMu(deger) ? Deger(Tutar()) : deger;
-      SayiyiGoster();
-      break;
-    }
-    case Tip::Tarih:
-      setText(Yazi(TarihDegeri(deger).Metin()));
-      break;
-    case Tip::Metin:
-      setText(Yazi(MetinDegeri(deger)));
-      setCursorPosition(0);
-      break;
+  if (girdi_) {
+    girdi_->Yukle(deger);
+    return GirdiyiGoster();
   }
+  setText(Yazi(MetinDegeri(deger)));
+  setCursorPosition(0);
 }
 
 bool xtext::HataliTarih() const {
@@ -119,8 +79,7 @@ bool xtext::SetRecord(Imlec& rs) {
 }
 
 void xtext::xReset() {
-  yuklenen_.reset();
-  ham_.clear();
+  if (girdi_) girdi_->Bosalt();
   clear();
   setToolTip({});
 }
@@ -170,128 +129,67 @@ bool xtext::OrtakTus(const QKeyEvent& olay) {
 
 void xtext::keyPressEvent(QKeyEvent* olay) {
   if (OrtakTus(*olay)) return;
-  if (tip_ == Tip::Metin) {
-    QLineEdit::keyPressEvent(olay);
-    return;
-  }
+  if (!girdi_) return QLineEdit::keyPressEvent(olay);
   if (DuzenlemeTusu(*olay)) {
-    ilkTus_ = false;
-    QLineEdit::keyPressEvent(olay);
-    return;
+    girdi_->Gezildi();
+    return QLineEdit::keyPressEvent(olay);
   }
   const bool yazilabilir = !isReadOnly();
   if (yazilabilir && olay->matches(QKeySequence::Paste)) return Yapistir();
-  if (yazilabilir && olay->key() == Qt::Key_Delete) {
-    xReset();
-    Q_EMIT Change();
-    return;
-  }
-  if (yazilabilir && olay->key() == Qt::Key_Backspace) return GeriSil();
+  if (yazilabilir && olay->key() == Qt::Key_Delete) return Bosalt();
+  if (yazilabilir && olay->key() == Qt::Key_Backspace) return Uygula(girdi_->GeriSil(HepsiSecili()));
   const bool yaziTusu = !olay->text().isEmpty() && olay->text().at(0).isPrint() &&
                         (olay->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
   if (!yaziTusu) {
     olay->ignore();  // to the screen
     return;
   }
-  if (yazilabilir) HarfYaz(olay->text());
+  if (yazilabilir) HarflerYaz(olay->text());
 }
 
 void xtext::inputMethodEvent(QInputMethodEvent* olay) {
-  if (tip_ == Tip::Metin) {
-    QLineEdit::inputMethodEvent(olay);
-    return;
+  if (!girdi_) return QLineEdit::inputMethodEvent(olay);
+  if (!isReadOnly()) HarflerYaz(olay->commitString());
+}
+
+void xtext::HarflerYaz(const QString& harfler) {
+  for (const QChar harf : harfler) Uygula(girdi_->Yaz(harf.unicode(), HepsiSecili()));
+}
+
+void xtext::Uygula(TusSonucu sonuc) {
+  switch (sonuc) {
+    case TusSonucu::Alindi:
+      GirdiyiGoster();
+      Q_EMIT Change();
+      return;
+    case TusSonucu::Reddedildi:
+      return QApplication::beep();
+    case TusSonucu::Gecildi:
+      return;
   }
-  if (!isReadOnly()) HarfYaz(olay->commitString());
-}
-
-void xtext::HarfYaz(const QString& harfler) {
-  yuklenen_.reset();
-  for (const QChar harf : harfler) {
-    if (std::exchange(ilkTus_, false) || HepsiSecili()) {
-      ham_.clear();
-      if (tip_ == Tip::Tarih) clear();
-    }
-    const bool alindi = tip_ == Tip::Sayi ? SayiHarfi(harf) : TarihHarfi(harf);
-    if (!alindi) QApplication::beep();
-  }
-  if (tip_ == Tip::Sayi) SayiyiGoster();
-  Q_EMIT Change();
-}
-
-bool xtext::HamSigar(const QString& ham) const {
-  const qsizetype nokta = ham.indexOf('.');
-  if (nokta >= 0 && ham.size() - nokta - 1 > ondalik_) return false;
-  const auto deger = TutarOku(Utf8(ham));
-  return deger && deger->Sayi() <= enCok_;
-}
-
-bool xtext::SayiHarfi(QChar harf) {
-  if (harf == '.' || harf == ',') {
-    if (ondalik_ == 0 || ham_.contains('.')) return true;  // passed over in silence
-    ham_ += ham_.isEmpty() ? "0." : ".";
-    return true;
-  }
-  const QString ek = harf == '+' ? QStringLiteral("000") : QString(harf);
-  if ((harf != '+' && (harf < '0' || harf > '9')) || !HamSigar(ham_ + ek)) return false;
-  ham_ += ek;
-  return true;
-}
-
-bool xtext::TarihHarfi(QChar harf) {
-  if (harf < '0' || harf > '9') return true;  // passed over in silence
-  QString metin = text();
-  if (metin.size() >= TarihBoyu) return false;
-  metin += harf;
-  if (metin.size() == 2 || (metin.size() == 5 && metin.at(2) == '.')) metin += '.';
-  setText(metin);
-  return true;
 }
 
 bool xtext::HepsiSecili() const {
   return !text().isEmpty() && selectedText() == text();
 }
 
-void xtext::GeriSil() {
-  ilkTus_ = false;
-  yuklenen_.reset();
-  if (tip_ == Tip::Sayi) {
-    HepsiSecili() ? ham_.clear() : ham_.chop(1);
-    SayiyiGoster();
-  } else {
-    QString metin = hasSelectedText() ? QString() : text();
-    const bool noktaSonda = metin.size() == 3 || metin.size() == 6;
-    metin.chop(noktaSonda ? 2 : 1);
-    setText(metin);
-  }
-  Q_EMIT Change();
-}
-
 void xtext::Yapistir() {
-  const std::string metin = Utf8(QApplication::clipboard()->text().trimmed());
-  if (tip_ == Tip::Sayi) {
-    const auto tutar = TutarOku(metin);
-    if (!tutar || *tutar < Tutar() || tutar->Sayi() > enCok_) return QApplication::beep();
-    yuklenen_.reset();
-    ham_ = HamMetin(*tutar, ondalik_);
-    SayiyiGoster();
-  } else {
-    const auto tarih = Tarih::MetinOku(metin);
-    if (tarih.Bos()) return QApplication::beep();
-    setText(Yazi(tarih.Metin()));
-  }
-  ilkTus_ = false;
+  Uygula(girdi_->Yapistir(Utf8(QApplication::clipboard()->text().trimmed())));
+}
+
+void xtext::Bosalt() {
+  xReset();
   Q_EMIT Change();
 }
 
-void xtext::SayiyiGoster() {
-  const Tutar tutar = HamDeger(ham_);
-  setText(tutar == Tutar() ? QString() : Gruplu(tutar, ondalik_, grup_));
+void xtext::GirdiyiGoster() {
+  setText(Yazi(girdi_->Metin()));
   setCursorPosition(int(text().size()));
 }
 
 void xtext::focusInEvent(QFocusEvent* olay) {
   QLineEdit::focusInEvent(olay);
-  ilkTus_ = true;
+  if (girdi_) girdi_->Girildi();
   if (tumunuSec_ || olay->reason() == Qt::TabFocusReason || olay->reason() == Qt::BacktabFocusReason) selectAll();
 }
 
@@ -303,16 +201,12 @@ void xtext::focusOutEvent(QFocusEvent* olay) {
 }
 
 void xtext::Bitir() {
-  if (tip_ == Tip::Sayi) SayiyiGoster();
+  if (!girdi_) return;
+  girdi_->Birakildi();
+  GirdiyiGoster();
   if (tip_ != Tip::Tarih || Bos()) return;
-  if (HataliTarih()) {
-    setText(TarihMaskesi);
-    setToolTip(" Hatalı Tarih ");
-    return;
-  }
   const Tarih tarih = TarihDegeri(Value());
-  setText(Yazi(tarih.Metin()));
-  setToolTip(Yazi(" " + tarih.UzunMetin() + " "));
+  setToolTip(tarih.Bos() ? QStringLiteral(" Hatalı Tarih ") : Yazi(" " + tarih.UzunMetin() + " "));
 }
 
 }  // namespace belvani

@@ -6,15 +6,16 @@
 //   F2             lookup, where the field has the picture button
 //
 // A number of zero shows as an empty field. Digits beyond the field's decimals or above its largest value are refused
-// with a beep, so what is shown is always what is stored. A text that is no date becomes "??.??.????" when the field is
-// left; an empty date stays empty.
+// with a beep and change nothing, so what is shown is always what is stored. A text that is no date becomes
+// "??.??.????" when the field is left; an empty date stays empty. What a key makes of a number or date is decided by
+// core/girdi.h; this is its view.
 #pragma once
 
 #include <QLineEdit>
 #include <QToolButton>
-#include <optional>
+#include <memory>
 
-#include "core/deger.h"
+#include "core/girdi.h"
 
 namespace belvani {
 
@@ -24,8 +25,6 @@ class xtext : public QLineEdit {
   Q_OBJECT
  public:
   enum class Tip { Metin = 0, Sayi = 1, Tarih = 2 };
-
-  static inline const QString TarihMaskesi = QStringLiteral("??.??.????");
 
   explicit xtext(QWidget* ust = nullptr);
 
@@ -69,25 +68,19 @@ class xtext : public QLineEdit {
 
  private:
   bool OrtakTus(const QKeyEvent& olay);
-  void HarfYaz(const QString& harfler);
-  bool SayiHarfi(QChar harf);
-  bool TarihHarfi(QChar harf);
-  void GeriSil();
+  void HarflerYaz(const QString& harfler);
+  void Uygula(TusSonucu sonuc);
   bool HepsiSecili() const;
   void Yapistir();
-  void SayiyiGoster();
+  void Bosalt();
+  void GirdiyiGoster();
   void Bitir();
-  bool HamSigar(const QString& ham) const;
-  int TarihYeri() const;
 
   Tip tip_ = Tip::Metin;
   double enCok_ = 0;
   int ondalik_ = 0;
-  int grup_ = 3;
   bool tumunuSec_ = false;
-  bool ilkTus_ = true;
-  QString ham_;                    // digits of a number as typed: "1250.5"
-  std::optional<Deger> yuklenen_;  // a number that nobody has typed over yet
+  std::unique_ptr<Girdi> girdi_;  // of a number or date; a text is typed by the line editor's own rules
   std::string alan_;
   QToolButton* buton_ = nullptr;
 };
