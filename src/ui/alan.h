@@ -40,6 +40,7 @@ struct AlanEki {
   bool sifre = false;   // masked
   bool rehber = false;  // has a lookup list (F2)
   const char* ipucu = "";
+  int no = 0;  // by which the rules of its screen know the field: a value of their enum
 };
 
 // A field's row. It reads and writes a record struct through its column.

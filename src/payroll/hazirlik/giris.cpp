@@ -70,7 +70,20 @@ EkranToplamlari ToplamlariBul(const BordroSonucu& s) {
   return t;
 }
 
+std::optional<std::size_t> AralikSirasi(BordroAlani alan, BordroAlani ilk, BordroAlani son) {
+  if (alan < ilk || alan > son) return std::nullopt;
+  return std::size_t(alan) - std::size_t(ilk);
+}
+
 }  // namespace
+
+std::optional<std::size_t> KazancSirasi(BordroAlani alan) {
+  return AralikSirasi(alan, BordroAlani::NormalGun, BordroAlani::Mesai3);
+}
+
+std::optional<std::size_t> YardimSirasi(BordroAlani alan) {
+  return AralikSirasi(alan, BordroAlani::Yardim1, BordroAlani::Yardim11);
+}
 
 BordroGirisi::BordroGirisi(Oturum& oturum, const ParametreDeposu& parametreler, Bildirim& bildirim)
     : o_(oturum), parametreler_(parametreler), bildirim_(bildirim) {}
@@ -186,11 +199,13 @@ KodSonucu BordroGirisi::KisiyiAc(KisiVerisi kisi, int CalismaGun) {
   if (CalismaGun != TamAy) uyari_ = UyariYap(kisi_.sicil, CalismaGun);
   ayGunu_ = AyGunuBul(kosullar_.donem.ay, kosullar_.donem.yil, CalismaGun);
   Hesapla();
+  acilis_ = g_.giris;
   return KodSonucu::Yuklendi;
 }
 
 void BordroGirisi::EkranTemizle() {
   hal_ = Hal::KisiYok;
+  sonAlan_ = BordroAlani::Kod;
   g_ = {};
   kisi_ = {};
   uyari_.reset();
@@ -198,6 +213,10 @@ void BordroGirisi::EkranTemizle() {
   toplamlar_ = {};
   kusur_.clear();
   ayGunu_ = 0;
+}
+
+void BordroGirisi::AlanaGirildi(BordroAlani alan) {
+  if (hal_ == Hal::KisiSecili && GirisAlani(alan)) sonAlan_ = alan;
 }
 
 const std::string& BordroGirisi::Hesapla() {
@@ -235,10 +254,11 @@ SebepSonrasi BordroGirisi::SebepSec(int sira) {
   return sira == 0 ? SebepSonrasi::KodAlanina : SebepSonrasi::UcretsizIzne;
 }
 
-void BordroGirisi::NettenBruteCevir(int alan) {
-  if (hal_ != Hal::KisiSecili || alan < brdalan::IlkYardim || alan > brdalan::SonYardim) return;
+void BordroGirisi::NettenBruteCevir(BordroAlani alan) {
+  const auto sira = YardimSirasi(alan);
+  if (hal_ != Hal::KisiSecili || !sira) return;
   Brd& b = g_.giris;
-  Tutar& tutar = b.*YardimKolonlari[std::size_t(alan - brdalan::IlkYardim)].uye;
+  Tutar& tutar = b.*YardimKolonlari[*sira].uye;
   const Tek oran(b.sskiscior.Sayi() + b.issiziscior.Sayi());
   try {
     tutar = NettenBrut(
@@ -279,13 +299,11 @@ std::string BordroGirisi::CalismaSatiri() const {
   return hal_ == Hal::KisiYok ? "" : "Personel " + std::to_string(g_.CalismaGun) + " Gün Çalışmış..";
 }
 
-bool BordroGirisi::AlanAcik(int alan) const {
+bool BordroGirisi::AlanAcik(BordroAlani alan) const {
   if (hal_ != Hal::KisiSecili) return false;
   const auto acik = [](std::uint8_t bayraklar) { return (bayraklar & bayrak::Acik) != 0; };
-  if (alan >= brdalan::IlkGun && alan <= brdalan::SonMesai)
-    return acik(g_.bayraklar.k[std::size_t(alan - brdalan::IlkGun)]);
-  if (alan >= brdalan::IlkYardim && alan <= brdalan::SonYardim)
-    return acik(g_.bayraklar.y[std::size_t(alan - brdalan::IlkYardim)]);
+  if (const auto sira = KazancSirasi(alan)) return acik(g_.bayraklar.k[*sira]);
+  if (const auto sira = YardimSirasi(alan)) return acik(g_.bayraklar.y[*sira]);
   return false;
 }
 

@@ -22,15 +22,39 @@
 
 namespace belvani {
 
-// The numbers by which the rules call the screen's fields.
-namespace brdalan {
-constexpr int Kod = 0;
-constexpr int IlkGun = 1;  // days 1 to 6, hours 7 to 9
-constexpr int SonMesai = 9;
-constexpr int IlkYardim = 10;
-constexpr int SonYardim = 20;
-constexpr int UcretsizIzin = 51;
-}  // namespace brdalan
+// The fields of the screen, as the rules know them.
+enum class BordroAlani : std::uint8_t {
+  Sonuc,  // shown, not entered
+  Kod,
+  NormalGun,
+  HaftaTatili,
+  UcretliIzin,
+  ResmiTatil,
+  Mazeret,
+  Hasta,
+  Mesai1,
+  Mesai2,
+  Mesai3,
+  Yardim1,
+  Yardim11 = Yardim1 + YardimSayisi - 1,
+  EksikSebep,
+  UcretsizIzin,
+  RaporCalismadi,
+};
+
+// The lines of the flags of a group: earnings (days and hours) and allowances, from 0; none for another field.
+constexpr BordroAlani KazancAlani(std::size_t sira) {
+  return BordroAlani(std::size_t(BordroAlani::NormalGun) + sira);
+}
+constexpr BordroAlani YardimAlani(std::size_t sira) {
+  return BordroAlani(std::size_t(BordroAlani::Yardim1) + sira);
+}
+std::optional<std::size_t> KazancSirasi(BordroAlani alan);
+std::optional<std::size_t> YardimSirasi(BordroAlani alan);
+// An earning or allowance line, or a field of the missing days: what edits the entry.
+constexpr bool GirisAlani(BordroAlani alan) {
+  return alan > BordroAlani::Kod;
+}
 
 // Where the "Puantaj " button takes the month from. Only the template does anything.
 enum class PuantajKaynagi { ElIle, Sablondan, Puantajdan, Pdks };
@@ -47,7 +71,7 @@ enum class KodSonucu {
 enum class KisiYonu { Ilk, Onceki, Sonraki, Son };
 
 enum class KapanisSonucu {
-  Kapanmadi,       // no open entry, or a field that closes nothing
+  Kapanmadi,       // no open entry, or nobody has entered it
   SonrakiVar,      // Kod() is the next person's code
   Bitti,           // nobody is left: the screen closes
   KaldiEksikGun,   // days are missing without a reason, or the unpaid days do not fill the month
@@ -117,20 +141,25 @@ class BordroGirisi {
   // Home, PgUp, PgDn, End on the code field: from the last code on.
   KodSonucu Git(KisiYonu yon);
 
+  // The focus came to a field.
+  void AlanaGirildi(BordroAlani alan);
   // A field was left. Gives why the calculation cannot be made, "" when it was; the net is empty then, the other
   // results stay as they were.
   const std::string& Hesapla();
   // Position in EksikSebepleri.
   SebepSonrasi SebepSec(int sira);
   // F9 on an allowance field: what stands in it is net and becomes gross.
-  void NettenBruteCevir(int alan);
+  void NettenBruteCevir(BordroAlani alan);
   // At most this may be taken for a debt: down to a net of zero.
   Tutar BorcLimiti() const;
   // The debt dialog confirms. False: over the limit, which is told, and the dialog stays open.
   bool BorcAyarla(Tutar borc);
 
-  // The focus comes back to the code field from `ayrilanAlan`: the entry is checked, saved, and the next person sought.
-  KapanisSonucu Kapat(int ayrilanAlan);
+  // The focus is back on the code field, from wherever it was last: an entry whose fields were visited, or that has
+  // changed since the person came up, is checked, saved, and the next person sought.
+  KapanisSonucu Kapat();
+  // The entry field that was visited last; Kod when none was.
+  BordroAlani SonGirisAlani() const { return sonAlan_; }
   // F7: the person's record of the month. True: deleted, and the screen is cleared.
   bool KayitSil();
   // Ctrl+F7: all records of the month.
@@ -148,8 +177,8 @@ class BordroGirisi {
   bool KayitVar() const { return kisi_.kayit.has_value(); }
   int CalismaGun() const { return g_.CalismaGun; }
   int AyGunu() const { return ayGunu_; }
-  // Fields 1 to 20: open for this person by the flags of his group.
-  bool AlanAcik(int alan) const;
+  // An earning or allowance line: open for this person by the flags of his group.
+  bool AlanAcik(BordroAlani alan) const;
 
   Brd& Giris() { return g_.giris; }
   const BordroSonucu& Sonuc() const { return sonuc_; }
@@ -179,6 +208,8 @@ class BordroGirisi {
   std::string kod_;
   KisiVerisi kisi_;
   BordroGirdi g_;  // points into kisi_ and kosullar_
+  Brd acilis_;     // the entry as the person came up
+  BordroAlani sonAlan_ = BordroAlani::Kod;
   int ayGunu_ = 0;
   std::optional<CalismaUyarisi> uyari_;
   BordroSonucu sonuc_;

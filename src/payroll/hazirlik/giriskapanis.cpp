@@ -7,10 +7,6 @@
 namespace belvani {
 namespace {
 
-bool KapatanAlan(int alan) {
-  return (alan >= brdalan::IlkGun && alan <= brdalan::SonYardim) || alan == brdalan::UcretsizIzin;
-}
-
 struct Aranan {
   std::string kod;  // "": nobody further belongs to the period
   bool tarihHatali = false;
@@ -51,8 +47,9 @@ bool BordroGirisi::EksikGunTamam() {
   return eksik.tamam;
 }
 
-KapanisSonucu BordroGirisi::Kapat(int ayrilanAlan) {
-  if (hal_ != Hal::KisiSecili || !KapatanAlan(ayrilanAlan)) return KapanisSonucu::Kapanmadi;
+KapanisSonucu BordroGirisi::Kapat() {
+  const bool girildi = sonAlan_ != BordroAlani::Kod || g_.giris != acilis_;
+  if (hal_ != Hal::KisiSecili || !girildi) return KapanisSonucu::Kapanmadi;
   if (!Hesapla().empty()) {
     bildirim_.Bilgi(kusur_);
     return KapanisSonucu::KaldiHesapsiz;
@@ -62,7 +59,7 @@ KapanisSonucu BordroGirisi::Kapat(int ayrilanAlan) {
     return KapanisSonucu::KaldiGunFazla;
   }
   if (!EksikGunTamam()) {
-    if (ayrilanAlan != brdalan::UcretsizIzin) uyari_.reset();
+    if (sonAlan_ < BordroAlani::EksikSebep) uyari_.reset();
     return KapanisSonucu::KaldiEksikGun;
   }
   if (sonuc_.NetOdenen <= Tutar()) return KapanisSonucu::KaldiNetsiz;

@@ -151,9 +151,9 @@ void brdhazir::TuslariBagla() {
     KodaDon();
   });
   TusBagla(Qt::Key_F9, QStringLiteral("Netten Brüte"), [this] {
-    if (simdiki_ == nullptr) return;
+    if (!YardimSirasi(SimdikiAlan())) return;
     GirisiOku();
-    giris_.NettenBruteCevir(BordroAlanNo(simdiki_->Satir().tanim.ad));
+    giris_.NettenBruteCevir(SimdikiAlan());
     Goster();
   });
   TusBagla(QKeySequence(Qt::CTRL | Qt::Key_B), QStringLiteral("Borç"), [this] { BorcSor(); });
@@ -182,6 +182,10 @@ AlanDenetimi* brdhazir::Sahibi(const QObject* nesne) const {
   for (const auto& d : Denetimler())
     if (d->Parca() == nesne) return d.get();
   return nullptr;
+}
+
+BordroAlani brdhazir::SimdikiAlan() const {
+  return simdiki_ == nullptr ? BordroAlani::Sonuc : BordroAlaniBul(simdiki_->Satir());
 }
 
 // The person of the typed code; the entry fields open.
@@ -214,8 +218,8 @@ bool brdhazir::eventFilter(QObject* nesne, QEvent* olay) {
   const bool duz = static_cast<QKeyEvent*>(olay)->modifiers() == Qt::NoModifier ||
                    static_cast<QKeyEvent*>(olay)->modifiers() == Qt::KeypadModifier;
   const bool enter = tus == Qt::Key_Return || tus == Qt::Key_Enter;
-  const std::string_view ad = alan->Satir().tanim.ad;
-  if (ad == "kod" && duz) {
+  const BordroAlani no = BordroAlaniBul(alan->Satir());
+  if (no == BordroAlani::Kod && duz) {
     static const std::map<int, KisiYonu> yonler{{Qt::Key_Home, KisiYonu::Ilk},
                                                 {Qt::Key_End, KisiYonu::Son},
                                                 {Qt::Key_PageUp, KisiYonu::Onceki},
@@ -230,7 +234,7 @@ bool brdhazir::eventFilter(QObject* nesne, QEvent* olay) {
       return true;
     }
   }
-  if (ad == "sebep" && enter) {
+  if (no == BordroAlani::EksikSebep && enter) {
     SebepSecildi();
     return true;
   }
@@ -243,14 +247,14 @@ void brdhazir::AlanaGirildi(AlanDenetimi* yeni) {
   AlanDenetimi* eski = std::exchange(simdiki_, yeni);
   if (eski == yeni) return;
   if (eski != nullptr) GirisiOku();
-  const bool sonuc = yeni->Satir().ek.kapali;
+  giris_.AlanaGirildi(SimdikiAlan());
   neden_->Goster(giris_.HesapIzi(), yeni->Satir().tanim.ad, Yazi(yeni->Satir().etiket));
-  if (!sonuc && yeni->Satir().tanim.ad == "kod" && eski != nullptr) KodaGirildi(BordroAlanNo(eski->Satir().tanim.ad));
+  if (SimdikiAlan() == BordroAlani::Kod && eski != nullptr) KodaGirildi();
 }
 
 // Back on the code field: the person's entry closes.
-void brdhazir::KodaGirildi(int ayrilan) {
-  const KapanisSonucu sonuc = giris_.Kapat(ayrilan);
+void brdhazir::KodaGirildi() {
+  const KapanisSonucu sonuc = giris_.Kapat();
   switch (sonuc) {
     case KapanisSonucu::SonrakiVar:
       YaziKutusu("kod").DegerKoy(giris_.Kod());
@@ -262,7 +266,7 @@ void brdhazir::KodaGirildi(int ayrilan) {
       return;
     case KapanisSonucu::KaldiEksikGun:
       Goster();
-      OdakVer(ayrilan == brdalan::UcretsizIzin ? "sebep" : "kod");
+      OdakVer(giris_.SonGirisAlani() >= BordroAlani::EksikSebep ? "sebep" : "kod");
       return;
     case KapanisSonucu::Kapanmadi:
     case KapanisSonucu::KaldiGunFazla:
@@ -280,7 +284,7 @@ void brdhazir::GirisiOku() {
   if (giris_.Durumu() != BordroGirisi::Hal::KisiSecili) return degisen_.clear();
   for (AlanDenetimi* alan : degisen_) {
     if (alan->Satir().kayitTuru == typeid(Brd)) alan->Satir().yaz(&giris_.Giris(), alan->Oku());
-    if (alan->Satir().tanim.ad == "sebep") giris_.SebepSec(int(TamDegeri(alan->Oku())));
+    if (BordroAlaniBul(alan->Satir()) == BordroAlani::EksikSebep) giris_.SebepSec(int(TamDegeri(alan->Oku())));
   }
   degisen_.clear();
   kusurMetni_ = giris_.Hesapla();
@@ -319,10 +323,11 @@ void brdhazir::AcikAlanlariKur() {
   const bool secili = giris_.Durumu() == BordroGirisi::Hal::KisiSecili;
   const bool eksik = secili && giris_.Toplamlar().SskGun != giris_.CalismaGun();
   for (const auto& d : Denetimler()) {
-    const int no = BordroAlanNo(d->Satir().tanim.ad);
-    if (no >= brdalan::IlkGun && no <= brdalan::SonYardim) d->Parca()->setEnabled(giris_.AlanAcik(no));
+    const BordroAlani no = BordroAlaniBul(d->Satir());
+    if (KazancSirasi(no) || YardimSirasi(no)) d->Parca()->setEnabled(giris_.AlanAcik(no));
     // With all days worked there is nothing to give a reason for: Enter goes from the last line to the code.
-    if (no == brdalan::UcretsizIzin) d->Parca()->setEnabled(secili && (eksik || d->Parca()->hasFocus()));
+    if (no == BordroAlani::EksikSebep || no == BordroAlani::UcretsizIzin)
+      d->Parca()->setEnabled(secili && (eksik || d->Parca()->hasFocus()));
   }
   Denetim(brd::rapcalismadi.ad).Odak()->setFocusPolicy(eksik ? Qt::StrongFocus : Qt::ClickFocus);
   Denetim(brd::rapcalismadi.ad).Parca()->setEnabled(secili);
@@ -362,8 +367,8 @@ void brdhazir::SonuclaraGit() {
 }
 
 void brdhazir::BorcSor() {
-  const int no = simdiki_ == nullptr ? -1 : BordroAlanNo(simdiki_->Satir().tanim.ad);
-  if (giris_.Durumu() != BordroGirisi::Hal::KisiSecili || no < brdalan::IlkGun || no > brdalan::SonYardim) return;
+  const BordroAlani no = SimdikiAlan();
+  if (giris_.Durumu() != BordroGirisi::Hal::KisiSecili || !(KazancSirasi(no) || YardimSirasi(no))) return;
   GirisiOku();
   FormGoster(Baglam(), std::make_unique<brckes>(Baglam(), giris_), FormModu::Modal);
   Goster();

@@ -35,7 +35,7 @@ class brdhazir : public Form {
   void TuslariBagla();
 
   void AlanaGirildi(AlanDenetimi* yeni);
-  void KodaGirildi(int ayrilan);
+  void KodaGirildi();
   bool KisiyiGetir();
   void Git(KisiYonu yon);
   void GirisiOku();
@@ -47,6 +47,7 @@ class brdhazir : public Form {
   void SonuclaraGit();
   void BorcSor();
   AlanDenetimi* Sahibi(const QObject* nesne) const;
+  BordroAlani SimdikiAlan() const;
   void KodaDon();
   QString Para(Tutar tutar) const;
   void UyariRengi(bool kirmizi);

@@ -25,23 +25,25 @@ Alan Toplamda(std::string_view ad, Tutar EkranToplamlari::*uye, const char* etik
 }  // namespace
 
 Alan KodAlani() {
-  return {Uye("kod", &BordroSecimi::kod, brd::kod.boyut), "Sicil No", {.anahtar = true}};
+  return {Uye("kod", &BordroSecimi::kod, brd::kod.boyut), "Sicil No", {.anahtar = true, .no = int(BordroAlani::Kod)}};
 }
 
 AlanGrubu GunGrubu() {
   AlanGrubu grup{"Günler ve Mesai", {}};
   for (std::size_t i = 0; i < GunKolonlari.size(); ++i)
-    grup.alanlar.emplace_back(GunKolonlari[i], KazancAdlari[i].data(), AlanEki{.enCok = EnCokGun});
+    grup.alanlar.emplace_back(GunKolonlari[i], KazancAdlari[i].data(),
+                              AlanEki{.enCok = EnCokGun, .no = int(KazancAlani(i))});
   for (std::size_t i = 0; i < MesaiKolonlari.size(); ++i)
     grup.alanlar.emplace_back(MesaiKolonlari[i], KazancAdlari[GunSatiriSayisi + i].data(),
-                              AlanEki{.enCok = EnCokSaat, .harf = 6});
+                              AlanEki{.enCok = EnCokSaat, .harf = 6, .no = int(KazancAlani(GunSatiriSayisi + i))});
   return grup;
 }
 
 AlanGrubu YardimGrubu(const YardimTanimlari& yardimlar) {
   AlanGrubu grup{"Yardımlar", {}};
   for (std::size_t i = 0; i < YardimKolonlari.size(); ++i)
-    grup.alanlar.emplace_back(YardimKolonlari[i], yardimlar[i].adi.c_str(), AlanEki{.harf = TutarHarfi});
+    grup.alanlar.emplace_back(YardimKolonlari[i], yardimlar[i].adi.c_str(),
+                              AlanEki{.harf = TutarHarfi, .no = int(YardimAlani(i))});
   return grup;
 }
 
@@ -79,22 +81,12 @@ std::vector<AlanGrubu> AyrintiGruplari() {
 
 AlanGrubu EksikGunGrubu() {
   return {"Eksik Gün",
-          {{Uye("sebep", &BordroSecimi::sebep), "Eksik Gün S.", {.liste = EksikSebepleri, .harf = 16}},
-           {brd::ucretsizizin, "Ücretsiz İzin", {.enCok = 31, .harf = 3}},
-           {brd::rapcalismadi, "Raporda Çalışmadı", {.kutu = true}}},
+          {{Uye("sebep", &BordroSecimi::sebep),
+            "Eksik Gün S.",
+            {.liste = EksikSebepleri, .harf = 16, .no = int(BordroAlani::EksikSebep)}},
+           {brd::ucretsizizin, "Ücretsiz İzin", {.enCok = 31, .harf = 3, .no = int(BordroAlani::UcretsizIzin)}},
+           {brd::rapcalismadi, "Raporda Çalışmadı", {.kutu = true, .no = int(BordroAlani::RaporCalismadi)}}},
           3};
-}
-
-int BordroAlanNo(std::string_view ad) {
-  if (ad == "kod") return brdalan::Kod;
-  if (ad == brd::ucretsizizin.ad || ad == "sebep" || ad == brd::rapcalismadi.ad) return brdalan::UcretsizIzin;
-  for (std::size_t i = 0; i < GunKolonlari.size(); ++i)
-    if (GunKolonlari[i].ad == ad) return brdalan::IlkGun + int(i);
-  for (std::size_t i = 0; i < MesaiKolonlari.size(); ++i)
-    if (MesaiKolonlari[i].ad == ad) return brdalan::IlkGun + GunSatiriSayisi + int(i);
-  for (std::size_t i = 0; i < YardimKolonlari.size(); ++i)
-    if (YardimKolonlari[i].ad == ad) return brdalan::IlkYardim + int(i);
-  return -1;  // a result
 }
 
 }  // namespace belvani

@@ -22,7 +22,9 @@ AlanGrubu EksikGunGrubu();
 std::vector<AlanGrubu> OzetGruplari();
 std::vector<AlanGrubu> AyrintiGruplari();
 
-// The number by which the rules know an entered field (brdalan); -1 for a result.
-int BordroAlanNo(std::string_view ad);
+// As the rules know the declared field.
+inline BordroAlani BordroAlaniBul(const Alan& alan) {
+  return BordroAlani(alan.ek.no);
+}
 
 }  // namespace belvani

@@ -86,7 +86,8 @@ void AyiGir(BordroGirisi& giris, const std::vector<GirisSatiri>& girisler) {
       if (g.deger.eksiksebebi != 0) giris.SebepSec(EksikSebepSec(g.deger.eksiksebebi));
       giris.BorcAyarla(g.deger.borckes);
     }
-    sonuc = giris.Kapat(brdalan::UcretsizIzin);
+    giris.AlanaGirildi(BordroAlani::NormalGun);
+    sonuc = giris.Kapat();
   }
   EXPECT_EQ(sonuc, KapanisSonucu::Bitti) << giris.Kod();
 }
@@ -135,19 +136,20 @@ TEST(BordroGirisi, WalksOverWhoDoesNotBelongToThePeriod) {
   e.motor().Calistir("update firma set issaati = 0");
   e.Ac(2009, 1);
   EXPECT_EQ(e.giris.KodAl(" A1 "), KodSonucu::Yuklendi);
-  EXPECT_TRUE(e.giris.AlanAcik(2));
-  EXPECT_FALSE(e.giris.AlanAcik(3)) << "the built-in group opens the first two lines alone";
-  EXPECT_EQ(e.giris.Kapat(1), KapanisSonucu::SonrakiVar);
+  EXPECT_TRUE(e.giris.AlanAcik(BordroAlani::HaftaTatili));
+  EXPECT_FALSE(e.giris.AlanAcik(BordroAlani::UcretliIzin)) << "the built-in group opens the first two lines alone";
+  e.giris.AlanaGirildi(BordroAlani::NormalGun);
+  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::SonrakiVar);
   EXPECT_EQ(e.giris.Kod(), "D");
   EXPECT_EQ(e.o.depo.sicil.MetinOku("kod"), "D") << "the card moves along for every screen";
-  EXPECT_EQ(e.giris.Kapat(1), KapanisSonucu::Kapanmadi) << "who is saved is closed";
+  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::Kapanmadi) << "who is saved is closed";
   EXPECT_EQ(e.giris.KodAl("d"), KodSonucu::Yuklendi);
   EXPECT_EQ(e.giris.CalismaPaneli()->gun, 12);
   e.giris.Giris().ng = 7;
   e.giris.KodAl("D");
   EXPECT_EQ(e.giris.Giris().ng, 7) << "who is being entered is not read again";
   EXPECT_EQ(e.giris.KodAl("B"), KodSonucu::DonemDisi);
-  EXPECT_FALSE(e.giris.AlanAcik(1));
+  EXPECT_FALSE(e.giris.AlanAcik(BordroAlani::NormalGun));
   EXPECT_THAT(e.bildirim.Al(),
               ElementsAre("Bilgi: Firma Bilgilerinde İş Saati Yazılmamış", "Bilgi: Personel Giriş Tarihi Hatalı",
                           "Bilgi: Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil"));
@@ -161,18 +163,28 @@ TEST(BordroGirisi, ClosesOnlyOverCompleteDays) {
   const std::string sor = "Bilgi: Eksik Gün Bildirildi\nEksik Gün Sebebini giriniz";
   const std::string son = "Bilgi: Bordro Hazırlık Sona Erdi";
   struct Durum {
-    int ng, sebep, ucretsizizin, alan;  // ucretsizizin -1: as choosing the reason fills it
+    int ng, sebep, ucretsizizin;  // ucretsizizin -1: as choosing the reason fills it
+    BordroAlani alan;
     KapanisSonucu sonuc;
     test::Iletiler iletiler;
   };
   const Durum durumlar[] = {
-      {30, 0, -1, 1, Bitti, {son}},
-      {20, 0, -1, 1, KaldiEksikGun, {sor}},
-      {20, 1, -1, 51, Bitti, {sor, son}},  // 11 of January's 31
-      {20, 1, 10, 51, KaldiEksikGun, {"Bilgi: Eksik Gün Bildirildi\nÜcretsiz İzin ile Toplam Gün birlikte 31 olmalı"}},
-      {31, 0, -1, 1, KaldiGunFazla, {"Bilgi: Bu Personel 30 Gün Çalışmış\nÇalışma Gününü Fazla Girmişiniz"}},
-      {0, 1, -1, 51, KaldiNetsiz, {sor}},
-      {30, 0, -1, 21, Kapanmadi, {}},  // a field of results
+      {30, 0, -1, BordroAlani::NormalGun, Bitti, {son}},
+      {20, 0, -1, BordroAlani::NormalGun, KaldiEksikGun, {sor}},
+      {20, 1, -1, BordroAlani::UcretsizIzin, Bitti, {sor, son}},  // 11 of January's 31
+      {20,
+       1,
+       10,
+       BordroAlani::UcretsizIzin,
+       KaldiEksikGun,
+       {"Bilgi: Eksik Gün Bildirildi\nÜcretsiz İzin ile Toplam Gün birlikte 31 olmalı"}},
+      {31,
+       0,
+       -1,
+       BordroAlani::NormalGun,
+       KaldiGunFazla,
+       {"Bilgi: Bu Personel 30 Gün Çalışmış\nÇalışma Gününü Fazla Girmişiniz"}},
+      {0, 1, -1, BordroAlani::UcretsizIzin, KaldiNetsiz, {sor}},
   };
   Ekran e;
   e.Kisi("1", 900);
@@ -184,12 +196,48 @@ TEST(BordroGirisi, ClosesOnlyOverCompleteDays) {
     e.giris.Hesapla();
     e.giris.SebepSec(d.sebep);
     if (d.ucretsizizin >= 0) e.giris.Giris().ucretsizizin = std::uint8_t(d.ucretsizizin);
-    EXPECT_EQ(e.giris.Kapat(d.alan), d.sonuc) << d.ng;
+    e.giris.AlanaGirildi(d.alan);
+    EXPECT_EQ(e.giris.Kapat(), d.sonuc) << d.ng;
     EXPECT_EQ(e.bildirim.Al(), d.iletiler);
     EXPECT_EQ(e.Kayitlar(2009, 1).size(), d.sonuc == Bitti ? 1u : 0u) << d.ng;
     EXPECT_EQ(e.giris.Giris().ng, d.ng) << "what was typed stays";
     test::Al(BordroSil(e.o, 2009, 1));
   }
+}
+
+// Whatever had the focus last, an entry that someone was in closes, and one that nobody touched stays open.
+TEST(BordroGirisi, ClosesWhatWasVisitedOrChanged) {
+  Ekran e;
+  for (const char* kod : {"1", "2", "3"}) e.Kisi(kod, 900);
+  Sablon sablon = VarsayilanSablon();
+  sablon.SablonYardim[0] = Tutar(30);
+  sablon.SablonYardimTip[0] = 1;  // by the day: spread when the person comes up
+  ASSERT_TRUE(SablonKaydet(e.o.FirmaDizini, sablon));
+  e.Ac(2009, 1);
+  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::Kapanmadi);
+  e.giris.AlanaGirildi(BordroAlani::NormalGun);  // nobody is selected yet
+  e.giris.KodAl("1");
+  for (const BordroAlani alan : {BordroAlani::Kod, BordroAlani::Sonuc}) {
+    e.giris.AlanaGirildi(alan);
+    e.giris.Hesapla();
+    EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::Kapanmadi);
+  }
+  e.giris.AlanaGirildi(YardimAlani(3));
+  e.giris.AlanaGirildi(BordroAlani::Sonuc);
+  EXPECT_EQ(e.giris.SonGirisAlani(), YardimAlani(3));
+  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::SonrakiVar);
+
+  e.giris.KodAl("2");
+  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::Kapanmadi) << "the visit was to the one before";
+  e.giris.BorcAyarla(Tutar(10));
+  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::SonrakiVar);
+  e.giris.KodAl("3");
+  e.giris.Giris().ng = 20;
+  e.giris.Giris().ht = 0;
+  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::KaldiEksikGun);
+  e.giris.AlanaGirildi(BordroAlani::Kod);
+  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::KaldiEksikGun) << "a refused closing is tried again";
+  EXPECT_EQ(e.Kayitlar(2009, 1).size(), 2u);
 }
 
 TEST(BordroGirisi, SavedAgainKeepsTheRatesAndAsks) {
@@ -204,7 +252,7 @@ TEST(BordroGirisi, SavedAgainKeepsTheRatesAndAsks) {
     e.bildirim.cevap = cevap;
     e.giris.KodAl("1");
     e.giris.Giris().fm1 = Tek(10);
-    EXPECT_EQ(e.giris.Kapat(1), KapanisSonucu::Bitti);
+    EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::Bitti);
     EXPECT_EQ(e.bildirim.Al()[0], "Soru: Puantaj Yeniden Kaydedilecek ?");
     EXPECT_EQ(e.Kayit("1", 2009, 1) == ilk, !cevap);
   }
@@ -231,10 +279,10 @@ TEST(BordroGirisi, TotalsDebtAndNetToGross) {
   EXPECT_EQ(e.giris.BorcLimiti(), Tutar(546.48));
 
   e.giris.Giris().yrd02 = Tutar(477);
-  e.giris.NettenBruteCevir(11);
+  e.giris.NettenBruteCevir(YardimAlani(1));
   EXPECT_EQ(e.giris.Giris().yrd02, Tutar(665.73));
   e.giris.Giris().fm1 = Tek(241);
-  EXPECT_EQ(e.giris.Kapat(11), KapanisSonucu::KaldiHesapsiz);
+  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::KaldiHesapsiz);
   EXPECT_EQ(t.net, Tutar());
 }
 
@@ -245,11 +293,11 @@ TEST(BordroGirisi, DeletesAndDoublesNothing) {
   e.giris.KodAl("2");
   e.giris.Giris().fm1 = Tek(5);
   e.motor().Calistir("create trigger dur before insert on brd begin select raise(abort, 'dur'); end");
-  EXPECT_EQ(e.giris.Kapat(7), KapanisSonucu::KaydetmeHatasi);
+  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::KaydetmeHatasi);
   EXPECT_THAT(e.bildirim.Al(), ElementsAre("Uyarı: Bordro Kayıtları Güncellenemiyor"));
   e.motor().Calistir("drop trigger dur");
   e.Hazirla(2009, 2);  // another computer was quicker
-  EXPECT_EQ(e.giris.Kapat(7), KapanisSonucu::Bitti) << "a failed save keeps the entry open";
+  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::Bitti) << "a failed save keeps the entry open";
   EXPECT_EQ(e.Kayit("2", 2009, 2).fm1, Tek(5));
 
   e.bildirim.Al();

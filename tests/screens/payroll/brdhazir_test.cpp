@@ -121,8 +121,29 @@ TEST(Brdhazir, DebtGrossedUpAllowanceAndReasonsOfAmounts) {
   EXPECT_TRUE(neden->toPlainText().contains("Net = brüt")) << neden->toPlainText().toStdString();
   EXPECT_TRUE(neden->toPlainText().contains(form.YaziKutusu("net").text().remove(',')));
   o.Bas(Qt::Key_F4);
-  EXPECT_EQ(o.Odak(), "kod") << "the results close nothing";
-  EXPECT_TRUE(o.Kayitlar().empty());
+  EXPECT_EQ(o.Odak(), "kod");
+  ASSERT_EQ(o.Kayitlar().size(), 1u) << "what was entered before the walk over the results is saved";
+  EXPECT_EQ(o.Kayitlar()[0].borckes, Tutar(45.57));
+  EXPECT_EQ(AlanMetni(form, "kod"), "002");
+}
+
+TEST(Brdhazir, ADetourOverListsAndResultsLosesNoClosing) {
+  Bordro o;
+  auto& form = o.Ac<brdhazir>(o.parametreler);
+  o.Bas(Qt::Key_Home);  // 001 comes up, and nobody enters him
+  for (int i = 0; i < 2; ++i) o.Bas(Qt::Key_F4);
+  EXPECT_EQ(o.Odak(), "kod");
+  o.Bas(Qt::Key_F8);
+  o.Bas(Qt::Key_F5);
+  EXPECT_TRUE(o.Kayitlar().empty()) << "the results alone close nothing";
+  o.Yaz("\n\n");
+  EXPECT_EQ(o.Odak(), "ht");
+  o.Bas(Qt::Key_F4);
+  o.Bas(Qt::Key_F8);
+  o.Bas(Qt::Key_F5);
+  EXPECT_EQ(o.Odak(), "kod");
+  EXPECT_EQ(o.Kayitlar().size(), 1u);
+  EXPECT_EQ(AlanMetni(form, "kod"), "002");
 }
 
 TEST(Brdhazir, MassPreparationAndDeletion) {
