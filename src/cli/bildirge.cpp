@@ -42,6 +42,17 @@ class Cevaplayan : public StandartHata {
   bool evet_;
 };
 
+constexpr const char* Yazilmadi = "Bildirge dosyası yazılmadı";
+constexpr const char* Hesaplanamadi = "Bildirge hesaplanamadı";
+constexpr const char* Dokulmedi = "Bildirge kağıda dökülmedi";
+
+// The value; a fault ends the command with what is not done because of it.
+template <class T>
+T Olmali(Sonuc<T> sonuc, const char* yapilmayan) {
+  if (!sonuc) throw KomutHatasi{sonuc.KusurMetni() + "\n" + yapilmayan};
+  return std::move(*sonuc);
+}
+
 // ---- selection
 
 [[noreturn]] void Tanimsiz(const char* ne, const std::string& deger, const std::vector<std::string>& liste) {
@@ -78,10 +89,10 @@ void Sec(AylikBildirge& bildirge, const BildirgeSecenekleri& s) {
 void Cikar(AylikBildirge& bildirge, const std::vector<std::string>& sskNolar) {
   for (const std::string& no : sskNolar) {
     bool cikti = false;
-    for (std::size_t i = bildirge.Tamami().satirlar.size(); i-- > 0;) {
-      if (bildirge.Tamami().satirlar[i].sskno != no) continue;
+    for (const BildirgeSatiri& satir : std::vector(bildirge.Tamami().satirlar)) {
+      if (satir.sskno != no) continue;
       cikti = true;
-      if (!bildirge.SatirSil(i)) throw KomutHatasi{"Bildirge hesaplanamadı"};
+      Olmali(bildirge.SatirSil(satir.no), Hesaplanamadi);
     }
     if (!cikti) throw KomutHatasi{no + ": bildirgede bu SSK sicil numarası yok"};
   }
@@ -89,23 +100,26 @@ void Cikar(AylikBildirge& bildirge, const std::vector<std::string>& sskNolar) {
 
 // ---- JSON: rows by the names of the columns, then what stands below the grid
 
-Json HucreJson(const std::string& hucre, HucreTuru tur) {
-  switch (tur) {
-    case HucreTuru::Metin:
-      return hucre;
-    case HucreTuru::Tutar:
-      return DegerJson(HucreTutari(hucre));
-    case HucreTuru::Tam:
-      return hucre.empty() ? Json() : Json(HucreTami(hucre));
-    case HucreTuru::Tarih:
-      return hucre.empty() ? Json() : Json(hucre);
-  }
-  return {};
+Json HucreJson(const std::string& metin) {
+  return metin;
+}
+Json HucreJson(Tarih gun) {
+  return gun.Bos() ? Json() : Json(gun.Metin());
+}
+Json HucreJson(std::optional<int> sayi) {
+  return sayi ? Json(*sayi) : Json();
+}
+Json HucreJson(std::optional<Tutar> tutar) {
+  return tutar ? DegerJson(*tutar) : Json();
 }
 
+// Codes keep their zeros.
 Json SatirJson(const BildirgeSatiri& satir) {
   Json json = Json::object();
-  for (const auto& kolon : BildirgeKolonlari) json[std::string(kolon.ad)] = HucreJson(satir.*kolon.hucre, kolon.tur);
+  for (const auto& kolon : BildirgeKolonlari)
+    json[std::string(kolon.ad)] = kolon.hane > 0
+                                      ? Json(HucreMetni(satir, kolon, 0))
+                                      : std::visit([&](auto hucre) { return HucreJson(satir.*hucre); }, kolon.hucre);
   return json;
 }
 
@@ -161,8 +175,8 @@ struct Is {
 
   BildirgeKagidi Kagit() const { return KagitHazirla(bildirge, oturum); }
   void KagitKosullari(AylikBildirge::Cikti cikti) const {
-    if (bildirge.KagitKosullari(cikti) == AylikBildirge::CiktiKarari::Yok)
-      throw KomutHatasi{"Bildirge kağıda dökülmedi"};
+    if (Olmali(bildirge.KagitKosullari(cikti), Dokulmedi) == AylikBildirge::CiktiKarari::Yok)
+      throw KomutHatasi{Dokulmedi};
   }
   void Ver(const std::string& icerik, const std::string& uyari) const {
     if (!uyari.empty()) bildirim.Uyari(uyari);
@@ -175,14 +189,14 @@ void JsonYaz(const Is& is) {
 }
 
 void XmlDosyasi(const Is& is) {
-  const KomutHatasi yazilmadi{"Bildirge dosyası yazılmadı"};
-  if (!is.bildirge.XmlKosullari()) throw yazilmadi;
+  Olmali(is.bildirge.XmlKosullari(), Yazilmadi);
   if (!is.dosya.empty()) {
-    if (!is.bildirge.XmlYaz(is.dosya)) throw yazilmadi;
+    if (Olmali(is.bildirge.XmlYaz(is.dosya), Yazilmadi) == AylikBildirge::Karar::Vazgecildi)
+      throw KomutHatasi{Yazilmadi};
     return;
   }
-  const auto icerik = is.bildirge.XmlHazirla();
-  if (!icerik) throw yazilmadi;
+  const auto icerik = Olmali(is.bildirge.XmlHazirla(), Yazilmadi);
+  if (!icerik) throw KomutHatasi{Yazilmadi};
   Yaz(*icerik);
 }
 
@@ -238,9 +252,9 @@ void BildirgeYap(Genel& genel, const BildirgeSecenekleri& s) {
   auto yasal = YasalParametreleriAl(o->DataPath);
   Cevaplayan bildirim(s.evet);
   AylikBildirge bildirge(*o, Degeri(yasal), bildirim);
-  if (!bildirge.Ac()) throw KomutHatasi{"Şirketin kayıtları okunamadı"};
+  for (const Kusur& kusur : Olmali(bildirge.Ac(), "Şirketin kayıtları okunamadı")) bildirim.KusuruGoster(kusur);
   Sec(bildirge, s);
-  if (!bildirge.Hesapla()) throw KomutHatasi{"Bildirge hesaplanamadı"};
+  Olmali(bildirge.Hesapla(), Hesaplanamadi);
   KimliksizleriSoyle(bildirge.Tamami().kimliksizler, bildirim);
   Cikar(bildirge, s.haric);
   for (const Bicim& bicim : bicimler)

@@ -1,5 +1,7 @@
 #include "declarations/aylikbildirge.h"
 
+#include <algorithm>
+
 #include "core/dosya.h"
 #include "core/sayi.h"
 #include "core/session/aracibilgi.h"
@@ -29,11 +31,24 @@ std::optional<Firma> FirmaKaydi(Motor& motor) {
   return std::move(firmalar.front());
 }
 
-std::string SorunMetni(const std::vector<std::string>& sorunlar) {
+std::string SorunMetni(const Kusurlar& sorunlar) {
   std::string metin = "Dosyaya olduğu gibi yazılamayan bilgiler var:\n";
-  for (std::size_t i = 0; i < std::min(sorunlar.size(), SorunSiniri); ++i) metin += sorunlar[i] + "\n";
+  for (std::size_t i = 0; i < std::min(sorunlar.size(), SorunSiniri); ++i) metin += sorunlar[i].metin + "\n";
   if (sorunlar.size() > SorunSiniri) metin += "… ve " + std::to_string(sorunlar.size() - SorunSiniri) + " bilgi daha\n";
   return metin + "Bu Haliyle Yazılsın mı ?";
+}
+
+// Runs `is`; a failure of the store and an amount out of range are faults.
+template <class Is>
+Durum Koru(Is&& is) {
+  try {
+    is();
+    return Tamam();
+  } catch (const MotorHatasi& h) {
+    return Kusur{h.what()};
+  } catch (const TutarTasmasi& h) {
+    return Kusur{h.what()};
+  }
 }
 
 }  // namespace
@@ -41,47 +56,37 @@ std::string SorunMetni(const std::vector<std::string>& sorunlar) {
 AylikBildirge::AylikBildirge(Oturum& oturum, const YasalParametreler& yasal, Bildirim& bildirim)
     : o_(oturum), yasal_(yasal), bildirim_(bildirim) {}
 
-// Runs `is`; a failure of the store and an amount out of range are told and give false.
-template <class Is>
-bool AylikBildirge::Koru(Is&& is) {
-  try {
-    is();
-    return true;
-  } catch (const MotorHatasi& h) {
-    bildirim_.Uyari(h.what());
-  } catch (const TutarTasmasi& h) {
-    bildirim_.Uyari(h.what());
-  }
-  return false;
-}
-
-bool AylikBildirge::Ac() {
+Sonuc<Kusurlar> AylikBildirge::Ac() {
   bildirge_ = {};
   bildirge_.secim.yil = o_.firma.firmayil;
   bildirge_.secim.ay = o_.firma.firmaay;
   belgeTurleri_ = BelgeTuruListesi(yasal_.hesapTurleri);
   kanunlar_ = {"Tümü"};
   tehlikeOrani_ = {};
-  return Koru([&] {
+  Kusurlar kusurlar;
+  const Durum okundu = Koru([&] {
     Motor& motor = o_.depo.db.IcMotor();
     for (auto& kanun : KisiKanunlari(motor)) kanunlar_.push_back(std::move(kanun));
     if (const auto firma = FirmaKaydi(motor))
       tehlikeOrani_ = TehlikeOrani(firma->tehlike, firma->sinif.Sayi());
     else
-      bildirim_.Bilgi("İşyeri Tanımlamaları Yapılmamış");
+      kusurlar.push_back(KuralKusuru("İşyeri Tanımlamaları Yapılmamış"));
     OranlariYukle();
   });
+  if (!okundu) return okundu.Kusuru();
+  return kusurlar;
 }
 
 int AylikBildirge::BelgeTuru() const {
   return BastakiSayi(std::string_view(belgeTurleri_[std::size_t(bildirge_.secim.belgeTuru)]).substr(0, KodHanesi));
 }
 
-bool AylikBildirge::Hesapla() {
+Durum AylikBildirge::Hesapla() {
   OranlariYukle();
-  if (Koru([&] { AylikBildirgeHesapla(); }) && PrimleriHesapla()) return true;
-  OranlariYukle();
-  return false;
+  Durum hesaplandi = Koru([&] { AylikBildirgeHesapla(); });
+  if (hesaplandi) hesaplandi = PrimleriHesapla();
+  if (!hesaplandi) OranlariYukle();
+  return hesaplandi;
 }
 
 // Clears what an earlier calculation left.
@@ -103,7 +108,7 @@ void AylikBildirge::AylikBildirgeHesapla() {
   BildirgeKayitlariOku(motor, suzgec, [&](const BildirgeKaydi& kayit) { KaydiEkle(bildirge_, kayit, kosullar); });
 }
 
-bool AylikBildirge::PrimleriHesapla() {
+Durum AylikBildirge::PrimleriHesapla() {
   bildirge_.prim = {};
   return Koru([&] {
     bildirge_.prim =
@@ -111,26 +116,43 @@ bool AylikBildirge::PrimleriHesapla() {
   });
 }
 
-bool AylikBildirge::ToplamlariYenile() {
-  bildirge_.toplamlar = {};
-  const bool toplandi = Koru([&] { bildirge_.toplamlar = belvani::ToplamlariYenile(bildirge_.satirlar, yasal_); });
-  return PrimleriHesapla() && toplandi;
+const BildirgeSatiri* AylikBildirge::Satir(int no) const {
+  const auto satir = std::ranges::find(bildirge_.satirlar, no, &BildirgeSatiri::no);
+  return satir == bildirge_.satirlar.end() ? nullptr : &*satir;
 }
 
-bool AylikBildirge::SatirYaz(std::size_t sira, BildirgeSatiri satir) {
-  if (sira >= bildirge_.satirlar.size())
-    bildirge_.satirlar.push_back(Duzenli(std::move(satir)));
-  else
-    bildirge_.satirlar[sira] = Duzenli(std::move(satir));
-  return ToplamlariYenile();
+// Changes the rows by `is` and makes totals and premiums anew; after a fault everything is as it was.
+template <class Is>
+Durum AylikBildirge::Duzenle(Is&& is) {
+  Bildirge once = bildirge_;
+  is(bildirge_);
+  const Durum toplandi = Koru([&] {
+    bildirge_.toplamlar = ToplamlariYenile(bildirge_.satirlar, yasal_);
+    bildirge_.prim =
+        belvani::PrimleriHesapla(bildirge_.toplamlar, bildirge_.PrimOran, bildirge_.DevletKatki, Yuvarla());
+  });
+  if (!toplandi) bildirge_ = std::move(once);
+  return toplandi;
 }
 
-bool AylikBildirge::SatirSil(std::size_t sira) {
-  if (sira < bildirge_.satirlar.size()) bildirge_.satirlar.erase(bildirge_.satirlar.begin() + std::ptrdiff_t(sira));
-  return ToplamlariYenile();
+Sonuc<int> AylikBildirge::SatirEkle(BildirgeSatiri satir) {
+  int no = 0;
+  const Durum eklendi = Duzenle([&](Bildirge& b) { no = belvani::SatirEkle(b, std::move(satir)); });
+  if (!eklendi) return eklendi.Kusuru();
+  return no;
 }
 
-bool AylikBildirge::ToplamlariYaz(const BildirgeToplamlari& toplamlar) {
+Durum AylikBildirge::SatirYaz(const BildirgeSatiri& satir) {
+  const BildirgeSatiri* eski = Satir(satir.no);
+  if (eski == nullptr || *eski == satir) return Tamam();
+  return Duzenle([&](Bildirge& b) { *std::ranges::find(b.satirlar, satir.no, &BildirgeSatiri::no) = satir; });
+}
+
+Durum AylikBildirge::SatirSil(int no) {
+  return Duzenle([&](Bildirge& b) { std::erase_if(b.satirlar, [&](const BildirgeSatiri& s) { return s.no == no; }); });
+}
+
+Durum AylikBildirge::ToplamYaz(const BildirgeToplamlari& toplamlar) {
   bildirge_.toplamlar = toplamlar;
   return PrimleriHesapla();
 }
@@ -148,49 +170,60 @@ std::string AylikBildirge::GenelToplamMetni() const {
 }
 
 IsyeriBilgileri AylikBildirge::Isyeri() {
-  Firma firma;
-  Koru([&] { firma = FirmaKaydi(o_.depo.db.IcMotor()).value_or(Firma()); });
-  return IsyeriniHazirla(firma, AraciOku(o_).kod);
+  return IsyeriniHazirla(FirmaKaydi(o_.depo.db.IcMotor()).value_or(Firma()), AraciOku(o_).kod);
 }
 
-bool AylikBildirge::BildirgeKontrol() {
-  return belvani::BildirgeKontrol(bildirge_, Isyeri(), bildirim_);
+Sonuc<AylikBildirge::Karar> AylikBildirge::BildirgeKontrol() {
+  Kusurlar kusurlar;
+  if (const Durum okundu = Koru([&] { kusurlar = belvani::BildirgeKontrol(bildirge_, Isyeri()); }); !okundu)
+    return okundu.Kusuru();
+  for (auto& kusur : kusurlar) {
+    switch (kusur.derece) {
+      case Derece::Bilgi:
+        bildirim_.KusuruGoster(kusur);
+        break;
+      case Derece::Uyari:
+        if (!bildirim_.Soru(kusur.metin + "\nBu Haliyle Kabul Edilsin mi ?")) return Karar::Vazgecildi;
+        break;
+      case Derece::Hata:
+        return std::move(kusur);
+    }
+  }
+  return Karar::Devam;
 }
 
-bool AylikBildirge::XmlKosullari() {
-  const bool bos = bildirge_.satirlar.empty();
-  if (bos)
-    bildirim_.Bilgi(Hesaplatilmamis);
-  else if (bildirge_.secim.belgeTuru != 0)
-    bildirim_.Bilgi("Bildirgeyi  Tüm Sigorta Kolları İçin Hesaplatın");
-  return !bos && bildirge_.secim.belgeTuru == 0;
+Durum AylikBildirge::XmlKosullari() const {
+  if (bildirge_.satirlar.empty()) return KuralKusuru(Hesaplatilmamis);
+  if (bildirge_.secim.belgeTuru != 0) return KuralKusuru("Bildirgeyi  Tüm Sigorta Kolları İçin Hesaplatın");
+  return Tamam();
 }
 
 std::string AylikBildirge::XmlYolu() const {
   return o_.FirmaDizini + XmlDosyaAdi(bildirge_.secim);
 }
 
-std::optional<std::string> AylikBildirge::XmlHazirla() {
-  const IsyeriBilgileri isyeri = Isyeri();
-  if (!belvani::BildirgeKontrol(bildirge_, isyeri, bildirim_)) return std::nullopt;
+Sonuc<std::optional<std::string>> AylikBildirge::XmlHazirla() {
+  const auto karar = BildirgeKontrol();
+  if (!karar) return karar.Kusuru();
+  if (*karar == Karar::Vazgecildi) return std::optional<std::string>();
   BildirgeDosyasi dosya;
-  if (!Koru([&] { dosya = BildirgeXml(bildirge_, isyeri, Yuvarla()); })) return std::nullopt;
-  if (!dosya.sorunlar.empty() && !bildirim_.Soru(SorunMetni(dosya.sorunlar))) return std::nullopt;
-  return std::move(dosya.icerik);
+  if (const Durum yazildi = Koru([&] { dosya = BildirgeXml(bildirge_, Isyeri(), Yuvarla()); }); !yazildi)
+    return yazildi.Kusuru();
+  if (!dosya.sorunlar.empty() && !bildirim_.Soru(SorunMetni(dosya.sorunlar))) return std::optional<std::string>();
+  return std::optional(std::move(dosya.icerik));
 }
 
-bool AylikBildirge::XmlYaz(const std::string& dosya) {
+Sonuc<AylikBildirge::Karar> AylikBildirge::XmlYaz(const std::string& dosya) {
   const auto icerik = XmlHazirla();
-  if (!icerik) return false;
-  if (const Durum yazildi = DosyaYaz(dosya, *icerik); !yazildi) {
-    bildirim_.Uyari("Verilen Dosya Adı Hatalı. (Örnek: c:\\bordro112003.xml)\n" + yazildi.KusurMetni());
-    return false;
-  }
+  if (!icerik) return icerik.Kusuru();
+  if (!*icerik) return Karar::Vazgecildi;
+  if (const Durum yazildi = DosyaYaz(dosya, **icerik); !yazildi)
+    return Kusur{"Verilen Dosya Adı Hatalı. (Örnek: c:\\bordro112003.xml)\n" + yazildi.KusurMetni()};
   bildirim_.Bilgi("XML Dosya Hazırlandı");
-  return true;
+  return Karar::Devam;
 }
 
-AylikBildirge::CiktiKarari AylikBildirge::KagitKosullari(Cikti cikti) {
+Sonuc<AylikBildirge::CiktiKarari> AylikBildirge::KagitKosullari(Cikti cikti) {
   const BildirgeSecimi& secim = bildirge_.secim;
   if (bildirge_.satirlar.empty())
     return bildirim_.Soru(std::string(Hesaplatilmamis) + "Boş Bildirge Basılsın mı ?") ? CiktiKarari::BosForm
@@ -198,13 +231,12 @@ AylikBildirge::CiktiKarari AylikBildirge::KagitKosullari(Cikti cikti) {
   const char* const ret = secim.belgeTuru == 0 ? "Bildirge Yazılımında Tümünü Birden Alamazsınız"
                           : secim.kanun == 0   ? "Bildirge Yazılımında kanunların Tümünü Birden Alamazsınız"
                                                : nullptr;
-  if (ret != nullptr) {
-    bildirim_.Bilgi(std::string(ret) + "\nSigorta Kollarına Göre Alınız");
-    return CiktiKarari::Yok;
-  }
+  if (ret != nullptr) return KuralKusuru(std::string(ret) + "\nSigorta Kollarına Göre Alınız");
   if (cikti == Cikti::Tablo && bildirge_.satirlar.size() > KagitKisiSiniri)
     bildirim_.Bilgi("5 veya Daha Fazla Personel için E-Bildirge Kullanma Zorunluluğu Vardır..");
-  return BildirgeKontrol() ? CiktiKarari::Bildirge : CiktiKarari::Yok;
+  const auto karar = BildirgeKontrol();
+  if (!karar) return karar.Kusuru();
+  return *karar == Karar::Devam ? CiktiKarari::Bildirge : CiktiKarari::Yok;
 }
 
 }  // namespace belvani

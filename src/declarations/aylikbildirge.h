@@ -1,12 +1,13 @@
 // AylikBildirge: the monthly declaration of a company, from the selection to the file: what its screen holds and
 // decides, without the screen.
 //
-//   Ac --> Secim() --Hesapla--> rows, totals, premiums --SatirYaz, SatirSil, ToplamlariYaz--> the same, edited
+//   Ac --> Secim() --Hesapla--> rows, totals, premiums --SatirEkle, SatirYaz, SatirSil, ToplamYaz--> the same, edited
 //                                   |                                                           |
 //                                   +-- XmlHazirla, XmlYaz, KagitKosullari <--------------------+
 //
 // Hesapla makes everything anew out of the store and drops what was edited; the store itself is never written. A month
-// of 10,000 people costs two queries. What cannot be done is told, and the state stays usable.
+// of 10,000 people costs two queries. What cannot be done comes back as a fault, and the state stays usable; only what
+// is the user's to decide, and what he is told on the way, goes through the Bildirim.
 // Example: all statuses and laws of July 2009, a row's days changed from 30 to 29: the totals follow the grid, and the
 // file says 29.
 #pragma once
@@ -27,9 +28,9 @@ class AylikBildirge {
   AylikBildirge(const AylikBildirge&) = delete;
   AylikBildirge& operator=(const AylikBildirge&) = delete;
 
-  // The lists, the session's month, everything selected, the company's work-accident rate. False: the store cannot be
-  // read. A company without definitions is told of and has a rate of 0.
-  bool Ac();
+  // The lists, the session's month, everything selected, the company's work-accident rate. A company without
+  // definitions is a fault in the list that is given, and has a rate of 0.
+  Sonuc<Kusurlar> Ac();
 
   // "00-Tümü", then the statuses: "01-Tüm Sigorta Kolları".
   const std::vector<std::string>& BelgeTurleri() const { return belgeTurleri_; }
@@ -40,50 +41,56 @@ class AylikBildirge {
   // The chosen document type; 0 for all.
   int BelgeTuru() const;
 
-  // "Hesapla", F5, and every change of a list. False: nothing could be read, and grid and totals are empty.
-  bool Hesapla();
+  // "Hesapla", F5, and every change of a list. After a fault grid and totals are empty.
+  Durum Hesapla();
 
   const Bildirge& Tamami() const { return bildirge_; }
 
-  // A row was edited, behind the last one: a new row. Totals and premiums follow. False: an amount leaves its range.
-  bool SatirYaz(std::size_t sira, BildirgeSatiri satir);
-  bool SatirSil(std::size_t sira);
-  // The user typed into the totals: they are priced as they stand.
-  bool ToplamlariYaz(const BildirgeToplamlari& toplamlar);
+  // The row of this number; null when there is none. Valid until the rows change.
+  const BildirgeSatiri* Satir(int no) const;
+  // The user edits rows, each named by its number. Totals and premiums follow. An edit with which an amount would leave
+  // its range is refused and changes nothing; nor does one that leaves the row as it was.
+  Sonuc<int> SatirEkle(BildirgeSatiri satir);  // gives its number
+  Durum SatirYaz(const BildirgeSatiri& satir);
+  Durum SatirSil(int no);
+  // He typed into the totals: they are priced as they stand. After a fault there are no premiums.
+  Durum ToplamYaz(const BildirgeToplamlari& toplamlar);
 
   // What the lines of the branches show beside their bases: "12.5", "1,250.00"; an amount of zero shows nothing.
   std::string OranMetni(std::size_t brans) const;
   std::string PrimMetni(std::size_t brans) const;
   std::string GenelToplamMetni() const;
 
-  // The company's side, read anew.
-  IsyeriBilgileri Isyeri();
-  bool BildirgeKontrol();
+  // What the user did with what he was asked.
+  enum class Karar { Devam, Vazgecildi };
+
+  // All checks, in their order, up to the first fault; what he may let through is asked.
+  Sonuc<Karar> BildirgeKontrol();
 
   // " E-Bildirge Hazırla ", up to the choice of the file: there are rows, of all statuses together.
-  bool XmlKosullari();
+  Durum XmlKosullari() const;
   // Where the choice of the file starts.
   std::string XmlYolu() const;
-  // The bytes of the file; nothing when a check fails, or when the user does not want them with values that would make
-  // the file unreadable. XmlYaz checks again, so a question that was answered yes before is asked once more.
-  std::optional<std::string> XmlHazirla();
+  // The bytes of the file; none when the user gave up, as he may over values that would make the file unreadable.
+  // XmlYaz checks again, so a question that was answered yes before is asked once more.
+  Sonuc<std::optional<std::string>> XmlHazirla();
   // Into the file, whole or not at all: a failed write leaves what was there.
-  bool XmlYaz(const std::string& dosya);
+  Sonuc<Karar> XmlYaz(const std::string& dosya);
   // Asked after XmlYaz; yes opens the web page on which the user sends the file.
   static constexpr const char* GonderimSorusu = "E-Bildirgeyi Göndermek İstermisiniz ?";
 
   enum class Cikti { Kagit, Tablo };
   enum class CiktiKarari { Yok, BosForm, Bildirge };
   // Paper and spreadsheet: of one status and one law, and checked; without rows an empty form if the user wants one.
-  CiktiKarari KagitKosullari(Cikti cikti);
+  Sonuc<CiktiKarari> KagitKosullari(Cikti cikti);
 
  private:
   void OranlariYukle();
   void AylikBildirgeHesapla();
-  bool PrimleriHesapla();
-  bool ToplamlariYenile();
+  Durum PrimleriHesapla();
   template <class Is>
-  bool Koru(Is&& is);
+  Durum Duzenle(Is&& is);
+  IsyeriBilgileri Isyeri();
   Yuvarlayici Yuvarla() const { return Yuvarlayici(o_.firma.paraonda); }
 
   Oturum& o_;

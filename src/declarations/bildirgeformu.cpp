@@ -1,5 +1,6 @@
 #include "declarations/bildirgeformu.h"
 
+#include "core/sayi.h"
 #include "core/turkce.h"
 #include "declarations/formmetni.h"
 #include "declarations/kagitparcalari.h"
@@ -159,7 +160,8 @@ void Branslar(FormKurucu& f, int satir, double x, const BildirgeKagidi& kagit) {
     f.Etiket(SatirYeri(x + KagitPayi, satir, kolonlar[0].en - 2 * KagitPayi), BransAdlari[brans]);
     TabloDegerleri(f, x + kolonlar[0].en, satir++, {kolonlar.begin() + 1, kolonlar.end()},
                    "brans" + std::to_string(brans),
-                   {KagitTutari(b.matrah, kagit.paraonda), b.oran, KagitTutari(b.prim, kagit.paraonda)});
+                   {KagitTutari(b.matrah, kagit.paraonda), b.oran ? SayiMetni(b.oran->Sayi()) : "",
+                    KagitTutari(b.prim, kagit.paraonda)});
   }
 }
 
@@ -201,19 +203,19 @@ int ToplamSatiri(FormKurucu& f, int satir, std::string_view etiket, const std::s
 
 std::vector<std::string> SatirDegerleri(const BildirgeSatiri& s, std::size_t sira, int paraonda) {
   return {std::to_string(sira),
-          HucreSayisi(s.farkmivar) > 0 ? "X" : "",
+          s.farkmivar.value_or(0) > 0 ? "X" : "",
           s.sskno,
           s.tcno,
           s.adi,
           s.soyadi,
           s.ilksoyadi,
-          KagitSayisi(HucreTami(s.gun)),
-          KagitTutari(HucreTutari(s.primkazanc), paraonda),
-          KagitSayisi(HucreTami(s.ui)),
-          KagitTutari(HucreTutari(s.uiucret), paraonda),
+          KagitSayisi(s.gun),
+          KagitTutari(s.primkazanc, paraonda),
+          KagitSayisi(s.ui),
+          KagitTutari(s.uiucret, paraonda),
           KagitTarihi(s.girtar),
           KagitTarihi(s.ciktar),
-          KagitSayisi(HucreTami(s.eksik))};
+          KagitSayisi(s.eksik)};
 }
 
 int Sigortalilar(FormKurucu& f, int satir, const BildirgeKagidi& kagit, const KagitSayfasi& sayfa) {

@@ -36,18 +36,19 @@ bool DonemIcinde(const BordroDonemi& donem, Tarih gun) {
   return !gun.Bos() && donem.Bas() <= gun && gun <= donem.Son();
 }
 
-std::string PozitifMetni(int sayi) {
-  return sayi > 0 ? std::to_string(sayi) : std::string();
+std::optional<int> Pozitif(int sayi) {
+  return sayi > 0 ? std::optional(sayi) : std::nullopt;
 }
 
 BildirgeSatiri SatirYap(const BildirgeKaydi& kayit, const BildirgeKosullari& k) {
   const Brd& brd = kayit.brd;
   const Sicil& sicil = kayit.sicil;
-  const auto tutar = [&](Tutar t) { return YalinMetin(TutarCevir(t, k.donem.yil, k.yuvarla)); };
+  const auto tutar = [&](Tutar t) { return TutarCevir(t, k.donem.yil, k.yuvarla); };
   const bool ayrildi = DonemIcinde(k.donem, sicil.ciktar);
-  const std::string yardimlar = tutar(brd.topyardim);
+  const Tutar yardimlar = tutar(brd.topyardim);
   return {
-      .sigkol = IkiHane(sicil.sskdurum + 1),
+      .kod = brd.kod,
+      .sigkol = sicil.sskdurum + 1,
       .sskno = sicil.sskno,
       .tcno = kayit.tcno,
       .adi = sicil.adi,
@@ -55,19 +56,19 @@ BildirgeSatiri SatirYap(const BildirgeKaydi& kayit, const BildirgeKosullari& k) 
       .ilksoyadi = sicil.ilksoyadi,
       .primkazanc = tutar(brd.sskmatrahisveren),
       .ikramiye = yardimlar,
-      .gun = std::to_string(GunToplami(brd)),
-      .ui = std::to_string(brd.ui),
+      .gun = GunToplami(brd),
+      .ui = brd.ui,
       .uiucret = tutar(brd.ucrizmatrah),
-      .girtar = DonemIcinde(k.donem, sicil.girtar) ? sicil.girtar.Metin() : "",
-      .ciktar = ayrildi ? sicil.ciktar.Metin() : "",
-      .eksik = brd.ucretsizizin > 0 ? std::to_string(brd.eksiksebebi) : "",
-      .eksikgunsayisi = PozitifMetni(brd.ucretsizizin),
-      .ciksebeb = ayrildi ? PozitifMetni(sicil.cikiskodu) : "",
-      .farkmivar = kayit.farkVar ? "1" : "0",
+      .girtar = DonemIcinde(k.donem, sicil.girtar) ? sicil.girtar : Tarih(),
+      .ciktar = ayrildi ? sicil.ciktar : Tarih(),
+      .eksik = brd.ucretsizizin > 0 ? std::optional<int>(brd.eksiksebebi) : std::nullopt,
+      .eksikgunsayisi = Pozitif(brd.ucretsizizin),
+      .ciksebeb = ayrildi ? Pozitif(sicil.cikiskodu) : std::nullopt,
+      .farkmivar = kayit.farkVar ? 1 : 0,
       .kanun = std::string(Kirp(sicil.kanun)),
       .primdisi = yardimlar,
       .meslekkod = sicil.meslekkod,
-      .rapcalismadi = std::to_string(brd.rapcalismadi),
+      .rapcalismadi = brd.rapcalismadi,
   };
 }
 
@@ -92,12 +93,18 @@ void ToplamlaraEkle(BildirgeToplamlari& t, const BildirgeKaydi& kayit, const Bil
 
 }  // namespace
 
+int SatirEkle(Bildirge& bildirge, BildirgeSatiri satir) {
+  satir.no = ++bildirge.sonNo;
+  bildirge.satirlar.push_back(std::move(satir));
+  return bildirge.sonNo;
+}
+
 void KaydiEkle(Bildirge& bildirge, const BildirgeKaydi& kayit, const BildirgeKosullari& kosullar) {
   if (!kayit.kimlikVar) {
     bildirge.kimliksizler.push_back(kayit.brd.kod);
     return;
   }
-  bildirge.satirlar.push_back(SatirYap(kayit, kosullar));
+  SatirEkle(bildirge, SatirYap(kayit, kosullar));
   ToplamlaraEkle(bildirge.toplamlar, kayit, kosullar);
   bildirge.DevletKatki += TutarCevir(kayit.brd.katki, kosullar.donem.yil, kosullar.yuvarla);
 }
@@ -105,23 +112,23 @@ void KaydiEkle(Bildirge& bildirge, const BildirgeKaydi& kayit, const BildirgeKos
 BildirgeToplamlari ToplamlariYenile(const std::vector<BildirgeSatiri>& satirlar, const YasalParametreler& yasal) {
   BildirgeToplamlari t;
   for (const auto& satir : satirlar) {
-    const int belgeTuru = HucreTami(satir.sigkol);
+    const int belgeTuru = satir.sigkol.value_or(0);
     if (belgeTuru <= 0) continue;
-    const int gun = HucreTami(satir.gun);
+    const int gun = satir.gun.value_or(0);
     ++t.sigortali;
     t.gun += gun;
-    t.giren += HucreSayisi(satir.girtar) > 0;
-    t.ayrilan += HucreSayisi(satir.ciktar) > 0;
-    if (const int sebep = HucreTami(satir.eksik); sebep > 0) {
+    t.giren += !satir.girtar.Bos();
+    t.ayrilan += !satir.ciktar.Bos();
+    if (const int sebep = satir.eksik.value_or(0); sebep > 0) {
       ++t.ucretsizIzinli;
       t.ucretsizGun += sebep;
     }
     if (gun > 0) {
       ++t.ucretliIzinli;
-      t.ucretliGun += HucreTami(satir.ui);
-      t.ucretliKazanc += HucreTutari(satir.uiucret);
+      t.ucretliGun += satir.ui.value_or(0);
+      t.ucretliKazanc += satir.uiucret.value_or(Tutar());
     }
-    MatrahEkle(t, yasal, belgeTuru - 1, HucreTutari(satir.primkazanc));
+    MatrahEkle(t, yasal, belgeTuru - 1, satir.primkazanc.value_or(Tutar()));
   }
   return t;
 }

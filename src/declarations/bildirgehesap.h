@@ -72,6 +72,7 @@ struct BildirgePrimleri {
 struct Bildirge {
   BildirgeSecimi secim;
   std::vector<BildirgeSatiri> satirlar;
+  int sonNo = 0;                          // of the rows that there ever were
   std::vector<std::string> kimliksizler;  // codes of people who are left out: they have no identity record
   BildirgeToplamlari toplamlar;
   Tutar DevletKatki;  // the state's contribution, of the records as they were read
@@ -94,6 +95,9 @@ struct BildirgeKosullari {
   BordroDonemi donem;
   Yuvarlayici yuvarla;
 };
+
+// Puts a row at the end and gives its number.
+int SatirEkle(Bildirge& bildirge, BildirgeSatiri satir);
 
 // Adds the row of a record, and the record to the totals. A person without an identity record is not declared: his code
 // is noted, and that is all. Throws TutarTasmasi.

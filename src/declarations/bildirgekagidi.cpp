@@ -15,10 +15,10 @@ constexpr int Gruplama = 3;
 constexpr std::size_t IlHanesi = 3;
 
 KagitToplami SatirToplami(const BildirgeSatiri& satir) {
-  return {.gun = HucreTami(satir.gun),
-          .kazanc = HucreTutari(satir.primkazanc),
-          .izinGunu = HucreTami(satir.ui),
-          .izinUcreti = HucreTutari(satir.uiucret)};
+  return {.gun = satir.gun.value_or(0),
+          .kazanc = satir.primkazanc.value_or(Tutar()),
+          .izinGunu = satir.ui.value_or(0),
+          .izinUcreti = satir.uiucret.value_or(Tutar())};
 }
 
 void BranslariAl(BildirgeKagidi& kagit, const AylikBildirge& bildirge) {
@@ -27,7 +27,7 @@ void BranslariAl(BildirgeKagidi& kagit, const AylikBildirge& bildirge) {
   Tutar analik = b.prim.genelToplam;
   for (std::size_t brans = 0; brans < BransSayisi; ++brans) {
     kagit.branslar[brans] = {.matrah = b.toplamlar.*BransMatrahlari[brans],
-                             .oran = b.satirlar.empty() ? "" : bildirge.OranMetni(brans),
+                             .oran = b.satirlar.empty() ? std::nullopt : std::optional(b.PrimOran[brans]),
                              .prim = b.prim.primler[brans]};
     if (brans != AnalikBransi) analik -= b.prim.primler[brans];
   }
@@ -81,16 +81,15 @@ std::vector<KagitSayfasi> SayfalaraBol(const std::vector<BildirgeSatiri>& satirl
   return sayfalar;
 }
 
-std::string KagitTutari(Tutar tutar, int paraonda) {
-  return SayiFormat(YalinMetin(tutar), paraonda, Gruplama);
+std::string KagitTutari(std::optional<Tutar> tutar, int paraonda) {
+  return tutar ? SayiFormat(YalinMetin(*tutar), paraonda, Gruplama) : std::string();
 }
 
-std::string KagitSayisi(int sayi) {
-  return sayi == 0 ? std::string() : std::to_string(sayi);
+std::string KagitSayisi(std::optional<int> sayi) {
+  return sayi.value_or(0) == 0 ? std::string() : std::to_string(*sayi);
 }
 
-std::string KagitTarihi(std::string_view hucre) {
-  const Tarih gun = HucreTarihi(hucre);
+std::string KagitTarihi(Tarih gun) {
   return gun.Bos() ? std::string() : IkiHane(gun.Gun()) + " - " + IkiHane(gun.Ay());
 }
 

@@ -20,7 +20,7 @@ class AylikBildirge;
 
 struct KagitBransi {
   Tutar matrah;
-  std::string oran;  // percent; empty on an empty form
+  std::optional<Tek> oran;  // percent; none on an empty form
   Tutar prim;
 };
 
@@ -74,11 +74,11 @@ struct KagitSayfasi {
 // At least one page. Throws TutarTasmasi.
 std::vector<KagitSayfasi> SayfalaraBol(const std::vector<BildirgeSatiri>& satirlar);
 
-// "1,250.00"; empty for zero. Likewise "30".
-std::string KagitTutari(Tutar tutar, int paraonda);
-std::string KagitSayisi(int sayi);
-// Day and month of a cell with a date: "05 - 07"; else empty.
-std::string KagitTarihi(std::string_view hucre);
+// "1,250.00"; empty for zero and for none. Likewise "30".
+std::string KagitTutari(std::optional<Tutar> tutar, int paraonda);
+std::string KagitSayisi(std::optional<int> sayi);
+// Day and month: "05 - 07"; empty for none.
+std::string KagitTarihi(Tarih gun);
 // The province group of the register number: "34" -> "034".
 std::string IlKodu(const Firma& firma);
 

@@ -1,7 +1,5 @@
 #include "declarations/bildirgekontrol.h"
 
-#include <algorithm>
-
 #include "core/sayi.h"
 #include "core/turkce.h"
 #include "payroll/hazirlik/hazirlik.h"
@@ -39,58 +37,76 @@ std::string IsyeriKusuru(const IsyeriBilgileri& isyeri, int yil) {
   if (isyeri.IsyeriAdres.empty()) return "Hatalı İşyeri Adresi";
   if (isyeri.IsyeriUnvan.empty()) return "Hatalı İşyeri Ünvanı";
   if (HarfSayisi(isyeri.IsyeriUnvan) > UnvanHarfi) return "İşyeri Ünvanı 50 Harften Fazla olamaz.";
-  if (const double kod = HucreSayisi(isyeri.KontrolNo); kod < 1 || kod > 99)
+  if (const int kod = BastakiSayi(isyeri.KontrolNo); kod < 1 || kod > 99)
     return "Hatalı İşyeri Kontrol Kodu..  01 ile 99 arası olmalı";
   if (HarfSayisi(isyeri.IsyeriSicil) != SicilHarfi) return "İşyeri Sicil Bilgisi 21 Karakter Olmalıdır";
   return {};
 }
 
-std::string IsimKusuru(const BildirgeSatiri& satir) {
-  if (Kirp(satir.adi).empty()) return "Sigortalı İsmi Yok";
-  if (Kirp(satir.soyadi).empty()) return "Sigortalı Soyismi Yok";
-  if (HarfSayisi(satir.adi) > IsimHarfi) return "Sigortalı İsmi En Fazla 18 Harf Olmalı";
-  if (HarfSayisi(satir.soyadi) > IsimHarfi) return "Sigortalı Soyismi En Fazla 18 Harf Olmalı";
+// What a check finds: "" for nothing.
+struct Bulgu {
+  std::string metin;
+  std::string_view kolon;
+};
+
+Bulgu IsimKusuru(const BildirgeSatiri& satir) {
+  if (Kirp(satir.adi).empty()) return {"Sigortalı İsmi Yok", "adi"};
+  if (Kirp(satir.soyadi).empty()) return {"Sigortalı Soyismi Yok", "soyadi"};
+  if (HarfSayisi(satir.adi) > IsimHarfi) return {"Sigortalı İsmi En Fazla 18 Harf Olmalı", "adi"};
+  if (HarfSayisi(satir.soyadi) > IsimHarfi) return {"Sigortalı Soyismi En Fazla 18 Harf Olmalı", "soyadi"};
   return {};
 }
 
 // A row without earnings and without days is let through.
-std::string KazancKusuru(const BildirgeSatiri& satir) {
-  const Tutar kazanc = HucreTutari(satir.primkazanc);
-  const double gun = HucreSayisi(satir.gun);
-  if (kazanc <= Tutar() && gun <= 0) return {};
-  if (kazanc <= Tutar()) return "Kazanç Hanesinde Tutar Olmalı";
-  if (gun < 1 || gun > TamAyGunu) return "Kazanç Gün 1 il 30 gün arasında olmalı";
+Bulgu KazancKusuru(const BildirgeSatiri& satir) {
+  const bool kazancVar = satir.primkazanc > Tutar();
+  const int gun = satir.gun.value_or(0);
+  if (!kazancVar && gun <= 0) return {};
+  if (!kazancVar) return {"Kazanç Hanesinde Tutar Olmalı", "primkazanc"};
+  if (gun < 1 || gun > TamAyGunu) return {"Kazanç Gün 1 il 30 gün arasında olmalı", "gun"};
   return {};
 }
 
-bool Uyar(Bildirim& bildirim, const std::string& kusur, const BildirgeSatiri& satir) {
-  bildirim.Uyari(kusur + "\n" + SatirSahibi(satir));
-  return false;
+bool TcNoGecer(const BildirgeSatiri& satir) {
+  if (YabanciMi(satir.sigkol.value_or(0))) return true;
+  return SayiMi(satir.tcno) && HarfSayisi(Kirp(satir.tcno)) == TcNoHarfi;
 }
 
-bool TcNoGecer(const BildirgeSatiri& satir, Bildirim& bildirim) {
-  if (YabanciMi(HucreTami(satir.sigkol))) return true;
-  if (SayiMi(satir.tcno) && HarfSayisi(Kirp(satir.tcno)) == TcNoHarfi) return true;
-  return bildirim.Soru("T.C. Kimlik No 11 Rakamdan Oluşmalıdır\n" + SatirSahibi(satir) +
-                       "\nBu Haliyle Kabul Edilsin mi ?");
-}
+class SatirKontrolu {
+ public:
+  SatirKontrolu(Kusurlar& kusurlar, bool tumTurler) : kusurlar_(kusurlar), tumTurler_(tumTurler) {}
 
-bool SatirKontrol(const BildirgeSatiri& satir, bool tumTurler, Bildirim& bildirim) {
-  if (const double belgeTuru = HucreSayisi(satir.sigkol); belgeTuru < 1 || belgeTuru > SonBelgeTuru)
-    return Uyar(bildirim, "Sigorta Kolu Bilgisi Hatalı 01 ile 41 Arası olmalıdır", satir);
-  if (!SayiMi(satir.sskno) || HarfSayisi(Kirp(satir.sskno)) > SskNoHarfi)
-    return Uyar(bildirim, "SSK Sicil No Hatalı veya Yok", satir);
-  if (!TcNoGecer(satir, bildirim)) return false;
-  if (const std::string kusur = IsimKusuru(satir); !kusur.empty()) {
-    bildirim.Uyari(kusur);
-    return false;
+  void Bak(const BildirgeSatiri& satir, int sira) {
+    satir_ = &satir;
+    sira_ = sira;
+    if (const int belgeTuru = satir.sigkol.value_or(0); belgeTuru < 1 || belgeTuru > SonBelgeTuru)
+      return Ekle({Sahipli("Sigorta Kolu Bilgisi Hatalı 01 ile 41 Arası olmalıdır"), "sigkol"});
+    if (!SayiMi(satir.sskno) || HarfSayisi(Kirp(satir.sskno)) > SskNoHarfi)
+      return Ekle({Sahipli("SSK Sicil No Hatalı veya Yok"), "sskno"});
+    if (!TcNoGecer(satir)) Ekle({Sahipli("T.C. Kimlik No 11 Rakamdan Oluşmalıdır"), "tcno"}, Derece::Uyari);
+    if (Bulgu bulgu = IsimKusuru(satir); !bulgu.metin.empty()) return Ekle(std::move(bulgu));
+    if (tumTurler_)
+      if (const Bulgu bulgu = KazancKusuru(satir); !bulgu.metin.empty())
+        return Ekle({Sahipli(bulgu.metin), bulgu.kolon});
+    if (!satir.ciktar.Bos() && satir.ciksebeb.value_or(0) == 0)
+      Ekle({Sahipli("İşten Çıkmış Personelin Çıkış Sebebi Yok"), "ciksebeb"});
   }
-  if (tumTurler)
-    if (const std::string kusur = KazancKusuru(satir); !kusur.empty()) return Uyar(bildirim, kusur, satir);
-  if (!HucreTarihi(satir.ciktar).Bos() && HucreSayisi(satir.ciksebeb) == 0)
-    return Uyar(bildirim, "İşten Çıkmış Personelin Çıkış Sebebi Yok", satir);
-  return true;
-}
+
+ private:
+  std::string Sahipli(const std::string& metin) const { return metin + "\n" + SatirSahibi(*satir_); }
+  void Ekle(Bulgu bulgu, Derece derece = Derece::Hata) {
+    kusurlar_.push_back({.metin = std::move(bulgu.metin),
+                         .alan = {typeid(BildirgeSatiri), bulgu.kolon},
+                         .kod = satir_->kod,
+                         .satir = sira_,
+                         .derece = derece});
+  }
+
+  Kusurlar& kusurlar_;
+  const bool tumTurler_;
+  const BildirgeSatiri* satir_ = nullptr;
+  int sira_ = 0;
+};
 
 }  // namespace
 
@@ -110,19 +126,18 @@ IsyeriBilgileri IsyeriniHazirla(const Firma& firma, const std::string& araciKodu
   };
 }
 
-bool BildirgeKontrol(const Bildirge& bildirge, const IsyeriBilgileri& isyeri, Bildirim& bildirim) {
+Kusurlar BildirgeKontrol(const Bildirge& bildirge, const IsyeriBilgileri& isyeri) {
   const BildirgeSecimi& secim = bildirge.secim;
+  Kusurlar kusurlar;
   if (!BordroTamamMi(secim.ay, secim.yil, 1))
-    bildirim.Bilgi("Bordrosu Yapılmamış Kişi veya Kişiler Var\nBordroyu Tamamlayınız..");
+    kusurlar.push_back(KuralKusuru("Bordrosu Yapılmamış Kişi veya Kişiler Var\nBordroyu Tamamlayınız.."));
   const std::string kusur = bildirge.satirlar.empty() ? "E-Bildirge İçin Hesaplatılmamış yada Giriş Yapılmamış"
                                                       : IsyeriKusuru(isyeri, secim.yil);
-  if (!kusur.empty()) {
-    bildirim.Uyari(kusur);
-    return false;
-  }
-  return std::ranges::all_of(bildirge.satirlar, [&](const BildirgeSatiri& satir) {
-    return SatirKontrol(satir, secim.belgeTuru == 0, bildirim);
-  });
+  if (!kusur.empty()) kusurlar.push_back({kusur});
+  SatirKontrolu kontrol(kusurlar, secim.belgeTuru == 0);
+  int sira = 0;
+  for (const auto& satir : bildirge.satirlar) kontrol.Bak(satir, ++sira);
+  return kusurlar;
 }
 
 }  // namespace belvani

@@ -1,12 +1,13 @@
 // What must be right before a declaration leaves the program, whether as a file, on paper or in a spreadsheet.
 //
-// The user is told of the first fault alone, in the order of the checks: month, company, then row by row.
+// Faults come in the order of the checks: month, company, then row by row, of each row the first alone. A row's fault
+// names its person, its place in the grid and its column. Nothing is told here (AylikBildirge::BildirgeKontrol).
 // Example: check code "00" -> "Hatalı İşyeri Kontrol Kodu..  01 ile 99 arası olmalı".
 #pragma once
 
 #include <string>
 
-#include "core/bildirim.h"
+#include "core/kusur.h"
 #include "core/tables/firma.h"
 #include "declarations/bildirgehesap.h"
 
@@ -25,7 +26,7 @@ struct IsyeriBilgileri {
 
 IsyeriBilgileri IsyeriniHazirla(const Firma& firma, const std::string& araciKodu);
 
-// True: every check passed, or the user let through what he may. False: he was told why.
-bool BildirgeKontrol(const Bildirge& bildirge, const IsyeriBilgileri& isyeri, Bildirim& bildirim);
+// Derece::Hata stops the declaration, Derece::Uyari does unless the user lets it through, Derece::Bilgi is only told.
+Kusurlar BildirgeKontrol(const Bildirge& bildirge, const IsyeriBilgileri& isyeri);
 
 }  // namespace belvani

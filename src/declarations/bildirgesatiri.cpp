@@ -1,6 +1,6 @@
 #include "declarations/bildirgesatiri.h"
 
-#include <charconv>
+#include <algorithm>
 #include <cmath>
 
 #include "core/sayi.h"
@@ -9,48 +9,76 @@
 namespace belvani {
 namespace {
 
-constexpr double TamSinir = 10'000;
+constexpr int EnBuyukTam = 9999;
 
-bool RakamMi(char c) {
-  return c >= '0' && c <= '9';
+std::string TamMetni(int sayi, int hane) {
+  std::string metin = std::to_string(sayi);
+  if (const auto enAz = std::size_t(hane); metin.size() < enAz) metin.insert(0, enAz - metin.size(), '0');
+  return metin;
 }
 
-double BastakiOndalik(std::string_view metin) {
-  metin = Kirp(metin);
-  if (metin.starts_with('+')) metin.remove_prefix(1);
-  // Words that the library takes for numbers ("inf", "nan") are none.
-  const std::size_t ilk = metin.starts_with('-') ? 1 : 0;
-  if (metin.size() <= ilk || !(RakamMi(metin[ilk]) || metin[ilk] == '.')) return 0;
-  double sayi = 0;
-  const auto okunan = std::from_chars(metin.data(), metin.data() + metin.size(), sayi, std::chars_format::fixed);
-  return okunan.ec == std::errc() ? sayi : 0;
+std::optional<Tutar> SayiOlarak(std::string_view metin, std::optional<Tutar>) {
+  const auto tutar = TutarOku(metin);
+  return tutar && std::fabs(tutar->Sayi()) < Tutar::Sinir ? tutar : std::nullopt;
 }
 
-std::string DuzenliHucre(const std::string& hucre, HucreTuru tur) {
-  const auto tutar = tur == HucreTuru::Tutar || tur == HucreTuru::Tam ? TutarOku(hucre) : std::nullopt;
-  if (!tutar) return hucre;
-  return tur == HucreTuru::Tutar ? YalinMetin(*tutar) : std::to_string(tutar->Ham() / Tutar::Olcek);
+std::optional<int> SayiOlarak(std::string_view metin, std::optional<int>) {
+  const auto sayi = TamSayiOku(metin);
+  return sayi && std::abs(*sayi) <= EnBuyukTam ? std::optional(int(*sayi)) : std::nullopt;
+}
+
+bool Al(std::string& hucre, std::string_view metin) {
+  hucre = metin;
+  return true;
+}
+
+bool Al(Tarih& hucre, std::string_view metin) {
+  const Tarih gun = Tarih::MetinOku(Kirp(metin));
+  if (gun.Bos() && !Kirp(metin).empty()) return false;
+  hucre = gun;
+  return true;
+}
+
+template <class Sayi>
+bool Al(std::optional<Sayi>& hucre, std::string_view metin) {
+  if (Kirp(metin).empty()) {
+    if (hucre != Sayi()) hucre.reset();
+    return true;
+  }
+  const auto sayi = SayiOlarak(metin, hucre);
+  if (sayi) hucre = sayi;
+  return sayi.has_value();
+}
+
+const char* HucreKusuru(const BildirgeKolonu& kolon) {
+  const bool tarih = std::holds_alternative<Tarih BildirgeSatiri::*>(kolon.hucre);
+  return tarih ? "Hatalı Tarih Girildi.\nDüzeltiniz." : "Bir Sayi Girmelisiniz.";
 }
 
 }  // namespace
 
-double HucreSayisi(std::string_view hucre) {
-  const double sayi = SayiOku(hucre).value_or(BastakiOndalik(hucre));
-  return std::fabs(sayi) < Tutar::Sinir ? sayi : 0;
+const BildirgeKolonu* BildirgeKolonuBul(std::string_view ad) {
+  const auto kolon = std::ranges::find(BildirgeKolonlari, ad, &BildirgeKolonu::ad);
+  return kolon == BildirgeKolonlari.end() ? nullptr : &*kolon;
 }
 
-Tutar HucreTutari(std::string_view hucre) {
-  const auto tutar = TutarOku(hucre);
-  return tutar && std::fabs(tutar->Sayi()) < Tutar::Sinir ? *tutar : Tutar(HucreSayisi(hucre));
+std::string HucreMetni(const BildirgeSatiri& satir, const BildirgeKolonu& kolon, int paraonda) {
+  struct {
+    const BildirgeKolonu& kolon;
+    int paraonda;
+    std::string operator()(const std::string& metin) const { return metin; }
+    std::string operator()(Tarih gun) const { return gun.Metin(); }
+    std::string operator()(std::optional<int> sayi) const { return sayi ? TamMetni(*sayi, kolon.hane) : ""; }
+    std::string operator()(std::optional<Tutar> tutar) const { return tutar ? TutarMetni(*tutar, paraonda) : ""; }
+  } const metni{kolon, paraonda};
+  return std::visit([&](auto hucre) { return metni(satir.*hucre); }, kolon.hucre);
 }
 
-int HucreTami(std::string_view hucre) {
-  const double sayi = HucreSayisi(hucre);
-  return std::fabs(sayi) < TamSinir ? int(sayi) : 0;
-}
-
-Tarih HucreTarihi(std::string_view hucre) {
-  return Tarih::MetinOku(Kirp(hucre));
+Durum HucreYaz(BildirgeSatiri& satir, const BildirgeKolonu& kolon, std::string_view metin) {
+  if (std::visit([&](auto hucre) { return Al(satir.*hucre, metin); }, kolon.hucre)) return Tamam();
+  Kusur kusur = KuralKusuru(HucreKusuru(kolon), {typeid(BildirgeSatiri), kolon.ad});
+  kusur.kod = satir.kod;
+  return kusur;
 }
 
 std::string YalinMetin(Tutar tutar) {
@@ -61,14 +89,7 @@ std::string YalinMetin(Tutar tutar) {
 }
 
 std::string IkiHane(int sayi) {
-  const std::string metin = std::to_string(sayi);
-  return metin.size() < 2 ? "0" + metin : metin;
-}
-
-BildirgeSatiri Duzenli(BildirgeSatiri satir) {
-  for (const auto& kolon : BildirgeKolonlari) satir.*kolon.hucre = DuzenliHucre(satir.*kolon.hucre, kolon.tur);
-  if (const int belgeTuru = HucreTami(satir.sigkol); belgeTuru > 0) satir.sigkol = IkiHane(belgeTuru);
-  return satir;
+  return TamMetni(sayi, 2);
 }
 
 std::string SatirSahibi(const BildirgeSatiri& satir) {

@@ -1,7 +1,6 @@
 #include "declarations/bildirgetablosu.h"
 
 #include "core/dosya.h"
-#include "core/sayi.h"
 #include "core/turkce.h"
 #include "core/veridizini.h"
 #include "printing/xlscevir.h"
@@ -30,15 +29,12 @@ Hucre Pozitif(int sayi) {
   return sayi > 0 ? Hucre(std::int64_t(sayi)) : Hucre(Bos);
 }
 
-// A code of the grid: a number, or whatever stands there.
-Hucre Kod(std::string_view hucre) {
-  const auto sayi = TamSayiOku(hucre);
-  return sayi ? Hucre(std::int64_t(*sayi)) : Metin(hucre);
+Hucre Kod(std::optional<int> kod) {
+  return kod ? Hucre(std::int64_t(*kod)) : Hucre(Bos);
 }
 
-Hucre Oran(const std::string& metin) {
-  const auto oran = TutarOku(metin);
-  return oran ? Hucre(*oran) : Metin(metin);
+Hucre Oran(std::optional<Tek> oran) {
+  return oran ? Hucre(Tutar(oran->Sayi())) : Hucre(Bos);
 }
 
 std::string Adres(const std::string& adr1, const std::string& adr2) {
@@ -133,8 +129,7 @@ void BranslariYaz(Dolduran& d, const BildirgeKagidi& k) {
   d.SetExcel("hl85", k.genelToplam);
 }
 
-void TarihYaz(Dolduran& d, int satir, const char* gunKolonu, const char* ayKolonu, std::string_view hucre) {
-  const Tarih gun = HucreTarihi(hucre);
+void TarihYaz(Dolduran& d, int satir, const char* gunKolonu, const char* ayKolonu, Tarih gun) {
   if (gun.Bos()) return;
   d.KisiHucresi(gunKolonu, satir, IkiHane(gun.Gun()));
   d.KisiHucresi(ayKolonu, satir, IkiHane(gun.Ay()));
@@ -147,8 +142,8 @@ struct KazancBolumu {
 };
 
 KazancBolumu KazanciBol(const BildirgeSatiri& s) {
-  const Tutar kazanc = HucreTutari(s.primkazanc);
-  const Tutar ikramiye = HucreTutari(s.primdisi);
+  const Tutar kazanc = s.primkazanc.value_or(Tutar());
+  const Tutar ikramiye = s.primdisi.value_or(Tutar());
   return {.ucret = kazanc > Tutar() ? kazanc - ikramiye : Tutar(), .ikramiye = ikramiye > Tutar() ? ikramiye : Tutar()};
 }
 
@@ -157,11 +152,11 @@ void KisiYaz(Dolduran& d, int satir, const BildirgeSatiri& s, const KazancBolumu
   d.KisiHucresi("ap", satir, Metin(s.adi));
   d.KisiHucresi("bn", satir, Metin(s.soyadi));
   d.KisiHucresi("cl", satir, Metin(s.ilksoyadi));
-  d.KisiHucresi("dc", satir, Pozitif(HucreTami(s.gun)));
-  if (HucreTutari(s.primkazanc) > Tutar()) d.KisiHucresi("dj", satir, kazanc.ucret);
+  d.KisiHucresi("dc", satir, Pozitif(s.gun.value_or(0)));
+  if (s.primkazanc > Tutar()) d.KisiHucresi("dj", satir, kazanc.ucret);
   if (kazanc.ikramiye > Tutar()) d.KisiHucresi("ea", satir, kazanc.ikramiye);
-  d.KisiHucresi("es", satir, Pozitif(HucreTami(s.ui)));
-  if (const Tutar izin = HucreTutari(s.uiucret); izin > Tutar()) d.KisiHucresi("fc", satir, izin);
+  d.KisiHucresi("es", satir, Pozitif(s.ui.value_or(0)));
+  if (s.uiucret > Tutar()) d.KisiHucresi("fc", satir, *s.uiucret);
   TarihYaz(d, satir, "fq", "gb", s.girtar);
   TarihYaz(d, satir, "gm", "gx", s.ciktar);
   d.KisiHucresi("hi", satir, Kod(s.eksik));
@@ -173,7 +168,7 @@ int KisileriYaz(Dolduran& d, const BildirgeKagidi& k) {
   KazancBolumu toplam;
   int kisi = 0;
   for (const auto& s : k.satirlar) {
-    if (HucreSayisi(s.sigkol) <= 0) continue;
+    if (s.sigkol.value_or(0) <= 0) continue;
     const KazancBolumu kazanc = KazanciBol(s);
     KisiYaz(d, IlkKisiSatiri + kisi++ * KisiSatirAdimi, s, kazanc);
     toplam.ucret += kazanc.ucret;

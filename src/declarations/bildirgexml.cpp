@@ -72,21 +72,24 @@ class Yazan {
     metin_.append(" ").append(ad).append("=\"").append(temiz).append("\"");
   }
   void Sorun(std::string_view ad, std::string_view ne) {
-    sorunlar_.push_back(sahip_ + ": " + std::string(ad) + " bilgisinde " + std::string(ne));
+    Kusur& sorun = sorunlar_.emplace_back(sahip_);
+    sorun.metin.append(": ").append(ad).append(" bilgisinde ").append(ne);
   }
 
   void DoluysaOzellik(std::string_view ad, std::string_view deger) {
     if (!deger.empty()) Ozellik(ad, deger);
   }
-  void PozitifseOzellik(std::string_view ad, const std::string& hucre) {
-    if (HucreSayisi(hucre) > 0) Ozellik(ad, Kirp(hucre));
+  void PozitifseOzellik(std::string_view ad, std::optional<int> sayi) {
+    if (sayi > 0) Ozellik(ad, std::to_string(*sayi));
   }
-  void TarihOzelligi(std::string_view ad, const std::string& hucre) {
-    if (const Tarih gun = HucreTarihi(hucre); !gun.Bos()) Ozellik(ad, GunAy(gun));
+  void PozitifseOzellik(std::string_view ad, std::optional<Tutar> tutar) {
+    if (tutar > Tutar()) Ozellik(ad, YalinMetin(*tutar));
+  }
+  void TarihOzelligi(std::string_view ad, Tarih gun) {
+    if (!gun.Bos()) Ozellik(ad, GunAy(gun));
   }
 
   void IsyeriYaz(const IsyeriBilgileri& isyeri) {
-    sahip_ = "İşyeri";
     metin_ += "\t<ISYERI";
     Ozellik("ISYERISICIL", isyeri.IsyeriSicil);
     Ozellik("KONTROLNO", isyeri.KontrolNo);
@@ -106,21 +109,28 @@ class Yazan {
   }
 
   void GruplariYaz(const std::vector<BildirgeSatiri>& satirlar, const std::string& FirmaKanun) {
-    std::string belgeTuru, kanun;
+    std::optional<int> belgeTuru;
+    std::string kanun;
     int sira = 0;
     for (const auto& satir : satirlar) {
-      const std::string satirKanunu(HucreSayisi(satir.kanun) == 0 ? FirmaKanun : Kirp(satir.kanun));
-      sahip_ = SatirSahibi(satir);
+      const std::string satirKanunu(BastakiSayi(satir.kanun) == 0 ? FirmaKanun : Kirp(satir.kanun));
+      SahibiKoy(satir);
       if (sira == 0 || satir.sigkol != belgeTuru || satirKanunu != kanun) {
         if (sira > 0) GrupKapat();
         belgeTuru = satir.sigkol;
         kanun = satirKanunu;
         sira = 0;
-        GrupAc(belgeTuru, kanun);
+        GrupAc(IkiHane(belgeTuru.value_or(0)), kanun);
       }
       SigortaliYaz(satir, ++sira);
     }
     if (sira > 0) GrupKapat();
+  }
+
+  void SahibiKoy(const BildirgeSatiri& satir) {
+    sahip_.metin = SatirSahibi(satir);
+    sahip_.kod = satir.kod;
+    ++sahip_.satir;
   }
 
   void GrupAc(std::string_view belgeTuru, std::string_view kanun) {
@@ -143,9 +153,9 @@ class Yazan {
     Ozellik("AD", Isim(satir.adi));
     Ozellik("SOYAD", Isim(satir.soyadi));
     DoluysaOzellik("ILKSOYAD", Isim(satir.ilksoyadi));
-    Ozellik("PEK", YalinMetin(yuvarla_(HucreTutari(satir.primkazanc))));
-    Ozellik("PRIM_IKRAMIYE", YalinMetin(yuvarla_(HucreTutari(satir.ikramiye))));
-    Ozellik("GUN", SayiMetni(HucreSayisi(satir.gun)));
+    Ozellik("PEK", YalinMetin(yuvarla_(satir.primkazanc.value_or(Tutar()))));
+    Ozellik("PRIM_IKRAMIYE", YalinMetin(yuvarla_(satir.ikramiye.value_or(Tutar()))));
+    Ozellik("GUN", std::to_string(satir.gun.value_or(0)));
     TarihOzelligi("GIRISGUN", satir.girtar);
     TarihOzelligi("CIKISGUN", satir.ciktar);
     PozitifseOzellik("UCRETLIIZINGUN", satir.ui);
@@ -154,14 +164,14 @@ class Yazan {
     PozitifseOzellik("EKSIKGUNNEDENI", satir.eksik);
     PozitifseOzellik("ISTENCIKISNEDENI", satir.ciksebeb);
     DoluysaOzellik("MESLEKKOD", Kirp(satir.meslekkod));
-    if (HucreSayisi(satir.rapcalismadi) > 0) Ozellik("RAPCALISTI", RaporIsareti);
+    if (satir.rapcalismadi > 0) Ozellik("RAPCALISTI", RaporIsareti);
     Satir(" />");
   }
 
   Yuvarlayici yuvarla_;
   std::string metin_;
-  std::string sahip_;  // of the values being written
-  std::vector<std::string> sorunlar_;
+  Kusur sahip_{.metin = "İşyeri", .derece = Derece::Uyari};  // whose values are being written
+  Kusurlar sorunlar_;
 };
 
 }  // namespace

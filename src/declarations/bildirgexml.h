@@ -10,15 +10,14 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "declarations/bildirgekontrol.h"
 
 namespace belvani {
 
 struct BildirgeDosyasi {
-  std::string icerik;                 // the bytes of the file
-  std::vector<std::string> sorunlar;  // whose values make it unreadable, or hold letters that it cannot show
+  std::string icerik;  // the bytes of the file
+  Kusurlar sorunlar;   // values that make it unreadable, or hold letters that it cannot show
 };
 
 // Control characters are left out. The checks of BildirgeKontrol are the caller's.

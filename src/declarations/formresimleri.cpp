@@ -98,14 +98,14 @@ std::vector<FormSayfasi> Ek10Resmi(const EksikGunFormu& form) {
 std::vector<EksikGunKisisi> EksikGunKisileri(const std::vector<BildirgeSatiri>& satirlar) {
   std::vector<EksikGunKisisi> kisiler;
   for (const auto& s : satirlar)
-    if (const int sebep = HucreTami(s.eksik); sebep > 0)
+    if (s.eksik.value_or(0) > 0)
       kisiler.push_back({.sskno = s.sskno,
                          .tcno = s.tcno,
                          .adi = s.adi,
                          .soyadi = s.soyadi,
-                         .gun = HucreTami(s.gun),
-                         .eksikGun = HucreTami(s.eksikgunsayisi),
-                         .sebep = sebep});
+                         .gun = s.gun.value_or(0),
+                         .eksikGun = s.eksikgunsayisi.value_or(0),
+                         .sebep = *s.eksik});
   return kisiler;
 }
 

@@ -59,12 +59,14 @@ dclist::dclist(Bildirim& bildirim, QWidget* ust) : QTableView(ust), bildirim_(bi
   horizontalHeader()->ensurePolished();
   YaziyaUydur();
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int kolon) {
-    const bool ters = model_->SiraKolonu() == kolon && horizontalHeader()->sortIndicatorOrder() == Qt::AscendingOrder;
+    const bool ters = model_->SiraKolonu() == kolon && model_->SiraYonu() == Qt::AscendingOrder;
     const int satir = CurSat();
-    horizontalHeader()->setSortIndicatorShown(true);
-    horizontalHeader()->setSortIndicator(kolon, ters ? Qt::DescendingOrder : Qt::AscendingOrder);
-    model_->Sirala(kolon, horizontalHeader()->sortIndicatorOrder());
-    ChngSat(satir);
+    if (OkUpdateData()) {  // the order is made of what the cells hold
+      horizontalHeader()->setSortIndicatorShown(true);
+      model_->Sirala(kolon, ters ? Qt::DescendingOrder : Qt::AscendingOrder);
+      ChngSat(satir);
+    }
+    horizontalHeader()->setSortIndicator(model_->SiraKolonu(), model_->SiraYonu());  // the click has turned it already
   });
 }
 

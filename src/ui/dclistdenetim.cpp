@@ -13,6 +13,10 @@ bool TarihDenetle(const dclistKolonu& kolon, QString& metin, Bildirim& bildirim)
   // What is missing at the end comes from today: 12.03 typed in 2005 is 12.03.2005.
   if (!metin.isEmpty() && metin.size() < 10) metin += Yazi(Tarih::Bugun().Metin()).mid(metin.size());
   const Tarih tarih = Tarih::MetinOku(Utf8(metin));
+  if (tarih.Bos() && !metin.isEmpty() && kolon.denetim == HucreDenetimi::TarihYaDaBos) {
+    bildirim.Bilgi("Hatalı Tarih Girildi.\nDüzeltiniz.");
+    return false;
+  }
   if (tarih.Bos()) {
     metin.clear();
     if (gerek) bildirim.Bilgi("Hatalı Tarih Girildi.\nDüzeltiniz.");

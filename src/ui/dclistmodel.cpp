@@ -30,6 +30,7 @@ void dclistModel::KolonlariSil() {
   kolonlar_.clear();
   hucreler_.clear();
   degisti_.clear();
+  kimlikler_.clear();
   gorunen_.clear();
   siraKolonu_ = -1;
   endResetModel();
@@ -51,6 +52,7 @@ int dclistModel::SatirEkle() {
   if (toplu_ == 0) beginInsertRows({}, int(gorunen_.size()), int(gorunen_.size()));
   hucreler_.resize(hucreler_.size() + kolonlar_.size());
   degisti_.push_back(0);
+  kimlikler_.push_back(0);
   gorunen_.push_back(satir);  // at the end until the order is made anew
   if (toplu_ == 0) endInsertRows();
   return satir;
@@ -62,6 +64,7 @@ void dclistModel::SatirSil(int satir) {
   const auto ilk = hucreler_.begin() + std::ptrdiff_t(Yer(satir, 0));
   hucreler_.erase(ilk, ilk + std::ptrdiff_t(kolonlar_.size()));
   degisti_.erase(degisti_.begin() + satir);
+  kimlikler_.erase(kimlikler_.begin() + satir);
   if (sira >= 0) gorunen_.erase(gorunen_.begin() + sira);
   for (int& g : gorunen_)
     if (g > satir) --g;
@@ -72,6 +75,7 @@ void dclistModel::SatirlariSil() {
   beginResetModel();
   hucreler_.clear();
   degisti_.clear();
+  kimlikler_.clear();
   gorunen_.clear();
   endResetModel();
 }

@@ -18,6 +18,7 @@ enum class HucreDenetimi : std::uint8_t {
   TarihGerekTatilUyar = 4,
   TarihTatilUyar = 5,
   SayiGerek = 6,
+  TarihYaDaBos = 7,  // what is no date is refused, not emptied
 };
 
 struct dclistKolonu {
@@ -57,6 +58,10 @@ class dclistModel : public QAbstractTableModel {
   bool DegistiMi(int satir) const { return degisti_[std::size_t(satir)] != 0; }
   void Degisti(int satir, bool degisti) { degisti_[std::size_t(satir)] = degisti ? 1 : 0; }
 
+  // The owner's number of a row, 0 until he gives one. It stays with the row whatever is sorted, hidden or deleted.
+  int Kimlik(int satir) const { return kimlikler_[std::size_t(satir)]; }
+  void KimlikKoy(int satir, int kimlik) { kimlikler_[std::size_t(satir)] = kimlik; }
+
   // Between these two, additions and changes are not shown one by one.
   void TopluBasla();
   void TopluBitir();
@@ -65,6 +70,7 @@ class dclistModel : public QAbstractTableModel {
   void Filtrele(const QString& aranan);
   void Sirala(int kolon, Qt::SortOrder yon);
   int SiraKolonu() const { return siraKolonu_; }
+  Qt::SortOrder SiraYonu() const { return siraYonu_; }
   int GosterilenSatir(int sira) const { return gorunen_[std::size_t(sira)]; }  // shown position to row
   int GosterilenSira(int satir) const;                                         // -1 when filtered out
 
@@ -85,6 +91,7 @@ class dclistModel : public QAbstractTableModel {
   std::vector<dclistKolonu> kolonlar_;
   std::vector<QString> hucreler_;  // row after row
   std::vector<char> degisti_;
+  std::vector<int> kimlikler_;
   std::vector<int> gorunen_;
   QString aranan_;  // folded
   int siraKolonu_ = -1;

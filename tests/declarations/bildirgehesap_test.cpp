@@ -43,10 +43,12 @@ TEST(BildirgeHesap, SatirVeToplamlar) {
   s.brd.sskmatrahisveren = Tutar(1250.5);
   s.brd.rapcalismadi = 1;
   const Bildirge b = hesap(s);
-  EXPECT_EQ(b.satirlar.front(),
-            Satir("sigkol=01|sskno=34010001|tcno=10000000146|adi=Işıl|soyadi=Çağ001|primkazanc=1250.5|"
-                  "ikramiye=250|gun=30|ui=3|uiucret=100.5|farkmivar=1|kanun=05510|"
-                  "primdisi=250|meslekkod=2411.03|rapcalismadi=1"));
+  BildirgeSatiri beklenen = Satir(
+      "sigkol=01|sskno=34010001|tcno=10000000146|adi=Işıl|soyadi=Çağ001|primkazanc=1250.5|ikramiye=250|gun=30|ui=3|"
+      "uiucret=100.5|farkmivar=1|kanun=05510|primdisi=250|meslekkod=2411.03|rapcalismadi=1");
+  beklenen.no = 1;
+  beklenen.kod = "001";
+  EXPECT_EQ(b.satirlar.front(), beklenen);
   EXPECT_EQ(Metin(b.toplamlar), "1 30 0 0 0 0 1 3 100.5 | 1250.5 0 1250.5 1250.5 0 1250.5");
   EXPECT_EQ(b.DevletKatki, Tutar(50.0));
 }
@@ -86,9 +88,9 @@ TEST(BildirgeHesap, DonemSinirlari) {
     s.sicil.girtar = s.sicil.ciktar = o.gun;
     s.sicil.cikiskodu = 4;
     const Bildirge b = hesap(s, o.donem);
-    EXPECT_EQ(b.satirlar[0].girtar, o.icinde ? o.gun.Metin() : "");
+    EXPECT_EQ(b.satirlar[0].girtar, o.icinde ? o.gun : Tarih());
     EXPECT_EQ(b.satirlar[0].ciktar, b.satirlar[0].girtar);
-    EXPECT_EQ(b.satirlar[0].ciksebeb, o.icinde ? "4" : "") << o.gun.Metin();
+    EXPECT_EQ(b.satirlar[0].ciksebeb, o.icinde ? std::optional(4) : std::nullopt) << o.gun.Metin();
     EXPECT_EQ(b.toplamlar.giren + b.toplamlar.ayrilan, o.icinde ? 2 : 0) << o.gun.Metin();
   }
 }
@@ -100,8 +102,8 @@ TEST(BildirgeHesap, EksikGunlerVeParaBirimleri) {
     s.brd.ucretsizizin = std::uint8_t(gun);
     s.brd.eksiksebebi = 7;
     const Bildirge b = hesap(s);
-    EXPECT_EQ(b.satirlar.front().eksik, gun > 0 ? "7" : "") << gun;
-    EXPECT_EQ(b.satirlar.front().eksikgunsayisi, gun > 0 ? std::to_string(gun) : "") << gun;
+    EXPECT_EQ(b.satirlar.front().eksik, gun > 0 ? std::optional(7) : std::nullopt) << gun;
+    EXPECT_EQ(b.satirlar.front().eksikgunsayisi, gun > 0 ? std::optional(gun) : std::nullopt) << gun;
     EXPECT_EQ(b.toplamlar.ucretsizIzinli, gun > 0 && gun < 30) << gun;
     EXPECT_EQ(b.toplamlar.ucretsizGun, gun < 30 ? gun : 0);
   }
@@ -111,7 +113,7 @@ TEST(BildirgeHesap, EksikGunlerVeParaBirimleri) {
     Sigortali s("1", yil);
     s.brd.sskmatrahisveren = s.brd.katki = Tutar(saklanan);
     const Bildirge b = hesap(s, {yil, 7});
-    EXPECT_EQ(b.satirlar.front().primkazanc, beklenen);
+    EXPECT_EQ(YalinMetin(b.satirlar.front().primkazanc.value()), beklenen);
     EXPECT_EQ(YalinMetin(b.DevletKatki), beklenen);
     EXPECT_EQ(YalinMetin(b.toplamlar.kisaVade), beklenen);
   }
@@ -126,10 +128,10 @@ TEST(BildirgeHesap, YenidenToplamaIlkindenAyrilir) {
   s.brd.ng = s.brd.ht = 0;
   std::vector<BildirgeSatiri> satirlar = hesap(s).satirlar;
   EXPECT_EQ(Metin(ToplamlariYenile(satirlar, hesap.yasal)), "1 0 0 0 1 7 0 0 0 | 1000 0 1000 1000 0 1000");
-  satirlar.front().gun = "12";
-  satirlar.front().girtar = "15.07.2009";
+  satirlar.front().gun = 12;
+  satirlar.front().girtar = Tarih(2009, 7, 15);
   satirlar.push_back(Satir("primkazanc=500|gun=30"));  // no document type: not counted
-  satirlar.push_back(Satir("sigkol=02|primkazanc=1,500.25|gun=x|ui=9"));
+  satirlar.push_back(Satir("sigkol=02|primkazanc=1,500.25|gun=|ui=9"));
   const BildirgeToplamlari t = ToplamlariYenile(satirlar, hesap.yasal);
   EXPECT_EQ(Metin(t), "2 12 1 0 1 7 1 0 0 | 2500.25 0 1000 1000 1500.25 1000")
       << "who has days counts as one with paid leave";
@@ -154,24 +156,54 @@ TEST(BildirgeHesap, OranlarVePrimler) {
   EXPECT_EQ(p.genelToplam, Tutar(355.01)) << "with the maternity premium, without the state's contribution";
 }
 
-TEST(BildirgeSatiri, HucrelerSayiya) {
-  const std::tuple<const char*, double, int> ornekler[] = {{" 7 ", 7, 7},
-                                                           {"1,250.50", 1250.5, 1250},
-                                                           {"15.01.2009", 15.01, 15},
-                                                           {"12 gün", 12, 12},
-                                                           {"gün 12", 0, 0},
-                                                           {"-3.5", -3.5, -3},
-                                                           {"inf", 0, 0},
-                                                           {"99999", 99999, 0},
-                                                           {".5x", .5, 0},
-                                                           {"99999999999999999999", 0, 0}};
-  for (const auto& [hucre, sayi, tam] : ornekler) {
-    EXPECT_EQ(HucreSayisi(hucre), sayi) << hucre;
-    EXPECT_EQ(HucreTutari(hucre), Tutar(sayi)) << hucre;
-    EXPECT_EQ(HucreTami(hucre), tam) << hucre;
+TEST(BildirgeSatiri, HucreyeYazilan) {
+  const struct {
+    const char* kolon;
+    const char* yazilan;
+    const char* gorunen;  // null: refused
+  } ornekler[] = {{"sigkol", "7", "07"},
+                  {"sigkol", "ab", nullptr},
+                  {"gun", " 29 ", "29"},
+                  {"gun", "29.5", nullptr},
+                  {"gun", "12 gün", nullptr},
+                  {"gun", "99999", nullptr},
+                  {"gun", "", ""},
+                  {"eksik", "-3", "-3"},
+                  {"primkazanc", "1,250.505", "1,250.51"},
+                  {"primkazanc", "1e3", nullptr},
+                  {"primkazanc", "12,5", nullptr},
+                  {"primkazanc", "920,000,000,000,000", nullptr},
+                  {"uiucret", "", ""},
+                  {"girtar", "1.7.2009", "01.07.2009"},
+                  {"girtar", "31.06.2009", nullptr},
+                  {"girtar", " ", ""},
+                  {"adi", " 1,000 ", " 1,000 "}};
+  for (const auto& o : ornekler) {
+    const BildirgeKolonu& kolon = *BildirgeKolonuBul(o.kolon);
+    const BildirgeSatiri once = Satir("sigkol=01|gun=30|eksik=6|primkazanc=5|uiucret=7|girtar=01.01.2009");
+    BildirgeSatiri satir = once;
+    const Durum alindi = HucreYaz(satir, kolon, o.yazilan);
+    ASSERT_EQ(bool(alindi), o.gorunen != nullptr) << o.kolon << " " << o.yazilan;
+    if (alindi)
+      EXPECT_EQ(HucreMetni(satir, kolon, 2), o.gorunen) << o.kolon;
+    else
+      EXPECT_TRUE(satir == once && !alindi.KusurMetni().empty() && alindi.Kusuru().alan.ad == o.kolon) << o.yazilan;
   }
-  const BildirgeSatiri d = Duzenli(Satir("sigkol=1|adi=1,000|primkazanc=1,250.50|gun=29.5|eksik=x"));
-  EXPECT_EQ(d, Satir("sigkol=01|adi=1,000|primkazanc=1250.5|gun=29|eksik=x"));
+  EXPECT_EQ(Satir("primkazanc=1,250.505").primkazanc, Tutar(1250.505)) << "with all its decimals";
+}
+
+// Fields show a zero as nothing: to leave one as it was is no edit, and to empty any other number is one.
+TEST(BildirgeSatiri, SifirVeBosAyridir) {
+  const BildirgeKolonu& gun = *BildirgeKolonuBul("gun");
+  BildirgeSatiri satir;
+  EXPECT_EQ(HucreMetni(satir, gun, 2), "");
+  satir.gun = 0;
+  EXPECT_EQ(HucreMetni(satir, gun, 2), "0");
+  ASSERT_TRUE(HucreYaz(satir, gun, ""));
+  EXPECT_EQ(satir.gun, 0);
+  satir.gun = 5;
+  ASSERT_TRUE(HucreYaz(satir, gun, ""));
+  EXPECT_EQ(satir.gun, std::nullopt);
 }
 
 }  // namespace

@@ -36,11 +36,11 @@ inline BildirgeKagidi Kagit(int kisi) {
                  .ucretliIzinli = 3,
                  .ucretliKazanc = Tutar(404.0),
                  .ucretliGun = 16};
-  const auto brans = [](double matrah, const char* oran, double prim) {
-    return KagitBransi{.matrah = Tutar(matrah), .oran = oran, .prim = Tutar(prim)};
+  const auto brans = [](double matrah, double oran, double prim) {
+    return KagitBransi{.matrah = Tutar(matrah), .oran = Tek(oran), .prim = Tutar(prim)};
   };
-  k.branslar = {brans(1000, "1", 10),   brans(0, "0", 0), brans(1001, "12.5", 125),
-                brans(1002, "20", 200), brans(0, "0", 0), brans(1003, "3", 30)};
+  k.branslar = {brans(1000, 1, 10),   brans(0, 0, 0), brans(1001, 12.5, 125),
+                brans(1002, 20, 200), brans(0, 0, 0), brans(1003, 3, 30)};
   k.genelToplam = Tutar(365.0);
   return k;
 }

@@ -31,15 +31,15 @@ struct Sigortali {
   }
 };
 
-// A row by the names of its cells: Satir("sigkol=01|adi=Işıl|gun=30").
+// A row by the names of its cells, typed in one by one: Satir("sigkol=01|adi=Işıl|gun=30").
 inline BildirgeSatiri Satir(std::string_view metin) {
   BildirgeSatiri satir;
   while (!metin.empty()) {
     const std::string_view hucre = metin.substr(0, metin.find('|'));
     metin.remove_prefix(std::min(metin.size(), hucre.size() + 1));
     const auto esit = hucre.find('=');
-    for (const auto& kolon : BildirgeKolonlari)
-      if (kolon.ad == hucre.substr(0, esit)) satir.*kolon.hucre = hucre.substr(esit + 1);
+    const BildirgeKolonu* kolon = BildirgeKolonuBul(hucre.substr(0, esit));
+    EXPECT_TRUE(kolon != nullptr && HucreYaz(satir, *kolon, hucre.substr(esit + 1))) << hucre;
   }
   return satir;
 }
@@ -70,8 +70,9 @@ struct BildirgeSirketi : Sirket {
     return bildirge.Tamami();
   }
   // One column of all rows.
-  std::vector<std::string> Kolon(std::string BildirgeSatiri::*hucre) {
-    std::vector<std::string> hucreler;
+  template <class Deger>
+  std::vector<Deger> Kolon(Deger BildirgeSatiri::*hucre) {
+    std::vector<Deger> hucreler;
     for (const auto& satir : bildirge.Tamami().satirlar) hucreler.push_back(satir.*hucre);
     return hucreler;
   }

@@ -52,31 +52,38 @@ constexpr BransSatiri Branslar[BransSayisi] = {
     {"saglik", "Genel Sağlık Sigortası"},       {"uzunVade", "Malullük, Yaşlılık ve Ölüm"},
     {"destek", "Sosyal Güvenlik Destek Primi"}, {"issizlik", "İşsizlik Sigortası Primi"}};
 
+template <class Deger>
+bool Tasir(const BildirgeKolonu& kolon) {
+  return std::holds_alternative<Deger BildirgeSatiri::*>(kolon.hucre);
+}
+
 int Genislik(const BildirgeKolonu& kolon) {
   constexpr int harfGenisligi = 7;
   constexpr int enDar = 46;
   constexpr int enGenis = 118;
   constexpr int tutarEni = 94;
-  if (kolon.tur == HucreTuru::Tutar) return tutarEni;
+  if (Tasir<std::optional<Tutar>>(kolon)) return tutarEni;
   return std::clamp(kolon.harf * harfGenisligi + 12, enDar, enGenis);
 }
 
-// Amounts stand grouped in the grid; what was not typed over stays as it was, with all its decimals.
+// A code is typed letter by letter.
+char KolonTipi(const BildirgeKolonu& kolon) {
+  if (Tasir<Tarih>(kolon)) return 't';
+  return kolon.hane > 0 || Tasir<std::string>(kolon) ? 'a' : 'n';
+}
+
 std::vector<SatirKolonu<BildirgeSatiri>> Kolonlar(int paraonda) {
   std::vector<SatirKolonu<BildirgeSatiri>> kolonlar;
   for (const BildirgeKolonu& k : BildirgeKolonlari) {
-    const auto hucre = k.hucre;
-    const bool tutar = k.tur == HucreTuru::Tutar;
-    const auto metin = [=](const BildirgeSatiri& s, std::size_t) {
-      return tutar && !(s.*hucre).empty() ? TutarMetni(HucreTutari(s.*hucre), paraonda) : s.*hucre;
-    };
-    const auto al = [=](BildirgeSatiri& s, const std::string& yazi) { s.*hucre = yazi; };
-    const bool sayi = tutar || k.tur == HucreTuru::Tam;
-    kolonlar.push_back({k.tur == HucreTuru::Tarih ? 't'
-                        : sayi                    ? 'n'
-                                                  : 'a',
-                        k.ad.data(), k.baslik.data(), Genislik(k), metin, al, sayi ? 0.0 : double(k.harf),
-                        tutar ? paraonda : 0});
+    const char tip = KolonTipi(k);
+    const auto metin = [&k, paraonda](const BildirgeSatiri& s, std::size_t) { return HucreMetni(s, k, paraonda); };
+    kolonlar.push_back({.tip = tip,
+                        .ad = k.ad.data(),
+                        .baslik = k.baslik.data(),
+                        .genislik = Genislik(k),
+                        .metin = metin,
+                        .enCok = tip == 'n' ? 0.0 : double(k.harf),
+                        .ondalik = Tasir<std::optional<Tutar>>(k) ? paraonda : 0});
   }
   return kolonlar;
 }
@@ -89,13 +96,17 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
       liste_(new dclist(baglam.bildirim, this)),
       tablo_(*liste_, Kolonlar(baglam.oturum.firma.paraonda)) {
   liste_->setObjectName("dclist1");
-  for (const BildirgeKolonu& k : BildirgeKolonlari)
-    if (k.baslik.empty()) liste_->Gizle(QString::fromLatin1(k.ad.data(), int(k.ad.size())));
+  for (const BildirgeKolonu& k : BildirgeKolonlari) {
+    if (k.baslik.empty()) liste_->Gizle(Yazi(k.ad));
+    if (Tasir<Tarih>(k))
+      liste_->Model().KolonAyari(liste_->Model().KolonBul(Yazi(k.ad))).denetim = HucreDenetimi::TarihYaDaBos;
+  }
   liste_->Editable(true);
-  liste_->SatirGuncelle = [this](int satir) { return SatirAl(satir); };
+  liste_->Dogrula = [this](int satir, const QString& ad, QString& metin) { return HucreAl(satir, ad, metin); };
   liste_->SatirSil = [this](int satir) { return SatirSil(satir); };
   liste_->Tus = [this](const QKeyEvent& tus) {
-    if (tus.key() != Qt::Key_Escape || liste_->CurrentMode() != dclist::Mod::Gezinme) return false;
+    const bool bosSatir = liste_->CurSat() >= 0 && liste_->Model().Kimlik(liste_->CurSat()) == 0;
+    if (tus.key() != Qt::Key_Escape || bosSatir || !liste_->OkUpdateData()) return false;
     OdakVer("yil");
     return true;
   };
@@ -118,7 +129,8 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
   DugmeEkle(Qt::Key_F8, QStringLiteral(" Yazıcıya Yazdır "), "yazici", [this] { Yazdir(); });
   DugmeEkle(Qt::Key_F9, QStringLiteral(" Excel'e gönderim "), "tablo", [this] { ExceleGonder(); });
   DugmeEkle(Qt::Key_F11, QStringLiteral(" E-Bildirge Hazırla "), "indir", [this] { EBildirge(); });
-  bildirge_.Ac();
+  const auto acildi = bildirge_.Ac();
+  for (const Kusur& kusur : acildi ? *acildi : Kusurlar{acildi.Kusuru()}) Bildir(kusur);
   SecenekleriKoy(Denetim("belgeTuru"), bildirge_.BelgeTurleri());
   auto kanunlar = bildirge_.KanunSecenekleri();
   std::ranges::replace(kanunlar, std::string(), std::string("(boş)"));  // of people without a law
@@ -177,7 +189,7 @@ void yaylik::AlanDegisince(const AlanDenetimi& alan) {
   BildirgeToplamlari toplamlar;
   const bool matrah = std::ranges::any_of(Branslar, [&](const BransSatiri& b) { return ad == b.ad; });
   if (!matrah || !Oku(toplamlar)) return;
-  bildirge_.ToplamlariYaz(toplamlar);
+  if (const Durum yazildi = bildirge_.ToplamYaz(toplamlar); !yazildi) Bildir(yazildi.Kusuru());
   for (std::size_t b = 0; b < BransSayisi; ++b) primler_[b]->setText(Yazi(bildirge_.PrimMetni(b)));
   genelToplam_->setText(Yazi(bildirge_.GenelToplamMetni()));
 }
@@ -187,14 +199,19 @@ void yaylik::Hesapla() {
   if (!Oku(form)) return;
   BildirgeSecimi& secim = bildirge_.Secim();
   secim = {form.yil, form.ay, form.belgeTuru, form.kanun, BelgeMahiyeti(form.mahiyet)};
-  const MesgulImlec mesgul;
-  bildirge_.Hesapla();
+  const Durum hesaplandi = [&] {
+    const MesgulImlec mesgul;
+    return bildirge_.Hesapla();
+  }();
   Goster();
+  if (!hesaplandi) Bildir(hesaplandi.Kusuru());
 }
 
 void yaylik::Goster() {
   const auto& kimliksizler = bildirge_.Tamami().kimliksizler;
-  tablo_.Doldur(bildirge_.Tamami().satirlar);
+  const auto& satirlar = bildirge_.Tamami().satirlar;
+  tablo_.Doldur(satirlar);
+  for (std::size_t i = 0; i < satirlar.size(); ++i) liste_->Model().KimlikKoy(int(i), satirlar[i].no);
   ToplamlariGoster();
   QStringList kodlar;
   for (std::size_t i = 0; i < std::min<std::size_t>(kimliksizler.size(), 8); ++i) kodlar += Yazi(kimliksizler[i]);
@@ -214,38 +231,70 @@ void yaylik::ToplamlariGoster() {
   genelToplam_->setText(Yazi(bildirge_.GenelToplamMetni()));
 }
 
-// An edited row, or one that was added.
-bool yaylik::SatirAl(int satir) {
-  const auto& satirlar = bildirge_.Tamami().satirlar;
-  const auto sira = std::size_t(satir);
-  const BildirgeSatiri yeni = tablo_.Oku(sira, sira < satirlar.size() ? satirlar[sira] : BildirgeSatiri{});
-  if (sira >= satirlar.size() && yeni == BildirgeSatiri{}) return true;
-  bildirge_.SatirYaz(sira, yeni);
-  tablo_.Goster(sira, bildirge_.Tamami().satirlar[std::min(sira, bildirge_.Tamami().satirlar.size() - 1)]);
+// What was typed into a cell goes to the declaration at once, and totals and premiums follow; the first cell of a new
+// row makes the row.
+bool yaylik::HucreAl(int sira, const QString& ad, QString& metin) {
+  dclistModel& liste = liste_->Model();
+  const BildirgeKolonu& kolon = *BildirgeKolonuBul(Utf8(ad));
+  const BildirgeSatiri* eski = bildirge_.Satir(liste.Kimlik(sira));
+  BildirgeSatiri satir = eski != nullptr ? *eski : BildirgeSatiri{};
+  if (metin == Yazi(HucreMetni(satir, kolon, Oturumu().paraonda))) return true;
+  Durum alindi = HucreYaz(satir, kolon, Utf8(metin));
+  metin = alindi ? Yazi(HucreMetni(satir, kolon, Oturumu().paraonda)) : metin;
+  if (alindi && eski != nullptr) {
+    alindi = bildirge_.SatirYaz(satir);
+  } else if (alindi && satir != BildirgeSatiri{}) {
+    const auto no = bildirge_.SatirEkle(satir);
+    if (no)
+      liste.KimlikKoy(sira, *no);
+    else
+      alindi = no.Kusuru();
+  }
+  if (!alindi) Bildir(alindi.Kusuru());
   ToplamlariGoster();
-  return true;
+  return bool(alindi);
 }
 
-bool yaylik::SatirSil(int satir) {
-  bildirge_.SatirSil(std::size_t(satir));
+bool yaylik::SatirSil(int sira) {
+  const Durum silindi = bildirge_.SatirSil(liste_->Model().Kimlik(sira));
+  if (!silindi) Bildir(silindi.Kusuru());
   ToplamlariGoster();
-  return true;
+  return bool(silindi);
+}
+
+// A fault of a row is shown at its cell.
+void yaylik::KusurGoster(const Kusur& kusur) {
+  Bildir(kusur);
+  if (kusur.satir == 0) return;
+  const int no = bildirge_.Tamami().satirlar[std::size_t(kusur.satir) - 1].no;
+  int sira = 0;
+  while (liste_->Model().Kimlik(sira) != no) ++sira;
+  liste_->setFocus();
+  liste_->HucreyeGit(sira, Yazi(kusur.alan.ad));
 }
 
 void yaylik::EBildirge() {
-  if (!liste_->OkUpdateData() || !bildirge_.XmlKosullari() || !bildirge_.BildirgeKontrol()) return;
+  if (!liste_->OkUpdateData()) return;
+  if (const Durum olur = bildirge_.XmlKosullari(); !olur) return KusurGoster(olur.Kusuru());
+  const auto karar = bildirge_.BildirgeKontrol();
+  if (!karar) return KusurGoster(karar.Kusuru());
+  if (*karar == AylikBildirge::Karar::Vazgecildi) return;
   const auto dosya = Baglam().dialoglar.DosyaKaydet("E-Bildirge Hazırlığı", bildirge_.XmlYolu(), "XML (*.xml)|*.xml");
-  if (!dosya || !bildirge_.XmlYaz(*dosya)) return;
-  if (Bildirimi().Soru(AylikBildirge::GonderimSorusu))
+  if (!dosya) return;
+  const auto yazildi = bildirge_.XmlYaz(*dosya);
+  if (!yazildi) return KusurGoster(yazildi.Kusuru());
+  if (*yazildi == AylikBildirge::Karar::Devam && Bildirimi().Soru(AylikBildirge::GonderimSorusu))
     FormGoster(Baglam(), std::make_unique<intefrm>(Baglam(), *dosya));
 }
 
 void yaylik::Yazdir() {
-  if (liste_->OkUpdateData()) BildirgeYazdir(Baglam(), bildirge_);
+  if (!liste_->OkUpdateData()) return;
+  if (const Durum basildi = BildirgeYazdir(Baglam(), bildirge_); !basildi) KusurGoster(basildi.Kusuru());
 }
 
 void yaylik::ExceleGonder() {
-  if (liste_->OkUpdateData()) BildirgeExceleGonder(Baglam(), bildirge_);
+  if (!liste_->OkUpdateData()) return;
+  if (const Durum gonderildi = BildirgeExceleGonder(Baglam(), bildirge_); !gonderildi) KusurGoster(gonderildi.Kusuru());
 }
 
 }  // namespace belvani

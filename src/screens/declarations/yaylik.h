@@ -1,5 +1,6 @@
 // yaylik ("Aylık Bildirge (EK-9  (4a))"): the month's premium and service declaration. The grid and the totals are
-// views of AylikBildirge; what the user changes in them goes there at once, and every way out starts from there.
+// views of AylikBildirge: a line of the grid knows the number of its row, what the user changes goes there at once,
+// cell by cell, and every way out starts from there.
 //
 //   F5 Hesapla    F8 Yazıcıya Yazdır    F9 Excel'e gönderim    F11 E-Bildirge Hazırla
 #pragma once
@@ -24,8 +25,9 @@ class yaylik : public Form {
   void Hesapla();
   void Goster();
   void ToplamlariGoster();
-  bool SatirAl(int satir);
-  bool SatirSil(int satir);
+  bool HucreAl(int sira, const QString& ad, QString& metin);
+  bool SatirSil(int sira);
+  void KusurGoster(const Kusur& kusur);
   void AlanDegisince(const AlanDenetimi& alan);
   void Yazdir();
   void ExceleGonder();

@@ -13,17 +13,18 @@ namespace {
 using Cikti = AylikBildirge::Cikti;
 using CiktiKarari = AylikBildirge::CiktiKarari;
 
-// Runs `is` on the paper's values; what cannot be told as a value of it is told to the user.
+// Runs `is` on the paper's values.
 template <class Is>
-void KagitIle(EkranBaglami& baglam, AylikBildirge& bildirge, Cikti cikti, Is is) {
-  const CiktiKarari karar = bildirge.KagitKosullari(cikti);
-  if (karar == CiktiKarari::Yok) return;
+Durum KagitIle(EkranBaglami& baglam, AylikBildirge& bildirge, Cikti cikti, Is is) {
+  const auto karar = bildirge.KagitKosullari(cikti);
+  if (!karar) return karar.Kusuru();
+  if (*karar == CiktiKarari::Yok) return Tamam();
   try {
-    is(KagitHazirla(bildirge, baglam.oturum));
+    return is(KagitHazirla(bildirge, baglam.oturum));
   } catch (const MotorHatasi& hata) {
-    baglam.bildirim.Uyari(hata.what());
+    return Kusur{hata.what()};
   } catch (const TutarTasmasi& hata) {
-    baglam.bildirim.Uyari(hata.what());
+    return Kusur{hata.what()};
   }
 }
 
@@ -37,22 +38,24 @@ bool BaskidanOnce(EkranBaglami& baglam, const BildirgeKagidi& kagit, YzcKarar ka
 
 }  // namespace
 
-void BildirgeYazdir(EkranBaglami& baglam, AylikBildirge& bildirge) {
-  KagitIle(baglam, bildirge, Cikti::Kagit, [&](const BildirgeKagidi& kagit) {
+Durum BildirgeYazdir(EkranBaglami& baglam, AylikBildirge& bildirge) {
+  return KagitIle(baglam, bildirge, Cikti::Kagit, [&](const BildirgeKagidi& kagit) {
     BelgeBas(baglam, *BildirgeBelgesi(kagit),
              [&](YzcKarar karar, const YzcAyarlari& ayar) { return BaskidanOnce(baglam, kagit, karar, ayar); });
+    return Tamam();
   });
 }
 
-void BildirgeExceleGonder(EkranBaglami& baglam, AylikBildirge& bildirge) {
-  KagitIle(baglam, bildirge, Cikti::Tablo, [&](const BildirgeKagidi& kagit) {
+Durum BildirgeExceleGonder(EkranBaglami& baglam, AylikBildirge& bildirge) {
+  return KagitIle(baglam, bildirge, Cikti::Tablo, [&](const BildirgeKagidi& kagit) -> Durum {
     const MesgulImlec mesgul;
     auto sablon = TabloSablonu(baglam.oturum);
-    if (!sablon) return baglam.bildirim.Uyari(sablon.KusurMetni());
+    if (!sablon) return sablon.Kusuru();
     const auto tablo = BildirgeTablosuYap(std::move(*sablon), kagit);
-    if (!tablo) return baglam.bildirim.Uyari(tablo.KusurMetni());
+    if (!tablo) return tablo.Kusuru();
     if (!tablo->uyari.empty()) baglam.bildirim.Uyari(tablo->uyari);
     TabloyuAc(baglam, "aylik", tablo->baytlar);
+    return Tamam();
   });
 }
 

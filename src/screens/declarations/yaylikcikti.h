@@ -1,5 +1,5 @@
 // The ways of the monthly declaration to paper and to the spreadsheet, from the screen's commands on. What may not go
-// there is refused by AylikBildirge.
+// there is refused by AylikBildirge; a refusal comes back to be shown at its row.
 #pragma once
 
 #include "declarations/aylikbildirge.h"
@@ -8,9 +8,9 @@
 namespace belvani {
 
 // " Yazıcıya Yazdır": print dialog; the drawn form is first shown, its values to be moved and changed.
-void BildirgeYazdir(EkranBaglami& baglam, AylikBildirge& bildirge);
+Durum BildirgeYazdir(EkranBaglami& baglam, AylikBildirge& bildirge);
 
 // " Excel'e gönderim ": the filled form in the user's spreadsheet program.
-void BildirgeExceleGonder(EkranBaglami& baglam, AylikBildirge& bildirge);
+Durum BildirgeExceleGonder(EkranBaglami& baglam, AylikBildirge& bildirge);
 
 }  // namespace belvani

@@ -1,6 +1,7 @@
 // The monthly declaration by keys: calculated, edited, declared.
 #include "screens/declarations/yaylik.h"
 
+#include <QHeaderView>
 #include <gmock/gmock.h>
 
 #include "core/dosya.h"
@@ -104,6 +105,100 @@ TEST(Yaylik, HesaplaDuzeltBildir) {
   EXPECT_EQ(AlanMetni(form, "sigortali"), "1");
   ortam.Bas(Qt::Key_F5);
   EXPECT_EQ(AlanMetni(form, "sigortali"), "2") << "calculated anew out of the store";
+}
+
+// The columns of all rows by their numbers: "002:30:1500.00".
+std::vector<std::string> Satirlar(const yaylik& form) {
+  std::vector<std::string> satirlar;
+  for (const auto& s : form.Bildirge().Tamami().satirlar)
+    satirlar.push_back(s.sskno + ":" + (s.gun ? std::to_string(*s.gun) : "") + ":" +
+                       (s.primkazanc ? YalinMetin(*s.primkazanc) : ""));
+  return satirlar;
+}
+
+void BasligaTikla(dclist& liste, const char* kolon) {
+  const int sira = liste.Model().KolonBul(QString(kolon));
+  QTest::mouseClick(liste.horizontalHeader()->viewport(), Qt::LeftButton, {},
+                    {liste.horizontalHeader()->sectionViewportPosition(sira) + 5, 5});
+}
+
+// Whatever is done between two edits, each of them reaches the row that it was typed into.
+TEST(Yaylik, DuzeltmeSiralamaVeSilmeyleKaybolmaz) {
+  BildirgeOrtami ortam;
+  ortam.KisiEkle("003", "Ömer", "10000000382", 2000);
+  auto& form = ortam.Ac<yaylik>(ortam.parametreler);
+  ortam.Bas(Qt::Key_F5);
+  auto& liste = *form.findChild<dclist*>("dclist1");
+  liste.setFocus();
+  liste.HucreyeGit(0, "gun");
+  ortam.Yaz("11");  // the cell is still open when the order changes
+  for (int i = 0; i < 2; ++i) BasligaTikla(liste, "primkazanc");
+  EXPECT_EQ(liste.Model().GosterilenSatir(0), 2) << "the largest base first";
+  EXPECT_THAT(Satirlar(form), ElementsAre("34012004001:11:1000", "34012004002:30:1500", "34012004003:30:2000"));
+  EXPECT_EQ(AlanMetni(form, "gun"), "71");
+
+  liste.HucreyeGit(1, "gun");
+  ortam.Yaz("12\n");
+  ortam.Bas(Qt::Key_Escape);
+  liste.setFocus();
+  liste.ChngSat(0);
+  ortam.Bas(Qt::Key_Delete);
+  EXPECT_THAT(Satirlar(form), ElementsAre("34012004002:12:1500", "34012004003:30:2000"));
+  // A new row, begun and left, then one that is filled.
+  ortam.Bas(Qt::Key_Insert);
+  ortam.Bas(Qt::Key_Escape);
+  ortam.Bas(Qt::Key_Up);
+  ortam.Bas(Qt::Key_Insert);
+  ortam.Yaz("1\n777\n");
+  liste.HucreyeGit(1, "gun");
+  ortam.Yaz("13\n");
+  EXPECT_THAT(Satirlar(form), ElementsAre("34012004002:12:1500", "34012004003:13:2000", "777::"));
+  EXPECT_EQ(form.Bildirge().Tamami().satirlar.back().sigkol, 1);
+  EXPECT_TRUE(form.isVisible());
+}
+
+TEST(Yaylik, SayiOlmayanHucresindeReddedilir) {
+  BildirgeOrtami ortam;
+  auto& form = ortam.Ac<yaylik>(ortam.parametreler);
+  ortam.Bas(Qt::Key_F5);
+  auto& liste = *form.findChild<dclist*>("dclist1");
+  liste.setFocus();
+  liste.HucreyeGit(0, "sigkol");
+  ortam.Yaz("x\n");
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: Bir Sayi Girmelisiniz."));
+  ortam.Bas(Qt::Key_Escape);
+  liste.HucreyeGit(0, "girtar");
+  ortam.Yaz("31022009\n");
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: Hatalı Tarih Girildi.\nDüzeltiniz."));
+  ortam.Bas(Qt::Key_Escape);
+  EXPECT_EQ(liste.TextByName(0, "sigkol"), "01");
+  EXPECT_EQ(liste.TextByName(0, "girtar"), "");
+  // To walk through cells that show nothing is no edit, and no reason to add up anew.
+  form.YaziKutusu("saglik").setFocus();
+  ortam.Yaz("1000\n");
+  liste.setFocus();
+  liste.HucreyeGit(0, "ui");
+  ortam.Yaz("\n\n\n\n\n\n");
+  EXPECT_EQ(liste.TextByName(0, "ui"), "0");
+  EXPECT_EQ(AlanMetni(form, "saglik"), "1,000.00");
+}
+
+// The check's fault takes its user to the cell.
+TEST(Yaylik, KusurHucresineGider) {
+  BildirgeOrtami ortam;
+  auto& form = ortam.Ac<yaylik>(ortam.parametreler);
+  ortam.Bas(Qt::Key_F5);
+  auto& liste = *form.findChild<dclist*>("dclist1");
+  liste.setFocus();
+  liste.HucreyeGit(1, "gun");
+  ortam.Yaz("31\n");
+  ortam.Bas(Qt::Key_Escape);
+  form.OdakVer("yil");
+  ortam.Bas(Qt::Key_F11);
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Uyarı: Kazanç Gün 1 il 30 gün arasında olmalı\nŞükrü Gün"));
+  EXPECT_EQ(ortam.Odak(), "dclist1");
+  EXPECT_EQ(liste.CurSat(), 1);
+  EXPECT_EQ(liste.CurrentCol(), liste.Model().KolonBul(u"gun"));
 }
 
 TEST(Yaylik, KagitIcinSecimGerekir) {
