@@ -1,6 +1,8 @@
 // The papers as they are drawn, and those that only screens make: statutory forms, entry declaration, release.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include "altin/kagitlar.h"
 #include "altin/sayfametni.h"
 #include "bol.h"
@@ -102,7 +104,7 @@ inline Kagitlar CizilenListeler() {
 // Document type 01 under one law, or all people together.
 inline BildirgeKagidi BildirgeKagidiYap(OrnekSirket& o, const char* kanun) {
   AylikBildirge bildirge(o.oturum, o.yasal, o.bildirim);
-  bildirge.Ac();
+  EXPECT_TRUE(bildirge.Ac());
   BildirgeSecimi& secim = bildirge.Secim();
   secim.yil = o.donem.yil;
   secim.ay = o.donem.ay;
@@ -111,7 +113,7 @@ inline BildirgeKagidi BildirgeKagidiYap(OrnekSirket& o, const char* kanun) {
     secim.kanun = int(std::ranges::find(kanunlar, kanun) - kanunlar.begin());
     secim.belgeTuru = 1;
   }
-  bildirge.Hesapla();
+  EXPECT_TRUE(bildirge.Hesapla());
   BildirgeKagidi kagit = KagitHazirla(bildirge, o.oturum);
   kagit.arac.kod = "007";
   kagit.arac.isim1 = "Çözgü Taşeronluk";
@@ -170,7 +172,7 @@ inline Ibraname CikisKagidi(OrnekSirket& o) {
                  .firma = FirmaOku(o.oturum),
                  .odemeler = {},
                  .tarih = Tarih(2008, 9, 30),
-                 .paraonda = o.oturum.paraonda};
+                 .paraonda = o.oturum.firma.paraonda};
   // Each cell another amount, so that no two can change places unseen.
   std::int64_t sayac = 0;
   for (OdemeSatiri& satir : kagit.odemeler.satirlar)

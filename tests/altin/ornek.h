@@ -57,7 +57,9 @@ class OrnekSirket {
     return DosyaOku(yol).value();
   }
 
-  BelgeKaynagi Kaynak() { return {.motor = oturum.depo.db.IcMotor(), .yasal = yasal, .paraonda = oturum.paraonda}; }
+  BelgeKaynagi Kaynak() {
+    return {.motor = oturum.depo.db.IcMotor(), .yasal = yasal, .paraonda = oturum.firma.paraonda};
+  }
   DefterSecim Secim(const char* ilk, const char* son) const {
     DefterSecim secim;
     secim.yil = donem.yil;

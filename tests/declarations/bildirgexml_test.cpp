@@ -77,8 +77,8 @@ TEST(BildirgeKontrol, IlkKusurSoylenir) {
     o.boz(d);
     const Kusurlar kusurlar = d.Kontrol();
     EXPECT_EQ(kusurlar.empty() ? "" : kusurlar.front().metin, o.ileti);
-    if (!kusurlar.empty())
-      EXPECT_EQ(kusurlar.front().derece, o.ileti.starts_with("T.C.") ? Derece::Uyari : Derece::Hata) << o.ileti;
+    if (kusurlar.empty()) continue;
+    EXPECT_EQ(kusurlar.front().derece, o.ileti.starts_with("T.C.") ? Derece::Uyari : Derece::Hata) << o.ileti;
   }
 }
 

@@ -238,9 +238,9 @@ bool yaylik::HucreAl(int sira, const QString& ad, QString& metin) {
   const BildirgeKolonu& kolon = *BildirgeKolonuBul(Utf8(ad));
   const BildirgeSatiri* eski = bildirge_.Satir(liste.Kimlik(sira));
   BildirgeSatiri satir = eski != nullptr ? *eski : BildirgeSatiri{};
-  if (metin == Yazi(HucreMetni(satir, kolon, Oturumu().paraonda))) return true;
+  if (metin == Yazi(HucreMetni(satir, kolon, Oturumu().firma.paraonda))) return true;
   Durum alindi = HucreYaz(satir, kolon, Utf8(metin));
-  metin = alindi ? Yazi(HucreMetni(satir, kolon, Oturumu().paraonda)) : metin;
+  metin = alindi ? Yazi(HucreMetni(satir, kolon, Oturumu().firma.paraonda)) : metin;
   if (alindi && eski != nullptr) {
     alindi = bildirge_.SatirYaz(satir);
   } else if (alindi && satir != BildirgeSatiri{}) {
