@@ -31,8 +31,10 @@ test: deps
 # committed: it is what changes on paper.
 altin: deps
 	cmake --preset $(PRESET)
-	cmake --build --preset $(PRESET) --target test_altin -j $(JOBS)
+	cmake --build --preset $(PRESET) --target test_altin test_screens_core -j $(JOBS)
 	BELVANI_ALTIN=yaz build/$(PRESET)/tests/test_altin --gtest_brief=1
+	BELVANI_ALTIN=yaz QT_QPA_PLATFORM=offscreen build/$(PRESET)/tests/test_screens_core --gtest_filter='*IsAsApproved' \
+	  --gtest_brief=1
 	git status --short tests/altin/kayit
 
 # The same tests under the address and undefined-behaviour sanitizers.

@@ -17,6 +17,7 @@ class onizleme : public Form {
   onizleme(EkranBaglami& baglam, std::unique_ptr<CizilenBelge> sayfalar);
 
   int Sayfa() const { return sayfa_; }  // from 1; 0 without pages
+  const CizilenBelge& Sayfalar() const { return *sayfalar_; }
 
  private:
   void SayfayaGit(int no);

@@ -52,7 +52,8 @@ TEST(AltinKayitlari, AreOfPapersThatThereAre) {
   const std::filesystem::path dizin = KayitYolu("");
   std::vector<std::filesystem::path> artanlar;
   for (const auto& dosya : std::filesystem::recursive_directory_iterator(dizin))
-    if (dosya.is_regular_file() && !adlar.contains(dosya.path().lexically_relative(dizin)))
+    if (dosya.is_regular_file() && dosya.path().parent_path().filename() != EkranKayitlari &&
+        !adlar.contains(dosya.path().lexically_relative(dizin)))
       artanlar.push_back(dosya.path());
   if (KayitYazilsin())
     for (const auto& artan : std::exchange(artanlar, {})) std::filesystem::remove(artan);

@@ -51,16 +51,13 @@ inline Kagit GenisDefter(const Ay& ay) {
           }};
 }
 
-// With every line that the print dialog can put above a list; the day of printing is not part of the record.
+// With every line that the print dialog can put above a list.
 inline std::string BaslikliMetin(OrnekSirket& o) {
   const auto belge = DefterBelgesi(o.Kaynak(), o.Secim("", "ZZZZ"), {}, {});
   YzcAyarlari ayar = belge->Ayar();
   ayar.YzcSatir = 33;
   belge->Ayarla(ayar);
-  std::string metin = MetinSayfalari(belge->Metin());
-  const std::string bugun = Tarih::Bugun().Metin();
-  for (std::size_t i; (i = metin.find(bugun)) != std::string::npos;) metin.replace(i, bugun.size(), "gg.aa.yyyy");
-  return metin;
+  return BugunsuzMetin(MetinSayfalari(belge->Metin()));
 }
 
 inline Kagit Izinler(const char* ad, IzinRaporu tip, MetinAraligi kod) {

@@ -13,6 +13,9 @@
 
 namespace belvani::test {
 
+// The directory of papers that only a screen makes; their tests are those of its room.
+constexpr const char* EkranKayitlari = "ekran";
+
 inline std::string KayitYolu(const std::string& ad) {
   return KaynakYolu("tests/altin/kayit/" + ad);
 }

@@ -2,11 +2,13 @@
 //
 // A drawn page has a line for each thing on it, in the order of drawing; millimetres to a tenth, letters in points:
 //
-//   yazı    20.0  15.2  54.3   9.0 K  ÜCRET PUSULASI    left, top, right edge; K bold, E italic, M fixed, S serifs
-//   çizgi   20.0  15.2 190.0  15.2  0.15                both ends, thickness
-//   kutu    20.0  15.2 170.0   8.0  0.15                left, top, width, height, thickness
+//   yazı    20.0  15.2  54.3   9.0 K  ÜCRET PUSULASI   left, top, right edge, size; how it looks (below)
+//   çizgi   20.0  15.2 190.0  15.2  0.15               both ends, thickness
+//   kutu    20.0  15.2 170.0   8.0  0.15               left, top, width, height, thickness
 //   dolu    20.0  15.2 170.0   8.0  #E0E0E0
-//   resim   20.0  15.2  12.0  12.0  8F3A…               the hash of its bytes
+//   resim   20.0  15.2  12.0  12.0  8F3A02C1…          a hash of its bytes
+//
+// K bold, E italic, M fixed width, S with serifs, *0.85 made narrower.
 #pragma once
 
 #include <cmath>
@@ -14,6 +16,7 @@
 #include <locale>
 #include <sstream>
 
+#include "core/tarih.h"
 #include "core/turkce.h"
 #include "printing/cizilenbelge.h"
 #include "printing/formsayfasi.h"
@@ -23,7 +26,10 @@ namespace belvani::test {
 
 class SayfaYazici {
  public:
-  SayfaYazici() { akis_.imbue(std::locale::classic()); }
+  SayfaYazici() {
+    akis_.imbue(std::locale::classic());
+    akis_ << std::fixed;
+  }
 
   void Sayfa(std::size_t no, const KayitSayfasi& sayfa) {
     akis_ << "== sayfa " << no;
@@ -36,11 +42,13 @@ class SayfaYazici {
 
  private:
   // To `hane` decimals. Halves go up whatever the last bits of the sum are, so that a sum in another order is the same.
-  void Olcu(double deger, int hane = 1) {
+  static double Yuvarlak(double deger, int hane) {
     constexpr double toz = 1e-6;
     const double kat = std::pow(10, hane);
-    const double yuvarlak = std::floor(deger * kat + 0.5 + toz) / kat;
-    akis_ << ' ' << std::setw(hane + 4) << std::fixed << std::setprecision(hane) << yuvarlak + 0.0;
+    return std::floor(deger * kat + 0.5 + toz) / kat + 0.0;  // never "-0.0"
+  }
+  void Olcu(double deger, int hane = 1) {
+    akis_ << ' ' << std::setw(hane + 4) << std::setprecision(hane) << Yuvarlak(deger, hane);
   }
 
   void Yer(const char* tur, double x, double y, std::initializer_list<double> olculer) {
@@ -58,10 +66,8 @@ class SayfaYazici {
     if (yazi.durus == YaziDurusu::Egik) akis_ << 'E';
     if (yazi.aile == YaziAilesi::EsEnli) akis_ << 'M';
     if (yazi.aile == YaziAilesi::Tirnakli) akis_ << 'S';
-    if (yazi.genislik != 1) {
-      akis_ << '*';
-      Olcu(yazi.genislik, 2);
-    }
+    if (const double genislik = Yuvarlak(yazi.genislik, 2); genislik != 1)
+      akis_ << '*' << std::setprecision(2) << genislik;
     akis_ << "  " << oge.metin;
   }
 
@@ -132,6 +138,13 @@ inline std::string AlanMetni(const std::vector<FormSayfasi>& sayfalar) {
     metin += "== sayfa\n";
     for (const auto& alan : sayfa.alanlar) metin += alan.ad + " = " + alan.deger + "\n";
   }
+  return metin;
+}
+
+// The day of printing is not part of a record.
+inline std::string BugunsuzMetin(std::string metin) {
+  const std::string bugun = Tarih::Bugun().Metin();
+  for (std::size_t i; (i = metin.find(bugun)) != std::string::npos;) metin.replace(i, bugun.size(), "gg.aa.yyyy");
   return metin;
 }
 

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "core/dosya.h"
-#include "ekran/ortam.h"
+#include "ekran/sirayla.h"
 #include "printing/kolonlar.h"
 #include "ui/basim.h"
 #include "ui/onizleme.h"
@@ -31,21 +31,6 @@ std::shared_ptr<RaporBelgesi> Liste(int satir = 1) {
   YzcAyarlari ayar;
   ayar.YzcBaslik = "LİSTE";
   return std::make_shared<RaporBelgesi>(std::move(rapor), ayar);
-}
-
-// Does a step in each of the windows that come up one after the other.
-void SiraylaYap(std::vector<std::function<void()>> adimlar, int deneme = 400) {
-  if (adimlar.empty()) return;
-  QTimer::singleShot(5, qApp, [adimlar = std::move(adimlar), deneme] {
-    QWidget* modal = QApplication::activeModalWidget();
-    if (modal == nullptr || modal->findChild<Form*>() == nullptr) {
-      ASSERT_GT(deneme, 0) << "no modal window came up";
-      return SiraylaYap(adimlar, deneme - 1);
-    }
-    QApplication::setActiveWindow(modal);
-    adimlar.front()();
-    SiraylaYap({adimlar.begin() + 1, adimlar.end()});
-  });
 }
 
 const auto bas = [](Qt::Key tus) { return [tus] { EkranOrtami::Bas(tus); }; };

@@ -1,15 +1,19 @@
 // The list of companies, the deletion of one, the installation's paths and the upgrade of a store.
+#include "altin/kayit.h"
+#include "altin/kitapmetni.h"
+#include "altin/sayfametni.h"
 #include "core/ayarlar.h"
 #include "core/ortam.h"
 #include "core/session/eskidepo.h"
 #include "core/session/muhasebecibilgi.h"
 #include "core/session/sirket.h"
-#include "ekran/ortam.h"
+#include "ekran/sirayla.h"
 #include "screens/core/Dbupdate.h"
 #include "screens/core/firlist.h"
 #include "screens/core/firsil.h"
 #include "screens/core/muhbil.h"
 #include "screens/core/yapifrm.h"
+#include "ui/onizleme.h"
 
 namespace belvani::test {
 namespace {
@@ -45,6 +49,28 @@ TEST(Firlist, WalksItsRowsFromTheSearchBoxToBothEnds) {
   ortam.Yaz("yok");
   for (const auto tus : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}) ortam.Bas(tus);
   EXPECT_EQ(ortam.Odak(), "aranan");
+}
+
+// On paper and in a spreadsheet.
+TEST(Firlist, IsAsApproved) {
+  EkranOrtami ortam;
+  auto& firma = ortam.oturum.depo.firma;
+  firma.KayitDuzelt();
+  firma.AlanYaz("unvan", std::string("Çınar Şişe ve Cam Sanayi"));
+  ASSERT_TRUE(firma.KayitYaz());
+  std::filesystem::create_directories(ortam.oturum.DataPath + "BOZUK");
+  ortam.Ac<firlist>();
+  ortam.Bas(Qt::Key_F9);
+  ASSERT_EQ(ortam.acilanlar.size(), 1u);
+  EXPECT_TRUE(KayittakiGibi("ekran/firmalar.xlsx.txt", KitapMetni(DosyaOku(ortam.acilanlar[0]).value_or(""))));
+  SiraylaYap({[] { EkranOrtami::Bas(Qt::Key_F6); },
+              [] {
+                const auto& ekran = *QApplication::activeModalWidget()->findChild<onizleme*>();
+                EXPECT_TRUE(KayittakiGibi("ekran/firmalar.cizim.txt", BugunsuzMetin(CizimMetni(ekran.Sayfalar()))));
+                EkranOrtami::Bas(Qt::Key_Escape);
+              },
+              [] { EkranOrtami::Bas(Qt::Key_Escape); }});
+  ortam.Bas(Qt::Key_F8);
 }
 
 TEST(Firsil, DeletesWhatWasChosenAndNothingElse) {
