@@ -20,11 +20,18 @@ class Bildirim {
   void KusuruGoster(const Kusur& kusur) { kusur.derece == Derece::Bilgi ? Bilgi(kusur.metin) : Uyari(kusur.metin); }
 };
 
-// Something long that its caller may show and stop: called with how much of the whole is done; false cancels.
+// Something long that its caller may show and stop.
 class Ilerleme {
  public:
   virtual ~Ilerleme() = default;
+  // How much of the whole is done; a whole of 0: nobody knows. False: the caller wants it stopped.
   virtual bool Adim(std::size_t biten, std::size_t toplam) = 0;
+  // What begins now, in the user's words.
+  virtual void Asama(std::string_view) {}
+  // Before the last stage, the saving: true, and from now on it can no longer be stopped. False: it was stopped before.
+  virtual bool Kesin() { return true; }
+  // It was told to stop.
+  virtual bool Vazgecildi() const { return false; }
 };
 
 }  // namespace belvani

@@ -10,6 +10,7 @@
 namespace belvani {
 namespace {
 
+constexpr const char* YaridaKesildi = "Kontrol yarıda kesildi.";
 constexpr std::size_t TcKimlikHanesi = 11;
 constexpr std::uint8_t Emekli = 1;  // `sicil.sskdurum`
 
@@ -74,11 +75,12 @@ bool KimligeIlerle(Akis<Kimlik>& kimlik, const std::string& kod) {
   return kimlik.Var() && TurkceEsit(kimlik->kod, kod);
 }
 
-std::vector<KontrolSatiri> Denetle(Motor& motor) {
+Sonuc<std::vector<KontrolSatiri>> Denetle(Motor& motor, Ilerleme* ilerleme) {
   std::vector<KontrolSatiri> rapor;
   Akis<Sicil> sicil(motor);
   Akis<Kimlik> kimlik(motor);
   for (kimlik.Ilerle(); sicil.Ilerle();) {
+    if (ilerleme != nullptr && !ilerleme->Adim(0, 0)) return Kusur{.metin = YaridaKesildi, .derece = Derece::Bilgi};
     const auto bildir = [&](const char* sonuc) {
       rapor.push_back({sicil->kod, sicil->adi + " " + sicil->soyadi, sonuc});
     };
@@ -97,11 +99,12 @@ std::vector<KontrolSatiri> Denetle(Motor& motor) {
 
 }  // namespace
 
-Sonuc<std::vector<KontrolSatiri>> KontrolRaporu(Oturum& o) {
+Sonuc<std::vector<KontrolSatiri>> KontrolRaporu(Oturum& o, Ilerleme* ilerleme) {
   using Rapor = Sonuc<std::vector<KontrolSatiri>>;
   const Rapor basarisiz = Kusur{"Personel kayıtları okunamadı"};
-  Rapor rapor = o.depo.db.Koru(basarisiz, [&]() -> Rapor { return Denetle(o.depo.db.IcMotor()); });
-  return rapor ? rapor : Kusur{basarisiz.KusurMetni() + ": " + o.depo.db.SonHata()};
+  Rapor rapor = o.depo.db.Koru(basarisiz, [&]() -> Rapor { return Denetle(o.depo.db.IcMotor(), ilerleme); });
+  if (rapor || rapor.Kusuru().derece == Derece::Bilgi) return rapor;
+  return Kusur{basarisiz.KusurMetni() + ": " + o.depo.db.SonHata()};
 }
 
 }  // namespace belvani

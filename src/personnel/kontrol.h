@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "core/bildirim.h"
 #include "core/session/oturum.h"
 #include "core/sonuc.h"
 
@@ -21,7 +22,8 @@ struct KontrolSatiri {
   bool operator==(const KontrolSatiri&) const = default;
 };
 
-// Never empty: without any fault its one row says "Hata Bulunamadı".
-Sonuc<std::vector<KontrolSatiri>> KontrolRaporu(Oturum& o);
+// Never empty: without any fault its one row says "Hata Bulunamadı". A report that was stopped is a fault of the degree
+// Bilgi.
+Sonuc<std::vector<KontrolSatiri>> KontrolRaporu(Oturum& o, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

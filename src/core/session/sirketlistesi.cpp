@@ -73,9 +73,13 @@ Durum DiziniSil(const std::string& dizin) {
 
 }  // namespace
 
-std::vector<SirketSatiri> SirketListesi(const std::string& dataPath) {
+std::vector<SirketSatiri> SirketListesi(const std::string& dataPath, Ilerleme* ilerleme) {
   std::vector<SirketSatiri> satirlar;
-  for (const auto& ad : Sirketler(dataPath)) satirlar.push_back(SatirOku(DizinSonu(dataPath), ad));
+  const auto adlar = Sirketler(dataPath);
+  for (const auto& ad : adlar) {
+    if (ilerleme != nullptr && !ilerleme->Adim(satirlar.size(), adlar.size())) break;
+    satirlar.push_back(SatirOku(DizinSonu(dataPath), ad));
+  }
   return satirlar;
 }
 

@@ -20,8 +20,8 @@ struct SirketSatiri {
   bool operator==(const SirketSatiri&) const = default;
 };
 
-// Every company below the data path, in Turkish order of the names.
-std::vector<SirketSatiri> SirketListesi(const std::string& dataPath);
+// Every company below the data path, in Turkish order of the names. Stopped by `ilerleme`, those that were read.
+std::vector<SirketSatiri> SirketListesi(const std::string& dataPath, Ilerleme* ilerleme = nullptr);
 
 // Names of the directories that may be deleted: all real ones (no links) but that of the session's company, whose name
 // is compared without regard to Turkish case.

@@ -176,15 +176,24 @@ GuncellemeSonucu VeritabaniGuncelle(Oturum& o, std::size_t adim, Tutar sskTaban,
   return GuncellemeSonucu::Basarisiz;
 }
 
-GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Bildirim& bildirim) {
-  if (std::none_of(isaretli.begin(), isaretli.end(), [](bool b) { return b; })) {
+GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Bildirim& bildirim,
+                               Ilerleme* ilerleme) {
+  const auto adimlar = std::size_t(std::count(isaretli.begin(), isaretli.end(), true));
+  if (adimlar == 0) {
     bildirim.Uyari("İşaretleme Yapılmamış..");
     return GuncellemeSonucu::IsaretYok;
   }
-  for (std::size_t i = 0; i < AdimSayisi; ++i)
-    if (isaretli[i])
-      if (const auto sonuc = VeritabaniGuncelle(o, i, sskTaban, bildirim); sonuc != GuncellemeSonucu::Tamam)
-        return sonuc;
+  // Given up before the first step, it is as if nothing had been ticked.
+  if (ilerleme != nullptr && !ilerleme->Kesin()) return GuncellemeSonucu::IsaretYok;
+  std::size_t biten = 0;
+  for (std::size_t i = 0; i < AdimSayisi; ++i) {
+    if (!isaretli[i]) continue;
+    if (ilerleme != nullptr) {
+      ilerleme->Adim(biten++, adimlar);
+      ilerleme->Asama(AdimBasligi(i));
+    }
+    if (const auto sonuc = VeritabaniGuncelle(o, i, sskTaban, bildirim); sonuc != GuncellemeSonucu::Tamam) return sonuc;
+  }
   // The store is whole without them, only slower: nobody is told when they cannot be made.
   o.depo.db.SorguIndeksleriKur();
   return GuncellemeSonucu::Tamam;

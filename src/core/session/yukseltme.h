@@ -52,7 +52,9 @@ AdimIsaretleri AcikAdimlar(Tek depoVersiyonu);
 // parameters have it now.
 GuncellemeSonucu VeritabaniGuncelle(Oturum& o, std::size_t adim, Tutar sskTaban, Bildirim& bildirim);
 
-// The ticked steps in ascending order, up to the first that fails.
-GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Bildirim& bildirim);
+// The ticked steps in ascending order, up to the first that fails. `ilerleme` only shows them: a chain that stopped in
+// its middle would leave a store that claims to be newer than it is.
+GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Bildirim& bildirim,
+                               Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

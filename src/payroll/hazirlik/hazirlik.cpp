@@ -10,7 +10,7 @@ namespace belvani {
 namespace {
 
 constexpr std::chrono::seconds KilitBekleme{60};  // another mass run is waited for
-constexpr std::size_t IlerlemeAraligi = 256;
+constexpr std::size_t IlerlemeAraligi = 32;       // people
 
 // Kept, not calculated: whatever was typed there stays.
 const std::set<std::string, std::less<>> Dokunulmayan{"gocindir"};
@@ -183,8 +183,10 @@ Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const st
       return true;
     });
     HazirlikSonucu sonuc = is.Bitir();
-    if (sonuc.kaydedildi) islem.Onayla();
     if (ilerleme != nullptr) ilerleme->Adim(toplam, toplam);
+    if (!sonuc.kaydedildi) return sonuc;
+    if (ilerleme != nullptr && !ilerleme->Kesin()) throw Iptal{};
+    islem.Onayla();
     return sonuc;
   } catch (const Iptal&) {
     return Kusur{"Bordro hazırlık iptal edildi, hiçbir kayıt değişmedi"};

@@ -69,6 +69,7 @@ std::string AktarimKusuru(CURL* aktarim, CURLcode kod, const IndirmeSiniri& sini
       {CURLE_COULDNT_RESOLVE_HOST, "sunucu adı bulunamadı"},
       {CURLE_COULDNT_CONNECT, "sunucuya bağlanılamadı"},
       {CURLE_OPERATION_TIMEDOUT, "süre doldu"},
+      {CURLE_ABORTED_BY_CALLBACK, "vazgeçildi"},
       {CURLE_PARTIAL_FILE, "aktarım yarıda kesildi"},
       {CURLE_PEER_FAILED_VERIFICATION, "sunucunun kimliği doğrulanamadı"},
   };
@@ -80,6 +81,26 @@ std::string AktarimKusuru(CURL* aktarim, CURLcode kod, const IndirmeSiniri& sini
   curl_easy_getinfo(aktarim, CURLINFO_RESPONSE_CODE, &durum);
   if (kod == CURLE_HTTP_RETURNED_ERROR) return "sunucu " + std::to_string(durum) + " yanıtını verdi";
   return curl_easy_strerror(kod);
+}
+
+// The transfer step by step, so that it can be given up also while the server is silent.
+CURLcode Aktar(CURL* aktarim, Ilerleme* ilerleme) {
+  constexpr int bekleme = 50;  // ms
+  const std::unique_ptr<CURLM, decltype(&curl_multi_cleanup)> sira(curl_multi_init(), curl_multi_cleanup);
+  if (!sira || curl_multi_add_handle(sira.get(), aktarim) != CURLM_OK) return CURLE_OUT_OF_MEMORY;
+  CURLcode kod = CURLE_OK;
+  for (int suren = 1; suren != 0 && kod == CURLE_OK;) {
+    if (ilerleme != nullptr && !ilerleme->Adim(0, 0))
+      kod = CURLE_ABORTED_BY_CALLBACK;
+    else if (curl_multi_perform(sira.get(), &suren) != CURLM_OK ||
+             (suren != 0 && curl_multi_poll(sira.get(), nullptr, 0, bekleme, nullptr) != CURLM_OK))
+      kod = CURLE_RECV_ERROR;
+  }
+  int kalan = 0;
+  if (const CURLMsg* ileti = curl_multi_info_read(sira.get(), &kalan); kod == CURLE_OK && ileti != nullptr)
+    kod = ileti->data.result;
+  curl_multi_remove_handle(sira.get(), aktarim);
+  return kod;
 }
 
 Sonuc<std::string> AgdanAl(const std::string& url, const std::string& sema, const IndirmeSiniri& sinir) {
@@ -101,7 +122,7 @@ Sonuc<std::string> AgdanAl(const std::string& url, const std::string& sema, cons
   curl_easy_setopt(c, CURLOPT_USERAGENT, "Belvani");
   curl_easy_setopt(c, CURLOPT_WRITEFUNCTION, GovdeyeEkle);
   curl_easy_setopt(c, CURLOPT_WRITEDATA, &govde);
-  if (const CURLcode kod = curl_easy_perform(c); kod != CURLE_OK)
+  if (const CURLcode kod = Aktar(c, sinir.ilerleme); kod != CURLE_OK)
     return IndirmeHatasi(url, AktarimKusuru(c, kod, sinir));
   return govde.baytlar;
 }

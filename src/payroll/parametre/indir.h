@@ -8,6 +8,7 @@
 #include <chrono>
 #include <string>
 
+#include "core/bildirim.h"
 #include "core/sonuc.h"
 #include "payroll/parametre/mevzuat.h"
 
@@ -17,6 +18,7 @@ struct IndirmeSiniri {
   std::chrono::milliseconds baglanti{5'000};
   std::chrono::milliseconds toplam{20'000};
   std::size_t enCokBayt = 1u << 20;
+  Ilerleme* ilerleme = nullptr;  // shows it and stops it
 };
 
 // Fetches an address over a file, byte for byte and unchecked: what it holds shows at the next load.

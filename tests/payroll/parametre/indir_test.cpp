@@ -73,6 +73,22 @@ TEST_F(Indir, AFailureLeavesTheFile) {
   EXPECT_EQ(DosyaSayisi(), 3) << "no remains";
 }
 
+struct UcuncudeVazgecen final : Ilerleme {
+  int adim = 0;
+  bool Adim(std::size_t, std::size_t) override { return ++adim < 3; }
+};
+
+TEST_F(Indir, GivenUpWhileTheServerIsSilent) {
+  Yaz("hedef.dat", "eski");
+  const test::Sunucu sunucu({{"/sessiz", ""}});
+  UcuncudeVazgecen ilerleme;
+  const auto basla = std::chrono::steady_clock::now();
+  EXPECT_THAT(ParametreIndir(sunucu.Kok() + "/sessiz", Yol("hedef.dat"), {.ilerleme = &ilerleme}).KusurMetni(),
+              HasSubstr("vazgeçildi"));
+  EXPECT_LT(std::chrono::steady_clock::now() - basla, 2s) << "not only when the time is over";
+  EXPECT_EQ(Oku("hedef.dat"), "eski");
+}
+
 TEST_F(Indir, TheSettingNamesTheServer) {
   ASSERT_TRUE(MakineAyariYaz("ParametreAdresi", "http://sunucu.ornek/p// "));
   EXPECT_EQ(*ParametreAdresi(2009, 7), "http://sunucu.ornek/p");
