@@ -1,6 +1,7 @@
 #include "app/program.h"
 
 #include <QEventLoop>
+#include <QTimer>
 
 #include "app/gosterici.h"
 #include "app/yardim.h"
@@ -41,10 +42,13 @@ class Program {
     QEventLoop dongu;
     QObject::connect(&pencere, &anamenu::Kapandi, &dongu, &QEventLoop::quit);
     pencere.showMaximized();
-    QCoreApplication::processEvents();
-    const bool devam = VersiyonKontrol(oturum_, bildirim_) ||
-                       VeritabaniGuncelleGoster(ekran_, parametreler_) != GuncellemeSonucu::ProgramBitsin;
-    if (devam && pencere.isVisible()) dongu.exec();
+    bool devam = true;
+    QTimer::singleShot(0, &pencere, [&] {  // with the window behind its messages
+      devam = VersiyonKontrol(oturum_, bildirim_) ||
+              VeritabaniGuncelleGoster(ekran_, parametreler_) != GuncellemeSonucu::ProgramBitsin;
+      if (!devam) dongu.quit();
+    });
+    dongu.exec();
     pencere.EkranlariKapat();
     gosterici_.pencere = nullptr;
     return devam && pencere.FirmaDegissinMi();

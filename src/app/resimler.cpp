@@ -20,9 +20,12 @@
 #include "ui/pencere.h"
 #include "ui/sistembaskisi.h"
 #include "ui/stil.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 namespace {
+
+constexpr int EkranSuresi = 50;  // ms, for a screen to come to rest
 
 // Messages go to the terminal; every question is answered with no.
 class MetinBildirimi final : public Bildirim {
@@ -111,7 +114,7 @@ class Resimler {
   }
 
   void Kaydet(QWidget& parca, const QString& kelime) {
-    QCoreApplication::processEvents();
+    OlaylariIsle(EkranSuresi);
     parca.grab().save(arg_[5] + "/" + kelime + ".png");
   }
 
@@ -126,7 +129,7 @@ class Resimler {
                        tusMu ? dizi[0].keyboardModifiers() : Qt::KeyboardModifiers(),
                        tusMu ? QString() : QString(harf));
         QCoreApplication::sendEvent(odak, &olay);
-        QCoreApplication::processEvents();
+        OlaylariIsle(EkranSuresi);
       }
     }
   }
@@ -134,7 +137,7 @@ class Resimler {
   void EkranResmi(anamenu& pencere, const EkranKaydi& kayit) {
     oturum_.PencereTip = kayit.pencereTip;
     pencere.SerbestGoster(kayit.yap({ekran_, parametreler_}));
-    QCoreApplication::processEvents();
+    OlaylariIsle(EkranSuresi);
     for (const Doldurma& d : Doldurmalar)
       if (kayit.kelime == d.kelime) Bas(d.tuslar);
     Kaydet(*pencere.findChild<QMdiArea*>()->activeSubWindow(), Yazi(kayit.kelime));

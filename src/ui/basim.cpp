@@ -7,11 +7,10 @@
 
 #include "core/dosya.h"
 #include "printing/excelkont.h"
-#include "ui/bildirimkutusu.h"
-#include "ui/mesgul.h"
 #include "ui/metin.h"
 #include "ui/onizleme.h"
 #include "ui/perekr.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 namespace {
@@ -50,21 +49,25 @@ bool Kaydet(EkranBaglami& baglam, const std::string& yol, std::string_view baytl
 // Each returns whether the dialog has done its work and stays away.
 
 bool Yazdir(EkranBaglami& baglam, const Belge& belge) {
-  IlerlemeKutusu ilerleme(QStringLiteral("Yazdırılıyor…"), baglam.gosterici.ModalUst());
-  const auto sonuc = BelgeYazdir(belge, baglam.baski, baglam.bildirim, &ilerleme);
-  if (!sonuc) {
-    baglam.bildirim.Uyari(sonuc.KusurMetni());
+  const auto sonuc = UzunIs(baglam, QStringLiteral("Yazdırılıyor…"), [&](Ilerleme& ilerleme) {
+    return BelgeYazdir(belge, baglam.baski, baglam.bildirim, &ilerleme);
+  });
+  if (!sonuc) return false;
+  if (!*sonuc) {
+    baglam.bildirim.Uyari(sonuc->KusurMetni());
     return false;
   }
-  if (!sonuc->uyari.empty()) baglam.bildirim.Uyari(sonuc->uyari);
+  if (const std::string& uyari = (*sonuc)->uyari; !uyari.empty()) baglam.bildirim.Uyari(uyari);
   return true;
 }
 
 bool PdfKaydet(EkranBaglami& baglam, const Belge& belge) {
   const auto yol = DosyaSor(baglam, belge.Baslik(), PdfFiltresi, ".pdf");
   if (!yol) return false;
-  IlerlemeKutusu ilerleme(QStringLiteral("PDF hazırlanıyor…"), baglam.gosterici.ModalUst());
-  const auto pdf = BelgePdf(belge, &ilerleme);
+  const auto yapilan = UzunIs(baglam, QStringLiteral("PDF hazırlanıyor…"),
+                              [&](Ilerleme& ilerleme) { return BelgePdf(belge, &ilerleme); });
+  if (!yapilan) return false;
+  const Sonuc<PdfCiktisi>& pdf = *yapilan;
   if (!pdf) baglam.bildirim.Uyari(pdf.KusurMetni());
   if (!pdf || pdf->baytlar.empty() || !Kaydet(baglam, *yol, pdf->baytlar)) return false;
   if (!pdf->uyari.empty()) baglam.bildirim.Uyari(pdf->uyari);
@@ -73,7 +76,10 @@ bool PdfKaydet(EkranBaglami& baglam, const Belge& belge) {
 
 bool MetinKaydet(EkranBaglami& baglam, const Belge& belge) {
   const auto yol = DosyaSor(baglam, belge.Baslik(), MetinFiltresi, ".prn");
-  if (!yol || !Kaydet(baglam, *yol, BelgeHam(belge))) return false;
+  if (!yol) return false;
+  const auto baytlar =
+      UzunIs(baglam, QStringLiteral("Dosya hazırlanıyor…"), [&](Ilerleme&) { return BelgeHam(belge); });
+  if (!baytlar || !Kaydet(baglam, *yol, *baytlar)) return false;
   if (const std::string uyari = belge.MetinUyarisi(); !uyari.empty()) baglam.bildirim.Uyari(uyari);
   return true;
 }
@@ -81,7 +87,9 @@ bool MetinKaydet(EkranBaglami& baglam, const Belge& belge) {
 bool Onizle(EkranBaglami& baglam, const Belge& belge) {
   const std::string uyari = belge.Ayar().YzcDosMod ? belge.MetinUyarisi() : std::string();
   if (!uyari.empty()) baglam.bildirim.Uyari(uyari);
-  FormGoster(baglam, std::make_unique<onizleme>(baglam, BelgeSayfalari(belge)), FormModu::Modal);
+  auto sayfalar =
+      UzunIs(baglam, QStringLiteral("Sayfalar hazırlanıyor…"), [&](Ilerleme&) { return BelgeSayfalari(belge); });
+  if (sayfalar) FormGoster(baglam, std::make_unique<onizleme>(baglam, std::move(*sayfalar)), FormModu::Modal);
   return false;
 }
 
@@ -131,12 +139,10 @@ void BelgeBas(EkranBaglami& baglam, Belge& belge, const BasimSozu& once) {
 }
 
 void BelgeExceleGonder(EkranBaglami& baglam, const Belge& belge) {
-  Sonuc<std::string> baytlar = [&] {
-    const MesgulImlec mesgul;
-    return belge.Xlsx();
-  }();
-  if (!baytlar) return baglam.bildirim.Uyari(baytlar.KusurMetni());
-  TabloyuAc(baglam, belge.Baslik(), *baytlar);
+  const auto baytlar = UzunIs(baglam, QStringLiteral("Tablo hazırlanıyor…"), [&](Ilerleme&) { return belge.Xlsx(); });
+  if (!baytlar) return;
+  if (!*baytlar) return baglam.bildirim.Uyari(baytlar->KusurMetni());
+  TabloyuAc(baglam, belge.Baslik(), **baytlar);
 }
 
 void TabloyuAc(EkranBaglami& baglam, const std::string& ad, const std::string& baytlar) {

@@ -12,12 +12,26 @@
 namespace belvani {
 namespace {
 
-constexpr int GostermeGecikmesi = 400;  // ms
-constexpr int AdimAraligi = 40;         // ms between two looks at the box
+// An ordinary cursor while a message stands in the middle of slow work.
+class OlaganImlec {
+ public:
+  OlaganImlec() : mesgul_(QApplication::overrideCursor() != nullptr) {
+    if (mesgul_) QApplication::setOverrideCursor(Qt::ArrowCursor);
+  }
+  ~OlaganImlec() {
+    if (mesgul_) QApplication::restoreOverrideCursor();
+  }
+  OlaganImlec(const OlaganImlec&) = delete;
+  OlaganImlec& operator=(const OlaganImlec&) = delete;
+
+ private:
+  const bool mesgul_;
+};
 
 int Goster(QMessageBox::Icon simge, std::string_view metin, QMessageBox::StandardButtons dugmeler) {
   QMessageBox kutu(simge, QStringLiteral("Belvani"), Yazi(metin), dugmeler, QApplication::activeWindow());
   kutu.setTextFormat(Qt::PlainText);
+  const OlaganImlec imlec;
   return kutu.exec();
 }
 
@@ -50,22 +64,6 @@ void BildirimKutusu::Uyari(std::string_view metin) {
 
 bool BildirimKutusu::Soru(std::string_view metin) {
   return Goster(QMessageBox::Question, metin, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
-}
-
-IlerlemeKutusu::IlerlemeKutusu(const QString& is, QWidget* ust) : kutu_(is, QStringLiteral("Vazgeç"), 0, 100, ust) {
-  kutu_.setWindowTitle(QStringLiteral("Belvani"));
-  kutu_.setWindowModality(Qt::ApplicationModal);
-  kutu_.setMinimumDuration(GostermeGecikmesi);
-  kutu_.setAutoClose(false);
-}
-
-bool IlerlemeKutusu::Adim(std::size_t biten, std::size_t toplam) {
-  if (biten != toplam && gecen_.isValid() && gecen_.elapsed() < AdimAraligi) return true;
-  gecen_.start();
-  kutu_.setMaximum(int(toplam));
-  kutu_.setValue(int(biten));
-  QApplication::processEvents();
-  return !kutu_.wasCanceled();
 }
 
 std::optional<std::string> SistemDialoglari::DosyaAc(const std::string& baslik, const std::string& dizin,

@@ -1,8 +1,5 @@
-// Message boxes titled "Belvani", and the box that shows how far a long work has come.
+// Message boxes titled "Belvani", and the platform's dialogs.
 #pragma once
-
-#include <QElapsedTimer>
-#include <QProgressDialog>
 
 #include "core/bildirim.h"
 #include "ui/ekran.h"
@@ -14,17 +11,6 @@ class BildirimKutusu final : public Bildirim {
   void Bilgi(std::string_view metin) override;
   void Uyari(std::string_view metin) override;
   bool Soru(std::string_view metin) override;
-};
-
-// Appears when the work takes longer than a blink; Esc or "Vazgeç" cancels.
-class IlerlemeKutusu final : public Ilerleme {
- public:
-  IlerlemeKutusu(const QString& is, QWidget* ust);
-  bool Adim(std::size_t biten, std::size_t toplam) override;
-
- private:
-  QProgressDialog kutu_;
-  QElapsedTimer gecen_;
 };
 
 // The platform's own dialogs.

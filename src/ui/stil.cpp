@@ -178,7 +178,7 @@ QLabel#ipucu, QLabel[soluk="true"] { color: @SolukYazi; }
 QLabel[hata="true"] { background: @HataArka; color: @HataText; border-radius: 4px; padding: 4px 8px; }
 QLabel[toplam="true"], QLineEdit[toplam="true"] { background: @ToplamArka; color: @ToplamText; font-weight: bold; }
 QLabel[baslik="true"] { color: @Vurgu; font-weight: bold; }
-QFrame#kart { background: @PencereArka; border: 1px solid @Cerceve; border-radius: 10px; }
+QFrame#kart, QFrame#ilerleme { background: @PencereArka; border: 1px solid @Cerceve; border-radius: 10px; }
 QStatusBar { background: @MenuArka; color: @MenuText; }
 )";
 

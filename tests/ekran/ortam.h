@@ -160,12 +160,20 @@ class EkranOrtami : public EkranParcalari {
     const QWidget* odak = QApplication::focusWidget();
     return odak == nullptr ? "" : odak->objectName().toStdString();
   }
-  // Runs `is` inside the next modal window that opens.
+  // Runs `is` inside the next modal window that opens; slow work before it turns the event loop as well.
   static void ModaldaYap(std::function<void()> is) {
-    QTimer::singleShot(0, qApp, [is = std::move(is)] {
-      ASSERT_NE(QApplication::activeModalWidget(), nullptr) << "no modal window came up";
-      QApplication::setActiveWindow(QApplication::activeModalWidget());
+    ModaliBekle(std::move(is), QApplication::activeModalWidget(), 400);
+  }
+
+ private:
+  static void ModaliBekle(std::function<void()> is, const QWidget* onceki, int deneme) {
+    QTimer::singleShot(deneme == 400 ? 0 : 5, qApp, [is = std::move(is), onceki, deneme] {
       QWidget* modal = QApplication::activeModalWidget();
+      if (modal == nullptr || modal == onceki) {
+        ASSERT_GT(deneme, 0) << "no modal window came up";
+        return ModaliBekle(is, onceki, deneme - 1);
+      }
+      QApplication::setActiveWindow(modal);
       is();
       if (modal != QApplication::activeModalWidget()) return;
       ADD_FAILURE() << "the modal window was not left";

@@ -164,8 +164,8 @@ class BordroGirisi {
   bool KayitSil();
   // Ctrl+F7: all records of the month.
   bool AyinBordrosunuSil();
-  // The "Puantaj " button with the template: everybody's month, without a question. True: the screen closes.
-  bool SablondanHazirla(Ilerleme* ilerleme = nullptr);
+  // The "Puantaj " button with the template: everybody's month, without a question or a message.
+  belvani::Sonuc<HazirlikSonucu> SablondanHazirla(Ilerleme* ilerleme = nullptr);
 
   Hal Durumu() const { return hal_; }
   const std::string& Kod() const { return kod_; }

@@ -129,15 +129,10 @@ bool BordroGirisi::AyinBordrosunuSil() {
   return true;
 }
 
-bool BordroGirisi::SablondanHazirla(Ilerleme* ilerleme) {
+belvani::Sonuc<HazirlikSonucu> BordroGirisi::SablondanHazirla(Ilerleme* ilerleme) {
   ParametreleriTazele();
   EkranTemizle();
-  if (const auto sonuc = TopluHazirla(o_, kosullar_, {}, ilerleme); !sonuc) {
-    bildirim_.Uyari(sonuc.KusurMetni());
-    return false;
-  }
-  bildirim_.Bilgi("Bordro Hazırlık Tamamlandı");
-  return true;
+  return TopluHazirla(o_, kosullar_, {}, ilerleme);
 }
 
 }  // namespace belvani

@@ -4,8 +4,8 @@
 #include <QGroupBox>
 #include <QShowEvent>
 
-#include "ui/mesgul.h"
 #include "ui/metin.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 
@@ -81,10 +81,11 @@ void Dbupdate::HepsiniAc() {
 void Dbupdate::Calistir() {
   AdimIsaretleri isaretli{};
   for (std::size_t i = 0; i < AdimSayisi; ++i) isaretli[i] = kutular_[i]->isChecked();
-  {
-    const MesgulImlec mesgul;
-    sonuc_ = AdimlariYurut(Oturumu(), isaretli, parametreler_.yasal.oranlar.SskTaban, Bildirimi());
-  }
+  const auto sonuc = UzunIs(Baglam(), QStringLiteral("Database güncelleniyor…"), [&](Ilerleme& ilerleme) {
+    return AdimlariYurut(Oturumu(), isaretli, parametreler_.yasal.oranlar.SskTaban, Bildirimi(), &ilerleme);
+  });
+  if (!sonuc) return;
+  sonuc_ = *sonuc;
   if (sonuc_ != GuncellemeSonucu::IsaretYok) Kapat();
 }
 

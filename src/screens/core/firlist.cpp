@@ -6,8 +6,8 @@
 #include "core/session/sirketlistesi.h"
 #include "printing/kolonlar.h"
 #include "ui/basim.h"
-#include "ui/mesgul.h"
 #include "ui/metin.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 namespace {
@@ -20,15 +20,30 @@ const Kolonlar<SirketSatiri> kolonlar{
     {"Dönem", 8, [](auto& s) { return s.donem; }},
 };
 
-RaporBelgesi ListeBelgesi(const std::string& dataPath) {
-  Rapor rapor = RaporYap(kolonlar, SirketListesi(dataPath), 2);
+// Empty: stopped, which was told, for half a list would pass for the whole.
+std::optional<std::vector<SirketSatiri>> ListeyiOku(EkranBaglami& baglam) {
+  bool yarida = false;
+  auto liste = UzunIs(baglam, QStringLiteral("Firmalar okunuyor…"), [&](Ilerleme& ilerleme) {
+    auto satirlar = SirketListesi(baglam.oturum.DataPath, &ilerleme);
+    yarida = ilerleme.Vazgecildi();
+    return satirlar;
+  });
+  if (!yarida) return liste;
+  baglam.bildirim.Bilgi("Firma listesinin okunması yarıda kesildi.");
+  return std::nullopt;
+}
+
+std::optional<RaporBelgesi> ListeBelgesi(EkranBaglami& baglam) {
+  const auto liste = ListeyiOku(baglam);
+  if (!liste) return std::nullopt;
+  Rapor rapor = RaporYap(kolonlar, *liste, 2);
   rapor.baslik = rapor.ekranBasligi = ListeBasligi;
   YzcAyarlari ayar;
   ayar.YzcBaslik = ListeBasligi;
   ayar.YzcSirketYaz = false;
   GrafikDuzeni grafik;
   grafik.punto = 9;
-  return {std::move(rapor), ayar, grafik};
+  return RaporBelgesi(std::move(rapor), ayar, grafik);
 }
 
 }  // namespace
@@ -65,19 +80,20 @@ void firlist::SeciciYap() {
 
 void firlist::CiktiKomutlari() {
   DugmeEkle(Qt::Key_F8, QStringLiteral("Yazdır"), "yazici", [this] {
-    RaporBelgesi belge = ListeBelgesi(Oturumu().DataPath);
-    BelgeBas(Baglam(), belge);
+    if (auto belge = ListeBelgesi(Baglam())) BelgeBas(Baglam(), *belge);
   });
-  DugmeEkle(Qt::Key_F9, QStringLiteral("Excel'e Gönder"), "tablo",
-            [this] { BelgeExceleGonder(Baglam(), ListeBelgesi(Oturumu().DataPath)); });
+  DugmeEkle(Qt::Key_F9, QStringLiteral("Excel'e Gönder"), "tablo", [this] {
+    if (const auto belge = ListeBelgesi(Baglam())) BelgeExceleGonder(Baglam(), *belge);
+  });
 }
 
 void firlist::ListeyiDoldur() {
   const std::string simdiki = Oturumu().SeciliKod;
-  const MesgulImlec mesgul;
+  const auto sirketler = ListeyiOku(Baglam());
+  if (!sirketler) return;
   dclistModel& model = liste_->Model();
   model.TopluBasla();
-  for (const SirketSatiri& sirket : SirketListesi(Oturumu().DataPath)) {
+  for (const SirketSatiri& sirket : *sirketler) {
     const int satir = liste_->Add();
     liste_->TextByName(satir, "kod", Yazi(sirket.ad));
     liste_->TextByName(satir, "unvan", Yazi(sirket.unvan));

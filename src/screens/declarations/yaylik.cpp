@@ -6,7 +6,7 @@
 
 #include "screens/declarations/intefrm.h"
 #include "screens/declarations/yaylikcikti.h"
-#include "ui/mesgul.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 namespace {
@@ -199,12 +199,11 @@ void yaylik::Hesapla() {
   if (!Oku(form)) return;
   BildirgeSecimi& secim = bildirge_.Secim();
   secim = {form.yil, form.ay, form.belgeTuru, form.kanun, BelgeMahiyeti(form.mahiyet)};
-  const Durum hesaplandi = [&] {
-    const MesgulImlec mesgul;
-    return bildirge_.Hesapla();
-  }();
+  const auto hesaplandi =
+      UzunIs(Baglam(), QStringLiteral("Bildirge hesaplanıyor…"), [this](Ilerleme&) { return bildirge_.Hesapla(); });
+  if (!hesaplandi) return;
   Goster();
-  if (!hesaplandi) Bildir(hesaplandi.Kusuru());
+  if (!*hesaplandi) Bildir(hesaplandi->Kusuru());
 }
 
 void yaylik::Goster() {
@@ -281,7 +280,10 @@ void yaylik::EBildirge() {
   if (*karar == AylikBildirge::Karar::Vazgecildi) return;
   const auto dosya = Baglam().dialoglar.DosyaKaydet("E-Bildirge Hazırlığı", bildirge_.XmlYolu(), "XML (*.xml)|*.xml");
   if (!dosya) return;
-  const auto yazildi = bildirge_.XmlYaz(*dosya);
+  const auto yazim =
+      UzunIs(Baglam(), QStringLiteral("E-Bildirge hazırlanıyor…"), [&](Ilerleme&) { return bildirge_.XmlYaz(*dosya); });
+  if (!yazim) return;
+  const auto& yazildi = *yazim;
   if (!yazildi) return KusurGoster(yazildi.Kusuru());
   if (*yazildi == AylikBildirge::Karar::Devam && Bildirimi().Soru(AylikBildirge::GonderimSorusu))
     FormGoster(Baglam(), std::make_unique<intefrm>(Baglam(), *dosya));

@@ -5,7 +5,7 @@
 #include "declarations/formresimleri.h"
 #include "screens/declarations/yzckopy.h"
 #include "ui/basim.h"
-#include "ui/mesgul.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 namespace {
@@ -48,10 +48,14 @@ Durum BildirgeYazdir(EkranBaglami& baglam, AylikBildirge& bildirge) {
 
 Durum BildirgeExceleGonder(EkranBaglami& baglam, AylikBildirge& bildirge) {
   return KagitIle(baglam, bildirge, Cikti::Tablo, [&](const BildirgeKagidi& kagit) -> Durum {
-    const MesgulImlec mesgul;
-    auto sablon = TabloSablonu(baglam.oturum);
-    if (!sablon) return sablon.Kusuru();
-    const auto tablo = BildirgeTablosuYap(std::move(*sablon), kagit);
+    const auto yapilan =
+        UzunIs(baglam, QStringLiteral("Tablo hazırlanıyor…"), [&](Ilerleme&) -> Sonuc<BildirgeTablosu> {
+          auto sablon = TabloSablonu(baglam.oturum);
+          if (!sablon) return sablon.Kusuru();
+          return BildirgeTablosuYap(std::move(*sablon), kagit);
+        });
+    if (!yapilan) return Tamam();
+    const auto& tablo = *yapilan;
     if (!tablo) return tablo.Kusuru();
     if (!tablo->uyari.empty()) baglam.bildirim.Uyari(tablo->uyari);
     TabloyuAc(baglam, "aylik", tablo->baytlar);

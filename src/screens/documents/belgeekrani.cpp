@@ -4,9 +4,9 @@
 
 #include "core/tables/sicil.h"
 #include "ui/basim.h"
-#include "ui/mesgul.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 namespace {
@@ -109,8 +109,8 @@ BelgeKaynagi BelgeEkrani::Kaynak() const {
 
 std::unique_ptr<Belge> BelgeEkrani::Hazirla() {
   try {
-    const MesgulImlec mesgul;
-    return BelgeYap();
+    auto belge = UzunIs(Baglam(), QStringLiteral("Liste hazırlanıyor…"), [this](Ilerleme&) { return BelgeYap(); });
+    return belge ? std::move(*belge) : nullptr;
   } catch (const MotorHatasi& hata) {
     Bildirimi().Uyari(hata.what());
   } catch (const TutarTasmasi& hata) {

@@ -6,9 +6,9 @@
 
 #include "screens/payroll/brckes.h"
 #include "screens/payroll/brdhaziralanlar.h"
-#include "ui/bildirimkutusu.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 namespace {
@@ -351,8 +351,14 @@ void brdhazir::BordroNoDoldur() {
 
 void brdhazir::TopluHazirla() {
   if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan)) return;
-  IlerlemeKutusu ilerleme(QStringLiteral("Bordro hazırlanıyor…"), this);
-  if (giris_.SablondanHazirla(&ilerleme)) return Kapat();
+  const auto sonuc = UzunIs(Baglam(), QStringLiteral("Bordro hazırlanıyor…"),
+                            [this](Ilerleme& ilerleme) { return giris_.SablondanHazirla(&ilerleme); });
+  if (!sonuc) return;
+  if (*sonuc) {
+    Bildirimi().Bilgi("Bordro Hazırlık Tamamlandı");
+    return Kapat();
+  }
+  Bildirimi().Uyari(sonuc->KusurMetni());
   Goster();
   KodaDon();
 }

@@ -1,8 +1,8 @@
 #include "screens/payroll/parametreekrani.h"
 
 #include "core/turkce.h"
-#include "ui/mesgul.h"
 #include "ui/metin.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 ParametreEkrani::ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, const QString& kelime,
@@ -13,11 +13,15 @@ ParametreEkrani::ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametr
 
 void ParametreEkrani::IndirDugmesi(ParametreDosyasi dosya, std::function<void()> goster) {
   DugmeEkle(QStringLiteral("Parametre İndir"), QStringLiteral("indir"), [this, dosya, goster = std::move(goster)] {
-    const Durum durum = [&] {
-      const MesgulImlec mesgul;
-      return parametreler_.DosyaIndir(Oturumu(), dosya);
-    }();
-    if (!durum) return Bildirimi().Uyari("Parametre Bulunamadı..");
+    bool vazgecildi = false;
+    const auto durum = UzunIs(Baglam(), QStringLiteral("Parametre indiriliyor…"), [&](Ilerleme& ilerleme) {
+      Durum indirme = parametreler_.DosyaIndir(Oturumu(), dosya, {.ilerleme = &ilerleme});
+      vazgecildi = ilerleme.Vazgecildi();
+      return indirme;
+    });
+    if (!durum) return;
+    if (vazgecildi) return Bildirimi().Bilgi("Parametre indirmeden vazgeçildi, hiçbir şey değişmedi.");
+    if (!*durum) return Bildirimi().Uyari("Parametre Bulunamadı..");
     Bildirimi().Bilgi("Parametre İndirildi..");
     goster();
   });

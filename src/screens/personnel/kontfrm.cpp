@@ -5,6 +5,7 @@
 
 #include "personnel/kontrol.h"
 #include "ui/metin.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 
@@ -27,8 +28,11 @@ kontfrm::kontfrm(EkranBaglami& baglam)
 }
 
 void kontfrm::Doldur() {
-  const auto rapor = KontrolRaporu(Oturumu());
-  if (!rapor) return Bildirimi().Uyari(rapor.KusurMetni());
+  const auto kontrol = UzunIs(Baglam(), QStringLiteral("Personel kayıtları kontrol ediliyor…"),
+                              [this](Ilerleme& ilerleme) { return KontrolRaporu(Oturumu(), &ilerleme); });
+  if (!kontrol) return;
+  const auto& rapor = *kontrol;
+  if (!rapor) return Bildirimi().KusuruGoster(rapor.Kusuru());
   liste_->Model().TopluBasla();
   for (const KontrolSatiri& kusur : *rapor) {
     const int satir = liste_->Add();

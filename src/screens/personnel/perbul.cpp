@@ -4,29 +4,14 @@
 
 #include "core/turkce.h"
 #include "personnel/firmalardaara.h"
-#include "ui/bildirimkutusu.h"
 #include "ui/metin.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 namespace {
 
 struct Aranan {
   std::string adsoy;
-};
-
-// The box looks at every 64th step; companies are few, and each may take its time.
-class SirketIlerlemesi final : public Ilerleme {
- public:
-  explicit SirketIlerlemesi(QWidget* ust) : kutu_(QStringLiteral("Şirketlerde aranıyor…"), ust) {}
-  bool Adim(std::size_t biten, std::size_t toplam) override {
-    kesildi_ = !kutu_.Adim(biten * 64, toplam * 64);
-    return !kesildi_;
-  }
-  bool Kesildi() const { return kesildi_; }
-
- private:
-  IlerlemeKutusu kutu_;
-  bool kesildi_ = false;
 };
 
 }  // namespace
@@ -59,8 +44,14 @@ perbul::perbul(EkranBaglami& baglam)
 void perbul::Ara() {
   Aranan aranan;
   if (!liste_->isEnabled() || !Oku(aranan)) return;
-  SirketIlerlemesi ilerleme(this);
-  const auto bulunanlar = FirmalardaAra(Oturumu().DataPath, aranan.adsoy, ilerleme);
+  bool yarida = false;
+  const auto bulunan = UzunIs(Baglam(), QStringLiteral("Şirketlerde aranıyor…"), [&](Ilerleme& ilerleme) {
+    auto kisiler = FirmalardaAra(Oturumu().DataPath, aranan.adsoy, ilerleme);
+    yarida = ilerleme.Vazgecildi();
+    return kisiler;
+  });
+  if (!bulunan) return;
+  const std::vector<BulunanKisi>& bulunanlar = *bulunan;
   liste_->Model().TopluBasla();
   liste_->Clear();
   for (const BulunanKisi& kisi : bulunanlar) {
@@ -72,7 +63,7 @@ void perbul::Ara() {
   liste_->Model().TopluBitir();
   const QString sayi = bulunanlar.empty() ? QStringLiteral("Kayıt bulunamadı.")
                                           : QString::number(bulunanlar.size()) + QStringLiteral(" kayıt bulundu.");
-  sonuc_->setText(ilerleme.Kesildi() ? sayi + QStringLiteral(" Arama yarıda kesildi.") : sayi);
+  sonuc_->setText(yarida ? sayi + QStringLiteral(" Arama yarıda kesildi.") : sayi);
   liste_->ChngSat(0);
   if (!bulunanlar.empty()) liste_->setFocus();
 }
