@@ -2,13 +2,15 @@
 
 #include "core/sayi.h"
 #include "core/turkce.h"
-#include "declarations/formmetni.h"
-#include "declarations/kagitparcalari.h"
+#include "isyeri/isyerinumarasi.h"
+#include "isyeri/taraflar.h"
+#include "printing/form/formmetni.h"
+#include "printing/form/satirliform.h"
 
 namespace belvani {
 namespace {
 
-// Millimetres across the page; down it, lines (kagitparcalari.h).
+// Millimetres across the page; down it, lines (satirliform.h).
 constexpr double En = A4(KagitYonu::Yatay).en - 2 * KagitSolu;
 constexpr double BelgeEni = 66;
 constexpr double SolEni = En - BelgeEni;
@@ -17,9 +19,9 @@ constexpr int BelgeSatiri = 9;
 constexpr double NumaraX = KagitSolu + 4;
 constexpr double IsaretBoyu = 3.6;
 
-const std::vector<KagitKolonu>& Kolonlar() {
+const std::vector<FormKolonu>& Kolonlar() {
   using enum MetinHizasi;
-  static const std::vector<KagitKolonu> kolonlar{
+  static const std::vector<FormKolonu> kolonlar{
       {9, "Sıra", "", "sira", Sag},
       {8, "Deği-", "şiklik", "degisiklik", Orta},
       {25, "Sigorta Sicil No", "", "sskno"},
@@ -71,9 +73,8 @@ void Mahiyet(FormKurucu& f, int satir, BelgeMahiyeti secilen) {
 
 void BelgeKutusu(FormKurucu& f, int satir, const BildirgeKagidi& kagit, const KagitSayfasi& sayfa, int sayfaSayisi) {
   constexpr double yari = BelgeEni / 2;
-  const Dikdortgen ust = SatirYeri(BelgeX, satir, BelgeEni, 2);
-  f.Kutu(ust);
-  Baslik(f, ust, sayfa.no == 1 ? "EK : 3" : "EK : 3- DEVAM SAYFASI", sayfa.no == 1 ? 11 : 10);
+  f.Bolum(SatirYeri(BelgeX, satir, BelgeEni, 2), sayfa.no == 1 ? "EK : 3" : "EK : 3- DEVAM SAYFASI",
+          sayfa.no == 1 ? 11 : 10);
   satir = Kutucuklar(f, BelgeX, satir + 2,
                      {{yari, "Yıl", 12, "yil", std::to_string(kagit.yil)}, {yari, "Ay", 12, "ay", IkiHane(kagit.ay)}});
   f.Kutu(SatirYeri(BelgeX, satir, BelgeEni));
@@ -93,21 +94,20 @@ constexpr std::string_view BelgeAdi = "AYLIK PRİM VE HİZMET BELGESİ";
 
 int IlkBas(FormKurucu& f, int satir, const BildirgeKagidi& kagit) {
   f.Kutu(SatirYeri(KagitSolu, satir, SolEni, BelgeSatiri));
-  Baslik(f, SatirYeri(KagitSolu, satir + 1, SolEni, 2), BelgeAdi, 14);
+  f.Baslik(SatirYeri(KagitSolu, satir + 1, SolEni, 2), BelgeAdi, 14);
   IsyeriNumarasi(f, NumaraX, satir + 5, kagit.firma, kagit.arac.kod);
   satir += BelgeSatiri;
   constexpr double yanEni = 110;
-  Taraf(f, SatirYeri(KagitSolu, satir, yanEni), "İŞVERENİN", "isveren", Isveren(kagit.firma));
-  Taraf(f, SatirYeri(KagitSolu + yanEni, satir, yanEni), "ARACININ", "araci", Araci(kagit.arac));
-  return Taraf(f, SatirYeri(KagitSolu + 2 * yanEni, satir, En - 2 * yanEni), "SİGORTALIYI DEVİR ALANIN", "deviralan",
-               {});
+  Taraf(f, KagitSolu, satir, yanEni, "İŞVERENİN", "isveren", Isveren(kagit.firma));
+  Taraf(f, KagitSolu + yanEni, satir, yanEni, "ARACININ", "araci", Araci(kagit.arac));
+  return Taraf(f, KagitSolu + 2 * yanEni, satir, En - 2 * yanEni, "SİGORTALIYI DEVİR ALANIN", "deviralan", {});
 }
 
 int DevamBasi(FormKurucu& f, int satir, const BildirgeKagidi& kagit) {
   constexpr double etiketEni = 30;
   const TarafBilgisi isveren = Isveren(kagit.firma);
   f.Kutu(SatirYeri(KagitSolu, satir, SolEni, BelgeSatiri));
-  Baslik(f, SatirYeri(KagitSolu, satir, SolEni, 2), BelgeAdi, 11);
+  f.Baslik(SatirYeri(KagitSolu, satir, SolEni, 2), BelgeAdi, 11);
   satir = IsyeriNumarasi(f, NumaraX, satir + 2, kagit.firma, kagit.arac.kod);
   satir = Kutucuklar(f, KagitSolu, satir, {{SolEni, "İŞVERENİN Ünvanı", etiketEni, "isveren.unvan", isveren.unvan}});
   satir = Kutucuklar(
@@ -141,10 +141,10 @@ int Sayaclar(FormKurucu& f, int satir, double en, const BildirgeKagidi& kagit) {
 }
 
 void Branslar(FormKurucu& f, int satir, double x, const BildirgeKagidi& kagit) {
-  const std::vector<KagitKolonu> kolonlar{{KagitSolu + En - x - 92, "SİGORTA KOLLARI", "", "kol"},
-                                          {32, "MATRAH", "", "matrah", MetinHizasi::Sag},
-                                          {20, "PRİM ORANI %", "", "oran", MetinHizasi::Sag},
-                                          {40, "PRİM TUTARI", "", "prim", MetinHizasi::Sag}};
+  const std::vector<FormKolonu> kolonlar{{KagitSolu + En - x - 92, "SİGORTA KOLLARI", "", "kol"},
+                                         {32, "MATRAH", "", "matrah", MetinHizasi::Sag},
+                                         {20, "PRİM ORANI %", "", "oran", MetinHizasi::Sag},
+                                         {40, "PRİM TUTARI", "", "prim", MetinHizasi::Sag}};
   double kolonX = x;
   for (const auto& k : kolonlar) {
     f.Kutu(SatirYeri(kolonX, satir, k.en));
@@ -152,7 +152,7 @@ void Branslar(FormKurucu& f, int satir, double x, const BildirgeKagidi& kagit) {
     kolonX += k.en;
   }
   ++satir;
-  f.Tablo({x, satir * SatirMm}, {kolonlar[0].en, 32, 20, 40}, SatirMm, int(BransSayisi));
+  TabloSatirlari(f, x, satir, kolonlar, int(BransSayisi));
   std::vector<std::size_t> sira(KagitBransSirasi.begin(), KagitBransSirasi.end());
   sira.push_back(AnalikBransi);
   for (const std::size_t brans : sira) {
@@ -168,9 +168,8 @@ void Branslar(FormKurucu& f, int satir, double x, const BildirgeKagidi& kagit) {
 int ToplamBilgiler(FormKurucu& f, int satir, const BildirgeKagidi& kagit) {
   constexpr double sayacEni = 90;
   constexpr double bransX = KagitSolu + sayacEni;
-  f.Kutu(SatirYeri(KagitSolu, satir, En));
-  Baslik(f, SatirYeri(KagitSolu, satir, En),
-         "I - T Ü M     S A Y F A L A R A     A İ T    T O P L A M     B İ L G İ L E R", 8);
+  f.Bolum(SatirYeri(KagitSolu, satir, En),
+          "I - T Ü M     S A Y F A L A R A     A İ T    T O P L A M     B İ L G İ L E R", 8);
   ++satir;
   Branslar(f, satir, bransX, kagit);
   satir = Sayaclar(f, satir, sayacEni, kagit);
@@ -185,9 +184,9 @@ int ToplamBilgiler(FormKurucu& f, int satir, const BildirgeKagidi& kagit) {
 int ToplamSatiri(FormKurucu& f, int satir, std::string_view etiket, const std::string& on, const KagitToplami& t,
                  int paraonda) {
   const auto& kolonlar = Kolonlar();
-  const std::vector<KagitKolonu> toplananlar(kolonlar.begin() + ToplamKolonu, kolonlar.begin() + ToplamKolonu + 4);
+  const std::vector<FormKolonu> toplananlar(kolonlar.begin() + ToplamKolonu, kolonlar.begin() + ToplamKolonu + 4);
   const double degerX =
-      KagitSolu + ToplamEn(std::vector<KagitKolonu>(kolonlar.begin(), kolonlar.begin() + ToplamKolonu));
+      KagitSolu + ToplamEn(std::vector<FormKolonu>(kolonlar.begin(), kolonlar.begin() + ToplamKolonu));
   f.Kutu(SatirYeri(KagitSolu, satir, En));
   f.Etiket(SatirYeri(KagitSolu, satir, degerX - KagitSolu - 3), etiket, MetinHizasi::Sag);
   double x = degerX;
@@ -222,15 +221,11 @@ int Sigortalilar(FormKurucu& f, int satir, const BildirgeKagidi& kagit, const Ka
   const auto& kolonlar = Kolonlar();
   const bool ilkSayfa = sayfa.no == 1;
   const int kapasite = int(ilkSayfa ? IlkSayfaKisisi : DevamSayfasiKisisi);
-  f.Kutu(SatirYeri(KagitSolu, satir, En));
-  Baslik(f, SatirYeri(KagitSolu, satir, En),
-         "II - A Y   İ Ç İ N D E    Ç A L I Ş T I R I L A N     S İ G O R T A L I L A R", 8);
+  f.Bolum(SatirYeri(KagitSolu, satir, En),
+          "II - A Y   İ Ç İ N D E    Ç A L I Ş T I R I L A N     S İ G O R T A L I L A R", 8);
   satir = TabloBasligi(f, KagitSolu, satir + 1, kolonlar);
   if (!ilkSayfa) satir = ToplamSatiri(f, satir, "ÖNCEKİ SAYFADAN DEVİRLER", "devreden", sayfa.devir, kagit.paraonda);
-  std::vector<double> enler;
-  enler.reserve(kolonlar.size());
-  for (const auto& k : kolonlar) enler.push_back(k.en);
-  f.Tablo({KagitSolu, satir * SatirMm}, enler, SatirMm, kapasite);
+  TabloSatirlari(f, KagitSolu, satir, kolonlar, kapasite);
   for (std::size_t i = sayfa.ilk; i < sayfa.son; ++i)
     TabloDegerleri(f, KagitSolu, satir + int(i - sayfa.ilk), kolonlar, "satir" + std::to_string(i + 1),
                    SatirDegerleri(kagit.satirlar[i], i + 1, kagit.paraonda));
@@ -243,14 +238,7 @@ int Sigortalilar(FormKurucu& f, int satir, const BildirgeKagidi& kagit, const Ka
 
 void Imza(FormKurucu& f, const Dikdortgen& kutu, std::string_view etiket) {
   f.Kutu(kutu);
-  f.Etiket({kutu.x + KagitPayi, kutu.y, kutu.en - 2 * KagitPayi, SatirMm}, etiket, MetinHizasi::Orta);
-}
-
-// The accountant stands in the box of his signature.
-void MuhasebeciKutusu(FormKurucu& f, int satir, double x, double en, int satirSayisi, const Muhasebeci& m) {
-  Imza(f, SatirYeri(x, satir, en, satirSayisi), "SERBEST MUHASEBECİ / MALİ MÜŞAVİR");
-  f.Alan("muhasebeci.adsoyad", SatirYeri(x + KagitPayi, satir + 1, en - 2 * KagitPayi), m.adsoyad, MetinHizasi::Orta);
-  f.Alan("muhasebeci.sicil", SatirYeri(x + KagitPayi, satir + 2, en - 2 * KagitPayi), m.sicil, MetinHizasi::Orta);
+  f.Etiket(f.Icerisi({kutu.x, kutu.y, kutu.en, SatirMm}), etiket, MetinHizasi::Orta);
 }
 
 int Ayak(FormKurucu& f, int satir, const BildirgeKagidi& kagit, int sayfaSayisi, int imzaSatiri) {
@@ -259,7 +247,7 @@ int Ayak(FormKurucu& f, int satir, const BildirgeKagidi& kagit, int sayfaSayisi,
   constexpr double imzaEni = (En - tarihEni - resenEni) / 4;
   const std::string sayi = std::to_string(sayfaSayisi);
   f.Kutu(SatirYeri(KagitSolu, satir, En));
-  f.Etiket(SatirYeri(KagitSolu + KagitPayi, satir, En - 2 * KagitPayi),
+  f.Etiket(f.Icerisi(SatirYeri(KagitSolu, satir, En)),
            "Toplam " + sayi +
                " sayfadan oluşan bu belgedeki bilgilerin işyeri defter, kayıt ve belgelerine uygun olduğunu beyan ve "
                "kabul ederiz.");
@@ -269,7 +257,8 @@ int Ayak(FormKurucu& f, int satir, const BildirgeKagidi& kagit, int sayfaSayisi,
     Imza(f, SatirYeri(x, satir, imzaEni, imzaSatiri), imza);
     x += imzaEni;
   }
-  MuhasebeciKutusu(f, satir, x, imzaEni, imzaSatiri, kagit.muhasebeci);
+  f.Kutu(SatirYeri(x, satir, imzaEni, imzaSatiri));
+  MuhasebeciImzasi(f, f.Icerisi(SatirYeri(x, satir, imzaEni)), kagit.muhasebeci);
   x += imzaEni;
   Imza(f, SatirYeri(x, satir, tarihEni, imzaSatiri), "ÜNİTEYE VERİLDİĞİ TARİH");
   x += tarihEni;

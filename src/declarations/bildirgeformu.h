@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "declarations/bildirgekagidi.h"
-#include "printing/formbelgesi.h"
+#include "printing/form/formbelgesi.h"
 
 namespace belvani {
 

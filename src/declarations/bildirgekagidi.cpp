@@ -5,14 +5,12 @@
 #include "core/sayi.h"
 #include "core/session/aracibilgi.h"
 #include "core/session/firmabilgi.h"
-#include "core/turkce.h"
 #include "declarations/aylikbildirge.h"
 
 namespace belvani {
 namespace {
 
 constexpr int Gruplama = 3;
-constexpr std::size_t IlHanesi = 3;
 
 KagitToplami SatirToplami(const BildirgeSatiri& satir) {
   return {.gun = satir.gun.value_or(0),
@@ -91,12 +89,6 @@ std::string KagitSayisi(std::optional<int> sayi) {
 
 std::string KagitTarihi(Tarih gun) {
   return gun.Bos() ? std::string() : IkiHane(gun.Gun()) + " - " + IkiHane(gun.Ay());
-}
-
-std::string IlKodu(const Firma& firma) {
-  const std::string il(Kirp(firma.il));
-  const std::size_t harf = HarfSayisi(il);
-  return harf < IlHanesi ? std::string(IlHanesi - harf, '0') + il : il.substr(IlkHarfler(il, harf - IlHanesi).size());
 }
 
 }  // namespace belvani

@@ -79,7 +79,5 @@ std::string KagitTutari(std::optional<Tutar> tutar, int paraonda);
 std::string KagitSayisi(std::optional<int> sayi);
 // Day and month: "05 - 07"; empty for none.
 std::string KagitTarihi(Tarih gun);
-// The province group of the register number: "34" -> "034".
-std::string IlKodu(const Firma& firma);
 
 }  // namespace belvani

@@ -2,6 +2,7 @@
 
 #include "core/sayi.h"
 #include "core/turkce.h"
+#include "isyeri/isyerinumarasi.h"
 #include "payroll/hazirlik/hazirlik.h"
 
 namespace belvani {
@@ -13,7 +14,6 @@ constexpr std::size_t AdresHarfi = 50;
 constexpr std::size_t IsimHarfi = 18;
 constexpr std::size_t SskNoHarfi = 13;
 constexpr std::size_t TcNoHarfi = 11;
-constexpr std::size_t IlHarfi = 3;
 constexpr int IlkYil = 2003;
 constexpr int SonYil = 2050;
 constexpr int SonBelgeTuru = 92;
@@ -111,12 +111,10 @@ class SatirKontrolu {
 }  // namespace
 
 IsyeriBilgileri IsyeriniHazirla(const Firma& firma, const std::string& araciKodu) {
-  const std::string il = "000" + Kirpik(firma.il);
-  const std::string sonHarfler = il.substr(IlkHarfler(il, HarfSayisi(il) - IlHarfi).size());
   const std::string adres = firma.adr1 + " " + firma.adr2 + " " + firma.semt + " " + firma.adrilce + " " + firma.adril;
   return {
       .IsyeriSicil = Kirpik(firma.sektor) + Kirpik(firma.meslek) + Kirpik(firma.sube) + Kirpik(firma.dosya) +
-                     sonHarfler + Kirpik(firma.ilce),
+                     IlKodu(firma) + Kirpik(firma.ilce),
       .KontrolNo = firma.kontrol,
       .AraciNo = araciKodu,
       .IsyeriUnvan = Kirpik(firma.unvan),

@@ -4,19 +4,21 @@
 
 #include "core/tarih.h"
 #include "declarations/bildirgeformu.h"
-#include "declarations/kagitparcalari.h"
+#include "isyeri/isyerinumarasi.h"
+#include "isyeri/taraflar.h"
+#include "printing/form/satirliform.h"
 
 namespace belvani {
 namespace {
 
-// Upright; down the page lines (kagitparcalari.h).
+// Upright; down the page lines (satirliform.h).
 constexpr double En = A4(KagitYonu::Dikey).en - 2 * KagitSolu;
 constexpr int NumaraSatiri = 5;
 constexpr int ImzaSatiri = 8;
 
-const std::vector<KagitKolonu>& Kolonlar() {
+const std::vector<FormKolonu>& Kolonlar() {
   using enum MetinHizasi;
-  static const std::vector<KagitKolonu> kolonlar{
+  static const std::vector<FormKolonu> kolonlar{
       {10, "Sıra", "", "sira", Sag},
       {26, "SSK Sicil No", "", "sskno"},
       {24, "T.C. Kimlik No", "", "tcno"},
@@ -30,9 +32,7 @@ const std::vector<KagitKolonu>& Kolonlar() {
 }
 
 int Bas(FormKurucu& f, int satir, const EksikGunFormu& form, int sayfaNo, int sayfaSayisi) {
-  const Dikdortgen ust = SatirYeri(KagitSolu, satir, En, 2);
-  f.Kutu(ust);
-  Baslik(f, ust, "SİGORTALILARIN EKSİK GÜN BİLDİRİM FORMU (EK-10)", 13);
+  f.Bolum(SatirYeri(KagitSolu, satir, En, 2), "SİGORTALILARIN EKSİK GÜN BİLDİRİM FORMU (EK-10)", 13);
   satir = Kutucuklar(f, KagitSolu, satir + 2,
                      {{En / 4, "Yıl", 20, "yil", std::to_string(form.yil)},
                       {En / 4, "Ay", 20, "ay", std::string(AyAdi(form.ay))},
@@ -40,16 +40,13 @@ int Bas(FormKurucu& f, int satir, const EksikGunFormu& form, int sayfaNo, int sa
                       {En / 4, "Toplam Sayfa", 20, "sayfasayisi", std::to_string(sayfaSayisi)}});
   f.Kutu(SatirYeri(KagitSolu, satir, En, NumaraSatiri));
   IsyeriNumarasi(f, KagitSolu + (En - IsyeriNumarasiEni) / 2, satir, form.firma, form.arac.kod);
-  return Taraf(f, SatirYeri(KagitSolu, satir + NumaraSatiri, En), "İŞVERENİN", "isveren", Isveren(form.firma));
+  return Taraf(f, KagitSolu, satir + NumaraSatiri, En, "İŞVERENİN", "isveren", Isveren(form.firma));
 }
 
 int Kisiler(FormKurucu& f, int satir, const EksikGunFormu& form, std::size_t ilk) {
   const auto& kolonlar = Kolonlar();
   satir = TabloBasligi(f, KagitSolu, satir, kolonlar);
-  std::vector<double> enler;
-  enler.reserve(kolonlar.size());
-  for (const auto& k : kolonlar) enler.push_back(k.en);
-  f.Tablo({KagitSolu, satir * SatirMm}, enler, SatirMm, int(EksikGunSayfaKisisi));
+  const int alt = TabloSatirlari(f, KagitSolu, satir, kolonlar, int(EksikGunSayfaKisisi));
   const std::size_t son = std::min(form.kisiler.size(), ilk + EksikGunSayfaKisisi);
   for (std::size_t i = ilk; i < son; ++i) {
     const EksikGunKisisi& k = form.kisiler[i];
@@ -58,19 +55,17 @@ int Kisiler(FormKurucu& f, int satir, const EksikGunFormu& form, std::size_t ilk
         f, KagitSolu, satir + int(i - ilk), kolonlar, "kisi" + sira,
         {sira, k.sskno, k.tcno, k.adi, k.soyadi, std::to_string(k.gun), KagitSayisi(k.eksikGun), KagitSayisi(k.sebep)});
   }
-  return satir + int(EksikGunSayfaKisisi);
+  return alt;
 }
 
 int Imzalar(FormKurucu& f, int satir, const Muhasebeci& m) {
   f.Kutu(SatirYeri(KagitSolu, satir, En));
-  f.Etiket(SatirYeri(KagitSolu + KagitPayi, satir, En - 2 * KagitPayi),
+  f.Etiket(f.Icerisi(SatirYeri(KagitSolu, satir, En)),
            "Yukarıda yazılı sigortalıların eksik günlerinin gerçeğe uygun olduğunu beyan ederiz.");
   ++satir;
   f.Tablo({KagitSolu, satir * SatirMm}, {En / 2, En / 2}, ImzaSatiri * SatirMm, 1);
   f.Etiket(SatirYeri(KagitSolu, satir, En / 2), "İŞVEREN / VEKİLİ", MetinHizasi::Orta);
-  f.Etiket(SatirYeri(KagitSolu + En / 2, satir, En / 2), "SERBEST MUHASEBECİ / MALİ MÜŞAVİR", MetinHizasi::Orta);
-  f.Alan("muhasebeci.adsoyad", SatirYeri(KagitSolu + En / 2, satir + 1, En / 2), m.adsoyad, MetinHizasi::Orta);
-  f.Alan("muhasebeci.sicil", SatirYeri(KagitSolu + En / 2, satir + 2, En / 2), m.sicil, MetinHizasi::Orta);
+  MuhasebeciImzasi(f, SatirYeri(KagitSolu + En / 2, satir, En / 2), m);
   return satir + ImzaSatiri;
 }
 

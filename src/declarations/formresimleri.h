@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "declarations/bildirgekagidi.h"
-#include "printing/formsayfasi.h"
+#include "printing/form/formsayfasi.h"
 
 namespace belvani {
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "documents/turetilensatir.h"
+#include "isyeri/isyerinumarasi.h"
 #include "printing/kolonlar.h"
 
 namespace belvani {

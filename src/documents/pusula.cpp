@@ -3,6 +3,7 @@
 #include "core/store/satirlar.h"
 #include "core/tables/muaf.h"
 #include "documents/turetilensatir.h"
+#include "isyeri/isyerinumarasi.h"
 #include "printing/kolonlar.h"
 
 namespace belvani {

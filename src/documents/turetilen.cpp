@@ -39,15 +39,4 @@ std::string AdSoyad(const Sicil& sicil) {
   return std::string(Kirp(tamami));
 }
 
-std::string IsyeriSicilNo(const Firma& firma) {
-  std::string no;
-  for (const auto* parca :
-       {&firma.sektor, &firma.meslek, &firma.sube, &firma.dosya, &firma.il, &firma.ilce, &firma.kontrol}) {
-    if (Kirp(*parca).empty()) continue;
-    if (!no.empty()) no += ' ';
-    no += Kirp(*parca);
-  }
-  return no;
-}
-
 }  // namespace belvani

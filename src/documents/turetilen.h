@@ -8,7 +8,6 @@
 #include <string>
 
 #include "core/tables/brd.h"
-#include "core/tables/firma.h"
 #include "core/tables/sicil.h"
 #include "core/yuvarlama.h"
 
@@ -39,8 +38,5 @@ Tutar OdenecekSskPrimi(const Brd& brd);
 
 // "Ayşe Yılmaz".
 std::string AdSoyad(const Sicil& sicil);
-
-// The register number of the workplace, its groups parted by blanks: "2 8010 01 01 1234567 034 01 25".
-std::string IsyeriSicilNo(const Firma& firma);
 
 }  // namespace belvani

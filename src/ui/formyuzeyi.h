@@ -10,7 +10,7 @@
 #include <QWidget>
 #include <vector>
 
-#include "printing/formsayfasi.h"
+#include "printing/form/formsayfasi.h"
 
 namespace belvani {
 

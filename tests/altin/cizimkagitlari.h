@@ -10,8 +10,8 @@
 #include "declarations/aylikbildirge.h"
 #include "declarations/bildirgeformu.h"
 #include "declarations/formresimleri.h"
-#include "documents/girisbildirgesi.h"
-#include "documents/ibraname.h"
+#include "ozluk/girisbildirgesi.h"
+#include "ozluk/ibraname.h"
 
 namespace belvani::test {
 

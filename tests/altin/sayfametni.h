@@ -19,7 +19,7 @@
 #include "core/tarih.h"
 #include "core/turkce.h"
 #include "printing/cizilenbelge.h"
-#include "printing/formsayfasi.h"
+#include "printing/form/formsayfasi.h"
 #include "printing/kayittuvali.h"
 
 namespace belvani::test {

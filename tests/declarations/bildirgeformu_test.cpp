@@ -2,10 +2,10 @@
 #include "declarations/bildirgeformu.h"
 
 #include "core/turkce.h"
-#include "declarations/formmetni.h"
 #include "declarations/formresimleri.h"
-#include "declarations/kagitparcalari.h"
 #include "kagit.h"
+#include "printing/form/formmetni.h"
+#include "printing/form/satirliform.h"
 
 namespace belvani {
 namespace {

@@ -41,11 +41,6 @@ TEST(Turetilen, Digerleri) {
   EXPECT_EQ(AdSoyad(sicil), "");
   sicil.soyadi = "Öz";
   EXPECT_EQ(AdSoyad(sicil), "Öz");
-  Firma firma;
-  EXPECT_EQ(IsyeriSicilNo(firma), "");
-  firma.dosya = " 1034567 ";
-  firma.kontrol = "77";
-  EXPECT_EQ(IsyeriSicilNo(firma), "1034567 77");
 }
 
 RC_GTEST_PROP(Turetilen, OdenenVeKesilenBrutuTutar, ()) {

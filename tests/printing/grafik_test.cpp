@@ -5,7 +5,7 @@
 #include "core/dosya.h"
 #include "gecici.h"
 #include "printing/cairotuval.h"
-#include "printing/formbelgesi.h"
+#include "printing/form/formbelgesi.h"
 #include "printing/grafikyaprak.h"
 #include "printing/grafikyazici.h"
 #include "printing/kayittuvali.h"

@@ -1,6 +1,6 @@
 #include "screens/declarations/yzckopy.h"
 
-#include "printing/formbelgesi.h"
+#include "printing/form/formbelgesi.h"
 #include "ui/basim.h"
 
 namespace belvani {

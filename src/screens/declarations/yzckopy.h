@@ -5,7 +5,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
-#include "printing/formsayfasi.h"
+#include "printing/form/formsayfasi.h"
 #include "printing/yzcayar.h"
 #include "ui/form.h"
 #include "ui/formyuzeyi.h"

@@ -5,7 +5,7 @@
 #include "core/session/firmabilgi.h"
 #include "core/tables/kimlik.h"
 #include "core/tables/sicil.h"
-#include "documents/ibraname.h"
+#include "ozluk/ibraname.h"
 #include "personnel/kart.h"
 #include "screens/personnel/odemetablosu.h"
 #include "ui/basim.h"

@@ -6,7 +6,7 @@
 
 #include "core/dosya.h"
 #include "core/session/firmabilgi.h"
-#include "documents/girisbildirgesi.h"
+#include "ozluk/girisbildirgesi.h"
 #include "personnel/kart.h"
 #include "screens/personnel/pergiralanlar.h"
 #include "screens/personnel/sigortakollari.h"

@@ -1,8 +1,9 @@
-#include "documents/girisbildirgesi.h"
+#include "ozluk/girisbildirgesi.h"
 
 #include <algorithm>
 
-#include "documents/firmaadresi.h"
+#include "isyeri/firmaadresi.h"
+#include "isyeri/isyerinumarasi.h"
 
 namespace belvani {
 namespace {
@@ -20,14 +21,6 @@ constexpr double IsaretBoyu = 4;
 constexpr double Pay = 1.5;  // between a frame and what stands in it
 constexpr double KalinCizgi = 0.4;
 
-// A value below its label, in a frame.
-struct Hucre {
-  double en = 0;
-  std::string_view etiket;
-  std::string ad;
-  std::string deger;
-};
-
 // A box to tick, with its words on the right; `en` is the room of both.
 struct Secenek {
   double en = 0;
@@ -36,29 +29,14 @@ struct Secenek {
   bool secili = false;
 };
 
+// Captioned boxes of a whole line.
+double Satir(FormKurucu& f, double y, const std::vector<EtiketliKutu>& kutular) {
+  return f.EtiketliKutular({Sol, y}, SatirYuksekligi, kutular);
+}
+
 double BolumBasligi(FormKurucu& f, double y, std::string_view metin) {
-  f.Kutu({Sol, y, En, BolumYuksekligi});
-  const YaziBicimi once = f.etiketYazisi;
-  f.etiketYazisi.kalinlik = YaziKalinligi::Kalin;
-  f.Etiket({Sol + Pay, y, En - 2 * Pay, BolumYuksekligi}, metin);
-  f.etiketYazisi = once;
+  f.Bolum({Sol, y, En, BolumYuksekligi}, metin, f.etiketYazisi.punto, MetinHizasi::Sol);
   return y + BolumYuksekligi;
-}
-
-void EtiketUstte(FormKurucu& f, const Dikdortgen& kutu, std::string_view etiket) {
-  f.Kutu(kutu);
-  f.Etiket({kutu.x + Pay, kutu.y + 0.4, kutu.en - 2 * Pay, EtiketYuksekligi}, etiket);
-}
-
-double Satir(FormKurucu& f, double y, const std::vector<Hucre>& hucreler) {
-  double x = Sol;
-  for (const auto& h : hucreler) {
-    EtiketUstte(f, {x, y, h.en, SatirYuksekligi}, h.etiket);
-    f.Alan(h.ad, {x + Pay, y + EtiketYuksekligi + 0.4, h.en - 2 * Pay, SatirYuksekligi - EtiketYuksekligi - 0.8},
-           h.deger);
-    x += h.en;
-  }
-  return y + SatirYuksekligi;
 }
 
 // A label on the left and digits in cells that end at the right, in a frame.
@@ -93,15 +71,10 @@ double BaslikBlogu(FormKurucu& f, double y, const GirisBildirgesi& b) {
   f.Kutu({Sol, y, En, boy});
   f.Kutu(amblem);
   if (!b.amblemPng.empty()) f.Resim(amblem, b.amblemPng);
-  const YaziBicimi once = f.etiketYazisi;
-  f.etiketYazisi = {.punto = 9, .kalinlik = YaziKalinligi::Kalin};
-  const double ortaX = amblem.x + amblem.en + Pay;
-  const double ortaEni = Sol + En - turEni - ortaX - Pay;
-  f.Etiket({ortaX, y + 3, ortaEni, 5}, "T.C. SOSYAL SİGORTALAR KURUMU", MetinHizasi::Orta);
-  f.etiketYazisi.punto = 14;
-  f.Etiket({ortaX, y + 10, ortaEni, 9}, "SİGORTALI İŞE GİRİŞ BİLDİRGESİ", MetinHizasi::Orta);
-  f.etiketYazisi = once;
+  const double ortaX = amblem.x + amblem.en;
   const double turX = Sol + En - turEni;
+  f.Baslik({ortaX, y + 3, turX - ortaX, 5}, "T.C. SOSYAL SİGORTALAR KURUMU", 9);
+  f.Baslik({ortaX, y + 10, turX - ortaX, 9}, "SİGORTALI İŞE GİRİŞ BİLDİRGESİ", 14);
   f.Cizgi({turX, y}, {turX, y + boy});
   for (std::size_t i = 0; i < std::size(GirisTurleri); ++i)
     Secenekler(f, {turX + 4, y + 3 + double(i) * 6},
@@ -113,14 +86,10 @@ double BaslikBlogu(FormKurucu& f, double y, const GirisBildirgesi& b) {
 
 double NumaraBlogu(FormKurucu& f, double y, const GirisFormu& form) {
   constexpr double boy = 9;
-  f.Kutu({Sol, y, 80, boy});
-  f.Etiket({Sol + Pay, y, 25, boy}, "Sicil no");
-  f.Alan("kod", {Sol + 28, y, 50, boy}, form.sicil.kod);
+  f.EtiketliKutular({Sol, y}, boy, {{80, "Sicil no", 25, "kod", form.sicil.kod}});
   BasamakliHucre(f, {Sol + 80, y, En - 80, boy}, "SSK No", "sskno", 13, form.sicil.sskno);
   y += boy;
-  f.Kutu({Sol, y, 80, boy});
-  f.Etiket({Sol + Pay, y, 25, boy}, "1-Nüfus Seri No");
-  f.Alan("serino", {Sol + 28, y, 50, boy}, form.kimlik.serino);
+  f.EtiketliKutular({Sol, y}, boy, {{80, "1-Nüfus Seri No", 25, "serino", form.kimlik.serino}});
   BasamakliHucre(f, {Sol + 80, y, En - 80, boy}, "2-TC Kimlik No", "tcno", 11, form.kimlik.tcno);
   return y + boy;
 }
@@ -129,13 +98,13 @@ double DogumCinsiyetUyruk(FormKurucu& f, double y, const Kimlik& kimlik) {
   constexpr double en = En / 3;
   const double ust = y;
   const double isaretY = ust + EtiketYuksekligi + 0.9;
-  y = Satir(f, y, {{en, "9-Doğum Tarihi", "dogtar", kimlik.dogtar.Metin()}});
-  EtiketUstte(f, {Sol + en, ust, en, SatirYuksekligi}, "10-Cinsiyeti");
+  y = Satir(f, y, {{en, "9-Doğum Tarihi", EtiketUstte, "dogtar", kimlik.dogtar.Metin()}});
+  f.EtiketliCerceve({Sol + en, ust, en, SatirYuksekligi}, "10-Cinsiyeti");
   std::vector<Secenek> cinsiyetler;
   for (std::size_t i = 0; i < std::size(Cinsiyetler); ++i)
     cinsiyetler.push_back({25, Cinsiyetler[i], "cins" + std::to_string(i), kimlik.cins == i});
   Secenekler(f, {Sol + en + Pay, isaretY}, cinsiyetler);
-  EtiketUstte(f, {Sol + 2 * en, ust, en, SatirYuksekligi}, "11-Uyruk");
+  f.EtiketliCerceve({Sol + 2 * en, ust, en, SatirYuksekligi}, "11-Uyruk");
   const bool turk = UyrukTurkMu(kimlik.uyruk);
   Secenekler(f, {Sol + 2 * en + Pay, isaretY}, {{16, "T.C.", "uyruk.tc", turk}});
   f.Etiket({Sol + 2 * en + 18, isaretY, 13, IsaretBoyu}, "Yabancı");
@@ -151,22 +120,24 @@ double KimlikBlogu(FormKurucu& f, double y, const GirisFormu& form) {
   const Kimlik& kimlik = form.kimlik;
   y = NumaraBlogu(f, y, form);
   y = Satir(f, y,
-            {{en, "3- Soyadı", "soyadi", sicil.soyadi},
-             {en, "4-İlk Soyadı", "ilksoyadi", sicil.ilksoyadi},
-             {en, "5-Adı", "adi", sicil.adi}});
+            {{en, "3- Soyadı", EtiketUstte, "soyadi", sicil.soyadi},
+             {en, "4-İlk Soyadı", EtiketUstte, "ilksoyadi", sicil.ilksoyadi},
+             {en, "5-Adı", EtiketUstte, "adi", sicil.adi}});
   y = Satir(f, y,
-            {{en, "6-Baba Adı", "baba", kimlik.baba},
-             {en, "7-Ana Adı", "ana", kimlik.ana},
-             {en, "8-Doğum Yeri", "dogyer", kimlik.dogyer}});
+            {{en, "6-Baba Adı", EtiketUstte, "baba", kimlik.baba},
+             {en, "7-Ana Adı", EtiketUstte, "ana", kimlik.ana},
+             {en, "8-Doğum Yeri", EtiketUstte, "dogyer", kimlik.dogyer}});
   y = DogumCinsiyetUyruk(f, y, kimlik);
-  y = Satir(
-      f, y,
-      {{en, "İl", "il", kimlik.il}, {en, "İlçe", "ilce", kimlik.ilce}, {en, "Mahalle/Köy", "mahkoy", kimlik.mahkoy}});
   y = Satir(f, y,
-            {{en, "Cilt No", "cilt", kimlik.cilt},
-             {en, "Sıra(Sayfa) No", "sayfa", kimlik.sayfa},
-             {en, "Hane (Kütük)", "kutuk", kimlik.kutuk}});
-  y = Satir(f, y, {{En / 2, "Adresi", "adr1", kimlik.adr1}, {En / 2, "", "adr2", kimlik.adr2}});
+            {{en, "İl", EtiketUstte, "il", kimlik.il},
+             {en, "İlçe", EtiketUstte, "ilce", kimlik.ilce},
+             {en, "Mahalle/Köy", EtiketUstte, "mahkoy", kimlik.mahkoy}});
+  y = Satir(f, y,
+            {{en, "Cilt No", EtiketUstte, "cilt", kimlik.cilt},
+             {en, "Sıra(Sayfa) No", EtiketUstte, "sayfa", kimlik.sayfa},
+             {en, "Hane (Kütük)", EtiketUstte, "kutuk", kimlik.kutuk}});
+  y = Satir(f, y,
+            {{En / 2, "Adresi", EtiketUstte, "adr1", kimlik.adr1}, {En / 2, "", EtiketUstte, "adr2", kimlik.adr2}});
   constexpr double boy = 8;
   f.Kutu({Sol, y, En, boy});
   f.Etiket({Sol + Pay, y, 25, boy}, "12-Öğrenimi");
@@ -209,48 +180,40 @@ double SandikBlogu(FormKurucu& f, double y, const GirisFormu& form) {
 double EskiIsyeriBlogu(FormKurucu& f, double y, const GirisEki& ek) {
   y = BolumBasligi(f, y, "14-Eski İşyeri Bilgileri");
   y = Satir(f, y,
-            {{En / 2, "Ünvanı", "eskiunvan", ek.eskiUnvan},
-             {En / 4, "İli", "eskiil", ek.eskiIl},
-             {En / 4, "İlçe", "eskiilce", ek.eskiIlce}});
-  return Satir(f, y, {{En, "Adresi", "eskiadres", ek.eskiAdres}});
+            {{En / 2, "Ünvanı", EtiketUstte, "eskiunvan", ek.eskiUnvan},
+             {En / 4, "İli", EtiketUstte, "eskiil", ek.eskiIl},
+             {En / 4, "İlçe", EtiketUstte, "eskiilce", ek.eskiIlce}});
+  return Satir(f, y, {{En, "Adresi", EtiketUstte, "eskiadres", ek.eskiAdres}});
 }
 
 double VergiBlogu(FormKurucu& f, double y, const GirisBildirgesi& b) {
   constexpr double boy = 9;
   constexpr double vergiEni = 100;
   BasamakliHucre(f, {Sol, y, vergiEni, boy}, "15-Vergi No", "vergino", 11, b.form.ek.vergiNo);
-  f.Kutu({Sol + vergiEni, y, En - vergiEni, boy});
-  f.Etiket({Sol + vergiEni + Pay, y, 30, boy}, "İşe Giriş Tarihi");
-  f.Alan("girtar", {Sol + vergiEni + 32, y, En - vergiEni - 32 - Pay, boy}, b.form.sicil.girtar.Metin());
-  return Satir(f, y + boy, {{En, "SSK Durumu", "sskdurum", b.sskDurumu}});
+  f.EtiketliKutular({Sol + vergiEni, y}, boy,
+                    {{En - vergiEni, "İşe Giriş Tarihi", 29, "girtar", b.form.sicil.girtar.Metin()}});
+  return Satir(f, y + boy, {{En, "SSK Durumu", EtiketUstte, "sskdurum", b.sskDurumu}});
 }
 
 // The groups of the employer's register number, a cell for each digit that they have by the law.
 double IsyeriSicili(FormKurucu& f, double y, const Firma& firma) {
-  struct Grup {
+  struct Kutular {
     std::string_view etiket;
-    const char* ad;
     int basamak;
-    const std::string& deger;
   };
-  const Grup gruplar[] = {
-      {"Sektör", "firma.sektor", 1, firma.sektor},
-      {"Meslek", "firma.meslek", 4, firma.meslek},
-      {"Şube", "firma.sube", 2, firma.sube},
-      {"Dosya", "firma.dosya", 7, firma.dosya},
-      {"İl", "firma.il", 3, firma.il},
-      {"İlçe", "firma.ilce", 2, firma.ilce},
-      {"Kont.", "firma.kontrol", 2, firma.kontrol},
-  };
+  constexpr Kutular kutular[] = {{"Sektör", 1}, {"Meslek", 4}, {"Şube", 2}, {"Dosya", 7},
+                                 {"İl", 3},     {"İlçe", 2},   {"Kont.", 2}};
   constexpr double boy = 12;
   f.Kutu({Sol, y, En, boy});
   f.Etiket({Sol + Pay, y, 34, boy}, "SSK İşyeri Sicil No");
+  const auto gruplar = NumaraGruplari(firma);
   double x = Sol + 38;
-  for (const auto& g : gruplar) {
-    const double en = g.basamak * HucreEni;
+  for (std::size_t i = 0; i < gruplar.size(); ++i) {
+    const double en = kutular[i].basamak * HucreEni;
     const double etiketEni = std::max(en, 9.0);
-    f.Etiket({x - (etiketEni - en) / 2, y + 0.8, etiketEni, EtiketYuksekligi}, g.etiket, MetinHizasi::Orta);
-    f.Basamaklar(g.ad, {.x = x, .y = y + 4.8, .sayi = g.basamak, .en = HucreEni, .boy = HucreBoyu}, g.deger);
+    f.Etiket({x - (etiketEni - en) / 2, y + 0.8, etiketEni, EtiketYuksekligi}, kutular[i].etiket, MetinHizasi::Orta);
+    f.Basamaklar(gruplar[i].ad, {.x = x, .y = y + 4.8, .sayi = kutular[i].basamak, .en = HucreEni, .boy = HucreBoyu},
+                 gruplar[i].deger);
     x += en + 4;
   }
   return y + boy;
@@ -259,11 +222,11 @@ double IsyeriSicili(FormKurucu& f, double y, const Firma& firma) {
 double IsverenBlogu(FormKurucu& f, double y, const Firma& firma) {
   const auto adres = FirmaAdresi(firma);
   y = BolumBasligi(f, y, "İŞVERENİN");
-  y = Satir(f, y, {{En, "Ünvanı", "firma.unvan", firma.unvan}});
+  y = Satir(f, y, {{En, "Ünvanı", EtiketUstte, "firma.unvan", firma.unvan}});
   y = IsyeriSicili(f, y, firma);
   constexpr double boy = 15;
   constexpr double satirBoyu = (boy - EtiketYuksekligi - 0.8) / 2;
-  EtiketUstte(f, {Sol, y, En, boy}, "Adresi");
+  f.EtiketliCerceve({Sol, y, En, boy}, "Adresi");
   for (std::size_t i = 0; i < adres.size(); ++i)
     f.Alan("firma.adr" + std::to_string(i + 1),
            {Sol + Pay, y + EtiketYuksekligi + 0.4 + double(i) * satirBoyu, En - 2 * Pay, satirBoyu}, adres[i]);

@@ -1,8 +1,8 @@
-#include "declarations/formmetni.h"
+#include "printing/form/formmetni.h"
 
 #include "core/turkce.h"
-#include "declarations/kagitparcalari.h"
-#include "printing/metinformu.h"
+#include "printing/form/metinformu.h"
+#include "printing/form/satirliform.h"
 
 namespace belvani {
 namespace {

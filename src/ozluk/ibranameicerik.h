@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "documents/ibraname.h"
+#include "ozluk/ibraname.h"
 #include "printing/rapor.h"
 
 namespace belvani {

@@ -11,7 +11,7 @@
 
 #include "core/tables/firma.h"
 #include "personnel/isegiris.h"
-#include "printing/formbelgesi.h"
+#include "printing/form/formbelgesi.h"
 
 namespace belvani {
 

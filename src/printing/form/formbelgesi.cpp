@@ -1,4 +1,4 @@
-#include "printing/formbelgesi.h"
+#include "printing/form/formbelgesi.h"
 
 #include <algorithm>
 

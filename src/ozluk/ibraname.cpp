@@ -1,11 +1,11 @@
-#include "documents/ibraname.h"
+#include "ozluk/ibraname.h"
 
 #include <algorithm>
 
 #include "core/sayi.h"
-#include "documents/firmaadresi.h"
-#include "documents/ibranameicerik.h"
-#include "documents/turetilen.h"
+#include "isyeri/firmaadresi.h"
+#include "isyeri/isyerinumarasi.h"
+#include "ozluk/ibranameicerik.h"
 
 namespace belvani {
 namespace {
@@ -39,10 +39,7 @@ Dikdortgen Yer(double x, double y, double en) {
 }
 
 double Baslik(FormKurucu& f, double y, std::string_view metin, double punto, MetinHizasi hiza) {
-  const YaziBicimi once = f.etiketYazisi;
-  f.etiketYazisi = {.punto = punto, .kalinlik = YaziKalinligi::Kalin};
-  f.Etiket(Yer(Sol, y, En), metin, hiza);
-  f.etiketYazisi = once;
+  f.Baslik(Yer(Sol, y, En), metin, punto, hiza);
   return y + SatirBoyu;
 }
 
@@ -156,6 +153,7 @@ std::vector<FormSayfasi> IbranameSayfalari(const Ibraname& ibraname) {
   FormKurucu f(A4(KagitYonu::Dikey));
   f.etiketYazisi.punto = 9.5;
   f.degerYazisi.punto = 9.5;
+  f.pay = 0;  // nothing but the table has a frame
   double y = Baslik(f, 18, IbranameBasligi, 16, MetinHizasi::Orta) + 8;
   y = Bilgiler(f, y, IbranameIsvereni, IsverenBilgileri(ibraname.firma));
   y = Bilgiler(f, y, IbranameIscisi, IsciBilgileri(ibraname.form));

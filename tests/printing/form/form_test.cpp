@@ -1,9 +1,9 @@
 // Fixed forms: where letters and digits land, drawn and in lines of text, and that nothing is cut or lost.
 #include <gmock/gmock.h>
 
-#include "printing/formbelgesi.h"
+#include "printing/form/formbelgesi.h"
+#include "printing/form/metinformu.h"
 #include "printing/kayittuvali.h"
-#include "printing/metinformu.h"
 
 namespace belvani {
 namespace {
@@ -78,49 +78,64 @@ TEST(FormSayfasi, MarksAndTables) {
   EXPECT_NEAR(metinler[0].kutu.x + metinler[0].kutu.en / 2, 12, 1e-6);
 }
 
-TEST(MetinFormu, ValuesOverTheTemplate) {
+TEST(MetinFormu, ValuesInTheirPlaces) {
   const struct {
+    const char* deger;
     const char* ad;
-    std::function<void(MetinFormu&)> yaz;
     const char* beklenen;
   } ornekler[] = {
-      {"counted in letters",
-       [](auto& f) {
-         f.Koy({2, 4, 3}, "ığ");
-       },
-       "│ş:ığ │ │ │"},
-      {"cut at its end",
-       [](auto& f) {
-         f.Koy({2, 4, 3}, "İşÇöp");
-       },
-       "│ş:İşÇ│ │ │"},
-      {"right, blanks around it",
-       [](auto& f) {
-         f.KoySagda({2, 4, 3}, " 42 ");
-       },
-       "│ş: 42│ │ │"},
-      {"no commands to the printer",
-       [](auto& f) {
-         f.Koy({2, 4, 3}, "a\x1b\f\nb");
-       },
-       "│ş:ab │ │ │"},
-      {"outside",
-       [](auto& f) {
-         f.Koy({9, 1, 3}, "a"), f.Koy({2, 0, 1}, "a"), f.Koy({2, 99, 1}, "a");
-       },
-       "│ş:   │ │ │"},
-      {"over the right end",
-       [](auto& f) {
-         f.Koy({2, 10, 5}, "abc");
-       },
-       "│ş:   │ │ab"},
-      {"a digit a cell", [](auto& f) { f.Basamaklar(2, 8, 2, 2, "7"); }, "│ş:   │ │7│"},
-      {"close together", [](auto& f) { f.Basamaklar(2, 8, 2, 2, "789"); }, "│ş:   │789│"},
+      {"ığ", "ad", "│ş:ığ   │ │ │ │"},         {" İşÇöp ", "ad", "│ş:İşÇöp│ │ │ │"},
+      {"İşÇöpğü", "ad", "│ş:İşÇöp│ │ │ │"},     // cut at its end
+      {"a\x1b\f\nb", "ad", "│ş:ab   │ │ │ │"},  // no commands to the printer
+      {"7", "n", "│ş:     │ │ │7│"},           {"789", "n", "│ş:     │7│8│9│"},
+      {"7890", "n", "│ş:     │ 7890│"},  // close together, no digit lost
+      {"78901234", "n", "│ş:     │78901│"},
   };
   for (const auto& o : ornekler) {
-    MetinFormu form("┌     ┬─┬─┐\n│ş:   │ │ │\n    ");
-    o.yaz(form);
-    EXPECT_EQ(form.Metin(), "┌     ┬─┬─┐\n" + std::string(o.beklenen) + "\n\n") << o.ad;
+    MetinFormu form("┌     ┬─┬─┐\n│ş:«ad.»│«│n│»│\n    ");
+    for (const char* ad : {"ad", "n"}) form.Koy(ad, ad == std::string_view(o.ad) ? o.deger : "");
+    EXPECT_EQ(form.Metin(), "┌     ┬─┬─┐\n" + std::string(o.beklenen) + "\n\n") << o.deger;
+  }
+}
+
+TEST(MetinFormu, MarksByName) {
+  MetinFormu form("[☐] Erkek [☐] Kadın\nAdı «kisi.adi» «no»\n«no...»", {"cins0", "cins1"});
+  FormKurucu cizim(A4(KagitYonu::Dikey));
+  cizim.Isaret("cins0", {}, false);
+  cizim.Isaret("cins1", {}, true);
+  cizim.Alan("no", {}, "4071");
+  cizim.Alan("baska", {}, "x");  // has no place here
+  form.Doldur(cizim.Sayfa());
+  form.Koy("kisi.adi", "Işıl");
+  EXPECT_EQ(form.Metin(), "[ ] Erkek [X] Kadın\nAdı Işıl       4071\n4071\n") << "a name may have two places";
+
+  EXPECT_DEBUG_DEATH(form.Koy("yok", "a"), "bulundu") << "an unknown mark";
+  EXPECT_DEBUG_DEATH(static_cast<void>(MetinFormu("«a»").Metin()), "dolu") << "a place that nobody fills";
+  EXPECT_DEBUG_DEATH(MetinFormu("[☐]", {}), "kutu") << "a box without a name";
+}
+
+TEST(MetinFormu, ValuesByPlace) {
+  MetinFormu form("│ş:   │ │ │");
+  form.KoySagda({1, 4, 3}, " 42 ");
+  form.Koy({9, 1, 3}, "a"), form.Koy({1, 0, 1}, "a"), form.Koy({1, 99, 1}, "a");
+  form.Koy({1, 10, 5}, "abc");
+  EXPECT_EQ(form.Metin(), "│ş: 42│ │ab\n") << "what lies outside is passed over";
+}
+
+// Caption and value in one frame: beside each other or one above the other, each inside it.
+TEST(FormKurucu, CaptionedBoxes) {
+  FormKurucu form(A4(KagitYonu::Dikey));
+  EXPECT_EQ(
+      form.EtiketliKutular({10, 20}, 10, {{30, "Adı", EtiketUstte, "adi", "Işıl"}, {40, "İli", 12, "il", "Bursa"}}),
+      30);
+  const FormSayfasi& s = form.Sayfa();
+  ASSERT_EQ(std::tuple(s.kutular.size(), s.yazilar.size(), s.alanlar.size()), std::tuple(2u, 2u, 2u));
+  EXPECT_EQ(s.kutular[1].yer.x, 40);
+  EXPECT_GT(s.alanlar[0].yer.y, s.yazilar[0].yer.y + s.yazilar[0].yer.boy - 1e-6);
+  EXPECT_GE(s.alanlar[1].yer.x, s.yazilar[1].yer.x + s.yazilar[1].yer.en - 1e-6);
+  for (std::size_t i = 0; i < 2; ++i) {
+    EXPECT_LT(s.alanlar[i].yer.x + s.alanlar[i].yer.en, s.kutular[i].yer.x + s.kutular[i].yer.en);
+    EXPECT_LT(s.alanlar[i].yer.y + s.alanlar[i].yer.boy, 30 + 1e-6);
   }
 }
 

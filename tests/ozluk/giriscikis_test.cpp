@@ -2,9 +2,8 @@
 #include <gmock/gmock.h>
 
 #include "core/turkce.h"
-#include "documents/girisbildirgesi.h"
-#include "documents/ibraname.h"
-#include "documents/ornekler.h"
+#include "ozluk/girisbildirgesi.h"
+#include "ozluk/ibraname.h"
 #include "printing/kayittuvali.h"
 
 namespace belvani {
@@ -12,9 +11,12 @@ namespace {
 
 using test::KayitTuvali;
 using test::OgeTuru;
-using test::operator""_tl;
 using testing::ElementsAreArray;
 using testing::HasSubstr;
+
+Tutar operator""_tl(long double lira) {
+  return Tutar(double(lira));
+}
 
 // Lines of a text as letters.
 std::vector<std::vector<std::string>> Harfler(std::string_view metin) {
@@ -239,7 +241,16 @@ TEST(GirisBildirgesi, DrawnFormHoldsTheSame) {
 
 Ibraname OrnekIbraname() {
   Ibraname i;
-  i.firma = test::OrnekBaslik().firma;
+  i.firma.unvan = "Çınar Tekstil San. ve Tic. A.Ş.";
+  i.firma.sektor = "2";
+  i.firma.meslek = "1721";
+  i.firma.sube = "01";
+  i.firma.dosya = "1034567";
+  i.firma.il = "034";
+  i.firma.ilce = "12";
+  i.firma.kontrol = "77";
+  i.firma.adr1 = "Organize Sanayi Bölgesi 4. Cadde 17";
+  i.firma.adr2 = "Ümraniye İstanbul";
   i.firma.semt = "Dudullu";
   i.tarih = Tarih(2009, 3, 31);
   i.form = {.kod = "1",

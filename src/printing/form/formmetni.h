@@ -1,11 +1,11 @@
 // The values of a drawn form as lines for a text printer: no frame and no words, to be printed onto a sheet that has
-// them already. Each value stands on the line and at the letter where its box is drawn (kagitparcalari.h).
+// them already. Each value stands on the line and at the letter where its box is drawn (satirliform.h).
 #pragma once
 
 #include <string>
 #include <vector>
 
-#include "printing/formsayfasi.h"
+#include "printing/form/formsayfasi.h"
 
 namespace belvani {
 

@@ -2,8 +2,8 @@
 #include <array>
 
 #include "core/turkce.h"
-#include "documents/ibranameicerik.h"
-#include "printing/metinformu.h"
+#include "ozluk/ibranameicerik.h"
+#include "printing/form/metinformu.h"
 #include "printing/yzccnt.h"
 
 namespace belvani {

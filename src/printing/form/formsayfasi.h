@@ -4,8 +4,8 @@
 // can show them over the drawn form, move them and change their texts; what it changed is drawn the same way.
 //
 //   FormKurucu form(A4(KagitYonu::Dikey));
-//   form.Kutu({10, 10, 60, 8});
-//   form.Etiket({11, 10, 20, 8}, "SSK No");
+//   form.Bolum({10, 10, 60, 8}, "1-Kimlik", 9);
+//   form.EtiketliKutular({10, 18}, 10, {{30, "Adı", EtiketUstte, "adi", "Işıl"}, {30, "İli", 12, "il", "Bursa"}});
 //   form.Basamaklar("sskno", {.x = 30, .y = 11, .sayi = 7, .en = 5, .boy = 6}, "1034567");
 //   FormCiz(form.Sayfa(), tuval);
 #pragma once
@@ -86,6 +86,17 @@ struct HucreDizisi {
   Dikdortgen Tamami() const { return {x, y, sayi * en, boy}; }
 };
 
+// A caption and the value of a field in one frame.
+constexpr double EtiketUstte = 0;
+struct EtiketliKutu {
+  double en = 0;
+  std::string_view etiket;
+  double etiketEni = EtiketUstte;  // room of the caption on the left; EtiketUstte: it stands above the value
+  std::string ad;
+  std::string deger;
+  MetinHizasi hiza = MetinHizasi::Sol;
+};
+
 // Puts a page together. Words and values take the letters that are set at the time.
 class FormKurucu {
  public:
@@ -93,12 +104,22 @@ class FormKurucu {
 
   YaziBicimi etiketYazisi{.punto = 7};
   YaziBicimi degerYazisi{.punto = 9, .kalinlik = YaziKalinligi::Kalin};
+  double pay = 1.5;  // between a frame and what stands in it
 
   void Kutu(const Dikdortgen& yer, double kalinlik = InceCizgi);
   void Cizgi(Nokta bas, Nokta son, double kalinlik = InceCizgi);
   void Resim(const Dikdortgen& yer, std::string_view png);
   void Etiket(const Dikdortgen& yer, std::string_view metin, MetinHizasi hiza = MetinHizasi::Sol);
   void Alan(std::string_view ad, const Dikdortgen& yer, std::string_view deger, MetinHizasi hiza = MetinHizasi::Sol);
+
+  // Bold words in a box, without and with its frame.
+  void Baslik(const Dikdortgen& kutu, std::string_view metin, double punto, MetinHizasi hiza = MetinHizasi::Orta);
+  void Bolum(const Dikdortgen& kutu, std::string_view metin, double punto, MetinHizasi hiza = MetinHizasi::Orta);
+
+  // A frame with its caption in the upper line.
+  void EtiketliCerceve(const Dikdortgen& kutu, std::string_view etiket);
+  // Captioned boxes of one height, side by side. Gives the y below them.
+  double EtiketliKutular(Nokta solUst, double boy, const std::vector<EtiketliKutu>& kutular);
 
   // The cells with their frame, and a value in them from the left, or so that its last letter is in the last cell.
   void Basamaklar(std::string_view ad, const HucreDizisi& hucreler, std::string_view deger,
@@ -109,6 +130,9 @@ class FormKurucu {
 
   // The frame of a table with its inner lines; gives the whole of it.
   Dikdortgen Tablo(Nokta solUst, const std::vector<double>& kolonEnleri, double satirBoyu, int satirSayisi);
+
+  // What is left of a box between the blanks at its sides.
+  Dikdortgen Icerisi(const Dikdortgen& kutu) const { return {kutu.x + pay, kutu.y, kutu.en - 2 * pay, kutu.boy}; }
 
   const FormSayfasi& Sayfa() const { return sayfa_; }
 

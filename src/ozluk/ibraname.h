@@ -9,7 +9,7 @@
 #include "core/tables/firma.h"
 #include "core/tarih.h"
 #include "personnel/istencikis.h"
-#include "printing/formbelgesi.h"
+#include "printing/form/formbelgesi.h"
 
 namespace belvani {
 

@@ -1,4 +1,4 @@
-#include "printing/formsayfasi.h"
+#include "printing/form/formsayfasi.h"
 
 #include <algorithm>
 #include <cassert>
@@ -7,6 +7,9 @@
 
 namespace belvani {
 namespace {
+
+constexpr double UstEtiketBoyu = 3.6;
+constexpr double UstEtiketPayi = 0.4;
 
 void HucrelereYaz(const FormAlani& alan, Tuval& tuval) {
   std::string_view kalan = alan.deger;
@@ -68,6 +71,42 @@ void FormKurucu::Etiket(const Dikdortgen& yer, std::string_view metin, MetinHiza
 void FormKurucu::Alan(std::string_view ad, const Dikdortgen& yer, std::string_view deger, MetinHizasi hiza) {
   assert(std::ranges::none_of(sayfa_.alanlar, [&](const FormAlani& a) { return a.ad == ad; }));
   sayfa_.alanlar.push_back({std::string(ad), yer, TemizDeger(deger), degerYazisi, hiza});
+}
+
+void FormKurucu::Baslik(const Dikdortgen& kutu, std::string_view metin, double punto, MetinHizasi hiza) {
+  const YaziBicimi yazi{.punto = punto, .kalinlik = YaziKalinligi::Kalin};
+  sayfa_.yazilar.push_back({Icerisi(kutu), std::string(metin), yazi, hiza});
+}
+
+void FormKurucu::Bolum(const Dikdortgen& kutu, std::string_view metin, double punto, MetinHizasi hiza) {
+  Kutu(kutu);
+  Baslik(kutu, metin, punto, hiza);
+}
+
+void FormKurucu::EtiketliCerceve(const Dikdortgen& kutu, std::string_view etiket) {
+  Kutu(kutu);
+  const Dikdortgen ic = Icerisi(kutu);
+  Etiket({ic.x, ic.y + UstEtiketPayi, ic.en, UstEtiketBoyu}, etiket);
+}
+
+double FormKurucu::EtiketliKutular(Nokta solUst, double boy, const std::vector<EtiketliKutu>& kutular) {
+  double x = solUst.x;
+  for (const auto& k : kutular) {
+    const Dikdortgen kutu{x, solUst.y, k.en, boy};
+    const Dikdortgen ic = Icerisi(kutu);
+    if (k.etiketEni == EtiketUstte) {
+      const double ust = UstEtiketBoyu + UstEtiketPayi;
+      EtiketliCerceve(kutu, k.etiket);
+      Alan(k.ad, {ic.x, ic.y + ust, ic.en, boy - ust - UstEtiketPayi}, k.deger, k.hiza);
+    } else {
+      const double sol = k.etiketEni + pay;
+      Kutu(kutu);
+      Etiket({ic.x, ic.y, k.etiketEni, boy}, k.etiket);
+      Alan(k.ad, {ic.x + sol, ic.y, ic.en - sol, boy}, k.deger, k.hiza);
+    }
+    x += k.en;
+  }
+  return solUst.y + boy;
 }
 
 void FormKurucu::Basamaklar(std::string_view ad, const HucreDizisi& hucreler, std::string_view deger,

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "printing/belge.h"
-#include "printing/formsayfasi.h"
+#include "printing/form/formsayfasi.h"
 
 namespace belvani {
 

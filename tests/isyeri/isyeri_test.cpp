@@ -1,0 +1,58 @@
+// The company on statutory papers: its number and its parties.
+#include <gmock/gmock.h>
+
+#include "isyeri/firmaadresi.h"
+#include "isyeri/isyerinumarasi.h"
+#include "isyeri/taraflar.h"
+
+namespace belvani {
+namespace {
+
+using testing::ElementsAre;
+
+std::string Deger(const FormSayfasi& sayfa, std::string_view ad) {
+  const auto alan = std::ranges::find(sayfa.alanlar, ad, &FormAlani::ad);
+  return alan == sayfa.alanlar.end() ? "-" : alan->deger;
+}
+
+TEST(IsyeriNumarasi, GruplarMetindeVeKutularda) {
+  Firma firma;
+  EXPECT_EQ(IsyeriSicilNo(firma), "");
+  EXPECT_EQ(IlKodu(firma), "000");
+  firma.dosya = " 1034567 ";
+  firma.kontrol = "77";
+  EXPECT_EQ(IsyeriSicilNo(firma), "1034567 77");
+  for (const auto& [il, kod] : {std::pair{"34", "034"}, {"6 ", "006"}, {"0034", "034"}}) {
+    firma.il = il;
+    EXPECT_EQ(IlKodu(firma), kod);
+  }
+  FormKurucu f(A4(KagitYonu::Yatay));
+  EXPECT_EQ(IsyeriNumarasi(f, 10, 5, firma, "007"), 9);
+  EXPECT_EQ(Deger(f.Sayfa(), "firma.dosya"), "1034567");
+  EXPECT_EQ(Deger(f.Sayfa(), "firma.il"), "034") << "with its zeros";
+  EXPECT_EQ(Deger(f.Sayfa(), "arac.kod"), "007");
+  const FormAlani& son = f.Sayfa().alanlar.back();
+  EXPECT_LE(son.yer.x + son.yer.en, 10 + IsyeriNumarasiEni);
+}
+
+TEST(Taraflar, BosOlaninYerineOburu) {
+  Firma firma;
+  firma.epos = "a@b";
+  firma.tckimlik = "10000000146";
+  EXPECT_EQ(Isveren(firma).iletisim, "a@b");
+  EXPECT_EQ(Isveren(firma).kimlikNo, "10000000146");
+  firma.tel = "0212";
+  firma.verno = "123";
+  EXPECT_EQ(Isveren(firma).iletisim, "0212");
+  EXPECT_EQ(Isveren(firma).kimlikNo, "123");
+  Arac arac;
+  arac.isim1 = "Ada";
+  EXPECT_EQ(Araci(arac).unvan, "Ada");
+  firma.adr1 = "Sanayi Cad. 17";
+  firma.semt = " Ümraniye ";
+  firma.adril = "İstanbul";
+  EXPECT_THAT(FirmaAdresi(firma), ElementsAre("Sanayi Cad. 17", "Ümraniye İstanbul"));
+}
+
+}  // namespace
+}  // namespace belvani
