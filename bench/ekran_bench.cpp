@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <benchmark/benchmark.h>
 #include <clocale>
+#include <memory>
+#include <vector>
 
 #include "defteruret.h"
 #include "screens/declarations/yaylik.h"
@@ -28,6 +30,19 @@ class SessizBildirim final : public Bildirim {
 };
 
 SessizBildirim bildirim;
+
+// What several measurements share. It holds widgets, so main lets it go before the application, newest first.
+std::vector<std::shared_ptr<void>> ortaklar;
+
+template <class Nesne>
+Nesne& Ortak() {
+  static Nesne& nesne = [&]() -> Nesne& {
+    auto yeni = std::make_shared<Nesne>();
+    ortaklar.push_back(yeni);
+    return *yeni;
+  }();
+  return nesne;
+}
 
 void ListeyiDoldur(dclist& liste, const std::vector<QString>& hucreler, int satirlar) {
   liste.Model().TopluBasla();
@@ -56,8 +71,7 @@ struct BuyukListe {
 };
 
 BuyukListe& Liste() {
-  static BuyukListe liste;
-  return liste;
+  return Ortak<BuyukListe>();
 }
 
 // Filling and showing, up to the painted list.
@@ -105,8 +119,7 @@ struct BuyukSirket {
 };
 
 BuyukSirket& Sirket() {
-  static BuyukSirket sirket;
-  return sirket;
+  return Ortak<BuyukSirket>();
 }
 
 void Bas(int tus, const QString& metin = {}) {
@@ -215,8 +228,7 @@ struct BuyukDefter {
 };
 
 const BuyukDefter& Defter() {
-  static const BuyukDefter defter;
-  return defter;
+  return Ortak<BuyukDefter>();
 }
 
 // From the finished report to the painted grid.
@@ -266,5 +278,6 @@ int main(int argc, char** argv) {
   std::setlocale(LC_NUMERIC, "C");
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
+  while (!ortaklar.empty()) ortaklar.pop_back();
   return 0;
 }

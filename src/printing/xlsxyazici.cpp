@@ -51,12 +51,17 @@ class RaporSayfasi {
   }
 
   void Basi() {
-    kitap_.Yaz(satir_++, 0, rapor_.ekranBasligi, koyu_);
+    std::vector<std::string> satirlar{rapor_.ekranBasligi};
     for (const auto& ust : rapor_.ustSatirlar)
-      if (const std::string metin = UstEkranMetni(ust); !metin.empty()) kitap_.Yaz(satir_++, 0, metin, duz_);
+      if (std::string metin = UstEkranMetni(ust); !metin.empty()) satirlar.push_back(std::move(metin));
+    kitap_.UstuDondur(int(satirlar.size()) + 1);
+    for (const auto& metin : satirlar) {
+      kitap_.Yaz(satir_, 0, metin, satir_ == 0 ? koyu_ : duz_);
+      ++satir_;
+    }
     for (std::size_t k = 0; k < rapor_.Kolonlar().size(); ++k)
       kitap_.Yaz(satir_, int(k), rapor_.Kolonlar()[k].kisaBaslik, baslik_);
-    kitap_.UstuDondur(++satir_);
+    ++satir_;
   }
 
   void SatirYaz(const std::vector<Hucre>& hucreler, const std::vector<XlsxKitap::Stil>& stiller) {
