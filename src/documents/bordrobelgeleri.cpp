@@ -77,8 +77,7 @@ std::unique_ptr<Belge> OzelBordroBelgesi(const BelgeKaynagi& kaynak, const Defte
 
 std::unique_ptr<Belge> UcretPusulalari(const BelgeKaynagi& kaynak, const DefterSecim& secim, SayfadaYaprak sayfada) {
   const PusulaBaslik baslik = PusulaBasligi(kaynak, secim);
-  const auto satirlar = DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::Kisi));
-  YaprakBelgesi belge = PusulaBelgesi(satirlar, baslik);
+  YaprakBelgesi belge = PusulaBelgesi(DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::Kisi)), baslik);
   const YzcAyarlari ayar = Baski(belge.baslik, KagitYonu::Dikey);
   return std::make_unique<YaprakliBelge>(std::move(belge), sayfada, ayar);
 }

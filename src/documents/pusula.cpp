@@ -1,5 +1,7 @@
 #include "documents/pusula.h"
 
+#include <memory>
+
 #include "core/store/satirlar.h"
 #include "core/tables/muaf.h"
 #include "documents/turetilensatir.h"
@@ -139,6 +141,45 @@ std::string PusulaDonemi(const BordroDonemi& donem) {
 
 constexpr const char* pusulaBasligi = "ÜCRET PUSULASI";
 
+constexpr std::array<const char*, 4> cumleler{
+    "Ücret hesap pusulasını, ücretimi nakten aldım. Bu bordro bilgilerine istinaden müesseseniz",
+    "ile ücret yönünden bir ilişiğim kalmamıştır.", "", "   İ M Z A"};
+
+// Makes any of the slips from the records, which it keeps.
+class PusulaYapan {
+ public:
+  PusulaYapan(std::vector<BordroSatiri> satirlar, const PusulaBaslik& baslik)
+      : satirlar_(std::move(satirlar)),
+        turetilen_(TuretilmisSatirlar(satirlar_, baslik.defter)),
+        ekAlanlar_(EkAlanlar(baslik)),
+        donem_(PusulaDonemi(BelgeDonemi(baslik.defter))),
+        isveren_{{"Firma İsmi    :", baslik.defter.firma.unvan},
+                 {"İşyeri Sicil  :", IsyeriSicilNo(baslik.defter.firma)}} {
+    for (const auto& satir : satirlar_) FazlaMesaiTutari(satir.brd);  // out of range: now, and not while it is drawn
+  }
+  PusulaYapan(const PusulaYapan&) = delete;
+  PusulaYapan& operator=(const PusulaYapan&) = delete;
+
+  Yaprak Yap(std::size_t sira) const {
+    const TuretilmisSatir& satir = turetilen_[sira];
+    Yaprak yaprak{.altBaslik = donem_,
+                  .bas = isveren_,
+                  .sol = kazanclar.Blok(satir),
+                  .sag = kesilenler.Blok(satir),
+                  .ek = ekAlanlar_.Blok(satir),
+                  .cumleler = {cumleler.begin(), cumleler.end()}};
+    for (auto& alan : kimlik.Blok(satir)) yaprak.bas.push_back(std::move(alan));
+    return yaprak;
+  }
+
+ private:
+  std::vector<BordroSatiri> satirlar_;
+  std::vector<TuretilmisSatir> turetilen_;  // of those
+  Kolonlar<TuretilmisSatir> ekAlanlar_;
+  std::string donem_;
+  std::vector<BlokSatiri> isveren_;
+};
+
 }  // namespace
 
 std::array<std::string, YardimSayisi> YardimAdlariOku(Motor& motor) {
@@ -150,22 +191,12 @@ std::array<std::string, YardimSayisi> YardimAdlariOku(Motor& motor) {
   return adlar;
 }
 
-YaprakBelgesi PusulaBelgesi(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik) {
-  const Firma& firma = baslik.defter.firma;
-  const auto ekAlanlar = EkAlanlar(baslik);
-  YaprakBelgesi belge{.baslik = pusulaBasligi, .paraOndaligi = baslik.defter.paraonda, .yapraklar = {}};
-  for (const auto& satir : TuretilmisSatirlar(satirlar, baslik.defter)) {
-    Yaprak& yaprak = belge.yapraklar.emplace_back();
-    yaprak.altBaslik = PusulaDonemi(BelgeDonemi(baslik.defter));
-    yaprak.bas = {{"Firma İsmi    :", firma.unvan}, {"İşyeri Sicil  :", IsyeriSicilNo(firma)}};
-    for (auto& alan : kimlik.Blok(satir)) yaprak.bas.push_back(std::move(alan));
-    yaprak.sol = kazanclar.Blok(satir);
-    yaprak.sag = kesilenler.Blok(satir);
-    yaprak.ek = ekAlanlar.Blok(satir);
-    yaprak.cumleler = {"Ücret hesap pusulasını, ücretimi nakten aldım. Bu bordro bilgilerine istinaden müesseseniz",
-                       "ile ücret yönünden bir ilişiğim kalmamıştır.", "", "   İ M Z A"};
-  }
-  return belge;
+YaprakBelgesi PusulaBelgesi(std::vector<BordroSatiri> satirlar, const PusulaBaslik& baslik) {
+  const std::size_t adet = satirlar.size();
+  const auto yapan = std::make_shared<const PusulaYapan>(std::move(satirlar), baslik);
+  return {.baslik = pusulaBasligi,
+          .paraOndaligi = baslik.defter.paraonda,
+          .yapraklar = {adet, [yapan](std::size_t sira) { return yapan->Yap(sira); }}};
 }
 
 Rapor PusulaRaporu(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik) {

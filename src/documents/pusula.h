@@ -22,7 +22,7 @@ struct PusulaBaslik {
 std::array<std::string, YardimSayisi> YardimAdlariOku(Motor& motor);
 
 // The records as they are to be printed: in the order DefterSirasi::Kisi.
-YaprakBelgesi PusulaBelgesi(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik);
+YaprakBelgesi PusulaBelgesi(std::vector<BordroSatiri> satirlar, const PusulaBaslik& baslik);
 Rapor PusulaRaporu(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik);
 
 }  // namespace belvani

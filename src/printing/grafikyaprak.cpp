@@ -131,17 +131,19 @@ class YaprakKalemi {
 GrafikYapraklar::GrafikYapraklar(const YaprakBelgesi& belge, SayfadaYaprak sayfada)
     : belge_(belge), sayfada_(int(sayfada)) {
   yazi_.punto = EnBuyukPunto;
-  Olc();
-  const double oran = SigmaOrani();
+  const double oran = SigmaOrani(Olc());
   if (oran >= 1) return;
   yazi_.punto *= oran;
-  Olc();
+  basEtiketi_ *= oran;
+  for (BlokEni& en : enler_) en = {en.etiket * oran, en.deger * oran};
 }
 
-void GrafikYapraklar::Olc() {
-  enler_ = {};
-  basEtiketi_ = 0;
+// Widths of the letters set, in one walk over the slips; gives the lines of the tallest.
+double GrafikYapraklar::Olc() {
+  const std::size_t yanYana = BolunmeBul(sayfada_).yanYana;
+  double enCokSatir = 0;
   for (const auto& yaprak : belge_.yapraklar) {
+    enCokSatir = std::max(enCokSatir, SatirSayisi(yaprak, yanYana));
     const auto bloklar = Bloklar(yaprak);
     for (std::size_t b = 0; b < BlokSayisi; ++b)
       for (const auto& satir : bloklar[b]) {
@@ -150,10 +152,11 @@ void GrafikYapraklar::Olc() {
       }
     for (const auto& satir : yaprak.bas) basEtiketi_ = std::max(basEtiketi_, MetinEni(Etiket(satir.etiket), yazi_));
   }
+  return enCokSatir;
 }
 
 // How much smaller letters have to be for the widest blocks and the tallest slip.
-double GrafikYapraklar::SigmaOrani() const {
+double GrafikYapraklar::SigmaOrani(double enCokSatir) const {
   const std::size_t yanYana = BolunmeBul(sayfada_).yanYana;
   const Dikdortgen yer = Yer(0);
   double oran = 1;
@@ -163,9 +166,7 @@ double GrafikYapraklar::SigmaOrani() const {
     const double bosluk = EtiketAraligi * double(yanYana) + BloklarArasi * double(yanYana - 1);
     oran = std::min(oran, (yer.en - bosluk) / std::max(1.0, harfEni));
   }
-  double satir = 0;
-  for (const auto& yaprak : belge_.yapraklar) satir = std::max(satir, SatirSayisi(yaprak, yanYana));
-  return std::min(oran, yer.boy / std::max(1.0, satir * SatirBoyu(yazi_) * SatirAraligi));
+  return std::min(oran, yer.boy / std::max(1.0, enCokSatir * SatirBoyu(yazi_) * SatirAraligi));
 }
 
 int GrafikYapraklar::SayfaSayisi() const {
@@ -190,7 +191,7 @@ void GrafikYapraklar::SayfaCiz(int no, Tuval& tuval) const {
   const int ilk = (no - 1) * sayfada_;
   const int son = std::min(ilk + sayfada_, int(belge_.yapraklar.size()));
   for (int i = ilk; i < son; ++i) {
-    const Yaprak& yaprak = belge_.yapraklar[std::size_t(i)];
+    const Yaprak yaprak = belge_.yapraklar[std::size_t(i)];
     YaprakCiz(yaprak, Yer(i - ilk), tuval, tuval.Kalip(std::to_string(i - ilk) + Sozler(yaprak)));
   }
   tuval.SayfaBitir();

@@ -41,15 +41,15 @@ class GrafikYapraklar final : public CizilenBelge {
   };
 
  private:
-  void Olc();
-  double SigmaOrani() const;
+  double Olc();
+  double SigmaOrani(double enCokSatir) const;
   void YaprakCiz(const Yaprak& yaprak, const Dikdortgen& yer, Tuval& tuval, Tuval& kalip) const;
   Dikdortgen Yer(int sira) const;
 
   const YaprakBelgesi& belge_;
   int sayfada_;
   YaziBicimi yazi_;
-  std::array<BlokEni, BlokSayisi> enler_;
+  std::array<BlokEni, BlokSayisi> enler_ = {};
   double basEtiketi_ = 0;
 };
 

@@ -10,6 +10,7 @@
 // Like a report it holds values, and writers render them. Unlike in a list, a zero is shown.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -27,10 +28,42 @@ struct Yaprak {
   std::vector<std::string> cumleler;  // read and signed by the person
 };
 
+// The slips of a document. Each is made when it is asked for: kept together, those of a large company would take a
+// hundred times the memory of their paper.
+class YaprakDizisi {
+ public:
+  YaprakDizisi(std::vector<Yaprak> yapraklar = {})  // NOLINT: slips that are made already
+      : YaprakDizisi(yapraklar.size(), [yapraklar](std::size_t sira) { return yapraklar[sira]; }) {}
+  // `yap` gives the same slip every time, and does not fail.
+  YaprakDizisi(std::size_t adet, std::function<Yaprak(std::size_t sira)> yap) : adet_(adet), yap_(std::move(yap)) {}
+
+  std::size_t size() const { return adet_; }
+  bool empty() const { return adet_ == 0; }
+  Yaprak operator[](std::size_t sira) const { return yap_(sira); }
+
+  struct Imlec {
+    const YaprakDizisi* dizi;
+    std::size_t sira;
+
+    Yaprak operator*() const { return (*dizi)[sira]; }
+    Imlec& operator++() {
+      ++sira;
+      return *this;
+    }
+    bool operator==(const Imlec&) const = default;
+  };
+  Imlec begin() const { return {this, 0}; }
+  Imlec end() const { return {this, adet_}; }
+
+ private:
+  std::size_t adet_;
+  std::function<Yaprak(std::size_t)> yap_;
+};
+
 struct YaprakBelgesi {
   std::string baslik;
   int paraOndaligi = 2;
-  std::vector<Yaprak> yapraklar;
+  YaprakDizisi yapraklar;
 };
 
 // "1,234.50", "0.00", "26", "15.03.2004"; Null is empty.

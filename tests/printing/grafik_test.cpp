@@ -127,10 +127,11 @@ TEST(Grafik, KaliplariKaristirmaz) {
     EXPECT_TRUE(DosyaYaz(yol, *pdf.Belge()));
     return yol;
   };
-  YaprakBelgesi fisler{.baslik = "FİŞ", .yapraklar = {}};
+  std::vector<Yaprak> yapraklar;
   for (const char* etiket : {"Ücreti :", "Ücreti :", "Yevmiyesi :"})
-    fisler.yapraklar.push_back(
+    yapraklar.push_back(
         {.altBaslik = {}, .bas = {{etiket, Tutar(1.5)}}, .sol = {}, .sag = {}, .ek = {}, .cumleler = {}});
+  const YaprakBelgesi fisler{.baslik = "FİŞ", .yapraklar = yapraklar};
   const std::string fis = yaz(GrafikYapraklar(fisler, SayfadaYaprak::Bir));
   EXPECT_THAT(SayfaMetni(fis, 2), HasSubstr("Ücreti"));
   EXPECT_THAT(SayfaMetni(fis, 3), AllOf(HasSubstr("Yevmiyesi"), Not(HasSubstr("Ücreti")), HasSubstr("FİŞ")));

@@ -16,12 +16,12 @@ using test::OgeTuru;
 YaprakBelgesi Fisler(std::size_t adet, std::size_t satir, Tutar tutar) {
   YaprakBelgesi belge{.baslik = "FİŞ", .yapraklar = {}};
   const std::vector<BlokSatiri> blok(satir, {"Toplam Kazanç  *** :", tutar});
-  belge.yapraklar.assign(adet, {.altBaslik = "Ocak",
-                                .bas = {{"Adı :", std::string("Işıl")}},
-                                .sol = blok,
-                                .sag = {{"Net :", tutar}},
-                                .ek = {{"Katkı :", tutar}, {"Muaf :", tutar}, {"Borç :", tutar}},
-                                .cumleler = {"Aldım."}});
+  belge.yapraklar = std::vector<Yaprak>(adet, {.altBaslik = "Ocak",
+                                               .bas = {{"Adı :", std::string("Işıl")}},
+                                               .sol = blok,
+                                               .sag = {{"Net :", tutar}},
+                                               .ek = {{"Katkı :", tutar}, {"Muaf :", tutar}, {"Borç :", tutar}},
+                                               .cumleler = {"Aldım."}});
   return belge;
 }
 

@@ -126,12 +126,12 @@ RC_GTEST_PROP(XlsxYazici, SatirlarVeToplamlarRaporunkidir, ()) {
 
 TEST(XlsxYapraklari, IkiBlokYanYana) {
   YaprakBelgesi belge{.baslik = "FİŞ", .yapraklar = {}};
-  belge.yapraklar.assign(2, {.altBaslik = "Ocak",
-                             .bas = {{"Adı :", std::string("Işıl")}},
-                             .sol = {{"Gün :", std::int64_t(0)}, {"Giriş :", Tarih(2008, 1, 1)}},
-                             .sag = {{"Net :", Tutar()}},
-                             .ek = {{"Katkı :", Tutar(1.5)}, {"Muaf :", Tutar(2.5)}},
-                             .cumleler = {"Aldım."}});
+  belge.yapraklar = std::vector<Yaprak>(2, {.altBaslik = "Ocak",
+                                            .bas = {{"Adı :", std::string("Işıl")}},
+                                            .sol = {{"Gün :", std::int64_t(0)}, {"Giriş :", Tarih(2008, 1, 1)}},
+                                            .sag = {{"Net :", Tutar()}},
+                                            .ek = {{"Katkı :", Tutar(1.5)}, {"Muaf :", Tutar(2.5)}},
+                                            .cumleler = {"Aldım."}});
   const auto baytlar = XlsxYapraklari(belge);
   ASSERT_TRUE(baytlar);
   auto h = XlsxOku(*baytlar);
@@ -143,7 +143,7 @@ TEST(XlsxYapraklari, IkiBlokYanYana) {
   EXPECT_EQ(h["A9"].deger, "Aldım.");
   EXPECT_EQ(h["A12"].deger, "FİŞ");
 
-  EXPECT_EQ(MetinYapraklari({.baslik = "FİŞ", .yapraklar = {belge.yapraklar[0]}}, {}),
+  EXPECT_EQ(MetinYapraklari({.baslik = "FİŞ", .yapraklar = std::vector{belge.yapraklar[0]}}, {}),
             "                                     FİŞ\n"
             "                                    Ocak\n"
             "Adı : Işıl\n" +
@@ -154,7 +154,7 @@ TEST(XlsxYapraklari, IkiBlokYanYana) {
                 std::string(76, '-') +
                 "\n"
                 "Aldım.\n");
-  belge.yapraklar.resize(5, belge.yapraklar[0]);  // 8 lines, 3 between: two fit on 20 lines, not on 19
+  belge.yapraklar = std::vector(5, belge.yapraklar[0]);  // 8 lines, 3 between: two fit on 20 lines, not on 19
   const auto sayfalar = [&](int satirSayisi) {
     const std::string metin = MetinYapraklari(belge, {.satirSayisi = satirSayisi});
     return std::count(metin.begin(), metin.end(), '\f') + 1;
