@@ -11,9 +11,6 @@
 namespace belvani::cli {
 namespace {
 
-constexpr double EnCokGun = 30;
-constexpr double EnCokSaat = 240;
-
 template <class Liste>
 const AlanTanimi* Ara(const Liste& kolonlar, std::string_view ad) {
   for (const auto& kolon : kolonlar)
@@ -21,16 +18,10 @@ const AlanTanimi* Ara(const Liste& kolonlar, std::string_view ad) {
   return nullptr;
 }
 
-std::string SinirKusuru(const AlanTanimi& alan, double deger) {
-  const double enCok = Ara(GunKolonlari, alan.ad) ? EnCokGun : Ara(MesaiKolonlari, alan.ad) ? EnCokSaat : 0;
-  if (enCok > 0 && deger > enCok) return "en çok " + SayiMetni(enCok) + " olabilir";
-  if (alan.ad == "eksiksebebi" && EksikSebepSec(int(deger)) < 0) return "eksik gün sebebi listede yok";
-  return deger < 0 ? "eksi olamaz" : "";
-}
-
 void HucreIsle(const AlanTanimi& alan, const std::string& metin, GirisSatiri& giris, std::string& kusur) {
   const Deger deger = MetindenDeger(alan, metin, kusur);
-  if (kusur.empty()) kusur = SinirKusuru(alan, SayiDegeri(deger));
+  if (alan.ad == brd::eksiksebebi.ad && kusur.empty() && EksikSebepSec(int(TamDegeri(deger))) < 0)
+    kusur = "eksik gün sebebi listede yok";
   if (!kusur.empty()) return;
   Brd::HerKolon([&](const auto& kolon) {
     if (kolon.ad == alan.ad) UyeyeYaz(giris.deger.*kolon.uye, deger);

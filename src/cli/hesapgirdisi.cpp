@@ -36,9 +36,10 @@ std::vector<Kayit> Satirlar(const Json& nesne, const char* ad, Kusurlar& kusurla
     kusurlar.push_back(std::string(ad) + ": dizi olmalı");
     return satirlar;
   }
-  for (const Json& satir : dizi)
-    JsondanKayit(satir, std::string(ad) + "[" + std::to_string(satirlar.size()) + "]", satirlar.emplace_back(),
-                 kusurlar);
+  for (const Json& satir : dizi) {
+    Kayit& kayit = satirlar.emplace_back();
+    JsondanKayit(satir, std::string(ad) + "[" + std::to_string(satirlar.size()) + "]", kayit, kusurlar);
+  }
   return satirlar;
 }
 
@@ -160,23 +161,29 @@ void BayraklariOku(const Json& json, KazancBayraklari& bayraklar, Kusurlar& kusu
   oku(bayraklar.y, "y");
 }
 
+// Rows that say their place by `no`, which counts from 1.
+template <class Kayit, class Uye, class Yerlestir>
+void NumaraliSatirlar(const Json& json, const Kolon<Kayit, Uye>& no, Kusurlar& kusurlar, Yerlestir&& yerlestir) {
+  const std::size_t once = kusurlar.size();
+  const std::string ad(Kayit::TabloAdi);
+  for (Kayit& satir : Satirlar<Kayit>(json, ad.c_str(), kusurlar)) {
+    const std::string kusur = DegerKusuru(no, UyeDegeri(satir.*no.uye));
+    if (kusur.empty())
+      yerlestir(std::size_t(satir.*no.uye - 1), satir);
+    else if (kusurlar.size() == once)  // one that was read and refused has been told
+      kusurlar.push_back(ad + ".no: " + kusur);
+  }
+}
+
 void FirmaTanimlariniOku(const Json& json, HesapGirdisi& h) {
   FirmaParametreleri& f = h.kosullar.firma;
   BayraklariOku(json, f.varsayilan, h.kusurlar);
   f.mesailer = VarsayilanFazlaMesailer();
   f.yardimlar = VarsayilanYardimlar();
-  for (const Muaf& m : Satirlar<Muaf>(json, "muaf", h.kusurlar)) {
-    if (m.no < 1 || m.no > YardimSayisi)
-      h.kusurlar.push_back("muaf.no: 1 ile 11 arasında olmalı");
-    else
-      f.yardimlar[m.no - 1u] = {m.adi, m.indtip, m.oran, m.sabit};
-  }
-  for (Indir& i : Satirlar<Indir>(json, "indir", h.kusurlar)) {
-    if (i.no < 1 || i.no > f.indirimler.size())
-      h.kusurlar.push_back("indir.no: 1 ile 3 arasında olmalı");
-    else
-      f.indirimler[i.no - 1u] = std::move(i);
-  }
+  NumaraliSatirlar(json, muaf::no, h.kusurlar, [&](std::size_t sira, const Muaf& m) {
+    f.yardimlar[sira] = {m.adi, m.indtip, m.oran, m.sabit};
+  });
+  NumaraliSatirlar(json, indir::no, h.kusurlar, [&](std::size_t sira, const Indir& i) { f.indirimler[sira] = i; });
   f.sendikalar = Satirlar<Sendika>(json, "sendika", h.kusurlar);
 }
 
@@ -194,8 +201,8 @@ void KisiyiOku(const Json& json, HesapGirdisi& h) {
 
 void CalismaGununuBul(const Json& json, HesapGirdisi& h) {
   if (json.contains("calismagun")) {
-    h.CalismaGun = int(TamDegeri(Tekli(json, "calismagun", AlanTipi::Byte, h.kusurlar)));
-    if (h.CalismaGun > 30) h.kusurlar.push_back("calismagun: en çok 30 olabilir");
+    const AlanTanimi gun{"calismagun", AlanTipi::Byte, 0, AlanNiteligi::Serbest, brd::ng.sinir};
+    h.CalismaGun = int(TamDegeri(JsonDegeri(gun, json["calismagun"], "calismagun", h.kusurlar)));
     return;
   }
   const Sicil& s = h.kisi.sicil;

@@ -47,11 +47,7 @@ Sonuc<AktarimSonucu> Kaydet(Oturum& o, AktarimDosyasi& dosya, AktarimKipi kip, I
 void GirisTarihiniDenetle(AktarimDosyasi& dosya, const AktarimSatiri& satir, bool yeni) {
   const int sira = dosya.KolonSirasi("girtar");
   const bool bos = sira < 0 || NullMu(satir.degerler[std::size_t(sira)]);
-  // A cell that could not be read has been told already.
-  const bool soylendi = std::any_of(dosya.sorunlar.begin(), dosya.sorunlar.end(), [&](const AktarimSorunu& s) {
-    return s.satirNo == satir.satirNo && s.kolon == "girtar";
-  });
-  if (bos && !soylendi && (yeni || sira >= 0))
+  if (bos && !dosya.Soylendi(satir.satirNo, "girtar") && (yeni || sira >= 0))
     dosya.sorunlar.push_back({satir.satirNo, "girtar", "Giriş Tarihi Hatalı"});
 }
 

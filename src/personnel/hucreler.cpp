@@ -1,53 +1,12 @@
 #include "personnel/hucreler.h"
 
+#include <algorithm>
 #include <set>
 
 #include "core/turkce.h"
-#include "personnel/listeler.h"
 
 namespace belvani {
 namespace {
-
-// Fields that hold a position of a fixed list: the last position there is.
-struct ListeSiniri {
-  std::string_view tablo;
-  std::string_view alan;
-  std::int64_t enCok;
-};
-
-constexpr ListeSiniri ListeSinirlari[] = {
-    {"sicil", "sskdurum", 32},
-    {"sicil", "ucrettipi", SonSira(UcretTipleri)},
-    {"sicil", "ucretags", SonSira(UcretEsaslari)},
-    {"sicil", "sakatdrc", SonSira(SakatlikDereceleri)},
-    {"sicil", "tur", 18},
-    {"kimlik", "cins", SonSira(Cinsiyetler)},
-    {"kimlik", "medeni", SonSira(MedeniHaller)},
-    {"kimlik", "dini", SonSira(Dinler)},
-    {"kimlik", "kan", SonSira(KanGruplari)},
-    {"kimlik", "tahsil", SonSira(Tahsiller)},
-    {"esco", "yakinlik", std::ssize(Yakinliklar)},
-    {"esco", "cins", SonSira(KodluCinsiyetler)},
-    {"esco", "agiok", SonSira(AgiDurumlari)},
-    {"muaf", "indtip", 5},
-    {"indir", "indtip", 4},
-    {"sendika", "yer", 4},
-    {"firma", "tehlike", 2},
-    {"firma", "sinif", 11},
-    {"firma", "paraonda", 4},
-    {"firma", "firmaay", 12},
-    {"muaf", "no", 11},
-    {"indir", "no", 3},
-};
-
-std::string SinirKusuru(const AktarimKolonu& kolon, const Deger& deger) {
-  for (const auto& s : ListeSinirlari)
-    if (s.tablo == kolon.tablo->ad && s.alan == kolon.alan->ad &&
-        (SayiDegeri(deger) < 0 || SayiDegeri(deger) > double(s.enCok)))
-      return "0 ile " + std::to_string(s.enCok) + " arasında olmalı";
-  const bool ucret = kolon.alan->ad == "ucret" || kolon.alan->ad.starts_with("indtut");
-  return ucret && SayiDegeri(deger) < 0 ? "eksi olamaz" : "";
-}
 
 AktarimKolonu KolonBul(const std::vector<const TabloTanimi*>& tablolar, const std::string& baslik) {
   for (const TabloTanimi* tablo : tablolar)
@@ -60,10 +19,8 @@ AktarimSatiri SatirCevir(const CsvTablosu& csv, const CsvSatiri& satir, AktarimD
   for (std::size_t i = 0; i < satir.hucreler.size(); ++i) {
     std::string kusur;
     Deger deger;
-    if (const auto& kolon = dosya.kolonlar[i]; kolon.alan != nullptr) {
-      deger = MetindenDeger(*kolon.alan, satir.hucreler[i], kusur);
-      if (kusur.empty()) kusur = SinirKusuru(kolon, deger);
-    }
+    if (const AlanTanimi* alan = dosya.kolonlar[i].alan; alan != nullptr)
+      deger = MetindenDeger(*alan, satir.hucreler[i], kusur);
     if (!kusur.empty()) dosya.sorunlar.push_back({satir.satirNo, csv.basliklar[i], kusur});
     sonuc.degerler.push_back(std::move(deger));
   }
@@ -75,6 +32,7 @@ void AnahtarDenetle(AktarimDosyasi& dosya, std::string_view anahtar, AnahtarKura
   std::set<std::string, decltype(kucuk)> gorulen(kucuk);
   for (const auto& satir : dosya.satirlar) {
     const std::string deger = dosya.Metin(satir, anahtar);
+    if (dosya.Soylendi(satir.satirNo, anahtar)) continue;
     if (deger.empty() || deger == "0")
       dosya.sorunlar.push_back({satir.satirNo, std::string(anahtar), "boş bırakılamaz"});
     else if (!gorulen.insert(deger).second && kural == AnahtarKurali::Tekil)
@@ -83,6 +41,11 @@ void AnahtarDenetle(AktarimDosyasi& dosya, std::string_view anahtar, AnahtarKura
 }
 
 }  // namespace
+
+bool AktarimDosyasi::Soylendi(int satirNo, std::string_view kolon) const {
+  return std::ranges::any_of(sorunlar,
+                             [&](const AktarimSorunu& s) { return s.satirNo == satirNo && AdEsit(s.kolon, kolon); });
+}
 
 int AktarimDosyasi::KolonSirasi(std::string_view alan) const {
   for (std::size_t i = 0; i < kolonlar.size(); ++i)

@@ -26,6 +26,7 @@ struct AktarimDosyasi {
   std::vector<AktarimSatiri> satirlar;
   std::vector<AktarimSorunu> sorunlar;
 
+  bool Soylendi(int satirNo, std::string_view kolon) const;                    // has this cell a problem already?
   int KolonSirasi(std::string_view alan) const;                                // -1: not in the file
   std::string Metin(const AktarimSatiri& satir, std::string_view alan) const;  // "" when not in the file
 };

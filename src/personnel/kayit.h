@@ -48,7 +48,7 @@ std::string KayitKusuru(const Kayit& kayit) {
   Kayit::HerKolon([&](const auto& kolon) {
     Deger deger = UyeDegeri(kayit.*kolon.uye);
     if (const auto* metin = std::get_if<std::string>(&deger)) deger = DenetimsizMetin(*metin);
-    const std::string kusur = DegerKusuru(kolon, deger);
+    const std::string kusur = TipKusuru(kolon, deger);
     if (kusur.empty()) return;
     kusurlar += kusurlar.empty() ? "" : "\n";
     kusurlar += std::string(AlanEtiketi(Kayit::TabloAdi, kolon.ad)) + ": " + kusur;

@@ -34,7 +34,7 @@ struct AlanEki {
   bool secenek = false;                          // choices as option buttons side by side
   bool kutu = false;                             // a check box for a number: 0 or 1
   int ondalik = TipinOndaligi;
-  double enCok = 0;     // largest number; 0: what the type holds
+  double enCok = 0;     // largest number, where the screen takes less than the column
   int harf = 0;         // width in letters; 0: follows from the type
   bool kapali = false;  // shown, not typed into
   bool sifre = false;   // masked

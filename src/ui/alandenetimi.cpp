@@ -35,27 +35,11 @@ int Ondalik(const belvani::Alan& alan, int paraOndalik) {
   return 0;
 }
 
+// The longest text, or the largest number.
 double EnCok(const belvani::Alan& alan) {
-  if (alan.ek.enCok > 0) return alan.ek.enCok;
-  switch (alan.tanim.tip) {
-    case AlanTipi::Byte:
-      return 255;
-    case AlanTipi::Kisa:
-      return 32767;
-    case AlanTipi::Uzun:
-      return 2147483647;
-    case AlanTipi::Tek:
-      return 99999;
-    case AlanTipi::Tutar:
-      return 99999999999999.0;
-    case AlanTipi::Metin:
-      return alan.tanim.boyut;
-    case AlanTipi::Tarih:
-    case AlanTipi::Mantik:
-    case AlanTipi::Ikili:
-      return 0;
-  }
-  return 0;
+  if (alan.tanim.tip == AlanTipi::Metin) return alan.tanim.boyut;
+  const double enCok = EnBuyukGirdi(alan.tanim);
+  return alan.ek.enCok > 0 ? std::min(alan.ek.enCok, enCok) : enCok;
 }
 
 int HarfGenisligi(const belvani::Alan& alan) {
@@ -236,7 +220,8 @@ class SecenekDenetimi final : public AlanDenetimi {
 }  // namespace
 
 std::optional<Kusur> AlanDenetimi::Kusuru() const {
-  const std::string kusur = DegerKusuru(alan_.tanim, Oku());
+  // Its limit has been held key by key; a stored value beyond it, not touched, stays as it was.
+  const std::string kusur = TipKusuru(alan_.tanim, Oku());
   if (kusur.empty()) return std::nullopt;
   return KuralKusuru(alan_.etiket + ": " + kusur, alan_.Tutamak());
 }

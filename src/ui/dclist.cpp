@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <map>
 
+#include "core/tables/alan.h"
 #include "ui/dclistdenetim.h"
 #include "ui/dclisthucre.h"
 #include "ui/metin.h"
@@ -265,7 +266,8 @@ QWidget* dclist::DuzenleyiciYap(QWidget* ust, int kolon) const {
   auto* yazi = new xtext(ust);
   switch (k.tip) {
     case dclistKolonu::Tip::Sayi:
-      yazi->xTextBicim(xtext::Tip::Sayi, k.enCok > 0 ? k.enCok : 9e13, Qt::AlignRight, true, k.ondalik, k.grup);
+      yazi->xTextBicim(xtext::Tip::Sayi, k.enCok > 0 ? k.enCok : sinir::EnCokTutar, Qt::AlignRight, true, k.ondalik,
+                       k.grup);
       break;
     case dclistKolonu::Tip::Tarih:
       yazi->xTextBicim(xtext::Tip::Tarih, 0, Qt::AlignLeft, true);

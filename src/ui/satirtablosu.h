@@ -86,6 +86,13 @@ SatirKolonu<Satir> UyeKolonu(const char* ad, const char* baslik, int genislik, U
   return UyeKolonuYap<Satir>(ad, baslik, genislik, uye, ek);
 }
 
+// The same of a member that is a column of a table, which has its name and limits.
+template <class Satir, class U>
+SatirKolonu<Satir> UyeKolonu(const Kolon<Satir, U>& kolon, const char* baslik, int genislik, KolonEki ek = {}) {
+  ek.enCok = kolon.tip == AlanTipi::Metin ? kolon.boyut : EnBuyukGirdi(kolon);
+  return UyeKolonuYap<Satir>(kolon.ad.data(), baslik, genislik, kolon.uye, ek);
+}
+
 // A column of names, one for each row by its place.
 template <class Satir>
 SatirKolonu<Satir> AdKolonu(const char* baslik, int genislik, std::span<const std::string_view> adlar) {

@@ -126,6 +126,28 @@ TEST(DegerKusuru, LimitsOfEachType) {
   EXPECT_EQ(DegerKusuru(Alan(A::Metin, AlanNiteligi::Zorunlu), Null{}), "boş bırakılamaz");
 }
 
+// What may be entered is less than what the column holds.
+TEST(DegerKusuru, LimitsOfColumns) {
+  const Tablo<AlanTanimi, std::vector<Deger>, std::vector<Deger>, std::string> durumlar{
+      {sicil::ucrettipi, {I(0), I(2), Null{}}, {I(3), I(255)}, "0 ile 2 arasında olmalı"},
+      {muaf::no, {I(1), I(11)}, {I(0), I(12)}, "1 ile 11 arasında olmalı"},
+      {brd::ng, {I(0), I(30)}, {I(31)}, "en çok 30 olabilir"},
+      {brd::fm1, {239.5, 240.0}, {240.25}, "en çok 240 olabilir"},
+      {sicil::ucret, {Tutar(), Tutar(99'999'999'999'999)}, {Tutar::Hamdan(-1)}, "eksi olamaz"}};
+  for (const auto& [alan, sigan, sigmayan, kusur] : durumlar) {
+    for (const auto& d : sigan) EXPECT_EQ(DegerKusuru(alan, d), "") << alan.ad << " " << MetinDegeri(d);
+    for (const auto& d : sigmayan) {
+      EXPECT_EQ(DegerKusuru(alan, d), kusur) << alan.ad;
+      EXPECT_EQ(TipKusuru(alan, d), "") << alan.ad << ": the store keeps it";
+    }
+    std::string metinKusuru;
+    for (const auto& d : sigmayan) EXPECT_TRUE(NullMu(MetindenDeger(alan, MetinDegeri(d), metinKusuru)));
+    EXPECT_EQ(metinKusuru, kusur);
+  }
+  EXPECT_EQ(EnBuyukGirdi(brd::ng), 30);
+  EXPECT_EQ(EnBuyukGirdi(brd::ay), 255);
+}
+
 TEST(MetindenDeger, ValuesAndFaults) {
   const Tablo<AlanTipi, const char*, Deger> degerler{
       {A::Metin, "\t Aş e \r", std::string("Aş e")}, {A::Metin, "", std::string()}, {A::Byte, " 255 ", I(255)},

@@ -80,9 +80,9 @@ Deger KolondanDeger(const Komut& komut, int kolon) {
 Deger Uydur(const AlanTanimi& alan, const Deger& deger, std::string& kusur) {
   kusur.clear();
   if (const auto* metin = std::get_if<std::string>(&deger); metin != nullptr && alan.tip != AlanTipi::Metin)
-    return MetindenDeger(alan, *metin, kusur);
+    return MetniCevir(alan, *metin, kusur);
   Deger uygun = Yaklastir(alan.tip, deger);
-  kusur = DegerKusuru(alan, uygun);
+  kusur = TipKusuru(alan, uygun);
   if (!kusur.empty() || NullMu(uygun)) return Null{};
   // Only now, for an amount or a rate that is out of range has no value of its type.
   if (alan.tip == AlanTipi::Tutar) return TutarDegeri(uygun);

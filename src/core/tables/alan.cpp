@@ -51,6 +51,13 @@ std::string SayiKusuru(AlanTipi tip, const Deger& deger) {
   return std::fabs(SayiDegeri(deger)) < enCok ? "" : "sayı çok büyük";
 }
 
+// The limit of the column, beyond what its type says.
+std::string SinirKusuru(const AlanSiniri& s, double sayi) {
+  if (sayi >= s.enAz && sayi <= s.enCok) return {};
+  if (s.sira) return SayiMetni(s.enAz) + " ile " + SayiMetni(s.enCok) + " arasında olmalı";
+  return sayi < s.enAz ? "eksi olamaz" : "en çok " + SayiMetni(s.enCok) + " olabilir";
+}
+
 Deger TamSayiyaCevir(const AlanTanimi& alan, std::string_view metin, std::string& kusur) {
   const Aralik aralik = TamSayiAraligi(alan.tip);
   const auto sayi = TamSayiOku(metin);
@@ -64,7 +71,7 @@ Deger TamSayiyaCevir(const AlanTanimi& alan, std::string_view metin, std::string
 
 }  // namespace
 
-std::string DegerKusuru(const AlanTanimi& alan, const Deger& deger) {
+std::string TipKusuru(const AlanTanimi& alan, const Deger& deger) {
   if (NullMu(deger)) return alan.nitelik == AlanNiteligi::Zorunlu ? "boş bırakılamaz" : "";
   switch (alan.tip) {
     case AlanTipi::Metin: {
@@ -95,14 +102,45 @@ std::string DegerKusuru(const AlanTanimi& alan, const Deger& deger) {
   return {};
 }
 
+std::string DegerKusuru(const AlanTanimi& alan, const Deger& deger) {
+  std::string kusur = TipKusuru(alan, deger);
+  return kusur.empty() && !NullMu(deger) ? SinirKusuru(alan.sinir, SayiDegeri(deger)) : kusur;
+}
+
+double EnBuyukGirdi(const AlanTanimi& alan) {
+  constexpr double EnCokOran = 99'999;
+  if (std::isfinite(alan.sinir.enCok)) return alan.sinir.enCok;
+  switch (alan.tip) {
+    case AlanTipi::Tutar:
+      return sinir::EnCokTutar;
+    case AlanTipi::Tek:
+      return EnCokOran;
+    case AlanTipi::Byte:
+    case AlanTipi::Kisa:
+    case AlanTipi::Uzun:
+    case AlanTipi::Mantik:
+    case AlanTipi::Metin:
+    case AlanTipi::Tarih:
+    case AlanTipi::Ikili:
+      break;
+  }
+  return double(TamSayiAraligi(alan.tip).enCok);
+}
+
 Deger MetindenDeger(const AlanTanimi& alan, std::string_view metin, std::string& kusur) {
+  Deger deger = MetniCevir(alan, metin, kusur);
+  if (kusur.empty()) kusur = DegerKusuru(alan, deger);
+  return kusur.empty() ? deger : Deger(Null{});
+}
+
+Deger MetniCevir(const AlanTanimi& alan, std::string_view metin, std::string& kusur) {
   kusur.clear();
   const std::string temiz = DenetimsizMetin(metin);
   const std::string_view kirpik = Kirp(temiz);
   switch (alan.tip) {
     case AlanTipi::Metin: {
       Deger d = std::string(kirpik);
-      kusur = DegerKusuru(alan, d);
+      kusur = TipKusuru(alan, d);
       return kusur.empty() ? d : Deger(Null{});
     }
     case AlanTipi::Byte:

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -76,13 +77,44 @@ struct UyeTipi<AlanTipi::Ikili> {
   using T = Baytlar;
 };
 
+// What may be entered into a column of numbers, where that is less than its type holds: from screens, files and lists
+// alike. The store itself keeps whatever the type holds.
+struct AlanSiniri {
+  double enAz = -std::numeric_limits<double>::infinity();
+  double enCok = std::numeric_limits<double>::infinity();
+  bool sira = false;  // a position or number out of a range: the range is told
+};
+
+// As the tables write them.
+namespace sinir {
+constexpr double EnCokTutar = 99'999'999'999'999;
+
+constexpr AlanSiniri Aralik(int enAz, int enCok) {
+  return {double(enAz), double(enCok), true};
+}
+// A position in a list of `sayi` choices, from 0.
+constexpr AlanSiniri Secim(int sayi) {
+  return Aralik(0, sayi - 1);
+}
+// A quantity.
+constexpr AlanSiniri EnCok(double enCok) {
+  return {0, enCok, false};
+}
+}  // namespace sinir
+
 // A column by name; `boyut` counts letters and is 0 for everything but text.
 struct AlanTanimi {
   std::string_view ad;
   AlanTipi tip;
   int boyut;
   AlanNiteligi nitelik;
+  AlanSiniri sinir = {};
 };
+
+// Does the column end where a list of that many choices does? For the asserts beside the lists.
+constexpr bool ListeyeUyar(const AlanTanimi& alan, std::size_t secenek) {
+  return alan.sinir.enAz == 0 && alan.sinir.enCok == double(secenek - 1);
+}
 
 // A column of a record struct: Kolon<Sicil, Tutar> is a member of Sicil.
 template <class Kayit, class Uye>
@@ -110,11 +142,19 @@ struct TabloTanimi {
   const IndeksTanimi* IndeksBul(std::string_view indeks) const;
 };
 
-// Tells why a value does not fit a column ("en çok 8 harf", "0 ile 255 arasında olmalı"); "" when it does.
+// Tells why the column cannot hold a value ("en çok 8 harf olabilir", "0 ile 255 arasında bir tam sayı olmalı"); ""
+// when it can.
+std::string TipKusuru(const AlanTanimi& alan, const Deger& deger);
+// Why a value may not be entered: the column cannot hold it, or it is beyond the column's limit ("en çok 30 olabilir").
 std::string DegerKusuru(const AlanTanimi& alan, const Deger& deger);
 
-// The text of an import file as a value of the column: dates dd.MM.yyyy, booleans 0/1, "" is Null for dates and zero or
-// empty otherwise. On failure `kusur` tells why and the value is Null.
+// The largest number that may be entered: the column's limit, else what its type has room for.
+double EnBuyukGirdi(const AlanTanimi& alan);
+
+// A text as a value that the column can hold: dates dd.MM.yyyy, booleans 0/1, "" is Null for dates and zero or empty
+// otherwise. On failure `kusur` tells why and the value is Null.
+Deger MetniCevir(const AlanTanimi& alan, std::string_view metin, std::string& kusur);
+// The same for the text of a file or list, whose value may be entered.
 Deger MetindenDeger(const AlanTanimi& alan, std::string_view metin, std::string& kusur);
 
 }  // namespace belvani

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/store/satirlar.h"
+#include "core/tables/uye.h"
 #include "core/turkce.h"
 #include "payroll/hesap/netbrut.h"
 #include "payroll/hesap/satirlar.h"
@@ -36,15 +37,14 @@ std::string YandakiKod(Motor& motor, KisiYonu yon, const std::string& kod) {
 
 // Lines that the fields themselves limit; a program may hand over anything.
 std::string GirisKusuru(const Brd& brd, const YardimTanimlari& yardimlar) {
-  for (std::size_t i = 0; i < MesaiKolonlari.size(); ++i) {
-    const double saat = (brd.*MesaiKolonlari[i].uye).Sayi();
-    const std::string ad(KazancAdlari[GunSatiriSayisi + i]);
-    if (saat > EnCokSaat) return ad + ": en çok " + std::to_string(EnCokSaat) + " olabilir";
-    if (saat < 0) return ad + ": eksi olamaz";
-  }
-  for (std::size_t i = 0; i < YardimKolonlari.size(); ++i)
-    if (brd.*YardimKolonlari[i].uye < Tutar()) return yardimlar[i].adi + ": eksi olamaz";
-  return {};
+  std::string kusur;
+  const auto denetle = [&](const auto& kolon, std::string_view ad) {
+    const std::string neden = DegerKusuru(kolon, UyeDegeri(brd.*kolon.uye));
+    if (kusur.empty() && !neden.empty()) kusur = std::string(ad) + ": " + neden;
+  };
+  for (std::size_t i = 0; i < MesaiKolonlari.size(); ++i) denetle(MesaiKolonlari[i], KazancAdlari[GunSatiriSayisi + i]);
+  for (std::size_t i = 0; i < YardimKolonlari.size(); ++i) denetle(YardimKolonlari[i], yardimlar[i].adi);
+  return kusur;
 }
 
 EkranToplamlari ToplamlariBul(const BordroSonucu& s) {

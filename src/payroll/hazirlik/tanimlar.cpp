@@ -27,7 +27,7 @@ std::string KayitKusuru(const Kayit& kayit) {
   std::string kusur;
   Kayit::HerKolon([&](const auto& kolon) {
     if (!kusur.empty()) return;
-    const std::string neden = DegerKusuru(kolon, UyeDegeri(kayit.*kolon.uye));
+    const std::string neden = TipKusuru(kolon, UyeDegeri(kayit.*kolon.uye));
     if (!neden.empty()) kusur = std::string(kolon.ad) + ": " + neden;
   });
   return kusur;

@@ -25,6 +25,7 @@ enum class IndirimYeri : std::uint8_t {
 // As the screen lists them; the position is what is stored.
 inline constexpr std::array<std::string_view, 5> IndirimYerleri{"Hiçbiri", "Özel Emeklilik", "Özel Sigorta",
                                                                 "Özel Emeklilik+Sigorta", "Askerlik"};
+static_assert(ListeyeUyar(indir::indtip, IndirimYerleri.size()));
 
 struct IndirimGirdisi {
   const Indir& tanim;  // the deduction's row

@@ -10,8 +10,6 @@ namespace belvani {
 
 constexpr int GunSatiriSayisi = 6;    // ng ht ui rt mi ha
 constexpr int MesaiSatiriSayisi = 3;  // fm1 fm2 fm3
-constexpr int EnCokGun = 30;          // entered on a day line
-constexpr int EnCokSaat = 240;        // entered on an overtime line
 
 inline constexpr std::array<Kolon<Brd, std::uint8_t>, GunSatiriSayisi> GunKolonlari{brd::ng, brd::ht, brd::ui,
                                                                                     brd::rt, brd::mi, brd::ha};

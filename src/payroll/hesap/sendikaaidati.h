@@ -18,6 +18,7 @@ enum class KesintiYeri : std::uint8_t { Sabit = 0, NetOdenen = 1, SskMatrahi = 2
 // As the screen lists them; the position is what is stored.
 inline constexpr std::array<std::string_view, 5> KesintiYerleri{"Sabit", "Net Ödenen", "SSK Matrahı", "Brüt Kazanç",
                                                                 "Ücret"};
+static_assert(ListeyeUyar(sendika::yer, KesintiYerleri.size()));
 
 struct SendikaGirdisi {
   Tutar NetOdenen;

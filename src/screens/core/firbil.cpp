@@ -5,8 +5,8 @@
 namespace belvani {
 namespace {
 
-constexpr std::string_view TehlikeDereceleri[] = {"Normal", "Alt", "Üst"};
-constexpr std::string_view Siniflar[] = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12"};
+static_assert(ListeyeUyar(firma::tehlike, TehlikeSiniflari.size()));
+static_assert(ListeyeUyar(firma::sinif, TehlikeDereceleri.size()));
 
 // The work-accident rate that follows from class and degree; shown, never stored.
 struct PrimOrani {
@@ -44,16 +44,16 @@ std::vector<std::vector<AlanGrubu>> Gruplar() {
             3}},
           {{"Dönem",
             {{firma::firmaay, "Dönem Ay", {.liste = AyAdlari, .listeTabani = 1}},
-             {firma::firmayil, "Dönem Yıl", {.enCok = 9999}},
+             {firma::firmayil, "Dönem Yıl"},
              {firma::tersfirma, "Dönem 15.01.2004 - 14.02.2004 gibi"}},
             2},
            {"Kurallar",
-            {{firma::tehlike, "Teh.Derecesi", {.liste = TehlikeDereceleri}},
-             {firma::sinif, "Tehlike Sınıfı", {.liste = Siniflar}},
+            {{firma::tehlike, "Teh.Derecesi", {.liste = TehlikeSiniflari}},
+             {firma::sinif, "Tehlike Sınıfı", {.liste = TehlikeDereceleri}},
              {TehlikeOranAlani, "İş Kazası Oranı", {.ondalik = 1, .kapali = true}},
              {firma::kanun, "Kanun", {.harf = 8, .ipucu = "Beş haneli kanun numarası, örneğin 05510"}},
-             {firma::issaati, "Çalışma Saati", {.enCok = 24, .ipucu = "Günlük çalışma saati"}},
-             {firma::paraonda, "Para Ondalığı", {.enCok = 4}},
+             {firma::issaati, "Çalışma Saati", {.ipucu = "Günlük çalışma saati"}},
+             {firma::paraonda, "Para Ondalığı"},
              {firma::yuvar, "Yuvarlama"},
              {firma::ondeger, "Öndeğer Hesap", {.ipucu = "Yeni personelin kazanç grubu"}}},
             2},

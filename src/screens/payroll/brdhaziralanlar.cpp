@@ -31,11 +31,10 @@ Alan KodAlani() {
 AlanGrubu GunGrubu() {
   AlanGrubu grup{"Günler ve Mesai", {}};
   for (std::size_t i = 0; i < GunKolonlari.size(); ++i)
-    grup.alanlar.emplace_back(GunKolonlari[i], KazancAdlari[i].data(),
-                              AlanEki{.enCok = EnCokGun, .no = int(KazancAlani(i))});
+    grup.alanlar.emplace_back(GunKolonlari[i], KazancAdlari[i].data(), AlanEki{.no = int(KazancAlani(i))});
   for (std::size_t i = 0; i < MesaiKolonlari.size(); ++i)
     grup.alanlar.emplace_back(MesaiKolonlari[i], KazancAdlari[GunSatiriSayisi + i].data(),
-                              AlanEki{.enCok = EnCokSaat, .harf = 6, .no = int(KazancAlani(GunSatiriSayisi + i))});
+                              AlanEki{.harf = 6, .no = int(KazancAlani(GunSatiriSayisi + i))});
   return grup;
 }
 
@@ -84,7 +83,7 @@ AlanGrubu EksikGunGrubu() {
           {{Uye("sebep", &BordroSecimi::sebep),
             "Eksik Gün S.",
             {.liste = EksikSebepleri, .harf = 16, .no = int(BordroAlani::EksikSebep)}},
-           {brd::ucretsizizin, "Ücretsiz İzin", {.enCok = 31, .harf = 3, .no = int(BordroAlani::UcretsizIzin)}},
+           {brd::ucretsizizin, "Ücretsiz İzin", {.harf = 3, .no = int(BordroAlani::UcretsizIzin)}},
            {brd::rapcalismadi, "Raporda Çalışmadı", {.kutu = true, .no = int(BordroAlani::RaporCalismadi)}}},
           3};
 }

@@ -11,11 +11,10 @@ constexpr std::string_view IndirimAdlari[] = {"İndirim1", "İndirim2", "İndiri
 
 indfrm::indfrm(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ListeEkrani(baglam, parametreler, "indfrm", QStringLiteral("İndirimler"),
-                  {AdKolonu<Indir>("", 80, IndirimAdlari),
-                   UyeKolonu("adi", "İndirim İsmi", 190, &Indir::adi, {.enCok = indir::adi.boyut}),
-                   UyeKolonu("sabit", "Sabit İndirim", 120, &Indir::sabit, {.ondalik = baglam.oturum.firma.paraonda}),
-                   UyeKolonu("oran", "% İndirim", 90, &Indir::oran, {.enCok = 100}),
-                   UyeKolonu("indtip", "İndirim Yeri", 200, &Indir::indtip, {.liste = IndirimYerleri})}) {
+                  {AdKolonu<Indir>("", 80, IndirimAdlari), UyeKolonu(indir::adi, "İndirim İsmi", 190),
+                   UyeKolonu(indir::sabit, "Sabit İndirim", 120, {.ondalik = baglam.oturum.firma.paraonda}),
+                   UyeKolonu(indir::oran, "% İndirim", 90),
+                   UyeKolonu(indir::indtip, "İndirim Yeri", 200, {.liste = IndirimYerleri})}) {
   Ac(3);
 }
 

@@ -12,9 +12,9 @@ AlanGrubu Gunler() {
   AlanGrubu grup{"Gün ve Saatler", {}};
   for (std::size_t i = 0; i < KazancSayisi; ++i) {
     const bool gun = i < GunSatiriSayisi;
-    const std::string_view ad = gun ? GunKolonlari[i].ad : MesaiKolonlari[i - GunSatiriSayisi].ad;
-    grup.alanlar.push_back(DiziAlani(ad, &Sablon::SablonGun, i, KazancAdlari[i].data(),
-                                     {.ondalik = gun ? 0 : 2, .enCok = double(gun ? EnCokGun : EnCokSaat)}));
+    const AlanTanimi kolon = gun ? AlanTanimi(GunKolonlari[i]) : MesaiKolonlari[i - GunSatiriSayisi];
+    grup.alanlar.push_back(DiziAlani(kolon.ad, &Sablon::SablonGun, i, KazancAdlari[i].data(),
+                                     {.ondalik = gun ? 0 : 2, .enCok = kolon.sinir.enCok}));
   }
   return grup;
 }

@@ -12,7 +12,7 @@ AlanGrubu Alanlar() {
           {{sendika::kod, "Sendika No", {.anahtar = true}},
            {sendika::adi, "Sendika Adı"},
            {sendika::sabit, "Sabit Kesinti"},
-           {sendika::oran, "Oran Kesinti", {.enCok = 100}},
+           {sendika::oran, "Oran Kesinti"},
            {sendika::taban, "Taban"},
            {sendika::tavan, "Tavan"},
            {sendika::yer, "Kesinti Yeri", {.liste = KesintiYerleri}}}};
