@@ -1,6 +1,7 @@
 #include "printing/belge.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "printing/cairotuval.h"
 #include "printing/doskod.h"
@@ -54,6 +55,21 @@ Rapor BasligiAyarla(Rapor rapor, const YzcAyarlari& ayar, const std::string& unv
   return rapor;
 }
 
+void Belge::Ayarla(const YzcAyarlari& ayar) {
+  const YzcDestegi destek = Destek();
+  const YzcAyarlari ilk = std::exchange(ayar_, ayar);
+  const auto birak = [&](bool destekli, auto YzcAyarlari::*uye) {
+    if (!destekli) ayar_.*uye = ilk.*uye;
+  };
+  birak(destek.baslik, &YzcAyarlari::YzcBaslikYaz);
+  birak(destek.tarih, &YzcAyarlari::YzcTarihYaz);
+  birak(destek.sayfaNo, &YzcAyarlari::YzcSayfaNoYaz);
+  birak(destek.sirket, &YzcAyarlari::YzcSirketYaz);
+  birak(destek.yon, &YzcAyarlari::YzcYon);
+  birak(destek.satir, &YzcAyarlari::YzcSatir);
+  AyarDegisti();
+}
+
 RaporBelgesi::RaporBelgesi(Rapor rapor, YzcAyarlari ilk, GrafikDuzeni grafik, SayfaDuzeni sayfa, std::string unvan)
     : Belge(std::move(ilk)),
       tablo_(std::make_shared<const Rapor>(std::move(rapor))),
@@ -62,11 +78,20 @@ RaporBelgesi::RaporBelgesi(Rapor rapor, YzcAyarlari ilk, GrafikDuzeni grafik, Sa
       sayfa_(sayfa),
       unvan_(std::move(unvan)) {}
 
-void RaporBelgesi::Ayarla(const YzcAyarlari& ayar) {
-  Belge::Ayarla(ayar);
-  kagit_ = std::make_shared<Rapor>(BasligiAyarla(*tablo_, ayar, unvan_, Tarih::Bugun()));
-  grafik_.yon = ayar.YzcYon;
-  sayfa_.satirSayisi = ayar.YzcSatir;
+YzcDestegi RaporBelgesi::Destek() const {
+  const auto sirketli = [](const UstSatir& s) { return s.sirket && !s.sol.empty(); };
+  return {.baslik = true,
+          .tarih = true,
+          .sayfaNo = true,
+          .sirket = !unvan_.empty() || std::ranges::any_of(tablo_->ustSatirlar, sirketli),
+          .yon = true,
+          .satir = Ayar().YzcDosAcik};
+}
+
+void RaporBelgesi::AyarDegisti() {
+  kagit_ = std::make_shared<Rapor>(BasligiAyarla(*tablo_, Ayar(), unvan_, Tarih::Bugun()));
+  grafik_.yon = Ayar().YzcYon;
+  sayfa_.satirSayisi = Ayar().YzcSatir;
 }
 
 std::unique_ptr<CizilenBelge> RaporBelgesi::Cizim() const {
@@ -88,12 +113,12 @@ Sonuc<std::string> RaporBelgesi::Xlsx() const {
   return XlsxRaporu(*tablo_);
 }
 
-YaprakliBelge::YaprakliBelge(YaprakBelgesi yapraklar, SayfadaYaprak sayfada, YzcAyarlari ilk)
-    : Belge(std::move(ilk)), yapraklar_(std::move(yapraklar)), sayfada_(sayfada) {}
+YaprakliBelge::YaprakliBelge(YaprakBelgesi yapraklar, SayfadaYaprak sayfada, YzcAyarlari ilk,
+                             std::function<Rapor()> veri)
+    : Belge(std::move(ilk)), yapraklar_(std::move(yapraklar)), sayfada_(sayfada), veri_(std::move(veri)) {}
 
-void YaprakliBelge::Ayarla(const YzcAyarlari& ayar) {
-  Belge::Ayarla(ayar);
-  yapraklar_.baslik = ayar.YzcBaslikYaz ? ayar.YzcBaslik : std::string();
+void YaprakliBelge::AyarDegisti() {
+  yapraklar_.baslik = Ayar().YzcBaslikYaz ? Ayar().YzcBaslik : std::string();
 }
 
 std::unique_ptr<CizilenBelge> YaprakliBelge::Cizim() const {
@@ -102,6 +127,10 @@ std::unique_ptr<CizilenBelge> YaprakliBelge::Cizim() const {
 
 std::string YaprakliBelge::Metin() const {
   return MetinYapraklari(yapraklar_, {.satirSayisi = Ayar().YzcSatir});
+}
+
+std::shared_ptr<const Rapor> YaprakliBelge::Veri() const {
+  return veri_ ? std::make_shared<const Rapor>(veri_()) : nullptr;
 }
 
 Sonuc<std::string> YaprakliBelge::Xlsx() const {

@@ -6,6 +6,7 @@
 //   Sonuc<PdfCiktisi> pdf = BelgePdf(belge);
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -25,11 +26,15 @@ class Belge {
   virtual ~Belge() = default;
 
   // Heads, lines of a page, orientation, copies and way as the settings say. Without it the document is as it was made.
-  virtual void Ayarla(const YzcAyarlari& ayar) { ayar_ = ayar; }
+  // Settings that it does not honour keep what it began with.
+  void Ayarla(const YzcAyarlari& ayar);
   const YzcAyarlari& Ayar() const { return ayar_; }
+  // The settings that it honours; a fixed form none.
+  virtual YzcDestegi Destek() const { return {}; }
 
   virtual std::string Baslik() const = 0;
-  virtual bool Bos() const = 0;  // nothing to print
+  virtual bool Bos() const = 0;                    // nothing to print
+  virtual bool Kayitsiz() const { return Bos(); }  // made of no records; it may have lines to print all the same
   // The drawn form, as long as this document lives; null for one that has none.
   virtual std::unique_ptr<CizilenBelge> Cizim() const = 0;
   // The text form, UTF-8; empty for one that has none, or nothing to print.
@@ -40,10 +45,14 @@ class Belge {
   virtual std::string MetinUyarisi() const { return {}; }
   // For the screen; null for a paper that is no table.
   virtual std::shared_ptr<const Rapor> Tablo() const { return nullptr; }
+  // What it says as rows for other programs (CSV, JSON); null when it is a form.
+  virtual std::shared_ptr<const Rapor> Veri() const { return Tablo(); }
   // The spreadsheet file.
   virtual Sonuc<std::string> Xlsx() const = 0;
 
  private:
+  virtual void AyarDegisti() {}
+
   YzcAyarlari ayar_;
 };
 
@@ -54,7 +63,7 @@ class RaporBelgesi : public Belge {
   RaporBelgesi(Rapor rapor, YzcAyarlari ilk = {}, GrafikDuzeni grafik = {}, SayfaDuzeni sayfa = {},
                std::string unvan = {});
 
-  void Ayarla(const YzcAyarlari& ayar) override;
+  YzcDestegi Destek() const override;
   std::string Baslik() const override { return kagit_->baslik; }
   bool Bos() const override { return tablo_->Satirlar().empty(); }
   std::unique_ptr<CizilenBelge> Cizim() const override;
@@ -64,6 +73,8 @@ class RaporBelgesi : public Belge {
   Sonuc<std::string> Xlsx() const override;
 
  private:
+  void AyarDegisti() override;
+
   std::shared_ptr<const Rapor> tablo_;
   std::shared_ptr<const Rapor> kagit_;  // with the head of the settings
   GrafikDuzeni grafik_;
@@ -74,18 +85,24 @@ class RaporBelgesi : public Belge {
 // Slips.
 class YaprakliBelge final : public Belge {
  public:
-  YaprakliBelge(YaprakBelgesi yapraklar, SayfadaYaprak sayfada, YzcAyarlari ilk = {});
+  // `veri` makes the slips as a table with a row for each person.
+  YaprakliBelge(YaprakBelgesi yapraklar, SayfadaYaprak sayfada, YzcAyarlari ilk = {},
+                std::function<Rapor()> veri = nullptr);
 
-  void Ayarla(const YzcAyarlari& ayar) override;
+  YzcDestegi Destek() const override { return {.baslik = true, .satir = true}; }
   std::string Baslik() const override { return yapraklar_.baslik; }
   bool Bos() const override { return yapraklar_.yapraklar.empty(); }
   std::unique_ptr<CizilenBelge> Cizim() const override;
   std::string Metin() const override;
+  std::shared_ptr<const Rapor> Veri() const override;
   Sonuc<std::string> Xlsx() const override;
 
  private:
+  void AyarDegisti() override;
+
   YaprakBelgesi yapraklar_;
   SayfadaYaprak sayfada_;
+  std::function<Rapor()> veri_;
 };
 
 // The report's head as the settings want it: title, day of printing, page number, company. What is off and stands in

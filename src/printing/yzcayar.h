@@ -29,6 +29,19 @@ struct YzcAyarlari {
   std::string yazici;         // the selected printer; empty: the system's own choice
 };
 
+// The settings that change a paper; the dialog offers no others. What every job has (the title as its name, way,
+// copies, printer) is not among them.
+struct YzcDestegi {
+  bool baslik = false;   // the title stands on the paper and can be left out
+  bool tarih = false;    // the day of printing
+  bool sayfaNo = false;  // the page number
+  bool sirket = false;   // the company's name
+  bool yon = false;      // the sheet may lie either way
+  bool satir = false;    // a text page has as many lines as asked for
+
+  friend bool operator==(const YzcDestegi&, const YzcDestegi&) = default;
+};
+
 // What the dialog offers.
 inline constexpr std::array YzcSatirSecenekleri{22, 33, 44, 66, 70};
 constexpr int YzcEnCokKopya = 5;

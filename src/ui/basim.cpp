@@ -109,8 +109,8 @@ bool Yap(EkranBaglami& baglam, const Belge& belge, YzcKarar karar) {
   return true;
 }
 
-YzcKarar AyarSor(EkranBaglami& baglam, YzcAyarlari& ayar) {
-  auto form = std::make_unique<yzcsetup>(baglam, ayar);
+YzcKarar AyarSor(EkranBaglami& baglam, YzcAyarlari& ayar, const YzcDestegi& destek) {
+  auto form = std::make_unique<yzcsetup>(baglam, ayar, destek);
   const yzcsetup& ekran = *form;
   YzcKarar karar = YzcKarar::Vazgec;
   QObject::connect(form.get(), &Form::Kapandi, [&] { karar = ekran.Karar(); });
@@ -129,7 +129,7 @@ void BelgeBas(EkranBaglami& baglam, Belge& belge, const BasimSozu& once) {
   YzcAyarlari ayar = belge.Ayar();
   ayar.yazici = baglam.baski.yazici;
   while (true) {
-    const YzcKarar karar = AyarSor(baglam, ayar);
+    const YzcKarar karar = AyarSor(baglam, ayar, belge.Destek());
     baglam.baski.yazici = ayar.yazici;
     if (karar == YzcKarar::Vazgec) return;
     if (ayar.YzcDosMod && !ayar.YzcDosAcik) return baglam.bildirim.Bilgi(belge.MetinYok());

@@ -46,8 +46,11 @@ std::uint8_t SatirSirasi(int satir) {
 
 }  // namespace
 
-yzcsetup::yzcsetup(EkranBaglami& baglam, YzcAyarlari& ayar)
-    : Form(baglam, "yzcsetup", QStringLiteral("Yazıcı Ayarları")), ayar_(ayar), yazici_(new QLabel(this)) {
+yzcsetup::yzcsetup(EkranBaglami& baglam, YzcAyarlari& ayar, const YzcDestegi& destek)
+    : Form(baglam, "yzcsetup", QStringLiteral("Yazıcı Ayarları")),
+      ayar_(ayar),
+      destek_(destek),
+      yazici_(new QLabel(this)) {
   ayar_.YzcTamam = false;
   AlanlariDiz(Gruplar());
   auto* satir = new QHBoxLayout;
@@ -70,6 +73,7 @@ yzcsetup::yzcsetup(EkranBaglami& baglam, YzcAyarlari& ayar)
     if (alan.Satir().tanim.ad == "mod") KipDegisti();
   };
   Goster();
+  DestegiUygula();
   KipDegisti();
   YaziciGoster();
 }
@@ -80,21 +84,28 @@ void yzcsetup::Goster() {
                 .YzcKopya = std::uint8_t(std::clamp(ayar_.YzcKopya, 1, YzcEnCokKopya) - 1),
                 .YzcYon = std::uint8_t(ayar_.YzcYon == KagitYonu::Yatay ? 1 : 0),
                 .mod = std::uint8_t(ayar_.YzcDosMod ? 1 : 0),
-                .YzcBaslikYaz = ayar_.YzcBaslikYaz,
-                .YzcTarihYaz = ayar_.YzcTarihYaz,
-                .YzcSayfaNoYaz = ayar_.YzcSayfaNoYaz,
-                .YzcSirketYaz = ayar_.YzcSirketYaz});
+                .YzcBaslikYaz = ayar_.YzcBaslikYaz && destek_.baslik,
+                .YzcTarihYaz = ayar_.YzcTarihYaz && destek_.tarih,
+                .YzcSayfaNoYaz = ayar_.YzcSayfaNoYaz && destek_.sayfaNo,
+                .YzcSirketYaz = ayar_.YzcSirketYaz && destek_.sirket});
   const auto modlar = Denetim("mod").Odaklar();
   modlar[0]->setEnabled(ayar_.YzcGrafikAcik);
   modlar[1]->setEnabled(ayar_.YzcDosAcik);
+}
+
+void yzcsetup::DestegiUygula() {
+  Denetim("YzcBaslikYaz").Kapat(!destek_.baslik);
+  Denetim("YzcTarihYaz").Kapat(!destek_.tarih);
+  Denetim("YzcSayfaNoYaz").Kapat(!destek_.sayfaNo);
+  Denetim("YzcSirketYaz").Kapat(!destek_.sirket);
 }
 
 // A drawn page has its own count of lines, a text page no orientation.
 void yzcsetup::KipDegisti() {
   Ayarlar simdiki;
   if (!Oku(simdiki)) return;
-  Denetim("YzcYon").Kapat(simdiki.mod == 1);
-  Denetim("YzcSatir").Kapat(simdiki.mod == 0);
+  Denetim("YzcYon").Kapat(simdiki.mod == 1 || !destek_.yon);
+  Denetim("YzcSatir").Kapat(simdiki.mod == 0 || !destek_.satir);
   metinKaydet_->setEnabled(simdiki.mod == 1);
 }
 

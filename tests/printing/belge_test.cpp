@@ -8,7 +8,9 @@
 #include "core/dosya.h"
 #include "core/ortam.h"
 #include "gecici.h"
+#include "printing/ayardenetimi.h"
 #include "printing/cupskuyrugu.h"
+#include "printing/formbelgesi.h"
 #include "printing/kayittuvali.h"
 #include "printing/metincizimi.h"
 #include "printing/ornek.h"
@@ -48,6 +50,17 @@ TEST(Belge, BasliklarAyarlardan) {
               ElementsAre("BENİM LİSTEM", "Çınar||Sayfa No : 1", "||Tarih : 09.03.2008"));
   ayar.YzcBaslikYaz = ayar.YzcTarihYaz = ayar.YzcSayfaNoYaz = ayar.YzcSirketYaz = false;
   EXPECT_THAT(UstMetinleri(BasligiAyarla(Liste(), ayar, "Çınar", gun)), ElementsAre("", "|Şubat|"));
+}
+
+TEST(Belge, SabitFormAyarlaDegismez) {
+  FormBelgesi form({}, {FormKurucu(A4(KagitYonu::Yatay)).Sayfa()}, "Işıl\n");
+  EXPECT_EQ(form.Destek(), YzcDestegi{});
+  test::AyarlariDenetle(form);
+  YzcAyarlari ilk;
+  ilk.YzcBaslik = "KALEMLER";
+  RaporBelgesi liste(test::KalemRaporu(std::vector<test::Kalem>(30, {.ad = "Işıl", .tutar = Tutar(1.0)})), ilk);
+  EXPECT_FALSE(liste.Destek().sirket) << "no company is known";
+  test::AyarlariDenetle(liste);
 }
 
 TEST(Belge, MetinSayfalariYaziciGibi) {

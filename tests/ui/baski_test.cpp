@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 
 #include "core/dosya.h"
+#include "ekran/ortam.h"
+#include "printing/form/formbelgesi.h"
 #include "ekran/sirayla.h"
 #include "printing/kolonlar.h"
 #include "ui/basim.h"
@@ -111,6 +113,30 @@ TEST(Basim, MetinYoluVeYazicisizlik) {
   EXPECT_THAT(DosyaOku(ortam.dizin.Yol() + "liste.prn").value_or(""), HasSubstr("\r\nI\x9F\x8Dl "));
   BelgeBas(ortam.ekran, *Liste(0));
   EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: Basılacak kayıt yok"));
+}
+
+// What changes nothing on the paper is off and closed.
+TEST(Basim, SabitFormdaKapaliAyarlar) {
+  EkranOrtami ortam;
+  YzcAyarlari ilk;
+  ilk.YzcBaslik = "FORM";
+  FormBelgesi form(ilk, {FormKurucu(A4(KagitYonu::Dikey)).Sayfa()}, "metin\n");
+  EkranOrtami::ModaldaYap([&] {
+    auto& ekran = *QApplication::activeModalWidget()->findChild<yzcsetup*>();
+    for (const char* ad : {"YzcBaslikYaz", "YzcTarihYaz", "YzcSayfaNoYaz", "YzcSirketYaz"}) {
+      EXPECT_FALSE(ekran.Denetim(ad).Odak()->isEnabled()) << ad;
+      EXPECT_FALSE(std::get<bool>(ekran.Denetim(ad).Oku())) << ad;
+    }
+    EXPECT_FALSE(ekran.Denetim("YzcYon").Odak()->isEnabled());
+    ekran.Denetim("mod").Odak()->setFocus();
+    ortam.Bas(Qt::Key_Right);
+    EXPECT_FALSE(ekran.Denetim("YzcSatir").Odak()->isEnabled());
+    EXPECT_TRUE(ekran.Denetim("YzcKopya").Odak()->isEnabled());
+    ortam.Bas(Qt::Key_Left);
+    ortam.Bas(Qt::Key_F8);
+  });
+  BelgeBas(ortam.ekran, form);
+  EXPECT_EQ(ortam.kuyruk.isler.size(), 1u);
 }
 
 TEST(Basim, ExcelProgramiAcilirYaDaDosyaKalir) {
