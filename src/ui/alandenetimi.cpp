@@ -6,7 +6,6 @@
 #include <QHBoxLayout>
 #include <QRadioButton>
 #include <QStylePainter>
-#include <cmath>
 
 #include "ui/metin.h"
 
@@ -106,13 +105,6 @@ class YaziDenetimi final : public AlanDenetimi {
   xtext* yazi_;
 };
 
-// The place of a stored value in a field's list of `sayi` choices, whatever number the column holds it as; -1 when it
-// is none of them.
-int SecenekSirasi(const belvani::Alan& alan, const Deger& deger, int sayi) {
-  const double sira = SayiDegeri(deger) - alan.ek.listeTabani;
-  return sira >= 0 && sira < sayi && sira == std::floor(sira) ? int(sira) : -1;
-}
-
 // A list that is narrower than its choices: the closed one ends in "…".
 class DarListe final : public QComboBox {
  public:
@@ -143,7 +135,7 @@ class ListeDenetimi final : public AlanDenetimi {
   QWidget* Parca() override { return liste_; }
   void Koy(const Deger& deger) override {
     disaridaki_ = deger;
-    liste_->setCurrentIndex(SecenekSirasi(alan_, deger, liste_->count()));
+    liste_->setCurrentIndex(SecenekSirasi(alan_, deger, std::size_t(liste_->count())));
   }
   Deger Oku() const override {
     const int sira = liste_->currentIndex();
@@ -205,7 +197,7 @@ class SecenekDenetimi final : public AlanDenetimi {
     return {dugmeler.begin(), dugmeler.end()};
   }
   void Koy(const Deger& deger) override {
-    const int sira = SecenekSirasi(alan_, deger, int(grup_->buttons().size()));
+    const int sira = SecenekSirasi(alan_, deger, std::size_t(grup_->buttons().size()));
     grup_->button(std::max(0, sira))->setChecked(true);
   }
   Deger Oku() const override { return std::int64_t(grup_->checkedId() + alan_.ek.listeTabani); }
@@ -220,8 +212,7 @@ class SecenekDenetimi final : public AlanDenetimi {
 }  // namespace
 
 std::optional<Kusur> AlanDenetimi::Kusuru() const {
-  // Its limit has been held key by key; a stored value beyond it, not touched, stays as it was.
-  const std::string kusur = TipKusuru(alan_.tanim, Oku());
+  const std::string kusur = AlanKusuru(alan_, Oku());
   if (kusur.empty()) return std::nullopt;
   return KuralKusuru(alan_.etiket + ": " + kusur, alan_.Tutamak());
 }

@@ -6,7 +6,7 @@
 #include <memory>
 #include <optional>
 
-#include "ui/alan.h"
+#include "core/tables/alansatiri.h"
 #include "ui/xtext.h"
 
 namespace belvani {

@@ -137,7 +137,7 @@ QWidget* Form::GrupYap(const AlanGrubu& grup) {
   return kutu;
 }
 
-void Form::AlanlariDiz(const std::vector<std::vector<AlanGrubu>>& sutunlar) {
+void Form::AlanlariDiz(const AlanSutunlari& sutunlar) {
   auto* yatay = new QHBoxLayout;
   yatay->setSpacing(12);
   for (const auto& sutun : sutunlar) {

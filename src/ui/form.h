@@ -3,8 +3,8 @@
 //   Esc closes · F5 saves · F7 deletes · F2 lookup · Ctrl+Home, Ctrl+End, Page Up, Page Down move through records
 //   Enter goes to the next field
 //
-// A screen declares its fields as rows (ui/alan.h) and its commands; layout, tab order, keys, loading and reading
-// follow. It holds no rules: those are functions that it calls.
+// A screen declares its fields as rows (core/tables/alansatiri.h) and its commands; layout, tab order, keys, loading
+// and reading follow. It holds no rules: those are functions that it calls.
 #pragma once
 
 #include <QBoxLayout>
@@ -56,7 +56,7 @@ class Form : public QWidget {
   QVBoxLayout* Govde() { return govde_; }
 
   // Fields under their headings, the groups of each inner list one below the other, the lists side by side.
-  void AlanlariDiz(const std::vector<std::vector<AlanGrubu>>& sutunlar);
+  void AlanlariDiz(const AlanSutunlari& sutunlar);
   // The same for one group, for screens that lay themselves out.
   QWidget* GrupYap(const AlanGrubu& grup);
   // One editor alone, to be placed by the screen.

@@ -1,8 +1,8 @@
 // The fields of the payroll screen: one row a field.
 #pragma once
 
+#include "core/tables/alansatiri.h"
 #include "payroll/hazirlik/giris.h"
-#include "ui/alan.h"
 
 namespace belvani {
 

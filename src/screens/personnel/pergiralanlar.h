@@ -3,8 +3,8 @@
 
 #include <array>
 
+#include "core/tables/alansatiri.h"
 #include "personnel/isegiris.h"
-#include "ui/alan.h"
 
 namespace belvani {
 
