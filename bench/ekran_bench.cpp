@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "defteruret.h"
+#include "documents/belgeler.h"
 #include "screens/declarations/yaylik.h"
 #include "screens/documents/brdicmal.h"
 #include "screens/payroll/brdhazir.h"
@@ -209,7 +210,7 @@ BENCHMARK(BildirgeHesapla)->Unit(benchmark::kMillisecond);
 void OzetAcilisi(benchmark::State& durum) {
   const SonAy ay;
   for (auto _ : durum) {
-    brdicmal form(Sirket().ekran, Sirket().parametreler);
+    brdicmal form(Sirket().ekran, Sirket().parametreler, *BelgeBul("brdicmal"));
     form.show();
     QCoreApplication::processEvents();
   }

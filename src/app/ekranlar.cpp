@@ -1,5 +1,6 @@
 #include "app/ekranlar.h"
 
+#include "documents/belgeler.h"
 #include "screens/core/Dbupdate.h"
 #include "screens/core/araci.h"
 #include "screens/core/firbil.h"
@@ -9,12 +10,7 @@
 #include "screens/core/muhbil.h"
 #include "screens/core/yapifrm.h"
 #include "screens/declarations/yaylik.h"
-#include "screens/documents/agibrd.h"
-#include "screens/documents/brdbas.h"
-#include "screens/documents/brdicmal.h"
-#include "screens/documents/brdui.h"
-#include "screens/documents/brdzarf.h"
-#include "screens/documents/setbrd.h"
+#include "screens/documents/belgeekrani.h"
 #include "screens/payroll/agifrm.h"
 #include "screens/payroll/brdhazir.h"
 #include "screens/payroll/fazmes.h"
@@ -47,8 +43,8 @@ std::unique_ptr<Form> Yap(const UygulamaBaglami& b) {
     return std::make_unique<Ekran>(b.ekran, b.parametreler);
 }
 
-const std::vector<EkranKaydi>& Tablo() {
-  static const std::vector<EkranKaydi> tablo{
+std::vector<EkranKaydi> Kayitlar() {
+  return {
       {"Firma", "Firma Bilgileri", "firbil", "firma", "", Yap<firbil>},
       {"Firma", "Aracı Bilgileri", "araci", "kisi", "", Yap<araci>},
       {"Firma", "Firma Değiştir", "firdegistir", "degistir", "", nullptr, MenuIslemi::FirmaDegistir},
@@ -66,12 +62,6 @@ const std::vector<EkranKaydi>& Tablo() {
       {"Özlük", "Ücretler", "ucrfrm", "", "Ücretlendirme"},
 
       {"Bordro", "Bordro Hazırlık", "brdhazir", "bordro", "", Yap<brdhazir>},
-      {"Bordro", "Bordro Basımı", "brdbas", "yazici", "", Yap<brdbas>},
-      {"Bordro", "Özel Bordro Basımı", "setbrd", "yazici", "", Yap<setbrd>},
-      {"Bordro", "Ücret Pusulası", "brdzarf", "kimlik", "", Yap<brdzarf>},
-      {"Bordro", "Bordro Özeti", "brdicmal", "tablo", "", Yap<brdicmal>},
-      {"Bordro", "Asgari Geçim İndirimi Bordrosu", "agibrd", "oran", "", Yap<agibrd>},
-      {"Bordro", "Ücretli İzinler Bordrosu", "brdui", "takvim", "", Yap<brdui>},
 
       {"Bildirgeler", "Aylık Bildirge (ek 9-4a)", "yaylik", "tablo", "", Yap<yaylik>},
       {"Bildirgeler", "Eksik Gün Bildirim Formu EK-10", "ek10"},
@@ -139,6 +129,21 @@ const std::vector<EkranKaydi>& Tablo() {
       {"Yardım", "Kullanma Şekli", "yardim", "yardim", "", nullptr, MenuIslemi::Yardim},
       {"Yardım", "Hakkında", "frmAbout", "bilgi", "", nullptr, MenuIslemi::Hakkinda},
   };
+}
+
+// At the end of its menu.
+void BelgeEkle(std::vector<EkranKaydi>& tablo, const BelgeTanimi& belge) {
+  const auto yap = [&belge](const UygulamaBaglami& b) { return BelgeEkraniYap(b.ekran, b.parametreler, belge); };
+  const auto son = std::ranges::find(tablo.rbegin(), tablo.rend(), belge.menu, &EkranKaydi::menu);
+  tablo.insert(son.base(), {belge.menu, belge.menuBasligi, belge.ekran, belge.simge, "", yap});
+}
+
+const std::vector<EkranKaydi>& Tablo() {
+  static const std::vector<EkranKaydi> tablo = [] {
+    auto kayitlar = Kayitlar();
+    for (const BelgeTanimi& belge : Belgeler()) BelgeEkle(kayitlar, belge);
+    return kayitlar;
+  }();
   return tablo;
 }
 

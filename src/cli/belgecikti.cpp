@@ -35,12 +35,12 @@ Json BlokJson(const std::vector<BlokSatiri>& blok) {
   return nesne;
 }
 
-Json RaporJson(const Rapor& rapor) {
+std::string JsonRaporu(const Rapor& rapor) {
   Json json{{"baslik", rapor.ekranBasligi}, {"satirlar", Json::array()}};
   for (const auto& satir : rapor.Satirlar()) json["satirlar"].push_back(HucrelerJson(rapor, satir.hucreler));
   if (rapor.ToplamVar()) json["toplam"] = HucrelerJson(rapor, rapor.Toplam());
   if (!rapor.sonBlok.empty()) json["icmal"] = BlokJson(rapor.sonBlok);
-  return json;
+  return json.dump(2) + "\n";
 }
 
 std::string Xlsx(const Belge& belge) {
@@ -59,9 +59,16 @@ std::string Pdf(const Belge& belge) {
   return Uyarili(std::move(pdf->baytlar), pdf->uyari);
 }
 
-std::string Cikti(const Belge& belge, const Rapor& tablo, const std::string& bicim) {
-  if (bicim == "csv") return CsvRaporu(tablo);
-  if (bicim == "json") return RaporJson(tablo).dump(2) + "\n";
+// A statutory form has no rows.
+std::string Satirlar(const Belge& belge, std::string (*yaz)(const Rapor&)) {
+  const auto veri = belge.Veri();
+  if (veri == nullptr) throw KomutHatasi{"Bu belge bir form; csv ve json biçimi yok"};
+  return yaz(*veri);
+}
+
+std::string Cikti(const Belge& belge, const std::string& bicim) {
+  if (bicim == "csv") return Satirlar(belge, CsvRaporu);
+  if (bicim == "json") return Satirlar(belge, JsonRaporu);
   if (bicim == "xlsx") return Xlsx(belge);
   if (bicim == "pdf") return Pdf(belge);
   return Uyarili(bicim == "ham" ? BelgeHam(belge) : belge.Metin(), belge.MetinUyarisi());
@@ -84,12 +91,8 @@ void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti) {
   });
 }
 
-void BelgeYaz(const Belge& belge, const Rapor& tablo, const BelgeCiktisi& cikti) {
-  Yaz(Cikti(belge, tablo, cikti.bicim), cikti.dosya);
-}
-
 void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti) {
-  BelgeYaz(belge, *belge.Tablo(), cikti);
+  Yaz(Cikti(belge, cikti.bicim), cikti.dosya);
 }
 
 }  // namespace belvani::cli

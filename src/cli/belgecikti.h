@@ -17,9 +17,7 @@ struct BelgeCiktisi {
 // --bicim, -o
 void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti);
 
-// `tablo`: the paper's rows for csv and json. A report too wide for its pages is told on standard error. Without
-// records there is no PDF: KomutHatasi.
-void BelgeYaz(const Belge& belge, const Rapor& tablo, const BelgeCiktisi& cikti);
-void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti);  // of a paper that is a table
+// A report too wide for its pages is told on standard error. Without records there is no PDF: KomutHatasi.
+void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti);
 
 }  // namespace belvani::cli

@@ -6,15 +6,9 @@
 #include "core/ayarlar.h"
 #include "core/dosya.h"
 #include "core/sayi.h"
+#include "documents/secimalanlari.h"
 
 namespace belvani::cli {
-namespace {
-
-constexpr int IlkYil = 1990;
-constexpr int SonYil = 2100;
-
-}  // namespace
-
 void StandartHata::Bilgi(std::string_view metin) {
   std::cerr << metin << '\n';
 }
@@ -47,19 +41,21 @@ Donem DonemOku(const std::string& metin) {
   return {gun.Yil(), gun.Ay()};
 }
 
+int SayiOku(const char* secenek, const std::string& metin, int enAz, int enCok) {
+  const auto sayi = TamSayiOku(metin);
+  if (!sayi || *sayi < enAz || *sayi > enCok)
+    throw CLI::ValidationError(
+        secenek, std::to_string(enAz) + " ile " + std::to_string(enCok) + " arasında bir sayı olmalı: " + metin);
+  return int(*sayi);
+}
+
 CLI::Option* SayiSecenegi(CLI::App& komut, const char* ad, const char* aciklama, int& deger, int enAz, int enCok) {
-  const auto oku = [&deger, ad, enAz, enCok](const std::string& metin) {
-    const auto sayi = TamSayiOku(metin);
-    if (!sayi || *sayi < enAz || *sayi > enCok)
-      throw CLI::ValidationError(
-          ad, std::to_string(enAz) + " ile " + std::to_string(enCok) + " arasında bir sayı olmalı: " + metin);
-    deger = int(*sayi);
-  };
+  const auto oku = [&deger, ad, enAz, enCok](const std::string& metin) { deger = SayiOku(ad, metin, enAz, enCok); };
   return komut.add_option_function<std::string>(ad, oku, aciklama)->type_name("SAYI");
 }
 
 CLI::Option* YilSecenegi(CLI::App& komut, int& yil, const char* aciklama) {
-  return SayiSecenegi(komut, "--yil", aciklama, yil, IlkYil, SonYil);
+  return SayiSecenegi(komut, "--yil", aciklama, yil, IlkBelgeYili, SonBelgeYili);
 }
 
 CLI::Option* AySecenegi(CLI::App& komut, int& ay, const char* aciklama) {

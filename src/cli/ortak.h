@@ -49,6 +49,8 @@ struct Donem {
   int ay = 0;
 };
 Donem DonemOku(const std::string& metin);  // "2009-07"
+// A whole number of an option; a wrong one ends the command as a wrong call.
+int SayiOku(const char* secenek, const std::string& metin, int enAz, int enCok);
 CLI::Option* YilSecenegi(CLI::App& komut, int& yil, const char* aciklama);
 CLI::Option* AySecenegi(CLI::App& komut, int& ay, const char* aciklama);
 void DonemSecenekleri(CLI::App& komut, Donem& donem);  // --yil, --ay

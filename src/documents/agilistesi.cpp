@@ -2,6 +2,7 @@
 
 #include "core/sayi.h"
 #include "core/store/satirlar.h"
+#include "documents/listebelgesi.h"
 #include "documents/sorgumetni.h"
 #include "documents/turetilen.h"
 #include "printing/kolonlar.h"
@@ -40,6 +41,13 @@ std::vector<AgiSatiri> Satirlar(const std::vector<AgiKisisi>& kisiler) {
   }
   return satirlar;
 }
+
+// Goes to printers only as drawn pages; other programs may have its lines.
+class AgiBordrosu final : public RaporBelgesi {
+ public:
+  using RaporBelgesi::RaporBelgesi;
+  std::string MetinYok() const override { return AgiMetinYok; }
+};
 
 }  // namespace
 
@@ -82,6 +90,18 @@ Rapor AgiListesi(const std::vector<AgiKisisi>& kisiler, const AgiBaslik& baslik)
        .sayfaNo = true,
        .sayfaSayisi = true}};
   return rapor;
+}
+
+std::unique_ptr<Belge> AgiBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim) {
+  const YasalParametreler& yasal = kaynak.yasal;
+  const AgiBaslik baslik{.unvan = FirmaKaydiOku(kaynak.motor).unvan,
+                         .yil = secim.yil,
+                         .agiTaban = AgiTabaniIle(yasal.agi, yasal.oranlar.AsgariUcret).AgiTaban,
+                         .paraonda = kaynak.paraonda};
+  Rapor rapor = AgiListesi(AgiKisileriOku(kaynak.motor, secim), baslik);
+  YzcAyarlari ayar = BaskiAyari(rapor.baslik, KagitYonu::Yatay);
+  ayar.YzcDosAcik = false;
+  return std::make_unique<AgiBordrosu>(std::move(rapor), ayar);
 }
 
 }  // namespace belvani

@@ -32,6 +32,9 @@ std::vector<AgiKisisi> AgiKisileriOku(Motor& motor, const DefterSecim& secim);
 
 Rapor AgiListesi(const std::vector<AgiKisisi>& kisiler, const AgiBaslik& baslik);
 
+// From the store. Throws MotorHatasi and TutarTasmasi.
+std::unique_ptr<Belge> AgiBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim);
+
 // What the paper's screen says when it is asked for in text mode.
 constexpr const char* AgiMetinYok = "Bu Bordro Grafik Yazıcıdan Alınmaktadır.";
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "documents/deftersorgu.h"
+#include "documents/listebelgesi.h"
 #include "documents/turetilensatir.h"
 #include "isyeri/isyerinumarasi.h"
 #include "printing/kolonlar.h"
@@ -99,6 +101,12 @@ Rapor DefterRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBaslik
   rapor.ustSatirlar = UstSatirlar(baslik);
   if (secenek.icmal && !satirlar.empty()) rapor.sonBlok = Icmal(satirlar);
   return rapor;
+}
+
+std::unique_ptr<Belge> DefterBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim, const DefterSecenek& secenek,
+                                     const BelgeYazisi& yazi) {
+  const auto satirlar = DefterSatirlariOku(kaynak.motor, secim);
+  return ListeBelgesi(DefterRaporu(satirlar, BaslikOku(kaynak, secim), secenek), KagitYonu::Yatay, yazi, secenek.duzen);
 }
 
 UstSatir UnvanSatiri(const Firma& firma) {

@@ -13,6 +13,7 @@
 #include "core/tables/brd.h"
 #include "core/tables/firma.h"
 #include "core/tables/sicil.h"
+#include "documents/belgetanimi.h"
 #include "payroll/hesap/donem.h"
 #include "printing/kagit.h"
 #include "printing/rapor.h"
@@ -85,6 +86,10 @@ struct DefterSecenek {
 
 // No rows: a document without rows and end block. Throws TutarTasmasi when an amount leaves its range.
 Rapor DefterRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBaslik& baslik, const DefterSecenek& secenek);
+
+// From the store. Throws MotorHatasi and TutarTasmasi.
+std::unique_ptr<Belge> DefterBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim, const DefterSecenek& secenek,
+                                     const BelgeYazisi& yazi);
 
 // The lines of the employer at the head of wage papers, and the page number.
 UstSatir UnvanSatiri(const Firma& firma);

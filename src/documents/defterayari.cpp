@@ -6,6 +6,7 @@
 namespace belvani {
 namespace {
 
+constexpr const char* Dosya = "bordro.ini";
 constexpr std::string_view Bolum = "Bordro";
 constexpr std::string_view KolonlarAnahtari = "Brdizin";
 constexpr std::string_view YaziTipiAnahtari = "Brdfont";
@@ -32,9 +33,23 @@ DefterAyari DefterAyariOku(const std::string& dosya) {
 }
 
 Durum DefterAyariYaz(const DefterAyari& ayar, const std::string& dosya) {
+  if (ayar == DefterAyariOku(dosya)) return Tamam();
   if (auto durum = IniYaz(Bolum, KolonlarAnahtari, DefterAnahtarMetni(ayar.kolonlar), dosya); !durum) return durum;
   if (auto durum = IniYaz(Bolum, YaziTipiAnahtari, ayar.yaziTipi, dosya); !durum) return durum;
   return IniYaz(Bolum, PuntoAnahtari, std::to_string(ayar.punto), dosya);
+}
+
+void DefterAyariniOku(const std::string& firmaDizini, BelgeSecimi& secim) {
+  const DefterAyari ayar = DefterAyariOku(firmaDizini + Dosya);
+  secim.Bul<DefterSecenek>()->kolonlar = ayar.kolonlar;
+  *secim.Bul<BelgeYazisi>() = {.yaziTipi = ayar.yaziTipi, .punto = ayar.punto};
+}
+
+Durum DefterAyariniYaz(const std::string& firmaDizini, BelgeSecimi& secim) {
+  const BelgeYazisi& yazi = *secim.Bul<BelgeYazisi>();
+  return DefterAyariYaz(
+      {.kolonlar = secim.Bul<DefterSecenek>()->kolonlar, .yaziTipi = yazi.yaziTipi, .punto = yazi.punto},
+      firmaDizini + Dosya);
 }
 
 }  // namespace belvani

@@ -19,6 +19,11 @@ struct DefterAyari {
 // What the file does not tell, or tells wrongly, is as in a new DefterAyari. A row of switches that is too short is
 // completed with "on".
 DefterAyari DefterAyariOku(const std::string& dosya);
+// An unchanged setting is not written, so a company on a read-only medium can be printed without a word.
 Durum DefterAyariYaz(const DefterAyari& ayar, const std::string& dosya);
+
+// The same for the choices of the ledger: its columns and its font.
+void DefterAyariniOku(const std::string& firmaDizini, BelgeSecimi& secim);
+Durum DefterAyariniYaz(const std::string& firmaDizini, BelgeSecimi& secim);
 
 }  // namespace belvani

@@ -1,5 +1,7 @@
 #include "documents/icmal.h"
 
+#include "documents/icmalgrafigi.h"
+#include "documents/listebelgesi.h"
 #include "documents/sorgumetni.h"
 #include "documents/turetilen.h"
 #include "printing/kolonlar.h"
@@ -98,6 +100,17 @@ std::vector<BlokSatiri> Sayilar(const Icmal& i) {
   };
 }
 
+// Its lines stand there also for a month without pay.
+class BordroOzeti final : public RaporBelgesi {
+ public:
+  BordroOzeti(Rapor rapor, const YzcAyarlari& ilk, GrafikDuzeni grafik, bool kayitsiz)
+      : RaporBelgesi(std::move(rapor), ilk, std::move(grafik)), kayitsiz_(kayitsiz) {}
+  bool Kayitsiz() const override { return kayitsiz_; }
+
+ private:
+  bool kayitsiz_;
+};
+
 }  // namespace
 
 IcmalPaylari Icmal::ToplamSsk() const {
@@ -150,6 +163,20 @@ std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, int ay) {
     KolonAl(*komut, KolonlariAl(*komut, 0, BrdKolonlari, girdi.brd), girdi.sskdurum);
   }
   return girdiler;
+}
+
+std::unique_ptr<Belge> IcmalBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim) {
+  const auto girdiler = IcmalGirdileriOku(kaynak.motor, secim.yil, secim.ay);
+  const Icmal icmal = IcmalHesapla(girdiler, kaynak.yasal.oranlar.AsgariUcret, Yuvarlayici(kaynak.paraonda));
+  Rapor rapor = IcmalRaporu(icmal, BaslikOku(kaynak, secim));
+  GrafikDuzeni grafik{.yon = KagitYonu::Dikey, .punto = 10};
+  // The year of the chart is read when it is drawn: the screen shows the figures alone.
+  grafik.ek = EkCizim{IcmalGrafigiBoyu,
+                      [&motor = kaynak.motor, yil = secim.yil, ay = secim.ay](Tuval& tuval, const Dikdortgen& yer) {
+                        IcmalGrafigi(IcmalSerisiOku(motor, yil, ay), tuval, yer);
+                      }};
+  const YzcAyarlari ayar = BaskiAyari(rapor.baslik, KagitYonu::Dikey);
+  return std::make_unique<BordroOzeti>(std::move(rapor), ayar, std::move(grafik), girdiler.empty());
 }
 
 }  // namespace belvani

@@ -54,6 +54,10 @@ Icmal IcmalHesapla(std::span<const IcmalGirdisi> girdiler, Tutar asgariUcret, Yu
 
 Rapor IcmalRaporu(const Icmal& icmal, const DefterBaslik& baslik);
 
+// With the chart of the twelve months up to this one; `kaynak.motor` must outlive it. Throws MotorHatasi and
+// TutarTasmasi.
+std::unique_ptr<Belge> IcmalBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim);
+
 // Of a month; people whose card is gone are not in it. Throws MotorHatasi.
 std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, int ay);
 

@@ -1,6 +1,7 @@
 #include "documents/izin.h"
 
 #include "core/store/satirlar.h"
+#include "documents/listebelgesi.h"
 #include "documents/sorgumetni.h"
 #include "documents/turetilen.h"
 #include "printing/kolonlar.h"
@@ -138,6 +139,13 @@ Rapor IzinListesi(const std::vector<IzinKisisi>& kisiler, int yil, IzinRaporu ti
   rapor.ekranBasligi = rapor.baslik;
   rapor.ustSatirlar = {{.sol = std::string(IzinRaporAdlari[std::size_t(tip)]), .orta = std::to_string(yil)}};
   return rapor;
+}
+
+std::unique_ptr<Belge> IzinBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim, const IzinSecenegi& secenek,
+                                   const BelgeYazisi& yazi) {
+  const KagitYonu yon = secenek.tip == IzinRaporu::Donemsel ? KagitYonu::Yatay : KagitYonu::Dikey;
+  const auto kisiler = IzinleriOku(kaynak.motor, secim.yil, secim.kod);
+  return ListeBelgesi(IzinListesi(kisiler, secim.yil, secenek.tip), yon, yazi, {}, FirmaKaydiOku(kaynak.motor).unvan);
 }
 
 }  // namespace belvani

@@ -36,6 +36,14 @@ struct IzinKisisi {
 // MotorHatasi.
 std::vector<IzinKisisi> IzinleriOku(Motor& motor, int yil, const MetinAraligi& kod);
 
+struct IzinSecenegi {
+  IzinRaporu tip = IzinRaporu::Icmal;
+};
+
+// From the store; year and codes of the selection count. Throws MotorHatasi.
+std::unique_ptr<Belge> IzinBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim, const IzinSecenegi& secenek,
+                                   const BelgeYazisi& yazi);
+
 Rapor IzinListesi(const std::vector<IzinKisisi>& kisiler, int yil, IzinRaporu tip);
 
 }  // namespace belvani

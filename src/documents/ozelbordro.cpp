@@ -1,5 +1,7 @@
 #include "documents/ozelbordro.h"
 
+#include "documents/deftersorgu.h"
+#include "documents/listebelgesi.h"
 #include "documents/turetilensatir.h"
 #include "printing/kolonlar.h"
 
@@ -51,6 +53,12 @@ Rapor OzelBordroRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBa
   if (!satirlar.empty())
     rapor.sonBlok = {IsverenMatrahi(satirlar), IsverenKesintisi(satirlar), IsverenIssizligi(satirlar)};
   return rapor;
+}
+
+std::unique_ptr<Belge> OzelBordroBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim, const SayfaDuzeni& duzen,
+                                         const BelgeYazisi& yazi) {
+  const auto satirlar = DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::SskNo));
+  return ListeBelgesi(OzelBordroRaporu(satirlar, BaslikOku(kaynak, secim)), KagitYonu::Yatay, yazi, duzen);
 }
 
 }  // namespace belvani

@@ -13,4 +13,8 @@ namespace belvani {
 // The records as they are to be printed: in the order DefterSirasi::SskNo.
 Rapor OzelBordroRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBaslik& baslik);
 
+// From the store. Throws MotorHatasi and TutarTasmasi.
+std::unique_ptr<Belge> OzelBordroBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim, const SayfaDuzeni& duzen,
+                                         const BelgeYazisi& yazi);
+
 }  // namespace belvani

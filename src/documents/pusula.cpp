@@ -4,6 +4,8 @@
 
 #include "core/store/satirlar.h"
 #include "core/tables/muaf.h"
+#include "documents/deftersorgu.h"
+#include "documents/listebelgesi.h"
 #include "documents/turetilensatir.h"
 #include "isyeri/isyerinumarasi.h"
 #include "printing/kolonlar.h"
@@ -206,6 +208,16 @@ Rapor PusulaRaporu(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik
   rapor.ekranBasligi = "Ücret Pusulası";
   rapor.ustSatirlar = {{.orta = PusulaDonemi(BelgeDonemi(baslik.defter))}, UnvanSatiri(baslik.defter.firma)};
   return rapor;
+}
+
+std::unique_ptr<Belge> UcretPusulalari(const BelgeKaynagi& kaynak, const DefterSecim& secim,
+                                       const PusulaSecenegi& secenek) {
+  PusulaBaslik baslik{.defter = BaslikOku(kaynak, secim), .yardimAdlari = YardimAdlariOku(kaynak.motor)};
+  auto satirlar = DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::Kisi));
+  YaprakBelgesi belge = PusulaBelgesi(satirlar, baslik);
+  const YzcAyarlari ayar = BaskiAyari(belge.baslik, KagitYonu::Dikey);
+  auto veri = [satirlar = std::move(satirlar), baslik = std::move(baslik)] { return PusulaRaporu(satirlar, baslik); };
+  return std::make_unique<YaprakliBelge>(std::move(belge), secenek.sayfada, ayar, std::move(veri));
 }
 
 }  // namespace belvani

@@ -25,4 +25,12 @@ std::array<std::string, YardimSayisi> YardimAdlariOku(Motor& motor);
 YaprakBelgesi PusulaBelgesi(std::vector<BordroSatiri> satirlar, const PusulaBaslik& baslik);
 Rapor PusulaRaporu(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik);
 
+struct PusulaSecenegi {
+  SayfadaYaprak sayfada = SayfadaYaprak::Iki;  // drawn on a sheet
+};
+
+// From the store. Throws MotorHatasi and TutarTasmasi.
+std::unique_ptr<Belge> UcretPusulalari(const BelgeKaynagi& kaynak, const DefterSecim& secim,
+                                       const PusulaSecenegi& secenek);
+
 }  // namespace belvani

@@ -1,52 +1,44 @@
-// What the screens of the papers share: the selection, and the commands that make the paper out of it.
+// BelgeEkrani: the screen of a paper, made of its row in the registry: the fields of its choices, and the commands that
+// make the paper out of them.
 //
 //   F6 " Ekrana Listele"    F8 " Yazıcıya Yazdır"    F9 " Excel'e Gönder"    F2 in a code field: lookup
+//   "Yazıcı Fontu " for a paper that takes a font
 //
-// A screen says which fields it has and makes its document (BelgeYap); everything after that is the same for all.
+// Choices that outlive a run are read when it opens and written when it closes.
 #pragma once
 
-#include "documents/bordrobelgeleri.h"
+#include "documents/belgetanimi.h"
 #include "payroll/hazirlik/parametredeposu.h"
 #include "ui/form.h"
 
 namespace belvani {
 
-// The fields of a selection. Ranges of text begin empty and end in "ZZZZ", which takes everyone.
-struct SecimFormu {
-  std::int16_t yil = 0;
-  std::uint8_t ay = 1;
-  std::int16_t noBas = 1, noBit = 99;
-  std::string kodBas, grupBas, tipBas, ozelBas;
-  std::string kodBit = MetinAraligi{}.bit, grupBit = kodBit, tipBit = kodBit, ozelBit = kodBit;
-
-  DefterSecim Secim() const;
-};
-
-// Rows of a selection: "Bordro Yılı" and "Bordro Ayı"; "Bordro no" from and to; people from and to.
-AlanGrubu DonemAlanlari(const char* yilEtiketi, const char* ayEtiketi);
-AlanGrubu AralikAlanlari(bool numarali, const char* kodEtiketi);
-AlanGrubu KodAraligi(const char* kodEtiketi);  // of people alone, by code
-
 class BelgeEkrani : public Form {
+ public:
+  BelgeEkrani(EkranBaglami& baglam, const ParametreDeposu& parametreler, const BelgeTanimi& tanim);
+
  protected:
-  BelgeEkrani(EkranBaglami& baglam, const ParametreDeposu& parametreler, const QString& kelime, const QString& baslik);
-
-  // The document as the fields say; null when one of them cannot be read, which was told.
-  virtual std::unique_ptr<Belge> BelgeYap() = 0;
-
-  // Fields first, then these: they stand in the bottom row.
-  void BelgeKomutlari();
-  // "Yazıcı Fontu ": the font that the document is printed in.
-  void FontDugmesi(BelgeYazisi& yazi);
-
-  // The working month of the company.
-  SecimFormu IlkSecim() const;
+  // The choices as the fields say; null when one of them cannot be read, which is told.
+  BelgeSecimi* Secilen();
+  // The paper of these choices; null when it cannot be made, which is told.
+  std::unique_ptr<Belge> BelgeYap();
   BelgeKaynagi Kaynak() const;
-  // BelgeYap, its failures told.
-  std::unique_ptr<Belge> Hazirla();
+
+  void hideEvent(QHideEvent* olay) override;
 
  private:
+  void AlanlariYukle();
+  void RehberleriBagla();
+  void Komutlar();
+  void FontSec(BelgeYazisi& yazi);
+
   const ParametreDeposu& parametreler_;
+  const BelgeTanimi& tanim_;
+  std::unique_ptr<BelgeSecimi> secim_;
 };
+
+// The screen of the paper: its own where it has a view, else this one.
+std::unique_ptr<Form> BelgeEkraniYap(EkranBaglami& baglam, const ParametreDeposu& parametreler,
+                                     const BelgeTanimi& tanim);
 
 }  // namespace belvani

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QTimer>
 
+#include "documents/defter.h"
 #include "documents/icmalgrafigi.h"
 #include "printing/cairotuval.h"
 #include "ui/metin.h"
@@ -56,12 +57,11 @@ QLabel* KartYap(QWidget* ust, const char* ad) {
 
 }  // namespace
 
-brdicmal::brdicmal(EkranBaglami& baglam, ParametreDeposu& parametreler)
-    : BelgeEkrani(baglam, parametreler, "brdicmal", QStringLiteral("Bordro Özeti")),
+brdicmal::brdicmal(EkranBaglami& baglam, const ParametreDeposu& parametreler, const BelgeTanimi& tanim)
+    : BelgeEkrani(baglam, parametreler, tanim),
       satirlar_(KartYap(this, "satirlar")),
       sayilar_(KartYap(this, "sayilar")),
       grafik_(new QLabel(this)) {
-  AlanlariDiz({{DonemAlanlari("Yıl", "Ay")}});
   auto* yatay = new QHBoxLayout;
   auto* sag = new QVBoxLayout;
   yatay->setSpacing(24);
@@ -74,27 +74,20 @@ brdicmal::brdicmal(EkranBaglami& baglam, ParametreDeposu& parametreler)
   grafik_->setObjectName("grafik");
   grafik_->setFixedSize(int(GrafikEniMm / 25.4 * GrafikDpi) + CerceveNoktasi,
                         int(GrafikBoyuMm / 25.4 * GrafikDpi) + CerceveNoktasi);
-  BelgeKomutlari();
-  Yukle(IlkSecim());
   AlanDegisti = [this](AlanDenetimi&) { Goster(); };
   Goster();
 }
 
-std::unique_ptr<Belge> brdicmal::BelgeYap() {
-  SecimFormu secim;
-  return Oku(secim) ? IcmalBelgesi(Kaynak(), secim.yil, secim.ay) : nullptr;
-}
-
 // The figures at once; the chart month by month, so that the keyboard never waits for a year.
 void brdicmal::Goster() {
-  const AlanDenetimi& yil = Denetim("yil");
-  if (yil.Kusuru()) return;
-  if (const auto belge = Hazirla()) {
+  if (Denetim("yil").Kusuru()) return;  // being typed
+  BelgeSecimi* secilen = Secilen();
+  if (secilen == nullptr) return;
+  if (const auto belge = BelgeYap()) {
     satirlar_->setText(SatirTablosu(*belge->Tablo()));
     sayilar_->setText(BlokTablosu(*belge->Tablo()));
   }
-  SecimFormu secim;
-  if (!Oku(secim)) return;
+  const DefterSecim& secim = *secilen->Bul<DefterSecim>();
   seri_ = BosIcmalSerisi(secim.yil, secim.ay);
   QTimer::singleShot(0, this, [this, surum = ++seriSurumu_] { AyiOku(surum, 0); });
 }

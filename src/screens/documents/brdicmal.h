@@ -12,10 +12,7 @@ namespace belvani {
 
 class brdicmal : public BelgeEkrani {
  public:
-  brdicmal(EkranBaglami& baglam, ParametreDeposu& parametreler);
-
- protected:
-  std::unique_ptr<Belge> BelgeYap() override;
+  brdicmal(EkranBaglami& baglam, const ParametreDeposu& parametreler, const BelgeTanimi& tanim);
 
  private:
   void Goster();

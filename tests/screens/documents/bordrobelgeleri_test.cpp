@@ -2,13 +2,9 @@
 #include <gmock/gmock.h>
 
 #include "core/dosya.h"
+#include "documents/belgeler.h"
 #include "ekran/ortam.h"
-#include "screens/documents/agibrd.h"
-#include "screens/documents/brdbas.h"
-#include "screens/documents/brdicmal.h"
-#include "screens/documents/brdui.h"
-#include "screens/documents/brdzarf.h"
-#include "screens/documents/setbrd.h"
+#include "screens/documents/belgeekrani.h"
 #include "ui/perekr.h"
 #include "ui/yzcsetup.h"
 
@@ -40,6 +36,10 @@ struct BordroluOrtam : EkranOrtami {
       EXPECT_TRUE(brd.KayitYaz());
     }
   }
+  Form& BelgeAc(std::string_view kelime) {
+    gosterici.SerbestGoster(BelgeEkraniYap(ekran, parametreler, *BelgeBul(kelime)));
+    return *gosterici.formlar.back();
+  }
   const Rapor& AcilanListe() {
     auto* izleme = dynamic_cast<perekr*>(gosterici.formlar.back().get());
     EXPECT_NE(izleme, nullptr);
@@ -51,7 +51,7 @@ TEST(Brdbas, SecimKolonlarVeAyarDosyasi) {
   BordroluOrtam ortam;
   const std::string ayar = ortam.oturum.FirmaDizini + "bordro.ini";
   ASSERT_TRUE(DosyaYaz(ayar, "[Bordro]\r\nBrdizin=0\r\nBrdfsize=9\r\n"));
-  auto& form = ortam.Ac<brdbas>(ortam.parametreler);
+  auto& form = ortam.BelgeAc("brdbas");
   EXPECT_EQ(ortam.Odak(), "yil");
   EXPECT_EQ(AlanMetni(form, "kodBit"), "ZZZZ");
   EXPECT_EQ(std::get<bool>(form.Denetim("kolon1").Oku()), false);
@@ -59,6 +59,8 @@ TEST(Brdbas, SecimKolonlarVeAyarDosyasi) {
   form.YaziKutusu("kodBas").setFocus();
   ortam.Yaz("002\n");
   form.Denetim("kolon2").Odak()->setFocus();
+  ortam.Bas(Qt::Key_Space);
+  form.Denetim("sskSirasi").Odak()->setFocus();
   ortam.Bas(Qt::Key_Space);
   ortam.Bas(Qt::Key_F6);
   const Rapor& rapor = ortam.AcilanListe();
@@ -71,36 +73,55 @@ TEST(Brdbas, SecimKolonlarVeAyarDosyasi) {
   EXPECT_THAT(DosyaOku(ayar).value_or(""), HasSubstr("Brdfsize=9"));
 }
 
-TEST(Brdzarf, EkranFormuYokKagitVar) {
+// Every paper of the registry by its keys: on the screen, on the printer with the settings that it honours, and as a
+// workbook.
+TEST(BelgeEkranlari, HerBelgeTuslariyla) {
   BordroluOrtam ortam;
-  ortam.Ac<brdzarf>(ortam.parametreler);
-  ortam.Bas(Qt::Key_F6);
-  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: Bu Liste Sadece Yazıcıdan Alınabilir."));
-  EkranOrtami::ModaldaYap([&] {
-    EXPECT_EQ(AlanMetni(*QApplication::activeModalWidget()->findChild<yzcsetup*>(), "YzcBaslik"), "ÜCRET PUSULASI");
+  for (const BelgeTanimi& tanim : Belgeler()) {
+    SCOPED_TRACE(tanim.ekran);
+    const Form& form = ortam.BelgeAc(tanim.ekran);
+    EXPECT_EQ(Utf8(form.windowTitle()), tanim.pencereBasligi);
+    if (tanim.ekran == "brdzarf") {
+      ortam.Bas(Qt::Key_F6);
+      EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: Bu Liste Sadece Yazıcıdan Alınabilir."));
+    } else {
+      ortam.Bas(Qt::Key_F6);
+      EXPECT_FALSE(ortam.AcilanListe().Satirlar().empty());
+      ortam.gosterici.formlar.pop_back();
+      QApplication::setActiveWindow(ortam.gosterici.formlar.back().get());
+    }
+    EkranOrtami::ModaldaYap([&] {
+      auto& ayar = *QApplication::activeModalWidget()->findChild<yzcsetup*>();
+      EXPECT_FALSE(AlanMetni(ayar, "YzcBaslik").empty());
+      EXPECT_EQ(ayar.Denetim("mod").Odaklar()[1]->isEnabled(), tanim.ekran != "agibrd") << "the text way";
+      EXPECT_EQ(ayar.Denetim("YzcSayfaNoYaz").Odak()->isEnabled(), tanim.ekran != "brdzarf");
+      ortam.Bas(Qt::Key_F8);
+    });
     ortam.Bas(Qt::Key_F8);
-  });
-  ortam.Bas(Qt::Key_F8);
-  EXPECT_EQ(ortam.kuyruk.isler.size(), 1u);
+    EXPECT_EQ(ortam.kuyruk.isler.size(), 1u);
+    ortam.Bas(Qt::Key_F9);
+    EXPECT_EQ(ortam.acilanlar.size(), 1u);
+    for (const std::string& dosya : ortam.acilanlar)
+      std::filesystem::remove_all(std::filesystem::path(dosya).parent_path());
+    EXPECT_THAT(ortam.bildirim.Al(), ElementsAre());
+    ortam.kuyruk.isler.clear();
+    ortam.acilanlar.clear();
+    ortam.gosterici.formlar.clear();
+  }
 }
 
-TEST(Agibrd, MetinYoluKapali) {
+TEST(BelgeEkranlari, YilSiniriniAsmaz) {
   BordroluOrtam ortam;
-  ortam.Ac<agibrd>(ortam.parametreler);
-  EkranOrtami::ModaldaYap([&] {
-    auto& form = *QApplication::activeModalWidget()->findChild<yzcsetup*>();
-    const auto modlar = form.Denetim("mod").Odaklar();
-    EXPECT_TRUE(modlar[0]->isEnabled());
-    EXPECT_FALSE(modlar[1]->isEnabled());
-    ortam.Bas(Qt::Key_Escape);
-  });
-  ortam.Bas(Qt::Key_F8);
-  EXPECT_TRUE(ortam.kuyruk.isler.empty());
+  Form& form = ortam.BelgeAc("agibrd");
+  ortam.Yaz("1989\n");
+  ortam.Bas(Qt::Key_F6);
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: Bordro Yılı: 1990 ile 2100 arasında olmalı"));
+  EXPECT_TRUE(form.Denetim("yil").Odak()->hasFocus());
 }
 
 TEST(Brdicmal, DonemDegisinceHesaplanir) {
   BordroluOrtam ortam;
-  auto& form = ortam.Ac<brdicmal>(ortam.parametreler);
+  auto& form = ortam.BelgeAc("brdicmal");
   for (int i = 0; i < 15; ++i) QCoreApplication::processEvents();  // the chart comes month by month
   EXPECT_TRUE(form.findChild<QLabel*>("sayilar")->text().contains("2,000.00"));
   EXPECT_FALSE(form.findChild<QLabel*>("grafik")->pixmap(Qt::ReturnByValue).isNull());
@@ -108,12 +129,9 @@ TEST(Brdicmal, DonemDegisinceHesaplanir) {
   EXPECT_FALSE(form.findChild<QLabel*>("sayilar")->text().contains("2,000.00"));
 }
 
-TEST(BelgeEkranlari, ListelerEkrana) {
+TEST(Brdui, RaporTipi) {
   BordroluOrtam ortam;
-  ortam.Ac<setbrd>(ortam.parametreler);
-  ortam.Bas(Qt::Key_F6);
-  EXPECT_EQ(ortam.AcilanListe().Satirlar().size(), 2u);
-  auto& izin = ortam.Ac<brdui>(ortam.parametreler);
+  auto& izin = ortam.BelgeAc("brdui");
   izin.Denetim("tip").Odak()->setFocus();
   ortam.Yaz("P");  // "Personel İzinleri"
   ortam.Bas(Qt::Key_F6);

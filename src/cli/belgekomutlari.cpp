@@ -1,0 +1,125 @@
+// bordro, pusula, icmal, …: a command for each paper of the registry; its options are the fields of its choices.
+#include <algorithm>
+
+#include "cli/belgecikti.h"
+#include "core/sayi.h"
+#include "documents/belgeler.h"
+#include "payroll/hazirlik/kosullar.h"
+
+namespace belvani::cli {
+namespace {
+
+using AlanListesi = std::vector<const Alan*>;
+
+struct BelgeIsi {
+  const BelgeTanimi& belge;
+  std::string kod;
+  std::vector<std::pair<const Alan*, Deger>> verilenler;  // written over what the company has saved
+  BelgeCiktisi cikti;
+};
+
+bool SayiMi(const Alan& alan) {
+  const AlanTipi tip = alan.tanim.tip;
+  return tip == AlanTipi::Byte || tip == AlanTipi::Kisa || tip == AlanTipi::Uzun;
+}
+
+// The numbers that a field takes: its range, or those of its choices.
+std::pair<int, int> Sinirlar(const Alan& alan) {
+  if (alan.ek.liste.empty()) return {int(alan.ek.enAz), int(alan.ek.enCok)};
+  return {alan.ek.listeTabani, alan.ek.listeTabani + int(alan.ek.liste.size()) - 1};
+}
+
+// The text of an option as a value of its field; a wrong one ends the command as a wrong call.
+Deger OkunanDeger(const Alan& alan, const std::string& metin) {
+  const auto sozcukler = alan.ek.komutSozcukleri;
+  if (!sozcukler.empty())
+    return std::int64_t(std::ranges::find(sozcukler, metin) - sozcukler.begin() + alan.ek.listeTabani);
+  if (SayiMi(alan)) return std::int64_t(SayiOku(alan.ek.komut, metin, Sinirlar(alan).first, Sinirlar(alan).second));
+  std::string kusur;
+  const Deger deger = MetindenDeger(alan.tanim, metin, kusur);
+  if (kusur.empty()) kusur = AlanKusuru(alan, deger);
+  if (!kusur.empty()) throw CLI::ValidationError(alan.ek.komut, kusur + ": " + metin);
+  return deger;
+}
+
+std::string TurAdi(const AlanListesi& alanlar) {
+  if (alanlar.size() > 1) return "BAŞ BİT";
+  const auto sozcukler = alanlar.front()->ek.komutSozcukleri;
+  const bool sayilar = std::ranges::all_of(sozcukler, [](auto sozcuk) { return TamSayiOku(sozcuk).has_value(); });
+  return SayiMi(*alanlar.front()) && sayilar ? "SAYI" : "METİN";
+}
+
+// What stands in a field of fresh choices is none of its values: the command line must tell.
+bool VerilmeliMi(const Alan& alan, BelgeSecimi& secim) {
+  const Deger ilk = alan.oku(secim.Kayit(alan.kayitTuru));
+  const auto& liste = alan.ek.liste;
+  return liste.empty() ? !AlanKusuru(alan, ilk).empty() : SecenekSirasi(alan, ilk, liste.size()) < 0;
+}
+
+void SecenekEkle(CLI::App& komut, const AlanListesi& alanlar, const std::shared_ptr<BelgeIsi>& is) {
+  const auto al = [is, alanlar](const std::vector<std::string>& metinler) {
+    for (std::size_t i = 0; i < alanlar.size(); ++i)
+      is->verilenler.emplace_back(alanlar[i], OkunanDeger(*alanlar[i], metinler[i]));
+  };
+  const AlanEki& ek = alanlar.front()->ek;
+  CLI::Option* secenek = alanlar.size() > 1
+                             ? komut.add_option_function<std::vector<std::string>>(ek.komut, al, ek.komutYardimi)
+                                   ->expected(int(alanlar.size()))
+                             : komut.add_option_function<std::string>(
+                                   ek.komut, [al](const std::string& metin) { al({metin}); }, ek.komutYardimi);
+  secenek->type_name(TurAdi(alanlar));
+  const auto sozcukler = ek.komutSozcukleri;
+  if (!sozcukler.empty()) secenek->check(CLI::IsMember(std::vector<std::string>(sozcukler.begin(), sozcukler.end())));
+  if (VerilmeliMi(*alanlar.front(), *is->belge.secim())) secenek->required();
+}
+
+// Rows of one option stand one after the other.
+void SecenekleriEkle(CLI::App& komut, const std::shared_ptr<BelgeIsi>& is) {
+  AlanListesi alanlar;
+  for (const auto& sutun : is->belge.alanlar)
+    for (const AlanGrubu& grup : sutun)
+      for (const Alan& alan : grup.alanlar)
+        if (*alan.ek.komut != '\0') alanlar.push_back(&alan);
+  for (auto ilk = alanlar.begin(); ilk != alanlar.end();) {
+    const std::string_view ad = (*ilk)->ek.komut;
+    const auto son = std::find_if(ilk, alanlar.end(), [&](const Alan* alan) { return alan->ek.komut != ad; });
+    SecenekEkle(komut, {ilk, son}, is);
+    ilk = son;
+  }
+}
+
+Json KayitlarJson(const std::vector<Brd>& kayitlar) {
+  Json dizi = Json::array();
+  for (const Brd& kayit : kayitlar) KayitJson(kayit, dizi.emplace_back(Json::object()));
+  return dizi;
+}
+
+void BelgeVer(Genel& genel, const BelgeIsi& is) {
+  const auto oturum = genel.SirketAc(is.kod);
+  auto yasal = YasalParametreleriAl(oturum->DataPath);
+  const BelgeKaynagi kaynak{
+      .motor = oturum->depo.db.IcMotor(), .yasal = Degeri(yasal), .paraonda = oturum->firma.paraonda};
+  const auto secim = is.belge.secim();
+  if (is.belge.ayar.oku != nullptr) is.belge.ayar.oku(oturum->FirmaDizini, *secim);
+  for (const auto& [alan, deger] : is.verilenler) alan->yaz(secim->Kayit(alan->kayitTuru), deger);
+  if (is.belge.kayitlar != nullptr && is.cikti.bicim == "json")
+    return Yaz(KayitlarJson(is.belge.kayitlar(kaynak, *secim)).dump(2) + "\n", is.cikti.dosya);
+  const auto belge = secim->BelgeYap(kaynak);
+  if (belge->Kayitsiz() && !is.belge.kayitYok.empty()) genel.bildirim.Bilgi(is.belge.kayitYok);
+  BelgeYaz(*belge, is.cikti);
+}
+
+}  // namespace
+
+void BelgeKomutlari(CLI::App& app, Genel& genel) {
+  for (const BelgeTanimi& belge : Belgeler()) {
+    auto is = std::make_shared<BelgeIsi>(BelgeIsi{.belge = belge, .kod = {}, .verilenler = {}, .cikti = {}});
+    auto* komut = app.add_subcommand(std::string(belge.komut), std::string(belge.komutYardimi));
+    komut->add_option("KOD", is->kod, "şirket")->required();
+    SecenekleriEkle(*komut, is);
+    CiktiSecenekleri(*komut, is->cikti);
+    komut->callback([&genel, is] { BelgeVer(genel, *is); });
+  }
+}
+
+}  // namespace belvani::cli

@@ -1,0 +1,105 @@
+// BelgeTanimi: all that makes a paper a part of the program besides the paper itself. Its entry of the menu, its
+// screen, its command with options and help, its settings and the tests of all papers follow from this one row
+// (belgeler.cpp).
+//
+//   {.ekran = "agibrd", .komut = "agi", .menu = "Bordro", …,
+//    .alanlar = {{DonemAlanlari("Bordro Yılı", "Bordro Ayı"), AralikAlanlari(true, "Sicil No")}},
+//    .secim = Secenekleri(AgiBelgesi)}
+//
+// AgiBelgesi(kaynak, const DefterSecim&) makes the paper. What it takes besides the source are the records that the
+// fields fill in: their types are the paper's choices, their initial values what stands there at first.
+#pragma once
+
+#include <memory>
+#include <tuple>
+
+#include "core/sonuc.h"
+#include "core/store/motor.h"
+#include "core/tables/alansatiri.h"
+#include "core/tables/brd.h"
+#include "payroll/parametre/parametreler.h"
+#include "printing/belge.h"
+
+namespace belvani {
+
+// What papers are made from.
+struct BelgeKaynagi {
+  Motor& motor;
+  const YasalParametreler& yasal;
+  int paraonda = 2;
+};
+
+// The font of a list. A paper that takes it has "Yazıcı Fontu" on its screen.
+struct BelgeYazisi {
+  std::string yaziTipi = "tahoma";
+  int punto = 8;
+};
+
+// The choices of one paper.
+class BelgeSecimi {
+ public:
+  virtual ~BelgeSecimi() = default;
+
+  // Throws MotorHatasi and TutarTasmasi. A period without records gives a paper without rows.
+  virtual std::unique_ptr<Belge> BelgeYap(const BelgeKaynagi& kaynak) const = 0;
+
+  // The record of a type, that fields of `Alan::kayitTuru` read and write; null when the paper has none.
+  virtual void* Kayit(std::type_index tur) = 0;
+  template <class Parca>
+  Parca* Bul() {
+    return static_cast<Parca*>(Kayit(typeid(Parca)));
+  }
+};
+
+template <class... Parcalar>
+class ParcaliSecim final : public BelgeSecimi {
+ public:
+  using Yapan = std::unique_ptr<Belge> (*)(const BelgeKaynagi&, const Parcalar&...);
+  explicit ParcaliSecim(Yapan yapan) : yapan_(yapan) {}
+
+  std::unique_ptr<Belge> BelgeYap(const BelgeKaynagi& kaynak) const override {
+    return std::apply([&](const auto&... parca) { return yapan_(kaynak, parca...); }, parcalar_);
+  }
+  void* Kayit(std::type_index tur) override {
+    void* bulunan = nullptr;
+    ((tur == typeid(Parcalar) ? void(bulunan = &std::get<Parcalar>(parcalar_)) : void()), ...);
+    return bulunan;
+  }
+
+ private:
+  Yapan yapan_;
+  std::tuple<Parcalar...> parcalar_;
+};
+
+using SecimYapan = std::function<std::unique_ptr<BelgeSecimi>()>;
+
+// Fresh choices for the paper that `yapan` makes.
+template <class... Parcalar>
+SecimYapan Secenekleri(std::unique_ptr<Belge> (*yapan)(const BelgeKaynagi&, const Parcalar&...)) {
+  return [yapan] { return std::make_unique<ParcaliSecim<Parcalar...>>(yapan); };
+}
+
+// Choices that outlive a run, in a file of the company's directory.
+struct BelgeAyari {
+  void (*oku)(const std::string& firmaDizini, BelgeSecimi& secim) = nullptr;
+  Durum (*yaz)(const std::string& firmaDizini, BelgeSecimi& secim) = nullptr;  // writes nothing when nothing changed
+};
+
+struct BelgeTanimi {
+  std::string_view ekran;           // the screen's word; also its page of the guide
+  std::string_view komut;           // of the command line
+  std::string_view menu;            // "Bordro"; papers stand at the end of their menu, in the order of the registry
+  std::string_view menuBasligi;     // caption of the entry
+  std::string_view pencereBasligi;  // title of the screen
+  std::string_view simge;           // picture of the entry
+  std::string_view komutYardimi;    // what the command does
+  AlanSutunlari alanlar;
+  SecimYapan secim;
+  BelgeAyari ayar = {};
+  // What the command line says of a paper that is made of no records; "" keeps it silent.
+  std::string_view kayitYok = "Bu dönemde bordro kaydı yok";
+  // For a paper whose JSON is not its table but the pay records with all their fields.
+  std::vector<Brd> (*kayitlar)(const BelgeKaynagi& kaynak, BelgeSecimi& secim) = nullptr;
+};
+
+}  // namespace belvani

@@ -1,0 +1,19 @@
+// The fields by which papers are chosen: period and people.
+#pragma once
+
+#include "core/tables/alansatiri.h"
+
+namespace belvani {
+
+// Years that papers are made for.
+constexpr int IlkBelgeYili = 1990;
+constexpr int SonBelgeYili = 2100;
+
+// Of a DefterSecim.
+Alan YilAlani(const char* etiket, const char* komutYardimi = "bordro yılı");
+AlanGrubu DonemAlanlari(const char* yilEtiketi, const char* ayEtiketi);
+// People from and to, by code alone; by code, group, type and own code; `numarali`: by run number too.
+AlanGrubu KodAraligi(const char* kodEtiketi);
+AlanGrubu AralikAlanlari(bool numarali, const char* kodEtiketi);
+
+}  // namespace belvani

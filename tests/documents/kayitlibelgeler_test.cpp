@@ -1,0 +1,93 @@
+// Every paper of the registry: it comes in all its forms, and the print settings change just what it says.
+#include <gmock/gmock.h>
+#include <set>
+
+#include "documents/belgeler.h"
+#include "documents/doludepo.h"
+#include "printing/ayardenetimi.h"
+#include "printing/csvyazici.h"
+
+namespace belvani {
+namespace {
+
+using testing::StartsWith;
+
+// The papers of a company with people enough for two pages, its name and address filled in.
+struct Belgelik {
+  test::DoluDepo depo{20080701, 30};
+  YasalParametreler yasal;
+  BelgeKaynagi kaynak{.motor = depo.db.IcMotor(), .yasal = yasal};
+
+  Belgelik() {
+    Firma firma;
+    firma.unvan = "Çınar Tekstil";
+    KayitYazici<Firma>(kaynak.motor).Ekle(firma);
+  }
+  std::unique_ptr<Belge> Yap(const BelgeTanimi& tanim, int yil = test::Yil) {
+    const auto secim = tanim.secim();
+    auto& donem = *secim->Bul<DefterSecim>();
+    donem.yil = yil;
+    donem.ay = test::Ay;
+    return secim->BelgeYap(kaynak);
+  }
+};
+
+TEST(KayitliBelgeler, HerBicimdeCikar) {
+  Belgelik belgelik;
+  for (const BelgeTanimi& tanim : Belgeler()) {
+    SCOPED_TRACE(tanim.ekran);
+    const auto belge = belgelik.Yap(tanim);
+    EXPECT_FALSE(belge->Bos() || belge->Kayitsiz());
+    EXPECT_FALSE(belge->Baslik().empty());
+    EXPECT_GT(BelgeSayfalari(*belge)->SayfaSayisi(), 0);
+    EXPECT_THAT(BelgePdf(*belge)->baytlar, StartsWith("%PDF"));
+    EXPECT_THAT(*belge->Xlsx(), StartsWith("PK"));
+    EXPECT_THAT(belge->Metin(), testing::HasSubstr(belge->Baslik()));
+    ASSERT_NE(belge->Veri(), nullptr);
+    EXPECT_EQ(belge->Tablo() == nullptr, tanim.ekran == "brdzarf") << "all but the slips are tables";
+    EXPECT_GT(std::ranges::count(CsvRaporu(*belge->Veri()), '\n'), 1);
+    if (!tanim.kayitYok.empty()) {
+      EXPECT_TRUE(belgelik.Yap(tanim, 1995)->Kayitsiz());
+    }
+  }
+}
+
+TEST(KayitliBelgeler, AyarlarSoyledigiKadarDegistirir) {
+  Belgelik belgelik;
+  for (const BelgeTanimi& tanim : Belgeler()) {
+    SCOPED_TRACE(tanim.ekran);
+    const auto belge = belgelik.Yap(tanim);
+    EXPECT_TRUE(belge->Destek().baslik);
+    test::AyarlariDenetle(*belge);
+  }
+}
+
+// What is entered in a field comes back out of it, and choices begin with values that a field can show.
+TEST(KayitliBelgeler, AlanlarSecimeYazar) {
+  for (const BelgeTanimi& tanim : Belgeler()) {
+    SCOPED_TRACE(tanim.ekran);
+    const auto secim = tanim.secim();
+    std::set<std::string_view> adlar;
+    for (const auto& sutun : tanim.alanlar)
+      for (const AlanGrubu& grup : sutun)
+        for (const Alan& alan : grup.alanlar) {
+          SCOPED_TRACE(alan.tanim.ad);
+          EXPECT_TRUE(adlar.insert(alan.tanim.ad).second) << "two fields of one name";
+          void* kayit = secim->Kayit(alan.kayitTuru);
+          ASSERT_NE(kayit, nullptr) << "the paper does not take this choice";
+          const auto& liste = alan.ek.liste;
+          EXPECT_TRUE(alan.ek.komutSozcukleri.empty() || alan.ek.komutSozcukleri.size() == liste.size());
+          std::vector<Deger> degerler{alan.oku(kayit)};
+          if (alan.tanim.tip == AlanTipi::Mantik) degerler = {true, false, true};
+          if (alan.tanim.tip == AlanTipi::Metin) degerler = {std::string("K1")};
+          for (std::size_t i = 0; i < liste.size(); ++i) degerler.emplace_back(std::int64_t(i) + alan.ek.listeTabani);
+          for (const Deger& deger : degerler) {
+            alan.yaz(kayit, deger);
+            EXPECT_EQ(alan.oku(kayit), deger);
+          }
+        }
+  }
+}
+
+}  // namespace
+}  // namespace belvani
