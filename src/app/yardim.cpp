@@ -12,9 +12,11 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "app/belgeyardimi.h"
 #include "app/masaustu.h"
 #include "core/turkce.h"
 #include "core/veridizini.h"
+#include "documents/belgeler.h"
 #include "ui/dclistmodel.h"
 #include "ui/metin.h"
 
@@ -31,7 +33,9 @@ QDir YardimDizini() {
 
 QString HamSayfa(const QString& kelime) {
   QFile dosya(YardimDizini().filePath(kelime + ".html"));
-  return dosya.open(QIODevice::ReadOnly) ? QString::fromUtf8(dosya.readAll()) : QString();
+  if (dosya.open(QIODevice::ReadOnly)) return QString::fromUtf8(dosya.readAll());
+  const BelgeTanimi* belge = BelgeBul(Utf8(kelime));
+  return belge == nullptr ? QString() : BelgeYardimi(*belge);
 }
 
 QString SayfaKelimesi(const QUrl& yer) {
@@ -64,6 +68,16 @@ QString SimdikiEkran() {
   return etkin == nullptr ? QString(IlkSayfa) : EkranKelimesi(etkin->widget());
 }
 
+// Pages come from HamSayfa, not all of them from files.
+class SayfaGorunumu final : public QTextBrowser {
+ public:
+  using QTextBrowser::QTextBrowser;
+
+  QVariant loadResource(int tur, const QUrl& yer) override {
+    return tur == QTextDocument::HtmlResource ? HamSayfa(SayfaKelimesi(yer)) : QTextBrowser::loadResource(tur, yer);
+  }
+};
+
 class YardimTusu final : public QObject {
  public:
   using QObject::QObject;
@@ -83,7 +97,7 @@ std::vector<YardimSayfasi> YardimSayfalari() {
   std::vector<YardimSayfasi> sayfalar;
   QStringList kalan = YardimDizini().entryList({"*.html"}, QDir::Files);
   const auto ekle = [&](const QString& kelime, const QString& baslik) {
-    if (kalan.removeOne(kelime + ".html")) sayfalar.push_back({kelime, baslik});
+    if (kalan.removeOne(kelime + ".html") || BelgeBul(Utf8(kelime)) != nullptr) sayfalar.push_back({kelime, baslik});
   };
   ekle(IlkSayfa, QStringLiteral("Kullanma Şekli"));
   ekle("baslangic", QStringLiteral("Başlangıç"));
@@ -105,7 +119,7 @@ yardim::yardim(QWidget* ust)
       sayfalar_(YardimSayfalari()),
       aranan_(new QLineEdit(this)),
       dizin_(new QListWidget(this)),
-      metin_(new QTextBrowser(this)) {
+      metin_(new SayfaGorunumu(this)) {
   setObjectName("yardim");
   setWindowTitle(QStringLiteral("Kullanma Şekli"));
   setAttribute(Qt::WA_DeleteOnClose);

@@ -1,4 +1,5 @@
-// The user guide in a window of its own: the pages of data/yardim/, one for each screen, named after its word.
+// The user guide in a window of its own: the pages of data/yardim/, one for each screen, named after its word. A paper
+// without a page there has one out of its row (belgeyardimi.h).
 //
 // F1 opens the page of the screen that has the keyboard, wherever in the program that is.
 #pragma once

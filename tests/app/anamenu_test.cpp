@@ -1,13 +1,14 @@
 // The main window: its menu, its windows, and the guide behind F1.
 #include "app/anamenu.h"
 
-#include <QFile>
 #include <QMenuBar>
+#include <QTextDocument>
 
 #include "app/anaortam.h"
+#include "app/belgeyardimi.h"
 #include "app/menuharfi.h"
 #include "app/yardim.h"
-#include "core/veridizini.h"
+#include "documents/belgeler.h"
 #include "screens/core/firbil.h"
 #include "screens/core/kulfrm.h"
 
@@ -143,13 +144,27 @@ TEST(Yardim, TheSearchFindsByCaptionAndText) {
 
 TEST(Yardim, EveryBuiltScreenHasItsPage) {
   std::vector<std::string> eksik;
+  const auto sayfalar = YardimSayfalari();
   const auto ara = [&](std::string_view kelime) {
-    if (!QFile::exists(Yazi(VeriDizini("yardim")) + Yazi(kelime) + ".html")) eksik.emplace_back(kelime);
+    if (std::ranges::find(sayfalar, Yazi(kelime), &YardimSayfasi::kelime) == sayfalar.end()) eksik.emplace_back(kelime);
   };
   for (const EkranKaydi& kayit : Ekranlar())
     if (kayit.yap != nullptr) ara(kayit.kelime);
   for (const char* kelime : {"index", "baslangic", "masaustu", "gorun", "kyol", "frmAbout"}) ara(kelime);
   EXPECT_EQ(eksik, std::vector<std::string>{});
+}
+
+// The page that a paper has without a file names all of its fields and where to find it.
+TEST(Yardim, APaperTellsOfItself) {
+  for (const BelgeTanimi& belge : Belgeler()) {
+    QTextDocument sayfa;
+    sayfa.setHtml(BelgeYardimi(belge));
+    const QString metin = sayfa.toPlainText();
+    EXPECT_TRUE(metin.contains(Yazi(belge.menu) + " > " + Yazi(belge.menuBasligi))) << belge.ekran;
+    for (const auto& sutun : belge.alanlar)
+      for (const AlanGrubu& grup : sutun)
+        for (const Alan& alan : grup.alanlar) EXPECT_TRUE(metin.contains(Yazi(alan.etiket))) << alan.etiket;
+  }
 }
 
 }  // namespace
