@@ -147,17 +147,20 @@ constexpr std::array<const char*, 4> cumleler{
     "Ücret hesap pusulasını, ücretimi nakten aldım. Bu bordro bilgilerine istinaden müesseseniz",
     "ile ücret yönünden bir ilişiğim kalmamıştır.", "", "   İ M Z A"};
 
-// Makes any of the slips from the records, which it keeps.
+// The records of a paper, kept once for all of its forms.
+using Kayitlar = std::shared_ptr<const std::vector<BordroSatiri>>;
+
+// Makes any of the slips from the records.
 class PusulaYapan {
  public:
-  PusulaYapan(std::vector<BordroSatiri> satirlar, const PusulaBaslik& baslik)
+  PusulaYapan(Kayitlar satirlar, const PusulaBaslik& baslik)
       : satirlar_(std::move(satirlar)),
-        turetilen_(TuretilmisSatirlar(satirlar_, baslik.defter)),
+        turetilen_(TuretilmisSatirlar(*satirlar_, baslik.defter)),
         ekAlanlar_(EkAlanlar(baslik)),
         donem_(PusulaDonemi(BelgeDonemi(baslik.defter))),
         isveren_{{"Firma İsmi    :", baslik.defter.firma.unvan},
                  {"İşyeri Sicil  :", IsyeriSicilNo(baslik.defter.firma)}} {
-    for (const auto& satir : satirlar_) FazlaMesaiTutari(satir.brd);  // out of range: now, and not while it is drawn
+    for (const auto& satir : *satirlar_) FazlaMesaiTutari(satir.brd);  // out of range: now, and not while it is drawn
   }
   PusulaYapan(const PusulaYapan&) = delete;
   PusulaYapan& operator=(const PusulaYapan&) = delete;
@@ -175,12 +178,20 @@ class PusulaYapan {
   }
 
  private:
-  std::vector<BordroSatiri> satirlar_;
+  Kayitlar satirlar_;
   std::vector<TuretilmisSatir> turetilen_;  // of those
   Kolonlar<TuretilmisSatir> ekAlanlar_;
   std::string donem_;
   std::vector<BlokSatiri> isveren_;
 };
+
+YaprakBelgesi Pusulalar(Kayitlar satirlar, const PusulaBaslik& baslik) {
+  const std::size_t adet = satirlar->size();
+  const auto yapan = std::make_shared<const PusulaYapan>(std::move(satirlar), baslik);
+  return {.baslik = pusulaBasligi,
+          .paraOndaligi = baslik.defter.paraonda,
+          .yapraklar = {adet, [yapan](std::size_t sira) { return yapan->Yap(sira); }}};
+}
 
 }  // namespace
 
@@ -194,11 +205,7 @@ std::array<std::string, YardimSayisi> YardimAdlariOku(Motor& motor) {
 }
 
 YaprakBelgesi PusulaBelgesi(std::vector<BordroSatiri> satirlar, const PusulaBaslik& baslik) {
-  const std::size_t adet = satirlar.size();
-  const auto yapan = std::make_shared<const PusulaYapan>(std::move(satirlar), baslik);
-  return {.baslik = pusulaBasligi,
-          .paraOndaligi = baslik.defter.paraonda,
-          .yapraklar = {adet, [yapan](std::size_t sira) { return yapan->Yap(sira); }}};
+  return Pusulalar(std::make_shared<const std::vector<BordroSatiri>>(std::move(satirlar)), baslik);
 }
 
 Rapor PusulaRaporu(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik) {
@@ -213,10 +220,11 @@ Rapor PusulaRaporu(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik
 std::unique_ptr<Belge> UcretPusulalari(const BelgeKaynagi& kaynak, const DefterSecim& secim,
                                        const PusulaSecenegi& secenek) {
   PusulaBaslik baslik{.defter = BaslikOku(kaynak, secim), .yardimAdlari = YardimAdlariOku(kaynak.motor)};
-  auto satirlar = DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::Kisi));
-  YaprakBelgesi belge = PusulaBelgesi(satirlar, baslik);
+  const auto satirlar = std::make_shared<const std::vector<BordroSatiri>>(
+      DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::Kisi)));
+  YaprakBelgesi belge = Pusulalar(satirlar, baslik);
   const YzcAyarlari ayar = BaskiAyari(belge.baslik, KagitYonu::Dikey);
-  auto veri = [satirlar = std::move(satirlar), baslik = std::move(baslik)] { return PusulaRaporu(satirlar, baslik); };
+  auto veri = [satirlar, baslik = std::move(baslik)] { return PusulaRaporu(*satirlar, baslik); };
   return std::make_unique<YaprakliBelge>(std::move(belge), secenek.sayfada, ayar, std::move(veri));
 }
 

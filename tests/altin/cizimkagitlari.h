@@ -10,6 +10,11 @@
 #include "declarations/aylikbildirge.h"
 #include "declarations/bildirgeformu.h"
 #include "declarations/formresimleri.h"
+#include "documents/agilistesi.h"
+#include "documents/icmal.h"
+#include "documents/izin.h"
+#include "documents/ozelbordro.h"
+#include "documents/pusula.h"
 #include "ozluk/girisbildirgesi.h"
 #include "ozluk/ibraname.h"
 
@@ -61,15 +66,20 @@ inline std::string BaslikliMetin(OrnekSirket& o) {
 }
 
 inline Kagit Izinler(const char* ad, IzinRaporu tip, MetinAraligi kod) {
-  return Cizim(SonAy, ad, [=](OrnekSirket& o) { return IzinBelgesi(o.Kaynak(), o.donem.yil, kod, tip, {}); });
+  return Cizim(SonAy, ad, [=](OrnekSirket& o) {
+    DefterSecim secim = o.Secim("", "");
+    secim.kod = kod;
+    return IzinBelgesi(o.Kaynak(), secim, {.tip = tip}, {});
+  });
 }
 
 inline Kagit Pusulalar(const char* ad, SayfadaYaprak sayfada, const char* ilk, const char* son) {
-  return Cizim(SonAy, ad, [=](OrnekSirket& o) { return UcretPusulalari(o.Kaynak(), o.Secim(ilk, son), sayfada); });
+  return Cizim(SonAy, ad,
+               [=](OrnekSirket& o) { return UcretPusulalari(o.Kaynak(), o.Secim(ilk, son), {.sayfada = sayfada}); });
 }
 
 inline Kagit Ozet(const Ay& ay) {
-  return Cizim(ay, "icmal", [=](OrnekSirket& o) { return IcmalBelgesi(o.Kaynak(), ay.yil, ay.ay); });
+  return Cizim(ay, "icmal", [=](OrnekSirket& o) { return IcmalBelgesi(o.Kaynak(), o.Secim("", "ZZZZ")); });
 }
 
 inline Kagitlar CizilenListeler() {

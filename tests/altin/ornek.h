@@ -9,7 +9,7 @@
 #include "bildirim.h"
 #include "core/dosya.h"
 #include "core/session/muhasebecibilgi.h"
-#include "documents/bordrobelgeleri.h"
+#include "documents/defter.h"
 #include "gecici.h"
 #include "payroll/hazirlik/kosullar.h"
 #include "payroll/parametre/indir.h"
