@@ -10,7 +10,7 @@
 #include "gecici.h"
 #include "printing/ayardenetimi.h"
 #include "printing/cupskuyrugu.h"
-#include "printing/formbelgesi.h"
+#include "printing/form/formbelgesi.h"
 #include "printing/kayittuvali.h"
 #include "printing/metincizimi.h"
 #include "printing/ornek.h"

@@ -12,7 +12,7 @@ AlanGrubu Gunler() {
   AlanGrubu grup{"Gün ve Saatler", {}};
   for (std::size_t i = 0; i < KazancSayisi; ++i) {
     const bool gun = i < GunSatiriSayisi;
-    const AlanTanimi kolon = gun ? AlanTanimi(GunKolonlari[i]) : MesaiKolonlari[i - GunSatiriSayisi];
+    const AlanTanimi kolon = gun ? AlanTanimi(GunKolonlari[i]) : AlanTanimi(MesaiKolonlari[i - GunSatiriSayisi]);
     grup.alanlar.push_back(DiziAlani(kolon.ad, &Sablon::SablonGun, i, KazancAdlari[i].data(),
                                      {.ondalik = gun ? 0 : 2, .enCok = kolon.sinir.enCok}));
   }

@@ -80,7 +80,7 @@ struct UcuncudeVazgecen final : Ilerleme {
 
 TEST_F(Indir, GivenUpWhileTheServerIsSilent) {
   Yaz("hedef.dat", "eski");
-  const test::Sunucu sunucu({{"/sessiz", ""}});
+  const test::Sunucu sunucu(std::map<std::string, std::string>{{"/sessiz", ""}});
   UcuncudeVazgecen ilerleme;
   const auto basla = std::chrono::steady_clock::now();
   EXPECT_THAT(ParametreIndir(sunucu.Kok() + "/sessiz", Yol("hedef.dat"), {.ilerleme = &ilerleme}).KusurMetni(),
