@@ -7,7 +7,7 @@
 namespace belvani {
 namespace {
 
-constexpr const char* Sayfa =
+constexpr const char* SayfaKalibi =
     "<html><head><meta charset=\"utf-8\"><title>%1</title><link rel=\"stylesheet\" href=\"yardim.css\"></head><body>\n"
     "<h1>%1</h1>\n"
     "<p>%2. <b>%3</b> menüsünden açılır.</p>\n"
@@ -44,7 +44,7 @@ QString BelgeYardimi(const BelgeTanimi& belge) {
         satirlar += QStringLiteral("<tr><td><b>%1</b></td><td>%2</td></tr>\n")
                         .arg(Yazi(alan.etiket).toHtmlEscaped(), Aciklama(alan).toHtmlEscaped());
   const QString giris = Yazi(belge.menu).replace('/', " > ") + " > " + Yazi(belge.menuBasligi);
-  return QString::fromUtf8(Sayfa).arg(Yazi(belge.pencereBasligi).toHtmlEscaped(),
+  return QString::fromUtf8(SayfaKalibi).arg(Yazi(belge.pencereBasligi).toHtmlEscaped(),
                                       Yazi(belge.komutYardimi).toHtmlEscaped(), giris.toHtmlEscaped(), satirlar);
 }
 

@@ -1,24 +1,39 @@
 #include "printing/xlsxkitap.h"
 
 #include <algorithm>
-#include <cassert>
+#include <filesystem>
+#include <locale.h>
+#include <utility>
+#include <vector>
+#include <xlsxwriter.h>
 
-#include "core/sayi.h"
+#include "core/dosya.h"
 #include "core/turkce.h"
-#include "printing/xlsxparcalar.h"
-#include "printing/xlsxsablon.h"
+#include "printing/zipdosya.h"
 
 namespace belvani {
 namespace {
 
 constexpr std::size_t SayfaAdiHarfi = 31;
-constexpr std::size_t EnCokHarf = 32'767;  // of a cell
-constexpr int EnCokSatir = 1'048'576;
-constexpr int EnCokKolon = 16'384;
-constexpr std::int32_t IlkGun = 61;      // 01.03.1900: from here on both calendars count alike
-constexpr double KenarPayi = 0.7109375;  // letters that the edges of a cell take of its column
-constexpr int IlkBicimNo = 164;          // number formats below it are the spreadsheet program's own
-constexpr std::size_t PaketBoyu = 1 << 16;
+constexpr std::int32_t IlkGun = 61;  // 01.03.1900: from here on both calendars count alike
+constexpr std::size_t EnBuyukDosya = std::size_t(2) << 30;
+constexpr const char* SayfaParcasi = "xl/worksheets/sheet1.xml";
+
+// The library prints numbers by the locale of the thread: a decimal comma would spoil the file.
+class NoktaliSayilar {
+ public:
+  NoktaliSayilar() : onceki_(::uselocale(C())) {}
+  ~NoktaliSayilar() { ::uselocale(onceki_); }
+  NoktaliSayilar(const NoktaliSayilar&) = delete;
+  NoktaliSayilar& operator=(const NoktaliSayilar&) = delete;
+
+ private:
+  static locale_t C() {
+    static const locale_t c = ::newlocale(LC_ALL_MASK, "C", nullptr);
+    return c;
+  }
+  locale_t onceki_;
+};
 
 // Broken bytes would make the whole file unreadable; they are taken for the older programs' code page.
 std::string SaglamMetin(std::string_view metin) {
@@ -34,183 +49,137 @@ std::string SayfaAdi(std::string_view ad) {
   return temiz.empty() ? "Rapor" : temiz;
 }
 
-std::string_view XmlKarsiligi(char c) {
-  switch (c) {
-    case '&':
-      return "&amp;";
-    case '<':
-      return "&lt;";
-    case '>':
-      return "&gt;";
-    default:
-      return "&quot;";
-  }
+std::size_t Say(std::string_view metin, std::string_view aranan) {
+  std::size_t adet = 0;
+  for (std::size_t i = 0; (i = metin.find(aranan, i)) != std::string_view::npos; i += aranan.size()) ++adet;
+  return adet;
 }
 
-void XmlEkle(std::string& xml, std::string_view metin) {
-  for (std::size_t yer; (yer = metin.find_first_of("&<>\"")) != std::string_view::npos; metin.remove_prefix(yer + 1)) {
-    xml += metin.substr(0, yer);
-    xml += XmlKarsiligi(metin[yer]);
-  }
-  xml += metin;
+// Whether the text of a part ends as XML does.
+bool TamMi(std::string_view parca) {
+  const auto son = parca.find_last_not_of("\r\n");
+  return son != std::string_view::npos && parca[son] == '>';
 }
 
-// All decimals that the amount has: 1234.5, -0.01, 12.
-std::string TamTutar(Tutar tutar) {
-  std::string metin = OndalikMetin(tutar);
-  metin.erase(metin.find_last_not_of('0') + 1);
-  if (metin.ends_with('.')) metin.pop_back();
-  return metin;
+lxw_format* BicimYap(lxw_workbook* kitap, const XlsxStili& stil) {
+  lxw_format* bicim = workbook_add_format(kitap);
+  if (!stil.sayiBicimi.empty()) format_set_num_format(bicim, stil.sayiBicimi.c_str());
+  if (stil.koyu || stil.baslik) format_set_bold(bicim);
+  if (stil.baslik) {
+    format_set_text_wrap(bicim);
+    format_set_align(bicim, LXW_ALIGN_VERTICAL_CENTER);
+    format_set_bottom(bicim, LXW_BORDER_THIN);
+    format_set_bg_color(bicim, 0xE7E9EC);
+  }
+  return bicim;
 }
 
 }  // namespace
 
-XlsxKitap::XlsxKitap(std::string_view sayfaAdi) : ad_(SayfaAdi(sayfaAdi)) {
-  zip_.ParcaBasla("[Content_Types].xml");
-  zip_.Yaz(xlsx::XmlBasi);
-  zip_.Yaz(xlsx::Turler);
-  zip_.ParcaBasla("_rels/.rels");
-  zip_.Yaz(xlsx::XmlBasi);
-  zip_.Yaz(xlsx::Iliskiler);
-  zip_.ParcaBasla("xl/worksheets/sheet1.xml");
-}
+struct XlsxKitap::Ic {
+  explicit Ic(std::string_view sayfaAdi) : yol(GeciciDosya()) {
+    if (yol.empty()) return;
+    const NoktaliSayilar nokta;
+    lxw_workbook_options secenekler = {.constant_memory = LXW_TRUE, .tmpdir = nullptr, .use_zip64 = LXW_FALSE};
+    kitap = workbook_new_opt(yol.c_str(), &secenekler);
+    if (kitap != nullptr) sayfa = workbook_add_worksheet(kitap, SayfaAdi(sayfaAdi).c_str());
+  }
+  ~Ic() {
+    Kapat();
+    std::error_code hata;
+    if (!yol.empty()) std::filesystem::remove(yol, hata);
+  }
+
+  lxw_error Kapat() {
+    if (kitap == nullptr) return LXW_ERROR_CREATING_TMPFILE;
+    const NoktaliSayilar nokta;
+    return workbook_close(std::exchange(kitap, nullptr));
+  }
+
+  // The library does not look whether its own temporary files were written to the end, so the file is read back: every
+  // part whole, and in the sheet as many cells as were written.
+  bool Saglam(const ZipDosyasi& dosya) const {
+    std::size_t hucreler = 0;
+    for (const auto& ad : dosya.Adlar()) {
+      const auto parca = dosya.Oku(ad);
+      if (!parca || !TamMi(*parca)) return false;
+      if (ad == SayfaParcasi) hucreler = Say(*parca, "<c r=\"");
+    }
+    return hucreler == hucreSayisi;
+  }
+
+  std::string yol;
+  lxw_workbook* kitap = nullptr;
+  lxw_worksheet* sayfa = nullptr;
+  std::vector<std::pair<XlsxStili, lxw_format*>> stiller;
+  lxw_error kusur = LXW_NO_ERROR;
+  std::size_t hucreSayisi = 0;
+};
+
+XlsxKitap::XlsxKitap(std::string_view sayfaAdi) : ic_(std::make_unique<Ic>(sayfaAdi)) {}
+XlsxKitap::~XlsxKitap() = default;
 
 XlsxKitap::Stil XlsxKitap::StilEkle(const XlsxStili& stil) {
-  const auto ayni = std::ranges::find(stiller_, stil);
-  const Stil no = Stil(ayni - stiller_.begin());
-  if (ayni == stiller_.end()) stiller_.push_back(stil);
-  return no;
+  // One format for each look, and none for the plain one: the library searches for the twin of a format at every cell.
+  auto& stiller = ic_->stiller;
+  const auto ayni = std::find_if(stiller.begin(), stiller.end(), [&](const auto& s) { return s.first == stil; });
+  if (ayni != stiller.end()) return Stil(ayni - stiller.begin());
+  stiller.emplace_back(stil, stil == XlsxStili{} || ic_->kitap == nullptr ? nullptr : BicimYap(ic_->kitap, stil));
+  return Stil(stiller.size()) - 1;
 }
 
 void XlsxKitap::KolonEni(int kolon, double harf) {
-  assert(satir_ < 0);
-  const std::string no = std::to_string(kolon + 1);
-  kolonlar_ +=
-      "<col min=\"" + no + "\" max=\"" + no + "\" width=\"" + SayiMetni(harf + KenarPayi) + "\" customWidth=\"1\"/>";
+  if (ic_->sayfa != nullptr) worksheet_set_column(ic_->sayfa, lxw_col_t(kolon), lxw_col_t(kolon), harf, nullptr);
 }
 
-void XlsxKitap::SayfaBasi() {
-  xml_ = xlsx::XmlBasi;
-  xml_ += xlsx::SayfaBasi;
-  if (yatay_) xml_ += xlsx::TekSayfaEni;
-  xml_ += R"(<sheetViews><sheetView tabSelected="1" workbookViewId="0">)";
-  if (donuk_ > 0)
-    xml_ += "<pane ySplit=\"" + std::to_string(donuk_) + "\" topLeftCell=\"" + XlsxAdresi(donuk_, 0) +
-            R"(" activePane="bottomLeft" state="frozen"/><selection pane="bottomLeft"/>)";
-  xml_ += R"(</sheetView></sheetViews><sheetFormatPr defaultRowHeight="15"/>)";
-  if (!kolonlar_.empty()) xml_ += "<cols>" + kolonlar_ + "</cols>";
-  xml_ += "<sheetData>";
+void XlsxKitap::UstuDondur(int satir) {
+  if (ic_->sayfa == nullptr) return;
+  worksheet_freeze_panes(ic_->sayfa, lxw_row_t(satir), 0);
+  worksheet_repeat_rows(ic_->sayfa, lxw_row_t(satir - 1), lxw_row_t(satir - 1));
 }
 
-void XlsxKitap::Pakete() {
-  zip_.Yaz(xml_);
-  xml_.clear();
-}
-
-void XlsxKitap::HucreAc(int satir, int kolon, Stil stil) {
-  assert(satir > satir_ || (satir == satir_ && kolon > kolon_));
-  if (satir_ < 0) SayfaBasi();
-  if (satir != satir_) {
-    if (satir_ >= 0) xml_ += "</row>";
-    if (xml_.size() > PaketBoyu) Pakete();
-    satir_ = satir;
-    satirNo_ = std::to_string(satir + 1);
-    ((xml_ += "<row r=\"") += satirNo_) += "\">";
-  }
-  kolon_ = kolon;
-  while (kolonAdlari_.size() <= std::size_t(kolon)) {
-    const std::string adres = XlsxAdresi(0, int(kolonAdlari_.size()));
-    kolonAdlari_.push_back(adres.substr(0, adres.size() - 1));
-  }
-  (((xml_ += "<c r=\"") += kolonAdlari_[std::size_t(kolon)]) += satirNo_) += '"';
-  if (stil != 0) ((xml_ += " s=\"") += std::to_string(stil)) += '"';
+void XlsxKitap::YatayYazdir() {
+  if (ic_->sayfa == nullptr) return;
+  worksheet_set_landscape(ic_->sayfa);
+  worksheet_set_paper(ic_->sayfa, 9);  // A4
+  worksheet_fit_to_pages(ic_->sayfa, 1, 0);
 }
 
 void XlsxKitap::Yaz(int satir, int kolon, const Hucre& hucre, Stil stil) {
-  if (kusur_) return;
-  if (satir >= EnCokSatir || kolon >= EnCokKolon) {
-    kusur_ = Kusur{"Tablo dosyası yazılamadı: bir sayfa en çok 1,048,576 satır alır"};
-    return;
-  }
+  if (ic_->sayfa == nullptr || ic_->kusur != LXW_NO_ERROR) return;
+  const NoktaliSayilar nokta;
+  lxw_format* bicim = ic_->stiller[std::size_t(stil)].second;
   const auto metin = [&](const std::string& m) {
     if (m.empty()) return;
-    if (m.size() > EnCokHarf && HarfSayisi(m) > EnCokHarf)
-      kusur_ = Kusur{"Tablo dosyası yazılamadı: bir hücre en çok 32,767 harf alır"};
-    HucreAc(satir, kolon, stil);
-    xml_ += m.front() == ' ' || m.back() == ' ' ? R"( t="inlineStr"><is><t xml:space="preserve">)"
-                                                : R"( t="inlineStr"><is><t>)";
-    XmlEkle(xml_, m);
-    xml_ += "</t></is></c>";
+    ic_->kusur = worksheet_write_string(ic_->sayfa, lxw_row_t(satir), lxw_col_t(kolon), m.c_str(), bicim);
+    ++ic_->hucreSayisi;
   };
-  const auto sayi = [&](const std::string& s) {
-    HucreAc(satir, kolon, stil);
-    ((xml_ += "><v>") += s) += "</v></c>";
+  const auto sayi = [&](double s) {
+    ic_->kusur = worksheet_write_number(ic_->sayfa, lxw_row_t(satir), lxw_col_t(kolon), s, bicim);
+    ++ic_->hucreSayisi;
   };
   if (const auto* m = std::get_if<std::string>(&hucre)) metin(SaglamMetin(*m));
-  if (const auto* tam = std::get_if<std::int64_t>(&hucre)) sayi(std::to_string(*tam));
-  if (const auto* tutar = std::get_if<Tutar>(&hucre)) sayi(TamTutar(*tutar));
+  if (const auto* tam = std::get_if<std::int64_t>(&hucre)) sayi(double(*tam));
+  if (const auto* tutar = std::get_if<Tutar>(&hucre)) sayi(tutar->Sayi());
   if (const auto* tarih = std::get_if<Tarih>(&hucre); tarih != nullptr && !tarih->Bos()) {
     if (tarih->SeriNo() >= IlkGun)
-      sayi(std::to_string(tarih->SeriNo()));
+      sayi(tarih->SeriNo());
     else
       metin(tarih->Metin());
   }
 }
 
-// Each look that was asked for, after the formats of its numbers.
-std::string XlsxKitap::Stiller() const {
-  std::string bicimler, hucreler;
-  int bicim = IlkBicimNo;
-  for (const XlsxStili& stil : stiller_) {
-    const bool koyu = stil.koyu || stil.baslik;
-    const int no = stil.sayiBicimi.empty() ? 0 : bicim++;
-    hucreler += "<xf numFmtId=\"" + std::to_string(no) + "\" fontId=\"" + (koyu ? "1" : "0") + "\"" +
-                (no != 0 ? " applyNumberFormat=\"1\"" : "") + (koyu ? " applyFont=\"1\"" : "");
-    hucreler += stil.baslik ? xlsx::BaslikStili : xlsx::DuzStil;
-    if (no == 0) continue;
-    bicimler += "<numFmt numFmtId=\"" + std::to_string(no) + "\" formatCode=\"";
-    XmlEkle(bicimler, stil.sayiBicimi);
-    bicimler += "\"/>";
-  }
-  std::string xml(xlsx::StillerBasi);
-  if (bicim > IlkBicimNo)
-    xml += "<numFmts count=\"" + std::to_string(bicim - IlkBicimNo) + "\">" + bicimler + "</numFmts>";
-  xml += xlsx::StilParcalari;
-  xml += "<cellXfs count=\"" + std::to_string(stiller_.size()) + "\">" + hucreler + "</cellXfs>";
-  return xml += xlsx::StillerSonu;
-}
-
-std::string XlsxKitap::Kitap() const {
-  std::string xml(xlsx::KitapBasi);
-  XmlEkle(xml, ad_);
-  xml += xlsx::SayfaAdindanSonra;
-  if (donuk_ > 0) {
-    xml += R"(<definedNames><definedName name="_xlnm.Print_Titles" localSheetId="0">')";
-    XmlEkle(xml, ad_);
-    const std::string satir = "$" + std::to_string(donuk_);
-    xml += "'!" + satir + ":" + satir + "</definedName></definedNames>";
-  }
-  return xml += "</workbook>";
-}
-
 Sonuc<std::string> XlsxKitap::Bitir() {
-  if (kusur_) return *kusur_;
-  if (satir_ < 0) SayfaBasi();
-  xml_ += satir_ < 0 ? "</sheetData>" : "</row></sheetData>";
-  xml_ += xlsx::Kenarlar;
-  if (yatay_) xml_ += xlsx::YatayA4;
-  xml_ += "</worksheet>";
-  Pakete();
-  const auto parca = [&](const char* ad, std::string_view xml) {
-    zip_.ParcaBasla(ad);
-    zip_.Yaz(xlsx::XmlBasi);
-    zip_.Yaz(xml);
-  };
-  parca("xl/styles.xml", Stiller());
-  parca("xl/workbook.xml", Kitap());
-  parca("xl/_rels/workbook.xml.rels", xlsx::KitapIliskileri);
-  auto baytlar = zip_.Bitir();
-  if (!baytlar) return Kusur{"Tablo dosyası yazılamadı: tablo bir dosyaya sığmayacak kadar büyük"};
+  if (ic_->sayfa == nullptr) return Kusur{"Tablo dosyası yazılamadı: geçici dosya açılamıyor"};
+  if (ic_->kusur == LXW_ERROR_WORKSHEET_INDEX_OUT_OF_RANGE)
+    return Kusur{"Tablo dosyası yazılamadı: bir sayfa en çok 1,048,576 satır alır"};
+  if (ic_->kusur != LXW_NO_ERROR) return Kusur{"Tablo dosyası yazılamadı: bir hücre en çok 32,767 harf alır"};
+  const Kusur yazilamadi{"Tablo dosyası yazılamadı: geçici dosyaların dizini dolu ya da yazılamıyor"};
+  if (ic_->Kapat() != LXW_NO_ERROR) return yazilamadi;
+  auto baytlar = DosyaOku(ic_->yol, EnBuyukDosya);
+  if (!baytlar) return yazilamadi;
+  const auto dosya = ZipDosyasi::Ac(*baytlar);
+  if (!dosya || !ic_->Saglam(*dosya)) return yazilamadi;
   return std::move(*baytlar);
 }
 

@@ -1,5 +1,5 @@
-// XlsxKitap: a spreadsheet file (.xlsx) of one sheet that is written row by row, top to bottom, into memory alone: rows
-// are packed as they come, nothing goes to the disk. The bytes are the same under every locale of the process.
+// XlsxKitap: a spreadsheet file (.xlsx) of one sheet that is written row by row, top to bottom. Memory does not grow
+// with the rows. The bytes are the same under every locale of the process.
 //
 //   XlsxKitap kitap("Ücret Bordrosu");
 //   const auto tutar = kitap.StilEkle({.sayiBicimi = XlsxTutarBicimi(2)});
@@ -7,14 +7,12 @@
 //   Sonuc<std::string> baytlar = kitap.Bitir();
 #pragma once
 
-#include <optional>
+#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "core/sonuc.h"
 #include "printing/rapor.h"
-#include "printing/zipyazici.h"
 
 namespace belvani {
 
@@ -39,40 +37,27 @@ class XlsxKitap {
   using Stil = int;
 
   explicit XlsxKitap(std::string_view sayfaAdi);
+  ~XlsxKitap();
+  XlsxKitap(const XlsxKitap&) = delete;
+  XlsxKitap& operator=(const XlsxKitap&) = delete;
 
   Stil StilEkle(const XlsxStili& stil);
 
-  // The looks of the sheet, before its first cell.
   void KolonEni(int kolon, double harf);
-  void UstuDondur(int satir) { donuk_ = satir; }  // rows above it stay in sight, the last of them heads every page
-  void YatayYazdir() { yatay_ = true; }           // landscape, as wide as one page
+  void UstuDondur(int satir);  // rows above it stay in sight
+  void YatayYazdir();          // landscape, as wide as one page
 
-  // Rows and columns count from 0; cells come row by row, from left to right. Null writes nothing. A day before March
-  // 1900, which a spreadsheet cannot count, is written as text.
+  // Rows and columns count from 0; a row may not be written once a later one is. Null writes nothing. A day before
+  // March 1900, which a spreadsheet cannot count, is written as text.
   void Yaz(int satir, int kolon, const Hucre& hucre, Stil stil);
 
-  // The file, once. Fails when a row or a text is beyond what a sheet holds.
+  // The file, once. Fails when a row or a text is beyond what a sheet holds, or the system's temporary directory is
+  // full or missing; there is never half a file.
   Sonuc<std::string> Bitir();
 
  private:
-  void SayfaBasi();
-  void HucreAc(int satir, int kolon, Stil stil);
-  void Pakete();
-  std::string Stiller() const;
-  std::string Kitap() const;
-
-  std::string ad_;
-  ZipYazici zip_;
-  std::string xml_;                                 // of the sheet, not packed yet
-  std::vector<XlsxStili> stiller_ = {XlsxStili{}};  // the plain one first
-  std::vector<std::string> kolonAdlari_;            // "A", "B"
-  std::string kolonlar_;                            // their widths
-  int donuk_ = 0;
-  bool yatay_ = false;
-  int satir_ = -1;  // the open one
-  std::string satirNo_;
-  int kolon_ = -1;  // its last cell
-  std::optional<Kusur> kusur_;
+  struct Ic;
+  std::unique_ptr<Ic> ic_;
 };
 
 // How a cell of a column looks in a spreadsheet.

@@ -35,6 +35,9 @@ std::string Form() {
            "<Relationship Id=\"rId90\" Type=\"" + tur + "worksheet\" Target=\"/xl/worksheets/ikinci.xml\"/>" +
                "<Relationship Id=\"rId91\" Type=\"" + tur + "calcChain\" Target=\"calcChain.xml\"/>");
   degistir("[Content_Types].xml", "</Types>", "<Override PartName=\"/xl/calcChain.xml\" ContentType=\"c\"/>");
+  std::string kitapXml = *zip->Oku("xl/workbook.xml");
+  const auto calc = kitapXml.find("<calcPr");
+  zip->Degistir("xl/workbook.xml", kitapXml.erase(calc, kitapXml.find("/>", calc) + 2 - calc));
   zip->Degistir("xl/calcChain.xml", "<calcChain/>");
   zip->Degistir("xl/media/amblem.bin", std::string("\0\x01\r\n\xff", 5));
   zip->Degistir(Sayfa1, std::string("<?xml version=\"1.0\"?>\r\n<worksheet ") + Ns +
