@@ -9,6 +9,7 @@
 #include "core/turkce.h"
 #include "payroll/hesap/satirlar.h"
 #include "payroll/parametre/mevzuat.h"
+#include "payroll/parametre/uyeler.h"
 
 namespace belvani::cli {
 namespace {
@@ -66,69 +67,68 @@ void FirmayiOku(const Json& json, HesapGirdisi& h) {
   h.kosullar.donem.tur = firma.tersfirma ? DonemTuru::Ters : DonemTuru::Takvim;
 }
 
-template <std::size_t N, class Uydur>
-void DiziOku(const Json& json, const char* ad, std::size_t enCok, Uydur&& uydur, AlanTipi tip, Kusurlar& kusurlar) {
-  const Json& dizi = Uye(json, ad);
+template <class U>
+concept ParametreSayisi = std::is_same_v<U, Tutar> || std::is_same_v<U, Tek>;
+
+// A number of a parameter record, within what may be entered for it.
+template <class Satir, ParametreSayisi U>
+void SayiyiOku(const Json& json, const Satir& satir, const std::string& yer, U& sayi, Kusurlar& kusurlar) {
+  const AlanSiniri siniri = satir.enCok > 0 ? sinir::EnCok(satir.enCok) : AlanSiniri{};
+  const AlanTipi tip = std::is_same_v<U, Tutar> ? AlanTipi::Tutar : AlanTipi::Tek;
+  UyeyeYaz(sayi, JsonDegeri({satir.ad, tip, 0, AlanNiteligi::Serbest, siniri}, json, yer, kusurlar));
+}
+
+template <class Satir, ParametreSayisi U>
+void UyeyiOku(const Json& p, const Satir& satir, U& sayi, Kusurlar& kusurlar) {
+  if (p.contains(satir.ad)) SayiyiOku(p[satir.ad], satir, satir.ad, sayi, kusurlar);
+}
+
+// Elements that the list does not reach are zero.
+template <class Satir, ParametreSayisi U, std::size_t N>
+void UyeyiOku(const Json& p, const Satir& satir, std::array<U, N>& uye, Kusurlar& kusurlar) {
+  const Json& dizi = Uye(p, satir.ad);
   if (dizi.is_null()) return;
-  if (!dizi.is_array() || dizi.size() > enCok) {
-    kusurlar.push_back("parametre." + std::string(ad) + ": en çok " + std::to_string(enCok) + " sayılık dizi olmalı");
+  const std::string yer = "parametre." + std::string(satir.ad);
+  if (!dizi.is_array() || dizi.size() > N) {
+    kusurlar.push_back(yer + ": en çok " + std::to_string(N) + " sayılık dizi olmalı");
     return;
   }
-  for (std::size_t i = 0; i < N; ++i)
-    uydur(i, i < dizi.size()
-                 ? JsonDegeri({ad, tip, 0, AlanNiteligi::Serbest}, dizi[i], "parametre." + std::string(ad), kusurlar)
-                 : Deger(Null{}));
+  uye = {};
+  for (std::size_t i = 0; i < dizi.size(); ++i) SayiyiOku(dizi[i], satir, yer, uye[i], kusurlar);
 }
 
 // Rows by branch number, "1" to "32": {"1": {"ana": 0, "has": 5, …}}.
-void OranlariOku(const Json& json, const char* ad, std::array<OranSatiri, DalSayisi>& oranlar, Kusurlar& kusurlar) {
-  const Json& dallar = Uye(json, ad);
+template <class Satir>
+void UyeyiOku(const Json& p, const Satir& satir, std::array<OranSatiri, DalSayisi>& oranlar, Kusurlar& kusurlar) {
+  const Json& dallar = Uye(p, satir.ad);
   if (dallar.is_null()) return;
-  static constexpr std::pair<const char*, Tek OranSatiri::*> kolonlar[] = {{"ana", &OranSatiri::ana},
-                                                                           {"has", &OranSatiri::has},
-                                                                           {"mal", &OranSatiri::mal},
-                                                                           {"sgdp", &OranSatiri::sgdp},
-                                                                           {"isz", &OranSatiri::isz}};
-  for (const auto& [dal, satir] : dallar.items()) {
+  for (const auto& [dal, dalOranlari] : dallar.items()) {
     const int no = BastakiSayi(dal);
-    if (no < 1 || no > DalSayisi || !satir.is_object()) {
-      kusurlar.push_back("parametre." + std::string(ad) + "." + dal + ": 1-32 dal numarası ve oranları olmalı");
+    if (no < 1 || no > DalSayisi || !dalOranlari.is_object()) {
+      kusurlar.push_back("parametre." + std::string(satir.ad) + "." + dal + ": 1-32 dal numarası ve oranları olmalı");
       continue;
     }
-    for (const auto& [kolon, uye] : kolonlar)
-      if (satir.contains(kolon))
-        oranlar[std::size_t(no - 1)].*uye = Tek(SayiDegeri(Tekli(satir, kolon, AlanTipi::Tek, kusurlar)));
+    HerUye<OranSatiri>([&, &oranSatirlari = dalOranlari](const auto& uye) {
+      UyeyiOku(oranSatirlari, uye, oranlar[std::size_t(no - 1)].*uye.uye, kusurlar);
+    });
   }
+}
+
+template <class Kayit>
+void KaydiOku(const Json& p, Kayit& kayit, Kusurlar& kusurlar) {
+  HerUye<Kayit>([&](const auto& uye) {
+    if constexpr (requires { UyeyiOku(p, uye, kayit.*uye.uye, kusurlar); })
+      if (*uye.ad != '\0') UyeyiOku(p, uye, kayit.*uye.uye, kusurlar);
+  });
 }
 
 // Members that the object names take the place of the shipped figures.
 void ParametreleriOku(const Json& p, YasalParametreler& yasal, int& uygulama, Kusurlar& kusurlar) {
   if (p.is_null()) return;
   if (!p.is_object()) return kusurlar.push_back("parametre: nesne olmalı");
-  YasalOranlar& y = yasal.oranlar;
-  const std::pair<const char*, Tutar*> tutarlar[] = {
-      {"AsgariUcret", &y.AsgariUcret}, {"SskTaban", &y.SskTaban},   {"SskTavan", &y.SskTavan},
-      {"KidemTavan", &y.KidemTavan},   {"MuafTavan", &y.MuafTavan}, {"AgiTaban", &yasal.agi.AgiTaban}};
-  const std::pair<const char*, Tek*> oranlar[] = {
-      {"DamgaOran", &y.DamgaOran},           {"MuafOran", &y.MuafOran},
-      {"AgiKendisi", &yasal.agi.AgiKendisi}, {"AgiEsi", &yasal.agi.AgiEsi},
-      {"AgiCocuk12", &yasal.agi.AgiCocuk12}, {"AgiCocuk3", &yasal.agi.AgiCocuk3},
-      {"AgiCocuk4", &yasal.agi.AgiCocuk4}};
-  for (const auto& [ad, tutar] : tutarlar)
-    if (p.contains(ad)) *tutar = TutarDegeri(Tekli(p, ad, AlanTipi::Tutar, kusurlar));
-  for (const auto& [ad, oran] : oranlar)
-    if (p.contains(ad)) *oran = Tek(SayiDegeri(Tekli(p, ad, AlanTipi::Tek, kusurlar)));
-  DiziOku<3>(
-      p, "SakatIndirim", 3, [&](std::size_t i, const Deger& d) { y.SakatIndirim[i] = TutarDegeri(d); }, AlanTipi::Tutar,
-      kusurlar);
-  DiziOku<8>(
-      p, "GvLimit", 8, [&](std::size_t i, const Deger& d) { yasal.gv.GvLimit[i] = TutarDegeri(d); }, AlanTipi::Tutar,
-      kusurlar);
-  DiziOku<8>(
-      p, "GvOran", 8, [&](std::size_t i, const Deger& d) { yasal.gv.GvOran[i] = Tek(SayiDegeri(d)); }, AlanTipi::Tek,
-      kusurlar);
-  OranlariOku(p, "IsciOran", y.IsciOran, kusurlar);
-  OranlariOku(p, "IsverenOran", y.IsverenOran, kusurlar);
+  KaydiOku(p, yasal.oranlar, kusurlar);
+  KaydiOku(p, yasal.agi, kusurlar);
+  KaydiOku(p, yasal.gv, kusurlar);
   if (p.contains("uygulama")) uygulama = int(TamDegeri(Tekli(p, "uygulama", AlanTipi::Kisa, kusurlar)));
 }
 

@@ -4,6 +4,7 @@
 #include "core/dosya.h"
 #include "payroll/hazirlik/kosullar.h"
 #include "payroll/parametre/indir.h"
+#include "payroll/parametre/uyeler.h"
 
 namespace belvani::cli {
 namespace {
@@ -26,41 +27,60 @@ void ParametreleriKur(Genel& genel, const KurSecenekleri& s) {
   Yaz("Parametre İndirildi.. (" + s.donem + ")\n");
 }
 
-Json OranJson(const OranSatiri& o) {
-  return {{"ana", o.ana.Sayi()},
-          {"has", o.has.Sayi()},
-          {"mal", o.mal.Sayi()},
-          {"sgdp", o.sgdp.Sayi()},
-          {"isz", o.isz.Sayi()}};
+Json UyeJson(Tutar tutar) {
+  return OndalikMetin(tutar);
+}
+Json UyeJson(Tek oran) {
+  return oran.Sayi();
+}
+Json UyeJson(Tarih gun) {
+  return gun.Metin();
+}
+template <class U, std::size_t N>
+Json UyeJson(const std::array<U, N>& dizi) {
+  Json j = Json::array();
+  for (const U& eleman : dizi) j.push_back(UyeJson(eleman));
+  return j;
+}
+template <class U>
+Json UyeJson(const U& sayiVeyaMetin) {
+  return sayiVeyaMetin;
+}
+
+template <class Kayit>
+Json KayitJson(const Kayit& kayit) {
+  Json j;
+  HerUye<Kayit>([&](const auto& uye) { j[uye.ad] = UyeJson(kayit.*uye.uye); });
+  return j;
+}
+
+// The figures of the law that have one of these types, by the names of the records' members.
+template <class... Turler>
+void RakamlariEkle(Json& j, const YasalParametreler& p) {
+  const auto ekle = [&]<class Kayit>(const Kayit& kayit) {
+    HerUye<Kayit>([&](const auto& uye) {
+      using U = std::remove_cvref_t<decltype(kayit.*uye.uye)>;
+      if constexpr ((std::is_same_v<U, Turler> || ...)) j[uye.ad] = UyeJson(kayit.*uye.uye);
+    });
+  };
+  ekle(p.oranlar);
+  ekle(p.agi);
+  ekle(p.gv);
 }
 
 Json ParametreJson(const YasalParametreler& p) {
-  const YasalOranlar& y = p.oranlar;
   Json j;
-  const std::pair<const char*, Tutar> tutarlar[] = {{"AsgariUcret", y.AsgariUcret}, {"SskTaban", y.SskTaban},
-                                                    {"SskTavan", y.SskTavan},       {"KidemTavan", y.KidemTavan},
-                                                    {"MuafTavan", y.MuafTavan},     {"AgiTaban", p.agi.AgiTaban}};
-  for (const auto& [ad, tutar] : tutarlar) j[ad] = OndalikMetin(tutar);
-  const std::pair<const char*, Tek> oranlar[] = {{"DamgaOran", y.DamgaOran},       {"MuafOran", y.MuafOran},
-                                                 {"AgiKendisi", p.agi.AgiKendisi}, {"AgiEsi", p.agi.AgiEsi},
-                                                 {"AgiCocuk12", p.agi.AgiCocuk12}, {"AgiCocuk3", p.agi.AgiCocuk3},
-                                                 {"AgiCocuk4", p.agi.AgiCocuk4}};
-  for (const auto& [ad, oran] : oranlar) j[ad] = oran.Sayi();
-  for (const Tutar t : y.SakatIndirim) j["SakatIndirim"].push_back(OndalikMetin(t));
-  for (std::size_t i = 0; i < p.gv.GvLimit.size(); ++i) {
-    j["GvLimit"].push_back(OndalikMetin(p.gv.GvLimit[i]));
-    j["GvOran"].push_back(p.gv.GvOran[i].Sayi());
-  }
+  RakamlariEkle<Tutar>(j, p);
+  RakamlariEkle<Tek>(j, p);
+  RakamlariEkle<decltype(YasalOranlar::SakatIndirim), decltype(GvTablosu::GvLimit), decltype(GvTablosu::GvOran)>(j, p);
   for (std::size_t i = 0; i < DalSayisi; ++i) {
     if (p.hesapTurleri[i].no == 0) continue;
-    j["dallar"].push_back({{"no", p.hesapTurleri[i].no},
-                           {"ack", p.hesapTurleri[i].ack},
-                           {"isKazasi", p.hesapTurleri[i].isKazasi},
-                           {"isci", OranJson(y.IsciOran[i])},
-                           {"isveren", OranJson(y.IsverenOran[i])}});
+    Json dal = KayitJson(p.hesapTurleri[i]);
+    dal["isci"] = KayitJson(p.oranlar.IsciOran[i]);
+    dal["isveren"] = KayitJson(p.oranlar.IsverenOran[i]);
+    j["dallar"].push_back(std::move(dal));
   }
-  for (const auto& k : p.kanunlar)
-    j["kanun"].push_back({{"bastar", k.bastar.Metin()}, {"bittar", k.bittar.Metin()}, {"uygulama", k.uygulama}});
+  for (const auto& k : p.kanunlar) j["kanun"].push_back(KayitJson(k));
   return j;
 }
 

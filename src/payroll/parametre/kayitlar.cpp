@@ -1,96 +1,71 @@
 #include "payroll/parametre/kayitlar.h"
 
 #include "payroll/parametre/ikili.h"
+#include "payroll/parametre/uyeler.h"
 
 namespace belvani {
 namespace {
 
-constexpr std::size_t AckEni = 79;
-
-// Each Gez walks the fields of a record in the order of their bytes; `a` writes or reads, so `d` is const or not.
-
+// What a record holds: its members in the order of their rows. `a` writes or reads, so the values are const or not.
 template <class A, class D>
-void OranMatrisi(A& a, D& satirlar) {
-  for (const auto sutun : {&OranSatiri::ana, &OranSatiri::has, &OranSatiri::mal, &OranSatiri::sgdp, &OranSatiri::isz})
-    for (auto& satir : satirlar) a.Tekil(satir.*sutun);
+void Kaydi(A& a, D& kayit);
+
+template <class A>
+void Alan(A& a, auto& deger) {
+  using U = std::remove_cvref_t<decltype(deger)>;
+  if constexpr (std::is_same_v<U, Tek>)
+    a.Tekil(deger);
+  else if constexpr (std::is_same_v<U, Tutar>)
+    a.Para(deger);
+  else if constexpr (std::is_same_v<U, Tarih>)
+    a.Gun(deger);
+  else if constexpr (std::is_same_v<U, std::uint8_t>)
+    a.Bayt(deger);
+  else if constexpr (std::is_same_v<U, std::int16_t>)
+    a.Kisa(deger);
+  else
+    Kaydi(a, deger);
+}
+
+template <class A>
+void Dizi(A& a, auto& dizi) {
+  for (auto& eleman : dizi) Alan(a, eleman);
+}
+
+// Rates lie column after column.
+template <class A>
+void Matris(A& a, auto& satirlar) {
+  HerUye<OranSatiri>([&](const auto& uye) {
+    for (auto& satir : satirlar) Alan(a, satir.*uye.uye);
+  });
 }
 
 template <class A, class D>
-void Gez(YasalKaydi, A& a, D& d) {
-  OranMatrisi(a, d.IsciOran);
-  OranMatrisi(a, d.IsverenOran);
-  a.Para(d.AsgariUcret);
-  a.Para(d.SskTaban);
-  a.Para(d.SskTavan);
-  a.Para(d.KidemTavan);
-  a.Tekil(d.DamgaOran);
-  a.Para(d.MuafTavan);
-  for (auto& b : d.Ayrilmis) a.Bayt(b);
-  for (auto& t : d.SakatIndirim) a.Para(t);
-  a.Tekil(d.MuafOran);
+void Kaydi(A& a, D& kayit) {
+  HerUye<std::remove_const_t<D>>([&](const auto& uye) {
+    auto& deger = kayit.*uye.uye;
+    using U = std::remove_cvref_t<decltype(deger)>;
+    if constexpr (std::is_same_v<U, std::string>)
+      a.Metin(deger, std::size_t(uye.enCok));
+    else if constexpr (std::is_same_v<U, decltype(YasalOranlar::IsciOran)>)
+      Matris(a, deger);
+    else if constexpr (requires { deger.begin(); })
+      Dizi(a, deger);
+    else
+      Alan(a, deger);
+  });
 }
 
-template <class A, class D>
-void Gez(GvKaydi, A& a, D& d) {
-  for (auto& t : d.GvLimit) a.Para(t);
-  for (auto& t : d.GvOran) a.Tekil(t);
-}
-
-template <class A, class D>
-void Gez(OzelGvKaydi, A& a, D& d) {
-  for (std::size_t i = 0; i < d.GvLimit.size(); ++i) {
-    a.Para(d.GvLimit[i]);
-    a.Tekil(d.GvOran[i]);
-  }
-}
-
-template <class A, class D>
-void Gez(AgiKaydi, A& a, D& d) {
-  a.Tekil(d.AgiKendisi);
-  a.Tekil(d.AgiEsi);
-  a.Tekil(d.AgiCocuk12);
-  a.Tekil(d.AgiCocuk3);
-  a.Tekil(d.AgiCocuk4);
-  a.Para(d.AgiTaban);
-}
-
-template <class A, class D>
-void Gez(HesapTurKaydi, A& a, D& d) {
-  for (auto& tur : d) {
-    a.Bayt(tur.no);
-    a.Metin(tur.ack, AckEni);
-    a.Bayt(tur.isKazasi);
-  }
-}
-
-template <class A, class D>
-void Gez(KanunKaydi, A& a, D& d) {
-  a.Gun(d.bastar);
-  a.Gun(d.bittar);
-  a.Kisa(d.uygulama);
-}
-
-template <class A, class D>
-void Gez(FazlaMesaiKaydi, A& a, D& d) {
-  a.Tekil(d.oran);
-  a.Tekil(d.limit);
-}
-
-template <class A, class D>
-void Gez(KazancKaydi, A& a, D& d) {
-  for (auto& b : d) a.Bayt(b);
-}
-
-template <class A, class D>
-void Gez(YardimKaydi, A& a, D& d) {
-  for (auto& b : d) a.Bayt(b);
-}
-
-template <class A, class D>
-void Gez(SablonKaydi, A& a, D& d) {
-  for (auto& t : d.SablonGun) a.Tekil(t);
-  for (auto& t : d.SablonYardim) a.Para(t);
-  for (auto& b : d.SablonYardimTip) a.Bayt(b);
+template <class Kayit, class A, class D>
+void Gez(A& a, D& d) {
+  if constexpr (std::is_same_v<Kayit, OzelGvKaydi>)
+    // The one record that keeps the members of a row side by side.
+    for (std::size_t i = 0; i < d.GvLimit.size(); ++i)
+      HerUye<GvTablosu>([&](const auto& uye) { Alan(a, (d.*uye.uye)[i]); });
+  else if constexpr (requires { d.begin(); })
+    Dizi(a, d);
+  else
+    Kaydi(a, d);
 }
 
 }  // namespace
@@ -98,7 +73,7 @@ void Gez(SablonKaydi, A& a, D& d) {
 template <class Kayit>
 std::string KayitBaytlari(const typename Kayit::Deger& deger) {
   IkiliYazici yazici;
-  Gez(Kayit{}, yazici, deger);
+  Gez<Kayit>(yazici, deger);
   return yazici.Baytlar();
 }
 
@@ -106,7 +81,7 @@ template <class Kayit>
 Cozum<typename Kayit::Deger> KayitCoz(std::string_view baytlar) {
   IkiliOkuyucu okuyucu(baytlar);
   Cozum<typename Kayit::Deger> sonuc;
-  Gez(Kayit{}, okuyucu, sonuc.deger);
+  Gez<Kayit>(okuyucu, sonuc.deger);
   sonuc.gecersiz = okuyucu.Gecersiz();
   return sonuc;
 }

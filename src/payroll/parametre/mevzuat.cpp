@@ -9,6 +9,7 @@
 #include "core/dosya.h"
 #include "core/sayi.h"
 #include "core/veridizini.h"
+#include "payroll/parametre/uyeler.h"
 
 namespace belvani {
 namespace {
@@ -72,11 +73,25 @@ Tarih Gun(const Json& nesne, const char* ad) {
 }
 
 // A figure is an object with its value beside certainty and sources.
-Tutar ParaDegeri(const Json& donem, const char* ad, Lira lira) {
-  return Para(Uye(donem, ad), "deger", lira);
+void RakamOku(const Json& donem, const char* ad, Lira lira, Tutar& tutar) {
+  tutar = Para(Uye(donem, ad), "deger", lira);
 }
-Tek OranDegeri(const Json& donem, const char* ad) {
-  return Oran(Uye(donem, ad), "deger");
+void RakamOku(const Json& donem, const char* ad, Lira, Tek& oran) {
+  oran = Oran(Uye(donem, ad), "deger");
+}
+template <std::size_t N>
+void RakamOku(const Json& donem, const char* ad, Lira lira, std::array<Tutar, N>& dizi) {
+  for (std::size_t i = 0; i < N; ++i) RakamOku(donem, (ad + std::to_string(i + 1)).c_str(), lira, dizi[i]);
+}
+
+// The members that are figures of the law, by their names there.
+template <class Kayit>
+void RakamlariOku(const Json& donem, Lira lira, Kayit& kayit) {
+  HerUye<Kayit>([&](const auto& uye) {
+    auto& deger = kayit.*uye.uye;
+    if constexpr (requires { RakamOku(donem, uye.mevzuat, lira, deger); })
+      if (*uye.mevzuat != '\0') RakamOku(donem, uye.mevzuat, lira, deger);
+  });
 }
 
 GvTablosu GvOku(const Json& tarife, Lira lira) {
@@ -93,7 +108,9 @@ GvTablosu GvOku(const Json& tarife, Lira lira) {
 }
 
 OranSatiri OranlarOku(const Json& taraf) {
-  return {Oran(taraf, "ana"), Oran(taraf, "has"), Oran(taraf, "mal"), Oran(taraf, "sgdp"), Oran(taraf, "isz")};
+  OranSatiri oranlar;
+  HerUye<OranSatiri>([&](const auto& uye) { oranlar.*uye.uye = Oran(taraf, uye.mevzuat); });
+  return oranlar;
 }
 
 void PrimleriOku(const Json& satirlar, YasalOranlar& oranlar) {
@@ -101,31 +118,24 @@ void PrimleriOku(const Json& satirlar, YasalOranlar& oranlar) {
     const Json& dal = Uye(satir, "dal");
     if (!dal.is_number_integer() || dal < 1 || dal > DalSayisi) throw MevzuatKusuru{"dal 1 ile 32 arasında olmalı"};
     const std::size_t sira = dal.get<std::size_t>() - 1;
-    oranlar.IsciOran[sira] = OranlarOku(Uye(satir, "isci"));
-    oranlar.IsverenOran[sira] = OranlarOku(Uye(satir, "isveren"));
+    HerUye<YasalOranlar>([&](const auto& uye) {
+      if constexpr (std::is_same_v<decltype(uye.uye), decltype(&YasalOranlar::IsciOran)>)
+        (oranlar.*uye.uye)[sira] = OranlarOku(Uye(satir, uye.mevzuat));
+    });
   }
 }
 
 YasalOranlar OranlariOku(const Json& donem, Lira lira) {
   YasalOranlar oranlar;
-  oranlar.AsgariUcret = ParaDegeri(donem, "asgariUcret", lira);
-  oranlar.SskTaban = ParaDegeri(donem, "sskTaban", lira);
-  oranlar.SskTavan = ParaDegeri(donem, "sskTavan", lira);
-  oranlar.KidemTavan = ParaDegeri(donem, "kidemTavan", lira);
-  oranlar.DamgaOran = OranDegeri(donem, "damgaBinde");
-  oranlar.MuafTavan = ParaDegeri(donem, "sigortaIndirimTavani", lira);
-  oranlar.SakatIndirim = {ParaDegeri(donem, "sakatlikIndirimi1", lira), ParaDegeri(donem, "sakatlikIndirimi2", lira),
-                          ParaDegeri(donem, "sakatlikIndirimi3", lira)};
+  RakamlariOku(donem, lira, oranlar);
   PrimleriOku(Dizi(donem, "primOranlari"), oranlar);
   return oranlar;
 }
 
 AgiTablosu AgiOku(const Json& donem, Lira lira) {
-  if (!donem.contains("agi")) return {};  // before 2008
-  const Json& agi = donem["agi"];
-  return {OranDegeri(agi, "kendisi"),         OranDegeri(agi, "esi"),
-          OranDegeri(agi, "cocuk1ve2"),       OranDegeri(agi, "cocuk3"),
-          OranDegeri(agi, "cocuk4veSonrasi"), ParaDegeri(agi, "taban", lira)};
+  AgiTablosu agi;
+  if (donem.contains("agi")) RakamlariOku(donem["agi"], lira, agi);  // from 2008 on
+  return agi;
 }
 
 YasalParametreler DonemOku(const Json& donem, Lira lira) {

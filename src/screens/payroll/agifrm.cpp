@@ -1,17 +1,14 @@
 #include "screens/payroll/agifrm.h"
 
+#include "screens/payroll/parametrealani.h"
+
 namespace belvani {
 namespace {
 
 std::vector<AlanGrubu> Gruplar() {
-  const AlanEki yuzde{.enCok = 100};
-  return {{"Asgari Geçim İndirimi",
-           {{Uye("AgiKendisi", &AgiTablosu::AgiKendisi), "A.G.İ İndirim Oranı (Kendisi)", yuzde},
-            {Uye("AgiEsi", &AgiTablosu::AgiEsi), "A.G.İ İndirim Oranı (Eşi)", yuzde},
-            {Uye("AgiCocuk12", &AgiTablosu::AgiCocuk12), "A.G.İ İndirim Oranı (1 ve 2. Çocuk)", yuzde},
-            {Uye("AgiCocuk3", &AgiTablosu::AgiCocuk3), "A.G.İ İndirim Oranı (3. Çocuk)", yuzde},
-            {Uye("AgiCocuk4", &AgiTablosu::AgiCocuk4), "A.G.İ İndirim Oranı (4 ve diğer Çocuklar)", yuzde},
-            {Uye("AgiTaban", &AgiTablosu::AgiTaban), "Asgari Geçim İndirim Tabanı"}}}};
+  AlanGrubu grup{"Asgari Geçim İndirimi", {}};
+  HerUye<AgiTablosu>([&](const auto& uye) { grup.alanlar.push_back(ParametreAlani(uye)); });
+  return {std::move(grup)};
 }
 
 }  // namespace

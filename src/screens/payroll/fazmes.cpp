@@ -1,5 +1,7 @@
 #include "screens/payroll/fazmes.h"
 
+#include "screens/payroll/parametrealani.h"
+
 namespace belvani {
 namespace {
 
@@ -9,9 +11,8 @@ constexpr std::string_view MesaiAdlari[] = {"Fazla Mesai", "Tatil Mesai", "Tatil
 
 fazmes::fazmes(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ListeEkrani(baglam, parametreler, "fazmes", QStringLiteral("Fazla Mesai Ayarlamaları"),
-                  {AdKolonu<FazlaMesai>("Mesai", 170, MesaiAdlari),
-                   UyeKolonu("oran", "Ücret Çarpanı", 130, &FazlaMesai::oran, {.enCok = 99}),
-                   UyeKolonu("limit", "Limit", 110, &FazlaMesai::limit, {.enCok = 9999})}) {
+                  {AdKolonu<FazlaMesai>("Mesai", 170, MesaiAdlari), ParametreKolonu<&FazlaMesai::oran>(130),
+                   ParametreKolonu<&FazlaMesai::limit>(110)}) {
   Ac(3);
 }
 

@@ -1,16 +1,16 @@
 #include "screens/payroll/gvtablo.h"
 
 #include "payroll/parametre/ekrankurallari.h"
+#include "screens/payroll/parametrealani.h"
 
 namespace belvani {
 namespace {
 
-constexpr double EnCokLimit = 99'999'999'999'999;
-
 std::vector<SatirKolonu<VergiDilimi>> Kolonlar(int paraonda) {
+  constexpr auto oran = UyeTanimi<&GvTablosu::GvOran>();
   return {{'b', "alt", "Matrah Aralığı", 150, [](const VergiDilimi& d, std::size_t) { return d.alt; }},
-          UyeKolonu("limit", "Üst Sınır", 170, &VergiDilimi::limit, {.enCok = EnCokLimit, .ondalik = paraonda}),
-          UyeKolonu("oran", "%Vergi", 90, &VergiDilimi::oran, {.enCok = 100})};
+          UyeKolonu("limit", UyeTanimi<&GvTablosu::GvLimit>().etiket, 170, &VergiDilimi::limit, {.ondalik = paraonda}),
+          UyeKolonu("oran", oran.etiket, 90, &VergiDilimi::oran, {.enCok = oran.enCok})};
 }
 
 GvTablosu Tablo(const std::vector<VergiDilimi>& satirlar) {

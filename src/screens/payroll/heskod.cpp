@@ -1,21 +1,20 @@
 #include "screens/payroll/heskod.h"
 
 #include "core/turkce.h"
+#include "screens/payroll/parametrealani.h"
 
 namespace belvani {
 namespace {
 
 constexpr std::string_view EvetHayir[] = {"0", "1"};
-constexpr int AckHarfi = 79;
 constexpr int GorunenSatir = 16;
 
 }  // namespace
 
 heskod::heskod(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ListeEkrani(baglam, parametreler, "heskod", QStringLiteral("Hesap Türleri"),
-                  {UyeKolonu("no", "No", 50, &HesapTuru::no, {.enCok = 255}),
-                   UyeKolonu("ack", "Açıklama", 520, &HesapTuru::ack, {.enCok = AckHarfi}),
-                   UyeKolonu("isKazasi", "İşKazası", 80, &HesapTuru::isKazasi, {.liste = EvetHayir})}) {
+                  {ParametreKolonu<&HesapTuru::no>(50), ParametreKolonu<&HesapTuru::ack>(520),
+                   ParametreKolonu<&HesapTuru::isKazasi>(80, {.liste = EvetHayir})}) {
   const bool degisir = std::exchange(Oturumu().PencereTip, {}) == "edit";
   Govde()->addWidget(new QLabel(QStringLiteral("İş Kazası Bölümünde eğer İş Kazası Primi kesilecekse '1' Kesilmeyecek "
                                                "is '0' yaziniz."),

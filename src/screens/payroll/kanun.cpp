@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "payroll/parametre/ekrankurallari.h"
+#include "screens/payroll/parametrealani.h"
 
 namespace belvani {
 namespace {
@@ -13,9 +14,8 @@ constexpr int GorunenSatir = 10;
 
 kanun::kanun(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ListeEkrani(baglam, parametreler, "kanun", QStringLiteral("Kanun Tarihleri"),
-                  {UyeKolonu("bastar", "Baş.Tarihi", 120, &KanunSatiri::bastar),
-                   UyeKolonu("bittar", "Bit.Tarihi", 120, &KanunSatiri::bittar),
-                   UyeKolonu("uygulama", "Uygulama", 100, &KanunSatiri::uygulama, {.enCok = 32767})}) {
+                  {ParametreKolonu<&KanunSatiri::bastar>(120), ParametreKolonu<&KanunSatiri::bittar>(120),
+                   ParametreKolonu<&KanunSatiri::uygulama>(100)}) {
   Liste().YeniSatirli(true);
   Liste().SatirGuncelle = [this](int satir) { return SatirSaglam(satir); };
   Liste().SatirSil = [this](int) { return Bildirimi().Soru("Satır Silinecek..\nEminmisiniz ???"); };

@@ -1,8 +1,11 @@
 #include "screens/payroll/yyasor.h"
 
+#include <set>
+
 #include "payroll/parametre/ekrankurallari.h"
 #include "payroll/parametre/mevzuat.h"
 #include "screens/payroll/kolonbasliklari.h"
+#include "screens/payroll/parametrealani.h"
 
 namespace belvani {
 namespace {
@@ -11,50 +14,37 @@ constexpr int AdGenisligi = 300;
 constexpr int OranGenisligi = 60;
 constexpr int ListeBoyu = 300;
 
-struct OranKolonu {
-  const char* ad;
-  const char* iad;  // of the employer's side
-  const char* baslik;
-  Tek OranSatiri::*oran;
-};
-constexpr OranKolonu OranKolonlari[] = {{"ana", "iana", "Ana.", &OranSatiri::ana},
-                                        {"has", "ihas", "Hast.", &OranSatiri::has},
-                                        {"mal", "imal", "Mal.", &OranSatiri::mal},
-                                        {"sgdp", "isgdp", "SGDP", &OranSatiri::sgdp},
-                                        {"isz", "iisz", "İşsz.", &OranSatiri::isz}};
+// Columns keep a pointer to their name.
+const char* KalanAd(const std::string& ad) {
+  static std::set<std::string> adlar;
+  return adlar.insert(ad).first->c_str();
+}
 
 std::vector<SatirKolonu<DalSatiri>> Kolonlar() {
   std::vector<SatirKolonu<DalSatiri>> kolonlar{
       {'b', "no", "No", 36, [](const DalSatiri& d, std::size_t) { return std::to_string(d.no); }},
       {'m', "ack", "Hesap Türü", AdGenisligi, [](const DalSatiri& d, std::size_t) { return d.ack; }}};
-  const auto tarafiEkle = [&](OranSatiri DalSatiri::*taraf, const char* OranKolonu::*ad, const char* toplamAdi) {
-    for (const OranKolonu& k : OranKolonlari)
+  const auto tarafiEkle = [&](OranSatiri DalSatiri::*taraf, const char* onEk) {
+    HerUye<OranSatiri>([&](const auto& uye) {
       kolonlar.push_back(UyeKolonuYap<DalSatiri>(
-          k.*ad, k.baslik, OranGenisligi, [ taraf, oran = k.oran ](auto& dal) -> auto& { return dal.*taraf.*oran; },
-          {.enCok = 100}));
-    kolonlar.push_back({'b', toplamAdi, "Top.", OranGenisligi,
+          KalanAd(std::string(onEk) + uye.ad), uye.etiket, OranGenisligi,
+          [ taraf, oran = uye.uye ](auto& dal) -> auto& { return dal.*taraf.*oran; }, {.enCok = uye.enCok}));
+    });
+    kolonlar.push_back({'b', KalanAd(std::string(onEk) + "top"), "Top.", OranGenisligi,
                         [taraf](const DalSatiri& d, std::size_t) { return SayiHucresi(OranToplami(d.*taraf), 2); }});
   };
-  tarafiEkle(&DalSatiri::isci, &OranKolonu::ad, "top");
-  tarafiEkle(&DalSatiri::isveren, &OranKolonu::iad, "itop");
+  tarafiEkle(&DalSatiri::isci, "");
+  tarafiEkle(&DalSatiri::isveren, "i");
   return kolonlar;
 }
 
 AlanGrubu Tutarlar() {
-  const auto sakatlik = [](const char* ad, std::size_t sira, const char* etiket) {
-    return DiziAlani(ad, &YasalOranlar::SakatIndirim, sira, etiket);
-  };
+  using Y = YasalOranlar;
   return {"",
-          {{Uye("AsgariUcret", &YasalOranlar::AsgariUcret), "Asgari Ücret"},
-           {Uye("SskTaban", &YasalOranlar::SskTaban), "SSK Taban Matrah"},
-           {Uye("SskTavan", &YasalOranlar::SskTavan), "SSK Tavan Matrah"},
-           {Uye("KidemTavan", &YasalOranlar::KidemTavan), "Kıdem T. Tavan"},
-           sakatlik("SakatIndirim1", 0, "Sakatlık İndirimi -1"),
-           sakatlik("SakatIndirim2", 1, "Sakatlık İndirimi -2"),
-           sakatlik("SakatIndirim3", 2, "Sakatlık İndirimi -3"),
-           {Uye("DamgaOran", &YasalOranlar::DamgaOran), "Damga Vergisi (Binde)", {.enCok = 1000}},
-           {Uye("MuafTavan", &YasalOranlar::MuafTavan), "Sigorta Muaf. Tavan"},
-           {Uye("MuafOran", &YasalOranlar::MuafOran), "Sigorta Muaf. Oran"}},
+          {ParametreAlani<&Y::AsgariUcret>(), ParametreAlani<&Y::SskTaban>(), ParametreAlani<&Y::SskTavan>(),
+           ParametreAlani<&Y::KidemTavan>(), ParametreAlani<&Y::SakatIndirim, 0>(),
+           ParametreAlani<&Y::SakatIndirim, 1>(), ParametreAlani<&Y::SakatIndirim, 2>(),
+           ParametreAlani<&Y::DamgaOran>(), ParametreAlani<&Y::MuafTavan>(), ParametreAlani<&Y::MuafOran>()},
           4};
 }
 
@@ -85,8 +75,8 @@ yyasor::yyasor(EkranBaglami& baglam, ParametreDeposu& parametreler)
   liste_->setMinimumHeight(ListeBoyu);
   liste_->GenisKolon("ack");
   auto* basliklar = new KolonBasliklari(*liste_, this);
-  basliklar->Ekle(QStringLiteral("SSK İşçi Oranları"), "ana", "top");
-  basliklar->Ekle(QStringLiteral("SSK İşveren Oranları"), "iana", "itop");
+  basliklar->Ekle(UyeTanimi<&YasalOranlar::IsciOran>().etiket, "ana", "top");
+  basliklar->Ekle(UyeTanimi<&YasalOranlar::IsverenOran>().etiket, "iana", "itop");
   Govde()->addWidget(uyari_);
   Govde()->addWidget(basliklar);
   Govde()->addWidget(liste_, 1);
