@@ -4,6 +4,7 @@
 #include "documents/listebelgesi.h"
 #include "documents/sorgumetni.h"
 #include "documents/turetilen.h"
+#include "payroll/hesap/kayittoplami.h"
 #include "printing/kolonlar.h"
 
 namespace belvani {
@@ -43,7 +44,7 @@ void Ekle(Icmal& i, const IcmalGirdisi& girdi) {
   i.damgaMatrahi += b.dvmatrah;
   i.damgaKesintisi += b.dvtutar;
   i.agi += b.ogv;
-  i.digerKesinti += b.sendika + b.borckes;
+  i.digerKesinti += Degeri(toplam::ozelKesinti, b);
   i.brut += b.brutkaz;
   i.normalGun += b.ng;
   i.haftaTatili += b.ht + b.rt;

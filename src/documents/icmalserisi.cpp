@@ -1,13 +1,16 @@
 #include "documents/icmalserisi.h"
 
+#include "payroll/hesap/kayittoplami.h"
+
 namespace belvani {
 namespace {
 
-constexpr const char* Sorgu =
-    "select count(distinct b.kod), coalesce(sum(b.brutkaz), 0), "
-    "coalesce(sum(b.brutkaz - b.sskkesinti - b.issizisci - b.gvtutar - b.dvtutar - b.sendika - b.borckes), 0), "
-    "coalesce(sum(b.brutkaz + b.sskkesintiisveren + b.issizisveren), 0) from brd b join sicil s on s.kod = b.kod "
-    "where b.yil = ? and b.ay = ? and b.ng + b.ht + b.rt + b.ui + b.ha + b.mi > 0";
+std::string Sorgu() {
+  const auto toplami = [](const Ifade& ifade) { return ", coalesce(sum(" + Sql(ifade, "b.") + "), 0)"; };
+  return "select count(distinct b.kod)" + toplami(brd::brutkaz) + toplami(toplam::odenen) +
+         toplami(toplam::isverenMaliyeti) +
+         " from brd b join sicil s on s.kod = b.kod where b.yil = ? and b.ay = ? and " + SskGunuSql("b.") + " > 0";
+}
 
 }  // namespace
 
@@ -15,7 +18,7 @@ IcmalAyi IcmalAyiOku(Motor& motor, int yil, int ay) {
   IcmalAyi m;
   m.yil = yil;
   m.ay = ay;
-  const auto komut = motor.Hazirla(Sorgu);
+  const auto komut = motor.Hazirla(Sorgu());
   komut->TamBagla(1, yil);
   komut->TamBagla(2, ay);
   if (!komut->Adim()) return m;

@@ -8,6 +8,7 @@
 #include "documents/listebelgesi.h"
 #include "documents/turetilensatir.h"
 #include "isyeri/isyerinumarasi.h"
+#include "payroll/hesap/kayittoplami.h"
 #include "printing/kolonlar.h"
 
 namespace belvani {
@@ -28,10 +29,6 @@ std::string CikisMetni(const Sicil& sicil) {
   return sicil.ciktar.Bos() ? "Çalışıyor" : sicil.ciktar.Metin();
 }
 
-Tutar FazlaMesaiTutari(const Brd& brd) {
-  return brd.brutkaz - brd.ucret - brd.topyardim;
-}
-
 const Kolonlar<TuretilmisSatir> kimlik{
     Alan("Personel Kodu :", [](auto& s) { return s.brd.kod; }),
     Alan("Adı Soyadı    :", [](auto& s) { return AdSoyad(s.sicil); }),
@@ -45,7 +42,7 @@ const Kolonlar<TuretilmisSatir> kazanclar{
     Alan(
         "Ücreti             :", [](auto& s) { return s.brd.ucret; }, Toplanir),
     Alan(
-        "Fazla Mesai        :", [](auto& s) { return FazlaMesaiTutari(s.brd); }, Toplanir),
+        "Fazla Mesai        :", [](auto& s) { return Degeri(toplam::fazlaMesai, s.brd); }, Toplanir),
     Alan(
         "Yardımlar          :", [](auto& s) { return s.brd.topyardim; }, Toplanir),
     Alan(

@@ -1,11 +1,21 @@
 #include "documents/turetilen.h"
 
 #include "core/turkce.h"
+#include "payroll/hesap/bordro.h"
+#include "payroll/hesap/kayittoplami.h"
 
 namespace belvani {
+namespace {
+
+// What the papers show as duty beyond the record's own.
+Tutar AgiDamgasi(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
+  return AgiDahilDamga(brd, damgaOran, yuvarla) - brd.dvtutar;
+}
+
+}  // namespace
 
 int GunToplami(const Brd& brd) {
-  return brd.ng + brd.ht + brd.rt + brd.ui + brd.ha + brd.mi;
+  return SskGunu(brd);
 }
 
 Tutar GunlukBrut(const Brd& brd, Yuvarlayici yuvarla) {
@@ -14,7 +24,7 @@ Tutar GunlukBrut(const Brd& brd, Yuvarlayici yuvarla) {
 }
 
 Tutar GvIndirimi(const Brd& brd) {
-  return brd.indirim1 + brd.indirim2 + brd.indirim3 + brd.sakindir;
+  return Degeri(toplam::gvIndirimi, brd);
 }
 
 Tutar AgiDahilDamga(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
@@ -22,16 +32,15 @@ Tutar AgiDahilDamga(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
 }
 
 Tutar Kesintiler(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
-  return brd.sskkesinti + brd.issizisci + brd.gvtutar + AgiDahilDamga(brd, damgaOran, yuvarla) + brd.sendika +
-         brd.borckes;
+  return Degeri(toplam::kesintiler, brd) + AgiDamgasi(brd, damgaOran, yuvarla);
 }
 
 Tutar NetOdenen(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
-  return brd.brutkaz - Kesintiler(brd, damgaOran, yuvarla) + brd.ogv;
+  return Degeri(toplam::odenen, brd) + brd.ogv - AgiDamgasi(brd, damgaOran, yuvarla);
 }
 
 Tutar OdenecekSskPrimi(const Brd& brd) {
-  return brd.sskkesinti + brd.sskkesintiisveren + brd.issizisci + brd.issizisveren - brd.katki;
+  return Degeri(toplam::odenecekPrim, brd);
 }
 
 std::string AdSoyad(const Sicil& sicil) {

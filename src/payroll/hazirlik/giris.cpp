@@ -5,6 +5,7 @@
 #include "core/store/satirlar.h"
 #include "core/tables/uye.h"
 #include "core/turkce.h"
+#include "payroll/hesap/kayittoplami.h"
 #include "payroll/hesap/netbrut.h"
 #include "payroll/hesap/satirlar.h"
 
@@ -50,22 +51,22 @@ std::string GirisKusuru(const Brd& brd, const YardimTanimlari& yardimlar) {
 EkranToplamlari ToplamlariBul(const BordroSonucu& s) {
   const Brd& b = s.brd;
   EkranToplamlari t;
-  t.kazanclar = b.brutkaz - b.topyardim;
+  t.kazanclar = Degeri(toplam::kazanclar, b);
   t.yardimlar = b.topyardim;
   t.brut = b.brutkaz;
   t.ssk = b.sskkesinti;
-  t.vergiler = b.gvtutar + b.dvtutar;
-  t.yasalKesinti = t.ssk + t.vergiler;
-  t.ozelKesinti = b.yuvarlama;
+  t.vergiler = Degeri(toplam::vergiler, b);
+  t.yasalKesinti = Degeri(toplam::yasalKesinti, b);
+  t.ozelKesinti = Degeri(toplam::ozelKesinti, b);
   t.net = s.NetOdenen;
-  t.isciToplam = t.yasalKesinti + b.issizisci;
-  t.isverenToplam = b.sskkesintiisveren + b.issizisveren;
-  t.kumuleMatrah = b.devgvmatrah + b.gvmatrah;
-  t.kumuleVergi = b.devgvtutar + b.gvtutar;
+  t.isciToplam = Degeri(toplam::isciToplam, b);
+  t.isverenToplam = Degeri(toplam::isverenToplam, b);
+  t.kumuleMatrah = Degeri(toplam::kumuleMatrah, b);
+  t.kumuleVergi = Degeri(toplam::kumuleVergi, b);
   t.SskGun = s.SskGun;
   t.agi = b.ogv;
   t.panel.muaf = b.muaftutar;
-  t.panel.indirim = b.sakindir + b.indirim1 + b.indirim2 + b.indirim3;
+  t.panel.indirim = Degeri(toplam::gvIndirimi, b);
   t.panel.toplam = t.panel.muaf + t.panel.indirim;
   return t;
 }

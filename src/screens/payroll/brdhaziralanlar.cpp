@@ -1,5 +1,6 @@
 #include "screens/payroll/brdhaziralanlar.h"
 
+#include "payroll/hesap/kayittoplami.h"
 #include "payroll/hesap/satirlar.h"
 
 namespace belvani {
@@ -20,6 +21,9 @@ Alan Sonucta(Kolon<Brd, U> kolon, const char* etiket, AlanEki ek = {}) {
 
 Alan Toplamda(std::string_view ad, Tutar EkranToplamlari::*uye, const char* etiket) {
   return {Uye(ad, uye), etiket, {.harf = TutarHarfi, .kapali = true}};
+}
+Alan Toplamda(const KayitToplami& toplam, Tutar EkranToplamlari::*uye) {
+  return Toplamda(toplam.ad, uye, toplam.etiket);
 }
 
 }  // namespace
@@ -48,12 +52,12 @@ AlanGrubu YardimGrubu(const YardimTanimlari& yardimlar) {
 
 std::vector<AlanGrubu> OzetGruplari() {
   return {{"Bordro Özeti",
-           {Toplamda("kazanclar", &EkranToplamlari::kazanclar, "Kazançlar"),
+           {Toplamda(toplam::kazanclar, &EkranToplamlari::kazanclar),
             Toplamda("yardimlar", &EkranToplamlari::yardimlar, "Yardımlar"),
             Toplamda("brut", &EkranToplamlari::brut, "TOPLAM"), Toplamda("ssk", &EkranToplamlari::ssk, "S.S.K."),
-            Toplamda("vergiler", &EkranToplamlari::vergiler, "G.V.+D.V."),
-            Toplamda("yasalKesinti", &EkranToplamlari::yasalKesinti, "Kesintiler"),
-            Toplamda("ozelKesinti", &EkranToplamlari::ozelKesinti, "Ö.Kes."),
+            Toplamda(toplam::vergiler, &EkranToplamlari::vergiler),
+            Toplamda(toplam::yasalKesinti, &EkranToplamlari::yasalKesinti),
+            Toplamda(toplam::ozelKesinti, &EkranToplamlari::ozelKesinti),
             Toplamda("agi", &EkranToplamlari::agi, "A.G.İ."), Toplamda("net", &EkranToplamlari::net, "NET"),
             Alan(Uye("SskGun", &EkranToplamlari::SskGun), "Toplam Gün", {.kapali = true}),
             Sonucta(brd::brutkaz, "Brüt Gelir")}}};
@@ -63,18 +67,17 @@ std::vector<AlanGrubu> AyrintiGruplari() {
   return {{"Matrahlar",
            {Sonucta(brd::sskmatrah, "SSK Matrahı"), Sonucta(brd::gvmatrah, "GV Matrahı"),
             Sonucta(brd::devgvmatrah, "Dev. GV Matrahı"), Sonucta(brd::devgvtutar, "Dev. GV Tutarı"),
-            Toplamda("kumuleMatrah", &EkranToplamlari::kumuleMatrah, "Kümüle Gelir Vergisi"),
-            Toplamda("kumuleVergi", &EkranToplamlari::kumuleVergi, "Kümüle G.V. Tutarı")},
+            Toplamda(toplam::kumuleMatrah, &EkranToplamlari::kumuleMatrah),
+            Toplamda(toplam::kumuleVergi, &EkranToplamlari::kumuleVergi)},
            2},
           {"İşçi ve İşveren Payları",
            {Sonucta(brd::sskiscior, "SSK İşçi %", {.harf = 7}), Sonucta(brd::sskkesinti, "SSK İşçi"),
             Sonucta(brd::issiziscior, "İşsizlik İşçi %", {.harf = 7}), Sonucta(brd::issizisci, "İşsizlik İşçi"),
             Sonucta(brd::sskisverenor, "SSK İşveren %", {.harf = 7}), Sonucta(brd::gvtutar, "Gelir Vergisi"),
             Sonucta(brd::issizisverenor, "İşsizlik İşvr. %", {.harf = 7}), Sonucta(brd::dvtutar, "Damga Vergisi"),
-            Sonucta(brd::sskkesintiisveren, "SSK İşveren"),
-            Toplamda("isciToplam", &EkranToplamlari::isciToplam, "İşçi TOPLAM"),
+            Sonucta(brd::sskkesintiisveren, "SSK İşveren"), Toplamda(toplam::isciToplam, &EkranToplamlari::isciToplam),
             Sonucta(brd::issizisveren, "İşsizlik İşveren"),
-            Toplamda("isverenToplam", &EkranToplamlari::isverenToplam, "İşveren TOPLAM")},
+            Toplamda(toplam::isverenToplam, &EkranToplamlari::isverenToplam)},
            2}};
 }
 

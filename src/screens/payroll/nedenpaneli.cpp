@@ -2,33 +2,30 @@
 
 #include <map>
 
+#include "payroll/hesap/kayittoplami.h"
 #include "ui/metin.h"
 
 namespace belvani {
 namespace {
 
 // The steps that a sum of the screen is made of.
-const std::vector<std::string_view>& Parcalari(std::string_view alan) {
+std::vector<std::string_view> Parcalari(std::string_view alan) {
   static const std::map<std::string_view, std::vector<std::string_view>> parcalar{
       {"kazanclar", {"ng", "ht", "ui", "rt", "mi", "ha", "fm1", "fm2", "fm3"}},
       {"yardimlar", {"topyardim"}},
       {"brut", {"brutkaz"}},
       {"ssk", {"sskkesinti"}},
-      {"vergiler", {"gvtutar", "dvtutar"}},
-      {"yasalKesinti", {"sskkesinti", "gvtutar", "dvtutar"}},
       {"ozelKesinti", {"sendika", "borckes", "yuvarlama"}},
       {"net", {"NetOdenen"}},
-      {"isciToplam", {"sskkesinti", "issizisci", "gvtutar", "dvtutar"}},
-      {"isverenToplam", {"sskkesintiisveren", "issizisveren"}},
-      {"kumuleMatrah", {"devgvmatrah", "gvmatrah"}},
-      {"kumuleVergi", {"devgvtutar", "gvtutar"}},
       {"agi", {"agioran", "agimatrah", "ogv"}},
       {"muaf", {"muaftutar"}},
-      {"indirim", {"sakindir", "indirim1", "indirim2", "indirim3"}},
   };
-  static const std::vector<std::string_view> yok;
-  const auto yer = parcalar.find(alan);
-  return yer == parcalar.end() ? yok : yer->second;
+  if (const auto yer = parcalar.find(alan); yer != parcalar.end()) return yer->second;
+  std::vector<std::string_view> kolonlar;
+  for (const KayitToplami& t : toplam::Hepsi)
+    if (t.ad == alan)
+      for (const Terim& terim : t.Terimler()) kolonlar.push_back(terim.kolon);
+  return kolonlar;
 }
 
 QString AdimMetni(const IzAdimi& adim) {
@@ -54,7 +51,7 @@ void NedenPaneli::Bosalt() {
 }
 
 void NedenPaneli::Goster(const Iz& iz, std::string_view alan, const QString& etiket) {
-  const auto& parcalar = Parcalari(alan);
+  const auto parcalar = Parcalari(alan);
   QString metin;
   for (const IzAdimi& adim : iz)
     if (adim.alan == alan || std::ranges::find(parcalar, adim.alan) != parcalar.end()) metin += AdimMetni(adim);

@@ -1,8 +1,8 @@
 // Fields and columns of the members of parameter records, made of the rows that describe them.
 #pragma once
 
+#include "core/tables/alansatiri.h"
 #include "payroll/parametre/uyeler.h"
-#include "ui/alan.h"
 #include "ui/satirtablosu.h"
 
 namespace belvani {

@@ -4,6 +4,7 @@
 
 #include "kahin.h"
 #include "ornek.h"
+#include "payroll/hesap/kayittoplami.h"
 
 namespace belvani {
 namespace {
@@ -55,7 +56,8 @@ TEST(BrutNetHesapla, NetIsGrossLessAllDeductionsAndRecalculatingChangesNothing) 
     const Brd& b = ilk.brd;
     RC_ASSERT(ilk.NetOdenen + b.sskkesinti + b.issizisci + b.gvtutar + b.dvtutar + b.sendika + b.borckes ==
               b.brutkaz + b.ogv);
-    RC_ASSERT(b.yuvarlama == b.sendika + b.borckes);
+    RC_ASSERT(ilk.NetOdenen == Degeri(toplam::odenen, b) + b.ogv);
+    RC_ASSERT(b.yuvarlama == Degeri(toplam::ozelKesinti, b));
     o.g.giris = b;
     RC_ASSERT(Farklar(o.Hesapla(), ilk) == "");
   });
