@@ -22,6 +22,28 @@ namespace belvani::test {
 
 using BelgeYap = std::function<std::unique_ptr<Belge>(OrnekSirket&)>;
 
+// What the print dialog starts with.
+inline std::string BaskiMetni(const YzcAyarlari& ayar) {
+  return "baskı: " + ayar.YzcBaslik + (ayar.YzcYon == KagitYonu::Yatay ? ", yatay, " : ", dikey, ") +
+         std::to_string(ayar.YzcSatir) + " satır, " + std::to_string(ayar.YzcKopya) + " kopya" +
+         (ayar.YzcGrafikAcik ? ", grafik" : "") + (ayar.YzcDosAcik ? ", metin" : "") + "\n";
+}
+
+using AyarDegistir = std::function<void(YzcAyarlari&)>;
+
+// As it leaves the print dialog: with the heads that its user may switch off, and what he changes there.
+inline Kagit Baski(const Ay& ay, const char* ad, const BelgeYap& yap, const AyarDegistir& degistir = nullptr) {
+  return {ay, std::string(ad) + ".cizim.txt", [=](OrnekSirket& o) {
+            const auto belge = yap(o);
+            YzcAyarlari ayar = belge->Ayar();
+            const std::string ilk = BaskiMetni(ayar);
+            if (degistir) degistir(ayar);
+            belge->Ayarla(ayar);
+            return ilk + BugunsuzMetin(CizimMetni(*belge->Cizim()));
+          }};
+}
+
+// As it is made, which is what the command line gives.
 inline Kagit Cizim(const Ay& ay, const char* ad, const BelgeYap& yap) {
   return {ay, std::string(ad) + ".cizim.txt", [=](OrnekSirket& o) { return CizimMetni(*yap(o)->Cizim()); }};
 }
@@ -43,6 +65,12 @@ inline DefterSecenek BuyukDefter() {
   return secenek;
 }
 
+inline DefterSecenek DarDefter() {
+  DefterSecenek secenek;
+  secenek.kolonlar = DefterAnahtarlariOku("1000000000000000000001");
+  return secenek;
+}
+
 // A text as it stands, its page ends as lines.
 inline std::string MetinSayfalari(const std::string& metin) {
   std::string sayfalar;
@@ -50,9 +78,9 @@ inline std::string MetinSayfalari(const std::string& metin) {
   return sayfalar;
 }
 
-inline Kagit GenisDefter(const Ay& ay) {
-  return {ay, "bordro-butun.metin", [](OrnekSirket& o) {
-            return MetinSayfalari(DefterBelgesi(o.Kaynak(), o.Secim("", "ZZZZ"), ButunKolonlar(), {})->Metin());
+inline Kagit GenisDefter(const Ay& ay, const char* ad, const char* ilk, const char* son) {
+  return {ay, ad, [=](OrnekSirket& o) {
+            return MetinSayfalari(DefterBelgesi(o.Kaynak(), o.Secim(ilk, son), ButunKolonlar(), {})->Metin());
           }};
 }
 
@@ -65,21 +93,16 @@ inline std::string BaslikliMetin(OrnekSirket& o) {
   return BugunsuzMetin(MetinSayfalari(belge->Metin()));
 }
 
-inline Kagit Izinler(const char* ad, IzinRaporu tip, MetinAraligi kod) {
-  return Cizim(SonAy, ad, [=](OrnekSirket& o) {
-    DefterSecim secim = o.Secim("", "");
-    secim.kod = kod;
-    return IzinBelgesi(o.Kaynak(), secim, {.tip = tip}, {});
-  });
+inline Kagit Izinler(const char* ad, IzinRaporu tip, const char* ilk, const char* son) {
+  return Baski(SonAy, ad, [=](OrnekSirket& o) { return IzinBelgesi(o.Kaynak(), o.Secim(ilk, son), {tip}, {}); });
 }
 
 inline Kagit Pusulalar(const char* ad, SayfadaYaprak sayfada, const char* ilk, const char* son) {
-  return Cizim(SonAy, ad,
-               [=](OrnekSirket& o) { return UcretPusulalari(o.Kaynak(), o.Secim(ilk, son), {.sayfada = sayfada}); });
+  return Baski(SonAy, ad, [=](OrnekSirket& o) { return UcretPusulalari(o.Kaynak(), o.Secim(ilk, son), {sayfada}); });
 }
 
-inline Kagit Ozet(const Ay& ay) {
-  return Cizim(ay, "icmal", [=](OrnekSirket& o) { return IcmalBelgesi(o.Kaynak(), o.Secim("", "ZZZZ")); });
+inline std::unique_ptr<Belge> Ozet(OrnekSirket& o) {
+  return IcmalBelgesi(o.Kaynak(), o.Secim("", "ZZZZ"));
 }
 
 inline Kagitlar CizilenListeler() {
@@ -88,22 +111,27 @@ inline Kagitlar CizilenListeler() {
   };
   return {Cizim(SonAy, "bordro", defter(ButunKolonlar(), {}, "001", "008")),
           Cizim(UcuncuDonem, "bordro-sayfali", defter(BuyukDefter(), {.yaziTipi = "Times", .punto = 16}, "", "ZZZZ")),
-          GenisDefter(BirinciDonem),
-          GenisDefter(UcuncuDonem),
+          // A table narrower than the lines above it.
+          Baski(DorduncuDonem, "bordro-dar", defter(DarDefter(), {.punto = 6}, "009", "012")),
+          GenisDefter(BirinciDonem, "bordro-butun.metin", "", "ZZZZ"),
+          GenisDefter(UcuncuDonem, "bordro-butun.metin", "", "ZZZZ"),
+          // Amounts so small that each column is as wide as it was declared.
+          GenisDefter(SonAy, "bordro-cirak.metin", "032", "032"),
           Kagit{DorduncuDonem, "bordro-baslikli.metin", BaslikliMetin},
           Cizim(IkinciDonem, "ozel-bordro",
                 [](OrnekSirket& o) {
                   return OzelBordroBelgesi(o.Kaynak(), o.Secim("009", "013"), {}, {.yaziTipi = "Courier New"});
                 }),
-          Cizim(SonAy, "agi", [](OrnekSirket& o) { return AgiBelgesi(o.Kaynak(), o.Secim("008", "013")); }),
-          Ozet(BirinciDonem),
-          Ozet(SonAy),
-          Pusulalar("pusula-1", SayfadaYaprak::Bir, "010", "010"),
+          Baski(SonAy, "agi", [](OrnekSirket& o) { return AgiBelgesi(o.Kaynak(), o.Secim("008", "013")); }),
+          Cizim(BirinciDonem, "icmal", Ozet),
+          // Sideways the chart has no room below the figures.
+          Baski(UcuncuDonem, "icmal-yatay", Ozet, [](YzcAyarlari& ayar) { ayar.YzcYon = KagitYonu::Yatay; }),
+          Baski(SonAy, "icmal", Ozet), Pusulalar("pusula-1", SayfadaYaprak::Bir, "010", "010"),
           Pusulalar("pusula-2", SayfadaYaprak::Iki, "001", "003"),
           Pusulalar("pusula-4", SayfadaYaprak::Dort, "009", "013"),
-          Izinler("izin-icmal", IzinRaporu::Icmal, {"001", "013"}),
-          Izinler("izin-personel", IzinRaporu::Personel, {"004", "011"}),
-          Izinler("izin-donem", IzinRaporu::Donemsel, {})};
+          Izinler("izin-icmal", IzinRaporu::Icmal, "001", "013"),
+          Izinler("izin-personel", IzinRaporu::Personel, "004", "011"),
+          Izinler("izin-donem", IzinRaporu::Donemsel, "", "ZZZZ")};
 }
 
 // ---- the declaration
@@ -129,8 +157,12 @@ inline BildirgeKagidi BildirgeKagidiYap(OrnekSirket& o, const char* kanun) {
   return kagit;
 }
 
-// The same people again and again until there are `kisi`.
+// The same people again and again until there are `kisi`, of a workplace whose numbers do not fill their cells.
 inline BildirgeKagidi Kalabalik(BildirgeKagidi kagit, std::size_t kisi) {
+  kagit.firma.meslek = "17";
+  kagit.firma.dosya = "457";
+  kagit.firma.il = "6";
+  kagit.firma.verno = "98765";
   const std::size_t ilk = kagit.satirlar.size();
   for (std::size_t i = 0; kagit.satirlar.size() < kisi; ++i) kagit.satirlar.push_back(kagit.satirlar[i % ilk]);
   return kagit;

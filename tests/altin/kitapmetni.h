@@ -5,7 +5,10 @@
 #pragma once
 
 #include <algorithm>
+#include <iomanip>
+#include <locale>
 #include <set>
+#include <sstream>
 
 #include "bol.h"
 #include "printing/xlsxoku.h"
@@ -65,7 +68,17 @@ class KitapOkuru {
     const std::string_view tur = c.attribute("t").value();
     if (tur == "inlineStr") return "\"" + Yazi(c.child("is")) + "\"";
     if (tur == "s") return "\"" + ortak_.at(c.child("v").text().as_uint()) + "\"";
-    return c.child("v").text().get();
+    return Sayi(c.child("v").text().get());
+  }
+
+  // To the fifteen digits that spreadsheet programs show: how a writer spells the same number does not matter.
+  static std::string Sayi(const std::string& deger) {
+    const auto sayi = SayiOku(deger);
+    if (!sayi) return deger;
+    std::ostringstream akis;
+    akis.imbue(std::locale::classic());
+    akis << std::setprecision(15) << *sayi;
+    return akis.str();
   }
 
   std::string Sayfa(const pugi::xml_node& sayfa) const {

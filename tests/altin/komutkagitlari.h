@@ -78,6 +78,8 @@ inline Kagitlar KomutKagitlari() {
                              Liste(SonAy, "ozel-bordro", "csv"),
                              Liste(SonAy, "agi", "csv"),
                              Liste(SonAy, "agi", "metin", "--kod 001 014"),
+                             Liste(SonAy, "ozel-bordro", "metin", "--kod 032 032", "-cirak"),
+                             Liste(SonAy, "agi", "metin", "--kod 032 032", "-cirak"),
                              Liste(UcuncuDonem, "agi", "json", "--kod 009 010"),
                              IzinListesi(SonAy, "icmal", "metin"),
                              IzinListesi(SonAy, "personel", "metin"),
