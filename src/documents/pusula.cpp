@@ -157,7 +157,7 @@ class PusulaYapan {
         donem_(PusulaDonemi(BelgeDonemi(baslik.defter))),
         isveren_{{"Firma İsmi    :", baslik.defter.firma.unvan},
                  {"İşyeri Sicil  :", IsyeriSicilNo(baslik.defter.firma)}} {
-    for (const auto& satir : *satirlar_) FazlaMesaiTutari(satir.brd);  // out of range: now, and not while it is drawn
+    for (const auto& satir : *satirlar_) Degeri(toplam::fazlaMesai, satir.brd);  // out of range: now, not while drawn
   }
   PusulaYapan(const PusulaYapan&) = delete;
   PusulaYapan& operator=(const PusulaYapan&) = delete;
