@@ -44,8 +44,9 @@ QString BelgeYardimi(const BelgeTanimi& belge) {
         satirlar += QStringLiteral("<tr><td><b>%1</b></td><td>%2</td></tr>\n")
                         .arg(Yazi(alan.etiket).toHtmlEscaped(), Aciklama(alan).toHtmlEscaped());
   const QString giris = Yazi(belge.menu).replace('/', " > ") + " > " + Yazi(belge.menuBasligi);
-  return QString::fromUtf8(SayfaKalibi).arg(Yazi(belge.pencereBasligi).toHtmlEscaped(),
-                                      Yazi(belge.komutYardimi).toHtmlEscaped(), giris.toHtmlEscaped(), satirlar);
+  return QString::fromUtf8(SayfaKalibi)
+      .arg(Yazi(belge.pencereBasligi).toHtmlEscaped(), Yazi(belge.komutYardimi).toHtmlEscaped(), giris.toHtmlEscaped(),
+           satirlar);
 }
 
 }  // namespace belvani
