@@ -3,8 +3,8 @@
 #include "core/dosya.h"
 #include "core/turkce.h"
 #include "core/veridizini.h"
+#include "printing/excelkont.h"
 #include "printing/xlscevir.h"
-#include "printing/xlsxsablon.h"
 
 namespace belvani {
 namespace {
@@ -41,34 +41,19 @@ std::string Adres(const std::string& adr1, const std::string& adr2) {
   return adr1 + " " + adr2;
 }
 
-// Fills cells until one fails.
-class Dolduran {
- public:
-  explicit Dolduran(XlsxSablon& sablon) : sablon_(sablon) {}
-
-  void SetExcel(const std::string& adres, const Hucre& deger) {
-    if (durum_) durum_ = sablon_.Yaz("", adres, deger);
-  }
-  // Row and column counted from 1.
-  void SetExcell(int satir, int kolon, const Hucre& deger) { SetExcel(XlsxAdresi(satir - 1, kolon - 1), deger); }
-  void KisiHucresi(const char* kolon, int satir, const Hucre& deger) { SetExcel(kolon + std::to_string(satir), deger); }
-
-  const Durum& Sonucu() const { return durum_; }
-
- private:
-  XlsxSablon& sablon_;
-  Durum durum_ = Tamam();
-};
+void KisiHucresi(excelkont& d, const char* kolon, int satir, const Hucre& deger) {
+  d.SetExcel(kolon + std::to_string(satir), deger);
+}
 
 constexpr const char* KisiKolonlari[] = {"i",  "ap", "bn", "cl", "dc", "dj", "ea", "es",
                                          "fc", "fq", "gb", "gm", "gx", "hi", "hz"};
 
-void ExcelBosalt(Dolduran& d) {
+void ExcelBosalt(excelkont& d) {
   for (int satir = IlkKisiSatiri; satir < ToplamSatiri; satir += KisiSatirAdimi)
-    for (const char* kolon : KisiKolonlari) d.KisiHucresi(kolon, satir, Bos);
+    for (const char* kolon : KisiKolonlari) KisiHucresi(d, kolon, satir, Bos);
 }
 
-void BelgeYaz(Dolduran& d, const BildirgeKagidi& k) {
+void BelgeYaz(excelkont& d, const BildirgeKagidi& k) {
   d.SetExcell(8, BelgeKolonu, std::int64_t(k.yil));
   d.SetExcell(12, BelgeKolonu, IkiHane(k.ay));
   d.SetExcell(18, BelgeKolonu, k.mahiyet == BelgeMahiyeti::Asil ? Hucre(std::string("X")) : Hucre(Bos));
@@ -78,7 +63,7 @@ void BelgeYaz(Dolduran& d, const BildirgeKagidi& k) {
   d.SetExcel("he46", std::int64_t(1));
 }
 
-void TaraflariYaz(Dolduran& d, const Firma& f, const Arac& a) {
+void TaraflariYaz(excelkont& d, const Firma& f, const Arac& a) {
   d.SetExcel("bz19", std::string("X"));
   d.SetExcel("dp19", a.kod == AracisizKod ? Hucre(Bos) : Hucre(std::string("X")));
   const std::pair<const char*, std::string> hucreler[] = {
@@ -105,7 +90,7 @@ void TaraflariYaz(Dolduran& d, const Firma& f, const Arac& a) {
   for (const auto& [adres, deger] : hucreler) d.SetExcel(adres, Metin(deger));
 }
 
-void SayaclariYaz(Dolduran& d, const BildirgeToplamlari& t) {
+void SayaclariYaz(excelkont& d, const BildirgeToplamlari& t) {
   const Hucre sayaclar[] = {
       std::int64_t(t.sigortali),     std::int64_t(t.gun),        std::int64_t(t.giren), std::int64_t(t.ayrilan),
       std::int64_t(t.ucretliIzinli), std::int64_t(t.ucretliGun), t.ucretliKazanc};
@@ -116,7 +101,7 @@ void SayaclariYaz(Dolduran& d, const BildirgeToplamlari& t) {
   }
 }
 
-void BranslariYaz(Dolduran& d, const BildirgeKagidi& k) {
+void BranslariYaz(excelkont& d, const BildirgeKagidi& k) {
   int satir = 65;
   for (const std::size_t sira : KagitBransSirasi) {
     const KagitBransi& brans = k.branslar[sira];
@@ -129,10 +114,10 @@ void BranslariYaz(Dolduran& d, const BildirgeKagidi& k) {
   d.SetExcel("hl85", k.genelToplam);
 }
 
-void TarihYaz(Dolduran& d, int satir, const char* gunKolonu, const char* ayKolonu, Tarih gun) {
+void TarihYaz(excelkont& d, int satir, const char* gunKolonu, const char* ayKolonu, Tarih gun) {
   if (gun.Bos()) return;
-  d.KisiHucresi(gunKolonu, satir, IkiHane(gun.Gun()));
-  d.KisiHucresi(ayKolonu, satir, IkiHane(gun.Ay()));
+  KisiHucresi(d, gunKolonu, satir, IkiHane(gun.Gun()));
+  KisiHucresi(d, ayKolonu, satir, IkiHane(gun.Ay()));
 }
 
 // What of a person's base is wage and what bonus.
@@ -147,24 +132,24 @@ KazancBolumu KazanciBol(const BildirgeSatiri& s) {
   return {.ucret = kazanc > Tutar() ? kazanc - ikramiye : Tutar(), .ikramiye = ikramiye > Tutar() ? ikramiye : Tutar()};
 }
 
-void KisiYaz(Dolduran& d, int satir, const BildirgeSatiri& s, const KazancBolumu& kazanc) {
-  d.KisiHucresi("i", satir, Metin(s.tcno));
-  d.KisiHucresi("ap", satir, Metin(s.adi));
-  d.KisiHucresi("bn", satir, Metin(s.soyadi));
-  d.KisiHucresi("cl", satir, Metin(s.ilksoyadi));
-  d.KisiHucresi("dc", satir, Pozitif(s.gun.value_or(0)));
-  if (s.primkazanc > Tutar()) d.KisiHucresi("dj", satir, kazanc.ucret);
-  if (kazanc.ikramiye > Tutar()) d.KisiHucresi("ea", satir, kazanc.ikramiye);
-  d.KisiHucresi("es", satir, Pozitif(s.ui.value_or(0)));
-  if (s.uiucret > Tutar()) d.KisiHucresi("fc", satir, *s.uiucret);
+void KisiYaz(excelkont& d, int satir, const BildirgeSatiri& s, const KazancBolumu& kazanc) {
+  KisiHucresi(d, "i", satir, Metin(s.tcno));
+  KisiHucresi(d, "ap", satir, Metin(s.adi));
+  KisiHucresi(d, "bn", satir, Metin(s.soyadi));
+  KisiHucresi(d, "cl", satir, Metin(s.ilksoyadi));
+  KisiHucresi(d, "dc", satir, Pozitif(s.gun.value_or(0)));
+  if (s.primkazanc > Tutar()) KisiHucresi(d, "dj", satir, kazanc.ucret);
+  if (kazanc.ikramiye > Tutar()) KisiHucresi(d, "ea", satir, kazanc.ikramiye);
+  KisiHucresi(d, "es", satir, Pozitif(s.ui.value_or(0)));
+  if (s.uiucret > Tutar()) KisiHucresi(d, "fc", satir, *s.uiucret);
   TarihYaz(d, satir, "fq", "gb", s.girtar);
   TarihYaz(d, satir, "gm", "gx", s.ciktar);
-  d.KisiHucresi("hi", satir, Kod(s.eksik));
-  d.KisiHucresi("hz", satir, Kod(s.ciksebeb));
+  KisiHucresi(d, "hi", satir, Kod(s.eksik));
+  KisiHucresi(d, "hz", satir, Kod(s.ciksebeb));
 }
 
 // Gives the number of people. The sums come last: where an eleventh person stands on their line, they are what counts.
-int KisileriYaz(Dolduran& d, const BildirgeKagidi& k) {
+int KisileriYaz(excelkont& d, const BildirgeKagidi& k) {
   KazancBolumu toplam;
   int kisi = 0;
   for (const auto& s : k.satirlar) {
@@ -174,11 +159,11 @@ int KisileriYaz(Dolduran& d, const BildirgeKagidi& k) {
     toplam.ucret += kazanc.ucret;
     toplam.ikramiye += kazanc.ikramiye;
   }
-  d.KisiHucresi("dc", ToplamSatiri, std::int64_t(k.toplamlar.sigortali));
-  d.KisiHucresi("dj", ToplamSatiri, toplam.ucret);
-  d.KisiHucresi("ea", ToplamSatiri, toplam.ikramiye);
-  d.KisiHucresi("es", ToplamSatiri, std::int64_t(k.toplamlar.ucretliGun));
-  d.KisiHucresi("fc", ToplamSatiri, k.toplamlar.ucretliKazanc);
+  KisiHucresi(d, "dc", ToplamSatiri, std::int64_t(k.toplamlar.sigortali));
+  KisiHucresi(d, "dj", ToplamSatiri, toplam.ucret);
+  KisiHucresi(d, "ea", ToplamSatiri, toplam.ikramiye);
+  KisiHucresi(d, "es", ToplamSatiri, std::int64_t(k.toplamlar.ucretliGun));
+  KisiHucresi(d, "fc", ToplamSatiri, k.toplamlar.ucretliKazanc);
   return kisi;
 }
 
@@ -199,9 +184,8 @@ Sonuc<std::string> EskiSablon(const std::string& dosya, const std::string& donus
 
 Sonuc<BildirgeTablosu> BildirgeTablosuYap(std::string sablon, const BildirgeKagidi& kagit) {
   if (kagit.satirlar.empty()) return BildirgeTablosu{std::move(sablon), {}};
-  auto kitap = XlsxSablon::Ac(std::move(sablon));
-  if (!kitap) return kitap.Kusuru();
-  Dolduran d(*kitap);
+  excelkont d;
+  if (const Durum acildi = d.KitapAc(std::move(sablon)); !acildi) return acildi.Kusuru();
   ExcelBosalt(d);
   BelgeYaz(d, kagit);
   TaraflariYaz(d, kagit.firma, kagit.arac);
@@ -210,8 +194,7 @@ Sonuc<BildirgeTablosu> BildirgeTablosuYap(std::string sablon, const BildirgeKagi
   const int kisi = KisileriYaz(d, kagit);
   d.SetExcel("cg178", Metin(kagit.muhasebeci.adsoyad));
   d.SetExcel("cg183", Metin(kagit.muhasebeci.sicil));
-  if (!d.Sonucu()) return d.Sonucu().Kusuru();
-  auto baytlar = kitap->Bitir();
+  auto baytlar = d.Kitap();
   if (!baytlar) return baytlar.Kusuru();
   return BildirgeTablosu{std::move(*baytlar), TasmaUyarisi(kisi)};
 }

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include "core/dosya.h"
+#include "printing/dosprint.h"
 
 namespace belvani {
 namespace {
@@ -31,26 +32,26 @@ bool AyriCalistir(std::vector<std::string> komut) {
 }  // namespace
 
 Durum Belprn(const std::vector<std::string>& argumanlar, Kuyruk& kuyruk) {
-  BaskiIsi is{.tur = IsTuru::Ham, .yazici = {}, .ad = {}, .icerik = {}, .kopya = 1};
-  std::string dosya;
+  std::string dosya, yazici;
   bool sil = false;
   for (std::size_t i = 0; i < argumanlar.size(); ++i) {
     if (argumanlar[i] == "--sil")
       sil = true;
     else if (argumanlar[i] == "--yazici" && i + 1 < argumanlar.size())
-      is.yazici = argumanlar[++i];
+      yazici = argumanlar[++i];
     else if (dosya.empty() && !argumanlar[i].starts_with("--"))
       dosya = argumanlar[i];
     else
       return Kusur{Kullanim};
   }
   if (dosya.empty()) return Kusur{Kullanim};
-  auto icerik = DosyaOku(dosya);
+  const auto icerik = DosyaOku(dosya);
   if (!icerik) return Kusur{dosya + ": dosya okunamadı"};
-  is.icerik = std::move(*icerik);
-  is.ad = dosya.substr(dosya.rfind('/') + 1);
-  if (is.icerik.empty()) return Kusur{dosya + ": dosya boş"};
-  if (const auto sonuc = kuyruk.Gonder(is); !sonuc) return sonuc.Kusuru();
+  if (icerik->empty()) return Kusur{dosya + ": dosya boş"};
+  dosprint ham(kuyruk);
+  if (const Durum acildi = ham.Ac(yazici, dosya.substr(dosya.rfind('/') + 1)); !acildi) return acildi;
+  ham.Yaz(*icerik);
+  if (const Durum gitti = ham.Kapat(); !gitti) return gitti;
   if (sil) ::unlink(dosya.c_str());
   return Tamam();
 }

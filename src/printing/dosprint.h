@@ -1,4 +1,4 @@
-// dosprint: the raw spool behind `prnx`: a document of bytes for one printer, sent when it is closed.
+// dosprint: the raw spool behind `belprn` and `prnx`: a document of bytes for one printer, sent when it is closed.
 #pragma once
 
 #include "printing/kuyruk.h"

@@ -41,31 +41,44 @@ int HucreHarfi(const Hucre& deger, int paraOndaligi) {
 
 }  // namespace
 
-Durum excelkont::OpenExcell(const std::string& dosya) {
+void excelkont::Birak() {
   hucreler_.clear();
   sablon_.reset();
+  sablonAdi_.clear();
   kusur_.reset();
   dosya_.clear();
   acik_ = false;
-  if (!dosya.empty())
-    if (const Durum acildi = SablonAc(dosya); !acildi) return acildi;
+}
+
+Durum excelkont::OpenExcell(const std::string& dosya) {
+  Birak();
+  if (dosya.empty()) {
+    acik_ = true;
+    return Tamam();
+  }
+  auto baytlar = KitapOku(dosya);
+  if (!baytlar) return baytlar.Kusuru();
+  const Durum acildi = KitapAc(std::move(*baytlar));
+  if (acildi) sablonAdi_ = std::filesystem::path(dosya).stem().string();
+  return acildi;
+}
+
+Durum excelkont::KitapAc(std::string baytlar) {
+  Birak();
+  auto sablon = XlsxSablon::Ac(std::move(baytlar));
+  if (!sablon) return sablon.Kusuru();
+  sablon_ = std::move(*sablon);
   acik_ = true;
   return Tamam();
 }
 
-Durum excelkont::SablonAc(const std::string& dosya) {
+Sonuc<std::string> excelkont::KitapOku(const std::string& dosya) const {
   auto baytlar = DosyaOku(dosya);
   if (!baytlar) return Kusur{dosya + ": dosya okunamadı"};
-  if (XlsMi(*baytlar)) {
-    auto cevrilen = XlsxeCevir(dosya, islevler_.donusturucu);
-    if (!cevrilen) return Kusur{ExcelYok};
-    baytlar = std::move(*cevrilen);
-  }
-  auto sablon = XlsxSablon::Ac(std::move(*baytlar));
-  if (!sablon) return sablon.Kusuru();
-  sablon_ = std::move(*sablon);
-  sablonAdi_ = std::filesystem::path(dosya).stem().string();
-  return Tamam();
+  if (!XlsMi(*baytlar)) return std::move(*baytlar);
+  auto cevrilen = XlsxeCevir(dosya, islevler_.donusturucu);
+  if (!cevrilen) return Kusur{ExcelYok};
+  return cevrilen;
 }
 
 Durum excelkont::KusuruTut(Durum durum) {
@@ -113,10 +126,14 @@ Sonuc<std::string> excelkont::DosyaYeri() const {
   return dizin + "/" + DosyaAdi(Baslik.empty() && sablon_ ? sablonAdi_ : Baslik) + ".xlsx";
 }
 
-Durum excelkont::CloseExcell() {
+Sonuc<std::string> excelkont::Kitap() {
   if (!acik_) return Kusur{"Açık bir çalışma kitabı yok"};
   if (kusur_) return *kusur_;
-  const auto baytlar = sablon_ ? sablon_->Bitir() : YeniKitap();
+  return sablon_ ? sablon_->Bitir() : YeniKitap();
+}
+
+Durum excelkont::CloseExcell() {
+  const auto baytlar = Kitap();
   if (!baytlar) return baytlar.Kusuru();
   const auto yol = DosyaYeri();
   if (!yol) return yol.Kusuru();

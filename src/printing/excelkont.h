@@ -32,7 +32,7 @@ enum class ExcelYazisi { Normal, Koyu };
 
 struct ExcelIslevleri {
   // Hands the finished file to the user's spreadsheet program; false: there is none.
-  std::function<bool(const std::string& dosya)> ac;
+  std::function<bool(const std::string& dosya)> ac = nullptr;
   // Where the file goes; nothing when its user gave up. Not bound: a new directory among the temporary ones.
   std::function<std::optional<std::string>()> yolSor = nullptr;
   std::string donusturucu = "soffice";
@@ -40,17 +40,21 @@ struct ExcelIslevleri {
 
 class excelkont {
  public:
-  explicit excelkont(ExcelIslevleri islevler) : islevler_(std::move(islevler)) {}
+  explicit excelkont(ExcelIslevleri islevler = {}) : islevler_(std::move(islevler)) {}
 
   std::string Baslik;  // names sheet and file of a new workbook
   int ParaOndaligi = 2;
 
   // A new workbook, or the workbook of the file. What was open and not closed is dropped.
   Durum OpenExcell(const std::string& dosya = {});
+  // The same for the bytes of a workbook (.xlsx).
+  Durum KitapAc(std::string baytlar);
 
   Durum SetExcell(int satir, int kolon, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
   Durum SetExcel(std::string_view adres, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
 
+  // The finished workbook, for one that is not handed over here; or the first failure.
+  Sonuc<std::string> Kitap();
   // Writes the file and opens it in the user's program. When that fails the file stays where Dosya() tells.
   Durum CloseExcell();
   void ExVisible(bool gorunur) { gorunur_ = gorunur; }  // false: CloseExcell only writes the file
@@ -63,7 +67,8 @@ class excelkont {
     ExcelYazisi yazi;
   };
 
-  Durum SablonAc(const std::string& dosya);
+  void Birak();
+  Sonuc<std::string> KitapOku(const std::string& dosya) const;
   Durum KusuruTut(Durum durum);
   Sonuc<std::string> YeniKitap() const;
   Sonuc<std::string> DosyaYeri() const;

@@ -14,6 +14,16 @@ constexpr int BeklemeMs = 100;  // for a printer whose buffer is full
 
 }  // namespace
 
+int PortNo(std::string_view ad) {
+  const bool port = ad.size() == 5 && ad.starts_with("LPT") && ad.ends_with(":");
+  const int no = port ? ad[3] - '1' : -1;
+  return no >= 0 && no <= EnCokPort ? no : -1;
+}
+
+std::string PortAdi(int no) {
+  return "LPT" + std::to_string(no + 1) + ":";
+}
+
 LpPortu::LpPortu(std::string onek) : onek_(std::move(onek)) {
   acik_.fill(-1);
 }

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace belvani {
 
@@ -14,6 +15,10 @@ constexpr std::uint8_t Hata = 8 | 1;   // any of these: error
 }  // namespace port
 
 constexpr int EnCokPort = 4;
+
+// The number of a port by its name, "LPT1:" -> 0; -1 for anything else. And back.
+int PortNo(std::string_view ad);
+std::string PortAdi(int no);
 
 class ParalelPort {
  public:

@@ -12,15 +12,10 @@ namespace {
 
 constexpr std::size_t EnCokKolon = 255;
 constexpr int MetinModu = 2;
+constexpr int AdliPort = 4;      // the fifth port is chosen by its number only
 constexpr int BaslikAlani = 17;  // letters in whose middle the title stands
 constexpr int SagAlan = 21;      // letters of "Tarih    : 01.01.2008" at the right end
 constexpr int SayfaNoHaneleri = 5;
-
-int PortNo(const std::string& portAdi, int simdiki) {
-  for (int no = 0; no < 4; ++no)
-    if (portAdi == "LPT" + std::to_string(no + 1) + ":") return no;
-  return simdiki;
-}
 
 std::string Yinele(std::string_view harf, int adet) {
   std::string sonuc;
@@ -68,7 +63,7 @@ bool xprn::xprnOpen(int mod) {
   if (mod_ == MetinModu) {
     satir_ = 0;
     kolonBirimi_ = 1;
-    portNo_ = PortNo(ortam_.portAdi, portNo_);
+    if (const int no = PortNo(ortam_.portAdi); no >= 0 && no < AdliPort) portNo_ = no;
     acik_ = CheckDosPrint() && (!dosya_.empty() || OpenDosPrint());
     if (acik_ && xprnCondencePrint) DosDirectPrint(DosSikisik.ac, SatirSonu::Yok);
   }

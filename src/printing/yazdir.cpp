@@ -14,17 +14,6 @@ std::string Birlestir(const std::string& a, const std::string& b) {
   return a.empty() || b.empty() ? a + b : a + "\n" + b;
 }
 
-// "LPT1:" -> 0; -1 for anything else.
-int PortNo(const std::string& yazici) {
-  const bool port = yazici.size() == 5 && yazici.starts_with("LPT") && yazici.ends_with(":");
-  const int no = port ? yazici[3] - '1' : -1;
-  return no >= 0 && no <= EnCokPort ? no : -1;
-}
-
-std::string PortAdi(int no) {
-  return "LPT" + std::to_string(no + 1) + ":";
-}
-
 // The pieces of a text print: the printer's set-up, the lines, what ends a page. `yaz` false stops.
 template <class Yaz>
 bool MetniYaz(const std::string& metin, int kopya, Yaz yaz) {
