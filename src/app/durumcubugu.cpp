@@ -35,7 +35,7 @@ void DurumCubugu::Yaz(const Oturum& o) {
   Koy(kullanici_, QStringLiteral("Kullanıcı: ") + Yazi(o.Kullanici), EnCokAdEni, Qt::ElideRight);
   const bool ayVar = o.firma.firmaay >= 1 && o.firma.firmaay <= 12;
   donem_->setText(ayVar ? Yazi(AyAdi(o.firma.firmaay)) + " " + QString::number(o.firma.firmayil) : QString());
-  Koy(depo_, Yazi(o.FirmaDizini + DepoDosyasi), EnCokYolEni, Qt::ElideMiddle);
+  Koy(depo_, Yazi(DepoAdresi(o.FirmaDizini)), EnCokYolEni, Qt::ElideMiddle);
 }
 
 }  // namespace belvani

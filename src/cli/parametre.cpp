@@ -16,14 +16,14 @@ struct KurSecenekleri {
 
 void ParametreleriKur(Genel& genel, const KurSecenekleri& s) {
   const Donem donem = DonemOku(s.donem);
-  const std::string dataPath = genel.DataPath();
-  Basarmali(DizinYarat(dataPath));
+  const VeriYolu veri = genel.DataPath();
+  Basarmali(veri.Yarat());
   std::string kaynak = s.kaynak;
   if (kaynak.empty()) {
     auto adres = ParametreAdresi(donem.yil, donem.ay, s.eskiLira ? Lira::Eski : Lira::Yeni);
     kaynak = Degeri(adres);
   }
-  Basarmali(ParametreKur(dataPath, kaynak));
+  Basarmali(ParametreKur(veri, kaynak));
   Yaz("Parametre İndirildi.. (" + s.donem + ")\n");
 }
 

@@ -16,7 +16,7 @@ struct SirketAcSecenekleri {
 void SirketiAc(Genel& genel, const SirketAcSecenekleri& s) {
   Oturum o;
   o.DataPath = genel.DataPath();
-  Basarmali(DizinYarat(o.DataPath));
+  Basarmali(VeriYolu(o.DataPath).Yarat());
   if (const auto acildi = SirketOlustur(o, s.kod, s.kullanici, s.sifre, genel.bildirim); !acildi)
     throw KomutHatasi{acildi.KusurMetni().empty() ? o.depo.db.SonHata() : acildi.KusurMetni()};
   auto& firma = o.depo.firma;

@@ -5,7 +5,6 @@
 #include <optional>
 #include <vector>
 
-#include "core/dosya.h"
 #include "core/turkce.h"
 
 namespace belvani {
@@ -111,9 +110,13 @@ void DegeriKoy(IniMetni& m, std::string_view bolum, std::string_view anahtar, co
 
 }  // namespace
 
+IniDosyasi::IniDosyasi(const std::string& dosyaYolu)
+    : IniDosyasi(std::filesystem::path(dosyaYolu).parent_path().string(),
+                 std::filesystem::path(dosyaYolu).filename().string()) {}
+
 std::string IniOku(std::string_view bolum, std::string_view anahtar, std::string_view varsayilan,
-                   const std::string& dosya) {
-  const auto baytlar = DosyaOku(dosya, EnCokDosyaBayti);
+                   const IniDosyasi& dosya) {
+  const auto baytlar = dosya.yol.Oku(dosya.ad, EnCokDosyaBayti);
   if (!baytlar) return std::string(varsayilan);
   bool bolumde = false;
   for (const auto& satir : SatirlaraAyir(*baytlar).satirlar) {
@@ -125,20 +128,21 @@ std::string IniOku(std::string_view bolum, std::string_view anahtar, std::string
   return std::string(varsayilan);
 }
 
-Durum IniYaz(std::string_view bolum, std::string_view anahtar, std::string_view deger, const std::string& dosya) {
-  if (!GecerliUtf8(deger)) return Kusur{dosya + ": yazılacak değerde okunamayan harf var"};
-  const auto eski = DosyaOku(dosya, EnCokDosyaBayti);
-  std::error_code hata;
-  if (!eski && std::filesystem::exists(dosya, hata)) return Kusur{dosya + ": dosya okunamadı, değiştirilmedi"};
-  IniMetni m = SatirlaraAyir(eski.value_or(""));
+Durum IniYaz(std::string_view bolum, std::string_view anahtar, std::string_view deger, const IniDosyasi& dosya) {
+  if (!GecerliUtf8(deger)) return Kusur{dosya.Adres() + ": yazılacak değerde okunamayan harf var"};
+  const auto kilit = dosya.yol.Kilitle();
+  if (!kilit) return kilit.Kusuru();
+  const DosyaHali eski = dosya.yol.Bak(dosya.ad, EnCokDosyaBayti);
+  if (eski.okunamadi || eski.boy > EnCokDosyaBayti) return Kusur{dosya.Adres() + ": dosya okunamadı, değiştirilmedi"};
+  IniMetni m = SatirlaraAyir(eski.baytlar);
   const std::string duz = DenetimsizMetin(deger);
   // Blanks and quotes at the ends would be lost by the next read.
   const bool tirnak = !duz.empty() && (duz != BosluklariKirp(duz) || duz.front() == '"' || duz.front() == '\'');
   DegeriKoy(m, bolum, anahtar, std::string(anahtar) + "=" + (tirnak ? "\"" + duz + "\"" : duz));
   std::string baytlar(m.im ? Utf8Imi : "");
   for (const auto& satir : m.satirlar) baytlar += satir;
-  if (baytlar.size() > EnCokDosyaBayti) return Kusur{dosya + ": dosya çok büyük"};  // no read would take it
-  return DosyaYaz(dosya, baytlar);
+  if (baytlar.size() > EnCokDosyaBayti) return Kusur{dosya.Adres() + ": dosya çok büyük"};  // no read would take it
+  return dosya.yol.Yaz(dosya.ad, baytlar);
 }
 
 }  // namespace belvani

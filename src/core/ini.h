@@ -5,17 +5,29 @@
 #include <string>
 #include <string_view>
 
-#include "core/sonuc.h"
+#include "core/veriyolu.h"
 
 namespace belvani {
+
+// A file of that kind, by its place and name, or by its path.
+struct IniDosyasi {
+  IniDosyasi(VeriYolu yer, std::string dosyaAdi) : yol(std::move(yer)), ad(std::move(dosyaAdi)) {}
+  IniDosyasi(const std::string& dosyaYolu);  // NOLINT: a path is a file
+
+  std::string Adres() const { return yol.Adres(ad); }
+
+  VeriYolu yol;
+  std::string ad;
+};
 
 // The value of a key, quotes around it cut, at most 254 letters; `varsayilan` where file, section or key is absent.
 // Section and key compare without regard to case (ASCII).
 std::string IniOku(std::string_view bolum, std::string_view anahtar, std::string_view varsayilan,
-                   const std::string& dosya);
+                   const IniDosyasi& dosya);
 
-// Writes one value; every other line stays as it is, byte for byte. A new file is made in code page 1254 with CRLF; a
-// line with a letter that the page lacks is written in UTF-8. A file that is there and cannot be read is not replaced.
-Durum IniYaz(std::string_view bolum, std::string_view anahtar, std::string_view deger, const std::string& dosya);
+// Writes one value, with the place locked: two programs that write different keys lose none; every other line stays as
+// it is, byte for byte. A new file is made in code page 1254 with CRLF; a line with a letter that the page lacks is
+// written in UTF-8. A file that is there and cannot be read is not replaced.
+Durum IniYaz(std::string_view bolum, std::string_view anahtar, std::string_view deger, const IniDosyasi& dosya);
 
 }  // namespace belvani

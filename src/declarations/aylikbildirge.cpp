@@ -199,7 +199,7 @@ Durum AylikBildirge::XmlKosullari() const {
 }
 
 std::string AylikBildirge::XmlYolu() const {
-  return o_.FirmaDizini + XmlDosyaAdi(bildirge_.secim);
+  return VeriYolu(o_.FirmaDizini).Adres(XmlDosyaAdi(bildirge_.secim));
 }
 
 Sonuc<std::optional<std::string>> AylikBildirge::XmlHazirla() {

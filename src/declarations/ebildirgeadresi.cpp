@@ -1,6 +1,5 @@
 #include "declarations/ebildirgeadresi.h"
 
-#include "core/dosya.h"
 #include "core/ini.h"
 #include "core/turkce.h"
 
@@ -19,14 +18,14 @@ bool WebAdresiMi(std::string_view adres) {
 
 }  // namespace
 
-std::string EBildirgeAdresi(const std::string& dataPath) {
-  const std::string adres = IniOku(Bolum, Anahtar, VarsayilanAdres, DizinSonu(dataPath) + Dosya);
+std::string EBildirgeAdresi(const VeriYolu& veri) {
+  const std::string adres = IniOku(Bolum, Anahtar, VarsayilanAdres, {veri, Dosya});
   return WebAdresiMi(adres) ? adres : VarsayilanAdres;
 }
 
-Durum EBildirgeAdresiYaz(const std::string& dataPath, const std::string& adres) {
+Durum EBildirgeAdresiYaz(const VeriYolu& veri, const std::string& adres) {
   if (!WebAdresiMi(adres)) return Kusur{"Adres http:// veya https:// ile başlamalıdır"};
-  return IniYaz(Bolum, Anahtar, adres, DizinSonu(dataPath) + Dosya);
+  return IniYaz(Bolum, Anahtar, adres, {veri, Dosya});
 }
 
 }  // namespace belvani

@@ -4,14 +4,14 @@
 
 #include <string>
 
-#include "core/sonuc.h"
+#include "core/veriyolu.h"
 
 namespace belvani {
 
 // What the user has set; the institution's own address until then.
-std::string EBildirgeAdresi(const std::string& dataPath);
+std::string EBildirgeAdresi(const VeriYolu& veri);
 
 // Refused is what no browser would open as a page: anything that does not begin with http:// or https://.
-Durum EBildirgeAdresiYaz(const std::string& dataPath, const std::string& adres);
+Durum EBildirgeAdresiYaz(const VeriYolu& veri, const std::string& adres);
 
 }  // namespace belvani

@@ -17,6 +17,7 @@
 #include "core/store/motor.h"
 #include "core/tables/alansatiri.h"
 #include "core/tables/brd.h"
+#include "core/veriyolu.h"
 #include "payroll/parametre/parametreler.h"
 #include "printing/belge.h"
 
@@ -81,8 +82,8 @@ SecimYapan Secenekleri(std::unique_ptr<Belge> (*yapan)(const BelgeKaynagi&, cons
 
 // Choices that outlive a run, in a file of the company's directory.
 struct BelgeAyari {
-  void (*oku)(const std::string& firmaDizini, BelgeSecimi& secim) = nullptr;
-  Durum (*yaz)(const std::string& firmaDizini, BelgeSecimi& secim) = nullptr;  // writes nothing when nothing changed
+  void (*oku)(const VeriYolu& sirket, BelgeSecimi& secim) = nullptr;
+  Durum (*yaz)(const VeriYolu& sirket, BelgeSecimi& secim) = nullptr;  // writes nothing when nothing changed
 };
 
 struct BelgeTanimi {

@@ -22,8 +22,9 @@ int PuntoOku(const std::string& metin, int varsayilan) {
 
 }  // namespace
 
-DefterAyari DefterAyariOku(const std::string& dosya) {
+DefterAyari DefterAyariOku(const VeriYolu& sirket) {
   const DefterAyari ilk;
+  const IniDosyasi dosya(sirket, Dosya);
   const std::string yaziTipi = IniOku(Bolum, YaziTipiAnahtari, ilk.yaziTipi, dosya);
   return {
       .kolonlar = DefterAnahtarlariOku(IniOku(Bolum, KolonlarAnahtari, VarsayilanDefterAnahtarlari, dosya)),
@@ -32,24 +33,24 @@ DefterAyari DefterAyariOku(const std::string& dosya) {
   };
 }
 
-Durum DefterAyariYaz(const DefterAyari& ayar, const std::string& dosya) {
-  if (ayar == DefterAyariOku(dosya)) return Tamam();
+Durum DefterAyariYaz(const DefterAyari& ayar, const VeriYolu& sirket) {
+  if (ayar == DefterAyariOku(sirket)) return Tamam();
+  const IniDosyasi dosya(sirket, Dosya);
   if (auto durum = IniYaz(Bolum, KolonlarAnahtari, DefterAnahtarMetni(ayar.kolonlar), dosya); !durum) return durum;
   if (auto durum = IniYaz(Bolum, YaziTipiAnahtari, ayar.yaziTipi, dosya); !durum) return durum;
   return IniYaz(Bolum, PuntoAnahtari, std::to_string(ayar.punto), dosya);
 }
 
-void DefterAyariniOku(const std::string& firmaDizini, BelgeSecimi& secim) {
-  const DefterAyari ayar = DefterAyariOku(firmaDizini + Dosya);
+void DefterAyariniOku(const VeriYolu& sirket, BelgeSecimi& secim) {
+  const DefterAyari ayar = DefterAyariOku(sirket);
   secim.Bul<DefterSecenek>()->kolonlar = ayar.kolonlar;
   *secim.Bul<BelgeYazisi>() = {.yaziTipi = ayar.yaziTipi, .punto = ayar.punto};
 }
 
-Durum DefterAyariniYaz(const std::string& firmaDizini, BelgeSecimi& secim) {
+Durum DefterAyariniYaz(const VeriYolu& sirket, BelgeSecimi& secim) {
   const BelgeYazisi& yazi = *secim.Bul<BelgeYazisi>();
   return DefterAyariYaz(
-      {.kolonlar = secim.Bul<DefterSecenek>()->kolonlar, .yaziTipi = yazi.yaziTipi, .punto = yazi.punto},
-      firmaDizini + Dosya);
+      {.kolonlar = secim.Bul<DefterSecenek>()->kolonlar, .yaziTipi = yazi.yaziTipi, .punto = yazi.punto}, sirket);
 }
 
 }  // namespace belvani

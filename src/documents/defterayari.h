@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "core/sonuc.h"
+#include "core/veriyolu.h"
 #include "documents/defter.h"
 
 namespace belvani {
@@ -18,12 +18,12 @@ struct DefterAyari {
 
 // What the file does not tell, or tells wrongly, is as in a new DefterAyari. A row of switches that is too short is
 // completed with "on".
-DefterAyari DefterAyariOku(const std::string& dosya);
+DefterAyari DefterAyariOku(const VeriYolu& sirket);
 // An unchanged setting is not written, so a company on a read-only medium can be printed without a word.
-Durum DefterAyariYaz(const DefterAyari& ayar, const std::string& dosya);
+Durum DefterAyariYaz(const DefterAyari& ayar, const VeriYolu& sirket);
 
 // The same for the choices of the ledger: its columns and its font.
-void DefterAyariniOku(const std::string& firmaDizini, BelgeSecimi& secim);
-Durum DefterAyariniYaz(const std::string& firmaDizini, BelgeSecimi& secim);
+void DefterAyariniOku(const VeriYolu& sirket, BelgeSecimi& secim);
+Durum DefterAyariniYaz(const VeriYolu& sirket, BelgeSecimi& secim);
 
 }  // namespace belvani

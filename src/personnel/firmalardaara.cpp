@@ -1,6 +1,5 @@
 #include "personnel/firmalardaara.h"
 
-#include "core/dosya.h"
 #include "core/session/sirket.h"
 #include "core/store/satirlar.h"
 #include "core/turkce.h"
@@ -23,9 +22,9 @@ FirmaSatiri FirmaSatiriOku(Motor& motor) {
   return satir;
 }
 
-std::vector<BulunanKisi> SirketteAra(const std::string& dizin, const std::string& ad, const std::string& aranan) {
+std::vector<BulunanKisi> SirketteAra(const VeriYolu& veri, const std::string& ad, const std::string& aranan) {
   std::vector<BulunanKisi> bulunanlar;
-  const auto motor = MotorAc(dizin + ad + "/" + DepoDosyasi);
+  const auto motor = MotorAc(DepoAdresi(veri.Alt(ad)));
   motor->Calistir("pragma query_only=on");
   const FirmaSatiri firma = FirmaSatiriOku(*motor);
   const std::string firmaAdi = firma.unvan.empty() ? ad : ad + " - " + firma.unvan;
@@ -43,15 +42,15 @@ std::vector<BulunanKisi> SirketteAra(const std::string& dizin, const std::string
 
 }  // namespace
 
-std::vector<BulunanKisi> FirmalardaAra(const std::string& dataPath, std::string_view adsoy, Ilerleme& ilerleme) {
+std::vector<BulunanKisi> FirmalardaAra(const VeriYolu& veri, std::string_view adsoy, Ilerleme& ilerleme) {
   std::vector<BulunanKisi> bulunanlar;
   const std::string aranan = KucukHarf(Kirp(DenetimsizMetin(adsoy)));
   if (aranan.empty()) return bulunanlar;
-  const auto sirketler = Sirketler(dataPath);
+  const auto sirketler = Sirketler(veri);
   for (std::size_t i = 0; i < sirketler.size(); ++i) {
     if (!ilerleme.Adim(i, sirketler.size())) return bulunanlar;
     try {
-      std::ranges::move(SirketteAra(DizinSonu(dataPath), sirketler[i], aranan), std::back_inserter(bulunanlar));
+      std::ranges::move(SirketteAra(veri, sirketler[i], aranan), std::back_inserter(bulunanlar));
     } catch (const MotorHatasi&) {
       continue;  // no store, or one that cannot be read
     }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/bildirim.h"
+#include "core/veriyolu.h"
 
 namespace belvani {
 
@@ -21,6 +22,6 @@ struct BulunanKisi {
 // in their order. Stores that cannot be read are passed over; none is written. A step is a company; cancelled, it gives
 // what was found until then.
 // Example: "ıl ç" finds Işıl Çağlar.
-std::vector<BulunanKisi> FirmalardaAra(const std::string& dataPath, std::string_view adsoy, Ilerleme& ilerleme);
+std::vector<BulunanKisi> FirmalardaAra(const VeriYolu& veri, std::string_view adsoy, Ilerleme& ilerleme);
 
 }  // namespace belvani

@@ -28,11 +28,11 @@ TEST(DefterAyari, Oku) {
   };
   const test::GeciciDizin dizin;
   const std::string dosya = dizin.Yol() + "bordro.ini";
-  EXPECT_EQ(DefterAyariOku(dosya), DefterAyari{});
+  EXPECT_EQ(DefterAyariOku(dizin.Yol()), DefterAyari{});
   for (const auto& o : ornekler) {
     SCOPED_TRACE(o.ad);
     ASSERT_TRUE(DosyaYaz(dosya, o.icerik));
-    const DefterAyari ayar = DefterAyariOku(dosya);
+    const DefterAyari ayar = DefterAyariOku(dizin.Yol());
     EXPECT_EQ(DefterAnahtarMetni(ayar.kolonlar), o.kolonlar);
     EXPECT_EQ(ayar.yaziTipi, o.yaziTipi);
     EXPECT_EQ(ayar.punto, o.punto);
@@ -44,10 +44,10 @@ TEST(DefterAyari, YazilanGeriOkunur) {
   const std::string dosya = dizin.Yol() + "bordro.ini";
   ASSERT_TRUE(DosyaYaz(dosya, "[Ozel]\nKalan=1\n"));
   const DefterAyari ayar{.kolonlar = DefterAnahtarlariOku("0110"), .yaziTipi = "Çizgi Sans", .punto = 12};
-  ASSERT_TRUE(DefterAyariYaz(ayar, dosya));
-  EXPECT_EQ(DefterAyariOku(dosya), ayar);
+  ASSERT_TRUE(DefterAyariYaz(ayar, dizin.Yol()));
+  EXPECT_EQ(DefterAyariOku(dizin.Yol()), ayar);
   EXPECT_NE(DosyaOku(dosya)->find("Kalan=1"), std::string::npos);
-  EXPECT_FALSE(DefterAyariYaz(ayar, dizin.Yol() + "yok/bordro.ini"));
+  EXPECT_FALSE(DefterAyariYaz(ayar, dizin.Yol() + "yok"));
 }
 
 }  // namespace

@@ -58,17 +58,17 @@ Durum YaziYaz(const std::string& on, const YaziTipi& y) {
 
 }  // namespace
 
-std::string IstasyonDosyasi(const Oturum& o) {
+IniDosyasi IstasyonDosyasi(const Oturum& o) {
   std::string ad = o.BilgisayarAdi;
   std::replace(ad.begin(), ad.end(), '/', '-');
   const auto ayni = [&](std::string_view dosya) { return AdEsit(dosya, ad); };
   const bool karisir =
       ad.empty() || ad.front() == '.' || std::any_of(std::begin(SirketDosyalari), std::end(SirketDosyalari), ayni);
-  return o.FirmaDizini + (karisir ? "bilgisayar-" : "") + ad + ".dat";
+  return {o.FirmaDizini, (karisir ? "bilgisayar-" : "") + ad + ".dat"};
 }
 
 GorunumAyari GorunumOku(const Oturum& o) {
-  const std::string dosya = IstasyonDosyasi(o);
+  const IniDosyasi dosya = IstasyonDosyasi(o);
   const auto oku = [&](const char* anahtar, std::string_view yoksa) { return IniOku(Bolum, anahtar, yoksa, dosya); };
   const GorunumAyari ilk;
   GorunumAyari a;

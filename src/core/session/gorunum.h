@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/ini.h"
 #include "core/session/oturum.h"
 #include "core/session/renkler.h"
 #include "core/sonuc.h"
@@ -32,7 +33,7 @@ struct GorunumAyari {
 };
 
 // The workstation file. A computer that is named like a file of the company ("tolu") gets a name beside it.
-std::string IstasyonDosyasi(const Oturum& o);
+IniDosyasi IstasyonDosyasi(const Oturum& o);
 
 // A key that is missing or holds what cannot be (a size of 0, a path that leaves PrgPath) reads as its default.
 GorunumAyari GorunumOku(const Oturum& o);

@@ -9,8 +9,8 @@ constexpr std::string_view Bolum = "Muhasebe";
 constexpr std::pair<const char*, std::string Muhasebeci::*> Anahtarlar[] = {
     {"adsoyad", &Muhasebeci::adsoyad}, {"tcno", &Muhasebeci::tcno}, {"sicil", &Muhasebeci::sicil}};
 
-std::string Dosya(const Oturum& o) {
-  return o.FirmaDizini + "bordro.ini";
+IniDosyasi Dosya(const Oturum& o) {
+  return {o.FirmaDizini, "bordro.ini"};
 }
 
 }  // namespace

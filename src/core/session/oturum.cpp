@@ -78,9 +78,9 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
 Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim) {
   const auto dizin = SirketDizini(o.DataPath, sirket);
   if (!dizin) return dizin.Kusuru();
-  if (!o.depo.VeritabaniAc(*dizin + DepoDosyasi, bildirim)) {
+  if (!o.depo.VeritabaniAc(DepoAdresi(*dizin), bildirim)) {
     o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
-    return Kusur{"Database Açılamadı: " + *dizin + DepoDosyasi + "\n" + o.depo.db.SonHata()};
+    return Kusur{"Database Açılamadı: " + DepoAdresi(*dizin) + "\n" + o.depo.db.SonHata()};
   }
   o.FirmaKod = *SirketAdi(sirket);
   o.FirmaDizini = *dizin;

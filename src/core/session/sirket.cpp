@@ -1,15 +1,11 @@
 #include "core/session/sirket.h"
 
 #include <algorithm>
-#include <filesystem>
 
-#include "core/dosya.h"
 #include "core/turkce.h"
 
 namespace belvani {
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr std::size_t EnCokHarf = 64;
 constexpr std::size_t EnCokBayt = 200;  // a file name holds 255, and files of the company lie beside it while written
@@ -31,26 +27,24 @@ Sonuc<std::string> SirketAdi(std::string_view metin) {
   return ad;
 }
 
-Sonuc<std::string> SirketDizini(const std::string& dataPath, std::string_view ad) {
+Sonuc<std::string> SirketDizini(const VeriYolu& veri, std::string_view ad) {
   const auto aranan = SirketAdi(ad);
   if (!aranan) return aranan.Kusuru();
   // The kept form first; a directory made by hand may be written in any case.
-  if (DizinVar(dataPath + *aranan)) return DizinSonu(dataPath + *aranan);
-  for (const auto& sirket : Sirketler(dataPath))
-    if (BuyukHarf(sirket) == *aranan) return DizinSonu(dataPath + sirket);
+  if (veri.AltVar(*aranan)) return veri.Alt(*aranan).Adres();
+  for (const auto& sirket : Sirketler(veri))
+    if (BuyukHarf(sirket) == *aranan) return veri.Alt(sirket).Adres();
   return Kusur{"Şirket Bulunamadı: " + *aranan};
 }
 
-std::vector<std::string> Sirketler(const std::string& dataPath) {
-  std::vector<std::string> adlar;
-  std::error_code hata;
-  for (fs::directory_iterator i(dataPath, hata), son; !hata && i != son; i.increment(hata)) {
-    std::error_code tur;
-    const std::string ad = i->path().filename();
-    if (i->is_directory(tur) && ad.front() != '.') adlar.push_back(ad);
-  }
+std::vector<std::string> Sirketler(const VeriYolu& veri) {
+  std::vector<std::string> adlar = veri.Altlar();
   std::sort(adlar.begin(), adlar.end(), [](const auto& a, const auto& b) { return TurkceKarsilastir(a, b) < 0; });
   return adlar;
+}
+
+std::string DepoAdresi(const VeriYolu& sirket) {
+  return sirket.Adres(DepoDosyasi);
 }
 
 }  // namespace belvani

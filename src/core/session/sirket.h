@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/sonuc.h"
+#include "core/veriyolu.h"
 
 namespace belvani {
 
@@ -16,9 +16,12 @@ inline const std::string DepoDosyasi = "tolu.dat";
 Sonuc<std::string> SirketAdi(std::string_view metin);
 
 // The company's directory with a separator at its end, found without regard to Turkish case; the failure names it.
-Sonuc<std::string> SirketDizini(const std::string& dataPath, std::string_view ad);
+Sonuc<std::string> SirketDizini(const VeriYolu& veri, std::string_view ad);
 
 // Names of all company directories, in Turkish order.
-std::vector<std::string> Sirketler(const std::string& dataPath);
+std::vector<std::string> Sirketler(const VeriYolu& veri);
+
+// The address of a company's store.
+std::string DepoAdresi(const VeriYolu& sirket);
 
 }  // namespace belvani

@@ -12,10 +12,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-SirketSatiri SatirOku(const std::string& dataPath, const std::string& ad) {
+SirketSatiri SatirOku(const VeriYolu& veri, const std::string& ad) {
   Veritabani db;
   Imlec firma;
-  if (!db.DbAc(dataPath + ad + "/" + DepoDosyasi) || !db.TabloAc(firma, "firma") || !firma.IlkKayit())
+  if (!db.DbAc(DepoAdresi(veri.Alt(ad))) || !db.TabloAc(firma, "firma") || !firma.IlkKayit())
     return {ad, "Database'e Ulaşılamadı", ""};
   const std::string ay = firma.MetinOku("firmaay");
   return {ad, firma.MetinOku("unvan"), (ay.size() < 2 ? "0" + ay : ay) + "-" + firma.MetinOku("firmayil")};
@@ -73,12 +73,12 @@ Durum DiziniSil(const std::string& dizin) {
 
 }  // namespace
 
-std::vector<SirketSatiri> SirketListesi(const std::string& dataPath, Ilerleme* ilerleme) {
+std::vector<SirketSatiri> SirketListesi(const VeriYolu& veri, Ilerleme* ilerleme) {
   std::vector<SirketSatiri> satirlar;
-  const auto adlar = Sirketler(dataPath);
+  const auto adlar = Sirketler(veri);
   for (const auto& ad : adlar) {
     if (ilerleme != nullptr && !ilerleme->Adim(satirlar.size(), adlar.size())) break;
-    satirlar.push_back(SatirOku(DizinSonu(dataPath), ad));
+    satirlar.push_back(SatirOku(veri, ad));
   }
   return satirlar;
 }

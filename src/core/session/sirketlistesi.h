@@ -9,6 +9,7 @@
 
 #include "core/bildirim.h"
 #include "core/session/oturum.h"
+#include "core/veriyolu.h"
 
 namespace belvani {
 
@@ -21,7 +22,7 @@ struct SirketSatiri {
 };
 
 // Every company below the data path, in Turkish order of the names. Stopped by `ilerleme`, those that were read.
-std::vector<SirketSatiri> SirketListesi(const std::string& dataPath, Ilerleme* ilerleme = nullptr);
+std::vector<SirketSatiri> SirketListesi(const VeriYolu& veri, Ilerleme* ilerleme = nullptr);
 
 // Names of the directories that may be deleted: all real ones (no links) but that of the session's company, whose name
 // is compared without regard to Turkish case.

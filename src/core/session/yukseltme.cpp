@@ -157,7 +157,7 @@ AdimIsaretleri AcikAdimlar(Tek depoVersiyonu) {
 
 GuncellemeSonucu VeritabaniGuncelle(Oturum& o, std::size_t adim, Tutar sskTaban, Bildirim& bildirim) {
   assert(adim < AdimSayisi);
-  const std::string yol = o.FirmaDizini + DepoDosyasi;
+  const std::string yol = DepoAdresi(o.FirmaDizini);
   o.depo.TablolariKapat(KapatmaKapsami::YalnizImlecler);
   if (!o.depo.db.DbAc(yol)) {
     bildirim.Uyari("Dosyalar Güvenli Kapatılıp Açılamadı..");

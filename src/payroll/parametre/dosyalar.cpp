@@ -1,63 +1,44 @@
 #include "payroll/parametre/dosyalar.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <optional>
 #include <utility>
 
-#include "core/dosya.h"
 #include "payroll/parametre/kayitlar.h"
 
 namespace belvani {
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr std::size_t EnCokOkunan = 1u << 20;
 constexpr std::size_t EnAzKanunBoyu = 72;  // the four built-in rows
 constexpr std::size_t EnAzFazlaMesaiBoyu = 9;
 
-struct OkunanDosya {
-  std::string baytlar = {};
-  std::uintmax_t boy = 0;  // of the file; more than `baytlar` holds when it is absurdly large
-  bool okunamadi = false;  // it is there, but its bytes cannot be had: it must not be written over
-};
-
-OkunanDosya Oku(const std::string& yol) {
-  std::error_code hata;
-  if (!fs::exists(yol, hata)) return {.okunamadi = bool(hata)};
-  if (auto baytlar = DosyaOku(yol, EnCokOkunan)) return {*baytlar, baytlar->size(), false};
-  const std::uintmax_t boy = fs::is_regular_file(yol, hata) ? fs::file_size(yol, hata) : 0;
-  if (!hata && boy > EnCokOkunan) return {{}, boy, false};
-  return {.okunamadi = true};
-}
-
-// Reads the files of one directory and gathers what there is to say about them.
+// Reads the files of one place and gathers what there is to say about them.
 class Yukleyici {
  public:
   // An absent file is worth a word in the data path; a company has its files only once somebody changed something.
   enum class Eksik { Bildirilir, Olagan };
 
-  Yukleyici(const std::string& dizin, Eksik eksik, BozukDosya bozuk = BozukDosya::Onarilir)
-      : dizin_(DizinSonu(dizin)), eksik_(eksik), bozuk_(bozuk) {}
+  Yukleyici(const VeriYolu& yol, Eksik eksik, BozukDosya bozuk = BozukDosya::Onarilir)
+      : yol_(yol), eksik_(eksik), bozuk_(bozuk) {}
 
   // The record where the file has its size, else nothing; `sonuc` tells the user what then happens.
   template <class Kayit>
   std::optional<typename Kayit::Deger> Al(const std::string& sonuc) {
-    return Coz<Kayit>(Oku(dizin_ + std::string(Kayit::Dosya)), sonuc);
+    return Coz<Kayit>(Bak(Kayit::Dosya), sonuc);
   }
 
   // The same, but a file of another size is replaced by the built-in record.
   template <class Kayit>
   typename Kayit::Deger AlYaDaYaz(const typename Kayit::Deger& hazir, const std::string& sonuc) {
-    const OkunanDosya dosya = Oku(dizin_ + std::string(Kayit::Dosya));
+    const DosyaHali dosya = Bak(Kayit::Dosya);
     if (const auto deger = Coz<Kayit>(dosya, sonuc)) return *deger;
     Onar(Kayit::Dosya, dosya, KayitBaytlari<Kayit>(hazir));
     return hazir;
   }
 
   template <class Kayit>
-  std::optional<typename Kayit::Deger> Coz(const OkunanDosya& dosya, const std::string& sonuc) {
+  std::optional<typename Kayit::Deger> Coz(const DosyaHali& dosya, const std::string& sonuc) {
     if (dosya.okunamadi || dosya.boy != Kayit::Boy) {
       BoyUyarisi(Kayit::Dosya, dosya, std::to_string(Kayit::Boy) + " bayt olmalıydı", sonuc);
       return std::nullopt;
@@ -73,8 +54,7 @@ class Yukleyici {
     return cozum.deger;
   }
 
-  void BoyUyarisi(std::string_view ad, const OkunanDosya& dosya, const std::string& beklenen,
-                  const std::string& sonuc) {
+  void BoyUyarisi(std::string_view ad, const DosyaHali& dosya, const std::string& beklenen, const std::string& sonuc) {
     if (dosya.okunamadi)
       Uyar(ad, "okunamadı: " + sonuc);
     else if (dosya.boy > 0)
@@ -84,10 +64,10 @@ class Yukleyici {
   }
 
   // Puts the built-in record in the place of a file that does not serve, so far as that is wanted.
-  void Onar(std::string_view ad, const OkunanDosya& dosya, const std::string& baytlar) {
+  void Onar(std::string_view ad, const DosyaHali& dosya, const std::string& baytlar) {
     const bool bosYer = dosya.boy == 0 && EksikligiOlagan(ad);
     if (dosya.okunamadi || (bozuk_ == BozukDosya::Kalir && !bosYer)) return;
-    if (const auto durum = DosyaYaz(dizin_ + std::string(ad), baytlar); !durum) uyarilar_.push_back(durum.KusurMetni());
+    if (const auto durum = yol_.Yaz(ad, baytlar); !durum) uyarilar_.push_back(durum.KusurMetni());
   }
 
   void Uyar(std::string_view ad, const std::string& metin) { uyarilar_.push_back(std::string(ad) + " " + metin); }
@@ -95,11 +75,11 @@ class Yukleyici {
   // Nobody downloads or sends kanun.dat.
   bool EksikligiOlagan(std::string_view ad) const { return eksik_ == Eksik::Olagan || ad == KanunKaydi::Dosya; }
 
-  const std::string& Dizin() const { return dizin_; }
+  DosyaHali Bak(std::string_view ad) const { return yol_.Bak(ad, EnCokOkunan); }
   std::vector<std::string> Uyarilar() && { return std::move(uyarilar_); }
 
  private:
-  std::string dizin_;
+  const VeriYolu& yol_;
   Eksik eksik_;
   BozukDosya bozuk_;
   std::vector<std::string> uyarilar_;
@@ -121,7 +101,7 @@ std::string KanunBaytlari(const Kanunlar& kanunlar) {
 }
 
 Kanunlar KanunlariYukle(Yukleyici& y) {
-  OkunanDosya dosya = Oku(y.Dizin() + std::string(KanunKaydi::Dosya));
+  DosyaHali dosya = y.Bak(KanunKaydi::Dosya);
   if (dosya.boy > dosya.baytlar.size()) dosya.okunamadi = true;
   if (dosya.okunamadi || dosya.boy < EnAzKanunBoyu) {
     y.BoyUyarisi(KanunKaydi::Dosya, dosya, "en az 72 bayt olmalıydı", "hazır dönemler alındı.");
@@ -137,15 +117,15 @@ Kanunlar KanunlariYukle(Yukleyici& y) {
 }
 
 template <class Kayit>
-Durum Kaydet(const std::string& dizin, const typename Kayit::Deger& deger) {
-  return DosyaYaz(DizinSonu(dizin) + std::string(Kayit::Dosya), KayitBaytlari<Kayit>(deger));
+Durum Kaydet(const VeriYolu& yol, const typename Kayit::Deger& deger) {
+  return yol.Yaz(Kayit::Dosya, KayitBaytlari<Kayit>(deger));
 }
 
 }  // namespace
 
-Yukleme<YasalParametreler> YasalDosyalariYukle(const std::string& dataPath, const YasalParametreler& simdiki,
+Yukleme<YasalParametreler> YasalDosyalariYukle(const VeriYolu& veri, const YasalParametreler& simdiki,
                                                BozukDosya bozuk) {
-  Yukleyici y(dataPath, Yukleyici::Eksik::Bildirilir, bozuk);
+  Yukleyici y(veri, Yukleyici::Eksik::Bildirilir, bozuk);
   YasalParametreler p;
   p.oranlar = y.Al<YasalKaydi>("yasal oranlar sıfır alındı.").value_or(YasalOranlar());
   p.gv = y.Al<GvKaydi>("gelir vergisi tablosu değişmedi.").value_or(simdiki.gv);
@@ -155,16 +135,16 @@ Yukleme<YasalParametreler> YasalDosyalariYukle(const std::string& dataPath, cons
   return {p, std::move(y).Uyarilar()};
 }
 
-Yukleme<GvTablosu> OzelGvYukle(const std::string& dataPath) {
-  Yukleyici y(dataPath, Yukleyici::Eksik::Bildirilir);
+Yukleme<GvTablosu> OzelGvYukle(const VeriYolu& veri) {
+  Yukleyici y(veri, Yukleyici::Eksik::Bildirilir);
   const auto tablo = y.Al<OzelGvKaydi>("özel gider vergi tablosu sıfır alındı.");
   return {tablo.value_or(GvTablosu()), std::move(y).Uyarilar()};
 }
 
-Yukleme<KazancBayraklari> KazancBayraklariYukle(const std::string& firmaDizini) {
-  Yukleyici y(firmaDizini, Yukleyici::Eksik::Olagan);
+Yukleme<KazancBayraklari> KazancBayraklariYukle(const VeriYolu& sirket) {
+  Yukleyici y(sirket, Yukleyici::Eksik::Olagan);
   KazancBayraklari bayraklar = VarsayilanKazancBayraklari();
-  const OkunanDosya kazanc = Oku(y.Dizin() + std::string(KazancKaydi::Dosya));
+  const DosyaHali kazanc = y.Bak(KazancKaydi::Dosya);
   if (kazanc.boy == 0 && !kazanc.okunamadi)
     y.Onar(KazancKaydi::Dosya, kazanc, KayitBaytlari<KazancKaydi>(bayraklar.k));
   else
@@ -173,10 +153,10 @@ Yukleme<KazancBayraklari> KazancBayraklariYukle(const std::string& firmaDizini) 
   return {bayraklar, std::move(y).Uyarilar()};
 }
 
-Yukleme<FazlaMesailer> FazlaMesaiYukle(const std::string& firmaDizini) {
-  Yukleyici y(firmaDizini, Yukleyici::Eksik::Olagan);
+Yukleme<FazlaMesailer> FazlaMesaiYukle(const VeriYolu& sirket) {
+  Yukleyici y(sirket, Yukleyici::Eksik::Olagan);
   FazlaMesailer mesailer = VarsayilanFazlaMesailer();
-  const OkunanDosya dosya = Oku(y.Dizin() + std::string(FazlaMesaiKaydi::Dosya));
+  const DosyaHali dosya = y.Bak(FazlaMesaiKaydi::Dosya);
   const std::size_t tamBoy = mesailer.size() * FazlaMesaiKaydi::Boy;
   if (dosya.okunamadi || dosya.boy != tamBoy)
     y.BoyUyarisi(FazlaMesaiKaydi::Dosya, dosya, std::to_string(tamBoy) + " bayt olmalıydı",
@@ -189,62 +169,62 @@ Yukleme<FazlaMesailer> FazlaMesaiYukle(const std::string& firmaDizini) {
   return {mesailer, std::move(y).Uyarilar()};
 }
 
-Yukleme<Sablon> SablonYukle(const std::string& firmaDizini, BozukDosya bozuk) {
-  Yukleyici y(firmaDizini, Yukleyici::Eksik::Olagan, bozuk);
+Yukleme<Sablon> SablonYukle(const VeriYolu& sirket, BozukDosya bozuk) {
+  Yukleyici y(sirket, Yukleyici::Eksik::Olagan, bozuk);
   const Sablon sablon = y.AlYaDaYaz<SablonKaydi>(VarsayilanSablon(), "hazır şablon yazıldı.");
   return {sablon, std::move(y).Uyarilar()};
 }
 
-Yukleme<Sablon> SablonOku(const std::string& firmaDizini) {
-  Yukleyici y(firmaDizini, Yukleyici::Eksik::Olagan);
+Yukleme<Sablon> SablonOku(const VeriYolu& sirket) {
+  Yukleyici y(sirket, Yukleyici::Eksik::Olagan);
   const auto sablon = y.Al<SablonKaydi>("hazır şablon alındı.");
   return {sablon.value_or(VarsayilanSablon()), std::move(y).Uyarilar()};
 }
 
-Durum YasalOranlarKaydet(const std::string& dataPath, const YasalOranlar& oranlar) {
-  return Kaydet<YasalKaydi>(dataPath, oranlar);
+Durum YasalOranlarKaydet(const VeriYolu& veri, const YasalOranlar& oranlar) {
+  return Kaydet<YasalKaydi>(veri, oranlar);
 }
 
-Durum GvTablosuKaydet(const std::string& dataPath, const GvTablosu& tablo) {
-  return Kaydet<GvKaydi>(dataPath, tablo);
+Durum GvTablosuKaydet(const VeriYolu& veri, const GvTablosu& tablo) {
+  return Kaydet<GvKaydi>(veri, tablo);
 }
 
-Durum AgiTablosuKaydet(const std::string& dataPath, const AgiTablosu& tablo) {
-  return Kaydet<AgiKaydi>(dataPath, tablo);
+Durum AgiTablosuKaydet(const VeriYolu& veri, const AgiTablosu& tablo) {
+  return Kaydet<AgiKaydi>(veri, tablo);
 }
 
-Durum HesapTurleriKaydet(const std::string& dataPath, const HesapTurleri& turler) {
-  return Kaydet<HesapTurKaydi>(dataPath, turler);
+Durum HesapTurleriKaydet(const VeriYolu& veri, const HesapTurleri& turler) {
+  return Kaydet<HesapTurKaydi>(veri, turler);
 }
 
-Durum KanunlarKaydet(const std::string& dataPath, const Kanunlar& kanunlar) {
+Durum KanunlarKaydet(const VeriYolu& veri, const Kanunlar& kanunlar) {
   for (const auto& satir : kanunlar) {
     if (satir.bastar.Bos()) return Kusur{"Kanun Başlangıç Tarihi Hatalı"};
     if (satir.bittar.Bos()) return Kusur{"Kanun Bitiş Tarihi Hatalı"};
   }
-  return DosyaYaz(DizinSonu(dataPath) + std::string(KanunKaydi::Dosya), KanunBaytlari(kanunlar));
+  return veri.Yaz(KanunKaydi::Dosya, KanunBaytlari(kanunlar));
 }
 
-Durum OzelGvKaydet(const std::string& dataPath, const GvTablosu& tablo) {
-  return Kaydet<OzelGvKaydi>(dataPath, tablo);
+Durum OzelGvKaydet(const VeriYolu& veri, const GvTablosu& tablo) {
+  return Kaydet<OzelGvKaydi>(veri, tablo);
 }
 
-Durum KazancKaydet(const std::string& firmaDizini, const KazancBayraklari& bayraklar) {
-  return Kaydet<KazancKaydi>(firmaDizini, bayraklar.k);
+Durum KazancKaydet(const VeriYolu& sirket, const KazancBayraklari& bayraklar) {
+  return Kaydet<KazancKaydi>(sirket, bayraklar.k);
 }
 
-Durum YardimKaydet(const std::string& firmaDizini, const KazancBayraklari& bayraklar) {
-  return Kaydet<YardimKaydi>(firmaDizini, bayraklar.y);
+Durum YardimKaydet(const VeriYolu& sirket, const KazancBayraklari& bayraklar) {
+  return Kaydet<YardimKaydi>(sirket, bayraklar.y);
 }
 
-Durum FazlaMesaiKaydet(const std::string& firmaDizini, const FazlaMesailer& mesailer) {
+Durum FazlaMesaiKaydet(const VeriYolu& sirket, const FazlaMesailer& mesailer) {
   std::string baytlar;
   for (const auto& mesai : mesailer) baytlar += KayitBaytlari<FazlaMesaiKaydi>(mesai);
-  return DosyaYaz(DizinSonu(firmaDizini) + std::string(FazlaMesaiKaydi::Dosya), baytlar);
+  return sirket.Yaz(FazlaMesaiKaydi::Dosya, baytlar);
 }
 
-Durum SablonKaydet(const std::string& firmaDizini, const Sablon& sablon) {
-  return Kaydet<SablonKaydi>(firmaDizini, sablon);
+Durum SablonKaydet(const VeriYolu& sirket, const Sablon& sablon) {
+  return Kaydet<SablonKaydi>(sirket, sablon);
 }
 
 }  // namespace belvani

@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "core/sonuc.h"
+#include "core/veriyolu.h"
 #include "payroll/parametre/parametreler.h"
 
 namespace belvani {
@@ -40,35 +40,35 @@ enum class BozukDosya { Onarilir, Kalir };
 //   kanun.dat   shorter than 72 bytes: the four built-in rows are written; bytes after the last whole row are passed
 //               over.
 // An absent kanun.dat is ordinary and not told.
-Yukleme<YasalParametreler> YasalDosyalariYukle(const std::string& dataPath, const YasalParametreler& simdiki,
+Yukleme<YasalParametreler> YasalDosyalariYukle(const VeriYolu& veri, const YasalParametreler& simdiki,
                                                BozukDosya bozuk = BozukDosya::Onarilir);
 
 // ozgvtbl.dat; not 96 bytes: all zero, the file stays.
-Yukleme<GvTablosu> OzelGvYukle(const std::string& dataPath);
+Yukleme<GvTablosu> OzelGvYukle(const VeriYolu& veri);
 
 // kazanc.dat: empty: the built-in flags are written; not 9 bytes: the built-in flags, the file stays.
 // yardim.dat: not 11 bytes: zeros, the file stays. That a company has none of these files is ordinary.
-Yukleme<KazancBayraklari> KazancBayraklariYukle(const std::string& firmaDizini);
+Yukleme<KazancBayraklari> KazancBayraklariYukle(const VeriYolu& sirket);
 
 // fmesai.dat; shorter than 9 bytes: the built-in lines; longer: the lines that it holds whole, built-in ones for the
 // rest. The file stays.
-Yukleme<FazlaMesailer> FazlaMesaiYukle(const std::string& firmaDizini);
+Yukleme<FazlaMesailer> FazlaMesaiYukle(const VeriYolu& sirket);
 
 // sablon.dat; not 135 bytes: the built-in template. SablonYukle (payroll screen, mass run) also writes it then;
 // SablonOku (the screen that edits it) leaves the file.
-Yukleme<Sablon> SablonYukle(const std::string& firmaDizini, BozukDosya bozuk = BozukDosya::Onarilir);
-Yukleme<Sablon> SablonOku(const std::string& firmaDizini);
+Yukleme<Sablon> SablonYukle(const VeriYolu& sirket, BozukDosya bozuk = BozukDosya::Onarilir);
+Yukleme<Sablon> SablonOku(const VeriYolu& sirket);
 
 // Each writes its file whole: the old one stays where that fails.
-Durum YasalOranlarKaydet(const std::string& dataPath, const YasalOranlar& oranlar);
-Durum GvTablosuKaydet(const std::string& dataPath, const GvTablosu& tablo);
-Durum AgiTablosuKaydet(const std::string& dataPath, const AgiTablosu& tablo);
-Durum HesapTurleriKaydet(const std::string& dataPath, const HesapTurleri& turler);
-Durum KanunlarKaydet(const std::string& dataPath, const Kanunlar& kanunlar);
-Durum OzelGvKaydet(const std::string& dataPath, const GvTablosu& tablo);
-Durum KazancKaydet(const std::string& firmaDizini, const KazancBayraklari& bayraklar);
-Durum YardimKaydet(const std::string& firmaDizini, const KazancBayraklari& bayraklar);
-Durum FazlaMesaiKaydet(const std::string& firmaDizini, const FazlaMesailer& mesailer);
-Durum SablonKaydet(const std::string& firmaDizini, const Sablon& sablon);
+Durum YasalOranlarKaydet(const VeriYolu& veri, const YasalOranlar& oranlar);
+Durum GvTablosuKaydet(const VeriYolu& veri, const GvTablosu& tablo);
+Durum AgiTablosuKaydet(const VeriYolu& veri, const AgiTablosu& tablo);
+Durum HesapTurleriKaydet(const VeriYolu& veri, const HesapTurleri& turler);
+Durum KanunlarKaydet(const VeriYolu& veri, const Kanunlar& kanunlar);
+Durum OzelGvKaydet(const VeriYolu& veri, const GvTablosu& tablo);
+Durum KazancKaydet(const VeriYolu& sirket, const KazancBayraklari& bayraklar);
+Durum YardimKaydet(const VeriYolu& sirket, const KazancBayraklari& bayraklar);
+Durum FazlaMesaiKaydet(const VeriYolu& sirket, const FazlaMesailer& mesailer);
+Durum SablonKaydet(const VeriYolu& sirket, const Sablon& sablon);
 
 }  // namespace belvani

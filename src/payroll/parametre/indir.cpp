@@ -197,36 +197,32 @@ Sonuc<ParametreBaytlari> HepsiniAl(const std::string& kaynak, const IndirmeSinir
 // What a file held before it was replaced; nothing: it did not exist.
 using EskiHal = std::optional<std::string>;
 
-Sonuc<EskiHal> EskiHaliAl(const std::string& yol) {
-  std::error_code hata;
-  if (const auto baytlar = DosyaOku(yol)) return EskiHal(*baytlar);
-  if (!fs::exists(yol, hata) && !hata) return EskiHal();
-  return Kusur{"Eski parametre dosyası okunamadı, değiştirilmedi: " + yol};
+Sonuc<EskiHal> EskiHaliAl(const VeriYolu& veri, std::string_view ad) {
+  DosyaHali hal = veri.Bak(ad);
+  if (hal.okunamadi || hal.boy > hal.baytlar.size())
+    return Kusur{"Eski parametre dosyası okunamadı, değiştirilmedi: " + veri.Adres(ad)};
+  return hal.var ? EskiHal(std::move(hal.baytlar)) : EskiHal();
 }
 
 // The text of what could not be put back; "" when all is as it was.
-std::string GeriKoy(const std::string& yol, const EskiHal& eski) {
-  if (eski) {
-    const auto durum = DosyaYaz(yol, *eski);
-    return durum ? std::string() : "; eski hali geri konamadı: " + durum.KusurMetni();
-  }
-  std::error_code hata;
-  fs::remove(yol, hata);
-  return hata ? "; silinemedi: " + yol : std::string();
+std::string GeriKoy(const VeriYolu& veri, std::string_view ad, const EskiHal& eski) {
+  const Durum durum = eski ? veri.Yaz(ad, *eski) : veri.Sil(ad);
+  if (durum) return {};
+  return (eski ? "; eski hali geri konamadı: " : "; ") + durum.KusurMetni();
 }
 
 }  // namespace
 
-Durum ParametreIndir(const std::string& url, const std::string& dosya, const IndirmeSiniri& sinir) {
+Durum ParametreIndir(const std::string& url, const VeriYolu& veri, std::string_view ad, const IndirmeSiniri& sinir) {
   const auto baytlar = Al(url, sinir);
   if (!baytlar) return baytlar.Kusuru();
-  return DosyaYaz(dosya, *baytlar);
+  return veri.Yaz(ad, *baytlar);
 }
 
-Durum ParametreDosyasiIndir(const std::string& dataPath, ParametreDosyasi dosya, const std::string& kaynak,
+Durum ParametreDosyasiIndir(const VeriYolu& veri, ParametreDosyasi dosya, const std::string& kaynak,
                             const IndirmeSiniri& sinir) {
   const Parametre& p = parametreler[std::size_t(dosya)];
-  return ParametreIndir(UzakAdres(kaynak, p), DizinSonu(dataPath) + std::string(p.yerel), sinir);
+  return ParametreIndir(UzakAdres(kaynak, p), veri, p.yerel, sinir);
 }
 
 Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira) {
@@ -245,22 +241,22 @@ Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira) {
   return DosyaAdresi(fs::absolute(kok).lexically_normal());
 }
 
-Durum ParametreKur(const std::string& dataPath, const std::string& kaynak, const IndirmeSiniri& sinir) {
+Durum ParametreKur(const VeriYolu& veri, const std::string& kaynak, const IndirmeSiniri& sinir) {
   const auto yeni = HepsiniAl(kaynak, sinir);
   if (!yeni) return yeni.Kusuru();
-  std::array<std::string, parametreler.size()> yollar;
+  const auto kilit = veri.Kilitle();
+  if (!kilit) return kilit.Kusuru();
   std::array<EskiHal, parametreler.size()> eski;
   for (std::size_t i = 0; i < parametreler.size(); ++i) {
-    yollar[i] = DizinSonu(dataPath) + std::string(parametreler[i].yerel);
-    auto hal = EskiHaliAl(yollar[i]);
+    auto hal = EskiHaliAl(veri, parametreler[i].yerel);
     if (!hal) return hal.Kusuru();
     eski[i] = std::move(*hal);
   }
   for (std::size_t i = 0; i < parametreler.size(); ++i) {
-    const auto durum = DosyaYaz(yollar[i], (*yeni)[i]);
+    const auto durum = veri.Yaz(parametreler[i].yerel, (*yeni)[i]);
     if (durum) continue;
     std::string metin = durum.KusurMetni();
-    while (i-- > 0) metin += GeriKoy(yollar[i], eski[i]);
+    while (i-- > 0) metin += GeriKoy(veri, parametreler[i].yerel, eski[i]);
     return Kusur{metin};
   }
   return Tamam();

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "core/bildirim.h"
-#include "core/sonuc.h"
+#include "core/veriyolu.h"
 #include "payroll/parametre/mevzuat.h"
 
 namespace belvani {
@@ -22,7 +22,8 @@ struct IndirmeSiniri {
 };
 
 // Fetches an address over a file, byte for byte and unchecked: what it holds shows at the next load.
-Durum ParametreIndir(const std::string& url, const std::string& dosya, const IndirmeSiniri& sinir = {});
+Durum ParametreIndir(const std::string& url, const VeriYolu& veri, std::string_view ad,
+                     const IndirmeSiniri& sinir = {});
 
 // The address to fetch the parameters of a month from: the setting `ParametreAdresi` where it is given, else a file:
 // address of the shipped figures, written out in the user's cache directory. No separator at the end.
@@ -31,11 +32,11 @@ Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira = Lira::Yeni);
 // Fetches one of the four files from `kaynak` (as ParametreAdresi gives it) over that of the data path, as
 // ParametreIndir does.
 enum class ParametreDosyasi { Yasal, Gv, Agi, HesapTur };
-Durum ParametreDosyasiIndir(const std::string& dataPath, ParametreDosyasi dosya, const std::string& kaynak,
+Durum ParametreDosyasiIndir(const VeriYolu& veri, ParametreDosyasi dosya, const std::string& kaynak,
                             const IndirmeSiniri& sinir = {});
 
 // Fetches the four files from `kaynak` (as ParametreAdresi gives it), checks their sizes, and only then replaces those
 // of the data path: all four or none.
-Durum ParametreKur(const std::string& dataPath, const std::string& kaynak, const IndirmeSiniri& sinir = {});
+Durum ParametreKur(const VeriYolu& veri, const std::string& kaynak, const IndirmeSiniri& sinir = {});
 
 }  // namespace belvani

@@ -61,7 +61,7 @@ void firsil::ListeyiDoldur() {
 void firsil::Sec(int satir) {
   if (satir < 0) return;
   secilen_ = Utf8(liste_->TextByName(satir, "kod"));
-  dizin_->DegerKoy(Oturumu().DataPath + secilen_);
+  dizin_->DegerKoy(VeriYolu(Oturumu().DataPath).Adres(secilen_));
   sil_->setFocus();
 }
 

@@ -127,10 +127,11 @@ void pergir::Yazdir() {
   auto form = Okunan();
   if (!form) return;
   const auto& sskDurumu = dynamic_cast<QComboBox&>(*Denetim("sskdurum").Odak());
-  const auto belge = GirisBildirgesiBelgesi({.form = std::move(*form),
-                                             .firma = FirmaOku(Oturumu()),
-                                             .sskDurumu = Utf8(sskDurumu.currentText()),
-                                             .amblemPng = DosyaOku(Oturumu().DataPath + AmblemDosyasi).value_or("")});
+  const auto belge =
+      GirisBildirgesiBelgesi({.form = std::move(*form),
+                              .firma = FirmaOku(Oturumu()),
+                              .sskDurumu = Utf8(sskDurumu.currentText()),
+                              .amblemPng = VeriYolu(Oturumu().DataPath).Oku(AmblemDosyasi).value_or("")});
   BelgeBas(Baglam(), *belge);
 }
 

@@ -109,7 +109,7 @@ TEST_F(GorunumTest, WorkstationFile) {
   EXPECT_EQ(GorunumOku(o).imagepath + GorunumOku(o).backcolor, "image/soft/&H00ECFAE4&");
   EXPECT_EQ(GorunumOku(o).labelfontsize, 10);
   o.BilgisayarAdi = "TOLU";  // a computer named like the store must not write into it
-  EXPECT_EQ(IstasyonDosyasi(o), d.Yol() + "bilgisayar-TOLU.dat");
+  EXPECT_EQ(IstasyonDosyasi(o).Adres(), d.Yol() + "bilgisayar-TOLU.dat");
 }
 
 TEST_F(GorunumTest, FontsAndColourTexts) {

@@ -33,7 +33,7 @@ TEST_F(Indir, TheBytesOfAnAddressLandAsTheyAre) {
        Tablo<std::string, std::string>{{sunucu.Kok() + "/git", icerik},
                                        {sunucu.Kok() + "/bos", ""},
                                        {"FILE://localhost" + Yol("kaynak%20%2525%20%C3%BC%23%3F.txt"), icerik}}) {
-    const auto durum = ParametreIndir(url, Yol("hedef.dat"));
+    const auto durum = ParametreIndir(url, Dizin(), "hedef.dat");
     EXPECT_TRUE(durum) << durum.KusurMetni();
     EXPECT_EQ(Oku("hedef.dat"), beklenen) << url;
   }
@@ -67,7 +67,7 @@ TEST_F(Indir, AFailureLeavesTheFile) {
                                        {"ftp://127.0.0.1/x", "http:, https: ya da file:"},
                                        {Yol("gizli"), "http:, https: ya da file:"},
                                        {"", "http:, https: ya da file:"}}) {
-    EXPECT_THAT(ParametreIndir(url, Yol("hedef.dat"), sinir).KusurMetni(), HasSubstr(neden)) << url;
+    EXPECT_THAT(ParametreIndir(url, Dizin(), "hedef.dat", sinir).KusurMetni(), HasSubstr(neden)) << url;
     EXPECT_EQ(Oku("hedef.dat"), "eski") << url;
   }
   EXPECT_EQ(DosyaSayisi(), 3) << "no remains";
@@ -83,7 +83,7 @@ TEST_F(Indir, GivenUpWhileTheServerIsSilent) {
   const test::Sunucu sunucu(std::map<std::string, std::string>{{"/sessiz", ""}});
   UcuncudeVazgecen ilerleme;
   const auto basla = std::chrono::steady_clock::now();
-  EXPECT_THAT(ParametreIndir(sunucu.Kok() + "/sessiz", Yol("hedef.dat"), {.ilerleme = &ilerleme}).KusurMetni(),
+  EXPECT_THAT(ParametreIndir(sunucu.Kok() + "/sessiz", Dizin(), "hedef.dat", {.ilerleme = &ilerleme}).KusurMetni(),
               HasSubstr("vazgeçildi"));
   EXPECT_LT(std::chrono::steady_clock::now() - basla, 2s) << "not only when the time is over";
   EXPECT_EQ(Oku("hedef.dat"), "eski");

@@ -1,0 +1,150 @@
+#include "core/veriyolu.h"
+
+#include <cassert>
+#include <cerrno>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/file.h>
+#include <thread>
+#include <unistd.h>
+
+#include "core/dosya.h"
+
+namespace belvani {
+namespace {
+
+namespace fs = std::filesystem;
+
+// flock on the directory itself: nothing is left behind, and it goes with the process that held it.
+class DizinKilidi final : public YolKilidi {
+ public:
+  explicit DizinKilidi(int no) : no_(no) {}
+  ~DizinKilidi() override { ::close(no_); }
+  DizinKilidi(const DizinKilidi&) = delete;
+  DizinKilidi& operator=(const DizinKilidi&) = delete;
+
+ private:
+  int no_;
+};
+
+class DizinMakinesi final : public VeriMakinesi {
+ public:
+  explicit DizinMakinesi(const std::string& dizin) : dizin_(DizinSonu(dizin)) {}
+
+  DosyaHali Bak(std::string_view ad, std::size_t enCok) const override {
+    const std::string yol = Adres(ad);
+    std::error_code hata;
+    if (!fs::exists(yol, hata)) return {.okunamadi = bool(hata)};
+    if (auto baytlar = DosyaOku(yol, enCok)) return {*baytlar, baytlar->size(), true, false};
+    const std::uintmax_t boy = fs::is_regular_file(yol, hata) ? fs::file_size(yol, hata) : 0;
+    return {.boy = hata ? 0 : boy, .var = true, .okunamadi = hata || boy <= enCok};
+  }
+  Durum Yaz(std::string_view ad, std::string_view baytlar) const override { return DosyaYaz(Adres(ad), baytlar); }
+  Durum Sil(std::string_view ad) const override {
+    std::error_code hata;
+    fs::remove(Adres(ad), hata);
+    return hata ? Durum(Kusur{"silinemedi: " + Adres(ad)}) : Tamam();
+  }
+  std::vector<std::string> Dosyalar() const override {
+    return Adlar([](const fs::directory_entry& g, std::error_code& hata) { return g.is_regular_file(hata); });
+  }
+  Sonuc<std::unique_ptr<YolKilidi>> Kilitle(std::chrono::milliseconds enCok) const override {
+    constexpr std::chrono::milliseconds aralik{20};
+    const int no = ::open(dizin_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (no < 0) return std::unique_ptr<YolKilidi>();
+    std::unique_ptr<YolKilidi> kilit = std::make_unique<DizinKilidi>(no);
+    const auto son = std::chrono::steady_clock::now() + enCok;
+    while (::flock(no, LOCK_EX | LOCK_NB) != 0) {
+      if (errno != EWOULDBLOCK && errno != EINTR) return std::unique_ptr<YolKilidi>();
+      if (std::chrono::steady_clock::now() >= son) return Kusur{dizin_ + ": başka bir program yazıyor"};
+      std::this_thread::sleep_for(aralik);
+    }
+    return kilit;
+  }
+  std::string Adres(std::string_view ad) const override { return dizin_ + std::string(ad); }
+  std::shared_ptr<const VeriMakinesi> Alt(std::string_view ad) const override {
+    return std::make_shared<DizinMakinesi>(Adres(ad));
+  }
+  std::vector<std::string> Altlar() const override {
+    return Adlar([](const fs::directory_entry& g, std::error_code& hata) { return g.is_directory(hata); });
+  }
+  bool AltVar(std::string_view ad) const override { return DizinVar(Adres(ad)); }
+  Durum Yarat() const override { return DizinYarat(dizin_); }
+
+ private:
+  template <class Uyar>
+  std::vector<std::string> Adlar(Uyar uyar) const {
+    std::vector<std::string> adlar;
+    std::error_code hata;
+    for (fs::directory_iterator i(dizin_, hata), son; !hata && i != son; i.increment(hata)) {
+      std::error_code tur;
+      std::string ad = i->path().filename();
+      if (ad.front() != '.' && uyar(*i, tur)) adlar.push_back(std::move(ad));
+    }
+    return adlar;
+  }
+
+  std::string dizin_;
+};
+
+// A name that stays in its place.
+bool Ad(std::string_view ad) {
+  return !ad.empty() && ad.front() != '.' && ad.find('/') == std::string_view::npos &&
+         ad.find('\0') == std::string_view::npos;
+}
+
+}  // namespace
+
+VeriYolu::VeriYolu(const std::string& adres) : makine_(std::make_shared<DizinMakinesi>(adres)) {}
+
+std::optional<std::string> VeriYolu::Oku(std::string_view ad, std::size_t enCok) const {
+  DosyaHali hal = Bak(ad, enCok);
+  if (!hal.var || hal.okunamadi || hal.boy > hal.baytlar.size()) return std::nullopt;
+  return std::move(hal.baytlar);
+}
+
+DosyaHali VeriYolu::Bak(std::string_view ad, std::size_t enCok) const {
+  assert(Ad(ad));
+  return makine_->Bak(ad, enCok);
+}
+
+Durum VeriYolu::Yaz(std::string_view ad, std::string_view baytlar) const {
+  assert(Ad(ad));
+  return makine_->Yaz(ad, baytlar);
+}
+
+Durum VeriYolu::Sil(std::string_view ad) const {
+  assert(Ad(ad));
+  return makine_->Sil(ad);
+}
+
+std::vector<std::string> VeriYolu::Dosyalar() const {
+  return makine_->Dosyalar();
+}
+
+Sonuc<std::unique_ptr<YolKilidi>> VeriYolu::Kilitle(std::chrono::milliseconds enCok) const {
+  return makine_->Kilitle(enCok);
+}
+
+std::string VeriYolu::Adres(std::string_view ad) const {
+  return makine_->Adres(ad);
+}
+
+VeriYolu VeriYolu::Alt(std::string_view ad) const {
+  assert(Ad(ad));
+  return VeriYolu(makine_->Alt(ad));
+}
+
+std::vector<std::string> VeriYolu::Altlar() const {
+  return makine_->Altlar();
+}
+
+bool VeriYolu::AltVar(std::string_view ad) const {
+  return Ad(ad) && makine_->AltVar(ad);
+}
+
+Durum VeriYolu::Yarat() const {
+  return makine_->Yarat();
+}
+
+}  // namespace belvani

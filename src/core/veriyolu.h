@@ -1,0 +1,94 @@
+// VeriYolu: a place where data lies: the data path of an installation, or the place of one company below it. Small
+// files by name, read and written whole, listed and locked; below it the places of the companies; and the address of
+// the company's store. Nothing above knows what stands behind it: a directory today, a server tomorrow; only the makers
+// in veriyolu.cpp do.
+//
+//   VeriYolu veri = "/srv/belvani/";                    // an address makes one
+//   const auto kanun = veri.Oku("kanun.dat");
+//   veri.Alt("ORNEK").Yaz("sablon.dat", baytlar);
+//   IniYaz("Muhasebe", "tcno", "…", {veri.Alt("ORNEK"), "bordro.ini"});
+//
+// A name is a name: one that would leave the place (with a separator, or beginning with a point) is our own fault.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/sonuc.h"
+
+namespace belvani {
+
+// What there is to say of a file before its bytes are trusted.
+struct DosyaHali {
+  std::string baytlar = {};
+  std::uintmax_t boy = 0;  // of the file; more than `baytlar` holds when it is larger than was asked for
+  bool var = false;
+  bool okunamadi = false;  // it is there, but its bytes cannot be had: it must not be written over
+};
+
+// Held by one at a time, on all computers, until it is destroyed.
+class YolKilidi {
+ public:
+  virtual ~YolKilidi() = default;
+};
+
+// One kind of place. Names have been checked.
+class VeriMakinesi {
+ public:
+  virtual ~VeriMakinesi() = default;
+  virtual DosyaHali Bak(std::string_view ad, std::size_t enCok) const = 0;
+  virtual Durum Yaz(std::string_view ad, std::string_view baytlar) const = 0;
+  virtual Durum Sil(std::string_view ad) const = 0;
+  virtual std::vector<std::string> Dosyalar() const = 0;
+  virtual Sonuc<std::unique_ptr<YolKilidi>> Kilitle(std::chrono::milliseconds enCok) const = 0;
+  virtual std::string Adres(std::string_view ad) const = 0;
+  virtual std::shared_ptr<const VeriMakinesi> Alt(std::string_view ad) const = 0;
+  virtual std::vector<std::string> Altlar() const = 0;
+  virtual bool AltVar(std::string_view ad) const = 0;
+  virtual Durum Yarat() const = 0;
+};
+
+class VeriYolu {
+ public:
+  static constexpr std::size_t EnCokBayt = 64u << 20;
+
+  VeriYolu(const std::string& adres);                            // NOLINT: an address is a place
+  VeriYolu(const char* adres) : VeriYolu(std::string(adres)) {}  // NOLINT
+
+  // The whole file; nothing when it is absent, cannot be read or is larger than `enCok`.
+  std::optional<std::string> Oku(std::string_view ad, std::size_t enCok = EnCokBayt) const;
+  // The same with the reason.
+  DosyaHali Bak(std::string_view ad, std::size_t enCok = EnCokBayt) const;
+  bool Var(std::string_view ad) const { return Bak(ad, 0).var; }
+  // In one step: a reader, a full disk or a power cut sees the old content or the new, never a half.
+  Durum Yaz(std::string_view ad, std::string_view baytlar) const;
+  Durum Sil(std::string_view ad) const;  // a file that is not there is a success
+  // Names of the files, but for those that begin with a point.
+  std::vector<std::string> Dosyalar() const;
+  // For reading, changing and writing as one step: the files of this place, not those of the places below. Waits at
+  // most so long; the failure says that someone else is at it. Null where nothing can be locked (a place that cannot be
+  // written, a file system without locks).
+  Sonuc<std::unique_ptr<YolKilidi>> Kilitle(std::chrono::milliseconds enCok = std::chrono::seconds(5)) const;
+
+  // Where the file is, for the user's eyes, and for the engine that opens a store.
+  std::string Adres(std::string_view ad = {}) const;
+
+  // The places below: one for each company.
+  VeriYolu Alt(std::string_view ad) const;
+  std::vector<std::string> Altlar() const;
+  bool AltVar(std::string_view ad) const;
+  // Makes the place itself, where there is none.
+  Durum Yarat() const;
+
+ private:
+  explicit VeriYolu(std::shared_ptr<const VeriMakinesi> makine) : makine_(std::move(makine)) {}
+
+  std::shared_ptr<const VeriMakinesi> makine_;
+};
+
+}  // namespace belvani

@@ -1,0 +1,66 @@
+// The place of data: what is written whole is read whole, a place keeps to itself, and one writer waits for the other.
+#include "core/veriyolu.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <thread>
+
+#include "core/ini.h"
+#include "gecici.h"
+
+namespace belvani {
+namespace {
+
+TEST(VeriYolu, FilesAndPlacesByName) {
+  const test::GeciciDizin dizin;
+  const VeriYolu veri = dizin.Yol();
+  ASSERT_TRUE(veri.Alt("ŞİLE").Yarat());
+  std::filesystem::create_directory(dizin.Yol() + ".gizli");
+  EXPECT_TRUE(veri.Yaz("kanun.dat", std::string("\0b", 2)));
+  EXPECT_EQ(veri.Oku("kanun.dat"), std::string("\0b", 2));
+  EXPECT_EQ(veri.Alt("ŞİLE").Oku("kanun.dat"), std::nullopt) << "each place has its own files";
+  EXPECT_EQ(veri.Dosyalar(), std::vector<std::string>{"kanun.dat"});
+  EXPECT_EQ(veri.Altlar(), std::vector<std::string>{"ŞİLE"});
+  EXPECT_EQ(veri.Alt("ŞİLE").Adres("tolu.dat"), dizin.Yol() + "ŞİLE/tolu.dat");
+  EXPECT_FALSE(veri.AltVar("..") || veri.AltVar("") || veri.AltVar("kanun.dat") || veri.AltVar("YOK"));
+  EXPECT_TRUE(veri.Sil("kanun.dat") && veri.Sil("kanun.dat"));
+  EXPECT_FALSE(veri.Var("kanun.dat"));
+}
+
+TEST(VeriYolu, TellsAnAbsentFileFromAnUnreadableOne) {
+  const test::GeciciDizin dizin;
+  const VeriYolu veri = dizin.Yol();
+  ASSERT_TRUE(veri.Yaz("buyuk.dat", "12345678"));
+  std::filesystem::create_directory(dizin.Yol() + "dizin.dat");
+  const DosyaHali yok = veri.Bak("yok.dat"), buyuk = veri.Bak("buyuk.dat", 4), dizinHali = veri.Bak("dizin.dat");
+  EXPECT_FALSE(yok.var || yok.okunamadi);
+  EXPECT_TRUE(buyuk.var && !buyuk.okunamadi && buyuk.boy == 8 && buyuk.baytlar.empty());
+  EXPECT_TRUE(dizinHali.var && dizinHali.okunamadi) << "it must not be written over";
+  EXPECT_FALSE(veri.Alt("yok").Yaz("a.dat", "1"));
+}
+
+TEST(VeriYolu, OneWriterWaitsForTheOther) {
+  const test::GeciciDizin dizin;
+  const VeriYolu veri = dizin.Yol();
+  auto kilit = veri.Kilitle();
+  ASSERT_TRUE(kilit && *kilit);
+  EXPECT_FALSE(veri.Kilitle(std::chrono::milliseconds(50)));
+  kilit->reset();
+  EXPECT_TRUE(veri.Kilitle(std::chrono::milliseconds(50)));
+  // Two that change different keys of one file lose none.
+  constexpr int adet = 25;
+  const auto yaz = [&](const char* on) {
+    for (int i = 0; i < adet; ++i)
+      EXPECT_TRUE(IniYaz("Bolum", on + std::to_string(i), std::to_string(i), IniDosyasi(veri, "ortak.ini")));
+  };
+  std::thread bir(yaz, "a"), iki(yaz, "b");
+  bir.join();
+  iki.join();
+  for (int i = 0; i < adet; ++i)
+    for (const char* on : {"a", "b"})
+      EXPECT_EQ(IniOku("Bolum", on + std::to_string(i), "yok", dizin.Yol() + "ortak.ini"), std::to_string(i));
+}
+
+}  // namespace
+}  // namespace belvani
