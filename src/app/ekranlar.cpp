@@ -138,7 +138,7 @@ void BelgeEkle(std::vector<EkranKaydi>& tablo, const BelgeTanimi& belge) {
   tablo.insert(son.base(), {belge.menu, belge.menuBasligi, belge.ekran, belge.simge, "", yap});
 }
 
-const std::vector<EkranKaydi>& Tablo() {
+const std::vector<EkranKaydi>& EkranTablosu() {
   static const std::vector<EkranKaydi> tablo = [] {
     auto kayitlar = Kayitlar();
     for (const BelgeTanimi& belge : Belgeler()) BelgeEkle(kayitlar, belge);
@@ -162,7 +162,7 @@ constexpr MenuSimgesi MenuSimgeleri[] = {
 }  // namespace
 
 std::span<const EkranKaydi> Ekranlar() {
-  return Tablo();
+  return EkranTablosu();
 }
 
 bool Acilir(const EkranKaydi& kayit) {
@@ -179,8 +179,8 @@ std::string_view SimgeAdi(const EkranKaydi& kayit) {
 const EkranKaydi* KisayolEkrani(std::string_view program) {
   if (program == GorunumEkrani.baslik) return &GorunumEkrani;
   const auto uyar = [&](const EkranKaydi& e) { return (e.kisayol.empty() ? e.baslik : e.kisayol) == program; };
-  const auto yer = std::ranges::find_if(Tablo(), uyar);
-  return yer == Tablo().end() ? nullptr : &*yer;
+  const auto yer = std::ranges::find_if(EkranTablosu(), uyar);
+  return yer == EkranTablosu().end() ? nullptr : &*yer;
 }
 
 }  // namespace belvani

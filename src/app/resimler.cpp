@@ -162,7 +162,7 @@ class Resimler {
   void BorcResmi() {
     BordroGirisi giris(oturum_, parametreler_, bildirim_);
     giris.Ac();
-    giris.Git(KisiYonu::Ilk);
+    giris.Git(Yon::Ilk);
     ModalResmi("brckes", [&] { FormGoster(ekran_, std::make_unique<brckes>(ekran_, giris), FormModu::Modal); });
   }
 

@@ -18,7 +18,7 @@ void SirketiAc(Genel& genel, const SirketAcSecenekleri& s) {
   o.DataPath = genel.DataPath();
   Basarmali(VeriYolu(o.DataPath).Yarat());
   if (const auto acildi = SirketOlustur(o, s.kod, s.kullanici, s.sifre, genel.bildirim); !acildi)
-    throw KomutHatasi{acildi.KusurMetni().empty() ? o.depo.db.SonHata() : acildi.KusurMetni()};
+    throw KomutHatasi{acildi.KusurMetni()};
   auto& firma = o.depo.firma;
   firma.IlkKayit();
   firma.KayitDuzelt();

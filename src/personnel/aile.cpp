@@ -1,23 +1,8 @@
 #include "personnel/aile.h"
 
-#include "personnel/kayit.h"
+#include "core/store/satirlar.h"
 
 namespace belvani {
-namespace {
-
-bool SatirBul(Depo& depo, std::int32_t oto) {
-  return oto != 0 && depo.esco.KayitBul("oto", std::int64_t(oto));
-}
-
-std::optional<std::int32_t> SatirYaz(Depo& depo, const Esco& satir) {
-  const bool var = SatirBul(depo, satir.oto);
-  var ? depo.esco.KayitDuzelt() : depo.esco.KayitEkle();
-  AlanlariYaz(depo.esco, satir, satir.dogtar.Bos() ? AlanAdlari{"dogtar"} : AlanAdlari{});
-  if (!depo.esco.KayitYaz()) return std::nullopt;
-  return var ? satir.oto : std::int32_t(depo.db.IcMotor().SonKimlik());
-}
-
-}  // namespace
 
 std::vector<Esco> AileOku(Oturum& o, std::string_view kod) {
   return o.depo.db.Koru(std::vector<Esco>(), [&] {
@@ -25,31 +10,22 @@ std::vector<Esco> AileOku(Oturum& o, std::string_view kod) {
   });
 }
 
-std::optional<std::int32_t> AileKaydet(Oturum& o, const Esco& satir, Bildirim& bildirim) {
-  Esco temiz = satir;
-  temiz.kod = TemizKod(satir.kod);
-  if (temiz.kod.empty()) {
-    bildirim.Uyari("Personel Kodu Bulunamadı..");
-    return std::nullopt;
-  }
-  if (const std::string kusur = KayitKusuru(temiz); !kusur.empty()) {
-    bildirim.Bilgi(kusur);
-    return std::nullopt;
-  }
-  const auto oto = SatirYaz(o.depo, temiz);
-  if (!oto) bildirim.Uyari("Eş ve Çocuk Bilgileri Güncellenemedi");
-  return oto;
+Yazim<Esco> AileKaydet(Oturum& o, const Okunan<Esco>& satir) {
+  Okunan<Esco> yazilan = satir;
+  yazilan.simdi.kod = TemizKod(satir.simdi.kod);
+  if (yazilan.simdi.kod.empty()) return {Kusur{"Personel Kodu Bulunamadı..", esco::kod}};
+  if (yazilan.ilk && yazilan.simdi.dogtar.Bos()) yazilan.simdi.dogtar = yazilan.ilk->dogtar;
+  return KayitYaz(o, yazilan, "Eş ve Çocuk Bilgileri Güncellenemedi");
 }
 
-bool AileSil(Oturum& o, std::int32_t oto, Bildirim& bildirim) {
-  if (!bildirim.Soru("Kayıt Silinecek ?")) return false;
-  if (!SatirBul(o.depo, oto)) {
-    bildirim.Bilgi("Silinecek Kayıt Bulunamadı");
-    return false;
-  }
-  if (Silindi(o.depo.esco)) return true;
-  bildirim.Uyari("Kayıt Silinemedi");
-  return false;
+Sonuc<Silme> AileSil(Oturum& o, std::int32_t oto, Bildirim& bildirim) {
+  if (!bildirim.Soru("Kayıt Silinecek ?")) return Silme::Silinmedi;
+  const Sonuc<bool> silinemedi{Kusur{"Kayıt Silinemedi"}};
+  const auto vardi =
+      o.depo.db.Koru(silinemedi, [&]() -> Sonuc<bool> { return KisiTablosu<Esco>(o).Sil(std::int64_t(oto)); });
+  if (!vardi) return vardi.Kusuru();
+  if (!*vardi) return KuralKusuru("Silinecek Kayıt Bulunamadı");
+  return Silme::Silindi;
 }
 
 }  // namespace belvani

@@ -6,13 +6,13 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "core/bildirim.h"
 #include "core/session/oturum.h"
 #include "core/tables/esco.h"
+#include "personnel/kayit.h"
 #include "personnel/listeler.h"
 
 namespace belvani {
@@ -20,12 +20,12 @@ namespace belvani {
 // In the order of kinship; rows of one kinship as they were entered.
 std::vector<Esco> AileOku(Oturum& o, std::string_view kod);
 
-// Saves one row of the person `satir.kod` and gives its number, which the screen keeps in the row (`oto`), so that the
-// next save edits the same record. A row without a number, or whose record someone has deleted, is added. A row
-// without a date of birth leaves the stored one as it is.
-std::optional<std::int32_t> AileKaydet(Oturum& o, const Esco& satir, Bildirim& bildirim);
+// Saves one row of the person `kod` and gives it as it is stored, with its number: what the screen keeps of it, so that
+// the next save edits the same record. A row that was not read is added. A row without a date of birth leaves the
+// stored one as it is.
+Yazim<Esco> AileKaydet(Oturum& o, const Okunan<Esco>& satir);
 
 // Asks, and deletes the row.
-bool AileSil(Oturum& o, std::int32_t oto, Bildirim& bildirim);
+Sonuc<Silme> AileSil(Oturum& o, std::int32_t oto, Bildirim& bildirim);
 
 }  // namespace belvani

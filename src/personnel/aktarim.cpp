@@ -10,21 +10,30 @@ namespace {
 
 constexpr std::chrono::seconds KilitBekleme{60};
 
-void AlanlariYaz(Imlec& rs, const TabloTanimi& tablo, const AktarimDosyasi& dosya, const AktarimSatiri& satir) {
-  for (std::size_t i = 0; i < dosya.kolonlar.size(); ++i) {
-    const AlanTanimi* alan = dosya.kolonlar[i].alan;
-    // `kod` belongs to both tables of a person.
-    const bool buTablo = dosya.kolonlar[i].tablo == &tablo || alan->ad == "kod";
-    if (buTablo && tablo.AlanBul(alan->ad) != nullptr) rs.AlanYaz(alan->ad, satir.degerler[i]);
-  }
-}
-
 struct YazmaHatasi {
   int satirNo;
+  std::string neden;
 };
 
-void Yaz(Imlec& rs, int satirNo) {
-  if (!rs.KayitYaz()) throw YazmaHatasi{satirNo};
+// The record with the row's columns over what the store has. It is read within the transaction, so nobody can have
+// changed it meanwhile.
+template <class Kayit>
+void Yaz(Tablo<Kayit>& tablo, const std::optional<Kayit>& ilk, const Kayit& yeni, const AktarimDosyasi& dosya,
+         const AktarimSatiri& satir) {
+  Okunan<Kayit> kayit{.ilk = ilk, .simdi = ilk.value_or(yeni)};
+  for (std::size_t i = 0; i < dosya.kolonlar.size(); ++i) {
+    const AktarimKolonu& hucre = dosya.kolonlar[i];
+    Kayit::HerKolon([&](const auto& kolon) {
+      // `kod` belongs to both tables of a person.
+      const bool buTablo = hucre.tablo->ad == Kayit::TabloAdi || hucre.alan->ad == "kod";
+      if (buTablo && hucre.alan->ad == kolon.ad) UyeyeYaz(kayit.simdi.*kolon.uye, satir.degerler[i]);
+    });
+  }
+  try {
+    if (const auto yazilan = tablo.Yaz(kayit); !yazilan) throw YazmaHatasi{satir.satirNo, yazilan.KusurMetni()};
+  } catch (const MotorHatasi& h) {
+    throw YazmaHatasi{satir.satirNo, h.what()};
+  }
 }
 
 // Runs `is` in one transaction, unless the file has problems or is only tried out.
@@ -38,7 +47,7 @@ Sonuc<AktarimSonucu> Kaydet(Oturum& o, AktarimDosyasi& dosya, AktarimKipi kip, I
     if (sonuc.sorunlar.empty() && kip == AktarimKipi::Kaydet) islem.Onayla();
     return sonuc;
   } catch (const YazmaHatasi& h) {
-    return Kusur{"satır " + std::to_string(h.satirNo) + ": kayıt yazılamadı: " + o.depo.db.SonHata()};
+    return Kusur{"satır " + std::to_string(h.satirNo) + ": kayıt yazılamadı: " + h.neden};
   } catch (const MotorHatasi& h) {
     return Kusur{h.what()};
   }
@@ -51,76 +60,72 @@ void GirisTarihiniDenetle(AktarimDosyasi& dosya, const AktarimSatiri& satir, boo
     dosya.sorunlar.push_back({satir.satirNo, "girtar", "Giriş Tarihi Hatalı"});
 }
 
-void PersonelYaz(Depo& depo, AktarimDosyasi& dosya, const AktarimSatiri& satir, AktarimSonucu& sonuc) {
-  const std::string kod = dosya.Metin(satir, "kod");
-  const bool var = depo.SicilBul(kod);
-  GirisTarihiniDenetle(dosya, satir, !var);
-  if (!dosya.sorunlar.empty()) return;
-  var ? depo.sicil.KayitDuzelt() : YeniSicil(depo.sicil);
-  AlanlariYaz(depo.sicil, *TabloBul("sicil"), dosya, satir);
-  Yaz(depo.sicil, satir.satirNo);
-  depo.KimlikBul(kod) ? depo.kimlik.KayitDuzelt() : YeniKimlik(depo.kimlik);
-  AlanlariYaz(depo.kimlik, *TabloBul("kimlik"), dosya, satir);
-  Yaz(depo.kimlik, satir.satirNo);
-  ++(var ? sonuc.degisen : sonuc.eklenen);
+void PersonelleriYaz(Motor& motor, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
+  Tablo<Sicil> kartlar(motor);
+  Tablo<Kimlik> kimlikler(motor);
+  for (const auto& satir : dosya.satirlar) {
+    const std::string kod = dosya.Metin(satir, "kod");
+    const auto kart = kartlar.Bul(kod);
+    GirisTarihiniDenetle(dosya, satir, !kart);
+    if (!dosya.sorunlar.empty()) continue;
+    Yaz(kartlar, kart, {}, dosya, satir);
+    Yaz(kimlikler, kimlikler.Bul(kod), YeniKimlik(kod), dosya, satir);
+    ++(kart ? sonuc.degisen : sonuc.eklenen);
+  }
 }
 
-void AileYaz(Depo& depo, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
+void AileYaz(Motor& motor, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
+  Tablo<Sicil> kartlar(motor);
+  Tablo<Esco> aileler(motor);
   for (const auto& satir : dosya.satirlar)
-    if (const std::string kod = dosya.Metin(satir, "kod"); !kod.empty() && !depo.SicilBul(kod))
+    if (const std::string kod = dosya.Metin(satir, "kod"); !kod.empty() && !kartlar.Bul(kod))
       dosya.sorunlar.push_back({satir.satirNo, "kod", "bu kodla personel yok: " + kod});
   if (!dosya.sorunlar.empty()) return;
-  const auto sil = depo.db.IcMotor().Hazirla("delete from esco where kod = ?");
+  const auto sil = motor.Hazirla("delete from esco where kod = ?");
   for (const auto& satir : dosya.satirlar) {
     sil->MetinBagla(1, dosya.Metin(satir, "kod"));
     sil->Calistir();
   }
   for (const auto& satir : dosya.satirlar) {
-    depo.esco.KayitEkle();
-    AlanlariYaz(depo.esco, *TabloBul("esco"), dosya, satir);
-    Yaz(depo.esco, satir.satirNo);
+    Yaz(aileler, {}, {}, dosya, satir);
     ++sonuc.eklenen;
+  }
+}
+
+template <class Kayit>
+void TanimYaz(Motor& motor, std::string_view anahtar, const AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
+  Tablo<Kayit> tablo(motor);
+  const int sira = dosya.KolonSirasi(anahtar);
+  for (const auto& satir : dosya.satirlar) {
+    const auto ilk = tablo.Bul(sira < 0 ? Deger(Null{}) : satir.degerler[std::size_t(sira)]);
+    Yaz(tablo, ilk, {}, dosya, satir);
+    ++(ilk ? sonuc.degisen : sonuc.eklenen);
   }
 }
 
 struct TanimTablosu {
   std::string_view ad;
   std::string_view anahtar;  // "": the table's one record
-  Imlec Depo::*rs;
+  void (*yaz)(Motor& motor, std::string_view anahtar, const AktarimDosyasi& dosya, AktarimSonucu& sonuc);
 };
 
 constexpr TanimTablosu TanimTablolari[] = {
-    {"firma", "", &Depo::firma},        {"muaf", "no", &Depo::muaf},       {"indir", "no", &Depo::indir},
-    {"sendika", "kod", &Depo::sendika}, {"kaztan", "grup", &Depo::kaztan},
+    {"firma", "", &TanimYaz<Firma>},        {"muaf", "no", &TanimYaz<Muaf>},       {"indir", "no", &TanimYaz<Indir>},
+    {"sendika", "kod", &TanimYaz<Sendika>}, {"kaztan", "grup", &TanimYaz<Kaztan>},
 };
-
-void TanimYaz(Depo& depo, const TanimTablosu& tanim, const AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
-  Imlec& rs = depo.*tanim.rs;
-  const int anahtar = dosya.KolonSirasi(tanim.anahtar);
-  for (const auto& satir : dosya.satirlar) {
-    const bool var =
-        tanim.anahtar.empty() ? rs.IlkKayit() : rs.KayitBul(tanim.anahtar, satir.degerler[std::size_t(anahtar)]);
-    var ? rs.KayitDuzelt() : rs.KayitEkle();
-    AlanlariYaz(rs, *TabloBul(tanim.ad), dosya, satir);
-    Yaz(rs, satir.satirNo);
-    ++(var ? sonuc.degisen : sonuc.eklenen);
-  }
-}
 
 }  // namespace
 
 Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, std::string_view csv, AktarimKipi kip) {
   auto dosya = AktarimDosyasiOku(csv, {TabloBul("sicil"), TabloBul("kimlik")}, "kod", AnahtarKurali::Tekil);
   if (!dosya) return dosya.Kusuru();
-  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) {
-    for (const auto& satir : dosya->satirlar) PersonelYaz(o.depo, *dosya, satir, sonuc);
-  });
+  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { PersonelleriYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
 }
 
 Sonuc<AktarimSonucu> AileAktar(Oturum& o, std::string_view csv, AktarimKipi kip) {
   auto dosya = AktarimDosyasiOku(csv, {TabloBul("esco")}, "kod", AnahtarKurali::TekrarEder);
   if (!dosya) return dosya.Kusuru();
-  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { AileYaz(o.depo, *dosya, sonuc); });
+  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { AileYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
 }
 
 Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, std::string_view csv, AktarimKipi kip) {
@@ -132,7 +137,7 @@ Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, std::string_v
   if (!dosya) return dosya.Kusuru();
   if (tanim->anahtar.empty() && dosya->satirlar.size() != 1) return Kusur{"firma dosyasında tek bir satır olmalı"};
   return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) {
-    if (dosya->sorunlar.empty()) TanimYaz(o.depo, *tanim, *dosya, sonuc);
+    if (dosya->sorunlar.empty()) tanim->yaz(o.depo.db.IcMotor(), tanim->anahtar, *dosya, sonuc);
   });
 }
 

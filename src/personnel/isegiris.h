@@ -1,7 +1,7 @@
 // Hiring: a person's card and identity entered in the order of the entry declaration ("Sigortalı İşe Giriş
 // Bildirgesi"), and what that paper asks for besides, which is kept nowhere.
 //
-// On the shared cursors, as in personnel/kart.h. Of a person who is known already only the fields shown here change:
+// Faults are as in personnel/kart.h. Of a person who is known already only the fields shown here change:
 // wage, groups and all others stay.
 //
 // The law wants the declaration handed in before the first day of work, so the hire date must be after the day of
@@ -15,8 +15,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/bildirim.h"
 #include "core/session/oturum.h"
+#include "core/sonuc.h"
 #include "core/tables/kimlik.h"
 #include "core/tables/sicil.h"
 #include "personnel/listeler.h"
@@ -55,10 +55,18 @@ struct GirisEki {
   std::string vergiNo;
 };
 
+// Of the fields above, those in which a fault may lie.
+namespace giriseki {
+inline constexpr Kolon<GirisEki, Tarih> islemTarihi{{"islemTarihi", AlanTipi::Tarih, 0, AlanNiteligi::Serbest},
+                                                    &GirisEki::islemTarihi};
+}  // namespace giriseki
+
 struct GirisFormu {
-  Sicil sicil;  // its `kod` is the person's
-  Kimlik kimlik;
-  GirisEki ek;
+  Sicil sicil{};  // its `kod` is the person's
+  Kimlik kimlik{};
+  GirisEki ek{};
+  std::optional<Sicil> ilkSicil{};  // as they were read; nothing: there was none
+  std::optional<Kimlik> ilkKimlik{};
 };
 
 // The screen before anyone is on it: both dates of the declaration are today, the nationality is "T.C.".
@@ -68,12 +76,13 @@ GirisFormu BosGirisFormu(Tarih bugun);
 // a code that neither has.
 std::optional<GirisFormu> GirisBul(Oturum& o, std::string_view kod, Tarih bugun);
 
-// The checks before saving and before printing; the first that fails is told.
-bool GirisDenetle(const GirisFormu& form, Bildirim& bildirim);
+// The checks before saving and before printing: the first that fails, at its field.
+Durum GirisDenetle(const GirisFormu& form);
 
 // Checks and saves; card and identity both or neither. A new person gets the minimum wage of the law, the company's
-// default account class and the minimum-living allowance.
-bool GirisKaydet(Oturum& o, const GirisFormu& form, Tutar asgariUcret, Bildirim& bildirim);
+// default account class and the minimum-living allowance. What another user has changed meanwhile is not overwritten:
+// the fault names it.
+Durum GirisKaydet(Oturum& o, const GirisFormu& form, Tutar asgariUcret);
 
 // The allocation number is that of a pensioner under the support premium.
 constexpr bool TahsisNoAcik(std::uint8_t emekliTercihi) {

@@ -6,27 +6,32 @@
 namespace belvani {
 namespace {
 
-std::string CikisKusuru(const CikisFormu& form) {
-  if (form.girtar.Bos()) return "Giriş Tarihi Hatası";
-  if (form.ciktar.Bos()) return "Çıkış Tarihi Hatası";
-  if (form.ciktar < form.girtar) return "Çıkış Tarihi,Giriş Tarihinden Büyük veya Eşit Olmalı";
-  if (form.cikiskodu == 0 || CikisKoduMetni(form.cikiskodu).empty()) return "Çıkış Kodunu Seçmelisiniz";
-  if (Kirp(DenetimsizMetin(form.cikissebebi)).empty()) return "Çıkış Sebebini Doldurunuz";
-  return {};
+std::optional<Kusur> CikisKusuru(const CikisFormu& form) {
+  if (form.girtar.Bos()) return KuralKusuru("Giriş Tarihi Hatası", cikisformu::girtar);
+  if (form.ciktar.Bos()) return KuralKusuru("Çıkış Tarihi Hatası", cikisformu::ciktar);
+  if (form.ciktar < form.girtar)
+    return KuralKusuru("Çıkış Tarihi,Giriş Tarihinden Büyük veya Eşit Olmalı", cikisformu::ciktar);
+  if (form.cikiskodu == 0 || CikisKoduMetni(form.cikiskodu).empty())
+    return KuralKusuru("Çıkış Kodunu Seçmelisiniz", cikisformu::cikiskodu);
+  if (Kirp(DenetimsizMetin(form.cikissebebi)).empty())
+    return KuralKusuru("Çıkış Sebebini Doldurunuz", cikisformu::cikissebebi);
+  return std::nullopt;
 }
 
-std::string SebepKusuru(const std::string& sebep) {
+std::optional<Kusur> SebepKusuru(const std::string& sebep) {
   const std::string kusur = DegerKusuru(sicil::cikissebebi, DenetimsizMetin(sebep));
-  return kusur.empty() ? kusur : "Çıkış Sebebi: " + kusur;
+  if (kusur.empty()) return std::nullopt;
+  return KuralKusuru("Çıkış Sebebi: " + kusur, cikisformu::cikissebebi);
 }
 
-// The three columns of leaving, of the record that the cursor stands on.
-bool CikisYaz(Imlec& rs, const Deger& ciktar, std::uint8_t cikiskodu, const std::string& cikissebebi) {
-  rs.KayitDuzelt();
-  rs.AlanYaz("ciktar", ciktar);
-  rs.AlanYaz("cikiskodu", std::int64_t(cikiskodu));
-  rs.AlanYaz("cikissebebi", cikissebebi);
-  return rs.KayitYaz();
+// The three columns of leaving, into the card that was read.
+Durum CikisYaz(Oturum& o, const Sicil& kart, const CikisFormu& form, const char* yazilamadi) {
+  Okunan<Sicil> yazilan{.ilk = kart, .simdi = kart};
+  yazilan.simdi.ciktar = form.ciktar;
+  yazilan.simdi.cikiskodu = form.cikiskodu;
+  yazilan.simdi.cikissebebi = form.cikissebebi;
+  if (const auto y = KayitYaz(o, yazilan, yazilamadi); !y) return Kusur(y.Kusuru());
+  return Tamam();
 }
 
 }  // namespace
@@ -44,27 +49,24 @@ std::optional<CikisFormu> CikisBul(Oturum& o, std::string_view kod) {
                     .cikissebebi = sicil->cikissebebi,
                     .adr1 = kimlik.adr1,
                     .adr2 = kimlik.adr2,
-                    .tel = kimlik.tel};
+                    .tel = kimlik.tel,
+                    .kart = sicil};
 }
 
-bool CikisKaydet(Oturum& o, const CikisFormu& form, Bildirim& bildirim) {
-  std::string kusur = CikisKusuru(form);
-  if (kusur.empty() && !o.depo.SicilBul(TemizKod(form.kod))) kusur = "Hatalı Personel Çıkışı";
-  if (kusur.empty()) kusur = SebepKusuru(form.cikissebebi);
-  if (!kusur.empty()) {
-    bildirim.Bilgi(kusur);
-    return false;
-  }
-  if (CikisYaz(o.depo.sicil, form.ciktar, form.cikiskodu, form.cikissebebi)) return true;
-  bildirim.Uyari("Sicil Bilgileri Güncellenemedi");
-  return false;
+Durum CikisKaydet(Oturum& o, const CikisFormu& form) {
+  if (auto kusur = CikisKusuru(form)) return *std::move(kusur);
+  const bool okunan = form.kart && TurkceEsit(form.kart->kod, TemizKod(form.kod));
+  const auto kart = okunan ? form.kart : KartBul(o, form.kod);
+  if (!kart) return KuralKusuru("Hatalı Personel Çıkışı", cikisformu::kod);
+  if (auto kusur = SebepKusuru(form.cikissebebi)) return *std::move(kusur);
+  return CikisYaz(o, *kart, form, "Sicil Bilgileri Güncellenemedi");
 }
 
-bool CikisGeriAl(Oturum& o, std::string_view kod, Bildirim& bildirim) {
-  if (!o.depo.SicilBul(TemizKod(kod))) return false;
-  if (CikisYaz(o.depo.sicil, Null{}, 0, {})) return true;
-  bildirim.Uyari("Çıkış Geri Alınamadı");
-  return false;
+Sonuc<bool> CikisGeriAl(Oturum& o, std::string_view kod) {
+  const auto kart = KartBul(o, kod);
+  if (!kart) return false;
+  if (const Durum d = CikisYaz(o, *kart, {}, "Çıkış Geri Alınamadı"); !d) return d.Kusuru();
+  return true;
 }
 
 OdemeSatiri IbranameOdemeleri::Toplam() const {

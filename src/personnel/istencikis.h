@@ -1,8 +1,8 @@
 // Leaving: the day, code and reason on a person's card, and taking them back. Pay records stay as they are; the payroll
 // of the last month reads the day.
 //
-// Also the payments of the release paper ("İBRANAME"), which are typed for it and kept nowhere. On the shared cursors,
-// as in personnel/kart.h.
+// Also the payments of the release paper ("İBRANAME"), which are typed for it and kept nowhere. Faults are as in
+// personnel/kart.h.
 #pragma once
 
 #include <array>
@@ -11,8 +11,9 @@
 #include <string>
 #include <string_view>
 
-#include "core/bildirim.h"
 #include "core/session/oturum.h"
+#include "core/sonuc.h"
+#include "core/tables/sicil.h"
 #include "core/tarih.h"
 #include "core/tutar.h"
 #include "personnel/cikiskodlari.h"
@@ -20,27 +21,38 @@
 namespace belvani {
 
 struct CikisFormu {
-  std::string kod;
-  std::string adSoyad;  // this and the next are shown, not typed
-  std::string sskno;
-  Tarih girtar;
-  Tarih ciktar;
+  std::string kod{};
+  std::string adSoyad{};  // this and the next are shown, not typed
+  std::string sskno{};
+  Tarih girtar{};
+  Tarih ciktar{};
   std::uint8_t cikiskodu = 0;  // position in CikisKodlari
-  std::string cikissebebi;
-  std::string adr1;  // where he will be found; from his identity, and for the paper alone
-  std::string adr2;
-  std::string tel;
+  std::string cikissebebi{};
+  std::string adr1{};  // where he will be found; from his identity, and for the paper alone
+  std::string adr2{};
+  std::string tel{};
+  std::optional<Sicil> kart{};  // as it was read; nothing: whatever stands in the store is changed
 };
+
+// Its fields, as far as the rules know them.
+namespace cikisformu {
+// clang-format off
+inline constexpr Kolon<CikisFormu, std::string> kod{sicil::kod, &CikisFormu::kod};
+inline constexpr Kolon<CikisFormu, Tarih> girtar{sicil::girtar, &CikisFormu::girtar};
+inline constexpr Kolon<CikisFormu, Tarih> ciktar{sicil::ciktar, &CikisFormu::ciktar};
+inline constexpr Kolon<CikisFormu, std::uint8_t> cikiskodu{sicil::cikiskodu, &CikisFormu::cikiskodu};
+inline constexpr Kolon<CikisFormu, std::string> cikissebebi{sicil::cikissebebi, &CikisFormu::cikissebebi};
+// clang-format on
+}  // namespace cikisformu
 
 std::optional<CikisFormu> CikisBul(Oturum& o, std::string_view kod);
 
 // Records that the person has left; a second time overwrites the first. He may leave on the day of his hiring. The
-// first check that fails is told, and nothing is saved then.
-bool CikisKaydet(Oturum& o, const CikisFormu& form, Bildirim& bildirim);
+// first check that fails is the fault, and nothing is saved then.
+Durum CikisKaydet(Oturum& o, const CikisFormu& form);
 
-// Makes the person employed again, without a question. False: there is no such person, which is not told, or the store
-// refused, which is.
-bool CikisGeriAl(Oturum& o, std::string_view kod, Bildirim& bildirim);
+// Makes the person employed again, without a question. False: there is no such person.
+Sonuc<bool> CikisGeriAl(Oturum& o, std::string_view kod);
 
 // The payments of the release, as the screen's grid shows them; its last row is "TOPLAM".
 inline constexpr std::string_view OdemeSatirlari[] = {"Ücretler+ Fazla Mesai", "Kull. İzin Ücretleri", "Sosyal Haklar",

@@ -7,96 +7,83 @@
 namespace belvani {
 namespace {
 
-std::string KartKusuru(const Sicil& kart) {
-  if (kart.kod.empty()) return "Personel Sicil Kodu Hatalı";
-  if (kart.girtar.Bos() || kart.girtar.SeriNo() <= 0) return "Giriş Tarihi Hatalı";
-  return KayitKusuru(kart);
+std::optional<Kusur> KartKusuru(const Sicil& kart) {
+  if (kart.kod.empty()) return KuralKusuru("Personel Sicil Kodu Hatalı", sicil::kod);
+  if (kart.girtar.Bos() || kart.girtar.SeriNo() <= 0) return KuralKusuru("Giriş Tarihi Hatalı", sicil::girtar);
+  return std::nullopt;
 }
 
-bool KimlikEkle(Imlec& rs, const std::string& kod) {
-  YeniKimlik(rs);
-  rs.AlanYaz("kod", kod);
-  return rs.KayitYaz();
+// What the card does not show stays as it was read.
+Okunan<Sicil> YazilacakKart(const Okunan<Sicil>& kart) {
+  Okunan<Sicil> yazilan = kart;
+  const Sicil ilk = kart.ilk.value_or(Sicil{});
+  yazilan.simdi.kod = YazilacakKod(kart);
+  yazilan.simdi.cikiskodu = ilk.cikiskodu;
+  yazilan.simdi.cikissebebi = ilk.cikissebebi;
+  yazilan.simdi.meslekkod = ilk.meslekkod;
+  return yazilan;
 }
 
-bool SicilYaz(Depo& depo, const Sicil& kart) {
-  AlanAdlari gorunmeyen = {"cikiskodu", "cikissebebi", "meslekkod"};
-  if (depo.SicilBul(kart.kod)) {
-    depo.sicil.KayitDuzelt();
-    gorunmeyen.insert("kod");  // spelled as the person's other records have it
-  } else {
-    YeniSicil(depo.sicil);
-  }
-  AlanlariYaz(depo.sicil, kart, gorunmeyen);
-  return depo.sicil.KayitYaz();
+// A person has an identity record, if an empty one. The card goes on without it.
+bool KimlikTamamla(Oturum& o, const std::string& kod) {
+  return o.depo.db.Koru(false, [&] {
+    auto kimlikler = KisiTablosu<Kimlik>(o);
+    return kimlikler.Bul(kod) || bool(kimlikler.Yaz({.ilk = {}, .simdi = YeniKimlik(kod)}));
+  });
 }
-
-struct KartYazimi {
-  bool kimlik = true;
-  bool sicil = false;
-};
 
 // One transaction, and no message in it: a box on the screen must not hold the store.
-KartYazimi KartYaz(Depo& depo, const Sicil& kart) {
-  KartYazimi yazim;
-  yazim.sicil = depo.db.Koru(false, [&] {
-    Islem islem(depo.db.IcMotor());
-    yazim.kimlik = depo.KimlikBul(kart.kod) || KimlikEkle(depo.kimlik, kart.kod);
-    if (!SicilYaz(depo, kart)) return false;
+KartSonucu KartYaz(Oturum& o, const Okunan<Sicil>& kart) {
+  const KartSonucu basarisiz{YazmaEngeli<Sicil>(Kusur{"Personel Kartı Kaydedilemiyor"})};
+  return o.depo.db.Koru(basarisiz, [&]() -> KartSonucu {
+    Islem islem(o.depo.db.IcMotor());
+    const bool kimlikVar = KimlikTamamla(o, kart.simdi.kod);
+    const auto yazilan = KisiTablosu<Sicil>(o).Yaz(kart);
+    if (!yazilan) return yazilan.Kusuru();
     islem.Onayla();
-    return true;
+    KartYazimi yazim{.kart = *yazilan, .uyarilar = {}};
+    if (!kimlikVar)
+      yazim.uyarilar.push_back({.metin = "Personel Kimlik Bilgileri Kaydedilemedi", .derece = Derece::Uyari});
+    return yazim;
   });
-  return yazim;
 }
 
 }  // namespace
 
 std::optional<Sicil> KartBul(Oturum& o, std::string_view kod) {
-  return KoduBul<Sicil>(o.depo.db, o.depo.sicil, kod);
+  return KoduBul<Sicil>(o, kod);
 }
 
 std::optional<Sicil> KartGit(Oturum& o, Yon yon, std::string_view simdikiKod) {
-  return KodaGit<Sicil>(o.depo.db, o.depo.sicil, yon, simdikiKod);
+  return KodaGit<Sicil>(o, yon, simdikiKod);
 }
 
 Tutar GosterilenUcret(const Sicil& kart, Tutar asgariUcret) {
   return kart.ucrettipi == AsgariUcretSirasi ? asgariUcret : kart.ucret;
 }
 
-bool KartKaydet(Oturum& o, const Sicil& kart, const std::string& yeniResim, Bildirim& bildirim) {
-  Sicil temiz = kart;
-  temiz.kod = TemizKod(kart.kod);
-  if (const std::string kusur = KartKusuru(temiz); !kusur.empty()) {
-    bildirim.Bilgi(kusur);
-    return false;
-  }
-  const KartYazimi yazim = KartYaz(o.depo, temiz);
-  if (!yazim.kimlik) bildirim.Uyari("Personel Kimlik Bilgileri Kaydedilemedi");
-  if (!yazim.sicil) {
-    bildirim.Uyari("Personel Kartı Kaydedilemiyor");
-    return false;
-  }
-  if (!yeniResim.empty()) FotoYaz(o, temiz.kod, yeniResim, bildirim);
-  return true;
+KartSonucu KartKaydet(Oturum& o, const Okunan<Sicil>& kart, const std::string& yeniResim) {
+  const Okunan<Sicil> yazilan = YazilacakKart(kart);
+  if (auto kusur = KartKusuru(yazilan.simdi)) return YazmaEngeli<Sicil>(*std::move(kusur));
+  KartSonucu sonuc = KartYaz(o, yazilan);
+  if (!sonuc || yeniResim.empty()) return sonuc;
+  if (const Durum foto = FotoYaz(o, yazilan.simdi.kod, yeniResim); !foto)
+    sonuc->uyarilar.push_back({.metin = foto.KusurMetni(), .derece = Derece::Uyari});
+  return sonuc;
 }
 
-bool KartSil(Oturum& o, std::string_view kod, Bildirim& bildirim) {
-  if (!bildirim.Soru("Personel Kaydını Silmek İstiyormusunuz ?")) return false;
+Sonuc<Silme> KartSil(Oturum& o, std::string_view kod, Bildirim& bildirim) {
+  if (!bildirim.Soru("Personel Kaydını Silmek İstiyormusunuz ?")) return Silme::Silinmedi;
   const std::string silinen = TemizKod(kod);
-  if (silinen.empty()) return false;
-  if (!o.depo.SicilBul(silinen)) {
-    bildirim.Bilgi("Silinecek Personel Bulunamadı");
-    return false;
-  }
-  if (IkisindenSil(o.depo.db, o.depo.sicil, o.depo.kimlik, silinen)) return true;
-  bildirim.Uyari("Personel Kartı Silinemedi");
-  return false;
+  if (silinen.empty()) return Silme::Silinmedi;
+  if (!KartBul(o, silinen)) return KuralKusuru("Silinecek Personel Bulunamadı", sicil::kod);
+  if (!KisiSil(o, silinen)) return Kusur{"Personel Kartı Silinemedi"};
+  return Silme::Silindi;
 }
 
-bool FotoYaz(Oturum& o, std::string_view kod, const std::string& dosya, Bildirim& bildirim) {
-  if (o.depo.FotoYaz(TemizKod(kod), dosya)) return true;
-  bildirim.Uyari("Resim Kaydedilemedi\n" + dosya);
-  return false;
+Durum FotoYaz(Oturum& o, std::string_view kod, const std::string& dosya) {
+  if (o.depo.FotoYaz(TemizKod(kod), dosya)) return Tamam();
+  return Kusur{"Resim Kaydedilemedi\n" + dosya};
 }
 
 std::optional<std::string> FotoOku(Oturum& o, std::string_view kod) {
@@ -106,10 +93,13 @@ std::optional<std::string> FotoOku(Oturum& o, std::string_view kod) {
   return yol;
 }
 
-bool FotoSil(Oturum& o, std::string_view kod, Bildirim& bildirim) {
-  if (!o.depo.foto.KayitBul("kod", TemizKod(kod)) || Silindi(o.depo.foto)) return true;
-  bildirim.Uyari("Resim Silinemedi");
-  return false;
+Durum FotoSil(Oturum& o, std::string_view kod) {
+  const bool yapildi = o.depo.db.Koru(false, [&] {
+    KisiTablosu<Foto>(o).Sil(TemizKod(kod));
+    return true;
+  });
+  if (yapildi) return Tamam();
+  return Kusur{"Resim Silinemedi"};
 }
 
 }  // namespace belvani

@@ -1,6 +1,6 @@
 // Identity of a person: his `kimlik` record, which may also stand without a card.
 //
-// On the shared cursor, as in personnel/kart.h. The lists of choices are in personnel/listeler.h.
+// Faults are as in personnel/kart.h. The lists of choices are in personnel/listeler.h.
 #pragma once
 
 #include <optional>
@@ -23,9 +23,10 @@ std::optional<Kimlik> KimlikGit(Oturum& o, Yon yon, std::string_view simdikiKod)
 // First name, a blank and family name of the card with this code; "" when there is no card.
 std::string KisiAdi(Oturum& o, std::string_view kod);
 
-bool KimlikKaydet(Oturum& o, const Kimlik& kimlik, Bildirim& bildirim);
+// Saves the record: one that was read is edited, another one added.
+Yazim<Kimlik> KimlikKaydet(Oturum& o, const Okunan<Kimlik>& kimlik);
 
 // Asks, and deletes identity and card together, as KartSil does.
-bool KimlikSil(Oturum& o, std::string_view kod, Bildirim& bildirim);
+Sonuc<Silme> KimlikSil(Oturum& o, std::string_view kod, Bildirim& bildirim);
 
 }  // namespace belvani

@@ -24,12 +24,12 @@ struct KisiliOrtam : AnaOrtam {
       s.soyadi = "Çağlar";
       s.ucret = Tutar(1250);
       s.girtar = Tarih(2007, 3, 1);
-      EXPECT_TRUE(KartKaydet(oturum, s, "", bildirim));
+      EXPECT_TRUE(KartKaydet(oturum, {.simdi = s}));
     }
     Esco cocuk;
     cocuk.kod = "001";
     cocuk.adi = "Gökçe";
-    EXPECT_TRUE(AileKaydet(oturum, cocuk, bildirim));
+    EXPECT_TRUE(AileKaydet(oturum, {.simdi = cocuk}));
     pencere->resize(1366, 728);
     bildirim.Al();
   }

@@ -17,7 +17,7 @@ TEST(Yukseltme, AnOldCompanyIsWorkedInAfterItsUpgrade) {
   eski.soyadi = "Çağlar";
   eski.ucret = Tutar(1250);
   eski.girtar = Tarih(2007, 3, 1);
-  ASSERT_TRUE(KartKaydet(o.oturum, eski, "", o.bildirim));
+  ASSERT_TRUE(KartKaydet(o.oturum, {.simdi = eski}));
   DepoyuYaslandir(o.oturum);
   o.oturum.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
 

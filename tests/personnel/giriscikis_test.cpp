@@ -25,7 +25,7 @@ GirisFormu Yeni(const std::string& kod) {
 }
 
 struct IseGiris : test::SirketTesti {
-  bool Kaydet(const GirisFormu& form) { return GirisKaydet(o, form, AsgariUcret, bildirim); }
+  bool Kaydet(const GirisFormu& form) { return Bildir(GirisKaydet(o, form, AsgariUcret)); }
 };
 
 TEST_F(IseGiris, ChecksStopTheFirstThatFails) {
@@ -150,14 +150,15 @@ struct IstenCikis : test::SirketTesti {
                   .cikissebebi = "İstifa",
                   .adr1 = {},
                   .adr2 = {},
-                  .tel = {}};
+                  .tel = {},
+                  .kart = {}};
   Sicil Kayit() { return KartBul(o, "a1").value(); }
 };
 
 TEST_F(IstenCikis, ChecksInTheirOrder) {
   CikisFormu f;
   const auto beklenen = [&](const char* ileti) {
-    EXPECT_FALSE(CikisKaydet(o, f, bildirim));
+    EXPECT_FALSE(Bildir(CikisKaydet(o, f)));
     EXPECT_EQ(bildirim.Al(), Iletiler{std::string("Bilgi: ") + ileti});
   };
   beklenen("Giriş Tarihi Hatası");
@@ -185,11 +186,11 @@ TEST_F(IstenCikis, RecordedOverwrittenAndTakenBack) {
   Sicil kart = Kart("A1", "Işıl", "Çağ");
   kart.girtar = Bugun;
   Yaz(kart);
-  EXPECT_TRUE(CikisKaydet(o, form, bildirim)) << "one day of work";
+  EXPECT_TRUE(Bildir(CikisKaydet(o, form))) << "one day of work";
   form.ciktar = Bugun.Ekle(9);
   form.cikiskodu = 10;
   form.cikissebebi = "Vefat";
-  EXPECT_TRUE(CikisKaydet(o, form, bildirim));
+  EXPECT_TRUE(Bildir(CikisKaydet(o, form)));
   Sicil ayrilan = kart;
   ayrilan.ciktar = Bugun.Ekle(9);
   ayrilan.cikiskodu = 10;
@@ -198,14 +199,28 @@ TEST_F(IstenCikis, RecordedOverwrittenAndTakenBack) {
   EXPECT_EQ(CikisBul(o, "a1")->adSoyad, "Işıl Çağ");
   EXPECT_EQ(CikisBul(o, "a1")->ciktar, ayrilan.ciktar);
   Engelle("update on sicil");
-  EXPECT_FALSE(CikisKaydet(o, form, bildirim));
-  EXPECT_FALSE(CikisGeriAl(o, "A1", bildirim));
+  form.cikissebebi = "Ölüm";
+  EXPECT_FALSE(Bildir(CikisKaydet(o, form)));
+  EXPECT_FALSE(Bildir(CikisGeriAl(o, "A1")));
   EXPECT_EQ(bildirim.Al(), (Iletiler{"Uyarı: Sicil Bilgileri Güncellenemedi", "Uyarı: Çıkış Geri Alınamadı"}));
   Engelle("");
-  EXPECT_FALSE(CikisGeriAl(o, "A2", bildirim));
-  EXPECT_TRUE(CikisGeriAl(o, " a1 ", bildirim));
+  EXPECT_FALSE(*CikisGeriAl(o, "A2"));
+  EXPECT_TRUE(*CikisGeriAl(o, " a1 "));
   EXPECT_EQ(Kayit(), kart);
   EXPECT_EQ(bildirim.Al(), Iletiler{});
+}
+
+// What was read is known, so another user's change is not overwritten.
+TEST_F(IstenCikis, AnotherUsersLeavingIsNamed) {
+  Yaz(Kart("A1"));
+  CikisFormu okunan = CikisBul(o, "a1").value();
+  ASSERT_TRUE(CikisKaydet(o, form));
+  okunan.ciktar = Bugun.Ekle(3);
+  okunan.cikiskodu = form.cikiskodu;
+  okunan.cikissebebi = form.cikissebebi;
+  EXPECT_EQ(CikisKaydet(o, okunan).KusurMetni(),
+            "Kayıt bu arada başka bir kullanıcı tarafından değiştirilmiş: A1 (Çıkış Tarihi)");
+  EXPECT_EQ(Kayit().ciktar, Bugun);
 }
 
 TEST(CikisKodlari, TheNumberIsThePosition) {

@@ -12,7 +12,17 @@ using test::Iletiler;
 using test::Kart;
 
 struct PersonelKarti : test::SirketTesti {
-  bool Kaydet(const Sicil& kart) { return KartKaydet(o, kart, "", bildirim); }
+  // The card comes up and is saved as it is given.
+  bool Kaydet(const Sicil& kart, const std::string& resim = {}) {
+    const auto sonuc = KartKaydet(o, {.ilk = KartBul(o, kart.kod), .simdi = kart}, resim);
+    if (sonuc)
+      for (const Kusur& uyari : sonuc->uyarilar) bildirim.KusuruGoster(uyari);
+    return Bildir(sonuc);
+  }
+  bool Sil(Sonuc<Silme> (*sil)(Oturum&, std::string_view, Bildirim&), const char* kod) {
+    const auto silme = sil(o, kod, bildirim);
+    return Bildir(silme) && *silme == Silme::Silindi;
+  }
   std::size_t KayitSayisi() { return Hepsi<Sicil>().size() + Hepsi<Kimlik>().size(); }
 };
 
@@ -30,9 +40,11 @@ TEST_F(PersonelKarti, ANewCodeGetsCardAndIdentityAndTheSecondSaveEdits) {
   degisen.meslekkod = "2411.01";
   EXPECT_EQ(KartBul(o, "a1"), degisen) << "columns that the card does not show stay";
   EXPECT_EQ(KayitSayisi(), 2u);
-  ASSERT_TRUE(KartKaydet(o, degisen, o.FirmaDizini + DepoDosyasi, bildirim)) << "any file may be the picture";
+  ASSERT_TRUE(Kaydet(degisen, o.FirmaDizini + DepoDosyasi)) << "any file may be the picture";
   EXPECT_TRUE(FotoOku(o, "A1"));
-  EXPECT_TRUE(FotoSil(o, "A1", bildirim));
+  ASSERT_TRUE(Kaydet(degisen, "/yok.jpg"));
+  EXPECT_EQ(bildirim.Al(), Iletiler{"Uyarı: Resim Kaydedilemedi\n/yok.jpg"}) << "the card is saved all the same";
+  EXPECT_TRUE(FotoSil(o, "A1"));
   EXPECT_FALSE(FotoOku(o, "a1"));
 }
 
@@ -60,7 +72,7 @@ TEST_F(PersonelKarti, BrokenCardsAreRefusedInWordsAndNothingIsSaved) {
 }
 
 TEST_F(PersonelKarti, DeletingOnEitherScreenRemovesBothAndLeavesThePayRecords) {
-  const std::tuple<bool (*)(Oturum&, std::string_view, Bildirim&), std::string, std::string> ekranlar[] = {
+  const std::tuple<Sonuc<Silme> (*)(Oturum&, std::string_view, Bildirim&), std::string, std::string> ekranlar[] = {
       {&KartSil, "Soru: Personel Kaydını Silmek İstiyormusunuz ?", "Uyarı: Personel Kartı Silinemedi"},
       {&KimlikSil, "Soru: Personel Kimlik Bilgilerini Silmek İstiyormusunuz ?",
        "Uyarı: Personel Kimlik Bilgisi Silinemedi"},
@@ -71,17 +83,17 @@ TEST_F(PersonelKarti, DeletingOnEitherScreenRemovesBothAndLeavesThePayRecords) {
   for (const auto& [sil, soru, silinemedi] : ekranlar) {
     ASSERT_TRUE(Kaydet(Kart("1")));
     bildirim.cevap = false;
-    EXPECT_FALSE(sil(o, "1", bildirim));
+    EXPECT_FALSE(Sil(sil, "1"));
     bildirim.cevap = true;
     for (const char* tablo : {"delete on sicil", "delete on kimlik"}) {
       Engelle(tablo);
-      EXPECT_FALSE(sil(o, "1", bildirim));
+      EXPECT_FALSE(Sil(sil, "1"));
     }
     EXPECT_EQ(KayitSayisi(), 2u);
     Engelle("");
-    EXPECT_TRUE(sil(o, " 1", bildirim));
+    EXPECT_TRUE(Sil(sil, " 1"));
     EXPECT_EQ(KayitSayisi(), 0u);
-    EXPECT_FALSE(sil(o, "1", bildirim));
+    EXPECT_FALSE(Sil(sil, "1"));
     EXPECT_EQ(bildirim.Al(),
               (Iletiler{soru, soru, silinemedi, soru, silinemedi, soru, soru, "Bilgi: Silinecek Personel Bulunamadı"}));
   }
@@ -95,26 +107,76 @@ TEST_F(PersonelKarti, MovesGoOnFromThePersonOnTheScreen) {
       {Yon::Onceki, "c9", "c3"}, {Yon::Onceki, "ç1", "c3"},  {Yon::Onceki, "a1", "-"},
   };
   for (const auto& [yon, simdiki, beklenen] : hareketler) {
-    o.depo.sicil.SonKayit();  // another screen
     const auto kart = KartGit(o, yon, simdiki);
     EXPECT_EQ(kart ? kart->kod : "-", beklenen) << int(yon) << " from " << simdiki;
   }
   EXPECT_FALSE(KartGit(o, Yon::Sonraki, "d5"));
-  EXPECT_EQ(o.depo.sicil.MetinOku("kod"), "d5") << "the cursor stays with the last person";
+  KisiSil(o, "c3");
+  EXPECT_EQ(KartGit(o, Yon::Sonraki, "c3")->kod, "ç1") << "who is gone keeps his place";
 }
 
 TEST_F(PersonelKarti, AnIdentityStandsWithoutACardAndIsEdited) {
   Kimlik kimlik;
-  EXPECT_FALSE(KimlikKaydet(o, kimlik, bildirim));
+  EXPECT_FALSE(Bildir(KimlikKaydet(o, {.simdi = kimlik})));
   EXPECT_EQ(bildirim.Al(), Iletiler{"Uyarı: Personel Kodu Bulunamadı.."});
   kimlik.kod = "k1";
-  ASSERT_TRUE(KimlikKaydet(o, kimlik, bildirim));
+  ASSERT_TRUE(KimlikKaydet(o, {.simdi = kimlik}));
   kimlik.dogtar = Tarih(1970, 5, 5);
-  ASSERT_TRUE(KimlikKaydet(o, kimlik, bildirim));
+  ASSERT_TRUE(KimlikKaydet(o, {.ilk = KimlikBul(o, "K1"), .simdi = kimlik}));
   EXPECT_EQ(KisiAdi(o, "k1"), "");
   ASSERT_TRUE(Kaydet(Kart("k1", "Işıl", "Öz")));
   EXPECT_EQ(Hepsi<Kimlik>(), std::vector{kimlik}) << "the card leaves an identity that is there alone";
   EXPECT_EQ(KisiAdi(o, "K1"), "Işıl Öz");
+}
+
+// Two desks on one company.
+struct IkiKullanici : PersonelKarti {
+  Oturum obur;
+
+  void SetUp() override {
+    PersonelKarti::SetUp();
+    obur.DataPath = o.DataPath;
+    ASSERT_TRUE(SirketAc(obur, "DENEME", bildirim));
+    ASSERT_TRUE(Kaydet(Kart("A1")));
+  }
+  Okunan<Sicil> Getir(Oturum& kullanici) {
+    const auto kart = KartBul(kullanici, "a1");
+    return {.ilk = kart, .simdi = kart.value_or(Sicil{})};
+  }
+};
+
+TEST_F(IkiKullanici, KeepBothTheirChangesOrAreToldWhereTheyMeet) {
+  auto benim = Getir(o), onun = Getir(obur);
+  onun.simdi.verda = "Konak";
+  onun.simdi.ucret = Tutar(1100);
+  ASSERT_TRUE(KartKaydet(obur, onun));
+  benim.simdi.adi = "Işıl";
+  ASSERT_TRUE(KartKaydet(o, benim));
+  EXPECT_EQ(KartBul(o, "a1")->adi + KartBul(o, "a1")->verda, "IşılKonak") << "different fields";
+
+  benim.simdi.ucret = Tutar(1200);
+  const auto engel = KartKaydet(o, benim);
+  ASSERT_TRUE(!engel && engel.Kusuru().cakisma);
+  EXPECT_EQ(engel.KusurMetni(), "Kayıt bu arada başka bir kullanıcı tarafından değiştirilmiş: A1 (Ücreti)");
+  EXPECT_EQ(engel.Kusuru().alan, AlanTutamagi(sicil::ucret));
+  EXPECT_EQ(engel.Kusuru().cakisma->onunki.ucret, Tutar(1100));
+  EXPECT_EQ(KartBul(o, "a1")->ucret, Tutar(1100)) << "nothing is written";
+}
+
+TEST_F(IkiKullanici, ADeletedPersonIsNotAddedUnseenNorANewCodeOverwritten) {
+  auto benim = Getir(o);
+  benim.simdi.adi = "Işıl";
+  ASSERT_TRUE(KisiSil(obur, "A1"));
+  const auto silinmis = KartKaydet(o, benim);
+  ASSERT_TRUE(!silinmis && silinmis.Kusuru().cakisma);
+  EXPECT_EQ(silinmis.Kusuru().cakisma->tur, CakismaTuru::Silinmis);
+  EXPECT_EQ(KayitSayisi(), 0u) << "nor an identity alone";
+
+  ASSERT_TRUE(KartKaydet(obur, {.simdi = Kart("A1", "Can")}));
+  const auto eklenmis = KartKaydet(o, {.simdi = Kart("a1", "Ali")});
+  ASSERT_TRUE(!eklenmis && eklenmis.Kusuru().cakisma);
+  EXPECT_EQ(eklenmis.Kusuru().cakisma->tur, CakismaTuru::Eklenmis);
+  EXPECT_EQ(KartBul(o, "a1")->adi, "Can");
 }
 
 }  // namespace

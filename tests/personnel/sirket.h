@@ -29,6 +29,12 @@ struct SirketTesti : testing::Test {
   void Yaz(const Kayit& kayit) {
     KayitYazici<Kayit>(o.depo.db.IcMotor()).Ekle(kayit);
   }
+  // What a screen does with a result: its fault is told.
+  template <class S>
+  bool Bildir(const S& sonuc) {
+    if (!sonuc) bildirim.KusuruGoster(sonuc.Kusuru());
+    return bool(sonuc);
+  }
   // Until the next call the engine refuses `islem` ("insert on esco"); "" refuses nothing.
   void Engelle(const std::string& islem) {
     o.depo.db.IcMotor().Calistir("drop trigger if exists engel");

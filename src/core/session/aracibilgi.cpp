@@ -1,22 +1,23 @@
 #include "core/session/aracibilgi.h"
 
-#include "core/session/ilksatir.h"
+#include "core/store/tablo.h"
 
 namespace belvani {
 
-Arac AraciOku(Oturum& o) {
-  Arac yeni;
-  yeni.kod = "000";
-  return IlkSatir<Arac>(o.depo.db, o.depo.arac).value_or(yeni);
+Okunan<Arac> AraciDuzenle(Oturum& o) {
+  Veritabani& db = o.depo.db;
+  Okunan<Arac> araci{.ilk = db.Koru(std::optional<Arac>(), [&] { return Tablo<Arac>(db.IcMotor()).Bul(); }),
+                     .simdi = {}};
+  araci.simdi.kod = "000";
+  if (araci.ilk) araci.simdi = *araci.ilk;
+  return araci;
 }
 
-bool AraciKaydet(Oturum& o, const Arac& arac, Bildirim& bildirim) {
-  auto& rs = o.depo.arac;
-  rs.IlkKayit() ? rs.KayitDuzelt() : rs.KayitEkle();
-  AlanlariYaz(rs, arac);
-  if (rs.KayitYaz()) return true;
-  bildirim.Uyari("Aracı Bilgileri Kaydedilemedi");
-  return false;
+Yazim<Arac> AraciKaydet(Oturum& o, const Okunan<Arac>& araci) {
+  const Yazim<Arac> yazilamadi{YazmaEngeli<Arac>(Kusur{"Aracı Bilgileri Kaydedilemedi"})};
+  Veritabani& db = o.depo.db;
+  auto sonuc = db.Koru(yazilamadi, [&] { return Tablo<Arac>(db.IcMotor()).Yaz(araci); });
+  return sonuc || sonuc.Kusuru().cakisma ? std::move(sonuc) : yazilamadi;
 }
 
 }  // namespace belvani

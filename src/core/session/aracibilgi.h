@@ -1,16 +1,19 @@
 // The subcontractor through whom the employer takes people on: the first record of `arac`.
 #pragma once
 
-#include "core/bildirim.h"
 #include "core/session/oturum.h"
+#include "core/store/cakisma.h"
 #include "core/tables/arac.h"
 
 namespace belvani {
 
-// The record, or an empty one with the code "000" when there is none.
-Arac AraciOku(Oturum& o);
+// The record, to be edited; an empty one with the code "000" when there is none.
+Okunan<Arac> AraciDuzenle(Oturum& o);
+inline Arac AraciOku(Oturum& o) {
+  return AraciDuzenle(o).simdi;
+}
 
-// False: "Aracı Bilgileri Kaydedilemedi" was told.
-bool AraciKaydet(Oturum& o, const Arac& arac, Bildirim& bildirim);
+// Fails with "Aracı Bilgileri Kaydedilemedi", or with another user's change.
+Yazim<Arac> AraciKaydet(Oturum& o, const Okunan<Arac>& araci);
 
 }  // namespace belvani

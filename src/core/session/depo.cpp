@@ -1,42 +1,84 @@
 #include "core/session/depo.h"
 
 #include "core/dosya.h"
-#include "core/tables/tablolar.h"
+#include "core/store/tablo.h"
 
 namespace belvani {
 namespace {
 
 constexpr std::size_t EnCokFoto = 1'000'000'000;  // bytes: the most that a field of the store takes
 
-bool AcVeyaBildir(Veritabani& db, Imlec& rs, std::string_view tablo, const char* hataMetni, Bildirim& bildirim) {
-  if (db.TabloAc(rs, tablo)) return true;
-  bildirim.Uyari(hataMetni);
-  return false;
+enum class Yoklugu {
+  Kusurdur,    // of a store that is no company's, or a broken one
+  Giderilir,   // a store of an older program: the first opening makes it
+  Baslangicta  // the same, and a new store has not got it either
+};
+
+struct DepoTablosu {
+  std::string_view ad;
+  Imlec Depo::*imlec;
+  Yoklugu yoklugu;
+  const char* acilamadi;
+  std::vector<std::string_view> sonradanAlanlar = {};  // that the first opening adds
+};
+
+// In the order in which they are made and opened.
+const std::vector<DepoTablosu>& DepoTablolari() {
+  static const char* const sicilAcilamadi = "Sicil SQL Tablosu Açılamadı";
+  using enum Yoklugu;
+  static const std::vector<DepoTablosu> tablolar{
+      {"peruser", &Depo::peruser, Kusurdur, "PErUser SQL Tablosu Açılamadı"},
+      {"firma", &Depo::firma, Kusurdur, "Firma SQL Tablosu Açılamadı"},
+      {"sicil", &Depo::sicil, Kusurdur, sicilAcilamadi, {"meslekkod"}},
+      {"foto", &Depo::foto, Kusurdur, sicilAcilamadi},
+      {"kimlik", &Depo::kimlik, Kusurdur, sicilAcilamadi},
+      {"brd", &Depo::brd, Kusurdur, sicilAcilamadi, {"brdkanun", "rapcalismadi"}},
+      {"dvr", &Depo::dvr, Giderilir, "Devir SQL Tablosu Açılamadı"},
+      {"esco", &Depo::esco, Giderilir, "Eş ve Çocuk SQL Tablosu Açılamadı"},
+      {"muaf", &Depo::muaf, Giderilir, "Muafiyetler Tablosu Açılamadı"},
+      {"arac", &Depo::arac, Giderilir, "Aracı Bilgileri Tablosu Açılamadı"},
+      {"indir", &Depo::indir, Giderilir, "İndirimler Tablosu Açılamadı"},
+      {"kaztan", &Depo::kaztan, Baslangicta, "Kazançlar Tablosu Açılamadı"},
+      {"entpar", &Depo::entpar, Baslangicta, "Entegrasyon Parametreleri Tablosu Açılamadı"},
+      {"sendika", &Depo::sendika, Giderilir, "Sendika Parametreleri Tablosu Açılamadı"},
+      {"cari", &Depo::cari, Giderilir, "Cari Modul Tablosu Açılamadı"},
+  };
+  return tablolar;
 }
 
-void TabloYaratilamadi(std::string_view tablo, Bildirim& bildirim) {
-  bildirim.Uyari(std::string(tablo) + " SQL Tablosu Yaratılamadı");
+// `brdkanun` belongs to the version of this program; an older store gets it with its upgrade.
+bool Eklenir(Imlec& firma, std::string_view alan) {
+  return alan != "brdkanun" || Tek(SayiDegeri(firma.AlanOku("versiyon"))) == ProgramVersiyonu;
 }
 
 void YoksaEkle(Veritabani& db, std::string_view tablo, std::string_view alan) {
   if (db.TabloVarMi(tablo) && !db.AlanVarMi(tablo, alan)) db.AlanEkle(tablo, *TabloBul(tablo)->AlanBul(alan));
 }
 
+// Another computer may make the table between two looks at it.
+bool AcVeyaYarat(Depo& depo, const DepoTablosu& tablo, Bildirim& bildirim) {
+  Imlec& rs = depo.*tablo.imlec;
+  if (depo.db.TabloAc(rs, tablo.ad)) return true;
+  if (tablo.yoklugu == Yoklugu::Kusurdur) return false;
+  const Durum yaratildi = depo.TabloYarat(tablo.ad);
+  if (depo.db.TabloAc(rs, tablo.ad)) return true;
+  if (!yaratildi) bildirim.Uyari(yaratildi.KusurMetni());
+  return false;
+}
+
 }  // namespace
 
-bool Depo::VeritabaniYarat(const std::string& yol, Bildirim& bildirim) {
+Durum Depo::VeritabaniYarat(const std::string& yol) {
   TablolariKapat(KapatmaKapsami::VeritabaniDa);
-  if (!db.DbYarat(yol)) {
-    bildirim.Uyari(yol + "\nDatabase Yaratılamadı");
-    return false;
-  }
-  for (const char* tablo : {"peruser", "firma", "sicil", "foto", "kimlik", "brd", "dvr", "esco", "muaf", "arac",
-                            "indir", "sendika", "cari"})
-    if (!TabloYarat(tablo, bildirim)) {
+  if (!db.DbYarat(yol)) return Kusur{yol + "\nDatabase Yaratılamadı"};
+  for (const DepoTablosu& tablo : DepoTablolari()) {
+    if (tablo.yoklugu == Yoklugu::Baslangicta) continue;
+    if (const Durum yaratildi = TabloYarat(tablo.ad); !yaratildi) {
       VeritabaniKaldir(yol);
-      return false;
+      return yaratildi;
     }
-  return true;
+  }
+  return Tamam();
 }
 
 void Depo::VeritabaniKaldir(const std::string& yol) {
@@ -44,54 +86,27 @@ void Depo::VeritabaniKaldir(const std::string& yol) {
   MotorDosyasiniSil(yol);
 }
 
-bool Depo::TabloYarat(std::string_view tablo, Bildirim& bildirim) {
+Durum Depo::TabloYarat(std::string_view tablo) {
   const TabloTanimi* tanim = TabloBul(tablo);
-  if (tanim != nullptr && db.TabloEkle(*tanim)) return true;
-  TabloYaratilamadi(tablo, bildirim);
-  return false;
+  if (tanim != nullptr && db.TabloEkle(*tanim)) return Tamam();
+  return Kusur{std::string(tablo) + " SQL Tablosu Yaratılamadı"};
 }
 
 bool Depo::VeritabaniAc(const std::string& yol, Bildirim& bildirim) {
   TablolariKapat(KapatmaKapsami::VeritabaniDa);
   if (!db.DbAc(yol)) return false;
-  if (!AcVeyaBildir(db, peruser, "peruser", "PErUser SQL Tablosu Açılamadı", bildirim)) return false;
-  if (!AcVeyaBildir(db, firma, "firma", "Firma SQL Tablosu Açılamadı", bildirim)) return false;
-  YoksaEkle(db, "sicil", "meslekkod");
-  const char* const sicilHatasi = "Sicil SQL Tablosu Açılamadı";
-  if (!AcVeyaBildir(db, sicil, "sicil", sicilHatasi, bildirim)) return false;
-  if (!AcVeyaBildir(db, foto, "foto", sicilHatasi, bildirim)) return false;
-  if (!AcVeyaBildir(db, kimlik, "kimlik", sicilHatasi, bildirim)) return false;
-  if (Tek(SayiDegeri(firma.AlanOku("versiyon"))) == ProgramVersiyonu) YoksaEkle(db, "brd", "brdkanun");
-  YoksaEkle(db, "brd", "rapcalismadi");
-  if (!AcVeyaBildir(db, brd, "brd", sicilHatasi, bildirim)) return false;
-
-  return GecTabloyuAc(dvr, "dvr", "Devir SQL Tablosu Açılamadı", bildirim) &&
-         GecTabloyuAc(esco, "esco", "Eş ve Çocuk SQL Tablosu Açılamadı", bildirim) &&
-         GecTabloyuAc(muaf, "muaf", "Muafiyetler Tablosu Açılamadı", bildirim) &&
-         GecTabloyuAc(arac, "arac", "Aracı Bilgileri Tablosu Açılamadı", bildirim) &&
-         GecTabloyuAc(indir, "indir", "İndirimler Tablosu Açılamadı", bildirim) &&
-         GecTabloyuAc(kaztan, "kaztan", "Kazançlar Tablosu Açılamadı", bildirim) &&
-         GecTabloyuAc(entpar, "entpar", "Entegrasyon Parametreleri Tablosu Açılamadı", bildirim) &&
-         GecTabloyuAc(sendika, "sendika", "Sendika Parametreleri Tablosu Açılamadı", bildirim) &&
-         GecTabloyuAc(cari, "cari", "Cari Modul Tablosu Açılamadı", bildirim);
-}
-
-bool Depo::GecTabloyuAc(Imlec& rs, std::string_view tablo, const char* hataMetni, Bildirim& bildirim) {
-  while (!db.TabloAc(rs, tablo)) {
-    if (db.TabloEkle(*TabloBul(tablo))) continue;
-    // Another computer may have made it between our two looks.
-    if (db.TabloAc(rs, tablo)) return true;
-    TabloYaratilamadi(tablo, bildirim);
-    bildirim.Uyari(hataMetni);
+  for (const DepoTablosu& tablo : DepoTablolari()) {
+    for (const std::string_view alan : tablo.sonradanAlanlar)
+      if (Eklenir(firma, alan)) YoksaEkle(db, tablo.ad, alan);
+    if (AcVeyaYarat(*this, tablo, bildirim)) continue;
+    bildirim.Uyari(tablo.acilamadi);
     return false;
   }
   return true;
 }
 
 void Depo::TablolariKapat(KapatmaKapsami kapsam) {
-  for (Imlec* rs : {&peruser, &firma, &sicil, &foto, &kimlik, &brd, &dvr, &muaf, &arac, &indir, &sendika, &esco,
-                    &kaztan, &cari, &entpar})
-    rs->RsKapat();
+  for (const DepoTablosu& tablo : DepoTablolari()) (this->*tablo.imlec).RsKapat();
   if (kapsam == KapatmaKapsami::VeritabaniDa) db.DbKapat();
 }
 
@@ -99,23 +114,22 @@ bool Depo::FotoYaz(const std::string& kod, const std::string& dosya) {
   return db.Koru(false, [&] {
     const auto icerik = DosyaOku(dosya, EnCokFoto);
     if (!icerik) return false;
+    Tablo<Foto> fotolar(db.IcMotor());
     Islem islem(db.IcMotor());
-    if (foto.KayitBul("kod", kod)) foto.KayitSil();
-    foto.KayitEkle();
-    foto.AlanYaz("kod", kod);
-    foto.AlanYaz("resim", Baytlar(icerik->begin(), icerik->end()));
-    if (!foto.KayitYaz()) return false;
+    fotolar.Sil(kod);
+    Foto yeni;
+    yeni.kod = kod;
+    yeni.resim.assign(icerik->begin(), icerik->end());
+    if (!fotolar.Yaz({.ilk = {}, .simdi = std::move(yeni)})) return false;
     islem.Onayla();
     return true;
   });
 }
 
 bool Depo::FotoOku(const std::string& kod, const std::string& hedef) {
-  const bool bulundu = foto.KayitBul("kod", kod);
-  const Deger resim = bulundu ? foto.AlanOku("resim") : Deger(Null{});
-  const auto* baytlar = std::get_if<Baytlar>(&resim);
-  const std::string icerik = baytlar == nullptr ? std::string() : std::string(baytlar->begin(), baytlar->end());
-  return DosyaYaz(hedef, icerik) && bulundu;
+  const auto kayit = db.Koru(std::optional<Foto>(), [&] { return Tablo<Foto>(db.IcMotor()).Bul(kod); });
+  const std::string icerik = kayit ? std::string(kayit->resim.begin(), kayit->resim.end()) : std::string();
+  return DosyaYaz(hedef, icerik) && kayit.has_value();
 }
 
 }  // namespace belvani

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/bildirim.h"
+#include "core/sonuc.h"
 #include "core/store/imlec.h"
 #include "core/store/veritabani.h"
 
@@ -20,15 +21,15 @@ struct Depo {
   Veritabani db;
   Imlec peruser, firma, sicil, foto, kimlik, brd, dvr, esco, muaf, arac, indir, kaztan, entpar, sendika, cari;
 
-  // Makes the store file `yol` and its tables; `kaztan` and `entpar` come with the first opening. Reports its failures,
-  // and leaves no file behind then.
-  bool VeritabaniYarat(const std::string& yol, Bildirim& bildirim);
+  // Makes the store file `yol` and its tables; `kaztan` and `entpar` come with the first opening. A failure leaves no
+  // file behind.
+  Durum VeritabaniYarat(const std::string& yol);
 
   // Closes everything and removes the store file `yol`.
   void VeritabaniKaldir(const std::string& yol);
 
-  // Makes one table of the schema by its name, with its fields and indexes. Reports its failure.
-  bool TabloYarat(std::string_view tablo, Bildirim& bildirim);
+  // Makes one table of the schema by its name, with its fields and indexes.
+  Durum TabloYarat(std::string_view tablo);
 
   // Opens the store and all cursors. What an older build lacks grows by itself: the fields `meslekkod`, `rapcalismadi`
   // (`brdkanun` in a store of version 2003.7), and the tables from `dvr` on. A lost peruser, firma, sicil, foto, kimlik
@@ -37,17 +38,11 @@ struct Depo {
 
   void TablolariKapat(KapatmaKapsami kapsam);
 
-  bool SicilBul(std::string_view kod) { return sicil.KayitBul("kod", std::string(kod)); }
-  bool KimlikBul(std::string_view kod) { return kimlik.KayitBul("kod", std::string(kod)); }
-
   // Puts the picture file into the person's `foto` record in place of what is there. False: unreadable or unsaved.
   bool FotoYaz(const std::string& kod, const std::string& dosya);
   // Writes the person's picture to `hedef`; false when there is none, and `hedef` is then emptied all the same, so that
   // it never shows another person.
   bool FotoOku(const std::string& kod, const std::string& hedef);
-
- private:
-  bool GecTabloyuAc(Imlec& rs, std::string_view tablo, const char* hataMetni, Bildirim& bildirim);
 };
 
 }  // namespace belvani

@@ -1,7 +1,7 @@
 #include "core/session/firmabilgi.h"
 
 #include "core/sayi.h"
-#include "core/session/ilksatir.h"
+#include "core/store/tablo.h"
 
 namespace belvani {
 namespace {
@@ -30,21 +30,29 @@ Firma YeniFirma() {
   return f;
 }
 
-Firma FirmaOku(Oturum& o) {
-  return IlkSatir<Firma>(o.depo.db, o.depo.firma).value_or(YeniFirma());
+Okunan<Firma> FirmaDuzenle(Oturum& o) {
+  Veritabani& db = o.depo.db;
+  Okunan<Firma> firma{.ilk = db.Koru(std::optional<Firma>(), [&] { return Tablo<Firma>(db.IcMotor()).Bul(); }),
+                      .simdi = {}};
+  firma.simdi = firma.ilk.value_or(YeniFirma());
+  return firma;
 }
 
-Durum FirmaKaydet(Oturum& o, const Firma& firma) {
-  auto& rs = o.depo.firma;
-  const bool var = rs.IlkKayit();
-  o.firma = firma;
-  o.firma.kanun = KanunMetni(firma.kanun);
-  o.firma.versiyon = var ? DepoVersiyonu(o) : o.Versiyon;
-  var ? rs.KayitDuzelt() : rs.KayitEkle();
-  AlanlariYaz(rs, o.firma, {});
-  if (!rs.KayitYaz()) return Kusur{"Firma Bilgileri Güncellenemedi"};
-  o.firmaVar = true;
-  return Tamam();
+Firma FirmaOku(Oturum& o) {
+  return FirmaDuzenle(o).simdi;
+}
+
+Yazim<Firma> FirmaKaydet(Oturum& o, const Okunan<Firma>& firma) {
+  Okunan<Firma> yazilan = firma;
+  yazilan.simdi.kanun = KanunMetni(firma.simdi.kanun);
+  yazilan.simdi.versiyon = firma.ilk ? firma.ilk->versiyon : o.Versiyon;
+  const Yazim<Firma> yazilamadi{YazmaEngeli<Firma>(Kusur{"Firma Bilgileri Güncellenemedi"})};
+  Veritabani& db = o.depo.db;
+  auto sonuc = db.Koru(yazilamadi, [&] { return Tablo<Firma>(db.IcMotor()).Yaz(yazilan); });
+  if (!sonuc && sonuc.Kusuru().cakisma) return sonuc;
+  o.firma = sonuc ? *sonuc : yazilan.simdi;
+  if (sonuc) o.firmaVar = true;
+  return sonuc ? std::move(sonuc) : yazilamadi;
 }
 
 std::string KanunMetni(std::string_view metin) {

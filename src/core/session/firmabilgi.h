@@ -1,14 +1,15 @@
 // The company card: the single record of `firma`.
 //
-// The session holds it (`Oturum::firma`); a save writes the session first, and the session stays written when the store
-// then refuses the record. While parameters are loaded, save it through FirmaDurumu, which keeps them in step.
+// The session holds it (`Oturum::firma`); a save writes the session too, even when the store then refuses the record;
+// not when another user's change stands against it, for then nothing is decided. While parameters are loaded, save it
+// through FirmaDurumu, which keeps them in step.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-#include "core/bildirim.h"
 #include "core/session/oturum.h"
+#include "core/store/cakisma.h"
 #include "core/tables/firma.h"
 
 namespace belvani {
@@ -19,9 +20,12 @@ Firma YeniFirma();
 // The company's record, or the values of a new company when there is none.
 Firma FirmaOku(Oturum& o);
 
-// Saves the card. `versiyon` belongs to the upgrade: an edit keeps it, a new record gets the program's. `kanun` may be
-// as it was typed.
-Durum FirmaKaydet(Oturum& o, const Firma& firma);
+// The same, to be edited.
+Okunan<Firma> FirmaDuzenle(Oturum& o);
+
+// Saves the card; fails with "Firma Bilgileri Güncellenemedi", or with another user's change. `versiyon` belongs to the
+// upgrade: an edit keeps it, a new record gets the program's. `kanun` may be as it was typed.
+Yazim<Firma> FirmaKaydet(Oturum& o, const Okunan<Firma>& firma);
 
 // A law number as the store keeps it, in five digits: "5510" -> "05510", "506" -> "00506", "yok" -> "00000".
 std::string KanunMetni(std::string_view metin);

@@ -1,6 +1,6 @@
 #include "core/session/kullanicilar.h"
 
-#include "core/store/satirlar.h"
+#include "core/store/tablo.h"
 #include "core/turkce.h"
 
 namespace belvani {
@@ -11,32 +11,36 @@ bool Reddet(Bildirim& bildirim, std::string_view metin) {
   return false;
 }
 
-bool KullaniciYaz(Imlec& peruser, std::string_view sifre, Bildirim& bildirim) {
-  peruser.AlanYaz("pasw", std::string(sifre));
-  peruser.AlanYaz("admin", true);
-  if (peruser.KayitYaz()) return true;
+bool KullaniciYaz(Oturum& o, Okunan<Peruser> kullanici, std::string_view sifre, Bildirim& bildirim) {
+  kullanici.simdi.pasw = sifre;
+  kullanici.simdi.admin = true;
+  Veritabani& db = o.depo.db;
+  if (db.Koru(false, [&] { return bool(Tablo<Peruser>(db.IcMotor()).Yaz(kullanici)); })) return true;
   bildirim.Uyari("Kullanıcı Tanımları Yazılamıyor");
   return false;
 }
 
-bool SifreDegistir(Imlec& peruser, std::string_view eskiSifre, std::string_view yeniSifre, std::string_view onay,
-                   Bildirim& bildirim) {
-  if (peruser.MetinOku("pasw") != eskiSifre) return Reddet(bildirim, "Eski Şifre Hatalı");
+bool SifreDegistir(Oturum& o, const Peruser& kullanici, std::string_view eskiSifre, std::string_view yeniSifre,
+                   std::string_view onay, Bildirim& bildirim) {
+  if (kullanici.pasw != eskiSifre) return Reddet(bildirim, "Eski Şifre Hatalı");
   if (yeniSifre != onay) return Reddet(bildirim, "Yeni Şifre ile Onay Şifre Aynı Olmalı");
-  if (const auto kusur = KullaniciKusuru(peruser.MetinOku("kod"), yeniSifre); !kusur.empty())
-    return Reddet(bildirim, kusur);
-  peruser.KayitDuzelt();
-  return KullaniciYaz(peruser, yeniSifre, bildirim);
+  if (const auto kusur = KullaniciKusuru(kullanici.kod, yeniSifre); !kusur.empty()) return Reddet(bildirim, kusur);
+  return KullaniciYaz(o, {.ilk = kullanici, .simdi = kullanici}, yeniSifre, bildirim);
 }
 
-bool KullaniciEkle(Imlec& peruser, std::string_view ad, std::string_view yeniSifre, std::string_view onay,
+bool KullaniciEkle(Oturum& o, std::string_view ad, std::string_view yeniSifre, std::string_view onay,
                    Bildirim& bildirim) {
   if (yeniSifre.empty() || onay.empty()) return Reddet(bildirim, "Yeni Şifre ve Onay Şifreyi Girmelisiniz");
   if (yeniSifre != onay) return false;
   if (const auto kusur = KullaniciKusuru(ad, yeniSifre); !kusur.empty()) return Reddet(bildirim, kusur);
-  peruser.KayitEkle();
-  peruser.AlanYaz("kod", std::string(ad));
-  return KullaniciYaz(peruser, yeniSifre, bildirim);
+  Okunan<Peruser> yeni;
+  yeni.simdi.kod = ad;
+  return KullaniciYaz(o, yeni, yeniSifre, bildirim);
+}
+
+std::optional<Peruser> KullaniciBul(Oturum& o, std::string_view ad) {
+  Veritabani& db = o.depo.db;
+  return db.Koru(std::optional<Peruser>(), [&] { return Tablo<Peruser>(db.IcMotor()).Bul(std::string(ad)); });
 }
 
 }  // namespace
@@ -59,22 +63,24 @@ std::vector<Peruser> Kullanicilar(Oturum& o) {
 bool KullaniciKaydet(Oturum& o, std::string_view ad, std::string_view eskiSifre, std::string_view yeniSifre,
                      std::string_view onay, Bildirim& bildirim) {
   if (Kirp(ad).empty()) return Reddet(bildirim, "Kullanıcı Adı Yok");
-  auto& peruser = o.depo.peruser;
-  return peruser.KayitBul("kod", std::string(ad)) ? SifreDegistir(peruser, eskiSifre, yeniSifre, onay, bildirim)
-                                                  : KullaniciEkle(peruser, ad, yeniSifre, onay, bildirim);
+  const auto kullanici = KullaniciBul(o, ad);
+  return kullanici ? SifreDegistir(o, *kullanici, eskiSifre, yeniSifre, onay, bildirim)
+                   : KullaniciEkle(o, ad, yeniSifre, onay, bildirim);
 }
 
 bool KullaniciSil(Oturum& o, std::string_view ad, Bildirim& bildirim) {
   const std::string kod(ad);
   if (Kirp(kod).empty() || !bildirim.Soru("Kullanıcıyı Silmek İstiyormusunuz")) return false;
-  auto& peruser = o.depo.peruser;
-  if (!peruser.KayitBul("kod", kod)) return Reddet(bildirim, "Kullanıcı Bulunamadı");
-  if (peruser.KayitSayisi() < 2 && !bildirim.Soru("Son Kullanıcı da Silinirse Giriş Yapamazsınız\nEminmisiniz"))
+  if (!KullaniciBul(o, kod)) return Reddet(bildirim, "Kullanıcı Bulunamadı");
+  Veritabani& db = o.depo.db;
+  if (Kullanicilar(o).size() < 2 && !bildirim.Soru("Son Kullanıcı da Silinirse Giriş Yapamazsınız\nEminmisiniz"))
     return false;
-  peruser.KayitSil();
-  if (!peruser.KayitBul("kod", kod)) return true;
-  bildirim.Uyari("Kullanıcı Silinemedi\n" + o.depo.db.SonHata());
-  return false;
+  const bool silindi = db.Koru(false, [&] {
+    Tablo<Peruser>(db.IcMotor()).Sil(kod);
+    return true;
+  });
+  if (!silindi) bildirim.Uyari("Kullanıcı Silinemedi\n" + db.SonHata());
+  return silindi;
 }
 
 }  // namespace belvani

@@ -8,10 +8,10 @@
 #include "core/dosya.h"
 #include "core/sayi.h"
 #include "core/session/firmabilgi.h"
-#include "core/session/ilksatir.h"
 #include "core/session/kullanicilar.h"
 #include "core/session/renkler.h"
 #include "core/session/sirket.h"
+#include "core/store/tablo.h"
 #include "core/tables/peruser.h"
 #include "core/turkce.h"
 
@@ -33,20 +33,18 @@ bool DataDiziniYarat(const std::string& dataPath, Bildirim& bildirim) {
   return true;
 }
 
-bool IlkKullaniciYaz(Imlec& peruser, std::string_view kullanici, std::string_view sifre) {
-  peruser.KayitEkle();
-  peruser.AlanYaz("kod", std::string(kullanici));
-  peruser.AlanYaz("pasw", std::string(sifre));
-  peruser.AlanYaz("admin", true);
-  return peruser.KayitYaz();
+bool IlkKullaniciYaz(Veritabani& db, std::string_view kullanici, std::string_view sifre) {
+  Okunan<Peruser> ilk;
+  ilk.simdi = {.kod = std::string(kullanici), .pasw = std::string(sifre), .admin = true};
+  return db.Koru(false, [&] { return bool(Tablo<Peruser>(db.IcMotor()).Yaz(ilk)); });
 }
 
 // The store of a new company with its first user, open; on failure there is no store.
 Durum DepoKur(Depo& depo, const std::string& yol, std::string_view kullanici, std::string_view sifre,
               Bildirim& bildirim) {
-  if (!depo.VeritabaniYarat(yol, bildirim)) return Kusur{};
+  if (const Durum yaratildi = depo.VeritabaniYarat(yol); !yaratildi) return yaratildi;
   const bool acildi = depo.VeritabaniAc(yol, bildirim);
-  if (acildi && IlkKullaniciYaz(depo.peruser, kullanici, sifre)) return Tamam();
+  if (acildi && IlkKullaniciYaz(depo.db, kullanici, sifre)) return Tamam();
   depo.VeritabaniKaldir(yol);
   return Kusur{(acildi ? "Kullanıcı Eklenemedi: " : "Database Açılamadı: ") + depo.db.SonHata()};
 }
@@ -135,21 +133,17 @@ Firma KartsizFirma() {
 }
 
 bool FirmaYukle(Oturum& o) {
-  auto kart = IlkSatir<Firma>(o.depo.db, o.depo.firma);
+  auto kart = FirmaDuzenle(o).ilk;
   o.firmaVar = kart.has_value();
   if (kart) o.firma = std::move(*kart);
   return o.firmaVar;
 }
 
 void FirmaIlkKayit(Oturum& o, Bildirim& bildirim) {
-  Firma yeni = YeniFirma();
-  yeni.versiyon = o.Versiyon;
-  o.firma = yeni;
-  auto& firma = o.depo.firma;
-  firma.IlkKayit() ? firma.KayitDuzelt() : firma.KayitEkle();
-  AlanlariYaz(firma, yeni, {"tersfirma"});
-  o.firmaVar = firma.KayitYaz();
-  if (!o.firmaVar) bildirim.Uyari("Firma Bilgileri Güncellenemedi");
+  Okunan<Firma> firma = FirmaDuzenle(o);
+  firma.simdi = YeniFirma();
+  firma.simdi.tersfirma = firma.ilk.value_or(Firma{}).tersfirma;
+  if (const auto yazilan = FirmaKaydet(o, firma); !yazilan) bildirim.Uyari(yazilan.KusurMetni());
 }
 
 Tek DepoVersiyonu(Oturum& o) {

@@ -53,8 +53,7 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
 Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim);
 
 // Makes a company with its store, its first user (an administrator) and its `firma` record, and leaves it open. On
-// failure no trace of the company stays on the disk, and no store is open. A store that could not be made has told of
-// itself: the failure's text is then empty.
+// failure no trace of the company stays on the disk, and no store is open.
 Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
                     Bildirim& bildirim);
 

@@ -86,6 +86,7 @@ class Motor {
   virtual void IslemBaslat(std::chrono::milliseconds enCok) = 0;
   virtual void IslemOnayla() = 0;
   virtual void IslemGeriAl() noexcept = 0;
+  virtual bool IslemdeMi() const = 0;
 
   virtual std::vector<MotorKolonu> Kolonlar(std::string_view tablo) = 0;  // empty: no such table
   virtual std::string KolonTanimi(const AlanTanimi& alan, bool birincil) const = 0;

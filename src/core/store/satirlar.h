@@ -3,6 +3,7 @@
 // A store of an older program may lack columns: they read as Null and are left out of writes.
 #pragma once
 
+#include <algorithm>
 #include <set>
 #include <string>
 
@@ -33,24 +34,53 @@ inline void KolonBagla(Komut& k, int no, bool d) { k.TamBagla(no, d ? 1 : 0); }
 inline void KolonBagla(Komut& k, int no, const Baytlar& d) { k.BaytBagla(no, d); }
 // clang-format on
 
-// The columns that the store's table really has.
-inline std::set<std::string, std::less<>> TabloKolonlari(Motor& motor, std::string_view tablo) {
-  std::set<std::string, std::less<>> adlar;
-  for (auto& kolon : motor.Kolonlar(tablo)) adlar.insert(std::move(kolon.ad));
-  return adlar;
-}
+// Which columns of `Kayit` the store's table has. It is asked once, and told by the place of the column, so that no
+// name is sought row by row.
+template <class Kayit>
+class VarolanKolonlar {
+ public:
+  explicit VarolanKolonlar(Motor& motor) {
+    const auto kolonlar = motor.Kolonlar(Kayit::TabloAdi);
+    Kayit::HerKolon([&](const AlanTanimi& alan) {
+      var_.push_back(std::any_of(kolonlar.begin(), kolonlar.end(), [&](const auto& k) { return k.ad == alan.ad; }));
+    });
+  }
+
+  // From now on `kolon` counts as missing when `gecilir(kolon)`.
+  template <class Gecilir>
+  void Cikar(Gecilir&& gecilir) {
+    std::size_t yer = 0;
+    Kayit::HerKolon([&](const auto& kolon) {
+      if (gecilir(kolon)) var_[yer] = false;
+      ++yer;
+    });
+  }
+
+  // islev(column, whether it is there), in the order of the schema.
+  template <class Islev>
+  void Her(Islev&& islev) const {
+    std::size_t yer = 0;
+    Kayit::HerKolon([&](const auto& kolon) { islev(kolon, bool(var_[yer++])); });
+  }
+
+ private:
+  std::vector<bool> var_;
+};
 
 // "s.kod, s.adi, …, null" for `Kayit`, in the order in which KayitAl reads them.
 template <class Kayit>
-std::string SecimListesi(Motor& motor, const std::string& takmaAd = {}) {
-  const auto var = TabloKolonlari(motor, Kayit::TabloAdi);
+std::string SecimListesi(const VarolanKolonlar<Kayit>& kolonlar, const std::string& takmaAd = {}) {
   const std::string on = takmaAd.empty() ? "" : takmaAd + ".";
   std::string liste;
-  Kayit::HerKolon([&](const auto& kolon) {
+  kolonlar.Her([&](const auto& kolon, bool var) {
     liste += liste.empty() ? "" : ", ";
-    liste += var.contains(kolon.ad) ? on + std::string(kolon.ad) : std::string("null");
+    liste += var ? on + std::string(kolon.ad) : std::string("null");
   });
   return liste;
+}
+template <class Kayit>
+std::string SecimListesi(Motor& motor, const std::string& takmaAd = {}) {
+  return SecimListesi(VarolanKolonlar<Kayit>(motor), takmaAd);
 }
 
 // The record whose columns start at `ilk`; returns the column after it.
@@ -77,12 +107,12 @@ template <class Kayit>
 class KayitYazici {
  public:
   // Columns named in `dokunma` are never written (they keep what they hold).
-  explicit KayitYazici(Motor& motor, const std::set<std::string, std::less<>>& dokunma = {})
-      : var_(TabloKolonlari(motor, Kayit::TabloAdi)) {
+  explicit KayitYazici(Motor& motor, const std::set<std::string, std::less<>>& dokunma = {}) : yazilan_(motor) {
+    yazilan_.Cikar(
+        [&](const AlanTanimi& alan) { return alan.nitelik == AlanNiteligi::Otomatik || dokunma.contains(alan.ad); });
     std::string adlar, sorular, atamalar;
-    Kayit::HerKolon([&](const auto& kolon) {
-      if (dokunma.contains(kolon.ad) || kolon.nitelik == AlanNiteligi::Otomatik) var_.erase(std::string(kolon.ad));
-      if (!var_.contains(kolon.ad)) return;
+    yazilan_.Her([&](const auto& kolon, bool yazilir) {
+      if (!yazilir) return;
       const std::string ayrac = adlar.empty() ? "" : ", ";
       adlar += ayrac + std::string(kolon.ad);
       sorular += ayrac + "?";
@@ -106,13 +136,13 @@ class KayitYazici {
   // Returns the number of the next parameter.
   int Bagla(Komut& komut, const Kayit& kayit) {
     int no = 0;
-    Kayit::HerKolon([&](const auto& kolon) {
-      if (var_.contains(kolon.ad)) KolonBagla(komut, ++no, kayit.*kolon.uye);
+    yazilan_.Her([&](const auto& kolon, bool yazilir) {
+      if (yazilir) KolonBagla(komut, ++no, kayit.*kolon.uye);
     });
     return no + 1;
   }
 
-  std::set<std::string, std::less<>> var_;
+  VarolanKolonlar<Kayit> yazilan_;
   std::unique_ptr<Komut> ekle_;
   std::unique_ptr<Komut> degistir_;
 };

@@ -172,9 +172,16 @@ bool AgUzerinde(const std::string& yol) {
   return tur == Nfs || tur == Smb || tur == Cifs || tur == Smb2;
 }
 
+// Nobody asks the library for its memory statistics, and they cost a lock with every allocation.
+void KitapligiHazirla() {
+  static const int kod = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+  (void)kod;
+}
+
 class SqliteMotor final : public Motor {
  public:
   explicit SqliteMotor(const std::string& yol) {
+    KitapligiHazirla();
     const int kod = sqlite3_open_v2(yol.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     try {
       if (kod != SQLITE_OK) HataAt(db_, kod);
@@ -236,9 +243,10 @@ class SqliteMotor final : public Motor {
   }
   void IslemOnayla() override { Calistir("commit"); }
   void IslemGeriAl() noexcept override {
-    if (sqlite3_get_autocommit(db_) == 0) sqlite3_exec(db_, "rollback", nullptr, nullptr, nullptr);
+    if (IslemdeMi()) sqlite3_exec(db_, "rollback", nullptr, nullptr, nullptr);
     ++yazmaSayaci_;
   }
+  bool IslemdeMi() const override { return sqlite3_get_autocommit(db_) == 0; }
 
   std::vector<MotorKolonu> Kolonlar(std::string_view tablo) override {
     auto komut = Hazirla("select lower(name), lower(type) from pragma_table_info(?)");

@@ -13,6 +13,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/store/islem.h"
 #include "core/store/motor.h"
 #include "core/tables/alan.h"
 
@@ -78,28 +79,6 @@ class Veritabani {
   std::unique_ptr<Motor> motor_;
   std::uint64_t acilisNo_ = 0;
   std::string sonHata_;
-};
-
-// A write transaction: everything in it happens or nothing does. Not approved by its end, it is taken back.
-class Islem {
- public:
-  // Waits for other writers up to `enCok`; then MotorHatasi.
-  explicit Islem(Motor& motor, std::chrono::milliseconds enCok = std::chrono::seconds(5)) : motor_(&motor) {
-    motor.IslemBaslat(enCok);
-  }
-  ~Islem() {
-    if (motor_ != nullptr) motor_->IslemGeriAl();
-  }
-  Islem(const Islem&) = delete;
-  Islem& operator=(const Islem&) = delete;
-
-  void Onayla() {
-    motor_->IslemOnayla();
-    motor_ = nullptr;
-  }
-
- private:
-  Motor* motor_;
 };
 
 }  // namespace belvani

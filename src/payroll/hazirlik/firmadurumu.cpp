@@ -15,10 +15,12 @@ Durum FirmaDurumu::Yukle() {
   return Tamam();
 }
 
-Durum FirmaDurumu::KartKaydet(const Firma& kart) {
-  const Durum kaydedildi = FirmaKaydet(o_, kart);
+Yazim<Firma> FirmaDurumu::KartKaydet(const Okunan<Firma>& kart) {
+  auto kaydedilen = FirmaKaydet(o_, kart);
+  if (!kaydedilen && kaydedilen.Kusuru().cakisma) return kaydedilen;
   const Durum yuklendi = Yukle();
-  return kaydedildi ? yuklendi : kaydedildi;
+  if (kaydedilen && !yuklendi) return YazmaEngeli<Firma>(yuklendi.Kusuru());
+  return kaydedilen;
 }
 
 }  // namespace belvani

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "core/store/cakisma.h"
 #include "payroll/hazirlik/kosullar.h"
 
 namespace belvani {
@@ -29,8 +30,8 @@ class FirmaDurumu {
   Durum Yukle();
 
   // The card, and the parameters that follow from it (the default class). What the store refuses stays in the session,
-  // so that the card can be saved again.
-  Durum KartKaydet(const Firma& kart);
+  // so that the card can be saved again; another user's change leaves it as it was.
+  Yazim<Firma> KartKaydet(const Okunan<Firma>& kart);
 
   // Something has changed: windows that show it look again.
   std::function<void()> Degisti = [] {};

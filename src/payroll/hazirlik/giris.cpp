@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "core/store/satirlar.h"
-#include "core/tables/uye.h"
+#include "core/store/tablo.h"
 #include "core/turkce.h"
 #include "payroll/hesap/kayittoplami.h"
 #include "payroll/hesap/netbrut.h"
@@ -18,22 +17,6 @@ constexpr const char* TasmaMetni = "Hesaplanan bir tutar sınırı aşıyor";
 CalismaUyarisi UyariYap(const Sicil& s, int CalismaGun) {
   return {s.girtar.Bos() ? "??.??.????" : s.girtar.Metin(), s.ciktar.Bos() ? "Çalışıyor" : s.ciktar.Metin(),
           CalismaGun};
-}
-
-// The code beside `kod` in that direction; "" at the end of the table.
-std::string YandakiKod(Motor& motor, KisiYonu yon, const std::string& kod) {
-  const bool geri = yon == KisiYonu::Onceki || yon == KisiYonu::Son;
-  const bool ucta = yon == KisiYonu::Ilk || yon == KisiYonu::Son || kod.empty();
-  const auto komut = motor.Hazirla(std::string("select kod from sicil") +
-                                   (ucta   ? ""
-                                    : geri ? " where kod < ?"
-                                           : " where kod > ?") +
-                                   " order by kod" + (geri ? " desc" : "") + " limit 1");
-  if (!ucta) komut->MetinBagla(1, kod);
-  if (!komut->Adim()) return {};
-  std::string bulunan(komut->Metin(0));
-  komut->Birak();
-  return bulunan;
 }
 
 // Lines that the fields themselves limit; a program may hand over anything.
@@ -148,10 +131,12 @@ KodSonucu BordroGirisi::KodAl(std::string_view metin) {
   return Getir(kod, DonemDisiMetni::Gosterilir);
 }
 
-KodSonucu BordroGirisi::Git(KisiYonu yon) {
+KodSonucu BordroGirisi::Git(Yon yon) {
   try {
-    const std::string kod = YandakiKod(o_.depo.db.IcMotor(), yon, kod_);
-    return kod.empty() ? KodSonucu::Bos : Getir(BuyukHarf(Kirp(kod)), DonemDisiMetni::Gosterilmez);
+    // Before nobody stands the last one.
+    const Yon nereye = kod_.empty() && yon == Yon::Onceki ? Yon::Son : yon;
+    const auto kisi = Tablo<Sicil>(o_.depo.db.IcMotor()).Komsu(kod_, nereye);
+    return kisi ? Getir(BuyukHarf(Kirp(kisi->kod)), DonemDisiMetni::Gosterilmez) : KodSonucu::Bos;
   } catch (const MotorHatasi& h) {
     bildirim_.Uyari(h.what());
     return KodSonucu::Yuklenemedi;
@@ -165,8 +150,6 @@ KodSonucu BordroGirisi::Getir(const std::string& kod, DonemDisiMetni metin) {
     EkranTemizle();
     kod_ = kod;
     if (!kisi) return KodSonucu::Bilinmiyor;
-    // The card's cursor stands on the person for every other screen too.
-    o_.depo.SicilBul(kisi->sicil.kod);
     const CalismaGunu gun = GunSayisiBul(kosullar_.donem, kisi->sicil.girtar, kisi->sicil.ciktar);
     switch (gun.uygunluk) {
       case DonemUygunlugu::GirisTarihiHatali:

@@ -17,6 +17,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/store/yon.h"
 #include "payroll/hazirlik/hazirlik.h"
 #include "payroll/hazirlik/parametredeposu.h"
 
@@ -68,8 +69,6 @@ enum class KodSonucu {
   Yuklenemedi,  // the store could not be read, or the template is out of range; told
 };
 
-enum class KisiYonu { Ilk, Onceki, Sonraki, Son };
-
 enum class KapanisSonucu {
   Kapanmadi,       // no open entry, or nobody has entered it
   SonrakiVar,      // Kod() is the next person's code
@@ -79,6 +78,7 @@ enum class KapanisSonucu {
   KaldiNetsiz,     // net not above zero
   KaldiHesapsiz,   // the calculation cannot be made
   KaydetmeHatasi,  // the record was not saved; what was typed is kept
+  YenidenGeldi,    // another user has changed the record, and the user looks at that one now
   OkumaHatasi,     // saved, but the next person could not be read
 };
 
@@ -139,7 +139,7 @@ class BordroGirisi {
   // The code was typed, and an entry field entered. The person already being entered stays as he is.
   KodSonucu KodAl(std::string_view metin);
   // Home, PgUp, PgDn, End on the code field: from the last code on.
-  KodSonucu Git(KisiYonu yon);
+  KodSonucu Git(Yon yon);
 
   // The focus came to a field.
   void AlanaGirildi(BordroAlani alan);
@@ -195,7 +195,8 @@ class BordroGirisi {
   void EkranTemizle();
   void HesaplaVeGoster();
   bool EksikGunTamam();
-  bool Kaydet();
+  // Saved, or why the entry goes on.
+  std::optional<KapanisSonucu> Kaydet();
   KapanisSonucu SonrakineGec();
 
   Oturum& o_;

@@ -1,6 +1,6 @@
 // What ends the entry of a person or of the month: checking and saving, the walk to the next person, deleting, the mass
 // run.
-#include "core/store/satirlar.h"
+#include "core/store/tablo.h"
 #include "core/turkce.h"
 #include "payroll/hazirlik/giris.h"
 
@@ -64,20 +64,28 @@ KapanisSonucu BordroGirisi::Kapat() {
   }
   if (sonuc_.NetOdenen <= Tutar()) return KapanisSonucu::KaldiNetsiz;
   const bool kaydet = !KayitVar() || bildirim_.Soru("Puantaj Yeniden Kaydedilecek ?");
-  if (kaydet && !Kaydet()) return KapanisSonucu::KaydetmeHatasi;
+  if (kaydet)
+    if (const auto kalan = Kaydet()) return *kalan;
   return SonrakineGec();
 }
 
-bool BordroGirisi::Kaydet() {
+std::optional<KapanisSonucu> BordroGirisi::Kaydet() {
   Brd brd = sonuc_.brd;
   brd.eksiksebebi = g_.giris.eksiksebebi;
   brd.ucretsizizin = g_.giris.ucretsizizin;
-  const bool kaydedildi = o_.depo.db.Koru(false, [&] {
-    BordroKaydet(o_.depo.db.IcMotor(), brd);
-    return true;
-  });
-  if (!kaydedildi) bildirim_.Uyari("Bordro Kayıtları Güncellenemiyor");
-  return kaydedildi;
+  const Yazim<Brd> yazilamadi{YazmaEngeli<Brd>(Kusur{"Bordro Kayıtları Güncellenemiyor"})};
+  const auto yazilan = o_.depo.db.Koru(
+      yazilamadi, [&] { return BordroKaydet(o_.depo.db.IcMotor(), {.ilk = kisi_.kayit, .simdi = brd}); });
+  if (yazilan) return std::nullopt;
+  if (!yazilan.Kusuru().cakisma) {
+    bildirim_.KusuruGoster(yazilan.Kusuru());
+    return KapanisSonucu::KaydetmeHatasi;
+  }
+  // A mixture of the two would be no payroll: one of them must go.
+  if (!bildirim_.Soru(yazilan.KusurMetni() + "\nEkrandaki Giriş Bırakılsın ve Kişi Yeniden Getirilsin mi ?"))
+    return KapanisSonucu::KaydetmeHatasi;
+  Getir(kod_, DonemDisiMetni::Gosterilir);
+  return KapanisSonucu::YenidenGeldi;
 }
 
 KapanisSonucu BordroGirisi::SonrakineGec() {
@@ -89,7 +97,6 @@ KapanisSonucu BordroGirisi::SonrakineGec() {
       bildirim_.Bilgi("Bordro Hazırlık Sona Erdi");
       return KapanisSonucu::Bitti;
     }
-    o_.depo.SicilBul(sonraki.kod);
     kod_ = BuyukHarf(Kirp(sonraki.kod));
     return KapanisSonucu::SonrakiVar;
   } catch (const MotorHatasi& h) {
@@ -101,16 +108,8 @@ KapanisSonucu BordroGirisi::SonrakineGec() {
 bool BordroGirisi::KayitSil() {
   if (hal_ != Hal::KisiSecili || !KayitVar()) return false;
   if (!bildirim_.Soru("Kayıt Silinecek Eminmisiniz ?")) return false;
-  const bool silindi = o_.depo.db.Koru(false, [&] {
-    Motor& motor = o_.depo.db.IcMotor();
-    Islem islem(motor);
-    const auto komut = motor.Hazirla("delete from brd where oto = ?");
-    komut->TamBagla(1, kisi_.kayit->oto);
-    komut->Calistir();
-    const bool vardi = motor.DegisenSatir() != 0;
-    islem.Onayla();
-    return vardi;
-  });
+  const Deger oto = std::int64_t(kisi_.kayit->oto);
+  const bool silindi = o_.depo.db.Koru(false, [&] { return Tablo<Brd>(o_.depo.db.IcMotor()).Sil(oto); });
   if (silindi)
     EkranTemizle();
   else

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/store/satirlar.h"
+#include "core/store/tablo.h"
 #include "core/turkce.h"
 #include "payroll/hesap/satirlar.h"
 
@@ -109,7 +109,11 @@ class TopluIs {
       ++sonuc_.netsiz;
       return Yaz(kisi, nullptr, "Net sıfırın üstünde değil, bordrosu kaydedilmedi");
     }
-    kisi.kayit ? yazici_.Degistir(s.brd, s.brd.oto) : yazici_.Ekle(s.brd);
+    // A record that comes out as it stands is left alone: a month that is run again over itself writes nothing.
+    if (!kisi.kayit)
+      yazici_.Ekle(s.brd);
+    else if (*kisi.kayit != s.brd)
+      yazici_.Degistir(s.brd, s.brd.oto);
     ++sonuc_.kaydedilen;
   }
 
@@ -154,16 +158,17 @@ std::size_t KisiSayisi(Motor& motor) {
   return sayi;
 }
 
-// The number of the record that the person has in that month; another computer may have saved it meanwhile.
-std::optional<std::int64_t> AyinKaydi(Motor& motor, const Brd& brd) {
-  const auto komut = motor.Hazirla("select oto from brd where yil = ? and ay = ? and kod = ? and no = 1 order by oto");
-  komut->TamBagla(1, brd.yil);
-  komut->TamBagla(2, brd.ay);
-  komut->MetinBagla(3, brd.kod);
-  if (!komut->Adim()) return std::nullopt;
-  const std::int64_t oto = komut->Tam(0);
-  komut->Birak();
-  return oto;
+// The record that the person has in that month by now.
+std::optional<Brd> AyinKaydi(Motor& motor, const Brd& brd) {
+  auto kayitlar = KayitlariOku<Brd>(motor, "where yil = ? and ay = ? and kod = ? and no = 1 order by oto limit 1",
+                                    {std::int64_t(brd.yil), std::int64_t(brd.ay), brd.kod});
+  return kayitlar.empty() ? std::nullopt : std::optional(std::move(kayitlar.front()));
+}
+
+YazmaEngeli<Brd> BordroEngeli(CakismaTuru tur, const Brd& onunki, const Brd& brd) {
+  const std::string ay = std::string(AyAdi(brd.ay)) + "." + std::to_string(brd.yil);
+  return {Kusur{.metin = CakismaMetni(tur, brd.kod + ", " + ay + " bordrosu", {}), .kod = brd.kod},
+          Cakisma<Brd>{.tur = tur, .alanlar = {}, .onunki = onunki}};
 }
 
 }  // namespace
@@ -195,19 +200,21 @@ Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const st
   }
 }
 
-void BordroKaydet(Motor& motor, const Brd& brd) {
-  KayitYazici<Brd> yazici(motor, Dokunulmayan);
+Yazim<Brd> BordroKaydet(Motor& motor, const Okunan<Brd>& kayit) {
+  Okunan<Brd> yazilan = kayit;
+  yazilan.simdi.gocindir = kayit.ilk ? kayit.ilk->gocindir : Tutar();
+  yazilan.simdi.oto = kayit.ilk ? kayit.ilk->oto : 0;
   Islem islem(motor);
-  bool yazildi = false;
-  if (brd.oto != 0) {
-    yazici.Degistir(brd, brd.oto);
-    yazildi = motor.DegisenSatir() != 0;
+  if (!kayit.ilk)
+    if (const auto baska = AyinKaydi(motor, kayit.simdi))
+      return BordroEngeli(CakismaTuru::Eklenmis, *baska, kayit.simdi);
+  const auto sonuc = Tablo<Brd>(motor).Yaz(yazilan);
+  if (sonuc) {
+    islem.Onayla();
+    return sonuc;
   }
-  if (!yazildi) {
-    const auto baska = AyinKaydi(motor, brd);
-    baska ? yazici.Degistir(brd, *baska) : yazici.Ekle(brd);
-  }
-  islem.Onayla();
+  const auto& cakisma = sonuc.Kusuru().cakisma;
+  return cakisma ? BordroEngeli(cakisma->tur, cakisma->onunki, kayit.simdi) : sonuc.Kusuru();
 }
 
 Sonuc<int> BordroSil(Oturum& o, int yil, int ay) {

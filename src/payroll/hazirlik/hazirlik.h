@@ -12,6 +12,7 @@
 
 #include "core/bildirim.h"
 #include "core/sonuc.h"
+#include "core/store/cakisma.h"
 #include "payroll/hazirlik/kisi.h"
 
 namespace belvani {
@@ -36,9 +37,10 @@ struct HazirlikSonucu {
 Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const std::vector<GirisSatiri>& girisler = {},
                                    Ilerleme* ilerleme = nullptr);
 
-// Saves one record: over the row `oto`, or, with 0 or a row that is gone, over the one that the person has got in that
-// month meanwhile, else as a new one. Throws MotorHatasi.
-void BordroKaydet(Motor& motor, const Brd& brd);
+// Saves one record, whole, over the one that was read or as the person's first of the month. When that one has been
+// changed or deleted meanwhile, or one has been added, nothing is written, and the fault names person and month. Throws
+// MotorHatasi.
+Yazim<Brd> BordroKaydet(Motor& motor, const Okunan<Brd>& kayit);
 
 // Deletes all records of a month, of all people; gives their number.
 Sonuc<int> BordroSil(Oturum& o, int yil, int ay);

@@ -2,36 +2,11 @@
 
 #include <algorithm>
 
-#include "core/store/satirlar.h"
-#include "core/tables/muaf.h"
-#include "core/tables/uye.h"
+#include "core/store/tablo.h"
 #include "core/turkce.h"
 
 namespace belvani {
 namespace {
-
-// The row with this key, by the store's hidden number.
-template <class Kayit, class Uye>
-std::optional<std::int64_t> KimlikBul(Motor& motor, const Kolon<Kayit, Uye>& anahtar, const Uye& deger) {
-  const auto komut = motor.Hazirla("select " + motor.KimlikKolonu() + " from " + std::string(Kayit::TabloAdi) +
-                                   " where " + std::string(anahtar.ad) + " = ?");
-  KolonBagla(*komut, 1, deger);
-  if (!komut->Adim()) return std::nullopt;
-  const std::int64_t kimlik = komut->Tam(0);
-  komut->Birak();
-  return kimlik;
-}
-
-template <class Kayit>
-std::string KayitKusuru(const Kayit& kayit) {
-  std::string kusur;
-  Kayit::HerKolon([&](const auto& kolon) {
-    if (!kusur.empty()) return;
-    const std::string neden = TipKusuru(kolon, UyeDegeri(kayit.*kolon.uye));
-    if (!neden.empty()) kusur = std::string(kolon.ad) + ": " + neden;
-  });
-  return kusur;
-}
 
 bool Tazele(TanimOrtami ortam) {
   const auto durum = ortam.parametreler.firma.Yukle();
@@ -59,27 +34,21 @@ template <class Kayit, class Uye, class Satirlar>
 bool AnahtarlaYaz(TanimOrtami ortam, const Kolon<Kayit, Uye>& anahtar, const Satirlar& satirlar,
                   std::string_view hataMetni) {
   for (const Kayit& satir : satirlar)
-    if (const std::string kusur = KayitKusuru(satir); !kusur.empty()) {
-      ortam.bildirim.Bilgi(kusur);
+    if (const Kusurlar kusurlar = KayitKusurlari(satir, AlanAdi); !kusurlar.empty()) {
+      ortam.bildirim.KusuruGoster(kusurlar.front());
       return false;
     }
   return Yaz(ortam, hataMetni, [&](Motor& motor) {
-    KayitYazici<Kayit> yazici(motor);
-    for (const Kayit& satir : satirlar) {
-      const auto kimlik = KimlikBul(motor, anahtar, satir.*anahtar.uye);
-      kimlik ? yazici.Degistir(satir, *kimlik) : yazici.Ekle(satir);
-    }
+    Tablo<Kayit> tablo(motor);
+    for (const Kayit& satir : satirlar)
+      if (const auto y = tablo.Yaz({.ilk = tablo.Bul(UyeDegeri(satir.*anahtar.uye)), .simdi = satir}); !y)
+        throw MotorHatasi(MotorKusuru::Kisit, y.KusurMetni());
   });
 }
 
-template <class Kayit, class Uye>
-bool AnahtarlaSil(TanimOrtami ortam, const Kolon<Kayit, Uye>& anahtar, const Uye& deger, std::string_view hataMetni) {
-  return Yaz(ortam, hataMetni, [&](Motor& motor) {
-    const auto komut =
-        motor.Hazirla("delete from " + std::string(Kayit::TabloAdi) + " where " + std::string(anahtar.ad) + " = ?");
-    KolonBagla(*komut, 1, deger);
-    komut->Calistir();
-  });
+template <class Kayit>
+bool AnahtarlaSil(TanimOrtami ortam, const Deger& anahtar, std::string_view hataMetni) {
+  return Yaz(ortam, hataMetni, [&](Motor& motor) { Tablo<Kayit>(motor).Sil(anahtar); });
 }
 
 constexpr std::string_view SilinemediMetni = "Kayıt Silinemedi";
@@ -109,7 +78,7 @@ bool KazancGrubuSil(TanimOrtami ortam, std::string_view grup) {
     return false;
   }
   if (!ortam.bildirim.Soru(ad + " Grubu\nKazanç Tanımlamalarını Silmek İstiyormusunuz ?")) return false;
-  return AnahtarlaSil(ortam, kaztan::grup, ad, SilinemediMetni);
+  return AnahtarlaSil<Kaztan>(ortam, ad, SilinemediMetni);
 }
 
 bool IndirimleriKaydet(TanimOrtami ortam, const std::array<Indir, 3>& satirlar) {
@@ -143,7 +112,7 @@ bool SendikaKaydet(TanimOrtami ortam, const Sendika& sendika) {
 
 bool SendikaSil(TanimOrtami ortam, std::string_view kod) {
   if (!ortam.bildirim.Soru("Kaydı Silmek İstiyormusunuz ?")) return false;
-  return AnahtarlaSil(ortam, sendika::kod, std::string(Kirp(kod)), SilinemediMetni);
+  return AnahtarlaSil<Sendika>(ortam, std::string(Kirp(kod)), SilinemediMetni);
 }
 
 }  // namespace belvani

@@ -1,9 +1,11 @@
 #include "screens/core/araci.h"
 
+#include "ui/cakisma.h"
+
 namespace belvani {
 
 araci::araci(EkranBaglami& baglam)
-    : Form(baglam, "araci", QStringLiteral("Aracı Bilgileri")), araci_(AraciOku(baglam.oturum)) {
+    : Form(baglam, "araci", QStringLiteral("Aracı Bilgileri")), araci_(AraciDuzenle(baglam.oturum)) {
   AlanlariDiz({{{"Aracı",
                  {{arac::kod, "Aracı Kodu"},
                   {arac::isim1, "Ad Soyad (Ünvan)"},
@@ -21,12 +23,15 @@ araci::araci(EkranBaglami& baglam)
                   {arac::epos, "E-posta"}}}}});
   Komut(
       FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
-  Yukle(araci_);
+  Yukle(araci_.simdi);
 }
 
 void araci::Kaydet() {
-  if (!Oku(araci_) || !AraciKaydet(Oturumu(), araci_, Bildirimi())) return;
-  Kapat();
+  if (!Oku(araci_.simdi)) return;
+  const auto kaydedilen = SorarakKaydet(
+      Baglam(), *this, araci_, [this](const Kusur& kusur) { Bildir(kusur); },
+      [this](const Okunan<Arac>& a) { return AraciKaydet(Oturumu(), a); });
+  if (kaydedilen) Kapat();
 }
 
 }  // namespace belvani

@@ -13,7 +13,7 @@ class araci : public Form {
  private:
   void Kaydet();
 
-  Arac araci_;
+  Okunan<Arac> araci_;
 };
 
 }  // namespace belvani

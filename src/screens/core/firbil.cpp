@@ -1,6 +1,7 @@
 #include "screens/core/firbil.h"
 
 #include "payroll/parametre/parametreler.h"
+#include "ui/cakisma.h"
 
 namespace belvani {
 namespace {
@@ -73,11 +74,11 @@ std::vector<std::vector<AlanGrubu>> Gruplar() {
 firbil::firbil(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : Form(baglam, "firbil", QStringLiteral("Firma Bilgileri")),
       durum_(parametreler.firma),
-      firma_(FirmaOku(baglam.oturum)) {
+      firma_(FirmaDuzenle(baglam.oturum)) {
   AlanlariDiz(Gruplar());
   Komut(
       FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
-  Yukle(firma_);
+  Yukle(firma_.simdi);
   OraniGoster();
   AlanDegisti = [this](AlanDenetimi& alan) {
     if (alan.Satir().tanim.ad == "tehlike" || alan.Satir().tanim.ad == "sinif") OraniGoster();
@@ -90,8 +91,11 @@ void firbil::OraniGoster() {
 }
 
 void firbil::Kaydet() {
-  if (!Oku(firma_)) return;
-  if (const Durum kaydedildi = durum_.KartKaydet(firma_); !kaydedildi) Bildir(kaydedildi.Kusuru());
+  if (!Oku(firma_.simdi)) return;
+  const auto kaydedilen = SorarakKaydet(
+      Baglam(), *this, firma_, [this](const Kusur& kusur) { Bildir(kusur); },
+      [this](const Okunan<Firma>& firma) { return durum_.KartKaydet(firma); });
+  if (!kaydedilen && kaydedilen.Kusuru().cakisma) return;
   Kapat();
 }
 

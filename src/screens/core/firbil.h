@@ -16,7 +16,7 @@ class firbil : public Form {
   void OraniGoster();
 
   FirmaDurumu& durum_;
-  Firma firma_;
+  Okunan<Firma> firma_;
 };
 
 }  // namespace belvani

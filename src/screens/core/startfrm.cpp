@@ -234,8 +234,7 @@ bool startfrm::SirketiAc() {
   const Durum acildi =
       var ? SirketAc(o, Sirket(), baglam_.bildirim)
           : SirketOlustur(o, Sirket(), Utf8(kullanici_->text()), Utf8(sifre_->text()), baglam_.bildirim);
-  // An empty text has been told already.
-  if (!acildi && !acildi.KusurMetni().empty()) baglam_.bildirim.Uyari(acildi.KusurMetni());
+  if (!acildi) baglam_.bildirim.Uyari(acildi.KusurMetni());
   return bool(acildi);
 }
 

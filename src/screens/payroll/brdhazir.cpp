@@ -197,7 +197,7 @@ bool brdhazir::KisiyiGetir() {
   return sonuc == KodSonucu::Yuklendi;
 }
 
-void brdhazir::Git(KisiYonu yon) {
+void brdhazir::Git(Yon yon) {
   if (giris_.Git(yon) == KodSonucu::Bos) return;
   YaziKutusu("kod").DegerKoy(giris_.Kod());
   YaziKutusu("kod").selectAll();
@@ -220,10 +220,10 @@ bool brdhazir::eventFilter(QObject* nesne, QEvent* olay) {
   const bool enter = tus == Qt::Key_Return || tus == Qt::Key_Enter;
   const BordroAlani no = BordroAlaniBul(alan->Satir());
   if (no == BordroAlani::Kod && duz) {
-    static const std::map<int, KisiYonu> yonler{{Qt::Key_Home, KisiYonu::Ilk},
-                                                {Qt::Key_End, KisiYonu::Son},
-                                                {Qt::Key_PageUp, KisiYonu::Onceki},
-                                                {Qt::Key_PageDown, KisiYonu::Sonraki}};
+    static const std::map<int, Yon> yonler{{Qt::Key_Home, Yon::Ilk},
+                                           {Qt::Key_End, Yon::Son},
+                                           {Qt::Key_PageUp, Yon::Onceki},
+                                           {Qt::Key_PageDown, Yon::Sonraki}};
     if (const auto yon = yonler.find(tus); yon != yonler.end()) {
       Git(yon->second);
       return true;
@@ -273,6 +273,7 @@ void brdhazir::KodaGirildi() {
     case KapanisSonucu::KaldiNetsiz:
     case KapanisSonucu::KaldiHesapsiz:
     case KapanisSonucu::KaydetmeHatasi:
+    case KapanisSonucu::YenidenGeldi:
     case KapanisSonucu::OkumaHatasi:
       break;
   }

@@ -37,7 +37,7 @@ class brdhazir : public Form {
   void AlanaGirildi(AlanDenetimi* yeni);
   void KodaGirildi();
   bool KisiyiGetir();
-  void Git(KisiYonu yon);
+  void Git(Yon yon);
   void GirisiOku();
   void Goster();
   void AcikAlanlariKur();

@@ -4,6 +4,7 @@
 
 #include "personnel/aile.h"
 #include "personnel/kart.h"
+#include "ui/cakisma.h"
 #include "ui/metin.h"
 
 namespace belvani {
@@ -34,6 +35,14 @@ QStringList Secenekler(Liste liste) {
   QStringList metinler;
   for (const std::string_view secenek : liste) metinler += Yazi(secenek);
   return metinler;
+}
+
+std::string AileDili(std::string_view alan, const Deger& deger) {
+  for (const auto& [kolon, liste] :
+       {std::pair(&esco::yakinlik, Liste(Yakinliklar)), std::pair(&esco::cins, Liste(KodluCinsiyetler)),
+        std::pair(&esco::agiok, Liste(AgiDurumlari))})
+    if (kolon->ad == alan) return std::string(KodluMetin(liste, std::uint8_t(TamDegeri(deger))));
+  return MetinDegeri(deger);
 }
 
 }  // namespace
@@ -100,6 +109,7 @@ void escofrm::Goster(const std::string& kod) {
   AdiGoster(kod);
   liste_->Model().TopluBasla();
   liste_->Clear();
+  okunan_.clear();
   for (const Esco& esco : AileOku(Oturumu(), kod)) SatiriGoster(liste_->Add(), esco);
   liste_->Model().TopluBitir();
   liste_->Editable(true);
@@ -108,6 +118,7 @@ void escofrm::Goster(const std::string& kod) {
 }
 
 void escofrm::SatiriGoster(int satir, const Esco& esco) {
+  okunan_[esco.oto] = esco;
   for (const MetinKolonu& k : MetinKolonlari) liste_->TextByName(satir, k.ad, Yazi(esco.*k.uye));
   for (const KodluKolon& k : KodluKolonlar)
     liste_->TextByName(satir, k.ad, Yazi(KodluMetin(k.secenekler, esco.*k.uye)));
@@ -130,10 +141,13 @@ Esco escofrm::SatirdanOku(int satir) const {
 }
 
 bool escofrm::SatirKaydet(int satir) {
-  const auto oto = AileKaydet(Oturumu(), SatirdanOku(satir), Bildirimi());
-  if (!oto) return false;
-  for (const Esco& esco : AileOku(Oturumu(), kod_))
-    if (esco.oto == *oto) SatiriGoster(satir, esco);
+  Okunan<Esco> kayit{.ilk = {}, .simdi = SatirdanOku(satir)};
+  if (const auto ilk = okunan_.find(kayit.simdi.oto); ilk != okunan_.end()) kayit.ilk = ilk->second;
+  const auto yazilan = SorarakKaydet(
+      Baglam(), *this, kayit, [this](const Kusur& kusur) { Bildir(kusur); },
+      [this](const Okunan<Esco>& k) { return AileKaydet(Oturumu(), k); }, AileDili);
+  if (!yazilan) return false;
+  SatiriGoster(satir, *yazilan);
   ZoomEfekt();
   return true;
 }
@@ -141,7 +155,11 @@ bool escofrm::SatirKaydet(int satir) {
 bool escofrm::SatirSil(int satir) {
   const int oto = liste_->TextByName(satir, "oto").toInt();
   const bool hicKaydedilmedi = oto == 0;
-  return hicKaydedilmedi ? Bildirimi().Soru("Kayıt Silinecek ?") : AileSil(Oturumu(), oto, Bildirimi());
+  if (hicKaydedilmedi) return Bildirimi().Soru("Kayıt Silinecek ?");
+  const auto silme = AileSil(Oturumu(), oto, Bildirimi());
+  // What another user has deleted goes from the list too.
+  const bool yokmus = !silme && silme.Kusuru().derece == Derece::Bilgi;
+  return SilindiMi(silme) || yokmus;
 }
 
 // Keys of the screen that the list would keep for its own rows.

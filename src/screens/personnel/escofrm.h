@@ -25,7 +25,8 @@ class escofrm : public PersonelFormu {
   bool ListeTusu(const QKeyEvent& olay);
 
   dclist* liste_;
-  std::string kod_;  // whose rows the list holds; "" for nobody's
+  std::map<std::int32_t, Esco> okunan_;  // the rows of the list as they are stored, by their numbers
+  std::string kod_;                      // whose rows the list holds; "" for nobody's
 };
 
 }  // namespace belvani

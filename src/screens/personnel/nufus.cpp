@@ -1,6 +1,7 @@
 #include "screens/personnel/nufus.h"
 
 #include "personnel/kimlik.h"
+#include "ui/cakisma.h"
 
 namespace belvani {
 namespace {
@@ -36,7 +37,7 @@ nufus::nufus(EkranBaglami& baglam) : PersonelFormu(baglam, "nufus", QStringLiter
   Komut(
       FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
   PersonelKomutlari();
-  Temizle();
+  Bosalt();
 }
 
 bool nufus::Bul(const std::string& kod) {
@@ -44,7 +45,7 @@ bool nufus::Bul(const std::string& kod) {
     Goster(*kimlik);
     return true;
   }
-  Temizle();
+  Bosalt();
   AnahtarKoy(kod);
   AdiGoster(kod);
   return false;
@@ -54,8 +55,14 @@ void nufus::Git(Yon yon) {
   if (const auto kimlik = KimlikGit(Oturumu(), yon, SonAnahtar())) Goster(*kimlik);
 }
 
-void nufus::Goster(const Kimlik& kimlik) {
+void nufus::Bosalt() {
   Temizle();
+  okunan_.reset();
+}
+
+void nufus::Goster(const Kimlik& kimlik) {
+  Bosalt();
+  okunan_ = kimlik;
   Yukle(kimlik);
   AnahtarKoy(kimlik.kod);
   AdiGoster(kimlik.kod);
@@ -64,15 +71,21 @@ void nufus::Goster(const Kimlik& kimlik) {
 
 // The record stays on the screen; the code of the next person may be typed over this one's.
 void nufus::Kaydet() {
-  Kimlik kimlik;
-  if (!EkrandakiMi() || !Oku(kimlik) || !KimlikKaydet(Oturumu(), kimlik, Bildirimi())) return;
+  if (!EkrandakiMi()) return;
+  Okunan<Kimlik> kimlik{.ilk = okunan_, .simdi = okunan_.value_or(Kimlik{})};
+  if (!Oku(kimlik.simdi)) return;
+  const auto yazilan = SorarakKaydet(
+      Baglam(), *this, kimlik, [this](const Kusur& kusur) { Bildir(kusur); },
+      [this](const Okunan<Kimlik>& k) { return KimlikKaydet(Oturumu(), k); });
+  if (!yazilan) return;
+  Goster(*yazilan);
   KoddanBasla();
   ZoomEfekt();
 }
 
 void nufus::Sil() {
-  if (!EkrandakiMi() || !KimlikSil(Oturumu(), YazilanKod(), Bildirimi())) return;
-  Temizle();
+  if (!EkrandakiMi() || !SilindiMi(KimlikSil(Oturumu(), YazilanKod(), Bildirimi()))) return;
+  Bosalt();
   KoddanBasla();
 }
 

@@ -16,8 +16,11 @@ class nufus : public PersonelFormu {
 
  private:
   void Goster(const Kimlik& kimlik);
+  void Bosalt();
   void Kaydet();
   void Sil();
+
+  std::optional<Kimlik> okunan_;  // the record on the screen as it is stored; none for a new one
 };
 
 }  // namespace belvani

@@ -18,7 +18,7 @@ constexpr int AdresHarfi = 30;
 
 AlanGrubu PersonelGrubu() {
   return {"Personel",
-          {{Uye("kod", &CikisFormu::kod, sicil::kod.boyut), "Sicil No", {.anahtar = true}},
+          {{cikisformu::kod, "Sicil No", {.anahtar = true}},
            {Uye("adSoyad", &CikisFormu::adSoyad, AdSoyadHarfi), "Adı Soyadı", {.harf = AdSoyadHarfi, .kapali = true}},
            {Uye("sskno", &CikisFormu::sskno, sicil::sskno.boyut), "SSK Sicil No", {.kapali = true}}},
           3};
@@ -26,10 +26,10 @@ AlanGrubu PersonelGrubu() {
 
 AlanGrubu CikisGrubu() {
   return {"Çıkış",
-          {{Uye("girtar", &CikisFormu::girtar), "Giriş Tarihi", {.ipucu = "İbranameye basılır; kartı değiştirmez"}},
-           {Uye("ciktar", &CikisFormu::ciktar), "Çıkış Tarihi"},
-           {Uye("cikiskodu", &CikisFormu::cikiskodu), "Çıkış Kodu", {.liste = CikisKodlari}},
-           {Uye("cikissebebi", &CikisFormu::cikissebebi, sicil::cikissebebi.boyut), "Çıkış Sebebi"}}};
+          {{cikisformu::girtar, "Giriş Tarihi", {.ipucu = "İbranameye basılır; kartı değiştirmez"}},
+           {cikisformu::ciktar, "Çıkış Tarihi"},
+           {cikisformu::cikiskodu, "Çıkış Kodu", {.liste = CikisKodlari}},
+           {cikisformu::cikissebebi, "Çıkış Sebebi"}}};
 }
 
 AlanGrubu AdresGrubu() {
@@ -80,6 +80,7 @@ void percik::Git(Yon yon) {
 void percik::Goster(const CikisFormu& form) {
   Temizle();
   Yukle(form);
+  kart_ = form.kart;
   odemeler_->Bosalt();
   AnahtarKoy(form.kod);
   AlaniSec();
@@ -88,6 +89,7 @@ void percik::Goster(const CikisFormu& form) {
 // A date that is none goes on as an empty one: the checks of leaving have their own words for it.
 CikisFormu percik::Okunan() const {
   CikisFormu form;
+  form.kart = kart_;
   for (const auto& d : Denetimler()) d->Satir().yaz(&form, d->Oku());
   return form;
 }
@@ -96,27 +98,17 @@ CikisFormu percik::Okunan() const {
 void percik::Kaydet() {
   if (!EkrandakiMi()) return;
   const CikisFormu form = Okunan();
-  if (!CikisKaydet(Oturumu(), form, Bildirimi())) return KusuraGit(form);
+  if (const Durum kaydedildi = CikisKaydet(Oturumu(), form); !kaydedildi) return Bildir(kaydedildi.Kusuru());
+  kart_ = KartBul(Oturumu(), form.kod);
   KoddanBasla();
   ZoomEfekt();
 }
 
-// To the field that was told of.
-void percik::KusuraGit(const CikisFormu& form) {
-  if (form.girtar.Bos())
-    OdakVer("girtar");
-  else if (form.ciktar < form.girtar)
-    OdakVer("ciktar");
-  else if (form.cikiskodu == 0)
-    OdakVer("cikiskodu");
-  else if (Kirp(form.cikissebebi).empty())
-    OdakVer("cikissebebi");
-  else
-    KoddanBasla();
-}
-
 void percik::GeriAl() {
-  if (!EkrandakiMi() || !CikisGeriAl(Oturumu(), YazilanKod(), Bildirimi())) return;
+  if (!EkrandakiMi()) return;
+  const auto alindi = CikisGeriAl(Oturumu(), YazilanKod());
+  if (!alindi) return Bildir(alindi.Kusuru());
+  if (!*alindi) return;
   Goster({});
   KoddanBasla();
   ZoomEfekt(QStringLiteral("Çıkış geri alındı"));

@@ -21,11 +21,11 @@ class percik : public PersonelFormu {
   void Goster(const CikisFormu& form);
   CikisFormu Okunan() const;
   void Kaydet();
-  void KusuraGit(const CikisFormu& form);
   void GeriAl();
   void Yazdir();
 
   OdemeTablosu* odemeler_ = nullptr;
+  std::optional<Sicil> kart_;  // of the person on the screen, as it is stored
 };
 
 }  // namespace belvani

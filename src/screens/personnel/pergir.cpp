@@ -87,12 +87,18 @@ void pergir::Git(Yon yon) {
 
 void pergir::Goster(const GirisFormu& form) {
   Temizle();
-  Yukle(form.sicil);
-  Yukle(form.kimlik);
+  KayitlariGoster(form);
   Yukle(form.ek);
   AnahtarKoy(form.sicil.kod);
   TahsisNoyuAcKapat();
   AlaniSec();
+}
+
+void pergir::KayitlariGoster(const GirisFormu& form) {
+  ilkSicil_ = form.ilkSicil;
+  ilkKimlik_ = form.ilkKimlik;
+  Yukle(form.sicil);
+  Yukle(form.kimlik);
 }
 
 void pergir::TahsisNoyuAcKapat() {
@@ -104,10 +110,12 @@ std::optional<GirisFormu> pergir::Okunan() {
   GirisFormu form;
   form.sicil.girtar = TarihDegeri(Denetim("girtar").Oku());
   form.ek.islemTarihi = TarihDegeri(Denetim("islemTarihi").Oku());
-  if (!GirisDenetle(form, Bildirimi())) {
-    OdakVer(!form.sicil.girtar.Bos() && form.ek.islemTarihi.Bos() ? "islemTarihi" : "girtar");
+  if (const Durum denetim = GirisDenetle(form); !denetim) {
+    Bildir(denetim.Kusuru());
     return std::nullopt;
   }
+  form.ilkSicil = ilkSicil_;
+  form.ilkKimlik = ilkKimlik_;
   if (!Oku(form.sicil) || !Oku(form.kimlik) || !Oku(form.ek)) return std::nullopt;
   return form;
 }
@@ -117,9 +125,11 @@ void pergir::Kaydet() {
   if (!EkrandakiMi()) return;
   const auto form = Okunan();
   if (!form) return;
-  const bool kaydedildi = GirisKaydet(Oturumu(), *form, parametreler_.yasal.oranlar.AsgariUcret, Bildirimi());
-  if (kaydedildi || YazilanKod().empty()) KoddanBasla();
-  if (kaydedildi) ZoomEfekt();
+  const Durum kaydedildi = GirisKaydet(Oturumu(), *form, parametreler_.yasal.oranlar.AsgariUcret);
+  if (!kaydedildi) return Bildir(kaydedildi.Kusuru());
+  if (const auto simdiki = GirisBul(Oturumu(), form->sicil.kod, Tarih::Bugun())) KayitlariGoster(*simdiki);
+  KoddanBasla();
+  ZoomEfekt();
 }
 
 void pergir::Yazdir() {

@@ -19,12 +19,15 @@ class pergir : public PersonelFormu {
   void Yerlestir();
   QWidget* SandiklariYap();
   void Goster(const GirisFormu& form);
+  void KayitlariGoster(const GirisFormu& form);
   void TahsisNoyuAcKapat();
   std::optional<GirisFormu> Okunan();
   void Kaydet();
   void Yazdir();
 
   ParametreDeposu& parametreler_;
+  std::optional<Sicil> ilkSicil_;  // of the person on the screen, as they are stored
+  std::optional<Kimlik> ilkKimlik_;
 };
 
 }  // namespace belvani

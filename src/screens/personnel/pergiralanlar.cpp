@@ -70,7 +70,7 @@ AlanGrubu GirisBilgileri() {
   return {"İşe Giriş",
           {{Uye("vergiNo", &GirisEki::vergiNo, VergiNoHarfi), "15-Vergi No"},
            {sicil::girtar, "İşe Giriş Tarihi"},
-           {Uye("islemTarihi", &GirisEki::islemTarihi), "İşlem Tarihi", {.ipucu = "Bildirgenin verildiği gün"}},
+           {giriseki::islemTarihi, "İşlem Tarihi", {.ipucu = "Bildirgenin verildiği gün"}},
            {sicil::sskdurum, "SSK Durumu", {.liste = SonraDolar, .harf = ListeHarfi}},
            {Uye("emekliTercihi", &GirisEki::emekliTercihi),
             "SSK'dan Yaşlılık Aylığı\nAlıyorsa Tercihi",

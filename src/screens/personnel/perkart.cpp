@@ -8,6 +8,7 @@
 #include "personnel/kart.h"
 #include "screens/personnel/resimkutusu.h"
 #include "screens/personnel/sigortakollari.h"
+#include "ui/cakisma.h"
 #include "ui/metin.h"
 
 namespace belvani {
@@ -141,6 +142,7 @@ void perkart::Git(Yon yon) {
 
 void perkart::Goster(const Sicil& kart) {
   Bosalt();
+  okunan_ = kart;
   Sicil gosterilen = kart;
   gosterilen.ucret = GosterilenUcret(kart, parametreler_.yasal.oranlar.AsgariUcret);
   Yukle(gosterilen);
@@ -153,6 +155,7 @@ void perkart::Goster(const Sicil& kart) {
 
 void perkart::Bosalt() {
   Temizle();
+  okunan_.reset();
   yeniResim_.clear();
   yaziliUcret_ = {};
   resim_->Bosalt();
@@ -177,24 +180,20 @@ void perkart::UcretiAcKapat() {
 
 void perkart::Kaydet() {
   if (!EkrandakiMi()) return;
-  Sicil kart;
-  if (!Oku(kart)) return;
-  if (!KartKaydet(Oturumu(), kart, yeniResim_, Bildirimi())) return KusuraGit(kart);
+  Okunan<Sicil> kart{.ilk = okunan_, .simdi = okunan_.value_or(Sicil{})};
+  if (!Oku(kart.simdi)) return;
+  const auto yazim = SorarakKaydet(
+      Baglam(), *this, kart, [this](const Kusur& kusur) { Bildir(kusur); },
+      [this](const Okunan<Sicil>& k) { return KartKaydet(Oturumu(), k, yeniResim_); });
+  if (!yazim) return;
+  for (const Kusur& uyari : yazim->uyarilar) Bildir(uyari);
   Bosalt();
   KoddanBasla();
   ZoomEfekt();
 }
 
-// To the field that a card cannot do without.
-void perkart::KusuraGit(const Sicil& kart) {
-  if (Kirp(kart.kod).empty())
-    KoddanBasla();
-  else if (kart.girtar.Bos())
-    OdakVer("girtar");
-}
-
 void perkart::Sil() {
-  if (!EkrandakiMi() || !KartSil(Oturumu(), YazilanKod(), Bildirimi())) return;
+  if (!EkrandakiMi() || !SilindiMi(KartSil(Oturumu(), YazilanKod(), Bildirimi()))) return;
   Bosalt();
   KoddanBasla();
 }
@@ -211,7 +210,8 @@ void perkart::ResimEkle() {
 }
 
 void perkart::ResimSil() {
-  if (!EkrandakiMi() || !FotoSil(Oturumu(), YazilanKod(), Bildirimi())) return;
+  if (!EkrandakiMi()) return;
+  if (const Durum silindi = FotoSil(Oturumu(), YazilanKod()); !silindi) return Bildir(silindi.Kusuru());
   yeniResim_.clear();
   resim_->Bosalt();
 }

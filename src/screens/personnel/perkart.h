@@ -26,12 +26,12 @@ class perkart : public PersonelFormu {
   void UcretTipiDegisti();
   void UcretiAcKapat();
   void Kaydet();
-  void KusuraGit(const Sicil& kart);
   void Sil();
   void ResimEkle();
   void ResimSil();
 
   ParametreDeposu& parametreler_;
+  std::optional<Sicil> okunan_;  // the card on the screen as it came up; none for a new one
   ResimKutusu* resim_ = nullptr;
   std::string yeniResim_;  // chosen and not saved yet
   Tutar yaziliUcret_;      // what comes back when the wage is no longer the minimum wage

@@ -27,7 +27,7 @@ struct YeniDepo {
   Depo depo;
 
   YeniDepo() {
-    if (!depo.VeritabaniYarat(yol, b) || !Ac() || !b.iletiler.empty()) throw std::runtime_error(depo.db.SonHata());
+    if (!depo.VeritabaniYarat(yol) || !Ac() || !b.iletiler.empty()) throw std::runtime_error(depo.db.SonHata());
     Kapat();
   }
   bool Ac() { return depo.VeritabaniAc(yol, b); }
@@ -52,7 +52,7 @@ TEST(Depo, MadeThenGrownByTheFirstOpening) {
   const std::string yol = d.Yol() + "tolu.dat";
   test::ToplayanBildirim b;
   Depo depo;
-  ASSERT_TRUE(depo.VeritabaniYarat(yol, b));
+  ASSERT_TRUE(depo.VeritabaniYarat(yol));
   for (const auto& t : Tablolar()) EXPECT_EQ(depo.db.TabloVarMi(t.ad), t.ad != "kaztan" && t.ad != "entpar") << t.ad;
   EXPECT_FALSE(depo.db.AlanVarMi("sicil", "meslekkod") || depo.db.AlanVarMi("brd", "rapcalismadi"));
   ASSERT_TRUE(depo.VeritabaniAc(yol, b));
@@ -136,12 +136,11 @@ TEST(Depo, LateTablesGrowBackOrTellWhyNot) {
 TEST(Depo, WhatIsThereIsNotMadeAgain) {
   YeniDepo d;
   ASSERT_TRUE(d.Ac());
-  EXPECT_FALSE(d.depo.TabloYarat("sicil", d.b) || d.depo.TabloYarat("yok", d.b));
-  EXPECT_EQ(d.b.Al(), (Iletiler{"Uyarı: sicil SQL Tablosu Yaratılamadı", "Uyarı: yok SQL Tablosu Yaratılamadı"}));
+  for (const char* tablo : {"sicil", "yok"})
+    EXPECT_EQ(d.depo.TabloYarat(tablo).KusurMetni(), std::string(tablo) + " SQL Tablosu Yaratılamadı");
   d.Kapat();
   const auto icerik = DosyaOku(d.yol);
-  EXPECT_FALSE(d.depo.VeritabaniYarat(d.yol, d.b));
-  EXPECT_EQ(d.b.Al(), Iletiler{"Uyarı: " + d.yol + "\nDatabase Yaratılamadı"});
+  EXPECT_EQ(d.depo.VeritabaniYarat(d.yol).KusurMetni(), d.yol + "\nDatabase Yaratılamadı");
   EXPECT_EQ(DosyaOku(d.yol), icerik);
   EXPECT_FALSE(d.depo.VeritabaniAc(d.dizin.Yol() + "yok.dat", d.b) || d.depo.VeritabaniAc(d.dizin.Yol(), d.b));
   EXPECT_EQ(d.b.Al(), Iletiler{});
@@ -182,8 +181,9 @@ TEST(Depo, PersonByCode) {
   YeniDepo d;
   d.Sql("insert into sicil (kod) values ('çığ'); insert into kimlik (kod) values ('çığ')");
   ASSERT_TRUE(d.Ac());
-  EXPECT_TRUE(d.depo.SicilBul("ÇIĞ") && d.depo.KimlikBul("Çığ"));
-  EXPECT_FALSE(d.depo.SicilBul("çiğ") || d.depo.KimlikBul("cığ") || d.depo.SicilBul("' or 1=1"));
+  const auto var = [&](Imlec& rs, const char* kod) { return rs.KayitBul("kod", std::string(kod)); };
+  EXPECT_TRUE(var(d.depo.sicil, "ÇIĞ") && var(d.depo.kimlik, "Çığ"));
+  EXPECT_FALSE(var(d.depo.sicil, "çiğ") || var(d.depo.kimlik, "cığ") || var(d.depo.sicil, "' or 1=1"));
 }
 
 }  // namespace

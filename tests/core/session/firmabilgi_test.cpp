@@ -13,7 +13,10 @@ namespace {
 
 using test::Iletiler;
 using test::Tablo;
-using FirmaBilgi = test::OrnekOturum;
+
+struct FirmaBilgi : test::OrnekOturum {
+  Yazim<Firma> Kaydet(const Firma& f) { return FirmaKaydet(o, {.ilk = FirmaDuzenle(o).ilk, .simdi = f}); }
+};
 
 TEST(KanunMetni, LastFiveDigits) {
   // clang-format off
@@ -37,7 +40,7 @@ TEST_F(FirmaBilgi, CardKeepsTheVersionOfTheStore) {
   f.ondeger = "Memur";
   f.kurtar = {};
   f.versiyon = Tek(1);
-  ASSERT_TRUE(FirmaKaydet(o, f));
+  ASSERT_TRUE(Kaydet(f));
   EXPECT_EQ(AnaPencereBasligi(o) + o.firma.ondeger, "Örgü Ltd. (Temmuz.2009)Memur");
   f.kanun = "05510";
   f.versiyon = Tek(2003.6);
@@ -45,14 +48,14 @@ TEST_F(FirmaBilgi, CardKeepsTheVersionOfTheStore) {
 
   Sql("delete from firma");
   EXPECT_EQ(FirmaOku(o), YeniFirma());
-  ASSERT_TRUE(FirmaKaydet(o, f));
+  ASSERT_TRUE(Kaydet(f));
   f.versiyon = o.Versiyon;
   EXPECT_EQ(FirmaOku(o), f);
   Firma uzun;
   uzun.unvan = std::string(41, 'x');
-  const Durum kaydedilmedi = FirmaKaydet(o, uzun);
-  ASSERT_FALSE(kaydedilmedi);
-  EXPECT_EQ(kaydedilmedi.KusurMetni(), "Firma Bilgileri Güncellenemedi");
+  const auto kaydedilen = Kaydet(uzun);
+  EXPECT_EQ(kaydedilen.KusurMetni(), "Firma Bilgileri Güncellenemedi");
+  EXPECT_EQ(kaydedilen.Kusuru().derece, Derece::Hata);
   EXPECT_EQ(AnaPencereBasligi(o), uzun.unvan);  // the session stays written, here without a month
   EXPECT_EQ(FirmaOku(o), f);
 }
@@ -63,18 +66,32 @@ TEST_F(FirmaBilgi, SubcontractorAndAccountant) {
   EXPECT_EQ(a.kod, "000");
   for (const char* kod : {"001", "007"}) {
     a.kod = kod;
-    ASSERT_TRUE(AraciKaydet(o, a, b));
+    ASSERT_TRUE(AraciKaydet(o, {.ilk = AraciDuzenle(o).ilk, .simdi = a}));
   }
   EXPECT_TRUE(AraciOku(o) == a && o.depo.arac.KayitSayisi() == 1);
   a.kod = "1234";
-  EXPECT_FALSE(AraciKaydet(o, a, b));
-  EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Aracı Bilgileri Kaydedilemedi"});
+  EXPECT_EQ(AraciKaydet(o, {.ilk = AraciDuzenle(o).ilk, .simdi = a}).KusurMetni(), "Aracı Bilgileri Kaydedilemedi");
   const Muhasebeci m{"Şükrü Çağlar", "12345678901", " 42"};
   ASSERT_TRUE(MuhasebeciOku(o) == Muhasebeci() && MuhasebeciKaydet(o, m, b));
   EXPECT_EQ(MuhasebeciOku(o), m);
   o.FirmaDizini = "/proc/yok/";
   EXPECT_FALSE(MuhasebeciKaydet(o, m, b));
   EXPECT_EQ(b.Al().size(), 1u);
+}
+
+TEST_F(FirmaBilgi, AnotherUsersCardIsNotOverwrittenAndTheSessionWaits) {
+  Kur();
+  Okunan<Firma> f = FirmaDuzenle(o);
+  Sql("update firma set verda = 'Konak', firmaay = 3");
+  f.simdi.firmaay = 4;
+  const int ay = o.firma.firmaay;
+  const auto engel = FirmaKaydet(o, f);
+  ASSERT_TRUE(!engel && engel.Kusuru().cakisma);
+  EXPECT_EQ(engel.Kusuru().cakisma->alanlar, std::vector<AlanTutamagi>{firma::firmaay});
+  EXPECT_EQ(o.firma.firmaay, ay);
+  Uzlastir(f, *engel.Kusuru().cakisma, Galip::Benimki);
+  ASSERT_TRUE(FirmaKaydet(o, f));
+  EXPECT_EQ(FirmaOku(o).verda + std::to_string(o.firma.firmaay), "Konak4");
 }
 
 TEST_F(FirmaBilgi, PathsOfTheInstallation) {

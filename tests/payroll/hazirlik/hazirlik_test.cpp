@@ -175,17 +175,31 @@ TEST(BordroSil, DeletesTheMonthAndNoOther) {
   EXPECT_EQ(sirket.Kayitlar(2009, 3).size(), 2u);
 }
 
-TEST(BordroKaydet, EditsItsRowAndAddsWhenThatIsGone) {
+TEST(BordroKaydet, SavesWholeOrNotAtAllOnceAnotherUserHasBeenThere) {
   Sirket sirket;
   sirket.Kisi("1", 700);
   sirket.Hazirla(2009, 1);
-  Brd b = sirket.Kayit("1", 2009, 1);
-  b.borckes = Tutar(5);
-  BordroKaydet(sirket.motor(), b);
-  EXPECT_EQ(sirket.Kayit("1", 2009, 1), b);
+  const Brd ilk = sirket.Kayit("1", 2009, 1);
+  Okunan<Brd> okunan{.ilk = ilk, .simdi = ilk};
+  okunan.simdi.borckes = Tutar(5);
+  const auto yazilan = BordroKaydet(sirket.motor(), okunan);
+  ASSERT_TRUE(yazilan);
+  EXPECT_EQ(sirket.Kayit("1", 2009, 1), *yazilan);
+  const auto engellenir = [&](const char* olan) {
+    const auto engel = BordroKaydet(sirket.motor(), okunan);
+    ASSERT_FALSE(engel);
+    EXPECT_EQ(engel.KusurMetni(),
+              "Kayıt bu arada başka bir kullanıcı tarafından " + std::string(olan) + ": 1, Ocak.2009 bordrosu");
+  };
+  okunan.simdi.fm1 = Tek(7);  // another column than the one that was changed meanwhile
+  engellenir("değiştirilmiş");
+  EXPECT_EQ(sirket.Kayit("1", 2009, 1), *yazilan);
   ASSERT_TRUE(BordroSil(sirket.o, 2009, 1));
-  BordroKaydet(sirket.motor(), b);
-  EXPECT_EQ(sirket.Kayit("1", 2009, 1).borckes, Tutar(5));
+  engellenir("silinmiş");
+  okunan.ilk.reset();
+  ASSERT_TRUE(BordroKaydet(sirket.motor(), okunan));
+  engellenir("eklenmiş");
+  EXPECT_EQ(sirket.Kayit("1", 2009, 1).fm1, Tek(7));
 }
 
 // Opens the company in this process and prepares a month; 0 when it went well.

@@ -30,12 +30,24 @@ TEST(Firbil, ShowsTheRateAndSavesTheSession) {
   EXPECT_EQ(AlanMetni(form, "tehlikeoran"), "4.2");
 }
 
+TEST(Firbil, StaysOpenWhileAnotherUsersChangeIsLookedAt) {
+  EkranOrtami ortam;
+  auto& form = ortam.Ac<firbil>(ortam.parametreler);
+  ortam.Yaz("Örgü");
+  ortam.oturum.depo.db.IcMotor().Calistir("update firma set unvan = 'Dokuma', verda = 'Konak'");
+  ortam.ModaldaYap([&] { ortam.Bas(Qt::Key_Escape); });
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_TRUE(form.isVisible());
+  EXPECT_EQ(FirmaOku(ortam.oturum).unvan + AlanMetni(form, "unvan"), "DokumaÖrgü");
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+}
+
 // The class is a list index in a column of real numbers.
 TEST(Firbil, SavesEveryClassAsItWasStored) {
   EkranOrtami ortam;
   for (const double sinif : {0.0, 1.0, 7.0, 11.0, 1.5, 40.0}) {
-    Firma firma = FirmaOku(ortam.oturum);
-    firma.sinif = Tek(sinif);
+    auto firma = FirmaDuzenle(ortam.oturum);
+    firma.simdi.sinif = Tek(sinif);
     ASSERT_TRUE(ortam.parametreler.firma.KartKaydet(firma));
     auto& form = ortam.Ac<firbil>(ortam.parametreler);
     EXPECT_EQ(AlanMetni(form, "tehlikeoran"), TutarMetni(Tutar(TehlikeOrani(0, sinif).Sayi()), 1)) << sinif;

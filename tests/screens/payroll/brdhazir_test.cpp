@@ -27,7 +27,7 @@ struct Bordro : EkranOrtami {
     s.ucret = Tarih(2007, 3, 1) == giris ? Tutar(1250) : Tutar(900);
     s.girtar = giris;
     s.agi = true;
-    EXPECT_TRUE(KartKaydet(oturum, s, "", bildirim));
+    EXPECT_TRUE(KartKaydet(oturum, {.simdi = s}));
   }
   std::vector<Brd> Kayitlar() { return KayitlariOku<Brd>(oturum.depo.db.IcMotor(), "order by kod"); }
 };

@@ -22,7 +22,7 @@ struct KisiEkranlari : testing::Test {
       s.adi = kod[2] == '1' ? "Işıl" : "Can";
       s.soyadi = "Öz";
       s.girtar = Tarih(2005, 1, 1);
-      ASSERT_TRUE(KartKaydet(ortam.oturum, s, "", ortam.bildirim));
+      ASSERT_TRUE(KartKaydet(ortam.oturum, {.simdi = s}));
     }
   }
   std::vector<Esco> Aile(const char* kod) { return AileOku(ortam.oturum, kod); }
@@ -82,6 +82,30 @@ TEST_F(KisiEkranlari, ARowThatCannotBeSavedStaysWithItsPerson) {
   EXPECT_EQ(Aile("001").size(), 1u);
 }
 
+TEST_F(KisiEkranlari, WhatAnotherUserHasWrittenComesOntoTheScreenWithTheSave) {
+  auto& form = ortam.Ac<nufus>();
+  ortam.Yaz("001\nA12\n");
+  ortam.oturum.depo.db.IcMotor().Calistir("update kimlik set tcno = '10000000146'");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(AlanMetni(form, "tcno"), "10000000146");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(KimlikBul(ortam.oturum, "001")->serino + KimlikBul(ortam.oturum, "001")->tcno, "A1210000000146")
+      << "a second save takes nothing back";
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+}
+
+TEST_F(KisiEkranlari, ARelativeWhomAnotherUserHasDeletedGoesFromTheList) {
+  auto& form = ortam.Ac<escofrm>();
+  ortam.Yaz("001\n");
+  ortam.Bas(Qt::Key_Insert);
+  ortam.Yaz("\nEfe");
+  ortam.Bas(Qt::Key_F5);
+  ortam.oturum.depo.db.IcMotor().Calistir("delete from esco");
+  ortam.Bas(Qt::Key_Delete);
+  EXPECT_EQ(ortam.bildirim.Al(), (Iletiler{"Soru: Kayıt Silinecek ?", "Bilgi: Silinecek Kayıt Bulunamadı"}));
+  EXPECT_EQ(form.findChild<dclist*>()->ListCount(), 0);
+}
+
 TEST_F(KisiEkranlari, IdentityIsSavedAndDeletedWithItsCard) {
   auto& form = ortam.Ac<nufus>();
   ortam.Yaz("001\nA12\n12345678901\nK\n");
@@ -122,7 +146,7 @@ TEST_F(KisiEkranlari, AnotherCompanysPeopleAreFoundAndBrokenStoresPassedOver) {
   s.kod = "7";
   s.adi = "Işılay";
   s.girtar = Tarih(2005, 1, 1);
-  ASSERT_TRUE(KartKaydet(obur, s, "", ortam.bildirim));
+  ASSERT_TRUE(KartKaydet(obur, {.simdi = s}));
   std::filesystem::create_directories(ortam.oturum.DataPath + "BOZUK");
   std::ofstream(ortam.oturum.DataPath + "BOZUK/tolu.dat") << "bu bir veritabanı değil";
   auto& form = ortam.Ac<perbul>();

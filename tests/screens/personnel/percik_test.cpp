@@ -21,7 +21,7 @@ struct Percik : testing::Test {
       s.adi = kod[2] == '1' ? "Ali" : "Can";
       s.soyadi = "Veli";
       s.girtar = Tarih(2005, 1, 1);
-      ASSERT_TRUE(KartKaydet(ortam.oturum, s, "", ortam.bildirim));
+      ASSERT_TRUE(KartKaydet(ortam.oturum, {.simdi = s}));
     }
     form = &ortam.Ac<percik>();
   }

@@ -99,7 +99,7 @@ TEST_F(Pergir, AKnownPersonKeepsWhatTheScreenDoesNotShow) {
   kart.girtar = Tarih(2005, 1, 1);
   kart.ucret = Tutar(1500.0);
   kart.tahsisno = "55";
-  ASSERT_TRUE(KartKaydet(ortam.oturum, kart, "", ortam.bildirim));
+  ASSERT_TRUE(KartKaydet(ortam.oturum, {.simdi = kart}));
   ortam.Yaz("001");
   ortam.Bas(Qt::Key_F5);
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{}) << "a person who is not seen yet is shown, not overwritten";

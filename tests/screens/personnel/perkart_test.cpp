@@ -2,10 +2,12 @@
 
 #include <QImage>
 
+#include "core/session/sirket.h"
 #include "ekran/ortam.h"
 #include "personnel/kart.h"
 #include "personnel/kimlik.h"
 #include "screens/personnel/resimkutusu.h"
+#include "ui/xbutton.h"
 
 namespace belvani::test {
 namespace {
@@ -24,7 +26,7 @@ struct Perkart : testing::Test {
   EkranOrtami ortam;
   perkart* form = nullptr;
 
-  void Ekle(const Sicil& kisi) { ASSERT_TRUE(KartKaydet(ortam.oturum, kisi, "", ortam.bildirim)); }
+  void Ekle(const Sicil& kisi) { ASSERT_TRUE(KartKaydet(ortam.oturum, {.simdi = kisi})); }
   void Ac() { form = &ortam.Ac<perkart>(ortam.parametreler); }
   std::string Metin(std::string_view ad) { return AlanMetni(*form, ad); }
   int Sira(std::string_view ad) { return int(TamDegeri(form->Denetim(ad).Oku())); }
@@ -175,6 +177,67 @@ TEST_F(Perkart, APictureIsStoredByTheSaveAlone) {
   ortam.Bas(Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(Sayi("foto"), 0u);
   EXPECT_TRUE(yeniKutu.Bos());
+}
+
+// Another computer, with a handle of its own on the store.
+struct PerkartIki : Perkart {
+  std::unique_ptr<Motor> obur;
+
+  void SetUp() override {
+    Ekle(Kisi("001"));
+    obur = MotorAc(ortam.oturum.FirmaDizini + DepoDosyasi);
+    Ac();
+    ortam.Yaz("001\nIşıl\nÇağlar\n");
+  }
+  // Saves, and answers what is asked by that button.
+  void KaydetVe(const char* karar) {
+    bool soruldu = false;
+    ortam.ModaldaYap([&] {
+      QStringList metinler;
+      for (auto* etiket : QApplication::activeModalWidget()->findChildren<QLabel*>()) metinler += etiket->text();
+      gosterilen = Utf8(metinler.join("|"));
+      soruldu = true;
+      for (auto* dugme : QApplication::activeModalWidget()->findChildren<xButton*>()) {
+        if (dugme->text() != QString::fromUtf8(karar)) continue;
+        dugme->setFocus();
+        ortam.Bas(Qt::Key_Space);
+        return;
+      }
+    });
+    ortam.Bas(Qt::Key_F5);
+    EXPECT_TRUE(soruldu);
+    QApplication::setActiveWindow(form);
+  }
+  Sicil Kayit() { return KartBul(ortam.oturum, "001").value(); }
+
+  std::string gosterilen;
+};
+
+TEST_F(PerkartIki, TheOnesWhoMeetInAFieldAreAskedAndTheRestIsKeptOfBoth) {
+  obur->Calistir("update sicil set adi = 'Can', sskdurum = 2, verda = 'Konak'");
+  KaydetVe("Bak");
+  EXPECT_NE(gosterilen.find("Adı|Can|Işıl"), gosterilen.npos) << gosterilen;
+  EXPECT_EQ(gosterilen.find("Veli"), gosterilen.npos) << "the surname is nobody's quarrel";
+  EXPECT_EQ(Metin("adi") + Metin("soyadi"), "IşılÇağlar") << "what was typed stays";
+  EXPECT_EQ(Kayit().adi + Kayit().soyadi, "CanVeli");
+  KaydetVe("Onunki");
+  EXPECT_EQ(Kayit().adi + Kayit().soyadi + Kayit().verda, "CanÇağlarKonak");
+  EXPECT_EQ(Kayit().sskdurum, 2);
+  EXPECT_EQ(ortam.Odak(), "kod");
+
+  ortam.Yaz("001\nIşılay");
+  obur->Calistir("update sicil set adi = 'Cem'");
+  KaydetVe("Benimki");
+  EXPECT_EQ(Kayit().adi + Kayit().verda, "IşılayKonak");
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+}
+
+TEST_F(PerkartIki, ADeletedPersonComesBackOnlyWhenAskedFor) {
+  obur->Calistir("delete from sicil");
+  KaydetVe("Onunki");
+  EXPECT_EQ(Sayi("sicil"), 0u);
+  KaydetVe("Benimki");
+  EXPECT_EQ(Kayit().adi, "Işıl");
 }
 
 TEST_F(Perkart, TheGuidePicksAPerson) {

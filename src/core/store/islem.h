@@ -1,0 +1,44 @@
+// A write transaction: everything in it happens or nothing does.
+#pragma once
+
+#include "core/store/motor.h"
+
+namespace belvani {
+
+// Not approved by its end, it is taken back.
+class Islem {
+ public:
+  // Waits for other writers up to `enCok`; then MotorHatasi.
+  explicit Islem(Motor& motor, std::chrono::milliseconds enCok = std::chrono::seconds(5)) : motor_(&motor) {
+    motor.IslemBaslat(enCok);
+  }
+  ~Islem() {
+    if (motor_ != nullptr) motor_->IslemGeriAl();
+  }
+  Islem(const Islem&) = delete;
+  Islem& operator=(const Islem&) = delete;
+
+  void Onayla() {
+    motor_->IslemOnayla();
+    motor_ = nullptr;
+  }
+
+ private:
+  Motor* motor_;
+};
+
+// Part of the transaction that is open already, else one of its own.
+class KatilanIslem {
+ public:
+  explicit KatilanIslem(Motor& motor) {
+    if (!motor.IslemdeMi()) kendi_.emplace(motor);
+  }
+  void Onayla() {
+    if (kendi_) kendi_->Onayla();
+  }
+
+ private:
+  std::optional<Islem> kendi_;
+};
+
+}  // namespace belvani
