@@ -81,22 +81,22 @@ Sonuc<std::string> excelkont::KitapOku(const std::string& dosya) const {
   return cevrilen;
 }
 
-Durum excelkont::KusuruTut(Durum durum) {
+bool excelkont::KusuruTut(const Durum& durum) {
   if (!durum && !kusur_) kusur_ = durum.Kusuru();
-  return durum;
+  return bool(durum);
 }
 
-Durum excelkont::SetExcell(int satir, int kolon, const Hucre& deger, ExcelYazisi yazi) {
+bool excelkont::SetExcell(int satir, int kolon, const Hucre& deger, ExcelYazisi yazi) {
   if (!acik_) return KusuruTut(Kusur{"Açık bir çalışma kitabı yok"});
   const std::string adres = satir < 1 || kolon < 1 ? "" : XlsxAdresi(satir - 1, kolon - 1);
   if (!XlsxYeriOku(adres))
     return KusuruTut(Kusur{"Sayfada satır " + std::to_string(satir) + ", kolon " + std::to_string(kolon) + " yok"});
   if (sablon_) return KusuruTut(sablon_->Yaz("", adres, deger));
   hucreler_.insert_or_assign({satir, kolon}, YeniHucre{deger, yazi});
-  return Tamam();
+  return true;
 }
 
-Durum excelkont::SetExcel(std::string_view adres, const Hucre& deger, ExcelYazisi yazi) {
+bool excelkont::SetExcel(std::string_view adres, const Hucre& deger, ExcelYazisi yazi) {
   const auto yer = XlsxYeriOku(adres);
   if (!yer) return KusuruTut(Kusur{"Hücre adresi değil: '" + std::string(adres) + "'"});
   return SetExcell(yer->satir, yer->kolon, deger, yazi);

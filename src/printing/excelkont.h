@@ -50,8 +50,8 @@ class excelkont {
   // The same for the bytes of a workbook (.xlsx).
   Durum KitapAc(std::string baytlar);
 
-  Durum SetExcell(int satir, int kolon, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
-  Durum SetExcel(std::string_view adres, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
+  bool SetExcell(int satir, int kolon, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
+  bool SetExcel(std::string_view adres, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
 
   // The finished workbook, for one that is not handed over here; or the first failure.
   Sonuc<std::string> Kitap();
@@ -69,7 +69,7 @@ class excelkont {
 
   void Birak();
   Sonuc<std::string> KitapOku(const std::string& dosya) const;
-  Durum KusuruTut(Durum durum);
+  bool KusuruTut(const Durum& durum);
   Sonuc<std::string> YeniKitap() const;
   Sonuc<std::string> DosyaYeri() const;
 

@@ -1,8 +1,10 @@
 #include "printing/xlsxkitap.h"
 
 #include <algorithm>
+#include <fcntl.h>
 #include <filesystem>
 #include <locale.h>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 #include <xlsxwriter.h>
@@ -49,17 +51,45 @@ std::string SayfaAdi(std::string_view ad) {
   return temiz.empty() ? "Rapor" : temiz;
 }
 
-std::size_t Say(std::string_view metin, std::string_view aranan) {
-  std::size_t adet = 0;
-  for (std::size_t i = 0; (i = metin.find(aranan, i)) != std::string_view::npos; i += aranan.size()) ++adet;
-  return adet;
-}
+// The library tells a failed write on standard error, in English; our caller tells it where its user looks.
+class SessizHata {
+ public:
+  SessizHata() : onceki_(::dup(STDERR_FILENO)) {
+    const int bos = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+    if (bos < 0) return;
+    ::dup2(bos, STDERR_FILENO);
+    ::close(bos);
+  }
+  ~SessizHata() {
+    if (onceki_ < 0) return;
+    ::dup2(onceki_, STDERR_FILENO);
+    ::close(onceki_);
+  }
+  SessizHata(const SessizHata&) = delete;
+  SessizHata& operator=(const SessizHata&) = delete;
 
-// Whether the text of a part ends as XML does.
-bool TamMi(std::string_view parca) {
-  const auto son = parca.find_last_not_of("\r\n");
-  return son != std::string_view::npos && parca[son] == '>';
-}
+ private:
+  int onceki_;
+};
+
+// A part of the workbook as it goes by: how many cells begin in it, and whether it ends as XML does.
+class ParcaOkuru {
+ public:
+  void Al(std::string_view blok) {
+    metin_ += blok;
+    for (std::size_t i = 0; (i = metin_.find(HucreBasi, i)) != std::string::npos; i += HucreBasi.size()) ++hucreler_;
+    if (const auto yer = blok.find_last_not_of("\r\n"); yer != std::string_view::npos) son_ = blok[yer];
+    metin_.erase(0, metin_.size() - std::min(metin_.size(), HucreBasi.size() - 1));
+  }
+  std::size_t Hucreler() const { return hucreler_; }
+  bool Tam() const { return son_ == '>'; }
+
+ private:
+  static constexpr std::string_view HucreBasi = "<c r=\"";
+  std::string metin_;  // the piece, behind what of the one before may be the front of a cell
+  std::size_t hucreler_ = 0;
+  char son_ = 0;
+};
 
 lxw_format* BicimYap(lxw_workbook* kitap, const XlsxStili& stil) {
   lxw_format* bicim = workbook_add_format(kitap);
@@ -93,6 +123,7 @@ struct XlsxKitap::Ic {
   lxw_error Kapat() {
     if (kitap == nullptr) return LXW_ERROR_CREATING_TMPFILE;
     const NoktaliSayilar nokta;
+    const SessizHata sessiz;
     return workbook_close(std::exchange(kitap, nullptr));
   }
 
@@ -101,9 +132,9 @@ struct XlsxKitap::Ic {
   bool Saglam(const ZipDosyasi& dosya) const {
     std::size_t hucreler = 0;
     for (const auto& ad : dosya.Adlar()) {
-      const auto parca = dosya.Oku(ad);
-      if (!parca || !TamMi(*parca)) return false;
-      if (ad == SayfaParcasi) hucreler = Say(*parca, "<c r=\"");
+      ParcaOkuru okur;
+      if (!dosya.Aktar(ad, [&](std::string_view blok) { okur.Al(blok); }) || !okur.Tam()) return false;
+      if (ad == SayfaParcasi) hucreler = okur.Hucreler();
     }
     return hucreler == hucreSayisi;
   }

@@ -89,23 +89,29 @@ Sonuc<ZipDosyasi> ZipDosyasi::Ac(std::string baytlar) {
   return dosya;
 }
 
-std::optional<std::string> ZipDosyasi::Oku(const std::string& ad) const {
-  if (const auto d = degisen_.find(ad); d != degisen_.end()) return d->second;
-  const Arsiv arsiv(baytlar_);
-  zip_stat_t bilgi;
-  if (arsiv.zip == nullptr || zip_stat(arsiv.zip, ad.c_str(), 0, &bilgi) != 0 || bilgi.size > EnBuyukParca)
-    return std::nullopt;
-  const std::unique_ptr<zip_file_t, ParcaSil> parca(zip_fopen(arsiv.zip, ad.c_str(), 0));
-  if (!parca) return std::nullopt;
-  std::string icerik(bilgi.size, '\0');
-  std::size_t okunan = 0;
-  while (okunan < icerik.size()) {
-    const auto n = zip_fread(parca.get(), icerik.data() + okunan, icerik.size() - okunan);
-    if (n <= 0) return std::nullopt;
-    okunan += std::size_t(n);
+bool ZipDosyasi::Aktar(const std::string& ad, const std::function<void(std::string_view)>& al) const {
+  if (const auto d = degisen_.find(ad); d != degisen_.end()) {
+    if (d->second) al(*d->second);
+    return d->second.has_value();
   }
-  char fazla = 0;
-  if (zip_fread(parca.get(), &fazla, 1) != 0) return std::nullopt;  // also checks the part's sum
+  const Arsiv arsiv(baytlar_);
+  if (arsiv.zip == nullptr) return false;
+  const std::unique_ptr<zip_file_t, ParcaSil> parca(zip_fopen(arsiv.zip, ad.c_str(), 0));
+  if (!parca) return false;
+  std::string blok(65536, '\0');
+  zip_int64_t n = 0;  // the last one, of nothing, also checks the part's sum
+  while ((n = zip_fread(parca.get(), blok.data(), blok.size())) > 0) al({blok.data(), std::size_t(n)});
+  return n == 0;
+}
+
+std::optional<std::string> ZipDosyasi::Oku(const std::string& ad) const {
+  std::string icerik;
+  bool buyuk = false;
+  const bool tamam = Aktar(ad, [&](std::string_view blok) {
+    buyuk = buyuk || icerik.size() + blok.size() > EnBuyukParca;
+    if (!buyuk) icerik += blok;
+  });
+  if (!tamam || buyuk) return std::nullopt;
   return icerik;
 }
 

@@ -1,6 +1,7 @@
 // ZipDosyasi: a zip archive in memory, as office documents are. Parts that are not touched keep their stored bytes.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -21,6 +22,8 @@ class ZipDosyasi {
 
   // A part as it is now; nothing when there is none, or it cannot be unpacked, or is larger than EnBuyukParca.
   std::optional<std::string> Oku(const std::string& ad) const;
+  // The same piece by piece, of any size; false when it could not be given to its end.
+  bool Aktar(const std::string& ad, const std::function<void(std::string_view)>& al) const;
 
   void Degistir(const std::string& ad, std::string icerik) { degisen_[ad] = std::move(icerik); }
   void Sil(const std::string& ad) { degisen_[ad] = std::nullopt; }

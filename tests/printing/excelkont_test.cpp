@@ -65,10 +65,11 @@ TEST(Excelkont, BozukHucreDosyayaGecmezVeKapanirkenSoylenir) {
   for (const auto& [satir, kolon] : {std::pair(0, 1), {1, 0}, {-5, 3}, {1'048'577, 1}, {1, 16'385}}) {
     Excel e;
     ASSERT_TRUE(e.excel.OpenExcell());
-    const Durum ilk = e.excel.SetExcell(satir, kolon, Tutar(1.0));
-    EXPECT_FALSE(ilk) << satir << "," << kolon;
+    EXPECT_FALSE(e.excel.SetExcell(satir, kolon, Tutar(1.0))) << satir << "," << kolon;
     EXPECT_FALSE(e.excel.SetExcel("1A", Null{}));
-    EXPECT_EQ(e.excel.CloseExcell().KusurMetni(), ilk.KusurMetni()) << "the first one";
+    EXPECT_EQ(e.excel.CloseExcell().KusurMetni(),
+              "Sayfada satır " + std::to_string(satir) + ", kolon " + std::to_string(kolon) + " yok")
+        << "the first one";
     EXPECT_TRUE(e.acilan.empty() && e.excel.Dosya().empty());
   }
 }

@@ -103,8 +103,12 @@ TEST(XlsxYazici, SigmayanSoylenir) {
 TEST(XlsxYazici, DolanDiskSoylenir) {
   const Rapor rapor = KalemRaporu(std::vector<Kalem>(2000, {.ad = "Şükrüye Öğütçü", .tutar = Tutar(1234.56)}));
   for (const rlim_t sinir : {0ul, 700ul, 5'000ul, 60'000ul, 200'000ul}) {
-    const auto disk = test::DarDisk(sinir);
-    const auto sonuc = XlsxRaporu(rapor);
+    testing::internal::CaptureStderr();
+    const auto sonuc = [&] {
+      const auto disk = test::DarDisk(sinir);
+      return XlsxRaporu(rapor);
+    }();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "told once, by its caller: " << sinir;
     ASSERT_FALSE(sonuc) << sinir;
     EXPECT_THAT(sonuc.KusurMetni(), HasSubstr("Tablo dosyası yazılamadı")) << sinir;
   }
