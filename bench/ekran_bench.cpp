@@ -279,6 +279,6 @@ int main(int argc, char** argv) {
   std::setlocale(LC_NUMERIC, "C");
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
-  while (!ortaklar.empty()) ortaklar.pop_back();
+  while (!belvani::ortaklar.empty()) belvani::ortaklar.pop_back();
   return 0;
 }

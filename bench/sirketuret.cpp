@@ -1,8 +1,5 @@
 #include "sirketuret.h"
 
-#include <cstdlib>
-#include <iostream>
-
 #include "core/store/satirlar.h"
 #include "core/tables/esco.h"
 #include "core/tables/indir.h"
@@ -20,13 +17,6 @@ class Sessiz : public Bildirim {
   void Uyari(std::string_view metin) override { std::cerr << metin << '\n'; }
   bool Soru(std::string_view) override { return false; }
 };
-
-template <class T>
-T Al(Sonuc<T> sonuc) {
-  if (sonuc) return std::move(*sonuc);
-  std::cerr << sonuc.KusurMetni() << '\n';
-  std::exit(1);
-}
 
 std::string YediHane(int sira) {
   const std::string s = std::to_string(sira + 1);

@@ -1,13 +1,23 @@
 // Companies of any size for measuring: people of all kinds in fixed proportions, the same on every run.
 #pragma once
 
+#include <cstdlib>
 #include <filesystem>
+#include <iostream>
 #include <string>
 
 #include "core/session/oturum.h"
 #include "payroll/hazirlik/hazirlik.h"
 
 namespace belvani::bench {
+
+// What a measurement cannot go on without.
+template <class T>
+T Al(Sonuc<T> sonuc) {
+  if (sonuc) return std::move(*sonuc);
+  std::cerr << sonuc.KusurMetni() << '\n';
+  std::exit(1);
+}
 
 // Deletes its directory when it goes.
 class Sirket {
