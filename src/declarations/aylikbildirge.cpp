@@ -6,6 +6,7 @@
 #include "core/sayi.h"
 #include "core/session/aracibilgi.h"
 #include "core/store/satirlar.h"
+#include "core/veriyolu.h"
 #include "declarations/bildirgesorgu.h"
 
 namespace belvani {

@@ -16,7 +16,8 @@
 namespace belvani {
 namespace {
 
-constexpr const char* AmblemDosyasi = "Image/ssklogo.png";
+constexpr const char* AmblemYeri = "Image";
+constexpr const char* AmblemDosyasi = "ssklogo.png";
 
 }  // namespace
 
@@ -137,11 +138,11 @@ void pergir::Yazdir() {
   auto form = Okunan();
   if (!form) return;
   const auto& sskDurumu = dynamic_cast<QComboBox&>(*Denetim("sskdurum").Odak());
-  const auto belge =
-      GirisBildirgesiBelgesi({.form = std::move(*form),
-                              .firma = FirmaOku(Oturumu()),
-                              .sskDurumu = Utf8(sskDurumu.currentText()),
-                              .amblemPng = VeriYolu(Oturumu().DataPath).Oku(AmblemDosyasi).value_or("")});
+  const auto belge = GirisBildirgesiBelgesi(
+      {.form = std::move(*form),
+       .firma = FirmaOku(Oturumu()),
+       .sskDurumu = Utf8(sskDurumu.currentText()),
+       .amblemPng = VeriYolu(Oturumu().DataPath).Alt(AmblemYeri).Oku(AmblemDosyasi).value_or("")});
   BelgeBas(Baglam(), *belge);
 }
 
