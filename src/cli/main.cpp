@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "cli/ortak.h"
+#include "core/session/oturum.h"
 
 namespace belvani::cli {
 namespace {
@@ -54,7 +55,7 @@ int Calistir(int argc, char** argv) {
   app.set_help_flag("-h,--help", "bu yardımı gösterir");
   app.add_option("--veri", genel.veri, "data dizini (verilmezse kurulumun data dizini)");
   app.require_subcommand(0, 1);
-  app.set_version_flag("--version", "Belvani 2003.7", "programın sürümünü gösterir");
+  app.set_version_flag("--version", "Belvani " + VersiyonMetni(ProgramVersiyonu()), "programın sürümünü gösterir");
   for (const KomutEkle ekle : {SirketKomutlari, ParametreKomutlari, AktarimKomutlari, HazirlaKomutlari, HesaplaKomutu,
                                BelgeKomutlari, BildirgeKomutu})
     ekle(app, genel);

@@ -4,7 +4,6 @@
 #include <charconv>
 #include <chrono>
 #include <cmath>
-#include <ctime>
 
 namespace belvani {
 namespace {
@@ -91,13 +90,6 @@ Tarih Tarih::MetinOku(std::string_view metin) {
   if (metin.size() != 4) return {};
   const int yil = SayiKopar(metin, 4);
   return metin.empty() ? Tarih(yil, ay, gun) : Tarih();
-}
-
-Tarih Tarih::Bugun() {
-  const std::time_t simdi = std::time(nullptr);
-  std::tm yerel{};
-  localtime_r(&simdi, &yerel);
-  return Tarih(yerel.tm_year + 1900, yerel.tm_mon + 1, yerel.tm_mday);
 }
 
 int Tarih::Yil() const {

@@ -22,7 +22,7 @@ class Tarih {
   static Tarih SeriNodan(double seri);
   static Tarih IsoOku(std::string_view metin);    // "2008-02-29"
   static Tarih MetinOku(std::string_view metin);  // "29.02.2008"; also one-digit day and month
-  static Tarih Bugun();                           // today on the computer's clock, local time
+  static Tarih Bugun();                           // today, local time; see core/saat.h
 
   constexpr bool Bos() const { return seri_ == BosSeri; }
   constexpr std::int32_t SeriNo() const { return seri_; }  // only of a day

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
+#include "core/saat.h"
 #include "core/tablo.h"
 
 namespace belvani {
@@ -69,6 +70,19 @@ TEST(Tarih, NullAndTheEndsOfTheRange) {
     EXPECT_TRUE(t.Bos()) << t.Iso();
   EXPECT_EQ(GunSayisi(Tarih(2008, 2, 28), Tarih(2008, 3, 1)), 3);
   EXPECT_EQ(std::string(AyAdi(1)) + std::string(AyAdi(12)), "OcakAralık");
+}
+
+TEST(Tarih, TodayIsTheDayThatWasSetWhileItIsSet) {
+  const Tarih ilk(2009, 3, 31);
+  {
+    const SabitGun dis(ilk);
+    {
+      const SabitGun ic(ilk.Ekle(1));
+      EXPECT_EQ(Tarih::Bugun(), Tarih(2009, 4, 1));
+    }
+    EXPECT_EQ(Tarih::Bugun(), ilk);
+  }
+  EXPECT_GT(Tarih::Bugun(), Tarih(2020, 1, 1)) << "the clock's again";
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "core/dosya.h"
 #include "core/store/tablo.h"
+#include "core/surum.h"
 
 namespace belvani {
 namespace {
@@ -48,7 +49,7 @@ const std::vector<DepoTablosu>& DepoTablolari() {
 
 // `brdkanun` belongs to the version of this program; an older store gets it with its upgrade.
 bool Eklenir(Imlec& firma, std::string_view alan) {
-  return alan != "brdkanun" || Tek(SayiDegeri(firma.AlanOku("versiyon"))) == ProgramVersiyonu;
+  return alan != "brdkanun" || Tek(SayiDegeri(firma.AlanOku("versiyon"))) == ProgramVersiyonu();
 }
 
 void YoksaEkle(Veritabani& db, std::string_view tablo, std::string_view alan) {

@@ -12,9 +12,6 @@
 
 namespace belvani {
 
-// The version of this program's store, as the `firma` record keeps it.
-inline const Tek ProgramVersiyonu{2003.7};
-
 enum class KapatmaKapsami { YalnizImlecler, VeritabaniDa };
 
 struct Depo {

@@ -52,7 +52,7 @@ Durum DepoKur(Depo& depo, const std::string& yol, std::string_view kullanici, st
 }  // namespace
 
 bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komutSatiri, Bildirim& bildirim) {
-  o.Versiyon = ProgramVersiyonu;
+  o.Versiyon = ProgramVersiyonu();
   o.BilgisayarAdi = BilgisayarAdiBul();
   o.ParaBirimi = "TL";
   o.KurusBirimi = "KR";

@@ -11,6 +11,7 @@
 #include "core/bildirim.h"
 #include "core/session/depo.h"
 #include "core/sonuc.h"
+#include "core/surum.h"
 #include "core/tables/firma.h"
 
 namespace belvani {
@@ -28,7 +29,7 @@ struct Oturum {
   std::string FirmaKod;  // name of the company's directory, upper case
   std::string PrgPath;   // installed files; ends in a separator
   int ListeSirasi = 1;   // last search column of the lookup window
-  Tek Versiyon = ProgramVersiyonu;
+  Tek Versiyon = ProgramVersiyonu();
   std::string Kullanici = "BELVANI";
   std::string BilgisayarAdi;
   std::string ParaBirimi = "TL";

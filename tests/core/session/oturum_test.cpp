@@ -6,6 +6,7 @@
 
 #include "core/ayarlar.h"
 #include "core/dosya.h"
+#include "core/saat.h"
 #include "core/session/ornekoturum.h"
 #include "core/session/sirket.h"
 #include "core/store/satirlar.h"
@@ -84,13 +85,14 @@ TEST_F(OturumTest, NewCompanyIsOpenAndComplete) {
 TEST_F(OturumTest, FirstCompanyRecordFieldByField) {
   Kur();
   Sql("update firma set unvan = 'Eski', tersfirma = null, verda = 'Konak', issaati = 3");
+  const Tarih bugun(2007, 11, 30);
+  const SabitGun gun(bugun);
   FirmaIlkKayit(o, b);
-  const Tarih bugun = Tarih::Bugun();
-  const std::string unvan = "Yeni Şirket (" + std::to_string(bugun.Yil()) + ")";
+  const std::string unvan = "Yeni Şirket (2007)";
   // clang-format off
   const std::map<std::string_view, Deger> yazilan{
       {"unvan", unvan}, {"kurtar", bugun}, {"iskodu", I(1)}, {"yuvar", 0.0}, {"issaati", 8.0}, {"paraonda", I(2)},
-      {"firmayil", I(bugun.Yil())}, {"firmaay", I(bugun.Ay())}, {"tehlike", I(0)}, {"sinif", 0.0},
+      {"firmayil", I(2007)}, {"firmaay", I(11)}, {"tehlike", I(0)}, {"sinif", 0.0},
       {"ondeger", std::string("Personel")}, {"kanun", std::string("00000")}, {"versiyon", 2003.7}};
   // clang-format on
   ASSERT_TRUE(o.depo.firma.KayitSayisi() == 1 && o.depo.firma.IlkKayit());
