@@ -14,6 +14,7 @@
 #include "app/yardim.h"
 #include "core/session/firmabilgi.h"
 #include "screens/core/Dbupdate.h"
+#include "screens/personnel/perkart.h"
 #include "ui/metin.h"
 #include "ui/simge.h"
 #include "ui/stil.h"
@@ -221,6 +222,12 @@ void anamenu::SerbestGoster(std::unique_ptr<Form> form) {
   // The window inside the area gives the keyboard to the screen as a whole.
   if (odak == nullptr && ekran->focusWidget() != ekran) odak = ekran->focusWidget();
   (odak != nullptr ? odak.data() : IlkOdak(ekran))->setFocus(Qt::TabFocusReason);
+}
+
+void anamenu::KisiyeGit(const std::string& kod, AlanTutamagi alan) {
+  const auto kart = std::ranges::find(Ekranlar(), "perkart", &EkranKaydi::kelime);
+  Ac(*kart);
+  if (auto* acik = dynamic_cast<perkart*>(alan_->currentSubWindow()->widget())) acik->KisiyeGit(kod, alan);
 }
 
 // Where it stood last, else in the middle and a step aside for every window that is open; always wholly in view.

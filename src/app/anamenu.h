@@ -31,6 +31,7 @@ class anamenu : public QMainWindow, public FormGosterici {
 
   void SerbestGoster(std::unique_ptr<Form> form) override;
   QWidget* ModalUst() override { return this; }
+  void KisiyeGit(const std::string& kod, AlanTutamagi alan) override;
 
   Form1& Masaustu() { return *masaustu_; }
   // Closes every screen, from the last to the first.

@@ -14,6 +14,9 @@ struct AnaPencereGosterici final : FormGosterici {
     if (pencere != nullptr) pencere->SerbestGoster(std::move(form));
   }
   QWidget* ModalUst() override { return pencere != nullptr ? pencere : QApplication::activeWindow(); }
+  void KisiyeGit(const std::string& kod, AlanTutamagi alan) override {
+    if (pencere != nullptr) pencere->KisiyeGit(kod, alan);
+  }
 };
 
 }  // namespace belvani

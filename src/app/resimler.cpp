@@ -16,6 +16,7 @@
 #include "screens/core/startfrm.h"
 #include "screens/payroll/brckes.h"
 #include "ui/dialogyok.h"
+#include "ui/kusurlistesi.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
 #include "ui/sistembaskisi.h"
@@ -80,6 +81,7 @@ class Resimler {
       Kaydet(*pencere.findChild<QMdiArea*>()->activeSubWindow(), "gorun");
       pencere.EkranlariKapat();
     }
+    if (Istenen("kusurlar")) KusurResmi(pencere);
     if (Istenen("frmAbout")) ModalResmi("frmAbout", [&] { pencere.Islem(MenuIslemi::Hakkinda); });
     if (Istenen("yardim")) {
       yardim guide(&pencere);
@@ -164,6 +166,16 @@ class Resimler {
     giris.Ac();
     giris.Git(Yon::Ilk);
     ModalResmi("brckes", [&] { FormGoster(ekran_, std::make_unique<brckes>(ekran_, giris), FormModu::Modal); });
+  }
+
+  void KusurResmi(anamenu& pencere) {
+    KusurlariGoster(
+        ekran_,
+        {{.metin = "Personel Giriş Tarihi Hatalı", .kod = "004", .derece = Derece::Uyari},
+         {.metin = "Net sıfırın üstünde değil, bordrosu kaydedilmedi", .kod = "007", .derece = Derece::Uyari}},
+        QStringLiteral("12 kişi kaydedildi, 1 kişi dönem dışı, 1 kişi netsiz"));
+    Kaydet(*pencere.findChild<QMdiArea*>()->activeSubWindow(), "kusurlar");
+    pencere.EkranlariKapat();
   }
 
   QStringList arg_;

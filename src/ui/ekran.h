@@ -28,6 +28,8 @@ class FormGosterici {
   virtual ~FormGosterici() = default;
   virtual void SerbestGoster(std::unique_ptr<Form> form) = 0;
   virtual QWidget* ModalUst() = 0;
+  // Opens the card of a person, with the cursor in the field where the card has it.
+  virtual void KisiyeGit(const std::string&, AlanTutamagi) {}
 };
 
 // The platform's dialogs; a test answers by script. Nothing chosen: empty.

@@ -8,9 +8,12 @@
 #include "app/belgeyardimi.h"
 #include "app/menuharfi.h"
 #include "app/yardim.h"
+#include "core/store/satirlar.h"
 #include "documents/belgeler.h"
 #include "screens/core/firbil.h"
 #include "screens/core/kulfrm.h"
+#include "screens/personnel/perkart.h"
+#include "ui/dclist.h"
 
 namespace belvani::test {
 namespace {
@@ -94,6 +97,41 @@ TEST(Anamenu, TheModeWordGoesBeforeTheScreen) {
   EXPECT_EQ(ortam.oturum.PencereTip, "") << "no screen gets the word of another";
 }
 
+TEST(Anamenu, WhatTheMassRunFoundLeadsToTheCards) {
+  AnaOrtam ortam;
+  Motor& motor = ortam.oturum.depo.db.IcMotor();
+  KayitYazici<Sicil> yazici(motor);
+  Islem islem(motor);
+  for (const auto& [kod, girtar] : {std::pair("001", Tarih(2005, 1, 1)), std::pair("002", Tarih())}) {
+    Sicil s;
+    s.kod = kod;
+    s.girtar = girtar;
+    s.ucret = Tutar(900);
+    yazici.Ekle(s);
+  }
+  islem.Onayla();
+  ortam.pencere->Ac(AnaOrtam::Kayit("brdhazir"));
+  ortam.Bas(Qt::Key_F8);
+  ortam.Yaz("Ş");
+  ortam.Bas(Qt::Key_F8);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: Bordro Hazırlık Tamamlandı"});
+
+  const auto* form = ortam.Onde<Form>();
+  ASSERT_NE(form, nullptr);
+  ASSERT_EQ(Utf8(form->Kelime()), "kusurlar");
+  const auto& liste = *form->findChild<dclist*>();
+  ASSERT_EQ(liste.ListCount(), 1) << "whoever went well is not there";
+  QStringList hucreler;
+  for (const char* ad : {"derece", "kod", "alan", "metin"}) hucreler += liste.TextByName(0, ad);
+  EXPECT_EQ(hucreler, (QStringList{"Uyarı", "002", "Giriş Tarihi", "Personel Giriş Tarihi Hatalı"}));
+  ortam.Bas(Qt::Key_Return);
+  const auto* kart = ortam.Onde<perkart>();
+  ASSERT_NE(kart, nullptr);
+  EXPECT_EQ(AlanMetni(*kart, "kod"), "002");
+  EXPECT_EQ(ortam.Odak(), "girtar");
+  EXPECT_TRUE(form->isVisible()) << "the list stays for the next one";
+}
+
 TEST(Yardim, F1OpensThePageOfTheScreen) {
   AnaOrtam ortam;
   ortam.Bas(Qt::Key_F1);
@@ -150,7 +188,7 @@ TEST(Yardim, EveryBuiltScreenHasItsPage) {
   };
   for (const EkranKaydi& kayit : Ekranlar())
     if (kayit.yap != nullptr) ara(kayit.kelime);
-  for (const char* kelime : {"index", "baslangic", "masaustu", "gorun", "kyol", "frmAbout"}) ara(kelime);
+  for (const char* kelime : {"index", "baslangic", "masaustu", "gorun", "kyol", "frmAbout", "kusurlar"}) ara(kelime);
   EXPECT_EQ(eksik, std::vector<std::string>{});
 }
 

@@ -3,6 +3,7 @@
 #include "core/store/tablo.h"
 #include "core/turkce.h"
 #include "payroll/hazirlik/giris.h"
+#include "payroll/parametre/mevzuat.h"
 
 namespace belvani {
 namespace {
@@ -131,7 +132,11 @@ bool BordroGirisi::AyinBordrosunuSil() {
 belvani::Sonuc<HazirlikSonucu> BordroGirisi::SablondanHazirla(Ilerleme* ilerleme) {
   ParametreleriTazele();
   EkranTemizle();
-  return TopluHazirla(o_, kosullar_, {}, ilerleme);
+  auto sonuc = TopluHazirla(o_, kosullar_, {}, ilerleme);
+  const std::string uyari = DonemUyusmazligi(parametreler_.yasal, kosullar_.donem.yil, kosullar_.donem.ay);
+  if (sonuc && !uyari.empty())
+    sonuc->sorunlar.insert(sonuc->sorunlar.begin(), Kusur{.metin = uyari, .derece = Derece::Uyari});
+  return sonuc;
 }
 
 }  // namespace belvani

@@ -68,12 +68,12 @@ class TopluIs {
     const GirisSatiri* giris = girisler_.Bul(kisi.sicil.kod);
     const CalismaGunu gun = GunSayisiBul(k_.donem, kisi.sicil.girtar, kisi.sicil.ciktar);
     if (gun.uygunluk == DonemUygunlugu::GirisTarihiHatali) {
-      Yaz(kisi, giris, "Personel Giriş Tarihi Hatalı");
+      Yaz(kisi, giris, "Personel Giriş Tarihi Hatalı", sicil::girtar);
       return;
     }
     if (gun.uygunluk == DonemUygunlugu::DonemDisi) {
       ++sonuc_.donemDisi;
-      if (giris != nullptr) Yaz(kisi, giris, "Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil");
+      if (giris != nullptr) Yaz(kisi, giris, "Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil", sicil::girtar);
       return;
     }
     try {
@@ -95,7 +95,7 @@ class TopluIs {
     BordroGirdi g = PersonelYukle(kisi, k_, CalismaGun);
     if (const std::string kusur = GirdiKusuru(g); !kusur.empty()) return Yaz(kisi, giris, kusur);
     if (!KazancGrubuVar(k_.firma, kisi.sicil.hesap))
-      Yaz(kisi, nullptr, "Hesap grubu tanımlı değil: " + kisi.sicil.hesap);
+      Yaz(kisi, nullptr, "Hesap grubu tanımlı değil: " + kisi.sicil.hesap, sicil::hesap);
     if (giris != nullptr) GirisiUygula(g.giris, *giris);
     BordroSonucu s = BordroHesapla(g, &k_.firma.sablon);
     if (s.gunFazla) {
@@ -138,8 +138,9 @@ class TopluIs {
   }
 
   // What an entry list has wrong keeps the month from being saved; the rest is told and passed over.
-  void Yaz(const KisiVerisi& kisi, const GirisSatiri* giris, const std::string& metin) {
+  void Yaz(const KisiVerisi& kisi, const GirisSatiri* giris, const std::string& metin, AlanTutamagi alan = {}) {
     sonuc_.sorunlar.push_back({.metin = (giris == nullptr ? "" : GirisListesi::Satir(*giris)) + metin,
+                               .alan = alan,
                                .kod = kisi.sicil.kod,
                                .satir = giris == nullptr ? 0 : giris->satirNo,
                                .derece = giris == nullptr ? Derece::Uyari : Derece::Hata});

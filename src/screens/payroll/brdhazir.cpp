@@ -6,6 +6,7 @@
 
 #include "screens/payroll/brckes.h"
 #include "screens/payroll/brdhaziralanlar.h"
+#include "ui/kusurlistesi.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
 #include "ui/uzunis.h"
@@ -357,7 +358,14 @@ void brdhazir::TopluHazirla() {
   if (!sonuc) return;
   if (*sonuc) {
     Bildirimi().Bilgi("Bordro Hazırlık Tamamlandı");
-    return Kapat();
+    EkranBaglami& baglam = Baglam();  // the list comes up where this screen was
+    Kapat();
+    const HazirlikSonucu& olan = **sonuc;
+    return KusurlariGoster(baglam, olan.sorunlar,
+                           QStringLiteral("%1 kişi kaydedildi, %2 kişi dönem dışı, %3 kişi netsiz")
+                               .arg(olan.kaydedilen)
+                               .arg(olan.donemDisi)
+                               .arg(olan.netsiz));
   }
   Bildirimi().Uyari(sonuc->KusurMetni());
   Goster();

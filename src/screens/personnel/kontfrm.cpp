@@ -23,6 +23,7 @@ kontfrm::kontfrm(EkranBaglami& baglam)
   duzen->addWidget(arama);
   duzen->addWidget(liste_, 1);
   Govde()->addWidget(kutu, 1);
+  liste_->Secildi = [this](int satir) { Baglam().gosterici.KisiyeGit(Utf8(liste_->TextByName(satir, "kod")), {}); };
   Doldur();
   IlkOdak(liste_);
 }

@@ -17,6 +17,14 @@ void PersonelFormu::PersonelKomutlari() {
   AnahtarBagla("kod", [this](const std::string& kod) { Bul(kod); });
 }
 
+void PersonelFormu::KisiyeGit(const std::string& kod, AlanTutamagi alan) {
+  AnahtarAra(kod);
+  if (AlanDenetimi* denetim = DenetimBul(alan))
+    denetim->Odak()->setFocus(Qt::TabFocusReason);
+  else
+    KoddanBasla();
+}
+
 std::string PersonelFormu::YazilanKod() const {
   return std::string(Kirp(Utf8(YaziKutusu("kod").text())));
 }

@@ -23,6 +23,10 @@ inline Alan AdSoyAlani() {
 }
 
 class PersonelFormu : public Form {
+ public:
+  // Brings the person up as if his code had been typed; the cursor goes to the field where this screen has it.
+  void KisiyeGit(const std::string& kod, AlanTutamagi alan);
+
  protected:
   using Form::Form;
 

@@ -1,0 +1,95 @@
+#include "ui/kusurlistesi.h"
+
+#include "core/tables/esco.h"
+#include "core/tables/kimlik.h"
+#include "core/tables/sicil.h"
+#include "personnel/etiket.h"
+#include "ui/dclist.h"
+#include "ui/form.h"
+#include "ui/metin.h"
+
+namespace belvani {
+namespace {
+
+std::string_view DereceAdi(Derece derece) {
+  switch (derece) {
+    case Derece::Bilgi:
+      return "Bilgi";
+    case Derece::Uyari:
+      return "Uyarı";
+    case Derece::Hata:
+      return "Hata";
+  }
+  return {};
+}
+
+// What the screens of a person call the field; other fields have no one name.
+template <class... Kayit>
+std::string_view Etiket(AlanTutamagi alan) {
+  std::string_view etiket;
+  ((alan.kayit == typeid(Kayit) ? void(etiket = AlanEtiketi(Kayit::TabloAdi, alan.ad)) : void()), ...);
+  return etiket;
+}
+
+class KusurListesi final : public Form {
+ public:
+  KusurListesi(EkranBaglami& baglam, Kusurlar kusurlar, const QString& ozet)
+      : Form(baglam, "kusurlar", QStringLiteral("Uyarılar ve Hatalar")),
+        kusurlar_(std::move(kusurlar)),
+        liste_(new dclist(baglam.bildirim, this)) {
+    const QString sayi = QString::number(kusurlar_.size()) + QStringLiteral(" uyarı");
+    auto* baslik = new QLabel(ozet.isEmpty() ? sayi : ozet + ", " + sayi, this);
+    baslik->setProperty("baslik", true);
+    Govde()->addWidget(baslik);
+    KolonlariYap();
+    QLineEdit* arama = liste_->AramaKutusu(this);
+    Izle(arama);
+    ListedeGezin(*liste_);
+    Govde()->addWidget(arama);
+    Govde()->addWidget(liste_, 1);
+    Doldur();
+    liste_->Secildi = [this](int satir) { Git(kusurlar_[std::size_t(satir)]); };
+    IlkOdak(liste_);
+  }
+
+ private:
+  void KolonlariYap() {
+    liste_->CreateNewCaption('m', "derece", "Derece", 70);
+    liste_->CreateNewCaption('m', "kod", "Sicil No", 110);
+    liste_->CreateNewCaption('b', "satir", "Satır", 60);
+    liste_->CreateNewCaption('m', "alan", "Alan", 150);
+    liste_->CreateNewCaption('m', "metin", "Açıklama", 420);
+    liste_->GenisKolon("metin");
+    liste_->setMinimumSize(860, 320);
+    if (std::ranges::all_of(kusurlar_, [](const Kusur& k) { return k.satir == 0; })) liste_->Gizle("satir");
+  }
+
+  void Doldur() {
+    liste_->Model().TopluBasla();
+    for (const Kusur& kusur : kusurlar_) {
+      const int satir = liste_->Add();
+      liste_->TextByName(satir, "derece", Yazi(DereceAdi(kusur.derece)));
+      liste_->TextByName(satir, "kod", Yazi(kusur.kod));
+      if (kusur.satir != 0) liste_->TextByName(satir, "satir", QString::number(kusur.satir));
+      liste_->TextByName(satir, "alan", Yazi(Etiket<Sicil, Kimlik, Esco>(kusur.alan)));
+      liste_->TextByName(satir, "metin", Yazi(kusur.metin));
+    }
+    liste_->Model().TopluBitir();
+    liste_->ChngSat(0);
+  }
+
+  void Git(const Kusur& kusur) {
+    if (!kusur.kod.empty()) Baglam().gosterici.KisiyeGit(kusur.kod, kusur.alan);
+  }
+
+  const Kusurlar kusurlar_;
+  dclist* liste_;
+};
+
+}  // namespace
+
+void KusurlariGoster(EkranBaglami& baglam, const Kusurlar& kusurlar, const QString& ozet) {
+  if (!kusurlar.empty()) FormGoster(baglam, std::make_unique<KusurListesi>(baglam, kusurlar, ozet));
+}
+
+}  // namespace belvani

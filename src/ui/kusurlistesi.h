@@ -1,0 +1,16 @@
+// The window of faults: what a work over many people has found, told at once. Enter goes to the person and the field.
+//
+//   KusurlariGoster(Baglam(), sonuc->sorunlar, "1500 kişi kaydedildi");
+#pragma once
+
+#include <QString>
+
+#include "ui/ekran.h"
+
+namespace belvani {
+
+// A window beside the others, so that the user can go to and fro; without faults there is none. `ozet`: how the work
+// has ended, above the list.
+void KusurlariGoster(EkranBaglami& baglam, const Kusurlar& kusurlar, const QString& ozet = {});
+
+}  // namespace belvani
