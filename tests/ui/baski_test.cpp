@@ -3,8 +3,8 @@
 
 #include "core/dosya.h"
 #include "ekran/ortam.h"
-#include "printing/form/formbelgesi.h"
 #include "ekran/sirayla.h"
+#include "printing/form/formbelgesi.h"
 #include "printing/kolonlar.h"
 #include "ui/basim.h"
 #include "ui/onizleme.h"

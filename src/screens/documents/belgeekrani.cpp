@@ -79,8 +79,8 @@ std::unique_ptr<Belge> BelgeEkrani::BelgeYap() {
   const BelgeSecimi* secim = Secilen();
   if (secim == nullptr) return nullptr;
   try {
-    auto belge = UzunIs(Baglam(), QStringLiteral("Liste hazırlanıyor…"),
-                        [&](Ilerleme&) { return secim->BelgeYap(Kaynak()); });
+    auto belge =
+        UzunIs(Baglam(), QStringLiteral("Liste hazırlanıyor…"), [&](Ilerleme&) { return secim->BelgeYap(Kaynak()); });
     return belge ? std::move(*belge) : nullptr;
   } catch (const MotorHatasi& hata) {
     Bildirimi().Uyari(hata.what());
