@@ -13,6 +13,7 @@
 #include "screens/declarations/yaylik.h"
 #include "screens/documents/brdicmal.h"
 #include "screens/payroll/brdhazir.h"
+#include "screens/payroll/brdhaziralanlar.h"
 #include "ui/dclist.h"
 #include "ui/dialogyok.h"
 #include "ui/metin.h"
@@ -138,9 +139,9 @@ void KisiGelisi(benchmark::State& durum) {
   int i = 0;
   for (auto _ : durum) {
     durum.PauseTiming();
-    form.OdakVer("kod");
+    form.OdakVer(bordroalani::kod);
     QCoreApplication::processEvents();
-    form.YaziKutusu("kod").DegerKoy(BuyukSirket::Kod(++i));
+    form.YaziKutusu(bordroalani::kod).DegerKoy(BuyukSirket::Kod(++i));
     durum.ResumeTiming();
     Bas(Qt::Key_Return);
     if (form.Giris().Durumu() != BordroGirisi::Hal::KisiSecili) durum.SkipWithError("nobody came up");
@@ -153,13 +154,13 @@ void AlandanCikis(benchmark::State& durum) {
   brdhazir form(Sirket().ekran, Sirket().parametreler);
   form.show();
   QApplication::setActiveWindow(&form);
-  form.OdakVer("kod");
-  form.YaziKutusu("kod").DegerKoy(BuyukSirket::Kod(1));
+  form.OdakVer(bordroalani::kod);
+  form.YaziKutusu(bordroalani::kod).DegerKoy(BuyukSirket::Kod(1));
   Bas(Qt::Key_Return);
   int i = 0;
   for (auto _ : durum) {
     durum.PauseTiming();
-    form.OdakVer("ng");
+    form.OdakVer(brd::ng);
     QCoreApplication::processEvents();
     Bas(Qt::Key_1 + i % 9, QString::number(1 + i % 9));
     ++i;

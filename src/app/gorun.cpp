@@ -61,24 +61,21 @@ gorun::gorun(EkranBaglami& baglam, std::function<void(const GorunumAyari&)> gost
   yatay->addLayout(sol);
   yatay->addLayout(sag);
   Govde()->addLayout(yatay);
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
   for (const auto& tazele : tazelenecek_) tazele();
   findChild<QPushButton*>("renk0")->setFocus();
 }
 
 QPushButton* gorun::RenkDugmesi(const QString& baslik, const std::function<QColor()>& oku,
                                 const std::function<void(std::uint32_t)>& yaz) {
-  auto* dugme = new xButton(baslik, {}, this);
-  dugme->setProperty("renk", true);
-  dugme->setIconSize(SwatchBoyu);
-  Izle(dugme);
-  connect(dugme, &QPushButton::clicked, this, [this, oku, yaz] {
+  xButton* dugme = DugmeYap(baslik, {}, [this, oku, yaz] {
     const auto renk = Baglam().dialoglar.RenkSec(RenkSayisi(oku()));
     if (!renk) return;
     yaz(*renk & EnBuyukRenk);
     Onizle();
   });
+  dugme->setProperty("renk", true);
+  dugme->setIconSize(SwatchBoyu);
   tazelenecek_.push_back([dugme, oku] { dugme->setIcon(RenkSimgesi(oku())); });
   return dugme;
 }
@@ -109,10 +106,8 @@ void gorun::RenkSec(std::size_t sira, std::uint32_t renk) {
 QWidget* gorun::HazirlariYap() {
   auto* duzen = new QHBoxLayout;
   const auto ekle = [&](const char* ad, const char* nesne, const std::function<void()>& islev) {
-    auto* dugme = new xButton(QString::fromUtf8(ad), {}, this);
+    xButton* dugme = DugmeYap(QString::fromUtf8(ad), {}, islev);
     dugme->setObjectName(nesne);
-    Izle(dugme);
-    connect(dugme, &QPushButton::clicked, this, islev);
     duzen->addWidget(dugme);
   };
   ekle("Açık", "acik", [this] { TabloKoy(AcikRenkler(), GorunumAyari().backcolor); });
@@ -138,13 +133,11 @@ void gorun::TabloKoy(const RenkTablosu& tablo, const std::string& zemin) {
 QWidget* gorun::YazilariYap() {
   auto* izgara = new QGridLayout;
   const auto ekle = [&](int satir, const char* ad, const char* nesne, YaziTipi& yazi) {
-    auto* dugme = new xButton(QString::fromUtf8(ad), {}, this);
-    dugme->setObjectName(nesne);
-    Izle(dugme);
-    connect(dugme, &QPushButton::clicked, this, [this, &yazi] {
+    xButton* dugme = DugmeYap(QString::fromUtf8(ad), {}, [this, &yazi] {
       yazi = YaziSec(yazi);
       Onizle();
     });
+    dugme->setObjectName(nesne);
     auto* etiket = new QLabel(this);
     etiket->setProperty("soluk", true);
     tazelenecek_.push_back([etiket, &yazi] {
@@ -179,15 +172,13 @@ QWidget* gorun::AnaPencereYap() {
   izgara->addWidget(renk("Zemin Rengi", &GorunumAyari::backcolor), 0, 0);
   izgara->addWidget(renk("Şirket Adı Zemini", &GorunumAyari::labelback), 0, 1);
   izgara->addWidget(renk("Şirket Adı Yazısı", &GorunumAyari::labelfore), 1, 0);
-  auto* font = new xButton(QStringLiteral("Şirket Adı Fontu"), {}, this);
-  font->setObjectName("labelfont");
-  Izle(font);
-  connect(font, &QPushButton::clicked, this, [this] {
+  xButton* font = DugmeYap(QStringLiteral("Şirket Adı Fontu"), {}, [this] {
     const YaziTipi yazi = YaziSec({secim_.ayar.labelfont, secim_.ayar.labelfontsize, Kalinlik::Normal});
     secim_.ayar.labelfont = yazi.ad;
     secim_.ayar.labelfontsize = yazi.boyut;
     Onizle();
   });
+  font->setObjectName("labelfont");
   izgara->addWidget(font, 1, 1);
   izgara->addWidget(ResimSatiriYap(), 2, 0, 1, 2);
   const auto kutu = [&](int satir, const char* ad, const char* nesne, bool& deger) {

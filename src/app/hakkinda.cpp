@@ -74,8 +74,8 @@ frmAbout::frmAbout(EkranBaglami& baglam) : Form(baglam, "frmAbout", QStringLiter
   }
   Govde()->addLayout(izgara);
   Govde()->addStretch(1);
-  DugmeEkle(QStringLiteral("Kopyala"), "liste", [kopya] { QApplication::clipboard()->setText(kopya); });
-  DugmeEkle(QStringLiteral("Tamam"), "", [this] { Kapat(); })->setFocus();
+  Komutlar({{.dugme = "Kopyala", .simge = "liste", .islev = [kopya] { QApplication::clipboard()->setText(kopya); }},
+            {.dugme = "Tamam", .islev = [this] { Kapat(); }, .ilkOdak = true}});
 }
 
 }  // namespace belvani

@@ -17,13 +17,16 @@ struct Giris {
   std::string ikon, parametre;
 };
 
-const std::vector<AlanGrubu> Gruplar{{"Kısa Yol",
-                                      {{Uye("ad", &Giris::ad, EnUzunAd), "Kısa Yol Adı"},
-                                       {Uye("program", &Giris::program), "Program", {.liste = KisayolProgramlari}},
-                                       {Uye("ikon", &Giris::ikon, EnUzunIkon),
-                                        "İcon",
-                                        {.harf = 31, .rehber = true, .ipucu = "Boşsa programın kendi simgesi"}},
-                                       {Uye("parametre", &Giris::parametre, EnUzunParametre), "Parametre"}}}};
+constexpr auto AdAlani = Uye("ad", &Giris::ad, EnUzunAd);
+constexpr auto ProgramAlani = Uye("program", &Giris::program);
+constexpr auto IkonAlani = Uye("ikon", &Giris::ikon, EnUzunIkon);
+
+const std::vector<AlanGrubu> Gruplar{
+    {"Kısa Yol",
+     {{AdAlani, "Kısa Yol Adı"},
+      {ProgramAlani, "Program", {.liste = KisayolProgramlari}},
+      {IkonAlani, "İcon", {.harf = 31, .rehber = true, .ipucu = "Boşsa programın kendi simgesi"}},
+      {Uye("parametre", &Giris::parametre, EnUzunParametre), "Parametre"}}}};
 
 std::string ProgramAdi(std::int64_t sira) {
   return std::string(KisayolProgramlari.at(std::size_t(sira)));
@@ -36,28 +39,27 @@ kyol::kyol(EkranBaglami& baglam, const Kisayol& kisayol, std::function<Durum(con
       kaydet_(std::move(kaydet)),
       sonProgram_(std::int64_t(kisayol.program)) {
   AlanlariDiz({Gruplar});
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
-  Komut(FormKomutu::Rehber, [this] { IkonSec(); });
-  connect(&YaziKutusu("ikon"), &xtext::Lookup, this, &kyol::IkonSec);
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
+            {.komut = FormKomutu::Rehber, .islev = [this] { IkonSec(); }}});
+  connect(&YaziKutusu(IkonAlani), &xtext::Lookup, this, &kyol::IkonSec);
   AlanDegisti = [this](AlanDenetimi& alan) {
-    if (alan.Satir().tanim.ad == "program") ProgramDegisti();
+    if (alan.Satir().Tutamak() == ProgramAlani) ProgramDegisti();
   };
   Yukle(Giris{kisayol.ad, std::int32_t(kisayol.program), kisayol.ikon, kisayol.parametre});
 }
 
 // A caption that only repeats the program's name follows it.
 void kyol::ProgramDegisti() {
-  const std::int64_t program = TamDegeri(Denetim("program").Oku());
-  const std::string ad = MetinDegeri(Denetim("ad").Oku());
-  if (Kirp(ad).empty() || ad == ProgramAdi(sonProgram_)) Denetim("ad").Koy(ProgramAdi(program));
+  const std::int64_t program = TamDegeri(Denetim(ProgramAlani).Oku());
+  const std::string ad = MetinDegeri(Denetim(AdAlani).Oku());
+  if (Kirp(ad).empty() || ad == ProgramAdi(sonProgram_)) Denetim(AdAlani).Koy(ProgramAdi(program));
   sonProgram_ = program;
 }
 
 void kyol::IkonSec() {
   const auto dosya = Baglam().dialoglar.DosyaAc("İcon", Oturumu().PrgPath,
                                                 "İcon Dosyası(*.ico,*.png,*.svg)|*.ico;*.png;*.svg;*.bmp;*.gif;*.jpg");
-  OdakVer("ikon");
+  OdakVer(IkonAlani);
   if (!dosya) return;
   // Below the program's directory the path is short, and good on every computer that shares it.
   const QString goreli = QDir(Yazi(Oturumu().PrgPath)).relativeFilePath(Yazi(*dosya));
@@ -67,7 +69,7 @@ void kyol::IkonSec() {
                       "\nSimgeyi program dizinine koyup yeniden seçiniz.");
     return;
   }
-  Denetim("ikon").Koy(Utf8(yol));
+  Denetim(IkonAlani).Koy(Utf8(yol));
 }
 
 void kyol::Kaydet() {
@@ -75,7 +77,7 @@ void kyol::Kaydet() {
   if (!Oku(giris)) return;
   if (const Durum d = kaydet_({giris.ad, std::size_t(giris.program), giris.ikon, giris.parametre}); !d) {
     Bildirimi().Bilgi(d.KusurMetni());
-    OdakVer("ad");
+    OdakVer(AdAlani);
     return;
   }
   Kapat();

@@ -1,7 +1,6 @@
 #include "documents/secimalanlari.h"
 
 #include "core/tables/sicil.h"
-#include "documents/defter.h"
 
 namespace belvani {
 namespace {
@@ -43,7 +42,7 @@ void AralikEkle(AlanGrubu& grup, const AralikTanimi& tanim, const char* etiket, 
 
 Alan YilAlani(const char* etiket, const char* komutYardimi) {
   return {
-      Uye("yil", &DefterSecim::yil),
+      SecimYili,
       etiket,
       {.enAz = IlkBelgeYili, .enCok = SonBelgeYili, .harf = SayiHarfi, .komut = "--yil", .komutYardimi = komutYardimi}};
 }

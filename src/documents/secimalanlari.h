@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/tables/alansatiri.h"
+#include "documents/defter.h"
 
 namespace belvani {
 
@@ -10,6 +11,7 @@ constexpr int IlkBelgeYili = 1990;
 constexpr int SonBelgeYili = 2100;
 
 // Of a DefterSecim.
+inline constexpr auto SecimYili = Uye("yil", &DefterSecim::yil);
 Alan YilAlani(const char* etiket, const char* komutYardimi = "bordro yılı");
 AlanGrubu DonemAlanlari(const char* yilEtiketi, const char* ayEtiketi);
 // People from and to, by code alone; by code, group, type and own code; `numarali`: by run number too.

@@ -59,6 +59,8 @@ struct GirisEki {
 namespace giriseki {
 inline constexpr Kolon<GirisEki, Tarih> islemTarihi{{"islemTarihi", AlanTipi::Tarih, 0, AlanNiteligi::Serbest},
                                                     &GirisEki::islemTarihi};
+inline constexpr Kolon<GirisEki, std::uint8_t> emekliTercihi{
+    {"emekliTercihi", AlanTipi::Byte, 0, AlanNiteligi::Serbest}, &GirisEki::emekliTercihi};
 }  // namespace giriseki
 
 struct GirisFormu {

@@ -40,9 +40,14 @@ cakisma::cakisma(EkranBaglami& baglam, CakismaTuru tur, const std::vector<Cakisa
     : Form(baglam, "cakisma", QStringLiteral("Başka Kullanıcı")), karar_(karar) {
   Govde()->addWidget(new QLabel(QString::fromUtf8(Olan(tur)), this));
   if (!degerler.empty()) Govde()->addWidget(DegerleriYap(degerler));
-  KararEkle(QStringLiteral("Onunki"), "kullanici", CakismaKarari::Onunki);
-  KararEkle(QStringLiteral("Benimki"), "kaydet", CakismaKarari::Benimki);
-  KararEkle(QStringLiteral("Bak"), "ara", CakismaKarari::Bak);
+  const auto ver = [this](CakismaKarari verilen) {
+    karar_ = verilen;
+    Kapat();
+  };
+  // An Enter in haste overwrites nobody.
+  Komutlar({{.dugme = "Onunki", .simge = "kullanici", .islev = [ver] { ver(CakismaKarari::Onunki); }},
+            {.dugme = "Benimki", .simge = "kaydet", .islev = [ver] { ver(CakismaKarari::Benimki); }},
+            {.dugme = "Bak", .simge = "ara", .islev = [ver] { ver(CakismaKarari::Bak); }, .ilkOdak = true}});
 }
 
 QWidget* cakisma::DegerleriYap(const std::vector<CakisanDeger>& degerler) {
@@ -64,14 +69,6 @@ QWidget* cakisma::DegerleriYap(const std::vector<CakisanDeger>& degerler) {
     yaz(satir, 2, d.benimki);
   }
   return kutu;
-}
-
-// The last one added has the keyboard: an Enter in haste overwrites nobody.
-void cakisma::KararEkle(const QString& metin, const QString& simge, CakismaKarari karar) {
-  IlkOdak(DugmeEkle(metin, simge, [this, karar] {
-    karar_ = karar;
-    Kapat();
-  }));
 }
 
 CakismaKarari CakismaSor(EkranBaglami& baglam, CakismaTuru tur, const std::vector<CakisanDeger>& degerler) {

@@ -22,7 +22,6 @@ class cakisma : public Form {
 
  private:
   QWidget* DegerleriYap(const std::vector<CakisanDeger>& degerler);
-  void KararEkle(const QString& metin, const QString& simge, CakismaKarari karar);
 
   CakismaKarari& karar_;
 };

@@ -20,7 +20,7 @@ struct KomutTanimi {
   FormKomutu komut;
   QKeySequence tus;
   const char* simge;
-  const char* aciklama;  // in the line of hints; "" keeps it out
+  const char* aciklama;  // in the line of hints, where moves show their buttons instead
 };
 
 const KomutTanimi& Tanim(FormKomutu komut) {
@@ -37,13 +37,21 @@ const KomutTanimi& Tanim(FormKomutu komut) {
   return tanimlar.at(std::size_t(komut));
 }
 
-QKeySequence Basilan(const QKeyEvent& olay) {
-  const auto degistirici = olay.modifiers() & ~Qt::KeypadModifier;
-  return QKeySequence(QKeyCombination(degistirici, Qt::Key(olay.key())));
+bool GezinmeMi(std::optional<FormKomutu> komut) {
+  return komut >= FormKomutu::Ilk && komut <= FormKomutu::Son;
+}
+
+QString TusMetni(const QKeySequence& tus) {
+  return tus == QKeySequence(Qt::Key_Return) ? QStringLiteral("Enter") : tus.toString(QKeySequence::PortableText);
 }
 
 bool EnterMi(const QKeyEvent& olay) {
   return olay.key() == Qt::Key_Return || olay.key() == Qt::Key_Enter;
+}
+
+QKeySequence Basilan(const QKeyEvent& olay) {
+  const auto degistirici = olay.modifiers() & ~Qt::KeypadModifier;
+  return QKeySequence(QKeyCombination(degistirici, EnterMi(olay) ? Qt::Key_Return : Qt::Key(olay.key())));
 }
 
 }  // namespace
@@ -60,7 +68,7 @@ Form::Form(EkranBaglami& baglam, const QString& kelime, const QString& baslik) :
   duzen->addLayout(govde_, 1);
   KomutSatiriYap();
   duzen->addLayout(komutSatiri_);
-  TusBagla(Tanim(FormKomutu::Kapat).tus, Tanim(FormKomutu::Kapat).aciklama, [this] { Kapat(); });
+  Komutlar({{.komut = FormKomutu::Kapat}});
 }
 
 // The key field may lose the focus on its way out; nobody is there to look the key up any more.
@@ -92,14 +100,20 @@ void Form::Kapat() {
   Q_EMIT Kapandi();
 }
 
-AlanDenetimi& Form::Denetim(std::string_view ad) const {
-  for (const auto& d : denetimler_)
-    if (d->Satir().tanim.ad == ad) return *d;
-  qFatal("no such field: %s", std::string(ad).c_str());
+AlanDenetimi& Form::Denetim(AlanTutamagi alan) const {
+  AlanDenetimi* denetim = DenetimBul(alan);
+  Q_ASSERT_X(denetim != nullptr, "no such field on the screen", std::string(alan.ad).c_str());
+  return *denetim;
 }
 
-xtext& Form::YaziKutusu(std::string_view ad) const {
-  return *Denetim(ad).YaziKutusu();
+AlanDenetimi* Form::DenetimBul(AlanTutamagi alan) const {
+  for (const auto& d : denetimler_)
+    if (d->Satir().Tutamak() == alan) return d.get();
+  return nullptr;
+}
+
+xtext& Form::YaziKutusu(AlanTutamagi alan) const {
+  return *Denetim(alan).YaziKutusu();
 }
 
 AlanDenetimi& Form::DenetimEkle(const belvani::Alan& alan, QWidget* ust) {
@@ -150,38 +164,45 @@ void Form::AlanlariDiz(const AlanSutunlari& sutunlar) {
   govde_->addLayout(yatay);
 }
 
-xButton* Form::DugmeEkle(const QString& metin, const QString& simge, std::function<void()> islev) {
+xButton* Form::DugmeYap(const QString& metin, const QString& simge, std::function<void()> islev) {
   auto* dugme = new xButton(metin, simge, this);
   connect(dugme, &QPushButton::clicked, this, [islev = std::move(islev)] { islev(); });
   Izle(dugme);
-  komutSatiri_->addWidget(dugme);
   return dugme;
 }
 
-xButton* Form::DugmeEkle(const QKeySequence& tus, const QString& metin, const QString& simge,
-                         std::function<void()> islev) {
-  const QString ad = metin.trimmed();
-  TusBagla(tus, ad, islev);
-  xButton* dugme = DugmeEkle(metin, simge, std::move(islev));
-  dugme->setToolTip(ad + " (" + tus.toString(QKeySequence::PortableText) + ")");
-  return dugme;
+void Form::Komutlar(const std::vector<KomutSatiri>& satirlar) {
+  for (KomutSatiri satir : satirlar) {
+    QString aciklama = QString::fromUtf8(satir.ipucu);
+    if (satir.komut) {
+      const KomutTanimi& tanim = Tanim(*satir.komut);
+      satir.tus = tanim.tus;
+      satir.simge = tanim.simge;
+      aciklama = QString::fromUtf8(tanim.aciklama);
+      if (satir.komut == FormKomutu::Kapat) satir.islev = [this] { Kapat(); };
+    } else if (!satir.tus.isEmpty() && *satir.dugme != '\0') {
+      aciklama = QString::fromUtf8(satir.dugme).remove('&').trimmed();
+    }
+    if (!satir.tus.isEmpty()) TusBagla(satir.tus, GezinmeMi(satir.komut) ? QString() : aciklama, satir.islev);
+    if (*satir.dugme != '\0' || GezinmeMi(satir.komut)) DugmeEkle(satir, aciklama);
+  }
 }
 
-void Form::Komut(FormKomutu komut, std::function<void()> islev, const QString& dugme) {
-  const KomutTanimi& tanim = Tanim(komut);
-  TusBagla(tanim.tus, tanim.aciklama, islev);
-  const bool gezinme = komut >= FormKomutu::Ilk && komut <= FormKomutu::Son;
-  if (dugme.isEmpty() && !gezinme) return;
-  xButton* parca = DugmeEkle(dugme, tanim.simge, std::move(islev));
-  parca->setToolTip(QString::fromUtf8(tanim.aciklama) + " (" + tanim.tus.toString(QKeySequence::PortableText) + ")");
-  if (!gezinme) return;
-  parca->setFocusPolicy(Qt::NoFocus);
-  komutSatiri_->removeWidget(parca);
-  komutSatiri_->insertWidget(int(komut) - int(FormKomutu::Ilk), parca);
+void Form::DugmeEkle(const KomutSatiri& satir, const QString& aciklama) {
+  xButton* dugme = DugmeYap(QString::fromUtf8(satir.dugme), satir.simge, satir.islev);
+  dugme->setObjectName(satir.ad);
+  dugme->setToolTip(satir.tus.isEmpty() ? aciklama : aciklama + " (" + TusMetni(satir.tus) + ")");
+  if (satir.dugmesi != nullptr) *satir.dugmesi = dugme;
+  if (satir.ilkOdak) IlkOdak(dugme);
+  if (GezinmeMi(satir.komut)) {
+    dugme->setFocusPolicy(Qt::NoFocus);
+    komutSatiri_->insertWidget(int(*satir.komut) - int(FormKomutu::Ilk), dugme);
+  } else {
+    komutSatiri_->addWidget(dugme);
+  }
 }
 
 void Form::TusBagla(const QKeySequence& tus, const QString& aciklama, std::function<void()> islev) {
-  // The latest one wins, so a screen can take over a common key.
   std::erase_if(tuslar_, [&](const TusIslevi& t) { return t.tus == tus; });
   tuslar_.push_back({tus, aciklama, std::move(islev)});
   IpucuYaz();
@@ -193,17 +214,13 @@ void Form::ListedeGezin(dclist& liste) {
 }
 
 void Form::IpucuYaz() {
-  QStringList parcalar;
+  QStringList parcalar, sonda;
   for (const TusIslevi& t : tuslar_) {
-    const bool dugmeli = t.tus == Tanim(FormKomutu::Ilk).tus || t.tus == Tanim(FormKomutu::Son).tus ||
-                         t.tus == Tanim(FormKomutu::Onceki).tus || t.tus == Tanim(FormKomutu::Sonraki).tus;
-    if (dugmeli || t.aciklama.isEmpty()) continue;
-    const QString ad =
-        t.tus == QKeySequence(Qt::Key_Return) ? QStringLiteral("Enter") : t.tus.toString(QKeySequence::PortableText);
-    parcalar += "<b>" + ad + "</b>&nbsp;" + t.aciklama.toHtmlEscaped();
+    if (t.aciklama.isEmpty()) continue;
+    (t.tus == Tanim(FormKomutu::Kapat).tus ? sonda : parcalar) +=
+        "<b>" + TusMetni(t.tus) + "</b>&nbsp;" + t.aciklama.toHtmlEscaped();
   }
-  std::rotate(parcalar.begin(), parcalar.begin() + 1, parcalar.end());  // "Esc" last
-  ipucu_->setText(parcalar.join("&nbsp;&nbsp; "));
+  ipucu_->setText((parcalar + sonda).join("&nbsp;&nbsp; "));
 }
 
 void Form::Izle(QWidget* parca) {
@@ -238,19 +255,19 @@ void Form::keyPressEvent(QKeyEvent* olay) {
   if (!TusuIsle(*olay)) QWidget::keyPressEvent(olay);
 }
 
-void Form::AnahtarBagla(std::string_view ad, std::function<void(const std::string&)> bulunacak) {
-  anahtarAdi_ = ad;
+void Form::AnahtarBagla(AlanTutamagi alan, std::function<void(const std::string&)> bulunacak) {
+  anahtarAlani_ = alan;
   anahtarBul_ = std::move(bulunacak);
-  xtext& alan = YaziKutusu(ad);
-  connect(&alan, &xtext::Ayrildi, this, &Form::AnahtarDenetle);
-  connect(&alan, &xtext::Lookup, this, [this] {
+  xtext& yazi = YaziKutusu(alan);
+  connect(&yazi, &xtext::Ayrildi, this, &Form::AnahtarDenetle);
+  connect(&yazi, &xtext::Lookup, this, [this] {
     QKeyEvent f2(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
     TusuIsle(f2);
   });
 }
 
 void Form::AnahtarDenetle() {
-  const std::string anahtar(Kirp(Utf8(YaziKutusu(anahtarAdi_).text())));
+  const std::string anahtar(Kirp(Utf8(YaziKutusu(anahtarAlani_).text())));
   if (anahtar.empty() || anahtar == sonAnahtar_) return;
   sonAnahtar_ = anahtar;
   anahtarBul_(anahtar);
@@ -258,11 +275,11 @@ void Form::AnahtarDenetle() {
 
 void Form::AnahtarKoy(const std::string& anahtar) {
   sonAnahtar_ = anahtar;
-  YaziKutusu(anahtarAdi_).DegerKoy(anahtar);
+  YaziKutusu(anahtarAlani_).DegerKoy(anahtar);
 }
 
 void Form::AnahtarAra(const std::string& anahtar) {
-  YaziKutusu(anahtarAdi_).DegerKoy(anahtar);
+  YaziKutusu(anahtarAlani_).DegerKoy(anahtar);
   sonAnahtar_.clear();
   AnahtarDenetle();
 }
@@ -283,12 +300,6 @@ bool Form::AlanlarSaglam(std::type_index kayitTuru) {
 void Form::Bildir(const Kusur& kusur) {
   Bildirimi().KusuruGoster(kusur);
   if (AlanDenetimi* alan = DenetimBul(kusur.alan)) alan->Odak()->setFocus(Qt::TabFocusReason);
-}
-
-AlanDenetimi* Form::DenetimBul(AlanTutamagi alan) const {
-  for (const auto& d : denetimler_)
-    if (d->Satir().Tutamak() == alan) return d.get();
-  return nullptr;
 }
 
 void Form::FirmaDegisti() {
@@ -313,8 +324,8 @@ void Form::SecimiYenile() {
   if (auto* yazi = qobject_cast<xtext*>(focusWidget())) yazi->selectAll();
 }
 
-void Form::OdakVer(std::string_view ad) {
-  Denetim(ad).Odak()->setFocus(Qt::TabFocusReason);
+void Form::OdakVer(AlanTutamagi alan) {
+  Denetim(alan).Odak()->setFocus(Qt::TabFocusReason);
 }
 
 void Form::showEvent(QShowEvent* olay) {

@@ -10,7 +10,7 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QWidget>
-#include <map>
+#include <optional>
 
 #include "ui/alandenetimi.h"
 #include "ui/ekran.h"
@@ -21,6 +21,20 @@ namespace belvani {
 class dclist;
 
 enum class FormKomutu { Kaydet, Sil, Rehber, Ilk, Onceki, Sonraki, Son, Kapat };
+
+// A command of a screen: a key, a button of the bottom row, or both. With a button, the line of hints and the tool tip
+// name the key by the button's text.
+struct KomutSatiri {
+  std::optional<FormKomutu> komut = {};  // one that all screens know: key, picture and hint are its own
+  QKeySequence tus = {};                 // Qt::Key_Return stands for both Enter keys
+  const char* dugme = "";                // the button's text; moves through records need none
+  const char* simge = "";                // its picture
+  const char* ipucu = "";                // of a key alone: in the line of hints, "" keeps it out; else a tool tip
+  std::function<void()> islev = {};      // closing the screen needs none
+  const char* ad = "";                   // the button's object name
+  bool ilkOdak = false;                  // the keyboard begins at this button
+  xButton** dugmesi = nullptr;           // where the screen keeps it
+};
 
 class Form : public QWidget {
   Q_OBJECT
@@ -34,11 +48,12 @@ class Form : public QWidget {
 
   // Editors in the order of their rows.
   const std::vector<std::unique_ptr<AlanDenetimi>>& Denetimler() const { return denetimler_; }
-  AlanDenetimi& Denetim(std::string_view ad) const;
-  // The editor of a column; null when this screen does not show it.
+  // The editor of a column that this screen shows.
+  AlanDenetimi& Denetim(AlanTutamagi alan) const;
+  // The same, where the screen may do without it: null.
   AlanDenetimi* DenetimBul(AlanTutamagi alan) const;
-  xtext& YaziKutusu(std::string_view ad) const;
-  void OdakVer(std::string_view ad);
+  xtext& YaziKutusu(AlanTutamagi alan) const;
+  void OdakVer(AlanTutamagi alan);
 
   // The company's card or parameters have changed while this is open. Amounts take the company's decimals; a screen
   // that shows more of the company looks again. The month it was opened for stays.
@@ -65,22 +80,20 @@ class Form : public QWidget {
   // Rows of the groups made from now on stand closer together; for screens with very many of them.
   void SikDiz() { satirAraligi_ = 2; }
 
-  // A command with its key; a text gives it a button in the bottom row.
-  void Komut(FormKomutu komut, std::function<void()> islev, const QString& dugme = {});
-  // A button of the bottom row with no key of its own. `simge` names its picture.
-  xButton* DugmeEkle(const QString& metin, const QString& simge, std::function<void()> islev);
-  // A button and its key together; the line of hints names the key.
-  xButton* DugmeEkle(const QKeySequence& tus, const QString& metin, const QString& simge, std::function<void()> islev);
+  // The screen's commands, in the order of their buttons. The latest row of a key wins, so that a screen can take over
+  // a common one.
+  void Komutlar(const std::vector<KomutSatiri>& satirlar);
+  // A button of the body, placed by the screen.
+  xButton* DugmeYap(const QString& metin, const QString& simge, std::function<void()> islev);
   // Keys of a widget that is not a declared field.
   void Izle(QWidget* parca);
-  // A key besides those of the commands.
-  void TusBagla(const QKeySequence& tus, const QString& aciklama, std::function<void()> islev);
   // The keys that walk through rows go to this list, wherever the cursor stands: for a list below a search box.
   void ListedeGezin(dclist& liste);
 
   // Called with the trimmed key when the key field is left with a text that differs from the last one handled.
-  void AnahtarBagla(std::string_view ad, std::function<void(const std::string&)> bulunacak);
+  void AnahtarBagla(AlanTutamagi alan, std::function<void(const std::string&)> bulunacak);
   void AnahtarKoy(const std::string& anahtar);  // counts as handled
+  AlanTutamagi AnahtarAlani() const { return anahtarAlani_; }
   std::string SonAnahtar() const { return sonAnahtar_; }
   // Puts a code into the key field and looks it up, as if typed.
   void AnahtarAra(const std::string& anahtar);
@@ -124,6 +137,8 @@ class Form : public QWidget {
     std::function<void()> islev;
   };
 
+  void TusBagla(const QKeySequence& tus, const QString& aciklama, std::function<void()> islev);
+  void DugmeEkle(const KomutSatiri& satir, const QString& aciklama);
   bool TusuIsle(const QKeyEvent& olay);
   void KomutSatiriYap();
   void AnahtarDenetle();
@@ -136,7 +151,8 @@ class Form : public QWidget {
   QLabel* ipucu_ = nullptr;
   std::vector<std::unique_ptr<AlanDenetimi>> denetimler_;
   std::vector<TusIslevi> tuslar_;
-  std::string anahtarAdi_, sonAnahtar_;
+  AlanTutamagi anahtarAlani_;
+  std::string sonAnahtar_;
   std::function<void(const std::string&)> anahtarBul_;
   int satirAraligi_ = 6;
   QWidget* ilkOdak_ = nullptr;

@@ -51,22 +51,18 @@ onizleme::onizleme(EkranBaglami& baglam, std::unique_ptr<CizilenBelge> sayfalar)
   Govde()->addWidget(durum_);
   Govde()->addWidget(alan_, 1);
   Izle(alan_);
-  const auto tus = [this](Qt::Key t, const char* ad, std::function<void()> islev) {
-    TusBagla(QKeySequence(t), QString::fromUtf8(ad), std::move(islev));
-  };
-  tus(Qt::Key_PageDown, "Sonraki", [this] { SayfayaGit(sayfa_ + 1); });
-  tus(Qt::Key_PageUp, "Önceki", [this] { SayfayaGit(sayfa_ - 1); });
-  tus(Qt::Key_Home, "", [this] { SayfayaGit(1); });
-  tus(Qt::Key_End, "", [this] { SayfayaGit(sayfalar_->SayfaSayisi()); });
-  tus(Qt::Key_Plus, "Büyüt", [this] { Buyut(1); });
-  // On many keyboards it is a shifted key.
-  TusBagla(QKeySequence(Qt::SHIFT | Qt::Key_Plus), {}, [this] { Buyut(1); });
-  tus(Qt::Key_Minus, "Küçült", [this] { Buyut(-1); });
+  Komutlar({{.tus = Qt::Key_PageDown, .islev = [this] { SayfayaGit(sayfa_ + 1); }},
+            {.tus = Qt::Key_PageUp, .islev = [this] { SayfayaGit(sayfa_ - 1); }},
+            {.tus = Qt::Key_Home, .islev = [this] { SayfayaGit(1); }},
+            {.tus = Qt::Key_End, .islev = [this] { SayfayaGit(sayfalar_->SayfaSayisi()); }},
+            {.tus = Qt::Key_Plus, .ipucu = "Büyüt", .islev = [this] { Buyut(1); }},
+            {.tus = Qt::SHIFT | Qt::Key_Plus, .islev = [this] { Buyut(1); }},  // as many keyboards have it
+            {.tus = Qt::Key_Minus, .ipucu = "Küçült", .islev = [this] { Buyut(-1); }}});
   for (const Qt::Key ok : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right})
-    tus(ok, "", [this, ok] { Kaydir(ok); });
-  DugmeEkle(QStringLiteral("Ö&nceki"), "onceki", [this] { SayfayaGit(sayfa_ - 1); });
-  DugmeEkle(QStringLiteral("&Sonraki"), "sonraki", [this] { SayfayaGit(sayfa_ + 1); });
-  DugmeEkle(QStringLiteral("&Kapat"), "kapat", [this] { Kapat(); });
+    Komutlar({{.tus = ok, .islev = [this, ok] { Kaydir(ok); }}});
+  Komutlar({{.dugme = "Ö&nceki", .simge = "onceki", .islev = [this] { SayfayaGit(sayfa_ - 1); }},
+            {.dugme = "&Sonraki", .simge = "sonraki", .islev = [this] { SayfayaGit(sayfa_ + 1); }},
+            {.komut = FormKomutu::Kapat, .dugme = "&Kapat"}});
   IlkOdak(alan_);
   SayfayaGit(1);
 }

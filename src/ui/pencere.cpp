@@ -45,9 +45,7 @@ pencere::pencere(EkranBaglami& baglam)
   Izle(aranan_);
   aranan_->setPlaceholderText(QStringLiteral("Aranan"));
   ListedeGezin(*liste_);
-  for (const Qt::Key tus : {Qt::Key_Return, Qt::Key_Enter})
-    TusBagla(QKeySequence(tus), tus == Qt::Key_Return ? QStringLiteral("Seç") : QString(),
-             [this] { Sec(liste_->CurSat()); });
+  Komutlar({{.tus = Qt::Key_Return, .ipucu = "Seç", .islev = [this] { Sec(liste_->CurSat()); }}});
   connect(aranan_, &QLineEdit::textChanged, this, &pencere::ListeyiDoldur);
   connect(tur_, &QComboBox::currentIndexChanged, this, [this](int sira) {
     Oturumu().ListeSirasi = sira + 1;

@@ -68,18 +68,15 @@ QLayout* perekr::AramaSatiri() {
 }
 
 void perekr::TuslariBagla(const PerekrIslevleri& islevler) {
-  const auto komut = [this](const std::function<void()>& islev, std::function<void()>& gridIslevi, Qt::Key tus,
-                            const QString& metin, const QString& simge) {
-    if (!islev) return;
-    gridIslevi = islev;
-    DugmeEkle(tus, metin, simge, gridIslevi);
-  };
-  komut(islevler.yazdir, xgrid1_->YazdirIslevi, Qt::Key_F8, " Yazıcıya Yazdır", "yazici");
-  komut(islevler.excel, xgrid1_->ExcelIslevi, Qt::Key_F9, " Excel'e Gönder", "tablo");
-  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_F), "Bul", [this] { xgrid1_->AramayaGit(); });
-  TusBagla(QKeySequence(Qt::Key_F3), "Sonraki", [this] { xgrid1_->SonrakiniBul(xgrid::Yon::Ileri); });
-  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_S), "Sırala", [this] { xgrid1_->Sirala(xgrid1_->CurrentColon()); });
-  DugmeEkle("Kapat", "kapat", [this] { Kapat(); })->setToolTip("Kapat (Esc)");
+  xgrid1_->YazdirIslevi = islevler.yazdir;
+  xgrid1_->ExcelIslevi = islevler.excel;
+  Komutlar(
+      {{.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır", .simge = "yazici", .islev = islevler.yazdir},
+       {.tus = Qt::Key_F9, .dugme = " Excel'e Gönder", .simge = "tablo", .islev = islevler.excel},
+       {.tus = Qt::CTRL | Qt::Key_F, .ipucu = "Bul", .islev = [this] { xgrid1_->AramayaGit(); }},
+       {.tus = Qt::Key_F3, .ipucu = "Sonraki", .islev = [this] { xgrid1_->SonrakiniBul(xgrid::Yon::Ileri); }},
+       {.tus = Qt::CTRL | Qt::Key_S, .ipucu = "Sırala", .islev = [this] { xgrid1_->Sirala(xgrid1_->CurrentColon()); }},
+       {.komut = FormKomutu::Kapat, .dugme = "Kapat"}});
 }
 
 // As large as the main window lets it be.

@@ -10,10 +10,10 @@
 
 namespace belvani {
 
-// Bound by the writer of the report; a command that is not bound is not offered.
+// Bound by the writer of the report.
 struct PerekrIslevleri {
-  std::function<void()> yazdir = nullptr;  // " Yazıcıya Yazdır"
-  std::function<void()> excel = nullptr;   // " Excel'e Gönder"
+  std::function<void()> yazdir = [] {};  // " Yazıcıya Yazdır"
+  std::function<void()> excel = [] {};   // " Excel'e Gönder"
 };
 
 class perekr : public Form {

@@ -26,7 +26,7 @@ class yazicisec : public Form {
     liste_->Secildi = [this](int) { Sec(); };
     Govde()->addWidget(liste_, 1);
     Izle(liste_);
-    TusBagla(Qt::Key_Return, QStringLiteral("Seç"), [this] { Sec(); });
+    Komutlar({{.tus = Qt::Key_Return, .ipucu = "Seç", .islev = [this] { Sec(); }}});
     IlkOdak(liste_);
   }
 

@@ -16,6 +16,17 @@ struct Ayarlar {
   bool YzcBaslikYaz = true, YzcTarihYaz = true, YzcSayfaNoYaz = true, YzcSirketYaz = true;
 };
 
+// The fields that others close, or that close others.
+namespace alan {
+constexpr auto BaslikYaz = Uye("YzcBaslikYaz", &Ayarlar::YzcBaslikYaz);
+constexpr auto TarihYaz = Uye("YzcTarihYaz", &Ayarlar::YzcTarihYaz);
+constexpr auto SayfaNoYaz = Uye("YzcSayfaNoYaz", &Ayarlar::YzcSayfaNoYaz);
+constexpr auto SirketYaz = Uye("YzcSirketYaz", &Ayarlar::YzcSirketYaz);
+constexpr auto Mod = Uye("mod", &Ayarlar::mod);
+constexpr auto Yon = Uye("YzcYon", &Ayarlar::YzcYon);
+constexpr auto Satir = Uye("YzcSatir", &Ayarlar::YzcSatir);
+}  // namespace alan
+
 constexpr std::string_view SatirAdlari[] = {"22", "33", "44", "66", "70"};
 constexpr std::string_view KopyaAdlari[] = {"1", "2", "3", "4", "5"};
 constexpr std::string_view YonAdlari[] = {"Dikey", "Yatay"};
@@ -26,15 +37,15 @@ constexpr int BaslikHarfi = 80;
 std::vector<std::vector<AlanGrubu>> Gruplar() {
   return {{{"Belge", {{Uye("YzcBaslik", &Ayarlar::YzcBaslik, BaslikHarfi), "Başlık:", {.harf = 44}}}},
            {"",
-            {{Uye("YzcBaslikYaz", &Ayarlar::YzcBaslikYaz), "Başlık Yazılsın"},
-             {Uye("YzcTarihYaz", &Ayarlar::YzcTarihYaz), "Tarih Yazılsın"},
-             {Uye("YzcSayfaNoYaz", &Ayarlar::YzcSayfaNoYaz), "Sayfa No Yazılsın"},
-             {Uye("YzcSirketYaz", &Ayarlar::YzcSirketYaz), "Şirket Adı Yazılsın"}},
+            {{alan::BaslikYaz, "Başlık Yazılsın"},
+             {alan::TarihYaz, "Tarih Yazılsın"},
+             {alan::SayfaNoYaz, "Sayfa No Yazılsın"},
+             {alan::SirketYaz, "Şirket Adı Yazılsın"}},
             2},
            {"Yazıcı",
-            {{Uye("mod", &Ayarlar::mod), "Yöntem", {.liste = ModAdlari, .secenek = true}},
-             {Uye("YzcYon", &Ayarlar::YzcYon), "Kağıt", {.liste = YonAdlari, .secenek = true}},
-             {Uye("YzcSatir", &Ayarlar::YzcSatir), "Satır Sayısı", {.liste = SatirAdlari}},
+            {{alan::Mod, "Yöntem", {.liste = ModAdlari, .secenek = true}},
+             {alan::Yon, "Kağıt", {.liste = YonAdlari, .secenek = true}},
+             {alan::Satir, "Satır Sayısı", {.liste = SatirAdlari}},
              {Uye("YzcKopya", &Ayarlar::YzcKopya), "Kopya Sayısı", {.liste = KopyaAdlari}}}}}};
 }
 
@@ -56,21 +67,22 @@ yzcsetup::yzcsetup(EkranBaglami& baglam, YzcAyarlari& ayar, const YzcDestegi& de
   auto* satir = new QHBoxLayout;
   yazici_->setObjectName("yazici");
   yazici_->setWordWrap(true);
-  auto* sec = new xButton(QStringLiteral("Yazıcı &Seç"), "yazici", this);
-  connect(sec, &QPushButton::clicked, this, [this] { YaziciSec(); });
-  Izle(sec);
-  satir->addWidget(sec);
+  satir->addWidget(DugmeYap(QStringLiteral("Yazıcı &Seç"), "yazici", [this] { YaziciSec(); }));
   satir->addWidget(yazici_, 1);
   Govde()->addLayout(satir);
-  DugmeEkle(QStringLiteral("&Tamam"), "yazici", [this] { Bitir(YzcKarar::Yazdir); })->setProperty("birincil", true);
-  DugmeEkle(QStringLiteral("Ö&nizleme"), "ara", [this] { Bitir(YzcKarar::Onizle); });
-  DugmeEkle(QStringLiteral("&PDF'e Kaydet"), "kaydet", [this] { Bitir(YzcKarar::PdfKaydet); });
-  metinKaydet_ = DugmeEkle(QStringLiteral("&Dosyaya Kaydet"), "kaydet", [this] { Bitir(YzcKarar::MetinKaydet); });
-  DugmeEkle(QStringLiteral("&Vazgeç"), "kapat", [this] { Kapat(); });
-  TusBagla(Qt::Key_F8, QStringLiteral("Yazdır"), [this] { Bitir(YzcKarar::Yazdir); });
-  TusBagla(Qt::Key_F6, QStringLiteral("Önizleme"), [this] { Bitir(YzcKarar::Onizle); });
-  AlanDegisti = [this](AlanDenetimi& alan) {
-    if (alan.Satir().tanim.ad == "mod") KipDegisti();
+  const auto bitir = [this](YzcKarar karar) { return [this, karar] { Bitir(karar); }; };
+  xButton* tamam = nullptr;
+  Komutlar(
+      {{.dugme = "&Tamam", .simge = "yazici", .islev = bitir(YzcKarar::Yazdir), .dugmesi = &tamam},
+       {.dugme = "Ö&nizleme", .simge = "ara", .islev = bitir(YzcKarar::Onizle)},
+       {.dugme = "&PDF'e Kaydet", .simge = "kaydet", .islev = bitir(YzcKarar::PdfKaydet)},
+       {.dugme = "&Dosyaya Kaydet", .simge = "kaydet", .islev = bitir(YzcKarar::MetinKaydet), .dugmesi = &metinKaydet_},
+       {.komut = FormKomutu::Kapat, .dugme = "&Vazgeç"},
+       {.tus = Qt::Key_F8, .ipucu = "Yazdır", .islev = bitir(YzcKarar::Yazdir)},
+       {.tus = Qt::Key_F6, .ipucu = "Önizleme", .islev = bitir(YzcKarar::Onizle)}});
+  tamam->setProperty("birincil", true);
+  AlanDegisti = [this](AlanDenetimi& denetim) {
+    if (denetim.Satir().Tutamak() == alan::Mod) KipDegisti();
   };
   Goster();
   DestegiUygula();
@@ -88,24 +100,24 @@ void yzcsetup::Goster() {
                 .YzcTarihYaz = ayar_.YzcTarihYaz && destek_.tarih,
                 .YzcSayfaNoYaz = ayar_.YzcSayfaNoYaz && destek_.sayfaNo,
                 .YzcSirketYaz = ayar_.YzcSirketYaz && destek_.sirket});
-  const auto modlar = Denetim("mod").Odaklar();
+  const auto modlar = Denetim(alan::Mod).Odaklar();
   modlar[0]->setEnabled(ayar_.YzcGrafikAcik);
   modlar[1]->setEnabled(ayar_.YzcDosAcik);
 }
 
 void yzcsetup::DestegiUygula() {
-  Denetim("YzcBaslikYaz").Kapat(!destek_.baslik);
-  Denetim("YzcTarihYaz").Kapat(!destek_.tarih);
-  Denetim("YzcSayfaNoYaz").Kapat(!destek_.sayfaNo);
-  Denetim("YzcSirketYaz").Kapat(!destek_.sirket);
+  Denetim(alan::BaslikYaz).Kapat(!destek_.baslik);
+  Denetim(alan::TarihYaz).Kapat(!destek_.tarih);
+  Denetim(alan::SayfaNoYaz).Kapat(!destek_.sayfaNo);
+  Denetim(alan::SirketYaz).Kapat(!destek_.sirket);
 }
 
 // A drawn page has its own count of lines, a text page no orientation.
 void yzcsetup::KipDegisti() {
   Ayarlar simdiki;
   if (!Oku(simdiki)) return;
-  Denetim("YzcYon").Kapat(simdiki.mod == 1 || !destek_.yon);
-  Denetim("YzcSatir").Kapat(simdiki.mod == 0 || !destek_.satir);
+  Denetim(alan::Yon).Kapat(simdiki.mod == 1 || !destek_.yon);
+  Denetim(alan::Satir).Kapat(simdiki.mod == 0 || !destek_.satir);
   metinKaydet_->setEnabled(simdiki.mod == 1);
 }
 

@@ -40,8 +40,8 @@ TEST(Yukseltme, AnOldCompanyIsWorkedInAfterItsUpgrade) {
   o.pencere->Ac(AnaOrtam::Kayit("perkart"));
   o.Yaz("001\n");
   EXPECT_EQ(AlanMetni(*o.Onde<perkart>(), "soyadi"), "Çağlar");
-  EXPECT_TRUE(std::get<bool>(o.Onde<perkart>()->Denetim("agi").Oku())) << "the upgrade has ticked it";
-  o.Onde<perkart>()->Denetim("tahsisno").Odak()->setFocus();
+  EXPECT_TRUE(std::get<bool>(AlanBul(*o.Onde<perkart>(), "agi").Oku())) << "the upgrade has ticked it";
+  AlanBul(*o.Onde<perkart>(), "tahsisno").Odak()->setFocus();
   o.Yaz("T-7");
   o.Bas(Qt::Key_F5);
   EXPECT_EQ(o.bildirim.Al(), Iletiler{});

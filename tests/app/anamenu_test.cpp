@@ -139,7 +139,7 @@ TEST(Yardim, F1OpensThePageOfTheScreen) {
   EXPECT_EQ(AcikYardim()->Kelime(), "masaustu");
   ortam.pencere->Ac(AnaOrtam::Kayit("firbil"));
   QApplication::setActiveWindow(ortam.pencere.get());
-  ortam.Onde<firbil>()->Denetim("unvan").Odak()->setFocus();
+  AlanBul(*ortam.Onde<firbil>(), "unvan").Odak()->setFocus();
   ortam.Bas(Qt::Key_F1);
   EXPECT_EQ(AcikYardim()->Kelime(), "firbil");
   EXPECT_EQ(AcikYardim()->findChild<QListWidget*>()->currentItem()->text(), "Firma Bilgileri");

@@ -120,7 +120,7 @@ TEST_F(MasaustuTest, AnIconFileIsKeptByAPathThatFits) {
   });
   form.show();
   QApplication::setActiveWindow(&form);
-  form.Denetim("ikon").Odak()->setFocus();
+  AlanBul(form, "ikon").Odak()->setFocus();
   ortam.Bas(Qt::Key_F2);
   ortam.dialoglar.dosya = "/" + std::string(60, 'a') + ".png";
   ortam.Bas(Qt::Key_F2);

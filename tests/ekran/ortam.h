@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
+#include <stdexcept>
 #include <vector>
 
 #include "bildirim.h"
@@ -182,9 +183,19 @@ class EkranOrtami : public EkranParcalari {
   }
 };
 
+// The first field of that name, which a screen knows by its column.
+inline AlanDenetimi& AlanBul(const Form& form, std::string_view ad) {
+  for (const auto& d : form.Denetimler())
+    if (d->Satir().tanim.ad == ad) return *d;
+  throw std::out_of_range("no such field: " + std::string(ad));
+}
+inline xtext& YaziBul(const Form& form, std::string_view ad) {
+  return *AlanBul(form, ad).YaziKutusu();
+}
+
 // The text of a field of a screen.
 inline std::string AlanMetni(const Form& form, std::string_view ad) {
-  return Utf8(form.YaziKutusu(ad).text());
+  return Utf8(YaziBul(form, ad).text());
 }
 
 }  // namespace belvani::test

@@ -45,7 +45,7 @@ TEST(Basim, AyarlarYaziciyaGider) {
     EXPECT_EQ(ortam.Odak(), "YzcBaslik");
     EXPECT_EQ(form.findChild<QLabel*>("yazici")->text(), "matris");
     ortam.Yaz("AYLIK ");  // the title is selected: typing replaces it
-    form.Denetim("YzcKopya").Odak()->setFocus();
+    AlanBul(form, "YzcKopya").Odak()->setFocus();
     ortam.Yaz("3");
     ortam.Bas(Qt::Key_F8);
   });
@@ -102,10 +102,10 @@ TEST(Basim, MetinYoluVeYazicisizlik) {
               [&] {
                 EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Uyarı: " + std::string(YaziciYok)));
                 auto& form = *QApplication::activeModalWidget()->findChild<yzcsetup*>();
-                EXPECT_TRUE(form.Denetim("YzcYon").Odak()->isEnabled());
-                form.Denetim("mod").Odak()->setFocus();
+                EXPECT_TRUE(AlanBul(form, "YzcYon").Odak()->isEnabled());
+                AlanBul(form, "mod").Odak()->setFocus();
                 ortam.Bas(Qt::Key_Right);
-                EXPECT_FALSE(form.Denetim("YzcYon").Odak()->isEnabled());
+                EXPECT_FALSE(AlanBul(form, "YzcYon").Odak()->isEnabled());
                 for (auto* d : form.findChildren<QPushButton*>())
                   if (d->text().contains("Dosyaya")) return d->click();
               }});
@@ -124,14 +124,14 @@ TEST(Basim, SabitFormdaKapaliAyarlar) {
   EkranOrtami::ModaldaYap([&] {
     auto& ekran = *QApplication::activeModalWidget()->findChild<yzcsetup*>();
     for (const char* ad : {"YzcBaslikYaz", "YzcTarihYaz", "YzcSayfaNoYaz", "YzcSirketYaz"}) {
-      EXPECT_FALSE(ekran.Denetim(ad).Odak()->isEnabled()) << ad;
-      EXPECT_FALSE(std::get<bool>(ekran.Denetim(ad).Oku())) << ad;
+      EXPECT_FALSE(AlanBul(ekran, ad).Odak()->isEnabled()) << ad;
+      EXPECT_FALSE(std::get<bool>(AlanBul(ekran, ad).Oku())) << ad;
     }
-    EXPECT_FALSE(ekran.Denetim("YzcYon").Odak()->isEnabled());
-    ekran.Denetim("mod").Odak()->setFocus();
+    EXPECT_FALSE(AlanBul(ekran, "YzcYon").Odak()->isEnabled());
+    AlanBul(ekran, "mod").Odak()->setFocus();
     ortam.Bas(Qt::Key_Right);
-    EXPECT_FALSE(ekran.Denetim("YzcSatir").Odak()->isEnabled());
-    EXPECT_TRUE(ekran.Denetim("YzcKopya").Odak()->isEnabled());
+    EXPECT_FALSE(AlanBul(ekran, "YzcSatir").Odak()->isEnabled());
+    EXPECT_TRUE(AlanBul(ekran, "YzcKopya").Odak()->isEnabled());
     ortam.Bas(Qt::Key_Left);
     ortam.Bas(Qt::Key_F8);
   });

@@ -17,9 +17,9 @@ Dbupdate::Dbupdate(EkranBaglami& baglam, const ParametreDeposu& parametreler)
   yatay->addWidget(VersiyonlariYap());
   yatay->addWidget(AdimlariYap(), 1);
   Govde()->addLayout(yatay);
-  DugmeEkle(QStringLiteral("Tamam"), "yukselt", [this] { Calistir(); })->setObjectName("tamam");
-  DugmeEkle(QStringLiteral("Vazgeç"), "kapat", [this] { Kapat(); })->setObjectName("vazgec");
-  TusBagla(QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_F9), {}, [this] { HepsiniAc(); });
+  Komutlar({{.dugme = "Tamam", .simge = "yukselt", .islev = [this] { Calistir(); }, .ad = "tamam"},
+            {.komut = FormKomutu::Kapat, .dugme = "Vazgeç"},
+            {.tus = Qt::CTRL | Qt::ALT | Qt::Key_F9, .islev = [this] { HepsiniAc(); }}});
   const auto ilk = std::ranges::find_if(kutular_, [](const QCheckBox* k) { return k->isEnabled(); });
   if (ilk != kutular_.end()) IlkOdak(*ilk);
 }

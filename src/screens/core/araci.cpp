@@ -21,8 +21,7 @@ araci::araci(EkranBaglami& baglam)
                   {arac::pk, "Posta Kodu"},
                   {arac::tel, "Telefon"},
                   {arac::epos, "E-posta"}}}}});
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
   Yukle(araci_.simdi);
 }
 

@@ -76,18 +76,18 @@ firbil::firbil(EkranBaglami& baglam, ParametreDeposu& parametreler)
       durum_(parametreler.firma),
       firma_(FirmaDuzenle(baglam.oturum)) {
   AlanlariDiz(Gruplar());
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
   Yukle(firma_.simdi);
   OraniGoster();
   AlanDegisti = [this](AlanDenetimi& alan) {
-    if (alan.Satir().tanim.ad == "tehlike" || alan.Satir().tanim.ad == "sinif") OraniGoster();
+    const AlanTutamagi degisen = alan.Satir().Tutamak();
+    if (degisen == firma::tehlike || degisen == firma::sinif) OraniGoster();
   };
 }
 
 void firbil::OraniGoster() {
-  const auto derece = int(TamDegeri(Denetim("tehlike").Oku()));
-  Yukle(PrimOrani{TehlikeOrani(derece, SayiDegeri(Denetim("sinif").Oku()))});
+  const auto derece = int(TamDegeri(Denetim(firma::tehlike).Oku()));
+  Yukle(PrimOrani{TehlikeOrani(derece, SayiDegeri(Denetim(firma::sinif).Oku()))});
 }
 
 void firbil::Kaydet() {

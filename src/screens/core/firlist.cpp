@@ -74,17 +74,18 @@ void firlist::SeciciYap() {
   liste_->Secildi = [this](int) { Sec(); };
   liste_->setFocusPolicy(Qt::NoFocus);  // its rows are walked from the search box
   ListedeGezin(*liste_);
-  TusBagla(Qt::Key_Return, {}, [this] { Sec(); });
-  TusBagla(Qt::Key_Enter, QStringLiteral("Seç"), [this] { Sec(); });
+  Komutlar({{.tus = Qt::Key_Return, .ipucu = "Seç", .islev = [this] { Sec(); }}});
 }
 
 void firlist::CiktiKomutlari() {
-  DugmeEkle(Qt::Key_F8, QStringLiteral("Yazdır"), "yazici", [this] {
+  const auto yazdir = [this] {
     if (auto belge = ListeBelgesi(Baglam())) BelgeBas(Baglam(), *belge);
-  });
-  DugmeEkle(Qt::Key_F9, QStringLiteral("Excel'e Gönder"), "tablo", [this] {
+  };
+  const auto gonder = [this] {
     if (const auto belge = ListeBelgesi(Baglam())) BelgeExceleGonder(Baglam(), *belge);
-  });
+  };
+  Komutlar({{.tus = Qt::Key_F8, .dugme = "Yazdır", .simge = "yazici", .islev = yazdir},
+            {.tus = Qt::Key_F9, .dugme = "Excel'e Gönder", .simge = "tablo", .islev = gonder}});
 }
 
 void firlist::ListeyiDoldur() {

@@ -29,9 +29,8 @@ firsil::firsil(EkranBaglami& baglam)
   secim->addWidget(dizin_, 1);
   Govde()->addLayout(secim);
 
-  sil_ = DugmeEkle(QStringLiteral("Sil"), "sil", [this] { Sil(); });
-  sil_->setObjectName("Command2");
-  TusBagla(Qt::Key_F7, QStringLiteral("Sil"), [this] { Sil(); });
+  Komutlar(
+      {{.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }, .ad = "Command2", .dugmesi = &sil_}});
   connect(dizin_, &QLineEdit::textChanged, this, [this] { sil_->setEnabled(!dizin_->text().trimmed().isEmpty()); });
   sil_->setEnabled(false);
   ListeyiDoldur();

@@ -32,10 +32,8 @@ kulfrm::kulfrm(EkranBaglami& baglam)
   connect(liste_, &QTableView::clicked, this, [this] { Goster(liste_->CurSat()); });
   AlanlariDiz({Gruplar});
   Govde()->addWidget(liste_, 1);
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
-  Komut(
-      FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
+            {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }}});
   ListeyiDoldur();
 }
 

@@ -14,9 +14,8 @@ const AlanGrubu Grup{"Muhasebeci",
 
 muhbil::muhbil(EkranBaglami& baglam) : Form(baglam, "muhbil", QStringLiteral("Muhasebeci Bilgileri")) {
   AlanlariDiz({{Grup}});
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
-  DugmeEkle(QStringLiteral("Vazgeç"), "kapat", [this] { Kapat(); });
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
+            {.komut = FormKomutu::Kapat, .dugme = "Vazgeç"}});
   Yukle(MuhasebeciOku(baglam.oturum));
 }
 

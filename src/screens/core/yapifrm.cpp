@@ -25,18 +25,17 @@ yapifrm::yapifrm(EkranBaglami& baglam) : Form(baglam, "yapifrm", QStringLiteral(
   auto* izgara = static_cast<QGridLayout*>(kutu->layout());
   for (int satir = 0; satir < int(Denetimler().size()); ++satir) {
     xtext& alan = *Denetimler()[std::size_t(satir)]->YaziKutusu();
-    auto* dugme = new xButton("?", {}, kutu);
+    auto* dugme = DugmeYap("?", {}, [this, &alan] { DizinSec(alan); });
     dugme->setFocusPolicy(Qt::NoFocus);  // Enter goes from field to field; F2 is its key
     dugme->setToolTip(QStringLiteral("Dizin seç (F2)"));
-    connect(dugme, &QPushButton::clicked, this, [this, &alan] { DizinSec(alan); });
     izgara->addWidget(dugme, satir, 2, Qt::AlignLeft);
   }
   Govde()->addWidget(kutu);
-  TusBagla(Qt::Key_F2, QStringLiteral("Dizin Seç"), [this] {
+  const auto dizinSec = [this] {
     if (auto* alan = dynamic_cast<xtext*>(focusWidget())) DizinSec(*alan);
-  });
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  };
+  Komutlar({{.tus = Qt::Key_F2, .ipucu = "Dizin Seç", .islev = dizinSec},
+            {.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
   Yukle(Dizinler{Oturumu().PrgPath, Oturumu().DataPath});
 }
 

@@ -30,9 +30,8 @@ intefrm::intefrm(EkranBaglami& baglam, const std::string& dosya)
       this);
   yol->setProperty("soluk", true);
   Govde()->addWidget(yol);
-  DugmeEkle(QStringLiteral("Sayfayı &Aç"), "calistir", [this] { AdresAc(); });
-  DugmeEkle(QStringLiteral("&Dizini Aç"), "klasor", [this] { DizinAc(); });
-  TusBagla(Qt::Key_F5, QStringLiteral("Sayfayı Aç"), [this] { AdresAc(); });
+  Komutlar({{.tus = Qt::Key_F5, .dugme = "Sayfayı &Aç", .simge = "calistir", .islev = [this] { AdresAc(); }},
+            {.dugme = "&Dizini Aç", .simge = "klasor", .islev = [this] { DizinAc(); }}});
   Yukle(Baglanti{EBildirgeAdresi(Oturumu().DataPath), dosya_});
 }
 

@@ -16,15 +16,23 @@ struct SecimFormu {
   std::uint8_t ay = 1, belgeTuru = 0, kanun = 0, mahiyet = std::uint8_t(BelgeMahiyeti::Asil);
 };
 
+namespace secim {
+constexpr auto yil = Uye("yil", &SecimFormu::yil);
+constexpr auto ay = Uye("ay", &SecimFormu::ay);
+constexpr auto belgeTuru = Uye("belgeTuru", &SecimFormu::belgeTuru);
+constexpr auto kanun = Uye("kanun", &SecimFormu::kanun);
+constexpr auto mahiyet = Uye("mahiyet", &SecimFormu::mahiyet);
+}  // namespace secim
+
 constexpr std::string_view MahiyetAdlari[] = {"İptal", "Ek", "Asıl"};
 
 AlanGrubu SecimAlanlari() {
   return {"Bildirge",
-          {{Uye("yil", &SecimFormu::yil), "Yıl", {.enCok = 9999}},
-           {Uye("ay", &SecimFormu::ay), "Ay", {.liste = AyAdlari, .listeTabani = 1}},
-           {Uye("belgeTuru", &SecimFormu::belgeTuru), "Belge Türü", {.liste = SonraDolar, .harf = 30}},
-           {Uye("kanun", &SecimFormu::kanun), "Kanun", {.liste = SonraDolar, .harf = 10}},
-           {Uye("mahiyet", &SecimFormu::mahiyet), "Mahiyet", {.liste = MahiyetAdlari, .secenek = true}}},
+          {{secim::yil, "Yıl", {.enCok = 9999}},
+           {secim::ay, "Ay", {.liste = AyAdlari, .listeTabani = 1}},
+           {secim::belgeTuru, "Belge Türü", {.liste = SonraDolar, .harf = 30}},
+           {secim::kanun, "Kanun", {.liste = SonraDolar, .harf = 10}},
+           {secim::mahiyet, "Mahiyet", {.liste = MahiyetAdlari, .secenek = true}}},
           5};
 }
 
@@ -107,7 +115,7 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
   liste_->Tus = [this](const QKeyEvent& tus) {
     const bool bosSatir = liste_->CurSat() >= 0 && liste_->Model().Kimlik(liste_->CurSat()) == 0;
     if (tus.key() != Qt::Key_Escape || bosSatir || !liste_->OkUpdateData()) return false;
-    OdakVer("yil");
+    OdakVer(secim::yil);
     return true;
   };
   liste_->setMinimumSize(1270, 212);
@@ -123,18 +131,16 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
   alt->addWidget(GrupYap(SayacAlanlari()));
   alt->addWidget(PrimTablosu(), 1);
   Govde()->addLayout(alt);
-  Komut(
-      FormKomutu::Kaydet, [this] { Hesapla(); }, QStringLiteral("&Hesapla"));
-  TusBagla(Qt::Key_F5, QStringLiteral("Hesapla"), [this] { Hesapla(); });
-  DugmeEkle(Qt::Key_F8, QStringLiteral(" Yazıcıya Yazdır "), "yazici", [this] { Yazdir(); });
-  DugmeEkle(Qt::Key_F9, QStringLiteral(" Excel'e gönderim "), "tablo", [this] { ExceleGonder(); });
-  DugmeEkle(Qt::Key_F11, QStringLiteral(" E-Bildirge Hazırla "), "indir", [this] { EBildirge(); });
+  Komutlar({{.tus = Qt::Key_F5, .dugme = "&Hesapla", .simge = "kaydet", .islev = [this] { Hesapla(); }},
+            {.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır ", .simge = "yazici", .islev = [this] { Yazdir(); }},
+            {.tus = Qt::Key_F9, .dugme = " Excel'e gönderim ", .simge = "tablo", .islev = [this] { ExceleGonder(); }},
+            {.tus = Qt::Key_F11, .dugme = " E-Bildirge Hazırla ", .simge = "indir", .islev = [this] { EBildirge(); }}});
   const auto acildi = bildirge_.Ac();
   for (const Kusur& kusur : acildi ? *acildi : Kusurlar{acildi.Kusuru()}) Bildir(kusur);
-  SecenekleriKoy(Denetim("belgeTuru"), bildirge_.BelgeTurleri());
+  SecenekleriKoy(Denetim(secim::belgeTuru), bildirge_.BelgeTurleri());
   auto kanunlar = bildirge_.KanunSecenekleri();
   std::ranges::replace(kanunlar, std::string(), std::string("(boş)"));  // of people without a law
-  SecenekleriKoy(Denetim("kanun"), kanunlar);
+  SecenekleriKoy(Denetim(secim::kanun), kanunlar);
   Yukle(SecimFormu{.yil = std::int16_t(bildirge_.Secim().yil), .ay = std::uint8_t(bildirge_.Secim().ay)});
   AlanDegisti = [this](AlanDenetimi& alan) { AlanDegisince(alan); };
   ToplamlariGoster();
@@ -179,15 +185,15 @@ QWidget* yaylik::PrimTablosu() {
 }
 
 void yaylik::AlanDegisince(const AlanDenetimi& alan) {
-  const std::string_view ad = alan.Satir().tanim.ad;
+  const AlanTutamagi degisen = alan.Satir().Tutamak();
   if (alan.Satir().kayitTuru == typeid(SecimFormu)) {
     SecimFormu form;
-    if (ad == "mahiyet" && Oku(form)) bildirge_.Secim().mahiyet = BelgeMahiyeti(form.mahiyet);
-    if (ad == "ay" || ad == "belgeTuru" || ad == "kanun") Hesapla();
+    if (degisen == secim::mahiyet && Oku(form)) bildirge_.Secim().mahiyet = BelgeMahiyeti(form.mahiyet);
+    if (degisen == secim::ay || degisen == secim::belgeTuru || degisen == secim::kanun) Hesapla();
     return;
   }
   BildirgeToplamlari toplamlar;
-  const bool matrah = std::ranges::any_of(Branslar, [&](const BransSatiri& b) { return ad == b.ad; });
+  const bool matrah = std::ranges::any_of(Branslar, [&](const BransSatiri& b) { return degisen.ad == b.ad; });
   if (!matrah || !Oku(toplamlar)) return;
   if (const Durum yazildi = bildirge_.ToplamYaz(toplamlar); !yazildi) Bildir(yazildi.Kusuru());
   for (std::size_t b = 0; b < BransSayisi; ++b) primler_[b]->setText(Yazi(bildirge_.PrimMetni(b)));

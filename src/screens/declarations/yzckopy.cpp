@@ -22,14 +22,13 @@ yzckopy::yzckopy(EkranBaglami& baglam, std::vector<FormSayfasi> sayfalar, YzcAya
   Govde()->addWidget(durum_);
   Govde()->addWidget(alan_, 1);
   Izle(yuzey_);
-  TusBagla(Qt::Key_PageDown, QStringLiteral("Sonraki Sayfa"), [this] { Git(1); });
-  TusBagla(Qt::Key_PageUp, QStringLiteral("Önceki Sayfa"), [this] { Git(-1); });
-  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_Plus), QStringLiteral("Büyüt"), [this] { yuzey_->Buyut(1); });
-  TusBagla(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Plus), {}, [this] { yuzey_->Buyut(1); });
-  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_Minus), QStringLiteral("Küçült"), [this] { yuzey_->Buyut(-1); });
-  TusBagla(Qt::Key_F8, {}, [this] { Yazdir(); });
-  DugmeEkle(QStringLiteral(" &Yazdır"), "yazici", [this] { Yazdir(); })->setToolTip(QStringLiteral("Yazdır (F8)"));
-  DugmeEkle(QStringLiteral("&Kapat"), "kapat", [this] { Kapat(); });
+  Komutlar({{.tus = Qt::Key_PageDown, .ipucu = "Sonraki Sayfa", .islev = [this] { Git(1); }},
+            {.tus = Qt::Key_PageUp, .ipucu = "Önceki Sayfa", .islev = [this] { Git(-1); }},
+            {.tus = Qt::CTRL | Qt::Key_Plus, .ipucu = "Büyüt", .islev = [this] { yuzey_->Buyut(1); }},
+            {.tus = Qt::CTRL | Qt::SHIFT | Qt::Key_Plus, .islev = [this] { yuzey_->Buyut(1); }},
+            {.tus = Qt::CTRL | Qt::Key_Minus, .ipucu = "Küçült", .islev = [this] { yuzey_->Buyut(-1); }},
+            {.tus = Qt::Key_F8, .dugme = " &Yazdır", .simge = "yazici", .islev = [this] { Yazdir(); }},
+            {.komut = FormKomutu::Kapat, .dugme = "&Kapat"}});
   IlkOdak(yuzey_);
   Git(0);
 }

@@ -19,7 +19,7 @@ BelgeEkrani::BelgeEkrani(EkranBaglami& baglam, const ParametreDeposu& parametrel
       secim_(tanim.secim()) {
   AlanlariDiz(tanim.alanlar);
   RehberleriBagla();
-  Komutlar();
+  KomutlariKur();
   if (auto* secim = secim_->Bul<DefterSecim>()) {
     secim->yil = Oturumu().firma.firmayil;
     secim->ay = Oturumu().firma.firmaay;
@@ -43,18 +43,21 @@ void BelgeEkrani::RehberleriBagla() {
   }
 }
 
-void BelgeEkrani::Komutlar() {
-  DugmeEkle(Qt::Key_F6, QStringLiteral(" Ekrana Listele"), "liste", [this] {
+void BelgeEkrani::KomutlariKur() {
+  const auto listele = [this] {
     if (const std::shared_ptr<Belge> belge = BelgeYap()) BelgeEkranaListele(Baglam(), belge);
-  });
-  DugmeEkle(Qt::Key_F8, QStringLiteral(" Yazıcıya Yazdır"), "yazici", [this] {
+  };
+  const auto yazdir = [this] {
     if (const auto belge = BelgeYap()) BelgeBas(Baglam(), *belge);
-  });
-  DugmeEkle(Qt::Key_F9, QStringLiteral(" Excel'e Gönder"), "tablo", [this] {
+  };
+  const auto gonder = [this] {
     if (const auto belge = BelgeYap()) BelgeExceleGonder(Baglam(), *belge);
-  });
+  };
+  Komutlar({{.tus = Qt::Key_F6, .dugme = " Ekrana Listele", .simge = "liste", .islev = listele},
+            {.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır", .simge = "yazici", .islev = yazdir},
+            {.tus = Qt::Key_F9, .dugme = " Excel'e Gönder", .simge = "tablo", .islev = gonder}});
   if (auto* yazi = secim_->Bul<BelgeYazisi>())
-    DugmeEkle(QStringLiteral("Yazıcı Fontu "), "duzelt", [this, yazi] { FontSec(*yazi); });
+    Komutlar({{.dugme = "Yazıcı Fontu ", .simge = "duzelt", .islev = [this, yazi] { FontSec(*yazi); }}});
 }
 
 void BelgeEkrani::FontSec(BelgeYazisi& yazi) {

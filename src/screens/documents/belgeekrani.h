@@ -29,7 +29,7 @@ class BelgeEkrani : public Form {
  private:
   void AlanlariYukle();
   void RehberleriBagla();
-  void Komutlar();
+  void KomutlariKur();
   void FontSec(BelgeYazisi& yazi);
 
   const ParametreDeposu& parametreler_;

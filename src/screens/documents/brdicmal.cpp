@@ -5,6 +5,7 @@
 
 #include "documents/defter.h"
 #include "documents/icmalgrafigi.h"
+#include "documents/secimalanlari.h"
 #include "printing/cairotuval.h"
 #include "ui/metin.h"
 #include "ui/onizleme.h"
@@ -80,7 +81,7 @@ brdicmal::brdicmal(EkranBaglami& baglam, const ParametreDeposu& parametreler, co
 
 // The figures at once; the chart month by month, so that the keyboard never waits for a year.
 void brdicmal::Goster() {
-  if (Denetim("yil").Kusuru()) return;  // being typed
+  if (Denetim(SecimYili).Kusuru()) return;  // being typed
   BelgeSecimi* secilen = Secilen();
   if (secilen == nullptr) return;
   if (const auto belge = BelgeYap()) {

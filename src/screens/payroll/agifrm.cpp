@@ -17,8 +17,7 @@ agifrm::agifrm(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ParametreEkrani(baglam, parametreler, "agifrm", QStringLiteral("A.G.İ. Parametresi")) {
   AlanlariDiz({Gruplar()});
   IndirDugmesi(ParametreDosyasi::Agi, [this] { Goster(); });
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
   Goster();
 }
 

@@ -17,10 +17,9 @@ brckes::brckes(EkranBaglami& baglam, BordroGirisi& giris)
   auto* limit = new QLabel("En fazla " + Yazi(TutarMetni(giris.BorcLimiti(), Oturumu().firma.paraonda)), this);
   limit->setProperty("soluk", true);
   Govde()->addWidget(limit);
-  Komut(
-      FormKomutu::Kaydet, [this] { Onayla(); }, QStringLiteral("Tamam"));
-  DugmeEkle(QStringLiteral("Vazgeç"), "kapat", [this] { Kapat(); });
-  for (const Qt::Key tus : {Qt::Key_Return, Qt::Key_Enter}) TusBagla(QKeySequence(tus), {}, [this] { Onayla(); });
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Tamam", .islev = [this] { Onayla(); }},
+            {.komut = FormKomutu::Kapat, .dugme = "Vazgeç"},
+            {.tus = Qt::Key_Return, .islev = [this] { Onayla(); }}});
   Yukle(Kesinti{giris.Giris().borckes});
 }
 

@@ -68,9 +68,8 @@ void brdhazir::UstSatirYap() {
   ekle(QStringLiteral("Bordro No"), bordroNo_);
   satir->addStretch(1);
   ekle(QStringLiteral("Puantaj Kaynağı"), kaynak_);
-  auto* puantaj = new xButton(QStringLiteral("Puantaj "), "puantaj", this);
+  auto* puantaj = DugmeYap(QStringLiteral("Puantaj "), "puantaj", [this] { TopluHazirla(); });
   puantaj->setFocusPolicy(Qt::ClickFocus);
-  connect(puantaj, &QPushButton::clicked, this, &brdhazir::TopluHazirla);
   satir->addWidget(puantaj);
   Govde()->addLayout(satir);
   Govde()->addLayout(kodSatiri);
@@ -80,7 +79,7 @@ void brdhazir::UstSatirYap() {
     simdiki_ = nullptr;
     degisen_.clear();
     Goster();
-    OdakVer("kod");
+    OdakVer(bordroalani::kod);
   });
 }
 
@@ -88,7 +87,7 @@ void brdhazir::UstSatirYap() {
 void brdhazir::KodAlaniYap(QHBoxLayout* satir) {
   DenetimEkle(KodAlani(), this);
   satir->addWidget(new QLabel(QStringLiteral("Sicil No"), this));
-  satir->addWidget(Denetim("kod").Parca());
+  satir->addWidget(Denetim(bordroalani::kod).Parca());
   kisi_->setProperty("baslik", true);
   satir->addWidget(kisi_);
   satir->addWidget(uyari_);
@@ -118,8 +117,8 @@ void brdhazir::GovdeYap() {
   muafiyet_->setProperty("soluk", true);
   Govde()->addWidget(muafiyet_);
   Govde()->addWidget(neden_);
-  YaziKutusu("net").setProperty("toplam", true);
-  YaziKutusu("brut").setProperty("toplam", true);
+  YaziKutusu(bordroalani::net).setProperty("toplam", true);
+  YaziKutusu(bordroalani::brut).setProperty("toplam", true);
   for (const auto& d : Denetimler())
     if (d->Satir().ek.kapali) d->Odak()->setFocusPolicy(Qt::ClickFocus);
 
@@ -131,43 +130,53 @@ void brdhazir::GovdeYap() {
 }
 
 void brdhazir::TuslariBagla() {
-  Komut(FormKomutu::Rehber, [this] {
-    if (const auto kod = PersonelSec(Baglam(), giris_.Kod())) {
-      YaziKutusu("kod").DegerKoy(*kod);
-      KodaDon();
-    }
-  });
-  Komut(FormKomutu::Sil, [this] {
-    GirisiOku();
-    if (giris_.KayitSil()) {
-      Goster();
-      KodaDon();
-    }
-  });
-  TusBagla(Qt::Key_F5, QStringLiteral("Sicil No"), [this] { KodaDon(); });
-  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_F7), QStringLiteral("Ayı Sil"), [this] {
-    if (!giris_.AyinBordrosunuSil()) return;
-    BordroNoDoldur();
-    Goster();
-    KodaDon();
-  });
-  TusBagla(Qt::Key_F9, QStringLiteral("Netten Brüte"), [this] {
-    if (!YardimSirasi(SimdikiAlan())) return;
-    GirisiOku();
-    giris_.NettenBruteCevir(SimdikiAlan());
-    Goster();
-  });
-  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_B), QStringLiteral("Borç"), [this] { BorcSor(); });
-  TusBagla(Qt::Key_F4, QStringLiteral("Neden?"), [this] { SonuclaraGit(); });
-  TusBagla(Qt::Key_F6, QStringLiteral("Ay"), [this] { ay_->setFocus(); });
-  TusBagla(Qt::Key_F8, QStringLiteral("Puantaj"), [this] {
-    if (kaynak_->hasFocus() && kaynak_->currentIndex() == int(PuantajKaynagi::Sablondan)) return TopluHazirla();
-    kaynak_->setFocus();
-  });
-  connect(&YaziKutusu("kod"), &xtext::Lookup, this, [this] {
+  Komutlar({{.komut = FormKomutu::Rehber, .islev = [this] { RehberAc(); }},
+            {.komut = FormKomutu::Sil, .islev = [this] { Sil(); }},
+            {.tus = Qt::Key_F5, .ipucu = "Sicil No", .islev = [this] { KodaDon(); }},
+            {.tus = Qt::CTRL | Qt::Key_F7, .ipucu = "Ayı Sil", .islev = [this] { AyiSil(); }},
+            {.tus = Qt::Key_F9, .ipucu = "Netten Brüte", .islev = [this] { NettenBrute(); }},
+            {.tus = Qt::CTRL | Qt::Key_B, .ipucu = "Borç", .islev = [this] { BorcSor(); }},
+            {.tus = Qt::Key_F4, .ipucu = "Neden?", .islev = [this] { SonuclaraGit(); }},
+            {.tus = Qt::Key_F6, .ipucu = "Ay", .islev = [this] { ay_->setFocus(); }},
+            {.tus = Qt::Key_F8, .ipucu = "Puantaj", .islev = [this] { PuantajaGit(); }}});
+  connect(&YaziKutusu(bordroalani::kod), &xtext::Lookup, this, [this] {
     QKeyEvent f2(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
     keyPressEvent(&f2);
   });
+}
+
+void brdhazir::RehberAc() {
+  const auto kod = PersonelSec(Baglam(), giris_.Kod());
+  if (!kod) return;
+  YaziKutusu(bordroalani::kod).DegerKoy(*kod);
+  KodaDon();
+}
+
+void brdhazir::Sil() {
+  GirisiOku();
+  if (!giris_.KayitSil()) return;
+  Goster();
+  KodaDon();
+}
+
+void brdhazir::AyiSil() {
+  if (!giris_.AyinBordrosunuSil()) return;
+  BordroNoDoldur();
+  Goster();
+  KodaDon();
+}
+
+void brdhazir::NettenBrute() {
+  if (!YardimSirasi(SimdikiAlan())) return;
+  GirisiOku();
+  giris_.NettenBruteCevir(SimdikiAlan());
+  Goster();
+}
+
+// To the source of the entries; from there on to the mass run.
+void brdhazir::PuantajaGit() {
+  if (kaynak_->hasFocus() && kaynak_->currentIndex() == int(PuantajKaynagi::Sablondan)) return TopluHazirla();
+  kaynak_->setFocus();
 }
 
 void brdhazir::UyariRengi(bool kirmizi) {
@@ -191,7 +200,7 @@ BordroAlani brdhazir::SimdikiAlan() const {
 
 // The person of the typed code; the entry fields open.
 bool brdhazir::KisiyiGetir() {
-  const KodSonucu sonuc = giris_.KodAl(Utf8(YaziKutusu("kod").text()));
+  const KodSonucu sonuc = giris_.KodAl(Utf8(YaziKutusu(bordroalani::kod).text()));
   if (sonuc == KodSonucu::Bos) return false;
   degisen_.clear();
   Goster();
@@ -200,8 +209,8 @@ bool brdhazir::KisiyiGetir() {
 
 void brdhazir::Git(Yon yon) {
   if (giris_.Git(yon) == KodSonucu::Bos) return;
-  YaziKutusu("kod").DegerKoy(giris_.Kod());
-  YaziKutusu("kod").selectAll();
+  YaziKutusu(bordroalani::kod).DegerKoy(giris_.Kod());
+  YaziKutusu(bordroalani::kod).selectAll();
   degisen_.clear();
   Goster();
 }
@@ -258,8 +267,8 @@ void brdhazir::KodaGirildi() {
   const KapanisSonucu sonuc = giris_.Kapat();
   switch (sonuc) {
     case KapanisSonucu::SonrakiVar:
-      YaziKutusu("kod").DegerKoy(giris_.Kod());
-      YaziKutusu("kod").selectAll();
+      YaziKutusu(bordroalani::kod).DegerKoy(giris_.Kod());
+      YaziKutusu(bordroalani::kod).selectAll();
       BordroNoDoldur();
       break;
     case KapanisSonucu::Bitti:
@@ -267,7 +276,7 @@ void brdhazir::KodaGirildi() {
       return;
     case KapanisSonucu::KaldiEksikGun:
       Goster();
-      OdakVer(giris_.SonGirisAlani() >= BordroAlani::EksikSebep ? "sebep" : "kod");
+      OdakVer(giris_.SonGirisAlani() >= BordroAlani::EksikSebep ? AlanTutamagi(bordroalani::sebep) : bordroalani::kod);
       return;
     case KapanisSonucu::Kapanmadi:
     case KapanisSonucu::KaldiGunFazla:
@@ -298,13 +307,13 @@ void brdhazir::Goster() {
   setWindowTitle(Yazi(giris_.Baslik()));
   if (giris_.Durumu() == BordroGirisi::Hal::KisiYok) {
     for (const auto& d : Denetimler())
-      if (d->Satir().tanim.ad != "kod") d->Temizle();
+      if (d->Satir().Tutamak() != bordroalani::kod) d->Temizle();
     neden_->Bosalt();
   } else {
     Yukle(giris_.Giris());
     Yukle(giris_.Sonuc());
     Yukle(giris_.Toplamlar());
-    Denetim("sebep").Koy(std::int64_t(std::max(0, EksikSebepSec(giris_.Giris().eksiksebebi))));
+    Denetim(bordroalani::sebep).Koy(std::int64_t(std::max(0, EksikSebepSec(giris_.Giris().eksiksebebi))));
   }
   const auto& panel = giris_.CalismaPaneli();
   uyari_->setText(panel ? "Giriş Tarihi " + Yazi(panel->girisTarihi) + "  Çıkış Tarihi " + Yazi(panel->cikisTarihi) +
@@ -331,19 +340,19 @@ void brdhazir::AcikAlanlariKur() {
     if (no == BordroAlani::EksikSebep || no == BordroAlani::UcretsizIzin)
       d->Parca()->setEnabled(secili && (eksik || d->Parca()->hasFocus()));
   }
-  Denetim(brd::rapcalismadi.ad).Odak()->setFocusPolicy(eksik ? Qt::StrongFocus : Qt::ClickFocus);
-  Denetim(brd::rapcalismadi.ad).Parca()->setEnabled(secili);
+  Denetim(brd::rapcalismadi).Odak()->setFocusPolicy(eksik ? Qt::StrongFocus : Qt::ClickFocus);
+  Denetim(brd::rapcalismadi).Parca()->setEnabled(secili);
 }
 
 void brdhazir::SebepSecildi() {
-  degisen_.push_back(&Denetim("sebep"));
-  const auto sonra = giris_.SebepSec(int(TamDegeri(Denetim("sebep").Oku())));
+  degisen_.push_back(&Denetim(bordroalani::sebep));
+  const auto sonra = giris_.SebepSec(int(TamDegeri(Denetim(bordroalani::sebep).Oku())));
   GirisiOku();
-  sonra == SebepSonrasi::KodAlanina ? KodaDon() : OdakVer(brd::ucretsizizin.ad);
+  sonra == SebepSonrasi::KodAlanina ? KodaDon() : OdakVer(brd::ucretsizizin);
 }
 
 void brdhazir::KodaDon() {
-  YaziKutusu("kod").setFocus(Qt::TabFocusReason);
+  YaziKutusu(bordroalani::kod).setFocus(Qt::TabFocusReason);
 }
 
 void brdhazir::BordroNoDoldur() {
@@ -378,7 +387,7 @@ void brdhazir::SonuclaraGit() {
   const bool sonucta = simdiki_ != nullptr && simdiki_->Satir().ek.kapali;
   for (const auto& d : Denetimler())
     if (d->Satir().ek.kapali) d->Odak()->setFocusPolicy(sonucta ? Qt::ClickFocus : Qt::StrongFocus);
-  sonucta ? KodaDon() : OdakVer("net");
+  sonucta ? KodaDon() : OdakVer(bordroalani::net);
 }
 
 void brdhazir::BorcSor() {

@@ -46,6 +46,11 @@ class brdhazir : public Form {
   void TopluHazirla();
   void SonuclaraGit();
   void BorcSor();
+  void RehberAc();
+  void Sil();
+  void AyiSil();
+  void NettenBrute();
+  void PuantajaGit();
   AlanDenetimi* Sahibi(const QObject* nesne) const;
   BordroAlani SimdikiAlan() const;
   void KodaDon();

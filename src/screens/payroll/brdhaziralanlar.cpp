@@ -19,17 +19,17 @@ Alan Sonucta(Kolon<Brd, U> kolon, const char* etiket, AlanEki ek = {}) {
       [](void*, const Deger&) {}, etiket, ek);
 }
 
-Alan Toplamda(std::string_view ad, Tutar EkranToplamlari::*uye, const char* etiket) {
-  return {Uye(ad, uye), etiket, {.harf = TutarHarfi, .kapali = true}};
+Alan Toplamda(Kolon<EkranToplamlari, Tutar> kolon, const char* etiket) {
+  return {kolon, etiket, {.harf = TutarHarfi, .kapali = true}};
 }
 Alan Toplamda(const KayitToplami& toplam, Tutar EkranToplamlari::*uye) {
-  return Toplamda(toplam.ad, uye, toplam.etiket);
+  return Toplamda(Uye(toplam.ad, uye), toplam.etiket);
 }
 
 }  // namespace
 
 Alan KodAlani() {
-  return {Uye("kod", &BordroSecimi::kod, brd::kod.boyut), "Sicil No", {.anahtar = true, .no = int(BordroAlani::Kod)}};
+  return {bordroalani::kod, "Sicil No", {.anahtar = true, .no = int(BordroAlani::Kod)}};
 }
 
 AlanGrubu GunGrubu() {
@@ -51,16 +51,16 @@ AlanGrubu YardimGrubu(const YardimTanimlari& yardimlar) {
 }
 
 std::vector<AlanGrubu> OzetGruplari() {
-  return {{"Bordro Özeti",
-           {Toplamda(toplam::kazanclar, &EkranToplamlari::kazanclar),
-            Toplamda("yardimlar", &EkranToplamlari::yardimlar, "Yardımlar"),
-            Toplamda("brut", &EkranToplamlari::brut, "TOPLAM"), Toplamda("ssk", &EkranToplamlari::ssk, "S.S.K."),
-            Toplamda(toplam::vergiler, &EkranToplamlari::vergiler),
-            Toplamda(toplam::yasalKesinti, &EkranToplamlari::yasalKesinti),
-            Toplamda(toplam::ozelKesinti, &EkranToplamlari::ozelKesinti),
-            Toplamda("agi", &EkranToplamlari::agi, "A.G.İ."), Toplamda("net", &EkranToplamlari::net, "NET"),
-            Alan(Uye("SskGun", &EkranToplamlari::SskGun), "Toplam Gün", {.kapali = true}),
-            Sonucta(brd::brutkaz, "Brüt Gelir")}}};
+  return {
+      {"Bordro Özeti",
+       {Toplamda(toplam::kazanclar, &EkranToplamlari::kazanclar),
+        Toplamda(Uye("yardimlar", &EkranToplamlari::yardimlar), "Yardımlar"), Toplamda(bordroalani::brut, "TOPLAM"),
+        Toplamda(Uye("ssk", &EkranToplamlari::ssk), "S.S.K."), Toplamda(toplam::vergiler, &EkranToplamlari::vergiler),
+        Toplamda(toplam::yasalKesinti, &EkranToplamlari::yasalKesinti),
+        Toplamda(toplam::ozelKesinti, &EkranToplamlari::ozelKesinti),
+        Toplamda(Uye("agi", &EkranToplamlari::agi), "A.G.İ."), Toplamda(bordroalani::net, "NET"),
+        Alan(Uye("SskGun", &EkranToplamlari::SskGun), "Toplam Gün", {.kapali = true}),
+        Sonucta(brd::brutkaz, "Brüt Gelir")}}};
 }
 
 std::vector<AlanGrubu> AyrintiGruplari() {
@@ -82,13 +82,12 @@ std::vector<AlanGrubu> AyrintiGruplari() {
 }
 
 AlanGrubu EksikGunGrubu() {
-  return {"Eksik Gün",
-          {{Uye("sebep", &BordroSecimi::sebep),
-            "Eksik Gün S.",
-            {.liste = EksikSebepleri, .harf = 16, .no = int(BordroAlani::EksikSebep)}},
-           {brd::ucretsizizin, "Ücretsiz İzin", {.harf = 3, .no = int(BordroAlani::UcretsizIzin)}},
-           {brd::rapcalismadi, "Raporda Çalışmadı", {.kutu = true, .no = int(BordroAlani::RaporCalismadi)}}},
-          3};
+  return {
+      "Eksik Gün",
+      {{bordroalani::sebep, "Eksik Gün S.", {.liste = EksikSebepleri, .harf = 16, .no = int(BordroAlani::EksikSebep)}},
+       {brd::ucretsizizin, "Ücretsiz İzin", {.harf = 3, .no = int(BordroAlani::UcretsizIzin)}},
+       {brd::rapcalismadi, "Raporda Çalışmadı", {.kutu = true, .no = int(BordroAlani::RaporCalismadi)}}},
+      3};
 }
 
 }  // namespace belvani

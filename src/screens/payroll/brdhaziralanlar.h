@@ -12,6 +12,14 @@ struct BordroSecimi {
   int sebep = 0;  // position in EksikSebepleri
 };
 
+// The fields that the screen knows by name, besides the columns of the record.
+namespace bordroalani {
+inline constexpr auto kod = Uye("kod", &BordroSecimi::kod, brd::kod.boyut);
+inline constexpr auto sebep = Uye("sebep", &BordroSecimi::sebep);
+inline constexpr auto brut = Uye("brut", &EkranToplamlari::brut);
+inline constexpr auto net = Uye("net", &EkranToplamlari::net);
+}  // namespace bordroalani
+
 // Entered: they edit the record, reason and code the struct above.
 Alan KodAlani();
 AlanGrubu GunGrubu();

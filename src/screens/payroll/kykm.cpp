@@ -38,13 +38,11 @@ kykm::kykm(EkranBaglami& baglam, ParametreDeposu& parametreler)
   Yerlestir();
   gruplar_->SatirSecildi = [this](int satir) { GrupGoster(Utf8(gruplar_->Text(satir, 0))); };
   // A new name keeps the flags on the screen: a new group starts as a copy.
-  AnahtarBagla("grup", [this](const std::string& ad) {
+  AnahtarBagla(kaztan::grup, [this](const std::string& ad) {
     if (KazancGrubuVar(Parametreler().firma.Parametreler(), ad)) GrupGoster(ad);
   });
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
-  Komut(
-      FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
+            {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }}});
   GruplariGoster(Oturumu().firma.ondeger);
   IlkOdak(gruplar_);
 }
@@ -80,9 +78,9 @@ void kykm::GrupGoster(const std::string& grup) {
 }
 
 void kykm::Kaydet() {
-  AnahtariBul("grup");
+  AnahtariBul(kaztan::grup);
   if (!AlanlarSaglam(typeid(Kaztan))) return;
-  const std::string grup(Kirp(Utf8(YaziKutusu("grup").text())));
+  const std::string grup(Kirp(Utf8(YaziKutusu(kaztan::grup).text())));
   kazanclar_->Al(bayraklar_.k);
   yardimlar_->Al(bayraklar_.y);
   if (!KazancGrubuKaydet(Tanimlar(), grup, bayraklar_)) return;

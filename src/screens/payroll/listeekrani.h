@@ -29,8 +29,7 @@ class ListeEkrani : public ParametreEkrani {
   // To be called once the screen is made; `boy` rows are seen without scrolling.
   void Ac(int boy) {
     if (liste_->editTriggers() != QAbstractItemView::NoEditTriggers)
-      Komut(
-          FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+      Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
     ListeyiGoster();
     SatirlaraYerAc(*liste_, boy);
   }

@@ -12,7 +12,7 @@ ParametreEkrani::ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametr
 }
 
 void ParametreEkrani::IndirDugmesi(ParametreDosyasi dosya, std::function<void()> goster) {
-  DugmeEkle(QStringLiteral("Parametre İndir"), QStringLiteral("indir"), [this, dosya, goster = std::move(goster)] {
+  const auto indir = [this, dosya, goster = std::move(goster)] {
     bool vazgecildi = false;
     const auto durum = UzunIs(Baglam(), QStringLiteral("Parametre indiriliyor…"), [&](Ilerleme& ilerleme) {
       Durum indirme = parametreler_.DosyaIndir(Oturumu(), dosya, {.ilerleme = &ilerleme});
@@ -24,7 +24,8 @@ void ParametreEkrani::IndirDugmesi(ParametreDosyasi dosya, std::function<void()>
     if (!*durum) return Bildirimi().Uyari("Parametre Bulunamadı..");
     Bildirimi().Bilgi("Parametre İndirildi..");
     goster();
-  });
+  };
+  Komutlar({{.dugme = "Parametre İndir", .simge = "indir", .islev = indir}});
 }
 
 bool ParametreEkrani::YasalYazildi(const Durum& durum) {
@@ -47,8 +48,8 @@ bool ParametreEkrani::FirmaYazildi(const Durum& durum) {
   return true;
 }
 
-void ParametreEkrani::AnahtariBul(std::string_view ad) {
-  const std::string anahtar(Kirp(Utf8(YaziKutusu(ad).text())));
+void ParametreEkrani::AnahtariBul(AlanTutamagi alan) {
+  const std::string anahtar(Kirp(Utf8(YaziKutusu(alan).text())));
   if (!anahtar.empty() && anahtar != SonAnahtar()) AnahtarAra(anahtar);
 }
 

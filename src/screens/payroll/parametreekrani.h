@@ -40,7 +40,7 @@ class ParametreEkrani : public Form {
     return true;
   }
   // Looks up the key where it was typed and never left, so that F5 in the key field cannot overwrite a record unseen.
-  void AnahtariBul(std::string_view ad);
+  void AnahtariBul(AlanTutamagi alan);
 
  private:
   ParametreDeposu& parametreler_;

@@ -36,8 +36,7 @@ sabpu::sabpu(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ParametreEkrani(baglam, parametreler, "sabpu", QStringLiteral("Şablon Puantaj")),
       sablon_(SablonOku(baglam.oturum.FirmaDizini).deger) {
   AlanlariDiz({{Gunler()}, {Yardimlar(parametreler.firma.Parametreler().yardimlar)}});
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
   Goster(sablon_);
 }
 

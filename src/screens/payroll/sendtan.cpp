@@ -33,16 +33,14 @@ sendtan::sendtan(EkranBaglami& baglam, ParametreDeposu& parametreler)
   liste_->setMinimumSize(330, 220);
   liste_->Secildi = [this](int satir) {
     AnahtarAra(Utf8(liste_->Text(satir, 0)));
-    OdakVer("adi");
+    OdakVer(sendika::adi);
   };
   yatay->addWidget(liste_, 1);
   Govde()->addLayout(yatay, 1);
-  AnahtarBagla("kod", [this](const std::string& kod) { Bul(kod); });
-  Komut(FormKomutu::Rehber, [this] { liste_->setFocus(); });
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
-  Komut(
-      FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
+  AnahtarBagla(sendika::kod, [this](const std::string& kod) { Bul(kod); });
+  Komutlar({{.komut = FormKomutu::Rehber, .islev = [this] { liste_->setFocus(); }},
+            {.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
+            {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }}});
   ListeyiGoster();
   Goster(sendika_);
 }
@@ -66,7 +64,7 @@ void sendtan::Bul(const std::string& kod) {
 }
 
 void sendtan::Kaydet() {
-  AnahtariBul("kod");
+  AnahtariBul(sendika::kod);
   Sendika sendika = sendika_;
   if (!DegisenleriOku(sendika) || !SendikaKaydet(Tanimlar(), sendika)) return;
   ZoomEfekt();
@@ -74,7 +72,7 @@ void sendtan::Kaydet() {
 }
 
 void sendtan::Sil() {
-  const std::string kod(Kirp(Utf8(YaziKutusu("kod").text())));
+  const std::string kod(Kirp(Utf8(YaziKutusu(sendika::kod).text())));
   if (SendikaBul(Parametreler().firma.Parametreler(), kod) == nullptr)
     return Bildirimi().Bilgi("Silinecek Kayıt Bulunamadı");
   if (SendikaSil(Tanimlar(), kod)) Yenile();

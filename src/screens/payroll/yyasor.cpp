@@ -82,8 +82,7 @@ yyasor::yyasor(EkranBaglami& baglam, ParametreDeposu& parametreler)
   Govde()->addWidget(liste_, 1);
   AlanlariDiz({{Tutarlar()}});
   IndirDugmesi(ParametreDosyasi::Yasal, [this] { Goster(); });
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
   IlkOdak(liste_);
   Goster();
 }

@@ -59,9 +59,9 @@ escofrm::escofrm(EkranBaglami& baglam)
       this);
   ipucu->setProperty("soluk", true);
   Govde()->addWidget(ipucu);
-  setTabOrder(&YaziKutusu("kod"), liste_);
-  Komut(FormKomutu::Kaydet, [this] { liste_->OkUpdateData(); });
-  PersonelKomutlari();
+  setTabOrder(&YaziKutusu(esco::kod), liste_);
+  Komutlar({{.komut = FormKomutu::Kaydet, .islev = [this] { liste_->OkUpdateData(); }}});
+  PersonelKomutlari(esco::kod);
 }
 
 void escofrm::ListeyiKur() {

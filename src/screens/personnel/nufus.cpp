@@ -32,11 +32,9 @@ std::vector<std::vector<AlanGrubu>> Gruplar() {
 
 nufus::nufus(EkranBaglami& baglam) : PersonelFormu(baglam, "nufus", QStringLiteral("Personel Kimlik Bilgileri")) {
   AlanlariDiz(Gruplar());
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
-  Komut(
-      FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
-  PersonelKomutlari();
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
+            {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }}});
+  PersonelKomutlari(kimlik::kod);
   Bosalt();
 }
 

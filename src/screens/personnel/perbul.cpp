@@ -13,26 +13,26 @@ namespace {
 struct Aranan {
   std::string adsoy;
 };
+constexpr auto ArananAd = Uye("adsoy", &Aranan::adsoy, 41);
 
 }  // namespace
 
 perbul::perbul(EkranBaglami& baglam)
     : Form(baglam, "perbul", QStringLiteral("Personel Bul")), liste_(new dclist(baglam.bildirim, this)) {
-  AlanlariDiz({{{"Aranan", {{Uye("adsoy", &Aranan::adsoy, 41), "Adı Soyadı", {.harf = 40}}}}}});
+  AlanlariDiz({{{"Aranan", {{ArananAd, "Adı Soyadı", {.harf = 40}}}}}});
   liste_->CreateNewCaption('m', "adsoy", "Adı Soyadı", 240);
   liste_->CreateNewCaption('m', "firma", "Firma", 300);
   liste_->CreateNewCaption('m', "donem", "Dönem", 90);
   liste_->GenisKolon("firma");
   liste_->setMinimumSize(680, 320);
   liste_->setEnabled(false);
-  setTabOrder(&YaziKutusu("adsoy"), liste_);
+  setTabOrder(&YaziKutusu(ArananAd), liste_);
   Govde()->addWidget(liste_, 1);
   sonuc_ = new QLabel(this);
   sonuc_->setProperty("soluk", true);
   Govde()->addWidget(sonuc_);
-  DugmeEkle(QStringLiteral("Bul"), "ara", [this] { Ara(); });
-  for (const Qt::Key tus : {Qt::Key_Return, Qt::Key_Enter})
-    TusBagla(QKeySequence(tus), tus == Qt::Key_Return ? QStringLiteral("Bul") : QString(), [this] { Ara(); });
+  Komutlar({{.dugme = "Bul", .simge = "ara", .islev = [this] { Ara(); }},
+            {.tus = Qt::Key_Return, .ipucu = "Bul", .islev = [this] { Ara(); }}});
   AlanDegisti = [this](AlanDenetimi& alan) { liste_->setEnabled(!Kirp(MetinDegeri(alan.Oku())).empty()); };
   liste_->Tus = [this](const QKeyEvent& olay) {
     const bool enter = olay.key() == Qt::Key_Return || olay.key() == Qt::Key_Enter;

@@ -43,11 +43,10 @@ AlanGrubu AdresGrubu() {
 
 percik::percik(EkranBaglami& baglam) : PersonelFormu(baglam, "percik", QStringLiteral("Personel İşten Çıkış Formu")) {
   Yerlestir();
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Çıkış Kaydet"));
-  DugmeEkle(QStringLiteral("Çıkış Geri Al"), "degistir", [this] { GeriAl(); });
-  DugmeEkle(Qt::Key_F8, QStringLiteral(" Yazdır "), "yazici", [this] { Yazdir(); });
-  PersonelKomutlari();
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Çıkış Kaydet", .islev = [this] { Kaydet(); }},
+            {.dugme = "Çıkış Geri Al", .simge = "degistir", .islev = [this] { GeriAl(); }},
+            {.tus = Qt::Key_F8, .dugme = " Yazdır ", .simge = "yazici", .islev = [this] { Yazdir(); }}});
+  PersonelKomutlari(cikisformu::kod);
   Goster({});
 }
 

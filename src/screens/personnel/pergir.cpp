@@ -24,13 +24,12 @@ constexpr const char* AmblemDosyasi = "ssklogo.png";
 pergir::pergir(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : PersonelFormu(baglam, "pergir", QStringLiteral("Sigortalı İşe Giriş Formu")), parametreler_(parametreler) {
   Yerlestir();
-  SecenekleriKoy(Denetim("sskdurum"), SigortaKollari(parametreler.yasal.hesapTurleri));
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral(" Kaydet "));
-  DugmeEkle(Qt::Key_F8, QStringLiteral(" Yazdır "), "yazici", [this] { Yazdir(); });
-  PersonelKomutlari();
+  SecenekleriKoy(Denetim(sicil::sskdurum), SigortaKollari(parametreler.yasal.hesapTurleri));
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = " Kaydet ", .islev = [this] { Kaydet(); }},
+            {.tus = Qt::Key_F8, .dugme = " Yazdır ", .simge = "yazici", .islev = [this] { Yazdir(); }}});
+  PersonelKomutlari(sicil::kod);
   AlanDegisti = [this](AlanDenetimi& alan) {
-    if (alan.Satir().tanim.ad == "emekliTercihi") TahsisNoyuAcKapat();
+    if (alan.Satir().Tutamak() == giriseki::emekliTercihi) TahsisNoyuAcKapat();
   };
   Goster(BosGirisFormu(Tarih::Bugun()));
 }
@@ -103,14 +102,14 @@ void pergir::KayitlariGoster(const GirisFormu& form) {
 }
 
 void pergir::TahsisNoyuAcKapat() {
-  Denetim("tahsisno").Kapat(!TahsisNoAcik(std::uint8_t(TamDegeri(Denetim("emekliTercihi").Oku()))));
+  Denetim(sicil::tahsisno).Kapat(!TahsisNoAcik(std::uint8_t(TamDegeri(Denetim(giriseki::emekliTercihi).Oku()))));
 }
 
 // What was typed, when its dates can stand. They are judged first, and by the rules of the declaration.
 std::optional<GirisFormu> pergir::Okunan() {
   GirisFormu form;
-  form.sicil.girtar = TarihDegeri(Denetim("girtar").Oku());
-  form.ek.islemTarihi = TarihDegeri(Denetim("islemTarihi").Oku());
+  form.sicil.girtar = TarihDegeri(Denetim(sicil::girtar).Oku());
+  form.ek.islemTarihi = TarihDegeri(Denetim(giriseki::islemTarihi).Oku());
   if (const Durum denetim = GirisDenetle(form); !denetim) {
     Bildir(denetim.Kusuru());
     return std::nullopt;
@@ -137,7 +136,7 @@ void pergir::Yazdir() {
   if (!EkrandakiMi()) return;
   auto form = Okunan();
   if (!form) return;
-  const auto& sskDurumu = dynamic_cast<QComboBox&>(*Denetim("sskdurum").Odak());
+  const auto& sskDurumu = dynamic_cast<QComboBox&>(*Denetim(sicil::sskdurum).Odak());
   const auto belge = GirisBildirgesiBelgesi(
       {.form = std::move(*form),
        .firma = FirmaOku(Oturumu()),

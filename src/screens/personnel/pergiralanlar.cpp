@@ -72,9 +72,7 @@ AlanGrubu GirisBilgileri() {
            {sicil::girtar, "İşe Giriş Tarihi"},
            {giriseki::islemTarihi, "İşlem Tarihi", {.ipucu = "Bildirgenin verildiği gün"}},
            {sicil::sskdurum, "SSK Durumu", {.liste = SonraDolar, .harf = ListeHarfi}},
-           {Uye("emekliTercihi", &GirisEki::emekliTercihi),
-            "SSK'dan Yaşlılık Aylığı\nAlıyorsa Tercihi",
-            {.liste = EmekliTercihleri}},
+           {giriseki::emekliTercihi, "SSK'dan Yaşlılık Aylığı\nAlıyorsa Tercihi", {.liste = EmekliTercihleri}},
            {sicil::tahsisno, "Tahsis No"}}};
 }
 

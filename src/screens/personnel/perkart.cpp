@@ -65,16 +65,14 @@ AlanGrubu BordroGrubu() {
 perkart::perkart(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : PersonelFormu(baglam, "perkart", QStringLiteral("Personel Kartları")), parametreler_(parametreler) {
   Yerlestir();
-  SecenekleriKoy(Denetim("sskdurum"), SigortaKollari(parametreler.yasal.hesapTurleri));
-  Komut(
-      FormKomutu::Kaydet, [this] { Kaydet(); }, QStringLiteral("Kaydet"));
-  Komut(
-      FormKomutu::Sil, [this] { Sil(); }, QStringLiteral("Sil"));
-  PersonelKomutlari();
-  TusBagla(QKeySequence(Qt::CTRL | Qt::Key_R), QStringLiteral("Resim Ekle"), [this] { ResimEkle(); });
-  TusBagla(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R), QStringLiteral("Resim Sil"), [this] { ResimSil(); });
+  SecenekleriKoy(Denetim(sicil::sskdurum), SigortaKollari(parametreler.yasal.hesapTurleri));
+  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
+            {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }}});
+  PersonelKomutlari(sicil::kod);
+  Komutlar({{.tus = Qt::CTRL | Qt::Key_R, .ipucu = "Resim Ekle", .islev = [this] { ResimEkle(); }},
+            {.tus = Qt::CTRL | Qt::SHIFT | Qt::Key_R, .ipucu = "Resim Sil", .islev = [this] { ResimSil(); }}});
   AlanDegisti = [this](AlanDenetimi& alan) {
-    if (alan.Satir().tanim.ad == "ucrettipi") UcretTipiDegisti();
+    if (alan.Satir().Tutamak() == sicil::ucrettipi) UcretTipiDegisti();
   };
   Bosalt();
 }
@@ -165,17 +163,17 @@ void perkart::Bosalt() {
 // The minimum wage is shown and not typed; the wage that stood there comes back with another kind.
 void perkart::UcretTipiDegisti() {
   Sicil kart;
-  AlanDenetimi& ucret = Denetim("ucret");
+  AlanDenetimi& ucret = Denetim(sicil::ucret);
   const bool asgariydi = ucret.YaziKutusu()->isReadOnly();
   if (!asgariydi) yaziliUcret_ = TutarDegeri(ucret.Oku());
-  kart.ucrettipi = std::uint8_t(TamDegeri(Denetim("ucrettipi").Oku()));
+  kart.ucrettipi = std::uint8_t(TamDegeri(Denetim(sicil::ucrettipi).Oku()));
   kart.ucret = yaziliUcret_;
   ucret.Koy(GosterilenUcret(kart, parametreler_.yasal.oranlar.AsgariUcret));
   UcretiAcKapat();
 }
 
 void perkart::UcretiAcKapat() {
-  Denetim("ucret").Kapat(TamDegeri(Denetim("ucrettipi").Oku()) == AsgariUcretSirasi);
+  Denetim(sicil::ucret).Kapat(TamDegeri(Denetim(sicil::ucrettipi).Oku()) == AsgariUcretSirasi);
 }
 
 void perkart::Kaydet() {

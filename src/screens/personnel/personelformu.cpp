@@ -7,14 +7,13 @@
 
 namespace belvani {
 
-void PersonelFormu::PersonelKomutlari() {
-  Komut(
-      FormKomutu::Rehber, [this] { RehberAc(); }, QStringLiteral(" Personel  Rehberi "));
-  Komut(FormKomutu::Ilk, [this] { Git(Yon::Ilk); });
-  Komut(FormKomutu::Onceki, [this] { Git(Yon::Onceki); });
-  Komut(FormKomutu::Sonraki, [this] { Git(Yon::Sonraki); });
-  Komut(FormKomutu::Son, [this] { Git(Yon::Son); });
-  AnahtarBagla("kod", [this](const std::string& kod) { Bul(kod); });
+void PersonelFormu::PersonelKomutlari(AlanTutamagi kod) {
+  Komutlar({{.komut = FormKomutu::Rehber, .dugme = " Personel  Rehberi ", .islev = [this] { RehberAc(); }},
+            {.komut = FormKomutu::Ilk, .islev = [this] { Git(Yon::Ilk); }},
+            {.komut = FormKomutu::Onceki, .islev = [this] { Git(Yon::Onceki); }},
+            {.komut = FormKomutu::Sonraki, .islev = [this] { Git(Yon::Sonraki); }},
+            {.komut = FormKomutu::Son, .islev = [this] { Git(Yon::Son); }}});
+  AnahtarBagla(kod, [this](const std::string& yazilan) { Bul(yazilan); });
 }
 
 void PersonelFormu::KisiyeGit(const std::string& kod, AlanTutamagi alan) {
@@ -26,7 +25,7 @@ void PersonelFormu::KisiyeGit(const std::string& kod, AlanTutamagi alan) {
 }
 
 std::string PersonelFormu::YazilanKod() const {
-  return std::string(Kirp(Utf8(YaziKutusu("kod").text())));
+  return std::string(Kirp(Utf8(YaziKutusu(AnahtarAlani()).text())));
 }
 
 bool PersonelFormu::EkrandakiMi() {
@@ -45,7 +44,7 @@ bool PersonelFormu::SilindiMi(const Sonuc<Silme>& silme) {
 }
 
 void PersonelFormu::KoddanBasla() {
-  OdakVer("kod");
+  OdakVer(AnahtarAlani());
 }
 
 void PersonelFormu::AlaniSec() {

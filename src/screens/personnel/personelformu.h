@@ -30,8 +30,8 @@ class PersonelFormu : public Form {
  protected:
   using Form::Form;
 
-  // Binds the code field `kod`, the moves and the guide. The other commands are bound before it, the fields first.
-  void PersonelKomutlari();
+  // Binds the code field, the moves and the guide. The other commands are bound before it, the fields first.
+  void PersonelKomutlari(AlanTutamagi kod);
 
   // Shows the person; false when there is none, and the screen is then empty but for the code, ready for a new one.
   virtual bool Bul(const std::string& kod) = 0;

@@ -13,11 +13,11 @@ TEST(Firbil, ShowsTheRateAndSavesTheSession) {
   EXPECT_EQ(ortam.Odak(), "unvan");
   ortam.Yaz("Işıl Örgü Ltd.\n");
   EXPECT_EQ(ortam.Odak(), "sektor");
-  form.Denetim("sinif").Odak()->setFocus();
+  AlanBul(form, "sinif").Odak()->setFocus();
   ortam.Yaz("7");  // class 7 in the list
-  form.Denetim("tehlike").Odak()->setFocus();
+  AlanBul(form, "tehlike").Odak()->setFocus();
   ortam.Yaz("Ü");
-  form.Denetim("kanun").Odak()->setFocus();
+  AlanBul(form, "kanun").Odak()->setFocus();
   ortam.Yaz("506");
   ortam.Bas(Qt::Key_F5);
 
@@ -60,19 +60,19 @@ TEST(Firbil, SavesEveryClassAsItWasStored) {
 TEST(Firbil, OpenScreensSeeTheNewCard) {
   EkranOrtami ortam;
   auto& kart = ortam.Ac<perkart>(ortam.parametreler);
-  kart.YaziKutusu("ucret").DegerKoy(Tutar(1250.5));
+  YaziBul(kart, "ucret").DegerKoy(Tutar(1250.5));
   auto& bordro = ortam.Ac<brdhazir>(ortam.parametreler);
   auto& form = ortam.Ac<firbil>(ortam.parametreler);
-  form.YaziKutusu("ondeger").DegerKoy(std::string("Memur"));
-  form.YaziKutusu("paraonda").DegerKoy(std::int64_t(0));
-  form.Denetim("firmaay").Koy(std::int64_t(8));
+  YaziBul(form, "ondeger").DegerKoy(std::string("Memur"));
+  YaziBul(form, "paraonda").DegerKoy(std::int64_t(0));
+  AlanBul(form, "firmaay").Koy(std::int64_t(8));
   ortam.Bas(Qt::Key_F5);
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
   EXPECT_NE(KazancGrupYukle(ortam.parametreler.firma.Parametreler(), "Memur"), KazancBayraklari{});
   EXPECT_EQ(ortam.parametreler.firma.Parametreler().varsayilan,
             KazancGrupYukle(ortam.parametreler.firma.Parametreler(), "Memur"));
   EXPECT_EQ(AlanMetni(kart, "ucret"), "1,251") << "an amount shows the decimals of the books as they are now";
-  EXPECT_EQ(TutarDegeri(kart.Denetim("ucret").Oku()), Tutar(1250.5)) << "and keeps its own";
+  EXPECT_EQ(TutarDegeri(AlanBul(kart, "ucret").Oku()), Tutar(1250.5)) << "and keeps its own";
   EXPECT_EQ(bordro.Giris().Donem().ay, 7);
 }
 
@@ -80,7 +80,7 @@ TEST(Kulfrm, AddsAUserByKeyboardAndShowsTheFirst) {
   EkranOrtami ortam;
   auto& form = ortam.Ac<kulfrm>();
   EXPECT_EQ(AlanMetni(form, "ad"), "ayse");
-  EXPECT_EQ(form.YaziKutusu("yeni").echoMode(), QLineEdit::Password);
+  EXPECT_EQ(YaziBul(form, "yeni").echoMode(), QLineEdit::Password);
   ortam.Yaz("veli\n\nabc\nabd");
   ortam.Bas(Qt::Key_F5);
   EXPECT_EQ(AlanMetni(form, "onay"), "abd") << "what was typed is gone after a refused save";

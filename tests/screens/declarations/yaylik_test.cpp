@@ -87,7 +87,7 @@ TEST(Yaylik, HesaplaDuzeltBildir) {
   EXPECT_EQ(AlanMetni(form, "gun"), "59");
   ortam.dialoglar.dosya = ortam.dizin.Yol() + "bildirge.xml";
   ortam.bildirim.cevap = false;  // not to the web page
-  form.OdakVer("yil");
+  AlanBul(form, "yil").Odak()->setFocus(Qt::TabFocusReason);
   ortam.Bas(Qt::Key_F11);
   EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: XML Dosya Hazırlandı", StartsWith("Soru: E-Bildirgeyi")));
   const std::string xml = DosyaOku(*ortam.dialoglar.dosya).value_or("");
@@ -95,7 +95,7 @@ TEST(Yaylik, HesaplaDuzeltBildir) {
   EXPECT_THAT(xml, HasSubstr("AD=\"\xDE\xFCkr\xFC\""));
 
   // The base is typed over: only the premiums change.
-  form.YaziKutusu("saglik").setFocus();
+  YaziBul(form, "saglik").setFocus();
   ortam.Yaz("1000\n");
   EXPECT_EQ(form.findChild<QLabel*>("prim2")->text(), "125.00");
   // The second row goes.
@@ -174,7 +174,7 @@ TEST(Yaylik, SayiOlmayanHucresindeReddedilir) {
   EXPECT_EQ(liste.TextByName(0, "sigkol"), "01");
   EXPECT_EQ(liste.TextByName(0, "girtar"), "");
   // To walk through cells that show nothing is no edit, and no reason to add up anew.
-  form.YaziKutusu("saglik").setFocus();
+  YaziBul(form, "saglik").setFocus();
   ortam.Yaz("1000\n");
   liste.setFocus();
   liste.HucreyeGit(0, "ui");
@@ -193,7 +193,7 @@ TEST(Yaylik, KusurHucresineGider) {
   liste.HucreyeGit(1, "gun");
   ortam.Yaz("31\n");
   ortam.Bas(Qt::Key_Escape);
-  form.OdakVer("yil");
+  AlanBul(form, "yil").Odak()->setFocus(Qt::TabFocusReason);
   ortam.Bas(Qt::Key_F11);
   EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Uyarı: Kazanç Gün 1 il 30 gün arasında olmalı\nŞükrü Gün"));
   EXPECT_EQ(ortam.Odak(), "dclist1");
@@ -207,9 +207,9 @@ TEST(Yaylik, KagitIcinSecimGerekir) {
   ortam.Bas(Qt::Key_F5);
   ortam.Bas(Qt::Key_F8);
   EXPECT_THAT(ortam.bildirim.Al(), ElementsAre(HasSubstr("Tümünü Birden Alamazsınız\nSigorta Kollarına Göre Alınız")));
-  form.Denetim("belgeTuru").Odak()->setFocus();
+  AlanBul(form, "belgeTuru").Odak()->setFocus();
   ortam.Bas(Qt::Key_Down);
-  form.Denetim("kanun").Odak()->setFocus();
+  AlanBul(form, "kanun").Odak()->setFocus();
   ortam.Bas(Qt::Key_Down);
   EXPECT_EQ(form.Bildirge().Tamami().satirlar.size(), 2u) << "a change of a list calculates";
   EkranOrtami::ModaldaYap([&] { ortam.Bas(Qt::Key_F8); });
@@ -236,7 +236,7 @@ TEST(Intefrm, AdresKaydedilirVeAcilir) {
   ortam.Yaz("ftp://a");
   ortam.Bas(Qt::Key_F5);
   EXPECT_THAT(ortam.bildirim.Al(), ElementsAre(HasSubstr("http:// veya https://")));
-  form.YaziKutusu("adres").selectAll();
+  YaziBul(form, "adres").selectAll();
   ortam.Yaz("https://ornek.gov.tr/b");
   ortam.Bas(Qt::Key_F5);
   EXPECT_THAT(ortam.acilanlar, ElementsAre("https://ornek.gov.tr/b"));

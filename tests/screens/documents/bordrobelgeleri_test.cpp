@@ -54,13 +54,13 @@ TEST(Brdbas, SecimKolonlarVeAyarDosyasi) {
   auto& form = ortam.BelgeAc("brdbas");
   EXPECT_EQ(ortam.Odak(), "yil");
   EXPECT_EQ(AlanMetni(form, "kodBit"), "ZZZZ");
-  EXPECT_EQ(std::get<bool>(form.Denetim("kolon1").Oku()), false);
-  EXPECT_EQ(std::get<bool>(form.Denetim("kolon22").Oku()), true) << "a row that is too short is completed with on";
-  form.YaziKutusu("kodBas").setFocus();
+  EXPECT_EQ(std::get<bool>(AlanBul(form, "kolon1").Oku()), false);
+  EXPECT_EQ(std::get<bool>(AlanBul(form, "kolon22").Oku()), true) << "a row that is too short is completed with on";
+  YaziBul(form, "kodBas").setFocus();
   ortam.Yaz("002\n");
-  form.Denetim("kolon2").Odak()->setFocus();
+  AlanBul(form, "kolon2").Odak()->setFocus();
   ortam.Bas(Qt::Key_Space);
-  form.Denetim("sskSirasi").Odak()->setFocus();
+  AlanBul(form, "sskSirasi").Odak()->setFocus();
   ortam.Bas(Qt::Key_Space);
   ortam.Bas(Qt::Key_F6);
   const Rapor& rapor = ortam.AcilanListe();
@@ -93,8 +93,8 @@ TEST(BelgeEkranlari, HerBelgeTuslariyla) {
     EkranOrtami::ModaldaYap([&] {
       auto& ayar = *QApplication::activeModalWidget()->findChild<yzcsetup*>();
       EXPECT_FALSE(AlanMetni(ayar, "YzcBaslik").empty());
-      EXPECT_EQ(ayar.Denetim("mod").Odaklar()[1]->isEnabled(), tanim.ekran != "agibrd") << "the text way";
-      EXPECT_EQ(ayar.Denetim("YzcSayfaNoYaz").Odak()->isEnabled(), tanim.ekran != "brdzarf");
+      EXPECT_EQ(AlanBul(ayar, "mod").Odaklar()[1]->isEnabled(), tanim.ekran != "agibrd") << "the text way";
+      EXPECT_EQ(AlanBul(ayar, "YzcSayfaNoYaz").Odak()->isEnabled(), tanim.ekran != "brdzarf");
       ortam.Bas(Qt::Key_F8);
     });
     ortam.Bas(Qt::Key_F8);
@@ -116,7 +116,7 @@ TEST(BelgeEkranlari, YilSiniriniAsmaz) {
   ortam.Yaz("1989\n");
   ortam.Bas(Qt::Key_F6);
   EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: Bordro Yılı: 1990 ile 2100 arasında olmalı"));
-  EXPECT_TRUE(form.Denetim("yil").Odak()->hasFocus());
+  EXPECT_TRUE(AlanBul(form, "yil").Odak()->hasFocus());
 }
 
 TEST(Brdicmal, DonemDegisinceHesaplanir) {
@@ -132,7 +132,7 @@ TEST(Brdicmal, DonemDegisinceHesaplanir) {
 TEST(Brdui, RaporTipi) {
   BordroluOrtam ortam;
   auto& izin = ortam.BelgeAc("brdui");
-  izin.Denetim("tip").Odak()->setFocus();
+  AlanBul(izin, "tip").Odak()->setFocus();
   ortam.Yaz("P");  // "Personel İzinleri"
   ortam.Bas(Qt::Key_F6);
   EXPECT_EQ(ortam.AcilanListe().Satirlar().size(), 1u) << "one had leave";

@@ -77,7 +77,7 @@ TEST(Brdhazir, MissingDaysNeedTheirReason) {
   o.Bas(Qt::Key_F5);
   EXPECT_EQ(o.bildirim.Al().size(), 1u) << "24 and 6 do not fill the month";
   EXPECT_TRUE(o.Kayitlar().empty());
-  form.Denetim("ucretsizizin").Odak()->setFocus();
+  AlanBul(form, "ucretsizizin").Odak()->setFocus();
   o.Yaz("7");
   o.Bas(Qt::Key_F5);
   ASSERT_EQ(o.Kayitlar().size(), 1u);
@@ -119,7 +119,7 @@ TEST(Brdhazir, DebtGrossedUpAllowanceAndReasonsOfAmounts) {
   o.Bas(Qt::Key_F4);
   const auto* neden = form.findChild<QTextBrowser*>();
   EXPECT_TRUE(neden->toPlainText().contains("Net = brüt")) << neden->toPlainText().toStdString();
-  EXPECT_TRUE(neden->toPlainText().contains(form.YaziKutusu("net").text().remove(',')));
+  EXPECT_TRUE(neden->toPlainText().contains(YaziBul(form, "net").text().remove(',')));
   o.Bas(Qt::Key_F4);
   EXPECT_EQ(o.Odak(), "kod");
   ASSERT_EQ(o.Kayitlar().size(), 1u) << "what was entered before the walk over the results is saved";

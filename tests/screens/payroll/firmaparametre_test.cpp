@@ -16,7 +16,7 @@ TEST(Kykm, FlagsOfANewGroupAndTheProtectedDefault) {
   auto& form = ortam.Ac<kykm>(ortam.parametreler);
   EXPECT_EQ(ortam.Odak(), "gruplar");
   EXPECT_EQ(AlanMetni(form, "grup"), "Personel");
-  form.Denetim("grup").Odak()->setFocus();
+  AlanBul(form, "grup").Odak()->setFocus();
   ortam.Yaz("İşçi\n");
   EXPECT_EQ(ortam.Odak(), "kazanclar");
   ortam.Bas(Qt::Key_Space);  // "Normal Gün" is no longer open
@@ -50,7 +50,7 @@ TEST(Sabpu, WritesTheWholeRecordAndCloses) {
   auto& form = ortam.Ac<sabpu>(ortam.parametreler);
   EXPECT_EQ(AlanMetni(form, "ng"), "26");
   ortam.Yaz("25\n5\n");
-  form.Denetim("yrd02").Odak()->setFocus();
+  AlanBul(form, "yrd02").Odak()->setFocus();
   ortam.Yaz("110.5\nF");  // "Fiili Gün"
   ortam.Bas(Qt::Key_F5);
   EXPECT_FALSE(form.isVisible());
@@ -67,7 +67,7 @@ TEST(Sendtan, AddsChangesAndDeletesAUnion) {
   EkranOrtami ortam;
   auto& form = ortam.Ac<sendtan>(ortam.parametreler);
   ortam.Yaz("10\nTeksif\n\n1.25\n");
-  form.Denetim("yer").Odak()->setFocus();
+  AlanBul(form, "yer").Odak()->setFocus();
   ortam.Yaz("B");  // "Brüt Kazanç"
   ortam.Bas(Qt::Key_F5);
   ASSERT_NE(SendikaBul(ortam.parametreler.firma.Parametreler(), "10"), nullptr);

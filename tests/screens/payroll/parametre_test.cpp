@@ -40,7 +40,7 @@ TEST(Yyasor, ARateReachesTheFileTheSessionAndItsTotal) {
   EXPECT_EQ(liste.TextByName(0, "top"), "16.50");
   EXPECT_EQ(liste.TextByName(0, "isz"), "1.00");
 
-  form.Denetim("DamgaOran").Odak()->setFocus();
+  AlanBul(form, "DamgaOran").Odak()->setFocus();
   ortam.Yaz("7.5");
   ortam.Bas(Qt::Key_F5);
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});

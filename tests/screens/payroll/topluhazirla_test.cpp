@@ -50,7 +50,7 @@ struct TopluHazirlama : testing::Test {
         form, Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     pencere->setAttribute(Qt::WA_DeleteOnClose);
     pencere->show();
-    form->OdakVer("kod");
+    AlanBul(*form, "kod").Odak()->setFocus(Qt::TabFocusReason);
     for (auto* kutu : form->findChildren<QComboBox*>())
       if (const int sira = kutu->findText("Şablondan"); sira >= 0) kutu->setCurrentIndex(sira);
     QCoreApplication::processEvents();
@@ -92,7 +92,7 @@ TEST_F(TopluHazirlama, ADoubleClickIsOneRun) {
 TEST_F(TopluHazirlama, GivenUpInAnyWayNothingIsSavedAndTheScreenGoesOn) {
   const std::function<void()> yollar[] = {
       [&] {
-        QCoreApplication::postEvent(&form->YaziKutusu("kod"),
+        QCoreApplication::postEvent(&YaziBul(*form, "kod"),
                                     new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
       },
       [&] { QTimer::singleShot(0, form, [&] { QTest::keyClick(alan.windowHandle(), Qt::Key_Escape); }); },

@@ -73,7 +73,7 @@ TEST_F(KisiEkranlari, ARowThatCannotBeSavedStaysWithItsPerson) {
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Uyarı: Eş ve Çocuk Bilgileri Güncellenemedi"});
   EXPECT_EQ(AlanMetni(form, "kod"), "001");
   EXPECT_EQ(Utf8(liste.TextByName(0, "adi")), "Efe");
-  form.Denetim("kod").Odak()->setFocus();
+  AlanBul(form, "kod").Odak()->setFocus();
   ortam.Yaz("002\n");
   EXPECT_EQ(AlanMetni(form, "kod"), "001");
   EXPECT_TRUE(liste.hasFocus());

@@ -13,7 +13,7 @@ inline std::string MetinBas(EkranOrtami& ortam, const std::string& baslik) {
   EkranOrtami::ModaldaYap([&] {
     auto& ayar = *QApplication::activeModalWidget()->findChild<yzcsetup*>();
     EXPECT_EQ(AlanMetni(ayar, "YzcBaslik"), baslik);
-    ayar.Denetim("mod").Odaklar()[1]->setFocus();
+    AlanBul(ayar, "mod").Odaklar()[1]->setFocus();
     ortam.Bas(Qt::Key_Space);
     for (auto* dugme : ayar.findChildren<QPushButton*>())
       if (dugme->text().contains("Dosyaya")) return dugme->click();

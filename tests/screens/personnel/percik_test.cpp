@@ -1,6 +1,7 @@
 // Leaving, by keys.
 #include "screens/personnel/percik.h"
 
+#include "core/saat.h"
 #include "ekran/ortam.h"
 #include "personnel/kart.h"
 #include "screens/personnel/metinbas.h"
@@ -46,7 +47,7 @@ TEST_F(Percik, ChecksTellTheirWordsAndLeadToTheirFields) {
     EXPECT_EQ(ortam.Odak(), odak);
   };
   basinca("Giriş Tarihi Hatası", "girtar");
-  form->Denetim("kod").Odak()->setFocus();
+  AlanBul(*form, "kod").Odak()->setFocus();
   ortam.Yaz("001\n");
   EXPECT_EQ(Metin("adSoyad") + Metin("girtar"), "Ali Veli01.01.2005");
   ortam.Yaz("\n31022009\n");
@@ -91,8 +92,9 @@ TEST_F(Percik, AnExitIsOverwrittenAndTakenBack) {
 }
 
 TEST_F(Percik, SumsFollowTheCellsAndGoOnThePaper) {
+  const SabitGun gun(Tarih(2009, 8, 1));
   ortam.Yaz("001\n");
-  form->Denetim("tel").Odak()->setFocus();
+  AlanBul(*form, "tel").Odak()->setFocus();
   ortam.Yaz("0312\n");
   ASSERT_TRUE(Liste("odemeler").hasFocus());
   EXPECT_EQ(Toplam("brut"), "0.00");
@@ -108,11 +110,11 @@ TEST_F(Percik, SumsFollowTheCellsAndGoOnThePaper) {
 
   const std::string kagit = MetinBas(ortam, "İBRANAME");  // with the cell still open
   for (const std::string& parca : {std::string("Ali Veli"), std::string("0312"), std::string("12,345,678.00"),
-                                   std::string("877.50"), Tarih::Bugun().Metin()})
+                                   std::string("877.50"), std::string("01.08.2009")})
     EXPECT_NE(kagit.find(parca), kagit.npos) << parca;
 
   QApplication::setActiveWindow(form);
-  form->Denetim("kod").Odak()->setFocus();
+  AlanBul(*form, "kod").Odak()->setFocus();
   ortam.Yaz("002\n");
   EXPECT_EQ(Toplam("brut") + Toplam("odenen"), "0.000.00") << "payments are one person's";
 }

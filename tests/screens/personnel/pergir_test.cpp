@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 
+#include "core/saat.h"
 #include "ekran/ortam.h"
 #include "personnel/kart.h"
 #include "personnel/kimlik.h"
@@ -11,19 +12,20 @@
 namespace belvani::test {
 namespace {
 
-const std::string Bugun = Tarih::Bugun().Metin();
-const std::string Yarin = Tarih::Bugun().Ekle(1).Metin();
+const std::string Bugun = "31.03.2009";
+const std::string Yarin = "01.04.2009";
 constexpr auto Dikkat =
     "Uyarı: * * *  D İ K K A T * * * \nİşe giriş tarihi işlem tarihinden en az 1 gün sonra olması tavsiye edilir";
 
 struct Pergir : testing::Test {
+  const SabitGun gun{Tarih(2009, 3, 31)};
   EkranOrtami ortam;
   pergir* form = nullptr;
 
   void SetUp() override { form = &ortam.Ac<pergir>(ortam.parametreler); }
   std::string Metin(std::string_view ad) { return AlanMetni(*form, ad); }
   void Alana(std::string_view ad, const std::string& metin) {
-    form->Denetim(ad).Odak()->setFocus();
+    AlanBul(*form, ad).Odak()->setFocus();
     metin.empty() ? ortam.Bas(Qt::Key_Delete) : ortam.Yaz((metin + "\n").c_str());
   }
 };
@@ -58,7 +60,7 @@ TEST_F(Pergir, ANewPersonIsEnteredInTheOrderOfThePaper) {
   EXPECT_EQ(Metin("kod") + Metin("adi") + Metin("uyruk"), "002T.C.");
   ortam.Bas(Qt::Key_PageUp);
   EXPECT_EQ(Metin("adi") + Metin("eskiUnvan") + Metin("sandikNo0"), "Işıl") << "of the paper alone, not kept";
-  EXPECT_FALSE(MantikDegeri(form->Denetim("sandik0").Oku()));
+  EXPECT_FALSE(MantikDegeri(AlanBul(*form, "sandik0").Oku()));
 }
 
 TEST_F(Pergir, BothDatesAreJudgedBeforeSavingAndPrinting) {
@@ -105,11 +107,11 @@ TEST_F(Pergir, AKnownPersonKeepsWhatTheScreenDoesNotShow) {
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{}) << "a person who is not seen yet is shown, not overwritten";
   EXPECT_EQ(Metin("adi") + Metin("girtar"), "Işıl01.01.2005");
 
-  EXPECT_TRUE(form->YaziKutusu("tahsisno").isReadOnly());
-  form->Denetim("emekliTercihi").Odak()->setFocus();
+  EXPECT_TRUE(YaziBul(*form, "tahsisno").isReadOnly());
+  AlanBul(*form, "emekliTercihi").Odak()->setFocus();
   for (const bool acik : {true, false}) {
     ortam.Bas(Qt::Key_Down);  // "S.G.D.P.", then "Tüm Sigorta Kolları"
-    EXPECT_EQ(form->YaziKutusu("tahsisno").isReadOnly(), !acik);
+    EXPECT_EQ(YaziBul(*form, "tahsisno").isReadOnly(), !acik);
   }
   Alana("soyadi", "Şen");
   Alana("islemTarihi", "31122004");
@@ -125,7 +127,7 @@ TEST_F(Pergir, ThePaperHasWhatIsOnTheScreen) {
   Alana("girtar", Yarin);
   Alana("sskdurum", "02");
   Alana("eskiAdres", "Eski Cad.");
-  const std::string kol = Utf8(dynamic_cast<QComboBox&>(*form->Denetim("sskdurum").Odak()).currentText());
+  const std::string kol = Utf8(dynamic_cast<QComboBox&>(*AlanBul(*form, "sskdurum").Odak()).currentText());
   const std::string kagit = MetinBas(ortam, "Sigortalı İşe Giriş Bildirgesi");
   for (const std::string& parca : {std::string("Ali"), Yarin, Bugun, kol.substr(0, 3), std::string("Eski Cad.")})
     EXPECT_NE(kagit.find(parca), kagit.npos) << parca;

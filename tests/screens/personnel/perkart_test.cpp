@@ -29,7 +29,7 @@ struct Perkart : testing::Test {
   void Ekle(const Sicil& kisi) { ASSERT_TRUE(KartKaydet(ortam.oturum, {.simdi = kisi})); }
   void Ac() { form = &ortam.Ac<perkart>(ortam.parametreler); }
   std::string Metin(std::string_view ad) { return AlanMetni(*form, ad); }
-  int Sira(std::string_view ad) { return int(TamDegeri(form->Denetim(ad).Oku())); }
+  int Sira(std::string_view ad) { return int(TamDegeri(AlanBul(*form, ad).Oku())); }
   std::size_t Sayi(const char* tablo) {
     auto komut = ortam.oturum.depo.db.IcMotor().Hazirla(std::string("select count(*) from ") + tablo);
     komut->Adim();
@@ -54,7 +54,7 @@ TEST_F(Perkart, PeopleAreEnteredOneAfterTheOtherByKeysAlone) {
   EXPECT_EQ(Metin("adi"), "");
   EXPECT_EQ(Sira("ucrettipi"), 0);
   ortam.Yaz("002\nÖmer\n");
-  form->Denetim("girtar").Odak()->setFocus();
+  AlanBul(*form, "girtar").Odak()->setFocus();
   ortam.Yaz("01022006");
   ortam.Bas(Qt::Key_F5);
 
@@ -101,18 +101,18 @@ TEST_F(Perkart, TheMinimumWageIsShownClosedAndStored) {
   Ac();
   ortam.Yaz("001\n");
   EXPECT_EQ(Metin("ucret"), "693.00");
-  form->Denetim("ucrettipi").Odak()->setFocus();
+  AlanBul(*form, "ucrettipi").Odak()->setFocus();
   ortam.Yaz("B");
   EXPECT_EQ(Metin("ucret"), "500.00");
-  EXPECT_FALSE(form->YaziKutusu("ucret").isReadOnly());
+  EXPECT_FALSE(YaziBul(*form, "ucret").isReadOnly());
   ortam.Yaz("\n700");
-  form->Denetim("ucrettipi").Odak()->setFocus();
+  AlanBul(*form, "ucrettipi").Odak()->setFocus();
   ortam.Bas(Qt::Key_End);
   EXPECT_EQ(Metin("ucret"), "693.00");
-  EXPECT_TRUE(form->YaziKutusu("ucret").isReadOnly());
+  EXPECT_TRUE(YaziBul(*form, "ucret").isReadOnly());
   ortam.Bas(Qt::Key_F5);
   EXPECT_EQ(KartBul(ortam.oturum, "001")->ucret, Tutar(693));
-  EXPECT_FALSE(form->YaziKutusu("ucret").isReadOnly()) << "the next person's wage could not be typed";
+  EXPECT_FALSE(YaziBul(*form, "ucret").isReadOnly()) << "the next person's wage could not be typed";
 }
 
 TEST_F(Perkart, MovesStopAtTheEnds) {
@@ -136,7 +136,7 @@ TEST_F(Perkart, DeleteLeavesPayRecordsAndLooksAtTheTypedCodeFirst) {
   ortam.oturum.depo.db.IcMotor().Calistir("insert into brd (yil, ay, no, kod) values (2009, 7, 1, '001')");
   Ac();
   ortam.Yaz("002\n");
-  form->Denetim("kod").Odak()->setFocus();
+  AlanBul(*form, "kod").Odak()->setFocus();
   ortam.Yaz("001");
   ortam.Bas(Qt::Key_F7);  // 002 is still on the screen
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
