@@ -10,6 +10,7 @@
 #include "ui/resim.h"
 #include "ui/simge.h"
 #include "ui/stil.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {

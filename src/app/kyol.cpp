@@ -4,6 +4,7 @@
 
 #include "core/turkce.h"
 #include "ui/metin.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {

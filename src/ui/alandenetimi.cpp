@@ -8,6 +8,7 @@
 #include <QStylePainter>
 
 #include "ui/metin.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {
@@ -210,6 +211,10 @@ class SecenekDenetimi final : public AlanDenetimi {
 };
 
 }  // namespace
+
+xtext* AlanDenetimi::YaziKutusu() {
+  return dynamic_cast<xtext*>(Odak());
+}
 
 std::optional<Kusur> AlanDenetimi::Kusuru() const {
   const std::string kusur = AlanKusuru(alan_, Oku());

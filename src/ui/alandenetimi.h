@@ -7,9 +7,10 @@
 #include <optional>
 
 #include "core/tables/alansatiri.h"
-#include "ui/xtext.h"
 
 namespace belvani {
+
+class xtext;
 
 class AlanDenetimi {
  public:
@@ -36,7 +37,7 @@ class AlanDenetimi {
   // The user changed it. Held off while the program loads values.
   std::function<void()> Degisti = [] {};
 
-  xtext* YaziKutusu() { return dynamic_cast<xtext*>(Odak()); }
+  xtext* YaziKutusu();  // null for another kind
 
  protected:
   belvani::Alan alan_;

@@ -7,10 +7,12 @@
 
 #include "core/dosya.h"
 #include "printing/excelkont.h"
+#include "printing/yazdir.h"
 #include "ui/metin.h"
 #include "ui/onizleme.h"
 #include "ui/perekr.h"
 #include "ui/uzunis.h"
+#include "ui/yzcsetup.h"
 
 namespace belvani {
 namespace {

@@ -5,10 +5,13 @@
 #include <functional>
 #include <memory>
 
-#include "printing/belge.h"
-#include "ui/yzcsetup.h"
+#include "ui/ekran.h"
 
 namespace belvani {
+
+class Belge;
+enum class YzcKarar;
+struct YzcAyarlari;
 
 // " Yazıcıya Yazdır": opens yzcsetup and does what its user decides: printer, preview (and back to the dialog), PDF, or
 // the bytes of a dot-matrix print in a file. What goes wrong is told, and the dialog comes back with nothing lost.

@@ -9,13 +9,13 @@
 
 #include "core/bildirim.h"
 #include "core/session/oturum.h"
-#include "printing/yazdir.h"
 
 class QWidget;
 
 namespace belvani {
 
 class Form;
+struct BaskiOrtami;  // printing/yazdir.h; most screens print nothing
 
 enum class FormModu {
   Serbest,  // a child of the main window, beside the others

@@ -12,6 +12,7 @@
 #include "ui/dclist.h"
 #include "ui/metin.h"
 #include "ui/simge.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "printing/cairotuval.h"
 #include "ui/metin.h"
 #include "ui/onizleme.h"
 

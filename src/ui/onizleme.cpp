@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "printing/cairotuval.h"
 #include "ui/metin.h"
 
 namespace belvani {

@@ -6,11 +6,12 @@
 #include <QScrollArea>
 #include <memory>
 
-#include "printing/cairotuval.h"
 #include "printing/cizilenbelge.h"
 #include "ui/form.h"
 
 namespace belvani {
+
+class ResimTuvali;
 
 class onizleme : public Form {
  public:

@@ -5,6 +5,7 @@
 #include <QLabel>
 
 #include "ui/metin.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {

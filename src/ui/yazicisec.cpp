@@ -1,5 +1,6 @@
 #include "ui/yazicisec.h"
 
+#include "printing/yazdir.h"
 #include "ui/dclist.h"
 #include "ui/metin.h"
 

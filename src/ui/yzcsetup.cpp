@@ -3,6 +3,7 @@
 #include <QRadioButton>
 #include <algorithm>
 
+#include "printing/yazdir.h"
 #include "ui/metin.h"
 #include "ui/yazicisec.h"
 

@@ -20,8 +20,10 @@
 #include "payroll/parametre/mevzuat.h"
 #include "printing/sahtekuyruk.h"
 #include "printing/sahteport.h"
+#include "printing/yazdir.h"
 #include "ui/form.h"
 #include "ui/metin.h"
+#include "ui/xtext.h"
 
 namespace belvani::test {
 

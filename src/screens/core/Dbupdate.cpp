@@ -6,6 +6,7 @@
 
 #include "ui/metin.h"
 #include "ui/uzunis.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "core/session/sirketlistesi.h"
+#include "printing/belge.h"
 #include "printing/kolonlar.h"
 #include "ui/basim.h"
 #include "ui/metin.h"

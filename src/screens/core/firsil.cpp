@@ -2,6 +2,7 @@
 
 #include "core/session/sirketlistesi.h"
 #include "ui/metin.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 

@@ -17,6 +17,7 @@
 #include "ui/form.h"
 #include "ui/metin.h"
 #include "ui/renk.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {

@@ -4,6 +4,7 @@
 
 #include "core/session/yapiayari.h"
 #include "ui/metin.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {

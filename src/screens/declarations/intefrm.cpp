@@ -2,6 +2,7 @@
 
 #include "core/turkce.h"
 #include "declarations/ebildirgeadresi.h"
+#include "printing/yazdir.h"
 #include "ui/metin.h"
 
 namespace belvani {

@@ -3,9 +3,11 @@
 #include "declarations/bildirgeformu.h"
 #include "declarations/bildirgetablosu.h"
 #include "declarations/formresimleri.h"
+#include "printing/yazdir.h"
 #include "screens/declarations/yzckopy.h"
 #include "ui/basim.h"
 #include "ui/uzunis.h"
+#include "ui/yzcsetup.h"
 
 namespace belvani {
 namespace {

@@ -10,6 +10,7 @@
 #include "ui/metin.h"
 #include "ui/pencere.h"
 #include "ui/uzunis.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {

@@ -6,6 +6,7 @@
 #include "payroll/hesap/satirlar.h"
 #include "payroll/parametre/ekrankurallari.h"
 #include "ui/metin.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {

@@ -3,6 +3,7 @@
 #include "core/turkce.h"
 #include "ui/metin.h"
 #include "ui/uzunis.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 ParametreEkrani::ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, const QString& kelime,

@@ -3,6 +3,7 @@
 #include "core/turkce.h"
 #include "payroll/hesap/sendikaaidati.h"
 #include "ui/metin.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {

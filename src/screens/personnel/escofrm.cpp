@@ -6,6 +6,7 @@
 #include "personnel/kart.h"
 #include "ui/cakisma.h"
 #include "ui/metin.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {

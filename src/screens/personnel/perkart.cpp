@@ -10,6 +10,7 @@
 #include "screens/personnel/sigortakollari.h"
 #include "ui/cakisma.h"
 #include "ui/metin.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {

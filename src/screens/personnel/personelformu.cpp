@@ -4,6 +4,7 @@
 #include "personnel/kimlik.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 
