@@ -34,7 +34,7 @@ struct Sirket : Komut {
   }
 };
 
-TEST(Bildirge, HesapVeDosya) {
+TEST(Bildirge, CalculationAndFile) {
   const Sirket s;
   const std::string komut = "bildirge deneme --yil 2009 --ay 7";
   const auto json = s(komut).Json();
@@ -75,7 +75,7 @@ TEST(Bildirge, HesapVeDosya) {
   EXPECT_THAT(s("bildirge deneme --yil 2009 --ay 6 --bicim xml").mesaj, HasSubstr("Bildirge Hesaplatılmamış\n"));
 }
 
-TEST(Bildirge, KagitVeTablo) {
+TEST(Bildirge, PaperAndSpreadsheet) {
   const Sirket s;
   const std::string ay = "bildirge deneme --yil 2009 --ay 7";
   const struct {

@@ -9,7 +9,7 @@ using test::Sigortali;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-TEST(AylikBildirge, SecimSiralamaVeAtlananlar) {
+TEST(AylikBildirge, ChoiceOrderAndWhoIsLeftOut) {
   BildirgeSirketi s;
   const auto ekle = [&](const char* kod, const char* sskno, const char* kanun, int durum) -> Sigortali {
     Sigortali p(kod);
@@ -57,7 +57,7 @@ TEST(AylikBildirge, SecimSiralamaVeAtlananlar) {
   EXPECT_EQ(b.toplamlar, BildirgeToplamlari());
 }
 
-TEST(AylikBildirge, OncekiAylaKarsilastirir) {
+TEST(AylikBildirge, ComparesWithTheMonthBefore) {
   BildirgeSirketi s;
   const auto onceki = [&](const char* kod, int yil, int ay, double matrah, int gun) {
     Sigortali p(kod, yil, ay);
@@ -87,7 +87,7 @@ TEST(AylikBildirge, OncekiAylaKarsilastirir) {
   EXPECT_EQ(s.Kolon(&BildirgeSatiri::primkazanc)[6], Tutar(2.0)) << "compared as stored, shown converted";
 }
 
-TEST(AylikBildirge, TersDonemVeTehlikeOrani) {
+TEST(AylikBildirge, ReversedPeriodAndRateOfDanger) {
   BildirgeSirketi s;
   s.motor().Calistir("update firma set tersfirma = 1, tehlike = 1, sinif = 1");
   Sigortali p("1");
@@ -100,7 +100,7 @@ TEST(AylikBildirge, TersDonemVeTehlikeOrani) {
   EXPECT_EQ(s.bildirge.GenelToplamMetni(), "168.00") << "13 + 125 + 0 + 30";
 }
 
-TEST(AylikBildirge, SatirlarDuzenlenirVeSilinir) {
+TEST(AylikBildirge, RowsAreEditedAndDeleted) {
   BildirgeSirketi s;
   Sigortali p("1");
   p.brd.katki = Tutar(50.0);
@@ -140,7 +140,7 @@ TEST(AylikBildirge, SatirlarDuzenlenirVeSilinir) {
 }
 
 // Rows keep their numbers whatever is deleted, and a number is never given twice.
-TEST(AylikBildirge, SatirKimligiSilmekleDegismez) {
+TEST(AylikBildirge, DeletingDoesNotRenumberRows) {
   BildirgeSirketi s;
   for (const char* kod : {"1", "2", "3"}) s.Ekle(Sigortali(kod));
   const Bildirge& b = s.Hesapla();
@@ -160,7 +160,7 @@ TEST(AylikBildirge, SatirKimligiSilmekleDegismez) {
   EXPECT_EQ(b.satirlar.size(), 2u);
 }
 
-TEST(AylikBildirge, OkunamayanDepoSoylenir) {
+TEST(AylikBildirge, AnUnreadableStoreIsTold) {
   BildirgeSirketi s;
   s.Ekle(Sigortali("1"));
   s.Hesapla();
@@ -177,7 +177,7 @@ TEST(AylikBildirge, OkunamayanDepoSoylenir) {
   EXPECT_EQ(acildi->front().derece, Derece::Bilgi);
 }
 
-TEST(AylikBildirge, KagitKosullari) {
+TEST(AylikBildirge, ConditionsOfThePaper) {
   using Karar = AylikBildirge::CiktiKarari;
   using enum AylikBildirge::Cikti;
   BildirgeSirketi s;
@@ -209,7 +209,7 @@ TEST(AylikBildirge, KagitKosullari) {
 }
 
 // Faults come as values that know their row; what may be let through is asked in its place.
-TEST(AylikBildirge, KontrolKisiyiVeSatiriSoyler) {
+TEST(AylikBildirge, TheCheckTellsPersonAndRow) {
   BildirgeSirketi s;
   for (const char* kod : {"1", "2", "3"}) {
     Sigortali p(kod);

@@ -27,7 +27,7 @@ std::vector<std::string> SatirlarDolu(const std::string& metin) {
   return satirlar;
 }
 
-TEST(BildirgeFormu, SayfalarVeToplamlari) {
+TEST(BildirgeFormu, PagesAndTheirTotals) {
   const struct {
     int kisi;
     std::vector<std::size_t> sonlar;  // rows up to the end of each page
@@ -57,7 +57,7 @@ TEST(BildirgeFormu, SayfalarVeToplamlari) {
   }
 }
 
-TEST(BildirgeFormu, DegerlerYerlerinde) {
+TEST(BildirgeFormu, ValuesStandInTheirPlaces) {
   BildirgeKagidi kagit = Kagit(8);
   kagit.mahiyet = BelgeMahiyeti::Ek;
   kagit.satirlar[7] = test::Satir(
@@ -96,7 +96,7 @@ TEST(BildirgeFormu, DegerlerYerlerinde) {
   for (const auto& [ad, deger] : devam) EXPECT_EQ(Deger(sayfalar[1], ad), deger) << ad;
 }
 
-TEST(BildirgeFormu, BosFormdaYalnizSirketVar) {
+TEST(BildirgeFormu, AnEmptyFormHasTheCompanyAlone) {
   const auto sayfalar = BildirgeSayfalari(Kagit(0));
   ASSERT_EQ(sayfalar.size(), 1u);
   for (const char* ad : {"sayfa.gun", "sayfa.kazanc", "toplam.sigortali", "brans0.oran", "geneltoplam"})
@@ -106,7 +106,7 @@ TEST(BildirgeFormu, BosFormdaYalnizSirketVar) {
 
 // Boxes of values lie on the sheet and apart from each other, and each value stands whole on the line and at the letter
 // of its box also in the text form.
-TEST(BildirgeFormu, MatbuMetniCizimleAyniYerde) {
+TEST(BildirgeFormu, TextForThePrintedFormStandsWhereTheDrawingHasIt) {
   EksikGunFormu eksik;
   eksik.kisiler.assign(21, {.sskno = "3401", .adi = "Işıl", .gun = 15, .eksikGun = 15, .sebep = 6});
   std::vector<FormSayfasi> sayfalar = BildirgeSayfalari(Kagit(58));
@@ -130,7 +130,7 @@ TEST(BildirgeFormu, MatbuMetniCizimleAyniYerde) {
   }
 }
 
-TEST(FormMetni, HarfVeBasamakYerleri) {
+TEST(FormMetni, PlacesOfLettersAndDigits) {
   FormKurucu f(A4(KagitYonu::Yatay));
   f.Alan("metin", SatirYeri(KagitSolu, 0, 10 * HarfMm), "Işıl Öğütçü'nün adı");
   f.Alan("sayi", SatirYeri(KagitSolu + 20 * HarfMm, 0, 6 * HarfMm), "1,234.50", MetinHizasi::Sag);
@@ -142,7 +142,7 @@ TEST(FormMetni, HarfVeBasamakYerleri) {
   EXPECT_EQ(satirlar.size(), 49u + 1) << "a sheet across";
 }
 
-TEST(BildirgeKagidi, EkranaBakarVePrimlerToplamiVerir) {
+TEST(BildirgeKagidi, FollowsTheScreenAndPremiumsGiveTheTotal) {
   BildirgeSirketi s;
   s.yasal.oranlar.IsverenOran[0].ana = Tek(1.0);
   Sigortali kisi("001");
@@ -163,7 +163,7 @@ TEST(BildirgeKagidi, EkranaBakarVePrimlerToplamiVerir) {
   EXPECT_THAT(SatirlarDolu(BildirgeYazdir(kagit)), testing::Contains(testing::HasSubstr("Çağ001")));
 }
 
-TEST(FormResimleri, EksikGunSayfalari) {
+TEST(FormResimleri, PagesOfMissingDays) {
   const std::vector<BildirgeSatiri> satirlar{test::Satir("adi=Ada|gun=30"),
                                              test::Satir("adi=Işıl|gun=15|eksik=6|eksikgunsayisi=15")};
   EksikGunFormu form{.yil = 2009, .ay = 7, .kisiler = EksikGunKisileri(satirlar)};

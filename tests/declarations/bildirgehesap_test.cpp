@@ -30,7 +30,7 @@ struct Hesap {
   }
 };
 
-TEST(BildirgeHesap, SatirVeToplamlar) {
+TEST(BildirgeHesap, RowAndTotals) {
   const Hesap hesap;
   Sigortali s("001");
   s.sicil.meslekkod = "2411.03";
@@ -53,7 +53,7 @@ TEST(BildirgeHesap, SatirVeToplamlar) {
   EXPECT_EQ(b.DevletKatki, Tutar(50.0));
 }
 
-TEST(BildirgeHesap, BranslaraDurumKararVerir) {
+TEST(BildirgeHesap, TheStatusDecidesTheBranches) {
   const Hesap hesap;
   const struct {
     const char* ad;
@@ -73,7 +73,7 @@ TEST(BildirgeHesap, BranslaraDurumKararVerir) {
   }
 }
 
-TEST(BildirgeHesap, DonemSinirlari) {
+TEST(BildirgeHesap, BordersOfThePeriod) {
   const Hesap hesap;
   const BordroDonemi temmuz{2009, 7}, ters{2008, 12, DonemTuru::Ters};
   const struct {
@@ -95,7 +95,7 @@ TEST(BildirgeHesap, DonemSinirlari) {
   }
 }
 
-TEST(BildirgeHesap, EksikGunlerVeParaBirimleri) {
+TEST(BildirgeHesap, MissingDaysAndCurrencies) {
   const Hesap hesap;
   for (const int gun : {0, 1, 29, 30}) {
     Sigortali s("1");
@@ -119,7 +119,7 @@ TEST(BildirgeHesap, EksikGunlerVeParaBirimleri) {
   }
 }
 
-TEST(BildirgeHesap, YenidenToplamaIlkindenAyrilir) {
+TEST(BildirgeHesap, AddingAgainDiffersFromTheFirstTime) {
   const Hesap hesap;
   Sigortali s("1");
   s.brd.sskmatrah = {};
@@ -137,7 +137,7 @@ TEST(BildirgeHesap, YenidenToplamaIlkindenAyrilir) {
       << "who has days counts as one with paid leave";
 }
 
-TEST(BildirgeHesap, OranlarVePrimler) {
+TEST(BildirgeHesap, RatesAndPremiums) {
   const Hesap hesap;
   YasalParametreler yasal = hesap.yasal;
   yasal.oranlar.IsciOran[1].mal = Tek(8.5);
@@ -156,7 +156,7 @@ TEST(BildirgeHesap, OranlarVePrimler) {
   EXPECT_EQ(p.genelToplam, Tutar(355.01)) << "with the maternity premium, without the state's contribution";
 }
 
-TEST(BildirgeSatiri, HucreyeYazilan) {
+TEST(BildirgeSatiri, WhatIsTypedIntoACell) {
   const struct {
     const char* kolon;
     const char* yazilan;
@@ -193,7 +193,7 @@ TEST(BildirgeSatiri, HucreyeYazilan) {
 }
 
 // Fields show a zero as nothing: to leave one as it was is no edit, and to empty any other number is one.
-TEST(BildirgeSatiri, SifirVeBosAyridir) {
+TEST(BildirgeSatiri, ZeroAndEmptyAreTwoThings) {
   const BildirgeKolonu& gun = *BildirgeKolonuBul("gun");
   BildirgeSatiri satir;
   EXPECT_EQ(HucreMetni(satir, gun, 2), "");

@@ -22,7 +22,7 @@ std::string Sablon() {
   return DosyaOku(test::KaynakYolu("data/sablon/aylik.xlsx")).value();
 }
 
-TEST(BildirgeTablosu, HucrelerAdreslerinde) {
+TEST(BildirgeTablosu, CellsStandAtTheirAddresses) {
   BildirgeKagidi kagit = Kagit(2);
   kagit.satirlar.push_back(test::Satir("sigkol=|tcno=1|primkazanc=5000|gun=9"));
   kagit.satirlar.push_back(
@@ -124,7 +124,7 @@ TEST(BildirgeTablosu, HucrelerAdreslerinde) {
 }
 
 // In a merged box only the upper left cell is seen.
-TEST(BildirgeTablosu, SablondaHerAdresinKutusuVar) {
+TEST(BildirgeTablosu, TheTemplateHasABoxForEachAddress) {
   std::set<std::string> kutular;
   pugi::xml_document sayfa;
   const std::string xml = test::XlsxParcasi(Sablon(), "xl/worksheets/sheet1.xml");
@@ -147,7 +147,7 @@ TEST(BildirgeTablosu, SablondaHerAdresinKutusuVar) {
   EXPECT_STREQ(sayfa.child("worksheet").child("pageSetup").attribute("orientation").value(), "landscape");
 }
 
-TEST(BildirgeTablosu, OnBirinciKisiEskiKalintiVeBosForm) {
+TEST(BildirgeTablosu, EleventhPersonOldRemainsAndEmptyForm) {
   auto eski = XlsxSablon::Ac(Sablon());
   for (const char* adres : {"AP101", "HZ146", "DP19", "HE18"}) ASSERT_TRUE(eski->Yaz("", adres, std::string("eski")));
   BildirgeKagidi kagit = Kagit(1);
@@ -171,7 +171,7 @@ TEST(BildirgeTablosu, OnBirinciKisiEskiKalintiVeBosForm) {
   EXPECT_FALSE(BildirgeTablosuYap("tablo değil", Kagit(1)));
 }
 
-TEST(BildirgeTablosu, SablonunYeri) {
+TEST(BildirgeTablosu, PlaceOfTheTemplate) {
   const test::GeciciDizin d;
   const std::string kullanici = d.Yol() + "veri/", program = d.Yol() + "program/";
   const std::vector dizinler{kullanici, program};

@@ -35,7 +35,7 @@ struct Dogru {
   BildirgeDosyasi Xml() const { return BildirgeXml(b, isyeri, Yuvarlayici(2)); }
 };
 
-TEST(BildirgeKontrol, IlkKusurSoylenir) {
+TEST(BildirgeKontrol, TheFirstFaultIsTold) {
   const std::string kisi = "\nIşıl Çağ";
   const struct {
     std::string ileti;  // "" when the check passes
@@ -83,7 +83,7 @@ TEST(BildirgeKontrol, IlkKusurSoylenir) {
 }
 
 // What may be let through does not hide the next fault of the same row, nor one row those of the others.
-TEST(BildirgeKontrol, HerSatirinKusuruVar) {
+TEST(BildirgeKontrol, EachRowHasItsFault) {
   Dogru d;
   d.b.satirlar.resize(3, d.Ilk());
   d.b.satirlar[0].tcno = "";
@@ -97,7 +97,7 @@ TEST(BildirgeKontrol, HerSatirinKusuruVar) {
   EXPECT_EQ(std::tuple(kusurlar[2].kod, kusurlar[2].satir, kusurlar[2].alan.ad), std::tuple("007", 3, "gun"));
 }
 
-TEST(BildirgeKontrol, IsyeriBilgileri) {
+TEST(BildirgeKontrol, FactsOfTheWorkplace) {
   Firma f;
   f.sektor = "2 ";
   f.sube = " 0101";
@@ -111,7 +111,7 @@ TEST(BildirgeKontrol, IsyeriBilgileri) {
   EXPECT_EQ(IsyeriniHazirla({}, "").IsyeriAdres, "");
 }
 
-TEST(BildirgeXml, BaytiBaytina) {
+TEST(BildirgeXml, ByteForByte) {
   Dogru d;
   d.Ilk().ilksoyadi = "Öz ";
   d.b.satirlar.push_back(
@@ -158,7 +158,7 @@ TEST(BildirgeXml, BaytiBaytina) {
   EXPECT_EQ(XmlDosyaAdi({.yil = 2003, .ay = 11, .kanun = 2}), "Bordro2112003.xml");
 }
 
-TEST(BildirgeXml, YazilamayanBilgilerSorulur) {
+TEST(BildirgeXml, ValuesThatCannotBeWrittenAreAsked) {
   Dogru d;
   d.isyeri.IsyeriUnvan = "Ali & Veli";
   d.Ilk().adi = "I\001ş\x7F\xC2\x85ıl\r\n";
@@ -172,7 +172,7 @@ TEST(BildirgeXml, YazilamayanBilgilerSorulur) {
   EXPECT_EQ(std::tuple(dosya.sorunlar[0].satir, dosya.sorunlar[2].satir), std::tuple(0, 1));
 }
 
-TEST(XmlYaz, SorularVeYazilamayanDosya) {
+TEST(XmlYaz, QuestionsAndAFileThatCannotBeWritten) {
   BildirgeSirketi s;
   for (int i = 0; i < 12; ++i) {
     Sigortali p(std::to_string(i + 10));
@@ -231,7 +231,7 @@ std::int64_t Sql(Motor& motor, const char* sql) {
   return komut->Adim() ? komut->Tam(0) : -1;
 }
 
-TEST(BildirgeXml, ToplamlarKayittanDosyayaAynidir) {
+TEST(BildirgeXml, TotalsAreTheSameFromTheRecordsToTheFile) {
   static BildirgeSirketi s;
   EXPECT_TRUE(rc::check([] {
     const auto kisiler = *rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 1'000'000));

@@ -49,7 +49,7 @@ PusulaBaslik Baslik() {
 
 constexpr const char* Gunler = "ng + ht + rt + ui + ha + mi";
 
-TEST(Belgeler, ToplamlarKayitlarinToplamidir) {
+TEST(Belgeler, TotalsAreTheSumsOfTheRecords) {
   const Rapor pusula = PusulaRaporu(Depo().Satirlar(DefterSirasi::Kisi), Baslik());
   const Rapor ozel = OzelBordroRaporu(Depo().Satirlar(DefterSirasi::SskNo), test::OrnekBaslik());
   const struct {
@@ -90,7 +90,7 @@ TEST(Belgeler, ToplamlarKayitlarinToplamidir) {
   EXPECT_EQ(Toplam(pusula, "Net Ödenen"), Toplam(ozel, "Agi+Net Ödeme"));
 }
 
-TEST(Belgeler, IcmalKayitlarinToplamidir) {
+TEST(Belgeler, TheSummaryIsTheSumOfTheRecords) {
   const auto ay = IcmalGirdileriOku(Depo().db.IcMotor(), Yil, Ay);
   const Icmal i = IcmalHesapla(ay, Tutar(638.7), kurus);
   const std::string gunlu = "yil = 2008 and ay = 7 and " + std::string(Gunler) + " > 0";
@@ -137,7 +137,7 @@ TEST(Belgeler, IcmalKayitlarinToplamidir) {
   EXPECT_EQ(rapor.Satirlar()[3].hucreler[2], Hucre(Null{})) << "income tax has no employer's side";
 }
 
-TEST(Belgeler, AgiVeIzinKayitlarinToplamidir) {
+TEST(Belgeler, AllowanceAndLeaveAreTheSumsOfTheRecords) {
   Motor& motor = Depo().db.IcMotor();
   DefterSecim secim;
   secim.yil = Yil;
@@ -163,7 +163,7 @@ TEST(Belgeler, AgiVeIzinKayitlarinToplamidir) {
   EXPECT_EQ(Toplam(donem, "T.İ.Gün"), Toplam(ozet, "Bu Yıl"));
 }
 
-TEST(Pusula, MetinYapragi) {
+TEST(Pusula, TextSlip) {
   PusulaBaslik baslik = Baslik();
   baslik.defter.firma.tersfirma = true;
   const YaprakBelgesi belge = PusulaBelgesi({test::AsgariUcretli(), test::Ayrilan()}, baslik);
@@ -184,7 +184,7 @@ TEST(Pusula, MetinYapragi) {
   EXPECT_EQ(belge.yapraklar[0].ek[6].etiket, "Yemek");
 }
 
-TEST(Icmal, AsgariUcretliGunuGununeSayilir) {
+TEST(Icmal, WhoEarnsTheMinimumIsCountedToTheDay) {
   const struct {
     const char* ad;
     double ucret;
@@ -207,7 +207,7 @@ TEST(Icmal, AsgariUcretliGunuGununeSayilir) {
   }
 }
 
-TEST(AgiListesi, KisilerVeBaslik) {
+TEST(AgiListesi, PeopleAndHeading) {
   AgiKisisi var{.kod = "1", .adSoyad = "Işıl Güneş", .agioran = Tek(67.5), .agimatrah = Tutar(608.4)};
   var.aylar[0] = Tutar(61.6);
   const AgiKisisi yok{.kod = "2", .adSoyad = "Ali Can", .agioran = {}, .agimatrah = {}};
@@ -219,7 +219,7 @@ TEST(AgiListesi, KisilerVeBaslik) {
     EXPECT_THAT(metin, HasSubstr(parca));
 }
 
-TEST(OzelBordro, GunsuzKayit) {
+TEST(OzelBordro, ARecordWithoutDays) {
   BordroSatiri satir = test::AsgariUcretli();
   satir.brd.ucret = Tutar(300.0);
   satir.brd.ng = satir.brd.ht = 0;
@@ -230,7 +230,7 @@ TEST(OzelBordro, GunsuzKayit) {
   EXPECT_TRUE(OzelBordroRaporu({}, test::OrnekBaslik()).sonBlok.empty());
 }
 
-TEST(Pusula, YardimAdlari) {
+TEST(Pusula, NamesOfTheAllowances) {
   test::OrnekDepo depo;
   Muaf satir;
   satir.no = 2;

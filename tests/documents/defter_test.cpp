@@ -34,7 +34,7 @@ std::vector<std::string> Basliklar(const Rapor& rapor) {
   return basliklar;
 }
 
-TEST(Defter, UcKisilikKagit) {
+TEST(Defter, PaperOfThreePeople) {
   DefterSecenek secenek = TumKolonlar();
   secenek.duzen.satirArasi = SatirArasi::CizgiCek;
   secenek.duzen.kolonArasi = KolonArasi::DikCizgi;
@@ -44,7 +44,7 @@ TEST(Defter, UcKisilikKagit) {
   EXPECT_EQ(CsvRaporu(DefterRaporu(ucKisi, test::OrnekBaslik(), TumKolonlar())), Altin("defter.csv"));
 }
 
-TEST(Defter, KolonAnahtarlari) {
+TEST(Defter, SwitchesOfColumns) {
   EXPECT_THAT(Basliklar(DefterRaporu({}, test::OrnekBaslik(), {})),
               testing::ElementsAre("Kod No", "S.S.K. No", "T.C. No", "Adı Soyadı", "N.G.", "TG.", "Toplam Brüt",
                                    "SSK Matrah", "SSK Prim", "İşsizlik", "Kümüle G.V.", "GV Matrahı", "GV Tutar",
@@ -61,13 +61,13 @@ TEST(Defter, KolonAnahtarlari) {
   EXPECT_EQ(DefterAnahtarAdlari().size(), DefterAnahtarSayisi);
 }
 
-TEST(Defter, DonemMetni) {
+TEST(Defter, TextOfThePeriod) {
   EXPECT_EQ(DonemMetni({2008, 1, DonemTuru::Takvim}), "Ocak 2008 DÖNEMİ");
   EXPECT_EQ(DonemMetni({2008, 1, DonemTuru::Ters}), "15.01.2008 İLE 14.02.2008 DÖNEMİ ");
   EXPECT_EQ(DonemMetni({2008, 12, DonemTuru::Ters}), "15.12.2008 İLE 14.01.2009 DÖNEMİ ");
 }
 
-TEST(Defter, Secenekler) {
+TEST(Defter, Options) {
   DefterSecenek secenek;
   secenek.icmal = false;
   EXPECT_TRUE(DefterRaporu(ucKisi, test::OrnekBaslik(), secenek).sonBlok.empty());

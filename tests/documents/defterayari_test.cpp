@@ -8,7 +8,7 @@
 namespace belvani {
 namespace {
 
-TEST(DefterAyari, Oku) {
+TEST(DefterAyari, ReadsTheFile) {
   const struct {
     const char* ad;
     const char* icerik;
@@ -39,7 +39,7 @@ TEST(DefterAyari, Oku) {
   }
 }
 
-TEST(DefterAyari, YazilanGeriOkunur) {
+TEST(DefterAyari, WhatIsWrittenIsReadBack) {
   const test::GeciciDizin dizin;
   const std::string dosya = dizin.Yol() + "bordro.ini";
   ASSERT_TRUE(DosyaYaz(dosya, "[Ozel]\nKalan=1\n"));

@@ -110,7 +110,7 @@ Tutar Toplam(const Rapor& rapor, std::string_view baslik) {
   return {};
 }
 
-TEST(Hedefler, HerKagitHerYoldaAyniTutar) {
+TEST(Hedefler, EveryPaperHasTheSameAmountsOnEveryRoad) {
   for (const unsigned tohum : {1u, 7u, 42u, 2009u}) {
     SCOPED_TRACE(tohum);
     test::DoluDepo depo(tohum, 8 + int(tohum % 40));

@@ -32,7 +32,7 @@ struct Belgelik {
   }
 };
 
-TEST(KayitliBelgeler, HerBicimdeCikar) {
+TEST(KayitliBelgeler, ComesOutInEveryForm) {
   Belgelik belgelik;
   for (const BelgeTanimi& tanim : Belgeler()) {
     SCOPED_TRACE(tanim.ekran);
@@ -52,7 +52,7 @@ TEST(KayitliBelgeler, HerBicimdeCikar) {
   }
 }
 
-TEST(KayitliBelgeler, AyarlarSoyledigiKadarDegistirir) {
+TEST(KayitliBelgeler, SettingsChangeWhatThePaperSays) {
   Belgelik belgelik;
   for (const BelgeTanimi& tanim : Belgeler()) {
     SCOPED_TRACE(tanim.ekran);
@@ -63,7 +63,7 @@ TEST(KayitliBelgeler, AyarlarSoyledigiKadarDegistirir) {
 }
 
 // What is entered in a field comes back out of it, and choices begin with values that a field can show.
-TEST(KayitliBelgeler, AlanlarSecimeYazar) {
+TEST(KayitliBelgeler, FieldsWriteIntoTheChoices) {
   for (const BelgeTanimi& tanim : Belgeler()) {
     SCOPED_TRACE(tanim.ekran);
     const auto secim = tanim.secim();

@@ -10,7 +10,7 @@ namespace {
 
 const Yuvarlayici kurus(2);
 
-TEST(Turetilen, DamgaVeNet) {
+TEST(Turetilen, StampDutyAndNet) {
   const struct {
     const char* ad;
     Brd brd;
@@ -33,7 +33,7 @@ TEST(Turetilen, DamgaVeNet) {
   }
 }
 
-TEST(Turetilen, Digerleri) {
+TEST(Turetilen, TheOthers) {
   const Brd brd = test::Ayrilan().brd;
   EXPECT_EQ(GvIndirimi(brd), Tutar(185.0));
   EXPECT_EQ(OdenecekSskPrimi(brd), Tutar(140.0 + 195 + 10 + 20 - 50));

@@ -15,7 +15,7 @@ std::string Deger(const FormSayfasi& sayfa, std::string_view ad) {
   return alan == sayfa.alanlar.end() ? "-" : alan->deger;
 }
 
-TEST(IsyeriNumarasi, GruplarMetindeVeKutularda) {
+TEST(IsyeriNumarasi, GroupsInTextAndBoxes) {
   Firma firma;
   EXPECT_EQ(IsyeriSicilNo(firma), "");
   EXPECT_EQ(IlKodu(firma), "000");
@@ -35,7 +35,7 @@ TEST(IsyeriNumarasi, GruplarMetindeVeKutularda) {
   EXPECT_LE(son.yer.x + son.yer.en, 10 + IsyeriNumarasiEni);
 }
 
-TEST(Taraflar, BosOlaninYerineOburu) {
+TEST(Taraflar, TheOtherStandsInForAnEmptyOne) {
   Firma firma;
   firma.epos = "a@b";
   firma.tckimlik = "10000000146";

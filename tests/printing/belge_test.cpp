@@ -40,7 +40,7 @@ std::vector<std::string> UstMetinleri(const Rapor& rapor) {
   return metinler;
 }
 
-TEST(Belge, BasliklarAyarlardan) {
+TEST(Belge, HeadsFollowTheSettings) {
   const Tarih gun(2008, 3, 9);
   YzcAyarlari ayar;
   ayar.YzcBaslik = "BENİM LİSTEM";
@@ -52,7 +52,7 @@ TEST(Belge, BasliklarAyarlardan) {
   EXPECT_THAT(UstMetinleri(BasligiAyarla(Liste(), ayar, "Çınar", gun)), ElementsAre("", "|Şubat|"));
 }
 
-TEST(Belge, SabitFormAyarlaDegismez) {
+TEST(Belge, SettingsDoNotChangeAStatutoryForm) {
   FormBelgesi form({}, {FormKurucu(A4(KagitYonu::Yatay)).Sayfa()}, "Işıl\n");
   EXPECT_EQ(form.Destek(), YzcDestegi{});
   test::AyarlariDenetle(form);
@@ -63,7 +63,7 @@ TEST(Belge, SabitFormAyarlaDegismez) {
   test::AyarlariDenetle(liste);
 }
 
-TEST(Belge, MetinSayfalariYaziciGibi) {
+TEST(Belge, TextPagesAreAsThePrinterHasThem) {
   const std::string genis(100, 'x');
   const MetinCizimi dar("bir\nAdı│Işıl\n\fiki\n", 66);
   const MetinCizimi sikisik(genis + "\n", 66);
@@ -107,7 +107,7 @@ struct Ortam {
   }
 };
 
-TEST(BelgeYazdir, GrafikIsiKuyruga) {
+TEST(BelgeYazdir, ADrawnJobGoesToTheQueue) {
   Ortam o;
   YzcAyarlari ayar;
   ayar.YzcBaslik = "LİSTE";
@@ -124,7 +124,7 @@ TEST(BelgeYazdir, GrafikIsiKuyruga) {
   EXPECT_EQ(o.Yazdir(ayar).KusurMetni(), YaziciYok);
 }
 
-TEST(BelgeYazdir, MetinBelprnUzerinden) {
+TEST(BelgeYazdir, TextGoesThroughBelprn) {
   Ortam o;
   YzcAyarlari ayar;
   ayar.YzcTamam = ayar.YzcDosMod = true;
@@ -144,7 +144,7 @@ TEST(BelgeYazdir, MetinBelprnUzerinden) {
 }
 
 // The whole road of a text: temporary file, belprn, print server, printer.
-TEST(BelgeYazdir, MetinGercekSunucuya) {
+TEST(BelgeYazdir, TextReachesARealServer) {
   const test::OzelCups cups;
   if (!cups.Hazir()) GTEST_SKIP() << "no print server on this computer";
   const auto sunucu = test::OrtamKoy("CUPS_SERVER", cups.Soket().c_str());
@@ -162,7 +162,7 @@ TEST(BelgeYazdir, MetinGercekSunucuya) {
   EXPECT_THAT(basilan, EndsWith("-\r\n\f"));
 }
 
-TEST(BelgeYazdir, DoluDiskteEskiDosyaKalir) {
+TEST(BelgeYazdir, OnAFullDiskTheOldFileStays) {
   Ortam o;
   YzcAyarlari ayar;
   ayar.YzcTamam = ayar.YzcDosMod = true;
@@ -186,7 +186,7 @@ TEST(BelgeYazdir, DoluDiskteEskiDosyaKalir) {
   EXPECT_EQ(o.Yazdir(ayar).KusurMetni(), "Dos Yazıcı Dosyası Açılamıyor");
 }
 
-TEST(BelgeYazdir, Port) {
+TEST(BelgeYazdir, ToAPort) {
   Ortam o;
   o.port.portSayisi = 1;
   EXPECT_THAT(YaziciListesi(o.baski)->back().ad, "LPT1:");

@@ -55,7 +55,7 @@ Rapor GenisRapor(int kolonSayisi) {
   return rapor;
 }
 
-TEST(Grafik, PdfMetniVeBaytlari) {
+TEST(Grafik, TextAndBytesOfThePdf) {
   const std::string harfler = "Işıl Öğütçü İğneadalı ŞÜKRÜYE ĞÇ │ 1,234.50";
   const auto ciz = [&] {
     PdfTuvali pdf({.baslik = "ÜCRET BORDROSU"});
@@ -91,7 +91,7 @@ std::string SayfaMetni(const std::string& yol, int sayfa) {
 
 // What pages have in common stands on each that asks for it and on no other, at its place, readable; a page that draws
 // through looks the same.
-TEST(Grafik, KalipSayfalarinOrtagi) {
+TEST(Grafik, AFormIsSharedByItsPages) {
   const test::GeciciDizin dizin;
   const auto sayfaYap = [](Tuval& sayfa, Tuval& kalip, const std::string& deger) {
     kalip.Kutu({20, 20, 60, 10});
@@ -118,7 +118,7 @@ TEST(Grafik, KalipSayfalarinOrtagi) {
 }
 
 // Slips, forms and lists share what is the same and nothing else.
-TEST(Grafik, KaliplariKaristirmaz) {
+TEST(Grafik, DoesNotMixUpForms) {
   const test::GeciciDizin dizin;
   const auto yaz = [&](const CizilenBelge& belge) {
     PdfTuvali pdf;
@@ -153,7 +153,7 @@ TEST(Grafik, KaliplariKaristirmaz) {
 }
 
 // The preview shows the asked page alone, with dots where the page has ink.
-TEST(Grafik, OnizlemeSayfasi) {
+TEST(Grafik, PageOfThePreview) {
   ResimTuvali resim(254, 2);
   for (int sayfa = 1; sayfa <= 3; ++sayfa) {
     resim.SayfaBasla(A4(KagitYonu::Yatay));
@@ -170,7 +170,7 @@ TEST(Grafik, OnizlemeSayfasi) {
   EXPECT_EQ(ResimTuvali(100, 9).En(), 0);
 }
 
-TEST(Grafik, KutuyaSigdirilir) {
+TEST(Grafik, FitsIntoTheBox) {
   KayitTuvali tuval;
   tuval.SayfaBasla(A4(KagitYonu::Dikey));
   MetinKutuya(tuval, {10, 10, 8, 5}, "123,456,789.00", {.punto = 10}, MetinHizasi::Sag);
@@ -180,7 +180,7 @@ TEST(Grafik, KutuyaSigdirilir) {
   EXPECT_NEAR(oge.Sag(), 18, 1e-6);
 }
 
-TEST(GrafikYazici, SayfaninSatirlari) {
+TEST(GrafikYazici, RowsOfThePage) {
   Rapor rapor = KalemRaporu({{.ad = "Işıl", .gun = Tarih(2008, 2, 29), .adet = 2, .tutar = Tutar(1234.5)}});
   rapor.ustSatirlar = {{.orta = "Şubat 2008"},
                        {.sol = "ÜNVANI : Çınar", .sag = "Sayfa : ", .sayfaNo = true, .sayfaSayisi = true}};
@@ -200,7 +200,7 @@ TEST(GrafikYazici, SayfaninSatirlari) {
 
 // At the border: as many rows as leave ten lines free fill one page; one more begins the next, with its own head and
 // sums. Everything lies inside the printable part of the sheet, and columns do not overlap.
-TEST(GrafikYazici, SayfaSinirlari) {
+TEST(GrafikYazici, BordersOfThePage) {
   const GrafikDuzeni duzen{.yon = {}, .punto = 10, .kolonArasi = KolonArasi::DikCizgi};
   const auto sayfala = [&](int adet) {
     KayitTuvali tuval;
@@ -224,7 +224,7 @@ TEST(GrafikYazici, SayfaSinirlari) {
   }
 }
 
-TEST(GrafikYazici, GenislikYonuVeBoyuSecer) {
+TEST(GrafikYazici, WidthChoosesOrientationAndSize) {
   const struct {
     const char* ad;
     int kolon;
@@ -262,7 +262,7 @@ TEST(GrafikYazici, GenislikYonuVeBoyuSecer) {
 }
 
 // One very long text is narrowed in its own cell; nothing is cut, and the others keep their size.
-TEST(GrafikYazici, UzunMetinKesilmez) {
+TEST(GrafikYazici, ALongTextIsNotCut) {
   const std::string uzun = "Abdurrahmanoğulları Çelebizadeoğlu";
   KayitTuvali tuval;
   const Rapor rapor = KalemRaporu({{.ad = uzun, .tutar = Tutar(1.0)}, {.ad = "Ali"}});

@@ -37,7 +37,7 @@ bool UstUste(const Oge& soldaki, const Oge& sagdaki) {
          soldaki.Sag() > sagdaki.kutu.x;
 }
 
-TEST(GrafikYapraklar, SayfayaBolunur) {
+TEST(GrafikYapraklar, BreaksIntoPages) {
   const struct {
     const char* ad;
     SayfadaYaprak sayfada;
@@ -81,7 +81,7 @@ TEST(GrafikYapraklar, SayfayaBolunur) {
   EXPECT_EQ(GrafikYapraklar(YaprakBelgesi{}, SayfadaYaprak::Iki).SayfaSayisi(), 0);
 }
 
-TEST(GrafikYapraklar, EtiketlerDolgusuz) {
+TEST(GrafikYapraklar, LabelsHaveNoFill) {
   KayitTuvali tuval;
   const YaprakBelgesi fis = Fisler(1, 1, Tutar());
   SayfalariCiz(GrafikYapraklar(fis, SayfadaYaprak::Iki), tuval);

@@ -17,7 +17,7 @@ using namespace std::string_literals;
 
 const std::string hamBaytlar = "\x9E\x1B\x00\x0C son\r\n"s;
 
-TEST(Kuyruk, CupsIsleri) {
+TEST(Kuyruk, JobsOfCups) {
   const test::OzelCups cups;
   if (!cups.Hazir()) GTEST_SKIP() << "no print server on this computer";
   CupsKuyrugu kuyruk(cups.Soket());
@@ -46,7 +46,7 @@ TEST(Kuyruk, CupsIsleri) {
               hata);
 }
 
-TEST(Kuyruk, SunucuVeYaziciYok) {
+TEST(Kuyruk, NoServerAndNoPrinter) {
   CupsKuyrugu kapali("/tmp/belvani-olmayan-soket");
   EXPECT_EQ(kapali.Yazicilar().KusurMetni(), "Yazıcı servisine ulaşılamıyor (CUPS çalışmıyor)");
   test::SahteKuyruk kuyruk;
@@ -56,7 +56,7 @@ TEST(Kuyruk, SunucuVeYaziciYok) {
   EXPECT_EQ(dosprint(kuyruk).Ac("", "İŞ").KusurMetni(), YaziciYok);
 }
 
-TEST(Belprn, DosyayiGonderir) {
+TEST(Belprn, SendsTheFile) {
   const test::GeciciDizin dizin;
   const std::string dosya = dizin.Yol() + "prnA";
   ASSERT_TRUE(DosyaYaz(dosya, hamBaytlar));

@@ -12,7 +12,7 @@ namespace {
 using test::Kalem;
 using test::KalemRaporu;
 
-TEST(Rapor, KolonTurleriOkunanDegerden) {
+TEST(Rapor, KindsOfColumnsFollowTheirValues) {
   const Kolonlar<Kalem> kolonlar{
       {"a", 1, [](auto&) { return "metin"; }},
       {"b", 1, [](auto&) { return std::uint8_t(255); }},
@@ -33,7 +33,7 @@ TEST(Rapor, KolonTurleriOkunanDegerden) {
   EXPECT_THAT(kolonlar.AnahtarAdlari(), testing::ElementsAre("a", "b", "c", "e", "f"));
 }
 
-TEST(Rapor, AraToplamlar) {
+TEST(Rapor, Subtotals) {
   const Rapor rapor = KalemRaporu({{.ad = "a", .adet = 2, .tutar = Tutar(10.25), .birikmis = Tutar(5.0)},
                                    {.ad = "b", .adet = 3, .tutar = Tutar(-0.25), .grup = 1}});
   EXPECT_THAT(rapor.AraToplam(1), testing::ElementsAre(Null{}, Null{}, std::int64_t(2), Tutar(10.25), Null{}, Null{}));
@@ -44,7 +44,7 @@ TEST(Rapor, AraToplamlar) {
   EXPECT_THROW(KalemRaporu({{.ad = "a", .tutar = enBuyuk}, {.ad = "b", .tutar = enBuyuk}}), TutarTasmasi);
 }
 
-TEST(Rapor, HucreMetni) {
+TEST(Rapor, TextOfACell) {
   const auto kolon = [](KolonTuru tur, int ondalik) {
     RaporKolonu k;
     k.tur = tur;
@@ -62,7 +62,7 @@ TEST(Rapor, HucreMetni) {
   EXPECT_EQ(HucreMetni(Tarih(), kolon(KolonTuru::Tarih, 0)), "");
 }
 
-TEST(Kagit, BaslikBol) {
+TEST(Kagit, BreaksAHeading) {
   const struct {
     const char* baslik;
     int en;
@@ -80,7 +80,7 @@ TEST(Kagit, BaslikBol) {
 }
 
 // On paper no column is too narrow for its days, whatever was asked for; a spreadsheet shows them in the same form.
-TEST(Kagit, TarihBicimleri) {
+TEST(Kagit, FormatsOfDates) {
   struct {
     KolonTuru tur;
     const char* metin;
@@ -105,7 +105,7 @@ TEST(Kagit, TarihBicimleri) {
   }
 }
 
-TEST(Kagit, SayilarKesilmez) {
+TEST(Kagit, NumbersAreNotCut) {
   const auto enler = [](const std::vector<Kalem>& kalemler, int en) {
     SayfaDuzeni duzen;
     duzen.en = en;

@@ -40,7 +40,7 @@ struct SayfaOrnegi {
   std::vector<std::size_t> sayfadakiSatirlar;
 };
 
-TEST(Sayfalayici, SayfaSinirlari) {
+TEST(Sayfalayici, BordersOfThePage) {
   const auto n = [](std::size_t adet) { return std::vector<int>(adet, 1); };
   const SayfaDuzeni bitisik{.satirSayisi = 66};
   const SayfaDuzeni cizgili{.satirSayisi = 66, .satirArasi = SatirArasi::CizgiCek};
@@ -76,7 +76,7 @@ TEST(Sayfalayici, SayfaSinirlari) {
   }
 }
 
-TEST(Sayfalayici, SayfaninSatirlari) {
+TEST(Sayfalayici, RowsOfThePage) {
   const auto sayfalar = Bol(SiraliRapor({1, 1, 2}, 1), {.satirSayisi = 66, .satirArasi = SatirArasi::BosSatir});
   ASSERT_EQ(sayfalar.size(), 2u);
   EXPECT_THAT(sayfalar[0].satirlar,

@@ -52,7 +52,7 @@ std::string Form() {
   return *zip->Bitir();
 }
 
-TEST(XlsxSablon, Doldurur) {
+TEST(XlsxSablon, Fills) {
   const std::string once = Form();
   auto sablon = XlsxSablon::Ac(once);
   ASSERT_TRUE(sablon) << sablon.KusurMetni();
@@ -106,12 +106,12 @@ TEST(XlsxSablon, Doldurur) {
     EXPECT_EQ(yeni->Oku(parca), eski->Oku(parca)) << parca;
 }
 
-TEST(XlsxSablon, DokunulmayanDosyaAyniKalir) {
+TEST(XlsxSablon, AnUntouchedFileStaysTheSame) {
   const std::string once = Form();
   EXPECT_EQ(*XlsxSablon::Ac(once)->Bitir(), once);
 }
 
-TEST(XlsxSablon, Reddeder) {
+TEST(XlsxSablon, Refuses) {
   const std::string form = Form();
   const auto parcasiz = [&](const char* parca) {
     auto zip = ZipDosyasi::Ac(form);
@@ -143,7 +143,7 @@ TEST(XlsxSablon, Reddeder) {
   EXPECT_THAT(bozuk->Yaz("ikinci", "A1", Null{}).KusurMetni(), HasSubstr("sayfası bozuk"));
 }
 
-TEST(XlsxSablon, Adresler) {
+TEST(XlsxSablon, Addresses) {
   const std::pair<const char*, std::pair<int, int>> ornekler[] = {
       {"A1", {0, 0}},   {"Z9", {8, 25}},   {"AA10", {9, 26}},  {"AZ1", {0, 51}},
       {"BA1", {0, 52}}, {"ZZ1", {0, 701}}, {"AAA1", {0, 702}}, {"XFD1048576", {1'048'575, 16'383}}};

@@ -33,7 +33,7 @@ Rapor OrnekRapor() {
   return rapor;
 }
 
-TEST(XlsxYazici, HucrelerGercekDegerlerdir) {
+TEST(XlsxYazici, CellsAreRealValues) {
   const std::string baytlar = Xlsx(OrnekRapor());
   auto h = XlsxOku(baytlar);
   EXPECT_EQ(h["A1"].deger, "Kalemler");
@@ -64,7 +64,7 @@ TEST(XlsxYazici, HucrelerGercekDegerlerdir) {
   EXPECT_THAT(test::XlsxParcasi(baytlar, "xl/workbook.xml"), HasSubstr("<sheet name=\"Kalemler\""));
 }
 
-TEST(XlsxYazici, OndalikVirgulYazmaz) {
+TEST(XlsxYazici, WritesNoDecimalCommas) {
   const test::GeciciDizin dizin;
   std::system(("localedef -i tr_TR -f UTF-8 " + dizin.Yol() + "tr_TR.UTF-8 2>/dev/null").c_str());
   enum { Tamam, VirgulYok, Bozuk, YereliDegisti };
@@ -80,7 +80,7 @@ TEST(XlsxYazici, OndalikVirgulYazmaz) {
   EXPECT_EQ(surec.Bekle(), Tamam);
 }
 
-TEST(XlsxYazici, GecersizAdVeBaytlar) {
+TEST(XlsxYazici, InvalidNamesAndBytes) {
   Rapor rapor = KalemRaporu({{.ad = "\xfd\xfe"}});  // "ış" of an older program
   rapor.ekranBasligi = "'Gelir/Gider [2008]: *çok uzun bir başlık?";
   const std::string baytlar = Xlsx(rapor);
@@ -90,7 +90,7 @@ TEST(XlsxYazici, GecersizAdVeBaytlar) {
   EXPECT_THAT(test::XlsxParcasi(Xlsx(rapor), "xl/workbook.xml"), HasSubstr("name=\"Rapor\""));
 }
 
-TEST(XlsxYazici, SigmayanSoylenir) {
+TEST(XlsxYazici, WhatDoesNotFitIsTold) {
   EXPECT_THAT(XlsxRaporu(KalemRaporu({{.ad = std::string(40'000, 'x')}})).KusurMetni(), HasSubstr("32,767 harf"));
   XlsxKitap kitap("a");
   const auto duz = kitap.StilEkle({});
@@ -100,7 +100,7 @@ TEST(XlsxYazici, SigmayanSoylenir) {
 
 // No room for the temporary files, wherever it ends: a failure is told, and a half workbook never passes for a whole
 // one.
-TEST(XlsxYazici, DolanDiskSoylenir) {
+TEST(XlsxYazici, AFullDiskIsTold) {
   const Rapor rapor = KalemRaporu(std::vector<Kalem>(2000, {.ad = "Şükrüye Öğütçü", .tutar = Tutar(1234.56)}));
   for (const rlim_t sinir : {0ul, 700ul, 5'000ul, 60'000ul, 200'000ul}) {
     testing::internal::CaptureStderr();
@@ -128,7 +128,7 @@ RC_GTEST_PROP(XlsxYazici, SatirlarVeToplamlarRaporunkidir, ()) {
   if (!hamlar.empty()) RC_ASSERT(h["D" + std::to_string(hamlar.size() + 3)].Sayi() == toplam);
 }
 
-TEST(XlsxYapraklari, IkiBlokYanYana) {
+TEST(XlsxYapraklari, TwoBlocksSideBySide) {
   YaprakBelgesi belge{.baslik = "FİŞ", .yapraklar = {}};
   belge.yapraklar = std::vector<Yaprak>(2, {.altBaslik = "Ocak",
                                             .bas = {{"Adı :", std::string("Işıl")}},

@@ -21,7 +21,7 @@ const std::vector<Kalem> ikiKalem = {
     {.ad = "Şükrüye Öğütçü", .adet = 0, .tutar = Tutar(-10.0)},
 };
 
-TEST(MetinYazici, DikCizgiliSayfa) {
+TEST(MetinYazici, PageWithRules) {
   Rapor rapor = KalemRaporu(ikiKalem);
   rapor.ustSatirlar = {{.orta = "Şubat 2008"}, {.sol = "ÜNVANI : Çınar", .sag = "Sayfa : ", .sayfaNo = true}};
   rapor.sonBlok = {{"Toplam Kalem : ", std::int64_t(2)}, {"Tutar :", Tutar(1224.5)}, {"Katkı :", Tutar()}};
@@ -48,7 +48,7 @@ TEST(MetinYazici, DikCizgiliSayfa) {
             "Katkı :\n");
 }
 
-TEST(MetinYazici, BosluklaAyrilanSayfalar) {
+TEST(MetinYazici, PagesSeparatedByBlanks) {
   const Rapor rapor = KalemRaporu({{.ad = "a", .tutar = Tutar(1.0)}, {.ad = "b", .tutar = Tutar(2.0), .grup = 1}});
   EXPECT_EQ(MetinRaporu(rapor, {}),
             "               KALEM LİSTESİ\n"
@@ -73,7 +73,7 @@ TEST(MetinYazici, BosluklaAyrilanSayfalar) {
   EXPECT_EQ(MetinRaporu(KalemRaporu({}), {}), "");
 }
 
-TEST(MetinYazici, DenetimHarfleriYaziciyaGitmez) {
+TEST(MetinYazici, ControlLettersDoNotReachThePrinter) {
   Rapor rapor = KalemRaporu({{.ad = "A\x1b\x40li\f"}});
   rapor.baslik = "B\fAŞLIK";
   rapor.ustSatirlar = {{.sol = "\x1bsol", .sag = "sa\nğ"}};
@@ -84,7 +84,7 @@ TEST(MetinYazici, DenetimHarfleriYaziciyaGitmez) {
   EXPECT_THAT(metin, testing::HasSubstr("son değer\n"));
 }
 
-TEST(CsvYazici, Satirlar) {
+TEST(CsvYazici, Rows) {
   EXPECT_EQ(CsvRaporu(KalemRaporu(ikiKalem)),
             "Ad,Gün,Adet,Tutar,Birikmiş,İmza\r\n"
             "Işıl,29.02.2008,2,1234.50,0.50,\r\n"
@@ -92,7 +92,7 @@ TEST(CsvYazici, Satirlar) {
   EXPECT_EQ(CsvRaporu(KalemRaporu({})), "Ad,Gün,Adet,Tutar,Birikmiş,İmza\r\n");
 }
 
-TEST(CsvYazici, MetinAlanlari) {
+TEST(CsvYazici, TextFields) {
   const struct {
     std::string metin;
     std::string alan;

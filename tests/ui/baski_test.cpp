@@ -37,7 +37,7 @@ std::shared_ptr<RaporBelgesi> Liste(int satir = 1) {
 
 const auto bas = [](Qt::Key tus) { return [tus] { EkranOrtami::Bas(tus); }; };
 
-TEST(Basim, AyarlarYaziciyaGider) {
+TEST(Basim, SettingsGoToThePrinter) {
   EkranOrtami ortam;
   const auto belge = Liste();
   EkranOrtami::ModaldaYap([&] {
@@ -57,7 +57,7 @@ TEST(Basim, AyarlarYaziciyaGider) {
 }
 
 // The preview comes back to the dialog; a PDF that cannot be written too, and nothing is lost.
-TEST(Basim, OnizlemeVePdf) {
+TEST(Basim, PreviewAndPdf) {
   EkranOrtami ortam;
   const auto belge = Liste(200);
   const auto pdfBas = [] {
@@ -89,7 +89,7 @@ TEST(Basim, OnizlemeVePdf) {
   EXPECT_TRUE(ortam.kuyruk.isler.empty());
 }
 
-TEST(Basim, MetinYoluVeYazicisizlik) {
+TEST(Basim, TextPathAndNoPrinter) {
   EkranOrtami ortam;
   ortam.kuyruk.yazicilar.clear();
   const auto belge = Liste();
@@ -116,7 +116,7 @@ TEST(Basim, MetinYoluVeYazicisizlik) {
 }
 
 // What changes nothing on the paper is off and closed.
-TEST(Basim, SabitFormdaKapaliAyarlar) {
+TEST(Basim, AStatutoryFormClosesItsSettings) {
   EkranOrtami ortam;
   YzcAyarlari ilk;
   ilk.YzcBaslik = "FORM";
@@ -139,7 +139,7 @@ TEST(Basim, SabitFormdaKapaliAyarlar) {
   EXPECT_EQ(ortam.kuyruk.isler.size(), 1u);
 }
 
-TEST(Basim, ExcelProgramiAcilirYaDaDosyaKalir) {
+TEST(Basim, ASpreadsheetOpensOrTheFileStays) {
   EkranOrtami ortam;
   BelgeExceleGonder(ortam.ekran, *Liste());
   ASSERT_EQ(ortam.acilanlar.size(), 1u);

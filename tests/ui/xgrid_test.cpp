@@ -51,7 +51,7 @@ struct Ekran : EkranOrtami {
   QString Hucre() const { return Grid().Model().Metin(Grid().currentIndex().row(), Grid().CurrentColon()); }
 };
 
-TEST(Xgrid, AdimAdimDolar) {
+TEST(Xgrid, FillsStepByStep) {
   xgrid grid;
   grid.Reset();
   grid.AddColons("Adı", DolguTuru::Metin);
@@ -102,7 +102,7 @@ TEST(Xgrid, AdimAdimDolar) {
   EXPECT_EQ(grid.GetFormatData(0, 0), "Çınar") << "a report that came as a whole stays";
 }
 
-TEST(Xgrid, SiralamaDegereGoreVeToplamAltta) {
+TEST(Xgrid, SortsByValueWithTheTotalAtTheBottom) {
   Ekran e(Kalemler(0));
   const QString ilk = "Çınar IŞIK Cem İpek ıtır deniz TOPLAM  İşveren Payı : Kişi Sayısı :";
   const QString son = " TOPLAM  İşveren Payı : Kişi Sayısı :";
@@ -132,7 +132,7 @@ TEST(Xgrid, SiralamaDegereGoreVeToplamAltta) {
   }
 }
 
-TEST(Xgrid, SayfalarTuslarla) {
+TEST(Xgrid, KeysTurnThePages) {
   Ekran e(Kalemler());
   auto* secici = e.form->findChild<QComboBox*>();
   EXPECT_TRUE(secici->isVisible());
@@ -162,7 +162,7 @@ TEST(Xgrid, SayfalarTuslarla) {
   EXPECT_FALSE(tek.form->findChild<QComboBox*>()->isVisible()) << "one page needs no selector";
 }
 
-TEST(Xgrid, BulmaTurkceVeSayfalarArasinda) {
+TEST(Xgrid, FindsInTurkishAcrossPages) {
   Ekran e(Kalemler());
   const auto yer = [&] { return Utf8(e.Hucre()); };
   const auto bulunamadi = [&] {
@@ -200,7 +200,7 @@ TEST(Xgrid, BulmaTurkceVeSayfalarArasinda) {
   EXPECT_EQ(yer(), "deniz");
 }
 
-TEST(Xgrid, KopyaSecilenSatirlar) {
+TEST(Xgrid, CopiesTheSelectedRows) {
   Ekran e(Kalemler(0));
   e.Bas(Qt::Key_Down, Qt::ShiftModifier);
   e.Bas(Qt::Key_C, Qt::ControlModifier);
@@ -210,7 +210,7 @@ TEST(Xgrid, KopyaSecilenSatirlar) {
   EXPECT_EQ(Utf8(Yapistir()), "Ad\tGün\tAdet\tTutar\tBirikmiş\tİmza\nKişi Sayısı :\t\t6\t\t\t");
 }
 
-TEST(Perekr, KomutlarTuslardanGelir) {
+TEST(Perekr, CommandsComeByKeys) {
   Ekran e(Kalemler());
   EXPECT_EQ(e.form->windowTitle(), "Kalemler");
   EXPECT_EQ(e.Grid().GetAck1(), "BELVANİ LTD.   2008");
@@ -227,7 +227,7 @@ TEST(Perekr, KomutlarTuslardanGelir) {
   EXPECT_FALSE(e.form->isVisible()) << "Esc leaves from the search box too";
 }
 
-TEST(Xgrid, YazilarKullanicidaKalir) {
+TEST(Xgrid, FontsStayWithTheUser) {
   xgrid grid;
   grid.RaporKoy(Kalemler());
   grid.show();

@@ -66,7 +66,7 @@ struct BildirgeOrtami : EkranOrtami {
   }
 };
 
-TEST(Yaylik, HesaplaDuzeltBildir) {
+TEST(Yaylik, CalculatedCorrectedAndDeclared) {
   BildirgeOrtami ortam;
   auto& form = ortam.Ac<yaylik>(ortam.parametreler);
   EXPECT_EQ(ortam.Odak(), "yil");
@@ -123,7 +123,7 @@ void BasligaTikla(dclist& liste, const char* kolon) {
 }
 
 // Whatever is done between two edits, each of them reaches the row that it was typed into.
-TEST(Yaylik, DuzeltmeSiralamaVeSilmeyleKaybolmaz) {
+TEST(Yaylik, AnEditSurvivesSortingAndDeleting) {
   BildirgeOrtami ortam;
   ortam.KisiEkle("003", "Ömer", "10000000382", 2000);
   auto& form = ortam.Ac<yaylik>(ortam.parametreler);
@@ -157,7 +157,7 @@ TEST(Yaylik, DuzeltmeSiralamaVeSilmeyleKaybolmaz) {
   EXPECT_TRUE(form.isVisible());
 }
 
-TEST(Yaylik, SayiOlmayanHucresindeReddedilir) {
+TEST(Yaylik, WhatIsNoNumberIsRefusedAtItsCell) {
   BildirgeOrtami ortam;
   auto& form = ortam.Ac<yaylik>(ortam.parametreler);
   ortam.Bas(Qt::Key_F5);
@@ -184,7 +184,7 @@ TEST(Yaylik, SayiOlmayanHucresindeReddedilir) {
 }
 
 // The check's fault takes its user to the cell.
-TEST(Yaylik, KusurHucresineGider) {
+TEST(Yaylik, AFaultLeadsToItsCell) {
   BildirgeOrtami ortam;
   auto& form = ortam.Ac<yaylik>(ortam.parametreler);
   ortam.Bas(Qt::Key_F5);
@@ -201,7 +201,7 @@ TEST(Yaylik, KusurHucresineGider) {
   EXPECT_EQ(liste.CurrentCol(), liste.Model().KolonBul(u"gun"));
 }
 
-TEST(Yaylik, KagitIcinSecimGerekir) {
+TEST(Yaylik, APaperNeedsAChoice) {
   BildirgeOrtami ortam;
   auto& form = ortam.Ac<yaylik>(ortam.parametreler);
   ortam.Bas(Qt::Key_F5);
@@ -230,7 +230,7 @@ TEST(Yaylik, KagitIcinSecimGerekir) {
   EXPECT_EQ(ortam.kuyruk.isler[0].ad, "AYLIK BİLDİRGE EK-3");
 }
 
-TEST(Intefrm, AdresKaydedilirVeAcilir) {
+TEST(Intefrm, TheAddressIsSavedAndOpened) {
   EkranOrtami ortam;
   auto& form = ortam.Ac<intefrm>("/tmp/a/bildirge.xml");
   ortam.Yaz("ftp://a");

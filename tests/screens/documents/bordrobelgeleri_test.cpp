@@ -47,7 +47,7 @@ struct BordroluOrtam : EkranOrtami {
   }
 };
 
-TEST(Brdbas, SecimKolonlarVeAyarDosyasi) {
+TEST(Brdbas, ChoicesColumnsAndSettingsFile) {
   BordroluOrtam ortam;
   const std::string ayar = ortam.oturum.FirmaDizini + "bordro.ini";
   ASSERT_TRUE(DosyaYaz(ayar, "[Bordro]\r\nBrdizin=0\r\nBrdfsize=9\r\n"));
@@ -75,7 +75,7 @@ TEST(Brdbas, SecimKolonlarVeAyarDosyasi) {
 
 // Every paper of the registry by its keys: on the screen, on the printer with the settings that it honours, and as a
 // workbook.
-TEST(BelgeEkranlari, HerBelgeTuslariyla) {
+TEST(BelgeEkranlari, EveryPaperByItsKeys) {
   BordroluOrtam ortam;
   for (const BelgeTanimi& tanim : Belgeler()) {
     SCOPED_TRACE(tanim.ekran);
@@ -110,7 +110,7 @@ TEST(BelgeEkranlari, HerBelgeTuslariyla) {
   }
 }
 
-TEST(BelgeEkranlari, YilSiniriniAsmaz) {
+TEST(BelgeEkranlari, DoesNotPassTheLimitOfYears) {
   BordroluOrtam ortam;
   Form& form = ortam.BelgeAc("agibrd");
   ortam.Yaz("1989\n");
@@ -119,7 +119,7 @@ TEST(BelgeEkranlari, YilSiniriniAsmaz) {
   EXPECT_TRUE(AlanBul(form, "yil").Odak()->hasFocus());
 }
 
-TEST(Brdicmal, DonemDegisinceHesaplanir) {
+TEST(Brdicmal, AnotherPeriodIsCalculated) {
   BordroluOrtam ortam;
   auto& form = ortam.BelgeAc("brdicmal");
   for (int i = 0; i < 15; ++i) QCoreApplication::processEvents();  // the chart comes month by month
@@ -129,7 +129,7 @@ TEST(Brdicmal, DonemDegisinceHesaplanir) {
   EXPECT_FALSE(form.findChild<QLabel*>("sayilar")->text().contains("2,000.00"));
 }
 
-TEST(Brdui, RaporTipi) {
+TEST(Brdui, KindOfReport) {
   BordroluOrtam ortam;
   auto& izin = ortam.BelgeAc("brdui");
   AlanBul(izin, "tip").Odak()->setFocus();
