@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* veri, std::size_t boy)
     if (!h.kusurlar.empty()) return 0;
     const BordroGirdi g = h.Girdi();
     Iz iz;
-    if (GirdiKusuru(g).empty()) (void)BordroHesapla(g, nullptr, &iz);
+    if (!GirdiKusuru(g)) (void)BordroHesapla(g, nullptr, &iz);
   } catch (const cli::KomutHatasi&) {
   } catch (const TutarTasmasi&) {
   }

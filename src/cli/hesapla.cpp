@@ -27,23 +27,19 @@ Json BirHesap(Genel& genel, const Json& girdi, bool izli) {
     return {{"hata", metin}};
   }
   const BordroGirdi g = hesap.Girdi();
-  if (const std::string kusur = GirdiKusuru(g); !kusur.empty()) return {{"hata", kusur}};
+  if (const auto kusur = GirdiKusuru(g)) return {{"hata", kusur->metin}};
   Iz iz;
-  try {
-    const BordroSonucu s = BordroHesapla(g, nullptr, izli ? &iz : nullptr);
-    if (s.gunFazla)
-      return {
-          {"hata", "Bu Personel " + std::to_string(g.CalismaGun) + " Gün Çalışmış, Çalışma Gününü Fazla Girmişiniz"}};
-    Json sonuc = Json::object();
-    KayitJson(s.brd, sonuc);
-    sonuc["SskGun"] = s.SskGun;
-    sonuc["CalismaGun"] = g.CalismaGun;
-    sonuc["NetOdenen"] = OndalikMetin(s.NetOdenen);
-    if (izli) sonuc["iz"] = IzJson(iz);
-    return sonuc;
-  } catch (const TutarTasmasi&) {
-    return {{"hata", "Hesaplanan bir tutar sınırı aşıyor"}};
-  }
+  const auto s = TasmaKoru([&] { return BordroHesapla(g, nullptr, izli ? &iz : nullptr); });
+  if (!s) return {{"hata", s.KusurMetni()}};
+  if (s->gunFazla)
+    return {{"hata", "Bu Personel " + std::to_string(g.CalismaGun) + " Gün Çalışmış, Çalışma Gününü Fazla Girmişiniz"}};
+  Json sonuc = Json::object();
+  KayitJson(s->brd, sonuc);
+  sonuc["SskGun"] = s->SskGun;
+  sonuc["CalismaGun"] = g.CalismaGun;
+  sonuc["NetOdenen"] = OndalikMetin(s->NetOdenen);
+  if (izli) sonuc["iz"] = IzJson(iz);
+  return sonuc;
 }
 
 void Hesapla(Genel& genel, bool izli) {

@@ -5,6 +5,7 @@
 #include "core/dosya.h"
 #include "core/sayi.h"
 #include "core/session/aracibilgi.h"
+#include "core/store/koru.h"
 #include "core/store/satirlar.h"
 #include "core/veriyolu.h"
 #include "declarations/bildirgesorgu.h"
@@ -39,19 +40,6 @@ std::string SorunMetni(const Kusurlar& sorunlar) {
   return metin + "Bu Haliyle Yazılsın mı ?";
 }
 
-// Runs `is`; a failure of the store and an amount out of range are faults.
-template <class Is>
-Durum Koru(Is&& is) {
-  try {
-    is();
-    return Tamam();
-  } catch (const MotorHatasi& h) {
-    return Kusur{h.what()};
-  } catch (const TutarTasmasi& h) {
-    return Kusur{h.what()};
-  }
-}
-
 }  // namespace
 
 AylikBildirge::AylikBildirge(Oturum& oturum, const YasalParametreler& yasal, Bildirim& bildirim)
@@ -64,8 +52,8 @@ Sonuc<Kusurlar> AylikBildirge::Ac() {
   belgeTurleri_ = BelgeTuruListesi(yasal_.hesapTurleri);
   kanunlar_ = {"Tümü"};
   tehlikeOrani_ = {};
-  Kusurlar kusurlar;
-  const Durum okundu = Koru([&] {
+  return Koru([&] {
+    Kusurlar kusurlar;
     Motor& motor = o_.depo.db.IcMotor();
     for (auto& kanun : KisiKanunlari(motor)) kanunlar_.push_back(std::move(kanun));
     if (const auto firma = FirmaKaydi(motor))
@@ -73,9 +61,8 @@ Sonuc<Kusurlar> AylikBildirge::Ac() {
     else
       kusurlar.push_back(KuralKusuru("İşyeri Tanımlamaları Yapılmamış"));
     OranlariYukle();
+    return kusurlar;
   });
-  if (!okundu) return okundu.Kusuru();
-  return kusurlar;
 }
 
 int AylikBildirge::BelgeTuru() const {
@@ -175,10 +162,9 @@ IsyeriBilgileri AylikBildirge::Isyeri() {
 }
 
 Sonuc<AylikBildirge::Karar> AylikBildirge::BildirgeKontrol() {
-  Kusurlar kusurlar;
-  if (const Durum okundu = Koru([&] { kusurlar = belvani::BildirgeKontrol(bildirge_, Isyeri()); }); !okundu)
-    return okundu.Kusuru();
-  for (auto& kusur : kusurlar) {
+  auto kusurlar = Koru([&] { return belvani::BildirgeKontrol(bildirge_, Isyeri()); });
+  if (!kusurlar) return kusurlar.Kusuru();
+  for (auto& kusur : *kusurlar) {
     switch (kusur.derece) {
       case Derece::Bilgi:
         bildirim_.KusuruGoster(kusur);
@@ -207,11 +193,10 @@ Sonuc<std::optional<std::string>> AylikBildirge::XmlHazirla() {
   const auto karar = BildirgeKontrol();
   if (!karar) return karar.Kusuru();
   if (*karar == Karar::Vazgecildi) return std::optional<std::string>();
-  BildirgeDosyasi dosya;
-  if (const Durum yazildi = Koru([&] { dosya = BildirgeXml(bildirge_, Isyeri(), Yuvarla()); }); !yazildi)
-    return yazildi.Kusuru();
-  if (!dosya.sorunlar.empty() && !bildirim_.Soru(SorunMetni(dosya.sorunlar))) return std::optional<std::string>();
-  return std::optional(std::move(dosya.icerik));
+  auto dosya = Koru([&] { return BildirgeXml(bildirge_, Isyeri(), Yuvarla()); });
+  if (!dosya) return dosya.Kusuru();
+  if (!dosya->sorunlar.empty() && !bildirim_.Soru(SorunMetni(dosya->sorunlar))) return std::optional<std::string>();
+  return std::optional(std::move(dosya->icerik));
 }
 
 Sonuc<AylikBildirge::Karar> AylikBildirge::XmlYaz(const std::string& dosya) {

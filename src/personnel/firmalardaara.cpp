@@ -1,6 +1,7 @@
 #include "personnel/firmalardaara.h"
 
 #include "core/session/sirket.h"
+#include "core/store/koru.h"
 #include "core/store/satirlar.h"
 #include "core/turkce.h"
 
@@ -49,11 +50,9 @@ std::vector<BulunanKisi> FirmalardaAra(const VeriYolu& veri, std::string_view ad
   const auto sirketler = Sirketler(veri);
   for (std::size_t i = 0; i < sirketler.size(); ++i) {
     if (!ilerleme.Adim(i, sirketler.size())) return bulunanlar;
-    try {
-      std::ranges::move(SirketteAra(veri, sirketler[i], aranan), std::back_inserter(bulunanlar));
-    } catch (const MotorHatasi&) {
-      continue;  // no store, or one that cannot be read
-    }
+    // A company without a store, or with one that cannot be read, has nobody.
+    if (auto kisiler = Koru([&] { return SirketteAra(veri, sirketler[i], aranan); }))
+      std::ranges::move(*kisiler, std::back_inserter(bulunanlar));
   }
   ilerleme.Adim(sirketler.size(), sirketler.size());
   return bulunanlar;

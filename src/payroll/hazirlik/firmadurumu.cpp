@@ -1,15 +1,12 @@
 #include "payroll/hazirlik/firmadurumu.h"
 
 #include "core/session/firmabilgi.h"
+#include "core/store/koru.h"
 
 namespace belvani {
 
 Durum FirmaDurumu::Yukle() {
-  try {
-    parametreler_ = FirmaDosyalariYukle(o_);
-  } catch (const MotorHatasi& h) {
-    return Kusur{h.what()};
-  }
+  if (const Durum okundu = Koru([&] { parametreler_ = FirmaDosyalariYukle(o_); }); !okundu) return okundu;
   ++surum_;
   Degisti();
   return Tamam();

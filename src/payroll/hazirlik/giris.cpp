@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/turkce.h"
 #include "payroll/hesap/kayittoplami.h"
@@ -12,7 +13,6 @@ namespace belvani {
 namespace {
 
 constexpr int TamAy = 30;
-constexpr const char* TasmaMetni = "Hesaplanan bir tutar sınırı aşıyor";
 
 CalismaUyarisi UyariYap(const Sicil& s, int CalismaGun) {
   return {s.girtar.Bos() ? "??.??.????" : s.girtar.Metin(), s.ciktar.Bos() ? "Çalışıyor" : s.ciktar.Metin(),
@@ -20,11 +20,11 @@ CalismaUyarisi UyariYap(const Sicil& s, int CalismaGun) {
 }
 
 // Lines that the fields themselves limit; a program may hand over anything.
-std::string GirisKusuru(const Brd& brd, const YardimTanimlari& yardimlar) {
-  std::string kusur;
+std::optional<Kusur> GirisKusuru(const Brd& brd, const YardimTanimlari& yardimlar) {
+  std::optional<Kusur> kusur;
   const auto denetle = [&](const auto& kolon, std::string_view ad) {
     const std::string neden = DegerKusuru(kolon, UyeDegeri(brd.*kolon.uye));
-    if (kusur.empty() && !neden.empty()) kusur = std::string(ad) + ": " + neden;
+    if (!kusur && !neden.empty()) kusur = KuralKusuru(std::string(ad) + ": " + neden, kolon);
   };
   for (std::size_t i = 0; i < MesaiKolonlari.size(); ++i) denetle(MesaiKolonlari[i], KazancAdlari[GunSatiriSayisi + i]);
   for (std::size_t i = 0; i < YardimKolonlari.size(); ++i) denetle(YardimKolonlari[i], yardimlar[i].adi);
@@ -132,51 +132,48 @@ KodSonucu BordroGirisi::KodAl(std::string_view metin) {
 }
 
 KodSonucu BordroGirisi::Git(Yon yon) {
-  try {
-    // Before nobody stands the last one.
-    const Yon nereye = kod_.empty() && yon == Yon::Onceki ? Yon::Son : yon;
-    const auto kisi = Tablo<Sicil>(o_.depo.db.IcMotor()).Komsu(kod_, nereye);
-    return kisi ? Getir(BuyukHarf(Kirp(kisi->kod)), DonemDisiMetni::Gosterilmez) : KodSonucu::Bos;
-  } catch (const MotorHatasi& h) {
-    bildirim_.Uyari(h.what());
-    return KodSonucu::Yuklenemedi;
-  }
+  // Before nobody stands the last one.
+  const Yon nereye = kod_.empty() && yon == Yon::Onceki ? Yon::Son : yon;
+  const auto kisi = Koru([&] { return Tablo<Sicil>(o_.depo.db.IcMotor()).Komsu(kod_, nereye); });
+  if (!kisi) return Yuklenemedi(kisi.Kusuru());
+  return *kisi ? Getir(BuyukHarf(Kirp((*kisi)->kod)), DonemDisiMetni::Gosterilmez) : KodSonucu::Bos;
+}
+
+KodSonucu BordroGirisi::Yuklenemedi(const Kusur& kusur) {
+  bildirim_.KusuruGoster(kusur);
+  return KodSonucu::Yuklenemedi;
 }
 
 KodSonucu BordroGirisi::Getir(const std::string& kod, DonemDisiMetni metin) {
   ParametreleriTazele();
-  try {
-    auto kisi = KisiOku(o_.depo.db.IcMotor(), kosullar_.donem, kod);
-    EkranTemizle();
-    kod_ = kod;
-    if (!kisi) return KodSonucu::Bilinmiyor;
-    const CalismaGunu gun = GunSayisiBul(kosullar_.donem, kisi->sicil.girtar, kisi->sicil.ciktar);
-    switch (gun.uygunluk) {
-      case DonemUygunlugu::GirisTarihiHatali:
-        bildirim_.Bilgi("Personel Giriş Tarihi Hatalı");
-        return KodSonucu::DonemDisi;
-      case DonemUygunlugu::DonemDisi:
-        if (metin == DonemDisiMetni::Gosterilir)
-          bildirim_.Bilgi("Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil");
-        return KodSonucu::DonemDisi;
-      case DonemUygunlugu::Uygun:
-        break;
-    }
-    return KisiyiAc(std::move(*kisi), gun.CalismaGun);
-  } catch (const MotorHatasi& h) {
-    bildirim_.Uyari(h.what());
-    return KodSonucu::Yuklenemedi;
+  auto okunan = Koru([&] { return KisiOku(o_.depo.db.IcMotor(), kosullar_.donem, kod); });
+  if (!okunan) return Yuklenemedi(okunan.Kusuru());
+  std::optional<KisiVerisi>& kisi = *okunan;
+  EkranTemizle();
+  kod_ = kod;
+  if (!kisi) return KodSonucu::Bilinmiyor;
+  const CalismaGunu gun = GunSayisiBul(kosullar_.donem, kisi->sicil.girtar, kisi->sicil.ciktar);
+  switch (gun.uygunluk) {
+    case DonemUygunlugu::GirisTarihiHatali:
+      bildirim_.Bilgi("Personel Giriş Tarihi Hatalı");
+      return KodSonucu::DonemDisi;
+    case DonemUygunlugu::DonemDisi:
+      if (metin == DonemDisiMetni::Gosterilir)
+        bildirim_.Bilgi("Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil");
+      return KodSonucu::DonemDisi;
+    case DonemUygunlugu::Uygun:
+      break;
   }
+  return KisiyiAc(std::move(*kisi), gun.CalismaGun);
 }
 
 KodSonucu BordroGirisi::KisiyiAc(KisiVerisi kisi, int CalismaGun) {
   kisi_ = std::move(kisi);
-  try {
-    g_ = PersonelYukle(kisi_, kosullar_, CalismaGun);
-  } catch (const TutarTasmasi&) {
+  const Durum yuklendi = TasmaKoru([&] { g_ = PersonelYukle(kisi_, kosullar_, CalismaGun); });
+  if (!yuklendi) {
     // An allowance of the template, spread over the days, is beyond every range.
     EkranTemizle();
-    bildirim_.Bilgi(TasmaMetni);
+    bildirim_.Bilgi(yuklendi.KusurMetni());
     return KodSonucu::Yuklenemedi;
   }
   hal_ = Hal::KisiSecili;
@@ -195,7 +192,7 @@ void BordroGirisi::EkranTemizle() {
   uyari_.reset();
   sonuc_ = {};
   toplamlar_ = {};
-  kusur_.clear();
+  kusur_.reset();
   ayGunu_ = 0;
 }
 
@@ -203,20 +200,21 @@ void BordroGirisi::AlanaGirildi(BordroAlani alan) {
   if (hal_ == Hal::KisiSecili && GirisAlani(alan)) sonAlan_ = alan;
 }
 
-const std::string& BordroGirisi::Hesapla() {
+const std::optional<Kusur>& BordroGirisi::Hesapla() {
   if (hal_ != Hal::KisiSecili) return kusur_;
   ParametreleriTazele();
   kusur_ = GirisKusuru(g_.giris, kosullar_.firma.yardimlar);
-  if (kusur_.empty()) kusur_ = GirdiKusuru(g_);
-  if (kusur_.empty()) HesaplaVeGoster();
-  if (kusur_.empty() && !sonuc_.gunFazla) return kusur_;
+  if (!kusur_) kusur_ = GirdiKusuru(g_);
+  if (!kusur_)
+    if (const Durum hesaplandi = HesaplaVeGoster(); !hesaplandi) kusur_ = hesaplandi.Kusuru();
+  if (!kusur_ && !sonuc_.gunFazla) return kusur_;
   sonuc_.NetOdenen = toplamlar_.net = Tutar();
   sonuc_.SskGun = toplamlar_.SskGun = SskGunu(g_.giris);
   return kusur_;
 }
 
-void BordroGirisi::HesaplaVeGoster() {
-  try {
+Durum BordroGirisi::HesaplaVeGoster() {
+  return TasmaKoru([&] {
     const BordroSonucu s = BordroHesapla(g_, &kosullar_.firma.sablon);
     sonuc_.gunFazla = s.gunFazla;
     if (s.gunFazla) return;
@@ -224,9 +222,7 @@ void BordroGirisi::HesaplaVeGoster() {
     sonuc_ = s;
     // The template has spread its allowances over the days.
     for (const auto& kolon : YardimKolonlari) g_.giris.*kolon.uye = s.brd.*kolon.uye;
-  } catch (const TutarTasmasi&) {
-    kusur_ = TasmaMetni;
-  }
+  });
 }
 
 SebepSonrasi BordroGirisi::SebepSec(int sira) {
@@ -244,13 +240,12 @@ void BordroGirisi::NettenBruteCevir(BordroAlani alan) {
   Brd& b = g_.giris;
   Tutar& tutar = b.*YardimKolonlari[*sira].uye;
   const Tek oran(b.sskiscior.Sayi() + b.issiziscior.Sayi());
-  try {
+  const Durum cevrildi = TasmaKoru([&] {
     tutar = NettenBrut(
         kosullar_.yasal.gv, tutar,
         {oran.Sayi(), b.damgaveror.Sayi(), b.devgvmatrah, kosullar_.yasal.oranlar.SskTavan, kosullar_.paraonda});
-  } catch (const TutarTasmasi&) {
-    bildirim_.Bilgi(TasmaMetni);
-  }
+  });
+  if (!cevrildi) bildirim_.Bilgi(cevrildi.KusurMetni());
   Hesapla();
 }
 
@@ -258,19 +253,15 @@ Tutar BordroGirisi::BorcLimiti() const {
   return sonuc_.NetOdenen + g_.giris.borckes;
 }
 
-bool BordroGirisi::BorcAyarla(Tutar borc) {
-  if (hal_ != Hal::KisiSecili) return true;
-  if (borc < Tutar()) {
-    bildirim_.Bilgi("Kesinti Tutarı eksi olamaz");
-    return false;
-  }
-  if (const Tutar limit = BorcLimiti(); borc > limit) {
-    bildirim_.Bilgi("Kesinti Limit Aşıldı \n En fazla " + TutarMetni(limit, kosullar_.paraonda) + " Kesebilirsiniz.");
-    return false;
-  }
+Durum BordroGirisi::BorcAyarla(Tutar borc) {
+  if (hal_ != Hal::KisiSecili) return Tamam();
+  if (borc < Tutar()) return KuralKusuru("Kesinti Tutarı eksi olamaz", brd::borckes);
+  if (const Tutar limit = BorcLimiti(); borc > limit)
+    return KuralKusuru("Kesinti Limit Aşıldı \n En fazla " + TutarMetni(limit, kosullar_.paraonda) + " Kesebilirsiniz.",
+                       brd::borckes);
   g_.giris.borckes = borc;
   Hesapla();
-  return true;
+  return Tamam();
 }
 
 std::string BordroGirisi::Baslik() const {
@@ -292,13 +283,10 @@ bool BordroGirisi::AlanAcik(BordroAlani alan) const {
 }
 
 Iz BordroGirisi::HesapIzi() const {
-  if (hal_ == Hal::KisiYok || !kusur_.empty()) return {};
+  if (hal_ == Hal::KisiYok || kusur_) return {};
   Iz iz;
-  try {
-    BordroHesapla(g_, &kosullar_.firma.sablon, &iz);
-  } catch (const TutarTasmasi&) {
-    // Something was typed since the last calculation; what was done up to there is told.
-  }
+  // Something may have been typed since the last calculation: what was done up to a fault is told.
+  (void)TasmaKoru([&] { BordroHesapla(g_, &kosullar_.firma.sablon, &iz); });
   return iz;
 }
 

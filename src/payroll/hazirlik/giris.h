@@ -143,17 +143,17 @@ class BordroGirisi {
 
   // The focus came to a field.
   void AlanaGirildi(BordroAlani alan);
-  // A field was left. Gives why the calculation cannot be made, "" when it was; the net is empty then, the other
+  // A field was left. Gives why the calculation cannot be made, nothing when it was; the net is empty then, the other
   // results stay as they were.
-  const std::string& Hesapla();
+  const std::optional<Kusur>& Hesapla();
   // Position in EksikSebepleri.
   SebepSonrasi SebepSec(int sira);
   // F9 on an allowance field: what stands in it is net and becomes gross.
   void NettenBruteCevir(BordroAlani alan);
   // At most this may be taken for a debt: down to a net of zero.
   Tutar BorcLimiti() const;
-  // The debt dialog confirms. False: over the limit, which is told, and the dialog stays open.
-  bool BorcAyarla(Tutar borc);
+  // The debt dialog confirms. A debt over the limit is a fault, and the dialog stays open.
+  Durum BorcAyarla(Tutar borc);
 
   // The focus is back on the code field, from wherever it was last: an entry whose fields were visited, or that has
   // changed since the person came up, is checked, saved, and the next person sought.
@@ -183,6 +183,8 @@ class BordroGirisi {
   Brd& Giris() { return g_.giris; }
   const BordroSonucu& Sonuc() const { return sonuc_; }
   const EkranToplamlari& Toplamlar() const { return toplamlar_; }
+  // Why it cannot be made, as Hesapla has told.
+  const std::optional<Kusur>& HesapKusuru() const { return kusur_; }
   // The steps of the present calculation ("Neden bu tutar?"); made when asked for.
   Iz HesapIzi() const;
 
@@ -192,8 +194,9 @@ class BordroGirisi {
   void ParametreleriTazele();
   KodSonucu Getir(const std::string& kod, DonemDisiMetni metin);
   KodSonucu KisiyiAc(KisiVerisi kisi, int CalismaGun);
+  KodSonucu Yuklenemedi(const Kusur& kusur);  // told
   void EkranTemizle();
-  void HesaplaVeGoster();
+  Durum HesaplaVeGoster();
   bool EksikGunTamam();
   // Saved, or why the entry goes on.
   std::optional<KapanisSonucu> Kaydet();
@@ -215,7 +218,7 @@ class BordroGirisi {
   std::optional<CalismaUyarisi> uyari_;
   BordroSonucu sonuc_;
   EkranToplamlari toplamlar_;
-  std::string kusur_;
+  std::optional<Kusur> kusur_;
 };
 
 }  // namespace belvani

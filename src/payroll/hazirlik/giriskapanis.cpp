@@ -1,5 +1,6 @@
 // What ends the entry of a person or of the month: checking and saving, the walk to the next person, deleting, the mass
 // run.
+#include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/turkce.h"
 #include "payroll/hazirlik/giris.h"
@@ -51,8 +52,8 @@ bool BordroGirisi::EksikGunTamam() {
 KapanisSonucu BordroGirisi::Kapat() {
   const bool girildi = sonAlan_ != BordroAlani::Kod || g_.giris != acilis_;
   if (hal_ != Hal::KisiSecili || !girildi) return KapanisSonucu::Kapanmadi;
-  if (!Hesapla().empty()) {
-    bildirim_.Bilgi(kusur_);
+  if (Hesapla()) {
+    bildirim_.KusuruGoster(*kusur_);
     return KapanisSonucu::KaldiHesapsiz;
   }
   if (sonuc_.gunFazla) {
@@ -91,19 +92,18 @@ std::optional<KapanisSonucu> BordroGirisi::Kaydet() {
 
 KapanisSonucu BordroGirisi::SonrakineGec() {
   hal_ = Hal::Kaydedildi;
-  try {
-    const Aranan sonraki = SonrakiUygun(o_.depo.db.IcMotor(), kosullar_.donem, kisi_.sicil.kod);
-    if (sonraki.tarihHatali) bildirim_.Bilgi("Personel Giriş Tarihi Hatalı");
-    if (sonraki.kod.empty()) {
-      bildirim_.Bilgi("Bordro Hazırlık Sona Erdi");
-      return KapanisSonucu::Bitti;
-    }
-    kod_ = BuyukHarf(Kirp(sonraki.kod));
-    return KapanisSonucu::SonrakiVar;
-  } catch (const MotorHatasi& h) {
-    bildirim_.Uyari(h.what());
+  const auto sonraki = Koru([&] { return SonrakiUygun(o_.depo.db.IcMotor(), kosullar_.donem, kisi_.sicil.kod); });
+  if (!sonraki) {
+    bildirim_.KusuruGoster(sonraki.Kusuru());
     return KapanisSonucu::OkumaHatasi;
   }
+  if (sonraki->tarihHatali) bildirim_.Bilgi("Personel Giriş Tarihi Hatalı");
+  if (sonraki->kod.empty()) {
+    bildirim_.Bilgi("Bordro Hazırlık Sona Erdi");
+    return KapanisSonucu::Bitti;
+  }
+  kod_ = BuyukHarf(Kirp(sonraki->kod));
+  return KapanisSonucu::SonrakiVar;
 }
 
 bool BordroGirisi::KayitSil() {

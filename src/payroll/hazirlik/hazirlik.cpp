@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/turkce.h"
 #include "payroll/hesap/satirlar.h"
@@ -14,8 +15,6 @@ constexpr std::size_t IlerlemeAraligi = 32;       // people
 
 // Kept, not calculated: whatever was typed there stays.
 const std::set<std::string, std::less<>> Dokunulmayan{"gocindir"};
-
-struct Iptal {};
 
 void GirisiUygula(Brd& brd, const GirisSatiri& giris) {
   Brd::HerKolon([&](const auto& kolon) {
@@ -76,11 +75,8 @@ class TopluIs {
       if (giris != nullptr) Yaz(kisi, giris, "Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil", sicil::girtar);
       return;
     }
-    try {
-      Hesapla(kisi, giris, gun.CalismaGun);
-    } catch (const TutarTasmasi&) {
-      Yaz(kisi, giris, "Hesaplanan bir tutar sınırı aşıyor");
-    }
+    const Durum hesaplandi = TasmaKoru([&] { Hesapla(kisi, giris, gun.CalismaGun); });
+    if (!hesaplandi) Yaz(kisi, giris, hesaplandi.KusurMetni());
   }
 
   HazirlikSonucu Bitir() {
@@ -93,7 +89,7 @@ class TopluIs {
  private:
   void Hesapla(const KisiVerisi& kisi, const GirisSatiri* giris, int CalismaGun) {
     BordroGirdi g = PersonelYukle(kisi, k_, CalismaGun);
-    if (const std::string kusur = GirdiKusuru(g); !kusur.empty()) return Yaz(kisi, giris, kusur);
+    if (const auto kusur = GirdiKusuru(g)) return Yaz(kisi, giris, kusur->metin, kusur->alan);
     if (!KazancGrubuVar(k_.firma, kisi.sicil.hesap))
       Yaz(kisi, nullptr, "Hesap grubu tanımlı değil: " + kisi.sicil.hesap, sicil::hesap);
     if (giris != nullptr) GirisiUygula(g.giris, *giris);
@@ -176,29 +172,29 @@ YazmaEngeli<Brd> BordroEngeli(CakismaTuru tur, const Brd& onunki, const Brd& brd
 
 Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const std::vector<GirisSatiri>& girisler,
                                    Ilerleme* ilerleme) {
-  try {
+  const Kusur iptal{"Bordro hazırlık iptal edildi, hiçbir kayıt değişmedi"};
+  const auto hazirla = [&]() -> Sonuc<HazirlikSonucu> {
     Motor& motor = o.depo.db.IcMotor();
     Islem islem(motor, KilitBekleme);
     const std::size_t toplam = KisiSayisi(motor);
     std::size_t biten = 0;
+    bool suruyor = true;
     TopluIs is(motor, kosullar, girisler);
     KisileriOku(motor, kosullar.donem, [&](KisiVerisi& kisi) {
-      if (ilerleme != nullptr && biten % IlerlemeAraligi == 0 && !ilerleme->Adim(biten, toplam)) throw Iptal{};
+      suruyor = ilerleme == nullptr || biten % IlerlemeAraligi != 0 || ilerleme->Adim(biten, toplam);
       ++biten;
-      is.Kisi(kisi);
-      return true;
+      if (suruyor) is.Kisi(kisi);
+      return suruyor;
     });
+    if (!suruyor) return iptal;
     HazirlikSonucu sonuc = is.Bitir();
     if (ilerleme != nullptr) ilerleme->Adim(toplam, toplam);
     if (!sonuc.kaydedildi) return sonuc;
-    if (ilerleme != nullptr && !ilerleme->Kesin()) throw Iptal{};
+    if (ilerleme != nullptr && !ilerleme->Kesin()) return iptal;
     islem.Onayla();
     return sonuc;
-  } catch (const Iptal&) {
-    return Kusur{"Bordro hazırlık iptal edildi, hiçbir kayıt değişmedi"};
-  } catch (const MotorHatasi& h) {
-    return Kusur{std::string("Bordro Kayıtları Güncellenemiyor: ") + h.what()};
-  }
+  };
+  return Koru(hazirla, "Bordro Kayıtları Güncellenemiyor: ");
 }
 
 Yazim<Brd> BordroKaydet(Motor& motor, const Okunan<Brd>& kayit) {
@@ -219,7 +215,7 @@ Yazim<Brd> BordroKaydet(Motor& motor, const Okunan<Brd>& kayit) {
 }
 
 Sonuc<int> BordroSil(Oturum& o, int yil, int ay) {
-  try {
+  const auto sil = [&] {
     Motor& motor = o.depo.db.IcMotor();
     Islem islem(motor, KilitBekleme);
     const auto komut = motor.Hazirla("delete from brd where yil = ? and ay = ?");
@@ -229,9 +225,8 @@ Sonuc<int> BordroSil(Oturum& o, int yil, int ay) {
     const int silinen = int(motor.DegisenSatir());
     islem.Onayla();
     return silinen;
-  } catch (const MotorHatasi& h) {
-    return Kusur{std::string("Bordro silinemedi: ") + h.what()};
-  }
+  };
+  return Koru(sil, "Bordro silinemedi: ");
 }
 
 bool BordroTamamMi(int, int, int) {

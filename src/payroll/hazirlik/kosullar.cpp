@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/store/koru.h"
 #include "core/store/satirlar.h"
 #include "core/tables/firma.h"
 #include "core/tables/muaf.h"
@@ -101,15 +102,13 @@ Sonuc<YasalParametreler> YasalParametreleriAl(const std::string& dataPath) {
 }
 
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay) {
-  try {
+  return Koru([&]() -> Sonuc<Kosullar> {
     FirmaYukle(o);
     const FirmaParametreleri parametreler = FirmaDosyalariYukle(o, BozukDosya::Kalir);
     if (!parametreler.uyarilar.empty())
       return Kusur{Satirlar("Şirketin parametre dosyaları kullanılamıyor:", parametreler.uyarilar)};
     return KosullariKur(o, yasal, parametreler, yil, ay);
-  } catch (const MotorHatasi& h) {
-    return Kusur{h.what()};
-  }
+  });
 }
 
 Sonuc<Kosullar> KosullariKur(const Oturum& o, const YasalParametreler& yasal, const FirmaParametreleri& parametreler,

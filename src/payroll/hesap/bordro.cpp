@@ -77,13 +77,16 @@ Hesap<I>::Hesap(const BordroGirdi& girdi, I izleyici)
   k_.brdkanun = BastakiSayi(sicil_.kanun);
 }
 
-std::string GirdiKusuru(const BordroGirdi& g) {
+std::optional<Kusur> GirdiKusuru(const BordroGirdi& g) {
   constexpr int EnBuyukDerece = 3;
-  if (g.sicil->sakatdrc > EnBuyukDerece) return "Sakatlık derecesi 0 ile 3 arasında olmalı";
+  if (g.sicil->sakatdrc > EnBuyukDerece)
+    return KuralKusuru("Sakatlık derecesi 0 ile 3 arasında olmalı", sicil::sakatdrc);
   if (!HuzurHakkiMi(*g.sicil) && g.sicil->sskdurum >= DalSayisi)
-    return "SSK durumu " + std::to_string(g.sicil->sskdurum) + " için prim oranı yok (0 ile 31 arasında olmalı)";
-  if (g.IsSaati.Sayi() <= 0) return "Günlük iş saati sıfırdan büyük olmalı";
-  return {};
+    return KuralKusuru(
+        "SSK durumu " + std::to_string(g.sicil->sskdurum) + " için prim oranı yok (0 ile 31 arasında olmalı)",
+        sicil::sskdurum);
+  if (g.IsSaati.Sayi() <= 0) return KuralKusuru("Günlük iş saati sıfırdan büyük olmalı");
+  return std::nullopt;
 }
 
 int SskGunu(const Brd& brd) {

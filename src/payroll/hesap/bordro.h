@@ -17,6 +17,7 @@
 #include <optional>
 #include <string>
 
+#include "core/koru.h"
 #include "core/tables/brd.h"
 #include "core/tables/indir.h"
 #include "core/tables/sendika.h"
@@ -57,9 +58,9 @@ struct BordroSonucu {
   bool gunFazla = false;  // more days than the person may work: nothing was calculated
 };
 
-// Why the calculation cannot run on these values ("Sakatlık derecesi 0 ile 3 arasında olmalı"); "" when it can.
-// The two functions below ask for a girdi without fault.
-std::string GirdiKusuru(const BordroGirdi& girdi);
+// Why the calculation cannot run on these values ("Sakatlık derecesi 0 ile 3 arasında olmalı"); nothing when it can.
+// The functions below ask for a girdi without fault.
+std::optional<Kusur> GirdiKusuru(const BordroGirdi& girdi);
 
 // The calculation proper. Throws TutarTasmasi when an amount leaves its range.
 BordroSonucu BrutNetHesapla(const BordroGirdi& girdi);
@@ -69,6 +70,12 @@ BordroSonucu BrutNetHesapla(const BordroGirdi& girdi, Iz& iz);
 // As one entry of the payroll screen runs it: the days are counted against CalismaGun, the template's allowances are
 // spread over them when there is one, then BrutNetHesapla.
 BordroSonucu BordroHesapla(const BordroGirdi& girdi, const Sablon* sablon, Iz* iz = nullptr);
+
+// Runs `is`; an amount that leaves its range is a fault, in the words of the payroll.
+template <class Is>
+auto TasmaKoru(Is&& is) {
+  return Yakala<TutarTasmasi>(is, [](const auto&) { return KuralKusuru("Hesaplanan bir tutar sınırı aşıyor"); });
+}
 
 // The premium days: ng + ht + ui + rt + mi + ha.
 int SskGunu(const Brd& brd);

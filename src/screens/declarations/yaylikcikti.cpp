@@ -1,5 +1,6 @@
 #include "screens/declarations/yaylikcikti.h"
 
+#include "core/store/koru.h"
 #include "declarations/bildirgeformu.h"
 #include "declarations/bildirgetablosu.h"
 #include "declarations/formresimleri.h"
@@ -21,13 +22,7 @@ Durum KagitIle(EkranBaglami& baglam, AylikBildirge& bildirge, Cikti cikti, Is is
   const auto karar = bildirge.KagitKosullari(cikti);
   if (!karar) return karar.Kusuru();
   if (*karar == CiktiKarari::Yok) return Tamam();
-  try {
-    return is(KagitHazirla(bildirge, baglam.oturum));
-  } catch (const MotorHatasi& hata) {
-    return Kusur{hata.what()};
-  } catch (const TutarTasmasi& hata) {
-    return Kusur{hata.what()};
-  }
+  return Koru([&] { return is(KagitHazirla(bildirge, baglam.oturum)); });
 }
 
 // Before the dialog's decision is carried out: a text print asks for its pre-printed sheet, a drawn one shows the form.

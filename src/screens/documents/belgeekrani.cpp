@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QHideEvent>
 
+#include "core/store/koru.h"
 #include "documents/defter.h"
 #include "screens/documents/brdicmal.h"
 #include "ui/basim.h"
@@ -82,15 +83,11 @@ BelgeKaynagi BelgeEkrani::Kaynak() const {
 std::unique_ptr<Belge> BelgeEkrani::BelgeYap() {
   const BelgeSecimi* secim = Secilen();
   if (secim == nullptr) return nullptr;
-  try {
-    auto belge =
-        UzunIs(Baglam(), QStringLiteral("Liste hazırlanıyor…"), [&](Ilerleme&) { return secim->BelgeYap(Kaynak()); });
-    return belge ? std::move(*belge) : nullptr;
-  } catch (const MotorHatasi& hata) {
-    Bildirimi().Uyari(hata.what());
-  } catch (const TutarTasmasi& hata) {
-    Bildirimi().Uyari(hata.what());
-  }
+  auto belge = UzunIs(Baglam(), QStringLiteral("Liste hazırlanıyor…"),
+                      [&](Ilerleme&) { return Koru([&] { return secim->BelgeYap(Kaynak()); }); });
+  if (!belge) return nullptr;
+  if (*belge) return std::move(**belge);
+  Bildir(belge->Kusuru());
   return nullptr;
 }
 

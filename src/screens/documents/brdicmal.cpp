@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QTimer>
 
+#include "core/store/koru.h"
 #include "documents/defter.h"
 #include "documents/icmalgrafigi.h"
 #include "documents/secimalanlari.h"
@@ -96,11 +97,9 @@ void brdicmal::Goster() {
 void brdicmal::AyiOku(int surum, std::size_t sira) {
   if (surum != seriSurumu_) return;
   if (sira == seri_.size()) return GrafikCiz();
-  try {
-    seri_[sira] = IcmalAyiOku(Kaynak().motor, seri_[sira].yil, seri_[sira].ay);
-  } catch (const MotorHatasi& hata) {
-    return Bildirimi().Uyari(hata.what());
-  }
+  const auto ay = Koru([&] { return IcmalAyiOku(Kaynak().motor, seri_[sira].yil, seri_[sira].ay); });
+  if (!ay) return Bildir(ay.Kusuru());
+  seri_[sira] = *ay;
   QTimer::singleShot(0, this, [this, surum, sira] { AyiOku(surum, sira + 1); });
 }
 

@@ -26,7 +26,9 @@ brckes::brckes(EkranBaglami& baglam, BordroGirisi& giris)
 void brckes::Onayla() {
   Kesinti kesinti;
   if (!Oku(kesinti)) return;
-  if (giris_.BorcAyarla(kesinti.tutar)) return Kapat();
+  const Durum ayarlandi = giris_.BorcAyarla(kesinti.tutar);
+  if (ayarlandi) return Kapat();
+  Bildir(ayarlandi.Kusuru());
   Yukle(kesinti);  // the next key types over it
 }
 

@@ -299,7 +299,7 @@ void brdhazir::GirisiOku() {
     if (BordroAlaniBul(alan->Satir()) == BordroAlani::EksikSebep) giris_.SebepSec(int(TamDegeri(alan->Oku())));
   }
   degisen_.clear();
-  kusurMetni_ = giris_.Hesapla();
+  giris_.Hesapla();
   Goster();
 }
 
@@ -321,9 +321,9 @@ void brdhazir::Goster() {
                               "  Çalışabileceği Gün " + QString::number(panel->gun)
                         : Yazi(giris_.CalismaSatiri()));
   UyariRengi(panel.has_value());
-  if (giris_.Durumu() == BordroGirisi::Hal::KisiYok) kusurMetni_.clear();
-  kusur_->setText(Yazi(kusurMetni_));
-  kusur_->setVisible(!kusurMetni_.empty());
+  const auto& kusur = giris_.HesapKusuru();
+  kusur_->setText(kusur ? Yazi(kusur->metin) : QString());
+  kusur_->setVisible(kusur.has_value());
   const MuafiyetPaneli& muafiyet = giris_.Toplamlar().panel;
   muafiyet_->setText("SSK'dan muaf " + Para(muafiyet.muaf) + "   Vergi indirimleri " + Para(muafiyet.indirim) +
                      "   Toplam " + Para(muafiyet.toplam));

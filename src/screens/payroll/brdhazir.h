@@ -68,7 +68,6 @@ class brdhazir : public Form {
   QLabel* muafiyet_;
   NedenPaneli* neden_;
   AlanDenetimi* simdiki_ = nullptr;
-  std::string kusurMetni_;              // why the last calculation could not be made
   std::vector<AlanDenetimi*> degisen_;  // typed into since the last calculation
 };
 

@@ -76,7 +76,7 @@ void Denetle(const Durumlar& durumlar) {
     Ornek o;
     for (const auto& [alan, deger] : Ciftler(girdi))
       if (!Yaz(o.sicil, alan, deger) && !Yaz(o.g.giris, alan, deger)) digerleri.at(alan)(o, deger);
-    ASSERT_EQ(GirdiKusuru(o.Girdi()), "") << ad;
+    ASSERT_FALSE(GirdiKusuru(o.Girdi())) << ad;
     const BordroSonucu s = o.Hesapla();
     for (const auto& [alan, deger] : Ciftler(beklenen)) {
       Brd olmali = s.brd;
@@ -242,19 +242,21 @@ TEST(BordroHesapla, CountsTheDaysBeforeItCalculates) {
 
 TEST(GirdiKusuru, RefusesWhatHasNoRule) {
   const char* const saatKusuru = "Günlük iş saati sıfırdan büyük olmalı";
-  const Tablo<int, int, double, const char*> durumlar{
-      {3, 31, 0.5, ""},
-      {4, 0, 8, "Sakatlık derecesi 0 ile 3 arasında olmalı"},
-      {0, 32, 8, "SSK durumu 32 için prim oranı yok (0 ile 31 arasında olmalı)"},
-      {0, 0, 0, saatKusuru},
-      {0, 0, -8, saatKusuru},
+  const Tablo<int, int, double, const char*, AlanTutamagi> durumlar{
+      {3, 31, 0.5, "", {}},
+      {4, 0, 8, "Sakatlık derecesi 0 ile 3 arasında olmalı", sicil::sakatdrc},
+      {0, 32, 8, "SSK durumu 32 için prim oranı yok (0 ile 31 arasında olmalı)", sicil::sskdurum},
+      {0, 0, 0, saatKusuru, {}},
+      {0, 0, -8, saatKusuru, {}},
   };
-  for (const auto& [derece, dal, saat, kusur] : durumlar) {
+  for (const auto& [derece, dal, saat, metin, alan] : durumlar) {
     Ornek o;
     o.sicil.sakatdrc = std::uint8_t(derece);
     o.sicil.sskdurum = std::uint8_t(dal);
     o.g.IsSaati = Tek(saat);
-    EXPECT_EQ(GirdiKusuru(o.Girdi()), kusur);
+    const auto kusur = GirdiKusuru(o.Girdi());
+    EXPECT_EQ(kusur ? kusur->metin : "", metin);
+    EXPECT_TRUE(!kusur || kusur->alan == alan) << metin;
   }
 }
 
