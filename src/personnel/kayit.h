@@ -6,17 +6,12 @@
 #include <string_view>
 
 #include "core/session/oturum.h"
+#include "core/silme.h"
 #include "core/store/tablo.h"
 #include "core/turkce.h"
 #include "personnel/etiket.h"
 
 namespace belvani {
-
-// What became of a wish to delete.
-enum class Silme {
-  Silindi,
-  Silinmedi,  // the user said no, or had nothing to delete
-};
 
 // A typed code as the store keeps it: no control characters, no blanks at its ends.
 inline std::string TemizKod(std::string_view kod) {

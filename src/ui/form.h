@@ -12,6 +12,8 @@
 #include <QWidget>
 #include <optional>
 
+#include "core/silme.h"
+#include "core/sonuc.h"
 #include "ui/alandenetimi.h"
 #include "ui/ekran.h"
 #include "ui/xbutton.h"
@@ -116,6 +118,13 @@ class Form : public QWidget {
   bool AlanlarSaglam(std::type_index kayitTuru);
   // Tells the fault, once, and puts the cursor into its field where this screen has it.
   void Bildir(const Kusur& kusur);
+  // Whether it went; a fault is told.
+  template <class T, class K>
+  bool Oldu(const Sonuc<T, K>& sonuc) {
+    if (!sonuc) Bildir(sonuc.Kusuru());
+    return bool(sonuc);
+  }
+  bool Silindi(const Sonuc<Silme>& silme) { return Oldu(silme) && *silme == Silme::Silindi; }
   void Temizle();
   void IlkAlanaGit();
   // Where the keyboard begins, when that is not the first field. Focus given before the screen is shown is lost.

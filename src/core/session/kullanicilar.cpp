@@ -6,36 +6,29 @@
 namespace belvani {
 namespace {
 
-bool Reddet(Bildirim& bildirim, std::string_view metin) {
-  bildirim.Bilgi(metin);
-  return false;
-}
-
-bool KullaniciYaz(Oturum& o, Okunan<Peruser> kullanici, std::string_view sifre, Bildirim& bildirim) {
+Sonuc<bool> KullaniciYaz(Oturum& o, Okunan<Peruser> kullanici, const std::string& sifre) {
+  if (auto kusur = KullaniciKusuru(kullanici.simdi.kod, sifre)) return *std::move(kusur);
   kullanici.simdi.pasw = sifre;
   kullanici.simdi.admin = true;
   Veritabani& db = o.depo.db;
   if (db.Koru(false, [&] { return bool(Tablo<Peruser>(db.IcMotor()).Yaz(kullanici)); })) return true;
-  bildirim.Uyari("Kullanıcı Tanımları Yazılamıyor");
-  return false;
+  return Kusur{"Kullanıcı Tanımları Yazılamıyor"};
 }
 
-bool SifreDegistir(Oturum& o, const Peruser& kullanici, std::string_view eskiSifre, std::string_view yeniSifre,
-                   std::string_view onay, Bildirim& bildirim) {
-  if (kullanici.pasw != eskiSifre) return Reddet(bildirim, "Eski Şifre Hatalı");
-  if (yeniSifre != onay) return Reddet(bildirim, "Yeni Şifre ile Onay Şifre Aynı Olmalı");
-  if (const auto kusur = KullaniciKusuru(kullanici.kod, yeniSifre); !kusur.empty()) return Reddet(bildirim, kusur);
-  return KullaniciYaz(o, {.ilk = kullanici, .simdi = kullanici}, yeniSifre, bildirim);
+Sonuc<bool> SifreDegistir(Oturum& o, const Peruser& kullanici, const KullaniciGirisi& giris) {
+  if (kullanici.pasw != giris.eski) return KuralKusuru("Eski Şifre Hatalı", kullanicigirisi::eski);
+  if (giris.yeni != giris.onay) return KuralKusuru("Yeni Şifre ile Onay Şifre Aynı Olmalı", kullanicigirisi::onay);
+  return KullaniciYaz(o, {.ilk = kullanici, .simdi = kullanici}, giris.yeni);
 }
 
-bool KullaniciEkle(Oturum& o, std::string_view ad, std::string_view yeniSifre, std::string_view onay,
-                   Bildirim& bildirim) {
-  if (yeniSifre.empty() || onay.empty()) return Reddet(bildirim, "Yeni Şifre ve Onay Şifreyi Girmelisiniz");
-  if (yeniSifre != onay) return false;
-  if (const auto kusur = KullaniciKusuru(ad, yeniSifre); !kusur.empty()) return Reddet(bildirim, kusur);
+Sonuc<bool> KullaniciEkle(Oturum& o, const KullaniciGirisi& giris) {
+  if (giris.yeni.empty() || giris.onay.empty())
+    return KuralKusuru("Yeni Şifre ve Onay Şifreyi Girmelisiniz",
+                       giris.yeni.empty() ? kullanicigirisi::yeni : kullanicigirisi::onay);
+  if (giris.yeni != giris.onay) return false;
   Okunan<Peruser> yeni;
-  yeni.simdi.kod = ad;
-  return KullaniciYaz(o, yeni, yeniSifre, bildirim);
+  yeni.simdi.kod = giris.ad;
+  return KullaniciYaz(o, yeni, giris.yeni);
 }
 
 std::optional<Peruser> KullaniciBul(Oturum& o, std::string_view ad) {
@@ -45,14 +38,16 @@ std::optional<Peruser> KullaniciBul(Oturum& o, std::string_view ad) {
 
 }  // namespace
 
-std::string KullaniciKusuru(std::string_view kullanici, std::string_view sifre) {
-  if (Kirp(DenetimsizMetin(kullanici)).empty()) return "Kullanıcı adı boş olamaz";
+std::optional<Kusur> KullaniciKusuru(std::string_view kullanici, std::string_view sifre) {
+  if (Kirp(DenetimsizMetin(kullanici)).empty()) return KuralKusuru("Kullanıcı adı boş olamaz", kullanicigirisi::ad);
   const auto kusur = [](const AlanTanimi& alan, std::string_view deger) {
     return DegerKusuru(alan, DenetimsizMetin(deger));
   };
-  if (const std::string k = kusur(peruser::kod, kullanici); !k.empty()) return "Kullanıcı adı: " + k;
-  if (const std::string k = kusur(peruser::pasw, sifre); !k.empty()) return "Şifre: " + k;
-  return {};
+  if (const std::string k = kusur(peruser::kod, kullanici); !k.empty())
+    return KuralKusuru("Kullanıcı adı: " + k, kullanicigirisi::ad);
+  if (const std::string k = kusur(peruser::pasw, sifre); !k.empty())
+    return KuralKusuru("Şifre: " + k, kullanicigirisi::yeni);
+  return std::nullopt;
 }
 
 std::vector<Peruser> Kullanicilar(Oturum& o) {
@@ -60,27 +55,25 @@ std::vector<Peruser> Kullanicilar(Oturum& o) {
   return db.Koru(std::vector<Peruser>(), [&] { return KayitlariOku<Peruser>(db.IcMotor(), "order by kod"); });
 }
 
-bool KullaniciKaydet(Oturum& o, std::string_view ad, std::string_view eskiSifre, std::string_view yeniSifre,
-                     std::string_view onay, Bildirim& bildirim) {
-  if (Kirp(ad).empty()) return Reddet(bildirim, "Kullanıcı Adı Yok");
-  const auto kullanici = KullaniciBul(o, ad);
-  return kullanici ? SifreDegistir(o, *kullanici, eskiSifre, yeniSifre, onay, bildirim)
-                   : KullaniciEkle(o, ad, yeniSifre, onay, bildirim);
+Sonuc<bool> KullaniciKaydet(Oturum& o, const KullaniciGirisi& giris) {
+  if (Kirp(giris.ad).empty()) return KuralKusuru("Kullanıcı Adı Yok", kullanicigirisi::ad);
+  const auto kullanici = KullaniciBul(o, giris.ad);
+  return kullanici ? SifreDegistir(o, *kullanici, giris) : KullaniciEkle(o, giris);
 }
 
-bool KullaniciSil(Oturum& o, std::string_view ad, Bildirim& bildirim) {
+Sonuc<Silme> KullaniciSil(Oturum& o, std::string_view ad, Bildirim& bildirim) {
   const std::string kod(ad);
-  if (Kirp(kod).empty() || !bildirim.Soru("Kullanıcıyı Silmek İstiyormusunuz")) return false;
-  if (!KullaniciBul(o, kod)) return Reddet(bildirim, "Kullanıcı Bulunamadı");
+  if (Kirp(kod).empty() || !bildirim.Soru("Kullanıcıyı Silmek İstiyormusunuz")) return Silme::Silinmedi;
+  if (!KullaniciBul(o, kod)) return KuralKusuru("Kullanıcı Bulunamadı", kullanicigirisi::ad);
   Veritabani& db = o.depo.db;
   if (Kullanicilar(o).size() < 2 && !bildirim.Soru("Son Kullanıcı da Silinirse Giriş Yapamazsınız\nEminmisiniz"))
-    return false;
+    return Silme::Silinmedi;
   const bool silindi = db.Koru(false, [&] {
     Tablo<Peruser>(db.IcMotor()).Sil(kod);
     return true;
   });
-  if (!silindi) bildirim.Uyari("Kullanıcı Silinemedi\n" + db.SonHata());
-  return silindi;
+  if (!silindi) return Kusur{"Kullanıcı Silinemedi\n" + db.SonHata()};
+  return Silme::Silindi;
 }
 
 }  // namespace belvani

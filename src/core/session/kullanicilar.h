@@ -1,7 +1,7 @@
 // The users of a company: who may log in.
 //
-// A password is plain text, and there are no rights by user: every user is written as an administrator. The messages
-// are those of the screen, in the order of its checks; what the screen passes over in silence stays silent here too.
+// A password is plain text, and there are no rights by user: every user is written as an administrator. The faults come
+// in the order of the screen's checks, each at its field.
 #pragma once
 
 #include <string>
@@ -10,22 +10,36 @@
 
 #include "core/bildirim.h"
 #include "core/session/oturum.h"
+#include "core/silme.h"
 #include "core/tables/peruser.h"
 
 namespace belvani {
 
-// Why name and password cannot be kept ("Şifre: en çok 8 harf olabilir"); "" when they can.
-std::string KullaniciKusuru(std::string_view kullanici, std::string_view sifre);
+// What is typed of a user.
+struct KullaniciGirisi {
+  std::string ad, eski, yeni, onay;  // name; the old password, the new one, and that one again
+};
+
+namespace kullanicigirisi {
+// clang-format off
+inline constexpr Kolon<KullaniciGirisi, std::string> ad{{"ad", AlanTipi::Metin, peruser::kod.boyut, AlanNiteligi::Serbest}, &KullaniciGirisi::ad};
+inline constexpr Kolon<KullaniciGirisi, std::string> eski{{"eski", AlanTipi::Metin, peruser::pasw.boyut, AlanNiteligi::Serbest}, &KullaniciGirisi::eski};
+inline constexpr Kolon<KullaniciGirisi, std::string> yeni{{"yeni", AlanTipi::Metin, peruser::pasw.boyut, AlanNiteligi::Serbest}, &KullaniciGirisi::yeni};
+inline constexpr Kolon<KullaniciGirisi, std::string> onay{{"onay", AlanTipi::Metin, peruser::pasw.boyut, AlanNiteligi::Serbest}, &KullaniciGirisi::onay};
+// clang-format on
+}  // namespace kullanicigirisi
+
+// Why name and password cannot be kept ("Şifre: en çok 8 harf olabilir"); nothing when they can.
+std::optional<Kusur> KullaniciKusuru(std::string_view kullanici, std::string_view sifre);
 
 // In the order of the names.
 std::vector<Peruser> Kullanicilar(Oturum& o);
 
-// Gives a user that exists a new password, for the old one, or adds a user. True when it was saved. A new user whose
-// confirmation differs is refused without a word.
-bool KullaniciKaydet(Oturum& o, std::string_view ad, std::string_view eskiSifre, std::string_view yeniSifre,
-                     std::string_view onay, Bildirim& bildirim);
+// Gives a user that exists a new password, for the old one, or adds a user. False: a new user whose confirmation
+// differs, which is passed over in silence.
+Sonuc<bool> KullaniciKaydet(Oturum& o, const KullaniciGirisi& giris);
 
-// Asks, and once more before the last user goes: nobody can then enter the company. True when the user was deleted.
-bool KullaniciSil(Oturum& o, std::string_view ad, Bildirim& bildirim);
+// Asks, and once more before the last user goes: nobody can then enter the company.
+Sonuc<Silme> KullaniciSil(Oturum& o, std::string_view ad, Bildirim& bildirim);
 
 }  // namespace belvani

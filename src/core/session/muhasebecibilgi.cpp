@@ -21,13 +21,10 @@ Muhasebeci MuhasebeciOku(const Oturum& o) {
   return m;
 }
 
-bool MuhasebeciKaydet(const Oturum& o, const Muhasebeci& m, Bildirim& bildirim) {
+Durum MuhasebeciKaydet(const Oturum& o, const Muhasebeci& m) {
   for (const auto& [anahtar, uye] : Anahtarlar)
-    if (const auto d = IniYaz(Bolum, anahtar, m.*uye, Dosya(o)); !d) {
-      bildirim.Uyari(d.KusurMetni());
-      return false;
-    }
-  return true;
+    if (Durum d = IniYaz(Bolum, anahtar, m.*uye, Dosya(o)); !d) return d;
+  return Tamam();
 }
 
 }  // namespace belvani

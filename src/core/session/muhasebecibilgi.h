@@ -4,7 +4,6 @@
 
 #include <string>
 
-#include "core/bildirim.h"
 #include "core/session/oturum.h"
 
 namespace belvani {
@@ -20,7 +19,6 @@ struct Muhasebeci {
 // What is not recorded is empty.
 Muhasebeci MuhasebeciOku(const Oturum& o);
 
-// False: why it could not be written was told.
-bool MuhasebeciKaydet(const Oturum& o, const Muhasebeci& m, Bildirim& bildirim);
+Durum MuhasebeciKaydet(const Oturum& o, const Muhasebeci& m);
 
 }  // namespace belvani

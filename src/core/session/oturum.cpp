@@ -90,7 +90,7 @@ Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullani
   const auto ad = SirketAdi(sirket);
   if (!ad) return ad.Kusuru();
   if (SirketDizini(o.DataPath, *ad)) return Kusur{"Bu adda bir şirket var: " + *ad};
-  if (const std::string kusur = KullaniciKusuru(kullanici, sifre); !kusur.empty()) return Kusur{kusur};
+  if (auto kusur = KullaniciKusuru(kullanici, sifre)) return *std::move(kusur);
 
   const std::string dizin = DizinSonu(o.DataPath + *ad);
   if (!DizinYarat(dizin)) return Kusur{"Şirket Dizini Yaratılamıyor: " + dizin};

@@ -93,18 +93,16 @@ std::vector<std::string> SilinebilirSirketler(const std::string& dataPath, const
   return adlar;
 }
 
-bool SirketSil(const std::string& dataPath, std::string_view ad, const Oturum& o, Bildirim& bildirim) {
+Sonuc<Silme> SirketSil(const std::string& dataPath, std::string_view ad, const Oturum& o, Bildirim& bildirim) {
   const auto adlar = SilinebilirSirketler(dataPath, o);
-  if (std::find(adlar.begin(), adlar.end(), ad) == adlar.end()) {
-    bildirim.Uyari("Silinebilecek şirketler arasında yok: " + std::string(ad));
-    return false;
-  }
-  if (!bildirim.Soru("Firmayı Silmeye Eminmisiniz ?")) return false;
+  if (std::find(adlar.begin(), adlar.end(), ad) == adlar.end())
+    return Kusur{"Silinebilecek şirketler arasında yok: " + std::string(ad)};
+  if (!bildirim.Soru("Firmayı Silmeye Eminmisiniz ?")) return Silme::Silinmedi;
   const std::string dizin = DizinSonu(dataPath) + std::string(ad);
   Durum silindi = DiziniSil(dizin);
   if (silindi) silindi = Sil(dizin);
-  if (!silindi) bildirim.Uyari(silindi.KusurMetni());
-  return bool(silindi);
+  if (!silindi) return silindi.Kusuru();
+  return Silme::Silindi;
 }
 
 }  // namespace belvani

@@ -9,6 +9,7 @@
 
 #include "core/bildirim.h"
 #include "core/session/oturum.h"
+#include "core/silme.h"
 #include "core/veriyolu.h"
 
 namespace belvani {
@@ -30,7 +31,7 @@ std::vector<std::string> SilinebilirSirketler(const std::string& dataPath, const
 
 // Asks, then deletes the directory `ad`, as SilinebilirSirketler names it, with every file in it. Refused, with nothing
 // deleted, are a name that is not in that list, a directory with a subdirectory, and a store that someone has open.
-// The store goes last, so that a removal that fails half way leaves a company that still opens. True when it is gone.
-bool SirketSil(const std::string& dataPath, std::string_view ad, const Oturum& o, Bildirim& bildirim);
+// The store goes last, so that a removal that fails half way leaves a company that still opens.
+Sonuc<Silme> SirketSil(const std::string& dataPath, std::string_view ad, const Oturum& o, Bildirim& bildirim);
 
 }  // namespace belvani

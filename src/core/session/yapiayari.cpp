@@ -6,19 +6,13 @@
 
 namespace belvani {
 
-bool YapiAyariKaydet(std::string_view prgPath, std::string_view dataPath, Bildirim& bildirim) {
-  const std::string prg(Kirp(prgPath)), data(Kirp(dataPath));
-  if (prg.empty() || data.empty()) {
-    bildirim.Uyari(prg.empty() ? "Bir Çalışma Dizini Verilmelidir." : "Bir Data Dizini Verilmelidir.");
-    return false;
-  }
-  for (const auto& [anahtar, yol] : {std::pair("PrgPath", prg), std::pair("DataPath", data)})
-    if (const auto d = MakineAyariYaz(anahtar, DizinSonu(yol)); !d) {
-      bildirim.Uyari(d.KusurMetni());
-      return false;
-    }
-  bildirim.Bilgi("Yeni Ayarlar Kaydedildi\nGeçerli Olabilmesi İçin Programdan Çıkıp Girmelisiniz..");
-  return true;
+Durum YapiAyariKaydet(const YapiAyari& ayar) {
+  const std::string prg(Kirp(ayar.prg)), data(Kirp(ayar.data));
+  if (prg.empty()) return Kusur{"Bir Çalışma Dizini Verilmelidir.", yapiayari::prg};
+  if (data.empty()) return Kusur{"Bir Data Dizini Verilmelidir.", yapiayari::data};
+  for (const auto& [anahtar, yol] : {std::pair(yapiayari::prg.ad, prg), std::pair(yapiayari::data.ad, data)})
+    if (Durum d = MakineAyariYaz(anahtar, DizinSonu(yol)); !d) return d;
+  return Tamam();
 }
 
 }  // namespace belvani

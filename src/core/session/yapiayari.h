@@ -2,14 +2,27 @@
 // machine; a running session keeps its old ones.
 #pragma once
 
-#include <string_view>
+#include <string>
 
-#include "core/bildirim.h"
+#include "core/sonuc.h"
+#include "core/tables/alan.h"
 
 namespace belvani {
 
-// Records both paths, each with a separator at its end, and says that the program must be started anew. False: an empty
-// path or a failed write was told, and the screen stays.
-bool YapiAyariKaydet(std::string_view prgPath, std::string_view dataPath, Bildirim& bildirim);
+struct YapiAyari {
+  static constexpr int EnCokHarf = 1024;
+
+  std::string prg, data;
+};
+
+namespace yapiayari {
+// clang-format off
+inline constexpr Kolon<YapiAyari, std::string> prg{{"PrgPath", AlanTipi::Metin, YapiAyari::EnCokHarf, AlanNiteligi::Serbest}, &YapiAyari::prg};
+inline constexpr Kolon<YapiAyari, std::string> data{{"DataPath", AlanTipi::Metin, YapiAyari::EnCokHarf, AlanNiteligi::Serbest}, &YapiAyari::data};
+// clang-format on
+}  // namespace yapiayari
+
+// Records both paths, each with a separator at its end, for the program's next start. An empty one is a fault.
+Durum YapiAyariKaydet(const YapiAyari& ayar);
 
 }  // namespace belvani

@@ -8,36 +8,25 @@
 namespace belvani {
 namespace {
 
-bool Tazele(TanimOrtami ortam) {
-  const auto durum = ortam.parametreler.firma.Yukle();
-  if (!durum) ortam.bildirim.Uyari(durum.KusurMetni());
-  return bool(durum);
-}
-
-// Runs `is` in a transaction; a failure is told in the words of the screen.
+// Runs `is` in a transaction, and looks at the parameters anew; a failure is told in the words of the screen.
 template <class Is>
-bool Yaz(TanimOrtami ortam, std::string_view hataMetni, Is&& is) {
+Durum Yaz(TanimOrtami ortam, const char* hataMetni, Is&& is) {
   Veritabani& db = ortam.oturum.depo.db;
-  const bool yazildi = db.Koru(false, [&] {
+  const Durum yazildi = db.Koru(Durum(Kusur{hataMetni}), [&] {
     Islem islem(db.IcMotor());
     is(db.IcMotor());
     islem.Onayla();
-    return true;
+    return Tamam();
   });
-  if (yazildi) return Tazele(ortam);
-  ortam.bildirim.Uyari(hataMetni);
-  return false;
+  return yazildi ? ortam.parametreler.firma.Yukle() : yazildi;
 }
 
 // Each row over the one with its key, or as a new one.
 template <class Kayit, class Uye, class Satirlar>
-bool AnahtarlaYaz(TanimOrtami ortam, const Kolon<Kayit, Uye>& anahtar, const Satirlar& satirlar,
-                  std::string_view hataMetni) {
+Durum AnahtarlaYaz(TanimOrtami ortam, const Kolon<Kayit, Uye>& anahtar, const Satirlar& satirlar,
+                   const char* hataMetni) {
   for (const Kayit& satir : satirlar)
-    if (const Kusurlar kusurlar = KayitKusurlari(satir, AlanAdi); !kusurlar.empty()) {
-      ortam.bildirim.KusuruGoster(kusurlar.front());
-      return false;
-    }
+    if (Kusurlar kusurlar = KayitKusurlari(satir, AlanAdi); !kusurlar.empty()) return std::move(kusurlar.front());
   return Yaz(ortam, hataMetni, [&](Motor& motor) {
     Tablo<Kayit> tablo(motor);
     for (const Kayit& satir : satirlar)
@@ -47,11 +36,11 @@ bool AnahtarlaYaz(TanimOrtami ortam, const Kolon<Kayit, Uye>& anahtar, const Sat
 }
 
 template <class Kayit>
-bool AnahtarlaSil(TanimOrtami ortam, const Deger& anahtar, std::string_view hataMetni) {
-  return Yaz(ortam, hataMetni, [&](Motor& motor) { Tablo<Kayit>(motor).Sil(anahtar); });
+Sonuc<Silme> AnahtarlaSil(TanimOrtami ortam, const Deger& anahtar) {
+  const Durum silindi = Yaz(ortam, "Kayıt Silinemedi", [&](Motor& motor) { Tablo<Kayit>(motor).Sil(anahtar); });
+  if (!silindi) return silindi.Kusuru();
+  return Silme::Silindi;
 }
-
-constexpr std::string_view SilinemediMetni = "Kayıt Silinemedi";
 
 }  // namespace
 
@@ -62,32 +51,27 @@ std::vector<std::string> KazancGruplari(const FirmaParametreleri& firma) {
   return adlar;
 }
 
-bool KazancGrubuKaydet(TanimOrtami ortam, std::string_view grup, const KazancBayraklari& bayraklar) {
-  if (Kirp(grup).empty()) {
-    ortam.bildirim.Bilgi("Grup adı boş bırakılamaz");
-    return false;
-  }
+Durum KazancGrubuKaydet(TanimOrtami ortam, std::string_view grup, const KazancBayraklari& bayraklar) {
+  if (Kirp(grup).empty()) return KuralKusuru("Grup adı boş bırakılamaz", kaztan::grup);
   return AnahtarlaYaz(ortam, kaztan::grup, std::array{GrupSatiri(Kirp(grup), bayraklar)},
                       "Kazanç Kayıtları Kaydedilemedi");
 }
 
-bool KazancGrubuSil(TanimOrtami ortam, std::string_view grup) {
+Sonuc<Silme> KazancGrubuSil(TanimOrtami ortam, std::string_view grup) {
   const std::string ad(Kirp(grup));
-  if (TurkceEsit(ad, Kirp(ortam.oturum.firma.ondeger))) {
-    ortam.bildirim.Bilgi("Varsayılan Hesap Silinemez\nYeniden Düzenlenir");
-    return false;
-  }
-  if (!ortam.bildirim.Soru(ad + " Grubu\nKazanç Tanımlamalarını Silmek İstiyormusunuz ?")) return false;
-  return AnahtarlaSil<Kaztan>(ortam, ad, SilinemediMetni);
+  if (TurkceEsit(ad, Kirp(ortam.oturum.firma.ondeger)))
+    return KuralKusuru("Varsayılan Hesap Silinemez\nYeniden Düzenlenir");
+  if (!ortam.bildirim.Soru(ad + " Grubu\nKazanç Tanımlamalarını Silmek İstiyormusunuz ?")) return Silme::Silinmedi;
+  return AnahtarlaSil<Kaztan>(ortam, ad);
 }
 
-bool IndirimleriKaydet(TanimOrtami ortam, const std::array<Indir, 3>& satirlar) {
+Durum IndirimleriKaydet(TanimOrtami ortam, const std::array<Indir, 3>& satirlar) {
   auto numarali = satirlar;
   for (std::size_t i = 0; i < numarali.size(); ++i) numarali[i].no = std::uint8_t(i + 1);
   return AnahtarlaYaz(ortam, indir::no, numarali, "İndirim Kayıtları Kaydedilemedi");
 }
 
-bool YardimlariKaydet(TanimOrtami ortam, const YardimTanimlari& yardimlar) {
+Durum YardimlariKaydet(TanimOrtami ortam, const YardimTanimlari& yardimlar) {
   std::array<Muaf, YardimSayisi> satirlar;
   for (std::size_t i = 0; i < satirlar.size(); ++i) {
     const YardimTanimi& y = yardimlar[i];
@@ -100,19 +84,16 @@ bool YardimlariKaydet(TanimOrtami ortam, const YardimTanimlari& yardimlar) {
   return AnahtarlaYaz(ortam, muaf::no, satirlar, "Yardım Kayıtları Kaydedilemedi");
 }
 
-bool SendikaKaydet(TanimOrtami ortam, const Sendika& sendika) {
+Durum SendikaKaydet(TanimOrtami ortam, const Sendika& sendika) {
   Sendika satir = sendika;
   satir.kod = Kirp(sendika.kod);
-  if (satir.kod.empty()) {
-    ortam.bildirim.Bilgi("Sendika No boş bırakılamaz");
-    return false;
-  }
+  if (satir.kod.empty()) return KuralKusuru("Sendika No boş bırakılamaz", sendika::kod);
   return AnahtarlaYaz(ortam, sendika::kod, std::array{satir}, "Sendika Bilgileri Güncellenemedi..");
 }
 
-bool SendikaSil(TanimOrtami ortam, std::string_view kod) {
-  if (!ortam.bildirim.Soru("Kaydı Silmek İstiyormusunuz ?")) return false;
-  return AnahtarlaSil<Sendika>(ortam, std::string(Kirp(kod)), SilinemediMetni);
+Sonuc<Silme> SendikaSil(TanimOrtami ortam, std::string_view kod) {
+  if (!ortam.bildirim.Soru("Kaydı Silmek İstiyormusunuz ?")) return Silme::Silinmedi;
+  return AnahtarlaSil<Sendika>(ortam, std::string(Kirp(kod)));
 }
 
 }  // namespace belvani

@@ -67,7 +67,7 @@ void firsil::Sec(int satir) {
 
 void firsil::Sil() {
   if (secilen_.empty()) return;
-  SirketSil(Oturumu().DataPath, secilen_, Oturumu(), Bildirimi());
+  Oldu(SirketSil(Oturumu().DataPath, secilen_, Oturumu(), Bildirimi()));
   liste_->setFocus();
   ListeyiDoldur();
 }

@@ -5,17 +5,11 @@
 namespace belvani {
 namespace {
 
-// What is typed on the screen.
-struct Giris {
-  std::string ad, eski, yeni, onay;
-};
-
-const std::vector<AlanGrubu> Gruplar{
-    {"Kullanıcı",
-     {{Uye("ad", &Giris::ad, peruser::kod.boyut), "Kullanıcı Adı", {.harf = 14}},
-      {Uye("eski", &Giris::eski, peruser::pasw.boyut), "Eski Şifre", {.harf = 14, .sifre = true}},
-      {Uye("yeni", &Giris::yeni, peruser::pasw.boyut), "Yeni Şifre", {.harf = 14, .sifre = true}},
-      {Uye("onay", &Giris::onay, peruser::pasw.boyut), "Onay Şifre", {.harf = 14, .sifre = true}}}}};
+const std::vector<AlanGrubu> Gruplar{{"Kullanıcı",
+                                      {{kullanicigirisi::ad, "Kullanıcı Adı", {.harf = 14}},
+                                       {kullanicigirisi::eski, "Eski Şifre", {.harf = 14, .sifre = true}},
+                                       {kullanicigirisi::yeni, "Yeni Şifre", {.harf = 14, .sifre = true}},
+                                       {kullanicigirisi::onay, "Onay Şifre", {.harf = 14, .sifre = true}}}}};
 
 }  // namespace
 
@@ -38,7 +32,7 @@ kulfrm::kulfrm(EkranBaglami& baglam)
 }
 
 void kulfrm::Goster(int satir) {
-  Yukle(Giris{Utf8(liste_->TextByName(satir, "kod")), Utf8(liste_->TextByName(satir, "pasw")), {}, {}});
+  Yukle(KullaniciGirisi{Utf8(liste_->TextByName(satir, "kod")), Utf8(liste_->TextByName(satir, "pasw")), {}, {}});
 }
 
 // The list comes back on its first user.
@@ -54,17 +48,18 @@ void kulfrm::ListeyiDoldur() {
 }
 
 void kulfrm::Kaydet() {
-  Giris giris;
+  KullaniciGirisi giris;
   if (!Oku(giris)) return;
-  if (!KullaniciKaydet(Oturumu(), giris.ad, giris.eski, giris.yeni, giris.onay, Bildirimi())) return;
+  const auto kaydedilen = KullaniciKaydet(Oturumu(), giris);
+  if (!Oldu(kaydedilen) || !*kaydedilen) return;
   ZoomEfekt();
   ListeyiDoldur();
   IlkAlanaGit();
 }
 
 void kulfrm::Sil() {
-  Giris giris;
-  if (!Oku(giris) || !KullaniciSil(Oturumu(), giris.ad, Bildirimi())) return;
+  KullaniciGirisi giris;
+  if (!Oku(giris) || !Silindi(KullaniciSil(Oturumu(), giris.ad, Bildirimi()))) return;
   ListeyiDoldur();
   IlkAlanaGit();
 }

@@ -21,7 +21,7 @@ muhbil::muhbil(EkranBaglami& baglam) : Form(baglam, "muhbil", QStringLiteral("Mu
 
 void muhbil::Kaydet() {
   Muhasebeci muhasebeci;
-  if (Oku(muhasebeci) && MuhasebeciKaydet(Oturumu(), muhasebeci, Bildirimi())) Kapat();
+  if (Oku(muhasebeci) && Oldu(MuhasebeciKaydet(Oturumu(), muhasebeci))) Kapat();
 }
 
 }  // namespace belvani

@@ -9,15 +9,8 @@
 namespace belvani {
 namespace {
 
-constexpr int EnCokHarf = 1024;
-
-struct Dizinler {
-  std::string prg, data;
-};
-
-const AlanGrubu Grup{"Dizinler",
-                     {{Uye("PrgPath", &Dizinler::prg, EnCokHarf), "Program Dizini", {.harf = 52}},
-                      {Uye("DataPath", &Dizinler::data, EnCokHarf), "Data Dizini", {.harf = 52}}}};
+const AlanGrubu Grup{
+    "Dizinler", {{yapiayari::prg, "Program Dizini", {.harf = 52}}, {yapiayari::data, "Data Dizini", {.harf = 52}}}};
 
 }  // namespace
 
@@ -37,7 +30,7 @@ yapifrm::yapifrm(EkranBaglami& baglam) : Form(baglam, "yapifrm", QStringLiteral(
   };
   Komutlar({{.tus = Qt::Key_F2, .ipucu = "Dizin Seç", .islev = dizinSec},
             {.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
-  Yukle(Dizinler{Oturumu().PrgPath, Oturumu().DataPath});
+  Yukle(YapiAyari{Oturumu().PrgPath, Oturumu().DataPath});
 }
 
 void yapifrm::DizinSec(xtext& alan) {
@@ -46,9 +39,9 @@ void yapifrm::DizinSec(xtext& alan) {
 }
 
 void yapifrm::Kaydet() {
-  Dizinler dizinler;
-  if (!Oku(dizinler)) return;
-  YapiAyariKaydet(dizinler.prg, dizinler.data, Bildirimi());
+  YapiAyari ayar;
+  if (!Oku(ayar) || !Oldu(YapiAyariKaydet(ayar))) return;
+  Bildirimi().Bilgi("Yeni Ayarlar Kaydedildi\nGeçerli Olabilmesi İçin Programdan Çıkıp Girmelisiniz..");
   IlkAlanaGit();
 }
 

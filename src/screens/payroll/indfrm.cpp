@@ -27,7 +27,7 @@ std::vector<Indir> indfrm::Satirlar() const {
 bool indfrm::Yaz(const std::vector<Indir>& satirlar) {
   std::array<Indir, 3> indirimler;
   std::ranges::copy(satirlar, indirimler.begin());
-  if (!IndirimleriKaydet(Tanimlar(), indirimler)) return false;
+  if (!Oldu(IndirimleriKaydet(Tanimlar(), indirimler))) return false;
   ZoomEfekt();
   return true;
 }

@@ -84,13 +84,14 @@ void kykm::Kaydet() {
   const std::string grup(Kirp(Utf8(YaziKutusu(kaztan::grup).text())));
   kazanclar_->Al(bayraklar_.k);
   yardimlar_->Al(bayraklar_.y);
-  if (!KazancGrubuKaydet(Tanimlar(), grup, bayraklar_)) return;
+  if (!Oldu(KazancGrubuKaydet(Tanimlar(), grup, bayraklar_))) return;
   ZoomEfekt();
   GruplariGoster(grup);
 }
 
 void kykm::Sil() {
-  if (gruplar_->CurSat() < 0 || !KazancGrubuSil(Tanimlar(), Utf8(gruplar_->Text(gruplar_->CurSat(), 0)))) return;
+  const int satir = gruplar_->CurSat();
+  if (satir < 0 || !Silindi(KazancGrubuSil(Tanimlar(), Utf8(gruplar_->Text(satir, 0))))) return;
   GruplariGoster(Oturumu().firma.ondeger);
   gruplar_->setFocus();
 }

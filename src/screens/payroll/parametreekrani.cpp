@@ -30,21 +30,14 @@ void ParametreEkrani::IndirDugmesi(ParametreDosyasi dosya, std::function<void()>
 }
 
 bool ParametreEkrani::YasalYazildi(const Durum& durum) {
-  if (!durum) {
-    Bildirimi().Uyari(durum.KusurMetni());
-    return false;
-  }
+  if (!Oldu(durum)) return false;
   parametreler_.YasalYukle(Oturumu().DataPath);
   ZoomEfekt();
   return true;
 }
 
 bool ParametreEkrani::FirmaYazildi(const Durum& durum) {
-  const Durum yuklenen = durum ? parametreler_.firma.Yukle() : durum;
-  if (!yuklenen) {
-    Bildirimi().Uyari(yuklenen.KusurMetni());
-    return false;
-  }
+  if (!Oldu(durum) || !Oldu(parametreler_.firma.Yukle())) return false;
   ZoomEfekt();
   return true;
 }

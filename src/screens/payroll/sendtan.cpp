@@ -67,7 +67,7 @@ void sendtan::Bul(const std::string& kod) {
 void sendtan::Kaydet() {
   AnahtariBul(sendika::kod);
   Sendika sendika = sendika_;
-  if (!DegisenleriOku(sendika) || !SendikaKaydet(Tanimlar(), sendika)) return;
+  if (!DegisenleriOku(sendika) || !Oldu(SendikaKaydet(Tanimlar(), sendika))) return;
   ZoomEfekt();
   Yenile();
 }
@@ -76,7 +76,7 @@ void sendtan::Sil() {
   const std::string kod(Kirp(Utf8(YaziKutusu(sendika::kod).text())));
   if (SendikaBul(Parametreler().firma.Parametreler(), kod) == nullptr)
     return Bildirimi().Bilgi("Silinecek Kayıt Bulunamadı");
-  if (SendikaSil(Tanimlar(), kod)) Yenile();
+  if (Silindi(SendikaSil(Tanimlar(), kod))) Yenile();
 }
 
 // Ready for the next one.

@@ -32,7 +32,7 @@ std::vector<YardimTanimi> yrdisim::Satirlar() const {
 bool yrdisim::Yaz(const std::vector<YardimTanimi>& satirlar) {
   YardimTanimlari yardimlar;
   std::ranges::copy(satirlar, yardimlar.begin());
-  if (!YardimlariKaydet(Tanimlar(), yardimlar)) return false;
+  if (!Oldu(YardimlariKaydet(Tanimlar(), yardimlar))) return false;
   ZoomEfekt();
   return true;
 }

@@ -160,7 +160,7 @@ bool escofrm::SatirSil(int satir) {
   const auto silme = AileSil(Oturumu(), oto, Bildirimi());
   // What another user has deleted goes from the list too.
   const bool yokmus = !silme && silme.Kusuru().derece == Derece::Bilgi;
-  return SilindiMi(silme) || yokmus;
+  return Silindi(silme) || yokmus;
 }
 
 // Keys of the screen that the list would keep for its own rows.

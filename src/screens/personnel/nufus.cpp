@@ -82,7 +82,7 @@ void nufus::Kaydet() {
 }
 
 void nufus::Sil() {
-  if (!EkrandakiMi() || !SilindiMi(KimlikSil(Oturumu(), YazilanKod(), Bildirimi()))) return;
+  if (!EkrandakiMi() || !Silindi(KimlikSil(Oturumu(), YazilanKod(), Bildirimi()))) return;
   Bosalt();
   KoddanBasla();
 }

@@ -192,7 +192,7 @@ void perkart::Kaydet() {
 }
 
 void perkart::Sil() {
-  if (!EkrandakiMi() || !SilindiMi(KartSil(Oturumu(), YazilanKod(), Bildirimi()))) return;
+  if (!EkrandakiMi() || !Silindi(KartSil(Oturumu(), YazilanKod(), Bildirimi()))) return;
   Bosalt();
   KoddanBasla();
 }

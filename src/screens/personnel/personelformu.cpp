@@ -39,11 +39,6 @@ void PersonelFormu::AdiGoster(const std::string& kod) {
   Yukle(KisiBasligi{KisiAdi(Oturumu(), kod)});
 }
 
-bool PersonelFormu::SilindiMi(const Sonuc<Silme>& silme) {
-  if (!silme) Bildir(silme.Kusuru());
-  return silme && *silme == Silme::Silindi;
-}
-
 void PersonelFormu::KoddanBasla() {
   OdakVer(AnahtarAlani());
 }

@@ -43,8 +43,6 @@ class PersonelFormu : public Form {
   // the screen. False: a person came up that the user has not seen yet.
   bool EkrandakiMi();
   void AdiGoster(const std::string& kod);
-  // A wish to delete has come true; a fault is told.
-  bool SilindiMi(const Sonuc<Silme>& silme);
   void KoddanBasla();  // the next person may be typed
   // After another record has come under the cursor: what is typed replaces the field's text.
   void AlaniSec();

@@ -72,11 +72,10 @@ TEST_F(FirmaBilgi, SubcontractorAndAccountant) {
   a.kod = "1234";
   EXPECT_EQ(AraciKaydet(o, {.ilk = AraciDuzenle(o).ilk, .simdi = a}).KusurMetni(), "Aracı Bilgileri Kaydedilemedi");
   const Muhasebeci m{"Şükrü Çağlar", "12345678901", " 42"};
-  ASSERT_TRUE(MuhasebeciOku(o) == Muhasebeci() && MuhasebeciKaydet(o, m, b));
+  ASSERT_TRUE(MuhasebeciOku(o) == Muhasebeci() && MuhasebeciKaydet(o, m));
   EXPECT_EQ(MuhasebeciOku(o), m);
   o.FirmaDizini = "/proc/yok/";
-  EXPECT_FALSE(MuhasebeciKaydet(o, m, b));
-  EXPECT_EQ(b.Al().size(), 1u);
+  EXPECT_FALSE(MuhasebeciKaydet(o, m));
 }
 
 TEST_F(FirmaBilgi, AnotherUsersCardIsNotOverwrittenAndTheSessionWaits) {
@@ -95,9 +94,9 @@ TEST_F(FirmaBilgi, AnotherUsersCardIsNotOverwrittenAndTheSessionWaits) {
 }
 
 TEST_F(FirmaBilgi, PathsOfTheInstallation) {
-  EXPECT_FALSE(YapiAyariKaydet(" ", "", b) || YapiAyariKaydet("/a", " ", b));
-  EXPECT_EQ(b.Al(), (Iletiler{"Uyarı: Bir Çalışma Dizini Verilmelidir.", "Uyarı: Bir Data Dizini Verilmelidir."}));
-  EXPECT_TRUE(YapiAyariKaydet("/opt/belvani", " /veri/ ", b));
+  EXPECT_EQ(YapiAyariKaydet({" ", ""}).KusurMetni(), "Bir Çalışma Dizini Verilmelidir.");
+  EXPECT_TRUE(YapiAyariKaydet({"/a", " "}).Kusuru().alan == yapiayari::data);
+  EXPECT_TRUE(YapiAyariKaydet({"/opt/belvani", " /veri/ "}));
   EXPECT_EQ(MakineAyari("PrgPath") + MakineAyari("DataPath"), "/opt/belvani//veri/");
 }
 

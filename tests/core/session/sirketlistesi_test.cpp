@@ -50,11 +50,12 @@ TEST_F(SirketListesiTest, OnlyWhatIsListedCanBeDeleted) {
   EXPECT_EQ(SilinebilirSirketler(o.DataPath, o), Adlar{"SİL"});
   for (const char* ad :
        {"İZMİR", "izmir", "BAĞ", "DOSYA", "", ".", "..", "../disarida", "SİL/", "sil", "SİL/../İZMİR"}) {
-    EXPECT_FALSE(SirketSil(o.DataPath, ad, o, b)) << ad;
-    EXPECT_EQ(b.Al(), Iletiler{std::string("Uyarı: Silinebilecek şirketler arasında yok: ") + ad});
+    const auto silinen = SirketSil(o.DataPath, ad, o, b);
+    ASSERT_FALSE(silinen) << ad;
+    EXPECT_EQ(silinen.KusurMetni(), std::string("Silinebilecek şirketler arasında yok: ") + ad);
   }
   b.cevap = false;
-  EXPECT_FALSE(SirketSil(o.DataPath, "SİL", o, b));
+  EXPECT_EQ(*SirketSil(o.DataPath, "SİL", o, b), Silme::Silinmedi);
   EXPECT_EQ(b.Al(), Iletiler{"Soru: Firmayı Silmeye Eminmisiniz ?"});
   EXPECT_TRUE(fs::exists(o.DataPath + "SİL/kazanc.dat"));
   b.cevap = true;
@@ -69,8 +70,7 @@ TEST_F(SirketListesiTest, DeletedWholeOrNotAtAll) {
   Kur("deneme");
   o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
   const auto silinmez = [&](const std::string& neden) {
-    EXPECT_FALSE(SirketSil(o.DataPath, "ESKİ", o, b));
-    EXPECT_EQ(b.Al().back(), "Uyarı: " + neden);
+    EXPECT_EQ(SirketSil(o.DataPath, "ESKİ", o, b).KusurMetni(), neden);
   };
   Dizin("ESKİ/yedek");
   silinmez("Şirket dizininde alt dizin var, hiçbir dosya silinmedi:\n" + o.DataPath + "ESKİ/yedek");
