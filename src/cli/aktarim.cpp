@@ -15,13 +15,7 @@ struct AktarimSecenekleri {
 
 void SonucuYaz(const AktarimSecenekleri& s, Sonuc<AktarimSonucu> sonuc) {
   if (!sonuc) throw KomutHatasi{s.dosya + ": " + sonuc.KusurMetni()};
-  if (!sonuc->sorunlar.empty()) {
-    std::string metin = s.dosya + ": hiçbir kayıt alınmadı";
-    for (const auto& sorun : sonuc->sorunlar)
-      metin += "\n  satır " + std::to_string(sorun.satirNo) + (sorun.kolon.empty() ? "" : ", " + sorun.kolon) + ": " +
-               sorun.neden;
-    throw KomutHatasi{metin};
-  }
+  SatirKusurlariylaBitir(s.dosya + ": hiçbir kayıt alınmadı", sonuc->sorunlar);
   Yaz(std::to_string(sonuc->eklenen) + " kayıt eklendi, " + std::to_string(sonuc->degisen) + " kayıt değişti" +
       (s.dene ? " (deneme, kaydedilmedi)" : "") + "\n");
 }

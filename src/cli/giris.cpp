@@ -41,9 +41,9 @@ const AlanTanimi* GirisAlani(std::string_view ad) {
 std::vector<GirisSatiri> GirisListesiOku(const std::string& csv, const std::string& dosyaAdi) {
   auto okunan = CsvOku(csv);
   if (!okunan) throw KomutHatasi{dosyaAdi + ": " + okunan.KusurMetni()};
-  std::string kusurlar;
+  Kusurlar kusurlar;
   const auto kusurYaz = [&](int satir, const std::string& kolon, const std::string& neden) {
-    kusurlar += "\n  satır " + std::to_string(satir) + ", " + kolon + ": " + neden;
+    kusurlar.push_back({.metin = kolon + ": " + neden, .satir = satir});
   };
   const auto& basliklar = okunan->basliklar;
   if (std::find(basliklar.begin(), basliklar.end(), "kod") == basliklar.end())
@@ -66,7 +66,7 @@ std::vector<GirisSatiri> GirisListesiOku(const std::string& csv, const std::stri
     if (giris.kod.empty()) kusurYaz(satir.satirNo, "kod", "boş bırakılamaz");
     girisler.push_back(std::move(giris));
   }
-  if (!kusurlar.empty()) throw KomutHatasi{dosyaAdi + ": hiçbir bordro kaydedilmedi" + kusurlar};
+  SatirKusurlariylaBitir(dosyaAdi + ": hiçbir bordro kaydedilmedi", kusurlar);
   return girisler;
 }
 

@@ -71,6 +71,11 @@ void Basarmali(const Durum& durum) {
   if (!durum) throw KomutHatasi{durum.KusurMetni()};
 }
 
+void SatirKusurlariylaBitir(std::string baslik, const Kusurlar& kusurlar) {
+  for (const Kusur& kusur : kusurlar) baslik += "\n  satır " + std::to_string(kusur.satir) + ", " + kusur.metin;
+  if (!kusurlar.empty()) throw KomutHatasi{std::move(baslik)};
+}
+
 std::string DosyayiOku(const std::string& yol) {
   auto icerik = DosyaOku(yol);
   if (!icerik) throw KomutHatasi{"Dosya okunamadı: " + yol};

@@ -61,6 +61,8 @@ T& Degeri(Sonuc<T>& sonuc) {
   return *sonuc;
 }
 void Basarmali(const Durum& durum);
+// What a file has wrong ends the command, under `baslik` in one line each: "satır 3, girtar: boş bırakılamaz".
+void SatirKusurlariylaBitir(std::string baslik, const Kusurlar& kusurlar);
 
 std::string DosyayiOku(const std::string& yol);  // or KomutHatasi
 std::string GirdiyiOku();                        // standard input to its end

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/store/koru.h"
 #include "personnel/hucreler.h"
 #include "personnel/kayit.h"
 
@@ -10,16 +11,11 @@ namespace {
 
 constexpr std::chrono::seconds KilitBekleme{60};
 
-struct YazmaHatasi {
-  int satirNo;
-  std::string neden;
-};
-
 // The record with the row's columns over what the store has. It is read within the transaction, so nobody can have
 // changed it meanwhile.
 template <class Kayit>
-void Yaz(Tablo<Kayit>& tablo, const std::optional<Kayit>& ilk, const Kayit& yeni, const AktarimDosyasi& dosya,
-         const AktarimSatiri& satir) {
+Durum Yaz(Tablo<Kayit>& tablo, const std::optional<Kayit>& ilk, const Kayit& yeni, const AktarimDosyasi& dosya,
+          const AktarimSatiri& satir) {
   Okunan<Kayit> kayit{.ilk = ilk, .simdi = ilk.value_or(yeni)};
   for (std::size_t i = 0; i < dosya.kolonlar.size(); ++i) {
     const AktarimKolonu& hucre = dosya.kolonlar[i];
@@ -29,38 +25,35 @@ void Yaz(Tablo<Kayit>& tablo, const std::optional<Kayit>& ilk, const Kayit& yeni
       if (buTablo && hucre.alan->ad == kolon.ad) UyeyeYaz(kayit.simdi.*kolon.uye, satir.degerler[i]);
     });
   }
-  try {
-    if (const auto yazilan = tablo.Yaz(kayit); !yazilan) throw YazmaHatasi{satir.satirNo, yazilan.KusurMetni()};
-  } catch (const MotorHatasi& h) {
-    throw YazmaHatasi{satir.satirNo, h.what()};
-  }
+  const auto yazilan = Koru([&] { return tablo.Yaz(kayit); });
+  if (yazilan) return Tamam();
+  Kusur kusur = yazilan.Kusuru();
+  kusur.metin = "satır " + std::to_string(satir.satirNo) + ": kayıt yazılamadı: " + kusur.metin;
+  kusur.satir = satir.satirNo;
+  return kusur;
 }
 
 // Runs `is` in one transaction, unless the file has problems or is only tried out.
 template <class Is>
 Sonuc<AktarimSonucu> Kaydet(Oturum& o, AktarimDosyasi& dosya, AktarimKipi kip, Is&& is) {
-  AktarimSonucu sonuc;
-  try {
+  return Koru([&]() -> Sonuc<AktarimSonucu> {
+    AktarimSonucu sonuc;
     Islem islem(o.depo.db.IcMotor(), KilitBekleme);
-    is(sonuc);
+    if (const Durum yazildi = is(sonuc); !yazildi) return yazildi.Kusuru();
     sonuc.sorunlar = std::move(dosya.sorunlar);
     if (sonuc.sorunlar.empty() && kip == AktarimKipi::Kaydet) islem.Onayla();
     return sonuc;
-  } catch (const YazmaHatasi& h) {
-    return Kusur{"satır " + std::to_string(h.satirNo) + ": kayıt yazılamadı: " + h.neden};
-  } catch (const MotorHatasi& h) {
-    return Kusur{h.what()};
-  }
+  });
 }
 
 void GirisTarihiniDenetle(AktarimDosyasi& dosya, const AktarimSatiri& satir, bool yeni) {
   const int sira = dosya.KolonSirasi("girtar");
   const bool bos = sira < 0 || NullMu(satir.degerler[std::size_t(sira)]);
   if (bos && !dosya.Soylendi(satir.satirNo, "girtar") && (yeni || sira >= 0))
-    dosya.sorunlar.push_back({satir.satirNo, "girtar", "Giriş Tarihi Hatalı"});
+    dosya.SorunEkle(satir, "girtar", "Giriş Tarihi Hatalı");
 }
 
-void PersonelleriYaz(Motor& motor, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
+Durum PersonelleriYaz(Motor& motor, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
   Tablo<Sicil> kartlar(motor);
   Tablo<Kimlik> kimlikler(motor);
   for (const auto& satir : dosya.satirlar) {
@@ -68,45 +61,48 @@ void PersonelleriYaz(Motor& motor, AktarimDosyasi& dosya, AktarimSonucu& sonuc) 
     const auto kart = kartlar.Bul(kod);
     GirisTarihiniDenetle(dosya, satir, !kart);
     if (!dosya.sorunlar.empty()) continue;
-    Yaz(kartlar, kart, {}, dosya, satir);
-    Yaz(kimlikler, kimlikler.Bul(kod), YeniKimlik(kod), dosya, satir);
+    if (Durum d = Yaz(kartlar, kart, {}, dosya, satir); !d) return d;
+    if (Durum d = Yaz(kimlikler, kimlikler.Bul(kod), YeniKimlik(kod), dosya, satir); !d) return d;
     ++(kart ? sonuc.degisen : sonuc.eklenen);
   }
+  return Tamam();
 }
 
-void AileYaz(Motor& motor, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
+Durum AileYaz(Motor& motor, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
   Tablo<Sicil> kartlar(motor);
   Tablo<Esco> aileler(motor);
   for (const auto& satir : dosya.satirlar)
     if (const std::string kod = dosya.Metin(satir, "kod"); !kod.empty() && !kartlar.Bul(kod))
-      dosya.sorunlar.push_back({satir.satirNo, "kod", "bu kodla personel yok: " + kod});
-  if (!dosya.sorunlar.empty()) return;
+      dosya.SorunEkle(satir, "kod", "bu kodla personel yok: " + kod);
+  if (!dosya.sorunlar.empty()) return Tamam();
   const auto sil = motor.Hazirla("delete from esco where kod = ?");
   for (const auto& satir : dosya.satirlar) {
     sil->MetinBagla(1, dosya.Metin(satir, "kod"));
     sil->Calistir();
   }
   for (const auto& satir : dosya.satirlar) {
-    Yaz(aileler, {}, {}, dosya, satir);
+    if (Durum d = Yaz(aileler, {}, {}, dosya, satir); !d) return d;
     ++sonuc.eklenen;
   }
+  return Tamam();
 }
 
 template <class Kayit>
-void TanimYaz(Motor& motor, std::string_view anahtar, const AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
+Durum TanimYaz(Motor& motor, std::string_view anahtar, const AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
   Tablo<Kayit> tablo(motor);
   const int sira = dosya.KolonSirasi(anahtar);
   for (const auto& satir : dosya.satirlar) {
     const auto ilk = tablo.Bul(sira < 0 ? Deger(Null{}) : satir.degerler[std::size_t(sira)]);
-    Yaz(tablo, ilk, {}, dosya, satir);
+    if (Durum d = Yaz(tablo, ilk, {}, dosya, satir); !d) return d;
     ++(ilk ? sonuc.degisen : sonuc.eklenen);
   }
+  return Tamam();
 }
 
 struct TanimTablosu {
   std::string_view ad;
   std::string_view anahtar;  // "": the table's one record
-  void (*yaz)(Motor& motor, std::string_view anahtar, const AktarimDosyasi& dosya, AktarimSonucu& sonuc);
+  Durum (*yaz)(Motor& motor, std::string_view anahtar, const AktarimDosyasi& dosya, AktarimSonucu& sonuc);
 };
 
 constexpr TanimTablosu TanimTablolari[] = {
@@ -119,13 +115,14 @@ constexpr TanimTablosu TanimTablolari[] = {
 Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, std::string_view csv, AktarimKipi kip) {
   auto dosya = AktarimDosyasiOku(csv, {TabloBul("sicil"), TabloBul("kimlik")}, "kod", AnahtarKurali::Tekil);
   if (!dosya) return dosya.Kusuru();
-  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { PersonelleriYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
+  return Kaydet(o, *dosya, kip,
+                [&](AktarimSonucu& sonuc) { return PersonelleriYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
 }
 
 Sonuc<AktarimSonucu> AileAktar(Oturum& o, std::string_view csv, AktarimKipi kip) {
   auto dosya = AktarimDosyasiOku(csv, {TabloBul("esco")}, "kod", AnahtarKurali::TekrarEder);
   if (!dosya) return dosya.Kusuru();
-  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { AileYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
+  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { return AileYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
 }
 
 Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, std::string_view csv, AktarimKipi kip) {
@@ -137,7 +134,7 @@ Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, std::string_v
   if (!dosya) return dosya.Kusuru();
   if (tanim->anahtar.empty() && dosya->satirlar.size() != 1) return Kusur{"firma dosyasında tek bir satır olmalı"};
   return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) {
-    if (dosya->sorunlar.empty()) tanim->yaz(o.depo.db.IcMotor(), tanim->anahtar, *dosya, sonuc);
+    return dosya->sorunlar.empty() ? tanim->yaz(o.depo.db.IcMotor(), tanim->anahtar, *dosya, sonuc) : Tamam();
   });
 }
 

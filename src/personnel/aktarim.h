@@ -1,12 +1,10 @@
 // Bringing records in from CSV files: people with their identity, families, and the company's definitions.
 //
-// The header row names stored fields. Every cell is checked first and every problem is told with row, column and
-// reason; when there is one, nothing is saved. All rows are one transaction.
+// The header row names stored fields. Every cell is checked first, and every fault names its person, row and column;
+// when there is one, nothing is saved. All rows are one transaction.
 #pragma once
 
-#include <string>
 #include <string_view>
-#include <vector>
 
 #include "core/session/oturum.h"
 #include "core/sonuc.h"
@@ -15,16 +13,10 @@ namespace belvani {
 
 enum class AktarimKipi { Kaydet, YalnizDene };
 
-struct AktarimSorunu {
-  int satirNo = 0;
-  std::string kolon;  // "" when it concerns the row
-  std::string neden;
-};
-
 struct AktarimSonucu {
   int eklenen = 0;
   int degisen = 0;
-  std::vector<AktarimSorunu> sorunlar;  // not empty: nothing was saved
+  Kusurlar sorunlar;  // not empty: nothing was saved
 };
 
 // Fields of `sicil` and `kimlik`, key `kod`. A person who is known already is changed in the columns of the file alone;

@@ -14,16 +14,25 @@ AktarimKolonu KolonBul(const std::vector<const TabloTanimi*>& tablolar, const st
   return {};
 }
 
-AktarimSatiri SatirCevir(const CsvTablosu& csv, const CsvSatiri& satir, AktarimDosyasi& dosya) {
+template <class... Kayit>
+AlanTutamagi Tutamak(std::string_view tablo, std::string_view alan) {
+  AlanTutamagi tutamak;
+  ((tablo == Kayit::TabloAdi ? void(tutamak = {typeid(Kayit), alan}) : void()), ...);
+  return tutamak;
+}
+
+AktarimSatiri SatirCevir(const CsvSatiri& satir, AktarimDosyasi& dosya) {
   AktarimSatiri sonuc{satir.satirNo, {}};
+  std::vector<std::pair<std::string_view, std::string>> kusurlar;
   for (std::size_t i = 0; i < satir.hucreler.size(); ++i) {
     std::string kusur;
     Deger deger;
-    if (const AlanTanimi* alan = dosya.kolonlar[i].alan; alan != nullptr)
-      deger = MetindenDeger(*alan, satir.hucreler[i], kusur);
-    if (!kusur.empty()) dosya.sorunlar.push_back({satir.satirNo, csv.basliklar[i], kusur});
+    const AlanTanimi* alan = dosya.kolonlar[i].alan;
+    if (alan != nullptr) deger = MetindenDeger(*alan, satir.hucreler[i], kusur);
+    if (!kusur.empty()) kusurlar.emplace_back(alan->ad, kusur);
     sonuc.degerler.push_back(std::move(deger));
   }
+  for (const auto& [alan, neden] : kusurlar) dosya.SorunEkle(sonuc, alan, neden);
   return sonuc;
 }
 
@@ -34,17 +43,27 @@ void AnahtarDenetle(AktarimDosyasi& dosya, std::string_view anahtar, AnahtarKura
     const std::string deger = dosya.Metin(satir, anahtar);
     if (dosya.Soylendi(satir.satirNo, anahtar)) continue;
     if (deger.empty() || deger == "0")
-      dosya.sorunlar.push_back({satir.satirNo, std::string(anahtar), "boş bırakılamaz"});
+      dosya.SorunEkle(satir, anahtar, "boş bırakılamaz");
     else if (!gorulen.insert(deger).second && kural == AnahtarKurali::Tekil)
-      dosya.sorunlar.push_back({satir.satirNo, std::string(anahtar), "dosyada iki kez var: " + deger});
+      dosya.SorunEkle(satir, anahtar, "dosyada iki kez var: " + deger);
   }
 }
 
 }  // namespace
 
+void AktarimDosyasi::SorunEkle(const AktarimSatiri& satir, std::string_view alan, const std::string& neden) {
+  Kusur kusur{.metin = std::string(alan) + ": " + neden, .satir = satir.satirNo};
+  const int kisi = KolonSirasi("kod");
+  if (kisi >= 0 && kolonlar[std::size_t(kisi)].tablo->ad != Sendika::TabloAdi) kusur.kod = Metin(satir, "kod");
+  if (const int sira = KolonSirasi(alan); sira >= 0) {
+    const AktarimKolonu& kolon = kolonlar[std::size_t(sira)];
+    kusur.alan = Tutamak<Sicil, Kimlik, Esco, Firma, Muaf, Indir, Sendika, Kaztan>(kolon.tablo->ad, kolon.alan->ad);
+  }
+  sorunlar.push_back(std::move(kusur));
+}
+
 bool AktarimDosyasi::Soylendi(int satirNo, std::string_view kolon) const {
-  return std::ranges::any_of(sorunlar,
-                             [&](const AktarimSorunu& s) { return s.satirNo == satirNo && AdEsit(s.kolon, kolon); });
+  return std::ranges::any_of(sorunlar, [&](const Kusur& s) { return s.satir == satirNo && s.alan.ad == kolon; });
 }
 
 int AktarimDosyasi::KolonSirasi(std::string_view alan) const {
@@ -63,19 +82,22 @@ Sonuc<AktarimDosyasi> AktarimDosyasiOku(std::string_view csv, const std::vector<
   const auto tablo = CsvOku(csv);
   if (!tablo) return tablo.Kusuru();
   AktarimDosyasi dosya;
+  const auto baslikKusuru = [&](std::string_view baslik, const char* neden) {
+    dosya.sorunlar.push_back({.metin = std::string(baslik) + ": " + neden, .satir = 1});
+  };
   for (const auto& baslik : tablo->basliklar) {
     dosya.kolonlar.push_back(KolonBul(tablolar, baslik));
     const AlanTanimi* alan = dosya.kolonlar.back().alan;
     if (alan == nullptr)
-      dosya.sorunlar.push_back({1, baslik, "böyle bir alan yok"});
+      baslikKusuru(baslik, "böyle bir alan yok");
     else if (alan->nitelik == AlanNiteligi::Otomatik)
-      dosya.sorunlar.push_back({1, baslik, "bu numarayı program verir, dosyada olamaz"});
+      baslikKusuru(baslik, "bu numarayı program verir, dosyada olamaz");
   }
   if (!anahtar.empty() && dosya.KolonSirasi(anahtar) < 0) {
-    dosya.sorunlar.push_back({1, std::string(anahtar), "bu sütun dosyada olmalı"});
+    baslikKusuru(anahtar, "bu sütun dosyada olmalı");
     return dosya;
   }
-  for (const auto& satir : tablo->satirlar) dosya.satirlar.push_back(SatirCevir(*tablo, satir, dosya));
+  for (const auto& satir : tablo->satirlar) dosya.satirlar.push_back(SatirCevir(satir, dosya));
   if (!anahtar.empty()) AnahtarDenetle(dosya, anahtar, kural);
   return dosya;
 }

@@ -24,9 +24,11 @@ struct AktarimSatiri {
 struct AktarimDosyasi {
   std::vector<AktarimKolonu> kolonlar;
   std::vector<AktarimSatiri> satirlar;
-  std::vector<AktarimSorunu> sorunlar;
+  Kusurlar sorunlar;
 
-  bool Soylendi(int satirNo, std::string_view kolon) const;                    // has this cell a problem already?
+  // "girtar: boş bırakılamaz", of the row's person.
+  void SorunEkle(const AktarimSatiri& satir, std::string_view alan, const std::string& neden);
+  bool Soylendi(int satirNo, std::string_view kolon) const;                    // has this cell a fault already?
   int KolonSirasi(std::string_view alan) const;                                // -1: not in the file
   std::string Metin(const AktarimSatiri& satir, std::string_view alan) const;  // "" when not in the file
 };

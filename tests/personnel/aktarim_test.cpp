@@ -40,7 +40,9 @@ TEST_F(Aktarim, AKnownPersonChangesInTheColumnsOfTheFileAlone) {
 
 TEST_F(Aktarim, OneFaultOrATrialWritesNothing) {
   const char* const hatali = "kod,girtar\n1,01.01.2009\n2,\n";
-  EXPECT_EQ(PersonelAktar(o, hatali, AktarimKipi::Kaydet)->sorunlar.size(), 1u);
+  const Kusurlar sorunlar = PersonelAktar(o, hatali, AktarimKipi::Kaydet)->sorunlar;
+  ASSERT_EQ(sorunlar.size(), 1u);
+  EXPECT_TRUE(sorunlar[0].alan == sicil::girtar && sorunlar[0].kod == "2" && sorunlar[0].satir == 3);
   EXPECT_TRUE(PersonelAktar(o, "kod,girtar\n1,01.01.2009\n", AktarimKipi::YalnizDene)->sorunlar.empty());
   EXPECT_FALSE(PersonelAktar(o, "", AktarimKipi::Kaydet));
   EXPECT_TRUE(Hepsi<Sicil>().empty());

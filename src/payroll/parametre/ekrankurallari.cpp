@@ -10,10 +10,15 @@ std::string GvAltSinirMetni(const GvTablosu& tablo, int satir) {
   return metin == "0" ? std::string() : metin;
 }
 
-std::string KanunSatiriKusuru(const KanunSatiri& satir) {
-  if (satir.bastar.Bos()) return "Kanun Başlangıç Tarihi Hatalı";
-  if (satir.bittar.Bos()) return "Kanun Bitiş Tarihi Hatalı";
-  return {};
+std::optional<Kusur> KanunSatiriKusuru(const KanunSatiri& satir) {
+  if (satir.bastar.Bos()) return KanunTarihiKusuru("bastar");
+  if (satir.bittar.Bos()) return KanunTarihiKusuru("bittar");
+  return std::nullopt;
+}
+
+Kusur KanunTarihiKusuru(std::string_view alan) {
+  if (alan == "bastar") return KuralKusuru("Kanun Başlangıç Tarihi Hatalı", {typeid(KanunSatiri), "bastar"});
+  return KuralKusuru("Kanun Bitiş Tarihi Hatalı", {typeid(KanunSatiri), "bittar"});
 }
 
 std::vector<int> OranliDallar(const HesapTurleri& turler) {

@@ -4,10 +4,12 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/kusur.h"
 #include "payroll/parametre/parametreler.h"
 
 namespace belvani {
@@ -16,8 +18,11 @@ namespace belvani {
 // the first row and after an unused one. `satir` from 0.
 std::string GvAltSinirMetni(const GvTablosu& tablo, int satir);
 
-// What a row of the eras has wrong when it is left; "" when it may stand. A field that holds no day reads as Null.
-std::string KanunSatiriKusuru(const KanunSatiri& satir);
+// What a row of the eras has wrong when it is left, at its date; nothing when it may stand. A field that holds no day
+// reads as Null.
+std::optional<Kusur> KanunSatiriKusuru(const KanunSatiri& satir);
+// The fault of its date `alan` ("bastar", "bittar") alone.
+Kusur KanunTarihiKusuru(std::string_view alan);
 
 // Positions of the branches that the rate screen lists: those with a number, of the 32 that have rates.
 std::vector<int> OranliDallar(const HesapTurleri& turler);

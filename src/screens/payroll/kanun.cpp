@@ -4,6 +4,7 @@
 
 #include "payroll/parametre/ekrankurallari.h"
 #include "screens/payroll/parametrealani.h"
+#include "ui/metin.h"
 
 namespace belvani {
 namespace {
@@ -22,8 +23,7 @@ kanun::kanun(EkranBaglami& baglam, ParametreDeposu& parametreler)
   // A text that is no date has come here as an empty one; what was typed stays in the cell.
   Liste().Dogrula = [this](int, const QString& kolon, QString& metin) {
     if (kolon == "uygulama" || !metin.isEmpty()) return true;
-    const Tarih dolu(2004, 1, 1);
-    Bildirimi().Bilgi(kolon == "bastar" ? KanunSatiriKusuru({{}, dolu}) : KanunSatiriKusuru({dolu, {}}));
+    Bildir(KanunTarihiKusuru(Utf8(kolon)));
     return false;
   };
   auto* tuslar = new QLabel(QStringLiteral("Insert satır ekler, Delete siler."), this);
@@ -52,12 +52,11 @@ bool kanun::Yaz(const std::vector<KanunSatiri>& satirlar) {
 
 // The cursor comes back to a row that cannot stand, whichever way it was left.
 bool kanun::SatirSaglam(int satir) {
-  const KanunSatiri okunan = Okunan()[std::size_t(satir)];
-  const std::string kusur = KanunSatiriKusuru(okunan);
-  if (kusur.empty()) return true;
-  Bildirimi().Bilgi(kusur);
-  QTimer::singleShot(0, &Liste(), [this, satir, bos = okunan.bastar.Bos()] {
-    Liste().HucreyeGit(satir, bos ? "bastar" : "bittar");
+  const auto kusur = KanunSatiriKusuru(Okunan()[std::size_t(satir)]);
+  if (!kusur) return true;
+  Bildir(*kusur);
+  QTimer::singleShot(0, &Liste(), [this, satir, alan = Yazi(kusur->alan.ad)] {
+    Liste().HucreyeGit(satir, alan);
     Liste().setFocus();
   });
   return false;
