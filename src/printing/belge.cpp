@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "printing/cairotuval.h"
-#include "printing/doskod.h"
 #include "printing/metincizimi.h"
 #include "printing/metinyazici.h"
 #include "printing/xlsxyazici.h"
@@ -154,8 +153,7 @@ Sonuc<PdfCiktisi> BelgePdf(const Belge& belge, Ilerleme* ilerleme) {
 }
 
 std::string BelgeHam(const Belge& belge) {
-  const std::string metin = belge.Metin();
-  return DosBelgesi(metin, EnUzunSatir(metin) > NormalSatirHarfi ? DosSiklik::Sikisik : DosSiklik::Normal);
+  return MetinBaytlari(belge.Metin());
 }
 
 }  // namespace belvani

@@ -52,11 +52,4 @@ std::string CevrilmemisBaytlar(std::string_view utf8) {
   });
 }
 
-std::string DosBelgesi(std::string_view metin, DosSiklik siklik) {
-  std::string baytlar;
-  for (const char c : DosBaytlari(metin)) c == '\n' ? baytlar.append(DosSatirSonu) : baytlar.append(1, c);
-  if (!baytlar.empty() && !baytlar.ends_with(DosSayfaAt)) baytlar += DosSayfaAt;
-  return siklik == DosSiklik::Sikisik ? DosSar(baytlar, DosSikisik) : baytlar;
-}
-
 }  // namespace belvani

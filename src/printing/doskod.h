@@ -41,8 +41,4 @@ std::string DosBaytlari(std::string_view utf8);
 // the user stops its printing.
 std::string CevrilmemisBaytlar(std::string_view utf8);
 
-// A finished text (lines end in "\n", pages are parted by "\f") as the printer takes it.
-enum class DosSiklik { Normal, Sikisik };
-std::string DosBelgesi(std::string_view metin, DosSiklik siklik);
-
 }  // namespace belvani

@@ -1,17 +1,26 @@
-// dosprint: the raw spool behind `belprn` and `prnx`: a document of bytes for one printer, sent when it is closed.
+// Where a document of bytes goes. dosprint: the raw spool behind `belprn` and `prnx`, for one printer, sent when it is
+// closed.
 #pragma once
 
 #include "printing/kuyruk.h"
 
 namespace belvani {
 
-class dosprint {
+class HamCikis {
+ public:
+  virtual ~HamCikis() = default;
+  virtual Durum Ac(const std::string& yazici, const std::string& isAdi, int kopya) = 0;
+  virtual bool Yaz(std::string_view baytlar) = 0;  // false while no document is open
+  virtual Durum Kapat() = 0;
+};
+
+class dosprint final : public HamCikis {
  public:
   explicit dosprint(Kuyruk& kuyruk) : kuyruk_(kuyruk) {}
 
-  Durum Ac(const std::string& yazici, const std::string& isAdi, int kopya = 1);
-  bool Yaz(std::string_view baytlar);  // false while no document is open
-  Durum Kapat();                       // sends; a document without a byte is dropped
+  Durum Ac(const std::string& yazici, const std::string& isAdi, int kopya = 1) override;
+  bool Yaz(std::string_view baytlar) override;
+  Durum Kapat() override;  // sends; a document without a byte is dropped
 
   bool Acik() const { return acik_; }
 

@@ -17,17 +17,6 @@ constexpr int EnGenisKolon = 60;
 constexpr int KolonPayi = 2;
 constexpr std::size_t EnUzunAd = 80;  // letters; with Turkish ones well below what a file system takes
 
-// A file name out of a title: no separators, no dot in front.
-std::string DosyaAdi(std::string_view baslik) {
-  std::string ad = DenetimsizMetin(baslik);
-  std::replace_if(
-      ad.begin(), ad.end(), [](char c) { return std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos; },
-      '_');
-  ad = Kirp(IlkHarfler(Kirp(ad), EnUzunAd));
-  if (ad.starts_with('.')) ad[0] = '_';
-  return ad.empty() ? "tablo" : ad;
-}
-
 std::string Bicim(const Hucre& deger, int paraOndaligi) {
   if (std::holds_alternative<Tutar>(deger)) return XlsxSifirliBicim(paraOndaligi);
   return std::holds_alternative<Tarih>(deger) ? XlsxTarihBicimi : "";
@@ -41,9 +30,20 @@ int HucreHarfi(const Hucre& deger, int paraOndaligi) {
 
 }  // namespace
 
+std::string DosyaAdi(std::string_view baslik) {
+  std::string ad = DenetimsizMetin(baslik);
+  std::replace_if(
+      ad.begin(), ad.end(), [](char c) { return std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos; },
+      '_');
+  ad = Kirp(IlkHarfler(Kirp(ad), EnUzunAd));
+  if (ad.starts_with('.')) ad[0] = '_';
+  return ad.empty() ? "tablo" : ad;
+}
+
 void excelkont::Birak() {
   hucreler_.clear();
   sablon_.reset();
+  hazir_.reset();
   sablonAdi_.clear();
   kusur_.reset();
   dosya_.clear();
@@ -70,6 +70,11 @@ Durum excelkont::KitapAc(std::string baytlar) {
   sablon_ = std::move(*sablon);
   acik_ = true;
   return Tamam();
+}
+
+void excelkont::HazirKitap(std::string baytlar) {
+  Birak();
+  hazir_ = std::move(baytlar);
 }
 
 Sonuc<std::string> excelkont::KitapOku(const std::string& dosya) const {
@@ -117,32 +122,41 @@ Sonuc<std::string> excelkont::YeniKitap() const {
   return kitap.Bitir();
 }
 
-// In a directory of its own, so that a workbook which is still open from before stays as it is.
-Sonuc<std::string> excelkont::DosyaYeri() const {
-  if (islevler_.yolSor) return islevler_.yolSor().value_or("");
-  std::error_code hata;
-  std::string dizin = (std::filesystem::temp_directory_path(hata) / "belvani-XXXXXX").string();
-  if (hata || ::mkdtemp(dizin.data()) == nullptr) return Kusur{"Geçici dizin açılamadı"};
-  return dizin + "/" + DosyaAdi(Baslik.empty() && sablon_ ? sablonAdi_ : Baslik) + ".xlsx";
-}
-
 Sonuc<std::string> excelkont::Kitap() {
+  if (hazir_) return *hazir_;
   if (!acik_) return Kusur{"Açık bir çalışma kitabı yok"};
   if (kusur_) return *kusur_;
   return sablon_ ? sablon_->Bitir() : YeniKitap();
 }
 
+Durum excelkont::KitapYaz(const std::string& yol, const std::string& baytlar) {
+  const Durum yazildi = DosyaYaz(yol, baytlar);
+  if (yazildi) dosya_ = yol;
+  return yazildi;
+}
+
+// In a directory of its own, so that a workbook which is still open from before stays as it is. False when the file
+// is of no use there and is gone again.
+bool excelkont::GeciciYaz(const std::string& baytlar) {
+  std::error_code hata;
+  std::string dizin = (std::filesystem::temp_directory_path(hata) / "belvani-XXXXXX").string();
+  if (hata || ::mkdtemp(dizin.data()) == nullptr) return false;
+  const std::string ad = DosyaAdi(Baslik.empty() && sablon_ ? sablonAdi_ : Baslik);
+  if (KitapYaz(dizin + "/" + ad + ".xlsx", baytlar) && (!gorunur_ || (islevler_.ac && islevler_.ac(dosya_))))
+    return true;
+  dosya_.clear();
+  std::filesystem::remove_all(dizin, hata);
+  return false;
+}
+
 Durum excelkont::CloseExcell() {
   const auto baytlar = Kitap();
   if (!baytlar) return baytlar.Kusuru();
-  const auto yol = DosyaYeri();
-  if (!yol) return yol.Kusuru();
-  if (yol->empty()) return Tamam();
-  if (const Durum yazildi = DosyaYaz(*yol, *baytlar); !yazildi) return yazildi;
   acik_ = false;
-  dosya_ = *yol;
-  if (gorunur_ && (!islevler_.ac || !islevler_.ac(dosya_))) return Kusur{ExcelYok};
-  return Tamam();
+  if (GeciciYaz(*baytlar)) return Tamam();
+  if (!islevler_.yolSor) return Kusur{ExcelYok};
+  const auto yol = islevler_.yolSor();
+  return yol ? KitapYaz(*yol, *baytlar) : Tamam();
 }
 
 }  // namespace belvani

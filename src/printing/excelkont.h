@@ -30,10 +30,13 @@ inline constexpr const char* ExcelYok = "Excell Yüklü Değil veya Desteklenmey
 
 enum class ExcelYazisi { Normal, Koyu };
 
+// A file name out of a title: no separators, no dot in front.
+std::string DosyaAdi(std::string_view baslik);
+
 struct ExcelIslevleri {
   // Hands the finished file to the user's spreadsheet program; false: there is none.
   std::function<bool(const std::string& dosya)> ac = nullptr;
-  // Where the file goes; nothing when its user gave up. Not bound: a new directory among the temporary ones.
+  // Asked when there is none: where the file goes; nothing when its user gave up.
   std::function<std::optional<std::string>()> yolSor = nullptr;
   std::string donusturucu = "soffice";
 };
@@ -49,13 +52,16 @@ class excelkont {
   Durum OpenExcell(const std::string& dosya = {});
   // The same for the bytes of a workbook (.xlsx).
   Durum KitapAc(std::string baytlar);
+  // A workbook that is finished, to be handed over as it is.
+  void HazirKitap(std::string baytlar);
 
   bool SetExcell(int satir, int kolon, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
   bool SetExcel(std::string_view adres, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
 
   // The finished workbook, for one that is not handed over here; or the first failure.
   Sonuc<std::string> Kitap();
-  // Writes the file and opens it in the user's program. When that fails the file stays where Dosya() tells.
+  // Writes the file into a new directory among the temporary ones and opens it in the user's program; without such a
+  // program it goes where the user wants it.
   Durum CloseExcell();
   void ExVisible(bool gorunur) { gorunur_ = gorunur; }  // false: CloseExcell only writes the file
 
@@ -71,11 +77,13 @@ class excelkont {
   Sonuc<std::string> KitapOku(const std::string& dosya) const;
   bool KusuruTut(const Durum& durum);
   Sonuc<std::string> YeniKitap() const;
-  Sonuc<std::string> DosyaYeri() const;
+  Durum KitapYaz(const std::string& yol, const std::string& baytlar);
+  bool GeciciYaz(const std::string& baytlar);
 
   ExcelIslevleri islevler_;
   std::map<std::pair<int, int>, YeniHucre> hucreler_;  // by row and column, from 1
   std::optional<XlsxSablon> sablon_;
+  std::optional<std::string> hazir_;
   std::string sablonAdi_;
   std::optional<Kusur> kusur_;
   std::string dosya_;

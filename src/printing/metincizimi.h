@@ -1,4 +1,7 @@
-// A text paper drawn as its printer would print it, letter under letter: for the preview, and to be kept as a PDF.
+// A finished text paper, line by line through prnx: drawn as its printer would print it, letter under letter, for the
+// preview and to be kept as a PDF; and as the bytes of that print, for a file.
+//
+// Lines of a text end in "\n", its pages are parted by "\f".
 //
 // Ten letters to the inch, six lines; lines of over 80 letters are condensed to 17. The sheet is as wide as the longest
 // line needs, and as long as the lines of a page.
@@ -9,6 +12,7 @@
 #include <vector>
 
 #include "printing/cizilenbelge.h"
+#include "printing/prnx.h"
 
 namespace belvani {
 
@@ -18,12 +22,14 @@ constexpr std::size_t NormalSatirHarfi = 80;
 // The parts of a text between the letters `ayrac`; at least one. They lie in the text itself.
 std::vector<std::string_view> Parcala(std::string_view metin, char ayrac);
 
+// The lines of one page.
+std::vector<std::string_view> SayfaSatirlari(std::string_view sayfa);
+
 // The letters of the longest line.
 std::size_t EnUzunSatir(std::string_view metin);
 
 class MetinCizimi final : public CizilenBelge {
  public:
-  // Lines end in "\n", pages are parted by "\f".
   MetinCizimi(std::string metin, int satirSayisi);
 
   int SayfaSayisi() const override { return int(sayfalar_.size()); }
@@ -32,8 +38,10 @@ class MetinCizimi final : public CizilenBelge {
  private:
   std::string metin_;
   std::vector<std::string_view> sayfalar_;
-  KagitBoyu kagit_;
-  YaziBicimi yazi_;
+  prnxIzgara izgara_;
 };
+
+// Empty without any text.
+std::string MetinBaytlari(const std::string& metin);
 
 }  // namespace belvani

@@ -4,23 +4,14 @@
 
 #include "core/turkce.h"
 #include "printing/sayfalayici.h"
+#include "printing/yzccnt.h"
 
 namespace belvani {
 namespace {
 
-enum class Hiza { Sol, Sag };
-
-std::string Yinele(std::string_view harf, int adet) {
-  std::string sonuc;
-  for (int i = 0; i < adet; ++i) sonuc += harf;
-  return sonuc;
-}
-
-// A text in a field of `en` letters: filled up, never cut.
-std::string Doldur(const std::string& metin, int en, Hiza hiza) {
-  const std::size_t harf = HarfSayisi(metin);
-  const std::string bosluk(std::size_t(std::max(en, 0)) > harf ? std::size_t(en) - harf : 0, ' ');
-  return hiza == Hiza::Sag ? bosluk + metin : metin + bosluk;
+// A text in the field of a column: filled up, never cut.
+std::string Alan(const std::string& metin, int en, const RaporKolonu& kolon) {
+  return kolon.Sayisal() ? Sagda(metin, en) : Solda(metin, en);
 }
 
 // `metin` put at letter `yer` of the line, or one blank behind what already stands there.
@@ -34,10 +25,6 @@ void Yerlestir(std::string& satir, int yer, const std::string& metin) {
 // Whether the line at `yer` is one of the table's, with columns.
 bool TabloMu(const Sayfa& sayfa, std::size_t yer) {
   return yer < sayfa.satirlar.size() && TabloSatiriMi(sayfa.satirlar[yer].tur);
-}
-
-Hiza KolonHizasi(const RaporKolonu& kolon) {
-  return kolon.Sayisal() ? Hiza::Sag : Hiza::Sol;
 }
 
 class MetinYazici {
@@ -85,18 +72,12 @@ class MetinYazici {
     return {};
   }
 
-  int OrtaYer(const std::string& metin) const { return bicim_.en / 2 - int(HarfSayisi(metin)) / 2; }
-
-  std::string Ortala(const std::string& metin) const {
-    std::string satir;
-    Yerlestir(satir, OrtaYer(metin), metin);
-    return satir;
-  }
+  std::string Ortala(const std::string& metin) const { return Yinele(" ", OrtaYeri(metin, bicim_.en)) + metin; }
 
   std::string Ust(const UstSatir& ust, int sayfaNo) const {
     const std::string sag = UstSagMetni(ust, sayfaNo, sayfaSayisi_);
     std::string satir = ust.sol;
-    Yerlestir(satir, OrtaYer(ust.orta), ust.orta);
+    Yerlestir(satir, OrtaYeri(ust.orta, bicim_.en), ust.orta);
     Yerlestir(satir, bicim_.en - int(HarfSayisi(sag)), sag);
     return satir;
   }
@@ -117,10 +98,7 @@ class MetinYazici {
 
   std::string Basliklar(std::size_t sira) const {
     return TabloSatiri(
-        [&](std::size_t k) {
-          return Doldur(bicim_.basliklar[k][sira], bicim_.enler[k], KolonHizasi(rapor_.Kolonlar()[k]));
-        },
-        Ayrac());
+        [&](std::size_t k) { return Alan(bicim_.basliklar[k][sira], bicim_.enler[k], rapor_.Kolonlar()[k]); }, Ayrac());
   }
 
   // Vertical lines cross a rule only towards the sides where the table goes on.
@@ -131,7 +109,7 @@ class MetinYazici {
   }
 
   std::string BosSatir() const {
-    return TabloSatiri([&](std::size_t k) { return std::string(std::size_t(bicim_.enler[k]), ' '); }, Ayrac());
+    return TabloSatiri([&](std::size_t k) { return Yinele(" ", bicim_.enler[k]); }, Ayrac());
   }
 
   std::string Hucreler(const std::vector<Hucre>& hucreler) const {
@@ -142,7 +120,7 @@ class MetinYazici {
     const RaporKolonu& kolon = rapor_.Kolonlar()[k];
     std::string metin = HucreMetni(hucre, kolon, bicim_.gruplama);
     if (kolon.tur == KolonTuru::Metin) metin = std::string(IlkHarfler(metin, std::size_t(bicim_.enler[k])));
-    return Doldur(metin, bicim_.enler[k], KolonHizasi(kolon));
+    return Alan(metin, bicim_.enler[k], kolon);
   }
 
   std::string Blok(const BlokSatiri& satir) const {
@@ -152,7 +130,7 @@ class MetinYazici {
       etiketEni = std::max(etiketEni, int(HarfSayisi(b.etiket)));
       degerEni = std::max(degerEni, int(HarfSayisi(BlokMetni(b, rapor_))));
     }
-    return Doldur(satir.etiket, etiketEni, Hiza::Sol) + " " + Doldur(BlokMetni(satir, rapor_), degerEni, Hiza::Sag);
+    return Solda(satir.etiket, etiketEni) + " " + Sagda(BlokMetni(satir, rapor_), degerEni);
   }
 
   const Rapor& rapor_;

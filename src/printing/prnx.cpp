@@ -17,14 +17,9 @@ int KolonSayisi(const prnxAcilis& acilis) {
   return acilis.large ? 228 : acilis.condensed ? 132 : 80;
 }
 
-double YazilirEn(const YzcAyarlari& ayar) {
-  return A4(ayar.YzcYon).en - 2 * KenarMm;
-}
-
 // As many blanks before as behind, so one letter short of n where they cannot be shared.
 std::string Ortala(std::string_view metin, int n) {
-  const int bosluk = std::max(0, (n - int(HarfSayisi(metin))) / 2);
-  const std::string bos(std::size_t(bosluk), ' ');
+  const std::string bos = Yinele(" ", (n - int(HarfSayisi(metin))) / 2);
   return std::string(IlkHarfler(bos + std::string(metin) + bos, std::size_t(std::max(n, 0))));
 }
 
@@ -55,20 +50,31 @@ bool prnx::OpenPrinter(int tur, const std::string& baslik, prnxAcilis acilis) {
   return tur_ == Tur::Bos;
 }
 
-bool prnx::GrafikAc(const prnxAcilis& acilis) {
-  tur_ = Tur::Grafik;
-  kolon_ = KolonSayisi(acilis);
-  yazi_ = {.punto = std::max(Font.fontsize, 1.0), .aile = AileBul(Font.fontname)};
-  YaziBicimi kalin = yazi_;
+prnxIzgara prnx::AyarinIzgarasi(const prnxAcilis& acilis) const {
+  const KagitBoyu kagit = A4(ayar_.YzcYon);
+  const YaziBicimi yazi{.punto = std::max(Font.fontsize, 1.0), .aile = AileBul(Font.fontname)};
+  YaziBicimi kalin = yazi;
   kalin.kalinlik = YaziKalinligi::Kalin;
-  satirBoyu_ = SatirBoyu(kalin);
-  ayar_.YzcSatir = std::min(int((A4(ayar_.YzcYon).boy - 2 * KenarMm) / satirBoyu_), EnCokSatir);
+  return {.kagit = kagit,
+          .bas = {KenarMm, KenarMm},
+          .harfEni = (kagit.en - 2 * KenarMm) / KolonSayisi(acilis),
+          .satirBoyu = SatirBoyu(kalin),
+          .yazi = yazi};
+}
+
+bool prnx::GrafikAc(const prnxAcilis& acilis) {
+  if (tuval_ == nullptr) return false;
+  tur_ = Tur::Grafik;
+  izgara_ = acilis.izgara ? *acilis.izgara : AyarinIzgarasi(acilis);
+  if (!acilis.izgara)
+    ayar_.YzcSatir = std::min(int((izgara_.kagit.boy - 2 * KenarMm) / izgara_.satirBoyu), EnCokSatir);
   return true;
 }
 
 bool prnx::HamAc(const std::string& baslik, const prnxAcilis& acilis) {
+  if (ham_ == nullptr) return false;
   tampon_ = acilis.condensed ? DosSikisik.ac : "";
-  const Durum durum = ham_.Ac(ayar_.yazici, ayar_.YzcBaslik.empty() ? baslik : ayar_.YzcBaslik, ayar_.YzcKopya);
+  const Durum durum = ham_->Ac(ayar_.yazici, ayar_.YzcBaslik.empty() ? baslik : ayar_.YzcBaslik, ayar_.YzcKopya);
   if (!durum) sonHata_ = durum.KusurMetni();
   if (durum) tur_ = Tur::Ham;
   return bool(durum);
@@ -76,39 +82,38 @@ bool prnx::HamAc(const std::string& baslik, const prnxAcilis& acilis) {
 
 Durum prnx::ClosePrinter() {
   if (tur_ == Tur::Grafik && sayfaAcik_) SayfaBitti(SayfaDibi::Birak);
-  return std::exchange(tur_, Tur::Kapali) == Tur::Ham ? ham_.Kapat() : Tamam();
+  if (std::exchange(tur_, Tur::Kapali) != Tur::Ham) return Tamam();
+  if (!tampon_.empty()) ham_->Yaz(std::exchange(tampon_, {}));
+  return ham_->Kapat();
 }
 
 int prnx::YeniSayfa() {
   if (tur_ == Tur::Grafik) {
-    if (sayfaAcik_) tuval_.SayfaBitir();
-    tuval_.SayfaBasla(A4(ayar_.YzcYon));
+    if (sayfaAcik_) tuval_->SayfaBitir();
+    tuval_->SayfaBasla(izgara_.kagit);
   }
   sayfaAcik_ = true;
   satir_ = 0;
-  x_ = KenarMm;
-  y_ = KenarMm;
+  x_ = izgara_.bas.x;
+  y_ = izgara_.bas.y;
   return ++sayfa_;
 }
 
 void prnx::SayfaBitti(SayfaDibi dip) {
-  if (tur_ == Tur::Grafik && sayfaAcik_) tuval_.SayfaBitir();
+  if (tur_ == Tur::Grafik && sayfaAcik_) tuval_->SayfaBitir();
   if (tur_ == Tur::Ham) {
     if (dip == SayfaDibi::Birak) return;
-    while (satir_ <= ayar_.YzcSatir) Lprint(" ", 0, SatirSonu::Var);
+    if (dip == SayfaDibi::At) tampon_ += DosSayfaAt;
+    while (dip == SayfaDibi::Doldur && satir_ <= ayar_.YzcSatir) Lprint(" ", 0, SatirSonu::Var);
   }
   sayfaAcik_ = false;
   satir_ = 0;
 }
 
-double prnx::HucreEni(int en) const {
-  return YazilirEn(ayar_) / kolon_ * en;
-}
-
 void prnx::SatirAtla() {
   ++satir_;
-  x_ = KenarMm;
-  y_ += satirBoyu_;
+  x_ = izgara_.bas.x;
+  y_ += izgara_.satirBoyu;
 }
 
 void prnx::Lprint(std::string_view metin, int en, SatirSonu sonu, MetinHizasi hiza, HucreBicem bicem) {
@@ -119,17 +124,19 @@ void prnx::Lprint(std::string_view metin, int en, SatirSonu sonu, MetinHizasi hi
 }
 
 void prnx::GrafikHucre(std::string_view metin, int en, MetinHizasi hiza, HucreBicem bicem) {
-  YaziBicimi yazi = yazi_;
+  YaziBicimi yazi = izgara_.yazi;
   if (BicemVar(bicem, HucreBicem::Kalin)) yazi.kalinlik = YaziKalinligi::Kalin;
   if (BicemVar(bicem, HucreBicem::Egik)) yazi.durus = YaziDurusu::Egik;
-  const Dikdortgen hucre{x_, y_, HucreEni(en), satirBoyu_};
-  MetinKutuya(tuval_, hucre, metin, yazi, hiza);
-  const double metinEni = std::min(MetinEni(metin, yazi), hucre.en);
-  const double pay = hiza == MetinHizasi::Sol ? 0 : hiza == MetinHizasi::Sag ? 1 : 0.5;
-  const double bas = x_ + (hucre.en - metinEni) * pay;
-  const auto ciz = [&](double y) { tuval_.Cizgi({bas, y}, {bas + metinEni, y}); };
-  if (BicemVar(bicem, HucreBicem::UstuCizili)) ciz(y_ + satirBoyu_ / 2);
-  if (BicemVar(bicem, HucreBicem::AltiCizili)) ciz(y_ + satirBoyu_ - satirBoyu_ / AltCizgiOrani);
+  const Dikdortgen hucre{x_, y_, izgara_.harfEni * en, izgara_.satirBoyu};
+  MetinKutuya(*tuval_, hucre, metin, yazi, hiza);
+  const auto ciz = [&](double y) {
+    const double metinEni = std::min(MetinEni(metin, yazi), hucre.en);
+    const double pay = hiza == MetinHizasi::Sol ? 0 : hiza == MetinHizasi::Sag ? 1 : 0.5;
+    const double bas = hucre.x + (hucre.en - metinEni) * pay;
+    tuval_->Cizgi({bas, y}, {bas + metinEni, y});
+  };
+  if (BicemVar(bicem, HucreBicem::UstuCizili)) ciz(y_ + hucre.boy / 2);
+  if (BicemVar(bicem, HucreBicem::AltiCizili)) ciz(y_ + hucre.boy - hucre.boy / AltCizgiOrani);
   x_ += hucre.en;
 }
 
@@ -140,15 +147,16 @@ void prnx::HamHucre(std::string_view metin, int en, SatirSonu sonu, MetinHizasi 
   if (BicemVar(bicem, HucreBicem::UstuCizili)) baytlar = DosSar(baytlar, prnxUcuncu);
   tampon_ += baytlar;
   if (sonu == SatirSonu::Yok) return;
-  ham_.Yaz(std::exchange(tampon_, {}).append(DosSatirSonu));
+  ham_->Yaz(std::exchange(tampon_, {}).append(DosSatirSonu));
   ++satir_;
 }
 
 void prnx::LinePrint(int en, SatirSonu sonu) {
-  if (tur_ == Tur::Ham) return HamHucre(std::string(std::size_t(std::max(en, 0)), '_'), 0, sonu, MetinHizasi::Sol, {});
+  if (tur_ == Tur::Ham) return HamHucre(Yinele("_", en), 0, sonu, MetinHizasi::Sol, {});
   if (tur_ != Tur::Grafik) return;
-  const double sag = x_ + HucreEni(en);
-  tuval_.Cizgi({x_, y_ + satirBoyu_ / 2}, {sag, y_ + satirBoyu_ / 2});
+  const double sag = x_ + izgara_.harfEni * en;
+  const double orta = y_ + izgara_.satirBoyu / 2;
+  tuval_->Cizgi({x_, orta}, {sag, orta});
   x_ = sag;
   if (sonu == SatirSonu::Var) SatirAtla();
 }

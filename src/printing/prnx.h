@@ -1,7 +1,7 @@
 // prnx: one interface, cell by cell and line by line, to a drawn page and to the raw spool of a printer, so that a
 // tabular document has one writer for both.
 //
-//   prnx yazici(ayar, pdf, ham);
+//   prnx yazici(ayar, &pdf, &ham);
 //   if (!yazici.OpenPrinter(prnxTuru(ayar), "LİSTE")) return;
 //   yazici.YeniSayfa();
 //   yazici.Lprint("Adı Soyadı", 24, SatirSonu::Yok, MetinHizasi::Sol, HucreBicem::Kalin);
@@ -9,6 +9,8 @@
 //   yazici.SayfaBitti(SayfaDibi::Doldur);
 //   yazici.ClosePrinter();
 #pragma once
+
+#include <optional>
 
 #include "printing/dosprint.h"
 #include "printing/tuval.h"
@@ -25,7 +27,7 @@ constexpr bool BicemVar(HucreBicem hepsi, HucreBicem biri) {
   return (unsigned(hepsi) & unsigned(biri)) != 0;
 }
 
-enum class SayfaDibi { Birak, Doldur };
+enum class SayfaDibi { Birak, Doldur, At };
 
 struct prnxFont {
   std::string fontname = "Tahoma";
@@ -33,27 +35,39 @@ struct prnxFont {
   int fontchar = 162;  // Turkish letters
 };
 
+// The cells of letters that a drawn page is divided into.
+struct prnxIzgara {
+  KagitBoyu kagit;
+  Nokta bas;  // upper left corner of the first cell
+  double harfEni = 0;
+  double satirBoyu = 0;
+  YaziBicimi yazi;
+};
+
 struct prnxAcilis {
   bool condensed = false;
   bool large = false;
-  int kolon = 0;  // columns of a drawn page; 0: 80, condensed 132, large 228
+  int kolon = 0;                           // columns of a drawn page; 0: 80, condensed 132, large 228
+  std::optional<prnxIzgara> izgara = {};  // nothing: as font, columns and print settings make it
 };
 
 class prnx {
  public:
-  prnx(YzcAyarlari& ayar, Tuval& tuval, dosprint& ham) : ayar_(ayar), tuval_(tuval), ham_(ham) {}
+  // A kind whose destination is null is refused.
+  prnx(YzcAyarlari& ayar, Tuval* tuval, HamCikis* ham) : ayar_(ayar), tuval_(tuval), ham_(ham) {}
 
   prnxFont Font;
 
   // Kind 1 drawn, 2 raw text; 3 and 4 open and write nothing; any other is refused. The drawn kind sets YzcSatir to
-  // the lines that the font allows.
+  // the lines that the font allows, unless the caller brings a grid.
   bool OpenPrinter(int tur, const std::string& baslik, prnxAcilis acilis = {});
   Durum ClosePrinter();
 
   int SatirSayisi() const { return satir_; }
   int SayfaSayisi() const { return sayfa_; }
   int YeniSayfa();
-  // A raw page that is to end with its paper must be filled; left as it is, the next one runs on from it.
+  // A raw page that is to end with its paper must be filled, or its paper thrown out; left as it is, the next one runs
+  // on from it.
   void SayfaBitti(SayfaDibi dip);
 
   // A cell of `en` columns; below 1, as wide as its text. On a drawn page a text that is wider is made narrower.
@@ -70,19 +84,17 @@ class prnx {
   bool HamAc(const std::string& baslik, const prnxAcilis& acilis);
   void GrafikHucre(std::string_view metin, int en, MetinHizasi hiza, HucreBicem bicem);
   void HamHucre(std::string_view metin, int en, SatirSonu sonu, MetinHizasi hiza, HucreBicem bicem);
-  double HucreEni(int en) const;
+  prnxIzgara AyarinIzgarasi(const prnxAcilis& acilis) const;
   void SatirAtla();
 
   YzcAyarlari& ayar_;
-  Tuval& tuval_;
-  dosprint& ham_;
+  Tuval* tuval_;
+  HamCikis* ham_;
   Tur tur_ = Tur::Kapali;
-  int kolon_ = 80;
   int sayfa_ = 0;
   int satir_ = 0;
   bool sayfaAcik_ = false;
-  YaziBicimi yazi_;
-  double satirBoyu_ = 0;
+  prnxIzgara izgara_;
   double x_ = 0;
   double y_ = 0;
   std::string tampon_;  // the raw line

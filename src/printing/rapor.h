@@ -20,6 +20,9 @@ namespace belvani {
 
 using Hucre = std::variant<Null, std::string, std::int64_t, Tutar, Tarih>;
 
+// The value as a text of no column: "Işıl", "26", "1234.5", "15.03.2004"; "" for Null.
+std::string DuzMetin(const Hucre& hucre);
+
 enum class KolonTuru {
   Metin,
   Tam,        // whole number

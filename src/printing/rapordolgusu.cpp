@@ -30,24 +30,16 @@ KolonTuru Turu(const DolguKolonu& kolon) {
   return KolonTuru::Metin;
 }
 
-std::string Metni(const Hucre& deger) {
-  if (const auto* metin = std::get_if<std::string>(&deger)) return *metin;
-  if (const auto* tam = std::get_if<std::int64_t>(&deger)) return std::to_string(*tam);
-  if (const auto* tutar = std::get_if<Tutar>(&deger)) return OndalikMetin(*tutar);
-  if (const auto* tarih = std::get_if<Tarih>(&deger)) return tarih->Metin();
-  return {};
-}
-
 Hucre Uydur(const Hucre& deger, DolguTuru tur) {
   switch (tur) {
     case DolguTuru::Metin:
-      return Metni(deger);
+      return DuzMetin(deger);
     case DolguTuru::Sayi:
     case DolguTuru::ToplananSayi:
-      if (const auto tutar = TutarOku(Metni(deger))) return *tutar;
+      if (const auto tutar = TutarOku(DuzMetin(deger))) return *tutar;
       return Null{};
     case DolguTuru::Tarih:
-      if (const Tarih tarih = Tarih::MetinOku(Metni(deger)); !tarih.Bos()) return tarih;
+      if (const Tarih tarih = Tarih::MetinOku(DuzMetin(deger)); !tarih.Bos()) return tarih;
       return Null{};
   }
   return Null{};

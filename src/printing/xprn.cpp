@@ -25,14 +25,6 @@ xprn::xprn(YzcAyarlari& ayar, xprnOrtami ortam) : ayar_(ayar), ortam_(std::move(
 bool xprn::OpenDosPrint() {
   dosya_ = GeciciDosya();
   akis_.clear();
-  gonderilir_ = true;
-  return !dosya_.empty();
-}
-
-bool xprn::DosyayaAc(const std::string& dosya) {
-  dosya_ = dosya;
-  akis_.clear();
-  gonderilir_ = false;
   return !dosya_.empty();
 }
 
@@ -63,8 +55,8 @@ Durum xprn::CloseDosPrint() {
   if (dosya_.empty()) return Tamam();
   const std::string dosya = std::exchange(dosya_, {});
   const Durum yazildi = DosyaYaz(dosya, std::exchange(akis_, {}));
-  if (!yazildi && gonderilir_) ::unlink(dosya.c_str());
-  if (!yazildi || !gonderilir_ || !ortam_.belprn) return yazildi;
+  if (!yazildi) ::unlink(dosya.c_str());
+  if (!yazildi || !ortam_.belprn) return yazildi;
   return ortam_.belprn(dosya);
 }
 

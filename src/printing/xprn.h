@@ -75,8 +75,7 @@ class xprn {
 
   // --- direct ---
 
-  bool OpenDosPrint();                       // a new temporary file
-  bool DosyayaAc(const std::string& dosya);  // a file of the user's, which is kept and not sent
+  bool OpenDosPrint();  // a new temporary file
   bool DosDirectPrint(std::string_view metin, SatirSonu sonu, DosBicem bicem = DosBicem::Duz);
   // A full disk or a refused directory is told here; nothing is sent then.
   Durum CloseDosPrint();
@@ -84,7 +83,6 @@ class xprn {
   // Letter by letter to the port, the line end in front. Slow: no document uses it.
   bool DosDirectPrint2(std::string_view metin, SatirSonu sonu, DosBicem bicem = DosBicem::Duz);
   bool CheckDosPrint();
-  std::uint8_t PortDurumu() const { return portDurumu_; }  // as last read
   int DosPrintPort() const { return portNo_; }
   void DosPrintPort(int no);  // 0 to 4; any other is ignored
 
@@ -110,7 +108,6 @@ class xprn {
   std::function<void(int& satirSayisi)> SayfaSonu;  // once a page, when only the free lines are left
 
   int SatirSayaci() const { return satir_; }
-  double KolonBirimi() const { return kolonBirimi_; }  // millimetres of a letter, or 1 in text
 
  private:
   struct Kolon {
@@ -122,6 +119,7 @@ class xprn {
   bool Kes();
   bool SatirYaz(const std::string& satir);
   std::string Alan(const Kolon& kolon) const;
+  std::string Cizgi(std::string_view harf) const;
   void SayfaBasligi(const std::string& baslik);
   bool BaytGonder(std::uint8_t bayt);
 
@@ -129,7 +127,6 @@ class xprn {
   xprnOrtami ortam_;
   std::string dosya_;  // where the stream goes; empty: none is open
   std::string akis_;
-  bool gonderilir_ = false;
   bool acik_ = true;
   int mod_ = 0;
   int portNo_ = 0;
@@ -139,7 +136,6 @@ class xprn {
   int sayfaNo_ = 0;
   int satir_ = 0;
   bool sonuSoylendi_ = false;
-  double kolonBirimi_ = 1;
 };
 
 }  // namespace belvani

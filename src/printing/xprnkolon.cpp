@@ -17,20 +17,6 @@ constexpr int BaslikAlani = 17;  // letters in whose middle the title stands
 constexpr int SagAlan = 21;      // letters of "Tarih    : 01.01.2008" at the right end
 constexpr int SayfaNoHaneleri = 5;
 
-std::string Yinele(std::string_view harf, int adet) {
-  std::string sonuc;
-  for (int i = 0; i < adet; ++i) sonuc += harf;
-  return sonuc;
-}
-
-std::string SayiMetniYap(const Hucre& deger) {
-  if (const auto* metin = std::get_if<std::string>(&deger)) return *metin;
-  if (const auto* tam = std::get_if<std::int64_t>(&deger)) return std::to_string(*tam);
-  if (const auto* tutar = std::get_if<Tutar>(&deger)) return OndalikMetin(*tutar);
-  if (const auto* tarih = std::get_if<Tarih>(&deger)) return tarih->Metin();
-  return {};
-}
-
 std::string TarihAlani(const Hucre& deger, xprnTuru tur, int en) {
   const auto* tarih = std::get_if<Tarih>(&deger);
   if (tarih == nullptr) return SolBosluk("", en);
@@ -56,13 +42,8 @@ void xprn::xprnReset() {
 
 bool xprn::xprnOpen(int mod) {
   mod_ = mod == 1 || mod == 2 ? prnxTuru(ayar_) : mod;
-  if (mod_ == 1) {
-    satir_ = 0;
-    kolonBirimi_ = xprnYzcEn > 0 ? (A4(ayar_.YzcYon).en - 2 * KenarMm) / xprnYzcEn : 0;
-  }
+  if (mod_ == 1 || mod_ == MetinModu) satir_ = 0;
   if (mod_ == MetinModu) {
-    satir_ = 0;
-    kolonBirimi_ = 1;
     if (const int no = PortNo(ortam_.portAdi); no >= 0 && no < AdliPort) portNo_ = no;
     acik_ = CheckDosPrint() && (!dosya_.empty() || OpenDosPrint());
     if (acik_ && xprnCondencePrint) DosDirectPrint(DosSikisik.ac, SatirSonu::Yok);
@@ -105,9 +86,9 @@ std::string xprn::Alan(const Kolon& kolon) const {
   if (BicemVar(kolon.bicem, DosBicem::TireDizisi)) return Yinele("-", en);
   switch (kolon.tanim.tur) {
     case xprnTuru::Metin:
-      return SagBosluk(SayiMetniYap(kolon.deger), en);
+      return SagBosluk(DuzMetin(kolon.deger), en);
     case xprnTuru::Sayi:
-      return SolBosluk(SayiFormat(SayiMetniYap(kolon.deger), kolon.tanim.ondalik, BinlikGruplama), en);
+      return SolBosluk(SayiFormat(DuzMetin(kolon.deger), kolon.tanim.ondalik, BinlikGruplama), en);
     case xprnTuru::Tarih:
     case xprnTuru::KisaTarih:
       return TarihAlani(kolon.deger, kolon.tanim.tur, en);
@@ -137,10 +118,13 @@ bool xprn::LPrn() {
 }
 
 bool xprn::LPrn(std::string_view harf) {
+  return SatirYaz(Cizgi(IlkHarfler(harf, 1)));
+}
+
+std::string xprn::Cizgi(std::string_view harf) const {
   std::string satir;
-  for (std::size_t k = 0; k < kolonlar_.size(); ++k)
-    satir += (k > 0 ? " " : "") + Yinele(IlkHarfler(harf, 1), kolonlar_[k].tanim.en);
-  return SatirYaz(satir);
+  for (const Kolon& kolon : kolonlar_) satir += (&kolon == &kolonlar_[0] ? "" : " ") + Yinele(harf, kolon.tanim.en);
+  return satir;
 }
 
 // An owner that prints no head gets the plain one: otherwise he would be asked without end.
@@ -182,13 +166,11 @@ void xprn::SayfaBasligi(const std::string& baslik) {
   satir(OrtalaMetin(ayar_.YzcBaslik, BaslikAlani));
   satir(ikiUc(ayar_.YzcSirketYaz ? ortam_.unvan : "", ayar_.YzcTarihYaz ? "Tarih    : " + ortam_.bugun().Metin() : ""));
   std::string no = std::to_string(sayfaNo_);
-  no.insert(0, std::size_t(std::max(0, SayfaNoHaneleri - int(no.size()))), '0');
+  no.insert(0, Yinele("0", SayfaNoHaneleri - int(no.size())));
   satir(ikiUc(baslik, ayar_.YzcSayfaNoYaz ? "Sayfa No : " + no + "     " : ""));
   if (ikiSatirBaslik_) satir(basliklar(&xprnKolonu::baslik2));
   satir(basliklar(&xprnKolonu::baslik1));
-  std::string cizgi;
-  for (std::size_t k = 0; k < kolonlar_.size(); ++k) cizgi += (k > 0 ? " " : "") + Yinele("-", kolonlar_[k].tanim.en);
-  satir(cizgi);
+  satir(Cizgi("-"));
   satir("");
 }
 

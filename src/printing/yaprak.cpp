@@ -4,6 +4,7 @@
 
 #include "core/sayi.h"
 #include "core/turkce.h"
+#include "printing/yzccnt.h"
 
 namespace belvani {
 namespace {
@@ -12,34 +13,22 @@ constexpr int BloklarArasi = 4;
 constexpr int YapraklarArasi = 3;  // lines
 constexpr int EnKucukEn = 76;
 
-std::string Bosluk(std::size_t harf) {
-  return std::string(harf, ' ');
-}
-
-std::string Solda(const std::string& metin, std::size_t en) {
-  return metin + Bosluk(en - std::min(en, HarfSayisi(metin)));
-}
-
-std::string Sagda(const std::string& metin, std::size_t en) {
-  return Bosluk(en - std::min(en, HarfSayisi(metin))) + metin;
-}
-
-std::string Ortada(const std::string& metin, std::size_t en) {
-  return Bosluk(en / 2 - std::min(en / 2, HarfSayisi(metin) / 2)) + metin;
+std::string Ortada(const std::string& metin, int en) {
+  return Yinele(" ", OrtaYeri(metin, en)) + metin;
 }
 
 // The letters that labels and values of a block take, over all slips, so that all have the same columns.
 struct BlokEni {
-  std::size_t etiket = 0;
-  std::size_t deger = 0;
+  int etiket = 0;
+  int deger = 0;
 
   void Genislet(const std::vector<BlokSatiri>& blok, int ondalik) {
     for (const auto& satir : blok) {
-      etiket = std::max(etiket, HarfSayisi(satir.etiket));
-      deger = std::max(deger, HarfSayisi(YaprakMetni(satir.deger, ondalik)));
+      etiket = std::max(etiket, int(HarfSayisi(satir.etiket)));
+      deger = std::max(deger, int(HarfSayisi(YaprakMetni(satir.deger, ondalik))));
     }
   }
-  std::size_t Tamami() const { return etiket + 1 + deger; }
+  int Tamami() const { return etiket + 1 + deger; }
 };
 
 class YaprakMetinYazici {
@@ -49,7 +38,7 @@ class YaprakMetinYazici {
       sol_.Genislet(yaprak.sol, belge.paraOndaligi);
       sag_.Genislet(yaprak.sag, belge.paraOndaligi);
     }
-    en_ = std::max<std::size_t>(EnKucukEn, sol_.Tamami() + BloklarArasi + sag_.Tamami());
+    en_ = std::max(EnKucukEn, sol_.Tamami() + BloklarArasi + sag_.Tamami());
   }
 
   std::vector<std::string> Satirlar(const Yaprak& yaprak) const {
@@ -57,7 +46,7 @@ class YaprakMetinYazici {
     for (const auto& satir : yaprak.bas) satirlar.push_back(satir.etiket + " " + Deger(satir));
     satirlar.push_back(Cizgi());
     for (std::size_t i = 0; i < std::max(yaprak.sol.size(), yaprak.sag.size()); ++i)
-      satirlar.push_back(Alan(yaprak.sol, i, sol_) + Bosluk(BloklarArasi) + Alan(yaprak.sag, i, sag_));
+      satirlar.push_back(Alan(yaprak.sol, i, sol_) + Yinele(" ", BloklarArasi) + Alan(yaprak.sag, i, sag_));
     satirlar.push_back(Cizgi());
     satirlar.insert(satirlar.end(), yaprak.cumleler.begin(), yaprak.cumleler.end());
     for (auto& satir : satirlar) {
@@ -69,17 +58,17 @@ class YaprakMetinYazici {
 
  private:
   std::string Deger(const BlokSatiri& satir) const { return YaprakMetni(satir.deger, belge_.paraOndaligi); }
-  std::string Cizgi() const { return std::string(en_, '-'); }
+  std::string Cizgi() const { return Yinele("-", en_); }
 
   std::string Alan(const std::vector<BlokSatiri>& blok, std::size_t i, const BlokEni& en) const {
-    if (i >= blok.size()) return Bosluk(en.Tamami());
+    if (i >= blok.size()) return Yinele(" ", en.Tamami());
     return Solda(blok[i].etiket, en.etiket) + " " + Sagda(Deger(blok[i]), en.deger);
   }
 
   const YaprakBelgesi& belge_;
   BlokEni sol_;
   BlokEni sag_;
-  std::size_t en_ = 0;
+  int en_ = 0;
 };
 
 }  // namespace

@@ -21,9 +21,7 @@ bool MetniYaz(const std::string& metin, int kopya, Yaz yaz) {
   if (sikisik && !yaz(DosSikisik.ac, SatirSonu::Yok)) return false;
   for (int i = 0; i < kopya; ++i)
     for (const std::string_view sayfa : Parcala(metin, '\f')) {
-      // The last line of a page ends like the others.
-      for (const std::string_view satir :
-           Parcala(sayfa.substr(0, sayfa.ends_with('\n') ? sayfa.size() - 1 : sayfa.size()), '\n'))
+      for (const std::string_view satir : SayfaSatirlari(sayfa))
         if (!yaz(satir, SatirSonu::Var)) return false;
       if (!yaz(DosSayfaAt, SatirSonu::Yok)) return false;
     }

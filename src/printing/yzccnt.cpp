@@ -6,17 +6,29 @@
 
 namespace belvani {
 
+std::string Yinele(std::string_view harf, int adet) {
+  std::string sonuc;
+  for (int i = 0; i < adet; ++i) sonuc += harf;
+  return sonuc;
+}
+
+std::string Solda(std::string_view metin, int n) {
+  return std::string(metin) + Yinele(" ", n - int(HarfSayisi(metin)));
+}
+
+std::string Sagda(std::string_view metin, int n) {
+  return Yinele(" ", n - int(HarfSayisi(metin))).append(metin);
+}
+
 std::string SagBosluk(std::string_view metin, int n) {
-  const std::size_t en = std::size_t(std::max(n, 0));
-  std::string alan(IlkHarfler(metin, en));
-  return alan.append(en - HarfSayisi(alan), ' ');
+  return Solda(IlkHarfler(metin, std::size_t(std::max(n, 0))), n);
 }
 
 std::string SolBosluk(std::string_view metin, int n) {
   const std::size_t en = std::size_t(std::max(n, 0));
   const std::size_t harf = HarfSayisi(metin);
   if (harf > en) return std::string(metin.substr(IlkHarfler(metin, harf - en).size()));
-  return std::string(en - harf, ' ').append(metin);
+  return Sagda(metin, n);
 }
 
 std::string TutarAlan(Tutar deger, int n, int ondalik, int gruplama) {
@@ -25,10 +37,12 @@ std::string TutarAlan(Tutar deger, int n, int ondalik, int gruplama) {
   return SolBosluk(metin, n);
 }
 
+int OrtaYeri(std::string_view metin, int n) {
+  return std::max(n / 2 - int(HarfSayisi(metin)) / 2, 0);
+}
+
 std::string OrtalaMetin(std::string_view metin, int n) {
-  const std::string_view kirpik = Kirp(metin);
-  const int bosluk = n / 2 - int(HarfSayisi(kirpik)) / 2;
-  return std::string(std::size_t(std::max(bosluk, 0)), ' ').append(kirpik);
+  return Yinele(" ", OrtaYeri(Kirp(metin), n)).append(Kirp(metin));
 }
 
 void yzccnt::YzcKutu(double x1, double y1, double x2, double y2) {

@@ -13,6 +13,12 @@
 
 namespace belvani {
 
+std::string Yinele(std::string_view harf, int adet);  // "" for a number below one
+
+// Left or right in n letters: filled up, never cut.
+std::string Solda(std::string_view metin, int n);
+std::string Sagda(std::string_view metin, int n);
+
 // Left in n letters: filled up, or cut at its end.
 std::string SagBosluk(std::string_view metin, int n);
 
@@ -27,6 +33,9 @@ template <class Kayit>
 std::string AlanSayi(Kayit& kayit, std::string_view alan, int n, int ondalik, int gruplama) {
   return SolBosluk(SayiFormat(MetinDegeri(kayit.AlanOku(alan)), ondalik, gruplama), n);
 }
+
+// Where a text begins that stands in the middle of n letters; 0 for one with more.
+int OrtaYeri(std::string_view metin, int n);
 
 // The trimmed text in the middle of n letters; not filled up behind.
 std::string OrtalaMetin(std::string_view metin, int n);

@@ -1,9 +1,7 @@
 #include "ui/basim.h"
 
-#include <QDate>
 #include <QDir>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include "core/dosya.h"
 #include "printing/excelkont.h"
@@ -22,19 +20,12 @@ constexpr const char* XlsxFiltresi = "Excel Dosyası(*.xlsx)|*.xlsx";
 constexpr const char* MetinFiltresi = "Yazıcı Dosyası(*.prn)|*.prn";
 constexpr const char* BasilacakYok = "Basılacak kayıt yok";
 
-// A file name out of a title.
-QString DosyaAdi(const std::string& baslik, const QString& uzanti) {
-  QString ad;
-  for (const QChar harf : Yazi(baslik)) ad += harf.isLetterOrNumber() || harf == '.' ? harf : QChar('_');
-  return (ad.isEmpty() ? QStringLiteral("belge") : ad) + uzanti;
-}
-
 // Where the user wants the file, with its extension; nothing when given up.
 std::optional<std::string> DosyaSor(EkranBaglami& baglam, const std::string& baslik, const char* filtre,
                                     const QString& uzanti) {
   QString dizin = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   if (!QDir(dizin).exists()) dizin = QDir::homePath();
-  auto yol = baglam.dialoglar.DosyaKaydet("Kaydet", Utf8(QDir(dizin).filePath(DosyaAdi(baslik, uzanti))), filtre);
+  auto yol = baglam.dialoglar.DosyaKaydet("Kaydet", Utf8(QDir(dizin).filePath(Yazi(DosyaAdi(baslik)) + uzanti)), filtre);
   if (yol && !Yazi(*yol).endsWith(uzanti, Qt::CaseInsensitive)) *yol += Utf8(uzanti);
   return yol;
 }
@@ -148,13 +139,13 @@ void BelgeExceleGonder(EkranBaglami& baglam, const Belge& belge) {
 }
 
 void TabloyuAc(EkranBaglami& baglam, const std::string& ad, const std::string& baytlar) {
-  QTemporaryDir dizin(QDir::tempPath() + QStringLiteral("/belvani-XXXXXX"));
-  dizin.setAutoRemove(false);  // the spreadsheet program has it now
-  const std::string gecici = Utf8(dizin.filePath(DosyaAdi(ad, ".xlsx")));
-  if (dizin.isValid() && Kaydet(baglam, gecici, baytlar) && baglam.baski.dosyaAc(gecici)) return;
-  dizin.remove();
-  baglam.bildirim.Uyari(ExcelYok);
-  if (const auto yol = DosyaSor(baglam, ad, XlsxFiltresi, ".xlsx")) Kaydet(baglam, *yol, baytlar);
+  excelkont excel({.ac = baglam.baski.dosyaAc, .yolSor = [&] {
+                     baglam.bildirim.Uyari(ExcelYok);
+                     return DosyaSor(baglam, ad, XlsxFiltresi, ".xlsx");
+                   }});
+  excel.Baslik = ad;
+  excel.HazirKitap(baytlar);
+  if (const Durum verildi = excel.CloseExcell(); !verildi) baglam.bildirim.Uyari(verildi.KusurMetni());
 }
 
 void BelgeEkranaListele(EkranBaglami& baglam, const std::shared_ptr<Belge>& belge) {

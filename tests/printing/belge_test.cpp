@@ -71,7 +71,7 @@ TEST(Belge, TextPagesAreAsThePrinterHasThem) {
   SayfalariCiz(dar, tuval);
   SayfalariCiz(sikisik, tuval);
   ASSERT_EQ(tuval.sayfalar.size(), 3u);
-  EXPECT_THAT(tuval.sayfalar[0].Satirlar(), ElementsAre("bir", "Adı│Işıl", ""));
+  EXPECT_THAT(tuval.sayfalar[0].Satirlar(), ElementsAre("bir", "Adı│Işıl"));
   EXPECT_NEAR(tuval.sayfalar[0].boy.boy, 11 * 25.4, 1e-6);
   EXPECT_NEAR(tuval.sayfalar[0].ogeler[0].kutu.en, 3 * 2.54, 0.01);
   EXPECT_NEAR(tuval.sayfalar[2].ogeler[0].kutu.en, 100 * 25.4 / 17.1, 0.5);

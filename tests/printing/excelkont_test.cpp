@@ -24,7 +24,18 @@ struct Excel {
                          acilan.push_back(dosya);
                          return acilir;
                        },
-                   .yolSor = [this] { return std::optional(dizin.Yol() + "cikti.xlsx"); }}};
+                   .yolSor =
+                       [this] {
+                         ++soruldu;
+                         return yol;
+                       }}};
+  std::optional<std::string> yol = dizin.Yol() + "cikti.xlsx";
+  int soruldu = 0;
+
+  ~Excel() {
+    const std::filesystem::path dosya = excel.Dosya();
+    if (dosya.parent_path().filename().string().starts_with("belvani-")) std::filesystem::remove_all(dosya.parent_path());
+  }
 
   test::XlsxHucreleri Hucreler() const { return XlsxOku(DosyaOku(excel.Dosya()).value_or("")); }
   // An executable that stands for the office program.
@@ -36,7 +47,7 @@ struct Excel {
   }
 };
 
-TEST(Excelkont, ANewWorkbookFillsCellByCell) {
+TEST(Excelkont, YeniKitapHucreHucreDolar) {
   Excel e;
   EXPECT_FALSE(e.excel.SetExcell(1, 1, std::string("kapalı"))) << "nothing is open";
   ASSERT_TRUE(e.excel.OpenExcell());
@@ -48,7 +59,9 @@ TEST(Excelkont, ANewWorkbookFillsCellByCell) {
   EXPECT_TRUE(e.excel.SetExcell(40, 213, Tarih(2008, 2, 29)));
   EXPECT_TRUE(e.excel.SetExcel("C1", std::string("=1+1")));
   ASSERT_TRUE(e.excel.CloseExcell());
-  EXPECT_EQ(e.acilan, std::vector{e.dizin.Yol() + "cikti.xlsx"});
+  EXPECT_EQ(e.acilan, std::vector{e.excel.Dosya()});
+  EXPECT_EQ(std::filesystem::path(e.excel.Dosya()).filename(), "TAZMİNAT_TABLO.xlsx");
+  EXPECT_EQ(e.soruldu, 0) << "the program has it";
   auto hucreler = e.Hucreler();
   EXPECT_EQ(hucreler.size(), 5u);
   EXPECT_EQ(hucreler["A1"].deger, "TAZMİNAT/TABLO");
@@ -61,7 +74,7 @@ TEST(Excelkont, ANewWorkbookFillsCellByCell) {
   EXPECT_NE(hucreler["A1"].stil, hucreler["C1"].stil) << "bold and plain";
 }
 
-TEST(Excelkont, ABrokenCellStaysOutAndIsToldOnClosing) {
+TEST(Excelkont, BozukHucreDosyayaGecmezVeKapanirkenSoylenir) {
   for (const auto& [satir, kolon] : {std::pair(0, 1), {1, 0}, {-5, 3}, {1'048'577, 1}, {1, 16'385}}) {
     Excel e;
     ASSERT_TRUE(e.excel.OpenExcell());
@@ -81,7 +94,7 @@ std::string Form() {
   return *kitap.Bitir();
 }
 
-TEST(Excelkont, ATemplateKeepsItsLook) {
+TEST(Excelkont, SablonGorunumunuKorur) {
   Excel e;
   const std::string sablon = e.dizin.Yol() + "aylik.xlsx";
   ASSERT_TRUE(DosyaYaz(sablon, Form()));
@@ -99,7 +112,7 @@ TEST(Excelkont, ATemplateKeepsItsLook) {
   EXPECT_EQ(DosyaOku(sablon), Form()) << "the form itself stays";
 }
 
-TEST(Excelkont, AWorkbookAndAProgramThatDoNotOpen) {
+TEST(Excelkont, AcilamayanKitapVeProgram) {
   Excel e;
   EXPECT_FALSE(e.excel.OpenExcell(e.dizin.Yol() + "yok.xlsx"));
   ASSERT_TRUE(DosyaYaz(e.dizin.Yol() + "bozuk.xlsx", "PK bozuk"));
@@ -108,27 +121,38 @@ TEST(Excelkont, AWorkbookAndAProgramThatDoNotOpen) {
   e.acilir = false;
   ASSERT_TRUE(e.excel.OpenExcell());
   EXPECT_TRUE(e.excel.SetExcel("A1", std::string("x")));
-  EXPECT_EQ(e.excel.CloseExcell().KusurMetni(), ExcelYok);
-  EXPECT_EQ(e.Hucreler()["A1"].deger, "x") << "the file is there nevertheless";
+  EXPECT_TRUE(e.excel.CloseExcell());
+  EXPECT_EQ(e.excel.Dosya(), e.yol) << "it goes where the user wants it";
+  EXPECT_EQ(e.Hucreler()["A1"].deger, "x");
+  EXPECT_FALSE(std::filesystem::exists(e.acilan[0])) << "nothing stays among the temporary files";
 }
 
-TEST(Excelkont, WithoutAPathTheTemporaryDirectory) {
-  excelkont excel({.ac = [](const std::string&) { return true; }});
-  excel.Baslik = "../ÜCRET: a/b";
-  ASSERT_TRUE(excel.OpenExcell());
-  ASSERT_TRUE(excel.CloseExcell());
-  const std::filesystem::path dosya = excel.Dosya();
+TEST(Excelkont, HazirKitapTeslimi) {
+  Excel e;
+  e.excel.Baslik = "../ÜCRET: a/b";
+  e.excel.HazirKitap(Form());
+  EXPECT_FALSE(e.excel.SetExcell(1, 1, Tutar(1.0))) << "it is finished";
+  ASSERT_TRUE(e.excel.CloseExcell());
+  const std::filesystem::path dosya = e.excel.Dosya();
   EXPECT_EQ(dosya.filename(), "_._ÜCRET_ a_b.xlsx");
   EXPECT_EQ(dosya.parent_path().parent_path(), std::filesystem::temp_directory_path());
-  std::filesystem::remove_all(dosya.parent_path());
-  excelkont vazgecen({.ac = [](const std::string&) { return false; }, .yolSor = [] { return std::nullopt; }});
-  ASSERT_TRUE(vazgecen.OpenExcell());
-  EXPECT_TRUE(vazgecen.CloseExcell()) << "given up is no failure";
-  EXPECT_EQ(vazgecen.Dosya(), "");
+  EXPECT_EQ(DosyaOku(dosya), Form()) << "byte for byte";
+
+  Excel vazgecen;
+  vazgecen.acilir = false;
+  vazgecen.yol = std::nullopt;
+  vazgecen.excel.HazirKitap(Form());
+  EXPECT_TRUE(vazgecen.excel.CloseExcell()) << "given up is no failure";
+  EXPECT_EQ(vazgecen.excel.Dosya(), "");
+  vazgecen.yol = "/proc/olmaz/tablo.xlsx";
+  EXPECT_EQ(vazgecen.excel.CloseExcell().KusurMetni(), "/proc/olmaz/tablo.xlsx: dosya yazılamadı (dizin bulunamadı)");
+  excelkont sorusuz;
+  sorusuz.HazirKitap(Form());
+  EXPECT_EQ(sorusuz.CloseExcell().KusurMetni(), ExcelYok);
 }
 
 // The arguments go to the program as they are, whatever the file is called.
-TEST(Excelkont, AnOldWorkbookIsConvertedFirst) {
+TEST(Excelkont, EskiKitapOnceCevrilir) {
   Excel e;
   const std::string eski = e.dizin.Yol() + "-o $(touch kaçtı) ;'\".xls";
   ASSERT_TRUE(DosyaYaz(eski, "\xd0\xcf\x11\xe0 eski"));
