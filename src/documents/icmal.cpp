@@ -4,24 +4,19 @@
 #include "documents/listebelgesi.h"
 #include "documents/sorgumetni.h"
 #include "documents/turetilen.h"
-#include "payroll/hesap/kayittoplami.h"
 #include "printing/kolonlar.h"
 
 namespace belvani {
 namespace {
 
-// The columns that are read of a pay record.
-constexpr auto BrdKolonlari = std::tuple{brd::ng,           brd::ht,
-                                         brd::rt,           brd::ui,
-                                         brd::ha,           brd::mi,
-                                         brd::ucretsizizin, brd::ucret,
-                                         brd::sskmatrah,    brd::sskmatrahisveren,
-                                         brd::sskkesinti,   brd::sskkesintiisveren,
-                                         brd::issizisci,    brd::issizisveren,
-                                         brd::gvmatrah,     brd::gvtutar,
-                                         brd::dvmatrah,     brd::dvtutar,
-                                         brd::ogv,          brd::sendika,
-                                         brd::borckes,      brd::brutkaz};
+// The columns that are read of a pay record: those that are counted, and the amounts that are added up.
+constexpr auto SayilanKolonlar =
+    std::tuple{brd::ng, brd::ht, brd::rt, brd::ui, brd::ha, brd::mi, brd::ucretsizizin, brd::ucret};
+constexpr auto ToplananKolonlar = std::tuple{
+    brd::sskmatrah, brd::sskmatrahisveren, brd::sskkesinti, brd::sskkesintiisveren, brd::issizisci, brd::issizisveren,
+    brd::gvmatrah,  brd::gvtutar,          brd::dvmatrah,   brd::dvtutar,           brd::ogv,       brd::sendika,
+    brd::borckes,   brd::brutkaz};
+constexpr auto BrdKolonlari = std::tuple_cat(SayilanKolonlar, ToplananKolonlar);
 
 constexpr int DestekPrimiDurumu = 1;  // branch 2, "S.G.D.P. Tabi Çalışanlar"
 
@@ -29,36 +24,46 @@ bool AsgariUcretliMi(const Brd& b, Tutar asgariUcret, Yuvarlayici yuvarla) {
   return GunlukBrut(b, yuvarla) == yuvarla(asgariUcret.Sayi() / GunToplami(b));
 }
 
-void Ekle(IcmalPaylari& paylar, Tutar isci, Tutar isveren) {
-  paylar.isci += isci;
-  paylar.isveren += isveren;
-}
-
 void Ekle(Icmal& i, const IcmalGirdisi& girdi) {
   const Brd& b = girdi.brd;
-  Ekle(i.sskMatrahi, b.sskmatrah, b.sskmatrahisveren);
-  Ekle(girdi.sskdurum == DestekPrimiDurumu ? i.sgdpKesintisi : i.sskKesintisi, b.sskkesinti, b.sskkesintiisveren);
-  Ekle(i.issizlik, b.issizisci, b.issizisveren);
-  i.gvMatrahi += b.gvmatrah;
-  i.gvKesintisi += b.gvtutar;
-  i.damgaMatrahi += b.dvmatrah;
-  i.damgaKesintisi += b.dvtutar;
-  i.agi += b.ogv;
-  i.digerKesinti += Degeri(toplam::ozelKesinti, b);
-  i.brut += b.brutkaz;
+  Brd& toplam = girdi.sskdurum == DestekPrimiDurumu ? i.destek : i.olagan;
+  std::apply([&](const auto&... kolon) { ((toplam.*kolon.uye += b.*kolon.uye), ...); }, ToplananKolonlar);
   i.normalGun += b.ng;
   i.haftaTatili += b.ht + b.rt;
   i.izinGun += b.ui + b.ha + b.mi;
   i.eksikGun += b.ucretsizizin;
 }
 
-struct OzetSatiri {
-  const char* aciklama;
-  std::optional<Tutar> isci;
-  std::optional<Tutar> isveren = std::nullopt;
+enum class Kisim { Herkes, Olagan, Destek };
 
-  OzetSatiri(const char* a, Tutar i) : aciklama(a), isci(i) {}
-  OzetSatiri(const char* a, const IcmalPaylari& p) : aciklama(a), isci(p.isci), isveren(p.isveren) {}
+struct OzetTanimi {
+  const char* aciklama;
+  Ifade isci;
+  std::optional<Ifade> isveren = std::nullopt;
+  Kisim kisim = Kisim::Herkes;
+};
+
+const OzetTanimi ozet[] = {
+    {"Ssk Matrahı", brd::sskmatrah, brd::sskmatrahisveren},
+    {"Ssk Kesintisi", brd::sskkesinti, brd::sskkesintiisveren, Kisim::Olagan},
+    {"G.V. Matrahı", brd::gvmatrah},
+    {"G.V. Kesintisi", brd::gvtutar},
+    {"İşsizlik Sigorta Kesintisi", brd::issizisci, brd::issizisveren},
+    {"Damga Vergisi Matrahı", brd::dvmatrah},
+    {"Damga Vergisi Kesintisi", brd::dvtutar},
+    {"A.G.İ.", brd::ogv},
+    {"S.G.D.P. Kesintisi", brd::sskkesinti, brd::sskkesintiisveren, Kisim::Destek},
+    {"Toplam Ssk Kesintisi", Ifade(brd::sskkesinti) + brd::issizisci, toplam::isverenToplam},
+    {"Toplam Vergi Kesintisi", toplam::vergiler},
+    {"Ödemeler Toplamı", toplam::isciToplam, toplam::isverenToplam},
+    {toplam::odenen.etiket, toplam::odenen},
+    {"A.G.İ. Ödemeleri", brd::ogv},
+};
+
+struct OzetSatiri {
+  std::string aciklama;
+  Tutar isci;
+  std::optional<Tutar> isveren;
 };
 
 const Kolonlar<OzetSatiri> kolonlar{
@@ -67,23 +72,25 @@ const Kolonlar<OzetSatiri> kolonlar{
     {"İşveren Payları", 15, [](auto& s) { return s.isveren; }},
 };
 
+Tutar Toplami(const Icmal& i, const Ifade& ifade, Kisim kisim) {
+  switch (kisim) {
+    case Kisim::Herkes:
+      return i.Toplami(ifade);
+    case Kisim::Olagan:
+      return Degeri(ifade, i.olagan);
+    case Kisim::Destek:
+      return Degeri(ifade, i.destek);
+  }
+  return {};
+}
+
 std::vector<OzetSatiri> Satirlar(const Icmal& i) {
-  return {
-      {"Ssk Matrahı ", i.sskMatrahi},
-      {"Ssk Kesintisi ", i.sskKesintisi},
-      {"G.V. Matrahı ", i.gvMatrahi},
-      {"G.V. Kesintisi ", i.gvKesintisi},
-      {"İşsizlik Sigorta Kesintisi ", i.issizlik},
-      {"Damga Vergisi Matrahı ", i.damgaMatrahi},
-      {"Damga Vergisi Kesintisi ", i.damgaKesintisi},
-      {"A.G.İ. ", i.agi},
-      {"S.G.D.P. Kesintisi ", i.sgdpKesintisi},
-      {"Toplam Ssk Kesintisi ", i.ToplamSsk()},
-      {"Toplam Vergi Kesintisi ", i.ToplamVergi()},
-      {"Ödemeler Toplamı ", i.OdemelerToplami()},
-      {"Personel Ödemeleri ", i.PersonelOdemeleri()},
-      {"A.G.İ. Ödemeleri ", i.agi},
-  };
+  std::vector<OzetSatiri> satirlar;
+  for (const auto& t : ozet) {
+    satirlar.push_back({std::string(t.aciklama) + " ", Toplami(i, t.isci, t.kisim), std::nullopt});
+    if (t.isveren) satirlar.back().isveren = Toplami(i, *t.isveren, t.kisim);
+  }
+  return satirlar;
 }
 
 std::vector<BlokSatiri> Sayilar(const Icmal& i) {
@@ -97,7 +104,7 @@ std::vector<BlokSatiri> Sayilar(const Icmal& i) {
       {"İzin Gün", tam(i.izinGun)},
       {"Toplam Gün", tam(i.ToplamGun())},
       {"Eksik Gün", tam(i.eksikGun)},
-      {"Toplam Brüt Ücret ", i.brut},
+      {"Toplam Brüt Ücret ", i.Toplami(brd::brutkaz)},
   };
 }
 
@@ -113,23 +120,6 @@ class BordroOzeti final : public RaporBelgesi {
 };
 
 }  // namespace
-
-IcmalPaylari Icmal::ToplamSsk() const {
-  return {sskKesintisi.isci + sgdpKesintisi.isci + issizlik.isci,
-          sskKesintisi.isveren + sgdpKesintisi.isveren + issizlik.isveren};
-}
-
-Tutar Icmal::ToplamVergi() const {
-  return gvKesintisi + damgaKesintisi;
-}
-
-IcmalPaylari Icmal::OdemelerToplami() const {
-  return {ToplamSsk().isci + ToplamVergi(), ToplamSsk().isveren};
-}
-
-Tutar Icmal::PersonelOdemeleri() const {
-  return brut - OdemelerToplami().isci - digerKesinti;
-}
 
 Icmal IcmalHesapla(std::span<const IcmalGirdisi> girdiler, Tutar asgariUcret, Yuvarlayici yuvarla) {
   Icmal icmal;

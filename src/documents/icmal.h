@@ -11,6 +11,7 @@
 #include "core/store/motor.h"
 #include "core/yuvarlama.h"
 #include "documents/defter.h"
+#include "payroll/hesap/kayittoplami.h"
 
 namespace belvani {
 
@@ -19,23 +20,9 @@ struct IcmalGirdisi {
   std::uint8_t sskdurum = 0;  // of the person
 };
 
-struct IcmalPaylari {
-  Tutar isci;
-  Tutar isveren;
-};
-
 struct Icmal {
-  IcmalPaylari sskMatrahi;
-  IcmalPaylari sskKesintisi;   // of all but the next
-  IcmalPaylari sgdpKesintisi;  // support premium
-  IcmalPaylari issizlik;
-  Tutar gvMatrahi;
-  Tutar gvKesintisi;
-  Tutar damgaMatrahi;
-  Tutar damgaKesintisi;
-  Tutar agi;
-  Tutar digerKesinti;  // union dues and debts
-  Tutar brut;
+  Brd olagan;             // the amounts of all but the next, added up
+  Brd destek;             // of people under the support premium
   int asgariUcretli = 0;  // people whose pay of a day is that of the minimum wage over the same days
   int ucretli = 0;        // all others
   int normalGun = 0;
@@ -43,10 +30,8 @@ struct Icmal {
   int izinGun = 0;      // paid leave, excused leave, sick days
   int eksikGun = 0;
 
-  IcmalPaylari ToplamSsk() const;  // the three premiums
-  Tutar ToplamVergi() const;       // income tax and stamp duty
-  IcmalPaylari OdemelerToplami() const;
-  Tutar PersonelOdemeleri() const;  // gross less all that is kept back; the allowance is not in it
+  // Of both: Toplami(toplam::odenen) is what the people were paid, without the allowance.
+  Tutar Toplami(const Ifade& ifade) const { return Degeri(ifade, olagan) + Degeri(ifade, destek); }
   int ToplamGun() const { return normalGun + haftaTatili + izinGun; }
 };
 

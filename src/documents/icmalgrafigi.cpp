@@ -5,6 +5,8 @@
 
 #include "core/sayi.h"
 #include "core/tarih.h"
+#include "payroll/hesap/kayittoplami.h"
+#include "printing/yzccnt.h"
 
 namespace belvani {
 namespace {
@@ -20,7 +22,7 @@ struct Seri {
 constexpr Seri Seriler[] = {
     {"Brüt", &IcmalAyi::brut, 0x2F6690},
     {"Net", &IcmalAyi::net, 0x7FB069},
-    {"İşveren Maliyeti", &IcmalAyi::maliyet, 0xE08E45},
+    {toplam::isverenMaliyeti.etiket, &IcmalAyi::maliyet, 0xE08E45},
 };
 
 constexpr YaziBicimi KucukYazi{.punto = 7};
@@ -49,7 +51,7 @@ class GrafikKalemi {
   }
 
   void Ciz() {
-    tuval_.Metin({yer_.x, yer_.y}, "Son On İki Ay", BaslikYazisi);
+    yzccnt(tuval_).YzcYaz("Son On İki Ay", yer_.x, yer_.y, BaslikYazisi.punto, BaslikYazisi.kalinlik);
     Lejant();
     if (enCokKisi_ == 0) return MetinKutuya(tuval_, alan_, "Bu aylarda bordro kaydı yok", KucukYazi, MetinHizasi::Orta);
     Eksen();
@@ -62,7 +64,7 @@ class GrafikKalemi {
     const double y = yer_.y + 1.5 * SatirPayi;
     const auto oge = [&](const char* ad, BoyaRengi renk) {
       tuval_.DoluKutu({x, y + 0.6, 3, 2}, renk);
-      tuval_.Metin({x + 4, y}, ad, KucukYazi);
+      yzccnt(tuval_).YzcYaz(ad, x + 4, y, KucukYazi.punto);
       x += 4 + MetinEni(ad, KucukYazi) + 5;
     };
     for (const Seri& s : Seriler) oge(s.ad, s.renk);

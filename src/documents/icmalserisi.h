@@ -13,7 +13,7 @@ struct IcmalAyi {
   int yil = 0;
   int ay = 0;
   Tutar brut;
-  Tutar net;      // Icmal::PersonelOdemeleri
+  Tutar net;      // toplam::odenen
   Tutar maliyet;  // of the employer: gross and the employer's premiums
   int kisi = 0;   // people with pay in the month
 };

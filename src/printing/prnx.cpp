@@ -66,8 +66,7 @@ bool prnx::GrafikAc(const prnxAcilis& acilis) {
   if (tuval_ == nullptr) return false;
   tur_ = Tur::Grafik;
   izgara_ = acilis.izgara ? *acilis.izgara : AyarinIzgarasi(acilis);
-  if (!acilis.izgara)
-    ayar_.YzcSatir = std::min(int((izgara_.kagit.boy - 2 * KenarMm) / izgara_.satirBoyu), EnCokSatir);
+  if (!acilis.izgara) ayar_.YzcSatir = std::min(int((izgara_.kagit.boy - 2 * KenarMm) / izgara_.satirBoyu), EnCokSatir);
   return true;
 }
 

@@ -47,7 +47,7 @@ struct prnxIzgara {
 struct prnxAcilis {
   bool condensed = false;
   bool large = false;
-  int kolon = 0;                           // columns of a drawn page; 0: 80, condensed 132, large 228
+  int kolon = 0;                          // columns of a drawn page; 0: 80, condensed 132, large 228
   std::optional<prnxIzgara> izgara = {};  // nothing: as font, columns and print settings make it
 };
 

@@ -25,7 +25,8 @@ std::optional<std::string> DosyaSor(EkranBaglami& baglam, const std::string& bas
                                     const QString& uzanti) {
   QString dizin = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   if (!QDir(dizin).exists()) dizin = QDir::homePath();
-  auto yol = baglam.dialoglar.DosyaKaydet("Kaydet", Utf8(QDir(dizin).filePath(Yazi(DosyaAdi(baslik)) + uzanti)), filtre);
+  auto yol =
+      baglam.dialoglar.DosyaKaydet("Kaydet", Utf8(QDir(dizin).filePath(Yazi(DosyaAdi(baslik)) + uzanti)), filtre);
   if (yol && !Yazi(*yol).endsWith(uzanti, Qt::CaseInsensitive)) *yol += Utf8(uzanti);
   return yol;
 }

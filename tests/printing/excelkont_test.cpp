@@ -34,7 +34,8 @@ struct Excel {
 
   ~Excel() {
     const std::filesystem::path dosya = excel.Dosya();
-    if (dosya.parent_path().filename().string().starts_with("belvani-")) std::filesystem::remove_all(dosya.parent_path());
+    if (dosya.parent_path().filename().string().starts_with("belvani-"))
+      std::filesystem::remove_all(dosya.parent_path());
   }
 
   test::XlsxHucreleri Hucreler() const { return XlsxOku(DosyaOku(excel.Dosya()).value_or("")); }
