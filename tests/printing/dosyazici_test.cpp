@@ -46,7 +46,7 @@ struct Duzenek {
   }
 };
 
-TEST(Yzccnt, Alanlar) {
+TEST(Yzccnt, Fields) {
   EXPECT_EQ(SagBosluk("Işık", 6), "Işık  ");
   EXPECT_EQ(SagBosluk("Öğütçü", 3), "Öğü");
   EXPECT_EQ(SolBosluk("Işık", 6), "  Işık");
@@ -62,7 +62,7 @@ TEST(Yzccnt, Alanlar) {
   EXPECT_EQ(AlanSayi(kayit, "ucret", 9, 2, 3) + AlanSayi(kayit, "ng", 3, 0, 0), " 1,234.50  7");
 }
 
-TEST(Yzccnt, SerbestSayfa) {
+TEST(Yzccnt, FreePage) {
   test::KayitTuvali tuval;
   tuval.SayfaBasla(A4(KagitYonu::Dikey));
   yzccnt yaz(tuval);
@@ -81,7 +81,7 @@ TEST(Yzccnt, SerbestSayfa) {
   EXPECT_NEAR(o[3].kutu.x + o[3].kutu.en / 2, 100, 1e-9);
 }
 
-TEST(Doskod, Harfler) {
+TEST(Doskod, Letters) {
   EXPECT_EQ(DosBaytlari("ÇçĞğÖöÜüİıŞş"), "\x80\x87\xA6\xA7\x99\x94\x9A\x81\x98\x8D\x9E\x9F");
   EXPECT_EQ(CevrilmemisBaytlar("ÇçĞğÖöÜüİıŞş│"), "\xC7\xE7\xD0\xF0\xD6\xF6\xDC\xFC\xDD\xFD\xDE\xFE\xB3");
   EXPECT_EQ(DosBaytlari("│─┌┐└┘├┤┬┴┼"), "\xB3\xC4\xDA\xBF\xC0\xD9\xC3\xB4\xC2\xC1\xC5");
@@ -90,7 +90,7 @@ TEST(Doskod, Harfler) {
   EXPECT_EQ(DosBaytlari(denetim + "\x7F"), denetim + "\x7F");  // none is swapped, the byte 0 is no end
 }
 
-TEST(Xprn, DogrudanBaytlar) {
+TEST(Xprn, PlainBytes) {
   Duzenek d;
   xprn yazici = d.Yazici();
   EXPECT_FALSE(yazici.DosDirectPrint("açık değil", SatirSonu::Var));
@@ -104,7 +104,7 @@ TEST(Xprn, DogrudanBaytlar) {
 }
 
 // What follows the key in its piece stays unconverted; every later call fails until the control is reset.
-TEST(Xprn, EscKeser) {
+TEST(Xprn, EscCutsItOff) {
   Duzenek d;
   xprn yazici = d.Yazici();
   ASSERT_TRUE(yazici.OpenDosPrint());
@@ -123,7 +123,7 @@ TEST(Xprn, EscKeser) {
   ASSERT_TRUE(yazici.CloseDosPrint());
 }
 
-TEST(Xprn, PortDurumlari) {
+TEST(Xprn, StatesOfAPort) {
   const struct {
     const char* ad;
     std::vector<std::uint8_t> durumlar;
@@ -161,7 +161,7 @@ TEST(Xprn, PortDurumlari) {
   EXPECT_FALSE(yazici.DosDirectPrint2("a", SatirSonu::Yok));
 }
 
-TEST(Xprn, KolonModu) {
+TEST(Xprn, ColumnMode) {
   Duzenek d;
   d.ayar.YzcBaslik = "LİSTE";
   d.ayar.YzcDosMod = true;
@@ -207,7 +207,7 @@ TEST(Xprn, KolonModu) {
   EXPECT_FALSE(yazici.LPrn());
 }
 
-TEST(LpPortu, AygitYoksaHata) {
+TEST(LpPortu, WithoutTheDeviceAFault) {
   const test::GeciciDizin dizin;
   ASSERT_TRUE(DosyaYaz(dizin.Yol() + "lp1", ""));
   LpPortu portlar(dizin.Yol() + "lp");
@@ -217,7 +217,7 @@ TEST(LpPortu, AygitYoksaHata) {
   EXPECT_EQ(*DosyaOku(dizin.Yol() + "lp1"), "\x9E");
 }
 
-TEST(Prnx, HamKuyruk) {
+TEST(Prnx, RawQueue) {
   test::SahteKuyruk kuyruk;
   test::KayitTuvali tuval;
   dosprint ham(kuyruk);
@@ -251,7 +251,7 @@ TEST(Prnx, HamKuyruk) {
   EXPECT_EQ(kuyruk.isler.size(), 1u);
 }
 
-TEST(Prnx, GrafikIzgara) {
+TEST(Prnx, DrawnGrid) {
   test::KayitTuvali tuval;
   YzcAyarlari ayar;
   ayar.YzcYon = KagitYonu::Yatay;

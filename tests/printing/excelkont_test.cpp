@@ -48,7 +48,7 @@ struct Excel {
   }
 };
 
-TEST(Excelkont, YeniKitapHucreHucreDolar) {
+TEST(Excelkont, ANewWorkbookFillsCellByCell) {
   Excel e;
   EXPECT_FALSE(e.excel.SetExcell(1, 1, std::string("kapalı"))) << "nothing is open";
   ASSERT_TRUE(e.excel.OpenExcell());
@@ -75,7 +75,7 @@ TEST(Excelkont, YeniKitapHucreHucreDolar) {
   EXPECT_NE(hucreler["A1"].stil, hucreler["C1"].stil) << "bold and plain";
 }
 
-TEST(Excelkont, BozukHucreDosyayaGecmezVeKapanirkenSoylenir) {
+TEST(Excelkont, ABrokenCellStaysOutAndIsToldOnClosing) {
   for (const auto& [satir, kolon] : {std::pair(0, 1), {1, 0}, {-5, 3}, {1'048'577, 1}, {1, 16'385}}) {
     Excel e;
     ASSERT_TRUE(e.excel.OpenExcell());
@@ -95,7 +95,7 @@ std::string Form() {
   return *kitap.Bitir();
 }
 
-TEST(Excelkont, SablonGorunumunuKorur) {
+TEST(Excelkont, ATemplateKeepsItsLook) {
   Excel e;
   const std::string sablon = e.dizin.Yol() + "aylik.xlsx";
   ASSERT_TRUE(DosyaYaz(sablon, Form()));
@@ -113,7 +113,7 @@ TEST(Excelkont, SablonGorunumunuKorur) {
   EXPECT_EQ(DosyaOku(sablon), Form()) << "the form itself stays";
 }
 
-TEST(Excelkont, AcilamayanKitapVeProgram) {
+TEST(Excelkont, AWorkbookAndAProgramThatDoNotOpen) {
   Excel e;
   EXPECT_FALSE(e.excel.OpenExcell(e.dizin.Yol() + "yok.xlsx"));
   ASSERT_TRUE(DosyaYaz(e.dizin.Yol() + "bozuk.xlsx", "PK bozuk"));
@@ -128,7 +128,7 @@ TEST(Excelkont, AcilamayanKitapVeProgram) {
   EXPECT_FALSE(std::filesystem::exists(e.acilan[0])) << "nothing stays among the temporary files";
 }
 
-TEST(Excelkont, HazirKitapTeslimi) {
+TEST(Excelkont, AFinishedWorkbookIsHandedOver) {
   Excel e;
   e.excel.Baslik = "../ÜCRET: a/b";
   e.excel.HazirKitap(Form());
@@ -153,7 +153,7 @@ TEST(Excelkont, HazirKitapTeslimi) {
 }
 
 // The arguments go to the program as they are, whatever the file is called.
-TEST(Excelkont, EskiKitapOnceCevrilir) {
+TEST(Excelkont, AnOldWorkbookIsConvertedFirst) {
   Excel e;
   const std::string eski = e.dizin.Yol() + "-o $(touch kaçtı) ;'\".xls";
   ASSERT_TRUE(DosyaYaz(eski, "\xd0\xcf\x11\xe0 eski"));
