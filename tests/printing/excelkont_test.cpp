@@ -41,10 +41,10 @@ struct Excel {
   test::XlsxHucreleri Hucreler() const { return XlsxOku(DosyaOku(excel.Dosya()).value_or("")); }
   // An executable that stands for the office program.
   std::string Program(const std::string& govde) const {
-    const std::string yol = dizin.Yol() + "cevirici";
-    EXPECT_TRUE(DosyaYaz(yol, "#!/bin/sh\n" + govde));
-    std::filesystem::permissions(yol, std::filesystem::perms::owner_all);
-    return yol;
+    const std::string program = dizin.Yol() + "cevirici";
+    EXPECT_TRUE(DosyaYaz(program, "#!/bin/sh\n" + govde));
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+    return program;
   }
 };
 
