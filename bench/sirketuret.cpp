@@ -107,7 +107,7 @@ Sirket::Sirket(int kisi, int yil, int ay, int aySayisi) {
   o.DataPath = dizin_;
   Sessiz bildirim;
   Al(SirketOlustur(o, "BENCH", "a", "", bildirim));
-  Al(ParametreKur(dizin_, Al(ParametreAdresi(yil, ay))));
+  Al(MevzuatKur(dizin_, {yil, ay}, Al(ParametreAdresi(yil, ay))));
   TamKurallar(kosullar);
   Motor& motor = o.depo.db.IcMotor();
   TanimlariYaz(motor, kosullar);

@@ -249,7 +249,9 @@ void KimliksizleriSoyle(const std::vector<std::string>& kodlar, Bildirim& bildir
 
 void BildirgeYap(Genel& genel, const BildirgeSecenekleri& s) {
   const auto o = genel.SirketAc(s.kod);
-  auto yasal = YasalParametreleriAl(o->DataPath);
+  const KuruluMevzuat mevzuat = KuruluMevzuatOku(o->DataPath);
+  auto yasal = YasalParametreleriAl(mevzuat);
+  MevzuatUyarisi(genel, mevzuat, s.donem);
   Cevaplayan bildirim(s.evet);
   AylikBildirge bildirge(*o, Degeri(yasal), bildirim);
   for (const Kusur& kusur : Olmali(bildirge.Ac(), "Şirketin kayıtları okunamadı")) bildirim.KusuruGoster(kusur);

@@ -5,7 +5,6 @@
 #include "cli/giris.h"
 #include "cli/ortak.h"
 #include "payroll/hazirlik/hazirlik.h"
-#include "payroll/parametre/mevzuat.h"
 
 namespace belvani::cli {
 namespace {
@@ -31,11 +30,11 @@ class TerminalIlerlemesi : public Ilerleme {
 
 void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
   const auto o = genel.SirketAc(s.kod);
-  auto yasal = YasalParametreleriAl(o->DataPath);
+  const KuruluMevzuat mevzuat = KuruluMevzuatOku(o->DataPath);
+  auto yasal = YasalParametreleriAl(mevzuat);
   auto kosullar = KosullariYukle(*o, Degeri(yasal), s.donem.yil, s.donem.ay);
   Degeri(kosullar);
-  if (const std::string uyari = DonemUyusmazligi(*yasal, s.donem.yil, s.donem.ay); !uyari.empty())
-    genel.bildirim.Uyari("Uyarı: " + uyari);
+  MevzuatUyarisi(genel, mevzuat, s.donem);
   const auto girisler = s.giris.empty() ? std::vector<GirisSatiri>() : GirisListesiOku(DosyayiOku(s.giris), s.giris);
   TerminalIlerlemesi ilerleme;
   auto sonuc = TopluHazirla(*o, *kosullar, girisler, &ilerleme);

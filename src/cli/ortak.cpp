@@ -67,6 +67,11 @@ void DonemSecenekleri(CLI::App& komut, Donem& donem) {
   AySecenegi(komut, donem.ay, "bordro ayı, 1-12")->required();
 }
 
+void MevzuatUyarisi(Genel& genel, const KuruluMevzuat& mevzuat, const Donem& donem) {
+  const MevzuatGorusu gorus = MevzuataBak(mevzuat, {donem.yil, donem.ay});
+  if (gorus.hal != MevzuatHali::Uygun) genel.bildirim.Uyari("Uyarı: " + gorus.Metin());
+}
+
 void Basarmali(const Durum& durum) {
   if (!durum) throw KomutHatasi{durum.KusurMetni()};
 }

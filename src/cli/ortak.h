@@ -7,6 +7,7 @@
 
 #include "core/session/oturum.h"
 #include "core/sonuc.h"
+#include "payroll/parametre/mevzuatkumesi.h"
 
 namespace belvani::cli {
 
@@ -54,6 +55,9 @@ int SayiOku(const char* secenek, const std::string& metin, int enAz, int enCok);
 CLI::Option* YilSecenegi(CLI::App& komut, int& yil, const char* aciklama);
 CLI::Option* AySecenegi(CLI::App& komut, int& ay, const char* aciklama);
 void DonemSecenekleri(CLI::App& komut, Donem& donem);  // --yil, --ay
+
+// Tells on standard error when the installed law is not that of the month; the command goes on.
+void MevzuatUyarisi(Genel& genel, const KuruluMevzuat& mevzuat, const Donem& donem);
 
 template <class T>
 T& Degeri(Sonuc<T>& sonuc) {

@@ -3,7 +3,6 @@
 #include "cli/ortak.h"
 #include "core/dosya.h"
 #include "payroll/hazirlik/kosullar.h"
-#include "payroll/parametre/indir.h"
 #include "payroll/parametre/uyeler.h"
 
 namespace belvani::cli {
@@ -12,18 +11,29 @@ namespace {
 struct KurSecenekleri {
   std::string donem, kaynak;
   bool eskiLira = false;
+  bool hazir = false;
+  bool kabul = false;
 };
 
 void ParametreleriKur(Genel& genel, const KurSecenekleri& s) {
   const Donem donem = DonemOku(s.donem);
+  const MevzuatAyi ay{donem.yil, donem.ay};
   const VeriYolu veri = genel.DataPath();
+  if (s.kabul) {
+    Basarmali(MevzuatiKabulEt(veri, ay));
+    return Yaz("Kurulu rakamlar " + ay.Metin() + " için kabul edildi.\n");
+  }
   Basarmali(veri.Yarat());
   std::string kaynak = s.kaynak;
   if (kaynak.empty()) {
     auto adres = ParametreAdresi(donem.yil, donem.ay, s.eskiLira ? Lira::Eski : Lira::Yeni);
     kaynak = Degeri(adres);
   }
-  Basarmali(ParametreKur(veri, kaynak));
+  auto kurulum = MevzuatKur(veri, ay, kaynak, {.saklanan = s.hazir ? Saklanan::Birakilir : Saklanan::GeriGelir});
+  if (Degeri(kurulum).sakladi)
+    genel.bildirim.Uyari("Kurulu rakamlarda yayımlanandan farklı olanlar vardı: kendi dönemleri için saklandı.");
+  if (kurulum->geriGeldi)
+    genel.bildirim.Uyari("Bu dönem için saklanan rakamlarınız geri geldi (yayımlananlar için: --hazir).");
   Yaz("Parametre İndirildi.. (" + s.donem + ")\n");
 }
 
@@ -129,6 +139,9 @@ void ParametreKomutlari(CLI::App& app, Genel& genel) {
   kur->add_option("--donem", s->donem, "dönem, YYYY-AA")->required();
   kur->add_option("--kaynak", s->kaynak, "parametre adresi (file, http, https); verilmezse programla gelen rakamlar");
   kur->add_flag("--eski-lira", s->eskiLira, "tutarlar altı sıfırı atılmamış lira ile (2003-2004 defterleri için)");
+  auto* hazir = kur->add_flag("--hazir", s->hazir, "bu dönem için saklanan kendi rakamlarınız yerine yayımlananlar");
+  kur->add_flag("--kabul", s->kabul, "kurulu rakamlar bu dönem için kabul edilir, bir daha uyarılmaz; bir şey kurulmaz")
+      ->excludes(hazir);
   kur->callback([&genel, s] { ParametreleriKur(genel, *s); });
 
   auto* goster = app.add_subcommand("parametre", "Kurulu yasal parametreleri gösterir");

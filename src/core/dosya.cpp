@@ -77,11 +77,46 @@ bool HepsiniYaz(int no, std::string_view icerik) {
   return true;
 }
 
-// The new name of a file lasts only once its directory is on the disk.
-void DiziniDiskeIndir(const std::string& dosya) {
-  const fs::path dizin = fs::path(dosya).parent_path();
+// A new name lasts only once its directory is on the disk.
+void DiziniDiskeIndir(const fs::path& dizin) {
   const DosyaTutamagi d(::open(dizin.empty() ? "." : dizin.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (d.No() >= 0) ::fsync(d.No());
+}
+
+// A new file with this content, on the disk; 0 or the number of the failure, which leaves no file.
+int YeniDosya(std::string& ad, std::string_view icerik) {
+  DosyaTutamagi dosya(::mkostemp(ad.data(), O_CLOEXEC));
+  if (dosya.No() < 0) return errno;
+  if (::fchmod(dosya.No(), SahibineVeGruba) == 0 && HepsiniYaz(dosya.No(), icerik) && ::fsync(dosya.No()) == 0 &&
+      dosya.Kapat())
+    return 0;
+  const int kod = errno;
+  ::unlink(ad.c_str());
+  return kod;
+}
+
+constexpr std::string_view BekleyenDizin = ".bekleyen";
+
+// Sets that were given up before they were whole.
+void YarimlariSupur(const std::string& dizin) {
+  std::error_code hata;
+  for (fs::directory_iterator i(dizin, hata), son; !hata && i != son; i.increment(hata)) {
+    std::error_code gecilen;
+    if (i->path().filename().string().starts_with(std::string(BekleyenDizin) + "-")) fs::remove_all(i->path(), gecilen);
+  }
+}
+
+Durum YarimKumeYaz(const std::string& dizin, const std::string& yarim, const std::vector<AdliDosya>& dosyalar) {
+  for (const AdliDosya& dosya : dosyalar) {
+    const std::string hedef = dizin + dosya.ad;
+    if (DizinVar(hedef)) return DosyaHatasi(hedef, "dosya yazılamadı", EISDIR);
+    std::string gecici = yarim + "/XXXXXX";
+    int kod = YeniDosya(gecici, dosya.baytlar);
+    if (kod == 0 && ::rename(gecici.c_str(), (yarim + "/" + dosya.ad).c_str()) != 0) kod = errno;
+    if (kod != 0) return DosyaHatasi(hedef, "dosya yazılamadı", kod);
+  }
+  DiziniDiskeIndir(yarim);
+  return Tamam();
 }
 
 }  // namespace
@@ -123,16 +158,52 @@ std::optional<std::string> DosyaOku(const std::string& yol, std::size_t enCokBay
 
 Durum DosyaYaz(const std::string& yol, std::string_view icerik) {
   std::string gecici = yol + ".XXXXXX";
-  DosyaTutamagi dosya(::mkostemp(gecici.data(), O_CLOEXEC));
-  if (dosya.No() < 0) return DosyaHatasi(yol, "dosya yazılamadı", errno);
-  const bool yazildi = ::fchmod(dosya.No(), SahibineVeGruba) == 0 && HepsiniYaz(dosya.No(), icerik) &&
-                       ::fsync(dosya.No()) == 0 && dosya.Kapat() && ::rename(gecici.c_str(), yol.c_str()) == 0;
-  if (!yazildi) {
-    const int kod = errno;
+  int kod = YeniDosya(gecici, icerik);
+  if (kod == 0 && ::rename(gecici.c_str(), yol.c_str()) != 0) {
+    kod = errno;
     ::unlink(gecici.c_str());
-    return DosyaHatasi(yol, "dosya yazılamadı", kod);
   }
-  DiziniDiskeIndir(yol);
+  if (kod != 0) return DosyaHatasi(yol, "dosya yazılamadı", kod);
+  DiziniDiskeIndir(fs::path(yol).parent_path());
+  return Tamam();
+}
+
+std::string BekleyenDosya(const std::string& dizin, std::string_view ad) {
+  return DizinSonu(dizin) + std::string(BekleyenDizin) + "/" + std::string(ad);
+}
+
+Durum BekleyenleriYerlestir(const std::string& dizin) {
+  const std::string kok = DizinSonu(dizin), bekleyen = kok + std::string(BekleyenDizin);
+  std::error_code hata;
+  if (!fs::is_directory(bekleyen, hata)) return Tamam();
+  std::vector<std::string> adlar;
+  for (fs::directory_iterator i(bekleyen, hata), son; !hata && i != son; i.increment(hata))
+    adlar.push_back(i->path().filename());
+  for (const std::string& ad : adlar)
+    if (::rename((bekleyen + "/" + ad).c_str(), (kok + ad).c_str()) != 0 && errno != ENOENT)
+      return DosyaHatasi(kok + ad, "dosya yazılamadı", errno);
+  DiziniDiskeIndir(kok);
+  fs::remove(bekleyen, hata);
+  return Tamam();
+}
+
+Durum DosyalariYaz(const std::string& dizin, const std::vector<AdliDosya>& dosyalar) {
+  const std::string kok = DizinSonu(dizin), bekleyen = kok + std::string(BekleyenDizin);
+  if (auto durum = BekleyenleriYerlestir(kok); !durum) return durum;
+  YarimlariSupur(kok);
+  std::string yarim = bekleyen + "-XXXXXX";
+  if (::mkdtemp(yarim.data()) == nullptr) return DosyaHatasi(kok, "dosya yazılamadı", errno);
+  std::error_code hata;
+  fs::permissions(yarim, fs::perms(0770), fs::perm_options::add, hata);
+  Durum durum = YarimKumeYaz(kok, yarim, dosyalar);
+  if (durum && ::rename(yarim.c_str(), bekleyen.c_str()) != 0) durum = DosyaHatasi(kok, "dosya yazılamadı", errno);
+  if (!durum) {
+    fs::remove_all(yarim, hata);
+    return durum;
+  }
+  DiziniDiskeIndir(kok);
+  // The set holds already; what cannot move now is read where it waits, and moves with the next write.
+  (void)BekleyenleriYerlestir(kok);
   return Tamam();
 }
 

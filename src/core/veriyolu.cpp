@@ -1,5 +1,6 @@
 #include "core/veriyolu.h"
 
+#include <algorithm>
 #include <cassert>
 #include <cerrno>
 #include <fcntl.h>
@@ -31,16 +32,18 @@ class DizinMakinesi final : public VeriMakinesi {
  public:
   explicit DizinMakinesi(const std::string& dizin) : dizin_(DizinSonu(dizin)) {}
 
+  // A file whose set waits to be moved is read where it waits; when it moves meanwhile, in its place.
   DosyaHali Bak(std::string_view ad, std::size_t enCok) const override {
-    const std::string yol = Adres(ad);
-    std::error_code hata;
-    if (!fs::exists(yol, hata)) return {.okunamadi = bool(hata)};
-    if (auto baytlar = DosyaOku(yol, enCok)) return {*baytlar, baytlar->size(), true, false};
-    const std::uintmax_t boy = fs::is_regular_file(yol, hata) ? fs::file_size(yol, hata) : 0;
-    return {.boy = hata ? 0 : boy, .var = true, .okunamadi = hata || boy <= enCok};
+    const DosyaHali bekleyen = Bul(BekleyenDosya(dizin_, ad), enCok);
+    return bekleyen.var && !bekleyen.okunamadi ? bekleyen : Bul(Adres(ad), enCok);
   }
-  Durum Yaz(std::string_view ad, std::string_view baytlar) const override { return DosyaYaz(Adres(ad), baytlar); }
+  Durum Yaz(std::string_view ad, std::string_view baytlar) const override {
+    if (auto durum = BekleyenleriYerlestir(dizin_); !durum) return durum;
+    return DosyaYaz(Adres(ad), baytlar);
+  }
+  Durum YazHepsi(const std::vector<AdliDosya>& dosyalar) const override { return DosyalariYaz(dizin_, dosyalar); }
   Durum Sil(std::string_view ad) const override {
+    if (auto durum = BekleyenleriYerlestir(dizin_); !durum) return durum;
     std::error_code hata;
     fs::remove(Adres(ad), hata);
     return hata ? Durum(Kusur{"silinemedi: " + Adres(ad)}) : Tamam();
@@ -72,6 +75,14 @@ class DizinMakinesi final : public VeriMakinesi {
   Durum Yarat() const override { return DizinYarat(dizin_); }
 
  private:
+  static DosyaHali Bul(const std::string& yol, std::size_t enCok) {
+    std::error_code hata;
+    if (!fs::exists(yol, hata)) return {.okunamadi = bool(hata)};
+    if (auto baytlar = DosyaOku(yol, enCok)) return {*baytlar, baytlar->size(), true, false};
+    const std::uintmax_t boy = fs::is_regular_file(yol, hata) ? fs::file_size(yol, hata) : 0;
+    return {.boy = hata ? 0 : boy, .var = true, .okunamadi = hata || boy <= enCok};
+  }
+
   template <class Uyar>
   std::vector<std::string> Adlar(Uyar uyar) const {
     std::vector<std::string> adlar;
@@ -111,6 +122,28 @@ DosyaHali VeriYolu::Bak(std::string_view ad, std::size_t enCok) const {
 Durum VeriYolu::Yaz(std::string_view ad, std::string_view baytlar) const {
   assert(Ad(ad));
   return makine_->Yaz(ad, baytlar);
+}
+
+Durum VeriYolu::YazHepsi(const std::vector<AdliDosya>& dosyalar) const {
+  assert(std::all_of(dosyalar.begin(), dosyalar.end(), [](const AdliDosya& d) { return Ad(d.ad); }));
+  return makine_->YazHepsi(dosyalar);
+}
+
+std::vector<DosyaHali> VeriYolu::BakHepsi(const std::vector<std::string_view>& adlar, std::size_t enCok) const {
+  const auto bak = [&] {
+    std::vector<DosyaHali> haller;
+    for (const std::string_view ad : adlar) haller.push_back(Bak(ad, enCok));
+    return haller;
+  };
+  // A set that comes into force between two reads shows in the second look.
+  constexpr int enCokBakis = 20;
+  std::vector<DosyaHali> once = bak();
+  for (int i = 0; i < enCokBakis; ++i) {
+    std::vector<DosyaHali> simdi = bak();
+    if (simdi == once) break;
+    once = std::move(simdi);
+  }
+  return once;
 }
 
 Durum VeriYolu::Sil(std::string_view ad) const {

@@ -19,6 +19,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/dosya.h"
 #include "core/sonuc.h"
 
 namespace belvani {
@@ -29,6 +30,8 @@ struct DosyaHali {
   std::uintmax_t boy = 0;  // of the file; more than `baytlar` holds when it is larger than was asked for
   bool var = false;
   bool okunamadi = false;  // it is there, but its bytes cannot be had: it must not be written over
+
+  bool operator==(const DosyaHali&) const = default;
 };
 
 // Held by one at a time, on all computers, until it is destroyed.
@@ -43,6 +46,7 @@ class VeriMakinesi {
   virtual ~VeriMakinesi() = default;
   virtual DosyaHali Bak(std::string_view ad, std::size_t enCok) const = 0;
   virtual Durum Yaz(std::string_view ad, std::string_view baytlar) const = 0;
+  virtual Durum YazHepsi(const std::vector<AdliDosya>& dosyalar) const = 0;
   virtual Durum Sil(std::string_view ad) const = 0;
   virtual std::vector<std::string> Dosyalar() const = 0;
   virtual Sonuc<std::unique_ptr<YolKilidi>> Kilitle(std::chrono::milliseconds enCok) const = 0;
@@ -67,6 +71,11 @@ class VeriYolu {
   bool Var(std::string_view ad) const { return Bak(ad, 0).var; }
   // In one step: a reader, a full disk or a power cut sees the old content or the new, never a half.
   Durum Yaz(std::string_view ad, std::string_view baytlar) const;
+  // Several files as one: all readers see the old ones or the new ones, over a kill and a power cut too. Under the
+  // lock.
+  Durum YazHepsi(const std::vector<AdliDosya>& dosyalar) const;
+  // Several files as they stand together: never some from before a YazHepsi and some from after it.
+  std::vector<DosyaHali> BakHepsi(const std::vector<std::string_view>& adlar, std::size_t enCok = EnCokBayt) const;
   Durum Sil(std::string_view ad) const;  // a file that is not there is a success
   // Names of the files, but for those that begin with a point.
   std::vector<std::string> Dosyalar() const;

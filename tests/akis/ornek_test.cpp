@@ -20,7 +20,7 @@ struct OrnekSirket : EkranParcalari {
   }
 
   void DonemeGec(int yil, int ay) {
-    ASSERT_TRUE(ParametreKur(oturum.DataPath, *ParametreAdresi(yil, ay)));
+    ASSERT_TRUE(MevzuatKur(oturum.DataPath, {yil, ay}, *ParametreAdresi(yil, ay)));
     parametreler.YasalYukle(oturum.DataPath);
     DonemYaz(yil, ay);
   }

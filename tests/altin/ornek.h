@@ -38,7 +38,7 @@ class OrnekSirket {
   // The law's figures of the month, for both ways.
   void DonemeGec(const Ay& ay) {
     if (ay == donem) return;
-    if (!ParametreKur(oturum.DataPath, *ParametreAdresi(ay.yil, ay.ay))) throw std::runtime_error(ay.Metin());
+    if (!MevzuatKur(oturum.DataPath, {ay.yil, ay.ay}, *ParametreAdresi(ay.yil, ay.ay))) throw std::runtime_error(ay.Metin());
     yasal = *YasalParametreleriAl(oturum.DataPath);
     donem = ay;
   }

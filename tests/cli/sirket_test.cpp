@@ -59,7 +59,7 @@ TEST(Sirket, FromOpeningToTheLedger) {
   for (const auto& kayit : j) EXPECT_THAT(s.Oku("b.csv"), HasSubstr("," + kayit["brutkaz"].get<std::string>() + ","));
 
   EXPECT_EQ(s("hazirla deneme --yil 2009 --ay 08").mesaj, "");
-  EXPECT_THAT(s("hazirla deneme --yil 2009 --ay 06").mesaj, HasSubstr("asgari ücret 693.00, yayımlanan 666.00"))
+  EXPECT_THAT(s("hazirla deneme --yil 2009 --ay 06").mesaj, HasSubstr("Asgari Ücret: 693.00 (yayımlanan 666.00)"))
       << "parameters of another half year";
   EXPECT_THAT(s.Tamam("bordro-sil deneme --yil 2009 --ay 7"), HasSubstr("3 kayıt"));
   EXPECT_EQ(s.Tamam("bordro deneme --yil 2009 --ay 7 --bicim json"), "[]\n");

@@ -62,5 +62,24 @@ TEST(VeriYolu, OneWriterWaitsForTheOther) {
       EXPECT_EQ(IniOku("Bolum", on + std::to_string(i), "yok", dizin.Yol() + "ortak.ini"), std::to_string(i));
 }
 
+// What a killed writer has left behind holds for readers at once, and the next writer moves it.
+TEST(VeriYolu, ASetThatWaitsIsReadWhereItWaits) {
+  const test::GeciciDizin dizin;
+  const VeriYolu veri = dizin.Yol();
+  ASSERT_TRUE(veri.YazHepsi({{"a.dat", "1"}, {"b.dat", "1"}}));
+  std::filesystem::create_directory(dizin.Yol() + ".bekleyen");
+  std::ofstream(dizin.Yol() + ".bekleyen/b.dat") << "2";  // a.dat has moved already
+  std::filesystem::create_directory(dizin.Yol() + ".bekleyen-x");
+  std::ofstream(dizin.Yol() + ".bekleyen-x/a.dat") << "3";  // never was whole
+  const auto haller = veri.BakHepsi({"a.dat", "b.dat", "yok.dat"});
+  EXPECT_EQ(haller[0].baytlar + haller[1].baytlar, "12");
+  EXPECT_FALSE(haller[2].var);
+  ASSERT_TRUE(veri.Yaz("b.dat", "4"));
+  EXPECT_EQ(veri.Oku("b.dat"), "4") << "not the one that waited";
+  ASSERT_TRUE(veri.YazHepsi({{"a.dat", "5"}}));
+  EXPECT_EQ(*veri.Oku("a.dat") + *veri.Oku("b.dat"), "54");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dizin.Yol()), {}), 2);
+}
+
 }  // namespace
 }  // namespace belvani

@@ -69,8 +69,8 @@ std::optional<std::size_t> YardimSirasi(BordroAlani alan) {
   return AralikSirasi(alan, BordroAlani::Yardim1, BordroAlani::Yardim11);
 }
 
-BordroGirisi::BordroGirisi(Oturum& oturum, const ParametreDeposu& parametreler, Bildirim& bildirim)
-    : o_(oturum), parametreler_(parametreler), bildirim_(bildirim) {}
+BordroGirisi::BordroGirisi(Oturum& oturum, ParametreDeposu& parametreler, Bildirim& bildirim)
+    : o_(oturum), parametreler_(parametreler), bildirim_(bildirim), mevzuat_(oturum, parametreler, bildirim) {}
 
 bool BordroGirisi::Ac() {
   EkranTemizle();
@@ -92,6 +92,17 @@ void BordroGirisi::AyDegistir(int ay) {
   EkranTemizle();
   kosullar_.donem.ay = ay;
   kosullar_.uygulama = UygulamaBul(kosullar_.yasal.kanunlar, ay, kosullar_.donem.yil);
+}
+
+bool BordroGirisi::MevzuatUygun() {
+  const bool uygun = mevzuat_.Uygun({kosullar_.donem.yil, kosullar_.donem.ay});
+  ParametreleriTazele();
+  return uygun;
+}
+
+void BordroGirisi::MevzuatiGetir() {
+  mevzuat_.Getir({kosullar_.donem.yil, kosullar_.donem.ay});
+  ParametreleriTazele();
 }
 
 std::vector<std::string> BordroGirisi::BordroNolari() {
@@ -145,7 +156,7 @@ KodSonucu BordroGirisi::Yuklenemedi(const Kusur& kusur) {
 }
 
 KodSonucu BordroGirisi::Getir(const std::string& kod, DonemDisiMetni metin) {
-  ParametreleriTazele();
+  if (!MevzuatUygun()) return KodSonucu::Yuklenemedi;
   auto okunan = Koru([&] { return KisiOku(o_.depo.db.IcMotor(), kosullar_.donem, kod); });
   if (!okunan) return Yuklenemedi(okunan.Kusuru());
   std::optional<KisiVerisi>& kisi = *okunan;

@@ -19,7 +19,7 @@
 
 #include "core/store/yon.h"
 #include "payroll/hazirlik/hazirlik.h"
-#include "payroll/hazirlik/parametredeposu.h"
+#include "payroll/hazirlik/mevzuatsorusu.h"
 
 namespace belvani {
 
@@ -66,7 +66,7 @@ enum class KodSonucu {
   Bilinmiyor,  // nobody has it; the screen is cleared
   DonemDisi,   // the person does not belong to the period; the screen is cleared
   Yuklendi,
-  Yuklenemedi,  // the store could not be read, or the template is out of range; told
+  Yuklenemedi,  // the store could not be read, the template is out of range, or there is no law; told
 };
 
 enum class KapanisSonucu {
@@ -122,7 +122,7 @@ class BordroGirisi {
  public:
   enum class Hal { KisiYok, KisiSecili, Kaydedildi };
 
-  BordroGirisi(Oturum& oturum, const ParametreDeposu& parametreler, Bildirim& bildirim);
+  BordroGirisi(Oturum& oturum, ParametreDeposu& parametreler, Bildirim& bildirim);
   BordroGirisi(const BordroGirisi&) = delete;
   BordroGirisi& operator=(const BordroGirisi&) = delete;
 
@@ -131,6 +131,12 @@ class BordroGirisi {
   bool Ac();
   // Another month of the year: the screen is cleared, the code stays.
   void AyDegistir(int ay);
+  // Asks about the installed law where it is not that of the month; false: nothing may be calculated with it. Asked
+  // anew before people come up and before saving, for a colleague may have fetched another.
+  bool MevzuatUygun();
+  // Fetches the law of the month.
+  void MevzuatiGetir();
+  void MevzuatNasilGetirilir(MevzuatSorusu::Getiren getiren) { mevzuat_.getiren = std::move(getiren); }
   // The run numbers found in the month, then "Yeni".
   std::vector<std::string> BordroNolari();
   // Asks, when the screen closes, whether everyone has his record.
@@ -164,7 +170,8 @@ class BordroGirisi {
   bool KayitSil();
   // Ctrl+F7: all records of the month.
   bool AyinBordrosunuSil();
-  // The "Puantaj " button with the template: everybody's month, without a question or a message.
+  // The "Puantaj " button with the template: everybody's month, without a question or a message. The failure is that
+  // there is no law to calculate with, or that the store did not take it.
   belvani::Sonuc<HazirlikSonucu> SablondanHazirla(Ilerleme* ilerleme = nullptr);
 
   Hal Durumu() const { return hal_; }
@@ -203,8 +210,9 @@ class BordroGirisi {
   KapanisSonucu SonrakineGec();
 
   Oturum& o_;
-  const ParametreDeposu& parametreler_;
+  ParametreDeposu& parametreler_;
   Bildirim& bildirim_;
+  MevzuatSorusu mevzuat_;
   Kosullar kosullar_;
   std::uint64_t surum_ = 0;  // of the parameters in kosullar_
 

@@ -4,7 +4,6 @@
 #include "core/store/tablo.h"
 #include "core/turkce.h"
 #include "payroll/hazirlik/giris.h"
-#include "payroll/parametre/mevzuat.h"
 
 namespace belvani {
 namespace {
@@ -52,6 +51,7 @@ bool BordroGirisi::EksikGunTamam() {
 KapanisSonucu BordroGirisi::Kapat() {
   const bool girildi = sonAlan_ != BordroAlani::Kod || g_.giris != acilis_;
   if (hal_ != Hal::KisiSecili || !girildi) return KapanisSonucu::Kapanmadi;
+  if (!MevzuatUygun()) return KapanisSonucu::KaydetmeHatasi;
   if (Hesapla()) {
     bildirim_.KusuruGoster(*kusur_);
     return KapanisSonucu::KaldiHesapsiz;
@@ -130,12 +130,13 @@ bool BordroGirisi::AyinBordrosunuSil() {
 }
 
 belvani::Sonuc<HazirlikSonucu> BordroGirisi::SablondanHazirla(Ilerleme* ilerleme) {
+  const MevzuatGorusu gorus = parametreler_.MevzuataBak(o_, {kosullar_.donem.yil, kosullar_.donem.ay});
+  if (gorus.hal == MevzuatHali::Kullanilamaz) return Kusur{gorus.Metin()};
   ParametreleriTazele();
   EkranTemizle();
   auto sonuc = TopluHazirla(o_, kosullar_, {}, ilerleme);
-  const std::string uyari = DonemUyusmazligi(parametreler_.yasal, kosullar_.donem.yil, kosullar_.donem.ay);
-  if (sonuc && !uyari.empty())
-    sonuc->sorunlar.insert(sonuc->sorunlar.begin(), Kusur{.metin = uyari, .derece = Derece::Uyari});
+  if (sonuc && gorus.hal != MevzuatHali::Uygun)
+    sonuc->sorunlar.insert(sonuc->sorunlar.begin(), Kusur{.metin = gorus.Metin(), .derece = Derece::Uyari});
   return sonuc;
 }
 

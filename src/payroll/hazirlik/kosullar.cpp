@@ -90,15 +90,14 @@ FirmaParametreleri FirmaDosyalariYukle(Oturum& o, BozukDosya bozuk) {
   return f;
 }
 
-Sonuc<YasalParametreler> YasalParametreleriAl(const std::string& dataPath) {
-  auto yukleme = YasalDosyalariYukle(dataPath, {}, BozukDosya::Kalir);
-  const char* const care = "\nDönemin parametrelerini kurunuz: belvani-cli parametre-kur --donem YYYY-AA";
-  if (!yukleme.uyarilar.empty())
-    return Kusur{Satirlar("Yasal parametre dosyaları kullanılamıyor:", yukleme.uyarilar) + care};
-  const YasalOranlar& y = yukleme.deger.oranlar;
-  if (y.AsgariUcret <= Tutar() || y.SskTaban <= Tutar() || y.SskTavan < y.SskTaban)
-    return Kusur{std::string("Yasal parametreler eksik: asgari ücret, SSK tabanı veya tavanı yok") + care};
-  return std::move(yukleme.deger);
+Sonuc<YasalParametreler> YasalParametreleriAl(const KuruluMevzuat& kurulu) {
+  const MevzuatGorusu gorus = KullanilabilirMi(kurulu);
+  if (gorus.hal == MevzuatHali::Uygun) return kurulu.parametreler;
+  return Kusur{gorus.Metin() + "\nDönemin parametrelerini kurunuz: belvani-cli parametre-kur --donem YYYY-AA"};
+}
+
+Sonuc<YasalParametreler> YasalParametreleriAl(const VeriYolu& veri) {
+  return YasalParametreleriAl(KuruluMevzuatOku(veri));
 }
 
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay) {

@@ -13,6 +13,7 @@
 #include "payroll/hesap/bordro.h"
 #include "payroll/hesap/donem.h"
 #include "payroll/parametre/dosyalar.h"
+#include "payroll/parametre/mevzuatkumesi.h"
 
 namespace belvani {
 
@@ -45,8 +46,9 @@ struct Kosullar {
 FirmaParametreleri FirmaDosyalariYukle(Oturum& o, BozukDosya bozuk = BozukDosya::Onarilir);
 
 // The legal parameters of the installation for work that must not go wrong unseen: a file that is absent, broken or
-// empty of figures is a failure, and stays as it is.
-Sonuc<YasalParametreler> YasalParametreleriAl(const std::string& dataPath);
+// with figures that no law has is a failure, and stays as it is.
+Sonuc<YasalParametreler> YasalParametreleriAl(const KuruluMevzuat& kurulu);
+Sonuc<YasalParametreler> YasalParametreleriAl(const VeriYolu& veri);
 
 // All conditions of a month of the open company under those parameters; reads its card anew. The failure says what the
 // company lacks or which of its files is broken.

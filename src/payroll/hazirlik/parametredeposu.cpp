@@ -4,9 +4,9 @@ namespace belvani {
 namespace {
 
 // Six zeros were dropped on 01.01.2005; books before that in the old lira have no decimals.
-Lira DefterLirasi(const Oturum& o) {
+Lira DefterLirasi(const Oturum& o, MevzuatAyi ay) {
   constexpr int YeniLiraYili = 2005;
-  return o.firma.firmayil < YeniLiraYili && o.firma.paraonda == 0 ? Lira::Eski : Lira::Yeni;
+  return ay.yil < YeniLiraYili && o.firma.paraonda == 0 ? Lira::Eski : Lira::Yeni;
 }
 
 }  // namespace
@@ -16,12 +16,18 @@ void ParametreDeposu::YasalYukle(const std::string& dataPath) {
   ++yasalSurumu;
 }
 
-Durum ParametreDeposu::DosyaIndir(const Oturum& o, ParametreDosyasi dosya, const IndirmeSiniri& sinir) {
-  const auto kaynak = ParametreAdresi(o.firma.firmayil, o.firma.firmaay, DefterLirasi(o));
+MevzuatGorusu ParametreDeposu::MevzuataBak(const Oturum& o, MevzuatAyi ay) {
+  const KuruluMevzuat kurulu = KuruluMevzuatOku(o.DataPath);
+  if (kurulu.uyarilar.empty() && kurulu.parametreler != yasal) YasalYukle(o.DataPath);
+  return belvani::MevzuataBak(kurulu, ay);
+}
+
+Sonuc<MevzuatKurulumu> ParametreDeposu::MevzuatiGetir(const Oturum& o, MevzuatAyi ay, const MevzuatIstegi& istek) {
+  const auto kaynak = ParametreAdresi(ay.yil, ay.ay, DefterLirasi(o, ay));
   if (!kaynak) return kaynak.Kusuru();
-  if (auto durum = ParametreDosyasiIndir(o.DataPath, dosya, *kaynak, sinir); !durum) return durum;
-  YasalYukle(o.DataPath);
-  return Tamam();
+  auto kurulum = MevzuatKur(o.DataPath, ay, *kaynak, istek);
+  if (kurulum) YasalYukle(o.DataPath);
+  return kurulum;
 }
 
 }  // namespace belvani

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "payroll/hazirlik/firmadurumu.h"
-#include "payroll/parametre/indir.h"
+#include "payroll/parametre/mevzuatkumesi.h"
 
 namespace belvani {
 
@@ -20,9 +20,13 @@ struct ParametreDeposu {
   // their loaders tell, in silence.
   void YasalYukle(const std::string& dataPath);
 
-  // The download button of a parameter screen: one file, unchecked, over that of the data path; then all are loaded
-  // again. On failure nothing has changed.
-  Durum DosyaIndir(const Oturum& o, ParametreDosyasi dosya, const IndirmeSiniri& sinir = {});
+  // What the installed law is to a month. Looks at the files again: a colleague may have fetched another month, which
+  // then holds here too.
+  MevzuatGorusu MevzuataBak(const Oturum& o, MevzuatAyi ay);
+
+  // Fetches the law of a month in the lira of the company's books, all of it or one file, and loads it. On failure
+  // nothing has changed.
+  Sonuc<MevzuatKurulumu> MevzuatiGetir(const Oturum& o, MevzuatAyi ay, const MevzuatIstegi& istek = {});
 
   std::uint64_t yasalSurumu = 0;
 };

@@ -19,8 +19,8 @@ class Yukleyici {
   // An absent file is worth a word in the data path; a company has its files only once somebody changed something.
   enum class Eksik { Bildirilir, Olagan };
 
-  Yukleyici(const VeriYolu& yol, Eksik eksik, BozukDosya bozuk = BozukDosya::Onarilir)
-      : yol_(yol), eksik_(eksik), bozuk_(bozuk) {}
+  Yukleyici(const VeriYolu& yol, Eksik eksik, BozukDosya bozuk = BozukDosya::Onarilir, DosyaHalleri okunan = {})
+      : yol_(yol), eksik_(eksik), bozuk_(bozuk), okunan_(std::move(okunan)) {}
 
   // The record where the file has its size, else nothing; `sonuc` tells the user what then happens.
   template <class Kayit>
@@ -54,19 +54,21 @@ class Yukleyici {
     return cozum.deger;
   }
 
-  void BoyUyarisi(std::string_view ad, const DosyaHali& dosya, const std::string& beklenen, const std::string& sonuc) {
+  // What then happens is told only where it does.
+  void BoyUyarisi(std::string_view ad, const DosyaHali& dosya, const std::string& beklenen, const std::string& olan) {
+    const std::string sonuc = bozuk_ == BozukDosya::Dokunulmaz ? "" : ": " + olan;
     if (dosya.okunamadi)
-      Uyar(ad, "okunamadı: " + sonuc);
+      Uyar(ad, "okunamadı" + sonuc);
     else if (dosya.boy > 0)
-      Uyar(ad, std::to_string(dosya.boy) + " bayt, " + beklenen + ": " + sonuc);
+      Uyar(ad, std::to_string(dosya.boy) + " bayt, " + beklenen + sonuc);
     else if (!EksikligiOlagan(ad))
-      Uyar(ad, "yok ya da boş: " + sonuc);
+      Uyar(ad, "yok ya da boş" + sonuc);
   }
 
   // Puts the built-in record in the place of a file that does not serve, so far as that is wanted.
   void Onar(std::string_view ad, const DosyaHali& dosya, const std::string& baytlar) {
     const bool bosYer = dosya.boy == 0 && EksikligiOlagan(ad);
-    if (dosya.okunamadi || (bozuk_ == BozukDosya::Kalir && !bosYer)) return;
+    if (dosya.okunamadi || bozuk_ == BozukDosya::Dokunulmaz || (bozuk_ == BozukDosya::Kalir && !bosYer)) return;
     if (const auto durum = yol_.Yaz(ad, baytlar); !durum) uyarilar_.push_back(durum.KusurMetni());
   }
 
@@ -75,13 +77,17 @@ class Yukleyici {
   // Nobody downloads or sends kanun.dat.
   bool EksikligiOlagan(std::string_view ad) const { return eksik_ == Eksik::Olagan || ad == KanunKaydi::Dosya; }
 
-  DosyaHali Bak(std::string_view ad) const { return yol_.Bak(ad, EnCokOkunan); }
+  DosyaHali Bak(std::string_view ad) const {
+    const auto hal = okunan_.find(ad);
+    return hal == okunan_.end() ? yol_.Bak(ad, EnCokOkunan) : hal->second;
+  }
   std::vector<std::string> Uyarilar() && { return std::move(uyarilar_); }
 
  private:
   const VeriYolu& yol_;
   Eksik eksik_;
   BozukDosya bozuk_;
+  DosyaHalleri okunan_;
   std::vector<std::string> uyarilar_;
 };
 
@@ -116,6 +122,16 @@ Kanunlar KanunlariYukle(Yukleyici& y) {
   return kanunlar;
 }
 
+Yukleme<YasalParametreler> YasalYukle(Yukleyici y, const YasalParametreler& simdiki) {
+  YasalParametreler p;
+  p.oranlar = y.Al<YasalKaydi>("yasal oranlar sıfır alındı.").value_or(YasalOranlar());
+  p.gv = y.Al<GvKaydi>("gelir vergisi tablosu değişmedi.").value_or(simdiki.gv);
+  p.agi = AgiYukle(y, p.oranlar.AsgariUcret, simdiki.agi.AgiCocuk4);
+  p.hesapTurleri = y.AlYaDaYaz<HesapTurKaydi>(VarsayilanHesapTurleri(), "hazır sigorta kolları yazıldı.");
+  p.kanunlar = KanunlariYukle(y);
+  return {p, std::move(y).Uyarilar()};
+}
+
 template <class Kayit>
 Durum Kaydet(const VeriYolu& yol, const typename Kayit::Deger& deger) {
   return yol.Yaz(Kayit::Dosya, KayitBaytlari<Kayit>(deger));
@@ -125,14 +141,21 @@ Durum Kaydet(const VeriYolu& yol, const typename Kayit::Deger& deger) {
 
 Yukleme<YasalParametreler> YasalDosyalariYukle(const VeriYolu& veri, const YasalParametreler& simdiki,
                                                BozukDosya bozuk) {
-  Yukleyici y(veri, Yukleyici::Eksik::Bildirilir, bozuk);
-  YasalParametreler p;
-  p.oranlar = y.Al<YasalKaydi>("yasal oranlar sıfır alındı.").value_or(YasalOranlar());
-  p.gv = y.Al<GvKaydi>("gelir vergisi tablosu değişmedi.").value_or(simdiki.gv);
-  p.agi = AgiYukle(y, p.oranlar.AsgariUcret, simdiki.agi.AgiCocuk4);
-  p.hesapTurleri = y.AlYaDaYaz<HesapTurKaydi>(VarsayilanHesapTurleri(), "hazır sigorta kolları yazıldı.");
-  p.kanunlar = KanunlariYukle(y);
-  return {p, std::move(y).Uyarilar()};
+  return YasalYukle(Yukleyici(veri, Yukleyici::Eksik::Bildirilir, bozuk, YasalDosyalariOku(veri)), simdiki);
+}
+
+DosyaHalleri YasalDosyalariOku(const VeriYolu& veri, std::string_view ayrica) {
+  std::vector<std::string_view> adlar{YasalKaydi::Dosya, GvKaydi::Dosya, AgiKaydi::Dosya, HesapTurKaydi::Dosya,
+                                      KanunKaydi::Dosya};
+  if (!ayrica.empty()) adlar.push_back(ayrica);
+  std::vector<DosyaHali> haller = veri.BakHepsi(adlar, EnCokOkunan);
+  DosyaHalleri okunan;
+  for (std::size_t i = 0; i < adlar.size(); ++i) okunan.emplace(adlar[i], std::move(haller[i]));
+  return okunan;
+}
+
+Yukleme<YasalParametreler> YasalDosyalariCoz(const VeriYolu& veri, const DosyaHalleri& haller) {
+  return YasalYukle(Yukleyici(veri, Yukleyici::Eksik::Bildirilir, BozukDosya::Dokunulmaz, haller), {});
 }
 
 Yukleme<GvTablosu> OzelGvYukle(const VeriYolu& veri) {

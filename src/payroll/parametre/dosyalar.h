@@ -10,6 +10,7 @@
 // (4050 bytes) and kanun.dat (72 bytes) come into being.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -29,7 +30,8 @@ struct Yukleme {
 // What becomes of a file that its loader would replace by the built-in record. The desktop repairs it in silence; a
 // batch run leaves it as it is, tells, and goes no further. Where no file was expected (kanun.dat, files of a company),
 // both write the built-in one.
-enum class BozukDosya { Onarilir, Kalir };
+// Dokunulmaz writes nothing at all.
+enum class BozukDosya { Onarilir, Kalir, Dokunulmaz };
 
 // All that the installation's files set; `simdiki` is what memory holds (a default value on the first run).
 //   yasal2.dat  not 1368 bytes: all zero; the file stays.
@@ -42,6 +44,12 @@ enum class BozukDosya { Onarilir, Kalir };
 // An absent kanun.dat is ordinary and not told.
 Yukleme<YasalParametreler> YasalDosyalariYukle(const VeriYolu& veri, const YasalParametreler& simdiki,
                                                BozukDosya bozuk = BozukDosya::Onarilir);
+
+// The bytes of these files as they stand together, by name, besides others that are asked for.
+using DosyaHalleri = std::map<std::string, DosyaHali, std::less<>>;
+DosyaHalleri YasalDosyalariOku(const VeriYolu& veri, std::string_view ayrica = {});
+// What those bytes hold; writes nothing.
+Yukleme<YasalParametreler> YasalDosyalariCoz(const VeriYolu& veri, const DosyaHalleri& haller);
 
 // ozgvtbl.dat; not 96 bytes: all zero, the file stays.
 Yukleme<GvTablosu> OzelGvYukle(const VeriYolu& veri);

@@ -163,10 +163,6 @@ constexpr std::array<Parametre, 4> parametreler{{{"yasal2.txt", YasalKaydi::Dosy
                                                  {"agitbl.txt", AgiKaydi::Dosya, AgiKaydi::Boy},
                                                  {"hestur.txt", HesapTurKaydi::Dosya, HesapTurKaydi::Boy}}};
 
-std::string UzakAdres(const std::string& kaynak, const Parametre& p) {
-  return kaynak + "/download/" + std::string(p.uzak);
-}
-
 // In the order of `parametreler`.
 using ParametreBaytlari = std::array<std::string, parametreler.size()>;
 
@@ -180,37 +176,6 @@ std::string DonemDizini(int yil, int ay, Lira lira) {
          (lira == Lira::Eski ? "-eski" : "");
 }
 
-Sonuc<ParametreBaytlari> HepsiniAl(const std::string& kaynak, const IndirmeSiniri& sinir) {
-  ParametreBaytlari hepsi;
-  for (std::size_t i = 0; i < parametreler.size(); ++i) {
-    const std::string url = UzakAdres(kaynak, parametreler[i]);
-    auto baytlar = Al(url, sinir);
-    if (!baytlar) return baytlar.Kusuru();
-    if (baytlar->size() != parametreler[i].boy)
-      return Kusur{"Parametre dosyası hatalı: " + url + " " + std::to_string(baytlar->size()) + " bayt, " +
-                   std::to_string(parametreler[i].boy) + " bayt olmalıydı"};
-    hepsi[i] = std::move(*baytlar);
-  }
-  return hepsi;
-}
-
-// What a file held before it was replaced; nothing: it did not exist.
-using EskiHal = std::optional<std::string>;
-
-Sonuc<EskiHal> EskiHaliAl(const VeriYolu& veri, std::string_view ad) {
-  DosyaHali hal = veri.Bak(ad);
-  if (hal.okunamadi || hal.boy > hal.baytlar.size())
-    return Kusur{"Eski parametre dosyası okunamadı, değiştirilmedi: " + veri.Adres(ad)};
-  return hal.var ? EskiHal(std::move(hal.baytlar)) : EskiHal();
-}
-
-// The text of what could not be put back; "" when all is as it was.
-std::string GeriKoy(const VeriYolu& veri, std::string_view ad, const EskiHal& eski) {
-  const Durum durum = eski ? veri.Yaz(ad, *eski) : veri.Sil(ad);
-  if (durum) return {};
-  return (eski ? "; eski hali geri konamadı: " : "; ") + durum.KusurMetni();
-}
-
 }  // namespace
 
 Durum ParametreIndir(const std::string& url, const VeriYolu& veri, std::string_view ad, const IndirmeSiniri& sinir) {
@@ -219,10 +184,19 @@ Durum ParametreIndir(const std::string& url, const VeriYolu& veri, std::string_v
   return veri.Yaz(ad, *baytlar);
 }
 
-Durum ParametreDosyasiIndir(const VeriYolu& veri, ParametreDosyasi dosya, const std::string& kaynak,
-                            const IndirmeSiniri& sinir) {
+std::string_view ParametreDosyaAdi(ParametreDosyasi dosya) {
+  return parametreler[std::size_t(dosya)].yerel;
+}
+
+Sonuc<AdliDosya> ParametreDosyasiAl(ParametreDosyasi dosya, const std::string& kaynak, const IndirmeSiniri& sinir) {
   const Parametre& p = parametreler[std::size_t(dosya)];
-  return ParametreIndir(UzakAdres(kaynak, p), veri, p.yerel, sinir);
+  const std::string url = kaynak + "/download/" + std::string(p.uzak);
+  auto baytlar = Al(url, sinir);
+  if (!baytlar) return baytlar.Kusuru();
+  if (baytlar->size() != p.boy)
+    return Kusur{"Parametre dosyası hatalı: " + url + " " + std::to_string(baytlar->size()) + " bayt, " +
+                 std::to_string(p.boy) + " bayt olmalıydı"};
+  return AdliDosya{std::string(p.yerel), std::move(*baytlar)};
 }
 
 Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira) {
@@ -239,27 +213,6 @@ Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira) {
   for (std::size_t i = 0; i < parametreler.size(); ++i)
     if (auto durum = DosyaYaz(dizin + std::string(parametreler[i].uzak), hepsi[i]); !durum) return durum.Kusuru();
   return DosyaAdresi(fs::absolute(kok).lexically_normal());
-}
-
-Durum ParametreKur(const VeriYolu& veri, const std::string& kaynak, const IndirmeSiniri& sinir) {
-  const auto yeni = HepsiniAl(kaynak, sinir);
-  if (!yeni) return yeni.Kusuru();
-  const auto kilit = veri.Kilitle();
-  if (!kilit) return kilit.Kusuru();
-  std::array<EskiHal, parametreler.size()> eski;
-  for (std::size_t i = 0; i < parametreler.size(); ++i) {
-    auto hal = EskiHaliAl(veri, parametreler[i].yerel);
-    if (!hal) return hal.Kusuru();
-    eski[i] = std::move(*hal);
-  }
-  for (std::size_t i = 0; i < parametreler.size(); ++i) {
-    const auto durum = veri.Yaz(parametreler[i].yerel, (*yeni)[i]);
-    if (durum) continue;
-    std::string metin = durum.KusurMetni();
-    while (i-- > 0) metin += GeriKoy(veri, parametreler[i].yerel, eski[i]);
-    return Kusur{metin};
-  }
-  return Tamam();
 }
 
 }  // namespace belvani

@@ -5,6 +5,7 @@
 // a failure of any kind leaves every file as it was.
 #pragma once
 
+#include <array>
 #include <chrono>
 #include <string>
 
@@ -29,14 +30,14 @@ Durum ParametreIndir(const std::string& url, const VeriYolu& veri, std::string_v
 // address of the shipped figures, written out in the user's cache directory. No separator at the end.
 Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira = Lira::Yeni);
 
-// Fetches one of the four files from `kaynak` (as ParametreAdresi gives it) over that of the data path, as
-// ParametreIndir does.
+// The four files that are fetched, in the order in which they lie in the data path.
 enum class ParametreDosyasi { Yasal, Gv, Agi, HesapTur };
-Durum ParametreDosyasiIndir(const VeriYolu& veri, ParametreDosyasi dosya, const std::string& kaynak,
-                            const IndirmeSiniri& sinir = {});
+inline constexpr std::array ParametreDosyalari{ParametreDosyasi::Yasal, ParametreDosyasi::Gv, ParametreDosyasi::Agi,
+                                               ParametreDosyasi::HesapTur};
+std::string_view ParametreDosyaAdi(ParametreDosyasi dosya);  // "yasal2.dat"
 
-// Fetches the four files from `kaynak` (as ParametreAdresi gives it), checks their sizes, and only then replaces those
-// of the data path: all four or none.
-Durum ParametreKur(const VeriYolu& veri, const std::string& kaynak, const IndirmeSiniri& sinir = {});
+// Fetches one of them from `kaynak` (as ParametreAdresi gives it), by the name that it has in the data path. Its size
+// is looked at, its figures are not.
+Sonuc<AdliDosya> ParametreDosyasiAl(ParametreDosyasi dosya, const std::string& kaynak, const IndirmeSiniri& sinir = {});
 
 }  // namespace belvani

@@ -179,17 +179,6 @@ Sonuc<YasalParametreler> MevzuatYukle(const std::string& dizin, int yil, int ay,
   }
 }
 
-std::string DonemUyusmazligi(const YasalParametreler& kurulu, int yil, int ay) {
-  std::string yayimlanan;
-  for (const Lira lira : {Lira::Yeni, Lira::Eski}) {
-    const auto donem = MevzuatYukle(MevzuatDizini(), yil, ay, lira);
-    if (!donem || donem->oranlar.AsgariUcret == kurulu.oranlar.AsgariUcret) return {};
-    if (yayimlanan.empty()) yayimlanan = TutarMetni(donem->oranlar.AsgariUcret, 2);
-  }
-  return "Kurulu parametreler " + std::string(AyAdi(ay)) + " " + std::to_string(yil) +
-         " döneminin değil: asgari ücret " + TutarMetni(kurulu.oranlar.AsgariUcret, 2) + ", yayımlanan " + yayimlanan;
-}
-
 std::string MevzuatDizini() {
   return VeriDizini("mevzuat");
 }

@@ -21,10 +21,6 @@ enum class Lira { Yeni, Eski };
 // published one of before 2005 (x 1,000,000): January 2003 has a floor of 327,583,290.
 Sonuc<YasalParametreler> MevzuatYukle(const std::string& dizin, int yil, int ay, Lira lira = Lira::Yeni);
 
-// Warns that the installed parameters are of another time than the month: their minimum wage is not the one published
-// for it, in either unit. "" when it is, or when nothing is known of the month. The files themselves bear no date.
-std::string DonemUyusmazligi(const YasalParametreler& kurulu, int yil, int ay);
-
 // Where the shipped figures lie (core/veridizini.h), with a separator at the end.
 std::string MevzuatDizini();
 

@@ -149,6 +149,8 @@ struct YasalParametreler {
   AgiTablosu agi;
   HesapTurleri hesapTurleri;
   Kanunlar kanunlar;
+
+  bool operator==(const YasalParametreler&) const = default;
 };
 
 // The allowance as the rules read it: a base below 100 stands for none, and the minimum wage takes its place.

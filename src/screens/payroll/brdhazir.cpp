@@ -28,6 +28,7 @@ QComboBox* Liste(QWidget* ust) {
 
 brdhazir::brdhazir(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : Form(baglam, "brdhazir", QStringLiteral("Bordro Hazırlık")),
+      parametreler_(parametreler),
       giris_(baglam.oturum, parametreler, baglam.bildirim),
       ay_(Liste(this)),
       bordroNo_(Liste(this)),
@@ -38,6 +39,12 @@ brdhazir::brdhazir(EkranBaglami& baglam, ParametreDeposu& parametreler)
       muafiyet_(new QLabel(this)),
       neden_(new NedenPaneli(this)) {
   acik_ = giris_.Ac();
+  giris_.MevzuatNasilGetirilir([this](MevzuatAyi ay, MevzuatIstegi istek) {
+    return UzunIs(Baglam(), QStringLiteral("Parametre indiriliyor…"), [&](Ilerleme& ilerleme) {
+      istek.sinir.ilerleme = &ilerleme;
+      return parametreler_.MevzuatiGetir(Oturumu(), ay, istek);
+    });
+  });
   UstSatirYap();
   GovdeYap();
   TuslariBagla();
@@ -81,6 +88,7 @@ void brdhazir::UstSatirYap() {
     degisen_.clear();
     Goster();
     OdakVer(bordroalani::kod);
+    giris_.MevzuatUygun();
   });
 }
 
@@ -139,6 +147,7 @@ void brdhazir::TuslariBagla() {
             {.tus = Qt::CTRL | Qt::Key_B, .ipucu = "Borç", .islev = [this] { BorcSor(); }},
             {.tus = Qt::Key_F4, .ipucu = "Neden?", .islev = [this] { SonuclaraGit(); }},
             {.tus = Qt::Key_F6, .ipucu = "Ay", .islev = [this] { ay_->setFocus(); }},
+            {.tus = Qt::CTRL | Qt::Key_F6, .ipucu = "Ayın Parametreleri", .islev = [this] { ParametreleriGetir(); }},
             {.tus = Qt::Key_F8, .ipucu = "Puantaj", .islev = [this] { PuantajaGit(); }}});
   connect(&YaziKutusu(bordroalani::kod), &xtext::Lookup, this, [this] {
     QKeyEvent f2(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
@@ -178,6 +187,11 @@ void brdhazir::NettenBrute() {
 void brdhazir::PuantajaGit() {
   if (kaynak_->hasFocus() && kaynak_->currentIndex() == int(PuantajKaynagi::Sablondan)) return TopluHazirla();
   kaynak_->setFocus();
+}
+
+void brdhazir::ParametreleriGetir() {
+  giris_.MevzuatiGetir();
+  Goster();
 }
 
 void brdhazir::UyariRengi(bool kirmizi) {
@@ -362,7 +376,7 @@ void brdhazir::BordroNoDoldur() {
 }
 
 void brdhazir::TopluHazirla() {
-  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan)) return;
+  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan) || !giris_.MevzuatUygun()) return;
   const auto sonuc = UzunIs(Baglam(), QStringLiteral("Bordro hazırlanıyor…"),
                             [this](Ilerleme& ilerleme) { return giris_.SablondanHazirla(&ilerleme); });
   if (!sonuc) return;
@@ -401,9 +415,10 @@ void brdhazir::BorcSor() {
 
 void brdhazir::showEvent(QShowEvent* olay) {
   Form::showEvent(olay);
-  if (!acik_)
-    QMetaObject::invokeMethod(
-        this, [this] { Kapat(); }, Qt::QueuedConnection);
+  if (std::exchange(gosterildi_, true)) return;
+  // Messages and questions come over the screen, not before it.
+  QMetaObject::invokeMethod(
+      this, [this] { acik_ ? void(giris_.MevzuatUygun()) : Kapat(); }, Qt::QueuedConnection);
 }
 
 void brdhazir::closeEvent(QCloseEvent* olay) {

@@ -49,6 +49,7 @@ class brdhazir : public Form {
   void RehberAc();
   void Sil();
   void AyiSil();
+  void ParametreleriGetir();
   void NettenBrute();
   void PuantajaGit();
   AlanDenetimi* Sahibi(const QObject* nesne) const;
@@ -57,7 +58,9 @@ class brdhazir : public Form {
   QString Para(Tutar tutar) const;
   void UyariRengi(bool kirmizi);
 
+  ParametreDeposu& parametreler_;
   BordroGirisi giris_;
+  bool gosterildi_ = false;
   bool acik_ = false;  // the company has what a payroll needs
   QComboBox* ay_;
   QComboBox* bordroNo_;

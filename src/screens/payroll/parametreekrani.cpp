@@ -16,17 +16,22 @@ void ParametreEkrani::IndirDugmesi(ParametreDosyasi dosya, std::function<void()>
   const auto indir = [this, dosya, goster = std::move(goster)] {
     bool vazgecildi = false;
     const auto durum = UzunIs(Baglam(), QStringLiteral("Parametre indiriliyor…"), [&](Ilerleme& ilerleme) {
-      Durum indirme = parametreler_.DosyaIndir(Oturumu(), dosya, {.ilerleme = &ilerleme});
+      auto indirme = parametreler_.MevzuatiGetir(Oturumu(), {Oturumu().firma.firmayil, Oturumu().firma.firmaay},
+                                                 {.yalniz = dosya, .sinir = {.ilerleme = &ilerleme}});
       vazgecildi = ilerleme.Vazgecildi();
       return indirme;
     });
     if (!durum) return;
     if (vazgecildi) return Bildirimi().Bilgi("Parametre indirmeden vazgeçildi, hiçbir şey değişmedi.");
-    if (!*durum) return Bildirimi().Uyari("Parametre Bulunamadı..");
+    if (!*durum) return Bildirimi().Uyari("Parametre Bulunamadı..\n" + durum->KusurMetni());
     Bildirimi().Bilgi("Parametre İndirildi..");
     goster();
   };
   Komutlar({{.dugme = "Parametre İndir", .simge = "indir", .islev = indir}});
+}
+
+MevzuatGorusu ParametreEkrani::Mevzuat() const {
+  return parametreler_.MevzuataBak(Oturumu(), {Oturumu().firma.firmayil, Oturumu().firma.firmaay});
 }
 
 bool ParametreEkrani::YasalYazildi(const Durum& durum) {

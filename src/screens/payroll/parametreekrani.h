@@ -16,6 +16,8 @@ class ParametreEkrani : public Form {
   ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, const QString& kelime, const QString& baslik);
 
   ParametreDeposu& Parametreler() const { return parametreler_; }
+  // What the installed law is to the company's month.
+  MevzuatGorusu Mevzuat() const;
   TanimOrtami Tanimlar() const { return {Oturumu(), parametreler_, Bildirimi()}; }
 
   // "Parametre İndir": fetches the file and loads it; then `goster` shows the new figures.

@@ -91,8 +91,7 @@ void yyasor::Goster() {
   dallar_ = Dallar(Parametreler().yasal);
   tablo_.Doldur(dallar_);
   ParametreEkrani::Goster(Parametreler().yasal.oranlar);
-  const std::string uyusmazlik =
-      DonemUyusmazligi(Parametreler().yasal, Oturumu().firma.firmayil, Oturumu().firma.firmaay);
+  const std::string uyusmazlik = Mevzuat().Metin(1);
   uyari_->setText(Yazi(uyusmazlik));
   uyari_->setVisible(!uyusmazlik.empty());
 }

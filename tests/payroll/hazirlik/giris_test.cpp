@@ -21,7 +21,7 @@ struct Ekran : test::Sirket {
   BordroGirisi giris{o, depo, bildirim};
 
   void Ac(int yil, int ay) {
-    depo.yasal = test::Yasal(yil, ay);
+    test::Al(depo.MevzuatiGetir(o, {yil, ay}));
     ASSERT_TRUE(FirmaYukle(o));
     test::Al(depo.firma.Yukle());
     o.firma.firmayil = std::int16_t(yil);

@@ -70,7 +70,7 @@ TEST(ParametreDeposu, TakesOneDownloadedFile) {
   const auto veri = test::OrtamKoy("BELVANI_VERI_DIZIN", test::KaynakYolu("data").c_str());
   t.o.firma.firmayil = 2009;
   t.o.firma.firmaay = 7;
-  ASSERT_TRUE(t.depo.DosyaIndir(t.o, ParametreDosyasi::Gv));
+  ASSERT_TRUE(t.depo.MevzuatiGetir(t.o, {t.o.firma.firmayil, t.o.firma.firmaay}, {.yalniz = ParametreDosyasi::Gv}));
   EXPECT_EQ(t.depo.yasal.gv.GvLimit[0], Tutar(8700));
   EXPECT_EQ(t.depo.yasal.oranlar.AsgariUcret, Tutar()) << "that file alone";
 }

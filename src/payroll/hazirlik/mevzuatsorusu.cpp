@@ -1,0 +1,50 @@
+#include "payroll/hazirlik/mevzuatsorusu.h"
+
+namespace belvani {
+
+bool MevzuatSorusu::Uygun(MevzuatAyi ay) {
+  const MevzuatGorusu gorus = parametreler_.MevzuataBak(o_, ay);
+  const std::string getirilsinMi = gorus.Metin() + "\n\n" + ay.Metin() + " parametreleri getirilsin mi ?";
+  switch (gorus.hal) {
+    case MevzuatHali::Uygun:
+      return true;
+    case MevzuatHali::Kullanilamaz:
+      return bildirim_.Soru(getirilsinMi) && Getir(ay);
+    case MevzuatHali::BaskaAy:
+      if (sorulanlar_.contains({ay.Iso(), parametreler_.yasalSurumu})) return true;
+      if (bildirim_.Soru(getirilsinMi)) return Getir(ay);
+      sorulanlar_.insert({ay.Iso(), parametreler_.yasalSurumu});
+      return true;
+    case MevzuatHali::Kullanici:
+      if (!bildirim_.Soru(gorus.Metin() + "\n\n" + ay.Metin() + " bu rakamlarla hesaplansın mı ?")) return false;
+      if (const Durum kabul = MevzuatiKabulEt(o_.DataPath, ay); !kabul) bildirim_.KusuruGoster(kabul.Kusuru());
+      return true;
+  }
+  return false;
+}
+
+bool MevzuatSorusu::Getir(MevzuatAyi ay) {
+  const KuruluMevzuat kurulu = KuruluMevzuatOku(o_.DataPath);
+  if (const auto kendi = KullanicininRakamlari(kurulu); !kendi.empty()) {
+    MevzuatGorusu liste{MevzuatHali::Kullanici, "Kurulu parametrelerde değiştirdiğiniz rakamlar var:", {}};
+    for (const RakamFarki& fark : kendi) liste.satirlar.push_back(fark.Metin());
+    if (!bildirim_.Soru(liste.Metin() + "\n\nBunlar saklanacak ve kendi ayları yeniden getirilince geri gelecek.\n" +
+                        ay.Metin() + " parametreleri getirilsin mi ?"))
+      return false;
+  }
+  MevzuatIstegi istek;
+  if (SaklananVar(o_.DataPath, ay) &&
+      !bildirim_.Soru(ay.Metin() +
+                      " için daha önce değiştirdiğiniz rakamlar saklı.\nYayımlananlar yerine onlar mı gelsin ?"))
+    istek.saklanan = Saklanan::Birakilir;
+  const auto kurulum = getiren(ay, istek);
+  if (!kurulum) return false;
+  if (!*kurulum) {
+    bildirim_.Uyari("Parametre Bulunamadı..\n" + ay.Metin() + ": " + kurulum->KusurMetni());
+    return false;
+  }
+  bildirim_.Bilgi("Parametre İndirildi..");
+  return parametreler_.MevzuataBak(o_, ay).hal != MevzuatHali::Kullanilamaz;
+}
+
+}  // namespace belvani
