@@ -4,6 +4,7 @@
 #include <QApplication>
 
 #include "app/anamenu.h"
+#include "ui/sistembaskisi.h"
 
 namespace belvani {
 
@@ -17,6 +18,18 @@ struct AnaPencereGosterici final : FormGosterici {
   void KisiyeGit(const std::string& kod, AlanTutamagi alan) override {
     if (pencere != nullptr) pencere->KisiyeGit(kod, alan);
   }
+};
+
+// What a program works with from its start to its end.
+template <class BildirimTuru, class DialogTuru>
+struct ProgramParcalari {
+  BildirimTuru bildirim;
+  DialogTuru dialoglar;
+  AnaPencereGosterici gosterici;
+  Oturum oturum;
+  ParametreDeposu parametreler{oturum};
+  SistemBaskisi baski;
+  EkranBaglami ekran{oturum, bildirim, dialoglar, gosterici, baski.ortam};
 };
 
 }  // namespace belvani

@@ -239,26 +239,25 @@ QMenu* Form1::MenuYap(QPoint yer) {
 
 QMenu* Form1::SimgeMenusu(int sira) {
   simgeler_->setCurrentRow(sira);
-  auto* menu = new QMenu(this);
-  menu->setAttribute(Qt::WA_DeleteOnClose);
-  menu->addAction(Simge("calistir"), QStringLiteral("Çalıştır"), this,
-                  [this, sira] { Calistirilacak(kisayollar_.at(std::size_t(sira))); });
-  menu->addAction(Simge("duzelt"), QStringLiteral("Düzelt"), this, [this, sira] { Duzenle(sira); });
-  menu->addAction(Simge("sil"), QStringLiteral("Sil"), this, [this, sira] { Sil(sira); });
-  menu->addAction(Simge("sablon"), QStringLiteral("Simgeleri Diz"), this, [this] { Diz(); });
-  menu->addAction(Simge("gorunum"), QStringLiteral("Görünüm"), this, [this] { Islem(MenuIslemi::Gorunum); });
-  return menu;
+  return MenuDoldur({{"calistir", "Çalıştır", [this, sira] { Calistirilacak(kisayollar_.at(std::size_t(sira))); }},
+                     {"duzelt", "Düzelt", [this, sira] { Duzenle(sira); }},
+                     {"sil", "Sil", [this, sira] { Sil(sira); }},
+                     {"sablon", "Simgeleri Diz", [this] { Diz(); }},
+                     {"gorunum", "Görünüm", [this] { Islem(MenuIslemi::Gorunum); }}});
 }
 
 QMenu* Form1::BosMenu() {
+  return MenuDoldur({{"gorunum", "Görünüm", [this] { Islem(MenuIslemi::Gorunum); }},
+                     {"sablon", "Simgeleri Diz", [this] { Diz(); }},
+                     {"yeni", "Yeni Kısa Yol", [this] { Duzenle(int(kisayollar_.size())); }},
+                     {"degistir", "Şirket Değiştir", [this] { Islem(MenuIslemi::FirmaDegistir); }},
+                     {"cikis", "Çıkış", [this] { Islem(MenuIslemi::Cikis); }}});
+}
+
+QMenu* Form1::MenuDoldur(const std::vector<MenuSatiri>& satirlar) {
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  menu->addAction(Simge("gorunum"), QStringLiteral("Görünüm"), this, [this] { Islem(MenuIslemi::Gorunum); });
-  menu->addAction(Simge("sablon"), QStringLiteral("Simgeleri Diz"), this, [this] { Diz(); });
-  menu->addAction(Simge("yeni"), QStringLiteral("Yeni Kısa Yol"), this, [this] { Duzenle(int(kisayollar_.size())); });
-  menu->addAction(Simge("degistir"), QStringLiteral("Şirket Değiştir"), this,
-                  [this] { Islem(MenuIslemi::FirmaDegistir); });
-  menu->addAction(Simge("cikis"), QStringLiteral("Çıkış"), this, [this] { Islem(MenuIslemi::Cikis); });
+  for (const MenuSatiri& s : satirlar) menu->addAction(Simge(s.simge), QString::fromUtf8(s.metin), this, s.islev);
   return menu;
 }
 

@@ -52,6 +52,12 @@ class Form1 : public QWidget {
   bool Yaz(std::vector<Kisayol> kisayollar, int secili);
   QMenu* SimgeMenusu(int sira);
   QMenu* BosMenu();
+  struct MenuSatiri {
+    const char* simge;
+    const char* metin;
+    std::function<void()> islev;
+  };
+  QMenu* MenuDoldur(const std::vector<MenuSatiri>& satirlar);
   void Duzenle(int sira);  // behind the last one: a new shortcut
   void Sil(int sira);
   void Tasi(int sira, int adim);

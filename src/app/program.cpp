@@ -9,13 +9,12 @@
 #include "screens/core/startfrm.h"
 #include "ui/bildirimkutusu.h"
 #include "ui/metin.h"
-#include "ui/sistembaskisi.h"
 #include "ui/stil.h"
 
 namespace belvani {
 namespace {
 
-class Program {
+class Program : ProgramParcalari<BildirimKutusu, SistemDialoglari> {
  public:
   explicit Program(QApplication& uygulama) : uygulama_(uygulama) {}
 
@@ -23,13 +22,13 @@ class Program {
     while (true) {
       const QString programDizini = QCoreApplication::applicationDirPath();
       const QString komutSatiri = QCoreApplication::arguments().mid(1).join(' ');
-      if (!Baslat(oturum_, Utf8(programDizini), Utf8(komutSatiri), bildirim_)) return 1;
-      StilKur(uygulama_, GecerliRenkler(oturum_));
-      if (GirisYap(ekran_) == GirisSonucu::Cikis) return 0;
-      parametreler_.YasalYukle(oturum_.DataPath);
-      if (const Durum d = parametreler_.firma.Yukle(); !d) bildirim_.Uyari(d.KusurMetni());
+      if (!Baslat(oturum, Utf8(programDizini), Utf8(komutSatiri), bildirim)) return 1;
+      StilKur(uygulama_, GecerliRenkler(oturum));
+      if (GirisYap(ekran) == GirisSonucu::Cikis) return 0;
+      parametreler.YasalYukle(oturum.DataPath);
+      if (const Durum d = parametreler.firma.Yukle(); !d) bildirim.Uyari(d.KusurMetni());
       const bool yeniden = AnaPencere();
-      oturum_.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
+      oturum.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
       if (!yeniden) return 0;
     }
   }
@@ -37,31 +36,24 @@ class Program {
  private:
   // True when another company was asked for.
   bool AnaPencere() {
-    anamenu pencere(ekran_, parametreler_);
-    gosterici_.pencere = &pencere;
+    anamenu pencere(ekran, parametreler);
+    gosterici.pencere = &pencere;
     QEventLoop dongu;
     QObject::connect(&pencere, &anamenu::Kapandi, &dongu, &QEventLoop::quit);
     pencere.showMaximized();
     bool devam = true;
     QTimer::singleShot(0, &pencere, [&] {  // with the window behind its messages
-      devam = VersiyonKontrol(oturum_, bildirim_) ||
-              VeritabaniGuncelleGoster(ekran_, parametreler_) != GuncellemeSonucu::ProgramBitsin;
+      devam = VersiyonKontrol(oturum, bildirim) ||
+              VeritabaniGuncelleGoster(ekran, parametreler) != GuncellemeSonucu::ProgramBitsin;
       if (!devam) dongu.quit();
     });
     dongu.exec();
     pencere.EkranlariKapat();
-    gosterici_.pencere = nullptr;
+    gosterici.pencere = nullptr;
     return devam && pencere.FirmaDegissinMi();
   }
 
   QApplication& uygulama_;
-  BildirimKutusu bildirim_;
-  SistemDialoglari dialoglar_;
-  AnaPencereGosterici gosterici_;
-  Oturum oturum_;
-  ParametreDeposu parametreler_{oturum_};
-  SistemBaskisi baski_;
-  EkranBaglami ekran_{oturum_, bildirim_, dialoglar_, gosterici_, baski_.ortam};
 };
 
 }  // namespace

@@ -19,7 +19,6 @@
 #include "ui/kusurlistesi.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
-#include "ui/sistembaskisi.h"
 #include "ui/stil.h"
 #include "ui/uzunis.h"
 
@@ -56,25 +55,25 @@ constexpr Doldurma Doldurmalar[] = {
     {"perbul", "Ay Return"},
 };
 
-class Resimler {
+class Resimler : ProgramParcalari<MetinBildirimi, DialogYok> {
  public:
   Resimler(const QStringList& arg, QApplication& uygulama) : arg_(arg), uygulama_(uygulama) {}
 
   int Yap() {
-    oturum_.DataPath = Utf8(arg_[1]) + "/";
-    oturum_.PrgPath = oturum_.DataPath;
-    oturum_.BilgisayarAdi = "MUHASEBE";
+    oturum.DataPath = Utf8(arg_[1]) + "/";
+    oturum.PrgPath = oturum.DataPath;
+    oturum.BilgisayarAdi = "MUHASEBE";
     QDir().mkpath(arg_[5]);
     if (Istenen("startfrm")) GirisResmi();
     if (!Gir()) return 1;
-    anamenu pencere(ekran_, parametreler_);
-    gosterici_.pencere = &pencere;
+    anamenu pencere(ekran, parametreler);
+    gosterici.pencere = &pencere;
     pencere.resize(1366, 728);
     pencere.show();
     if (Istenen("anamenu")) Kaydet(pencere, "anamenu");
     for (const EkranKaydi& kayit : Ekranlar())
       if (kayit.yap != nullptr && Istenen(Yazi(kayit.kelime))) EkranResmi(pencere, kayit);
-    if (Istenen("pencere")) ModalResmi("pencere", [this] { PersonelSec(ekran_, ""); });
+    if (Istenen("pencere")) ModalResmi("pencere", [this] { PersonelSec(ekran, ""); });
     if (Istenen("brckes")) BorcResmi();
     if (Istenen("gorun")) {
       pencere.Islem(MenuIslemi::Gorunum);
@@ -97,7 +96,7 @@ class Resimler {
       StilKur(uygulama_, AcikRenkler());
     }
     pencere.EkranlariKapat();
-    gosterici_.pencere = nullptr;
+    gosterici.pencere = nullptr;
     return 0;
   }
 
@@ -105,13 +104,13 @@ class Resimler {
   bool Istenen(const QString& kelime) const { return arg_.size() == 6 || arg_.mid(6).contains(kelime); }
 
   bool Gir() {
-    if (const Durum d = SirketAc(oturum_, Utf8(arg_[2]), bildirim_); !d) {
+    if (const Durum d = SirketAc(oturum, Utf8(arg_[2]), bildirim); !d) {
       std::cerr << d.KusurMetni() << "\n";
       return false;
     }
-    if (!OturumAc(oturum_, Utf8(arg_[2]), Utf8(arg_[3]), Utf8(arg_[4]), bildirim_)) return false;
-    parametreler_.YasalYukle(oturum_.DataPath);
-    if (const Durum d = parametreler_.firma.Yukle(); !d) std::cerr << d.KusurMetni() << "\n";
+    if (!OturumAc(oturum, Utf8(arg_[2]), Utf8(arg_[3]), Utf8(arg_[4]), bildirim)) return false;
+    parametreler.YasalYukle(oturum.DataPath);
+    if (const Durum d = parametreler.firma.Yukle(); !d) std::cerr << d.KusurMetni() << "\n";
     return true;
   }
 
@@ -137,8 +136,8 @@ class Resimler {
   }
 
   void EkranResmi(anamenu& pencere, const EkranKaydi& kayit) {
-    oturum_.PencereTip = kayit.pencereTip;
-    pencere.SerbestGoster(kayit.yap({ekran_, parametreler_}));
+    oturum.PencereTip = kayit.pencereTip;
+    pencere.SerbestGoster(kayit.yap({ekran, parametreler}));
     OlaylariIsle(EkranSuresi);
     for (const Doldurma& d : Doldurmalar)
       if (kayit.kelime == d.kelime) Bas(d.tuslar);
@@ -158,19 +157,19 @@ class Resimler {
   }
 
   void GirisResmi() {
-    ModalResmi("startfrm", [this] { startfrm(ekran_).exec(); });
+    ModalResmi("startfrm", [this] { startfrm(ekran).exec(); });
   }
 
   void BorcResmi() {
-    BordroGirisi giris(oturum_, parametreler_, bildirim_);
+    BordroGirisi giris(oturum, parametreler, bildirim);
     giris.Ac();
     giris.Git(Yon::Ilk);
-    ModalResmi("brckes", [&] { FormGoster(ekran_, std::make_unique<brckes>(ekran_, giris), FormModu::Modal); });
+    ModalResmi("brckes", [&] { FormGoster(ekran, std::make_unique<brckes>(ekran, giris), FormModu::Modal); });
   }
 
   void KusurResmi(anamenu& pencere) {
     KusurlariGoster(
-        ekran_,
+        ekran,
         {{.metin = "Personel Giriş Tarihi Hatalı", .kod = "004", .derece = Derece::Uyari},
          {.metin = "Net sıfırın üstünde değil, bordrosu kaydedilmedi", .kod = "007", .derece = Derece::Uyari}},
         QStringLiteral("12 kişi kaydedildi, 1 kişi dönem dışı, 1 kişi netsiz"));
@@ -180,13 +179,6 @@ class Resimler {
 
   QStringList arg_;
   QApplication& uygulama_;
-  MetinBildirimi bildirim_;
-  DialogYok dialoglar_;
-  AnaPencereGosterici gosterici_;
-  Oturum oturum_;
-  ParametreDeposu parametreler_{oturum_};
-  SistemBaskisi baski_;
-  EkranBaglami ekran_{oturum_, bildirim_, dialoglar_, gosterici_, baski_.ortam};
 };
 
 }  // namespace

@@ -104,12 +104,7 @@ bool Yap(EkranBaglami& baglam, const Belge& belge, YzcKarar karar) {
 }
 
 YzcKarar AyarSor(EkranBaglami& baglam, YzcAyarlari& ayar, const YzcDestegi& destek) {
-  auto form = std::make_unique<yzcsetup>(baglam, ayar, destek);
-  const yzcsetup& ekran = *form;
-  YzcKarar karar = YzcKarar::Vazgec;
-  QObject::connect(form.get(), &Form::Kapandi, [&] { karar = ekran.Karar(); });
-  FormGoster(baglam, std::move(form), FormModu::Modal);
-  return karar;
+  return ModalCevap(baglam, std::make_unique<yzcsetup>(baglam, ayar, destek), &yzcsetup::Karar);
 }
 
 }  // namespace

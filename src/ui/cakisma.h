@@ -35,19 +35,15 @@ using DegerDili = std::function<std::string(std::string_view alan, const Deger& 
 CakisanDeger CakisanDegeriYaz(const Form& form, std::string_view tablo, AlanTutamagi alan, const Deger& onunki,
                               const Deger& benimki, const DegerDili& dil);
 
-// Tells a fault on the screen that it is given to: [this](const Kusur& k) { Bildir(k); }.
-using KusurBildiren = std::function<void(const Kusur&)>;
-
 // Saves a record by `kaydet`, and asks for as long as another user's change stands against it. Other faults are told.
 // A result with a `cakisma` is left to the user: "Bak", or a record that shall stay deleted.
 template <class Kayit, class Kaydet>
-auto SorarakKaydet(EkranBaglami& baglam, const Form& form, Okunan<Kayit> kayit, const KusurBildiren& bildir,
-                   Kaydet&& kaydet, const DegerDili& dil = {}) {
+auto SorarakKaydet(EkranBaglami& baglam, Form& form, Okunan<Kayit> kayit, Kaydet&& kaydet, const DegerDili& dil = {}) {
   while (true) {
     auto sonuc = kaydet(kayit);
     if (sonuc) return sonuc;
     if (!sonuc.Kusuru().cakisma) {
-      bildir(sonuc.Kusuru());
+      form.Bildir(sonuc.Kusuru());
       return sonuc;
     }
     const Cakisma<Kayit>& engel = *sonuc.Kusuru().cakisma;

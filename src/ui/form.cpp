@@ -153,16 +153,32 @@ QWidget* Form::GrupYap(const AlanGrubu& grup) {
 }
 
 void Form::AlanlariDiz(const AlanSutunlari& sutunlar) {
+  std::vector<std::vector<QWidget*>> parcalar;
+  for (const auto& sutun : sutunlar) {
+    auto& dikey = parcalar.emplace_back();
+    for (const AlanGrubu& grup : sutun) dikey.push_back(GrupYap(grup));
+  }
+  govde_->addLayout(YanYana(parcalar));
+}
+
+QHBoxLayout* Form::YanYana(const std::vector<std::vector<QWidget*>>& sutunlar) {
   auto* yatay = new QHBoxLayout;
   yatay->setSpacing(12);
   for (const auto& sutun : sutunlar) {
     auto* dikey = new QVBoxLayout;
     dikey->setSpacing(10);
-    for (const AlanGrubu& grup : sutun) dikey->addWidget(GrupYap(grup));
+    for (QWidget* parca : sutun) dikey->addWidget(parca);
     dikey->addStretch(1);
     yatay->addLayout(dikey);
   }
-  govde_->addLayout(yatay);
+  return yatay;
+}
+
+QLabel* Form::YaziEkle(const QString& metin, const char* gorunus) {
+  auto* yazi = new QLabel(metin, this);
+  yazi->setProperty(gorunus, true);
+  govde_->addWidget(yazi);
+  return yazi;
 }
 
 xButton* Form::DugmeYap(const QString& metin, const QString& simge, std::function<void()> islev) {
@@ -261,14 +277,22 @@ void Form::AnahtarBagla(AlanTutamagi alan, std::function<void(const std::string&
   anahtarBul_ = std::move(bulunacak);
   xtext& yazi = YaziKutusu(alan);
   connect(&yazi, &xtext::Ayrildi, this, &Form::AnahtarDenetle);
+  RehberBagla(yazi);
+}
+
+void Form::RehberBagla(xtext& yazi) {
   connect(&yazi, &xtext::Lookup, this, [this] {
     QKeyEvent f2(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
     TusuIsle(f2);
   });
 }
 
+std::string Form::YazilanAnahtar() const {
+  return std::string(Kirp(Utf8(YaziKutusu(anahtarAlani_).text())));
+}
+
 void Form::AnahtarDenetle() {
-  const std::string anahtar(Kirp(Utf8(YaziKutusu(anahtarAlani_).text())));
+  const std::string anahtar = YazilanAnahtar();
   if (anahtar.empty() || anahtar == sonAnahtar_) return;
   sonAnahtar_ = anahtar;
   anahtarBul_(anahtar);

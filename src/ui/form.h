@@ -56,6 +56,8 @@ class Form : public QWidget {
   AlanDenetimi* DenetimBul(AlanTutamagi alan) const;
   xtext& YaziKutusu(AlanTutamagi alan) const;
   void OdakVer(AlanTutamagi alan);
+  // Tells the fault, once, and puts the cursor into its field where this screen has it.
+  void Bildir(const Kusur& kusur);
 
   // The company's card or parameters have changed while this is open. Amounts take the company's decimals; a screen
   // that shows more of the company looks again. The month it was opened for stays.
@@ -87,6 +89,10 @@ class Form : public QWidget {
   void Komutlar(const std::vector<KomutSatiri>& satirlar);
   // A button of the body, placed by the screen.
   xButton* DugmeYap(const QString& metin, const QString& simge, std::function<void()> islev);
+  // A line of text in the body; `gorunus` is its look: "soluk", "baslik", "hata".
+  QLabel* YaziEkle(const QString& metin, const char* gorunus);
+  // Columns of widgets, side by side; within a column from the top downwards.
+  QHBoxLayout* YanYana(const std::vector<std::vector<QWidget*>>& sutunlar);
   // Keys of a widget that is not a declared field.
   void Izle(QWidget* parca);
   // The keys that walk through rows go to this list, wherever the cursor stands: for a list below a search box.
@@ -94,9 +100,12 @@ class Form : public QWidget {
 
   // Called with the trimmed key when the key field is left with a text that differs from the last one handled.
   void AnahtarBagla(AlanTutamagi alan, std::function<void(const std::string&)> bulunacak);
+  // The lookup button of a field does what F2 does.
+  void RehberBagla(xtext& yazi);
   void AnahtarKoy(const std::string& anahtar);  // counts as handled
   AlanTutamagi AnahtarAlani() const { return anahtarAlani_; }
   std::string SonAnahtar() const { return sonAnahtar_; }
+  std::string YazilanAnahtar() const;  // trimmed
   // Puts a code into the key field and looks it up, as if typed.
   void AnahtarAra(const std::string& anahtar);
 
@@ -116,8 +125,6 @@ class Form : public QWidget {
     return true;
   }
   bool AlanlarSaglam(std::type_index kayitTuru);
-  // Tells the fault, once, and puts the cursor into its field where this screen has it.
-  void Bildir(const Kusur& kusur);
   // Whether it went; a fault is told.
   template <class T, class K>
   bool Oldu(const Sonuc<T, K>& sonuc) {
@@ -167,5 +174,15 @@ class Form : public QWidget {
   QWidget* ilkOdak_ = nullptr;
   bool acildi_ = false;
 };
+
+// Shows a screen that answers something, and returns what `cevap` reads of it when it has closed.
+template <class Ekran, class Cevap>
+auto ModalCevap(EkranBaglami& baglam, std::unique_ptr<Ekran> form, Cevap cevap) {
+  const Ekran& ekran = *form;
+  auto olan = std::invoke(cevap, ekran);
+  QObject::connect(&ekran, &Form::Kapandi, [&] { olan = std::invoke(cevap, ekran); });
+  FormGoster(baglam, std::move(form), FormModu::Modal);
+  return olan;
+}
 
 }  // namespace belvani

@@ -4,9 +4,8 @@
 #include "core/tables/kimlik.h"
 #include "core/tables/sicil.h"
 #include "personnel/etiket.h"
-#include "ui/dclist.h"
 #include "ui/form.h"
-#include "ui/metin.h"
+#include "ui/listedoldur.h"
 
 namespace belvani {
 namespace {
@@ -38,9 +37,7 @@ class KusurListesi final : public Form {
         kusurlar_(std::move(kusurlar)),
         liste_(new dclist(baglam.bildirim, this)) {
     const QString sayi = QString::number(kusurlar_.size()) + QStringLiteral(" uyarı");
-    auto* baslik = new QLabel(ozet.isEmpty() ? sayi : ozet + ", " + sayi, this);
-    baslik->setProperty("baslik", true);
-    Govde()->addWidget(baslik);
+    YaziEkle(ozet.isEmpty() ? sayi : ozet + ", " + sayi, "baslik");
     KolonlariYap();
     QLineEdit* arama = liste_->AramaKutusu(this);
     Izle(arama);
@@ -65,17 +62,10 @@ class KusurListesi final : public Form {
   }
 
   void Doldur() {
-    liste_->Model().TopluBasla();
-    for (const Kusur& kusur : kusurlar_) {
-      const int satir = liste_->Add();
-      liste_->TextByName(satir, "derece", Yazi(DereceAdi(kusur.derece)));
-      liste_->TextByName(satir, "kod", Yazi(kusur.kod));
-      if (kusur.satir != 0) liste_->TextByName(satir, "satir", QString::number(kusur.satir));
-      liste_->TextByName(satir, "alan", Yazi(Etiket<Sicil, Kimlik, Esco>(kusur.alan)));
-      liste_->TextByName(satir, "metin", Yazi(kusur.metin));
-    }
-    liste_->Model().TopluBitir();
-    liste_->ChngSat(0);
+    ListeDoldur(*liste_, kusurlar_, [](const Kusur& k) {
+      return std::array{std::string(DereceAdi(k.derece)), k.kod, k.satir == 0 ? "" : std::to_string(k.satir),
+                        std::string(Etiket<Sicil, Kimlik, Esco>(k.alan)), k.metin};
+    });
   }
 
   void Git(const Kusur& kusur) {

@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 
-#include "ui/metin.h"
+#include "ui/listedoldur.h"
 #include "ui/xtext.h"
 
 namespace belvani {
@@ -61,19 +61,10 @@ pencere::pencere(EkranBaglami& baglam)
 void pencere::ListeyiDoldur() {
   if (!kisiler_) return;
   const AramaTuru tur = Turler[std::size_t(tur_->currentIndex())].tur;
-  dclistModel& model = liste_->Model();
-  model.TopluBasla();
-  liste_->Clear();
-  for (const std::size_t sira : kisiler_->Ara(tur, Utf8(aranan_->text()))) {
+  ListeDoldur(*liste_, kisiler_->Ara(tur, Utf8(aranan_->text())), [this](std::size_t sira) {
     const KisiSatiri& kisi = kisiler_->Kisiler()[sira];
-    const int satir = liste_->Add();
-    liste_->Text(satir, 0, Yazi(kisi.kod));
-    liste_->Text(satir, 1, Yazi(kisi.adi));
-    liste_->Text(satir, 2, Yazi(kisi.soyadi));
-    liste_->Text(satir, 3, Yazi(kisi.ciktar.Metin()));
-  }
-  model.TopluBitir();
-  liste_->ChngSat(0);
+    return std::array{kisi.kod, kisi.adi, kisi.soyadi, kisi.ciktar.Metin()};
+  });
 }
 
 void pencere::Sec(int satir) {

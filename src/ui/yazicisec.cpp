@@ -1,8 +1,7 @@
 #include "ui/yazicisec.h"
 
 #include "printing/yazdir.h"
-#include "ui/dclist.h"
-#include "ui/metin.h"
+#include "ui/listedoldur.h"
 
 namespace belvani {
 namespace {
@@ -17,13 +16,10 @@ class yazicisec : public Form {
     liste_->CreateNewCaption('m', "durum", "Durum", 200);
     liste_->GenisKolon("aciklama");
     liste_->setMinimumSize(620, 260);
-    for (const YaziciBilgisi& y : yazicilar) {
-      const int satir = liste_->Add();
-      liste_->TextByName(satir, "ad", Yazi(y.ad));
-      liste_->TextByName(satir, "aciklama", Yazi(y.aciklama));
-      liste_->TextByName(satir, "durum", y.isAliyor ? Yazi(y.bekleyen) : QStringLiteral("Yeni iş kabul etmiyor"));
-    }
-    if (liste_->FindByName("ad", Yazi(simdiki)) < 0) liste_->ChngSat(0);
+    ListeDoldur(*liste_, yazicilar, [](const YaziciBilgisi& y) {
+      return std::array{y.ad, y.aciklama, y.isAliyor ? y.bekleyen : "Yeni iş kabul etmiyor"};
+    });
+    liste_->FindByName("ad", Yazi(simdiki));
     liste_->Secildi = [this](int) { Sec(); };
     Govde()->addWidget(liste_, 1);
     Izle(liste_);
@@ -52,12 +48,7 @@ std::optional<std::string> YaziciSecimi(EkranBaglami& baglam, const std::string&
     baglam.bildirim.Uyari(yazicilar ? YaziciYok : yazicilar.KusurMetni());
     return std::nullopt;
   }
-  auto form = std::make_unique<yazicisec>(baglam, *yazicilar, simdiki);
-  const yazicisec& ekran = *form;
-  std::optional<std::string> secilen;
-  QObject::connect(form.get(), &Form::Kapandi, [&] { secilen = ekran.Secilen(); });
-  FormGoster(baglam, std::move(form), FormModu::Modal);
-  return secilen;
+  return ModalCevap(baglam, std::make_unique<yazicisec>(baglam, *yazicilar, simdiki), &yazicisec::Secilen);
 }
 
 }  // namespace belvani

@@ -91,12 +91,7 @@ void Dbupdate::Calistir() {
 }
 
 GuncellemeSonucu VeritabaniGuncelleGoster(EkranBaglami& baglam, const ParametreDeposu& parametreler) {
-  auto form = std::make_unique<Dbupdate>(baglam, parametreler);
-  const Dbupdate* ekran = form.get();
-  auto sonuc = GuncellemeSonucu::IsaretYok;
-  QObject::connect(ekran, &Form::Kapandi, ekran, [&sonuc, ekran] { sonuc = ekran->Sonuc(); });
-  FormGoster(baglam, std::move(form), FormModu::Modal);
-  return sonuc;
+  return ModalCevap(baglam, std::make_unique<Dbupdate>(baglam, parametreler), &Dbupdate::Sonuc);
 }
 
 }  // namespace belvani

@@ -27,9 +27,8 @@ araci::araci(EkranBaglami& baglam)
 
 void araci::Kaydet() {
   if (!Oku(araci_.simdi)) return;
-  const auto kaydedilen = SorarakKaydet(
-      Baglam(), *this, araci_, [this](const Kusur& kusur) { Bildir(kusur); },
-      [this](const Okunan<Arac>& a) { return AraciKaydet(Oturumu(), a); });
+  const auto kaydedilen =
+      SorarakKaydet(Baglam(), *this, araci_, [this](const Okunan<Arac>& a) { return AraciKaydet(Oturumu(), a); });
   if (kaydedilen) Kapat();
 }
 

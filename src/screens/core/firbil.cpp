@@ -92,9 +92,8 @@ void firbil::OraniGoster() {
 
 void firbil::Kaydet() {
   if (!Oku(firma_.simdi)) return;
-  const auto kaydedilen = SorarakKaydet(
-      Baglam(), *this, firma_, [this](const Kusur& kusur) { Bildir(kusur); },
-      [this](const Okunan<Firma>& firma) { return durum_.KartKaydet(firma); });
+  const auto kaydedilen =
+      SorarakKaydet(Baglam(), *this, firma_, [this](const Okunan<Firma>& firma) { return durum_.KartKaydet(firma); });
   if (!kaydedilen && kaydedilen.Kusuru().cakisma) return;
   Kapat();
 }

@@ -7,7 +7,7 @@
 #include "printing/belge.h"
 #include "printing/kolonlar.h"
 #include "ui/basim.h"
-#include "ui/metin.h"
+#include "ui/listedoldur.h"
 #include "ui/uzunis.h"
 
 namespace belvani {
@@ -93,16 +93,8 @@ void firlist::ListeyiDoldur() {
   const std::string simdiki = Oturumu().SeciliKod;
   const auto sirketler = ListeyiOku(Baglam());
   if (!sirketler) return;
-  dclistModel& model = liste_->Model();
-  model.TopluBasla();
-  for (const SirketSatiri& sirket : *sirketler) {
-    const int satir = liste_->Add();
-    liste_->TextByName(satir, "kod", Yazi(sirket.ad));
-    liste_->TextByName(satir, "unvan", Yazi(sirket.unvan));
-    liste_->TextByName(satir, "donem", Yazi(sirket.donem));
-  }
-  model.TopluBitir();
-  if (liste_->FindByName("kod", Yazi(simdiki)) < 0) liste_->ChngSat(0);
+  ListeDoldur(*liste_, *sirketler, [](const SirketSatiri& s) { return std::array{s.ad, s.unvan, s.donem}; });
+  liste_->FindByName("kod", Yazi(simdiki));
 }
 
 void firlist::Sec() {

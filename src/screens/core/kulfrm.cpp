@@ -1,6 +1,6 @@
 #include "screens/core/kulfrm.h"
 
-#include "ui/metin.h"
+#include "ui/listedoldur.h"
 
 namespace belvani {
 namespace {
@@ -38,13 +38,7 @@ void kulfrm::Goster(int satir) {
 // The list comes back on its first user.
 void kulfrm::ListeyiDoldur() {
   Temizle();
-  liste_->Clear();
-  for (const Peruser& kullanici : Kullanicilar(Oturumu())) {
-    const int satir = liste_->Add();
-    liste_->TextByName(satir, "kod", Yazi(kullanici.kod));
-    liste_->TextByName(satir, "pasw", Yazi(kullanici.pasw));
-  }
-  liste_->ChngSat(0);
+  ListeDoldur(*liste_, Kullanicilar(Oturumu()), [](const Peruser& k) { return std::array{k.kod, k.pasw}; });
 }
 
 void kulfrm::Kaydet() {

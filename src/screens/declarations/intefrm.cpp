@@ -25,12 +25,10 @@ intefrm::intefrm(EkranBaglami& baglam, const std::string& dosya)
       {{{"Gönderim",
          {{Uye("adres", &Baglanti::adres, AdresHarfi), "Adres", {.harf = AlanHarfi}},
           {Uye("dosya", &Baglanti::dosya, YolHarfi), "Bildirge Dosyası", {.harf = AlanHarfi, .kapali = true}}}}}});
-  auto* yol = new QLabel(
+  YaziEkle(
       QStringLiteral("Adres internet tarayıcınızda açılır. Bildirge dosyasını oradaki sayfaya kendiniz yüklersiniz;\n"
                      "program hiçbir şey göndermez."),
-      this);
-  yol->setProperty("soluk", true);
-  Govde()->addWidget(yol);
+      "soluk");
   Komutlar({{.tus = Qt::Key_F5, .dugme = "Sayfayı &Aç", .simge = "calistir", .islev = [this] { AdresAc(); }},
             {.dugme = "&Dizini Aç", .simge = "klasor", .islev = [this] { DizinAc(); }}});
   Yukle(Baglanti{EBildirgeAdresi(Oturumu().DataPath), dosya_});

@@ -14,9 +14,7 @@ struct Kesinti {
 brckes::brckes(EkranBaglami& baglam, BordroGirisi& giris)
     : Form(baglam, "brckes", QStringLiteral("-Borç Kesintisi-")), giris_(giris) {
   AlanlariDiz({{{"Borç Kesintisi", {{Uye("tutar", &Kesinti::tutar), "Kesinti Tutarı"}}}}});
-  auto* limit = new QLabel("En fazla " + Yazi(TutarMetni(giris.BorcLimiti(), Oturumu().firma.paraonda)), this);
-  limit->setProperty("soluk", true);
-  Govde()->addWidget(limit);
+  YaziEkle("En fazla " + Yazi(TutarMetni(giris.BorcLimiti(), Oturumu().firma.paraonda)), "soluk");
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Tamam", .islev = [this] { Onayla(); }},
             {.komut = FormKomutu::Kapat, .dugme = "Vazgeç"},
             {.tus = Qt::Key_Return, .islev = [this] { Onayla(); }}});

@@ -149,10 +149,7 @@ void brdhazir::TuslariBagla() {
             {.tus = Qt::Key_F6, .ipucu = "Ay", .islev = [this] { ay_->setFocus(); }},
             {.tus = Qt::CTRL | Qt::Key_F6, .ipucu = "Ayın Parametreleri", .islev = [this] { ParametreleriGetir(); }},
             {.tus = Qt::Key_F8, .ipucu = "Puantaj", .islev = [this] { PuantajaGit(); }}});
-  connect(&YaziKutusu(bordroalani::kod), &xtext::Lookup, this, [this] {
-    QKeyEvent f2(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
-    keyPressEvent(&f2);
-  });
+  RehberBagla(YaziKutusu(bordroalani::kod));
 }
 
 void brdhazir::RehberAc() {

@@ -8,10 +8,6 @@ namespace belvani {
 class fazmes : public ListeEkrani<FazlaMesai> {
  public:
   fazmes(EkranBaglami& baglam, ParametreDeposu& parametreler);
-
- private:
-  std::vector<FazlaMesai> Satirlar() const override;
-  bool Yaz(const std::vector<FazlaMesai>& satirlar) override;
 };
 
 }  // namespace belvani

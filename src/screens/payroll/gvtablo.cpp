@@ -37,10 +37,11 @@ gvtablo::gvtablo(EkranBaglami& baglam, ParametreDeposu& parametreler, Tur tur)
       ozel_(OzelGvYukle(baglam.oturum.DataPath).deger) {
   Liste().HucreDegisti = [this](int, const QString&) { AltSinirlariGoster(); };
   if (tur_ == Tur::GelirVergisi) IndirDugmesi(ParametreDosyasi::Gv, [this] { ListeyiGoster(); });
-  Ac(8);
+  Ac(
+      8, [this] { return Dilimler(); }, [this](const auto& satirlar) { return Sakla(Tablo(satirlar)); });
 }
 
-std::vector<VergiDilimi> gvtablo::Satirlar() const {
+std::vector<VergiDilimi> gvtablo::Dilimler() const {
   const GvTablosu& tablo = tur_ == Tur::GelirVergisi ? Parametreler().yasal.gv : ozel_;
   std::vector<VergiDilimi> satirlar;
   for (std::size_t i = 0; i < tablo.GvLimit.size(); ++i)
@@ -48,8 +49,7 @@ std::vector<VergiDilimi> gvtablo::Satirlar() const {
   return satirlar;
 }
 
-bool gvtablo::Yaz(const std::vector<VergiDilimi>& satirlar) {
-  const GvTablosu tablo = Tablo(satirlar);
+bool gvtablo::Sakla(const GvTablosu& tablo) {
   if (tur_ == Tur::GelirVergisi) return YasalYazildi(GvTablosuKaydet(Oturumu().DataPath, tablo));
   if (!YasalYazildi(OzelGvKaydet(Oturumu().DataPath, tablo))) return false;
   ozel_ = tablo;

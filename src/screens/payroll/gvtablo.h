@@ -20,8 +20,8 @@ class gvtablo : public ListeEkrani<VergiDilimi> {
   enum class Tur { GelirVergisi, OzelGider };
 
   gvtablo(EkranBaglami& baglam, ParametreDeposu& parametreler, Tur tur);
-  std::vector<VergiDilimi> Satirlar() const override;
-  bool Yaz(const std::vector<VergiDilimi>& satirlar) override;
+  std::vector<VergiDilimi> Dilimler() const;
+  bool Sakla(const GvTablosu& tablo);
   void AltSinirlariGoster();
 
   Tur tur_;

@@ -21,21 +21,15 @@ heskod::heskod(EkranBaglami& baglam, ParametreDeposu& parametreler)
                                 this));
   Liste().Editable(degisir);
   Liste().GenisKolon("ack");
-  Liste().SatirGuncelle = [this](int) { return Yaz(Okunan()); };
+  Liste().SatirGuncelle = [this](int) { return Yaz(); };
   if (degisir) IndirDugmesi(ParametreDosyasi::HesapTur, [this] { ListeyiGoster(); });
-  Ac(GorunenSatir);
-}
-
-std::vector<HesapTuru> heskod::Satirlar() const {
-  const HesapTurleri& turler = Parametreler().yasal.hesapTurleri;
-  return {turler.begin(), turler.end()};
-}
-
-bool heskod::Yaz(const std::vector<HesapTuru>& satirlar) {
-  HesapTurleri turler;
-  std::ranges::copy(satirlar, turler.begin());
-  for (HesapTuru& tur : turler) tur.ack = Kirp(tur.ack);
-  return YasalYazildi(HesapTurleriKaydet(Oturumu().DataPath, turler));
+  const auto yaz = [this](const auto& satirlar) {
+    auto turler = Dizide<HesapTurleri>(satirlar);
+    for (HesapTuru& tur : turler) tur.ack = Kirp(tur.ack);
+    return YasalYazildi(HesapTurleriKaydet(Oturumu().DataPath, turler));
+  };
+  Ac(
+      GorunenSatir, [this] { return Satirlar(Parametreler().yasal.hesapTurleri); }, yaz);
 }
 
 }  // namespace belvani

@@ -9,10 +9,6 @@ namespace belvani {
 class heskod : public ListeEkrani<HesapTuru> {
  public:
   heskod(EkranBaglami& baglam, ParametreDeposu& parametreler);
-
- private:
-  std::vector<HesapTuru> Satirlar() const override;
-  bool Yaz(const std::vector<HesapTuru>& satirlar) override;
 };
 
 }  // namespace belvani

@@ -15,21 +15,14 @@ indfrm::indfrm(EkranBaglami& baglam, ParametreDeposu& parametreler)
                    UyeKolonu(indir::sabit, "Sabit İndirim", 120, {.ondalik = baglam.oturum.firma.paraonda}),
                    UyeKolonu(indir::oran, "% İndirim", 90),
                    UyeKolonu(indir::indtip, "İndirim Yeri", 200, {.liste = IndirimYerleri})}) {
-  Ac(3);
-}
-
-std::vector<Indir> indfrm::Satirlar() const {
-  std::vector<Indir> satirlar;
-  for (const auto& tanim : Parametreler().firma.Parametreler().indirimler) satirlar.push_back(tanim.value_or(Indir{}));
-  return satirlar;
-}
-
-bool indfrm::Yaz(const std::vector<Indir>& satirlar) {
-  std::array<Indir, 3> indirimler;
-  std::ranges::copy(satirlar, indirimler.begin());
-  if (!Oldu(IndirimleriKaydet(Tanimlar(), indirimler))) return false;
-  ZoomEfekt();
-  return true;
+  const auto oku = [this] {
+    std::vector<Indir> satirlar;
+    for (const auto& t : Parametreler().firma.Parametreler().indirimler) satirlar.push_back(t.value_or(Indir{}));
+    return satirlar;
+  };
+  Ac(3, oku, [this](const auto& satirlar) {
+    return Yazildi(IndirimleriKaydet(Tanimlar(), Dizide<std::array<Indir, 3>>(satirlar)));
+  });
 }
 
 }  // namespace belvani

@@ -8,10 +8,6 @@ namespace belvani {
 class indfrm : public ListeEkrani<Indir> {
  public:
   indfrm(EkranBaglami& baglam, ParametreDeposu& parametreler);
-
- private:
-  std::vector<Indir> Satirlar() const override;
-  bool Yaz(const std::vector<Indir>& satirlar) override;
 };
 
 }  // namespace belvani

@@ -26,18 +26,14 @@ kanun::kanun(EkranBaglami& baglam, ParametreDeposu& parametreler)
     Bildir(KanunTarihiKusuru(Utf8(kolon)));
     return false;
   };
-  auto* tuslar = new QLabel(QStringLiteral("Insert satır ekler, Delete siler."), this);
-  tuslar->setProperty("soluk", true);
-  Govde()->addWidget(tuslar);
-  Ac(GorunenSatir);
-}
-
-std::vector<KanunSatiri> kanun::Satirlar() const {
-  return Parametreler().yasal.kanunlar;
+  YaziEkle(QStringLiteral("Insert satır ekler, Delete siler."), "soluk");
+  Ac(
+      GorunenSatir, [this] { return Parametreler().yasal.kanunlar; },
+      [this](const auto& satirlar) { return Sakla(satirlar); });
 }
 
 // Rows that were opened and never filled are left out.
-bool kanun::Yaz(const std::vector<KanunSatiri>& satirlar) {
+bool kanun::Sakla(const std::vector<KanunSatiri>& satirlar) {
   Kanunlar dolular;
   for (std::size_t i = 0; i < satirlar.size(); ++i) {
     if (satirlar[i] == KanunSatiri{}) continue;

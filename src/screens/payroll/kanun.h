@@ -10,8 +10,7 @@ class kanun : public ListeEkrani<KanunSatiri> {
   kanun(EkranBaglami& baglam, ParametreDeposu& parametreler);
 
  private:
-  std::vector<KanunSatiri> Satirlar() const override;
-  bool Yaz(const std::vector<KanunSatiri>& satirlar) override;
+  bool Sakla(const std::vector<KanunSatiri>& satirlar);
   bool SatirSaglam(int satir);
 };
 

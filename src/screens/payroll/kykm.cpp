@@ -79,9 +79,9 @@ void kykm::GrupGoster(const std::string& grup) {
 }
 
 void kykm::Kaydet() {
-  AnahtariBul(kaztan::grup);
+  AnahtariBul();
   if (!AlanlarSaglam(typeid(Kaztan))) return;
-  const std::string grup(Kirp(Utf8(YaziKutusu(kaztan::grup).text())));
+  const std::string grup = YazilanAnahtar();
   kazanclar_->Al(bayraklar_.k);
   yardimlar_->Al(bayraklar_.y);
   if (!Oldu(KazancGrubuKaydet(Tanimlar(), grup, bayraklar_))) return;

@@ -22,29 +22,37 @@ class ListeEkrani : public ParametreEkrani {
     Govde()->addWidget(liste_, 1);
   }
 
-  // The rows as the session has them, and their saving; true when they are saved.
-  virtual std::vector<Satir> Satirlar() const = 0;
-  virtual bool Yaz(const std::vector<Satir>& satirlar) = 0;
-
-  // To be called once the screen is made; `boy` rows are seen without scrolling.
-  void Ac(int boy) {
+  // To be called once the screen is made. `oku`: the rows as the session has them; `yaz` saves them, and is true when
+  // they are saved. `boy` rows are seen without scrolling.
+  void Ac(int boy, std::function<std::vector<Satir>()> oku, std::function<bool(const std::vector<Satir>&)> yaz) {
+    oku_ = std::move(oku);
+    yaz_ = std::move(yaz);
     if (liste_->editTriggers() != QAbstractItemView::NoEditTriggers)
       Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
     ListeyiGoster();
     SatirlaraYerAc(*liste_, boy);
   }
-  void ListeyiGoster() { tablo_.Doldur(Satirlar()); }
-  std::vector<Satir> Okunan() const { return tablo_.Oku(Satirlar()); }
-  bool Kaydet() {
-    if (!liste_->OkUpdateData() || !Yaz(Okunan())) return false;
-    ListeyiGoster();
-    return true;
+  void ListeyiGoster() { tablo_.Doldur(oku_()); }
+  std::vector<Satir> Okunan() const { return tablo_.Oku(oku_()); }
+  bool Yaz() { return yaz_(Okunan()); }
+  void Kaydet() {
+    if (liste_->OkUpdateData() && Yaz()) ListeyiGoster();
+  }
+  // Rows of a fixed number, out of their record and into it.
+  static std::vector<Satir> Satirlar(const auto& dizi) { return {dizi.begin(), dizi.end()}; }
+  template <class Dizi>
+  static Dizi Dizide(const std::vector<Satir>& satirlar) {
+    Dizi dizi;
+    std::ranges::copy(satirlar, dizi.begin());
+    return dizi;
   }
   dclist& Liste() { return *liste_; }
 
  private:
   dclist* liste_;
   SatirTablosu<Satir> tablo_;
+  std::function<std::vector<Satir>()> oku_;
+  std::function<bool(const std::vector<Satir>&)> yaz_;
 };
 
 }  // namespace belvani

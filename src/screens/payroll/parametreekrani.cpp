@@ -6,6 +6,7 @@
 #include "ui/xtext.h"
 
 namespace belvani {
+
 ParametreEkrani::ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, const QString& kelime,
                                  const QString& baslik)
     : Form(baglam, kelime, baslik), parametreler_(parametreler) {
@@ -35,20 +36,23 @@ MevzuatGorusu ParametreEkrani::Mevzuat() const {
 }
 
 bool ParametreEkrani::YasalYazildi(const Durum& durum) {
-  if (!Oldu(durum)) return false;
+  if (!Yazildi(durum)) return false;
   parametreler_.YasalYukle(Oturumu().DataPath);
-  ZoomEfekt();
   return true;
 }
 
 bool ParametreEkrani::FirmaYazildi(const Durum& durum) {
-  if (!Oldu(durum) || !Oldu(parametreler_.firma.Yukle())) return false;
+  return Oldu(durum) && Yazildi(parametreler_.firma.Yukle());
+}
+
+bool ParametreEkrani::Yazildi(const Durum& durum) {
+  if (!Oldu(durum)) return false;
   ZoomEfekt();
   return true;
 }
 
-void ParametreEkrani::AnahtariBul(AlanTutamagi alan) {
-  const std::string anahtar(Kirp(Utf8(YaziKutusu(alan).text())));
+void ParametreEkrani::AnahtariBul() {
+  const std::string anahtar = YazilanAnahtar();
   if (!anahtar.empty() && anahtar != SonAnahtar()) AnahtarAra(anahtar);
 }
 

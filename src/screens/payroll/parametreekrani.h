@@ -26,6 +26,8 @@ class ParametreEkrani : public Form {
   // After a file of the installation, or of the company, was written: a failure is told, a success loaded.
   bool YasalYazildi(const Durum& durum);
   bool FirmaYazildi(const Durum& durum);
+  // After a save that has loaded what it saved.
+  bool Yazildi(const Durum& durum);
 
   // Shows a record; nothing of it counts as changed.
   template <class Kayit>
@@ -42,7 +44,7 @@ class ParametreEkrani : public Form {
     return true;
   }
   // Looks up the key where it was typed and never left, so that F5 in the key field cannot overwrite a record unseen.
-  void AnahtariBul(AlanTutamagi alan);
+  void AnahtariBul();
 
  private:
   ParametreDeposu& parametreler_;

@@ -2,6 +2,7 @@
 
 #include "core/turkce.h"
 #include "payroll/hesap/sendikaaidati.h"
+#include "ui/listedoldur.h"
 #include "ui/metin.h"
 #include "ui/xtext.h"
 
@@ -47,13 +48,9 @@ sendtan::sendtan(EkranBaglami& baglam, ParametreDeposu& parametreler)
 }
 
 void sendtan::ListeyiGoster() {
-  liste_->Clear();
-  for (const Sendika& s : Parametreler().firma.Parametreler().sendikalar) {
-    const int satir = liste_->Add();
-    liste_->Text(satir, 0, Yazi(s.kod));
-    liste_->Text(satir, 1, Yazi(s.adi));
-  }
-  liste_->ChngSat(0);
+  ListeDoldur(*liste_, Parametreler().firma.Parametreler().sendikalar, [](const Sendika& s) {
+    return std::array{s.kod, s.adi};
+  });
 }
 
 // Under a code that is not there yet, what stands on the screen becomes the new union.
@@ -65,7 +62,7 @@ void sendtan::Bul(const std::string& kod) {
 }
 
 void sendtan::Kaydet() {
-  AnahtariBul(sendika::kod);
+  AnahtariBul();
   Sendika sendika = sendika_;
   if (!DegisenleriOku(sendika) || !Oldu(SendikaKaydet(Tanimlar(), sendika))) return;
   ZoomEfekt();
@@ -73,7 +70,7 @@ void sendtan::Kaydet() {
 }
 
 void sendtan::Sil() {
-  const std::string kod(Kirp(Utf8(YaziKutusu(sendika::kod).text())));
+  const std::string kod = YazilanAnahtar();
   if (SendikaBul(Parametreler().firma.Parametreler(), kod) == nullptr)
     return Bildirimi().Bilgi("Silinecek Kayıt Bulunamadı");
   if (Silindi(SendikaSil(Tanimlar(), kod))) Yenile();

@@ -21,20 +21,11 @@ yrdisim::yrdisim(EkranBaglami& baglam, ParametreDeposu& parametreler)
                    UyeKolonu("indtip", "Muafiyet Şekli", 180, &YardimTanimi::indtip, {.liste = MuafiyetSekilleri}),
                    UyeKolonu("oran", "Oran %", 90, &YardimTanimi::oran, {.enCok = EnBuyukGirdi(muaf::oran)}),
                    UyeKolonu("sabit", "Sabit", 120, &YardimTanimi::sabit, {.ondalik = baglam.oturum.firma.paraonda})}) {
-  Ac(YardimSayisi);
-}
-
-std::vector<YardimTanimi> yrdisim::Satirlar() const {
-  const YardimTanimlari& yardimlar = Parametreler().firma.Parametreler().yardimlar;
-  return {yardimlar.begin(), yardimlar.end()};
-}
-
-bool yrdisim::Yaz(const std::vector<YardimTanimi>& satirlar) {
-  YardimTanimlari yardimlar;
-  std::ranges::copy(satirlar, yardimlar.begin());
-  if (!Oldu(YardimlariKaydet(Tanimlar(), yardimlar))) return false;
-  ZoomEfekt();
-  return true;
+  Ac(
+      YardimSayisi, [this] { return Satirlar(Parametreler().firma.Parametreler().yardimlar); },
+      [this](const auto& satirlar) {
+        return Yazildi(YardimlariKaydet(Tanimlar(), Dizide<YardimTanimlari>(satirlar)));
+      });
 }
 
 }  // namespace belvani

@@ -8,10 +8,6 @@ namespace belvani {
 class yrdisim : public ListeEkrani<YardimTanimi> {
  public:
   yrdisim(EkranBaglami& baglam, ParametreDeposu& parametreler);
-
- private:
-  std::vector<YardimTanimi> Satirlar() const override;
-  bool Yaz(const std::vector<YardimTanimi>& satirlar) override;
 };
 
 }  // namespace belvani

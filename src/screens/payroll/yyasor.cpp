@@ -64,8 +64,7 @@ yyasor::yyasor(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ParametreEkrani(baglam, parametreler, "yyasor", QStringLiteral("Yasal Oranlar")),
       liste_(new dclist(baglam.bildirim, this)),
       tablo_(*liste_, Kolonlar()),
-      uyari_(new QLabel(this)) {
-  uyari_->setProperty("hata", true);
+      uyari_(YaziEkle({}, "hata")) {
   uyari_->setObjectName("donemuyari");
   liste_->setObjectName("liste");
   liste_->Editable(true);
@@ -77,7 +76,6 @@ yyasor::yyasor(EkranBaglami& baglam, ParametreDeposu& parametreler)
   auto* basliklar = new KolonBasliklari(*liste_, this);
   basliklar->Ekle(UyeTanimi<&YasalOranlar::IsciOran>().etiket, "ana", "top");
   basliklar->Ekle(UyeTanimi<&YasalOranlar::IsverenOran>().etiket, "iana", "itop");
-  Govde()->addWidget(uyari_);
   Govde()->addWidget(basliklar);
   Govde()->addWidget(liste_, 1);
   AlanlariDiz({{Tutarlar()}});

@@ -54,12 +54,9 @@ escofrm::escofrm(EkranBaglami& baglam)
   AlanlariDiz({{{"Personel", {EtiketliAlan(esco::kod, {.anahtar = true}), AdSoyAlani()}, 2}}});
   ListeyiKur();
   Govde()->addWidget(liste_, 1);
-  auto* ipucu = new QLabel(
-      QStringLiteral(
-          "Listede: Enter düzeltir · Insert yeni satır ekler · Delete siler. Satırdan ayrılınca kaydedilir."),
-      this);
-  ipucu->setProperty("soluk", true);
-  Govde()->addWidget(ipucu);
+  YaziEkle(QStringLiteral(
+               "Listede: Enter düzeltir · Insert yeni satır ekler · Delete siler. Satırdan ayrılınca kaydedilir."),
+           "soluk");
   setTabOrder(&YaziKutusu(esco::kod), liste_);
   Komutlar({{.komut = FormKomutu::Kaydet, .islev = [this] { liste_->OkUpdateData(); }}});
   PersonelKomutlari(esco::kod);
@@ -145,8 +142,7 @@ bool escofrm::SatirKaydet(int satir) {
   Okunan<Esco> kayit{.ilk = {}, .simdi = SatirdanOku(satir)};
   if (const auto ilk = okunan_.find(kayit.simdi.oto); ilk != okunan_.end()) kayit.ilk = ilk->second;
   const auto yazilan = SorarakKaydet(
-      Baglam(), *this, kayit, [this](const Kusur& kusur) { Bildir(kusur); },
-      [this](const Okunan<Esco>& k) { return AileKaydet(Oturumu(), k); }, AileDili);
+      Baglam(), *this, kayit, [this](const Okunan<Esco>& k) { return AileKaydet(Oturumu(), k); }, AileDili);
   if (!yazilan) return false;
   SatiriGoster(satir, *yazilan);
   ZoomEfekt();

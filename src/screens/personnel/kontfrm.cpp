@@ -4,7 +4,7 @@
 #include <QLineEdit>
 
 #include "personnel/kontrol.h"
-#include "ui/metin.h"
+#include "ui/listedoldur.h"
 #include "ui/uzunis.h"
 
 namespace belvani {
@@ -32,17 +32,8 @@ void kontfrm::Doldur() {
   const auto kontrol = UzunIs(Baglam(), QStringLiteral("Personel kayıtları kontrol ediliyor…"),
                               [this](Ilerleme& ilerleme) { return KontrolRaporu(Oturumu(), &ilerleme); });
   if (!kontrol) return;
-  const auto& rapor = *kontrol;
-  if (!rapor) return Bildirimi().KusuruGoster(rapor.Kusuru());
-  liste_->Model().TopluBasla();
-  for (const KontrolSatiri& kusur : *rapor) {
-    const int satir = liste_->Add();
-    liste_->Text(satir, 0, Yazi(kusur.kod));
-    liste_->Text(satir, 1, Yazi(kusur.adsoy));
-    liste_->Text(satir, 2, Yazi(kusur.sonuc));
-  }
-  liste_->Model().TopluBitir();
-  liste_->ChngSat(0);
+  if (!Oldu(*kontrol)) return;
+  ListeDoldur(*liste_, **kontrol, [](const KontrolSatiri& k) { return std::array{k.kod, k.adsoy, k.sonuc}; });
 }
 
 }  // namespace belvani

@@ -72,9 +72,8 @@ void nufus::Kaydet() {
   if (!EkrandakiMi()) return;
   Okunan<Kimlik> kimlik{.ilk = okunan_, .simdi = okunan_.value_or(Kimlik{})};
   if (!Oku(kimlik.simdi)) return;
-  const auto yazilan = SorarakKaydet(
-      Baglam(), *this, kimlik, [this](const Kusur& kusur) { Bildir(kusur); },
-      [this](const Okunan<Kimlik>& k) { return KimlikKaydet(Oturumu(), k); });
+  const auto yazilan =
+      SorarakKaydet(Baglam(), *this, kimlik, [this](const Okunan<Kimlik>& k) { return KimlikKaydet(Oturumu(), k); });
   if (!yazilan) return;
   Goster(*yazilan);
   KoddanBasla();
@@ -82,7 +81,7 @@ void nufus::Kaydet() {
 }
 
 void nufus::Sil() {
-  if (!EkrandakiMi() || !Silindi(KimlikSil(Oturumu(), YazilanKod(), Bildirimi()))) return;
+  if (!EkrandakiMi() || !Silindi(KimlikSil(Oturumu(), YazilanAnahtar(), Bildirimi()))) return;
   Bosalt();
   KoddanBasla();
 }

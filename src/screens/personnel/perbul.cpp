@@ -4,7 +4,7 @@
 
 #include "core/turkce.h"
 #include "personnel/firmalardaara.h"
-#include "ui/metin.h"
+#include "ui/listedoldur.h"
 #include "ui/uzunis.h"
 #include "ui/xtext.h"
 
@@ -29,9 +29,7 @@ perbul::perbul(EkranBaglami& baglam)
   liste_->setEnabled(false);
   setTabOrder(&YaziKutusu(ArananAd), liste_);
   Govde()->addWidget(liste_, 1);
-  sonuc_ = new QLabel(this);
-  sonuc_->setProperty("soluk", true);
-  Govde()->addWidget(sonuc_);
+  sonuc_ = YaziEkle({}, "soluk");
   Komutlar({{.dugme = "Bul", .simge = "ara", .islev = [this] { Ara(); }},
             {.tus = Qt::Key_Return, .ipucu = "Bul", .islev = [this] { Ara(); }}});
   AlanDegisti = [this](AlanDenetimi& alan) { liste_->setEnabled(!Kirp(MetinDegeri(alan.Oku())).empty()); };
@@ -53,19 +51,10 @@ void perbul::Ara() {
   });
   if (!bulunan) return;
   const std::vector<BulunanKisi>& bulunanlar = *bulunan;
-  liste_->Model().TopluBasla();
-  liste_->Clear();
-  for (const BulunanKisi& kisi : bulunanlar) {
-    const int satir = liste_->Add();
-    liste_->Text(satir, 0, Yazi(kisi.adsoy));
-    liste_->Text(satir, 1, Yazi(kisi.firma));
-    liste_->Text(satir, 2, Yazi(kisi.donem));
-  }
-  liste_->Model().TopluBitir();
+  ListeDoldur(*liste_, bulunanlar, [](const BulunanKisi& k) { return std::array{k.adsoy, k.firma, k.donem}; });
   const QString sayi = bulunanlar.empty() ? QStringLiteral("Kayıt bulunamadı.")
                                           : QString::number(bulunanlar.size()) + QStringLiteral(" kayıt bulundu.");
   sonuc_->setText(yarida ? sayi + QStringLiteral(" Arama yarıda kesildi.") : sayi);
-  liste_->ChngSat(0);
   if (!bulunanlar.empty()) liste_->setFocus();
 }
 

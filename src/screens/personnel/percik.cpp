@@ -105,7 +105,7 @@ void percik::Kaydet() {
 
 void percik::GeriAl() {
   if (!EkrandakiMi()) return;
-  const auto alindi = CikisGeriAl(Oturumu(), YazilanKod());
+  const auto alindi = CikisGeriAl(Oturumu(), YazilanAnahtar());
   if (!alindi) return Bildir(alindi.Kusuru());
   if (!*alindi) return;
   Goster({});

@@ -36,19 +36,9 @@ pergir::pergir(EkranBaglami& baglam, ParametreDeposu& parametreler)
 
 // The keyboard goes through the paper's numbers: down each column, from left to right.
 void pergir::Yerlestir() {
-  auto* yatay = new QHBoxLayout;
-  yatay->setSpacing(12);
-  const auto sutun = [&](const std::vector<QWidget*>& gruplar) {
-    auto* dikey = new QVBoxLayout;
-    dikey->setSpacing(10);
-    for (QWidget* grup : gruplar) dikey->addWidget(grup);
-    dikey->addStretch(1);
-    yatay->addLayout(dikey);
-  };
-  sutun({GrupYap(GirisBasligi()), GrupYap(GirisKimligi())});
-  sutun({GrupYap(GirisNufusKaydi()), GrupYap(GirisAdresi()), SandiklariYap()});
-  sutun({GrupYap(GirisEskiIsyeri()), GrupYap(GirisBilgileri())});
-  Govde()->addLayout(yatay);
+  Govde()->addLayout(YanYana({{GrupYap(GirisBasligi()), GrupYap(GirisKimligi())},
+                              {GrupYap(GirisNufusKaydi()), GrupYap(GirisAdresi()), SandiklariYap()},
+                              {GrupYap(GirisEskiIsyeri()), GrupYap(GirisBilgileri())}}));
 }
 
 // A body, its number of the person beside it, its pension below.

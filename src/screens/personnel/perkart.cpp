@@ -80,19 +80,9 @@ perkart::perkart(EkranBaglami& baglam, ParametreDeposu& parametreler)
 
 // What every new card needs stands first, in the left column.
 void perkart::Yerlestir() {
-  auto* yatay = new QHBoxLayout;
-  yatay->setSpacing(12);
-  const auto sutun = [&](const std::vector<QWidget*>& gruplar) {
-    auto* dikey = new QVBoxLayout;
-    dikey->setSpacing(10);
-    for (QWidget* grup : gruplar) dikey->addWidget(grup);
-    dikey->addStretch(1);
-    yatay->addLayout(dikey);
-  };
-  sutun({GrupYap(KimlikGrubu()), GrupYap(UcretGrubu()), GrupYap(BordroGrubu())});
-  sutun({GrupYap(TarihGrubu()), GrupYap(KodGrubu()), GrupYap(VergiGrubu())});
-  sutun({IndirimleriYap(), ResmiYap()});
-  Govde()->addLayout(yatay);
+  Govde()->addLayout(YanYana({{GrupYap(KimlikGrubu()), GrupYap(UcretGrubu()), GrupYap(BordroGrubu())},
+                              {GrupYap(TarihGrubu()), GrupYap(KodGrubu()), GrupYap(VergiGrubu())},
+                              {IndirimleriYap(), ResmiYap()}}));
 }
 
 QWidget* perkart::IndirimleriYap() {
@@ -181,9 +171,8 @@ void perkart::Kaydet() {
   if (!EkrandakiMi()) return;
   Okunan<Sicil> kart{.ilk = okunan_, .simdi = okunan_.value_or(Sicil{})};
   if (!Oku(kart.simdi)) return;
-  const auto yazim = SorarakKaydet(
-      Baglam(), *this, kart, [this](const Kusur& kusur) { Bildir(kusur); },
-      [this](const Okunan<Sicil>& k) { return KartKaydet(Oturumu(), k, yeniResim_); });
+  const auto yazim = SorarakKaydet(Baglam(), *this, kart,
+                                   [this](const Okunan<Sicil>& k) { return KartKaydet(Oturumu(), k, yeniResim_); });
   if (!yazim) return;
   for (const Kusur& uyari : yazim->uyarilar) Bildir(uyari);
   Bosalt();
@@ -192,7 +181,7 @@ void perkart::Kaydet() {
 }
 
 void perkart::Sil() {
-  if (!EkrandakiMi() || !Silindi(KartSil(Oturumu(), YazilanKod(), Bildirimi()))) return;
+  if (!EkrandakiMi() || !Silindi(KartSil(Oturumu(), YazilanAnahtar(), Bildirimi()))) return;
   Bosalt();
   KoddanBasla();
 }
@@ -210,7 +199,7 @@ void perkart::ResimEkle() {
 
 void perkart::ResimSil() {
   if (!EkrandakiMi()) return;
-  if (const Durum silindi = FotoSil(Oturumu(), YazilanKod()); !silindi) return Bildir(silindi.Kusuru());
+  if (const Durum silindi = FotoSil(Oturumu(), YazilanAnahtar()); !silindi) return Bildir(silindi.Kusuru());
   yeniResim_.clear();
   resim_->Bosalt();
 }

@@ -25,12 +25,8 @@ void PersonelFormu::KisiyeGit(const std::string& kod, AlanTutamagi alan) {
     KoddanBasla();
 }
 
-std::string PersonelFormu::YazilanKod() const {
-  return std::string(Kirp(Utf8(YaziKutusu(AnahtarAlani()).text())));
-}
-
 bool PersonelFormu::EkrandakiMi() {
-  const std::string kod = YazilanKod();
+  const std::string kod = YazilanAnahtar();
   if (kod.empty() || kod == SonAnahtar()) return true;
   return !Bul(kod);
 }
@@ -48,7 +44,7 @@ void PersonelFormu::AlaniSec() {
 }
 
 void PersonelFormu::RehberAc() {
-  const auto secilen = PersonelSec(Baglam(), YazilanKod());
+  const auto secilen = PersonelSec(Baglam(), YazilanAnahtar());
   if (secilen) AnahtarAra(*secilen);
   KoddanBasla();
 }

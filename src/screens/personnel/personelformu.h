@@ -38,7 +38,6 @@ class PersonelFormu : public Form {
   // Shows the neighbour of the person on the screen; stays when there is none.
   virtual void Git(Yon yon) = 0;
 
-  std::string YazilanKod() const;
   // A code that was typed and not left yet is looked up first, so that no command meets another person than the one on
   // the screen. False: a person came up that the user has not seen yet.
   bool EkrandakiMi();
