@@ -6,7 +6,7 @@ CLI = build/$(PRESET)/src/cli/belvani-cli
 MASAUSTU = build/$(PRESET)/src/app/belvani
 RESIMLER = build/$(PRESET)/src/app/belvani-resimler
 
-.PHONY: screenshots run test altin bench lint fuzz deps asan clean
+.PHONY: screenshots run test altin maymun bench lint fuzz deps asan clean
 
 # The main job on the sample company. With a display: the desktop opens on it. Without one: it is made in a scratch data
 # path, all its months are prepared, and the last ledger is printed.
@@ -36,6 +36,16 @@ altin: deps
 	BELVANI_ALTIN=yaz QT_QPA_PLATFORM=offscreen build/$(PRESET)/tests/test_screens_core --gtest_filter='*IsAsApproved' \
 	  --gtest_brief=1
 	git status --short tests/altin/kayit
+
+# Random keys on every screen under the sanitizers, for SANIYE seconds from the seed TOHUM on. A failure names the seed
+# and the scene with which it comes again: make maymun SANIYE=1 TOHUM=… SAHNE=…
+TOHUM ?= 1
+SANIYE ?= 300
+maymun: deps
+	cmake --preset asan-ubsan
+	cmake --build --preset asan-ubsan --target test_maymun -j $(JOBS)
+	BELVANI_MAYMUN_TOHUM=$(TOHUM) BELVANI_MAYMUN_SANIYE=$(SANIYE) BELVANI_MAYMUN_SAHNE=$(SAHNE) \
+	  build/asan-ubsan/tests/test_maymun
 
 # The same tests under the address and undefined-behaviour sanitizers.
 asan:

@@ -3,7 +3,9 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <ctime>
 #include <functional>
+#include <optional>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
@@ -27,6 +29,20 @@ class Surec {
     int durum = 0;
     ::waitpid(std::exchange(no_, 0), &durum, 0);
     return WIFEXITED(durum) ? WEXITSTATUS(durum) : -1;
+  }
+  // The same without waiting: nothing while it runs.
+  std::optional<int> BittiyseSonuc() {
+    int durum = 0;
+    if (::waitpid(no_, &durum, WNOHANG) == 0) return std::nullopt;
+    no_ = 0;
+    return WIFEXITED(durum) ? WEXITSTATUS(durum) : -1;
+  }
+  // Of the processor, that it has used.
+  double IslemSaniyesi() const {
+    clockid_t saat = 0;
+    timespec gecen{};
+    if (::clock_getcpuclockid(no_, &saat) != 0 || ::clock_gettime(saat, &gecen) != 0) return 0;
+    return double(gecen.tv_sec) + double(gecen.tv_nsec) / 1e9;
   }
   void Oldur() {
     ::kill(no_, SIGKILL);

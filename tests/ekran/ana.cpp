@@ -1,21 +1,10 @@
-// The main function of tests that open screens: no display, none of the user's settings, "C" numbers, Turkish dialogs.
-#include <QApplication>
-#include <clocale>
+// The main function of tests that open screens.
 #include <gmock/gmock.h>
 
-#include "gecici.h"
-#include "ui/stil.h"
+#include "ekran/uygulama.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleMock(&argc, argv);
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  setenv("TZ", "Europe/Istanbul", 1);
-  const belvani::test::GeciciDizin ayarlar;
-  setenv("BELVANI_KULLANICI_DIZIN", ayarlar.Yol().c_str(), 1);
-  setenv("BELVANI_MAKINE_AYAR", (ayarlar.Yol() + "makine.ini").c_str(), 1);
-  QApplication uygulama(argc, argv);
-  std::setlocale(LC_NUMERIC, "C");
-  belvani::CeviriYukle(uygulama);
-  belvani::StilKur(uygulama, belvani::AcikRenkler());
+  const belvani::test::EkranUygulamasi uygulama(argc, argv);
   return RUN_ALL_TESTS();
 }

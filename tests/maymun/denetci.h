@@ -1,0 +1,118 @@
+// What holds after every key, whatever was pressed: the keyboard belongs to a part of the window in front, the current
+// row of a list is one of its rows, and no record has changed but by a key that may save.
+#pragma once
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QToolButton>
+#include <filesystem>
+#include <string>
+
+#include "maymun/hamleler.h"
+#include "ui/dclist.h"
+#include "ui/metin.h"
+
+namespace belvani::test {
+
+inline std::string ParcaAdi(const QWidget* parca) {
+  if (parca == nullptr) return "-";
+  std::string ad = parca->metaObject()->className();
+  if (!parca->objectName().isEmpty()) ad += "#" + Utf8(parca->objectName());
+  return ad;
+}
+
+// Slow work keeps the user out.
+inline bool MesgulMu() {
+  return QApplication::overrideCursor() != nullptr;
+}
+
+class Denetci {
+ public:
+  // `veri`: the data path.
+  explicit Denetci(std::string veri) : veri_(std::move(veri)) { YazildiMi(); }
+
+  // Has a store or a parameter file changed since the last call? SQLite's shared memory changes by reading too, an
+  // empty journal comes and goes with the connections, and what is chosen on a screen is kept in an .ini when that
+  // goes.
+  bool YazildiMi() {
+    std::size_t ozet = 0;
+    std::error_code hata;
+    for (const auto& dosya : std::filesystem::recursive_directory_iterator(veri_, hata)) {
+      const std::string yol = dosya.path();
+      const bool bos = dosya.is_directory(hata) || dosya.file_size(hata) == 0;
+      if (bos || yol.ends_with("-shm") || yol.ends_with(".ini")) continue;
+      const auto zaman = dosya.last_write_time(hata).time_since_epoch().count();
+      // A sum: the directory lists its files in any order.
+      ozet += std::hash<std::string>()(yol + ' ' + std::to_string(dosya.file_size(hata)) + ' ' + std::to_string(zaman));
+    }
+    return std::exchange(ozet_, ozet) != ozet;
+  }
+
+  // The key that comes next may change a record.
+  static bool YazabilirMi(Yazma yazma) {
+    const bool kutuda = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr;
+    if (yazma == Yazma::Yazar || kutuda || QApplication::activePopupWidget() != nullptr) return true;
+    const QWidget* odak = QApplication::focusWidget();
+    const bool dugme = qobject_cast<const QPushButton*>(odak) != nullptr || qobject_cast<const QToolButton*>(odak);
+    return (yazma == Yazma::Dugmede && dugme) || DegismisSatirVar();
+  }
+
+  // Empty: all is well.
+  static std::string Kusur() {
+    if (MesgulMu() || QApplication::activePopupWidget() != nullptr) return {};
+    const QWidget* pencere = QApplication::activeWindow();
+    if (pencere == nullptr) return "no window is active";
+    std::string kusur = OdakKusuru(*pencere);
+    return kusur.empty() ? ListeKusuru(*pencere) : kusur;
+  }
+
+ private:
+  static std::string OdakKusuru(const QWidget& pencere) {
+    const QWidget* odak = QApplication::focusWidget();
+    if (odak == nullptr && !OdaklanirMi(pencere)) return {};
+    if (odak == nullptr) return "nothing has the keyboard in " + ParcaAdi(&pencere);
+    const bool icinde = odak == &pencere || pencere.isAncestorOf(odak);
+    if (!icinde) return ParcaAdi(odak) + " has the keyboard outside of " + ParcaAdi(&pencere);
+    if (!odak->isVisible()) return ParcaAdi(odak) + " has the keyboard and is not seen";
+    if (!odak->isEnabled()) return ParcaAdi(odak) + " has the keyboard and is closed";
+    return {};
+  }
+
+  static bool OdaklanirMi(const QWidget& pencere) {
+    for (const QWidget* parca : pencere.findChildren<QWidget*>())
+      if ((parca->focusPolicy() & Qt::TabFocus) && parca->isVisible() && parca->isEnabled()) return true;
+    return false;
+  }
+
+  static std::string ListeKusuru(const QWidget& pencere) {
+    for (const QAbstractItemView* liste : pencere.findChildren<QAbstractItemView*>()) {
+      const auto* tablo = qobject_cast<const dclist*>(liste);
+      if (tablo != nullptr && tablo->hasFocus() && tablo->model()->rowCount() > 0 && tablo->CurSat() < 0)
+        return ParcaAdi(liste) + " has rows and stands on none";
+      const QModelIndex yer = liste->currentIndex();
+      if (liste->model() == nullptr || !yer.isValid()) continue;
+      if (yer.row() >= liste->model()->rowCount() || yer.column() >= liste->model()->columnCount())
+        return ParcaAdi(liste) + " stands on row " + std::to_string(yer.row()) + ", which it has not";
+    }
+    return {};
+  }
+
+  // A list saves such a row as soon as it is left.
+  static bool DegismisSatirVar() {
+    for (const QWidget* ust : QApplication::topLevelWidgets())
+      for (dclist* liste : ust->findChildren<dclist*>()) {
+        if (liste->CurrentMode() != dclist::Mod::Gezinme) return true;
+        if (liste->isAncestorOf(QApplication::focusWidget())) return true;  // a cell is open
+        for (int satir = 0; satir < liste->ListCount(); ++satir)
+          if (liste->Model().DegistiMi(satir)) return true;
+      }
+    return false;
+  }
+
+  std::string veri_;
+  std::size_t ozet_ = 0;
+};
+
+}  // namespace belvani::test
