@@ -1,7 +1,7 @@
 // sirket-ac, sirketler, denetle
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
-#include "core/dosya.h"
+#include "core/session/firmabilgi.h"
 #include "core/session/sirketlistesi.h"
 
 namespace belvani::cli {
@@ -19,13 +19,12 @@ void SirketiAc(Genel& genel, const SirketAcSecenekleri& s) {
   Basarmali(VeriYolu(o.DataPath).Yarat());
   if (const auto acildi = SirketOlustur(o, s.kod, s.kullanici, s.sifre, genel.bildirim); !acildi)
     throw KomutHatasi{acildi.KusurMetni()};
-  auto& firma = o.depo.firma;
-  firma.IlkKayit();
-  firma.KayitDuzelt();
-  if (!s.unvan.empty()) firma.AlanYaz("unvan", s.unvan);
-  if (s.yil != 0) firma.AlanYaz("firmayil", std::int64_t(s.yil));
-  if (s.ay != 0) firma.AlanYaz("firmaay", std::int64_t(s.ay));
-  if (!firma.KayitYaz()) throw KomutHatasi{"Firma Bilgileri Güncellenemedi: " + o.depo.db.SonHata()};
+  Okunan<Firma> firma = FirmaDuzenle(o);
+  if (!s.unvan.empty()) firma.simdi.unvan = s.unvan;
+  if (s.yil != 0) firma.simdi.firmayil = std::int16_t(s.yil);
+  if (s.ay != 0) firma.simdi.firmaay = std::uint8_t(s.ay);
+  if (const auto yazilan = FirmaKaydet(o, firma); !yazilan)
+    throw KomutHatasi{yazilan.KusurMetni() + ": " + o.depo.db.SonHata()};
   Yaz("Şirket açıldı: " + o.FirmaKod + "\n");
 }
 

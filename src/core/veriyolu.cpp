@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
 
@@ -28,6 +29,8 @@ class DizinKilidi final : public YolKilidi {
   int no_;
 };
 
+constexpr const char* SirketSilinemedi = "Şirket silinemedi, silinemeyen: ";
+
 class DizinMakinesi final : public VeriMakinesi {
  public:
   explicit DizinMakinesi(const std::string& dizin) : dizin_(DizinSonu(dizin)) {}
@@ -44,9 +47,7 @@ class DizinMakinesi final : public VeriMakinesi {
   Durum YazHepsi(const std::vector<AdliDosya>& dosyalar) const override { return DosyalariYaz(dizin_, dosyalar); }
   Durum Sil(std::string_view ad) const override {
     if (auto durum = BekleyenleriYerlestir(dizin_); !durum) return durum;
-    std::error_code hata;
-    fs::remove(Adres(ad), hata);
-    return hata ? Durum(Kusur{"silinemedi: " + Adres(ad)}) : Tamam();
+    return Kaldir(Adres(ad), "silinemedi: ");
   }
   std::vector<std::string> Dosyalar() const override {
     return Adlar([](const fs::directory_entry& g, std::error_code& hata) { return g.is_regular_file(hata); });
@@ -73,6 +74,30 @@ class DizinMakinesi final : public VeriMakinesi {
   }
   bool AltVar(std::string_view ad) const override { return DizinVar(Adres(ad)); }
   Durum Yarat() const override { return DizinYarat(dizin_); }
+  Durum Bosalt(std::string_view sonuncu) const override {
+    std::vector<fs::path> dosyalar;
+    std::error_code hata;
+    for (fs::directory_iterator i(dizin_, hata), son; !hata && i != son; i.increment(hata)) {
+      if (i->symlink_status(hata).type() == fs::file_type::directory)
+        return Kusur{"Şirket dizininde alt dizin var, hiçbir dosya silinmedi:\n" + i->path().string()};
+      dosyalar.push_back(i->path());
+    }
+    if (hata) return Kusur{"Şirket dizini okunamadı, hiçbir dosya silinmedi:\n" + Yol().string()};
+    std::ranges::stable_partition(dosyalar, [&](const fs::path& d) { return d.filename() != sonuncu; });
+    for (const fs::path& dosya : dosyalar)
+      if (Durum silindi = Kaldir(dosya, SirketSilinemedi); !silindi) return silindi;
+    return Tamam();
+  }
+  Durum Kaldir() const override { return Kaldir(Yol(), SirketSilinemedi); }
+  std::string Kimlik() const override {
+    struct stat hal {};
+    if (::stat(dizin_.c_str(), &hal) != 0) return {};
+    return std::to_string(hal.st_dev) + ":" + std::to_string(hal.st_ino);
+  }
+  bool BagMi() const override {
+    std::error_code hata;
+    return fs::is_symlink(Yol(), hata);
+  }
 
  private:
   static DosyaHali Bul(const std::string& yol, std::size_t enCok) {
@@ -81,6 +106,15 @@ class DizinMakinesi final : public VeriMakinesi {
     if (auto baytlar = DosyaOku(yol, enCok)) return {*baytlar, baytlar->size(), true, false};
     const std::uintmax_t boy = fs::is_regular_file(yol, hata) ? fs::file_size(yol, hata) : 0;
     return {.boy = hata ? 0 : boy, .var = true, .okunamadi = hata || boy <= enCok};
+  }
+
+  // Without the separator, which would lead through a link.
+  fs::path Yol() const { return fs::path(dizin_).parent_path(); }
+
+  static Durum Kaldir(const fs::path& yol, const char* kusur) {
+    std::error_code hata;
+    fs::remove(yol, hata);
+    return hata ? Durum(Kusur{kusur + yol.string()}) : Tamam();
   }
 
   template <class Uyar>
@@ -151,16 +185,8 @@ Durum VeriYolu::Sil(std::string_view ad) const {
   return makine_->Sil(ad);
 }
 
-std::vector<std::string> VeriYolu::Dosyalar() const {
-  return makine_->Dosyalar();
-}
-
 Sonuc<std::unique_ptr<YolKilidi>> VeriYolu::Kilitle(std::chrono::milliseconds enCok) const {
   return makine_->Kilitle(enCok);
-}
-
-std::string VeriYolu::Adres(std::string_view ad) const {
-  return makine_->Adres(ad);
 }
 
 VeriYolu VeriYolu::Alt(std::string_view ad) const {
@@ -168,16 +194,8 @@ VeriYolu VeriYolu::Alt(std::string_view ad) const {
   return VeriYolu(makine_->Alt(ad));
 }
 
-std::vector<std::string> VeriYolu::Altlar() const {
-  return makine_->Altlar();
-}
-
 bool VeriYolu::AltVar(std::string_view ad) const {
   return Ad(ad) && makine_->AltVar(ad);
-}
-
-Durum VeriYolu::Yarat() const {
-  return makine_->Yarat();
 }
 
 }  // namespace belvani

@@ -55,6 +55,10 @@ class VeriMakinesi {
   virtual std::vector<std::string> Altlar() const = 0;
   virtual bool AltVar(std::string_view ad) const = 0;
   virtual Durum Yarat() const = 0;
+  virtual Durum Bosalt(std::string_view sonuncu) const = 0;
+  virtual Durum Kaldir() const = 0;
+  virtual std::string Kimlik() const = 0;
+  virtual bool BagMi() const = 0;
 };
 
 class VeriYolu {
@@ -78,21 +82,30 @@ class VeriYolu {
   std::vector<DosyaHali> BakHepsi(const std::vector<std::string_view>& adlar, std::size_t enCok = EnCokBayt) const;
   Durum Sil(std::string_view ad) const;  // a file that is not there is a success
   // Names of the files, but for those that begin with a point.
-  std::vector<std::string> Dosyalar() const;
+  std::vector<std::string> Dosyalar() const { return makine_->Dosyalar(); }
   // For reading, changing and writing as one step: the files of this place, not those of the places below. Waits at
   // most so long; the failure says that someone else is at it. Null where nothing can be locked (a place that cannot be
   // written, a file system without locks).
   Sonuc<std::unique_ptr<YolKilidi>> Kilitle(std::chrono::milliseconds enCok = std::chrono::seconds(5)) const;
 
   // Where the file is, for the user's eyes, and for the engine that opens a store.
-  std::string Adres(std::string_view ad = {}) const;
+  std::string Adres(std::string_view ad = {}) const { return makine_->Adres(ad); }
 
   // The places below: one for each company.
   VeriYolu Alt(std::string_view ad) const;
-  std::vector<std::string> Altlar() const;
+  std::vector<std::string> Altlar() const { return makine_->Altlar(); }
   bool AltVar(std::string_view ad) const;
   // Makes the place itself, where there is none.
-  Durum Yarat() const;
+  Durum Yarat() const { return makine_->Yarat(); }
+  // Deletes every file, whatever its name, `sonuncu` as the last: what fails half way leaves that one. Nothing is
+  // deleted where a place below is.
+  Durum Bosalt(std::string_view sonuncu) const { return makine_->Bosalt(sonuncu); }
+  // Removes the place itself; it must be empty.
+  Durum Kaldir() const { return makine_->Kaldir(); }
+  // The same for all addresses of one place; empty where there is none.
+  std::string Kimlik() const { return makine_->Kimlik(); }
+  // What stands at the address only leads to the place, which may be anywhere.
+  bool BagMi() const { return makine_->BagMi(); }
 
  private:
   explicit VeriYolu(std::shared_ptr<const VeriMakinesi> makine) : makine_(std::move(makine)) {}

@@ -11,6 +11,7 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "core/asama.h"
 #include "ui/ilerlemekarti.h"
 #include "ui/metin.h"
 
@@ -221,6 +222,9 @@ bool uzunis::Yurut(EkranBaglami& baglam, const QString& ad, const std::function<
   Nobet nobet(ad, OndekiPencere(baglam));
   try {
     is(nobet);
+  } catch (const Vazgecilmis&) {
+    nobet.Bosalt();
+    return false;
   } catch (...) {
     nobet.Bosalt();
     throw;

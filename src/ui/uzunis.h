@@ -2,7 +2,7 @@
 // timers run. Nothing else turns the event loop while something is being done.
 //
 //   const auto pdf = UzunIs(baglam, "PDF hazırlanıyor…", [&](Ilerleme& i) { return BelgePdf(belge, &i); });
-//   if (!pdf) return;  // refused: another work is running
+//   if (!pdf) return;  // stopped, or refused: another work is running
 //
 // From its first moment to its last, what the user types and clicks is dropped, also what waited before it began; so
 // no second command starts inside it, and nobody destroys the screen it belongs to. Esc, "Vazgeç" and closing a window
@@ -21,11 +21,11 @@
 namespace belvani {
 
 namespace uzunis {
-// False: refused. What `is` throws comes out here.
+// False: refused, or stopped (core/asama.h). What `is` throws comes out here.
 bool Yurut(EkranBaglami& baglam, const QString& ad, const std::function<void(Ilerleme&)>& is);
 }  // namespace uzunis
 
-// What `is` has given, of which `ad` tells the user; nothing when it was refused.
+// What `is` has given, of which `ad` tells the user; nothing when it was refused, or stopped and thrown out of.
 template <class Is>
 std::optional<std::invoke_result_t<Is, Ilerleme&>> UzunIs(EkranBaglami& baglam, const QString& ad, Is is) {
   std::optional<std::invoke_result_t<Is, Ilerleme&>> deger;

@@ -40,6 +40,24 @@ TEST(VeriYolu, TellsAnAbsentFileFromAnUnreadableOne) {
   EXPECT_FALSE(veri.Alt("yok").Yaz("a.dat", "1"));
 }
 
+// A place goes whole or not at all, and what a link leads to is nobody's to empty.
+TEST(VeriYolu, EmptiedAndRemoved) {
+  const test::GeciciDizin dizin;
+  const VeriYolu veri = dizin.Yol(), sile = veri.Alt("ŞİLE"), bag = veri.Alt("BAĞ");
+  ASSERT_TRUE(sile.Yarat() && sile.Yaz("tolu.dat", "1") && sile.Alt("yedek").Yarat());
+  std::filesystem::create_directory_symlink(dizin.Yol() + "ŞİLE", dizin.Yol() + "BAĞ");
+  EXPECT_TRUE(bag.BagMi() && !sile.BagMi() && !veri.Alt("YOK").BagMi());
+  EXPECT_EQ(bag.Kimlik(), sile.Kimlik());
+  EXPECT_NE(sile.Kimlik(), veri.Kimlik());
+  EXPECT_EQ(veri.Alt("YOK").Kimlik(), "");
+  EXPECT_FALSE(sile.Bosalt("tolu.dat") || sile.Kaldir());
+  EXPECT_TRUE(sile.Var("tolu.dat"));
+  ASSERT_TRUE(sile.Alt("yedek").Kaldir());
+  std::ofstream(dizin.Yol() + "ŞİLE/.gizli") << "x";
+  EXPECT_TRUE(sile.Bosalt("tolu.dat") && sile.Kaldir());
+  EXPECT_FALSE(veri.AltVar("ŞİLE"));
+}
+
 TEST(VeriYolu, OneWriterWaitsForTheOther) {
   const test::GeciciDizin dizin;
   const VeriYolu veri = dizin.Yol();

@@ -13,6 +13,7 @@
 #include <fstream>
 #include <gmock/gmock.h>
 
+#include "core/asama.h"
 #include "ekran/ortam.h"
 #include "ui/bildirimkutusu.h"
 
@@ -193,6 +194,13 @@ TEST(UzunIs, ASecondOneIsRefusedAndAThrownOneEndsCleanly) {
                std::runtime_error);
   EXPECT_EQ(p.Kart(), nullptr);
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  Kuyrukla(p.alan, Qt::Key_Escape, {});
+  EXPECT_EQ(p.Calistir([](Ilerleme& i) {
+    for (Asama asama(&i);; QThread::msleep(2)) asama.Adim();
+    return true;
+  }),
+            std::nullopt)
+      << "stopped work that is thrown out of has no result";
   p.HerSeyeBas();
   EXPECT_EQ(p.alan.text(), "a");
   EXPECT_EQ(p.Calistir([](Ilerleme& i) { return Sur(i, 10); }), true);

@@ -48,8 +48,8 @@ const std::vector<DepoTablosu>& DepoTablolari() {
 }
 
 // `brdkanun` belongs to the version of this program; an older store gets it with its upgrade.
-bool Eklenir(Imlec& firma, std::string_view alan) {
-  return alan != "brdkanun" || Tek(SayiDegeri(firma.AlanOku("versiyon"))) == ProgramVersiyonu();
+bool Eklenir(Depo& depo, std::string_view alan) {
+  return alan != "brdkanun" || depo.Versiyon() == ProgramVersiyonu();
 }
 
 void YoksaEkle(Veritabani& db, std::string_view tablo, std::string_view alan) {
@@ -98,12 +98,21 @@ bool Depo::VeritabaniAc(const std::string& yol, Bildirim& bildirim) {
   if (!db.DbAc(yol)) return false;
   for (const DepoTablosu& tablo : DepoTablolari()) {
     for (const std::string_view alan : tablo.sonradanAlanlar)
-      if (Eklenir(firma, alan)) YoksaEkle(db, tablo.ad, alan);
+      if (Eklenir(*this, alan)) YoksaEkle(db, tablo.ad, alan);
     if (AcVeyaYarat(*this, tablo, bildirim)) continue;
     bildirim.Uyari(tablo.acilamadi);
     return false;
   }
   return true;
+}
+
+Tek Depo::Versiyon() {
+  const Tek okunamayan(1);
+  return db.Koru(okunamayan, [&] {
+    Motor& motor = db.IcMotor();
+    const auto komut = motor.Hazirla("select versiyon from firma order by " + motor.KimlikKolonu() + " limit 1");
+    return komut->Adim() ? Tek(komut->Sayi(0)) : okunamayan;
+  });
 }
 
 void Depo::TablolariKapat(KapatmaKapsami kapsam) {

@@ -33,6 +33,9 @@ struct Depo {
   // or brd is a failure, reported in the words of the table; a file that cannot be opened fails without a message.
   bool VeritabaniAc(const std::string& yol, Bildirim& bildirim);
 
+  // `versiyon` of the `firma` record; 1 where none can be read, as in a store of the oldest programs.
+  Tek Versiyon();
+
   void TablolariKapat(KapatmaKapsami kapsam);
 
   // Puts the picture file into the person's `foto` record in place of what is there. False: unreadable or unsaved.

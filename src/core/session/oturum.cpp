@@ -1,7 +1,6 @@
 #include "core/session/oturum.h"
 
 #include <cmath>
-#include <filesystem>
 #include <unistd.h>
 
 #include "core/ayarlar.h"
@@ -25,7 +24,7 @@ std::string IlkDataPath(const std::string& prgPath) {
 }
 
 bool DataDiziniYarat(const std::string& dataPath, Bildirim& bildirim) {
-  if (!DizinYarat(dataPath)) {
+  if (!VeriYolu(dataPath).Yarat()) {
     bildirim.Uyari("Data Dizini Yaratılamıyor.\n" + dataPath + "\nHata Kodu:0");
     return false;
   }
@@ -92,24 +91,24 @@ Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullani
   if (SirketDizini(o.DataPath, *ad)) return Kusur{"Bu adda bir şirket var: " + *ad};
   if (auto kusur = KullaniciKusuru(kullanici, sifre)) return *std::move(kusur);
 
-  const std::string dizin = DizinSonu(o.DataPath + *ad);
-  if (!DizinYarat(dizin)) return Kusur{"Şirket Dizini Yaratılamıyor: " + dizin};
-  if (const Durum kuruldu = DepoKur(o.depo, dizin + DepoDosyasi, kullanici, sifre, bildirim); !kuruldu) {
-    // No half company stays behind; a directory in which others have put something meanwhile does.
-    std::error_code hata;
-    std::filesystem::remove(dizin.substr(0, dizin.size() - 1), hata);
+  const VeriYolu yer = VeriYolu(o.DataPath).Alt(*ad);
+  if (!yer.Yarat()) return Kusur{"Şirket Dizini Yaratılamıyor: " + yer.Adres()};
+  if (const Durum kuruldu = DepoKur(o.depo, DepoAdresi(yer), kullanici, sifre, bildirim); !kuruldu) {
+    (void)yer.Kaldir();  // no half company stays behind; a place into which others have put something meanwhile does
     return kuruldu;
   }
   o.FirmaKod = *ad;
-  o.FirmaDizini = dizin;
+  o.FirmaDizini = yer.Adres();
   FirmaIlkKayit(o, bildirim);
   return Tamam();
 }
 
 bool OturumAc(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
               Bildirim& bildirim) {
-  const bool bulundu = o.depo.peruser.KayitBul("kod", std::string(kullanici));
-  if (!bulundu || o.depo.peruser.MetinOku("pasw") != sifre) {
+  Veritabani& db = o.depo.db;
+  const auto kayit =
+      db.Koru(std::optional<Peruser>(), [&] { return Tablo<Peruser>(db.IcMotor()).Bul(std::string(kullanici)); });
+  if (!kayit || kayit->pasw != sifre) {
     o.depo.TablolariKapat(KapatmaKapsami::YalnizImlecler);
     bildirim.Bilgi("Kullanıcı Adı veya Kullanıcı Şifresi\n           HATALI");
     return false;
@@ -146,18 +145,13 @@ void FirmaIlkKayit(Oturum& o, Bildirim& bildirim) {
   if (const auto yazilan = FirmaKaydet(o, firma); !yazilan) bildirim.Uyari(yazilan.KusurMetni());
 }
 
-Tek DepoVersiyonu(Oturum& o) {
-  o.depo.firma.IlkKayit();
-  return Tek(SayiDegeri(o.depo.firma.AlanOku("versiyon")));
-}
-
 std::string VersiyonMetni(Tek versiyon) {
   constexpr double Olcek = 10'000;
   return SayiMetni(std::round(versiyon.Sayi() * Olcek) / Olcek);
 }
 
 bool VersiyonKontrol(Oturum& o, Bildirim& bildirim) {
-  const Tek depoVersiyonu = DepoVersiyonu(o);
+  const Tek depoVersiyonu = o.depo.Versiyon();
   if (depoVersiyonu == o.Versiyon) return true;
   bildirim.Uyari("Program Versiyonu ile Database Versiyonu Farklı...\nProgram Versiyon:" + VersiyonMetni(o.Versiyon) +
                  "\nDatabase Versiyon:" + VersiyonMetni(depoVersiyonu) + "\nUpdate Programını Çalıştırınız...");

@@ -68,9 +68,6 @@ bool FirmaYukle(Oturum& o);
 // The `firma` record of a new company.
 void FirmaIlkKayit(Oturum& o, Bildirim& bildirim);
 
-// `versiyon` of the `firma` record.
-Tek DepoVersiyonu(Oturum& o);
-
 // A version as users see it, at most four decimals: "2003.7".
 std::string VersiyonMetni(Tek versiyon);
 

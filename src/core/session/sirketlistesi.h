@@ -22,16 +22,16 @@ struct SirketSatiri {
   bool operator==(const SirketSatiri&) const = default;
 };
 
-// Every company below the data path, in Turkish order of the names. Stopped by `ilerleme`, those that were read.
+// Every company below the data path, in Turkish order of the names. Throws Vazgecilmis when `ilerleme` stops it.
 std::vector<SirketSatiri> SirketListesi(const VeriYolu& veri, Ilerleme* ilerleme = nullptr);
 
 // Names of the directories that may be deleted: all real ones (no links) but that of the session's company, whose name
 // is compared without regard to Turkish case.
-std::vector<std::string> SilinebilirSirketler(const std::string& dataPath, const Oturum& o);
+std::vector<std::string> SilinebilirSirketler(const VeriYolu& veri, const Oturum& o);
 
 // Asks, then deletes the directory `ad`, as SilinebilirSirketler names it, with every file in it. Refused, with nothing
 // deleted, are a name that is not in that list, a directory with a subdirectory, and a store that someone has open.
 // The store goes last, so that a removal that fails half way leaves a company that still opens.
-Sonuc<Silme> SirketSil(const std::string& dataPath, std::string_view ad, const Oturum& o, Bildirim& bildirim);
+Sonuc<Silme> SirketSil(const VeriYolu& veri, std::string_view ad, const Oturum& o, Bildirim& bildirim);
 
 }  // namespace belvani

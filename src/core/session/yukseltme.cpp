@@ -22,25 +22,10 @@ struct Adim {
   double damga;  // 0: the program's version
 };
 
-// The `firma` record, if there is one; its save fails quietly when there is none.
-void FirmayaYaz(Depo& depo, const std::vector<std::pair<std::string_view, Deger>>& degerler) {
-  if (!depo.firma.IlkKayit()) return;
-  depo.firma.KayitDuzelt();
-  for (const auto& [alan, deger] : degerler) depo.firma.AlanYaz(alan, deger);
-  if (!depo.firma.KayitYaz()) throw MotorHatasi(MotorKusuru::Diger, depo.db.SonHata());
-}
-
 // `tahsisno` of `sicil` is not filled: a new text field is Null, and Null reads as the empty text that it would get.
 void Adim0Doldur(Depo& depo, Tutar) {
-  const std::string bos;
-  FirmayaYaz(depo, {{"tckimlik", bos},
-                    {"epos", bos},
-                    {"kanun", std::string("00000")},
-                    {"semt", bos},
-                    {"adrilce", bos},
-                    {"adril", bos},
-                    {"pk", bos}});
   depo.db.IcMotor().Calistir(
+      "update firma set tckimlik = '', epos = '', kanun = '00000', semt = '', adrilce = '', adril = '', pk = '';"
       "update brd set ucretsizizin = coalesce(ucretsizizin, 0), ogv = coalesce(ogv, 0) "
       "where ucretsizizin is null or ogv is null");
 }
@@ -55,7 +40,7 @@ void Adim1Doldur(Depo& depo, Tutar sskTaban) {
 }
 
 void Adim2Doldur(Depo& depo, Tutar) {
-  FirmayaYaz(depo, {{"tersfirma", false}});
+  depo.db.IcMotor().Calistir("update firma set tersfirma = 0");
 }
 
 // `kanun` of `sicil` stays Null in step 4 for the same reason as `tahsisno`.
@@ -132,8 +117,10 @@ GuncellemeSonucu DoldurVeDamgala(Oturum& o, std::size_t no, Tutar sskTaban, Bild
   const bool tamam = depo.db.Koru(false, [&] {
     Islem islem(depo.db.IcMotor());
     adim.doldur(depo, sskTaban);
-    const bool kayitVar = depo.firma.IlkKayit();
-    FirmayaYaz(depo, {{"versiyon", adim.damga == 0 ? o.Versiyon.Sayi() : adim.damga}});
+    const auto damga = depo.db.IcMotor().Hazirla("update firma set versiyon = ?");
+    damga->SayiBagla(1, adim.damga == 0 ? o.Versiyon.Sayi() : adim.damga);
+    damga->Calistir();
+    const bool kayitVar = depo.db.IcMotor().DegisenSatir() != 0;
     islem.Onayla();
     if (!kayitVar) depo.db.HataYaz("firma kaydı yok, versiyon yazılamadı");
     return kayitVar || DamgasizOlur(no);

@@ -29,7 +29,7 @@ QWidget* Dbupdate::VersiyonlariYap() {
   auto* grup = new QGroupBox(QStringLiteral("Versiyonlar"), this);
   auto* izgara = new QGridLayout(grup);
   const std::array<std::pair<const char*, Tek>, 2> satirlar{
-      {{"Program Versiyonu", Oturumu().Versiyon}, {"Database Versiyonu", DepoVersiyonu(Oturumu())}}};
+      {{"Program Versiyonu", Oturumu().Versiyon}, {"Database Versiyonu", Oturumu().depo.Versiyon()}}};
   for (int i = 0; i < 2; ++i) {
     const auto& [etiket, versiyon] = satirlar[std::size_t(i)];
     auto* kutu = new xtext(grup);
@@ -51,7 +51,7 @@ QWidget* Dbupdate::VersiyonlariYap() {
 QWidget* Dbupdate::AdimlariYap() {
   auto* grup = new QGroupBox(QStringLiteral("Geçişler"), this);
   auto* duzen = new QVBoxLayout(grup);
-  const AdimIsaretleri acik = AcikAdimlar(DepoVersiyonu(Oturumu()));
+  const AdimIsaretleri acik = AcikAdimlar(Oturumu().depo.Versiyon());
   for (std::size_t i = 0; i < AdimSayisi; ++i) {
     auto* kutu = new QCheckBox(Yazi(AdimBasligi(i)), grup);
     kutu->setObjectName(QStringLiteral("Check1(%1)").arg(i));

@@ -23,15 +23,10 @@ const Kolonlar<SirketSatiri> kolonlar{
 
 // Empty: stopped, which was told, for half a list would pass for the whole.
 std::optional<std::vector<SirketSatiri>> ListeyiOku(EkranBaglami& baglam) {
-  bool yarida = false;
-  auto liste = UzunIs(baglam, QStringLiteral("Firmalar okunuyor…"), [&](Ilerleme& ilerleme) {
-    auto satirlar = SirketListesi(baglam.oturum.DataPath, &ilerleme);
-    yarida = ilerleme.Vazgecildi();
-    return satirlar;
-  });
-  if (!yarida) return liste;
-  baglam.bildirim.Bilgi("Firma listesinin okunması yarıda kesildi.");
-  return std::nullopt;
+  auto liste = UzunIs(baglam, QStringLiteral("Firmalar okunuyor…"),
+                      [&](Ilerleme& ilerleme) { return SirketListesi(baglam.oturum.DataPath, &ilerleme); });
+  if (!liste) baglam.bildirim.Bilgi("Firma listesinin okunması yarıda kesildi.");
+  return liste;
 }
 
 std::optional<RaporBelgesi> ListeBelgesi(EkranBaglami& baglam) {

@@ -169,7 +169,7 @@ TEST(DbupdateEkrani, OpensWhatTheStoreHasNotReachedAndAllToTheTechnician) {
   ortam.Bas(Qt::Key_Escape);
   EXPECT_FALSE(form.isVisible());
   EXPECT_EQ(form.Sonuc(), GuncellemeSonucu::IsaretYok);
-  EXPECT_EQ(VersiyonMetni(DepoVersiyonu(ortam.oturum)), "2003.6");
+  EXPECT_EQ(VersiyonMetni(ortam.oturum.depo.Versiyon()), "2003.6");
 }
 
 }  // namespace
