@@ -97,8 +97,7 @@ Json KayitlarJson(const std::vector<Brd>& kayitlar) {
 void BelgeVer(Genel& genel, const BelgeIsi& is) {
   const auto oturum = genel.SirketAc(is.kod);
   auto yasal = YasalParametreleriAl(oturum->DataPath);
-  const BelgeKaynagi kaynak{
-      .motor = oturum->depo.db.IcMotor(), .yasal = Degeri(yasal), .paraonda = oturum->firma.paraonda};
+  const BelgeKaynagi kaynak{.motor = oturum->depo.db.IcMotor(), .yasal = Degeri(yasal), .firma = oturum->firma};
   const auto secim = is.belge.secim();
   if (is.belge.ayar.oku != nullptr) is.belge.ayar.oku(oturum->FirmaDizini, *secim);
   for (const auto& [alan, deger] : is.verilenler) alan->yaz(secim->Kayit(alan->kayitTuru), deger);

@@ -6,7 +6,6 @@
 #include "core/sayi.h"
 #include "core/session/aracibilgi.h"
 #include "core/store/koru.h"
-#include "core/store/satirlar.h"
 #include "core/veriyolu.h"
 #include "declarations/bildirgesorgu.h"
 
@@ -27,12 +26,6 @@ std::vector<std::string> BelgeTuruListesi(const HesapTurleri& turler) {
   return liste;
 }
 
-std::optional<Firma> FirmaKaydi(Motor& motor) {
-  auto firmalar = KayitlariOku<Firma>(motor);
-  if (firmalar.empty()) return std::nullopt;
-  return std::move(firmalar.front());
-}
-
 std::string SorunMetni(const Kusurlar& sorunlar) {
   std::string metin = "Dosyaya olduğu gibi yazılamayan bilgiler var:\n";
   for (std::size_t i = 0; i < std::min(sorunlar.size(), SorunSiniri); ++i) metin += sorunlar[i].metin + "\n";
@@ -51,17 +44,11 @@ Sonuc<Kusurlar> AylikBildirge::Ac() {
   bildirge_.secim.ay = o_.firma.firmaay;
   belgeTurleri_ = BelgeTuruListesi(yasal_.hesapTurleri);
   kanunlar_ = {"Tümü"};
-  tehlikeOrani_ = {};
+  tehlikeOrani_ = o_.firmaVar ? TehlikeOrani(o_.firma.tehlike, o_.firma.sinif.Sayi()) : Tek();
+  OranlariYukle();
   return Koru([&] {
-    Kusurlar kusurlar;
-    Motor& motor = o_.depo.db.IcMotor();
-    for (auto& kanun : KisiKanunlari(motor)) kanunlar_.push_back(std::move(kanun));
-    if (const auto firma = FirmaKaydi(motor))
-      tehlikeOrani_ = TehlikeOrani(firma->tehlike, firma->sinif.Sayi());
-    else
-      kusurlar.push_back(KuralKusuru("İşyeri Tanımlamaları Yapılmamış"));
-    OranlariYukle();
-    return kusurlar;
+    for (auto& kanun : KisiKanunlari(o_.depo.db.IcMotor())) kanunlar_.push_back(std::move(kanun));
+    return o_.firmaVar ? Kusurlar() : Kusurlar{KuralKusuru("İşyeri Tanımlamaları Yapılmamış")};
   });
 }
 
@@ -69,9 +56,9 @@ int AylikBildirge::BelgeTuru() const {
   return BastakiSayi(std::string_view(belgeTurleri_[std::size_t(bildirge_.secim.belgeTuru)]).substr(0, KodHanesi));
 }
 
-Durum AylikBildirge::Hesapla() {
+Durum AylikBildirge::Hesapla(Ilerleme* ilerleme) {
   OranlariYukle();
-  Durum hesaplandi = Koru([&] { AylikBildirgeHesapla(); });
+  Durum hesaplandi = Koru([&] { AylikBildirgeHesapla(ilerleme); });
   if (hesaplandi) hesaplandi = PrimleriHesapla();
   if (!hesaplandi) OranlariYukle();
   return hesaplandi;
@@ -85,15 +72,18 @@ void AylikBildirge::OranlariYukle() {
   bildirge_.PrimOran = PrimOranlari(yasal_, BelgeTuru(), tehlikeOrani_);
 }
 
-void AylikBildirge::AylikBildirgeHesapla() {
-  Motor& motor = o_.depo.db.IcMotor();
+void AylikBildirge::AylikBildirgeHesapla(Ilerleme* ilerleme) try {
   const BildirgeSecimi& secim = bildirge_.secim;
-  const auto firma = FirmaKaydi(motor);
-  const BildirgeKosullari kosullar{
-      yasal_, {secim.yil, secim.ay, firma && firma->tersfirma ? DonemTuru::Ters : DonemTuru::Takvim}, Yuvarla()};
+  const DonemTuru donem = o_.firma.tersfirma ? DonemTuru::Ters : DonemTuru::Takvim;
+  const BildirgeKosullari kosullar{yasal_, {secim.yil, secim.ay, donem}, Yuvarla()};
   BildirgeSuzgeci suzgec{.yil = secim.yil, .ay = secim.ay, .belgeTuru = BelgeTuru()};
   if (secim.kanun > 0) suzgec.kanun = kanunlar_[std::size_t(secim.kanun)];
-  BildirgeKayitlariOku(motor, suzgec, [&](const BildirgeKaydi& kayit) { KaydiEkle(bildirge_, kayit, kosullar); });
+  BildirgeKayitlariOku(
+      o_.depo.db.IcMotor(), suzgec, [&](const BildirgeKaydi& kayit) { KaydiEkle(bildirge_, kayit, kosullar); },
+      ilerleme);
+} catch (const Vazgecilmis&) {
+  OranlariYukle();
+  throw;
 }
 
 Durum AylikBildirge::PrimleriHesapla() {
@@ -158,7 +148,7 @@ std::string AylikBildirge::GenelToplamMetni() const {
 }
 
 IsyeriBilgileri AylikBildirge::Isyeri() {
-  return IsyeriniHazirla(FirmaKaydi(o_.depo.db.IcMotor()).value_or(Firma()), AraciOku(o_).kod);
+  return IsyeriniHazirla(o_.firma, AraciOku(o_).kod);
 }
 
 Sonuc<AylikBildirge::Karar> AylikBildirge::BildirgeKontrol() {
@@ -189,18 +179,21 @@ std::string AylikBildirge::XmlYolu() const {
   return VeriYolu(o_.FirmaDizini).Adres(XmlDosyaAdi(bildirge_.secim));
 }
 
-Sonuc<std::optional<std::string>> AylikBildirge::XmlHazirla() {
+Sonuc<std::optional<std::string>> AylikBildirge::XmlHazirla(const Yurutucu& yurut) {
   const auto karar = BildirgeKontrol();
   if (!karar) return karar.Kusuru();
   if (*karar == Karar::Vazgecildi) return std::optional<std::string>();
-  auto dosya = Koru([&] { return BildirgeXml(bildirge_, Isyeri(), Yuvarla()); });
+  Sonuc<BildirgeDosyasi> dosya = BildirgeDosyasi();
+  const bool bitti = yurut(
+      [&](Ilerleme* ilerleme) { dosya = Koru([&] { return BildirgeXml(bildirge_, Isyeri(), Yuvarla(), ilerleme); }); });
   if (!dosya) return dosya.Kusuru();
-  if (!dosya->sorunlar.empty() && !bildirim_.Soru(SorunMetni(dosya->sorunlar))) return std::optional<std::string>();
+  if (!bitti || (!dosya->sorunlar.empty() && !bildirim_.Soru(SorunMetni(dosya->sorunlar))))
+    return std::optional<std::string>();
   return std::optional(std::move(dosya->icerik));
 }
 
-Sonuc<AylikBildirge::Karar> AylikBildirge::XmlYaz(const std::string& dosya) {
-  const auto icerik = XmlHazirla();
+Sonuc<AylikBildirge::Karar> AylikBildirge::XmlYaz(const std::string& dosya, const Yurutucu& yurut) {
+  const auto icerik = XmlHazirla(yurut);
   if (!icerik) return icerik.Kusuru();
   if (!*icerik) return Karar::Vazgecildi;
   if (const Durum yazildi = DosyaYaz(dosya, **icerik); !yazildi)

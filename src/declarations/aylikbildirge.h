@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "core/asama.h"
 #include "core/session/oturum.h"
 #include "declarations/bildirgexml.h"
 
@@ -41,8 +42,9 @@ class AylikBildirge {
   // The chosen document type; 0 for all.
   int BelgeTuru() const;
 
-  // "Hesapla", F5, and every change of a list. After a fault grid and totals are empty.
-  Durum Hesapla();
+  // "Hesapla", F5, and every change of a list. After a fault, and when it was stopped (Vazgecilmis),
+  // grid and totals are empty.
+  Durum Hesapla(Ilerleme* ilerleme = nullptr);
 
   const Bildirge& Tamami() const { return bildirge_; }
 
@@ -71,11 +73,12 @@ class AylikBildirge {
   Durum XmlKosullari() const;
   // Where the choice of the file starts.
   std::string XmlYolu() const;
-  // The bytes of the file; none when the user gave up, as he may over values that would make the file unreadable.
-  // XmlYaz checks again, so a question that was answered yes before is asked once more.
-  Sonuc<std::optional<std::string>> XmlHazirla();
+  // The bytes of the file, made by `yurut`, with the questions before and after; none when the user gave up, as he may
+  // over values that would make the file unreadable. XmlYaz checks again, so a question that was answered yes before is
+  // asked once more.
+  Sonuc<std::optional<std::string>> XmlHazirla(const Yurutucu& yurut = HemenYurut);
   // Into the file, whole or not at all: a failed write leaves what was there.
-  Sonuc<Karar> XmlYaz(const std::string& dosya);
+  Sonuc<Karar> XmlYaz(const std::string& dosya, const Yurutucu& yurut = HemenYurut);
   // Asked after XmlYaz; yes opens the web page on which the user sends the file.
   static constexpr const char* GonderimSorusu = "E-Bildirgeyi Göndermek İstermisiniz ?";
 
@@ -86,7 +89,7 @@ class AylikBildirge {
 
  private:
   void OranlariYukle();
-  void AylikBildirgeHesapla();
+  void AylikBildirgeHesapla(Ilerleme* ilerleme);
   Durum PrimleriHesapla();
   template <class Is>
   Durum Duzenle(Is&& is);

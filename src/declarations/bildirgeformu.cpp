@@ -1,5 +1,6 @@
 #include "declarations/bildirgeformu.h"
 
+#include "core/asama.h"
 #include "core/sayi.h"
 #include "core/turkce.h"
 #include "isyeri/isyerinumarasi.h"
@@ -291,13 +292,16 @@ FormSayfasi BildirgeDevamSayfasi(const BildirgeKagidi& kagit, const KagitSayfasi
 
 }  // namespace
 
-std::vector<FormSayfasi> BildirgeSayfalari(const BildirgeKagidi& kagit) {
+std::vector<FormSayfasi> BildirgeSayfalari(const BildirgeKagidi& kagit, Ilerleme* ilerleme) {
   const auto bolumler = SayfalaraBol(kagit.satirlar);
   const int sayfaSayisi = int(bolumler.size());
   std::vector<FormSayfasi> sayfalar;
   sayfalar.reserve(bolumler.size());
-  for (const auto& bolum : bolumler)
+  Asama asama(ilerleme, bolumler.size());
+  for (const auto& bolum : bolumler) {
+    asama.Adim();
     sayfalar.push_back((bolum.no == 1 ? BildirgeBirinciSayfa : BildirgeDevamSayfasi)(kagit, bolum, sayfaSayisi));
+  }
   return sayfalar;
 }
 
@@ -305,12 +309,12 @@ std::string BildirgeYazdir(const BildirgeKagidi& kagit) {
   return FormMetni(BildirgeSayfalari(kagit));
 }
 
-std::unique_ptr<Belge> BildirgeBelgesi(const BildirgeKagidi& kagit) {
+std::unique_ptr<Belge> BildirgeBelgesi(const BildirgeKagidi& kagit, Ilerleme* ilerleme) {
   YzcAyarlari ayar;
   ayar.YzcBaslik = BildirgeBasligi;
   ayar.YzcYon = KagitYonu::Yatay;
-  auto sayfalar = BildirgeSayfalari(kagit);
-  std::string metin = FormMetni(sayfalar);
+  auto sayfalar = BildirgeSayfalari(kagit, ilerleme);
+  std::string metin = FormMetni(sayfalar, ilerleme);
   return std::make_unique<FormBelgesi>(ayar, std::move(sayfalar), std::move(metin));
 }
 

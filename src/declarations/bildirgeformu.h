@@ -23,11 +23,11 @@ inline constexpr const char* MatbuUyarisi = "Bu Alanda Sadece Matbu Evraka Bası
 
 // Values are named by their place: "isveren.unvan", "satir8.adi" (the eighth person, wherever he stands), "toplam.gun".
 // Throws TutarTasmasi.
-std::vector<FormSayfasi> BildirgeSayfalari(const BildirgeKagidi& kagit);
+std::vector<FormSayfasi> BildirgeSayfalari(const BildirgeKagidi& kagit, Ilerleme* ilerleme = nullptr);
 
 // The values of all pages, in lines.
 std::string BildirgeYazdir(const BildirgeKagidi& kagit);
 
-std::unique_ptr<Belge> BildirgeBelgesi(const BildirgeKagidi& kagit);
+std::unique_ptr<Belge> BildirgeBelgesi(const BildirgeKagidi& kagit, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -4,7 +4,6 @@
 
 #include "core/sayi.h"
 #include "core/session/aracibilgi.h"
-#include "core/session/firmabilgi.h"
 #include "declarations/aylikbildirge.h"
 
 namespace belvani {
@@ -40,7 +39,7 @@ BildirgeKagidi KagitHazirla(const AylikBildirge& bildirge, Oturum& oturum) {
   BildirgeKagidi kagit{.yil = secim.yil,
                        .ay = secim.ay,
                        .mahiyet = secim.mahiyet,
-                       .firma = FirmaOku(oturum),
+                       .firma = oturum.firma,
                        .arac = AraciOku(oturum),
                        .muhasebeci = MuhasebeciOku(oturum),
                        .toplamlar = b.toplamlar,

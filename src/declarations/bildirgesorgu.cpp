@@ -1,5 +1,6 @@
 #include "declarations/bildirgesorgu.h"
 
+#include "core/asama.h"
 #include "documents/sorgumetni.h"
 #include "documents/turetilen.h"
 
@@ -44,13 +45,14 @@ std::vector<std::string> KisiKanunlari(Motor& motor) {
   return kanunlar;
 }
 
-OncekiAyKayitlari::OncekiAyKayitlari(Motor& motor, int yil, int ay) {
+OncekiAyKayitlari::OncekiAyKayitlari(Motor& motor, int yil, int ay, Ilerleme* ilerleme) {
   const auto komut =
       motor.Hazirla("select " + KolonListesi(GunKolonlari, "") + " from brd where yil = ? and ay = ? order by oto");
   komut->TamBagla(1, ay == 1 ? yil - 1 : yil);
   komut->TamBagla(2, ay == 1 ? AralikAyi : ay - 1);
   Brd brd;
-  while (komut->Adim()) {
+  for (Asama asama(ilerleme); komut->Adim();) {
+    asama.Adim();
     KolonlariAl(*komut, 0, GunKolonlari, brd);
     kayitlar_.try_emplace(brd.kod, Kayit{GunToplami(brd), brd.ui, brd.sskmatrahisveren});
   }
@@ -64,11 +66,12 @@ bool OncekiAyKayitlari::FarkVarmi(std::string_view kod, int gun, int ui, Tutar m
 }
 
 void BildirgeKayitlariOku(Motor& motor, const BildirgeSuzgeci& suzgec,
-                          const std::function<void(const BildirgeKaydi&)>& her) {
-  const OncekiAyKayitlari onceki(motor, suzgec.yil, suzgec.ay);
+                          const std::function<void(const BildirgeKaydi&)>& her, Ilerleme* ilerleme) {
+  const OncekiAyKayitlari onceki(motor, suzgec.yil, suzgec.ay, ilerleme);
   const auto komut = Sorgu(suzgec).Hazirla(motor);
   BildirgeKaydi kayit;
-  while (komut->Adim()) {
+  for (Asama asama(ilerleme); komut->Adim();) {
+    asama.Adim();
     const int sicilIlk = KolonlariAl(*komut, 0, BrdKolonlari, kayit.brd);
     const int kimlikIlk = KolonlariAl(*komut, sicilIlk, SicilKolonlari, kayit.sicil);
     KolonAl(*komut, kimlikIlk, kayit.tcno);

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/bildirim.h"
 #include "core/store/motor.h"
 #include "core/turkce.h"
 #include "declarations/bildirgehesap.h"
@@ -21,7 +22,7 @@ std::vector<std::string> KisiKanunlari(Motor& motor);
 class OncekiAyKayitlari {
  public:
   // Of the month before `ay`, all in one query; January is compared with December.
-  OncekiAyKayitlari(Motor& motor, int yil, int ay);
+  OncekiAyKayitlari(Motor& motor, int yil, int ay, Ilerleme* ilerleme = nullptr);
 
   // Whether the person's days, paid-leave days or employer's base (as stored, in whatever currency) differ from then;
   // also when there was no record.
@@ -50,8 +51,9 @@ struct BildirgeSuzgeci {
 
 // Calls `her` for each record, by law, status, social-security number (the shorter first, so that numbers are in their
 // order) and run. People on the board-fee payroll and people whose card is gone are not among them.
-// Two queries, however many people there are; the record that `her` gets holds until its next call.
+// Two queries, however many people there are; the record that `her` gets holds until its next call. Throws
+// Vazgecilmis when `ilerleme` stops it.
 void BildirgeKayitlariOku(Motor& motor, const BildirgeSuzgeci& suzgec,
-                          const std::function<void(const BildirgeKaydi&)>& her);
+                          const std::function<void(const BildirgeKaydi&)>& her, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -1,5 +1,6 @@
 #include "declarations/bildirgetablosu.h"
 
+#include "core/asama.h"
 #include "core/dosya.h"
 #include "core/turkce.h"
 #include "core/veridizini.h"
@@ -149,10 +150,12 @@ void KisiYaz(excelkont& d, int satir, const BildirgeSatiri& s, const KazancBolum
 }
 
 // Gives the number of people. The sums come last: where an eleventh person stands on their line, they are what counts.
-int KisileriYaz(excelkont& d, const BildirgeKagidi& k) {
+int KisileriYaz(excelkont& d, const BildirgeKagidi& k, Ilerleme* ilerleme) {
   KazancBolumu toplam;
   int kisi = 0;
+  Asama asama(ilerleme, k.satirlar.size());
   for (const auto& s : k.satirlar) {
+    asama.Adim();
     if (s.sigkol.value_or(0) <= 0) continue;
     const KazancBolumu kazanc = KazanciBol(s);
     KisiYaz(d, IlkKisiSatiri + kisi++ * KisiSatirAdimi, s, kazanc);
@@ -182,7 +185,7 @@ Sonuc<std::string> EskiSablon(const std::string& dosya, const std::string& donus
 
 }  // namespace
 
-Sonuc<BildirgeTablosu> BildirgeTablosuYap(std::string sablon, const BildirgeKagidi& kagit) {
+Sonuc<BildirgeTablosu> BildirgeTablosuYap(std::string sablon, const BildirgeKagidi& kagit, Ilerleme* ilerleme) {
   if (kagit.satirlar.empty()) return BildirgeTablosu{std::move(sablon), {}};
   excelkont d;
   if (const Durum acildi = d.KitapAc(std::move(sablon)); !acildi) return acildi.Kusuru();
@@ -191,7 +194,7 @@ Sonuc<BildirgeTablosu> BildirgeTablosuYap(std::string sablon, const BildirgeKagi
   TaraflariYaz(d, kagit.firma, kagit.arac);
   SayaclariYaz(d, kagit.toplamlar);
   BranslariYaz(d, kagit);
-  const int kisi = KisileriYaz(d, kagit);
+  const int kisi = KisileriYaz(d, kagit, ilerleme);
   d.SetExcel("cg178", Metin(kagit.muhasebeci.adsoyad));
   d.SetExcel("cg183", Metin(kagit.muhasebeci.sicil));
   auto baytlar = d.Kitap();

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "core/bildirim.h"
 #include "core/sonuc.h"
 #include "declarations/bildirgekagidi.h"
 
@@ -24,7 +25,8 @@ constexpr int TabloKisiSayisi = 10;
 
 // Rows without a document type are passed over. Without any rows the form is given back as it is, to be filled in by
 // hand. Fails on a form that cannot be filled. Throws TutarTasmasi.
-Sonuc<BildirgeTablosu> BildirgeTablosuYap(std::string sablon, const BildirgeKagidi& kagit);
+Sonuc<BildirgeTablosu> BildirgeTablosuYap(std::string sablon, const BildirgeKagidi& kagit,
+                                          Ilerleme* ilerleme = nullptr);
 
 // The bytes of the first form that lies in one of the directories, in their order: `aylik.xlsx`, or one in the older
 // format, `aylik.xls`, which the office program `donusturucu` converts. Fails when there is none, or it cannot be

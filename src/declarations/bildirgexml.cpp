@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/asama.h"
 #include "core/sayi.h"
 #include "core/turkce.h"
 
@@ -46,7 +47,7 @@ bool Yazilabilir(std::string_view metin) {
 
 class Yazan {
  public:
-  explicit Yazan(Yuvarlayici yuvarla) : yuvarla_(yuvarla) {}
+  Yazan(Yuvarlayici yuvarla, Ilerleme* ilerleme) : yuvarla_(yuvarla), ilerleme_(ilerleme) {}
 
   BildirgeDosyasi Yaz(const Bildirge& bildirge, const IsyeriBilgileri& isyeri) {
     Satir(R"(<?xml version="1.0" encoding="iSO-8859-9" ?>)");
@@ -112,7 +113,9 @@ class Yazan {
     std::optional<int> belgeTuru;
     std::string kanun;
     int sira = 0;
+    Asama asama(ilerleme_, satirlar.size());
     for (const auto& satir : satirlar) {
+      asama.Adim();
       const std::string satirKanunu(BastakiSayi(satir.kanun) == 0 ? FirmaKanun : Kirp(satir.kanun));
       SahibiKoy(satir);
       if (sira == 0 || satir.sigkol != belgeTuru || satirKanunu != kanun) {
@@ -169,6 +172,7 @@ class Yazan {
   }
 
   Yuvarlayici yuvarla_;
+  Ilerleme* ilerleme_;
   std::string metin_;
   Kusur sahip_{.metin = "İşyeri", .derece = Derece::Uyari};  // whose values are being written
   Kusurlar sorunlar_;
@@ -176,8 +180,9 @@ class Yazan {
 
 }  // namespace
 
-BildirgeDosyasi BildirgeXml(const Bildirge& bildirge, const IsyeriBilgileri& isyeri, Yuvarlayici yuvarla) {
-  return Yazan(yuvarla).Yaz(bildirge, isyeri);
+BildirgeDosyasi BildirgeXml(const Bildirge& bildirge, const IsyeriBilgileri& isyeri, Yuvarlayici yuvarla,
+                            Ilerleme* ilerleme) {
+  return Yazan(yuvarla, ilerleme).Yaz(bildirge, isyeri);
 }
 
 std::string XmlDosyaAdi(const BildirgeSecimi& secim) {

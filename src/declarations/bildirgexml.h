@@ -11,6 +11,7 @@
 
 #include <string>
 
+#include "core/bildirim.h"
 #include "declarations/bildirgekontrol.h"
 
 namespace belvani {
@@ -20,8 +21,10 @@ struct BildirgeDosyasi {
   Kusurlar sorunlar;   // values that make it unreadable, or hold letters that it cannot show
 };
 
-// Control characters are left out. The checks of BildirgeKontrol are the caller's.
-BildirgeDosyasi BildirgeXml(const Bildirge& bildirge, const IsyeriBilgileri& isyeri, Yuvarlayici yuvarla);
+// Control characters are left out. The checks of BildirgeKontrol are the caller's. Throws Vazgecilmis when `ilerleme`
+// stops it.
+BildirgeDosyasi BildirgeXml(const Bildirge& bildirge, const IsyeriBilgileri& isyeri, Yuvarlayici yuvarla,
+                            Ilerleme* ilerleme = nullptr);
 
 // "Bordro0072009.xml": position of the law in its list, month, year.
 std::string XmlDosyaAdi(const BildirgeSecimi& secim);

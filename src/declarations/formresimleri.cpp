@@ -71,8 +71,8 @@ int Imzalar(FormKurucu& f, int satir, const Muhasebeci& m) {
 
 }  // namespace
 
-std::vector<FormSayfasi> Ek9Resmi(const BildirgeKagidi& kagit) {
-  return BildirgeSayfalari(kagit);
+std::vector<FormSayfasi> Ek9Resmi(const BildirgeKagidi& kagit, Ilerleme* ilerleme) {
+  return BildirgeSayfalari(kagit, ilerleme);
 }
 
 std::vector<FormSayfasi> Ek10Resmi(const EksikGunFormu& form) {

@@ -8,13 +8,14 @@
 #include <string>
 #include <vector>
 
+#include "core/bildirim.h"
 #include "declarations/bildirgekagidi.h"
 #include "printing/form/formsayfasi.h"
 
 namespace belvani {
 
 // All pages of the declaration; the first is the form itself.
-std::vector<FormSayfasi> Ek9Resmi(const BildirgeKagidi& kagit);
+std::vector<FormSayfasi> Ek9Resmi(const BildirgeKagidi& kagit, Ilerleme* ilerleme = nullptr);
 
 // A person who was paid for fewer days than the month has.
 struct EksikGunKisisi {

@@ -1,5 +1,6 @@
 #include "documents/agilistesi.h"
 
+#include "core/asama.h"
 #include "core/sayi.h"
 #include "core/store/satirlar.h"
 #include "documents/listebelgesi.h"
@@ -51,7 +52,7 @@ class AgiBordrosu final : public RaporBelgesi {
 
 }  // namespace
 
-std::vector<AgiKisisi> AgiKisileriOku(Motor& motor, const DefterSecim& secim) {
+std::vector<AgiKisisi> AgiKisileriOku(Motor& motor, const DefterSecim& secim, Ilerleme* ilerleme) {
   SorguMetni sorgu(
       "select s.kod, s.adi, s.soyadi, b.ay, b.ogv, b.agioran, b.agimatrah from brd b join sicil s on s.kod = b.kod "
       "where b.yil = ? and b.ay <= ? and b.ay between 1 and 12",
@@ -60,7 +61,8 @@ std::vector<AgiKisisi> AgiKisileriOku(Motor& motor, const DefterSecim& secim) {
   sorgu.Ekle(" order by s.kod, b.ay, b.no");
   const auto komut = sorgu.Hazirla(motor);
   std::vector<AgiKisisi> kisiler;
-  while (komut->Adim()) {
+  for (Asama asama(ilerleme); komut->Adim();) {
+    asama.Adim();
     if (kisiler.empty() || kisiler.back().kod != komut->Metin(0)) {
       Sicil sicil;
       KolonAl(*komut, 1, sicil.adi);
@@ -94,11 +96,11 @@ Rapor AgiListesi(const std::vector<AgiKisisi>& kisiler, const AgiBaslik& baslik)
 
 std::unique_ptr<Belge> AgiBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim) {
   const YasalParametreler& yasal = kaynak.yasal;
-  const AgiBaslik baslik{.unvan = FirmaKaydiOku(kaynak.motor).unvan,
+  const AgiBaslik baslik{.unvan = kaynak.firma.unvan,
                          .yil = secim.yil,
                          .agiTaban = AgiTabaniIle(yasal.agi, yasal.oranlar.AsgariUcret).AgiTaban,
-                         .paraonda = kaynak.paraonda};
-  Rapor rapor = AgiListesi(AgiKisileriOku(kaynak.motor, secim), baslik);
+                         .paraonda = kaynak.firma.paraonda};
+  Rapor rapor = AgiListesi(AgiKisileriOku(kaynak.motor, secim, kaynak.ilerleme), baslik);
   YzcAyarlari ayar = BaskiAyari(rapor.baslik, KagitYonu::Yatay);
   ayar.YzcDosAcik = false;
   return std::make_unique<AgiBordrosu>(std::move(rapor), ayar);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/bildirim.h"
 #include "core/store/motor.h"
 #include "documents/defter.h"
 
@@ -28,7 +29,7 @@ struct AgiBaslik {
 
 // All records of the year up to the selection's month, in the order of codes; two runs of a month are added up. People
 // without any allowance are in it too. Throws MotorHatasi.
-std::vector<AgiKisisi> AgiKisileriOku(Motor& motor, const DefterSecim& secim);
+std::vector<AgiKisisi> AgiKisileriOku(Motor& motor, const DefterSecim& secim, Ilerleme* ilerleme = nullptr);
 
 Rapor AgiListesi(const std::vector<AgiKisisi>& kisiler, const AgiBaslik& baslik);
 

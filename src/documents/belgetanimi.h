@@ -17,6 +17,7 @@
 #include "core/store/motor.h"
 #include "core/tables/alansatiri.h"
 #include "core/tables/brd.h"
+#include "core/tables/firma.h"
 #include "core/veriyolu.h"
 #include "payroll/parametre/parametreler.h"
 #include "printing/belge.h"
@@ -27,7 +28,8 @@ namespace belvani {
 struct BelgeKaynagi {
   Motor& motor;
   const YasalParametreler& yasal;
-  int paraonda = 2;
+  const Firma& firma;            // the company's card
+  Ilerleme* ilerleme = nullptr;  // shows and stops the making
 };
 
 // The font of a list. A paper that takes it has "Yazıcı Fontu" on its screen.
@@ -41,7 +43,8 @@ class BelgeSecimi {
  public:
   virtual ~BelgeSecimi() = default;
 
-  // Throws MotorHatasi and TutarTasmasi. A period without records gives a paper without rows.
+  // Throws MotorHatasi, TutarTasmasi, and Vazgecilmis when it was stopped. A period without records gives a paper
+  // without rows.
   virtual std::unique_ptr<Belge> BelgeYap(const BelgeKaynagi& kaynak) const = 0;
 
   // The record of a type, that fields of `Alan::kayitTuru` read and write; null when the paper has none.

@@ -105,8 +105,8 @@ Rapor DefterRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBaslik
 
 std::unique_ptr<Belge> DefterBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim, const DefterSecenek& secenek,
                                      const BelgeYazisi& yazi) {
-  const auto satirlar = DefterSatirlariOku(kaynak.motor, secim);
-  return ListeBelgesi(DefterRaporu(satirlar, BaslikOku(kaynak, secim), secenek), KagitYonu::Yatay, yazi, secenek.duzen);
+  const auto satirlar = DefterSatirlariOku(kaynak.motor, secim, kaynak.ilerleme);
+  return ListeBelgesi(DefterRaporu(satirlar, BaslikYap(kaynak, secim), secenek), KagitYonu::Yatay, yazi, secenek.duzen);
 }
 
 UstSatir UnvanSatiri(const Firma& firma) {

@@ -1,5 +1,6 @@
 #include "documents/deftersorgu.h"
 
+#include "core/asama.h"
 #include "core/store/satirlar.h"
 #include "documents/sorgumetni.h"
 
@@ -20,7 +21,7 @@ std::string_view Sira(DefterSirasi sira) {
 
 }  // namespace
 
-std::vector<BordroSatiri> DefterSatirlariOku(Motor& motor, const DefterSecim& secim) {
+std::vector<BordroSatiri> DefterSatirlariOku(Motor& motor, const DefterSecim& secim, Ilerleme* ilerleme) {
   SorguMetni sorgu("select " + SecimListesi<Brd>(motor, "b") + ", " + SecimListesi<Sicil>(motor, "s") +
                        ", k.tcno from brd b join sicil s on s.kod = b.kod left join kimlik k on k.kod = b.kod "
                        "where b.yil = ? and b.ay = ?",
@@ -29,7 +30,8 @@ std::vector<BordroSatiri> DefterSatirlariOku(Motor& motor, const DefterSecim& se
   sorgu.Ekle(Sira(secim.sira));
   const auto komut = sorgu.Hazirla(motor);
   std::vector<BordroSatiri> satirlar;
-  while (komut->Adim()) {
+  for (Asama asama(ilerleme); komut->Adim();) {
+    asama.Adim();
     BordroSatiri& satir = satirlar.emplace_back();
     const int sonraki = KayitAl(*komut, KayitAl(*komut, 0, satir.brd), satir.sicil);
     KolonAl(*komut, sonraki, satir.tcno);

@@ -3,13 +3,15 @@
 
 #include <vector>
 
+#include "core/bildirim.h"
 #include "core/store/motor.h"
 #include "documents/defter.h"
 
 namespace belvani {
 
 // In the order of the ledger. A range that is left as it comes ("" to "ZZZZ") takes everyone, also people whose field
-// is empty. Records of people whose card is gone are not in it. Throws MotorHatasi.
-std::vector<BordroSatiri> DefterSatirlariOku(Motor& motor, const DefterSecim& secim);
+// is empty. Records of people whose card is gone are not in it. Throws MotorHatasi, and
+// Vazgecilmis when `ilerleme` stops it.
+std::vector<BordroSatiri> DefterSatirlariOku(Motor& motor, const DefterSecim& secim, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -1,5 +1,6 @@
 #include "documents/icmal.h"
 
+#include "core/asama.h"
 #include "documents/icmalgrafigi.h"
 #include "documents/listebelgesi.h"
 #include "documents/sorgumetni.h"
@@ -143,13 +144,14 @@ Rapor IcmalRaporu(const Icmal& icmal, const DefterBaslik& baslik) {
   return rapor;
 }
 
-std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, int ay) {
+std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, int ay, Ilerleme* ilerleme) {
   SorguMetni sorgu("select " + KolonListesi(BrdKolonlari, "b.") +
                        ", s.sskdurum from brd b join sicil s on s.kod = b.kod where b.yil = ? and b.ay = ?",
                    {std::int64_t(yil), std::int64_t(ay)});
   const auto komut = sorgu.Hazirla(motor);
   std::vector<IcmalGirdisi> girdiler;
-  while (komut->Adim()) {
+  for (Asama asama(ilerleme); komut->Adim();) {
+    asama.Adim();
     IcmalGirdisi& girdi = girdiler.emplace_back();
     KolonAl(*komut, KolonlariAl(*komut, 0, BrdKolonlari, girdi.brd), girdi.sskdurum);
   }
@@ -157,9 +159,9 @@ std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, int ay) {
 }
 
 std::unique_ptr<Belge> IcmalBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim) {
-  const auto girdiler = IcmalGirdileriOku(kaynak.motor, secim.yil, secim.ay);
-  const Icmal icmal = IcmalHesapla(girdiler, kaynak.yasal.oranlar.AsgariUcret, Yuvarlayici(kaynak.paraonda));
-  Rapor rapor = IcmalRaporu(icmal, BaslikOku(kaynak, secim));
+  const auto girdiler = IcmalGirdileriOku(kaynak.motor, secim.yil, secim.ay, kaynak.ilerleme);
+  const Icmal icmal = IcmalHesapla(girdiler, kaynak.yasal.oranlar.AsgariUcret, Yuvarlayici(kaynak.firma.paraonda));
+  Rapor rapor = IcmalRaporu(icmal, BaslikYap(kaynak, secim));
   GrafikDuzeni grafik{.yon = KagitYonu::Dikey, .punto = 10};
   // The year of the chart is read when it is drawn: the screen shows the figures alone.
   grafik.ek = EkCizim{IcmalGrafigiBoyu,

@@ -8,6 +8,7 @@
 #include <span>
 #include <vector>
 
+#include "core/bildirim.h"
 #include "core/store/motor.h"
 #include "core/yuvarlama.h"
 #include "documents/defter.h"
@@ -44,6 +45,6 @@ Rapor IcmalRaporu(const Icmal& icmal, const DefterBaslik& baslik);
 std::unique_ptr<Belge> IcmalBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim);
 
 // Of a month; people whose card is gone are not in it. Throws MotorHatasi.
-std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, int ay);
+std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, int ay, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -1,5 +1,6 @@
 #include "documents/izin.h"
 
+#include "core/asama.h"
 #include "core/store/satirlar.h"
 #include "documents/listebelgesi.h"
 #include "documents/sorgumetni.h"
@@ -106,7 +107,7 @@ void AyEkle(IzinKisisi& kisi, const Komut& komut, int ilk) {
 
 }  // namespace
 
-std::vector<IzinKisisi> IzinleriOku(Motor& motor, int yil, const MetinAraligi& kod) {
+std::vector<IzinKisisi> IzinleriOku(Motor& motor, int yil, const MetinAraligi& kod, Ilerleme* ilerleme) {
   SorguMetni sorgu(
       "select s.kod, s.adi, s.soyadi, s.girtar, k.tcno, u.yil, u.ay, u.gun from sicil s left join kimlik k on k.kod = "
       "s.kod left join (select kod, yil, ay, sum(ui) as gun from brd where yil <= ? and ui > 0 group by kod, yil, ay) "
@@ -117,7 +118,8 @@ std::vector<IzinKisisi> IzinleriOku(Motor& motor, int yil, const MetinAraligi& k
   sorgu.Ekle(" order by s.kod, u.yil, u.ay");
   const auto komut = sorgu.Hazirla(motor);
   std::vector<IzinKisisi> kisiler;
-  while (komut->Adim()) {
+  for (Asama asama(ilerleme); komut->Adim();) {
+    asama.Adim();
     if (kisiler.empty() || kisiler.back().kod != komut->Metin(0)) {
       IzinKisisi& kisi = kisiler.emplace_back();
       Sicil sicil;
@@ -144,8 +146,8 @@ Rapor IzinListesi(const std::vector<IzinKisisi>& kisiler, int yil, IzinRaporu ti
 std::unique_ptr<Belge> IzinBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim, const IzinSecenegi& secenek,
                                    const BelgeYazisi& yazi) {
   const KagitYonu yon = secenek.tip == IzinRaporu::Donemsel ? KagitYonu::Yatay : KagitYonu::Dikey;
-  const auto kisiler = IzinleriOku(kaynak.motor, secim.yil, secim.kod);
-  return ListeBelgesi(IzinListesi(kisiler, secim.yil, secenek.tip), yon, yazi, {}, FirmaKaydiOku(kaynak.motor).unvan);
+  const auto kisiler = IzinleriOku(kaynak.motor, secim.yil, secim.kod, kaynak.ilerleme);
+  return ListeBelgesi(IzinListesi(kisiler, secim.yil, secenek.tip), yon, yazi, {}, kaynak.firma.unvan);
 }
 
 }  // namespace belvani

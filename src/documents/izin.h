@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "core/bildirim.h"
 #include "core/store/motor.h"
 #include "documents/defter.h"
 
@@ -34,7 +35,7 @@ struct IzinKisisi {
 
 // Everyone in the range who has a card, in the order of codes, with the months up to the end of `yil`. Throws
 // MotorHatasi.
-std::vector<IzinKisisi> IzinleriOku(Motor& motor, int yil, const MetinAraligi& kod);
+std::vector<IzinKisisi> IzinleriOku(Motor& motor, int yil, const MetinAraligi& kod, Ilerleme* ilerleme = nullptr);
 
 struct IzinSecenegi {
   IzinRaporu tip = IzinRaporu::Icmal;

@@ -1,20 +1,13 @@
 #include "documents/listebelgesi.h"
 
-#include "core/store/satirlar.h"
-
 namespace belvani {
 
-Firma FirmaKaydiOku(Motor& motor) {
-  auto kayitlar = KayitlariOku<Firma>(motor);
-  return kayitlar.empty() ? Firma{} : std::move(kayitlar.front());
-}
-
-DefterBaslik BaslikOku(const BelgeKaynagi& kaynak, const DefterSecim& secim) {
+DefterBaslik BaslikYap(const BelgeKaynagi& kaynak, const DefterSecim& secim) {
   return {.yil = secim.yil,
           .ay = secim.ay,
-          .firma = FirmaKaydiOku(kaynak.motor),
+          .firma = kaynak.firma,
           .damgaOran = kaynak.yasal.oranlar.DamgaOran,
-          .paraonda = kaynak.paraonda};
+          .paraonda = kaynak.firma.paraonda};
 }
 
 YzcAyarlari BaskiAyari(const std::string& baslik, KagitYonu yon) {

@@ -6,11 +6,8 @@
 
 namespace belvani {
 
-// Throws MotorHatasi; a company without its record has an empty one.
-Firma FirmaKaydiOku(Motor& motor);
-
 // Of whom and when: the period of the selection, the company and the rates of the source.
-DefterBaslik BaslikOku(const BelgeKaynagi& kaynak, const DefterSecim& secim);
+DefterBaslik BaslikYap(const BelgeKaynagi& kaynak, const DefterSecim& secim);
 
 // What the print dialog of a paper starts with.
 YzcAyarlari BaskiAyari(const std::string& baslik, KagitYonu yon);

@@ -57,8 +57,8 @@ Rapor OzelBordroRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBa
 
 std::unique_ptr<Belge> OzelBordroBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim, const SayfaDuzeni& duzen,
                                          const BelgeYazisi& yazi) {
-  const auto satirlar = DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::SskNo));
-  return ListeBelgesi(OzelBordroRaporu(satirlar, BaslikOku(kaynak, secim)), KagitYonu::Yatay, yazi, duzen);
+  const auto satirlar = DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::SskNo), kaynak.ilerleme);
+  return ListeBelgesi(OzelBordroRaporu(satirlar, BaslikYap(kaynak, secim)), KagitYonu::Yatay, yazi, duzen);
 }
 
 }  // namespace belvani

@@ -216,9 +216,9 @@ Rapor PusulaRaporu(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik
 
 std::unique_ptr<Belge> UcretPusulalari(const BelgeKaynagi& kaynak, const DefterSecim& secim,
                                        const PusulaSecenegi& secenek) {
-  PusulaBaslik baslik{.defter = BaslikOku(kaynak, secim), .yardimAdlari = YardimAdlariOku(kaynak.motor)};
+  PusulaBaslik baslik{.defter = BaslikYap(kaynak, secim), .yardimAdlari = YardimAdlariOku(kaynak.motor)};
   const auto satirlar = std::make_shared<const std::vector<BordroSatiri>>(
-      DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::Kisi)));
+      DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::Kisi), kaynak.ilerleme));
   YaprakBelgesi belge = Pusulalar(satirlar, baslik);
   const YzcAyarlari ayar = BaskiAyari(belge.baslik, KagitYonu::Dikey);
   auto veri = [satirlar, baslik = std::move(baslik)] { return PusulaRaporu(*satirlar, baslik); };

@@ -93,12 +93,12 @@ void RaporBelgesi::AyarDegisti() {
   sayfa_.satirSayisi = Ayar().YzcSatir;
 }
 
-std::unique_ptr<CizilenBelge> RaporBelgesi::Cizim() const {
-  return std::make_unique<GrafikRapor>(*kagit_, grafik_);
+std::unique_ptr<CizilenBelge> RaporBelgesi::CizimYap(Ilerleme* ilerleme) const {
+  return std::make_unique<GrafikRapor>(*kagit_, grafik_, ilerleme);
 }
 
-std::string RaporBelgesi::Metin() const {
-  return MetinRaporu(*kagit_, sayfa_);
+std::string RaporBelgesi::MetinYap(Ilerleme* ilerleme) const {
+  return MetinRaporu(*kagit_, sayfa_, ilerleme);
 }
 
 std::string RaporBelgesi::MetinUyarisi() const {
@@ -108,8 +108,8 @@ std::string RaporBelgesi::MetinUyarisi() const {
          std::to_string(sayfa_.en) + " harf yazar. Kolon sayısını azaltınız.";
 }
 
-Sonuc<std::string> RaporBelgesi::Xlsx() const {
-  return XlsxRaporu(*tablo_);
+Sonuc<std::string> RaporBelgesi::XlsxYap(Ilerleme* ilerleme) const {
+  return XlsxRaporu(*tablo_, ilerleme);
 }
 
 YaprakliBelge::YaprakliBelge(YaprakBelgesi yapraklar, SayfadaYaprak sayfada, YzcAyarlari ilk,
@@ -120,40 +120,40 @@ void YaprakliBelge::AyarDegisti() {
   yapraklar_.baslik = Ayar().YzcBaslikYaz ? Ayar().YzcBaslik : std::string();
 }
 
-std::unique_ptr<CizilenBelge> YaprakliBelge::Cizim() const {
-  return std::make_unique<GrafikYapraklar>(yapraklar_, sayfada_);
+std::unique_ptr<CizilenBelge> YaprakliBelge::CizimYap(Ilerleme* ilerleme) const {
+  return std::make_unique<GrafikYapraklar>(yapraklar_, sayfada_, ilerleme);
 }
 
-std::string YaprakliBelge::Metin() const {
-  return MetinYapraklari(yapraklar_, {.satirSayisi = Ayar().YzcSatir});
+std::string YaprakliBelge::MetinYap(Ilerleme* ilerleme) const {
+  return MetinYapraklari(yapraklar_, {.satirSayisi = Ayar().YzcSatir}, ilerleme);
 }
 
 std::shared_ptr<const Rapor> YaprakliBelge::Veri() const {
   return veri_ ? std::make_shared<const Rapor>(veri_()) : nullptr;
 }
 
-Sonuc<std::string> YaprakliBelge::Xlsx() const {
-  return XlsxYapraklari(yapraklar_);
+Sonuc<std::string> YaprakliBelge::XlsxYap(Ilerleme* ilerleme) const {
+  return XlsxYapraklari(yapraklar_, ilerleme);
 }
 
-std::unique_ptr<CizilenBelge> BelgeSayfalari(const Belge& belge) {
+std::unique_ptr<CizilenBelge> BelgeSayfalari(const Belge& belge, Ilerleme* ilerleme) {
   if (!belge.Ayar().YzcDosMod)
-    if (auto cizim = belge.Cizim()) return cizim;
-  return std::make_unique<MetinCizimi>(belge.Metin(), belge.Ayar().YzcSatir);
+    if (auto cizim = belge.Cizim(ilerleme)) return cizim;
+  return std::make_unique<MetinCizimi>(belge.Metin(ilerleme), belge.Ayar().YzcSatir);
 }
 
 Sonuc<PdfCiktisi> BelgePdf(const Belge& belge, Ilerleme* ilerleme) {
-  const auto sayfalar = BelgeSayfalari(belge);
+  const auto sayfalar = BelgeSayfalari(belge, ilerleme);
   if (sayfalar->SayfaSayisi() == 0) return PdfCiktisi{};
   PdfTuvali tuval({.baslik = belge.Baslik()});
-  if (!SayfalariCiz(*sayfalar, tuval, ilerleme)) return PdfCiktisi{};
+  SayfalariCiz(*sayfalar, tuval, ilerleme);
   auto baytlar = tuval.Belge();
   if (!baytlar) return baytlar.Kusuru();
   return PdfCiktisi{std::move(*baytlar), sayfalar->Uyari()};
 }
 
-std::string BelgeHam(const Belge& belge) {
-  return MetinBaytlari(belge.Metin());
+std::string BelgeHam(const Belge& belge, Ilerleme* ilerleme) {
+  return MetinBaytlari(belge.Metin(ilerleme));
 }
 
 }  // namespace belvani

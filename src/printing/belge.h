@@ -35,10 +35,13 @@ class Belge {
   virtual std::string Baslik() const = 0;
   virtual bool Bos() const = 0;                    // nothing to print
   virtual bool Kayitsiz() const { return Bos(); }  // made of no records; it may have lines to print all the same
-  // The drawn form, as long as this document lives; null for one that has none.
-  virtual std::unique_ptr<CizilenBelge> Cizim() const = 0;
-  // The text form, UTF-8; empty for one that has none, or nothing to print.
-  virtual std::string Metin() const = 0;
+  // The forms. Large ones take their time: `ilerleme` shows it, and stopped it throws Vazgecilmis.
+  // The drawn one, as long as this document lives; null for one that has none.
+  std::unique_ptr<CizilenBelge> Cizim(Ilerleme* ilerleme = nullptr) const { return CizimYap(ilerleme); }
+  // The text, UTF-8; empty for one that has none, or nothing to print.
+  std::string Metin(Ilerleme* ilerleme = nullptr) const { return MetinYap(ilerleme); }
+  // The spreadsheet file.
+  Sonuc<std::string> Xlsx(Ilerleme* ilerleme = nullptr) const { return XlsxYap(ilerleme); }
   // Told in place of a text print that does not exist.
   virtual std::string MetinYok() const { return "Bu belge yalnız grafik yazıcıdan alınabilir."; }
   // What its user should know about the text form (lines too long for the printer); else empty.
@@ -47,10 +50,11 @@ class Belge {
   virtual std::shared_ptr<const Rapor> Tablo() const { return nullptr; }
   // What it says as rows for other programs (CSV, JSON); null when it is a form.
   virtual std::shared_ptr<const Rapor> Veri() const { return Tablo(); }
-  // The spreadsheet file.
-  virtual Sonuc<std::string> Xlsx() const = 0;
 
  private:
+  virtual std::unique_ptr<CizilenBelge> CizimYap(Ilerleme* ilerleme) const = 0;
+  virtual std::string MetinYap(Ilerleme* ilerleme) const = 0;
+  virtual Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const = 0;
   virtual void AyarDegisti() {}
 
   YzcAyarlari ayar_;
@@ -66,13 +70,13 @@ class RaporBelgesi : public Belge {
   YzcDestegi Destek() const override;
   std::string Baslik() const override { return kagit_->baslik; }
   bool Bos() const override { return tablo_->Satirlar().empty(); }
-  std::unique_ptr<CizilenBelge> Cizim() const override;
-  std::string Metin() const override;
   std::string MetinUyarisi() const override;
   std::shared_ptr<const Rapor> Tablo() const override { return tablo_; }
-  Sonuc<std::string> Xlsx() const override;
 
  private:
+  std::unique_ptr<CizilenBelge> CizimYap(Ilerleme* ilerleme) const override;
+  std::string MetinYap(Ilerleme* ilerleme) const override;
+  Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const override;
   void AyarDegisti() override;
 
   std::shared_ptr<const Rapor> tablo_;
@@ -92,12 +96,12 @@ class YaprakliBelge final : public Belge {
   YzcDestegi Destek() const override { return {.baslik = true, .satir = true}; }
   std::string Baslik() const override { return yapraklar_.baslik; }
   bool Bos() const override { return yapraklar_.yapraklar.empty(); }
-  std::unique_ptr<CizilenBelge> Cizim() const override;
-  std::string Metin() const override;
   std::shared_ptr<const Rapor> Veri() const override;
-  Sonuc<std::string> Xlsx() const override;
 
  private:
+  std::unique_ptr<CizilenBelge> CizimYap(Ilerleme* ilerleme) const override;
+  std::string MetinYap(Ilerleme* ilerleme) const override;
+  Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const override;
   void AyarDegisti() override;
 
   YaprakBelgesi yapraklar_;
@@ -110,15 +114,15 @@ class YaprakliBelge final : public Belge {
 Rapor BasligiAyarla(Rapor rapor, const YzcAyarlari& ayar, const std::string& unvan, Tarih bugun);
 
 struct PdfCiktisi {
-  std::string baytlar;  // empty: nothing to print, or given up
+  std::string baytlar;  // empty: nothing to print
   std::string uyari;
 };
 
 // The pages of the way that the settings choose: of the text way, the text pages as they would print.
-std::unique_ptr<CizilenBelge> BelgeSayfalari(const Belge& belge);
+std::unique_ptr<CizilenBelge> BelgeSayfalari(const Belge& belge, Ilerleme* ilerleme = nullptr);
 Sonuc<PdfCiktisi> BelgePdf(const Belge& belge, Ilerleme* ilerleme = nullptr);
 
 // The text form as the bytes that a dot-matrix printer takes; empty without any.
-std::string BelgeHam(const Belge& belge);
+std::string BelgeHam(const Belge& belge, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

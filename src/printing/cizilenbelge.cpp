@@ -1,14 +1,16 @@
 #include "printing/cizilenbelge.h"
 
+#include "core/asama.h"
+
 namespace belvani {
 
-bool SayfalariCiz(const CizilenBelge& belge, Tuval& tuval, Ilerleme* ilerleme) {
+void SayfalariCiz(const CizilenBelge& belge, Tuval& tuval, Ilerleme* ilerleme) {
   const int sayfalar = belge.SayfaSayisi();
+  Asama asama(ilerleme, std::size_t(sayfalar));
   for (int no = 1; no <= sayfalar; ++no) {
-    if (ilerleme != nullptr && !ilerleme->Adim(std::size_t(no - 1), std::size_t(sayfalar))) return false;
+    asama.Adim();
     belge.SayfaCiz(no, tuval);
   }
-  return true;
 }
 
 }  // namespace belvani

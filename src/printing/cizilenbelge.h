@@ -19,7 +19,7 @@ class CizilenBelge {
   virtual std::string Uyari() const { return {}; }
 };
 
-// All pages. False when `ilerleme`, asked before each page, gave up.
-bool SayfalariCiz(const CizilenBelge& belge, Tuval& tuval, Ilerleme* ilerleme = nullptr);
+// All pages. `ilerleme` is asked before each; stopped it throws Vazgecilmis.
+void SayfalariCiz(const CizilenBelge& belge, Tuval& tuval, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

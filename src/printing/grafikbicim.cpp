@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "core/asama.h"
 #include "core/turkce.h"
 #include "printing/grafikyazici.h"
 
@@ -93,11 +94,13 @@ KagitBicimi Kagit(const Rapor& rapor, int gruplama) {
   return kagit;
 }
 
-std::vector<double> Enler(const Rapor& rapor, const GrafikDuzeni& duzen, const KagitBicimi& kagit) {
+std::vector<double> Enler(const Rapor& rapor, const GrafikDuzeni& duzen, const KagitBicimi& kagit, Ilerleme* ilerleme) {
   const YaziBicimi yazi = BirPunto(duzen, YaziKalinligi::Normal);
   const YaziBicimi kalin = BirPunto(duzen, YaziKalinligi::Kalin);
   std::vector<double> enler;
+  Asama asama(ilerleme, rapor.Kolonlar().size());
   for (std::size_t k = 0; k < rapor.Kolonlar().size(); ++k) {
+    asama.Adim();
     double en = IcerikEni(rapor, k, kagit.gruplama, yazi);
     for (const auto& baslik : kagit.basliklar[k]) en = std::max(en, MetinEni(baslik, kalin));
     enler.push_back(en);
@@ -158,14 +161,14 @@ double UstSatirEni(const UstSatir& satir, const YaziBicimi& yazi) {
 
 }  // namespace
 
-GrafikBicimi GrafikBicimle(const Rapor& rapor, const GrafikDuzeni& duzen) {
+GrafikBicimi GrafikBicimle(const Rapor& rapor, const GrafikDuzeni& duzen, Ilerleme* ilerleme) {
   GrafikBicimi bicim;
   bicim.kagit = Kagit(rapor, BinlikGruplama);
-  auto enler = Enler(rapor, duzen, bicim.kagit);
+  auto enler = Enler(rapor, duzen, bicim.kagit, ilerleme);
   const KagitYonu genis = duzen.yon.value_or(KagitYonu::Yatay);
   if (DoluPunto(genis, TabloEni(enler)) < std::min(duzen.punto, EnKucukPunto * EnDarYazi)) {
     bicim.kagit.gruplama = 0;
-    enler = Enler(rapor, duzen, bicim.kagit);
+    enler = Enler(rapor, duzen, bicim.kagit, ilerleme);
   }
   bicim.yon = YonSec(duzen, TabloEni(enler));
   YaziKur(bicim, duzen, TabloEni(enler));

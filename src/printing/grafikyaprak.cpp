@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "core/asama.h"
 #include "printing/grafikyazici.h"
 
 namespace belvani {
@@ -128,10 +129,10 @@ class YaprakKalemi {
 
 }  // namespace
 
-GrafikYapraklar::GrafikYapraklar(const YaprakBelgesi& belge, SayfadaYaprak sayfada)
+GrafikYapraklar::GrafikYapraklar(const YaprakBelgesi& belge, SayfadaYaprak sayfada, Ilerleme* ilerleme)
     : belge_(belge), sayfada_(int(sayfada)) {
   yazi_.punto = EnBuyukPunto;
-  const double oran = SigmaOrani(Olc());
+  const double oran = SigmaOrani(Olc(ilerleme));
   if (oran >= 1) return;
   yazi_.punto *= oran;
   basEtiketi_ *= oran;
@@ -139,10 +140,12 @@ GrafikYapraklar::GrafikYapraklar(const YaprakBelgesi& belge, SayfadaYaprak sayfa
 }
 
 // Widths of the letters set, in one walk over the slips; gives the lines of the tallest.
-double GrafikYapraklar::Olc() {
+double GrafikYapraklar::Olc(Ilerleme* ilerleme) {
   const std::size_t yanYana = BolunmeBul(sayfada_).yanYana;
   double enCokSatir = 0;
+  Asama asama(ilerleme, belge_.yapraklar.size());
   for (const auto& yaprak : belge_.yapraklar) {
+    asama.Adim();
     enCokSatir = std::max(enCokSatir, SatirSayisi(yaprak, yanYana));
     const auto bloklar = Bloklar(yaprak);
     for (std::size_t b = 0; b < BlokSayisi; ++b)

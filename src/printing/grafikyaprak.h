@@ -26,7 +26,7 @@ enum class SayfadaYaprak { Bir = 1, Iki = 2, Dort = 4 };
 // The document must outlive it.
 class GrafikYapraklar final : public CizilenBelge {
  public:
-  GrafikYapraklar(const YaprakBelgesi& belge, SayfadaYaprak sayfada);
+  GrafikYapraklar(const YaprakBelgesi& belge, SayfadaYaprak sayfada, Ilerleme* ilerleme = nullptr);
 
   int SayfaSayisi() const override;
   void SayfaCiz(int no, Tuval& tuval) const override;
@@ -41,7 +41,7 @@ class GrafikYapraklar final : public CizilenBelge {
   };
 
  private:
-  double Olc();
+  double Olc(Ilerleme* ilerleme);
   double SigmaOrani(double enCokSatir) const;
   void YaprakCiz(const Yaprak& yaprak, const Dikdortgen& yer, Tuval& tuval, Tuval& kalip) const;
   Dikdortgen Yer(int sira) const;

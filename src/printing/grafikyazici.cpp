@@ -154,8 +154,8 @@ class RaporKalemi {
 
 }  // namespace
 
-GrafikRapor::GrafikRapor(const Rapor& rapor, GrafikDuzeni duzen)
-    : rapor_(rapor), duzen_(std::move(duzen)), bicim_(GrafikBicimle(rapor, duzen_)) {
+GrafikRapor::GrafikRapor(const Rapor& rapor, GrafikDuzeni duzen, Ilerleme* ilerleme)
+    : rapor_(rapor), duzen_(std::move(duzen)), bicim_(GrafikBicimle(rapor, duzen_, ilerleme)) {
   sayfalar_ = SayfalaraBol(rapor_, bicim_.kagit, {.satirSayisi = bicim_.satirSayisi, .satirArasi = duzen_.satirArasi});
 }
 

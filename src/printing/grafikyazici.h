@@ -51,12 +51,12 @@ struct GrafikBicimi {
   bool okunur = true;  // false: the letters had to be smaller than the limit
 };
 
-GrafikBicimi GrafikBicimle(const Rapor& rapor, const GrafikDuzeni& duzen);
+GrafikBicimi GrafikBicimle(const Rapor& rapor, const GrafikDuzeni& duzen, Ilerleme* ilerleme = nullptr);
 
 // The pages of a report, which must outlive it.
 class GrafikRapor final : public CizilenBelge {
  public:
-  GrafikRapor(const Rapor& rapor, GrafikDuzeni duzen);
+  GrafikRapor(const Rapor& rapor, GrafikDuzeni duzen, Ilerleme* ilerleme = nullptr);
 
   int SayfaSayisi() const override;
   void SayfaCiz(int no, Tuval& tuval) const override;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/asama.h"
 #include "core/turkce.h"
 #include "printing/sayfalayici.h"
 #include "printing/yzccnt.h"
@@ -32,11 +33,13 @@ class MetinYazici {
   MetinYazici(const Rapor& rapor, const SayfaDuzeni& duzen)
       : rapor_(rapor), duzen_(duzen), bicim_(KagitBicimle(rapor, duzen)), kolonSayisi_(bicim_.enler.size()) {}
 
-  std::string Yaz() {
+  std::string Yaz(Ilerleme* ilerleme) {
     std::string metin;
     const auto sayfalar = SayfalaraBol(rapor_, bicim_, duzen_);
     sayfaSayisi_ = sayfalar.size();
+    Asama asama(ilerleme, sayfaSayisi_);
     for (const auto& sayfa : sayfalar) {
+      asama.Adim();
       if (sayfa.no > 1) metin += '\f';
       for (std::size_t i = 0; i < sayfa.satirlar.size(); ++i) {
         std::string satir = DenetimsizMetin(Satir(sayfa, i));
@@ -142,8 +145,8 @@ class MetinYazici {
 
 }  // namespace
 
-std::string MetinRaporu(const Rapor& rapor, const SayfaDuzeni& duzen) {
-  return MetinYazici(rapor, duzen).Yaz();
+std::string MetinRaporu(const Rapor& rapor, const SayfaDuzeni& duzen, Ilerleme* ilerleme) {
+  return MetinYazici(rapor, duzen).Yaz(ilerleme);
 }
 
 }  // namespace belvani

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/bildirim.h"
 #include "printing/kagit.h"
 #include "printing/rapor.h"
 
@@ -12,6 +13,6 @@ namespace belvani {
 // rules are box-drawing letters, "│" (byte 179 of the printer's code page), "─", "┬", "┼", "┴"; with blanks between the
 // columns a rule is a row of "-" under each. Numbers stand right, texts left and cut to the width by letters. Control
 // characters in texts are left out, for they would command the printer. A report without rows gives no text.
-std::string MetinRaporu(const Rapor& rapor, const SayfaDuzeni& duzen);
+std::string MetinRaporu(const Rapor& rapor, const SayfaDuzeni& duzen, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <fcntl.h>
 #include <filesystem>
+#include <future>
 #include <locale.h>
 #include <unistd.h>
 #include <utility>
 #include <vector>
 #include <xlsxwriter.h>
 
+#include "core/asama.h"
 #include "core/dosya.h"
 #include "core/turkce.h"
 #include "printing/zipdosya.h"
@@ -19,6 +21,7 @@ namespace {
 constexpr std::size_t SayfaAdiHarfi = 31;
 constexpr std::int32_t IlkGun = 61;  // 01.03.1900: from here on both calendars count alike
 constexpr std::size_t EnBuyukDosya = std::size_t(2) << 30;
+constexpr std::chrono::milliseconds AdimSuresi{20};
 constexpr const char* SayfaParcasi = "xl/worksheets/sheet1.xml";
 
 // The library prints numbers by the locale of the thread: a decimal comma would spoil the file.
@@ -115,25 +118,38 @@ struct XlsxKitap::Ic {
     if (kitap != nullptr) sayfa = workbook_add_worksheet(kitap, SayfaAdi(sayfaAdi).c_str());
   }
   ~Ic() {
-    Kapat();
+    Kapat(nullptr);
     std::error_code hata;
     if (!yol.empty()) std::filesystem::remove(yol, hata);
   }
 
-  lxw_error Kapat() {
+  // The library packs the whole file in one go, on a thread of its own, so that the watcher is asked meanwhile;
+  // stopped, the work ends when that does.
+  lxw_error Kapat(Ilerleme* ilerleme) {
     if (kitap == nullptr) return LXW_ERROR_CREATING_TMPFILE;
-    const NoktaliSayilar nokta;
     const SessizHata sessiz;
-    return workbook_close(std::exchange(kitap, nullptr));
+    const auto kapat = [son = std::exchange(kitap, nullptr)] {
+      const NoktaliSayilar nokta;
+      return workbook_close(son);
+    };
+    if (ilerleme == nullptr) return kapat();
+    auto kapanis = std::async(kapat);
+    for (Asama asama(ilerleme); kapanis.wait_for(AdimSuresi) == std::future_status::timeout;) asama.Adim();
+    return kapanis.get();
   }
 
   // The library does not look whether its own temporary files were written to the end, so the file is read back: every
   // part whole, and in the sheet as many cells as were written.
-  bool Saglam(const ZipDosyasi& dosya) const {
+  bool Saglam(const ZipDosyasi& dosya, Ilerleme* ilerleme) const {
+    Asama asama(ilerleme);
     std::size_t hucreler = 0;
     for (const auto& ad : dosya.Adlar()) {
       ParcaOkuru okur;
-      if (!dosya.Aktar(ad, [&](std::string_view blok) { okur.Al(blok); }) || !okur.Tam()) return false;
+      const auto al = [&](std::string_view blok) {
+        asama.Adim();
+        okur.Al(blok);
+      };
+      if (!dosya.Aktar(ad, al) || !okur.Tam()) return false;
       if (ad == SayfaParcasi) hucreler = okur.Hucreler();
     }
     return hucreler == hucreSayisi;
@@ -200,17 +216,17 @@ void XlsxKitap::Yaz(int satir, int kolon, const Hucre& hucre, Stil stil) {
   }
 }
 
-Sonuc<std::string> XlsxKitap::Bitir() {
+Sonuc<std::string> XlsxKitap::Bitir(Ilerleme* ilerleme) {
   if (ic_->sayfa == nullptr) return Kusur{"Tablo dosyası yazılamadı: geçici dosya açılamıyor"};
   if (ic_->kusur == LXW_ERROR_WORKSHEET_INDEX_OUT_OF_RANGE)
     return Kusur{"Tablo dosyası yazılamadı: bir sayfa en çok 1,048,576 satır alır"};
   if (ic_->kusur != LXW_NO_ERROR) return Kusur{"Tablo dosyası yazılamadı: bir hücre en çok 32,767 harf alır"};
   const Kusur yazilamadi{"Tablo dosyası yazılamadı: geçici dosyaların dizini dolu ya da yazılamıyor"};
-  if (ic_->Kapat() != LXW_NO_ERROR) return yazilamadi;
+  if (ic_->Kapat(ilerleme) != LXW_NO_ERROR) return yazilamadi;
   auto baytlar = DosyaOku(ic_->yol, EnBuyukDosya);
   if (!baytlar) return yazilamadi;
   const auto dosya = ZipDosyasi::Ac(*baytlar);
-  if (!dosya || !ic_->Saglam(*dosya)) return yazilamadi;
+  if (!dosya || !ic_->Saglam(*dosya, ilerleme)) return yazilamadi;
   return std::move(*baytlar);
 }
 

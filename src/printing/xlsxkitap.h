@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/bildirim.h"
 #include "core/sonuc.h"
 #include "printing/rapor.h"
 
@@ -51,9 +52,9 @@ class XlsxKitap {
   // March 1900, which a spreadsheet cannot count, is written as text.
   void Yaz(int satir, int kolon, const Hucre& hucre, Stil stil);
 
-  // The file, once. Fails when a row or a text is beyond what a sheet holds, or the system's temporary directory is
-  // full or missing; there is never half a file.
-  Sonuc<std::string> Bitir();
+  // The file, once; stopped it throws Vazgecilmis. Fails when a row or a text is beyond what a sheet holds, or the
+  // system's temporary directory is full or missing; there is never half a file.
+  Sonuc<std::string> Bitir(Ilerleme* ilerleme = nullptr);
 
  private:
   struct Ic;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/asama.h"
 #include "core/turkce.h"
 #include "printing/xlsxkitap.h"
 
@@ -27,14 +28,18 @@ class RaporSayfasi {
     }
   }
 
-  Sonuc<std::string> Yaz() {
+  Sonuc<std::string> Yaz(Ilerleme* ilerleme) {
     KolonEnleri();
     kitap_.YatayYazdir();
     Basi();
-    for (const auto& satir : rapor_.Satirlar()) SatirYaz(satir.hucreler, govde_);
+    Asama asama(ilerleme, rapor_.Satirlar().size());
+    for (const auto& satir : rapor_.Satirlar()) {
+      asama.Adim();
+      SatirYaz(satir.hucreler, govde_);
+    }
     if (rapor_.ToplamVar() && !rapor_.Satirlar().empty()) SatirYaz(rapor_.Toplam(), toplam_);
     Blok();
-    return kitap_.Bitir();
+    return kitap_.Bitir(ilerleme);
   }
 
  private:
@@ -113,10 +118,14 @@ class YaprakSayfasi {
         tutar_(kitap_.StilEkle({.sayiBicimi = XlsxSifirliBicim(belge.paraOndaligi)})),
         tarih_(kitap_.StilEkle({.sayiBicimi = XlsxTarihBicimi})) {}
 
-  Sonuc<std::string> Yaz() {
+  Sonuc<std::string> Yaz(Ilerleme* ilerleme) {
     for (int k = 0; k < 4; ++k) kitap_.KolonEni(k, k % 2 == 0 ? 28 : 16);
-    for (const auto& yaprak : belge_.yapraklar) YaprakYaz(yaprak);
-    return kitap_.Bitir();
+    Asama asama(ilerleme, belge_.yapraklar.size());
+    for (const auto& yaprak : belge_.yapraklar) {
+      asama.Adim();
+      YaprakYaz(yaprak);
+    }
+    return kitap_.Bitir(ilerleme);
   }
 
  private:
@@ -158,12 +167,12 @@ class YaprakSayfasi {
 
 }  // namespace
 
-Sonuc<std::string> XlsxRaporu(const Rapor& rapor) {
-  return RaporSayfasi(rapor).Yaz();
+Sonuc<std::string> XlsxRaporu(const Rapor& rapor, Ilerleme* ilerleme) {
+  return RaporSayfasi(rapor).Yaz(ilerleme);
 }
 
-Sonuc<std::string> XlsxYapraklari(const YaprakBelgesi& belge) {
-  return YaprakSayfasi(belge).Yaz();
+Sonuc<std::string> XlsxYapraklari(const YaprakBelgesi& belge, Ilerleme* ilerleme) {
+  return YaprakSayfasi(belge).Yaz(ilerleme);
 }
 
 }  // namespace belvani

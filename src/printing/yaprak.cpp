@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/asama.h"
 #include "core/sayi.h"
 #include "core/turkce.h"
 #include "printing/yzccnt.h"
@@ -33,8 +34,10 @@ struct BlokEni {
 
 class YaprakMetinYazici {
  public:
-  explicit YaprakMetinYazici(const YaprakBelgesi& belge) : belge_(belge) {
+  YaprakMetinYazici(const YaprakBelgesi& belge, Ilerleme* ilerleme) : belge_(belge) {
+    Asama asama(ilerleme, belge.yapraklar.size());
     for (const auto& yaprak : belge.yapraklar) {
+      asama.Adim();
       sol_.Genislet(yaprak.sol, belge.paraOndaligi);
       sag_.Genislet(yaprak.sag, belge.paraOndaligi);
     }
@@ -79,11 +82,13 @@ std::string YaprakMetni(const Hucre& hucre, int paraOndaligi) {
   return HucreMetni(hucre, {});
 }
 
-std::string MetinYapraklari(const YaprakBelgesi& belge, const SayfaDuzeni& duzen) {
-  const YaprakMetinYazici yazici(belge);
+std::string MetinYapraklari(const YaprakBelgesi& belge, const SayfaDuzeni& duzen, Ilerleme* ilerleme) {
+  const YaprakMetinYazici yazici(belge, ilerleme);
+  Asama asama(ilerleme, belge.yapraklar.size());
   std::string metin;
   int dolu = 0;  // lines of the open page
   for (const auto& yaprak : belge.yapraklar) {
+    asama.Adim();
     const auto satirlar = yazici.Satirlar(yaprak);
     const int boy = int(satirlar.size());
     if (dolu > 0 && dolu + YapraklarArasi + boy >= duzen.satirSayisi) {

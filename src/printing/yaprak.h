@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "core/bildirim.h"
 #include "printing/kagit.h"
 #include "printing/rapor.h"
 
@@ -71,6 +72,6 @@ std::string YaprakMetni(const Hucre& hucre, int paraOndaligi);
 
 // UTF-8 lines for fixed-width printers, as MetinRaporu: as many slips on a page as stay whole on it, at least one; the
 // last line of a page is free. `ek` is left out. No slips, no text.
-std::string MetinYapraklari(const YaprakBelgesi& belge, const SayfaDuzeni& duzen);
+std::string MetinYapraklari(const YaprakBelgesi& belge, const SayfaDuzeni& duzen, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

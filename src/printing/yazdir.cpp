@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/asama.h"
 #include "printing/belprnislem.h"
 #include "printing/doskod.h"
 #include "printing/metincizimi.h"
@@ -111,13 +112,16 @@ Sonuc<std::vector<YaziciBilgisi>> YaziciListesi(BaskiOrtami& ortam) {
 }
 
 Sonuc<YazdirmaSonucu> BelgeYazdir(const Belge& belge, BaskiOrtami& ortam, Bildirim& bildirim, Ilerleme* ilerleme) {
-  switch (YolSec(belge.Ayar())) {
-    case BaskiYolu::Yok:
-      return YazdirmaSonucu{};
-    case BaskiYolu::Metin:
-      return MetinYazdir({belge, belge.Metin(), ortam, bildirim, ilerleme});
-    case BaskiYolu::Grafik:
-      return GrafikYazdir(belge, ortam, ilerleme);
+  try {
+    switch (YolSec(belge.Ayar())) {
+      case BaskiYolu::Yok:
+        break;
+      case BaskiYolu::Metin:
+        return MetinYazdir({belge, belge.Metin(ilerleme), ortam, bildirim, ilerleme});
+      case BaskiYolu::Grafik:
+        return GrafikYazdir(belge, ortam, ilerleme);
+    }
+  } catch (const Vazgecilmis&) {
   }
   return YazdirmaSonucu{};
 }

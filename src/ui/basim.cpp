@@ -71,8 +71,8 @@ bool PdfKaydet(EkranBaglami& baglam, const Belge& belge) {
 bool MetinKaydet(EkranBaglami& baglam, const Belge& belge) {
   const auto yol = DosyaSor(baglam, belge.Baslik(), MetinFiltresi, ".prn");
   if (!yol) return false;
-  const auto baytlar =
-      UzunIs(baglam, QStringLiteral("Dosya hazırlanıyor…"), [&](Ilerleme&) { return BelgeHam(belge); });
+  const auto baytlar = UzunIs(baglam, QStringLiteral("Dosya hazırlanıyor…"),
+                              [&](Ilerleme& ilerleme) { return BelgeHam(belge, &ilerleme); });
   if (!baytlar || !Kaydet(baglam, *yol, *baytlar)) return false;
   if (const std::string uyari = belge.MetinUyarisi(); !uyari.empty()) baglam.bildirim.Uyari(uyari);
   return true;
@@ -81,8 +81,8 @@ bool MetinKaydet(EkranBaglami& baglam, const Belge& belge) {
 bool Onizle(EkranBaglami& baglam, const Belge& belge) {
   const std::string uyari = belge.Ayar().YzcDosMod ? belge.MetinUyarisi() : std::string();
   if (!uyari.empty()) baglam.bildirim.Uyari(uyari);
-  auto sayfalar =
-      UzunIs(baglam, QStringLiteral("Sayfalar hazırlanıyor…"), [&](Ilerleme&) { return BelgeSayfalari(belge); });
+  auto sayfalar = UzunIs(baglam, QStringLiteral("Sayfalar hazırlanıyor…"),
+                         [&](Ilerleme& ilerleme) { return BelgeSayfalari(belge, &ilerleme); });
   if (sayfalar) FormGoster(baglam, std::make_unique<onizleme>(baglam, std::move(*sayfalar)), FormModu::Modal);
   return false;
 }
@@ -128,7 +128,8 @@ void BelgeBas(EkranBaglami& baglam, Belge& belge, const BasimSozu& once) {
 }
 
 void BelgeExceleGonder(EkranBaglami& baglam, const Belge& belge) {
-  const auto baytlar = UzunIs(baglam, QStringLiteral("Tablo hazırlanıyor…"), [&](Ilerleme&) { return belge.Xlsx(); });
+  const auto baytlar =
+      UzunIs(baglam, QStringLiteral("Tablo hazırlanıyor…"), [&](Ilerleme& ilerleme) { return belge.Xlsx(&ilerleme); });
   if (!baytlar) return;
   if (!*baytlar) return baglam.bildirim.Uyari(baytlar->KusurMetni());
   TabloyuAc(baglam, belge.Baslik(), **baytlar);

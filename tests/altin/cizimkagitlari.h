@@ -6,7 +6,6 @@
 #include "altin/kagitlar.h"
 #include "altin/sayfametni.h"
 #include "bol.h"
-#include "core/session/firmabilgi.h"
 #include "declarations/aylikbildirge.h"
 #include "declarations/bildirgeformu.h"
 #include "declarations/formresimleri.h"
@@ -203,12 +202,12 @@ inline GirisBildirgesi GirisKagidi(OrnekSirket& o) {
   form.ek.eskiIl = "Bursa";
   form.ek.eskiIlce = "Gürsu";
   form.ek.vergiNo = "1234567890";
-  return {.form = form, .firma = FirmaOku(o.oturum), .sskDurumu = "01-Tüm Sigorta Kolları", .amblemPng = "amblem"};
+  return {.form = form, .firma = o.oturum.firma, .sskDurumu = "01-Tüm Sigorta Kolları", .amblemPng = "amblem"};
 }
 
 inline Ibraname CikisKagidi(OrnekSirket& o) {
   Ibraname kagit{.form = CikisBul(o.oturum, "005").value(),
-                 .firma = FirmaOku(o.oturum),
+                 .firma = o.oturum.firma,
                  .odemeler = {},
                  .tarih = Tarih(2008, 9, 30),
                  .paraonda = o.oturum.firma.paraonda};

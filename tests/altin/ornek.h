@@ -58,9 +58,7 @@ class OrnekSirket {
     return DosyaOku(yol).value();
   }
 
-  BelgeKaynagi Kaynak() {
-    return {.motor = oturum.depo.db.IcMotor(), .yasal = yasal, .paraonda = oturum.firma.paraonda};
-  }
+  BelgeKaynagi Kaynak() { return {.motor = oturum.depo.db.IcMotor(), .yasal = yasal, .firma = oturum.firma}; }
   DefterSecim Secim(const char* ilk, const char* son) const {
     DefterSecim secim;
     secim.yil = donem.yil;

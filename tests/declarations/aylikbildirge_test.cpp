@@ -89,7 +89,9 @@ TEST(AylikBildirge, ComparesWithTheMonthBefore) {
 
 TEST(AylikBildirge, ReversedPeriodAndRateOfDanger) {
   BildirgeSirketi s;
-  s.motor().Calistir("update firma set tersfirma = 1, tehlike = 1, sinif = 1");
+  s.o.firma.tersfirma = true;
+  s.o.firma.tehlike = 1;
+  s.o.firma.sinif = Tek(1);
   Sigortali p("1");
   p.sicil.girtar = Tarih(2009, 8, 14);
   s.Ekle(p);
@@ -169,7 +171,7 @@ TEST(AylikBildirge, AnUnreadableStoreIsTold) {
   ASSERT_FALSE(okunmadi);
   EXPECT_THAT(okunmadi.KusurMetni(), HasSubstr("Veritabanı işlemi yapılamadı"));
   EXPECT_TRUE(s.bildirge.Tamami().satirlar.empty());
-  s.motor().Calistir("delete from firma");
+  s.o.firmaVar = false;
   const auto acildi = s.bildirge.Ac();
   ASSERT_TRUE(acildi);
   ASSERT_EQ(acildi->size(), 1u);

@@ -117,7 +117,9 @@ TEST(Hedefler, EveryPaperHasTheSameAmountsOnEveryRoad) {
     YasalParametreler yasal;
     yasal.oranlar.DamgaOran = Tek(6);
     yasal.oranlar.AsgariUcret = Tutar(638.7);
-    const BelgeKaynagi kaynak{.motor = depo.db.IcMotor(), .yasal = yasal};
+    Firma firma;
+    firma.paraonda = 2;
+    const BelgeKaynagi kaynak{.motor = depo.db.IcMotor(), .yasal = yasal, .firma = firma};
     DefterSecim secim;
     secim.yil = Yil;
     secim.ay = Ay;

@@ -38,17 +38,17 @@ Okunan<Firma> FirmaDuzenle(Oturum& o) {
   return firma;
 }
 
-Firma FirmaOku(Oturum& o) {
-  return FirmaDuzenle(o).simdi;
-}
-
 Yazim<Firma> FirmaKaydet(Oturum& o, const Okunan<Firma>& firma) {
   Okunan<Firma> yazilan = firma;
   yazilan.simdi.kanun = KanunMetni(firma.simdi.kanun);
   yazilan.simdi.versiyon = firma.ilk ? firma.ilk->versiyon : o.Versiyon;
   const Yazim<Firma> yazilamadi{YazmaEngeli<Firma>(Kusur{"Firma Bilgileri Güncellenemedi"})};
   Veritabani& db = o.depo.db;
-  auto sonuc = db.Koru(yazilamadi, [&] { return Tablo<Firma>(db.IcMotor()).Yaz(yazilan); });
+  auto sonuc = db.Koru(yazilamadi, [&] {
+    auto yazim = Tablo<Firma>(db.IcMotor()).Yaz(yazilan);
+    if (!yazim) db.HataYaz(yazim.KusurMetni());
+    return yazim;
+  });
   if (!sonuc && sonuc.Kusuru().cakisma) return sonuc;
   o.firma = sonuc ? *sonuc : yazilan.simdi;
   if (sonuc) o.firmaVar = true;

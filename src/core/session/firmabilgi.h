@@ -17,10 +17,7 @@ namespace belvani {
 // What a new company starts with: this month and year, founded today, "Yeni Şirket (2009)", class "Personel".
 Firma YeniFirma();
 
-// The company's record, or the values of a new company when there is none.
-Firma FirmaOku(Oturum& o);
-
-// The same, to be edited.
+// The company's record, or the values of a new company when there is none, to be edited.
 Okunan<Firma> FirmaDuzenle(Oturum& o);
 
 // Saves the card; fails with "Firma Bilgileri Güncellenemedi", or with another user's change. `versiyon` belongs to the

@@ -34,12 +34,12 @@ FormBelgesi::FormBelgesi(YzcAyarlari ilk, std::vector<FormSayfasi> sayfalar, std
       sayfalar_(std::move(sayfalar)),
       metin_(std::move(metin)) {}
 
-std::unique_ptr<CizilenBelge> FormBelgesi::Cizim() const {
+std::unique_ptr<CizilenBelge> FormBelgesi::CizimYap(Ilerleme*) const {
   if (sayfalar_.empty()) return nullptr;
   return std::make_unique<FormCizimi>(sayfalar_);
 }
 
-Sonuc<std::string> FormBelgesi::Xlsx() const {
+Sonuc<std::string> FormBelgesi::XlsxYap(Ilerleme*) const {
   return Kusur{"Bu belge bir form; Excel'e gönderilemez."};
 }
 

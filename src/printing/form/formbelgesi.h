@@ -18,13 +18,14 @@ class FormBelgesi final : public Belge {
 
   std::string Baslik() const override { return Ayar().YzcBaslik; }
   bool Bos() const override { return sayfalar_.empty() && metin_.empty(); }
-  std::unique_ptr<CizilenBelge> Cizim() const override;
-  std::string Metin() const override { return metin_; }
-  Sonuc<std::string> Xlsx() const override;
 
   const std::vector<FormSayfasi>& Sayfalar() const { return sayfalar_; }
 
  private:
+  std::unique_ptr<CizilenBelge> CizimYap(Ilerleme* ilerleme) const override;
+  std::string MetinYap(Ilerleme*) const override { return metin_; }
+  Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const override;
+
   std::vector<FormSayfasi> sayfalar_;
   std::string metin_;
 };

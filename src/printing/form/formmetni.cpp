@@ -1,5 +1,6 @@
 #include "printing/form/formmetni.h"
 
+#include "core/asama.h"
 #include "core/turkce.h"
 #include "printing/form/metinformu.h"
 #include "printing/form/satirliform.h"
@@ -55,10 +56,14 @@ std::string FormMetni(const FormSayfasi& sayfa) {
   return form.Metin();
 }
 
-std::string FormMetni(const std::vector<FormSayfasi>& sayfalar) {
+std::string FormMetni(const std::vector<FormSayfasi>& sayfalar, Ilerleme* ilerleme) {
   std::vector<std::string> metinler;
   metinler.reserve(sayfalar.size());
-  for (const auto& sayfa : sayfalar) metinler.push_back(FormMetni(sayfa));
+  Asama asama(ilerleme, sayfalar.size());
+  for (const auto& sayfa : sayfalar) {
+    asama.Adim();
+    metinler.push_back(FormMetni(sayfa));
+  }
   return SayfalariBirlestir(metinler);
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/bildirim.h"
 #include "printing/form/formsayfasi.h"
 
 namespace belvani {
@@ -15,6 +16,6 @@ namespace belvani {
 std::string FormMetni(const FormSayfasi& sayfa);
 
 // The pages, parted by form feeds.
-std::string FormMetni(const std::vector<FormSayfasi>& sayfalar);
+std::string FormMetni(const std::vector<FormSayfasi>& sayfalar, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -205,11 +205,10 @@ void yaylik::Hesapla() {
   if (!Oku(form)) return;
   BildirgeSecimi& secim = bildirge_.Secim();
   secim = {form.yil, form.ay, form.belgeTuru, form.kanun, BelgeMahiyeti(form.mahiyet)};
-  const auto hesaplandi =
-      UzunIs(Baglam(), QStringLiteral("Bildirge hesaplanıyor…"), [this](Ilerleme&) { return bildirge_.Hesapla(); });
-  if (!hesaplandi) return;
+  const auto hesaplandi = UzunIs(Baglam(), QStringLiteral("Bildirge hesaplanıyor…"),
+                                 [this](Ilerleme& ilerleme) { return bildirge_.Hesapla(&ilerleme); });
   Goster();
-  if (!*hesaplandi) Bildir(hesaplandi->Kusuru());
+  if (hesaplandi && !*hesaplandi) Bildir(hesaplandi->Kusuru());
 }
 
 void yaylik::Goster() {
@@ -286,10 +285,10 @@ void yaylik::EBildirge() {
   if (*karar == AylikBildirge::Karar::Vazgecildi) return;
   const auto dosya = Baglam().dialoglar.DosyaKaydet("E-Bildirge Hazırlığı", bildirge_.XmlYolu(), "XML (*.xml)|*.xml");
   if (!dosya) return;
-  const auto yazim =
-      UzunIs(Baglam(), QStringLiteral("E-Bildirge hazırlanıyor…"), [&](Ilerleme&) { return bildirge_.XmlYaz(*dosya); });
-  if (!yazim) return;
-  const auto& yazildi = *yazim;
+  const auto yazildi = bildirge_.XmlYaz(*dosya, [this](const auto& is) {
+    return uzunis::Yurut(Baglam(), QStringLiteral("E-Bildirge hazırlanıyor…"),
+                         [&](Ilerleme& ilerleme) { is(&ilerleme); });
+  });
   if (!yazildi) return KusurGoster(yazildi.Kusuru());
   if (*yazildi == AylikBildirge::Karar::Devam && Bildirimi().Soru(AylikBildirge::GonderimSorusu))
     FormGoster(Baglam(), std::make_unique<intefrm>(Baglam(), *dosya));

@@ -16,6 +16,8 @@ namespace {
 using Cikti = AylikBildirge::Cikti;
 using CiktiKarari = AylikBildirge::CiktiKarari;
 
+const QString SayfalarHazirlaniyor = QStringLiteral("Sayfalar hazırlanıyor…");
+
 // Runs `is` on the paper's values.
 template <class Is>
 Durum KagitIle(EkranBaglami& baglam, AylikBildirge& bildirge, Cikti cikti, Is is) {
@@ -29,7 +31,8 @@ Durum KagitIle(EkranBaglami& baglam, AylikBildirge& bildirge, Cikti cikti, Is is
 bool BaskidanOnce(EkranBaglami& baglam, const BildirgeKagidi& kagit, YzcKarar karar, const YzcAyarlari& ayar) {
   if (karar != YzcKarar::Yazdir) return false;
   if (ayar.YzcDosMod) return !baglam.bildirim.Soru(MatbuUyarisi);
-  FormGoster(baglam, std::make_unique<yzckopy>(baglam, Ek9Resmi(kagit), ayar));
+  auto sayfalar = UzunIs(baglam, SayfalarHazirlaniyor, [&](Ilerleme& ilerleme) { return Ek9Resmi(kagit, &ilerleme); });
+  if (sayfalar) FormGoster(baglam, std::make_unique<yzckopy>(baglam, std::move(*sayfalar), ayar));
   return true;
 }
 
@@ -37,7 +40,10 @@ bool BaskidanOnce(EkranBaglami& baglam, const BildirgeKagidi& kagit, YzcKarar ka
 
 Durum BildirgeYazdir(EkranBaglami& baglam, AylikBildirge& bildirge) {
   return KagitIle(baglam, bildirge, Cikti::Kagit, [&](const BildirgeKagidi& kagit) {
-    BelgeBas(baglam, *BildirgeBelgesi(kagit),
+    const auto belge =
+        UzunIs(baglam, SayfalarHazirlaniyor, [&](Ilerleme& ilerleme) { return BildirgeBelgesi(kagit, &ilerleme); });
+    if (!belge) return Tamam();
+    BelgeBas(baglam, **belge,
              [&](YzcKarar karar, const YzcAyarlari& ayar) { return BaskidanOnce(baglam, kagit, karar, ayar); });
     return Tamam();
   });
@@ -46,10 +52,10 @@ Durum BildirgeYazdir(EkranBaglami& baglam, AylikBildirge& bildirge) {
 Durum BildirgeExceleGonder(EkranBaglami& baglam, AylikBildirge& bildirge) {
   return KagitIle(baglam, bildirge, Cikti::Tablo, [&](const BildirgeKagidi& kagit) -> Durum {
     const auto yapilan =
-        UzunIs(baglam, QStringLiteral("Tablo hazırlanıyor…"), [&](Ilerleme&) -> Sonuc<BildirgeTablosu> {
+        UzunIs(baglam, QStringLiteral("Tablo hazırlanıyor…"), [&](Ilerleme& ilerleme) -> Sonuc<BildirgeTablosu> {
           auto sablon = TabloSablonu(baglam.oturum);
           if (!sablon) return sablon.Kusuru();
-          return BildirgeTablosuYap(std::move(*sablon), kagit);
+          return BildirgeTablosuYap(std::move(*sablon), kagit, &ilerleme);
         });
     if (!yapilan) return Tamam();
     const auto& tablo = *yapilan;

@@ -76,15 +76,18 @@ BelgeSecimi* BelgeEkrani::Secilen() {
   return secim_.get();
 }
 
-BelgeKaynagi BelgeEkrani::Kaynak() const {
-  return {.motor = Oturumu().depo.db.IcMotor(), .yasal = parametreler_.yasal, .paraonda = Oturumu().firma.paraonda};
+BelgeKaynagi BelgeEkrani::Kaynak(Ilerleme* ilerleme) const {
+  return {.motor = Oturumu().depo.db.IcMotor(),
+          .yasal = parametreler_.yasal,
+          .firma = Oturumu().firma,
+          .ilerleme = ilerleme};
 }
 
 std::unique_ptr<Belge> BelgeEkrani::BelgeYap() {
   const BelgeSecimi* secim = Secilen();
   if (secim == nullptr) return nullptr;
   auto belge = UzunIs(Baglam(), QStringLiteral("Liste hazırlanıyor…"),
-                      [&](Ilerleme&) { return Koru([&] { return secim->BelgeYap(Kaynak()); }); });
+                      [&](Ilerleme& ilerleme) { return Koru([&] { return secim->BelgeYap(Kaynak(&ilerleme)); }); });
   if (!belge) return nullptr;
   if (*belge) return std::move(**belge);
   Bildir(belge->Kusuru());

@@ -22,7 +22,7 @@ class BelgeEkrani : public Form {
   BelgeSecimi* Secilen();
   // The paper of these choices; null when it cannot be made, which is told.
   std::unique_ptr<Belge> BelgeYap();
-  BelgeKaynagi Kaynak() const;
+  BelgeKaynagi Kaynak(Ilerleme* ilerleme = nullptr) const;
 
   void hideEvent(QHideEvent* olay) override;
 

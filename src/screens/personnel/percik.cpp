@@ -2,7 +2,6 @@
 
 #include <QGroupBox>
 
-#include "core/session/firmabilgi.h"
 #include "core/tables/kimlik.h"
 #include "core/tables/sicil.h"
 #include "ozluk/ibraname.h"
@@ -116,7 +115,7 @@ void percik::GeriAl() {
 void percik::Yazdir() {
   if (!EkrandakiMi() || !odemeler_->Bitir()) return;
   const auto belge = IbranameBelgesi({.form = Okunan(),
-                                      .firma = FirmaOku(Oturumu()),
+                                      .firma = Oturumu().firma,
                                       .odemeler = odemeler_->Oku(),
                                       .tarih = Tarih::Bugun(),
                                       .paraonda = Oturumu().firma.paraonda});

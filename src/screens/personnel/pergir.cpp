@@ -5,7 +5,6 @@
 #include <QGroupBox>
 
 #include "core/dosya.h"
-#include "core/session/firmabilgi.h"
 #include "ozluk/girisbildirgesi.h"
 #include "personnel/kart.h"
 #include "screens/personnel/pergiralanlar.h"
@@ -129,7 +128,7 @@ void pergir::Yazdir() {
   const auto& sskDurumu = dynamic_cast<QComboBox&>(*Denetim(sicil::sskdurum).Odak());
   const auto belge = GirisBildirgesiBelgesi(
       {.form = std::move(*form),
-       .firma = FirmaOku(Oturumu()),
+       .firma = Oturumu().firma,
        .sskDurumu = Utf8(sskDurumu.currentText()),
        .amblemPng = VeriYolu(Oturumu().DataPath).Alt(AmblemYeri).Oku(AmblemDosyasi).value_or("")});
   BelgeBas(Baglam(), *belge);

@@ -31,7 +31,7 @@ TEST_F(FirmaBilgi, CardKeepsTheVersionOfTheStore) {
   Kur();
   Sql("update firma set versiyon = 2003.6, verda = 'Konak'; alter table firma drop column epos");
   ASSERT_TRUE(SirketAc(o, "deneme", b));
-  Firma f = FirmaOku(o);  // of an older program: what it lacks reads as empty
+  Firma f = FirmaDuzenle(o).simdi;  // of an older program: what it lacks reads as empty
   EXPECT_EQ(f.verda + f.epos, "Konak");
   f.unvan = "Örgü Ltd.";
   f.kanun = "5510";
@@ -44,20 +44,20 @@ TEST_F(FirmaBilgi, CardKeepsTheVersionOfTheStore) {
   EXPECT_EQ(AnaPencereBasligi(o) + o.firma.ondeger, "Örgü Ltd. (Temmuz.2009)Memur");
   f.kanun = "05510";
   f.versiyon = Tek(2003.6);
-  EXPECT_EQ(FirmaOku(o), f);
+  EXPECT_EQ(FirmaDuzenle(o).simdi, f);
 
   Sql("delete from firma");
-  EXPECT_EQ(FirmaOku(o), YeniFirma());
+  EXPECT_EQ(FirmaDuzenle(o).simdi, YeniFirma());
   ASSERT_TRUE(Kaydet(f));
   f.versiyon = o.Versiyon;
-  EXPECT_EQ(FirmaOku(o), f);
+  EXPECT_EQ(FirmaDuzenle(o).simdi, f);
   Firma uzun;
   uzun.unvan = std::string(41, 'x');
   const auto kaydedilen = Kaydet(uzun);
   EXPECT_EQ(kaydedilen.KusurMetni(), "Firma Bilgileri Güncellenemedi");
   EXPECT_EQ(kaydedilen.Kusuru().derece, Derece::Hata);
   EXPECT_EQ(AnaPencereBasligi(o), uzun.unvan);  // the session stays written, here without a month
-  EXPECT_EQ(FirmaOku(o), f);
+  EXPECT_EQ(FirmaDuzenle(o).simdi, f);
 }
 
 TEST_F(FirmaBilgi, SubcontractorAndAccountant) {
@@ -90,7 +90,7 @@ TEST_F(FirmaBilgi, AnotherUsersCardIsNotOverwrittenAndTheSessionWaits) {
   EXPECT_EQ(o.firma.firmaay, ay);
   Uzlastir(f, *engel.Kusuru().cakisma, Galip::Benimki);
   ASSERT_TRUE(FirmaKaydet(o, f));
-  EXPECT_EQ(FirmaOku(o).verda + std::to_string(o.firma.firmaay), "Konak4");
+  EXPECT_EQ(FirmaDuzenle(o).simdi.verda + std::to_string(o.firma.firmaay), "Konak4");
 }
 
 TEST_F(FirmaBilgi, PathsOfTheInstallation) {

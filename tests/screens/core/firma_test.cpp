@@ -24,7 +24,7 @@ TEST(Firbil, ShowsTheRateAndSavesTheSession) {
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
   EXPECT_EQ(ortam.oturum.firma.unvan, "Işıl Örgü Ltd.");
   EXPECT_FALSE(form.isVisible());
-  const Firma firma = FirmaOku(ortam.oturum);
+  const Firma firma = FirmaDuzenle(ortam.oturum).simdi;
   EXPECT_EQ(firma.kanun, "00506");
   EXPECT_EQ(firma.tehlike, 2);
   EXPECT_EQ(AlanMetni(form, "tehlikeoran"), "4.2");
@@ -38,7 +38,7 @@ TEST(Firbil, StaysOpenWhileAnotherUsersChangeIsLookedAt) {
   ortam.ModaldaYap([&] { ortam.Bas(Qt::Key_Escape); });
   ortam.Bas(Qt::Key_F5);
   EXPECT_TRUE(form.isVisible());
-  EXPECT_EQ(FirmaOku(ortam.oturum).unvan + AlanMetni(form, "unvan"), "DokumaÖrgü");
+  EXPECT_EQ(FirmaDuzenle(ortam.oturum).simdi.unvan + AlanMetni(form, "unvan"), "DokumaÖrgü");
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
 }
 
@@ -52,7 +52,7 @@ TEST(Firbil, SavesEveryClassAsItWasStored) {
     auto& form = ortam.Ac<firbil>(ortam.parametreler);
     EXPECT_EQ(AlanMetni(form, "tehlikeoran"), TutarMetni(Tutar(TehlikeOrani(0, sinif).Sayi()), 1)) << sinif;
     ortam.Bas(Qt::Key_F5);
-    EXPECT_EQ(FirmaOku(ortam.oturum).sinif.Sayi(), sinif);
+    EXPECT_EQ(FirmaDuzenle(ortam.oturum).simdi.sinif.Sayi(), sinif);
   }
 }
 

@@ -33,7 +33,7 @@ struct BildirgeOrtami : EkranOrtami {
                                       {"kanun", "05510"},
                                       {"adr1", "Atatürk Cad. 5"}})
       firma.AlanYaz(alan, std::string(deger));
-    EXPECT_TRUE(firma.KayitYaz());
+    EXPECT_TRUE(firma.KayitYaz() && FirmaYukle(oturum));
     KisiEkle("001", "Işıl", "10000000146", 1000);
     KisiEkle("002", "Şükrü", "10000000214", 1500);
   }
