@@ -43,8 +43,9 @@ class Program : ProgramParcalari<BildirimKutusu, SistemDialoglari> {
     pencere.showMaximized();
     bool devam = true;
     QTimer::singleShot(0, &pencere, [&] {  // with the window behind its messages
-      devam = VersiyonKontrol(oturum, bildirim) ||
-              VeritabaniGuncelleGoster(ekran, parametreler) != GuncellemeSonucu::ProgramBitsin;
+      const Durum ayniVersiyon = VersiyonKontrol(oturum);
+      if (!ayniVersiyon) bildirim.KusuruGoster(ayniVersiyon.Kusuru());
+      devam = ayniVersiyon || VeritabaniGuncelleGoster(ekran, parametreler) != GuncellemeSonucu::ProgramBitsin;
       if (!devam) dongu.quit();
     });
     dongu.exec();

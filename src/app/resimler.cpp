@@ -108,7 +108,7 @@ class Resimler : ProgramParcalari<MetinBildirimi, DialogYok> {
       std::cerr << d.KusurMetni() << "\n";
       return false;
     }
-    if (!OturumAc(oturum, Utf8(arg_[2]), Utf8(arg_[3]), Utf8(arg_[4]), bildirim)) return false;
+    if (!OturumAc(oturum, Utf8(arg_[2]), Utf8(arg_[3]), Utf8(arg_[4]))) return false;
     parametreler.YasalYukle(oturum.DataPath);
     if (const Durum d = parametreler.firma.Yukle(); !d) std::cerr << d.KusurMetni() << "\n";
     return true;

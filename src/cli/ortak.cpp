@@ -31,7 +31,8 @@ std::unique_ptr<Oturum> Genel::SirketAc(const std::string& kod) {
   o->DataPath = DataPath();
   Basarmali(belvani::SirketAc(*o, kod, bildirim));
   if (!FirmaYukle(*o)) throw KomutHatasi{"İşyeri Tanımlamaları Yapılmamış"};
-  if (!VersiyonKontrol(*o, bildirim)) throw KomutHatasi{"Şirket bu programla açılamadı"};
+  if (const Durum ayni = VersiyonKontrol(*o); !ayni)
+    throw KomutHatasi{ayni.KusurMetni() + "\nŞirket bu programla açılamadı"};
   return o;
 }
 

@@ -14,7 +14,7 @@ struct OrnekSirket : EkranParcalari {
     if (std::system(komut.c_str()) != 0) throw std::runtime_error(komut);
     oturum.PrgPath = oturum.DataPath = dizin.Yol();
     EXPECT_TRUE(SirketAc(oturum, "ORNEK", bildirim));
-    EXPECT_TRUE(OturumAc(oturum, "ORNEK", "ornek", "ornek", bildirim));
+    EXPECT_TRUE(OturumAc(oturum, "ORNEK", "ornek", "ornek"));
     EXPECT_TRUE(parametreler.firma.Yukle());
     bildirim.cevap = false;  // nothing is saved again
   }

@@ -99,29 +99,28 @@ Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullani
   }
   o.FirmaKod = *ad;
   o.FirmaDizini = yer.Adres();
-  FirmaIlkKayit(o, bildirim);
+  if (const Durum yazildi = FirmaIlkKayit(o); !yazildi) bildirim.KusuruGoster(yazildi.Kusuru());
   return Tamam();
 }
 
-bool OturumAc(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
-              Bildirim& bildirim) {
+Sonuc<Kusurlar> OturumAc(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre) {
   Veritabani& db = o.depo.db;
   const auto kayit =
       db.Koru(std::optional<Peruser>(), [&] { return Tablo<Peruser>(db.IcMotor()).Bul(std::string(kullanici)); });
   if (!kayit || kayit->pasw != sifre) {
     o.depo.TablolariKapat(KapatmaKapsami::YalnizImlecler);
-    bildirim.Bilgi("Kullanıcı Adı veya Kullanıcı Şifresi\n           HATALI");
-    return false;
+    return KuralKusuru("Kullanıcı Adı veya Kullanıcı Şifresi\n           HATALI");
   }
+  Kusurlar kusurlar;
   o.FirmaKod = BuyukHarf(Kirp(sirket));
   o.Kullanici = kullanici;
   for (const auto& [anahtar, deger] : {std::pair("lastfirm", o.FirmaKod), std::pair("lastuser", o.Kullanici)})
-    if (const auto d = KullaniciAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.KusurMetni());
+    if (const auto d = KullaniciAyariYaz(anahtar, deger); !d) kusurlar.push_back(d.Kusuru());
   if (!FirmaYukle(o)) {
     o.firma.ondeger = KartsizFirma().ondeger;
-    bildirim.Bilgi("Firma Bilgilerini Vermeyi Unutmayınız.");
+    kusurlar.push_back(KuralKusuru("Firma Bilgilerini Vermeyi Unutmayınız."));
   }
-  return true;
+  return kusurlar;
 }
 
 Firma KartsizFirma() {
@@ -138,11 +137,12 @@ bool FirmaYukle(Oturum& o) {
   return o.firmaVar;
 }
 
-void FirmaIlkKayit(Oturum& o, Bildirim& bildirim) {
+Durum FirmaIlkKayit(Oturum& o) {
   Okunan<Firma> firma = FirmaDuzenle(o);
   firma.simdi = YeniFirma();
   firma.simdi.tersfirma = firma.ilk.value_or(Firma{}).tersfirma;
-  if (const auto yazilan = FirmaKaydet(o, firma); !yazilan) bildirim.Uyari(yazilan.KusurMetni());
+  if (const auto yazilan = FirmaKaydet(o, firma); !yazilan) return Kusur(yazilan.Kusuru());
+  return Tamam();
 }
 
 std::string VersiyonMetni(Tek versiyon) {
@@ -150,12 +150,11 @@ std::string VersiyonMetni(Tek versiyon) {
   return SayiMetni(std::round(versiyon.Sayi() * Olcek) / Olcek);
 }
 
-bool VersiyonKontrol(Oturum& o, Bildirim& bildirim) {
+Durum VersiyonKontrol(Oturum& o) {
   const Tek depoVersiyonu = o.depo.Versiyon();
-  if (depoVersiyonu == o.Versiyon) return true;
-  bildirim.Uyari("Program Versiyonu ile Database Versiyonu Farklı...\nProgram Versiyon:" + VersiyonMetni(o.Versiyon) +
-                 "\nDatabase Versiyon:" + VersiyonMetni(depoVersiyonu) + "\nUpdate Programını Çalıştırınız...");
-  return false;
+  if (depoVersiyonu == o.Versiyon) return Tamam();
+  return Kusur{"Program Versiyonu ile Database Versiyonu Farklı...\nProgram Versiyon:" + VersiyonMetni(o.Versiyon) +
+               "\nDatabase Versiyon:" + VersiyonMetni(depoVersiyonu) + "\nUpdate Programını Çalıştırınız..."};
 }
 
 }  // namespace belvani

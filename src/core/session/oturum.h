@@ -58,20 +58,20 @@ Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim);
 Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
                     Bildirim& bildirim);
 
-// Login to the open store. An unknown user and a wrong password are told in the same words, and the cursors close.
-bool OturumAc(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
-              Bildirim& bildirim);
+// Login to the open store. An unknown user and a wrong password are one fault in the same words, and the cursors close.
+// Gives what the user should hear of besides: settings that could not be kept, a company without its card.
+Sonuc<Kusurlar> OturumAc(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre);
 
 // The card of the open company into the session; false when there is none, and the session's stays as it was.
 bool FirmaYukle(Oturum& o);
 
 // The `firma` record of a new company.
-void FirmaIlkKayit(Oturum& o, Bildirim& bildirim);
+Durum FirmaIlkKayit(Oturum& o);
 
 // A version as users see it, at most four decimals: "2003.7".
 std::string VersiyonMetni(Tek versiyon);
 
-// True when program and store have the same version; otherwise the user is told of both.
-bool VersiyonKontrol(Oturum& o, Bildirim& bildirim);
+// Program and store must have the same version; the fault tells both.
+Durum VersiyonKontrol(Oturum& o);
 
 }  // namespace belvani

@@ -242,8 +242,9 @@ bool startfrm::SirketiAc() {
 void startfrm::Gir() {
   if (!tamam_->isEnabled()) return IlkBosAlanaGit();
   if (!SirketiAc()) return sirket_->setFocus(Qt::TabFocusReason);
-  if (OturumAc(baglam_.oturum, Sirket(), Utf8(kullanici_->text()), Utf8(sifre_->text()), baglam_.bildirim))
-    return accept();
+  const auto acilan = OturumAc(baglam_.oturum, Sirket(), Utf8(kullanici_->text()), Utf8(sifre_->text()));
+  for (const Kusur& kusur : acilan ? *acilan : Kusurlar{acilan.Kusuru()}) baglam_.bildirim.KusuruGoster(kusur);
+  if (acilan) return accept();
   sifre_->setFocus(Qt::TabFocusReason);
   sifre_->selectAll();
 }

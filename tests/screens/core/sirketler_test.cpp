@@ -145,7 +145,7 @@ TEST(DbupdateEkrani, BringsAnOldStoreUp) {
   });
   EXPECT_EQ(VeritabaniGuncelleGoster(ortam.ekran, ortam.parametreler), GuncellemeSonucu::Tamam);
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
-  EXPECT_TRUE(VersiyonKontrol(ortam.oturum, ortam.bildirim));
+  EXPECT_TRUE(VersiyonKontrol(ortam.oturum));
   EXPECT_TRUE(ortam.oturum.depo.db.AlanVarMi("brd", "brdkanun"));
 }
 
