@@ -40,7 +40,8 @@ void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
   auto sonuc = TopluHazirla(*o, *kosullar, girisler, &ilerleme);
   for (const Kusur& sorun : Degeri(sonuc).sorunlar)
     genel.bildirim.Uyari((sorun.derece == Derece::Hata ? "Hata: " : "Uyarı: ") +
-                         (sorun.kod.empty() ? "" : sorun.kod + ": ") + sorun.metin);
+                         (sorun.kod.empty() ? "" : sorun.kod + ": ") +
+                         (sorun.satir == 0 ? "" : "satır " + std::to_string(sorun.satir) + ": ") + sorun.metin);
   if (!sonuc->kaydedildi) throw KomutHatasi{"Bordro kaydedilmedi: girişlerde hata var"};
   Yaz("Bordro Hazırlık Tamamlandı: " + std::to_string(sonuc->kaydedilen) + " kişi kaydedildi, " +
       std::to_string(sonuc->donemDisi) + " kişi dönem dışı, " + std::to_string(sonuc->netsiz) + " kişi netsiz\n");

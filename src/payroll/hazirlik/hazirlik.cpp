@@ -31,7 +31,7 @@ class GirisListesi {
                      [](const auto* a, const auto* b) { return TurkceKarsilastir(a->kod, b->kod) < 0; });
     for (std::size_t i = 1; i < sirali_.size(); ++i)
       if (TurkceEsit(sirali_[i - 1]->kod, sirali_[i]->kod))
-        sorunlar.push_back({.metin = Satir(*sirali_[i]) + "bu kişi listede iki kez var", .kod = sirali_[i]->kod});
+        sorunlar.push_back(Sorun(*sirali_[i], "bu kişi listede iki kez var"));
     bulundu_.resize(sirali_.size());
   }
 
@@ -47,12 +47,14 @@ class GirisListesi {
   void BulunmayanlariYaz(Kusurlar& sorunlar) const {
     for (std::size_t i = 0; i < sirali_.size(); ++i)
       if (!bulundu_[i] && (i == 0 || !TurkceEsit(sirali_[i - 1]->kod, sirali_[i]->kod)))
-        sorunlar.push_back({.metin = Satir(*sirali_[i]) + "bu kodla personel yok", .kod = sirali_[i]->kod});
+        sorunlar.push_back(Sorun(*sirali_[i], "bu kodla personel yok"));
   }
 
-  static std::string Satir(const GirisSatiri& g) { return "satır " + std::to_string(g.satirNo) + ": "; }
-
  private:
+  static Kusur Sorun(const GirisSatiri& g, const char* metin) {
+    return {.metin = metin, .kod = g.kod, .satir = g.satirNo};
+  }
+
   std::vector<const GirisSatiri*> sirali_;
   std::vector<bool> bulundu_;
 };
@@ -135,7 +137,7 @@ class TopluIs {
 
   // What an entry list has wrong keeps the month from being saved; the rest is told and passed over.
   void Yaz(const KisiVerisi& kisi, const GirisSatiri* giris, const std::string& metin, AlanTutamagi alan = {}) {
-    sonuc_.sorunlar.push_back({.metin = (giris == nullptr ? "" : GirisListesi::Satir(*giris)) + metin,
+    sonuc_.sorunlar.push_back({.metin = metin,
                                .alan = alan,
                                .kod = kisi.sicil.kod,
                                .satir = giris == nullptr ? 0 : giris->satirNo,

@@ -117,15 +117,16 @@ TEST(TopluHazirla, TakesEnteredDaysAndAsksForTheReason) {
   const Durum durumlar[] = {{Giris("1", 20), "Eksik Gün Sebebini giriniz"},
                             {cok, "Bu Personel 30 Gün Çalışmış, Çalışma Gününü Fazla Girmişiniz (31 gün)"},
                             {listedeYok, "Eksik gün sebebi listede yok"},
-                            {Giris("9", 30), "satır 2: bu kodla personel yok"}};
+                            {Giris("9", 30), "bu kodla personel yok"}};
   for (const auto& d : durumlar) {
     const auto s = sirket.Hazirla(2009, 2, {d.giris});
     EXPECT_FALSE(s.kaydedildi);
     EXPECT_THAT(Metinler(s), ElementsAre(HasSubstr(d.neden)));
+    EXPECT_EQ(s.sorunlar[0].satir, d.giris.satirNo);
     EXPECT_TRUE(sirket.Kayitlar(2009, 2).empty()) << "one fault, and nothing is saved: " << d.neden;
   }
   EXPECT_THAT(Metinler(sirket.Hazirla(2009, 2, {Giris("3", 30), Giris("1", 30), Giris("3", 30)})),
-              ElementsAre("H 3: satır 2: bu kişi listede iki kez var"));
+              ElementsAre("H 3: bu kişi listede iki kez var"));
 }
 
 TEST(TopluHazirla, TellsWhatItCannotCalculateAndGoesOn) {
