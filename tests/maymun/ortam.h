@@ -66,8 +66,7 @@ struct MaymunOrtami {
 
   void Gir() {
     ToplayanBildirim sessiz;
-    if (!SirketAc(oturum, sirket.ad, sessiz) ||
-        !OturumAc(oturum, sirket.ad, sirket.kullanici, sirket.kullanici, sessiz))
+    if (!SirketAc(oturum, sirket.ad, sessiz) || !OturumAc(oturum, sirket.ad, sirket.kullanici, sirket.kullanici))
       throw std::runtime_error("no login to " + sirket.ad);
   }
   void PencereAc() {
