@@ -37,24 +37,19 @@ void ParametreleriKur(Genel& genel, const KurSecenekleri& s) {
   Yaz("Parametre İndirildi.. (" + s.donem + ")\n");
 }
 
-Json UyeJson(Tutar tutar) {
-  return OndalikMetin(tutar);
-}
-Json UyeJson(Tek oran) {
-  return oran.Sayi();
-}
+// A damaged row of the law's eras has no day.
 Json UyeJson(Tarih gun) {
   return gun.Metin();
+}
+template <class U>
+Json UyeJson(const U& deger) {
+  return DegerJson(UyeDegeri(deger));
 }
 template <class U, std::size_t N>
 Json UyeJson(const std::array<U, N>& dizi) {
   Json j = Json::array();
   for (const U& eleman : dizi) j.push_back(UyeJson(eleman));
   return j;
-}
-template <class U>
-Json UyeJson(const U& sayiVeyaMetin) {
-  return sayiVeyaMetin;
 }
 
 template <class Kayit>

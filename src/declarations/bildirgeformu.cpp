@@ -269,23 +269,14 @@ int Ayak(FormKurucu& f, int satir, const BildirgeKagidi& kagit, int sayfaSayisi,
   return satir + imzaSatiri;
 }
 
-FormSayfasi BildirgeBirinciSayfa(const BildirgeKagidi& kagit, const KagitSayfasi& sayfa, int sayfaSayisi) {
+FormSayfasi Sayfasi(const BildirgeKagidi& kagit, const KagitSayfasi& sayfa, int sayfaSayisi) {
+  const bool ilk = sayfa.no == 1;
   FormKurucu f = KagitFormu(KagitYonu::Yatay);
   BelgeKutusu(f, KagitUstSatiri, kagit, sayfa, sayfaSayisi);
-  int satir = IlkBas(f, KagitUstSatiri, kagit);
-  satir = ToplamBilgiler(f, satir, kagit);
+  int satir = (ilk ? IlkBas : DevamBasi)(f, KagitUstSatiri, kagit);
+  if (ilk) satir = ToplamBilgiler(f, satir, kagit);
   satir = Sigortalilar(f, satir, kagit, sayfa);
-  satir = Ayak(f, satir, kagit, sayfaSayisi, 7);
-  f.Kutu(SatirYeri(KagitSolu, KagitUstSatiri, En, satir - KagitUstSatiri), KagitKalinCizgi);
-  return f.Sayfa();
-}
-
-FormSayfasi BildirgeDevamSayfasi(const BildirgeKagidi& kagit, const KagitSayfasi& sayfa, int sayfaSayisi) {
-  FormKurucu f = KagitFormu(KagitYonu::Yatay);
-  BelgeKutusu(f, KagitUstSatiri, kagit, sayfa, sayfaSayisi);
-  int satir = DevamBasi(f, KagitUstSatiri, kagit);
-  satir = Sigortalilar(f, satir, kagit, sayfa);
-  satir = Ayak(f, satir, kagit, sayfaSayisi, 4);
+  satir = Ayak(f, satir, kagit, sayfaSayisi, ilk ? 7 : 4);
   f.Kutu(SatirYeri(KagitSolu, KagitUstSatiri, En, satir - KagitUstSatiri), KagitKalinCizgi);
   return f.Sayfa();
 }
@@ -300,7 +291,7 @@ std::vector<FormSayfasi> BildirgeSayfalari(const BildirgeKagidi& kagit, Ilerleme
   Asama asama(ilerleme, bolumler.size());
   for (const auto& bolum : bolumler) {
     asama.Adim();
-    sayfalar.push_back((bolum.no == 1 ? BildirgeBirinciSayfa : BildirgeDevamSayfasi)(kagit, bolum, sayfaSayisi));
+    sayfalar.push_back(Sayfasi(kagit, bolum, sayfaSayisi));
   }
   return sayfalar;
 }

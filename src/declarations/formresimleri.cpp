@@ -71,10 +71,6 @@ int Imzalar(FormKurucu& f, int satir, const Muhasebeci& m) {
 
 }  // namespace
 
-std::vector<FormSayfasi> Ek9Resmi(const BildirgeKagidi& kagit, Ilerleme* ilerleme) {
-  return BildirgeSayfalari(kagit, ilerleme);
-}
-
 std::vector<FormSayfasi> Ek10Resmi(const EksikGunFormu& form) {
   const std::size_t dolu = (form.kisiler.size() + EksikGunSayfaKisisi - 1) / EksikGunSayfaKisisi;
   const int sayfaSayisi = std::max(1, int(dolu));

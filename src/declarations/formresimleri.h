@@ -1,21 +1,15 @@
-// The forms that a user may go over before they are printed: drawn pages whose values he moves and edits, by the word
-// that selects them.
-//
-//   "ek9"   the monthly declaration       values named as in bildirgeformu.h
-//   "ek10"  the missing-days form         "isveren.unvan", "kisi3.tcno", "muhasebeci.adsoyad"
+// The missing-days form, "ek10": drawn pages whose values its user may move and edit before they are printed, by their
+// names: "isveren.unvan", "kisi3.tcno", "muhasebeci.adsoyad". The other form of this kind, "ek9", is the monthly
+// declaration (bildirgeformu.h).
 #pragma once
 
 #include <string>
 #include <vector>
 
-#include "core/bildirim.h"
 #include "declarations/bildirgekagidi.h"
 #include "printing/form/formsayfasi.h"
 
 namespace belvani {
-
-// All pages of the declaration; the first is the form itself.
-std::vector<FormSayfasi> Ek9Resmi(const BildirgeKagidi& kagit, Ilerleme* ilerleme = nullptr);
 
 // A person who was paid for fewer days than the month has.
 struct EksikGunKisisi {

@@ -9,6 +9,7 @@
 #include "documents/turetilensatir.h"
 #include "isyeri/isyerinumarasi.h"
 #include "payroll/hesap/kayittoplami.h"
+#include "payroll/hesap/satirlar.h"
 #include "printing/kolonlar.h"
 
 namespace belvani {
@@ -88,10 +89,6 @@ const Kolonlar<TuretilmisSatir> kesilenler{
         "Net Ödenen    ***  :", [](auto& s) { return s.net; }, Toplanir),
 };
 
-constexpr std::array<Tutar Brd::*, YardimSayisi> yardimlar{&Brd::yrd01, &Brd::yrd02, &Brd::yrd03, &Brd::yrd04,
-                                                           &Brd::yrd05, &Brd::yrd06, &Brd::yrd07, &Brd::yrd08,
-                                                           &Brd::yrd09, &Brd::yrd10, &Brd::yrd11};
-
 // What only the graphic and the spreadsheet form have room for.
 Kolonlar<TuretilmisSatir> EkAlanlar(const PusulaBaslik& baslik) {
   Kolonlar<TuretilmisSatir> alanlar{
@@ -106,9 +103,9 @@ Kolonlar<TuretilmisSatir> EkAlanlar(const PusulaBaslik& baslik) {
       Alan(
           "Kümüle G.V.Matrahı", [](auto& s) { return s.brd.devgvmatrah; }, Toplanir),
   };
-  for (std::size_t i = 0; i < yardimlar.size(); ++i)
+  for (std::size_t i = 0; i < YardimKolonlari.size(); ++i)
     alanlar.Ekle(Alan(
-        baslik.yardimAdlari[i].c_str(), [i](auto& s) { return s.brd.*yardimlar[i]; }, Toplanir));
+        baslik.yardimAdlari[i].c_str(), [i](auto& s) { return s.brd.*YardimKolonlari[i].uye; }, Toplanir));
   return alanlar + Kolonlar<TuretilmisSatir>{
                        Alan(
                            "Sendika", [](auto& s) { return s.brd.sendika; }, Toplanir),

@@ -18,9 +18,7 @@ constexpr int ImzaHarfi = 22;
 using Satirlar = std::vector<std::string>;
 
 std::string Cizgi(std::size_t harf) {
-  std::string cizgi;
-  for (std::size_t i = 0; i < harf; ++i) cizgi += "─";
-  return cizgi;
+  return Yinele("─", int(harf));
 }
 
 // Lines of at most `en` letters, broken at blanks where there are any.

@@ -13,8 +13,6 @@
 namespace belvani {
 namespace {
 
-constexpr int EnGenisKolon = 60;
-constexpr int KolonPayi = 2;
 constexpr std::size_t EnUzunAd = 80;  // letters; with Turkish ones well below what a file system takes
 
 std::string Bicim(const Hucre& deger, int paraOndaligi) {
@@ -115,7 +113,7 @@ Sonuc<std::string> excelkont::YeniKitap() const {
   for (const auto& [yer, hucre] : hucreler_)
     if (hucre.yazi == ExcelYazisi::Normal)
       enler[yer.second] = std::max(enler[yer.second], HucreHarfi(hucre.deger, ondalik));
-  for (const auto& [kolon, harf] : enler) kitap.KolonEni(kolon - 1, std::min(harf, EnGenisKolon) + KolonPayi);
+  for (const auto& [kolon, harf] : enler) kitap.KolonEni(kolon - 1, XlsxKolonEni(harf));
   for (const auto& [yer, hucre] : hucreler_)
     kitap.Yaz(yer.first - 1, yer.second - 1, hucre.deger,
               kitap.StilEkle({.sayiBicimi = Bicim(hucre.deger, ondalik), .koyu = hucre.yazi == ExcelYazisi::Koyu}));

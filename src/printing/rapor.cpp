@@ -30,11 +30,7 @@ std::int64_t Topla(std::int64_t a, std::int64_t b) {
 }  // namespace
 
 std::string DuzMetin(const Hucre& hucre) {
-  if (const auto* metin = std::get_if<std::string>(&hucre)) return *metin;
-  if (const auto* tam = std::get_if<std::int64_t>(&hucre)) return std::to_string(*tam);
-  if (const auto* tutar = std::get_if<Tutar>(&hucre)) return OndalikMetin(*tutar);
-  if (const auto* tarih = std::get_if<Tarih>(&hucre)) return tarih->Metin();
-  return {};
+  return std::visit([](const auto& deger) { return MetinDegeri(deger); }, hucre);
 }
 
 std::string TarihMetni(Tarih tarih, KolonTuru tur) {

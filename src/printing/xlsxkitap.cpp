@@ -238,6 +238,11 @@ std::string XlsxSifirliBicim(int ondalik) {
   return ondalik > 0 ? "#,##0." + std::string(std::size_t(ondalik), '0') : "#,##0";
 }
 
+int XlsxKolonEni(int harf) {
+  constexpr int enGenis = 60, pay = 2;
+  return std::min(harf, enGenis) + pay;
+}
+
 XlsxStili KolonStili(const RaporKolonu& kolon) {
   switch (kolon.tur) {
     case KolonTuru::Tam:

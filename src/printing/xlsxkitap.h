@@ -61,6 +61,9 @@ class XlsxKitap {
   std::unique_ptr<Ic> ic_;
 };
 
+// The width of a column whose longest cell has so many letters.
+int XlsxKolonEni(int harf);
+
 // How a cell of a column looks in a spreadsheet.
 XlsxStili KolonStili(const RaporKolonu& kolon);
 

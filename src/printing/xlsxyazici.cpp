@@ -9,9 +9,6 @@
 namespace belvani {
 namespace {
 
-constexpr int EnGenisKolon = 60;
-constexpr int KolonPayi = 2;
-
 class RaporSayfasi {
  public:
   explicit RaporSayfasi(const Rapor& rapor)
@@ -50,7 +47,7 @@ class RaporSayfasi {
       const int enAz = TarihMi(kolon.tur) ? TarihHarfi(KolonTuru::Tarih) : 0;
       const int gerekli = std::max(enAz, rapor_.GerekliEn(k, BinlikGruplama));
       const int en = std::max({gerekli, int(HarfSayisi(kolon.kisaBaslik)), kolon.tur == KolonTuru::Bos ? kolon.en : 0});
-      enler_.push_back(std::min(en, EnGenisKolon) + KolonPayi);
+      enler_.push_back(XlsxKolonEni(en));
       kitap_.KolonEni(int(k), enler_.back());
     }
   }

@@ -44,10 +44,6 @@ double HarfEni(const QFontMetricsF& olcu) {
   return olcu.horizontalAdvance(harfler) / double(harfler.size());
 }
 
-bool Var(std::size_t adet, int sira) {
-  return sira >= 0 && std::size_t(sira) < adet;
-}
-
 }  // namespace
 
 xgrid::xgrid(QWidget* ust) : QTableView(ust), model_(new xgridModel(this)), toplamOrnegi_(new QLabel(this)) {
@@ -74,149 +70,6 @@ xgrid::xgrid(QWidget* ust) : QTableView(ust), model_(new xgridModel(this)), topl
   Goster();
 }
 
-void xgrid::RaporKoy(std::shared_ptr<const Rapor> rapor) {
-  dolgu_.reset();
-  rapor_ = std::move(rapor);
-  Goster();
-}
-
-const Rapor& xgrid::Belgesi() const {
-  if (rapor_ == nullptr) rapor_ = std::make_shared<const Rapor>(dolgu_->Yap());
-  return *rapor_;
-}
-
-void xgrid::Reset() {
-  dolgu_.emplace();
-  rapor_ = nullptr;
-  dolduruluyor_ = true;
-  satir_ = -1;
-  kolon_ = 0;
-}
-
-// Null for a report that came as a whole: that stays as it is.
-RaporDolgusu* xgrid::Doldurulan() {
-  if (!dolgu_) return nullptr;
-  if (!dolduruluyor_) {
-    satir_ = SimdikiSatir();
-    kolon_ = std::max(CurrentColon(), 0);
-  }
-  dolduruluyor_ = true;
-  rapor_ = nullptr;
-  return &*dolgu_;
-}
-
-void xgrid::AddColons(const QString& baslik, DolguTuru tur, const QString& ikinci, int bicim, int en) {
-  if (auto* dolgu = Doldurulan())
-    dolgu->KolonEkle({.baslik = Utf8(baslik), .ikinciBaslik = Utf8(ikinci), .tur = tur, .bicim = bicim, .en = en});
-}
-
-void xgrid::NewPage() {
-  if (auto* dolgu = Doldurulan()) dolgu->SayfaAc();
-}
-
-void xgrid::CreateRow(GridSatiri tur, int adet) {
-  if (tur == GridSatiri::SayfaBasi) NewPage();
-  auto* dolgu = Doldurulan();
-  for (int i = 0; dolgu != nullptr && i < adet; ++i) dolgu->SatirAc();
-  if (dolgu == nullptr || adet < 1) return;
-  satir_ = int(dolgu->Satirlar().size()) - 1;
-  kolon_ = 0;
-}
-
-void xgrid::Add(int kolon, const Hucre& deger) {
-  auto* dolgu = Doldurulan();
-  if (dolgu != nullptr && satir_ >= 0 && kolon >= 0 && dolgu->Koy(std::size_t(satir_), std::size_t(kolon), deger))
-    kolon_ = kolon;
-}
-
-void xgrid::AddbyName(const QString& baslik, const Hucre& deger) {
-  if (!dolgu_) return;
-  const auto& kolonlar = dolgu_->Kolonlar();
-  const auto k = std::ranges::find(kolonlar, Utf8(baslik), &DolguKolonu::baslik);
-  if (k != kolonlar.end()) Add(int(k - kolonlar.begin()), deger);
-}
-
-void xgrid::data(int sayfa, int satir, int kolon, const Hucre& deger) {
-  const int no = SatirNo(sayfa, satir);
-  if (auto* dolgu = no >= 0 && kolon >= 0 ? Doldurulan() : nullptr)
-    dolgu->Koy(std::size_t(no), std::size_t(kolon), deger);
-}
-
-void xgrid::Basliklar(const QString& baslik, const QStringList& ustSatirlar) {
-  auto* dolgu = Doldurulan();
-  if (dolgu == nullptr) return;
-  dolgu->baslik = Utf8(baslik);
-  dolgu->ustSatirlar.clear();
-  for (const QString& satir : ustSatirlar) dolgu->ustSatirlar.push_back(Utf8(satir));
-}
-
-void xgrid::Refresh() {
-  Belgesi();
-  Goster();
-}
-
-const std::vector<RaporSatiri>& xgrid::Satirlar() const {
-  return dolgu_ ? dolgu_->Satirlar() : rapor_->Satirlar();
-}
-
-const std::vector<int>& xgrid::SayfaBaslari() const {
-  return dolgu_ ? dolgu_->SayfaBaslari() : model_->SayfaBaslari();
-}
-
-int xgrid::SatirNo(int sayfa, int satir) const {
-  const auto& baslar = SayfaBaslari();
-  if (!Var(baslar.size(), sayfa) || satir < 0) return -1;
-  const int son = Var(baslar.size(), sayfa + 1) ? baslar[std::size_t(sayfa) + 1] : int(Satirlar().size());
-  const int no = baslar[std::size_t(sayfa)] + satir;
-  return no < son ? no : -1;
-}
-
-Hucre xgrid::data(int sayfa, int satir, int kolon) const {
-  const int no = SatirNo(sayfa, satir);
-  if (no < 0 || !Var(Satirlar()[std::size_t(no)].hucreler.size(), kolon)) return Null{};
-  return Satirlar()[std::size_t(no)].hucreler[std::size_t(kolon)];
-}
-
-int xgrid::SimdikiSatir() const {
-  return dolduruluyor_ ? satir_ : model_->Kayit(currentIndex().row());
-}
-
-int xgrid::CurrentPage() const {
-  if (!dolduruluyor_) return model_->Sayfa();
-  const auto& baslar = SayfaBaslari();
-  return std::max(int(std::ranges::upper_bound(baslar, satir_) - baslar.begin()) - 1, 0);
-}
-
-int xgrid::CurrentRow() const {
-  const int satir = SimdikiSatir();
-  return satir < 0 ? -1 : satir - SayfaBaslari()[std::size_t(CurrentPage())];
-}
-
-void xgrid::KonumaGit(int sayfa, int satir, int kolon) {
-  const int no = SatirNo(sayfa, satir);
-  if (no < 0 || !Var(Satirlar()[std::size_t(no)].hucreler.size(), kolon)) return;
-  if (!dolduruluyor_) return KaydaGit(no, kolon);
-  satir_ = no;
-  kolon_ = kolon;
-}
-
-QString xgrid::GetBaslikPrint(int kolon) const {
-  const auto& kolonlar = Belgesi().Kolonlar();
-  return Var(kolonlar.size(), kolon) ? Yazi(kolonlar[std::size_t(kolon)].baslik) : QString();
-}
-
-QString xgrid::GetFormatData(int satir, int kolon) const {
-  const Rapor& rapor = Belgesi();
-  if (!Var(rapor.Satirlar().size(), satir) || !Var(rapor.Kolonlar().size(), kolon)) return {};
-  return Yazi(HucreMetni(rapor.Satirlar()[std::size_t(satir)].hucreler[std::size_t(kolon)],
-                         rapor.Kolonlar()[std::size_t(kolon)]));
-}
-
-QString xgrid::UstSatirMetni(std::size_t sira) const {
-  const auto& satirlar = Belgesi().ustSatirlar;
-  return sira < satirlar.size() ? Yazi(UstEkranMetni(satirlar[sira])) : QString();
-}
-
 void xgrid::Goster() {
   dolduruluyor_ = false;
   QStringList basliklar;
@@ -228,10 +81,11 @@ void xgrid::Goster() {
 }
 
 QString xgrid::SayfaBasligi(int kolon) const {
-  const auto k = std::size_t(kolon);
-  if (!dolgu_) return IkiyeBol(Yazi(rapor_->Kolonlar()[k].kisaBaslik), EnCokHarf(*rapor_, kolon));
-  const DolguKolonu& tanim = dolgu_->Kolonlar()[k];
-  return tanim.ikinciBaslik.empty() ? Yazi(tanim.baslik) : Yazi(tanim.ikinciBaslik + "\n" + tanim.baslik);
+  const RaporKolonu& tanim = rapor_->Kolonlar()[std::size_t(kolon)];
+  if (!dolgu_) return IkiyeBol(Yazi(tanim.kisaBaslik), EnCokHarf(*rapor_, kolon));
+  QString baslik = Yazi(tanim.baslik);
+  if (tanim.baslik != tanim.kisaBaslik) baslik[baslik.size() - Yazi(tanim.kisaBaslik).size() - 1] = '\n';
+  return baslik;
 }
 
 // Colours as the style has them; rows as high and columns as wide as the fonts need: by counts of letters, for there

@@ -25,7 +25,7 @@
 #include <functional>
 
 #include "core/session/gorunum.h"
-#include "printing/rapordolgusu.h"
+#include "printing/rapor.h"
 #include "ui/xgridmodel.h"
 
 class QComboBox;
@@ -35,6 +35,9 @@ class QLineEdit;
 namespace belvani {
 
 enum class GridSatiri { Normal = 0, SayfaBasi = 1 };
+
+// The numbers are those of the lists' declarations.
+enum class DolguTuru : std::int16_t { Metin = 0, Sayi = 1, Tarih = 2, ToplananSayi = 3 };
 
 class xgrid : public QTableView {
   Q_OBJECT
@@ -48,8 +51,10 @@ class xgrid : public QTableView {
   // The document, with what was filled since the last Refresh. Throws TutarTasmasi when a sum of that leaves the range.
   const Rapor& Belgesi() const;
 
-  // Filling. The captions stand one above the other, `ikinci` on top; `bicim` are the decimals of a number or the form
-  // of a date (DolguKolonu); `en` letters on paper, 0 for what is needed.
+  // Filling. The captions stand one above the other, `ikinci` on top; `bicim` are the decimals of a number (0 to 4) or
+  // the form of a date (0 "dd MMMM yyyy", 1 "dd.MM.yyyy", 2 "dd.MM.yy", 3 "dd.MM", 4 "dd", 5 "MM"; any other is 1);
+  // `en` letters on paper, 0 for what is needed. A cell takes what its column can show: a number column amounts, whole
+  // numbers and their texts, a date column days and their texts. Anything else leaves it empty.
   void Reset();
   void AddColons(const QString& baslik, DolguTuru tur, const QString& ikinci = {}, int bicim = 0, int en = 0);
   void NewPage();
@@ -127,10 +132,20 @@ class xgrid : public QTableView {
   bool eventFilter(QObject* nesne, QEvent* olay) override;
 
  private:
-  // Filling.
-  RaporDolgusu* Doldurulan();
+  // Filling: a report on its way.
+  struct Dolgu {
+    std::vector<RaporKolonu> kolonlar;
+    std::vector<RaporSatiri> satirlar;
+    std::string baslik;
+    std::vector<UstSatir> ustSatirlar;
+    bool yeniSayfa = false;  // the next row starts a page; a page without rows does not come about
+
+    Rapor Yap() const;
+  };
+  Dolgu* Doldurulan();
+  void Koy(Dolgu& dolgu, int satir, int kolon, const Hucre& deger) const;
   const std::vector<RaporSatiri>& Satirlar() const;
-  const std::vector<int>& SayfaBaslari() const;
+  std::vector<int> SayfaBaslari() const;  // first row of each page
   int SatirNo(int sayfa, int satir) const;
   int SimdikiSatir() const;
   void KonumaGit(int sayfa, int satir, int kolon);
@@ -150,7 +165,7 @@ class xgrid : public QTableView {
 
   xgridModel* model_;
   QLabel* toplamOrnegi_;                        // never shown: what the style gives to sums
-  std::optional<RaporDolgusu> dolgu_;           // nothing when the report came as a whole
+  std::optional<Dolgu> dolgu_;                  // nothing when the report came as a whole
   mutable std::shared_ptr<const Rapor> rapor_;  // null while the filling is ahead of it
   bool dolduruluyor_ = true;                    // between the first change and Refresh, on the row and column below
   int satir_ = -1;                              // of the whole list

@@ -179,14 +179,14 @@ inline std::vector<FormSayfasi> EksikGunSayfalari(OrnekSirket& o) {
 
 inline Kagitlar BildirgeKagitlari() {
   constexpr const char* kanun = "05510";
-  return {
-      {IkinciDonem, "bildirge.cizim.txt",
-       [](OrnekSirket& o) { return CizimMetni(BildirgeSayfalari(BildirgeKagidiYap(o, kanun))); }},
-      {SonAy, "bildirge-alanlar.txt", [](OrnekSirket& o) { return AlanMetni(Ek9Resmi(BildirgeKagidiYap(o, kanun))); }},
-      {SonAy, "bildirge-kalabalik.metin",
-       [](OrnekSirket& o) { return BildirgeYazdir(Kalabalik(BildirgeKagidiYap(o, kanun), 34)); }},
-      {SonAy, "eksikgun.cizim.txt", [](OrnekSirket& o) { return CizimMetni(EksikGunSayfalari(o)); }},
-      {SonAy, "eksikgun-alanlar.txt", [](OrnekSirket& o) { return AlanMetni(EksikGunSayfalari(o)); }}};
+  return {{IkinciDonem, "bildirge.cizim.txt",
+           [](OrnekSirket& o) { return CizimMetni(BildirgeSayfalari(BildirgeKagidiYap(o, kanun))); }},
+          {SonAy, "bildirge-alanlar.txt",
+           [](OrnekSirket& o) { return AlanMetni(BildirgeSayfalari(BildirgeKagidiYap(o, kanun))); }},
+          {SonAy, "bildirge-kalabalik.metin",
+           [](OrnekSirket& o) { return BildirgeYazdir(Kalabalik(BildirgeKagidiYap(o, kanun), 34)); }},
+          {SonAy, "eksikgun.cizim.txt", [](OrnekSirket& o) { return CizimMetni(EksikGunSayfalari(o)); }},
+          {SonAy, "eksikgun-alanlar.txt", [](OrnekSirket& o) { return AlanMetni(EksikGunSayfalari(o)); }}};
 }
 
 // ---- a person's papers

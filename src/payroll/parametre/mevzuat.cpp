@@ -94,16 +94,21 @@ void RakamlariOku(const Json& donem, Lira lira, Kayit& kayit) {
   });
 }
 
+// The last bracket has no limit.
+void DilimOku(const Json& dilim, const char* ad, Lira lira, Tutar& limit) {
+  limit = Uye(dilim, ad).is_null() ? AcikDilimLimiti(lira) : Para(dilim, ad, lira);
+}
+void DilimOku(const Json& dilim, const char* ad, Lira, Tek& oran) {
+  oran = Oran(dilim, ad);
+}
+
 GvTablosu GvOku(const Json& tarife, Lira lira) {
   const Json& dilimler = Dizi(tarife, "dilimler");
   GvTablosu tablo;
   if (dilimler.empty() || dilimler.size() > tablo.GvLimit.size())
     throw MevzuatKusuru{"gelir vergisi tarifesi 1 ile 8 dilim arasında olmalı"};
-  for (std::size_t i = 0; i < dilimler.size(); ++i) {
-    const bool acik = Uye(dilimler[i], "limit").is_null();
-    tablo.GvLimit[i] = acik ? AcikDilimLimiti(lira) : Para(dilimler[i], "limit", lira);
-    tablo.GvOran[i] = Oran(dilimler[i], "oran");
-  }
+  for (std::size_t i = 0; i < dilimler.size(); ++i)
+    HerUye<GvTablosu>([&](const auto& uye) { DilimOku(dilimler[i], uye.mevzuat, lira, (tablo.*uye.uye)[i]); });
   return tablo;
 }
 

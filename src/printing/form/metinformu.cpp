@@ -4,6 +4,7 @@
 #include <cassert>
 
 #include "core/turkce.h"
+#include "printing/metincizimi.h"
 
 namespace belvani {
 namespace {
@@ -38,11 +39,7 @@ std::string_view DuzHarf(std::string_view harf) {
 }  // namespace
 
 MetinFormu::MetinFormu(std::string_view sablon, const std::vector<std::string_view>& kutular) {
-  for (std::size_t bas = 0; bas <= sablon.size();) {
-    const std::size_t son = std::min(sablon.find('\n', bas), sablon.size());
-    satirlar_.push_back(Harfler(sablon.substr(bas, son - bas)));
-    bas = son + 1;
-  }
+  for (const std::string_view satir : Parcala(sablon, '\n')) satirlar_.push_back(Harfler(satir));
   auto kutu = kutular.begin();
   for (int satir = 1; satir <= int(satirlar_.size()); ++satir) {
     auto& harfler = satirlar_[std::size_t(satir) - 1];

@@ -49,7 +49,7 @@ class MetinFormu {
 
  private:
   struct Isaret {
-    std::string ad;
+    std::string ad = {};
     MetinYeri yer;  // `en` cells, where they are cells
     int adim = 1;   // from cell to cell
     bool dolu = false;

@@ -3,7 +3,6 @@
 #include "core/store/koru.h"
 #include "declarations/bildirgeformu.h"
 #include "declarations/bildirgetablosu.h"
-#include "declarations/formresimleri.h"
 #include "printing/yazdir.h"
 #include "screens/declarations/yzckopy.h"
 #include "ui/basim.h"
@@ -31,7 +30,8 @@ Durum KagitIle(EkranBaglami& baglam, AylikBildirge& bildirge, Cikti cikti, Is is
 bool BaskidanOnce(EkranBaglami& baglam, const BildirgeKagidi& kagit, YzcKarar karar, const YzcAyarlari& ayar) {
   if (karar != YzcKarar::Yazdir) return false;
   if (ayar.YzcDosMod) return !baglam.bildirim.Soru(MatbuUyarisi);
-  auto sayfalar = UzunIs(baglam, SayfalarHazirlaniyor, [&](Ilerleme& ilerleme) { return Ek9Resmi(kagit, &ilerleme); });
+  auto sayfalar =
+      UzunIs(baglam, SayfalarHazirlaniyor, [&](Ilerleme& ilerleme) { return BildirgeSayfalari(kagit, &ilerleme); });
   if (sayfalar) FormGoster(baglam, std::make_unique<yzckopy>(baglam, std::move(*sayfalar), ayar));
   return true;
 }
