@@ -22,9 +22,9 @@ void KisiListesi::Ekle(KisiSatiri kisi) {
   kisiler_.push_back(std::move(kisi));
 }
 
-std::optional<KisiListesi> KisiListesi::Oku(Oturum& o, Bildirim& bildirim) {
-  auto liste = o.depo.db.Koru(std::optional<KisiListesi>(), [&] {
-    std::optional<KisiListesi> okunan(std::in_place);
+Sonuc<KisiListesi> KisiListesi::Oku(Oturum& o) {
+  return o.depo.db.Koru(Sonuc<KisiListesi>(Kusur{"Sql Yaratılamıyor"}), [&]() -> Sonuc<KisiListesi> {
+    KisiListesi okunan;
     const auto komut = o.depo.db.IcMotor().Hazirla("select kod, adi, soyadi, ciktar from sicil order by kod");
     while (komut->Adim()) {
       KisiSatiri kisi;
@@ -32,12 +32,10 @@ std::optional<KisiListesi> KisiListesi::Oku(Oturum& o, Bildirim& bildirim) {
       KolonAl(*komut, 1, kisi.adi);
       KolonAl(*komut, 2, kisi.soyadi);
       KolonAl(*komut, 3, kisi.ciktar);
-      okunan->Ekle(std::move(kisi));
+      okunan.Ekle(std::move(kisi));
     }
     return okunan;
   });
-  if (!liste) bildirim.Uyari("Sql Yaratılamıyor");
-  return liste;
 }
 
 std::vector<std::size_t> KisiListesi::Ara(AramaTuru tur, std::string_view metin) const {

@@ -4,12 +4,10 @@
 // "cag" does not find ÇAĞ. What is typed is plain text, "*", "%" and "_" included. People who have left are listed too.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "core/bildirim.h"
 #include "core/session/oturum.h"
 #include "core/tarih.h"
 
@@ -26,8 +24,8 @@ enum class AramaTuru { KodBastan, KodIcinde, AdBastan, AdIcinde };
 
 class KisiListesi {
  public:
-  // The people in the order of their codes; "Sql Yaratılamıyor" and nothing when the store cannot give them.
-  static std::optional<KisiListesi> Oku(Oturum& o, Bildirim& bildirim);
+  // The people in the order of their codes.
+  static Sonuc<KisiListesi> Oku(Oturum& o);
 
   const std::vector<KisiSatiri>& Kisiler() const { return kisiler_; }
 

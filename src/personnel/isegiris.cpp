@@ -34,24 +34,8 @@ Sicil YeniKart(const std::string& kod, const std::string& hesap, Tutar asgariUcr
   return yeni;
 }
 
-// One transaction, and no message in it: a box on the screen must not hold the store.
-Durum Yaz(Oturum& o, const GirisFormu& form, Tutar asgariUcret) {
-  const std::string& kod = form.sicil.kod;
-  const auto sicil = EkrandanAl(form.ilkSicil, YeniKart(kod, o.firma.ondeger, asgariUcret), form.sicil, sicilAlanlari);
-  const auto kimlik = EkrandanAl(form.ilkKimlik, YeniKimlik(kod), form.kimlik, kimlikAlanlari);
-  std::optional<Kusur> kusur;
-  const bool yazildi = o.depo.db.Koru(false, [&] {
-    Islem islem(o.depo.db.IcMotor());
-    if (const auto y = KayitYaz(o, sicil, "Personel Sicil Bilgileri Kaydedilemedi"); !y) kusur = y.Kusuru();
-    if (kusur) return false;
-    if (const auto y = KayitYaz(o, kimlik, "Personel Kimlik Bilgileri Kaydedilemedi"); !y) kusur = y.Kusuru();
-    if (kusur) return false;
-    islem.Onayla();
-    return true;
-  });
-  if (yazildi) return Tamam();
-  return kusur.value_or(Kusur{"Personel Sicil Bilgileri Kaydedilemedi"});
-}
+constexpr const char* SicilYazilamadi = "Personel Sicil Bilgileri Kaydedilemedi";
+constexpr const char* KimlikYazilamadi = "Personel Kimlik Bilgileri Kaydedilemedi";
 
 }  // namespace
 
@@ -84,12 +68,27 @@ Durum GirisDenetle(const GirisFormu& form) {
                sicil::girtar};
 }
 
-Durum GirisKaydet(Oturum& o, const GirisFormu& form, Tutar asgariUcret) {
-  if (const Durum denetim = GirisDenetle(form); !denetim) return denetim;
-  GirisFormu temiz = form;
-  temiz.sicil.kod = temiz.kimlik.kod = TemizKod(form.sicil.kod);
-  if (temiz.sicil.kod.empty()) return KuralKusuru("Personel Sicil Kodu Hatalı", sicil::kod);
-  return Yaz(o, temiz, asgariUcret);
+Sonuc<GirisKayitlari> GirisHazirla(const Oturum& o, const GirisFormu& form, Tutar asgariUcret) {
+  if (const Durum denetim = GirisDenetle(form); !denetim) return denetim.Kusuru();
+  const std::string kod = TemizKod(form.sicil.kod);
+  if (kod.empty()) return KuralKusuru("Personel Sicil Kodu Hatalı", sicil::kod);
+  return GirisKayitlari{
+      EkrandanAl(form.ilkSicil, YeniKart(kod, o.firma.ondeger, asgariUcret), form.sicil, sicilAlanlari),
+      EkrandanAl(form.ilkKimlik, YeniKimlik(kod), form.kimlik, kimlikAlanlari)};
+}
+
+// One transaction, and no message in it: a box on the screen must not hold the store.
+Sonuc<std::monostate, GirisEngeli> GirisYaz(Oturum& o, const GirisKayitlari& kayitlar) {
+  using Yazilan = Sonuc<std::monostate, GirisEngeli>;
+  return o.depo.db.Koru(Yazilan(GirisEngeli{{SicilYazilamadi}, {}, {}}), [&]() -> Yazilan {
+    Islem islem(o.depo.db.IcMotor());
+    if (const auto y = KayitYaz(o, kayitlar.sicil, SicilYazilamadi); !y)
+      return GirisEngeli{y.Kusuru(), y.Kusuru().cakisma, {}};
+    if (const auto y = KayitYaz(o, kayitlar.kimlik, KimlikYazilamadi); !y)
+      return GirisEngeli{y.Kusuru(), {}, y.Kusuru().cakisma};
+    islem.Onayla();
+    return std::monostate{};
+  });
 }
 
 bool UyrukTurkMu(std::string_view uyruk) {

@@ -17,6 +17,7 @@
 
 #include "core/session/oturum.h"
 #include "core/sonuc.h"
+#include "core/store/cakisma.h"
 #include "core/tables/kimlik.h"
 #include "core/tables/sicil.h"
 #include "personnel/listeler.h"
@@ -81,10 +82,23 @@ std::optional<GirisFormu> GirisBul(Oturum& o, std::string_view kod, Tarih bugun)
 // The checks before saving and before printing: the first that fails, at its field.
 Durum GirisDenetle(const GirisFormu& form);
 
-// Checks and saves; card and identity both or neither. A new person gets the minimum wage of the law, the company's
-// default account class and the minimum-living allowance. What another user has changed meanwhile is not overwritten:
-// the fault names it.
-Durum GirisKaydet(Oturum& o, const GirisFormu& form, Tutar asgariUcret);
+struct GirisKayitlari {
+  Okunan<Sicil> sicil;
+  Okunan<Kimlik> kimlik;
+};
+
+// The records of the person as the form makes them, checked. A new person gets the minimum wage of the law, the
+// company's default account class and the minimum-living allowance.
+Sonuc<GirisKayitlari> GirisHazirla(const Oturum& o, const GirisFormu& form, Tutar asgariUcret);
+
+// Why they were not written; where another user stands behind it, whose record it is.
+struct GirisEngeli : Kusur {
+  std::optional<Cakisma<Sicil>> sicil;
+  std::optional<Cakisma<Kimlik>> kimlik;
+};
+
+// Writes both or neither.
+Sonuc<std::monostate, GirisEngeli> GirisYaz(Oturum& o, const GirisKayitlari& kayitlar);
 
 // The allocation number is that of a pensioner under the support premium.
 constexpr bool TahsisNoAcik(std::uint8_t emekliTercihi) {

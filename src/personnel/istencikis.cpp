@@ -24,14 +24,13 @@ std::optional<Kusur> SebepKusuru(const std::string& sebep) {
   return KuralKusuru("Çıkış Sebebi: " + kusur, cikisformu::cikissebebi);
 }
 
-// The three columns of leaving, into the card that was read.
-Durum CikisYaz(Oturum& o, const Sicil& kart, const CikisFormu& form, const char* yazilamadi) {
+// The three columns of leaving, over the card that was read.
+Okunan<Sicil> CikisKarti(const Sicil& kart, const CikisFormu& form) {
   Okunan<Sicil> yazilan{.ilk = kart, .simdi = kart};
   yazilan.simdi.ciktar = form.ciktar;
   yazilan.simdi.cikiskodu = form.cikiskodu;
   yazilan.simdi.cikissebebi = form.cikissebebi;
-  if (const auto y = KayitYaz(o, yazilan, yazilamadi); !y) return Kusur(y.Kusuru());
-  return Tamam();
+  return yazilan;
 }
 
 }  // namespace
@@ -53,19 +52,23 @@ std::optional<CikisFormu> CikisBul(Oturum& o, std::string_view kod) {
                     .kart = sicil};
 }
 
-Durum CikisKaydet(Oturum& o, const CikisFormu& form) {
+Sonuc<Okunan<Sicil>> CikisHazirla(Oturum& o, const CikisFormu& form) {
   if (auto kusur = CikisKusuru(form)) return *std::move(kusur);
   const bool okunan = form.kart && TurkceEsit(form.kart->kod, TemizKod(form.kod));
   const auto kart = okunan ? form.kart : KartBul(o, form.kod);
   if (!kart) return KuralKusuru("Hatalı Personel Çıkışı", cikisformu::kod);
   if (auto kusur = SebepKusuru(form.cikissebebi)) return *std::move(kusur);
-  return CikisYaz(o, *kart, form, "Sicil Bilgileri Güncellenemedi");
+  return CikisKarti(*kart, form);
+}
+
+Yazim<Sicil> CikisYaz(Oturum& o, const Okunan<Sicil>& kart) {
+  return KayitYaz(o, kart, "Sicil Bilgileri Güncellenemedi");
 }
 
 Sonuc<bool> CikisGeriAl(Oturum& o, std::string_view kod) {
   const auto kart = KartBul(o, kod);
   if (!kart) return false;
-  if (const Durum d = CikisYaz(o, *kart, {}, "Çıkış Geri Alınamadı"); !d) return d.Kusuru();
+  if (const auto y = KayitYaz(o, CikisKarti(*kart, {}), "Çıkış Geri Alınamadı"); !y) return Kusur(y.Kusuru());
   return true;
 }
 

@@ -13,6 +13,7 @@
 
 #include "core/session/oturum.h"
 #include "core/sonuc.h"
+#include "core/store/cakisma.h"
 #include "core/tables/sicil.h"
 #include "core/tarih.h"
 #include "core/tutar.h"
@@ -47,9 +48,10 @@ inline constexpr Kolon<CikisFormu, std::string> cikissebebi{sicil::cikissebebi, 
 
 std::optional<CikisFormu> CikisBul(Oturum& o, std::string_view kod);
 
-// Records that the person has left; a second time overwrites the first. He may leave on the day of his hiring. The
-// first check that fails is the fault, and nothing is saved then.
-Durum CikisKaydet(Oturum& o, const CikisFormu& form);
+// The person's card with the leaving that the form records; a second time overwrites the first. He may leave on the
+// day of his hiring. The first check that fails is the fault.
+Sonuc<Okunan<Sicil>> CikisHazirla(Oturum& o, const CikisFormu& form);
+Yazim<Sicil> CikisYaz(Oturum& o, const Okunan<Sicil>& kart);
 
 // Makes the person employed again, without a question. False: there is no such person.
 Sonuc<bool> CikisGeriAl(Oturum& o, std::string_view kod);

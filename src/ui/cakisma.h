@@ -35,8 +35,26 @@ using DegerDili = std::function<std::string(std::string_view alan, const Deger& 
 CakisanDeger CakisanDegeriYaz(const Form& form, std::string_view tablo, AlanTutamagi alan, const Deger& onunki,
                               const Deger& benimki, const DegerDili& dil);
 
-// Saves a record by `kaydet`, and asks for as long as another user's change stands against it. Other faults are told.
-// A result with a `cakisma` is left to the user: "Bak", or a record that shall stay deleted.
+// Asks whose values shall stay, and makes `kayit` the next attempt to write. False: it is left to the user, who looks,
+// or whose record shall stay deleted.
+template <class Kayit>
+bool CakismayiCoz(EkranBaglami& baglam, const Form& form, Okunan<Kayit>& kayit, const Cakisma<Kayit>& engel,
+                  const DegerDili& dil = {}) {
+  std::vector<CakisanDeger> degerler;
+  Kayit::HerKolon([&](const auto& kolon) {
+    if (std::find(engel.alanlar.begin(), engel.alanlar.end(), AlanTutamagi(kolon)) == engel.alanlar.end()) return;
+    degerler.push_back(CakisanDegeriYaz(form, Kayit::TabloAdi, kolon, UyeDegeri(engel.onunki.*kolon.uye),
+                                        UyeDegeri(kayit.simdi.*kolon.uye), dil));
+  });
+  const CakismaKarari karar = CakismaSor(baglam, engel.tur, degerler);
+  const bool silinmisKalir = engel.tur == CakismaTuru::Silinmis && karar == CakismaKarari::Onunki;
+  if (karar == CakismaKarari::Bak || silinmisKalir) return false;
+  Uzlastir(kayit, engel, karar == CakismaKarari::Onunki ? Galip::Onunki : Galip::Benimki);
+  return true;
+}
+
+// Saves a record by `kaydet`, and asks for as long as another user's change stands against it. Other faults are told
+// there. A result with a `cakisma` is left to the user.
 template <class Kayit, class Kaydet>
 auto SorarakKaydet(EkranBaglami& baglam, Form& form, Okunan<Kayit> kayit, Kaydet&& kaydet, const DegerDili& dil = {}) {
   while (true) {
@@ -46,17 +64,7 @@ auto SorarakKaydet(EkranBaglami& baglam, Form& form, Okunan<Kayit> kayit, Kaydet
       form.Bildir(sonuc.Kusuru());
       return sonuc;
     }
-    const Cakisma<Kayit>& engel = *sonuc.Kusuru().cakisma;
-    std::vector<CakisanDeger> degerler;
-    Kayit::HerKolon([&](const auto& kolon) {
-      if (std::find(engel.alanlar.begin(), engel.alanlar.end(), AlanTutamagi(kolon)) == engel.alanlar.end()) return;
-      degerler.push_back(CakisanDegeriYaz(form, Kayit::TabloAdi, kolon, UyeDegeri(engel.onunki.*kolon.uye),
-                                          UyeDegeri(kayit.simdi.*kolon.uye), dil));
-    });
-    const CakismaKarari karar = CakismaSor(baglam, engel.tur, degerler);
-    const bool silinmisKalir = engel.tur == CakismaTuru::Silinmis && karar == CakismaKarari::Onunki;
-    if (karar == CakismaKarari::Bak || silinmisKalir) return sonuc;
-    Uzlastir(kayit, engel, karar == CakismaKarari::Onunki ? Galip::Onunki : Galip::Benimki);
+    if (!CakismayiCoz(baglam, form, kayit, *sonuc.Kusuru().cakisma, dil)) return sonuc;
   }
 }
 

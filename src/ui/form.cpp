@@ -119,7 +119,10 @@ xtext& Form::YaziKutusu(AlanTutamagi alan) const {
 
 AlanDenetimi& Form::DenetimEkle(const belvani::Alan& alan, QWidget* ust) {
   auto& denetim = *denetimler_.emplace_back(DenetimYap(alan, ust, baglam_.oturum.firma.paraonda));
-  denetim.Degisti = [this, &denetim] { AlanDegisti(denetim); };
+  denetim.Degisti = [this, &denetim] {
+    if (!denetim.Satir().ek.anahtar) yazildi_ = true;
+    AlanDegisti(denetim);
+  };
   for (QWidget* odak : denetim.Odaklar()) Izle(odak);
   return denetim;
 }
@@ -333,6 +336,7 @@ void Form::FirmaDegisti() {
 
 void Form::Temizle() {
   for (const auto& d : denetimler_) d->Temizle();
+  yazildi_ = false;
   sonAnahtar_.clear();
 }
 

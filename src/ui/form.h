@@ -113,6 +113,7 @@ class Form : public QWidget {
   void Yukle(const Kayit& kayit) {
     for (const auto& d : denetimler_)
       if (d->Satir().kayitTuru == typeid(Kayit)) d->Koy(d->Satir().oku(&kayit));
+    yazildi_ = false;
     SecimiYenile();
   }
 
@@ -136,6 +137,8 @@ class Form : public QWidget {
   void IlkAlanaGit();
   // Where the keyboard begins, when that is not the first field. Focus given before the screen is shown is lost.
   void IlkOdak(QWidget* parca) { ilkOdak_ = parca; }
+  // The user has changed something of what was loaded last; the key does not count.
+  bool Yazildi() const { return yazildi_; }
   // Any field was changed by the user.
   std::function<void(AlanDenetimi&)> AlanDegisti = [](AlanDenetimi&) {};
 
@@ -173,6 +176,7 @@ class Form : public QWidget {
   int satirAraligi_ = 6;
   QWidget* ilkOdak_ = nullptr;
   bool acildi_ = false;
+  bool yazildi_ = false;
 };
 
 // Shows a screen that answers something, and returns what `cevap` reads of it when it has closed.

@@ -23,10 +23,11 @@ constexpr std::array<TurAdi, 4> Turler{{{AramaTuru::KodBastan, "Kod (baştan)"},
 
 pencere::pencere(EkranBaglami& baglam)
     : Form(baglam, "pencere", QStringLiteral("Personel Rehberi")),
-      kisiler_(KisiListesi::Oku(baglam.oturum, baglam.bildirim)),
+      kisiler_(KisiListesi::Oku(baglam.oturum)),
       tur_(new QComboBox(this)),
       aranan_(new xtext(this)),
       liste_(new dclist(baglam.bildirim, this)) {
+  Oldu(kisiler_);
   for (const TurAdi& t : Turler) tur_->addItem(t.ad);
   tur_->setCurrentIndex(std::clamp(Oturumu().ListeSirasi - 1, 0, int(Turler.size()) - 1));
   auto* ust = new QHBoxLayout;

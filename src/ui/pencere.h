@@ -18,7 +18,7 @@ class pencere : public Form {
   void ListeyiDoldur();
   void Sec(int satir);
 
-  std::optional<KisiListesi> kisiler_;
+  Sonuc<KisiListesi> kisiler_;
   QComboBox* tur_;
   xtext* aranan_;
   dclist* liste_;

@@ -13,7 +13,7 @@ TEST_F(Ara, FindsInTurkishCaseAndTakesEverythingTypedAsText) {
   for (const Sicil& s :
        {ayrilan, test::Kart("A%1", "İşcan", "Tan"), test::Kart("I10"), test::Kart("a_2", "KIS", "Ali")})
     Yaz(s);
-  const auto liste = KisiListesi::Oku(o, bildirim);
+  const auto liste = KisiListesi::Oku(o);
   ASSERT_TRUE(liste);
   const std::tuple<AramaTuru, const char*, const char*> aramalar[] = {
       {AramaTuru::KodBastan, "", " a_2 A%1 I10 i20"},

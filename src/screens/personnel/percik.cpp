@@ -8,6 +8,7 @@
 #include "personnel/kart.h"
 #include "screens/personnel/odemetablosu.h"
 #include "ui/basim.h"
+#include "ui/cakisma.h"
 
 namespace belvani {
 namespace {
@@ -36,6 +37,11 @@ AlanGrubu AdresGrubu() {
           {{Uye("adr1", &CikisFormu::adr1, kimlik::adr1.boyut), "Adresi", {.harf = AdresHarfi}},
            {Uye("adr2", &CikisFormu::adr2, kimlik::adr2.boyut), "", {.harf = AdresHarfi}},
            {Uye("tel", &CikisFormu::tel, kimlik::tel.boyut), "Telefon"}}};
+}
+
+std::string CikisDili(std::string_view alan, const Deger& deger) {
+  const bool kodlu = alan == sicil::cikiskodu.ad;
+  return kodlu ? std::string(CikisKoduMetni(std::uint8_t(TamDegeri(deger)))) : MetinDegeri(deger);
 }
 
 }  // namespace
@@ -95,9 +101,17 @@ CikisFormu percik::Okunan() const {
 // The person stays on the screen, for his release; the code of the next one may be typed over his.
 void percik::Kaydet() {
   if (!EkrandakiMi()) return;
-  const CikisFormu form = Okunan();
-  if (const Durum kaydedildi = CikisKaydet(Oturumu(), form); !kaydedildi) return Bildir(kaydedildi.Kusuru());
-  kart_ = KartBul(Oturumu(), form.kod);
+  CikisFormu form = Okunan();
+  const auto kart = CikisHazirla(Oturumu(), form);
+  if (!Oldu(kart)) return;
+  const auto yazilan = SorarakKaydet(
+      Baglam(), *this, *kart, [this](const belvani::Okunan<Sicil>& k) { return CikisYaz(Oturumu(), k); }, CikisDili);
+  if (!yazilan) return;
+  kart_ = *yazilan;
+  form.ciktar = yazilan->ciktar;
+  form.cikiskodu = yazilan->cikiskodu;
+  form.cikissebebi = yazilan->cikissebebi;
+  Yukle(form);
   KoddanBasla();
   ZoomEfekt();
 }
@@ -105,8 +119,7 @@ void percik::Kaydet() {
 void percik::GeriAl() {
   if (!EkrandakiMi()) return;
   const auto alindi = CikisGeriAl(Oturumu(), YazilanAnahtar());
-  if (!alindi) return Bildir(alindi.Kusuru());
-  if (!*alindi) return;
+  if (!Oldu(alindi) || !*alindi) return;
   Goster({});
   KoddanBasla();
   ZoomEfekt(QStringLiteral("Çıkış geri alındı"));

@@ -10,6 +10,7 @@
 #include "screens/personnel/pergiralanlar.h"
 #include "screens/personnel/sigortakollari.h"
 #include "ui/basim.h"
+#include "ui/cakisma.h"
 #include "ui/metin.h"
 
 namespace belvani {
@@ -99,10 +100,7 @@ std::optional<GirisFormu> pergir::Okunan() {
   GirisFormu form;
   form.sicil.girtar = TarihDegeri(Denetim(sicil::girtar).Oku());
   form.ek.islemTarihi = TarihDegeri(Denetim(giriseki::islemTarihi).Oku());
-  if (const Durum denetim = GirisDenetle(form); !denetim) {
-    Bildir(denetim.Kusuru());
-    return std::nullopt;
-  }
+  if (!Oldu(GirisDenetle(form))) return std::nullopt;
   form.ilkSicil = ilkSicil_;
   form.ilkKimlik = ilkKimlik_;
   if (!Oku(form.sicil) || !Oku(form.kimlik) || !Oku(form.ek)) return std::nullopt;
@@ -114,11 +112,23 @@ void pergir::Kaydet() {
   if (!EkrandakiMi()) return;
   const auto form = Okunan();
   if (!form) return;
-  const Durum kaydedildi = GirisKaydet(Oturumu(), *form, parametreler_.yasal.oranlar.AsgariUcret);
-  if (!kaydedildi) return Bildir(kaydedildi.Kusuru());
+  const auto kayitlar = GirisHazirla(Oturumu(), *form, parametreler_.yasal.oranlar.AsgariUcret);
+  if (!Oldu(kayitlar) || !KayitlariYaz(*kayitlar)) return;
   if (const auto simdiki = GirisBul(Oturumu(), form->sicil.kod, Tarih::Bugun())) KayitlariGoster(*simdiki);
   KoddanBasla();
   ZoomEfekt();
+}
+
+// Asks for as long as another user's change stands against either record.
+bool pergir::KayitlariYaz(GirisKayitlari kayitlar) {
+  while (true) {
+    const auto yazilan = GirisYaz(Oturumu(), kayitlar);
+    if (yazilan) return true;
+    const GirisEngeli& engel = yazilan.Kusuru();
+    if (!engel.sicil && !engel.kimlik) return Oldu(yazilan);
+    if (engel.sicil && !CakismayiCoz(Baglam(), *this, kayitlar.sicil, *engel.sicil)) return false;
+    if (engel.kimlik && !CakismayiCoz(Baglam(), *this, kayitlar.kimlik, *engel.kimlik)) return false;
+  }
 }
 
 void pergir::Yazdir() {

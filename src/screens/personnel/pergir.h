@@ -23,6 +23,7 @@ class pergir : public PersonelFormu {
   void TahsisNoyuAcKapat();
   std::optional<GirisFormu> Okunan();
   void Kaydet();
+  bool KayitlariYaz(GirisKayitlari kayitlar);
   void Yazdir();
 
   ParametreDeposu& parametreler_;

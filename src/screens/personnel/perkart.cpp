@@ -198,8 +198,7 @@ void perkart::ResimEkle() {
 }
 
 void perkart::ResimSil() {
-  if (!EkrandakiMi()) return;
-  if (const Durum silindi = FotoSil(Oturumu(), YazilanAnahtar()); !silindi) return Bildir(silindi.Kusuru());
+  if (!EkrandakiMi() || !Oldu(FotoSil(Oturumu(), YazilanAnahtar()))) return;
   yeniResim_.clear();
   resim_->Bosalt();
 }

@@ -1,5 +1,8 @@
 #include "screens/personnel/personelformu.h"
 
+#include "core/tables/esco.h"
+#include "core/tables/kimlik.h"
+#include "core/tables/sicil.h"
 #include "core/turkce.h"
 #include "personnel/kimlik.h"
 #include "ui/metin.h"
@@ -17,8 +20,19 @@ void PersonelFormu::PersonelKomutlari(AlanTutamagi kod) {
   AnahtarBagla(kod, [this](const std::string& yazilan) { Bul(yazilan); });
 }
 
+QString KisiEkrani(AlanTutamagi alan) {
+  if (alan.kayit == typeid(Kimlik)) return QStringLiteral("nufus");
+  if (alan.kayit == typeid(Esco)) return QStringLiteral("escofrm");
+  if (alan == sicil::cikiskodu || alan == sicil::cikissebebi) return QStringLiteral("percik");
+  return QStringLiteral("perkart");
+}
+
 void PersonelFormu::KisiyeGit(const std::string& kod, AlanTutamagi alan) {
-  AnahtarAra(kod);
+  if (!TurkceEsit(kod, SonAnahtar())) {
+    if (Kaydedilmemis() && !Bildirimi().Soru("Ekrandaki Değişiklikler Kaydedilmedi\nBırakılıp Bu Kişi Getirilsin mi ?"))
+      return;
+    AnahtarAra(kod);
+  }
   if (AlanDenetimi* denetim = DenetimBul(alan))
     denetim->Odak()->setFocus(Qt::TabFocusReason);
   else

@@ -22,9 +22,13 @@ inline Alan AdSoyAlani() {
   return Alan(Uye("adsoy", &KisiBasligi::adsoy), "", {.harf = 34, .kapali = true});
 }
 
+// The word of the screen on which this field of a person is entered; the card's for a person as such.
+QString KisiEkrani(AlanTutamagi alan);
+
 class PersonelFormu : public Form {
  public:
-  // Brings the person up as if his code had been typed; the cursor goes to the field where this screen has it.
+  // Brings the person up as if his code had been typed, unless he is there already; the cursor goes to the field where
+  // this screen has it. Over typed work it asks first.
   void KisiyeGit(const std::string& kod, AlanTutamagi alan);
 
  protected:
@@ -37,6 +41,8 @@ class PersonelFormu : public Form {
   virtual bool Bul(const std::string& kod) = 0;
   // Shows the neighbour of the person on the screen; stays when there is none.
   virtual void Git(Yon yon) = 0;
+  // Something of the person on the screen is neither saved nor thrown away.
+  virtual bool Kaydedilmemis() const { return Yazildi(); }
 
   // A code that was typed and not left yet is looked up first, so that no command meets another person than the one on
   // the screen. False: a person came up that the user has not seen yet.

@@ -2,8 +2,10 @@
 #include "screens/personnel/percik.h"
 
 #include "core/saat.h"
+#include "core/session/sirket.h"
 #include "ekran/ortam.h"
 #include "personnel/kart.h"
+#include "screens/personnel/kaydetve.h"
 #include "screens/personnel/metinbas.h"
 #include "ui/dclist.h"
 #include "ui/xbutton.h"
@@ -89,6 +91,20 @@ TEST_F(Percik, AnExitIsOverwrittenAndTakenBack) {
   Dugme("Çıkış Geri Al");
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
   EXPECT_EQ(Metin("kod") + Metin("girtar"), "77701.01.2005") << "an unknown code does nothing";
+}
+
+TEST_F(Percik, AnotherUsersLeavingIsAskedAbout) {
+  const auto obur = MotorAc(ortam.oturum.FirmaDizini + DepoDosyasi);
+  ortam.Yaz("001\n\n30062009\n04\nKapandı");
+  obur->Calistir("update sicil set ciktar = '2009-05-31', cikiskodu = 3 where kod = '001'");
+  const std::string soru = KaydetVe(ortam, *form, "Bak");
+  EXPECT_NE(soru.find("31.05.2009|30.06.2009"), soru.npos) << soru;
+  EXPECT_NE(soru.find("03-"), soru.npos) << "a code in its words: " << soru;
+  EXPECT_EQ(Kart().ciktar, Tarih(2009, 5, 31));
+  KaydetVe(ortam, *form, "Onunki");
+  EXPECT_EQ(Metin("ciktar") + Metin("cikissebebi"), "31.05.2009Kapandı") << "as it is stored now";
+  EXPECT_EQ(Kart().cikissebebi, "Kapandı");
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
 }
 
 TEST_F(Percik, SumsFollowTheCellsAndGoOnThePaper) {

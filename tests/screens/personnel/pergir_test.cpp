@@ -4,9 +4,11 @@
 #include <QComboBox>
 
 #include "core/saat.h"
+#include "core/session/sirket.h"
 #include "ekran/ortam.h"
 #include "personnel/kart.h"
 #include "personnel/kimlik.h"
+#include "screens/personnel/kaydetve.h"
 #include "screens/personnel/metinbas.h"
 
 namespace belvani::test {
@@ -119,6 +121,30 @@ TEST_F(Pergir, AKnownPersonKeepsWhatTheScreenDoesNotShow) {
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
   kart.soyadi = "Şen";
   EXPECT_EQ(KartBul(ortam.oturum, "001"), kart);
+}
+
+// Card and identity are two records: whoever has changed either of them is asked about.
+TEST_F(Pergir, AnotherUsersChangeIsAskedAbout) {
+  Sicil kart;
+  kart.kod = "001";
+  kart.girtar = Tarih(2005, 1, 1);
+  ASSERT_TRUE(KartKaydet(ortam.oturum, {.simdi = kart}));
+  const auto obur = MotorAc(ortam.oturum.FirmaDizini + DepoDosyasi);
+  ortam.Yaz("001\n");
+  Alana("islemTarihi", "31122004");
+  Alana("soyadi", "Şen");
+  Alana("baba", "Ömer");
+  obur->Calistir("update sicil set soyadi = 'Can'; update kimlik set ana = 'Ayşe'");
+  EXPECT_NE(KaydetVe(ortam, *form, "Bak").find("|Can|Şen"), std::string::npos);
+  EXPECT_EQ(Metin("soyadi") + KartBul(ortam.oturum, "001")->soyadi, "ŞenCan");
+  KaydetVe(ortam, *form, "Onunki");
+  EXPECT_EQ(Metin("soyadi") + Metin("ana") + Metin("baba"), "CanAyşeÖmer") << "as it is stored now";
+
+  Alana("baba", "Ali");
+  obur->Calistir("update kimlik set baba = 'Cem'");
+  KaydetVe(ortam, *form, "Benimki");
+  EXPECT_EQ(KimlikBul(ortam.oturum, "001")->baba, "Ali");
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
 }
 
 TEST_F(Pergir, ThePaperHasWhatIsOnTheScreen) {

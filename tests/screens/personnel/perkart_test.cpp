@@ -6,8 +6,8 @@
 #include "ekran/ortam.h"
 #include "personnel/kart.h"
 #include "personnel/kimlik.h"
+#include "screens/personnel/kaydetve.h"
 #include "screens/personnel/resimkutusu.h"
-#include "ui/xbutton.h"
 
 namespace belvani::test {
 namespace {
@@ -189,54 +189,34 @@ struct PerkartIki : Perkart {
     Ac();
     ortam.Yaz("001\nIşıl\nÇağlar\n");
   }
-  // Saves, and answers what is asked by that button.
-  void KaydetVe(const char* karar) {
-    bool soruldu = false;
-    ortam.ModaldaYap([&] {
-      QStringList metinler;
-      for (auto* etiket : QApplication::activeModalWidget()->findChildren<QLabel*>()) metinler += etiket->text();
-      gosterilen = Utf8(metinler.join("|"));
-      soruldu = true;
-      for (auto* dugme : QApplication::activeModalWidget()->findChildren<xButton*>()) {
-        if (dugme->text() != QString::fromUtf8(karar)) continue;
-        dugme->setFocus();
-        ortam.Bas(Qt::Key_Space);
-        return;
-      }
-    });
-    ortam.Bas(Qt::Key_F5);
-    EXPECT_TRUE(soruldu);
-    QApplication::setActiveWindow(form);
-  }
+  std::string Kaydet(const char* karar) { return KaydetVe(ortam, *form, karar); }
   Sicil Kayit() { return KartBul(ortam.oturum, "001").value(); }
-
-  std::string gosterilen;
 };
 
 TEST_F(PerkartIki, TheOnesWhoMeetInAFieldAreAskedAndTheRestIsKeptOfBoth) {
   obur->Calistir("update sicil set adi = 'Can', sskdurum = 2, verda = 'Konak'");
-  KaydetVe("Bak");
+  const std::string gosterilen = Kaydet("Bak");
   EXPECT_NE(gosterilen.find("Adı|Can|Işıl"), gosterilen.npos) << gosterilen;
   EXPECT_EQ(gosterilen.find("Veli"), gosterilen.npos) << "the surname is nobody's quarrel";
   EXPECT_EQ(Metin("adi") + Metin("soyadi"), "IşılÇağlar") << "what was typed stays";
   EXPECT_EQ(Kayit().adi + Kayit().soyadi, "CanVeli");
-  KaydetVe("Onunki");
+  Kaydet("Onunki");
   EXPECT_EQ(Kayit().adi + Kayit().soyadi + Kayit().verda, "CanÇağlarKonak");
   EXPECT_EQ(Kayit().sskdurum, 2);
   EXPECT_EQ(ortam.Odak(), "kod");
 
   ortam.Yaz("001\nIşılay");
   obur->Calistir("update sicil set adi = 'Cem'");
-  KaydetVe("Benimki");
+  Kaydet("Benimki");
   EXPECT_EQ(Kayit().adi + Kayit().verda, "IşılayKonak");
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
 }
 
 TEST_F(PerkartIki, ADeletedPersonComesBackOnlyWhenAskedFor) {
   obur->Calistir("delete from sicil");
-  KaydetVe("Onunki");
+  Kaydet("Onunki");
   EXPECT_EQ(Sayi("sicil"), 0u);
-  KaydetVe("Benimki");
+  Kaydet("Benimki");
   EXPECT_EQ(Kayit().adi, "Işıl");
 }
 
