@@ -14,7 +14,7 @@
 #include "app/yardim.h"
 #include "core/session/firmabilgi.h"
 #include "screens/core/Dbupdate.h"
-#include "screens/personnel/perkart.h"
+#include "screens/personnel/personelformu.h"
 #include "ui/metin.h"
 #include "ui/simge.h"
 #include "ui/stil.h"
@@ -225,9 +225,9 @@ void anamenu::SerbestGoster(std::unique_ptr<Form> form) {
 }
 
 void anamenu::KisiyeGit(const std::string& kod, AlanTutamagi alan) {
-  const auto kart = std::ranges::find(Ekranlar(), "perkart", &EkranKaydi::kelime);
-  Ac(*kart);
-  if (auto* acik = dynamic_cast<perkart*>(alan_->currentSubWindow()->widget())) acik->KisiyeGit(kod, alan);
+  const std::string kelime = Utf8(KisiEkrani(alan));
+  Ac(*std::ranges::find(Ekranlar(), std::string_view(kelime), &EkranKaydi::kelime));
+  if (auto* acik = dynamic_cast<PersonelFormu*>(alan_->currentSubWindow()->widget())) acik->KisiyeGit(kod, alan);
 }
 
 // Where it stood last, else in the middle and a step aside for every window that is open; always wholly in view.

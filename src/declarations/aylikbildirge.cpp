@@ -33,6 +33,13 @@ std::string SorunMetni(const Kusurlar& sorunlar) {
   return metin + "Bu Haliyle Yazılsın mı ?";
 }
 
+// The faults of the rows, each at the field of the person's records that its cell was made of.
+Kusurlar KaynaktakiKusurlar(Kusurlar kusurlar) {
+  std::erase_if(kusurlar, [](const Kusur& k) { return k.satir == 0; });
+  for (Kusur& kusur : kusurlar) kusur.alan = KaynakAlani(kusur.alan.ad);
+  return kusurlar;
+}
+
 }  // namespace
 
 AylikBildirge::AylikBildirge(Oturum& oturum, const YasalParametreler& yasal, Bildirim& bildirim)
@@ -154,6 +161,7 @@ IsyeriBilgileri AylikBildirge::Isyeri() {
 Sonuc<AylikBildirge::Karar> AylikBildirge::BildirgeKontrol() {
   auto kusurlar = Koru([&] { return belvani::BildirgeKontrol(bildirge_, Isyeri()); });
   if (!kusurlar) return kusurlar.Kusuru();
+  sorunlar_ = KaynaktakiKusurlar(*kusurlar);
   for (auto& kusur : *kusurlar) {
     switch (kusur.derece) {
       case Derece::Bilgi:

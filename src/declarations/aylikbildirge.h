@@ -68,6 +68,8 @@ class AylikBildirge {
 
   // All checks, in their order, up to the first fault; what he may let through is asked.
   Sonuc<Karar> BildirgeKontrol();
+  // What the last of these checks has found in the rows, all of it, at the fields of the people's records.
+  const Kusurlar& Sorunlar() const { return sorunlar_; }
 
   // " E-Bildirge Hazırla ", up to the choice of the file: there are rows, of all statuses together.
   Durum XmlKosullari() const;
@@ -103,6 +105,7 @@ class AylikBildirge {
   std::vector<std::string> kanunlar_;
   Tek tehlikeOrani_;
   Bildirge bildirge_;
+  Kusurlar sorunlar_;
 };
 
 }  // namespace belvani

@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "core/sayi.h"
+#include "core/tables/kimlik.h"
+#include "core/tables/sicil.h"
 #include "core/turkce.h"
 
 namespace belvani {
@@ -56,6 +58,16 @@ const char* HucreKusuru(const BildirgeKolonu& kolon) {
 }
 
 }  // namespace
+
+AlanTutamagi KaynakAlani(std::string_view kolon) {
+  static const std::pair<std::string_view, AlanTutamagi> kaynaklar[] = {
+      {"sigkol", sicil::sskdurum}, {"sskno", sicil::sskno},        {"tcno", kimlik::tcno},
+      {"adi", sicil::adi},         {"soyadi", sicil::soyadi},      {"ilksoyadi", sicil::ilksoyadi},
+      {"girtar", sicil::girtar},   {"ciktar", sicil::ciktar},      {"ciksebeb", sicil::cikiskodu},
+      {"kanun", sicil::kanun},     {"meslekkod", sicil::meslekkod}};
+  const auto kaynak = std::ranges::find(kaynaklar, kolon, [](const auto& k) { return k.first; });
+  return kaynak == std::end(kaynaklar) ? AlanTutamagi{} : kaynak->second;
+}
 
 const BildirgeKolonu* BildirgeKolonuBul(std::string_view ad) {
   const auto kolon = std::ranges::find(BildirgeKolonlari, ad, &BildirgeKolonu::ad);

@@ -82,6 +82,10 @@ inline constexpr std::array<BildirgeKolonu, 21> BildirgeKolonlari{{
     {"rapcalismadi", "R.Ç.", 1, &BildirgeSatiri::rapcalismadi},
 }};
 
+// Where the cells of a column come from, and are mended for good: a field of the person's records; none for what the
+// month's payroll gives.
+AlanTutamagi KaynakAlani(std::string_view kolon);
+
 // Null when there is no column of this name.
 const BildirgeKolonu* BildirgeKolonuBul(std::string_view ad);
 

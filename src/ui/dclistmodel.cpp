@@ -186,7 +186,9 @@ QVariant dclistModel::data(const QModelIndex& yer, int rol) const {
   if (rol == Qt::DisplayRole || rol == Qt::EditRole) return Metin(GosterilenSatir(yer.row()), yer.column());
   if (rol == Qt::TextAlignmentRole)
     return int((kolon.tip == dclistKolonu::Tip::Sayi ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-  return {};
+  if (rol != Qt::BackgroundRole && rol != Qt::ForegroundRole) return {};
+  const auto renk = Renk(GosterilenSatir(yer.row()), yer.column());
+  return renk ? QVariant(rol == Qt::BackgroundRole ? renk->zemin : renk->yazi) : QVariant();
 }
 
 QVariant dclistModel::headerData(int bolum, Qt::Orientation yon, int rol) const {

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QColor>
 #include <QStringList>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -37,6 +39,10 @@ struct dclistKolonu {
   QStringList secenekler;
 };
 
+struct HucreRengi {
+  QColor zemin, yazi;
+};
+
 class dclistModel : public QAbstractTableModel {
   Q_OBJECT
  public:
@@ -61,6 +67,9 @@ class dclistModel : public QAbstractTableModel {
   // The owner's number of a row, 0 until he gives one. It stays with the row whatever is sorted, hidden or deleted.
   int Kimlik(int satir) const { return kimlikler_[std::size_t(satir)]; }
   void KimlikKoy(int satir, int kimlik) { kimlikler_[std::size_t(satir)] = kimlik; }
+
+  // Cells of another colour than the list, by row and column.
+  std::function<std::optional<HucreRengi>(int, int)> Renk = [](int, int) { return std::nullopt; };
 
   // Between these two, additions and changes are not shown one by one.
   void TopluBasla();

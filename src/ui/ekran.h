@@ -28,7 +28,7 @@ class FormGosterici {
   virtual ~FormGosterici() = default;
   virtual void SerbestGoster(std::unique_ptr<Form> form) = 0;
   virtual QWidget* ModalUst() = 0;
-  // Opens the card of a person, with the cursor in the field where the card has it.
+  // Opens the screen that this field of a person is entered on, with the cursor in it.
   virtual void KisiyeGit(const std::string&, AlanTutamagi) {}
 };
 

@@ -1,25 +1,32 @@
 #include "ui/kusurlistesi.h"
 
+#include "core/session/renkler.h"
 #include "core/tables/esco.h"
 #include "core/tables/kimlik.h"
 #include "core/tables/sicil.h"
 #include "personnel/etiket.h"
 #include "ui/form.h"
 #include "ui/listedoldur.h"
+#include "ui/renk.h"
 
 namespace belvani {
 namespace {
 
-std::string_view DereceAdi(Derece derece) {
+struct DereceGorunumu {
+  const char* ad;
+  Renk zemin, yazi;
+};
+
+DereceGorunumu Gorunum(Derece derece) {
   switch (derece) {
     case Derece::Bilgi:
-      return "Bilgi";
+      return {"Bilgi", Renk::GridArka, Renk::GridText};
     case Derece::Uyari:
-      return "Uyarı";
+      return {"Uyarı", Renk::IpucuArka, Renk::IpucuText};
     case Derece::Hata:
-      return "Hata";
+      break;
   }
-  return {};
+  return {"Hata", Renk::HataArka, Renk::HataText};
 }
 
 // What the screens of a person call the field; other fields have no one name.
@@ -58,12 +65,18 @@ class KusurListesi final : public Form {
     liste_->CreateNewCaption('m', "metin", "Açıklama", 420);
     liste_->GenisKolon("metin");
     liste_->setMinimumSize(860, 320);
+    liste_->Model().Renk = [this](int satir, int kolon) -> std::optional<HucreRengi> {
+      if (kolon != 0) return std::nullopt;
+      const RenkTablosu renkler = GecerliRenkler(Oturumu());
+      const DereceGorunumu g = Gorunum(kusurlar_[std::size_t(satir)].derece);
+      return HucreRengi{RenkYap(RenkAl(renkler, g.zemin)), RenkYap(RenkAl(renkler, g.yazi))};
+    };
     if (std::ranges::all_of(kusurlar_, [](const Kusur& k) { return k.satir == 0; })) liste_->Gizle("satir");
   }
 
   void Doldur() {
     ListeDoldur(*liste_, kusurlar_, [](const Kusur& k) {
-      return std::array{std::string(DereceAdi(k.derece)), k.kod, k.satir == 0 ? "" : std::to_string(k.satir),
+      return std::array{std::string(Gorunum(k.derece).ad), k.kod, k.satir == 0 ? "" : std::to_string(k.satir),
                         std::string(Etiket<Sicil, Kimlik, Esco>(k.alan)), k.metin};
     });
   }

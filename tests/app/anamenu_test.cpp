@@ -12,6 +12,8 @@
 #include "documents/belgeler.h"
 #include "screens/core/firbil.h"
 #include "screens/core/kulfrm.h"
+#include "screens/personnel/nufus.h"
+#include "screens/personnel/percik.h"
 #include "screens/personnel/perkart.h"
 #include "ui/dclist.h"
 
@@ -130,6 +132,42 @@ TEST(Anamenu, WhatTheMassRunFoundLeadsToTheCards) {
   EXPECT_EQ(AlanMetni(*kart, "kod"), "002");
   EXPECT_EQ(ortam.Odak(), "girtar");
   EXPECT_TRUE(form->isVisible()) << "the list stays for the next one";
+}
+
+// A fault opens the screen that its field belongs to; what is typed there is not lost without a question.
+TEST(Anamenu, FaultsLeadToTheScreensOfTheirFields) {
+  AnaOrtam ortam;
+  Motor& motor = ortam.oturum.depo.db.IcMotor();
+  for (const char* kod : {"001", "002"}) {
+    Sicil kart;
+    kart.kod = kod;
+    kart.girtar = Tarih(2005, 1, 1);
+    KayitYazici<Sicil>(motor).Ekle(kart);
+    Kimlik kimlik;
+    kimlik.kod = kod;
+    KayitYazici<Kimlik>(motor).Ekle(kimlik);
+  }
+  const auto git = [&](const char* kod, AlanTutamagi alan) { ortam.pencere->KisiyeGit(kod, alan); };
+  git("001", kimlik::tcno);
+  ASSERT_NE(ortam.Onde<nufus>(), nullptr);
+  EXPECT_EQ(ortam.Odak(), "tcno");
+  ortam.Yaz("1");
+  git("001", sicil::cikiskodu);
+  ASSERT_NE(ortam.Onde<percik>(), nullptr);
+  git("001", kimlik::baba);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{}) << "who is there already is not read again";
+  EXPECT_EQ(AlanMetni(*ortam.Onde<nufus>(), "tcno"), "1");
+  EXPECT_EQ(ortam.Odak(), "baba");
+  const Iletiler soru{"Soru: Ekrandaki Değişiklikler Kaydedilmedi\nBırakılıp Bu Kişi Getirilsin mi ?"};
+  for (const bool cevap : {false, true}) {
+    ortam.bildirim.cevap = cevap;
+    git("002", kimlik::tcno);
+    EXPECT_EQ(ortam.bildirim.Al(), soru);
+    EXPECT_EQ(AlanMetni(*ortam.Onde<nufus>(), "kod"), cevap ? "002" : "001");
+  }
+  git("001", {});
+  EXPECT_NE(ortam.Onde<perkart>(), nullptr);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
 }
 
 TEST(Yardim, F1OpensThePageOfTheScreen) {

@@ -38,9 +38,7 @@ void intefrm::AdresAc() {
   Baglanti baglanti;
   if (!Oku(baglanti)) return;
   const std::string adres(Kirp(baglanti.adres));
-  if (adres != EBildirgeAdresi(Oturumu().DataPath))
-    if (const Durum yazildi = EBildirgeAdresiYaz(Oturumu().DataPath, adres); !yazildi)
-      return Bildirimi().Uyari(yazildi.KusurMetni());
+  if (adres != EBildirgeAdresi(Oturumu().DataPath) && !Oldu(EBildirgeAdresiYaz(Oturumu().DataPath, adres))) return;
   if (!Baglam().baski.adresAc(adres))
     Bildirimi().Uyari("Bilgisayarda adresi açacak bir internet tarayıcısı bulunamadı");
 }

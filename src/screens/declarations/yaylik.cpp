@@ -6,6 +6,7 @@
 
 #include "screens/declarations/intefrm.h"
 #include "screens/declarations/yaylikcikti.h"
+#include "ui/kusurlistesi.h"
 #include "ui/uzunis.h"
 
 namespace belvani {
@@ -195,7 +196,7 @@ void yaylik::AlanDegisince(const AlanDenetimi& alan) {
   BildirgeToplamlari toplamlar;
   const bool matrah = std::ranges::any_of(Branslar, [&](const BransSatiri& b) { return degisen.ad == b.ad; });
   if (!matrah || !Oku(toplamlar)) return;
-  if (const Durum yazildi = bildirge_.ToplamYaz(toplamlar); !yazildi) Bildir(yazildi.Kusuru());
+  Oldu(bildirge_.ToplamYaz(toplamlar));
   for (std::size_t b = 0; b < BransSayisi; ++b) primler_[b]->setText(Yazi(bildirge_.PrimMetni(b)));
   genelToplam_->setText(Yazi(bildirge_.GenelToplamMetni()));
 }
@@ -254,16 +255,20 @@ bool yaylik::HucreAl(int sira, const QString& ad, QString& metin) {
     else
       alindi = no.Kusuru();
   }
-  if (!alindi) Bildir(alindi.Kusuru());
+  Oldu(alindi);
   ToplamlariGoster();
   return bool(alindi);
 }
 
 bool yaylik::SatirSil(int sira) {
-  const Durum silindi = bildirge_.SatirSil(liste_->Model().Kimlik(sira));
-  if (!silindi) Bildir(silindi.Kusuru());
+  const bool silindi = Oldu(bildirge_.SatirSil(liste_->Model().Kimlik(sira)));
   ToplamlariGoster();
-  return bool(silindi);
+  return silindi;
+}
+
+// Where the check has found more than the one fault that it ends with, the user goes through all of them.
+void yaylik::SorunlariGoster() {
+  if (bildirge_.Sorunlar().size() > 1) KusurlariGoster(Baglam(), bildirge_.Sorunlar());
 }
 
 // A fault of a row is shown at its cell.
@@ -275,6 +280,7 @@ void yaylik::KusurGoster(const Kusur& kusur) {
   while (liste_->Model().Kimlik(sira) != no) ++sira;
   liste_->setFocus();
   liste_->HucreyeGit(sira, Yazi(kusur.alan.ad));
+  SorunlariGoster();
 }
 
 void yaylik::EBildirge() {
@@ -282,7 +288,7 @@ void yaylik::EBildirge() {
   if (const Durum olur = bildirge_.XmlKosullari(); !olur) return KusurGoster(olur.Kusuru());
   const auto karar = bildirge_.BildirgeKontrol();
   if (!karar) return KusurGoster(karar.Kusuru());
-  if (*karar == AylikBildirge::Karar::Vazgecildi) return;
+  if (*karar == AylikBildirge::Karar::Vazgecildi) return SorunlariGoster();
   const auto dosya = Baglam().dialoglar.DosyaKaydet("E-Bildirge Hazırlığı", bildirge_.XmlYolu(), "XML (*.xml)|*.xml");
   if (!dosya) return;
   const auto yazildi = bildirge_.XmlYaz(*dosya, [this](const auto& is) {

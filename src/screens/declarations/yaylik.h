@@ -28,6 +28,7 @@ class yaylik : public Form {
   bool HucreAl(int sira, const QString& ad, QString& metin);
   bool SatirSil(int sira);
   void KusurGoster(const Kusur& kusur);
+  void SorunlariGoster();
   void AlanDegisince(const AlanDenetimi& alan);
   void Yazdir();
   void ExceleGonder();

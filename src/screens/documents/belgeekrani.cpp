@@ -88,10 +88,7 @@ std::unique_ptr<Belge> BelgeEkrani::BelgeYap() {
   if (secim == nullptr) return nullptr;
   auto belge = UzunIs(Baglam(), QStringLiteral("Liste hazırlanıyor…"),
                       [&](Ilerleme& ilerleme) { return Koru([&] { return secim->BelgeYap(Kaynak(&ilerleme)); }); });
-  if (!belge) return nullptr;
-  if (*belge) return std::move(**belge);
-  Bildir(belge->Kusuru());
-  return nullptr;
+  return belge && Oldu(*belge) ? std::move(**belge) : nullptr;
 }
 
 // A field that cannot be read does not keep the others from being saved.
@@ -100,8 +97,7 @@ void BelgeEkrani::hideEvent(QHideEvent* olay) {
   if (olay->spontaneous() || tanim_.ayar.yaz == nullptr) return;
   for (const auto& d : Denetimler())
     if (!d->Kusuru()) d->Satir().yaz(secim_->Kayit(d->Satir().kayitTuru), d->Oku());
-  if (const Durum yazildi = tanim_.ayar.yaz(Oturumu().FirmaDizini, *secim_); !yazildi)
-    Bildirimi().Uyari(yazildi.KusurMetni());
+  Oldu(tanim_.ayar.yaz(Oturumu().FirmaDizini, *secim_));
 }
 
 std::unique_ptr<Form> BelgeEkraniYap(EkranBaglami& baglam, const ParametreDeposu& parametreler,

@@ -98,7 +98,7 @@ void brdicmal::AyiOku(int surum, std::size_t sira) {
   if (surum != seriSurumu_) return;
   if (sira == seri_.size()) return GrafikCiz();
   const auto ay = Koru([&] { return IcmalAyiOku(Kaynak().motor, seri_[sira].yil, seri_[sira].ay); });
-  if (!ay) return Bildir(ay.Kusuru());
+  if (!Oldu(ay)) return;
   seri_[sira] = *ay;
   QTimer::singleShot(0, this, [this, surum, sira] { AyiOku(surum, sira + 1); });
 }

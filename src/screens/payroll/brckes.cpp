@@ -24,9 +24,7 @@ brckes::brckes(EkranBaglami& baglam, BordroGirisi& giris)
 void brckes::Onayla() {
   Kesinti kesinti;
   if (!Oku(kesinti)) return;
-  const Durum ayarlandi = giris_.BorcAyarla(kesinti.tutar);
-  if (ayarlandi) return Kapat();
-  Bildir(ayarlandi.Kusuru());
+  if (Oldu(giris_.BorcAyarla(kesinti.tutar))) return Kapat();
   Yukle(kesinti);  // the next key types over it
 }
 

@@ -388,7 +388,7 @@ void brdhazir::TopluHazirla() {
                                .arg(olan.donemDisi)
                                .arg(olan.netsiz));
   }
-  Bildirimi().Uyari(sonuc->KusurMetni());
+  Bildir(sonuc->Kusuru());
   Goster();
   KodaDon();
 }

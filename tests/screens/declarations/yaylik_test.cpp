@@ -201,6 +201,24 @@ TEST(Yaylik, AFaultLeadsToItsCell) {
   EXPECT_EQ(liste.CurrentCol(), liste.Model().KolonBul(u"gun"));
 }
 
+// What else the check has found is one list, at the fields of the people's records.
+TEST(Yaylik, WhatTheCheckHasFoundIsOneList) {
+  BildirgeOrtami ortam;
+  ortam.oturum.depo.db.IcMotor().Calistir(
+      "update sicil set soyadi = ''; update kimlik set tcno = 'x' where kod = '002'");
+  ortam.Ac<yaylik>(ortam.parametreler);
+  ortam.Bas(Qt::Key_F5);
+  ortam.Bas(Qt::Key_F11);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Uyarı: Sigortalı Soyismi Yok"});
+  Form& liste = *ortam.gosterici.formlar.back();
+  ASSERT_EQ(Utf8(liste.Kelime()), "kusurlar");
+  const auto& satirlar = *liste.findChild<dclist*>();
+  QStringList hucreler;
+  for (int i = 0; i < satirlar.ListCount(); ++i)
+    for (const char* ad : {"derece", "kod", "alan"}) hucreler += satirlar.TextByName(i, ad);
+  EXPECT_EQ(hucreler, (QStringList{"Hata", "001", "Soyadı", "Uyarı", "002", "TC Kimlik", "Hata", "002", "Soyadı"}));
+}
+
 TEST(Yaylik, APaperNeedsAChoice) {
   BildirgeOrtami ortam;
   auto& form = ortam.Ac<yaylik>(ortam.parametreler);
