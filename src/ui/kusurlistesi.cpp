@@ -43,8 +43,12 @@ class KusurListesi final : public Form {
       : Form(baglam, "kusurlar", QStringLiteral("Uyarılar ve Hatalar")),
         kusurlar_(std::move(kusurlar)),
         liste_(new dclist(baglam.bildirim, this)) {
-    const QString sayi = QString::number(kusurlar_.size()) + QStringLiteral(" uyarı");
-    YaziEkle(ozet.isEmpty() ? sayi : ozet + ", " + sayi, "baslik");
+    QStringList parcalar = ozet.isEmpty() ? QStringList() : QStringList(ozet);
+    const auto hata = std::ranges::count(kusurlar_, Derece::Hata, &Kusur::derece);
+    const auto uyari = std::ssize(kusurlar_) - hata;
+    if (hata > 0) parcalar += QStringLiteral("%1 hata").arg(hata);
+    if (uyari > 0) parcalar += QStringLiteral("%1 uyarı").arg(uyari);
+    YaziEkle(parcalar.join(", "), "baslik");
     KolonlariYap();
     QLineEdit* arama = liste_->AramaKutusu(this);
     Izle(arama);
