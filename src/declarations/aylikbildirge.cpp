@@ -7,6 +7,7 @@
 #include "core/session/aracibilgi.h"
 #include "core/store/koru.h"
 #include "core/veriyolu.h"
+#include "declarations/bildirgekagidi.h"
 #include "declarations/bildirgesorgu.h"
 
 namespace belvani {
@@ -15,7 +16,6 @@ namespace {
 constexpr std::size_t KodHanesi = 2;
 constexpr std::size_t KagitKisiSiniri = 5;
 constexpr std::size_t SorunSiniri = 10;
-constexpr int Gruplama = 3;
 
 constexpr const char* Hesaplatilmamis = "Bildirge Hesaplatılmamış";
 
@@ -147,11 +147,11 @@ std::string AylikBildirge::OranMetni(std::size_t brans) const {
 }
 
 std::string AylikBildirge::PrimMetni(std::size_t brans) const {
-  return SayiFormat(YalinMetin(bildirge_.prim.primler[brans]), o_.firma.paraonda, Gruplama);
+  return KagitTutari(bildirge_.prim.primler[brans], o_.firma.paraonda);
 }
 
 std::string AylikBildirge::GenelToplamMetni() const {
-  return SayiFormat(YalinMetin(bildirge_.prim.genelToplam), o_.firma.paraonda, Gruplama);
+  return KagitTutari(bildirge_.prim.genelToplam, o_.firma.paraonda);
 }
 
 IsyeriBilgileri AylikBildirge::Isyeri() {

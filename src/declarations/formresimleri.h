@@ -39,8 +39,4 @@ std::vector<FormSayfasi> Ek10Resmi(const EksikGunFormu& form);
 // The people of a declaration who have a reason for missing days, in its order.
 std::vector<EksikGunKisisi> EksikGunKisileri(const std::vector<BildirgeSatiri>& satirlar);
 
-// Asked before a form without people is printed.
-inline constexpr const char* BosFormSorusu = "Boş rapor yazılsın mı?";
-inline constexpr const char* EksikGunBos = "Eksik gün raporu boş";
-
 }  // namespace belvani

@@ -31,7 +31,7 @@ const Kolonlar<TuretilmisSatir> kolonlar{
     {{"İşsizlik", "İssizlik"}, 8, [](auto& s) { return s.brd.issizisci; }, Toplanir},
     {{"Kümüle G.V.", "Kümüle GV"}, 8, [](auto& s) { return s.brd.devgvmatrah; }, Toplanir},
     {{"GV Matrahı", "GV Matrah"}, 8, [](auto& s) { return s.brd.gvmatrah; }, Toplanir},
-    {{"GV İndir.", "GV İndirim"}, 6, [](auto& s) { return GvIndirimi(s.brd); }, Toplanir},
+    {{"GV İndir.", "GV İndirim"}, 6, [](auto& s) { return Degeri(toplam::gvIndirimi, s.brd); }, Toplanir},
     {"GV Tutar", 7, [](auto& s) { return s.brd.gvtutar; }, Toplanir},
     {"D.Vergisi", 9, [](auto& s) { return s.damga; }, Toplanir},
     {"Sendika", 7, [](auto& s) { return s.brd.sendika; }, Toplanir},
@@ -41,12 +41,6 @@ const Kolonlar<TuretilmisSatir> kolonlar{
     {"Net Ödenen", 8, [](auto& s) { return s.net; }, Toplanir},
     {"İmza", 8, [](auto&) { return Null{}; }, HerZaman},
 };
-
-Tutar Topla(const std::vector<BordroSatiri>& satirlar, Tutar (*oku)(const Brd&)) {
-  Tutar toplam;
-  for (const auto& satir : satirlar) toplam += oku(satir.brd);
-  return toplam;
-}
 
 std::vector<UstSatir> UstSatirlar(const DefterBaslik& baslik) {
   const Firma& firma = baslik.firma;
@@ -63,11 +57,11 @@ std::vector<UstSatir> UstSatirlar(const DefterBaslik& baslik) {
 std::vector<BlokSatiri> Icmal(const std::vector<BordroSatiri>& satirlar) {
   return {
       {"Toplam Personel : ", std::int64_t(satirlar.size())},
-      IsverenMatrahi(satirlar),
-      IsverenKesintisi(satirlar),
-      {"Toplam İşveren Devlet Katkısı:", Topla(satirlar, [](auto& b) { return b.katki; })},
-      IsverenIssizligi(satirlar),
-      {"Toplam Ödenecek SSK Primi :", Topla(satirlar, OdenecekSskPrimi)},
+      Toplami(IsverenMatrahi, satirlar),
+      Toplami(IsverenKesintisi, satirlar),
+      Toplami(IsverenKatkisi, satirlar),
+      Toplami(IsverenIssizligi, satirlar),
+      Toplami(OdenecekPrim, satirlar),
   };
 }
 
@@ -121,16 +115,10 @@ UstSatir VergiDairesiSatiri(const Firma& firma) {
   return {.sol = "VERGİ DAİRESİ HESAP No : " + firma.verda + " - " + firma.verno, .sag = "Sayfa : ", .sayfaNo = true};
 }
 
-BlokSatiri IsverenMatrahi(const std::vector<BordroSatiri>& satirlar) {
-  return {"Toplam SSK İşveren Matrahı :", Topla(satirlar, [](auto& b) { return b.sskmatrahisveren; })};
-}
-
-BlokSatiri IsverenKesintisi(const std::vector<BordroSatiri>& satirlar) {
-  return {"Toplam SSK İşveren Kesintisi :", Topla(satirlar, [](auto& b) { return b.sskkesintiisveren; })};
-}
-
-BlokSatiri IsverenIssizligi(const std::vector<BordroSatiri>& satirlar) {
-  return {"Toplam İşsizliik İşveren Kesintisi :", Topla(satirlar, [](auto& b) { return b.issizisveren; })};
+BlokSatiri Toplami(const BlokToplami& tanim, const std::vector<BordroSatiri>& satirlar) {
+  Tutar toplam;
+  for (const auto& satir : satirlar) toplam += Degeri(tanim.ifade, satir.brd);
+  return {tanim.etiket, toplam};
 }
 
 BordroDonemi BelgeDonemi(const DefterBaslik& baslik) {

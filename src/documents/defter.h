@@ -15,6 +15,7 @@
 #include "core/tables/sicil.h"
 #include "documents/belgetanimi.h"
 #include "payroll/hesap/donem.h"
+#include "payroll/hesap/kayittoplami.h"
 #include "printing/kagit.h"
 #include "printing/rapor.h"
 
@@ -97,9 +98,17 @@ UstSatir IsyeriSatiri(const Firma& firma);
 UstSatir VergiDairesiSatiri(const Firma& firma);
 
 // Sums of the employer's side, as the end blocks of wage papers name them.
-BlokSatiri IsverenMatrahi(const std::vector<BordroSatiri>& satirlar);
-BlokSatiri IsverenKesintisi(const std::vector<BordroSatiri>& satirlar);
-BlokSatiri IsverenIssizligi(const std::vector<BordroSatiri>& satirlar);
+struct BlokToplami {
+  const char* etiket;
+  Ifade ifade;
+};
+inline constexpr BlokToplami IsverenMatrahi{"Toplam SSK İşveren Matrahı :", brd::sskmatrahisveren};
+inline constexpr BlokToplami IsverenKesintisi{"Toplam SSK İşveren Kesintisi :", brd::sskkesintiisveren};
+inline constexpr BlokToplami IsverenKatkisi{"Toplam İşveren Devlet Katkısı:", brd::katki};
+inline constexpr BlokToplami IsverenIssizligi{"Toplam İşsizliik İşveren Kesintisi :", brd::issizisveren};
+inline constexpr BlokToplami OdenecekPrim{"Toplam Ödenecek SSK Primi :", toplam::odenecekPrim};
+
+BlokSatiri Toplami(const BlokToplami& tanim, const std::vector<BordroSatiri>& satirlar);
 
 // The period of the papers of a month.
 BordroDonemi BelgeDonemi(const DefterBaslik& baslik);

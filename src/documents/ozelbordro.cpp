@@ -51,7 +51,8 @@ Rapor OzelBordroRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBa
                        {.sol = "BÖLGE ÇALIŞMA DOSYA No : " + firma.bolcal},
                        VergiDairesiSatiri(firma)};
   if (!satirlar.empty())
-    rapor.sonBlok = {IsverenMatrahi(satirlar), IsverenKesintisi(satirlar), IsverenIssizligi(satirlar)};
+    for (const auto& tanim : {IsverenMatrahi, IsverenKesintisi, IsverenIssizligi})
+      rapor.sonBlok.push_back(Toplami(tanim, satirlar));
   return rapor;
 }
 

@@ -23,10 +23,6 @@ Tutar GunlukBrut(const Brd& brd, Yuvarlayici yuvarla) {
   return gun == 0 ? Tutar() : yuvarla(brd.ucret.Sayi() / gun);
 }
 
-Tutar GvIndirimi(const Brd& brd) {
-  return Degeri(toplam::gvIndirimi, brd);
-}
-
 Tutar AgiDahilDamga(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
   return yuvarla(brd.dvtutar + yuvarla(brd.ogv.Sayi() * damgaOran.Sayi() / 1000));
 }
@@ -37,10 +33,6 @@ Tutar Kesintiler(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
 
 Tutar NetOdenen(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
   return Degeri(toplam::odenen, brd) + brd.ogv - AgiDamgasi(brd, damgaOran, yuvarla);
-}
-
-Tutar OdenecekSskPrimi(const Brd& brd) {
-  return Degeri(toplam::odenecekPrim, brd);
 }
 
 std::string AdSoyad(const Sicil& sicil) {

@@ -19,9 +19,6 @@ int GunToplami(const Brd& brd);
 // `ucret` over those days; 0 without any.
 Tutar GunlukBrut(const Brd& brd, Yuvarlayici yuvarla);
 
-// Deductions from the income-tax base: indirim1 + indirim2 + indirim3 + sakindir.
-Tutar GvIndirimi(const Brd& brd);
-
 // "D.Vergisi": Yuvarla(dvtutar + Yuvarla(ogv × damgaOran / 1000)); damgaOran per thousand.
 // dvtutar 4.16, ogv 51.98, 6 per thousand -> 4.16 + 0.31 = 4.47. Without an allowance it is dvtutar.
 Tutar AgiDahilDamga(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla);
@@ -31,10 +28,6 @@ Tutar Kesintiler(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla);
 
 // "Net Ödenen": gross less Kesintiler, plus the allowance.
 Tutar NetOdenen(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla);
-
-// What the employer owes the institution for the person: premium and unemployment shares of both sides, less the state
-// contribution `katki`.
-Tutar OdenecekSskPrimi(const Brd& brd);
 
 // "Ayşe Yılmaz".
 std::string AdSoyad(const Sicil& sicil);

@@ -4,6 +4,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "documents/ornekler.h"
+#include "payroll/hesap/kayittoplami.h"
 
 namespace belvani {
 namespace {
@@ -35,8 +36,8 @@ TEST(Turetilen, StampDutyAndNet) {
 
 TEST(Turetilen, TheOthers) {
   const Brd brd = test::Ayrilan().brd;
-  EXPECT_EQ(GvIndirimi(brd), Tutar(185.0));
-  EXPECT_EQ(OdenecekSskPrimi(brd), Tutar(140.0 + 195 + 10 + 20 - 50));
+  EXPECT_EQ(Degeri(toplam::gvIndirimi, brd), Tutar(185.0));
+  EXPECT_EQ(Degeri(toplam::odenecekPrim, brd), Tutar(140.0 + 195 + 10 + 20 - 50));
   Sicil sicil;
   EXPECT_EQ(AdSoyad(sicil), "");
   sicil.soyadi = "Öz";

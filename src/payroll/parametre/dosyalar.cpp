@@ -232,14 +232,6 @@ Durum OzelGvKaydet(const VeriYolu& veri, const GvTablosu& tablo) {
   return Kaydet<OzelGvKaydi>(veri, tablo);
 }
 
-Durum KazancKaydet(const VeriYolu& sirket, const KazancBayraklari& bayraklar) {
-  return Kaydet<KazancKaydi>(sirket, bayraklar.k);
-}
-
-Durum YardimKaydet(const VeriYolu& sirket, const KazancBayraklari& bayraklar) {
-  return Kaydet<YardimKaydi>(sirket, bayraklar.y);
-}
-
 Durum FazlaMesaiKaydet(const VeriYolu& sirket, const FazlaMesailer& mesailer) {
   std::string baytlar;
   for (const auto& mesai : mesailer) baytlar += KayitBaytlari<FazlaMesaiKaydi>(mesai);

@@ -74,8 +74,6 @@ Durum AgiTablosuKaydet(const VeriYolu& veri, const AgiTablosu& tablo);
 Durum HesapTurleriKaydet(const VeriYolu& veri, const HesapTurleri& turler);
 Durum KanunlarKaydet(const VeriYolu& veri, const Kanunlar& kanunlar);
 Durum OzelGvKaydet(const VeriYolu& veri, const GvTablosu& tablo);
-Durum KazancKaydet(const VeriYolu& sirket, const KazancBayraklari& bayraklar);
-Durum YardimKaydet(const VeriYolu& sirket, const KazancBayraklari& bayraklar);
 Durum FazlaMesaiKaydet(const VeriYolu& sirket, const FazlaMesailer& mesailer);
 Durum SablonKaydet(const VeriYolu& sirket, const Sablon& sablon);
 
