@@ -1,4 +1,6 @@
 // Screens of the law's parameters, typed key by key.
+#include <gmock/gmock.h>
+
 #include "core/dosya.h"
 #include "ekran/ortam.h"
 #include "screens/payroll/agifrm.h"
