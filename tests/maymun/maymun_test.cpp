@@ -6,8 +6,10 @@
 //   BELVANI_MAYMUN_SANIYE  how long                                             (one short round)
 //   BELVANI_MAYMUN_SAHNE   one scene only, as the report of a failure names it  (all)
 #include <QHeaderView>
+#include <algorithm>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <random>
 
 #include "maymun/nobetci.h"
 #include "maymun/oyuncu.h"
@@ -78,7 +80,7 @@ void Bekle(const std::string& kusur, const std::string& oyun) {
 TEST(Maymun, RandomKeysBreakNothing) {
   const std::string tohumMetni = Cevre("BELVANI_MAYMUN_TOHUM"), saniye = Cevre("BELVANI_MAYMUN_SANIYE");
   unsigned tohum = tohumMetni.empty() ? 1 : unsigned(std::stoul(tohumMetni));
-  const std::vector<Sahne> sahneler = IstenenSahneler();
+  std::vector<Sahne> sahneler = IstenenSahneler();
   ASSERT_FALSE(sahneler.empty());
   if (saniye.empty()) {
     for (const OyunSirketi& sirket : Sirketler)
@@ -86,13 +88,15 @@ TEST(Maymun, RandomKeysBreakNothing) {
     return;
   }
   const auto son = std::chrono::steady_clock::now() + std::chrono::seconds(std::stoi(saniye));
-  for (;; ++tohum)
+  for (;; ++tohum) {
+    std::shuffle(sahneler.begin(), sahneler.end(), std::mt19937(tohum));  // a short run sees other screens each time
     for (const Sahne& sahne : sahneler)
       for (const OyunSirketi& sirket : Sirketler) {
         if (std::chrono::steady_clock::now() > son) return;
         Bekle(RastgeleOyun(sirket, {sahne}, tohum, UzunOyun),
               sirket.ad + "; again: make maymun SANIYE=1 TOHUM=" + std::to_string(tohum) + " SAHNE=" + sahne.ad);
       }
+  }
 }
 
 // Lists of the window in front, in the order in which the screen has made them.

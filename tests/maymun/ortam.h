@@ -50,10 +50,10 @@ struct OyunSirketi {
 
 struct MaymunOrtami {
   // `kaynak`: the data path that is copied.
-  MaymunOrtami(const std::string& kaynak, OyunSirketi oyunSirketi, unsigned tohum)
-      : sirket(std::move(oyunSirketi)), dialoglar(dizin.Yol(), tohum) {
-    for (const char* ad : {"prg", "veri", "başka"}) std::filesystem::create_directories(dizin.Yol() + ad);
-    std::filesystem::copy(kaynak, VeriYeri(), std::filesystem::copy_options::recursive);
+  MaymunOrtami(const std::string& veri, OyunSirketi oyunSirketi, unsigned tohum)
+      : kaynak(veri), sirket(std::move(oyunSirketi)), dialoglar(dizin.Yol(), tohum) {
+    for (const char* ad : {"prg", "başka"}) std::filesystem::create_directories(dizin.Yol() + ad);
+    VeriyiKoy();
     oturum.PrgPath = dizin.Yol() + "prg/";
     oturum.DataPath = VeriYeri();
     oturum.BilgisayarAdi = "MASA1";
@@ -64,10 +64,20 @@ struct MaymunOrtami {
 
   std::string VeriYeri() const { return dizin.Yol() + "veri/"; }
 
+  // Where the keys have changed or deleted the user, the data begins anew.
   void Gir() {
+    if (Girildi()) return;
+    oturum.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
+    VeriyiKoy();
+    if (!Girildi()) throw std::runtime_error("no login to " + sirket.ad);
+  }
+  bool Girildi() {
     ToplayanBildirim sessiz;
-    if (!SirketAc(oturum, sirket.ad, sessiz) || !OturumAc(oturum, sirket.ad, sirket.kullanici, sirket.kullanici))
-      throw std::runtime_error("no login to " + sirket.ad);
+    return SirketAc(oturum, sirket.ad, sessiz) && OturumAc(oturum, sirket.ad, sirket.kullanici, sirket.kullanici);
+  }
+  void VeriyiKoy() {
+    std::filesystem::remove_all(VeriYeri());
+    std::filesystem::copy(kaynak, VeriYeri(), std::filesystem::copy_options::recursive);
   }
   void PencereAc() {
     parametreler.YasalYukle(oturum.DataPath);
@@ -88,6 +98,7 @@ struct MaymunOrtami {
   bool EkranVar() const { return pencere != nullptr && !pencere->findChild<QMdiArea*>()->subWindowList().isEmpty(); }
 
   GeciciDizin dizin;
+  std::string kaynak;
   OyunSirketi sirket;
   SabitGun gun{Tarih(2009, 12, 15)};
   BildirimKutusu kutu;
