@@ -2,6 +2,18 @@
 
 namespace belvani {
 
+namespace {
+
+// What fetching would put away.
+std::string GidecekRakamlar(const KuruluMevzuat& kurulu, std::optional<ParametreDosyasi> yalniz) {
+  MevzuatGorusu liste{MevzuatHali::Kullanici, "Kurulu parametrelerde değiştirdiğiniz rakamlar var:", {}};
+  for (const RakamFarki& fark : KullanicininRakamlari(kurulu))
+    if (!yalniz || BolumDosyasi(fark.bolum) == ParametreDosyaAdi(*yalniz)) liste.satirlar.push_back(fark.Metin());
+  return liste.satirlar.empty() ? std::string() : liste.Metin();
+}
+
+}  // namespace
+
 bool MevzuatSorusu::Uygun(MevzuatAyi ay) {
   const MevzuatGorusu gorus = parametreler_.MevzuataBak(o_, ay);
   const std::string getirilsinMi = gorus.Metin() + "\n\n" + ay.Metin() + " parametreleri getirilsin mi ?";
@@ -9,7 +21,8 @@ bool MevzuatSorusu::Uygun(MevzuatAyi ay) {
     case MevzuatHali::Uygun:
       return true;
     case MevzuatHali::Kullanilamaz:
-      return bildirim_.Soru(getirilsinMi) && Getir(ay);
+      return bildirim_.Soru(getirilsinMi) && Getir(ay) &&
+             parametreler_.MevzuataBak(o_, ay).hal != MevzuatHali::Kullanilamaz;
     case MevzuatHali::BaskaAy:
       if (sorulanlar_.contains({ay.Iso(), parametreler_.yasalSurumu})) return true;
       if (bildirim_.Soru(getirilsinMi)) return Getir(ay);
@@ -23,28 +36,25 @@ bool MevzuatSorusu::Uygun(MevzuatAyi ay) {
   return false;
 }
 
-bool MevzuatSorusu::Getir(MevzuatAyi ay) {
-  const KuruluMevzuat kurulu = KuruluMevzuatOku(o_.DataPath);
-  if (const auto kendi = KullanicininRakamlari(kurulu); !kendi.empty()) {
-    MevzuatGorusu liste{MevzuatHali::Kullanici, "Kurulu parametrelerde değiştirdiğiniz rakamlar var:", {}};
-    for (const RakamFarki& fark : kendi) liste.satirlar.push_back(fark.Metin());
-    if (!bildirim_.Soru(liste.Metin() + "\n\nBunlar saklanacak ve kendi ayları yeniden getirilince geri gelecek.\n" +
-                        ay.Metin() + " parametreleri getirilsin mi ?"))
-      return false;
-  }
-  MevzuatIstegi istek;
-  if (SaklananVar(o_.DataPath, ay) &&
-      !bildirim_.Soru(ay.Metin() +
-                      " için daha önce değiştirdiğiniz rakamlar saklı.\nYayımlananlar yerine onlar mı gelsin ?"))
+bool MevzuatSorusu::Getir(MevzuatAyi ay, std::optional<ParametreDosyasi> yalniz) {
+  const std::string giden = GidecekRakamlar(KuruluMevzuatOku(o_.DataPath), yalniz);
+  if (!giden.empty() &&
+      !bildirim_.Soru(giden + "\n\nBunlar saklanacak ve kendi ayları yeniden getirilince geri gelecek.\n" + ay.Metin() +
+                      " parametreleri getirilsin mi ?"))
+    return false;
+  MevzuatIstegi istek{.yalniz = yalniz};
+  if (!yalniz && SaklananVar(o_.DataPath, ay) &&
+      !bildirim_.Soru(ay.Metin() + " için daha önce değiştirdiğiniz rakamlar saklı.\n"
+                                   "Yayımlananlar yerine onlar mı gelsin ?"))
     istek.saklanan = Saklanan::Birakilir;
   const auto kurulum = getiren(ay, istek);
   if (!kurulum) return false;
   if (!*kurulum) {
-    bildirim_.Uyari("Parametre Bulunamadı..\n" + ay.Metin() + ": " + kurulum->KusurMetni());
+    bildirim_.Uyari("Parametre Bulunamadı..\n" + kurulum->KusurMetni());
     return false;
   }
   bildirim_.Bilgi("Parametre İndirildi..");
-  return parametreler_.MevzuataBak(o_, ay).hal != MevzuatHali::Kullanilamaz;
+  return true;
 }
 
 }  // namespace belvani

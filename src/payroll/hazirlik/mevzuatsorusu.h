@@ -24,10 +24,10 @@ class MevzuatSorusu {
   // The month may be calculated with what is installed now.
   bool Uygun(MevzuatAyi ay);
 
-  // Fetches the month's law, after the questions that it takes; true when it is there.
-  bool Getir(MevzuatAyi ay);
+  // Fetches the month's law, or one file of it, after the questions that it takes; true when it has come.
+  bool Getir(MevzuatAyi ay, std::optional<ParametreDosyasi> yalniz = {});
 
-  // How it is fetched: a screen shows that it takes time. Nothing: the user has given it up.
+  // How it is fetched: a screen shows that it takes time. Nothing: the user has given it up, which was told.
   using Getiren = std::function<std::optional<Sonuc<MevzuatKurulumu>>(MevzuatAyi, const MevzuatIstegi&)>;
   Getiren getiren = [this](MevzuatAyi ay, const MevzuatIstegi& istek) {
     return std::optional(parametreler_.MevzuatiGetir(o_, ay, istek));

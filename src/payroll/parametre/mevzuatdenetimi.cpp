@@ -12,8 +12,6 @@ namespace {
 const Tutar EnAzAsgariUcret = Tutar(100);
 const Tutar EnCokAsgariUcret = Tutar(10'000);
 constexpr int EskiLiraKati = 1'000'000;
-constexpr double EnCokYuzde = 100;
-constexpr double EnCokBinde = 1000;
 
 std::string RakamMetni(Tutar tutar) {
   return TutarMetni(tutar, 2);
@@ -22,9 +20,11 @@ std::string RakamMetni(Tek oran) {
   return SayiMetni(oran.Sayi());
 }
 
-void AralikDenetle(std::vector<std::string>& kusurlar, const std::string& etiket, Tek oran, double enCok) {
-  if (oran.Sayi() >= 0 && oran.Sayi() <= enCok) return;
-  kusurlar.push_back(etiket + " 0 ile " + SayiMetni(enCok) + " arasında değil: " + RakamMetni(oran));
+// The rate against the largest value of its row.
+template <class Uye>
+void AralikDenetle(std::vector<std::string>& kusurlar, const std::string& etiket, const Uye& uye, Tek oran) {
+  if (oran.Sayi() >= 0 && oran.Sayi() <= uye.enCok) return;
+  kusurlar.push_back(etiket + " 0 ile " + SayiMetni(uye.enCok) + " arasında değil: " + RakamMetni(oran));
 }
 
 void TutarlariDenetle(std::vector<std::string>& kusurlar, const YasalOranlar& o, int kat) {
@@ -38,12 +38,13 @@ void TutarlariDenetle(std::vector<std::string>& kusurlar, const YasalOranlar& o,
 }
 
 void OranlariDenetle(std::vector<std::string>& kusurlar, const YasalOranlar& o) {
-  AralikDenetle(kusurlar, UyeTanimi<&YasalOranlar::DamgaOran>().etiket, o.DamgaOran, EnCokBinde);
+  constexpr auto damga = UyeTanimi<&YasalOranlar::DamgaOran>();
+  AralikDenetle(kusurlar, damga.etiket, damga, o.DamgaOran);
   for (std::size_t dal = 0; dal < o.IsciOran.size(); ++dal) {
     const std::string ek = ", " + std::to_string(dal + 1) + ". sigorta kolu, ";
     HerUye<OranSatiri>([&](const auto& uye) {
-      AralikDenetle(kusurlar, "İşçi oranı" + ek + uye.etiket, o.IsciOran[dal].*uye.uye, EnCokYuzde);
-      AralikDenetle(kusurlar, "İşveren oranı" + ek + uye.etiket, o.IsverenOran[dal].*uye.uye, EnCokYuzde);
+      AralikDenetle(kusurlar, "İşçi oranı" + ek + uye.etiket, uye, o.IsciOran[dal].*uye.uye);
+      AralikDenetle(kusurlar, "İşveren oranı" + ek + uye.etiket, uye, o.IsverenOran[dal].*uye.uye);
     });
   }
 }
@@ -53,14 +54,14 @@ void TabloyuDenetle(std::vector<std::string>& kusurlar, const GvTablosu& gv) {
   for (std::size_t i = 0; i < gv.GvLimit.size() && gv.GvLimit[i] != Tutar(); ++i) {
     const std::string dilim = "Gelir vergisi tablosu, " + std::to_string(i + 1) + ". dilim";
     if (gv.GvLimit[i] <= (i == 0 ? Tutar() : gv.GvLimit[i - 1])) kusurlar.push_back(dilim + ": üst sınır artmıyor");
-    AralikDenetle(kusurlar, dilim + " oranı", gv.GvOran[i], EnCokYuzde);
+    AralikDenetle(kusurlar, dilim + " oranı", UyeTanimi<&GvTablosu::GvOran>(), gv.GvOran[i]);
   }
 }
 
 void AgiyiDenetle(std::vector<std::string>& kusurlar, const AgiTablosu& agi) {
   HerUye<AgiTablosu>([&](const auto& uye) {
     if constexpr (std::is_same_v<std::remove_cvref_t<decltype(agi.*uye.uye)>, Tek>)
-      AralikDenetle(kusurlar, uye.etiket, agi.*uye.uye, EnCokYuzde);
+      AralikDenetle(kusurlar, uye.etiket, uye, agi.*uye.uye);
   });
   if (agi.AgiTaban < Tutar()) kusurlar.push_back("Asgari geçim indirimi tabanı sıfırdan küçük");
 }
@@ -203,15 +204,24 @@ std::vector<RakamFarki> RakamFarklari(const YasalParametreler& kurulu, const Yas
   return hepsi;
 }
 
-std::optional<MevzuatAyi> YayimlandigiAy(const YasalParametreler& kurulu, MevzuatBolumu bolum) {
+Sonuc<YasalParametreler> YayimlananRakamlar(const YasalParametreler& kurulu, MevzuatAyi ay) {
+  return MevzuatYukle(MevzuatDizini(), ay.yil, ay.ay, EskiLiraMi(kurulu) ? Lira::Eski : Lira::Yeni);
+}
+
+std::optional<MevzuatAyi> IlkUyanAy(const YasalParametreler& kurulu,
+                                    const std::function<bool(const YasalParametreler&)>& uyar) {
   constexpr int ilkYil = 2003, sonYil = 2009;
-  const Lira lira = EskiLiraMi(kurulu) ? Lira::Eski : Lira::Yeni;
   for (int yil = ilkYil; yil <= sonYil; ++yil)
     for (int ay = 1; ay <= 12; ++ay)
-      if (const auto yayimlanan = MevzuatYukle(MevzuatDizini(), yil, ay, lira);
-          yayimlanan && Yayimlandi(*yayimlanan, bolum) && BolumFarklari(kurulu, *yayimlanan, bolum).empty())
+      if (const auto yayimlanan = YayimlananRakamlar(kurulu, {yil, ay}); yayimlanan && uyar(*yayimlanan))
         return MevzuatAyi{yil, ay};
   return std::nullopt;
+}
+
+std::optional<MevzuatAyi> YayimlandigiAy(const YasalParametreler& kurulu, MevzuatBolumu bolum) {
+  return IlkUyanAy(kurulu, [&](const YasalParametreler& yayimlanan) {
+    return Yayimlandi(yayimlanan, bolum) && BolumFarklari(kurulu, yayimlanan, bolum).empty();
+  });
 }
 
 }  // namespace belvani

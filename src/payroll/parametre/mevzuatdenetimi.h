@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -55,6 +56,11 @@ struct RakamFarki {
 // the user's own and is not compared; nor is the limit of the last bracket, which the law leaves open.
 std::vector<RakamFarki> RakamFarklari(const YasalParametreler& kurulu, const YasalParametreler& yayimlanan);
 
+// The published figures of a month, in the lira of the installed ones.
+Sonuc<YasalParametreler> YayimlananRakamlar(const YasalParametreler& kurulu, MevzuatAyi ay);
+// The first published month that fits.
+std::optional<MevzuatAyi> IlkUyanAy(const YasalParametreler& kurulu,
+                                    const std::function<bool(const YasalParametreler&)>& uyar);
 // The first month for which this part was published as it is; nothing when it is nobody's but the user's.
 std::optional<MevzuatAyi> YayimlandigiAy(const YasalParametreler& kurulu, MevzuatBolumu bolum);
 

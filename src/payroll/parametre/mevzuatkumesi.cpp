@@ -42,10 +42,6 @@ std::string KabulAnahtari(const YasalParametreler& kurulu, const YasalParametrel
   return Ozet(hepsi);
 }
 
-Sonuc<YasalParametreler> Yayimlanan(const YasalParametreler& kurulu, MevzuatAyi ay) {
-  return MevzuatYukle(MevzuatDizini(), ay.yil, ay.ay, EskiLiraMi(kurulu) ? Lira::Eski : Lira::Yeni);
-}
-
 bool AlindigiGibi(const KuruluMevzuat& kurulu, MevzuatBolumu bolum) {
   return kurulu.AlindigiAy(BolumDosyasi(bolum)).has_value();
 }
@@ -55,13 +51,9 @@ bool AlindigiGibi(const KuruluMevzuat& kurulu, MevzuatBolumu bolum) {
 std::optional<MevzuatAyi> SahipAy(const KuruluMevzuat& kurulu) {
   const auto not_ = kurulu.kunye.dosyalar.find(YasalKaydi::Dosya);
   if (not_ != kurulu.kunye.dosyalar.end()) return not_->second.ay;
-  constexpr int ilkYil = 2003, sonYil = 2009;
-  for (int yil = ilkYil; yil <= sonYil; ++yil)
-    for (int ay = 1; ay <= 12; ++ay)
-      if (const auto p = Yayimlanan(kurulu.parametreler, {yil, ay});
-          p && p->oranlar.AsgariUcret == kurulu.parametreler.oranlar.AsgariUcret)
-        return MevzuatAyi{yil, ay};
-  return std::nullopt;
+  return IlkUyanAy(kurulu.parametreler, [&](const YasalParametreler& yayimlanan) {
+    return yayimlanan.oranlar.AsgariUcret == kurulu.parametreler.oranlar.AsgariUcret;
+  });
 }
 
 // "yasal2.dat" -> "yasal2-2009-07.dat"
@@ -182,7 +174,7 @@ MevzuatGorusu KullanilabilirMi(const KuruluMevzuat& kurulu) {
 MevzuatGorusu MevzuataBak(const KuruluMevzuat& kurulu, MevzuatAyi ay) {
   if (auto gorus = KullanilabilirMi(kurulu); gorus.hal != MevzuatHali::Uygun) return gorus;
   const YasalParametreler& p = kurulu.parametreler;
-  const auto yayimlanan = Yayimlanan(p, ay);
+  const auto yayimlanan = YayimlananRakamlar(p, ay);
   if (!yayimlanan) return {};
 
   MevzuatGorusu gorus{MevzuatHali::BaskaAy, {}, {}};
@@ -211,13 +203,13 @@ Durum MevzuatiKabulEt(const VeriYolu& veri, MevzuatAyi ay) {
   const auto gorus = MevzuataBak(kurulu, ay);
   if (gorus.hal == MevzuatHali::Uygun) return Tamam();
   if (gorus.hal == MevzuatHali::Kullanilamaz) return Kusur{gorus.Metin()};
-  kurulu.kunye.kabuller.insert(KabulAnahtari(kurulu.parametreler, *Yayimlanan(kurulu.parametreler, ay)));
+  kurulu.kunye.kabuller.insert(KabulAnahtari(kurulu.parametreler, *YayimlananRakamlar(kurulu.parametreler, ay)));
   return veri.Yaz(MevzuatKunyesi::Dosya, kurulu.kunye.Metin());
 }
 
 std::vector<RakamFarki> KullanicininRakamlari(const KuruluMevzuat& kurulu) {
   const auto sahip = SahipAy(kurulu);
-  const auto yayimlanan = Yayimlanan(kurulu.parametreler, sahip.value_or(MevzuatAyi{}));
+  const auto yayimlanan = YayimlananRakamlar(kurulu.parametreler, sahip.value_or(MevzuatAyi{}));
   if (!yayimlanan) return {};
   auto farklar = RakamFarklari(kurulu.parametreler, *yayimlanan);
   std::erase_if(farklar, [&](const RakamFarki& fark) { return AlindigiGibi(kurulu, fark.bolum); });

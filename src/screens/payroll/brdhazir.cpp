@@ -6,6 +6,7 @@
 
 #include "screens/payroll/brckes.h"
 #include "screens/payroll/brdhaziralanlar.h"
+#include "screens/payroll/parametreindirme.h"
 #include "ui/kusurlistesi.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
@@ -28,7 +29,6 @@ QComboBox* Liste(QWidget* ust) {
 
 brdhazir::brdhazir(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : Form(baglam, "brdhazir", QStringLiteral("Bordro Hazırlık")),
-      parametreler_(parametreler),
       giris_(baglam.oturum, parametreler, baglam.bildirim),
       ay_(Liste(this)),
       bordroNo_(Liste(this)),
@@ -39,12 +39,7 @@ brdhazir::brdhazir(EkranBaglami& baglam, ParametreDeposu& parametreler)
       muafiyet_(new QLabel(this)),
       neden_(new NedenPaneli(this)) {
   acik_ = giris_.Ac();
-  giris_.MevzuatNasilGetirilir([this](MevzuatAyi ay, MevzuatIstegi istek) {
-    return UzunIs(Baglam(), QStringLiteral("Parametre indiriliyor…"), [&](Ilerleme& ilerleme) {
-      istek.sinir.ilerleme = &ilerleme;
-      return parametreler_.MevzuatiGetir(Oturumu(), ay, istek);
-    });
-  });
+  giris_.MevzuatNasilGetirilir(ParametreIndirme(baglam, parametreler));
   UstSatirYap();
   GovdeYap();
   TuslariBagla();

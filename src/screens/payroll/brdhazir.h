@@ -58,7 +58,6 @@ class brdhazir : public Form {
   QString Para(Tutar tutar) const;
   void UyariRengi(bool kirmizi);
 
-  ParametreDeposu& parametreler_;
   BordroGirisi giris_;
   bool gosterildi_ = false;
   bool acik_ = false;  // the company has what a payroll needs

@@ -1,8 +1,8 @@
 #include "screens/payroll/parametreekrani.h"
 
 #include "core/turkce.h"
+#include "screens/payroll/parametreindirme.h"
 #include "ui/metin.h"
-#include "ui/uzunis.h"
 #include "ui/xtext.h"
 
 namespace belvani {
@@ -15,18 +15,9 @@ ParametreEkrani::ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametr
 
 void ParametreEkrani::IndirDugmesi(ParametreDosyasi dosya, std::function<void()> goster) {
   const auto indir = [this, dosya, goster = std::move(goster)] {
-    bool vazgecildi = false;
-    const auto durum = UzunIs(Baglam(), QStringLiteral("Parametre indiriliyor…"), [&](Ilerleme& ilerleme) {
-      auto indirme = parametreler_.MevzuatiGetir(Oturumu(), {Oturumu().firma.firmayil, Oturumu().firma.firmaay},
-                                                 {.yalniz = dosya, .sinir = {.ilerleme = &ilerleme}});
-      vazgecildi = ilerleme.Vazgecildi();
-      return indirme;
-    });
-    if (!durum) return;
-    if (vazgecildi) return Bildirimi().Bilgi("Parametre indirmeden vazgeçildi, hiçbir şey değişmedi.");
-    if (!*durum) return Bildirimi().Uyari("Parametre Bulunamadı..\n" + durum->KusurMetni());
-    Bildirimi().Bilgi("Parametre İndirildi..");
-    goster();
+    MevzuatSorusu soru(Oturumu(), parametreler_, Bildirimi());
+    soru.getiren = ParametreIndirme(Baglam(), parametreler_);
+    if (soru.Getir({Oturumu().firma.firmayil, Oturumu().firma.firmaay}, dosya)) goster();
   };
   Komutlar({{.dugme = "Parametre İndir", .simge = "indir", .islev = indir}});
 }

@@ -262,6 +262,46 @@ TEST(BordroGirisi, ClosesWhatWasVisitedOrChanged) {
   EXPECT_EQ(e.Kayitlar(2009, 1).size(), 2u);
 }
 
+// Another month's law is asked about once and may stay, the user's own figures are confirmed for good, and without law
+// nobody comes up.
+TEST(BordroGirisi, NoMonthIsPaidUnderAnotherMonthsLawWithoutAWord) {
+  Ekran e;
+  for (const char* kod : {"1", "2"}) e.Kisi(kod, 900);
+  e.Ac(2009, 1);
+  const auto kur = [&](MevzuatAyi ay) { test::Al(MevzuatKur(e.o.DataPath, ay, *ParametreAdresi(ay.yil, ay.ay))); };
+  kur({2009, 7});  // a colleague has fetched another month meanwhile
+  e.bildirim.cevap = false;
+  EXPECT_EQ(e.giris.KodAl("1"), KodSonucu::Yuklendi);
+  EXPECT_THAT(e.bildirim.Al(), ElementsAre(testing::AllOf(testing::StartsWith("Soru: Kurulu yasal parametreler Ocak"),
+                                                          testing::HasSubstr("(Temmuz 2009)"),
+                                                          testing::HasSubstr("693.00 (yayımlanan 666.00)"))));
+  EXPECT_EQ(e.depo.yasal.oranlar.AsgariUcret, Tutar(693)) << "what is installed holds here too";
+  EXPECT_EQ(e.giris.KodAl("2"), KodSonucu::Yuklendi);
+  EXPECT_THAT(e.bildirim.Al(), testing::IsEmpty()) << "answered once";
+
+  e.bildirim.cevap = true;
+  kur({2009, 7});
+  e.depo.YasalYukle(e.o.DataPath);
+  EXPECT_TRUE(e.giris.MevzuatUygun());
+  EXPECT_EQ(e.depo.yasal.oranlar.AsgariUcret, Tutar(666)) << "fetched";
+  EXPECT_EQ(e.bildirim.Al().size(), 2u);
+
+  YasalOranlar kendi = e.depo.yasal.oranlar;
+  kendi.KidemTavan = Tutar(3000);
+  ASSERT_TRUE(YasalOranlarKaydet(e.o.DataPath, kendi));
+  EXPECT_TRUE(e.giris.MevzuatUygun());
+  EXPECT_THAT(e.bildirim.Al(), ElementsAre(testing::HasSubstr("Kıdem T. Tavan: 3,000.00 (yayımlanan 2,260.05)")));
+  EXPECT_TRUE(e.giris.MevzuatUygun());
+  EXPECT_THAT(e.bildirim.Al(), testing::IsEmpty()) << "confirmed";
+
+  ASSERT_TRUE(VeriYolu(e.o.DataPath).Sil("gvtbl.dat"));
+  e.bildirim.cevap = false;
+  EXPECT_EQ(e.giris.KodAl("1"), KodSonucu::Yuklenemedi);
+  EXPECT_THAT(e.bildirim.Al(), ElementsAre(testing::HasSubstr("gvtbl.dat yok")));
+  EXPECT_FALSE(e.giris.SablondanHazirla());
+  EXPECT_TRUE(e.Kayitlar(2009, 1).empty());
+}
+
 TEST(BordroGirisi, SavedAgainKeepsTheRatesAndAsks) {
   Ekran e;
   e.Kisi("1", 900);

@@ -69,7 +69,10 @@ TEST(Yyasor, TellsThatTheRatesAreOfAnotherMonthAndFetchesTheRightOnes) {
   EXPECT_EQ(Dosyadan(ortam).oranlar.SskTaban, Tutar(666.1234)) << "saving has rounded what was not touched";
 
   DugmeyeBas(form, "Parametre İndir");
-  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: Parametre İndirildi.."});
+  EXPECT_THAT(ortam.bildirim.Al(),
+              testing::ElementsAre(testing::HasSubstr("SSK Taban Matrah: 666.12 (yayımlanan 666.00)"),
+                                   "Bilgi: Parametre İndirildi.."))
+      << "what the user has typed is not put away unasked";
   EXPECT_EQ(AlanMetni(form, "AsgariUcret"), "693.00");
   EXPECT_FALSE(uyari->isVisible());
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
