@@ -1,6 +1,7 @@
 #include "declarations/aylikbildirge.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "core/dosya.h"
 #include "core/sayi.h"
@@ -9,6 +10,7 @@
 #include "core/veriyolu.h"
 #include "declarations/bildirgekagidi.h"
 #include "declarations/bildirgesorgu.h"
+#include "payroll/parametre/mevzuatdenetimi.h"
 
 namespace belvani {
 namespace {
@@ -17,6 +19,7 @@ constexpr std::size_t KodHanesi = 2;
 constexpr std::size_t KagitKisiSiniri = 5;
 constexpr std::size_t SorunSiniri = 10;
 
+constexpr const char* DuzeltmelerSilinir = "Listede veya toplamlarda elle yaptığınız düzeltmeler silinecek.";
 constexpr const char* Hesaplatilmamis = "Bildirge Hesaplatılmamış";
 
 std::vector<std::string> BelgeTuruListesi(const HesapTurleri& turler) {
@@ -67,8 +70,44 @@ Durum AylikBildirge::Hesapla(Ilerleme* ilerleme) {
   OranlariYukle();
   Durum hesaplandi = Koru([&] { AylikBildirgeHesapla(ilerleme); });
   if (hesaplandi) hesaplandi = PrimleriHesapla();
-  if (!hesaplandi) OranlariYukle();
+  if (!hesaplandi) {
+    OranlariYukle();
+    return hesaplandi;
+  }
+  hesaplanan_ = {bildirge_.secim, yasal_.oranlar, yasal_.hesapTurleri};
+  hesaplananToplamlar_ = bildirge_.toplamlar;
   return hesaplandi;
+}
+
+bool AylikBildirge::SecimDegisti() const {
+  const auto kapsam = [](const BildirgeSecimi& s) { return std::tuple(s.yil, s.ay, s.belgeTuru, s.kanun); };
+  return hesaplanan_ && kapsam(hesaplanan_->secim) != kapsam(bildirge_.secim);
+}
+
+bool AylikBildirge::MevzuatDegisti() const {
+  return hesaplanan_ && (hesaplanan_->oranlar != yasal_.oranlar || hesaplanan_->turler != yasal_.hesapTurleri);
+}
+
+std::string AylikBildirge::EskimeMetni() const {
+  if (SecimDegisti()) {
+    const BildirgeSecimi& s = hesaplanan_->secim;
+    const std::string& kanun = kanunlar_[std::size_t(s.kanun)];
+    return "Liste " + MevzuatAyi{s.yil, s.ay}.Metin() + ", " + belgeTurleri_[std::size_t(s.belgeTuru)] + ", " +
+           (kanun.empty() ? std::string("(boş)") : kanun) + " için hesaplandı; seçim değişti.";
+  }
+  return MevzuatDegisti() ? "Liste hesaplandıktan sonra yasal parametreler değişti." : "";
+}
+
+bool AylikBildirge::HesaplansinMi() {
+  return !duzeltildi_ || bildirim_.Soru(std::string(DuzeltmelerSilinir) + "\nBildirge Yeniden Hesaplansın mı ?");
+}
+
+AylikBildirge::Tazeleme AylikBildirge::TazelensinMi() {
+  const std::string neden = EskimeMetni();
+  if (neden.empty()) return Tazeleme::Gerekmez;
+  const std::string silinen = duzeltildi_ ? std::string("\n") + DuzeltmelerSilinir : "";
+  if (bildirim_.Soru(neden + silinen + "\nBildirge Yeniden Hesaplansın mı ?")) return Tazeleme::Hesaplanir;
+  return SecimDegisti() ? Tazeleme::Vazgecildi : Tazeleme::Gerekmez;
 }
 
 // Clears what an earlier calculation left.
@@ -76,6 +115,9 @@ void AylikBildirge::OranlariYukle() {
   const BildirgeSecimi secim = bildirge_.secim;
   bildirge_ = {};
   bildirge_.secim = secim;
+  hesaplanan_.reset();
+  hesaplananToplamlar_ = {};
+  duzeltildi_ = false;
   bildirge_.PrimOran = PrimOranlari(yasal_, BelgeTuru(), tehlikeOrani_);
 }
 
@@ -116,7 +158,10 @@ Durum AylikBildirge::Duzenle(Is&& is) {
     bildirge_.prim =
         belvani::PrimleriHesapla(bildirge_.toplamlar, bildirge_.PrimOran, bildirge_.DevletKatki, Yuvarla());
   });
-  if (!toplandi) bildirge_ = std::move(once);
+  if (!toplandi)
+    bildirge_ = std::move(once);
+  else
+    duzeltildi_ = true;
   return toplandi;
 }
 
@@ -134,11 +179,14 @@ Durum AylikBildirge::SatirYaz(const BildirgeSatiri& satir) {
 }
 
 Durum AylikBildirge::SatirSil(int no) {
+  if (Satir(no) == nullptr) return Tamam();
   return Duzenle([&](Bildirge& b) { std::erase_if(b.satirlar, [&](const BildirgeSatiri& s) { return s.no == no; }); });
 }
 
 Durum AylikBildirge::ToplamYaz(const BildirgeToplamlari& toplamlar) {
+  if (toplamlar == bildirge_.toplamlar) return Tamam();
   bildirge_.toplamlar = toplamlar;
+  duzeltildi_ = true;
   return PrimleriHesapla();
 }
 

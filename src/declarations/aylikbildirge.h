@@ -7,7 +7,8 @@
 //
 // Hesapla makes everything anew out of the store and drops what was edited; the store itself is never written. A month
 // of 10,000 people costs two queries. What cannot be done comes back as a fault, and the state stays usable; only what
-// is the user's to decide, and what he is told on the way, goes through the Bildirim.
+// is the user's to decide, and what he is told on the way, goes through the Bildirim: also that a grid of another
+// selection is calculated anew before it leaves.
 // Example: all statuses and laws of July 2009, a row's days changed from 30 to 29: the totals follow the grid, and the
 // file says 29.
 #pragma once
@@ -45,6 +46,19 @@ class AylikBildirge {
   // "Hesapla", F5, and every change of a list. After a fault, and when it was stopped (Vazgecilmis),
   // grid and totals are empty.
   Durum Hesapla(Ilerleme* ilerleme = nullptr);
+
+  // The user has edited rows or totals since then; another calculation drops that.
+  bool Duzeltildi() const { return duzeltildi_; }
+  // The totals as they were calculated; what stands in Tamami() differs after an edit.
+  const BildirgeToplamlari& HesaplananToplamlar() const { return hesaplananToplamlar_; }
+  // Why the grid is not what a calculation would give now: "Liste Temmuz 2009, 00-Tümü, Tümü için hesaplandı"; the
+  // nature of the document makes no difference. Empty while it is, and before any calculation.
+  std::string EskimeMetni() const;
+  // Asked before a calculation that would drop edits; without any it is true.
+  bool HesaplansinMi();
+  // Asked before whatever leaves an outdated grid. Nothing may leave one that was made for another selection.
+  enum class Tazeleme { Gerekmez, Hesaplanir, Vazgecildi };
+  Tazeleme TazelensinMi();
 
   const Bildirge& Tamami() const { return bildirge_; }
 
@@ -93,6 +107,8 @@ class AylikBildirge {
   void OranlariYukle();
   void AylikBildirgeHesapla(Ilerleme* ilerleme);
   Durum PrimleriHesapla();
+  bool SecimDegisti() const;
+  bool MevzuatDegisti() const;
   template <class Is>
   Durum Duzenle(Is&& is);
   IsyeriBilgileri Isyeri();
@@ -106,6 +122,15 @@ class AylikBildirge {
   Tek tehlikeOrani_;
   Bildirge bildirge_;
   Kusurlar sorunlar_;
+  // What the grid was calculated with; none while there is none.
+  struct Hesaplanan {
+    BildirgeSecimi secim;
+    YasalOranlar oranlar;
+    HesapTurleri turler;
+  };
+  std::optional<Hesaplanan> hesaplanan_;
+  BildirgeToplamlari hesaplananToplamlar_;
+  bool duzeltildi_ = false;
 };
 
 }  // namespace belvani

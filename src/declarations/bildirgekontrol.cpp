@@ -33,7 +33,7 @@ bool YabanciMi(int belgeTuru) {
 }
 
 std::string IsyeriKusuru(const IsyeriBilgileri& isyeri, int yil) {
-  if (yil < IlkYil || yil > SonYil) return "Bordro Yılı Hatalı";
+  if (!BildirgeYiliMi(yil)) return "Bordro Yılı Hatalı";
   if (isyeri.IsyeriAdres.empty()) return "Hatalı İşyeri Adresi";
   if (isyeri.IsyeriUnvan.empty()) return "Hatalı İşyeri Ünvanı";
   if (HarfSayisi(isyeri.IsyeriUnvan) > UnvanHarfi) return "İşyeri Ünvanı 50 Harften Fazla olamaz.";
@@ -109,6 +109,10 @@ class SatirKontrolu {
 };
 
 }  // namespace
+
+bool BildirgeYiliMi(int yil) {
+  return yil >= IlkYil && yil <= SonYil;
+}
 
 IsyeriBilgileri IsyeriniHazirla(const Firma& firma, const std::string& araciKodu) {
   const std::string adres = firma.adr1 + " " + firma.adr2 + " " + firma.semt + " " + firma.adrilce + " " + firma.adril;

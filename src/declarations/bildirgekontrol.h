@@ -26,6 +26,9 @@ struct IsyeriBilgileri {
 
 IsyeriBilgileri IsyeriniHazirla(const Firma& firma, const std::string& araciKodu);
 
+// A year that a declaration can be of.
+bool BildirgeYiliMi(int yil);
+
 // Derece::Hata stops the declaration, Derece::Uyari does unless the user lets it through, Derece::Bilgi is only told.
 Kusurlar BildirgeKontrol(const Bildirge& bildirge, const IsyeriBilgileri& isyeri);
 

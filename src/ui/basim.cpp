@@ -127,6 +127,11 @@ void BelgeBas(EkranBaglami& baglam, Belge& belge, const BasimSozu& once) {
   }
 }
 
+void BelgeBasAyarli(EkranBaglami& baglam, Belge& belge) {
+  if (belge.Bos()) return baglam.bildirim.Bilgi(BasilacakYok);
+  if (!Yazdir(baglam, belge)) BelgeBas(baglam, belge);
+}
+
 void BelgeExceleGonder(EkranBaglami& baglam, const Belge& belge) {
   const auto baytlar =
       UzunIs(baglam, QStringLiteral("Tablo hazırlanıyor…"), [&](Ilerleme& ilerleme) { return belge.Xlsx(&ilerleme); });

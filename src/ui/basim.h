@@ -21,6 +21,9 @@ void BelgeBas(EkranBaglami& baglam, Belge& belge);
 using BasimSozu = std::function<bool(YzcKarar karar, const YzcAyarlari& ayar)>;
 void BelgeBas(EkranBaglami& baglam, Belge& belge, const BasimSozu& once);
 
+// Prints by the settings that the document has already, without asking again; where that fails, the dialog comes up.
+void BelgeBasAyarli(EkranBaglami& baglam, Belge& belge);
+
 // " Excel'e Gönder": writes the workbook and opens it in the user's spreadsheet program. Without such a program the
 // user is told so and chooses where the file goes.
 void BelgeExceleGonder(EkranBaglami& baglam, const Belge& belge);

@@ -61,8 +61,9 @@ dclist::dclist(Bildirim& bildirim, QWidget* ust) : QTableView(ust), bildirim_(bi
   YaziyaUydur();
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int kolon) {
     const bool ters = model_->SiraKolonu() == kolon && model_->SiraYonu() == Qt::AscendingOrder;
-    const int satir = CurSat();
     if (OkUpdateData()) {  // the order is made of what the cells hold
+      BosSatiriSil();
+      const int satir = CurSat();
       horizontalHeader()->setSortIndicatorShown(true);
       model_->Sirala(kolon, ters ? Qt::DescendingOrder : Qt::AscendingOrder);
       ChngSat(satir);
@@ -145,6 +146,7 @@ int dclist::Add() {
 
 void dclist::Clear() {
   mod_ = Mod::Gezinme;
+  bosSatir_ = QPersistentModelIndex();
   model_->SatirlariSil();
 }
 
@@ -222,11 +224,13 @@ void dclist::Editable(bool duzenlenir) {
 void dclist::tazele(int satir) {
   model_->Degisti(satir, false);
   mod_ = Mod::Gezinme;
+  bosSatir_ = QPersistentModelIndex();
   viewport()->update();
 }
 
 void dclist::Filtrele(const QString& aranan) {
   if (!OkUpdateData()) return;
+  BosSatiriSil();
   model_->Filtrele(aranan);
   if (model_->rowCount() > 0) ChngSat(model_->GosterilenSatir(0));
 }
@@ -287,6 +291,8 @@ bool dclist::HucreBitir(QWidget* duzenleyici) {
   const auto* liste = qobject_cast<QComboBox*>(duzenleyici);
   const auto* yazi = qobject_cast<QLineEdit*>(duzenleyici);
   QString metin = liste != nullptr ? liste->currentText() : yazi != nullptr ? yazi->text() : QString();
+  // What the cell held may read otherwise in its editor (a zero as nothing): opened and left, it is as it was.
+  if (yazi != nullptr && metin == yazi->property(IlkMetin).toString()) metin = model_->Metin(satir, kolon);
   const dclistKolonu& tanim = model_->Kolonlar()[std::size_t(kolon)];
   const QPointer<QWidget> duran(duzenleyici);
   bitiriliyor_ = true;  // a message box takes the focus; that does not complete the row
@@ -299,6 +305,7 @@ bool dclist::HucreBitir(QWidget* duzenleyici) {
   if (metin != model_->Metin(satir, kolon)) {
     model_->MetinKoy(satir, kolon, metin);
     model_->Degisti(satir, true);
+    bosSatir_ = QPersistentModelIndex();
     if (mod_ == Mod::Gezinme) mod_ = Mod::Duzeltme;
     HucreDegisti(satir, tanim.ad);
   }
@@ -331,6 +338,39 @@ void dclist::SonrakiHucre() {
   }
 }
 
+// Opens the cell before this one that can be typed into; before the first the row is walked again.
+void dclist::OncekiHucre() {
+  const QModelIndex yer = currentIndex();
+  for (int kolon = yer.column() - 1; kolon >= 0; --kolon) {
+    const QModelIndex onceki = yer.siblingAtColumn(kolon);
+    if (isColumnHidden(kolon) || !(onceki.flags() & Qt::ItemIsEditable)) continue;
+    setCurrentIndex(onceki);
+    edit(onceki);
+    return;
+  }
+}
+
+// The fresh row was left as it came. It goes when whatever has left it is done.
+void dclist::BosSatiriBirak() {
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        const QWidget* odak = QApplication::focusWidget();
+        const bool uzerinde = bosSatir_.isValid() && bosSatir_.row() == currentIndex().row();
+        if (!uzerinde || odak == nullptr || (odak != this && !isAncestorOf(odak))) BosSatiriSil();
+      },
+      Qt::QueuedConnection);
+}
+
+void dclist::BosSatiriSil() {
+  const int sira = bosSatir_.isValid() ? bosSatir_.row() : -1;
+  bosSatir_ = QPersistentModelIndex();
+  if (sira < 0) return;
+  const int satir = model_->GosterilenSatir(sira);
+  if (!model_->DegistiMi(satir)) model_->SatirSil(satir);
+  mod_ = Mod::Gezinme;
+}
+
 void dclist::DuzenlemeyeBasla() {
   if (!currentIndex().isValid()) return YeniSatirAc();
   if (currentIndex().flags() & Qt::ItemIsEditable)
@@ -341,10 +381,12 @@ void dclist::DuzenlemeyeBasla() {
 
 void dclist::YeniSatirAc() {
   if (!duzenlenir_ || !yeniSatirli_ || !OkUpdateData()) return;
+  BosSatiriSil();
   const int satir = Add();
   YeniSatir(satir);
-  mod_ = Mod::Ekleme;
   setCurrentIndex(model_->index(model_->GosterilenSira(satir), 0));
+  mod_ = Mod::Ekleme;
+  bosSatir_ = currentIndex();
   const bool gizli = isColumnHidden(0) || !(currentIndex().flags() & Qt::ItemIsEditable);
   gizli ? SonrakiHucre() : static_cast<void>(edit(currentIndex()));
 }
@@ -381,6 +423,7 @@ void dclist::keyPressEvent(QKeyEvent* olay) {
   if (olay->matches(QKeySequence::Copy)) return Kopyala();
   if (olay->matches(QKeySequence::Find) && arama_ != nullptr) return arama_->setFocus(Qt::ShortcutFocusReason);
   if (olay->key() == Qt::Key_Escape && mod_ == Mod::Ekleme && !model_->DegistiMi(CurSat())) {
+    bosSatir_ = QPersistentModelIndex();
     model_->SatirSil(CurSat());  // a fresh row into which nothing was typed
     mod_ = Mod::Gezinme;
     return;
@@ -414,7 +457,9 @@ void dclist::focusOutEvent(QFocusEvent* olay) {
   QTableView::focusOutEvent(olay);
   const QWidget* yeni = QApplication::focusWidget();
   const bool iceride = yeni != nullptr && isAncestorOf(yeni);
-  if (!iceride && state() != EditingState && olay->reason() != Qt::PopupFocusReason) OkUpdateData();
+  if (iceride || state() == EditingState || olay->reason() == Qt::PopupFocusReason) return;
+  OkUpdateData();
+  if (bosSatir_.isValid() && olay->reason() != Qt::ActiveWindowFocusReason) BosSatiriBirak();
 }
 
 void dclist::currentChanged(const QModelIndex& simdiki, const QModelIndex& onceki) {
@@ -427,6 +472,7 @@ void dclist::currentChanged(const QModelIndex& simdiki, const QModelIndex& oncek
       bitiriliyor_ = false;
     }
     mod_ = Mod::Gezinme;
+    if (bosSatir_.isValid()) BosSatiriBirak();
   }
   QTableView::currentChanged(simdiki, onceki);
   if (baskaSatir && simdiki.isValid()) SatirSecildi(model_->GosterilenSatir(simdiki.row()));

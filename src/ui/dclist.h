@@ -7,7 +7,8 @@
 // Keys: Enter or Down in a cell checks it and opens the next; behind the last one the row is complete. Enter on a row
 // opens it, Insert adds one, Delete asks the owner to delete, any letter starts typing, Ctrl+C copies. Esc takes back
 // the cell; on a changed row it first has the row saved. A row is also complete when another row or another field is
-// gone to. What the owner refuses stays as typed, and is offered again.
+// gone to; a fresh one into which nothing was typed goes then. What the owner refuses stays as typed, and is offered
+// again.
 #pragma once
 
 #include <QTableView>
@@ -91,6 +92,7 @@ class dclist : public QTableView {
   bool HucreBitir(QWidget* duzenleyici);
   bool Bitiriliyor() const { return bitiriliyor_; }
   void SonrakiHucre();
+  void OncekiHucre();
   QWidget* DuzenleyiciYap(QWidget* ust, int kolon) const;
 
  protected:
@@ -106,11 +108,14 @@ class dclist : public QTableView {
   void SimdikiSatiriSil();
   void Kopyala() const;
   void DuzenlemeyeBasla();
+  void BosSatiriBirak();
+  void BosSatiriSil();
 
   Bildirim& bildirim_;
   dclistModel* model_;
   QLineEdit* arama_ = nullptr;
   Mod mod_ = Mod::Gezinme;
+  QPersistentModelIndex bosSatir_;  // added, nothing typed into it yet
   bool duzenlenir_ = false;
   bool yeniSatirli_ = true;
   bool bitiriliyor_ = false;

@@ -9,6 +9,23 @@
 #include "ui/xtext.h"
 
 namespace belvani {
+namespace {
+
+void EditoreKoy(xtext& kutu, const QString& metin) {
+  switch (kutu.TextTip()) {
+    case xtext::Tip::Sayi:
+      kutu.DegerKoy(TutarOku(Utf8(metin)).value_or(Tutar()));
+      break;
+    case xtext::Tip::Tarih:
+      kutu.DegerKoy(Tarih::MetinOku(Utf8(metin)));
+      break;
+    case xtext::Tip::Metin:
+      kutu.DegerKoy(Utf8(metin));
+      break;
+  }
+}
+
+}  // namespace
 
 dclistHucre::dclistHucre(dclist& liste) : QStyledItemDelegate(&liste), liste_(liste) {}
 
@@ -25,17 +42,8 @@ void dclistHucre::setEditorData(QWidget* duzenleyici, const QModelIndex& yer) co
     return;
   }
   auto* yazi = static_cast<xtext*>(duzenleyici);
-  switch (yazi->TextTip()) {
-    case xtext::Tip::Sayi:
-      yazi->DegerKoy(TutarOku(Utf8(metin)).value_or(Tutar()));
-      break;
-    case xtext::Tip::Tarih:
-      yazi->DegerKoy(Tarih::MetinOku(Utf8(metin)));
-      break;
-    case xtext::Tip::Metin:
-      yazi->DegerKoy(Utf8(metin));
-      break;
-  }
+  EditoreKoy(*yazi, metin);
+  yazi->setProperty(IlkMetin, yazi->text());
 }
 
 bool dclistHucre::eventFilter(QObject* nesne, QEvent* olay) {
@@ -63,6 +71,11 @@ bool dclistHucre::eventFilter(QObject* nesne, QEvent* olay) {
     case Qt::Key_Down:
       if (tus.key() == Qt::Key_Down && !asagi) return false;
       if (liste_.HucreBitir(duzenleyici)) liste_.SonrakiHucre();
+      return true;
+    case Qt::Key_Up:
+    case Qt::Key_Backtab:
+      if (qobject_cast<QComboBox*>(nesne) != nullptr && tus.key() == Qt::Key_Up) return false;
+      if (liste_.HucreBitir(duzenleyici)) liste_.OncekiHucre();
       return true;
     default:
       // Lookup, save and the like belong to the screen.

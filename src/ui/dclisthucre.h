@@ -7,6 +7,9 @@ namespace belvani {
 
 class dclist;
 
+// Property of an editor: its text when it was opened.
+inline constexpr const char* IlkMetin = "ilkMetin";
+
 class dclistHucre : public QStyledItemDelegate {
   Q_OBJECT
  public:

@@ -176,7 +176,7 @@ QMenu::separator { height: 1px; background: @Cerceve; margin: 4px 8px; }
 QToolTip { background: @IpucuArka; color: @IpucuText; border: 1px solid @Cerceve; padding: 3px; }
 QLabel#ipucu, QLabel[soluk="true"] { color: @SolukYazi; }
 QLabel[hata="true"] { background: @HataArka; color: @HataText; border-radius: 4px; padding: 4px 8px; }
-QLabel[toplam="true"], QLineEdit[toplam="true"] { background: @ToplamArka; color: @ToplamText; font-weight: bold; }
+QLabel[toplam="true"], QLineEdit[toplam="true"], QLineEdit[isaretli="true"] { background: @ToplamArka; color: @ToplamText; font-weight: bold; }
 QLabel[baslik="true"] { color: @Vurgu; font-weight: bold; }
 QFrame#kart, QFrame#ilerleme { background: @PencereArka; border: 1px solid @Cerceve; border-radius: 10px; }
 QStatusBar { background: @MenuArka; color: @MenuText; }

@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
+#include <QStyle>
 
 #include "screens/declarations/intefrm.h"
 #include "screens/declarations/yaylikcikti.h"
@@ -101,6 +102,8 @@ std::vector<SatirKolonu<BildirgeSatiri>> Kolonlar(int paraonda) {
 
 yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : Form(baglam, "yaylik", QStringLiteral("Aylık Bildirge (EK-9  (4a))")),
+      parametreler_(parametreler),
+      mevzuat_(baglam.oturum, parametreler, baglam.bildirim),
       bildirge_(baglam.oturum, parametreler.yasal, baglam.bildirim),
       liste_(new dclist(baglam.bildirim, this)),
       tablo_(*liste_, Kolonlar(baglam.oturum.firma.paraonda)) {
@@ -120,12 +123,15 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
     return true;
   };
   liste_->setMinimumSize(1270, 212);
-  eksikler_ = new QLabel(this);
-  eksikler_->setProperty("hata", true);
-  eksikler_->setObjectName("eksikler");
-  eksikler_->hide();
+  mevzuat_.getiren = [this](MevzuatAyi ay, MevzuatIstegi istek) {
+    return UzunIs(Baglam(), QStringLiteral("Parametre indiriliyor…"), [&](Ilerleme& ilerleme) {
+      istek.sinir.ilerleme = &ilerleme;
+      return parametreler_.MevzuatiGetir(Oturumu(), ay, istek);
+    });
+  };
   Govde()->addWidget(GrupYap(SecimAlanlari()));
-  Govde()->addWidget(eksikler_);
+  eskime_ = HataSatiri("eskime");
+  eksikler_ = HataSatiri("eksikler");
   Govde()->addWidget(liste_, 1);
   auto* alt = new QHBoxLayout;
   SikDiz();
@@ -145,6 +151,14 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
   Yukle(SecimFormu{.yil = std::int16_t(bildirge_.Secim().yil), .ay = std::uint8_t(bildirge_.Secim().ay)});
   AlanDegisti = [this](AlanDenetimi& alan) { AlanDegisince(alan); };
   ToplamlariGoster();
+}
+
+// A line above the grid, hidden while there is nothing to say.
+QLabel* yaylik::HataSatiri(const char* ad) {
+  QLabel* satir = YaziEkle({}, "hata");
+  satir->setObjectName(ad);
+  satir->hide();
+  return satir;
 }
 
 // The branches: base, rate, premium.
@@ -189,27 +203,70 @@ void yaylik::AlanDegisince(const AlanDenetimi& alan) {
   const AlanTutamagi degisen = alan.Satir().Tutamak();
   if (alan.Satir().kayitTuru == typeid(SecimFormu)) {
     SecimFormu form;
-    if (degisen == secim::mahiyet && Oku(form)) bildirge_.Secim().mahiyet = BelgeMahiyeti(form.mahiyet);
+    if (!Oku(form)) return;
+    bildirge_.Secim() = {form.yil, form.ay, form.belgeTuru, form.kanun, BelgeMahiyeti(form.mahiyet)};
     if (degisen == secim::ay || degisen == secim::belgeTuru || degisen == secim::kanun) Hesapla();
-    return;
+    return EskiyiGoster();
   }
-  BildirgeToplamlari toplamlar;
-  const bool matrah = std::ranges::any_of(Branslar, [&](const BransSatiri& b) { return degisen.ad == b.ad; });
-  if (!matrah || !Oku(toplamlar)) return;
+  BildirgeToplamlari toplamlar = bildirge_.Tamami().toplamlar;
+  if (!Oku(toplamlar)) return;
   Oldu(bildirge_.ToplamYaz(toplamlar));
+  SayaclariIsaretle();
   for (std::size_t b = 0; b < BransSayisi; ++b) primler_[b]->setText(Yazi(bildirge_.PrimMetni(b)));
   genelToplam_->setText(Yazi(bildirge_.GenelToplamMetni()));
 }
 
 void yaylik::Hesapla() {
-  SecimFormu form;
-  if (!Oku(form)) return;
-  BildirgeSecimi& secim = bildirge_.Secim();
-  secim = {form.yil, form.ay, form.belgeTuru, form.kanun, BelgeMahiyeti(form.mahiyet)};
+  if (liste_->OkUpdateData() && bildirge_.HesaplansinMi()) HesaplaVeGoster();
+}
+
+// Whether the declaration stands, priced with a law that its user knows of.
+bool yaylik::HesaplaVeGoster() {
+  const BildirgeSecimi& secim = bildirge_.Secim();
+  if (BildirgeYiliMi(secim.yil) && !mevzuat_.Uygun({secim.yil, secim.ay})) {
+    EskiyiGoster();
+    return false;
+  }
   const auto hesaplandi = UzunIs(Baglam(), QStringLiteral("Bildirge hesaplanıyor…"),
                                  [this](Ilerleme& ilerleme) { return bildirge_.Hesapla(&ilerleme); });
   Goster();
-  if (hesaplandi && !*hesaplandi) Bildir(hesaplandi->Kusuru());
+  return hesaplandi && Oldu(*hesaplandi);
+}
+
+// Whatever leaves the declaration begins here: what is being typed is taken, an outdated grid calculated anew if its
+// user wants that.
+bool yaylik::Guncel() {
+  if (!liste_->OkUpdateData()) return false;
+  switch (bildirge_.TazelensinMi()) {
+    case AylikBildirge::Tazeleme::Gerekmez:
+      return true;
+    case AylikBildirge::Tazeleme::Hesaplanir:
+      return HesaplaVeGoster();
+    case AylikBildirge::Tazeleme::Vazgecildi:
+      return false;
+  }
+  return false;
+}
+
+void yaylik::EskiyiGoster() {
+  const std::string neden = bildirge_.EskimeMetni();
+  eskime_->setText(Yazi(neden) + QStringLiteral(" F5 yeniden hesaplar."));
+  eskime_->setVisible(!neden.empty());
+}
+
+// Totals that are no more those of the calculation.
+void yaylik::SayaclariIsaretle() {
+  const BildirgeToplamlari& hesaplanan = bildirge_.HesaplananToplamlar();
+  for (const auto& d : Denetimler()) {
+    if (d->Satir().kayitTuru != typeid(BildirgeToplamlari)) continue;
+    const Deger once = d->Satir().oku(&hesaplanan);
+    const bool degisti = once != d->Satir().oku(&bildirge_.Tamami().toplamlar);
+    d->Odak()->setToolTip(degisti ? QStringLiteral("Hesaplanan: ") + Yazi(MetinDegeri(once)) : QString());
+    if (d->Odak()->property("isaretli").toBool() == degisti) continue;
+    d->Odak()->setProperty("isaretli", degisti);
+    d->Odak()->style()->unpolish(d->Odak());
+    d->Odak()->style()->polish(d->Odak());
+  }
 }
 
 void yaylik::Goster() {
@@ -217,6 +274,8 @@ void yaylik::Goster() {
   const auto& satirlar = bildirge_.Tamami().satirlar;
   tablo_.Doldur(satirlar);
   for (std::size_t i = 0; i < satirlar.size(); ++i) liste_->Model().KimlikKoy(int(i), satirlar[i].no);
+  if (liste_->CurSat() >= 0) liste_->tazele(liste_->CurSat());  // no row of it is a new one
+  EskiyiGoster();
   ToplamlariGoster();
   QStringList kodlar;
   for (std::size_t i = 0; i < std::min<std::size_t>(kimliksizler.size(), 8); ++i) kodlar += Yazi(kimliksizler[i]);
@@ -229,6 +288,7 @@ void yaylik::Goster() {
 
 void yaylik::ToplamlariGoster() {
   Yukle(bildirge_.Tamami().toplamlar);
+  SayaclariIsaretle();
   for (std::size_t b = 0; b < BransSayisi; ++b) {
     oranlar_[b]->setText(Yazi(bildirge_.OranMetni(b)));
     primler_[b]->setText(Yazi(bildirge_.PrimMetni(b)));
@@ -284,7 +344,7 @@ void yaylik::KusurGoster(const Kusur& kusur) {
 }
 
 void yaylik::EBildirge() {
-  if (!liste_->OkUpdateData()) return;
+  if (!Guncel()) return;
   if (const Durum olur = bildirge_.XmlKosullari(); !olur) return KusurGoster(olur.Kusuru());
   const auto karar = bildirge_.BildirgeKontrol();
   if (!karar) return KusurGoster(karar.Kusuru());
@@ -301,12 +361,12 @@ void yaylik::EBildirge() {
 }
 
 void yaylik::Yazdir() {
-  if (!liste_->OkUpdateData()) return;
+  if (!Guncel()) return;
   if (const Durum basildi = BildirgeYazdir(Baglam(), bildirge_); !basildi) KusurGoster(basildi.Kusuru());
 }
 
 void yaylik::ExceleGonder() {
-  if (!liste_->OkUpdateData()) return;
+  if (!Guncel()) return;
   if (const Durum gonderildi = BildirgeExceleGonder(Baglam(), bildirge_); !gonderildi) KusurGoster(gonderildi.Kusuru());
 }
 

@@ -1,12 +1,13 @@
 // yaylik ("Aylık Bildirge (EK-9  (4a))"): the month's premium and service declaration. The grid and the totals are
 // views of AylikBildirge: a line of the grid knows the number of its row, what the user changes goes there at once,
-// cell by cell, and every way out starts from there.
+// cell by cell, and every way out starts from there. A selection that the grid was not made for stands above it in red,
+// and totals that an edit has changed are marked, with what was calculated in their tool tip.
 //
 //   F5 Hesapla    F8 Yazıcıya Yazdır    F9 Excel'e gönderim    F11 E-Bildirge Hazırla
 #pragma once
 
 #include "declarations/aylikbildirge.h"
-#include "payroll/hazirlik/parametredeposu.h"
+#include "payroll/hazirlik/mevzuatsorusu.h"
 #include "ui/form.h"
 #include "ui/satirtablosu.h"
 
@@ -21,9 +22,14 @@ class yaylik : public Form {
   const AylikBildirge& Bildirge() const { return bildirge_; }
 
  private:
+  QLabel* HataSatiri(const char* ad);
   QWidget* PrimTablosu();
   void Hesapla();
+  bool HesaplaVeGoster();
+  bool Guncel();
   void Goster();
+  void EskiyiGoster();
+  void SayaclariIsaretle();
   void ToplamlariGoster();
   bool HucreAl(int sira, const QString& ad, QString& metin);
   bool SatirSil(int sira);
@@ -34,6 +40,8 @@ class yaylik : public Form {
   void ExceleGonder();
   void EBildirge();
 
+  ParametreDeposu& parametreler_;
+  MevzuatSorusu mevzuat_;
   AylikBildirge bildirge_;
   dclist* liste_;
   SatirTablosu<BildirgeSatiri> tablo_;
@@ -41,6 +49,7 @@ class yaylik : public Form {
   std::array<QLabel*, BransSayisi> primler_{};
   QLabel* genelToplam_ = nullptr;
   QLabel* eksikler_ = nullptr;
+  QLabel* eskime_ = nullptr;
 };
 
 }  // namespace belvani

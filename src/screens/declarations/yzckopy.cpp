@@ -27,7 +27,16 @@ yzckopy::yzckopy(EkranBaglami& baglam, std::vector<FormSayfasi> sayfalar, YzcAya
             {.tus = Qt::CTRL | Qt::Key_Plus, .ipucu = "Büyüt", .islev = [this] { yuzey_->Buyut(1); }},
             {.tus = Qt::CTRL | Qt::SHIFT | Qt::Key_Plus, .islev = [this] { yuzey_->Buyut(1); }},
             {.tus = Qt::CTRL | Qt::Key_Minus, .ipucu = "Küçült", .islev = [this] { yuzey_->Buyut(-1); }},
-            {.tus = Qt::Key_F8, .dugme = " &Yazdır", .simge = "yazici", .islev = [this] { Yazdir(); }},
+            {.tus = Qt::Key_F8,
+             .dugme = " &Yazdır",
+             .simge = "yazici",
+             .ipucu = "Seçtiğiniz yazıcıya, seçtiğiniz sayıda basar",
+             .islev = [this] { Yazdir(&BelgeBasAyarli); }},
+            {.tus = Qt::CTRL | Qt::Key_F8,
+             .dugme = "&Başka Yol",
+             .simge = "yazici",
+             .ipucu = "Başka yazıcı, önizleme ya da PDF",
+             .islev = [this] { Yazdir(&BelgeBas); }},
             {.komut = FormKomutu::Kapat, .dugme = "&Kapat"}});
   IlkOdak(yuzey_);
   Git(0);
@@ -41,9 +50,10 @@ void yzckopy::Git(int adim) {
           .arg(yuzey_->Sayfalar().size()));
 }
 
-void yzckopy::Yazdir() {
+void yzckopy::Yazdir(void (*bas)(EkranBaglami&, Belge&)) {
   FormBelgesi belge(ayar_, yuzey_->Sayfalar(), {});
-  BelgeBas(Baglam(), belge);
+  bas(Baglam(), belge);
+  ayar_ = belge.Ayar();
 }
 
 }  // namespace belvani

@@ -1,5 +1,6 @@
 // yzckopy ("Form Yazdırma"): a statutory form as it will print, its values over the drawn form, to be moved and changed
-// by hand before it goes to the printer. What is changed here changes nothing else.
+// by hand before it goes to the printer. What is changed here changes nothing else. It prints as the dialog that opened
+// it was answered; Ctrl+F8 asks anew, and leads to preview and PDF.
 #pragma once
 
 #include <QScrollArea>
@@ -12,6 +13,8 @@
 
 namespace belvani {
 
+class Belge;
+
 class yzckopy : public Form {
  public:
   yzckopy(EkranBaglami& baglam, std::vector<FormSayfasi> sayfalar, YzcAyarlari ayar);
@@ -20,7 +23,7 @@ class yzckopy : public Form {
 
  private:
   void Git(int adim);
-  void Yazdir();
+  void Yazdir(void (*bas)(EkranBaglami&, Belge&));
 
   YzcAyarlari ayar_;
   FormYuzeyi* yuzey_;

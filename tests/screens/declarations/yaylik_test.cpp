@@ -3,8 +3,11 @@
 
 #include <QHeaderView>
 #include <gmock/gmock.h>
+#include <random>
+#include <set>
 
 #include "core/dosya.h"
+#include "declarations/bildirgekagidi.h"
 #include "ekran/ortam.h"
 #include "screens/declarations/intefrm.h"
 #include "screens/declarations/yzckopy.h"
@@ -66,6 +69,52 @@ struct BildirgeOrtami : EkranOrtami {
   }
 };
 
+// The columns of all rows by their numbers: "002:30:1500.00".
+std::vector<std::string> Satirlar(const yaylik& form) {
+  std::vector<std::string> satirlar;
+  for (const auto& s : form.Bildirge().Tamami().satirlar)
+    satirlar.push_back(s.sskno + ":" + (s.gun ? std::to_string(*s.gun) : "") + ":" +
+                       (s.primkazanc ? YalinMetin(*s.primkazanc) : ""));
+  return satirlar;
+}
+
+void BasligaTikla(dclist& liste, const char* kolon) {
+  const int sira = liste.Model().KolonBul(QString(kolon));
+  QTest::mouseClick(liste.horizontalHeader()->viewport(), Qt::LeftButton, {},
+                    {liste.horizontalHeader()->sectionViewportPosition(sira) + 5, 5});
+}
+
+// What the list shows is what the declaration holds and what its file says; a row that is just being begun aside.
+void ListeBildirgedir(const yaylik& form, dclist& liste, const std::string& iz) {
+  const Bildirge& b = form.Bildirge().Tamami();
+  std::map<int, int> gosterilen;
+  int bos = 0;
+  for (int i = 0; i < liste.ListCount(); ++i) {
+    const int no = liste.Model().Kimlik(i);
+    if (no == 0) {
+      ++bos;
+      EXPECT_EQ(i, liste.CurSat()) << "an empty row was left behind\n" << iz;
+      continue;
+    }
+    ++gosterilen[no];
+    const BildirgeSatiri* satir = form.Bildirge().Satir(no);
+    ASSERT_NE(satir, nullptr) << iz;
+    for (const BildirgeKolonu& k : BildirgeKolonlari)
+      EXPECT_EQ(Utf8(liste.TextByName(i, Yazi(k.ad))), HucreMetni(*satir, k, 2)) << k.ad << "\n" << iz;
+  }
+  EXPECT_LE(bos, 1) << iz;
+  EXPECT_EQ(gosterilen.size(), b.satirlar.size()) << iz;
+  std::set<std::string> kodlar;
+  std::size_t kisi = 0;
+  for (const auto& satir : b.satirlar)
+    if (!satir.kod.empty()) ++kisi, kodlar.insert(satir.kod);
+  EXPECT_EQ(kodlar.size(), kisi) << "someone is declared twice\n" << iz;
+  const std::string xml = BildirgeXml(b, {}, Yuvarlayici(2)).icerik;
+  std::size_t satir = 0;
+  for (auto yer = xml.find("<SIGORTALI "); yer != std::string::npos; yer = xml.find("<SIGORTALI ", yer + 1)) ++satir;
+  EXPECT_EQ(satir, b.satirlar.size()) << iz;
+}
+
 TEST(Yaylik, CalculatedCorrectedAndDeclared) {
   BildirgeOrtami ortam;
   auto& form = ortam.Ac<yaylik>(ortam.parametreler);
@@ -104,22 +153,123 @@ TEST(Yaylik, CalculatedCorrectedAndDeclared) {
   ortam.Bas(Qt::Key_Delete);
   EXPECT_EQ(AlanMetni(form, "sigortali"), "1");
   ortam.Bas(Qt::Key_F5);
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre(HasSubstr("düzeltmeler silinecek")));
+  EXPECT_EQ(AlanMetni(form, "sigortali"), "1") << "what was edited stays unless its user lets it go";
+  ortam.bildirim.cevap = true;
+  ortam.Bas(Qt::Key_F5);
   EXPECT_EQ(AlanMetni(form, "sigortali"), "2") << "calculated anew out of the store";
 }
 
-// The columns of all rows by their numbers: "002:30:1500.00".
-std::vector<std::string> Satirlar(const yaylik& form) {
-  std::vector<std::string> satirlar;
-  for (const auto& s : form.Bildirge().Tamami().satirlar)
-    satirlar.push_back(s.sskno + ":" + (s.gun ? std::to_string(*s.gun) : "") + ":" +
-                       (s.primkazanc ? YalinMetin(*s.primkazanc) : ""));
-  return satirlar;
+// Counters are typed over too, and reach the paper; what the totals show is what the calculation gave, or is marked.
+TEST(Yaylik, TypedCountersHoldAndAreMarked) {
+  BildirgeOrtami ortam;
+  auto& form = ortam.Ac<yaylik>(ortam.parametreler);
+  ortam.Bas(Qt::Key_F5);
+  const auto isaretli = [&](const char* ad) { return YaziBul(form, ad).property("isaretli").toBool(); };
+  EXPECT_FALSE(isaretli("giren"));
+  YaziBul(form, "giren").setFocus();
+  ortam.Yaz("4\n");
+  EXPECT_TRUE(isaretli("giren"));
+  EXPECT_EQ(Utf8(YaziBul(form, "giren").toolTip()), "Hesaplanan: 0");
+  auto& liste = *form.findChild<dclist*>("dclist1");
+  liste.setFocus();
+  liste.HucreyeGit(0, "ui");
+  ortam.Yaz("\n\n\n");  // zeros opened and left
+  EXPECT_EQ(KagitHazirla(form.Bildirge(), ortam.oturum).toplamlar.giren, 4);
+  EXPECT_FALSE(isaretli("ucretliIzinli"));
+  ortam.Bas(Qt::Key_Escape);
+  liste.HucreyeGit(0, "gun");
+  ortam.Yaz("29\n");
+  EXPECT_TRUE(isaretli("gun"));
+  EXPECT_TRUE(isaretli("ucretliIzinli")) << "made anew, every row with days counts";
+  EXPECT_FALSE(isaretli("saglik"));
 }
 
-void BasligaTikla(dclist& liste, const char* kolon) {
-  const int sira = liste.Model().KolonBul(QString(kolon));
-  QTest::mouseClick(liste.horizontalHeader()->viewport(), Qt::LeftButton, {},
-                    {liste.horizontalHeader()->sectionViewportPosition(sira) + 5, 5});
+// A grid that was made for another selection says so, and leaves only after it was calculated anew.
+TEST(Yaylik, AnOutdatedGridIsNotDeclared) {
+  BildirgeOrtami ortam;
+  auto& form = ortam.Ac<yaylik>(ortam.parametreler);
+  ortam.Bas(Qt::Key_F5);
+  const QLabel& eskime = *form.findChild<QLabel*>("eskime");
+  EXPECT_FALSE(eskime.isVisible());
+  ortam.Yaz("2008\n");
+  EXPECT_TRUE(eskime.isVisible());
+  EXPECT_THAT(Utf8(eskime.text()), StartsWith("Liste Temmuz 2009, 00-Tümü, Tümü için hesaplandı"));
+  ortam.bildirim.cevap = false;
+  ortam.dialoglar.dosya = ortam.dizin.Yol() + "bildirge.xml";
+  for (const Qt::Key cikis : {Qt::Key_F8, Qt::Key_F9, Qt::Key_F11}) {
+    ortam.Bas(cikis);
+    EXPECT_THAT(ortam.bildirim.Al(), ElementsAre(HasSubstr("Bildirge Yeniden Hesaplansın mı ?")));
+  }
+  EXPECT_FALSE(std::filesystem::exists(*ortam.dialoglar.dosya));
+  AlanBul(form, "yil").Odak()->setFocus(Qt::TabFocusReason);
+  ortam.Yaz("2009\n");
+  EXPECT_FALSE(eskime.isVisible()) << "the selection is the grid's again";
+  // A list changed over edits asks; refused, the grid stays and is outdated.
+  auto& liste = *form.findChild<dclist*>("dclist1");
+  liste.setFocus();
+  liste.HucreyeGit(0, "gun");
+  ortam.Yaz("29\n");
+  ortam.Bas(Qt::Key_Escape);
+  AlanBul(form, "belgeTuru").Odak()->setFocus();
+  ortam.Bas(Qt::Key_Down);
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre(HasSubstr("düzeltmeler silinecek")));
+  EXPECT_EQ(form.Bildirge().Tamami().satirlar[0].gun, 29);
+  EXPECT_TRUE(eskime.isVisible());
+}
+
+// Another month's law is told before the declaration is priced with it.
+TEST(Yaylik, TheInstalledLawIsAskedAbout) {
+  BildirgeOrtami ortam;
+  auto& form = ortam.Ac<yaylik>(ortam.parametreler);
+  AlanBul(form, "ay").Odak()->setFocus();
+  ortam.bildirim.cevap = false;
+  ortam.Bas(Qt::Key_Up, Qt::NoModifier);
+  for (int i = 0; i < 5; ++i) ortam.Bas(Qt::Key_Up);  // January 2009 had another floor
+  EXPECT_THAT(ortam.bildirim.Al(), testing::Contains(HasSubstr("Ocak 2009 parametreleri getirilsin mi ?")));
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_THAT(ortam.bildirim.Al(), testing::IsEmpty()) << "asked once a month";
+}
+
+// Whatever keys are pressed: the rows shown are those of the declaration and of its file, and nobody is in it twice.
+TEST(Yaylik, RandomKeysNeverPartListAndDeclaration) {
+  const std::vector<std::function<void()>> tuslar = {[] { EkranOrtami::Bas(Qt::Key_Down); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_Up); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_Escape); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_Insert); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_Delete); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_Return); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_Tab); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_Backtab); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_F5); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_Right); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_Home); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_PageDown); },
+                                                     [] { EkranOrtami::Yaz("1"); },
+                                                     [] { EkranOrtami::Yaz("27"); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_Down); },
+                                                     [] { EkranOrtami::Bas(Qt::Key_Insert); }};
+  for (unsigned tohum = 1; tohum <= 4; ++tohum) {
+    BildirgeOrtami ortam;
+    ortam.KisiEkle("003", "Ömer", "10000000382", 2000);
+    ortam.KisiEkle("004", "Ece", "10000000450", 2500);
+    auto& form = ortam.Ac<yaylik>(ortam.parametreler);
+    ortam.Bas(Qt::Key_F5);
+    auto& liste = *form.findChild<dclist*>("dclist1");
+    std::mt19937 zar(tohum);
+    std::string iz = "seed " + std::to_string(tohum) + ":";
+    for (int i = 0; i < 150; ++i) {
+      if (!liste.hasFocus() && !liste.isAncestorOf(QApplication::focusWidget())) liste.setFocus();
+      const std::size_t n = zar() % tuslar.size();
+      iz += " " + std::to_string(n);
+      if (zar() % 12 == 0) BasligaTikla(liste, zar() % 2 == 0 ? "gun" : "adi");
+      tuslar[n]();
+      QCoreApplication::processEvents();
+      ASSERT_TRUE(form.isVisible()) << iz;
+      ListeBildirgedir(form, liste, iz);
+      if (testing::Test::HasFailure()) return;
+    }
+  }
 }
 
 // Whatever is done between two edits, each of them reaches the row that it was typed into.
@@ -242,8 +392,7 @@ TEST(Yaylik, APaperNeedsAChoice) {
   ortam.Yaz("7x\n");
   EXPECT_EQ(yuzey.Sayfalar()[0].alanlar[0].deger, "7x");
   EXPECT_NEAR(yuzey.Sayfalar()[0].alanlar[0].yer.x, once.yer.x + 0.5, 1e-6);
-  EkranOrtami::ModaldaYap([&] { ortam.Bas(Qt::Key_F8); });
-  ortam.Bas(Qt::Key_F8);
+  ortam.Bas(Qt::Key_F8);  // the dialog has been answered: nothing asks again
   ASSERT_EQ(ortam.kuyruk.isler.size(), 1u);
   EXPECT_EQ(ortam.kuyruk.isler[0].ad, "AYLIK BİLDİRGE EK-3");
 }
