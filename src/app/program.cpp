@@ -26,7 +26,12 @@ class Program : ProgramParcalari<BildirimKutusu, SistemDialoglari> {
       StilKur(uygulama_, GecerliRenkler(oturum));
       if (GirisYap(ekran) == GirisSonucu::Cikis) return 0;
       parametreler.YasalYukle(oturum.DataPath);
-      if (const Durum d = parametreler.firma.Yukle(); !d) bildirim.Uyari(d.KusurMetni());
+      // A company whose parameters cannot be read is not opened: the login comes back.
+      if (const Durum d = parametreler.firma.Yukle(); !d) {
+        bildirim.KusuruGoster(d.Kusuru());
+        oturum.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
+        continue;
+      }
       const bool yeniden = AnaPencere();
       oturum.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
       if (!yeniden) return 0;

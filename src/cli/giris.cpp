@@ -18,7 +18,19 @@ const AlanTanimi* Ara(const Liste& kolonlar, std::string_view ad) {
   return nullptr;
 }
 
+const AlanTanimi* OranTanimi(std::string_view ad) {
+  for (const OranKolonu& oran : OranKolonlari)
+    if (oran.kolon.ad == ad) return &oran.kolon;
+  return nullptr;
+}
+
+// Without a value of their own people have what the tables and the month give; 0 would be one.
+bool BosBirakilir(const AlanTanimi& alan) {
+  return OranTanimi(alan.ad) != nullptr || alan.ad == brd::ucretsizizin.ad;
+}
+
 void HucreIsle(const AlanTanimi& alan, const std::string& metin, GirisSatiri& giris, std::string& kusur) {
+  if (BosBirakilir(alan) && Kirp(metin).empty()) return;
   const Deger deger = MetindenDeger(alan, metin, kusur);
   if (alan.ad == brd::eksiksebebi.ad && kusur.empty() && EksikSebepSec(int(TamDegeri(deger))) < 0)
     kusur = "eksik gün sebebi listede yok";
@@ -32,8 +44,9 @@ void HucreIsle(const AlanTanimi& alan, const std::string& metin, GirisSatiri& gi
 }  // namespace
 
 const AlanTanimi* GirisAlani(std::string_view ad) {
-  static constexpr AlanTanimi digerleri[] = {brd::eksiksebebi, brd::borckes};
-  for (const AlanTanimi* alan : {Ara(GunKolonlari, ad), Ara(MesaiKolonlari, ad), Ara(YardimKolonlari, ad)})
+  static constexpr AlanTanimi digerleri[] = {brd::eksiksebebi, brd::ucretsizizin, brd::rapcalismadi, brd::borckes};
+  for (const AlanTanimi* alan :
+       {Ara(GunKolonlari, ad), Ara(MesaiKolonlari, ad), Ara(YardimKolonlari, ad), OranTanimi(ad)})
     if (alan != nullptr) return alan;
   return Ara(digerleri, ad);
 }

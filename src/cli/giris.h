@@ -1,4 +1,4 @@
-// The entry list of a month: days, hours, allowances, reason and debt of people, from a CSV file.
+// The entry list of a month: days, hours, allowances, missing days, debt and rates of people, from a CSV file.
 #pragma once
 
 #include <string>
@@ -8,7 +8,8 @@
 
 namespace belvani::cli {
 
-// A column of the file is entered for every person in it, an empty cell as 0; a column that is not in the file stays as
+// A column of the file is entered for every person in it, an empty cell as 0, but of a rate and of the unpaid days as
+// none; a column that is not in the file stays as
 // the template or the saved record has it. Every fault is told with row and column in one KomutHatasi.
 std::vector<GirisSatiri> GirisListesiOku(const std::string& csv, const std::string& dosyaAdi);
 

@@ -61,9 +61,11 @@ void HazirlaKomutlari(CLI::App& app, Genel& genel) {
       "hazirla", "Ayın bordrosunu bütün personel için şablondan, varsa giriş listesinden hazırlar ve kaydeder");
   hazirla->add_option("KOD", h->kod, "şirket")->required();
   DonemSecenekleri(*hazirla, h->donem);
-  hazirla->add_option("--giris", h->giris,
-                      "giriş listesi (CSV): kod, gün ve saat alanları, yrd01…yrd11, eksiksebebi, borckes; listede "
-                      "olmayan kişi ve sütun şablondan");
+  hazirla->add_option(
+      "--giris", h->giris,
+      "giriş listesi (CSV): kod, gün ve saat alanları, yrd01…yrd11, eksiksebebi, ucretsizizin, "
+      "rapcalismadi, borckes, sskiscior, sskisverenor, issiziscior, issizisverenor, damgaveror; listede "
+      "olmayan kişi ve sütun şablondan");
   hazirla->callback([&genel, h] { Hazirla(genel, *h); });
 
   auto s = std::make_shared<HazirlaSecenekleri>();

@@ -6,7 +6,13 @@
 namespace belvani {
 
 Durum FirmaDurumu::Yukle() {
-  if (const Durum okundu = Koru([&] { parametreler_ = FirmaDosyalariYukle(o_); }); !okundu) return okundu;
+  if (const Durum okundu = Koru([&] { parametreler_ = FirmaDosyalariYukle(o_); }); !okundu) {
+    if (Gecerli()) return okundu;
+    parametreler_ = {};
+    sirket_.clear();
+    return Kusur{"Şirketin parametreleri okunamadı: " + o_.FirmaKod + "\n" + okundu.KusurMetni()};
+  }
+  sirket_ = o_.FirmaDizini;
   ++surum_;
   Degisti();
   return Tamam();

@@ -26,8 +26,11 @@ class FirmaDurumu {
   const FirmaParametreleri& Parametreler() const { return parametreler_; }
   std::uint64_t Surum() const { return surum_; }
 
-  // The company's files and tables, when it is opened and after each save of one. On failure they stay as they were.
+  // The company's files and tables, when it is opened and after each save of one. On failure they stay as they were,
+  // but those of another company never do.
   Durum Yukle();
+  // They are those of the open company: false from its opening until they could be read.
+  bool Gecerli() const { return !sirket_.empty() && sirket_ == o_.FirmaDizini; }
 
   // The card, and the parameters that follow from it (the default class). What the store refuses stays in the session,
   // so that the card can be saved again; another user's change leaves it as it was.
@@ -39,6 +42,7 @@ class FirmaDurumu {
  private:
   Oturum& o_;
   FirmaParametreleri parametreler_;
+  std::string sirket_;  // directory of the company that they were read from
   std::uint64_t surum_ = 0;
 };
 

@@ -5,6 +5,7 @@
 #include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/turkce.h"
+#include "payroll/hazirlik/uyarilar.h"
 #include "payroll/hesap/kayittoplami.h"
 #include "payroll/hesap/netbrut.h"
 #include "payroll/hesap/satirlar.h"
@@ -28,6 +29,7 @@ std::optional<Kusur> GirisKusuru(const Brd& brd, const YardimTanimlari& yardimla
   };
   for (std::size_t i = 0; i < MesaiKolonlari.size(); ++i) denetle(MesaiKolonlari[i], KazancAdlari[GunSatiriSayisi + i]);
   for (std::size_t i = 0; i < YardimKolonlari.size(); ++i) denetle(YardimKolonlari[i], yardimlar[i].adi);
+  for (const OranKolonu& oran : OranKolonlari) denetle(oran.kolon, oran.ad);
   return kusur;
 }
 
@@ -75,6 +77,11 @@ BordroGirisi::BordroGirisi(Oturum& oturum, ParametreDeposu& parametreler, Bildir
 bool BordroGirisi::Ac() {
   EkranTemizle();
   kod_.clear();
+  if (!parametreler_.firma.Gecerli())
+    if (const Durum okundu = parametreler_.firma.Yukle(); !okundu) {
+      bildirim_.KusuruGoster(okundu.Kusuru());
+      return false;
+    }
   auto k = KosullariKur(o_, parametreler_.yasal, parametreler_.firma.Parametreler(),
                         parametreler_.firma.Kart().firmayil, parametreler_.firma.Kart().firmaay);
   if (!k) {
@@ -82,16 +89,32 @@ bool BordroGirisi::Ac() {
     return false;
   }
   kosullar_ = std::move(*k);
-  kosullar_.firma.sablon = SablonYukle(o_.FirmaDizini).deger;
+  SablonuYukle();
   surum_ = parametreler_.Surum();
   if (!kosullar_.IsSaatiYazili) bildirim_.Bilgi("Firma Bilgilerinde İş Saati Yazılmamış");
   return true;
 }
 
-void BordroGirisi::AyDegistir(int ay) {
+// A broken template holds what somebody typed: it goes only when the user says so.
+void BordroGirisi::SablonuYukle() {
+  const auto okunan = SablonOku(o_.FirmaDizini);
+  const bool yazilir =
+      okunan.uyarilar.empty() ||
+      bildirim_.Soru("Şablon Puantaj okunamadı\n" + okunan.uyarilar.front() + "\n\nYerine hazır şablon yazılsın mı ?");
+  kosullar_.firma.sablon = yazilir ? SablonYukle(o_.FirmaDizini).deger : okunan.deger;
+}
+
+bool BordroGirisi::AyDegistir(int ay) {
+  if (!BirakilabilirMi()) return false;
   EkranTemizle();
   kosullar_.donem.ay = ay;
   kosullar_.uygulama = UygulamaBul(kosullar_.yasal.kanunlar, ay, kosullar_.donem.yil);
+  return true;
+}
+
+bool BordroGirisi::BirakilabilirMi() {
+  return !Kaydedilmemis() ||
+         bildirim_.Soru(kod_ + " " + Baslik() + "\nBordrosu Kaydedilmedi, Girdikleriniz Bırakılsın mı ?");
 }
 
 bool BordroGirisi::MevzuatUygun() {
@@ -139,10 +162,12 @@ KodSonucu BordroGirisi::KodAl(std::string_view metin) {
   const std::string kod = BuyukHarf(Kirp(metin));
   if (kod.empty()) return KodSonucu::Bos;
   if (hal_ == Hal::KisiSecili && TurkceEsit(kod, kod_)) return KodSonucu::Yuklendi;
+  if (!BirakilabilirMi()) return KodSonucu::Birakilmadi;
   return Getir(kod, DonemDisiMetni::Gosterilir);
 }
 
 KodSonucu BordroGirisi::Git(Yon yon) {
+  if (!BirakilabilirMi()) return KodSonucu::Birakilmadi;
   // Before nobody stands the last one.
   const Yon nereye = kod_.empty() && yon == Yon::Onceki ? Yon::Son : yon;
   const auto kisi = Koru([&] { return Tablo<Sicil>(o_.depo.db.IcMotor()).Komsu(kod_, nereye); });
@@ -162,7 +187,10 @@ KodSonucu BordroGirisi::Getir(const std::string& kod, DonemDisiMetni metin) {
   std::optional<KisiVerisi>& kisi = *okunan;
   EkranTemizle();
   kod_ = kod;
-  if (!kisi) return KodSonucu::Bilinmiyor;
+  if (!kisi) {
+    bildirim_.Bilgi("Bu kodla personel yok: " + kod);
+    return KodSonucu::Bilinmiyor;
+  }
   const CalismaGunu gun = GunSayisiBul(kosullar_.donem, kisi->sicil.girtar, kisi->sicil.ciktar);
   switch (gun.uygunluk) {
     case DonemUygunlugu::GirisTarihiHatali:
@@ -283,6 +311,14 @@ std::string BordroGirisi::Baslik() const {
 
 std::string BordroGirisi::CalismaSatiri() const {
   return hal_ == Hal::KisiYok ? "" : "Personel " + std::to_string(g_.CalismaGun) + " Gün Çalışmış..";
+}
+
+std::string BordroGirisi::KisiUyarisi() const {
+  if (hal_ == Hal::KisiYok) return "";
+  std::string metin = OranFarki(kosullar_, kisi_.sicil, g_.giris);
+  for (const Kusur& uyari : TanimUyarilari(kosullar_, kisi_.sicil))
+    metin = uyari.metin + (metin.empty() ? "" : "\n") + metin;
+  return metin;
 }
 
 bool BordroGirisi::AlanAcik(BordroAlani alan) const {

@@ -41,6 +41,8 @@ enum class BordroAlani : std::uint8_t {
   EksikSebep,
   UcretsizIzin,
   RaporCalismadi,
+  Oran1,  // the rates, in the order of OranKolonlari
+  Oran5 = Oran1 + OranKolonlari.size() - 1,
 };
 
 // The lines of the flags of a group: earnings (days and hours) and allowances, from 0; none for another field.
@@ -52,9 +54,17 @@ constexpr BordroAlani YardimAlani(std::size_t sira) {
 }
 std::optional<std::size_t> KazancSirasi(BordroAlani alan);
 std::optional<std::size_t> YardimSirasi(BordroAlani alan);
-// An earning or allowance line, or a field of the missing days: what edits the entry.
+// A rate: shown among the results, and overtyped where the user knows better.
+constexpr BordroAlani OranAlani(std::size_t sira) {
+  return BordroAlani(std::size_t(BordroAlani::Oran1) + sira);
+}
+constexpr bool OranMi(BordroAlani alan) {
+  return alan >= BordroAlani::Oran1;
+}
+// An earning or allowance line, or a field of the missing days: to have been there is to have entered the person. A
+// rate counts when it was changed.
 constexpr bool GirisAlani(BordroAlani alan) {
-  return alan > BordroAlani::Kod;
+  return alan > BordroAlani::Kod && !OranMi(alan);
 }
 
 // Where the "Puantaj " button takes the month from. Only the template does anything.
@@ -62,9 +72,10 @@ enum class PuantajKaynagi { ElIle, Sablondan, Puantajdan, Pdks };
 inline constexpr std::array<std::string_view, 4> PuantajKaynaklari{"El ile", "Şablondan", "Puantajdan", "P.D.K.S.'den"};
 
 enum class KodSonucu {
-  Bos,         // no code, or no further person in that direction: nothing has changed
-  Bilinmiyor,  // nobody has it; the screen is cleared
-  DonemDisi,   // the person does not belong to the period; the screen is cleared
+  Bos,          // no code, or no further person in that direction: nothing has changed
+  Bilinmiyor,   // nobody has it, which is told; the screen is cleared
+  DonemDisi,    // the person does not belong to the period; the screen is cleared
+  Birakilmadi,  // the person who is there has unsaved entries, and the user keeps them
   Yuklendi,
   Yuklenemedi,  // the store could not be read, the template is out of range, or there is no law; told
 };
@@ -75,7 +86,7 @@ enum class KapanisSonucu {
   Bitti,           // nobody is left: the screen closes
   KaldiEksikGun,   // days are missing without a reason, or the unpaid days do not fill the month
   KaldiGunFazla,   // more days than the person may work
-  KaldiNetsiz,     // net not above zero
+  KaldiNetsiz,     // net not above zero; told why
   KaldiHesapsiz,   // the calculation cannot be made
   KaydetmeHatasi,  // the record was not saved; what was typed is kept
   YenidenGeldi,    // another user has changed the record, and the user looks at that one now
@@ -126,11 +137,16 @@ class BordroGirisi {
   BordroGirisi(const BordroGirisi&) = delete;
   BordroGirisi& operator=(const BordroGirisi&) = delete;
 
-  // For the session's period. Reads the template anew, and writes the built-in one where there is none. False: the
-  // company has no definitions or its store cannot be read, which is told.
+  // For the session's period. Reads the template anew, and writes the built-in one where there is none; over a broken
+  // one only when the user wants it. False: the company has no definitions or its store cannot be read, which is told.
   bool Ac();
-  // Another month of the year: the screen is cleared, the code stays.
-  void AyDegistir(int ay);
+  // Another month of the year: the screen is cleared, the code stays. False: what is typed is not saved, and the user
+  // keeps it.
+  bool AyDegistir(int ay);
+  // Entries of the person have changed and are not saved.
+  bool Kaydedilmemis() const { return hal_ == Hal::KisiSecili && g_.giris != acilis_; }
+  // Asks before they are lost; true: they may go.
+  bool BirakilabilirMi();
   // Asks about the installed law where it is not that of the month; false: nothing may be calculated with it. Asked
   // anew before people come up and before saving, for a colleague may have fetched another.
   bool MevzuatUygun();
@@ -180,6 +196,8 @@ class BordroGirisi {
   const Kosullar& Kosul() const { return kosullar_; }
   std::string Baslik() const;         // "Işıl Çağlar ( SSK No:34-1)"
   std::string CalismaSatiri() const;  // "Personel 30 Gün Çalışmış.."
+  // What the user should know of the person and his rates; "" when there is nothing.
+  std::string KisiUyarisi() const;
   const std::optional<CalismaUyarisi>& CalismaPaneli() const { return uyari_; }
   bool KayitVar() const { return kisi_.kayit.has_value(); }
   int CalismaGun() const { return g_.CalismaGun; }
@@ -205,6 +223,7 @@ class BordroGirisi {
   void EkranTemizle();
   Durum HesaplaVeGoster();
   bool EksikGunTamam();
+  void SablonuYukle();
   // Saved, or why the entry goes on.
   std::optional<KapanisSonucu> Kaydet();
   KapanisSonucu SonrakineGec();

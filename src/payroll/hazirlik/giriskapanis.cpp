@@ -4,6 +4,7 @@
 #include "core/store/tablo.h"
 #include "core/turkce.h"
 #include "payroll/hazirlik/giris.h"
+#include "payroll/hazirlik/uyarilar.h"
 
 namespace belvani {
 namespace {
@@ -64,7 +65,11 @@ KapanisSonucu BordroGirisi::Kapat() {
     if (sonAlan_ < BordroAlani::EksikSebep) uyari_.reset();
     return KapanisSonucu::KaldiEksikGun;
   }
-  if (sonuc_.NetOdenen <= Tutar()) return KapanisSonucu::KaldiNetsiz;
+  if (sonuc_.NetOdenen <= Tutar()) {
+    bildirim_.Bilgi("Net Ödenen Sıfırın Üstünde Değil, Bordrosu Kaydedilmedi\n" + NetsizNedeni(g_, sonuc_) +
+                    (KayitVar() ? "\nDaha önce kaydedilen bordrosu olduğu gibi duruyor" : ""));
+    return KapanisSonucu::KaldiNetsiz;
+  }
   const bool kaydet = !KayitVar() || bildirim_.Soru("Puantaj Yeniden Kaydedilecek ?");
   if (kaydet)
     if (const auto kalan = Kaydet()) return *kalan;

@@ -5,6 +5,7 @@
 #include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/turkce.h"
+#include "payroll/hazirlik/uyarilar.h"
 #include "payroll/hesap/satirlar.h"
 
 namespace belvani {
@@ -92,8 +93,7 @@ class TopluIs {
   void Hesapla(const KisiVerisi& kisi, const GirisSatiri* giris, int CalismaGun) {
     BordroGirdi g = PersonelYukle(kisi, k_, CalismaGun);
     if (const auto kusur = GirdiKusuru(g)) return Yaz(kisi, giris, kusur->metin, kusur->alan);
-    if (!KazancGrubuVar(k_.firma, kisi.sicil.hesap))
-      Yaz(kisi, nullptr, "Hesap grubu tanımlı değil: " + kisi.sicil.hesap, sicil::hesap);
+    for (Kusur& uyari : TanimUyarilari(k_, kisi.sicil)) sonuc_.sorunlar.push_back(std::move(uyari));
     if (giris != nullptr) GirisiUygula(g.giris, *giris);
     BordroSonucu s = BordroHesapla(g, &k_.firma.sablon);
     if (s.gunFazla) {
@@ -105,7 +105,9 @@ class TopluIs {
     if (giris != nullptr) YayilanlariBildir(kisi, *giris, s.brd);
     if (s.NetOdenen <= Tutar()) {
       ++sonuc_.netsiz;
-      return Yaz(kisi, nullptr, "Net sıfırın üstünde değil, bordrosu kaydedilmedi");
+      return Yaz(kisi, nullptr,
+                 "Net sıfırın üstünde değil, bordrosu kaydedilmedi: " + NetsizNedeni(g, s) +
+                     (kisi.kayit ? "; önceki kaydı duruyor" : ""));
     }
     // A record that comes out as it stands is left alone: a month that is run again over itself writes nothing.
     if (!kisi.kayit)
@@ -118,12 +120,17 @@ class TopluIs {
   // The template knows no reason for missing days, so only an entry list must give one.
   void EksikGunuIsle(const KisiVerisi& kisi, const GirisSatiri* giris, int CalismaGun, BordroSonucu& s) {
     const int ayGunu = AyGunuBul(k_.donem.ay, k_.donem.yil, CalismaGun);
-    if (giris != nullptr) s.brd.ucretsizizin = std::uint8_t(std::max(0, UcretsizIzinOnerisi(s.SskGun, ayGunu)));
+    if (giris != nullptr && !giris->verilen.contains(brd::ucretsizizin.ad))
+      s.brd.ucretsizizin = std::uint8_t(std::max(0, UcretsizIzinOnerisi(s.SskGun, ayGunu)));
     const EksikGun eksik = EksikGunDenetle(s.SskGun, CalismaGun, ayGunu, s.brd.eksiksebebi, s.brd.ucretsizizin);
     s.brd.eksiksebebi = std::uint8_t(eksik.sebep);
     s.brd.ucretsizizin = std::uint8_t(eksik.ucretsizizin);
     if (EksikSebepSec(eksik.sebep) < 0)
       Yaz(kisi, giris, "Eksik gün sebebi listede yok: " + std::to_string(eksik.sebep));
+    else if (!eksik.tamam && eksik.sebep != 0)
+      Yaz(kisi, giris,
+          "Eksik Gün Bildirildi, Ücretsiz İzin ile Toplam Gün birlikte " + std::to_string(ayGunu) + " olmalı",
+          brd::ucretsizizin);
     else if (!eksik.tamam)
       Yaz(kisi, giris, "Eksik Gün Bildirildi, Eksik Gün Sebebini giriniz");
   }

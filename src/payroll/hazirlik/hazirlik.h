@@ -17,7 +17,7 @@
 
 namespace belvani {
 
-// Days, hours, allowances, reason and debt of one person as they were entered.
+// Days, hours, allowances, missing days, debt and rates of one person as they were entered.
 struct GirisSatiri {
   int satirNo = 0;  // line of the file, for messages
   std::string kod;

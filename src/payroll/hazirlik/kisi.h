@@ -17,6 +17,17 @@ struct YilToplamlari {
   std::array<Tutar, 3> indirimler{};  // of all months
 };
 
+// The rates of a record, as the screens call them: the tables give them, and the user may overtype them.
+struct OranKolonu {
+  Kolon<Brd, Tek> kolon;
+  std::string_view ad;
+};
+inline constexpr std::array<OranKolonu, 5> OranKolonlari{{{brd::sskiscior, "SSK İşçi %"},
+                                                          {brd::sskisverenor, "SSK İşveren %"},
+                                                          {brd::issiziscior, "İşsizlik İşçi %"},
+                                                          {brd::issizisverenor, "İşsizlik İşvr. %"},
+                                                          {brd::damgaveror, "Damga V. Binde"}}};
+
 struct KisiVerisi {
   Sicil sicil;
   Aile aile;

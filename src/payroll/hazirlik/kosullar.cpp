@@ -74,15 +74,17 @@ Kosullar Kur(const Firma& firma, const YasalParametreler& yasal, const FirmaPara
 
 }  // namespace
 
-FirmaParametreleri FirmaDosyalariYukle(Oturum& o, BozukDosya bozuk) {
+FirmaParametreleri FirmaDosyalariYukle(Oturum& o) {
   Motor& motor = o.depo.db.IcMotor();
   FirmaParametreleri f;
   f.gruplar = KayitlariOku<Kaztan>(motor);
   const auto dosyadan = Al(f, KazancBayraklariYukle(o.FirmaDizini));
-  if (!o.firma.ondeger.empty()) VarsayilanGrubuEkle(motor, f, o.firma.ondeger, dosyadan);
-  f.varsayilan = KazancGrupYukle(f, o.firma.ondeger);
+  f.ondegerYazili = !Kirp(o.firma.ondeger).empty();
+  f.varsayilanGrup = Kirp(f.ondegerYazili ? o.firma.ondeger : KartsizFirma().ondeger);
+  VarsayilanGrubuEkle(motor, f, f.varsayilanGrup, dosyadan);
+  f.varsayilan = KazancGrupYukle(f, f.varsayilanGrup);
   f.mesailer = Al(f, FazlaMesaiYukle(o.FirmaDizini));
-  f.sablon = Al(f, SablonYukle(o.FirmaDizini, bozuk));
+  f.sablon = Al(f, SablonOku(o.FirmaDizini));
   YardimlariOku(motor, f.yardimlar);
   for (Indir& satir : KayitlariOku<Indir>(motor))
     if (satir.no >= 1 && satir.no <= f.indirimler.size()) f.indirimler[satir.no - 1u] = std::move(satir);
@@ -103,7 +105,7 @@ Sonuc<YasalParametreler> YasalParametreleriAl(const VeriYolu& veri) {
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay) {
   return Koru([&]() -> Sonuc<Kosullar> {
     FirmaYukle(o);
-    const FirmaParametreleri parametreler = FirmaDosyalariYukle(o, BozukDosya::Kalir);
+    const FirmaParametreleri parametreler = FirmaDosyalariYukle(o);
     if (!parametreler.uyarilar.empty())
       return Kusur{Satirlar("Şirketin parametre dosyaları kullanılamıyor:", parametreler.uyarilar)};
     return KosullariKur(o, yasal, parametreler, yil, ay);

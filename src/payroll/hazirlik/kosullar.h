@@ -21,6 +21,8 @@ namespace belvani {
 // `muaf`, `indir`, `sendika`).
 struct FirmaParametreleri {
   KazancBayraklari varsayilan;  // flags of the company's default group
+  std::string varsayilanGrup;   // its name
+  bool ondegerYazili = false;   // false: the card names none, and that of a company without a card stands for it
   std::vector<Kaztan> gruplar;
   FazlaMesailer mesailer{};
   YardimTanimlari yardimlar;
@@ -42,8 +44,8 @@ struct Kosullar {
 };
 
 // Reads the company's files and tables; `kaztan` gets the row of the default group from the files when it has none,
-// and from then on the files are no longer asked. Throws MotorHatasi.
-FirmaParametreleri FirmaDosyalariYukle(Oturum& o, BozukDosya bozuk = BozukDosya::Onarilir);
+// and from then on the files are no longer asked. A broken template is left as it is, and told. Throws MotorHatasi.
+FirmaParametreleri FirmaDosyalariYukle(Oturum& o);
 
 // The legal parameters of the installation for work that must not go wrong unseen: a file that is absent, broken or
 // with figures that no law has is a failure, and stays as it is.

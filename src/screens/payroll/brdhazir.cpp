@@ -16,6 +16,11 @@
 namespace belvani {
 namespace {
 
+// Walked through with F4: what the calculation gives, and the rates it has used.
+bool SonucAlani(const AlanDenetimi& alan) {
+  return alan.Satir().ek.kapali || OranMi(BordroAlaniBul(alan.Satir()));
+}
+
 constexpr int UyariAraligi = 600;  // ms, of the blinking warning
 
 // Of a list that is reached by a key and stands outside the walk of Enter.
@@ -77,7 +82,8 @@ void brdhazir::UstSatirYap() {
   Govde()->addLayout(satir);
   Govde()->addLayout(kodSatiri);
   connect(ay_, &QComboBox::activated, this, [this](int sira) {
-    giris_.AyDegistir(sira + 1);
+    GirisiOku();
+    if (!giris_.AyDegistir(sira + 1)) return ay_->setCurrentIndex(giris_.Donem().ay - 1);
     BordroNoDoldur();
     simdiki_ = nullptr;
     degisen_.clear();
@@ -124,7 +130,7 @@ void brdhazir::GovdeYap() {
   YaziKutusu(bordroalani::net).setProperty("toplam", true);
   YaziKutusu(bordroalani::brut).setProperty("toplam", true);
   for (const auto& d : Denetimler())
-    if (d->Satir().ek.kapali) d->Odak()->setFocusPolicy(Qt::ClickFocus);
+    if (SonucAlani(*d)) d->Odak()->setFocusPolicy(Qt::ClickFocus);
 
   auto* yanip = new QTimer(this);
   connect(yanip, &QTimer::timeout, this, [this] {
@@ -209,13 +215,18 @@ BordroAlani brdhazir::SimdikiAlan() const {
 bool brdhazir::KisiyiGetir() {
   const KodSonucu sonuc = giris_.KodAl(Utf8(YaziKutusu(bordroalani::kod).text()));
   if (sonuc == KodSonucu::Bos) return false;
+  if (sonuc == KodSonucu::Birakilmadi) {
+    YaziKutusu(bordroalani::kod).DegerKoy(giris_.Kod());
+    return true;
+  }
   degisen_.clear();
   Goster();
   return sonuc == KodSonucu::Yuklendi;
 }
 
 void brdhazir::Git(Yon yon) {
-  if (giris_.Git(yon) == KodSonucu::Bos) return;
+  const KodSonucu sonuc = giris_.Git(yon);
+  if (sonuc == KodSonucu::Bos || sonuc == KodSonucu::Birakilmadi) return;
   YaziKutusu(bordroalani::kod).DegerKoy(giris_.Kod());
   YaziKutusu(bordroalani::kod).selectAll();
   degisen_.clear();
@@ -328,8 +339,9 @@ void brdhazir::Goster() {
                         : Yazi(giris_.CalismaSatiri()));
   UyariRengi(panel.has_value());
   const auto& kusur = giris_.HesapKusuru();
-  kusur_->setText(kusur ? Yazi(kusur->metin) : QString());
-  kusur_->setVisible(kusur.has_value());
+  const std::string uyari = giris_.KisiUyarisi();
+  kusur_->setText(Yazi(kusur ? kusur->metin : uyari));
+  kusur_->setVisible(kusur || !uyari.empty());
   const MuafiyetPaneli& muafiyet = giris_.Toplamlar().panel;
   muafiyet_->setText("SSK'dan muaf " + Para(muafiyet.muaf) + "   Vergi indirimleri " + Para(muafiyet.indirim) +
                      "   Toplam " + Para(muafiyet.toplam));
@@ -346,6 +358,7 @@ void brdhazir::AcikAlanlariKur() {
     // With all days worked there is nothing to give a reason for: Enter goes from the last line to the code.
     if (no == BordroAlani::EksikSebep || no == BordroAlani::UcretsizIzin)
       d->Parca()->setEnabled(secili && (eksik || d->Parca()->hasFocus()));
+    if (OranMi(no)) d->Parca()->setEnabled(secili);
   }
   Denetim(brd::rapcalismadi).Odak()->setFocusPolicy(eksik ? Qt::StrongFocus : Qt::ClickFocus);
   Denetim(brd::rapcalismadi).Parca()->setEnabled(secili);
@@ -368,7 +381,9 @@ void brdhazir::BordroNoDoldur() {
 }
 
 void brdhazir::TopluHazirla() {
-  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan) || !giris_.MevzuatUygun()) return;
+  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan)) return;
+  GirisiOku();
+  if (!giris_.BirakilabilirMi() || !giris_.MevzuatUygun()) return;
   const auto sonuc = UzunIs(Baglam(), QStringLiteral("Bordro hazırlanıyor…"),
                             [this](Ilerleme& ilerleme) { return giris_.SablondanHazirla(&ilerleme); });
   if (!sonuc) return;
@@ -391,9 +406,9 @@ void brdhazir::TopluHazirla() {
 // The results can be walked as well, to see why each is what it is.
 void brdhazir::SonuclaraGit() {
   if (giris_.Durumu() == BordroGirisi::Hal::KisiYok) return;
-  const bool sonucta = simdiki_ != nullptr && simdiki_->Satir().ek.kapali;
+  const bool sonucta = simdiki_ != nullptr && SonucAlani(*simdiki_);
   for (const auto& d : Denetimler())
-    if (d->Satir().ek.kapali) d->Odak()->setFocusPolicy(sonucta ? Qt::ClickFocus : Qt::StrongFocus);
+    if (SonucAlani(*d)) d->Odak()->setFocusPolicy(sonucta ? Qt::ClickFocus : Qt::StrongFocus);
   sonucta ? KodaDon() : OdakVer(bordroalani::net);
 }
 
@@ -414,7 +429,11 @@ void brdhazir::showEvent(QShowEvent* olay) {
 }
 
 void brdhazir::closeEvent(QCloseEvent* olay) {
-  if (acik_) giris_.KapanisDenetimi();
+  if (acik_) {
+    GirisiOku();
+    if (!giris_.BirakilabilirMi()) return olay->ignore();
+    giris_.KapanisDenetimi();
+  }
   Form::closeEvent(olay);
 }
 

@@ -19,6 +19,11 @@ Alan Sonucta(Kolon<Brd, U> kolon, const char* etiket, AlanEki ek = {}) {
       [](void*, const Deger&) {}, etiket, ek);
 }
 
+// A rate: among the results, and typed over where the user knows better.
+Alan Oranda(std::size_t sira) {
+  return {OranKolonlari[sira].kolon, OranKolonlari[sira].ad.data(), {.harf = 7, .no = int(OranAlani(sira))}};
+}
+
 Alan Toplamda(Kolon<EkranToplamlari, Tutar> kolon, const char* etiket) {
   return {kolon, etiket, {.harf = TutarHarfi, .kapali = true}};
 }
@@ -71,13 +76,11 @@ std::vector<AlanGrubu> AyrintiGruplari() {
             Toplamda(toplam::kumuleVergi, &EkranToplamlari::kumuleVergi)},
            2},
           {"İşçi ve İşveren Payları",
-           {Sonucta(brd::sskiscior, "SSK İşçi %", {.harf = 7}), Sonucta(brd::sskkesinti, "SSK İşçi"),
-            Sonucta(brd::issiziscior, "İşsizlik İşçi %", {.harf = 7}), Sonucta(brd::issizisci, "İşsizlik İşçi"),
-            Sonucta(brd::sskisverenor, "SSK İşveren %", {.harf = 7}), Sonucta(brd::gvtutar, "Gelir Vergisi"),
-            Sonucta(brd::issizisverenor, "İşsizlik İşvr. %", {.harf = 7}), Sonucta(brd::dvtutar, "Damga Vergisi"),
+           {Oranda(0), Sonucta(brd::sskkesinti, "SSK İşçi"), Oranda(2), Sonucta(brd::issizisci, "İşsizlik İşçi"),
+            Oranda(1), Sonucta(brd::gvtutar, "Gelir Vergisi"), Oranda(3), Sonucta(brd::dvtutar, "Damga Vergisi"),
             Sonucta(brd::sskkesintiisveren, "SSK İşveren"), Toplamda(toplam::isciToplam, &EkranToplamlari::isciToplam),
             Sonucta(brd::issizisveren, "İşsizlik İşveren"),
-            Toplamda(toplam::isverenToplam, &EkranToplamlari::isverenToplam)},
+            Toplamda(toplam::isverenToplam, &EkranToplamlari::isverenToplam), Oranda(4)},
            2}};
 }
 
@@ -87,7 +90,7 @@ AlanGrubu EksikGunGrubu() {
       {{bordroalani::sebep, "Eksik Gün S.", {.liste = EksikSebepleri, .harf = 16, .no = int(BordroAlani::EksikSebep)}},
        {brd::ucretsizizin, "Ücretsiz İzin", {.harf = 3, .no = int(BordroAlani::UcretsizIzin)}},
        {brd::rapcalismadi, "Raporda Çalışmadı", {.kutu = true, .no = int(BordroAlani::RaporCalismadi)}}},
-      3};
+      2};
 }
 
 }  // namespace belvani

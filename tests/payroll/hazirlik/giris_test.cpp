@@ -170,11 +170,20 @@ TEST(BordroGirisi, WalksOverWhoDoesNotBelongToThePeriod) {
   e.giris.Giris().ng = 7;
   e.giris.KodAl("D");
   EXPECT_EQ(e.giris.Giris().ng, 7) << "who is being entered is not read again";
+  e.bildirim.cevap = false;
+  EXPECT_EQ(e.giris.KodAl("B"), KodSonucu::Birakilmadi);
+  EXPECT_EQ(e.giris.Git(Yon::Ilk), KodSonucu::Birakilmadi);
+  EXPECT_FALSE(e.giris.AyDegistir(2));
+  EXPECT_EQ(e.giris.Kod() + std::to_string(e.giris.Giris().ng), "D7") << "nothing typed goes without a yes";
+  e.bildirim.cevap = true;
   EXPECT_EQ(e.giris.KodAl("B"), KodSonucu::DonemDisi);
   EXPECT_FALSE(e.giris.AlanAcik(BordroAlani::NormalGun));
+  EXPECT_EQ(e.giris.KodAl("yok"), KodSonucu::Bilinmiyor);
+  const char* birak = "Soru: D   ( SSK No:)\nBordrosu Kaydedilmedi, Girdikleriniz Bırakılsın mı ?";
   EXPECT_THAT(e.bildirim.Al(),
-              ElementsAre("Bilgi: Firma Bilgilerinde İş Saati Yazılmamış", "Bilgi: Personel Giriş Tarihi Hatalı",
-                          "Bilgi: Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil"));
+              ElementsAre("Bilgi: Firma Bilgilerinde İş Saati Yazılmamış", "Bilgi: Personel Giriş Tarihi Hatalı", birak,
+                          birak, birak, birak, "Bilgi: Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil",
+                          "Bilgi: Bu kodla personel yok: YOK"));
   e.motor().Calistir("delete from firma");
   EXPECT_FALSE(FirmaYukle(e.o));
   EXPECT_FALSE(e.giris.Ac());
@@ -206,7 +215,12 @@ TEST(BordroGirisi, ClosesOnlyOverCompleteDays) {
        BordroAlani::NormalGun,
        KaldiGunFazla,
        {"Bilgi: Bu Personel 30 Gün Çalışmış\nÇalışma Gününü Fazla Girmişiniz"}},
-      {0, 1, -1, BordroAlani::UcretsizIzin, KaldiNetsiz, {sor}},
+      {0,
+       1,
+       -1,
+       BordroAlani::UcretsizIzin,
+       KaldiNetsiz,
+       {sor, "Bilgi: Net Ödenen Sıfırın Üstünde Değil, Bordrosu Kaydedilmedi\nÇalışılan gün girilmemiş"}},
   };
   Ekran e;
   e.Kisi("1", 900);
@@ -346,6 +360,106 @@ TEST(BordroGirisi, TotalsDebtAndNetToGross) {
   EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::KaldiHesapsiz);
   EXPECT_TRUE(e.giris.HesapKusuru()->alan == brd::fm1);
   EXPECT_EQ(t.net, Tutar());
+}
+
+// Why there is no pay is told, and that an earlier record stands.
+TEST(BordroGirisi, WithoutAPayTellsWhyAndWhatWasKept) {
+  Ekran e;
+  e.Kisi("1", 0);
+  e.Kisi("2", 900);
+  e.Kisi("3", 900);
+  e.motor().Calistir("update sicil set hesap = 'YOK' where kod = '2'");
+  e.Hazirla(2009, 1);
+  const Brd ucuncu = e.Kayit("3", 2009, 1);
+  e.Ac(2009, 1);
+  const std::string kaydedilmedi = "Bilgi: Net Ödenen Sıfırın Üstünde Değil, Bordrosu Kaydedilmedi\n";
+  const auto kapanir = [&](const char* kod, double borc, const std::string& neden) {
+    ASSERT_EQ(e.giris.KodAl(kod), KodSonucu::Yuklendi);
+    e.giris.AlanaGirildi(BordroAlani::NormalGun);
+    e.giris.Giris().borckes = Tutar(borc);
+    e.bildirim.Al();
+    EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::KaldiNetsiz);
+    EXPECT_EQ(e.bildirim.Al(), test::Iletiler{kaydedilmedi + neden});
+  };
+  kapanir("1", 0, "Personel kartında ücreti yazılı değil");
+  kapanir("2", 0, "Girilen satırlardan hiçbiri hesap grubunda SSK matrahına girmiyor, brüt kazanç yok");
+  EXPECT_EQ(e.giris.KisiUyarisi(), "Hesap grubu tanımlı değil: YOK");
+  kapanir("3", 5000,
+          "Kesintiler kazancı aşıyor: brüt kazanç 900.00, yasal kesinti 255.15, özel kesinti 5,000.00\nDaha önce "
+          "kaydedilen bordrosu olduğu gibi duruyor");
+  EXPECT_EQ(e.Kayit("3", 2009, 1), ucuncu);
+}
+
+// The rates on the screen are those of the calculation, and the record keeps them.
+TEST(BordroGirisi, OvertypedRatesAreCalculatedSavedAndComeBack) {
+  Ekran e;
+  e.Kisi("1", 900);
+  e.Ac(2009, 1);
+  e.giris.KodAl("1");
+  EXPECT_EQ(e.giris.KisiUyarisi(), "");
+  Brd& b = e.giris.Giris();
+  b.sskiscior = Tek(9);
+  b.sskisverenor = Tek(10);
+  b.issiziscior = Tek(2);
+  b.issizisverenor = Tek(3);
+  b.damgaveror = Tek(7);
+  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::Bitti) << "a changed rate alone is an entry";
+  const Brd k = e.Kayit("1", 2009, 1);
+  EXPECT_EQ(k.sskkesinti, Tutar(81));
+  EXPECT_EQ(k.sskkesintiisveren, Tutar(90));
+  EXPECT_EQ(k.issizisci, Tutar(18));
+  EXPECT_EQ(k.issizisveren, Tutar(27));
+  EXPECT_EQ(k.dvtutar, Tutar(6.3));
+  e.giris.KodAl("1");
+  for (const OranKolonu& oran : OranKolonlari) EXPECT_EQ(e.giris.Giris().*oran.kolon.uye, k.*oran.kolon.uye) << oran.ad;
+  EXPECT_EQ(e.giris.KisiUyarisi(),
+            "Kayıttaki oranlar kullanılıyor; tablodakiler: SSK İşçi % 14, SSK İşveren % 19.5, İşsizlik İşçi % 1, "
+            "İşsizlik İşvr. % 2, Damga V. Binde 6");
+  b.sskiscior = Tek(101);
+  EXPECT_TRUE(e.giris.Hesapla()->alan == brd::sskiscior);
+}
+
+// Nobody goes without pay because the company's card names no group, and nothing of another company is calculated with.
+TEST(BordroGirisi, CompanyWithoutADefaultGroupOrReadableParameters) {
+  Ekran e;
+  e.Kisi("1", 900);
+  e.motor().Calistir("update firma set ondeger = ''");
+  e.motor().Calistir("delete from kaztan");
+  ASSERT_TRUE(e.o.firma.ondeger.empty() || FirmaYukle(e.o));
+  const HazirlikSonucu toplu = e.Hazirla(2009, 1);
+  EXPECT_EQ(toplu.kaydedilen, 1);
+  ASSERT_EQ(toplu.sorunlar.size(), 1u);
+  EXPECT_EQ(toplu.sorunlar[0].metin,
+            "Hesap Kodu boş, Firma Bilgilerinde Öndeğer Hesap da yazılmamış: \"Personel\" grubuyla hesaplanır");
+  e.Ac(2009, 1);
+  e.giris.KodAl("1");
+  EXPECT_EQ(e.giris.KisiUyarisi(), toplu.sorunlar[0].metin);
+  EXPECT_GT(e.giris.Toplamlar().net, Tutar());
+
+  const std::string dizin = e.o.FirmaDizini;
+  e.o.FirmaDizini = dizin + "baska/";
+  EXPECT_FALSE(e.depo.firma.Gecerli());
+  e.motor().Calistir("alter table kaztan rename to kaztan2");
+  e.bildirim.Al();
+  EXPECT_FALSE(e.giris.Ac());
+  EXPECT_EQ(e.bildirim.Al().size(), 1u);
+  EXPECT_TRUE(e.depo.firma.Parametreler().gruplar.empty()) << "those of the company before are gone";
+}
+
+// What somebody typed into a template is not written over unseen.
+TEST(BordroGirisi, ABrokenTemplateIsReplacedOnlyWhenAsked) {
+  Ekran e;
+  e.Kisi("1", 900);
+  const VeriYolu sirket(e.o.FirmaDizini);
+  ASSERT_TRUE(sirket.Yaz("sablon.dat", "x"));
+  e.bildirim.cevap = false;
+  e.Ac(2009, 1);
+  EXPECT_EQ(sirket.Oku("sablon.dat").value_or(""), "x");
+  EXPECT_EQ(e.giris.Kosul().firma.sablon, VarsayilanSablon());
+  e.bildirim.cevap = true;
+  e.Ac(2009, 1);
+  EXPECT_EQ(e.bildirim.Al().size(), 2u);
+  EXPECT_EQ(sirket.Oku("sablon.dat").value_or("").size(), 135u);
 }
 
 TEST(BordroGirisi, DeletesAndDoublesNothing) {

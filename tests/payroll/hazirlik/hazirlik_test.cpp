@@ -37,8 +37,10 @@ TEST(TopluHazirla, SavesWhoBelongsToThePeriodAndEarns) {
   EXPECT_EQ(s.kaydedilen, 2);
   EXPECT_EQ(s.donemDisi, 2);
   EXPECT_EQ(s.netsiz, 1);
-  EXPECT_THAT(Metinler(s), ElementsAre("U 5: Net sıfırın üstünde değil, bordrosu kaydedilmedi",
-                                       "U 6: Personel Giriş Tarihi Hatalı"));
+  EXPECT_THAT(
+      Metinler(s),
+      ElementsAre("U 5: Net sıfırın üstünde değil, bordrosu kaydedilmedi: Personel kartında ücreti yazılı değil",
+                  "U 6: Personel Giriş Tarihi Hatalı"));
   const Brd b = sirket.Kayit("4", 2009, 2);
   EXPECT_EQ(b.ng, 12);
   EXPECT_EQ(b.no, 1);
