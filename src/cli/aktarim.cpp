@@ -13,9 +13,11 @@ struct AktarimSecenekleri {
   AktarimKipi Kip() const { return dene ? AktarimKipi::YalnizDene : AktarimKipi::Kaydet; }
 };
 
-void SonucuYaz(const AktarimSecenekleri& s, Sonuc<AktarimSonucu> sonuc) {
+void SonucuYaz(Genel& genel, const AktarimSecenekleri& s, Sonuc<AktarimSonucu> sonuc) {
   if (!sonuc) throw KomutHatasi{s.dosya + ": " + sonuc.KusurMetni()};
   SatirKusurlariylaBitir(s.dosya + ": hiçbir kayıt alınmadı", sonuc->sorunlar);
+  for (const Kusur& u : sonuc->uyarilar)
+    genel.bildirim.Uyari("Uyarı: satır " + std::to_string(u.satir) + ", " + u.kod + ": " + u.metin);
   Yaz(std::to_string(sonuc->eklenen) + " kayıt eklendi, " + std::to_string(sonuc->degisen) + " kayıt değişti" +
       (s.dene ? " (deneme, kaydedilmedi)" : "") + "\n");
 }
@@ -38,19 +40,21 @@ void AktarimKomutlari(CLI::App& app, Genel& genel) {
   auto* personel = Komut(app, "personel-al", "Personel ve kimlik bilgilerini (sicil, kimlik) dosyadan alır", *p);
   Dosya(*personel, *p);
   personel->callback(
-      [&genel, p] { SonucuYaz(*p, PersonelAktar(*genel.SirketAc(p->kod), DosyayiOku(p->dosya), p->Kip())); });
+      [&genel, p] { SonucuYaz(genel, *p, PersonelAktar(*genel.SirketAc(p->kod), DosyayiOku(p->dosya), p->Kip())); });
 
   auto a = std::make_shared<AktarimSecenekleri>();
   auto* aile = Komut(app, "aile-al", "Eş ve çocukları (esco) alır; dosyadaki kişilerin eski kayıtları silinir", *a);
   Dosya(*aile, *a);
-  aile->callback([&genel, a] { SonucuYaz(*a, AileAktar(*genel.SirketAc(a->kod), DosyayiOku(a->dosya), a->Kip())); });
+  aile->callback(
+      [&genel, a] { SonucuYaz(genel, *a, AileAktar(*genel.SirketAc(a->kod), DosyayiOku(a->dosya), a->Kip())); });
 
   auto t = std::make_shared<AktarimSecenekleri>();
   auto* tanim = Komut(app, "tanim-al", "Şirketin tanımlarını alır: firma, muaf, indir, sendika veya kaztan", *t);
   tanim->add_option("TABLO", t->tablo, "tablonun adı")->required();
   Dosya(*tanim, *t);
-  tanim->callback(
-      [&genel, t] { SonucuYaz(*t, TanimAktar(*genel.SirketAc(t->kod), t->tablo, DosyayiOku(t->dosya), t->Kip())); });
+  tanim->callback([&genel, t] {
+    SonucuYaz(genel, *t, TanimAktar(*genel.SirketAc(t->kod), t->tablo, DosyayiOku(t->dosya), t->Kip()));
+  });
 }
 
 }  // namespace belvani::cli

@@ -5,6 +5,7 @@
 #include "core/store/koru.h"
 #include "personnel/hucreler.h"
 #include "personnel/kayit.h"
+#include "personnel/tanimkodlari.h"
 
 namespace belvani {
 namespace {
@@ -53,7 +54,21 @@ void GirisTarihiniDenetle(AktarimDosyasi& dosya, const AktarimSatiri& satir, boo
     dosya.SorunEkle(satir, "girtar", "Giriş Tarihi Hatalı");
 }
 
-Durum PersonelleriYaz(Motor& motor, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
+// A group or a union that the row has brought and nobody has defined.
+void TanimsizKodlariUyar(Oturum& o, const std::optional<Sicil>& onceki, const std::optional<Sicil>& kart,
+                         const AktarimSatiri& satir, AktarimSonucu& sonuc) {
+  if (!kart) return;
+  for (Kusur& kusur : TanimsizKodlar(o, *kart, onceki)) {
+    kusur.kod = kart->kod;
+    kusur.satir = satir.satirNo;
+    kusur.derece = Derece::Uyari;
+    sonuc.uyarilar.push_back(std::move(kusur));
+  }
+}
+
+Durum PersonelleriYaz(Oturum& o, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
+  Motor& motor = o.depo.db.IcMotor();
+  const bool kodlu = dosya.KolonSirasi(sicil::hesap.ad) >= 0 || dosya.KolonSirasi(sicil::tasno.ad) >= 0;
   Tablo<Sicil> kartlar(motor);
   Tablo<Kimlik> kimlikler(motor);
   for (const auto& satir : dosya.satirlar) {
@@ -63,6 +78,7 @@ Durum PersonelleriYaz(Motor& motor, AktarimDosyasi& dosya, AktarimSonucu& sonuc)
     if (!dosya.sorunlar.empty()) continue;
     if (Durum d = Yaz(kartlar, kart, {}, dosya, satir); !d) return d;
     if (Durum d = Yaz(kimlikler, kimlikler.Bul(kod), YeniKimlik(kod), dosya, satir); !d) return d;
+    if (kodlu) TanimsizKodlariUyar(o, kart, kartlar.Bul(kod), satir, sonuc);
     ++(kart ? sonuc.degisen : sonuc.eklenen);
   }
   return Tamam();
@@ -115,8 +131,8 @@ constexpr TanimTablosu TanimTablolari[] = {
 Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, std::string_view csv, AktarimKipi kip) {
   auto dosya = AktarimDosyasiOku(csv, {TabloBul("sicil"), TabloBul("kimlik")}, "kod", AnahtarKurali::Tekil);
   if (!dosya) return dosya.Kusuru();
-  return Kaydet(o, *dosya, kip,
-                [&](AktarimSonucu& sonuc) { return PersonelleriYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
+  FirmaYukle(o);  // its default group
+  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { return PersonelleriYaz(o, *dosya, sonuc); });
 }
 
 Sonuc<AktarimSonucu> AileAktar(Oturum& o, std::string_view csv, AktarimKipi kip) {

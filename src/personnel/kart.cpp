@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include "core/ayarlar.h"
+#include "personnel/tanimkodlari.h"
 
 namespace belvani {
 namespace {
@@ -37,6 +38,8 @@ KartSonucu KartYaz(Oturum& o, const Okunan<Sicil>& kart) {
   const KartSonucu basarisiz{YazmaEngeli<Sicil>(Kusur{"Personel Kartı Kaydedilemiyor"})};
   return o.depo.db.Koru(basarisiz, [&]() -> KartSonucu {
     Islem islem(o.depo.db.IcMotor());
+    if (auto tanimsiz = TanimsizKodlar(o, kart.simdi, kart.ilk); !tanimsiz.empty())
+      return YazmaEngeli<Sicil>(std::move(tanimsiz.front()));
     const bool kimlikVar = KimlikTamamla(o, kart.simdi.kod);
     const auto yazilan = KisiTablosu<Sicil>(o).Yaz(kart);
     if (!yazilan) return yazilan.Kusuru();

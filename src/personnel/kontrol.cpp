@@ -6,6 +6,7 @@
 #include "core/tables/sicil.h"
 #include "core/turkce.h"
 #include "personnel/listeler.h"
+#include "personnel/tanimkodlari.h"
 
 namespace belvani {
 namespace {
@@ -75,17 +76,19 @@ bool KimligeIlerle(Akis<Kimlik>& kimlik, const std::string& kod) {
   return kimlik.Var() && TurkceEsit(kimlik->kod, kod);
 }
 
-Sonuc<std::vector<KontrolSatiri>> Denetle(Motor& motor, Ilerleme* ilerleme) {
+Sonuc<std::vector<KontrolSatiri>> Denetle(Oturum& o, Ilerleme* ilerleme) {
+  Motor& motor = o.depo.db.IcMotor();
   std::vector<KontrolSatiri> rapor;
   Akis<Sicil> sicil(motor);
   Akis<Kimlik> kimlik(motor);
   for (kimlik.Ilerle(); sicil.Ilerle();) {
     if (ilerleme != nullptr && !ilerleme->Adim(0, 0)) return Kusur{.metin = YaridaKesildi, .derece = Derece::Bilgi};
-    const auto bildir = [&](const char* sonuc) {
+    const auto bildir = [&](const std::string& sonuc) {
       rapor.push_back({sicil->kod, sicil->adi + " " + sicil->soyadi, sonuc});
     };
     for (const auto& kural : SicilKurallari)
       if (kural.kusurlu(*sicil)) bildir(kural.metin);
+    for (const Kusur& kusur : TanimsizKodlar(o, *sicil)) bildir(kusur.metin);
     if (!KimligeIlerle(kimlik, sicil->kod)) {
       bildir("Personelin Nufus Kimlik Bilgileri Yok");
       continue;
@@ -102,7 +105,7 @@ Sonuc<std::vector<KontrolSatiri>> Denetle(Motor& motor, Ilerleme* ilerleme) {
 Sonuc<std::vector<KontrolSatiri>> KontrolRaporu(Oturum& o, Ilerleme* ilerleme) {
   using Rapor = Sonuc<std::vector<KontrolSatiri>>;
   const Rapor basarisiz = Kusur{"Personel kayıtları okunamadı"};
-  Rapor rapor = o.depo.db.Koru(basarisiz, [&]() -> Rapor { return Denetle(o.depo.db.IcMotor(), ilerleme); });
+  Rapor rapor = o.depo.db.Koru(basarisiz, [&]() -> Rapor { return Denetle(o, ilerleme); });
   if (rapor || rapor.Kusuru().derece == Derece::Bilgi) return rapor;
   return Kusur{basarisiz.KusurMetni() + ": " + o.depo.db.SonHata()};
 }

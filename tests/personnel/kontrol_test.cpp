@@ -1,5 +1,7 @@
 #include "personnel/kontrol.h"
 
+#include "personnel/aktarim.h"
+#include "personnel/kart.h"
 #include "sirket.h"
 
 namespace belvani {
@@ -21,6 +23,30 @@ struct Kontrol : test::SirketTesti {
     if (!k.kod.empty()) Yaz(k);
   }
 };
+
+// Group and union by their codes: stored ones are told, typed ones refused, imported ones warned of.
+TEST_F(Kontrol, CodesThatNobodyHasDefined) {
+  Kisi("1", [](Sicil& s, Kimlik&) { s.hesap = "YOK"; });
+  Kisi("2", [](Sicil& s, Kimlik&) { s.tasno = "99"; });
+  Kisi("3", [](Sicil& s, Kimlik&) { s.hesap = "personel"; });  // the company's own
+  EXPECT_EQ(*KontrolRaporu(o), (std::vector<KontrolSatiri>{{"1", "Ali Veli", "Hesap grubu tanımlı değil: YOK"},
+                                                           {"2", "Ali Veli", "Sendika tanımlı değil: 99"}}));
+  Okunan<Sicil> kart{.ilk = KartBul(o, "1"), .simdi = *KartBul(o, "1")};
+  kart.simdi.ucret = Tutar(1200);
+  EXPECT_TRUE(KartKaydet(o, kart)) << "what stands already passes";
+  kart = {.ilk = KartBul(o, "1"), .simdi = *KartBul(o, "1")};
+  kart.simdi.hesap = "BAŞKA";
+  const auto yazilan = KartKaydet(o, kart);
+  ASSERT_FALSE(yazilan);
+  EXPECT_TRUE(yazilan.Kusuru().alan == sicil::hesap);
+  EXPECT_EQ(KartBul(o, "1")->hesap, "YOK");
+  const auto alinan =
+      PersonelAktar(o, "kod,girtar,hesap,tasno\n4,01.01.2009,Personel,7\n1,01.01.2009,yok,\n", AktarimKipi::Kaydet);
+  ASSERT_EQ(alinan->uyarilar.size(), 1u);
+  EXPECT_TRUE(alinan->uyarilar[0].alan == sicil::tasno && alinan->uyarilar[0].kod == "4" &&
+              alinan->uyarilar[0].satir == 2);
+  EXPECT_EQ(KartBul(o, "4")->tasno, "7");
+}
 
 TEST_F(Kontrol, TellsEveryFaultInOrder) {
   Kisi("1", [](Sicil&, Kimlik&) {});
