@@ -68,13 +68,31 @@ Durum GirisDenetle(const GirisFormu& form) {
                sicil::girtar};
 }
 
+std::string YenidenGirisSorusu(const GirisFormu& form) {
+  const Tarih cikis = form.ilkSicil ? form.ilkSicil->ciktar : Tarih();
+  if (cikis.Bos() || form.sicil.girtar <= cikis) return "";
+  return "Bu personel " + cikis.Metin() +
+         " tarihinde işten çıkmış.\nYeniden işe alınırsa kartındaki çıkış tarihi, kodu ve sebebi silinir.\nYeniden "
+         "İşe Alınsın mı ?";
+}
+
 Sonuc<GirisKayitlari> GirisHazirla(const Oturum& o, const GirisFormu& form, Tutar asgariUcret) {
   if (const Durum denetim = GirisDenetle(form); !denetim) return denetim.Kusuru();
   const std::string kod = TemizKod(form.sicil.kod);
   if (kod.empty()) return KuralKusuru("Personel Sicil Kodu Hatalı", sicil::kod);
-  return GirisKayitlari{
+  const bool yeniden = !YenidenGirisSorusu(form).empty();
+  if (yeniden && !form.cikisSilinir)
+    return KuralKusuru("Bu personel " + form.ilkSicil->ciktar.Metin() + " tarihinde işten çıkmış, kaydedilmedi",
+                       sicil::girtar);
+  GirisKayitlari kayitlar{
       EkrandanAl(form.ilkSicil, YeniKart(kod, o.firma.ondeger, asgariUcret), form.sicil, sicilAlanlari),
       EkrandanAl(form.ilkKimlik, YeniKimlik(kod), form.kimlik, kimlikAlanlari)};
+  if (yeniden) {
+    kayitlar.sicil.simdi.ciktar = Tarih();
+    kayitlar.sicil.simdi.cikiskodu = 0;
+    kayitlar.sicil.simdi.cikissebebi.clear();
+  }
+  return kayitlar;
 }
 
 // One transaction, and no message in it: a box on the screen must not hold the store.

@@ -70,7 +70,12 @@ struct GirisFormu {
   GirisEki ek{};
   std::optional<Sicil> ilkSicil{};  // as they were read; nothing: there was none
   std::optional<Kimlik> ilkKimlik{};
+  bool cikisSilinir = false;  // a former leaving goes with this hiring
 };
+
+// A person who has left is hired again: his leaving stands before the new day. What to ask then ("Bu personel
+// 31.01.2009 tarihinde işten çıkmış …"); "" where there is nothing to ask.
+std::string YenidenGirisSorusu(const GirisFormu& form);
 
 // The screen before anyone is on it: both dates of the declaration are today, the nationality is "T.C.".
 GirisFormu BosGirisFormu(Tarih bugun);
@@ -87,7 +92,8 @@ struct GirisKayitlari {
   Okunan<Kimlik> kimlik;
 };
 
-// The records of the person as the form makes them, checked. A new person gets the minimum wage of the law, the
+// The records of the person as the form makes them, checked. One who has left is hired again with `cikisSilinir` alone:
+// with the old leaving on his card he would belong to no period. A new person gets the minimum wage of the law, the
 // company's default account class and the minimum-living allowance.
 Sonuc<GirisKayitlari> GirisHazirla(const Oturum& o, const GirisFormu& form, Tutar asgariUcret);
 

@@ -6,11 +6,20 @@
 namespace belvani {
 namespace {
 
-std::optional<Kusur> CikisKusuru(const CikisFormu& form) {
+// Against the card, once there is one: the date on the screen is for the paper, and may be another.
+std::optional<Kusur> TarihKusuru(const CikisFormu& form, const std::optional<Sicil>& kart) {
+  const Tarih girtar = kart ? kart->girtar : form.girtar;
+  if (!girtar.Bos() && form.ciktar >= girtar) return std::nullopt;
+  std::string metin = "Çıkış Tarihi,Giriş Tarihinden Büyük veya Eşit Olmalı";
+  if (girtar != form.girtar)
+    metin += "\nPersonel kartındaki giriş tarihi: " + (girtar.Bos() ? std::string("yok") : girtar.Metin());
+  return KuralKusuru(std::move(metin), cikisformu::ciktar);
+}
+
+std::optional<Kusur> CikisKusuru(const CikisFormu& form, const std::optional<Sicil>& kart) {
   if (form.girtar.Bos()) return KuralKusuru("Giriş Tarihi Hatası", cikisformu::girtar);
   if (form.ciktar.Bos()) return KuralKusuru("Çıkış Tarihi Hatası", cikisformu::ciktar);
-  if (form.ciktar < form.girtar)
-    return KuralKusuru("Çıkış Tarihi,Giriş Tarihinden Büyük veya Eşit Olmalı", cikisformu::ciktar);
+  if (auto kusur = TarihKusuru(form, kart)) return kusur;
   if (form.cikiskodu == 0 || CikisKoduMetni(form.cikiskodu).empty())
     return KuralKusuru("Çıkış Kodunu Seçmelisiniz", cikisformu::cikiskodu);
   if (Kirp(DenetimsizMetin(form.cikissebebi)).empty())
@@ -53,9 +62,9 @@ std::optional<CikisFormu> CikisBul(Oturum& o, std::string_view kod) {
 }
 
 Sonuc<Okunan<Sicil>> CikisHazirla(Oturum& o, const CikisFormu& form) {
-  if (auto kusur = CikisKusuru(form)) return *std::move(kusur);
   const bool okunan = form.kart && TurkceEsit(form.kart->kod, TemizKod(form.kod));
   const auto kart = okunan ? form.kart : KartBul(o, form.kod);
+  if (auto kusur = CikisKusuru(form, kart)) return *std::move(kusur);
   if (!kart) return KuralKusuru("Hatalı Personel Çıkışı", cikisformu::kod);
   if (auto kusur = SebepKusuru(form.cikissebebi)) return *std::move(kusur);
   return CikisKarti(*kart, form);

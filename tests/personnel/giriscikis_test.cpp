@@ -56,6 +56,30 @@ TEST_F(IseGiris, ChecksStopTheFirstThatFails) {
   EXPECT_EQ(Hepsi<Sicil>().size(), 1u) << "only the last";
 }
 
+TEST_F(IseGiris, OneWhoHasLeftIsHiredAgainWithoutHisOldLeaving) {
+  Sicil eski = Kart("1");
+  eski.ciktar = Dun;
+  eski.cikiskodu = 3;
+  eski.cikissebebi = "İstifa";
+  eski.ucret = Tutar(900.0);
+  Yaz(eski);
+  GirisFormu form = *GirisBul(o, "1", Dun);
+  form.sicil.girtar = Dun;
+  EXPECT_EQ(YenidenGirisSorusu(form), "") << "the day itself belongs to the old time";
+  form.sicil.girtar = Bugun;
+  EXPECT_NE(YenidenGirisSorusu(form), "");
+  EXPECT_FALSE(Kaydet(form));
+  EXPECT_EQ(bildirim.Al(), Iletiler{"Bilgi: Bu personel 02.03.2009 tarihinde işten çıkmış, kaydedilmedi"});
+  EXPECT_EQ(Hepsi<Sicil>(), std::vector{eski});
+  form.cikisSilinir = true;
+  EXPECT_TRUE(Kaydet(form));
+  eski.girtar = Bugun;
+  eski.ciktar = {};
+  eski.cikiskodu = 0;
+  eski.cikissebebi.clear();
+  EXPECT_EQ(Hepsi<Sicil>(), std::vector{eski});
+}
+
 TEST_F(IseGiris, ANewPersonGetsBothRecordsWithTheirDefaults) {
   o.firma.ondeger = "İşçi";
   GirisFormu form = Yeni(" a1 ");
@@ -88,7 +112,7 @@ TEST_F(IseGiris, AKnownPersonChangesOnlyInTheFieldsOfTheScreen) {
   Sicil sicil = Kart("A1");
   sicil.ucret = Tutar(1500.0);
   sicil.meslekkod = "2411.01";
-  sicil.ciktar = Tarih(2008, 1, 31);
+  sicil.ciktar = Bugun.Ekle(30);
   sicil.cikiskodu = 3;
   Yaz(sicil);
   Kimlik kimlik;
@@ -186,6 +210,11 @@ TEST_F(IstenCikis, ChecksInTheirOrder) {
   Yaz(Kart("A1"));
   f.kod = "a1";
   beklenen("Çıkış Sebebi: en çok 20 harf olabilir");
+  f.cikissebebi = "x";
+  f.girtar = Dun;  // for the paper; the card says 01.01.2005
+  f.ciktar = Tarih(2004, 12, 31);
+  f.girtar = Tarih(2004, 1, 1);
+  beklenen("Çıkış Tarihi,Giriş Tarihinden Büyük veya Eşit Olmalı\nPersonel kartındaki giriş tarihi: 01.01.2005");
   EXPECT_EQ(Hepsi<Sicil>(), std::vector{Kart("A1")});
 }
 

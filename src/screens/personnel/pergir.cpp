@@ -110,8 +110,9 @@ std::optional<GirisFormu> pergir::Okunan() {
 // The person stays on the screen, to be printed; the code of the next one may be typed over his.
 void pergir::Kaydet() {
   if (!EkrandakiMi()) return;
-  const auto form = Okunan();
+  auto form = Okunan();
   if (!form) return;
+  if (const std::string soru = YenidenGirisSorusu(*form); !soru.empty()) form->cikisSilinir = Bildirimi().Soru(soru);
   const auto kayitlar = GirisHazirla(Oturumu(), *form, parametreler_.yasal.oranlar.AsgariUcret);
   if (!Oldu(kayitlar) || !KayitlariYaz(*kayitlar)) return;
   if (const auto simdiki = GirisBul(Oturumu(), form->sicil.kod, Tarih::Bugun())) KayitlariGoster(*simdiki);
