@@ -4,6 +4,7 @@
 #include "cli/belgecikti.h"
 #include "core/sayi.h"
 #include "documents/belgeler.h"
+#include "documents/belgeyap.h"
 #include "payroll/hazirlik/kosullar.h"
 
 namespace belvani::cli {
@@ -96,14 +97,18 @@ Json KayitlarJson(const std::vector<Brd>& kayitlar) {
 
 void BelgeVer(Genel& genel, const BelgeIsi& is) {
   const auto oturum = genel.SirketAc(is.kod);
-  auto yasal = YasalParametreleriAl(oturum->DataPath);
+  const KuruluMevzuat mevzuat = KuruluMevzuatOku(oturum->DataPath);
+  auto yasal = YasalParametreleriAl(mevzuat);
   const BelgeKaynagi kaynak{.motor = oturum->depo.db.IcMotor(), .yasal = Degeri(yasal), .firma = oturum->firma};
   const auto secim = is.belge.secim();
   if (is.belge.ayar.oku != nullptr) is.belge.ayar.oku(oturum->FirmaDizini, *secim);
   for (const auto& [alan, deger] : is.verilenler) alan->yaz(secim->Kayit(alan->kayitTuru), deger);
   if (is.belge.kayitlar != nullptr && is.cikti.bicim == "json")
     return Yaz(KayitlarJson(is.belge.kayitlar(kaynak, *secim)).dump(2) + "\n", is.cikti.dosya);
-  const auto belge = secim->BelgeYap(kaynak);
+  const auto belge = BelgeYap(is.belge, *secim, kaynak);
+  const auto bak = [&](MevzuatAyi ay) { return MevzuataBak(mevzuat, ay); };
+  if (const std::string soz = BelgeMevzuatSozu(is.belge, *secim, kaynak.motor, bak); !soz.empty())
+    genel.bildirim.Uyari("Uyarı: " + soz);
   if (belge->Kayitsiz() && !is.belge.kayitYok.empty()) genel.bildirim.Bilgi(is.belge.kayitYok);
   BelgeYaz(*belge, is.cikti);
 }

@@ -85,6 +85,7 @@ Rapor AgiListesi(const std::vector<AgiKisisi>& kisiler, const AgiBaslik& baslik)
   rapor.baslik = "ASGARİ GEÇİM İNDİRİMİ BORDROSU";
   rapor.ekranBasligi = "Asgari Geçim İndirimi Bordrosu";
   rapor.toplamEtiketi = "T O P L A M";
+  rapor.sayfaToplamEtiketi = "SAYFA TOPLAMI";
   rapor.ustSatirlar = {
       {.sol = baslik.unvan, .orta = std::to_string(baslik.yil) + " YILI", .sirket = true},
       {.sol = "Asgari Ücretin Yıllık Brüt Tutarı : " + TutarMetni(12 * baslik.agiTaban, rapor.paraOndaligi),

@@ -24,6 +24,8 @@ constexpr SayfadaYaprak Sayfada[] = {SayfadaYaprak::Bir, SayfadaYaprak::Iki, Say
 
 constexpr std::string_view IzinSozcukleri[] = {"icmal", "personel", "donem"};
 
+constexpr MevzuatRakami AgiDamgasi{.ad = "A.G.İ. damga vergisi", .agiOdenmisse = true};
+
 // Stored as an order of the rows, chosen as a check box.
 Alan SskSirasiAlani() {
   return Alan(
@@ -119,6 +121,7 @@ const std::vector<BelgeTanimi>& Tablo() {
        .alanlar = {{DonemAlanlari("Bordro Yılı", "Bordro Ayı"), AralikAlanlari(true, "Sicil No"), DefterBicimi()},
                    {DefterKolonlari()}},
        .secim = Secenekleri(DefterBelgesi),
+       .mevzuat = AgiDamgasi,
        .ayar = {.oku = DefterAyariniOku, .yaz = DefterAyariniYaz},
        .kayitlar = DefterKayitlari},
       {.ekran = "setbrd",
@@ -129,7 +132,8 @@ const std::vector<BelgeTanimi>& Tablo() {
        .simge = "yazici",
        .komutYardimi = "Ayın özel bordrosunu verir: günlük brüt, yemek, yol",
        .alanlar = {{DonemAlanlari("Yıl", "Ay"), AralikAlanlari(false, "Personel Kodu"), OzelBordroBicimi()}},
-       .secim = Secenekleri(OzelBordroBelgesi)},
+       .secim = Secenekleri(OzelBordroBelgesi),
+       .mevzuat = AgiDamgasi},
       {.ekran = "brdzarf",
        .komut = "pusula",
        .menu = "Bordro",
@@ -138,7 +142,8 @@ const std::vector<BelgeTanimi>& Tablo() {
        .simge = "kimlik",
        .komutYardimi = "Ayın ücret pusulalarını verir",
        .alanlar = {{DonemAlanlari("Bordro Yılı", "Bordro Ayı"), AralikAlanlari(true, "Sicil No"), PusulaBicimi()}},
-       .secim = Secenekleri(UcretPusulalari)},
+       .secim = Secenekleri(UcretPusulalari),
+       .mevzuat = AgiDamgasi},
       {.ekran = "brdicmal",
        .komut = "icmal",
        .menu = "Bordro",
@@ -147,7 +152,8 @@ const std::vector<BelgeTanimi>& Tablo() {
        .simge = "tablo",
        .komutYardimi = "Ayın bordro özetini verir",
        .alanlar = {{DonemAlanlari("Yıl", "Ay")}},
-       .secim = Secenekleri(IcmalBelgesi)},
+       .secim = Secenekleri(IcmalBelgesi),
+       .mevzuat = {.ad = "asgari ücretli sayısı ve grafikteki A.G.İ. damga vergisi"}},
       {.ekran = "agibrd",
        .komut = "agi",
        .menu = "Bordro",
@@ -156,7 +162,8 @@ const std::vector<BelgeTanimi>& Tablo() {
        .simge = "oran",
        .komutYardimi = "Yılın başından aya kadar asgari geçim indirimi bordrosunu verir",
        .alanlar = {{DonemAlanlari("Bordro Yılı", "Bordro Ayı"), AralikAlanlari(true, "Sicil No")}},
-       .secim = Secenekleri(AgiBelgesi)},
+       .secim = Secenekleri(AgiBelgesi),
+       .mevzuat = {.ad = "Asgari Ücretin Yıllık Brüt Tutarı"}},
       {.ekran = "brdui",
        .komut = "izin",
        .menu = "Bordro",

@@ -89,6 +89,12 @@ struct BelgeAyari {
   Durum (*yaz)(const VeriYolu& sirket, BelgeSecimi& secim) = nullptr;  // writes nothing when nothing changed
 };
 
+// A figure of a paper that is not in its records but comes from the installed law.
+struct MevzuatRakami {
+  std::string_view ad = {};   // in the words of the paper; "": there is none
+  bool agiOdenmisse = false;  // only where the allowance was paid in the month
+};
+
 struct BelgeTanimi {
   std::string_view ekran;           // the screen's word; also its page of the guide
   std::string_view komut;           // of the command line
@@ -99,8 +105,9 @@ struct BelgeTanimi {
   std::string_view komutYardimi;    // what the command does
   AlanSutunlari alanlar;
   SecimYapan secim;
+  MevzuatRakami mevzuat = {};
   BelgeAyari ayar = {};
-  // What the command line says of a paper that is made of no records; "" keeps it silent.
+  // What screen and command line say of a paper that is made of no records; "" keeps them silent.
   std::string_view kayitYok = "Bu dönemde bordro kaydı yok";
   // For a paper whose JSON is not its table but the pay records with all their fields.
   std::vector<Brd> (*kayitlar)(const BelgeKaynagi& kaynak, BelgeSecimi& secim) = nullptr;

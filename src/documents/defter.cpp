@@ -65,6 +65,48 @@ std::vector<BlokSatiri> Icmal(const std::vector<BordroSatiri>& satirlar) {
   };
 }
 
+struct NetTerimi {
+  const char* kolon;  // by its head
+  const char* yon;
+  Tutar (*deger)(const TuretilmisSatir&);
+};
+constexpr const char* Eklenen = "Net Ödenen'e eklenen ";
+constexpr const char* Dusulen = "Net Ödenen'den düşülen ";
+constexpr const char* KesintilerKolonu = "Kesintiler";
+
+// "Net Ödenen" = "Toplam Brüt" - "Kesintiler" + "A.G.İ.", and of what "Kesintiler" are made.
+const NetTerimi netTerimleri[] = {
+    {"Toplam Brüt", Eklenen, [](auto& s) { return s.brd.brutkaz; }},
+    {"A.G.İ.", Eklenen, [](auto& s) { return s.brd.ogv; }},
+};
+const NetTerimi kesintiler[] = {
+    {"SSK Prim", Dusulen, [](auto& s) { return s.brd.sskkesinti; }},
+    {"İşsizlik", Dusulen, [](auto& s) { return s.brd.issizisci; }},
+    {"GV Tutar", Dusulen, [](auto& s) { return s.brd.gvtutar; }},
+    {"D.Vergisi", Dusulen, [](auto& s) { return s.damga; }},
+    {"Sendika", Dusulen, [](auto& s) { return s.brd.sendika; }},
+    {"Borç Kes.", Dusulen, [](auto& s) { return s.brd.borckes; }},
+};
+
+// What of the net stands in columns that are switched off: without it the rows would not add up before their reader.
+std::vector<BlokSatiri> NetinGizlileri(const std::vector<TuretilmisSatir>& satirlar, const Rapor& rapor) {
+  const auto acik = [&](std::string_view baslik) {
+    return std::ranges::find(rapor.Kolonlar(), baslik, &RaporKolonu::baslik) != rapor.Kolonlar().end();
+  };
+  std::vector<BlokSatiri> blok;
+  const auto ekle = [&](const NetTerimi& terim) {
+    if (acik(terim.kolon)) return;
+    Tutar toplam;
+    for (const TuretilmisSatir& satir : satirlar) toplam += terim.deger(satir);
+    if (toplam != Tutar()) blok.push_back({std::string(terim.yon) + terim.kolon + " :", toplam});
+  };
+  if (!acik("Net Ödenen")) return blok;
+  for (const NetTerimi& terim : netTerimleri) ekle(terim);
+  if (!acik(KesintilerKolonu))
+    for (const NetTerimi& terim : kesintiler) ekle(terim);
+  return blok;
+}
+
 }  // namespace
 
 DefterAnahtarlari DefterAnahtarlariOku(std::string_view metin) {
@@ -88,12 +130,13 @@ Rapor DefterRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBaslik
   const auto yeniBordro = [&](const TuretilmisSatir& onceki, const TuretilmisSatir& satir) {
     return secenek.herBordroYeni && onceki.brd.no != satir.brd.no;
   };
-  Rapor rapor =
-      RaporYap(kolonlar.Secilen(secenek.kolonlar), TuretilmisSatirlar(satirlar, baslik), baslik.paraonda, yeniBordro);
+  const auto turetilen = TuretilmisSatirlar(satirlar, baslik);
+  Rapor rapor = RaporYap(kolonlar.Secilen(secenek.kolonlar), turetilen, baslik.paraonda, yeniBordro);
   rapor.baslik = "HİZMET ERBABI ÜCRET BORDROSU";
   rapor.ekranBasligi = "Ücret Bordrosu";
   rapor.ustSatirlar = UstSatirlar(baslik);
   if (secenek.icmal && !satirlar.empty()) rapor.sonBlok = Icmal(satirlar);
+  std::ranges::move(NetinGizlileri(turetilen, rapor), std::back_inserter(rapor.sonBlok));
   return rapor;
 }
 

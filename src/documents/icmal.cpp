@@ -158,15 +158,19 @@ std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, int ay, Ilerl
   return girdiler;
 }
 
+IcmalKosulu GrafikKosulu(const BelgeKaynagi& kaynak) {
+  return {kaynak.yasal.oranlar.DamgaOran, Yuvarlayici(kaynak.firma.paraonda)};
+}
+
 std::unique_ptr<Belge> IcmalBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim) {
   const auto girdiler = IcmalGirdileriOku(kaynak.motor, secim.yil, secim.ay, kaynak.ilerleme);
   const Icmal icmal = IcmalHesapla(girdiler, kaynak.yasal.oranlar.AsgariUcret, Yuvarlayici(kaynak.firma.paraonda));
   Rapor rapor = IcmalRaporu(icmal, BaslikYap(kaynak, secim));
   GrafikDuzeni grafik{.yon = KagitYonu::Dikey, .punto = 10};
   // The year of the chart is read when it is drawn: the screen shows the figures alone.
-  grafik.ek = EkCizim{IcmalGrafigiBoyu,
-                      [&motor = kaynak.motor, yil = secim.yil, ay = secim.ay](Tuval& tuval, const Dikdortgen& yer) {
-                        IcmalGrafigi(IcmalSerisiOku(motor, yil, ay), tuval, yer);
+  grafik.ek = EkCizim{IcmalGrafigiBoyu, [&motor = kaynak.motor, yil = secim.yil, ay = secim.ay,
+                                         kosul = GrafikKosulu(kaynak)](Tuval& tuval, const Dikdortgen& yer) {
+                        IcmalGrafigi(IcmalSerisiOku(motor, yil, ay, kosul), tuval, yer);
                       }};
   const YzcAyarlari ayar = BaskiAyari(rapor.baslik, KagitYonu::Dikey);
   return std::make_unique<BordroOzeti>(std::move(rapor), ayar, std::move(grafik), girdiler.empty());

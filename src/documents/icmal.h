@@ -12,6 +12,7 @@
 #include "core/store/motor.h"
 #include "core/yuvarlama.h"
 #include "documents/defter.h"
+#include "documents/icmalserisi.h"
 #include "payroll/hesap/kayittoplami.h"
 
 namespace belvani {
@@ -39,6 +40,9 @@ struct Icmal {
 Icmal IcmalHesapla(std::span<const IcmalGirdisi> girdiler, Tutar asgariUcret, Yuvarlayici yuvarla);
 
 Rapor IcmalRaporu(const Icmal& icmal, const DefterBaslik& baslik);
+
+// The chart's, of that source.
+IcmalKosulu GrafikKosulu(const BelgeKaynagi& kaynak);
 
 // With the chart of the twelve months up to this one; `kaynak.motor` must outlive it. Throws MotorHatasi and
 // TutarTasmasi.

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "core/store/satirlar.h"
+#include "core/tables/indir.h"
 #include "core/tables/muaf.h"
 #include "documents/deftersorgu.h"
 #include "documents/listebelgesi.h"
@@ -101,7 +102,7 @@ Kolonlar<TuretilmisSatir> EkAlanlar(const PusulaBaslik& baslik) {
       Alan(
           "SSK Muafiyet", [](auto& s) { return s.brd.muaftutar; }, Toplanir),
       Alan(
-          "Kümüle G.V.Matrahı", [](auto& s) { return s.brd.devgvmatrah; }, Toplanir),
+          "Kümüle G.V.Matrahı", [](auto& s) { return s.brd.devgvmatrah + s.brd.gvmatrah; }, Toplanir),
   };
   for (std::size_t i = 0; i < YardimKolonlari.size(); ++i)
     alanlar.Ekle(Alan(
@@ -116,11 +117,11 @@ Kolonlar<TuretilmisSatir> EkAlanlar(const PusulaBaslik& baslik) {
                        Alan(
                            "Sakatlık İndirimi", [](auto& s) { return s.brd.sakindir; }, Toplanir),
                        Alan(
-                           "İndirim 1", [](auto& s) { return s.brd.indirim1; }, Toplanir),
+                           baslik.indirimAdlari[0].c_str(), [](auto& s) { return s.brd.indirim1; }, Toplanir),
                        Alan(
-                           "İndirim 2", [](auto& s) { return s.brd.indirim2; }, Toplanir),
+                           baslik.indirimAdlari[1].c_str(), [](auto& s) { return s.brd.indirim2; }, Toplanir),
                        Alan(
-                           "İndirim 3", [](auto& s) { return s.brd.indirim3; }, Toplanir),
+                           baslik.indirimAdlari[2].c_str(), [](auto& s) { return s.brd.indirim3; }, Toplanir),
                    };
 }
 
@@ -198,6 +199,12 @@ std::array<std::string, YardimSayisi> YardimAdlariOku(Motor& motor) {
   return adlar;
 }
 
+void IndirimAdlariniOku(Motor& motor, PusulaBaslik& baslik) {
+  for (const auto& satir : KayitlariOku<Indir>(motor))
+    if (satir.no >= 1 && satir.no <= baslik.indirimAdlari.size() && !satir.adi.empty())
+      baslik.indirimAdlari[satir.no - 1u] = satir.adi;
+}
+
 YaprakBelgesi PusulaBelgesi(std::vector<BordroSatiri> satirlar, const PusulaBaslik& baslik) {
   return Pusulalar(std::make_shared<const std::vector<BordroSatiri>>(std::move(satirlar)), baslik);
 }
@@ -214,6 +221,7 @@ Rapor PusulaRaporu(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik
 std::unique_ptr<Belge> UcretPusulalari(const BelgeKaynagi& kaynak, const DefterSecim& secim,
                                        const PusulaSecenegi& secenek) {
   PusulaBaslik baslik{.defter = BaslikYap(kaynak, secim), .yardimAdlari = YardimAdlariOku(kaynak.motor)};
+  IndirimAdlariniOku(kaynak.motor, baslik);
   const auto satirlar = std::make_shared<const std::vector<BordroSatiri>>(
       DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::Kisi), kaynak.ilerleme));
   YaprakBelgesi belge = Pusulalar(satirlar, baslik);

@@ -16,10 +16,13 @@ namespace belvani {
 struct PusulaBaslik {
   DefterBaslik defter;
   std::array<std::string, YardimSayisi> yardimAdlari;  // of the company's allowance lines
+  std::array<std::string, 3> indirimAdlari{"İndirim 1", "İndirim 2", "İndirim 3"};
 };
 
 // Names of the company's allowance lines; a line that it has not named has its built-in name. Throws MotorHatasi.
 std::array<std::string, YardimSayisi> YardimAdlariOku(Motor& motor);
+// The same of its deductions from the tax base.
+void IndirimAdlariniOku(Motor& motor, PusulaBaslik& baslik);
 
 // The records as they are to be printed: in the order DefterSirasi::Kisi.
 YaprakBelgesi PusulaBelgesi(std::vector<BordroSatiri> satirlar, const PusulaBaslik& baslik);

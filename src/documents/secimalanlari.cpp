@@ -50,7 +50,7 @@ Alan YilAlani(const char* etiket, const char* komutYardimi) {
 AlanGrubu DonemAlanlari(const char* yilEtiketi, const char* ayEtiketi) {
   return {"Dönem",
           {YilAlani(yilEtiketi),
-           {Uye("ay", &DefterSecim::ay),
+           {SecimAyi,
             ayEtiketi,
             {.liste = AyAdlari, .listeTabani = 1, .komut = "--ay", .komutYardimi = "bordro ayı, 1-12"}}},
           2};

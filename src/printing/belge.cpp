@@ -69,9 +69,15 @@ void Belge::Ayarla(const YzcAyarlari& ayar) {
   AyarDegisti();
 }
 
+std::string Belge::DosyaBasligi() const {
+  const std::string baslik = Baslik().empty() ? ayar_.YzcBaslik : Baslik();
+  return donem_.empty() ? baslik : baslik + " " + donem_;
+}
+
 RaporBelgesi::RaporBelgesi(Rapor rapor, YzcAyarlari ilk, GrafikDuzeni grafik, SayfaDuzeni sayfa, std::string unvan)
     : Belge(std::move(ilk)),
-      tablo_(std::make_shared<const Rapor>(std::move(rapor))),
+      ilk_(std::make_shared<const Rapor>(std::move(rapor))),
+      tablo_(ilk_),
       kagit_(tablo_),
       grafik_(std::move(grafik)),
       sayfa_(sayfa),
@@ -91,6 +97,11 @@ void RaporBelgesi::AyarDegisti() {
   kagit_ = std::make_shared<Rapor>(BasligiAyarla(*tablo_, Ayar(), unvan_, Tarih::Bugun()));
   grafik_.yon = Ayar().YzcYon;
   sayfa_.satirSayisi = Ayar().YzcSatir;
+}
+
+void RaporBelgesi::Sirala(std::span<const int> sira) {
+  tablo_ = std::make_shared<const Rapor>(ilk_->Sirali(sira));
+  kagit_ = tablo_;
 }
 
 std::unique_ptr<CizilenBelge> RaporBelgesi::CizimYap(Ilerleme* ilerleme) const {

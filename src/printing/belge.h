@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 
 #include "core/sonuc.h"
@@ -33,6 +34,9 @@ class Belge {
   virtual YzcDestegi Destek() const { return {}; }
 
   virtual std::string Baslik() const = 0;
+  // Its title, also where the settings keep it off the paper, and what it is of ("2009-07"): names its files.
+  std::string DosyaBasligi() const;
+  void Donem(std::string donem) { donem_ = std::move(donem); }
   virtual bool Bos() const = 0;                    // nothing to print
   virtual bool Kayitsiz() const { return Bos(); }  // made of no records; it may have lines to print all the same
   // The forms. Large ones take their time: `ilerleme` shows it, and stopped it throws Vazgecilmis.
@@ -48,6 +52,8 @@ class Belge {
   virtual std::string MetinUyarisi() const { return {}; }
   // For the screen; null for a paper that is no table.
   virtual std::shared_ptr<const Rapor> Tablo() const { return nullptr; }
+  // Puts the rows of that table into another order, for all forms of the paper; `sira` names each row once.
+  virtual void Sirala(std::span<const int>) {}
   // What it says as rows for other programs (CSV, JSON); null when it is a form.
   virtual std::shared_ptr<const Rapor> Veri() const { return Tablo(); }
 
@@ -58,6 +64,7 @@ class Belge {
   virtual void AyarDegisti() {}
 
   YzcAyarlari ayar_;
+  std::string donem_;
 };
 
 // A list.
@@ -69,9 +76,11 @@ class RaporBelgesi : public Belge {
 
   YzcDestegi Destek() const override;
   std::string Baslik() const override { return kagit_->baslik; }
-  bool Bos() const override { return tablo_->Satirlar().empty(); }
+  bool Bos() const override { return tablo_->Kolonlar().empty(); }  // without rows it still has its heads
+  bool Kayitsiz() const override { return tablo_->Satirlar().empty(); }
   std::string MetinUyarisi() const override;
   std::shared_ptr<const Rapor> Tablo() const override { return tablo_; }
+  void Sirala(std::span<const int> sira) override;
 
  private:
   std::unique_ptr<CizilenBelge> CizimYap(Ilerleme* ilerleme) const override;
@@ -79,7 +88,8 @@ class RaporBelgesi : public Belge {
   Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const override;
   void AyarDegisti() override;
 
-  std::shared_ptr<const Rapor> tablo_;
+  std::shared_ptr<const Rapor> ilk_;    // in the order that it was made in
+  std::shared_ptr<const Rapor> tablo_;  // as it is shown
   std::shared_ptr<const Rapor> kagit_;  // with the head of the settings
   GrafikDuzeni grafik_;
   SayfaDuzeni sayfa_;

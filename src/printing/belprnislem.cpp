@@ -9,7 +9,7 @@
 namespace belvani {
 namespace {
 
-constexpr const char* Kullanim = "Kullanım: belprn DOSYA [--yazici AD] [--sil]";
+constexpr const char* Kullanim = "Kullanım: belprn DOSYA [--yazici AD] [--ad AD] [--sil]";
 
 // Through a child that ends at once, so that nobody has to wait for the program itself.
 bool AyriCalistir(std::vector<std::string> komut) {
@@ -32,13 +32,15 @@ bool AyriCalistir(std::vector<std::string> komut) {
 }  // namespace
 
 Durum Belprn(const std::vector<std::string>& argumanlar, Kuyruk& kuyruk) {
-  std::string dosya, yazici;
+  std::string dosya, yazici, ad;
   bool sil = false;
   for (std::size_t i = 0; i < argumanlar.size(); ++i) {
     if (argumanlar[i] == "--sil")
       sil = true;
     else if (argumanlar[i] == "--yazici" && i + 1 < argumanlar.size())
       yazici = argumanlar[++i];
+    else if (argumanlar[i] == "--ad" && i + 1 < argumanlar.size())
+      ad = argumanlar[++i];
     else if (dosya.empty() && !argumanlar[i].starts_with("--"))
       dosya = argumanlar[i];
     else
@@ -49,20 +51,23 @@ Durum Belprn(const std::vector<std::string>& argumanlar, Kuyruk& kuyruk) {
   if (!icerik) return Kusur{dosya + ": dosya okunamadı"};
   if (icerik->empty()) return Kusur{dosya + ": dosya boş"};
   dosprint ham(kuyruk);
-  if (const Durum acildi = ham.Ac(yazici, dosya.substr(dosya.rfind('/') + 1)); !acildi) return acildi;
+  if (ad.empty()) ad = dosya.substr(dosya.rfind('/') + 1);
+  if (const Durum acildi = ham.Ac(yazici, ad); !acildi) return acildi;
   ham.Yaz(*icerik);
   if (const Durum gitti = ham.Kapat(); !gitti) return gitti;
   if (sil) ::unlink(dosya.c_str());
   return Tamam();
 }
 
-Durum BelprnBaslat(const std::string& programDizini, const std::string& dosya, const std::string& yazici,
-                   Kuyruk& kuyruk) {
+Durum BelprnBaslat(const std::string& programDizini, const BelprnIsi& is, Kuyruk& kuyruk) {
   const std::string program = DizinSonu(programDizini) + "belprn";
   if (::access(program.c_str(), X_OK) != 0) return Kusur{program + ": program bulunamadı"};
-  const auto secilen = YaziciSec(kuyruk, yazici);
+  const auto secilen = YaziciSec(kuyruk, is.yazici);
   if (!secilen) return secilen.Kusuru();
-  if (!AyriCalistir({program, dosya, "--yazici", secilen->ad, "--sil"})) return Kusur{program + ": başlatılamadı"};
+  std::vector<std::string> komut{program, is.dosya, "--yazici", secilen->ad};
+  if (!is.ad.empty()) komut.insert(komut.end(), {"--ad", is.ad});
+  komut.push_back("--sil");
+  if (!AyriCalistir(std::move(komut))) return Kusur{program + ": başlatılamadı"};
   return Tamam();
 }
 

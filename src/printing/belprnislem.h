@@ -1,7 +1,8 @@
 // belprn: a small program that sends a file to a printer byte by byte, past all drivers; so a text print never holds
 // the program that made it.
 //
-//   belprn DOSYA [--yazici AD] [--sil]     --sil: the file goes once it has been handed over
+//   belprn DOSYA [--yazici AD] [--ad AD] [--sil]     --ad: the name of the job, else that of the file
+//                                                    --sil: the file goes once it has been handed over
 #pragma once
 
 #include <string>
@@ -13,9 +14,14 @@ namespace belvani {
 
 Durum Belprn(const std::vector<std::string>& argumanlar, Kuyruk& kuyruk);
 
+struct BelprnIsi {
+  std::string dosya;
+  std::string yazici = {};
+  std::string ad = {};
+};
+
 // Starts the program of that directory with a finished file and does not wait. A missing printer is told at once. The
 // file is deleted when it has been handed over, and stays when it has not.
-Durum BelprnBaslat(const std::string& programDizini, const std::string& dosya, const std::string& yazici,
-                   Kuyruk& kuyruk);
+Durum BelprnBaslat(const std::string& programDizini, const BelprnIsi& is, Kuyruk& kuyruk);
 
 }  // namespace belvani

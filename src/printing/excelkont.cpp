@@ -113,7 +113,12 @@ Sonuc<std::string> excelkont::YeniKitap() const {
   for (const auto& [yer, hucre] : hucreler_)
     if (hucre.yazi == ExcelYazisi::Normal)
       enler[yer.second] = std::max(enler[yer.second], HucreHarfi(hucre.deger, ondalik));
-  for (const auto& [kolon, harf] : enler) kitap.KolonEni(kolon - 1, XlsxKolonEni(harf));
+  double toplamEn = 0;
+  for (const auto& [kolon, harf] : enler) {
+    kitap.KolonEni(kolon - 1, XlsxKolonEni(harf));
+    toplamEn += XlsxKolonEni(harf);
+  }
+  kitap.A4Yazdir(XlsxYonu(toplamEn));
   for (const auto& [yer, hucre] : hucreler_)
     kitap.Yaz(yer.first - 1, yer.second - 1, hucre.deger,
               kitap.StilEkle({.sayiBicimi = Bicim(hucre.deger, ondalik), .koyu = hucre.yazi == ExcelYazisi::Koyu}));

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "core/asama.h"
@@ -14,6 +15,9 @@ constexpr double KolonBoslugu = 0.7;   // between columns, of the size of letter
 constexpr double EnCokEkBosluk = 4;    // millimetres more between columns where the sheet has room
 constexpr double OrtalamaHarf = 0.62;  // width of a letter, of its size
 constexpr double DarHucre = 0.6;       // how narrow a single long text may become
+constexpr double ImzaEni = 20;         // millimetres of a column for the pen, however full the sheet
+constexpr double RahatImzaEni = 32;    // and where there is room
+constexpr double ImzaBoyu = 7;         // of a row that is signed
 
 // Widths below are those of letters one point high.
 YaziBicimi BirPunto(const GrafikDuzeni& duzen, YaziKalinligi kalinlik) {
@@ -30,15 +34,25 @@ double SayiEni(const Rapor& rapor, std::size_t k, int gruplama, const YaziBicimi
   return MetinEni(std::string_view(metin).substr(metin.size() - harf), yazi);
 }
 
-// The label of the sums, which stands in the first text column.
-std::string_view Etiketi(const Rapor& rapor, std::size_t k) {
+// The labels of the sums, which stand in the first text column.
+double EtiketEni(const Rapor& rapor, std::size_t k, const YaziBicimi& yazi) {
   const auto& kolonlar = rapor.Kolonlar();
   const auto ilk = std::find_if(kolonlar.begin(), kolonlar.end(), [](auto& o) { return o.tur == KolonTuru::Metin; });
-  return ilk == kolonlar.begin() + std::ptrdiff_t(k) ? std::string_view(rapor.toplamEtiketi) : std::string_view();
+  if (ilk != kolonlar.begin() + std::ptrdiff_t(k)) return 0;
+  return std::max(MetinEni(rapor.toplamEtiketi, yazi), MetinEni(rapor.sayfaToplamEtiketi, yazi));
+}
+
+bool Imzalanir(const RaporKolonu& kolon) {
+  return kolon.tur == KolonTuru::Bos;
+}
+
+// Millimetres that the letters cannot have.
+double ImzaPayi(const Rapor& rapor) {
+  return ImzaEni * double(std::ranges::count_if(rapor.Kolonlar(), Imzalanir));
 }
 
 double MetinKolonuEni(const Rapor& rapor, std::size_t k, const YaziBicimi& yazi) {
-  double enUzun = MetinEni(Etiketi(rapor, k), yazi);
+  double enUzun = EtiketEni(rapor, k, yazi);
   for (const auto& satir : rapor.Satirlar())
     if (const auto* metin = std::get_if<std::string>(&satir.hucreler[k]))
       enUzun = std::max(enUzun, MetinEni(*metin, yazi));
@@ -69,7 +83,7 @@ double IcerikEni(const Rapor& rapor, std::size_t k, int gruplama, const YaziBici
     case KolonTuru::Ay:
       return TarihEni(kolon.tur, yazi);
     case KolonTuru::Bos:
-      return kolon.en * OrtalamaHarf * PuntoMm;
+      break;
   }
   return 0;
 }
@@ -102,7 +116,8 @@ std::vector<double> Enler(const Rapor& rapor, const GrafikDuzeni& duzen, const K
   for (std::size_t k = 0; k < rapor.Kolonlar().size(); ++k) {
     asama.Adim();
     double en = IcerikEni(rapor, k, kagit.gruplama, yazi);
-    for (const auto& baslik : kagit.basliklar[k]) en = std::max(en, MetinEni(baslik, kalin));
+    if (!Imzalanir(rapor.Kolonlar()[k]))
+      for (const auto& baslik : kagit.basliklar[k]) en = std::max(en, MetinEni(baslik, kalin));
     enler.push_back(en);
   }
   return enler;
@@ -118,20 +133,26 @@ double KullanilirEn(KagitYonu yon) {
   return A4(yon).en - 2 * KenarMm;
 }
 
+// What is to be set: the width of its letters, and the millimetres that are kept for the pen.
+struct TabloOlcusu {
+  double en = 0;
+  double imza = 0;
+};
+
 // The size at which a table of this width fills the sheet, narrowing left out.
-double DoluPunto(KagitYonu yon, double tabloEni) {
-  return tabloEni > 0 ? KullanilirEn(yon) / tabloEni : std::numeric_limits<double>::max();
+double DoluPunto(KagitYonu yon, const TabloOlcusu& tablo) {
+  return tablo.en > 0 ? (KullanilirEn(yon) - tablo.imza) / tablo.en : std::numeric_limits<double>::max();
 }
 
-KagitYonu YonSec(const GrafikDuzeni& duzen, double tabloEni) {
+KagitYonu YonSec(const GrafikDuzeni& duzen, const TabloOlcusu& tablo) {
   if (duzen.yon) return *duzen.yon;
-  const bool sigar = DoluPunto(KagitYonu::Dikey, tabloEni) >= std::min(duzen.punto, RahatPunto);
+  const bool sigar = DoluPunto(KagitYonu::Dikey, tablo) >= std::min(duzen.punto, RahatPunto);
   return sigar ? KagitYonu::Dikey : KagitYonu::Yatay;
 }
 
 // Size and narrowness of the letters.
-void YaziKur(GrafikBicimi& bicim, const GrafikDuzeni& duzen, double tabloEni) {
-  const double dolu = DoluPunto(bicim.yon, tabloEni);
+void YaziKur(GrafikBicimi& bicim, const GrafikDuzeni& duzen, const TabloOlcusu& tablo) {
+  const double dolu = DoluPunto(bicim.yon, tablo);
   bicim.yazi = {.punto = std::min(duzen.punto, dolu), .aile = duzen.aile};
   if (dolu >= EnKucukPunto || dolu >= duzen.punto) return;
   bicim.yazi.genislik = std::max(EnDarYazi, dolu / EnKucukPunto);
@@ -139,15 +160,20 @@ void YaziKur(GrafikBicimi& bicim, const GrafikDuzeni& duzen, double tabloEni) {
   bicim.okunur = bicim.yazi.punto >= EnKucukPunto * 0.999;
 }
 
-void KolonlariYerlestir(GrafikBicimi& bicim, const std::vector<double>& enler) {
+// Room that is left goes to the pen first, then between the columns.
+void KolonlariYerlestir(GrafikBicimi& bicim, const Rapor& rapor, const std::vector<double>& enler) {
   const double olcek = bicim.yazi.punto * bicim.yazi.genislik;
   const double aralik = std::max(1.0, double(enler.size()) - 1);
-  const double bos = KullanilirEn(bicim.yon) - TabloEni(enler) * olcek;
-  const double bosluk = KolonBoslugu * PuntoMm * olcek + std::clamp(bos / aralik, 0.0, EnCokEkBosluk);
+  const double imza = ImzaPayi(rapor);
+  double bos = std::max(0.0, KullanilirEn(bicim.yon) - TabloEni(enler) * olcek - imza);
+  const double ekImza = imza > 0 ? std::min(bos * ImzaEni / imza, RahatImzaEni - ImzaEni) : 0;
+  bos -= ekImza * imza / ImzaEni;
+  const double bosluk = KolonBoslugu * PuntoMm * olcek + std::min(bos / aralik, EnCokEkBosluk);
   double x = 0;
-  for (const double en : enler) {
-    bicim.kolonlar.push_back({x, en * olcek});
-    bicim.en = x + en * olcek;
+  for (std::size_t k = 0; k < enler.size(); ++k) {
+    const double en = Imzalanir(rapor.Kolonlar()[k]) ? ImzaEni + ekImza : enler[k] * olcek;
+    bicim.kolonlar.push_back({x, en});
+    bicim.en = x + en;
     x = bicim.en + bosluk;
   }
 }
@@ -166,17 +192,20 @@ GrafikBicimi GrafikBicimle(const Rapor& rapor, const GrafikDuzeni& duzen, Ilerle
   bicim.kagit = Kagit(rapor, BinlikGruplama);
   auto enler = Enler(rapor, duzen, bicim.kagit, ilerleme);
   const KagitYonu genis = duzen.yon.value_or(KagitYonu::Yatay);
-  if (DoluPunto(genis, TabloEni(enler)) < std::min(duzen.punto, EnKucukPunto * EnDarYazi)) {
+  TabloOlcusu tablo{TabloEni(enler), ImzaPayi(rapor)};
+  if (DoluPunto(genis, tablo) < std::min(duzen.punto, EnKucukPunto * EnDarYazi)) {
     bicim.kagit.gruplama = 0;
     enler = Enler(rapor, duzen, bicim.kagit, ilerleme);
+    tablo.en = TabloEni(enler);
   }
-  bicim.yon = YonSec(duzen, TabloEni(enler));
-  YaziKur(bicim, duzen, TabloEni(enler));
-  KolonlariYerlestir(bicim, enler);
+  bicim.yon = YonSec(duzen, tablo);
+  YaziKur(bicim, duzen, tablo);
+  KolonlariYerlestir(bicim, rapor, enler);
   for (const auto& satir : rapor.ustSatirlar) bicim.en = std::max(bicim.en, UstSatirEni(satir, bicim.yazi));
   bicim.en = std::max(bicim.en, MetinEni(rapor.baslik, bicim.yazi) * 1.5);
   bicim.en = std::min(bicim.en, KullanilirEn(bicim.yon));
   bicim.satirBoyu = SatirBoyu(bicim.yazi) * SatirAraligi;
+  if (tablo.imza > 0) bicim.kagit.satirBoyu = int(std::ceil(ImzaBoyu / bicim.satirBoyu));
   bicim.satirSayisi = int((A4(bicim.yon).boy - 2 * KenarMm) / bicim.satirBoyu);
   return bicim;
 }

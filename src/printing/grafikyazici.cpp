@@ -33,9 +33,11 @@ class RaporKalemi {
   }
 
   void SayfaCiz(const Sayfa& sayfa) {
-    for (std::size_t i = 0; i < sayfa.satirlar.size(); ++i) {
-      y_ = KenarMm + double(i) * bicim_.satirBoyu;
-      SatirCiz(sayfa, sayfa.satirlar[i]);
+    y_ = KenarMm;
+    for (const SayfaSatiri& satir : sayfa.satirlar) {
+      boy_ = SatirBoyu(satir, bicim_.kagit) * bicim_.satirBoyu;
+      SatirCiz(sayfa, satir);
+      y_ += boy_;
     }
     if (duzen_.kolonArasi == KolonArasi::DikCizgi) DikCizgiler(sayfa);
   }
@@ -57,10 +59,11 @@ class RaporKalemi {
         return;
       case SayfaSatirTuru::Govde:
         return Hucreler(rapor_.Satirlar()[satir.sira].hucreler);
+      case SayfaSatirTuru::SayfaToplami:
+        return ToplamSatiri(rapor_.SayfaToplami(sayfa.ilkKayit, satir.sira));
       case SayfaSatirTuru::Nakil:
       case SayfaSatirTuru::Toplam:
-        tuval_.DoluKutu({KenarMm, y_, TabloEni(), bicim_.satirBoyu}, AcikGri);
-        return Hucreler(rapor_.AraToplam(satir.sira));
+        return ToplamSatiri(rapor_.AraToplam(satir.sira));
       case SayfaSatirTuru::Blok:
         return BlokCiz(rapor_.sonBlok[satir.sira]);
     }
@@ -69,7 +72,12 @@ class RaporKalemi {
   double TabloEni() const { return bicim_.kolonlar.empty() ? 0 : bicim_.kolonlar.back().x + bicim_.kolonlar.back().en; }
 
   // The box of a column, or of any other stretch of the line.
-  Dikdortgen Yer(double x, double en) const { return {KenarMm + x, y_, en, bicim_.satirBoyu}; }
+  Dikdortgen Yer(double x, double en) const { return {KenarMm + x, y_, en, boy_}; }
+
+  void ToplamSatiri(const std::vector<Hucre>& toplamlar) {
+    tuval_.DoluKutu({KenarMm, y_, TabloEni(), boy_}, AcikGri);
+    Hucreler(toplamlar);
+  }
 
   void BaslikCiz() {
     YaziBicimi yazi = kalin_;
@@ -122,13 +130,15 @@ class RaporKalemi {
     const auto cizgi = [&](std::size_t i) {
       return i < sayfa.satirlar.size() && sayfa.satirlar[i].tur == SayfaSatirTuru::Cizgi;
     };
-    const auto yer = [&](std::size_t i) { return KenarMm + double(i) * bicim_.satirBoyu; };
+    std::vector<double> yerler{KenarMm};
+    for (const SayfaSatiri& satir : sayfa.satirlar)
+      yerler.push_back(yerler.back() + SatirBoyu(satir, bicim_.kagit) * bicim_.satirBoyu);
     for (std::size_t i = 0; i < sayfa.satirlar.size(); ++i) {
       if (!tablo(i)) continue;
       const std::size_t bas = i;
       while (tablo(i) || (cizgi(i) && tablo(i + 1))) ++i;
       const double yarim = bicim_.satirBoyu / 2;
-      DikCiz(yer(bas) - (bas > 0 && cizgi(bas - 1) ? yarim : 0), yer(i) + (cizgi(i) ? yarim : 0));
+      DikCiz(yerler[bas] - (bas > 0 && cizgi(bas - 1) ? yarim : 0), yerler[i] + (cizgi(i) ? yarim : 0));
     }
   }
 
@@ -149,7 +159,8 @@ class RaporKalemi {
   std::size_t sayfaSayisi_;
   double etiketEni_ = 0;
   double degerEni_ = 0;
-  double y_ = 0;  // upper edge of the line being drawn
+  double y_ = 0;    // upper edge of the line being drawn
+  double boy_ = 0;  // its height
 };
 
 }  // namespace
@@ -166,7 +177,7 @@ int GrafikRapor::SayfaSayisi() const {
 // Where the last page has no room for it.
 bool GrafikRapor::EkKendiSayfasinda() const {
   if (!duzen_.ek || sayfalar_.empty()) return false;
-  const double dolu = double(sayfalar_.back().satirlar.size() + 1) * bicim_.satirBoyu;
+  const double dolu = (SayfaBoyu(sayfalar_.back(), bicim_.kagit) + 1) * bicim_.satirBoyu;
   return dolu + duzen_.ek->boy > A4(bicim_.yon).boy - 2 * KenarMm;
 }
 
@@ -177,7 +188,7 @@ void GrafikRapor::SayfaCiz(int no, Tuval& tuval) const {
   if (rapordan) {
     const Sayfa& sayfa = sayfalar_[std::size_t(no - 1)];
     RaporKalemi(rapor_, duzen_, bicim_, SayfaSayisi(), tuval).SayfaCiz(sayfa);
-    dolu = double(sayfa.satirlar.size() + 1) * bicim_.satirBoyu;
+    dolu = (SayfaBoyu(sayfa, bicim_.kagit) + 1) * bicim_.satirBoyu;
   }
   if (duzen_.ek && no == SayfaSayisi())
     duzen_.ek->ciz(tuval, {KenarMm, KenarMm + dolu, A4(bicim_.yon).en - 2 * KenarMm, duzen_.ek->boy});

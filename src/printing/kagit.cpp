@@ -9,6 +9,7 @@ namespace belvani {
 namespace {
 
 constexpr int SayfaNoHarfi = 5;  // " 1234"
+constexpr int ImzaHarfi = 20;    // that a signature takes
 
 int Harf(std::string_view metin) {
   return int(HarfSayisi(metin));
@@ -30,6 +31,27 @@ std::vector<int> Enler(const Rapor& rapor, int gruplama) {
 
 int TabloEni(const std::vector<int>& enler) {
   return std::accumulate(enler.begin(), enler.end(), 0) + std::max(0, int(enler.size()) - 1);
+}
+
+// What a column would take of a line that had the room.
+int IstenenEn(const Rapor& rapor, std::size_t k, int gruplama) {
+  const RaporKolonu& kolon = rapor.Kolonlar()[k];
+  if (kolon.tur == KolonTuru::Bos) return std::max(ImzaHarfi, kolon.en);
+  if (kolon.tur == KolonTuru::Metin) return std::max(rapor.GerekliEn(k, gruplama), Harf(kolon.baslik));
+  return 0;
+}
+
+// Letter by letter, so that no long text takes the room of all others.
+void BosYeriDagit(const Rapor& rapor, int gruplama, int bos, std::vector<int>& enler) {
+  for (bool verildi = true; bos > 0 && verildi;) {
+    verildi = false;
+    for (std::size_t k = 0; k < enler.size() && bos > 0; ++k) {
+      if (enler[k] >= IstenenEn(rapor, k, gruplama)) continue;
+      ++enler[k];
+      --bos;
+      verildi = true;
+    }
+  }
 }
 
 int UstSatirEni(const UstSatir& satir) {
@@ -59,6 +81,7 @@ KagitBicimi KagitBicimle(const Rapor& rapor, const SayfaDuzeni& duzen) {
     bicim.gruplama = 0;
     bicim.enler = Enler(rapor, bicim.gruplama);
   }
+  BosYeriDagit(rapor, bicim.gruplama, duzen.en - TabloEni(bicim.enler), bicim.enler);
   for (std::size_t k = 0; k < bicim.enler.size(); ++k) {
     bicim.basliklar.push_back(BaslikBol(rapor.Kolonlar()[k].baslik, bicim.enler[k]));
     if (!bicim.basliklar.back()[0].empty()) bicim.baslikBoyu = 2;

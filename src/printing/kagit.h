@@ -29,11 +29,14 @@ struct KagitBicimi {
   std::vector<IkiSatir> basliklar;  // of each column
   int baslikBoyu = 1;               // 1 or 2 lines of heads
   int en = 0;                       // letters of the whole line
+  int satirBoyu = 1;                // lines that a row takes
 };
 
 // A number is never cut: its column grows as its cells and sums need. Where the line then passes `duzen.en`, all
 // numbers drop their thousands marks; where even that does not do, the line is longer than asked, and `en` tells.
-// A text column is as wide as its longest text or its head, at most as declared.
+// A text column is as wide as its longest text or its head: at most as declared where the line is full, and a column
+// for the pen then has its declared width; what the line has free goes to both until nothing is cut and a name can be
+// signed.
 KagitBicimi KagitBicimle(const Rapor& rapor, const SayfaDuzeni& duzen);
 
 // A head in lines of at most `en` letters, broken at a blank where it can be. ("Toplam Brüt", 9) -> "Toplam", "Brüt".

@@ -66,6 +66,8 @@ class MetinYazici {
         return BosSatir();
       case SayfaSatirTuru::Govde:
         return Hucreler(rapor_.Satirlar()[sira].hucreler);
+      case SayfaSatirTuru::SayfaToplami:
+        return Hucreler(rapor_.SayfaToplami(sayfa.ilkKayit, sira));
       case SayfaSatirTuru::Nakil:
       case SayfaSatirTuru::Toplam:
         return Hucreler(rapor_.AraToplam(sira));

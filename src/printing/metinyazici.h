@@ -11,8 +11,9 @@ namespace belvani {
 
 // UTF-8, lines ending in "\n", pages parted by a form feed ("\f"); no blanks at the end of a line. Vertical lines and
 // rules are box-drawing letters, "│" (byte 179 of the printer's code page), "─", "┬", "┼", "┴"; with blanks between the
-// columns a rule is a row of "-" under each. Numbers stand right, texts left and cut to the width by letters. Control
-// characters in texts are left out, for they would command the printer. A report without rows gives no text.
+// columns a rule is a row of "-" under each. Numbers stand right, texts left, and cut by letters where the line is
+// full. Control characters in texts are left out, for they would command the printer. Without rows the heads stand
+// alone.
 std::string MetinRaporu(const Rapor& rapor, const SayfaDuzeni& duzen, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

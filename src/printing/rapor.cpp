@@ -105,11 +105,34 @@ std::vector<Hucre> Rapor::AraToplam(std::size_t satirSayisi) const {
   std::vector<Hucre> toplamlar(kolonlar_.size());
   for (std::size_t k = 0; k < kolonlar_.size(); ++k)
     if (kolonlar_[k].toplanir) toplamlar[k] = Hamdan(birikim_[satirSayisi * kolonlar_.size() + k], kolonlar_[k].tur);
-  if (const auto etiketKolonu =
-          std::find_if(kolonlar_.begin(), kolonlar_.end(), [](const auto& k) { return k.tur == KolonTuru::Metin; });
-      !toplamEtiketi.empty() && etiketKolonu != kolonlar_.end())
-    toplamlar[std::size_t(etiketKolonu - kolonlar_.begin())] = toplamEtiketi;
+  return Etiketli(std::move(toplamlar), toplamEtiketi);
+}
+
+std::vector<Hucre> Rapor::SayfaToplami(std::size_t ilk, std::size_t son) const {
+  assert(ilk <= son && son <= satirlar_.size());
+  std::vector<Hucre> toplamlar(kolonlar_.size());
+  for (std::size_t k = 0; k < kolonlar_.size(); ++k)
+    if (kolonlar_[k].toplanir)
+      toplamlar[k] =
+          Hamdan(birikim_[son * kolonlar_.size() + k] - birikim_[ilk * kolonlar_.size() + k], kolonlar_[k].tur);
+  return Etiketli(std::move(toplamlar), sayfaToplamEtiketi);
+}
+
+std::vector<Hucre> Rapor::Etiketli(std::vector<Hucre> toplamlar, const std::string& etiket) const {
+  const auto metin = std::ranges::find(kolonlar_, KolonTuru::Metin, &RaporKolonu::tur);
+  if (!etiket.empty() && metin != kolonlar_.end()) toplamlar[std::size_t(metin - kolonlar_.begin())] = etiket;
   return toplamlar;
+}
+
+Rapor Rapor::Sirali(std::span<const int> sira) const {
+  assert(sira.size() == satirlar_.size());
+  Rapor sirali = *this;
+  sirali.satirlar_.clear();
+  sirali.birikim_.assign(kolonlar_.size(), 0);
+  sirali.sinirlar_.assign(kolonlar_.size(), {});
+  for (std::size_t i = 0; i < sira.size(); ++i)
+    sirali.Ekle({satirlar_[std::size_t(sira[i])].hucreler, satirlar_[i].yeniSayfa});
+  return sirali;
 }
 
 bool Rapor::ToplamVar() const {

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <variant>
 #include <vector>
@@ -91,6 +92,9 @@ class Rapor {
   std::string baslik;         // on paper
   std::string ekranBasligi;   // on the screen and in a spreadsheet
   std::string toplamEtiketi;  // in the first text column of the sums; "" where sums have no label
+  // The same of the sums of a page's own rows, which a paper of several pages has with such a label: at the foot of
+  // each page, and on the last one above the sums of all. Without it each page shows the sums so far.
+  std::string sayfaToplamEtiketi;
   std::vector<UstSatir> ustSatirlar;
   std::vector<BlokSatiri> sonBlok;
   int paraOndaligi = 2;  // of the amounts in `sonBlok`
@@ -104,13 +108,20 @@ class Rapor {
   // Sums of the first `satirSayisi` rows, with their label; Null in the other columns that are not summed.
   std::vector<Hucre> AraToplam(std::size_t satirSayisi) const;
   std::vector<Hucre> Toplam() const { return AraToplam(satirlar_.size()); }
+  // Of the rows from `ilk` on to the one before `son`, as a page has them.
+  std::vector<Hucre> SayfaToplami(std::size_t ilk, std::size_t son) const;
   bool ToplamVar() const;
 
   // The most letters that a column needs for its cells and sums, numbers in groups of `gruplama` digits. The label of
   // the sums is not among them.
   int GerekliEn(std::size_t kolon, int gruplama) const;
 
+  // The same with its rows in another order: `sira` names each of them once. Where pages start stays.
+  Rapor Sirali(std::span<const int> sira) const;
+
  private:
+  std::vector<Hucre> Etiketli(std::vector<Hucre> toplamlar, const std::string& etiket) const;
+
   // The widest of a column: of texts by letters, of numbers one of the two ends.
   struct Sinir {
     std::size_t harf = 0;

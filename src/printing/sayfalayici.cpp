@@ -12,9 +12,10 @@ class Sayfalayici {
 
   std::vector<Sayfa> Bol() {
     const auto& satirlar = rapor_.Satirlar();
+    if (satirlar.empty() && !rapor_.Kolonlar().empty()) Basla(0);
     for (std::size_t i = 0; i < satirlar.size(); ++i) {
       if (satirSayaci_ == 0)
-        Basla();
+        Basla(i);
       else
         AraKoy();
       Koy(Tur::Govde, i);
@@ -22,7 +23,7 @@ class Sayfalayici {
       const bool son = i + 1 == satirlar.size();
       if (!son && (Dolu() || satirlar[i + 1].yeniSayfa)) Bitir(Tur::Nakil, i + 1);
     }
-    if (!sayfalar_.empty()) {
+    if (!satirlar.empty()) {
       Bitir(Tur::Toplam, satirlar.size());
       BlokKoy();
     }
@@ -32,8 +33,8 @@ class Sayfalayici {
  private:
   void Koy(Tur tur, std::size_t sira = 0) { sayfalar_.back().satirlar.push_back({tur, sira}); }
 
-  void Basla() {
-    sayfalar_.push_back({.no = int(sayfalar_.size()) + 1, .satirlar = {}});
+  void Basla(std::size_t ilkKayit) {
+    sayfalar_.push_back({.no = int(sayfalar_.size()) + 1, .satirlar = {}, .ilkKayit = ilkKayit});
     Koy(Tur::Baslik);
     for (std::size_t i = 0; i < rapor_.ustSatirlar.size(); ++i) Koy(Tur::UstSatir, i);
     Koy(Tur::Cizgi);
@@ -54,23 +55,29 @@ class Sayfalayici {
   }
 
   // The separator counts with the row above it, though it is drawn only when another row follows.
-  void SatiriSay() { satirSayaci_ += duzen_.satirArasi == SatirArasi::Hicbiri ? 1 : 2; }
+  void SatiriSay() { satirSayaci_ += bicim_.satirBoyu + (duzen_.satirArasi == SatirArasi::Hicbiri ? 0 : 1); }
 
   bool Dolu() const { return satirSayaci_ >= duzen_.satirSayisi - SayfaDibiSatirlari; }
 
   void Bitir(Tur toplamTuru, std::size_t satirSayisi) {
     Koy(Tur::Cizgi);
     if (rapor_.ToplamVar()) {
-      Koy(toplamTuru, satirSayisi);
+      ToplamlariKoy(toplamTuru, satirSayisi);
       Koy(Tur::Cizgi);
     }
     satirSayaci_ = 0;
   }
 
+  void ToplamlariKoy(Tur toplamTuru, std::size_t satirSayisi) {
+    const bool sayfalik = !rapor_.sayfaToplamEtiketi.empty();
+    if (sayfalik && (toplamTuru == Tur::Nakil || sayfalar_.size() > 1)) Koy(Tur::SayfaToplami, satirSayisi);
+    if (!sayfalik || toplamTuru == Tur::Toplam) Koy(toplamTuru, satirSayisi);
+  }
+
   void BlokKoy() {
-    const auto gerekli = sayfalar_.back().satirlar.size() + rapor_.sonBlok.size();
+    const int gerekli = SayfaBoyu(sayfalar_.back(), bicim_) + int(rapor_.sonBlok.size());
     // The last line of a page stays free: with it printed, a form feed would throw a blank page.
-    if (!rapor_.sonBlok.empty() && int(gerekli) >= duzen_.satirSayisi) Basla();
+    if (!rapor_.sonBlok.empty() && gerekli >= duzen_.satirSayisi) Basla(rapor_.Satirlar().size());
     for (std::size_t i = 0; i < rapor_.sonBlok.size(); ++i) Koy(Tur::Blok, i);
   }
 
@@ -88,6 +95,7 @@ bool TabloSatiriMi(SayfaSatirTuru tur) {
     case Tur::KolonBasligi:
     case Tur::Bos:
     case Tur::Govde:
+    case Tur::SayfaToplami:
     case Tur::Nakil:
     case Tur::Toplam:
       return true;
@@ -98,6 +106,16 @@ bool TabloSatiriMi(SayfaSatirTuru tur) {
       return false;
   }
   return false;
+}
+
+int SatirBoyu(const SayfaSatiri& satir, const KagitBicimi& bicim) {
+  return satir.tur == Tur::Govde ? bicim.satirBoyu : 1;
+}
+
+int SayfaBoyu(const Sayfa& sayfa, const KagitBicimi& bicim) {
+  int boy = 0;
+  for (const SayfaSatiri& satir : sayfa.satirlar) boy += SatirBoyu(satir, bicim);
+  return boy;
 }
 
 std::vector<Sayfa> SayfalaraBol(const Rapor& rapor, const KagitBicimi& bicim, const SayfaDuzeni& duzen) {

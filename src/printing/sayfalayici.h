@@ -7,7 +7,7 @@
 //   2. After a row that brings it to the lines of a page less 10, the page ends: ten lines are free for the foot.
 //   3. A row marked `yeniSayfa` starts a page; the one before it closes with its foot as usual.
 //   4. The last page holds at least one row. An end block that does not fit below the totals gets a page of its own.
-// At least one row stands on a page, however few lines it has. No rows, no page.
+// At least one row stands on a page, however few lines it has. Without rows there is one page of heads.
 #pragma once
 
 #include <vector>
@@ -26,6 +26,7 @@ enum class SayfaSatirTuru {
   Cizgi,         // rule
   Bos,           // blank line between rows
   Govde,         // `sira`: of Rapor::Satirlar
+  SayfaToplami,  // sums of the page's own rows; `sira`: number of rows up to here
   Nakil,         // sums carried so far; `sira`: number of rows in them
   Toplam,        // sums of all rows; `sira` as above
   Blok,          // `sira`: of Rapor::sonBlok
@@ -44,7 +45,12 @@ struct SayfaSatiri {
 struct Sayfa {
   int no = 1;
   std::vector<SayfaSatiri> satirlar;
+  std::size_t ilkKayit = 0;  // the first row of the report on it
 };
+
+// Lines that one of a page takes, and all of them.
+int SatirBoyu(const SayfaSatiri& satir, const KagitBicimi& bicim);
+int SayfaBoyu(const Sayfa& sayfa, const KagitBicimi& bicim);
 
 std::vector<Sayfa> SayfalaraBol(const Rapor& rapor, const KagitBicimi& bicim, const SayfaDuzeni& duzen);
 

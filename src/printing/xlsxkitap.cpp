@@ -22,6 +22,9 @@ constexpr std::size_t SayfaAdiHarfi = 31;
 constexpr std::int32_t IlkGun = 61;  // 01.03.1900: from here on both calendars count alike
 constexpr std::size_t EnBuyukDosya = std::size_t(2) << 30;
 constexpr std::chrono::milliseconds AdimSuresi{20};
+constexpr double YanKenar = 0.4;  // inches
+constexpr double UstKenar = 0.6;
+constexpr double DikeyHarf = 100;  // letters that an upright page takes at the size of the screen
 constexpr const char* SayfaParcasi = "xl/worksheets/sheet1.xml";
 
 // The library prints numbers by the locale of the thread: a decimal comma would spoil the file.
@@ -40,7 +43,7 @@ class NoktaliSayilar {
   locale_t onceki_;
 };
 
-// Broken bytes would make the whole file unreadable; they are taken for the older programs' code page.
+// Broken bytes would make the whole file unreadable; they are taken for the Windows code page.
 std::string SaglamMetin(std::string_view metin) {
   return DenetimsizMetin(GecerliUtf8(metin) ? std::string(metin) : KodSayfasindan(metin, KodSayfasi::Windows1254));
 }
@@ -161,6 +164,7 @@ struct XlsxKitap::Ic {
   std::vector<std::pair<XlsxStili, lxw_format*>> stiller;
   lxw_error kusur = LXW_NO_ERROR;
   std::size_t hucreSayisi = 0;
+  std::vector<lxw_row_t> sayfaBaslari;
 };
 
 XlsxKitap::XlsxKitap(std::string_view sayfaAdi) : ic_(std::make_unique<Ic>(sayfaAdi)) {}
@@ -185,11 +189,18 @@ void XlsxKitap::UstuDondur(int satir) {
   worksheet_repeat_rows(ic_->sayfa, lxw_row_t(satir - 1), lxw_row_t(satir - 1));
 }
 
-void XlsxKitap::YatayYazdir() {
+void XlsxKitap::A4Yazdir(KagitYonu yon) {
   if (ic_->sayfa == nullptr) return;
-  worksheet_set_landscape(ic_->sayfa);
+  const NoktaliSayilar nokta;
+  if (yon == KagitYonu::Yatay) worksheet_set_landscape(ic_->sayfa);
   worksheet_set_paper(ic_->sayfa, 9);  // A4
   worksheet_fit_to_pages(ic_->sayfa, 1, 0);
+  worksheet_set_margins(ic_->sayfa, YanKenar, YanKenar, UstKenar, UstKenar);
+  worksheet_set_footer(ic_->sayfa, "&CSayfa &P / &N");
+}
+
+void XlsxKitap::SayfaBasi(int satir) {
+  if (satir > 0 && ic_->sayfaBaslari.size() < LXW_BREAKS_MAX) ic_->sayfaBaslari.push_back(lxw_row_t(satir));
 }
 
 void XlsxKitap::Yaz(int satir, int kolon, const Hucre& hucre, Stil stil) {
@@ -221,6 +232,10 @@ Sonuc<std::string> XlsxKitap::Bitir(Ilerleme* ilerleme) {
   if (ic_->kusur == LXW_ERROR_WORKSHEET_INDEX_OUT_OF_RANGE)
     return Kusur{"Tablo dosyası yazılamadı: bir sayfa en çok 1,048,576 satır alır"};
   if (ic_->kusur != LXW_NO_ERROR) return Kusur{"Tablo dosyası yazılamadı: bir hücre en çok 32,767 harf alır"};
+  if (!ic_->sayfaBaslari.empty()) {
+    ic_->sayfaBaslari.push_back(0);  // ends the library's list
+    worksheet_set_h_pagebreaks(ic_->sayfa, ic_->sayfaBaslari.data());
+  }
   const Kusur yazilamadi{"Tablo dosyası yazılamadı: geçici dosyaların dizini dolu ya da yazılamıyor"};
   if (ic_->Kapat(ilerleme) != LXW_NO_ERROR) return yazilamadi;
   auto baytlar = DosyaOku(ic_->yol, EnBuyukDosya);
@@ -236,6 +251,10 @@ std::string XlsxTutarBicimi(int ondalik) {
 
 std::string XlsxSifirliBicim(int ondalik) {
   return ondalik > 0 ? "#,##0." + std::string(std::size_t(ondalik), '0') : "#,##0";
+}
+
+KagitYonu XlsxYonu(double toplamEn) {
+  return toplamEn > DikeyHarf ? KagitYonu::Yatay : KagitYonu::Dikey;
 }
 
 int XlsxKolonEni(int harf) {

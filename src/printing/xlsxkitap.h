@@ -14,6 +14,7 @@
 #include "core/bildirim.h"
 #include "core/sonuc.h"
 #include "printing/rapor.h"
+#include "printing/tuval.h"
 
 namespace belvani {
 
@@ -46,7 +47,11 @@ class XlsxKitap {
 
   void KolonEni(int kolon, double harf);
   void UstuDondur(int satir);  // rows above it stay in sight
-  void YatayYazdir();          // landscape, as wide as one page
+
+  // On A4, as wide as a page, with the page's number at its foot; `yon` Yatay is landscape.
+  void A4Yazdir(KagitYonu yon);
+  // On paper a page begins with this row, and with each next one that is told; a sheet takes 1023 of them.
+  void SayfaBasi(int satir);
 
   // Rows and columns count from 0; a row may not be written once a later one is. Null writes nothing. A day before
   // March 1900, which a spreadsheet cannot count, is written as text.
@@ -60,6 +65,9 @@ class XlsxKitap {
   struct Ic;
   std::unique_ptr<Ic> ic_;
 };
+
+// Landscape where an upright page would have to shrink columns of these widths much.
+KagitYonu XlsxYonu(double toplamEn);
 
 // The width of a column whose longest cell has so many letters.
 int XlsxKolonEni(int harf);

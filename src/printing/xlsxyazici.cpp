@@ -1,6 +1,7 @@
 #include "printing/xlsxyazici.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "core/asama.h"
 #include "core/turkce.h"
@@ -27,7 +28,7 @@ class RaporSayfasi {
 
   Sonuc<std::string> Yaz(Ilerleme* ilerleme) {
     KolonEnleri();
-    kitap_.YatayYazdir();
+    kitap_.A4Yazdir(XlsxYonu(std::accumulate(enler_.begin(), enler_.end(), 0)));
     Basi();
     Asama asama(ilerleme, rapor_.Satirlar().size());
     for (const auto& satir : rapor_.Satirlar()) {
@@ -117,9 +118,11 @@ class YaprakSayfasi {
 
   Sonuc<std::string> Yaz(Ilerleme* ilerleme) {
     for (int k = 0; k < 4; ++k) kitap_.KolonEni(k, k % 2 == 0 ? 28 : 16);
+    kitap_.A4Yazdir(KagitYonu::Dikey);
     Asama asama(ilerleme, belge_.yapraklar.size());
     for (const auto& yaprak : belge_.yapraklar) {
       asama.Adim();
+      kitap_.SayfaBasi(satir_);
       YaprakYaz(yaprak);
     }
     return kitap_.Bitir(ilerleme);

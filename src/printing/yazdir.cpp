@@ -15,6 +15,11 @@ std::string Birlestir(const std::string& a, const std::string& b) {
   return a.empty() || b.empty() ? a + b : a + "\n" + b;
 }
 
+// As it stands in the list of jobs.
+std::string IsAdi(const Belge& belge) {
+  return belge.Ayar().YzcBaslik.empty() ? belge.Baslik() : belge.Ayar().YzcBaslik;
+}
+
 // The pieces of a text print: the printer's set-up, the lines, what ends a page. `yaz` false stops.
 template <class Yaz>
 bool MetniYaz(const std::string& metin, int kopya, Yaz yaz) {
@@ -70,7 +75,8 @@ Sonuc<YazdirmaSonucu> MetinYazdir(const MetinIsi& is) {
   if (!yazici) return yazici.Kusuru();
   xprnOrtami xprnOrtami = is.XprnOrtami();
   xprnOrtami.belprn = [&](const std::string& dosya) {
-    return BelprnBaslat(is.ortam.programDizini, dosya, yazici->ad, is.ortam.kuyruk);
+    return BelprnBaslat(is.ortam.programDizini, {.dosya = dosya, .yazici = yazici->ad, .ad = IsAdi(is.belge)},
+                        is.ortam.kuyruk);
   };
   xprn akis(ayar, xprnOrtami);
   if (!akis.OpenDosPrint()) return Kusur{DosDosyasiAcilamiyor};
@@ -90,7 +96,7 @@ Sonuc<YazdirmaSonucu> GrafikYazdir(const Belge& belge, BaskiOrtami& ortam, Ilerl
   if (pdf->baytlar.empty()) return YazdirmaSonucu{};
   const BaskiIsi is{.tur = IsTuru::Pdf,
                     .yazici = yazici->ad,
-                    .ad = ayar.YzcBaslik,
+                    .ad = IsAdi(belge),
                     .icerik = std::move(pdf->baytlar),
                     .kopya = ayar.YzcKopya};
   if (const auto no = ortam.kuyruk.Gonder(is); !no) return no.Kusuru();

@@ -141,6 +141,10 @@ TEST(Sirket, PapersComeInEveryForm) {
   EXPECT_EQ(s("bordro deneme --yil 2009 --ay 7 --kod 002").durum, 2) << "a range has two ends";
   EXPECT_EQ(s("izin deneme --yil 2009 --tip yok").durum, 2);
   EXPECT_THAT(s("agi deneme --yil 2008 --ay 1").mesaj, HasSubstr("Bu dönemde bordro kaydı yok"));
+  EXPECT_THAT(s("agi deneme --yil 2008 --ay 1").mesaj,
+              AllOf(HasSubstr("Uyarı: Kurulu yasal parametreler Ocak 2008 döneminin değil"),
+                    HasSubstr("ondan gelen: Asgari Ücretin Yıllık Brüt Tutarı")));
+  EXPECT_EQ(s("icmal deneme --yil 2009 --ay 7").mesaj, "") << "the law of its own month";
   s.Yaz("eski.xlsx", "eski");
   EXPECT_THAT(s.Hata("bordro deneme --yil 2009 --ay 7 --bicim xlsx -o @yok/b.xlsx"), HasSubstr("dizin bulunamadı"));
   EXPECT_THAT(s.Hata("bordro deneme --yil 2009 --ay 7 --bicim xlsx -o @"), HasSubstr("dosya yazılamadı"));

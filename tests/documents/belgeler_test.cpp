@@ -10,6 +10,7 @@
 #include "documents/ornekler.h"
 #include "documents/ozelbordro.h"
 #include "documents/pusula.h"
+#include "documents/turetilen.h"
 #include "printing/kayittuvali.h"
 #include "printing/metinyazici.h"
 
@@ -104,11 +105,14 @@ TEST(Belgeler, TheSummaryIsTheSumOfTheRecords) {
   EXPECT_EQ(i.asgariUcretli + i.ucretli, Depo().Topla("1", gunlu));
   EXPECT_LT(i.ucretli, int(ay.size())) << "records without days are in the sample";
 
-  const auto seri = IcmalSerisiOku(Depo().db.IcMotor(), Yil, Ay);
+  const auto seri = IcmalSerisiOku(Depo().db.IcMotor(), Yil, Ay, {Tek(6.0f), kurus});
   EXPECT_EQ(seri.front().ay, Ay + 1);
   EXPECT_EQ(seri.back().ay, Ay);
   EXPECT_EQ(seri.back().brut, i.Toplami(brd::brutkaz));
-  EXPECT_EQ(seri.back().net, i.Toplami(toplam::odenen));
+  Tutar net;  // the ledger's, of the records with days
+  for (const auto& satir : Depo().Satirlar(DefterSirasi::Kod))
+    if (GunToplami(satir.brd) > 0) net += NetOdenen(satir.brd, Tek(6.0f), kurus);
+  EXPECT_EQ(seri.back().net, net);
   EXPECT_EQ(seri.back().maliyet, i.Toplami(toplam::isverenMaliyeti));
   EXPECT_LT(seri.back().kisi, i.asgariUcretli + i.ucretli) << "people, not records: some have two runs";
   Tutar brut;
@@ -182,6 +186,8 @@ TEST(Pusula, TextSlip) {
   EXPECT_THAT(ikinci, Not(HasSubstr("Çalışıyor")));
   EXPECT_EQ(belge.yapraklar[0].ek.size(), 5u + 11 + 7);
   EXPECT_EQ(belge.yapraklar[0].ek[6].etiket, "Yemek");
+  const Brd& brd = test::AsgariUcretli().brd;
+  EXPECT_EQ(belge.yapraklar[0].ek[4].deger, Hucre(brd.devgvmatrah + brd.gvmatrah)) << "carried and of the month";
 }
 
 TEST(Icmal, WhoEarnsTheMinimumIsCountedToTheDay) {

@@ -61,6 +61,33 @@ TEST(Defter, SwitchesOfColumns) {
   EXPECT_EQ(DefterAnahtarAdlari().size(), DefterAnahtarSayisi);
 }
 
+// What makes the net and stands in no column is told below, so that its reader can add up.
+TEST(Defter, TheNetIsExplained) {
+  const auto etiketler = [](const DefterAnahtarlari& kolonlar, const std::vector<BordroSatiri>& satirlar = ucKisi) {
+    std::vector<std::string> liste;
+    DefterSecenek secenek;
+    secenek.icmal = false;
+    secenek.kolonlar = kolonlar;
+    for (const auto& satir : DefterRaporu(satirlar, test::OrnekBaslik(), secenek).sonBlok)
+      liste.push_back(satir.etiket + " " + DuzMetin(satir.deger));
+    return liste;
+  };
+  Tutar agi;
+  for (const auto& satir : ucKisi) agi += satir.brd.ogv;
+  ASSERT_NE(agi, Tutar());
+  const auto varsayilan = DefterAnahtarlariOku(VarsayilanDefterAnahtarlari);
+  EXPECT_THAT(etiketler(varsayilan), testing::ElementsAre("Net Ödenen'e eklenen A.G.İ. : " + DuzMetin(agi)));
+  auto agisiz = ucKisi;
+  for (auto& satir : agisiz) satir.brd.ogv = {};
+  EXPECT_THAT(etiketler(varsayilan, agisiz), testing::IsEmpty());
+  const auto adlar = DefterAnahtarAdlari();
+  auto kesintisiz = TumKolonlar().kolonlar;
+  kesintisiz[std::size_t(std::ranges::find(adlar, "Kesintiler") - adlar.begin())] = false;
+  EXPECT_THAT(etiketler(kesintisiz), testing::IsEmpty()) << "its parts stand there";
+  kesintisiz[std::size_t(std::ranges::find(adlar, "GV Tutar") - adlar.begin())] = false;
+  EXPECT_THAT(etiketler(kesintisiz), testing::ElementsAre(HasSubstr("Net Ödenen'den düşülen GV Tutar :")));
+}
+
 TEST(Defter, TextOfThePeriod) {
   EXPECT_EQ(DonemMetni({2008, 1, DonemTuru::Takvim}), "Ocak 2008 DÖNEMİ");
   EXPECT_EQ(DonemMetni({2008, 1, DonemTuru::Ters}), "15.01.2008 İLE 14.02.2008 DÖNEMİ ");
@@ -70,9 +97,11 @@ TEST(Defter, TextOfThePeriod) {
 TEST(Defter, Options) {
   DefterSecenek secenek;
   secenek.icmal = false;
+  secenek.kolonlar.fill(true);
   EXPECT_TRUE(DefterRaporu(ucKisi, test::OrnekBaslik(), secenek).sonBlok.empty());
+  secenek.kolonlar = {};
   EXPECT_TRUE(DefterRaporu({}, test::OrnekBaslik(), {}).sonBlok.empty());
-  EXPECT_EQ(MetinRaporu(DefterRaporu({}, test::OrnekBaslik(), {}), {}), "");
+  EXPECT_THAT(MetinRaporu(DefterRaporu({}, test::OrnekBaslik(), {}), {}), HasSubstr("Ödenen İmza\n"));
 
   auto ikiBordro = ucKisi;
   ikiBordro[2].brd.no = 2;

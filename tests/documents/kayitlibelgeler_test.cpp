@@ -6,6 +6,7 @@
 #include "core/asama.h"
 #include "core/ortam.h"
 #include "documents/belgeler.h"
+#include "documents/belgeyap.h"
 #include "documents/doludepo.h"
 #include "gecici.h"
 #include "printing/ayardenetimi.h"
@@ -103,6 +104,55 @@ TEST(KayitliBelgeler, HerAdimdaBirakilabilir) {
       }
       EXPECT_GT(adim, 2) << "form " << &is - isler.data();
     }
+  }
+}
+
+// Whose figures are the installed law's is told when that is another month's: with an allowance on the wage papers, on
+// others always, on the leave list never.
+TEST(KayitliBelgeler, AnotherMonthsLawIsTold) {
+  Belgelik belgelik;
+  Motor& motor = belgelik.depo.db.IcMotor();
+  std::vector<MevzuatAyi> bakilan;
+  const auto soz = [&](const BelgeTanimi& tanim, MevzuatHali hal) {
+    const auto secim = tanim.secim();
+    auto& donem = *secim->Bul<DefterSecim>();
+    donem.yil = test::Yil;
+    donem.ay = test::Ay;
+    return BelgeMevzuatSozu(tanim, *secim, motor, [&](MevzuatAyi ay) {
+      bakilan.push_back(ay);
+      return MevzuatGorusu{.hal = hal, .baslik = "başka ay:", .satirlar = {}};
+    });
+  };
+  const auto sorulan = [&](MevzuatHali hal) {
+    std::set<std::string_view> ekranlar;
+    for (const BelgeTanimi& tanim : Belgeler())
+      if (!soz(tanim, hal).empty()) ekranlar.insert(tanim.ekran);
+    return ekranlar;
+  };
+  using Ekranlar = std::set<std::string_view>;
+  EXPECT_EQ(sorulan(MevzuatHali::BaskaAy), (Ekranlar{"agibrd", "brdbas", "brdicmal", "brdzarf", "setbrd"}));
+  EXPECT_EQ(sorulan(MevzuatHali::Uygun), Ekranlar{});
+  EXPECT_EQ(bakilan.at(0).ay, test::Ay);
+  EXPECT_EQ(soz(*BelgeBul("agibrd"), MevzuatHali::BaskaAy),
+            "başka ay.\nBu belgede ondan gelen: Asgari Ücretin Yıllık Brüt Tutarı");
+  motor.Hazirla("update brd set ogv = 0")->Adim();
+  EXPECT_EQ(sorulan(MevzuatHali::BaskaAy), (Ekranlar{"agibrd", "brdicmal"}));
+}
+
+// Files are named by what the paper is of.
+TEST(KayitliBelgeler, NamesOfFiles) {
+  Belgelik belgelik;
+  for (const auto& [ekran, ad] :
+       {std::pair("brdicmal", "BORDRO ÖZETİ 2008-07"), {"brdui", "Ücretli İzinler Listesi 2008"}}) {
+    const BelgeTanimi& tanim = *BelgeBul(ekran);
+    const auto secim = tanim.secim();
+    secim->Bul<DefterSecim>()->yil = 2008;
+    secim->Bul<DefterSecim>()->ay = 7;
+    const auto belge = BelgeYap(tanim, *secim, belgelik.kaynak);
+    YzcAyarlari ayar = belge->Ayar();
+    ayar.YzcBaslikYaz = false;
+    belge->Ayarla(ayar);
+    EXPECT_EQ(belge->DosyaBasligi(), ad) << "whatever its head shows";
   }
 }
 

@@ -65,14 +65,16 @@ TEST(Belprn, SendsTheFile) {
   EXPECT_EQ(Belprn({dosya, "--sil"}, kuyruk).KusurMetni(), "disk dolu");
   EXPECT_TRUE(DosyaOku(dosya));  // nothing is lost
   kuyruk.hata.clear();
-  ASSERT_TRUE(Belprn({dosya, "--yazici", "lazer", "--sil"}, kuyruk));
+  ASSERT_TRUE(Belprn({dosya, "--yazici", "lazer", "--ad", "ÜCRET PUSULASI", "--sil"}, kuyruk));
+  EXPECT_EQ(kuyruk.isler.at(0).ad, "ÜCRET PUSULASI");
   EXPECT_EQ(kuyruk.isler.at(0).icerik, hamBaytlar);
   EXPECT_EQ(kuyruk.isler[0].yazici, "lazer");
   EXPECT_FALSE(DosyaOku(dosya));
   EXPECT_EQ(Belprn({dosya}, kuyruk).KusurMetni(), dosya + ": dosya okunamadı");
   for (const auto& arguman : {std::vector<std::string>{}, {"--bilinmeyen"}, {dosya, "--yazici"}, {"a", "b"}})
     EXPECT_THAT(Belprn(arguman, kuyruk).KusurMetni(), testing::StartsWith("Kullanım: belprn"));
-  EXPECT_THAT(BelprnBaslat(dizin.Yol(), dosya, "", kuyruk).KusurMetni(), testing::EndsWith("program bulunamadı"));
+  EXPECT_THAT(BelprnBaslat(dizin.Yol(), {.dosya = dosya}, kuyruk).KusurMetni(),
+              testing::EndsWith("program bulunamadı"));
 }
 
 }  // namespace

@@ -111,19 +111,31 @@ TEST(Kagit, NumbersAreNotCut) {
     duzen.en = en;
     return KagitBicimle(KalemRaporu(kalemler), duzen);
   };
-  EXPECT_THAT(enler({{.ad = "Işık"}}, 80).enler, testing::ElementsAre(4, 8, 4, 8, 8, 6));
+  EXPECT_THAT(enler({{.ad = "Işık"}}, 80).enler, testing::ElementsAre(4, 8, 4, 8, 8, 20));
   const std::vector<Kalem> genis = {{.ad = "Çok uzun bir ad", .adet = 9999, .tutar = Tutar(999999.99)},
                                     {.ad = "b", .adet = 1, .tutar = Tutar(0.01), .birikmis = Tutar(-123456.78)}};
   // Sums count, and so does the sign.
-  EXPECT_THAT(enler(genis, 80).enler, testing::ElementsAre(10, 8, 6, 12, 11, 6));
+  EXPECT_THAT(enler(genis, 80).enler, testing::ElementsAre(15, 8, 6, 12, 11, 20));
   // Not enough room: all numbers lose their thousands marks, none a digit.
   const KagitBicimi dar = enler(genis, 57);
   EXPECT_EQ(dar.gruplama, 0);
-  EXPECT_THAT(dar.enler, testing::ElementsAre(10, 8, 5, 10, 10, 6));
-  EXPECT_EQ(dar.en, 54);
+  EXPECT_THAT(dar.enler, testing::ElementsAre(12, 8, 5, 10, 10, 7));
+  EXPECT_EQ(dar.en, 57);
   EXPECT_EQ(enler(genis, 58).gruplama, BinlikGruplama);
   // A sum can be wider on the way than at the end.
   EXPECT_EQ(enler({{.ad = "a", .tutar = Tutar(9999999.0)}, {.ad = "b", .tutar = Tutar(-9999998.0)}}, 80).enler[3], 13);
+}
+
+// Another order has the same sums at the end and starts its pages where they were.
+TEST(Rapor, RowsInAnotherOrder) {
+  const Rapor rapor = test::KalemRaporu({{.ad = "c", .tutar = Tutar(1.0)},
+                                         {.ad = "a", .tutar = Tutar(2.0)},
+                                         {.ad = "b", .tutar = Tutar(4.0), .grup = 1}});
+  const Rapor sirali = rapor.Sirali(std::vector{1, 0, 2});
+  EXPECT_EQ(sirali.Satirlar()[0].hucreler[0], Hucre(std::string("a")));
+  EXPECT_TRUE(sirali.Satirlar()[2].yeniSayfa);
+  EXPECT_EQ(sirali.AraToplam(1)[3], Hucre(Tutar(2.0)));
+  EXPECT_EQ(sirali.Toplam(), rapor.Toplam());
 }
 
 }  // namespace

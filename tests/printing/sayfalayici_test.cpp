@@ -45,7 +45,7 @@ TEST(Sayfalayici, BordersOfThePage) {
   const SayfaDuzeni bitisik{.satirSayisi = 66};
   const SayfaDuzeni cizgili{.satirSayisi = 66, .satirArasi = SatirArasi::CizgiCek};
   const std::vector<SayfaOrnegi> ornekler = {
-      {"no row, no page", {}, bitisik, 6, {}},
+      {"no row: the heads alone", {}, bitisik, 6, {0}},
       {"one row", n(1), bitisik, 6, {1}},
       {"one short of full", n(50), bitisik, 6, {50}},
       {"exactly full: the foot of the page is the total", n(51), bitisik, 6, {51}},
@@ -88,6 +88,35 @@ TEST(Sayfalayici, RowsOfThePage) {
   EXPECT_THAT(std::vector(sayfalar[1].satirlar.begin() + BasSatirlari, sayfalar[1].satirlar.end()),
               testing::ElementsAre(SayfaSatiri{Tur::Govde, 2}, SayfaSatiri{Tur::Cizgi}, SayfaSatiri{Tur::Toplam, 3},
                                    SayfaSatiri{Tur::Cizgi}, SayfaSatiri{Tur::Blok, 0}));
+}
+
+// A paper with sums of its pages: each page has its own, the last one those of all below them.
+TEST(Sayfalayici, SumsOfThePage) {
+  Rapor rapor = SiraliRapor({1, 1, 2, 2, 2}, 0);
+  rapor.sayfaToplamEtiketi = "SAYFA TOPLAMI";
+  const auto sayfalar = Bol(rapor, {});
+  ASSERT_EQ(sayfalar.size(), 2u);
+  EXPECT_EQ(Say(sayfalar[0], Tur::SayfaToplami) + Say(sayfalar[1], Tur::SayfaToplami), 2u);
+  EXPECT_EQ(Say(sayfalar[0], Tur::Nakil), 0u);
+  EXPECT_EQ(Say(sayfalar[1], Tur::Toplam), 1u);
+  EXPECT_EQ(rapor.SayfaToplami(sayfalar[0].ilkKayit, 2)[0], Hucre(Tutar(2.0)));
+  EXPECT_EQ(rapor.SayfaToplami(sayfalar[1].ilkKayit, 5)[0], Hucre(Tutar(3.0)));
+  rapor = SiraliRapor({1, 1}, 0);
+  rapor.sayfaToplamEtiketi = "SAYFA TOPLAMI";
+  EXPECT_EQ(Say(Bol(rapor, {})[0], Tur::SayfaToplami), 0u) << "on a single page they are those of the paper";
+}
+
+// Rows that are signed are higher than a line.
+TEST(Sayfalayici, HighRows) {
+  const Rapor rapor = SiraliRapor(std::vector<int>(40, 1), 6);
+  KagitBicimi bicim = KagitBicimle(rapor, {});
+  bicim.satirBoyu = 3;
+  int govde = 0;
+  for (const Sayfa& sayfa : SayfalaraBol(rapor, bicim, {.satirSayisi = 66})) {
+    EXPECT_LT(SayfaBoyu(sayfa, bicim), 66);
+    govde += int(Say(sayfa, Tur::Govde));
+  }
+  EXPECT_EQ(govde, 40);
 }
 
 RC_GTEST_PROP(Sayfalayici, HicbirSatirKaybolmaz, ()) {

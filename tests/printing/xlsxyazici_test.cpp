@@ -64,6 +64,37 @@ TEST(XlsxYazici, CellsAreRealValues) {
   EXPECT_THAT(test::XlsxParcasi(baytlar, "xl/workbook.xml"), HasSubstr("<sheet name=\"Kalemler\""));
 }
 
+// As it opens it prints on A4, no wider than a page, with the heads and the number on each.
+TEST(XlsxYazici, PrintsOnA4) {
+  const std::string dar = Xlsx(OrnekRapor());
+  const std::string sayfa = test::XlsxParcasi(dar, "xl/worksheets/sheet1.xml");
+  for (const char* parca : {"<pageSetUpPr fitToPage=\"1\"/>", "paperSize=\"9\"", "fitToHeight=\"0\"", "&amp;P / &amp;N",
+                            "orientation=\"portrait\""})
+    EXPECT_THAT(sayfa, HasSubstr(parca));
+  EXPECT_THAT(test::XlsxParcasi(dar, "xl/workbook.xml"), HasSubstr("Print_Titles"));
+  const std::string genis = Xlsx(KalemRaporu({{.ad = std::string(120, 'x')}, {.ad = "y", .tutar = Tutar(1e11)}}));
+  EXPECT_THAT(test::XlsxParcasi(genis, "xl/worksheets/sheet1.xml"), HasSubstr("orientation=\"landscape\""));
+}
+
+// Slips: each begins a page.
+TEST(XlsxYazici, SlipsStartPages) {
+  Yaprak yaprak;
+  yaprak.sol = {{"Ad", std::string("Işıl")}};
+  YaprakBelgesi belge{.baslik = "PUSULA", .yapraklar = {std::vector<Yaprak>(3, yaprak)}};
+  const auto baytlar = XlsxYapraklari(belge);
+  ASSERT_TRUE(baytlar);
+  const std::string sayfa = test::XlsxParcasi(*baytlar, "xl/worksheets/sheet1.xml");
+  EXPECT_THAT(sayfa, HasSubstr("<rowBreaks count=\"2\""));
+  EXPECT_THAT(sayfa, HasSubstr("paperSize=\"9\" fitToHeight=\"0\" orientation=\"portrait\""));
+  auto h = XlsxOku(*baytlar);
+  const auto ilkSatir = [&](const std::string& no) { return h["A" + no].deger; };
+  std::size_t yer = sayfa.find("<brk id=\"");
+  for (int i = 0; i < 2; ++i, yer = sayfa.find("<brk id=\"", yer + 1)) {
+    const int satir = std::atoi(sayfa.c_str() + yer + 9);  // the last row above the break
+    EXPECT_EQ(ilkSatir(std::to_string(satir + 1)), "PUSULA");
+  }
+}
+
 TEST(XlsxYazici, WritesNoDecimalCommas) {
   const test::GeciciDizin dizin;
   std::system(("localedef -i tr_TR -f UTF-8 " + dizin.Yol() + "tr_TR.UTF-8 2>/dev/null").c_str());
@@ -81,7 +112,7 @@ TEST(XlsxYazici, WritesNoDecimalCommas) {
 }
 
 TEST(XlsxYazici, InvalidNamesAndBytes) {
-  Rapor rapor = KalemRaporu({{.ad = "\xfd\xfe"}});  // "ış" of an older program
+  Rapor rapor = KalemRaporu({{.ad = "\xfd\xfe"}});  // "ış" in the Windows code page
   rapor.ekranBasligi = "'Gelir/Gider [2008]: *çok uzun bir başlık?";
   const std::string baytlar = Xlsx(rapor);
   EXPECT_THAT(test::XlsxParcasi(baytlar, "xl/workbook.xml"), HasSubstr("name=\"Gelir Gider  2008    çok uzun b\""));

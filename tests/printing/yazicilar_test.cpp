@@ -25,7 +25,7 @@ TEST(MetinYazici, PageWithRules) {
   Rapor rapor = KalemRaporu(ikiKalem);
   rapor.ustSatirlar = {{.orta = "Şubat 2008"}, {.sol = "ÜNVANI : Çınar", .sag = "Sayfa : ", .sayfaNo = true}};
   rapor.sonBlok = {{"Toplam Kalem : ", std::int64_t(2)}, {"Tutar :", Tutar(1224.5)}, {"Katkı :", Tutar()}};
-  SayfaDuzeni duzen;
+  SayfaDuzeni duzen{.en = 49};  // what is declared and no more
   duzen.satirArasi = SatirArasi::CizgiCek;
   duzen.kolonArasi = KolonArasi::DikCizgi;
   EXPECT_TRUE(KodSayfasinaSigar(MetinRaporu(rapor, duzen), KodSayfasi::Dos857));  // the printer has every letter
@@ -51,26 +51,43 @@ TEST(MetinYazici, PageWithRules) {
 TEST(MetinYazici, PagesSeparatedByBlanks) {
   const Rapor rapor = KalemRaporu({{.ad = "a", .tutar = Tutar(1.0)}, {.ad = "b", .tutar = Tutar(2.0), .grup = 1}});
   EXPECT_EQ(MetinRaporu(rapor, {}),
-            "               KALEM LİSTESİ\n"
-            "--- -------- ---- -------- -------- ------\n"
+            "                      KALEM LİSTESİ\n"
+            "--- -------- ---- -------- -------- --------------------\n"
             "                    Toplam\n"
             "Adı Gün      Adet    Tutar Birikmiş İmza\n"
-            "--- -------- ---- -------- -------- ------\n"
+            "--- -------- ---- -------- -------- --------------------\n"
             "a                     1.00\n"
-            "--- -------- ---- -------- -------- ------\n"
+            "--- -------- ---- -------- -------- --------------------\n"
             "                      1.00\n"
-            "--- -------- ---- -------- -------- ------\n"
+            "--- -------- ---- -------- -------- --------------------\n"
             "\f"
-            "               KALEM LİSTESİ\n"
-            "--- -------- ---- -------- -------- ------\n"
+            "                      KALEM LİSTESİ\n"
+            "--- -------- ---- -------- -------- --------------------\n"
             "                    Toplam\n"
             "Adı Gün      Adet    Tutar Birikmiş İmza\n"
-            "--- -------- ---- -------- -------- ------\n"
+            "--- -------- ---- -------- -------- --------------------\n"
             "b                     2.00\n"
-            "--- -------- ---- -------- -------- ------\n"
+            "--- -------- ---- -------- -------- --------------------\n"
             "                      3.00\n"
-            "--- -------- ---- -------- -------- ------\n");
-  EXPECT_EQ(MetinRaporu(KalemRaporu({}), {}), "");
+            "--- -------- ---- -------- -------- --------------------\n");
+  EXPECT_EQ(MetinRaporu(KalemRaporu({}), {}),
+            "                      KALEM LİSTESİ\n"
+            "--- -------- ---- -------- -------- --------------------\n"
+            "                    Toplam\n"
+            "Adı Gün      Adet    Tutar Birikmiş İmza\n"
+            "--- -------- ---- -------- -------- --------------------\n");
+}
+
+// A name is cut only where the line would pass the paper's width, and then no more than has to be.
+TEST(MetinYazici, TextsHaveTheRoomOfTheLine) {
+  const std::string uzun = "Mehmet Abdurrahman Karaosmanoğulları Hacıahmetoğlu";
+  const Rapor rapor = KalemRaporu({{.ad = uzun}});
+  EXPECT_THAT(MetinRaporu(rapor, {}), testing::HasSubstr(uzun));
+  const KagitBicimi dar = KagitBicimle(rapor, {.en = 70});
+  EXPECT_EQ(dar.en, 70);
+  EXPECT_GT(dar.enler[0], rapor.Kolonlar()[0].en);
+  EXPECT_LT(dar.enler[0], int(HarfSayisi(uzun)));
+  EXPECT_EQ(KagitBicimle(rapor, {.en = 40}).enler[0], rapor.Kolonlar()[0].en) << "the declared width stays";
 }
 
 TEST(MetinYazici, ControlLettersDoNotReachThePrinter) {
@@ -80,7 +97,7 @@ TEST(MetinYazici, ControlLettersDoNotReachThePrinter) {
   rapor.sonBlok = {{"so\fn", std::string("de\fğer")}};
   const std::string metin = MetinRaporu(rapor, {});
   EXPECT_EQ(metin.find_first_of("\x1b\f"), std::string::npos);
-  EXPECT_THAT(metin, testing::HasSubstr("\n---- -------- ---- -------- -------- ------\nA@li\n"));
+  EXPECT_THAT(metin, testing::HasSubstr("\n---- -------- ---- -------- -------- --------------------\nA@li\n"));
   EXPECT_THAT(metin, testing::HasSubstr("son değer\n"));
 }
 

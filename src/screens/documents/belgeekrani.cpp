@@ -4,6 +4,7 @@
 #include <QHideEvent>
 
 #include "core/store/koru.h"
+#include "documents/belgeyap.h"
 #include "documents/defter.h"
 #include "screens/documents/brdicmal.h"
 #include "ui/basim.h"
@@ -14,7 +15,7 @@
 
 namespace belvani {
 
-BelgeEkrani::BelgeEkrani(EkranBaglami& baglam, const ParametreDeposu& parametreler, const BelgeTanimi& tanim)
+BelgeEkrani::BelgeEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, const BelgeTanimi& tanim)
     : Form(baglam, Yazi(tanim.ekran), Yazi(tanim.pencereBasligi)),
       parametreler_(parametreler),
       tanim_(tanim),
@@ -47,13 +48,13 @@ void BelgeEkrani::RehberleriBagla() {
 
 void BelgeEkrani::KomutlariKur() {
   const auto listele = [this] {
-    if (const std::shared_ptr<Belge> belge = BelgeYap()) BelgeEkranaListele(Baglam(), belge);
+    if (const std::shared_ptr<Belge> belge = VerilecekBelge()) BelgeEkranaListele(Baglam(), belge);
   };
   const auto yazdir = [this] {
-    if (const auto belge = BelgeYap()) BelgeBas(Baglam(), *belge);
+    if (const auto belge = VerilecekBelge()) BelgeBas(Baglam(), *belge);
   };
   const auto gonder = [this] {
-    if (const auto belge = BelgeYap()) BelgeExceleGonder(Baglam(), *belge);
+    if (const auto belge = VerilecekBelge()) BelgeExceleGonder(Baglam(), *belge);
   };
   Komutlar({{.tus = Qt::Key_F6, .dugme = " Ekrana Listele", .simge = "liste", .islev = listele},
             {.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır", .simge = "yazici", .islev = yazdir},
@@ -84,11 +85,29 @@ BelgeKaynagi BelgeEkrani::Kaynak(Ilerleme* ilerleme) const {
 }
 
 std::unique_ptr<Belge> BelgeEkrani::BelgeYap() {
-  const BelgeSecimi* secim = Secilen();
+  BelgeSecimi* secim = Secilen();
   if (secim == nullptr) return nullptr;
-  auto belge = UzunIs(Baglam(), QStringLiteral("Liste hazırlanıyor…"),
-                      [&](Ilerleme& ilerleme) { return Koru([&] { return secim->BelgeYap(Kaynak(&ilerleme)); }); });
-  return belge && Oldu(*belge) ? std::move(**belge) : nullptr;
+  // First: where the files have changed, the paper is made with the law that they hold now.
+  const auto bak = [this](MevzuatAyi ay) { return parametreler_.MevzuataBak(Oturumu(), ay); };
+  const auto soz = Koru([&] { return BelgeMevzuatSozu(tanim_, *secim, Oturumu().depo.db.IcMotor(), bak); });
+  if (!Oldu(soz)) return nullptr;
+  auto belge = UzunIs(Baglam(), QStringLiteral("Liste hazırlanıyor…"), [&](Ilerleme& ilerleme) {
+    return Koru([&] { return belvani::BelgeYap(tanim_, *secim, Kaynak(&ilerleme)); });
+  });
+  if (!belge || !Oldu(*belge)) return nullptr;
+  MevzuatSozu(*soz);
+  return std::move(**belge);
+}
+
+std::unique_ptr<Belge> BelgeEkrani::VerilecekBelge() {
+  auto belge = BelgeYap();
+  if (belge && belge->Kayitsiz() && !tanim_.kayitYok.empty()) Baglam().bildirim.Bilgi(tanim_.kayitYok);
+  return belge;
+}
+
+void BelgeEkrani::MevzuatSozu(const std::string& soz) {
+  if (soz.empty() || std::exchange(soylenenSoz_, soz) == soz) return;
+  Baglam().bildirim.Uyari(soz);
 }
 
 // A field that cannot be read does not keep the others from being saved.
@@ -100,8 +119,7 @@ void BelgeEkrani::hideEvent(QHideEvent* olay) {
   Oldu(tanim_.ayar.yaz(Oturumu().FirmaDizini, *secim_));
 }
 
-std::unique_ptr<Form> BelgeEkraniYap(EkranBaglami& baglam, const ParametreDeposu& parametreler,
-                                     const BelgeTanimi& tanim) {
+std::unique_ptr<Form> BelgeEkraniYap(EkranBaglami& baglam, ParametreDeposu& parametreler, const BelgeTanimi& tanim) {
   if (tanim.ekran == "brdicmal") return std::make_unique<brdicmal>(baglam, parametreler, tanim);
   return std::make_unique<BelgeEkrani>(baglam, parametreler, tanim);
 }

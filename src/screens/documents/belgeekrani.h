@@ -15,14 +15,19 @@ namespace belvani {
 
 class BelgeEkrani : public Form {
  public:
-  BelgeEkrani(EkranBaglami& baglam, const ParametreDeposu& parametreler, const BelgeTanimi& tanim);
+  BelgeEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, const BelgeTanimi& tanim);
 
  protected:
   // The choices as the fields say; null when one of them cannot be read, which is told.
   BelgeSecimi* Secilen();
   // The paper of these choices; null when it cannot be made, which is told.
   std::unique_ptr<Belge> BelgeYap();
+  // The same for a command that gives it away; one that is made of no records is told as such.
+  std::unique_ptr<Belge> VerilecekBelge();
   BelgeKaynagi Kaynak(Ilerleme* ilerleme = nullptr) const;
+
+  // Tells that a figure of the paper is another month's law, once for each text; "": there is nothing to tell.
+  virtual void MevzuatSozu(const std::string& soz);
 
   void hideEvent(QHideEvent* olay) override;
 
@@ -32,13 +37,13 @@ class BelgeEkrani : public Form {
   void KomutlariKur();
   void FontSec(BelgeYazisi& yazi);
 
-  const ParametreDeposu& parametreler_;
+  ParametreDeposu& parametreler_;
   const BelgeTanimi& tanim_;
   std::unique_ptr<BelgeSecimi> secim_;
+  std::string soylenenSoz_;
 };
 
 // The screen of the paper: its own where it has a view, else this one.
-std::unique_ptr<Form> BelgeEkraniYap(EkranBaglami& baglam, const ParametreDeposu& parametreler,
-                                     const BelgeTanimi& tanim);
+std::unique_ptr<Form> BelgeEkraniYap(EkranBaglami& baglam, ParametreDeposu& parametreler, const BelgeTanimi& tanim);
 
 }  // namespace belvani

@@ -5,6 +5,7 @@
 
 #include "core/store/koru.h"
 #include "documents/defter.h"
+#include "documents/icmal.h"
 #include "documents/icmalgrafigi.h"
 #include "documents/secimalanlari.h"
 #include "printing/cairotuval.h"
@@ -59,8 +60,9 @@ QLabel* KartYap(QWidget* ust, const char* ad) {
 
 }  // namespace
 
-brdicmal::brdicmal(EkranBaglami& baglam, const ParametreDeposu& parametreler, const BelgeTanimi& tanim)
+brdicmal::brdicmal(EkranBaglami& baglam, ParametreDeposu& parametreler, const BelgeTanimi& tanim)
     : BelgeEkrani(baglam, parametreler, tanim),
+      mevzuat_(KartYap(this, "mevzuat")),
       satirlar_(KartYap(this, "satirlar")),
       sayilar_(KartYap(this, "sayilar")),
       grafik_(new QLabel(this)) {
@@ -72,6 +74,10 @@ brdicmal::brdicmal(EkranBaglami& baglam, const ParametreDeposu& parametreler, co
   sag->addWidget(grafik_);
   sag->addStretch(1);
   yatay->addLayout(sag, 1);
+  mevzuat_->setTextFormat(Qt::PlainText);
+  mevzuat_->setProperty("hata", true);
+  mevzuat_->hide();
+  Govde()->addWidget(mevzuat_);
   Govde()->addLayout(yatay, 1);
   grafik_->setObjectName("grafik");
   grafik_->setFixedSize(int(GrafikEniMm / 25.4 * GrafikDpi) + CerceveNoktasi,
@@ -94,10 +100,17 @@ void brdicmal::Goster() {
   QTimer::singleShot(0, this, [this, surum = ++seriSurumu_] { AyiOku(surum, 0); });
 }
 
+// Beside the figures, which change with every choice of a month.
+void brdicmal::MevzuatSozu(const std::string& soz) {
+  mevzuat_->setText(Yazi(soz));
+  mevzuat_->setVisible(!soz.empty());
+}
+
 void brdicmal::AyiOku(int surum, std::size_t sira) {
   if (surum != seriSurumu_) return;
   if (sira == seri_.size()) return GrafikCiz();
-  const auto ay = Koru([&] { return IcmalAyiOku(Kaynak().motor, seri_[sira].yil, seri_[sira].ay); });
+  const auto ay =
+      Koru([&] { return IcmalAyiOku(Kaynak().motor, seri_[sira].yil, seri_[sira].ay, GrafikKosulu(Kaynak())); });
   if (!Oldu(ay)) return;
   seri_[sira] = *ay;
   QTimer::singleShot(0, this, [this, surum, sira] { AyiOku(surum, sira + 1); });

@@ -12,13 +12,15 @@ namespace belvani {
 
 class brdicmal : public BelgeEkrani {
  public:
-  brdicmal(EkranBaglami& baglam, const ParametreDeposu& parametreler, const BelgeTanimi& tanim);
+  brdicmal(EkranBaglami& baglam, ParametreDeposu& parametreler, const BelgeTanimi& tanim);
 
  private:
+  void MevzuatSozu(const std::string& soz) override;
   void Goster();
   void AyiOku(int surum, std::size_t sira);
   void GrafikCiz();
 
+  QLabel* mevzuat_;
   QLabel* satirlar_;
   QLabel* sayilar_;
   QLabel* grafik_;

@@ -127,6 +127,27 @@ TEST(Brdicmal, AnotherPeriodIsCalculated) {
   EXPECT_FALSE(form.findChild<QLabel*>("grafik")->pixmap(Qt::ReturnByValue).isNull());
   ortam.Yaz("2008\n");
   EXPECT_FALSE(form.findChild<QLabel*>("sayilar")->text().contains("2,000.00"));
+  const auto* mevzuat = form.findChild<QLabel*>("mevzuat");
+  EXPECT_TRUE(mevzuat->isVisible() && mevzuat->text().contains("Temmuz 2008 döneminin değil")) << Utf8(mevzuat->text());
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre()) << "beside the figures, in no box";
+}
+
+TEST(BelgeEkranlari, AnotherMonthsLawIsToldOnce) {
+  BordroluOrtam ortam;
+  Form& form = ortam.BelgeAc("agibrd");
+  ortam.Yaz("2008\n");
+  const std::string kayitYok = "Bilgi: Bu dönemde bordro kaydı yok";
+  for (const bool ilk : {true, false}) {
+    ortam.Bas(Qt::Key_F6);
+    const Iletiler iletiler = ortam.bildirim.Al();
+    EXPECT_EQ(iletiler.back(), kayitYok);
+    EXPECT_EQ(iletiler.size(), ilk ? 2u : 1u);
+    EXPECT_THAT(iletiler.front(),
+                ilk ? HasSubstr("Uyarı: Kurulu yasal parametreler Temmuz 2008") : HasSubstr(kayitYok));
+    ortam.gosterici.formlar.pop_back();
+    QApplication::setActiveWindow(&form);
+    form.setFocus();
+  }
 }
 
 TEST(Brdui, KindOfReport) {
