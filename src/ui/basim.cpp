@@ -1,7 +1,9 @@
 #include "ui/basim.h"
 
 #include <QDir>
+#include <QMainWindow>
 #include <QStandardPaths>
+#include <QStatusBar>
 
 #include "core/dosya.h"
 #include "printing/excelkont.h"
@@ -20,15 +22,43 @@ constexpr const char* XlsxFiltresi = "Excel Dosyası(*.xlsx)|*.xlsx";
 constexpr const char* MetinFiltresi = "Yazıcı Dosyası(*.prn)|*.prn";
 constexpr const char* BasilacakYok = "Basılacak kayıt yok";
 
-// Where the user wants the file, with its extension; nothing when given up.
-std::optional<std::string> DosyaSor(EkranBaglami& baglam, const std::string& baslik, const char* filtre,
+constexpr int YerSozuSuresi = 60'000;  // milliseconds
+
+// "ORNEK BORDRO ÖZETİ 2009-12"
+std::string SirketliAd(EkranBaglami& baglam, const std::string& ad) {
+  const std::string& kod = baglam.oturum.FirmaKod;
+  return kod.empty() ? ad : kod + " " + ad;
+}
+
+// Where the user wants the file, with its extension; nothing when given up. The dialog asks about a file that is there;
+// the extension may lead to another one.
+std::optional<std::string> DosyaSor(EkranBaglami& baglam, const std::string& ad, const char* filtre,
                                     const QString& uzanti) {
   QString dizin = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   if (!QDir(dizin).exists()) dizin = QDir::homePath();
-  auto yol =
-      baglam.dialoglar.DosyaKaydet("Kaydet", Utf8(QDir(dizin).filePath(Yazi(DosyaAdi(baslik)) + uzanti)), filtre);
-  if (yol && !Yazi(*yol).endsWith(uzanti, Qt::CaseInsensitive)) *yol += Utf8(uzanti);
+  auto yol = baglam.dialoglar.DosyaKaydet("Kaydet", Utf8(QDir(dizin).filePath(Yazi(DosyaAdi(ad)) + uzanti)), filtre);
+  if (!yol || Yazi(*yol).endsWith(uzanti, Qt::CaseInsensitive)) return yol;
+  *yol += Utf8(uzanti);
+  const bool var = QFileInfo::exists(Yazi(*yol));
+  if (var && !baglam.bildirim.Soru(*yol + "\nBu dosya var. Üzerine yazılsın mı?")) return std::nullopt;
   return yol;
+}
+
+void YeriniSoyle(EkranBaglami& baglam, const std::string& yol) {
+  baglam.bildirim.Bilgi("Dosya kaydedildi:\n" + yol);
+}
+
+void YeriniSoyleVeAc(EkranBaglami& baglam, const std::string& yol) {
+  if (!baglam.baski.dosyaAc) return YeriniSoyle(baglam, yol);
+  if (!baglam.bildirim.Soru("Dosya kaydedildi:\n" + yol + "\nAçılsın mı?")) return;
+  if (!baglam.baski.dosyaAc(yol)) baglam.bildirim.Uyari("Bu dosyayı açacak bir program yok:\n" + yol);
+}
+
+// Of a file that is open in its program already: no box in front of that.
+void YeriniYaz(EkranBaglami& baglam, const std::string& yol) {
+  if (auto* pencere = qobject_cast<QMainWindow*>(baglam.gosterici.ModalUst()))
+    pencere->statusBar()->showMessage("Açılan tablo: " + Yazi(yol) + " (saklamak için başka bir yere kaydediniz)",
+                                      YerSozuSuresi);
 }
 
 // True when the file is written; else it was told why not.
@@ -56,7 +86,7 @@ bool Yazdir(EkranBaglami& baglam, const Belge& belge) {
 }
 
 bool PdfKaydet(EkranBaglami& baglam, const Belge& belge) {
-  const auto yol = DosyaSor(baglam, belge.Baslik(), PdfFiltresi, ".pdf");
+  const auto yol = DosyaSor(baglam, SirketliAd(baglam, belge.DosyaBasligi()), PdfFiltresi, ".pdf");
   if (!yol) return false;
   const auto yapilan = UzunIs(baglam, QStringLiteral("PDF hazırlanıyor…"),
                               [&](Ilerleme& ilerleme) { return BelgePdf(belge, &ilerleme); });
@@ -65,16 +95,18 @@ bool PdfKaydet(EkranBaglami& baglam, const Belge& belge) {
   if (!pdf) baglam.bildirim.Uyari(pdf.KusurMetni());
   if (!pdf || pdf->baytlar.empty() || !Kaydet(baglam, *yol, pdf->baytlar)) return false;
   if (!pdf->uyari.empty()) baglam.bildirim.Uyari(pdf->uyari);
+  YeriniSoyleVeAc(baglam, *yol);
   return true;
 }
 
 bool MetinKaydet(EkranBaglami& baglam, const Belge& belge) {
-  const auto yol = DosyaSor(baglam, belge.Baslik(), MetinFiltresi, ".prn");
+  const auto yol = DosyaSor(baglam, SirketliAd(baglam, belge.DosyaBasligi()), MetinFiltresi, ".prn");
   if (!yol) return false;
   const auto baytlar = UzunIs(baglam, QStringLiteral("Dosya hazırlanıyor…"),
                               [&](Ilerleme& ilerleme) { return BelgeHam(belge, &ilerleme); });
   if (!baytlar || !Kaydet(baglam, *yol, *baytlar)) return false;
   if (const std::string uyari = belge.MetinUyarisi(); !uyari.empty()) baglam.bildirim.Uyari(uyari);
+  YeriniSoyle(baglam, *yol);  // bytes for a printer: nothing to open them with
   return true;
 }
 
@@ -137,23 +169,29 @@ void BelgeExceleGonder(EkranBaglami& baglam, const Belge& belge) {
       UzunIs(baglam, QStringLiteral("Tablo hazırlanıyor…"), [&](Ilerleme& ilerleme) { return belge.Xlsx(&ilerleme); });
   if (!baytlar) return;
   if (!*baytlar) return baglam.bildirim.Uyari(baytlar->KusurMetni());
-  TabloyuAc(baglam, belge.Baslik(), **baytlar);
+  TabloyuAc(baglam, belge.DosyaBasligi(), **baytlar);
 }
 
 void TabloyuAc(EkranBaglami& baglam, const std::string& ad, const std::string& baytlar) {
+  const std::string tamAd = SirketliAd(baglam, ad);
+  bool acildi = true;
   excelkont excel({.ac = baglam.baski.dosyaAc, .yolSor = [&] {
+                     acildi = false;
                      baglam.bildirim.Uyari(ExcelYok);
-                     return DosyaSor(baglam, ad, XlsxFiltresi, ".xlsx");
+                     return DosyaSor(baglam, tamAd, XlsxFiltresi, ".xlsx");
                    }});
-  excel.Baslik = ad;
+  excel.Baslik = tamAd;
   excel.HazirKitap(baytlar);
-  if (const Durum verildi = excel.CloseExcell(); !verildi) baglam.bildirim.Uyari(verildi.KusurMetni());
+  if (const Durum verildi = excel.CloseExcell(); !verildi) return baglam.bildirim.Uyari(verildi.KusurMetni());
+  if (excel.Dosya().empty()) return;
+  acildi ? YeriniYaz(baglam, excel.Dosya()) : YeriniSoyle(baglam, excel.Dosya());
 }
 
 void BelgeEkranaListele(EkranBaglami& baglam, const std::shared_ptr<Belge>& belge) {
   const auto tablo = belge->Tablo();
   if (tablo == nullptr) return baglam.bildirim.Bilgi("Bu Liste Sadece Yazıcıdan Alınabilir.");
-  const PerekrIslevleri islevler{.yazdir = [&baglam, belge] { BelgeBas(baglam, *belge); },
+  const PerekrIslevleri islevler{.sirala = [belge](const std::vector<int>& sira) { belge->Sirala(sira); },
+                                 .yazdir = [&baglam, belge] { BelgeBas(baglam, *belge); },
                                  .excel = [&baglam, belge] { BelgeExceleGonder(baglam, *belge); }};
   FormGoster(baglam, std::make_unique<perekr>(baglam, tablo, islevler));
 }

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "ui/ekran.h"
 
@@ -24,8 +25,11 @@ void BelgeBas(EkranBaglami& baglam, Belge& belge, const BasimSozu& once);
 // Prints by the settings that the document has already, without asking again; where that fails, the dialog comes up.
 void BelgeBasAyarli(EkranBaglami& baglam, Belge& belge);
 
-// " Excel'e Gönder": writes the workbook and opens it in the user's spreadsheet program. Without such a program the
-// user is told so and chooses where the file goes.
+// Files are named by company, paper and month. What lies there already is replaced after a question only; where a file
+// went is told, with the question whether to open it.
+
+// " Excel'e Gönder": writes the workbook and opens it in the user's spreadsheet program; the line at the foot of the
+// main window says where it lies. Without such a program the user is told so and chooses where the file goes.
 void BelgeExceleGonder(EkranBaglami& baglam, const Belge& belge);
 
 // The same for the bytes of a workbook; `ad` names its file.

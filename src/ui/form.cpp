@@ -10,6 +10,7 @@
 
 #include "core/turkce.h"
 #include "ui/dclist.h"
+#include "ui/listeciktisi.h"
 #include "ui/metin.h"
 #include "ui/simge.h"
 #include "ui/xtext.h"
@@ -360,6 +361,7 @@ void Form::OdakVer(AlanTutamagi alan) {
 void Form::showEvent(QShowEvent* olay) {
   QWidget::showEvent(olay);
   if (std::exchange(acildi_, true)) return;
+  for (dclist* liste : findChildren<dclist*>()) ListeCiktisiBagla(baglam_, *liste, [this] { return windowTitle(); });
   if (ilkOdak_ != nullptr) return ilkOdak_->setFocus(Qt::TabFocusReason);
   if (focusWidget() == nullptr || focusWidget() == this) IlkAlanaGit();
 }

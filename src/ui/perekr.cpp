@@ -67,12 +67,26 @@ QLayout* perekr::AramaSatiri() {
   return satir;
 }
 
+std::vector<int> perekr::GosterilenSira() const {
+  std::vector<int> sira;
+  for (int yer = 0; yer < int(Belgesi().Satirlar().size()); ++yer) sira.push_back(xgrid1_->Model().YerdekiKayit(yer));
+  return sira;
+}
+
 void perekr::TuslariBagla(const PerekrIslevleri& islevler) {
-  xgrid1_->YazdirIslevi = islevler.yazdir;
-  xgrid1_->ExcelIslevi = islevler.excel;
+  const auto siraliyla = [this, sirala = islevler.sirala](const std::function<void()>& islev) {
+    return [this, sirala, islev] {
+      sirala(GosterilenSira());
+      islev();
+    };
+  };
+  const auto yazdir = siraliyla(islevler.yazdir);
+  const auto excel = siraliyla(islevler.excel);
+  xgrid1_->YazdirIslevi = yazdir;
+  xgrid1_->ExcelIslevi = excel;
   Komutlar(
-      {{.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır", .simge = "yazici", .islev = islevler.yazdir},
-       {.tus = Qt::Key_F9, .dugme = " Excel'e Gönder", .simge = "tablo", .islev = islevler.excel},
+      {{.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır", .simge = "yazici", .islev = yazdir},
+       {.tus = Qt::Key_F9, .dugme = " Excel'e Gönder", .simge = "tablo", .islev = excel},
        {.tus = Qt::CTRL | Qt::Key_F, .ipucu = "Bul", .islev = [this] { xgrid1_->AramayaGit(); }},
        {.tus = Qt::Key_F3, .ipucu = "Sonraki", .islev = [this] { xgrid1_->SonrakiniBul(xgrid::Yon::Ileri); }},
        {.tus = Qt::CTRL | Qt::Key_S, .ipucu = "Sırala", .islev = [this] { xgrid1_->Sirala(xgrid1_->CurrentColon()); }},

@@ -12,6 +12,8 @@ namespace belvani {
 
 // Bound by the writer of the report.
 struct PerekrIslevleri {
+  // Before each of the next two: the rows of the report in the order in which they are shown.
+  std::function<void(const std::vector<int>& sira)> sirala = [](const std::vector<int>&) {};
   std::function<void()> yazdir = [] {};  // " Yazıcıya Yazdır"
   std::function<void()> excel = [] {};   // " Excel'e Gönder"
 };
@@ -28,6 +30,7 @@ class perekr : public Form {
  private:
   QWidget* UstSatirlar();
   QLayout* AramaSatiri();
+  std::vector<int> GosterilenSira() const;
   void TuslariBagla(const PerekrIslevleri& islevler);
 
   xgrid* xgrid1_;

@@ -85,7 +85,10 @@ TEST(Basim, PreviewAndPdf) {
                 pdfBas();
               }});
   BelgeBas(ortam.ekran, *belge);
-  EXPECT_THAT(DosyaOku(ortam.dizin.Yol() + "liste.pdf").value_or(""), StartsWith("%PDF"));
+  const std::string pdf = ortam.dizin.Yol() + "liste.pdf";
+  EXPECT_THAT(DosyaOku(pdf).value_or(""), StartsWith("%PDF"));
+  EXPECT_THAT(ortam.acilanlar, ElementsAre(pdf));
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Soru: Dosya kaydedildi:\n" + pdf + "\nAçılsın mı?"));
   EXPECT_TRUE(ortam.kuyruk.isler.empty());
 }
 
@@ -111,8 +114,38 @@ TEST(Basim, TextPathAndNoPrinter) {
               }});
   BelgeBas(ortam.ekran, *belge);
   EXPECT_THAT(DosyaOku(ortam.dizin.Yol() + "liste.prn").value_or(""), HasSubstr("\r\nI\x9F\x8Dl "));
-  BelgeBas(ortam.ekran, *Liste(0));
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: Dosya kaydedildi:\n" + ortam.dizin.Yol() + "liste.prn"));
+  BelgeBas(ortam.ekran, *std::make_shared<RaporBelgesi>(Rapor({})));
   EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Bilgi: Basılacak kayıt yok"));
+}
+
+// The extension that is put behind a name may lead to a file that is there: it is replaced after a question only.
+TEST(Basim, NothingIsReplacedUnasked) {
+  EkranOrtami ortam;
+  const std::string yol = ortam.dizin.Yol() + "liste.xlsx";
+  ASSERT_TRUE(DosyaYaz(yol, "benim"));
+  ortam.dosyaAcilir = false;
+  ortam.dialoglar.dosya = ortam.dizin.Yol() + "liste";
+  ortam.bildirim.cevap = false;
+  BelgeExceleGonder(ortam.ekran, *Liste());
+  EXPECT_EQ(DosyaOku(yol), "benim");
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Uyarı: Excell Yüklü Değil veya Desteklenmeyen Versiyon",
+                                               "Soru: " + yol + "\nBu dosya var. Üzerine yazılsın mı?"));
+}
+
+// The list on the screen goes to paper and spreadsheet in the order in which it stands.
+TEST(Basim, ASortedGridPrintsAsItStands) {
+  EkranOrtami ortam;
+  Rapor rapor({{.baslik = "Adı", .kisaBaslik = "Adı", .en = 10}});
+  for (const char* ad : {"Çınar", "Ali", "Işıl"}) rapor.Ekle({{std::string(ad)}});
+  const auto belge = std::make_shared<RaporBelgesi>(std::move(rapor));
+  BelgeEkranaListele(ortam.ekran, belge);
+  auto& izleme = dynamic_cast<perekr&>(*ortam.gosterici.formlar.back());
+  izleme.Xgrid1().Sirala(0);
+  izleme.Xgrid1().yazexcell();
+  ASSERT_EQ(ortam.acilanlar.size(), 1u);
+  std::filesystem::remove_all(std::filesystem::path(ortam.acilanlar[0]).parent_path());
+  EXPECT_THAT(belge->Metin(), HasSubstr("Ali\nÇınar\nIşıl\n"));
 }
 
 // What changes nothing on the paper is off and closed.
@@ -143,13 +176,14 @@ TEST(Basim, ASpreadsheetOpensOrTheFileStays) {
   EkranOrtami ortam;
   BelgeExceleGonder(ortam.ekran, *Liste());
   ASSERT_EQ(ortam.acilanlar.size(), 1u);
-  EXPECT_THAT(ortam.acilanlar[0], testing::EndsWith("/LİSTE.xlsx"));
+  EXPECT_THAT(ortam.acilanlar[0], testing::EndsWith(" LİSTE.xlsx"));
   EXPECT_THAT(DosyaOku(ortam.acilanlar[0]).value_or(""), StartsWith("PK"));
   std::filesystem::remove_all(std::filesystem::path(ortam.acilanlar[0]).parent_path());
   ortam.dosyaAcilir = false;
   ortam.dialoglar.dosya = ortam.dizin.Yol() + "liste.xlsx";
   BelgeExceleGonder(ortam.ekran, *Liste());
-  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Uyarı: Excell Yüklü Değil veya Desteklenmeyen Versiyon"));
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre("Uyarı: Excell Yüklü Değil veya Desteklenmeyen Versiyon",
+                                               "Bilgi: Dosya kaydedildi:\n" + *ortam.dialoglar.dosya));
   EXPECT_THAT(DosyaOku(*ortam.dialoglar.dosya).value_or(""), StartsWith("PK"));
 }
 

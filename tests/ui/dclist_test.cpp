@@ -1,7 +1,13 @@
 #include "ui/dclist.h"
 
+#include <QAction>
+#include <filesystem>
+#include <gmock/gmock.h>
+
 #include "core/saat.h"
 #include "ekran/ortam.h"
+#include "printing/rapor.h"
+#include "ui/listeciktisi.h"
 
 namespace belvani::test {
 namespace {
@@ -109,6 +115,39 @@ TEST(Dclist, SortsAndFiltersByTheTurkishAlphabet) {
   EXPECT_EQ(l.liste.CurSat(), 0);
   l.liste.Filtrele("");
   EXPECT_EQ(l.liste.Model().rowCount(), 6);
+}
+
+// A list goes out as it stands: its order, its filter, its visible columns, values as values.
+TEST(Dclist, GoesToTheSpreadsheetAsItStands) {
+  EkranOrtami ortam;
+  Liste l;
+  for (const auto& [kod, tutar] : {std::pair("b", "1,234.50"), {"a", "2.00"}, {"x", "9.00"}}) {
+    const int satir = l.liste.Add();
+    l.liste.TextByName(satir, "kod", kod);
+    l.liste.TextByName(satir, "tarih", "11.07.2009");
+    l.liste.TextByName(satir, "adi", QString(kod) == "x" ? "yok" : "var");
+    l.liste.TextByName(satir, "tutar", tutar);
+  }
+  l.liste.Gizle("adi");
+  l.liste.Model().Sirala(0, Qt::AscendingOrder);
+  l.liste.ChngSat(0);
+  const Rapor rapor = ListeRaporu(l.liste, "Liste");
+  EXPECT_EQ(rapor.Kolonlar().size(), 4u);
+  ASSERT_EQ(rapor.Satirlar().size(), 3u);
+  EXPECT_EQ(rapor.Satirlar()[0].hucreler[0], Hucre(std::string("a")));
+  EXPECT_EQ(rapor.Satirlar()[1].hucreler[1], Hucre(Tarih(2009, 7, 11)));
+  EXPECT_EQ(rapor.Satirlar()[1].hucreler[2], Hucre(Tutar(1234.5)));
+  for (int kez = 0; kez < 2; ++kez) ListeCiktisiBagla(ortam.ekran, l.liste, [] { return QStringLiteral("Liste"); });
+  ASSERT_EQ(l.liste.actions().size(), 2) << "both commands once";
+  l.alinir = false;
+  l.liste.Model().Degisti(0, true);
+  l.liste.actions()[1]->trigger();
+  EXPECT_TRUE(ortam.acilanlar.empty()) << "a row that cannot be saved";
+  l.alinir = true;
+  l.liste.actions()[1]->trigger();
+  ASSERT_EQ(ortam.acilanlar.size(), 1u);
+  EXPECT_THAT(ortam.acilanlar[0], testing::EndsWith(" Liste.xlsx"));
+  std::filesystem::remove_all(std::filesystem::path(ortam.acilanlar[0]).parent_path());
 }
 
 }  // namespace
