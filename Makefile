@@ -6,7 +6,9 @@ CLI = build/$(PRESET)/src/cli/belvani-cli
 MASAUSTU = build/$(PRESET)/src/app/belvani
 RESIMLER = build/$(PRESET)/src/app/belvani-resimler
 
-.PHONY: screenshots run test altin maymun bench lint fuzz deps asan clean
+PREFIX ?= /usr/local
+
+.PHONY: screenshots run test altin maymun bench lint fuzz deps asan install clean
 
 # The main job on the sample company. With a display: the desktop opens on it. Without one: it is made in a scratch data
 # path, all its months are prepared, and the last ledger is printed.
@@ -50,6 +52,13 @@ maymun: deps
 # The same tests under the address and undefined-behaviour sanitizers.
 asan:
 	$(MAKE) test PRESET=asan-ubsan
+
+# Programs, data, entry of the desktop's menu and icon below PREFIX; DESTDIR goes in front of it, for packages. The
+# programs look for their data where PREFIX says.
+install: deps
+	cmake -S . -B build/kurulum -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=$(PREFIX) -DBELVANI_TESTLER=OFF
+	cmake --build build/kurulum -j $(JOBS)
+	cmake --install build/kurulum
 
 bench: deps
 	cmake --preset release
