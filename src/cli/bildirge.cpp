@@ -216,7 +216,7 @@ void ExcelDosyasi(const Is& is) {
   is.KagitKosullari(AylikBildirge::Cikti::Tablo);
   auto sablon = TabloSablonu(is.oturum);
   auto tablo = BildirgeTablosuYap(std::move(Degeri(sablon)), is.Kagit());
-  is.Ver(Degeri(tablo).baytlar, tablo->uyari);
+  Yaz(Degeri(tablo), is.dosya);
 }
 
 enum class Ekran { Olur, Olmaz };

@@ -10,6 +10,7 @@
 #include "core/veriyolu.h"
 #include "declarations/bildirgekagidi.h"
 #include "declarations/bildirgesorgu.h"
+#include "declarations/bildirgetablosu.h"
 #include "payroll/parametre/mevzuatdenetimi.h"
 
 namespace belvani {
@@ -225,6 +226,29 @@ Sonuc<AylikBildirge::Karar> AylikBildirge::BildirgeKontrol() {
   return Karar::Devam;
 }
 
+// The spreadsheet parts wage and bonus; where the bonus has filled the base, a wage below zero would go to the
+// institution.
+void AylikBildirge::EksiUcretleriSoyle() {
+  Kusurlar eksiler;
+  int sira = 0;
+  for (const auto& satir : bildirge_.satirlar) {
+    ++sira;
+    const Tutar ucret = KazanciBol(satir).ucret;
+    if (ucret >= Tutar()) continue;
+    eksiler.push_back({.metin = SatirSahibi(satir) + ": Excel formunda ücret eksi (" +
+                                KagitTutari(ucret, o_.firma.paraonda) + "), ikramiye kazançtan çok",
+                       .alan = KaynakAlani("primkazanc"),
+                       .kod = satir.kod,
+                       .satir = sira,
+                       .derece = Derece::Uyari});
+  }
+  if (eksiler.empty()) return;
+  std::string metin = "Excel formunda ücreti eksi olanlar var:";
+  for (const Kusur& eksi : eksiler) metin += "\n" + eksi.metin;
+  bildirim_.Uyari(metin);
+  sorunlar_.insert(sorunlar_.end(), eksiler.begin(), eksiler.end());
+}
+
 Durum AylikBildirge::XmlKosullari() const {
   if (bildirge_.satirlar.empty()) return KuralKusuru(Hesaplatilmamis);
   if (bildirge_.secim.belgeTuru != 0) return KuralKusuru("Bildirgeyi  Tüm Sigorta Kolları İçin Hesaplatın");
@@ -271,7 +295,9 @@ Sonuc<AylikBildirge::CiktiKarari> AylikBildirge::KagitKosullari(Cikti cikti) {
     bildirim_.Bilgi("5 veya Daha Fazla Personel için E-Bildirge Kullanma Zorunluluğu Vardır..");
   const auto karar = BildirgeKontrol();
   if (!karar) return karar.Kusuru();
-  return *karar == Karar::Devam ? CiktiKarari::Bildirge : CiktiKarari::Yok;
+  if (*karar == Karar::Vazgecildi) return CiktiKarari::Yok;
+  if (cikti == Cikti::Tablo) EksiUcretleriSoyle();
+  return CiktiKarari::Bildirge;
 }
 
 }  // namespace belvani

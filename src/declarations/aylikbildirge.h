@@ -107,6 +107,7 @@ class AylikBildirge {
   void OranlariYukle();
   void AylikBildirgeHesapla(Ilerleme* ilerleme);
   Durum PrimleriHesapla();
+  void EksiUcretleriSoyle();
   bool SecimDegisti() const;
   bool MevzuatDegisti() const;
   template <class Is>

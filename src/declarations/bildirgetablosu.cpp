@@ -1,9 +1,13 @@
 #include "declarations/bildirgetablosu.h"
 
+#include <algorithm>
+
 #include "core/asama.h"
 #include "core/dosya.h"
 #include "core/turkce.h"
 #include "core/veridizini.h"
+#include "declarations/sablonyerleri.h"
+#include "isyeri/isyerinumarasi.h"
 #include "printing/excelkont.h"
 #include "printing/xlscevir.h"
 
@@ -15,7 +19,7 @@ constexpr int BelgeKolonu = 213;
 constexpr int SayacKolonu = 50;
 constexpr int IlkKisiSatiri = 101;
 constexpr int KisiSatirAdimi = 5;
-constexpr int ToplamSatiri = IlkKisiSatiri + TabloKisiSayisi * KisiSatirAdimi;
+constexpr int ToplamSatiri = IlkKisiSatiri + int(TabloKisiSayisi) * KisiSatirAdimi;
 constexpr const char* AracisizKod = "000";
 
 // Empties a cell.
@@ -54,14 +58,44 @@ void ExcelBosalt(excelkont& d) {
     for (const char* kolon : KisiKolonlari) KisiHucresi(d, kolon, satir, Bos);
 }
 
-void BelgeYaz(excelkont& d, const BildirgeKagidi& k) {
+// As an amount or a count; nothing on the sheets that do not have it.
+Hucre Yalniz(bool olan, Hucre deger) {
+  return olan ? std::move(deger) : Hucre(Bos);
+}
+
+void BelgeYaz(excelkont& d, const BildirgeKagidi& k, std::size_t sayfa, std::size_t sayfalar) {
   d.SetExcell(8, BelgeKolonu, std::int64_t(k.yil));
   d.SetExcell(12, BelgeKolonu, IkiHane(k.ay));
   d.SetExcell(18, BelgeKolonu, k.mahiyet == BelgeMahiyeti::Asil ? Hucre(std::string("X")) : Hucre(Bos));
   d.SetExcell(27, BelgeKolonu, Metin(k.belgeTuru));
   d.SetExcell(32, BelgeKolonu, Metin(k.kanun));
-  d.SetExcel("he40", std::int64_t(1));
-  d.SetExcel("he46", std::int64_t(1));
+  d.SetExcel("he40", std::int64_t(sayfa));
+  d.SetExcel("he46", std::int64_t(sayfalar));
+}
+
+// Digit by digit, as on the drawn form.
+void IsyeriNumarasiYaz(excelkont& d, const BildirgeKagidi& k) {
+  std::string haneler;
+  const auto ekle = [&](std::string deger, int hane) {
+    deger.resize(std::size_t(hane), ' ');
+    haneler += deger;
+  };
+  const Firma& f = k.firma;
+  ekle(f.sektor, 1);
+  ekle(f.meslek, 4);
+  ekle(f.sube, 4);
+  ekle(f.dosya, 7);
+  ekle(IlKodu(f), 3);
+  ekle(f.ilce, 2);
+  ekle(f.kontrol, 2);
+  ekle(k.arac.kod, 3);
+  int kolon = sablon::IlkNumaraKolonu;
+  std::size_t sira = 0;
+  for (const sablon::NumaraKutulari& grup : sablon::numaraKutulari) {
+    for (int i = 0; i < grup.basamak; ++i, kolon += sablon::BasamakEni)
+      d.SetExcell(sablon::NumaraSatiri, kolon, Metin(haneler.substr(sira++, 1)));
+    kolon += sablon::GrupArasi;
+  }
 }
 
 void TaraflariYaz(excelkont& d, const Firma& f, const Arac& a) {
@@ -91,28 +125,29 @@ void TaraflariYaz(excelkont& d, const Firma& f, const Arac& a) {
   for (const auto& [adres, deger] : hucreler) d.SetExcel(adres, Metin(deger));
 }
 
-void SayaclariYaz(excelkont& d, const BildirgeToplamlari& t) {
+// Of all sheets together; on the first alone.
+void SayaclariYaz(excelkont& d, const BildirgeToplamlari& t, bool ilk) {
   const Hucre sayaclar[] = {
       std::int64_t(t.sigortali),     std::int64_t(t.gun),        std::int64_t(t.giren), std::int64_t(t.ayrilan),
       std::int64_t(t.ucretliIzinli), std::int64_t(t.ucretliGun), t.ucretliKazanc};
   int satir = 61;
   for (const auto& sayac : sayaclar) {
-    d.SetExcell(satir, SayacKolonu, sayac);
+    d.SetExcell(satir, SayacKolonu, Yalniz(ilk, sayac));
     satir += 4;
   }
 }
 
-void BranslariYaz(excelkont& d, const BildirgeKagidi& k) {
+void BranslariYaz(excelkont& d, const BildirgeKagidi& k, bool ilk) {
   int satir = 65;
   for (const std::size_t sira : KagitBransSirasi) {
     const KagitBransi& brans = k.branslar[sira];
     const std::string no = std::to_string(satir);
-    d.SetExcel("em" + no, brans.matrah);
-    d.SetExcel("gn" + no, Oran(brans.oran));
-    d.SetExcel("hl" + no, brans.prim);
+    d.SetExcel("em" + no, Yalniz(ilk, brans.matrah));
+    d.SetExcel("gn" + no, Yalniz(ilk, Oran(brans.oran)));
+    d.SetExcel("hl" + no, Yalniz(ilk, brans.prim));
     satir += 4;
   }
-  d.SetExcel("hl85", k.genelToplam);
+  d.SetExcel("hl85", Yalniz(ilk, k.genelToplam));
 }
 
 void TarihYaz(excelkont& d, int satir, const char* gunKolonu, const char* ayKolonu, Tarih gun) {
@@ -121,19 +156,8 @@ void TarihYaz(excelkont& d, int satir, const char* gunKolonu, const char* ayKolo
   KisiHucresi(d, ayKolonu, satir, IkiHane(gun.Ay()));
 }
 
-// What of a person's base is wage and what bonus.
-struct KazancBolumu {
-  Tutar ucret;
-  Tutar ikramiye;
-};
-
-KazancBolumu KazanciBol(const BildirgeSatiri& s) {
-  const Tutar kazanc = s.primkazanc.value_or(Tutar());
-  const Tutar ikramiye = s.primdisi.value_or(Tutar());
-  return {.ucret = kazanc > Tutar() ? kazanc - ikramiye : Tutar(), .ikramiye = ikramiye > Tutar() ? ikramiye : Tutar()};
-}
-
-void KisiYaz(excelkont& d, int satir, const BildirgeSatiri& s, const KazancBolumu& kazanc) {
+void KisiYaz(excelkont& d, int satir, const BildirgeSatiri& s) {
+  const KazancBolumu kazanc = KazanciBol(s);
   KisiHucresi(d, "i", satir, Metin(s.tcno));
   KisiHucresi(d, "ap", satir, Metin(s.adi));
   KisiHucresi(d, "bn", satir, Metin(s.soyadi));
@@ -149,32 +173,104 @@ void KisiYaz(excelkont& d, int satir, const BildirgeSatiri& s, const KazancBolum
   KisiHucresi(d, "hz", satir, Kod(s.ciksebeb));
 }
 
-// Gives the number of people. The sums come last: where an eleventh person stands on their line, they are what counts.
-int KisileriYaz(excelkont& d, const BildirgeKagidi& k, Ilerleme* ilerleme) {
-  KazancBolumu toplam;
+// What a sheet has on its line of sums.
+struct TabloToplami {
   int kisi = 0;
-  Asama asama(ilerleme, k.satirlar.size());
-  for (const auto& s : k.satirlar) {
-    asama.Adim();
-    if (s.sigkol.value_or(0) <= 0) continue;
-    const KazancBolumu kazanc = KazanciBol(s);
-    KisiYaz(d, IlkKisiSatiri + kisi++ * KisiSatirAdimi, s, kazanc);
-    toplam.ucret += kazanc.ucret;
-    toplam.ikramiye += kazanc.ikramiye;
+  KazancBolumu kazanc;
+  int izinGunu = 0;
+  Tutar izinUcreti;
+
+  void Ekle(const BildirgeSatiri& s) {
+    const KazancBolumu bolum = KazanciBol(s);
+    ++kisi;
+    kazanc.ucret += bolum.ucret;
+    kazanc.ikramiye += bolum.ikramiye;
+    izinGunu += s.ui.value_or(0);
+    izinUcreti += s.uiucret.value_or(Tutar());
   }
-  KisiHucresi(d, "dc", ToplamSatiri, std::int64_t(k.toplamlar.sigortali));
-  KisiHucresi(d, "dj", ToplamSatiri, toplam.ucret);
-  KisiHucresi(d, "ea", ToplamSatiri, toplam.ikramiye);
-  KisiHucresi(d, "es", ToplamSatiri, std::int64_t(k.toplamlar.ucretliGun));
-  KisiHucresi(d, "fc", ToplamSatiri, k.toplamlar.ucretliKazanc);
-  return kisi;
+};
+
+void ToplamYaz(excelkont& d, const TabloToplami& t) {
+  KisiHucresi(d, "dc", ToplamSatiri, std::int64_t(t.kisi));
+  KisiHucresi(d, "dj", ToplamSatiri, t.kazanc.ucret);
+  KisiHucresi(d, "ea", ToplamSatiri, t.kazanc.ikramiye);
+  KisiHucresi(d, "es", ToplamSatiri, std::int64_t(t.izinGunu));
+  KisiHucresi(d, "fc", ToplamSatiri, t.izinUcreti);
 }
 
-std::string TasmaUyarisi(int kisi) {
-  if (kisi <= TabloKisiSayisi) return {};
-  return "Excel formunda " + std::to_string(TabloKisiSayisi) + " kişilik yer var, bildirgede " + std::to_string(kisi) +
-         " kişi var.\n11. kişi toplamların satırına, sonrakiler onun altına yazıldı.";
+// Rows without a document type are passed over.
+std::vector<BildirgeSatiri> YazilanKisiler(const BildirgeKagidi& k) {
+  std::vector<BildirgeSatiri> kisiler = k.satirlar;
+  std::erase_if(kisiler, [](const BildirgeSatiri& s) { return s.sigkol.value_or(0) <= 0; });
+  return kisiler;
 }
+
+std::string SayfaAdi(std::size_t no) {
+  return no == 1 ? std::string() : "Bildirge " + std::to_string(no);
+}
+
+// Fills the sheets of a form one after the other.
+class TabloDoldurucu {
+ public:
+  TabloDoldurucu(excelkont& d, const BildirgeKagidi& kagit, Ilerleme* ilerleme)
+      : d_(d),
+        k_(kagit),
+        kisiler_(YazilanKisiler(kagit)),
+        sayfalar_(std::max<std::size_t>(1, (kisiler_.size() + TabloKisiSayisi - 1) / TabloKisiSayisi)),
+        bizimForm_(d.AdVar(sablon::YerlerAdi)),
+        asama_(ilerleme, kisiler_.size()) {}
+
+  Durum Doldur() {
+    if (sayfalar_ > TabloSayfaSiniri)
+      return Kusur{"Bildirgede " + std::to_string(kisiler_.size()) + " kişi var; Excel formuna en çok " +
+                   std::to_string(TabloSayfaSiniri * TabloKisiSayisi) + " kişi yazılabilir. E-Bildirge hazırlayınız."};
+    for (std::size_t no = 2; no <= sayfalar_; ++no) d_.SayfaEkle(SayfaAdi(no));
+    for (std::size_t no = 1; no <= sayfalar_; ++no) Sayfa(no);
+    return Tamam();
+  }
+
+ private:
+  void Sayfa(std::size_t no) {
+    d_.SayfaSec(SayfaAdi(no));
+    ExcelBosalt(d_);
+    BelgeYaz(d_, k_, no, sayfalar_);
+    if (bizimForm_) IsyeriNumarasiYaz(d_, k_);
+    TaraflariYaz(d_, k_.firma, k_.arac);
+    SayaclariYaz(d_, k_.toplamlar, no == 1);
+    BranslariYaz(d_, k_, no == 1);
+    Kisiler(no);
+    d_.SetExcel("cg178", Metin(k_.muhasebeci.adsoyad));
+    d_.SetExcel("cg183", Metin(k_.muhasebeci.sicil));
+  }
+
+  // The last sheet has the sums of all of them, with the counters of the declaration.
+  void Kisiler(std::size_t no) {
+    const std::size_t ilk = (no - 1) * TabloKisiSayisi;
+    for (std::size_t i = 0; bizimForm_ && i < TabloKisiSayisi; ++i)
+      d_.SetExcell(IlkKisiSatiri + int(i) * KisiSatirAdimi, sablon::SiraKolonu, std::int64_t(ilk + i + 1));
+    TabloToplami sayfa;
+    for (std::size_t i = ilk; i < std::min(kisiler_.size(), ilk + TabloKisiSayisi); ++i) {
+      asama_.Adim();
+      const int satir = IlkKisiSatiri + int(i - ilk) * KisiSatirAdimi;
+      KisiYaz(d_, satir, kisiler_[i]);
+      sayfa.Ekle(kisiler_[i]);
+      tumu_.Ekle(kisiler_[i]);
+    }
+    if (no < sayfalar_) return ToplamYaz(d_, sayfa);
+    tumu_.kisi = k_.toplamlar.sigortali;
+    tumu_.izinGunu = k_.toplamlar.ucretliGun;
+    tumu_.izinUcreti = k_.toplamlar.ucretliKazanc;
+    ToplamYaz(d_, tumu_);
+  }
+
+  excelkont& d_;
+  const BildirgeKagidi& k_;
+  const std::vector<BildirgeSatiri> kisiler_;
+  const std::size_t sayfalar_;
+  const bool bizimForm_;
+  Asama asama_;
+  TabloToplami tumu_;
+};
 
 Sonuc<std::string> EskiSablon(const std::string& dosya, const std::string& donusturucu) {
   auto xlsx = XlsxeCevir(dosya, donusturucu);
@@ -185,21 +281,18 @@ Sonuc<std::string> EskiSablon(const std::string& dosya, const std::string& donus
 
 }  // namespace
 
-Sonuc<BildirgeTablosu> BildirgeTablosuYap(std::string sablon, const BildirgeKagidi& kagit, Ilerleme* ilerleme) {
-  if (kagit.satirlar.empty()) return BildirgeTablosu{std::move(sablon), {}};
+KazancBolumu KazanciBol(const BildirgeSatiri& s) {
+  const Tutar kazanc = s.primkazanc.value_or(Tutar());
+  const Tutar ikramiye = s.primdisi.value_or(Tutar());
+  return {.ucret = kazanc > Tutar() ? kazanc - ikramiye : Tutar(), .ikramiye = ikramiye > Tutar() ? ikramiye : Tutar()};
+}
+
+Sonuc<std::string> BildirgeTablosuYap(std::string sablon, const BildirgeKagidi& kagit, Ilerleme* ilerleme) {
+  if (kagit.satirlar.empty()) return sablon;
   excelkont d;
   if (const Durum acildi = d.KitapAc(std::move(sablon)); !acildi) return acildi.Kusuru();
-  ExcelBosalt(d);
-  BelgeYaz(d, kagit);
-  TaraflariYaz(d, kagit.firma, kagit.arac);
-  SayaclariYaz(d, kagit.toplamlar);
-  BranslariYaz(d, kagit);
-  const int kisi = KisileriYaz(d, kagit, ilerleme);
-  d.SetExcel("cg178", Metin(kagit.muhasebeci.adsoyad));
-  d.SetExcel("cg183", Metin(kagit.muhasebeci.sicil));
-  auto baytlar = d.Kitap();
-  if (!baytlar) return baytlar.Kusuru();
-  return BildirgeTablosu{std::move(*baytlar), TasmaUyarisi(kisi)};
+  if (const Durum doldu = TabloDoldurucu(d, kagit, ilerleme).Doldur(); !doldu) return doldu.Kusuru();
+  return d.Kitap();
 }
 
 Sonuc<std::string> TabloSablonu(const std::vector<std::string>& dizinler, const std::string& donusturucu) {

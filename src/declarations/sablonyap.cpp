@@ -1,18 +1,20 @@
 // belvani-sablon DOSYA: draws the spreadsheet form of the monthly declaration, which the program then fills
 // (bildirgetablosu.h), as data/sablon/aylik.xlsx is shipped.
 //
-// The sheet is a grid of small cells, 7 by 6 pixels; boxes are merged of them so that each address that is filled is
-// the upper left cell of a box. Equal runs give equal bytes.
+// The sheet is a grid of small cells, 12 by 11 pixels, which A4 holds at a third of its size, letters with it; boxes are
+// merged of them so that each address that is filled is the upper left cell of a box. Equal runs give equal bytes.
 #include <iostream>
 #include <string>
 #include <xlsxwriter.h>
+
+#include "declarations/sablonyerleri.h"
 
 namespace {
 
 constexpr int SonKolon = 245;
 constexpr int SonSatir = 190;
-constexpr int HucreEni = 7;        // pixels
-constexpr double HucreBoyu = 4.5;  // points
+constexpr int HucreEni = 12;       // pixels; narrower columns are not as wide in every program
+constexpr double HucreBoyu = 8.7;  // points
 constexpr int IlkKolon = 5;
 
 // Counted from 1, both ends inside.
@@ -23,7 +25,8 @@ struct Yer {
   int sonKolon = 0;
 };
 
-enum class Bicim { Baslik, Bolum, Etiket, SolEtiket, Cumle, Metin, OrtaMetin, Sayi, Tutar, Oran };
+// A Sayi and a Tutar show zero as nothing, a Sayac and a Toplam show it.
+enum class Bicim { Baslik, Bolum, Etiket, SolEtiket, Cumle, Metin, OrtaMetin, Sayi, Sayac, Tutar, Toplam, Oran };
 
 struct Taraf {
   int ilk, ikinci, son;
@@ -39,6 +42,8 @@ struct Kolon {
   int ustSon = 0;
 };
 constexpr int KisiSayisi = 10;
+constexpr int GunKolonu = 107;         // the first and the last that are added up
+constexpr int IzinUcretiKolonu = 172;  // ends here
 constexpr Kolon kolonlar[] = {
     {5, 8, 94, "Sı\nra", Bicim::OrtaMetin},
     {9, 41, 94, "T.C. Kimlik No", Bicim::Metin},
@@ -65,6 +70,10 @@ class Sablon {
 
   bool Yaz() {
     if (sayfa_ == nullptr) return false;
+    // Widths of columns are counted in digits of the first format's font: one that every system has, or its equal.
+    lxw_format* ilk = STAILQ_FIRST(kitap_->formats);
+    format_set_font_name(ilk, "Arial");
+    format_set_font_size(ilk, 10);
     SayfaDuzeni();
     Bas();
     Taraflar();
@@ -87,6 +96,7 @@ class Sablon {
     worksheet_set_margins(sayfa_, 0.3, 0.3, 0.3, 0.3);
     worksheet_center_horizontally(sayfa_);
     worksheet_fit_to_pages(sayfa_, 1, 1);
+    worksheet_set_zoom(sayfa_, 55);
     worksheet_print_area(sayfa_, 0, IlkKolon - 2, SonSatir - 1, SonKolon);
   }
 
@@ -100,13 +110,13 @@ class Sablon {
     lxw_format* stil = workbook_add_format(kitap_);
     const bool etiket = bicim <= Bicim::Cumle;
     format_set_font_name(stil, "Arial");
-    format_set_font_size(stil, etiket ? 8 : 10);
+    format_set_font_size(stil, etiket ? 12 : 15);
     format_set_border(stil, LXW_BORDER_THIN);
     format_set_align(stil, LXW_ALIGN_VERTICAL_CENTER);
     etiket ? format_set_text_wrap(stil) : format_set_shrink(stil);
     switch (bicim) {
       case Bicim::Baslik:
-        format_set_font_size(stil, 16);
+        format_set_font_size(stil, 26);
         [[fallthrough]];
       case Bicim::Bolum:
         format_set_bold(stil);
@@ -116,19 +126,29 @@ class Sablon {
         break;
       case Bicim::SolEtiket:
       case Bicim::Cumle:
+        format_set_indent(stil, 1);
         break;
       case Bicim::OrtaMetin:
         format_set_align(stil, LXW_ALIGN_CENTER);
-        [[fallthrough]];
+        format_set_num_format(stil, "@");
+        break;
       case Bicim::Metin:
+        format_set_indent(stil, 1);
         format_set_num_format(stil, "@");
         break;
       case Bicim::Sayi:
         format_set_align(stil, LXW_ALIGN_CENTER);
         format_set_num_format(stil, "0;-0;");
         break;
+      case Bicim::Sayac:
+        format_set_align(stil, LXW_ALIGN_CENTER);
+        format_set_num_format(stil, "0");
+        break;
       case Bicim::Tutar:
         format_set_num_format(stil, "#,##0.00;-#,##0.00;");
+        break;
+      case Bicim::Toplam:
+        format_set_num_format(stil, "#,##0.00");
         break;
       case Bicim::Oran:
         format_set_align(stil, LXW_ALIGN_CENTER);
@@ -167,28 +187,17 @@ class Sablon {
     IsyeriNumarasi();
   }
 
-  // Cells for the pen: the form has no addresses for them.
   void IsyeriNumarasi() {
-    constexpr struct {
-      const char* etiket;
-      int basamak;
-    } gruplar[] = {{"M", 1},
-                   {"İŞ KOLU", 4},
-                   {"ÜNİTE KODU YENİ", 2},
-                   {"ÜNİTE KODU ESKİ", 2},
-                   {"İŞYERİ SIRA NUMARASI", 7},
-                   {"İL KODU", 3},
-                   {"İLÇE KODU", 2},
-                   {"Kont. No", 2},
-                   {"ARACI", 3}};
-    constexpr int basamakEni = 5, ara = 5;
-    int kolon = 12;
-    for (const auto& g : gruplar) {
-      Kutu({8, kolon - 2, 12, kolon + g.basamak * basamakEni + 1}, Bicim::Etiket, g.etiket);
-      for (int i = 0; i < g.basamak; ++i, kolon += basamakEni)
-        Kutu({13, kolon, 17, kolon + basamakEni - 1}, Bicim::OrtaMetin);
-      kolon += ara;
+    using namespace belvani::sablon;
+    int kolon = IlkNumaraKolonu;
+    for (const NumaraKutulari& g : numaraKutulari) {
+      Kutu({8, kolon - 2, NumaraSatiri - 1, kolon + g.basamak * BasamakEni + 1}, Bicim::Etiket, g.etiket);
+      for (int i = 0; i < g.basamak; ++i, kolon += BasamakEni)
+        Kutu({NumaraSatiri, kolon, NumaraSatiri + 4, kolon + BasamakEni - 1}, Bicim::OrtaMetin);
+      kolon += GrupArasi;
     }
+    if (workbook_define_name(kitap_, YerlerAdi, "=Bildirge!$L$13") != LXW_NO_ERROR)
+      kusur_ = LXW_ERROR_PARAMETER_VALIDATION;
   }
 
   void Taraflar() {
@@ -229,13 +238,13 @@ class Sablon {
     constexpr struct {
       const char* etiket;
       Bicim bicim;
-    } sayaclar[] = {{"Sigortalı Sayısı", Bicim::Sayi},
-                    {"Prim Ödenen Gün Sayısı", Bicim::Sayi},
-                    {"Ay İçinde İşe Girenlerin Sayısı", Bicim::Sayi},
-                    {"Ay İçinde İşten Ayrılanların Sayısı", Bicim::Sayi},
-                    {"Ücretli İzinli Sayısı", Bicim::Sayi},
-                    {"Ücretli İzinli Gün Sayısı", Bicim::Sayi},
-                    {"Ücretli İzinli Kazancı", Bicim::Tutar}};
+    } sayaclar[] = {{"Sigortalı Sayısı", Bicim::Sayac},
+                    {"Prim Ödenen Gün Sayısı", Bicim::Sayac},
+                    {"Ay İçinde İşe Girenlerin Sayısı", Bicim::Sayac},
+                    {"Ay İçinde İşten Ayrılanların Sayısı", Bicim::Sayac},
+                    {"Ücretli İzinli Sayısı", Bicim::Sayac},
+                    {"Ücretli İzinli Gün Sayısı", Bicim::Sayac},
+                    {"Ücretli İzinli Kazancı", Bicim::Toplam}};
     int satir = 61;
     for (const auto& s : sayaclar) {
       Etiketli({satir, IlkKolon, satir + 3, 49}, s.etiket, 84, s.bicim);
@@ -250,12 +259,12 @@ class Sablon {
     for (const char* kol :
          {"KISA VADELİ SİGORTA KOLLARI (İŞ KAZASI VE MESLEK HASTALIĞI)", "MALULLÜK, YAŞLILIK VE ÖLÜM",
           "GENEL SAĞLIK SİGORTASI (HASTALIK)", "SOSYAL GÜVENLİK DESTEK PRİMİ", "İŞSİZLİK SİGORTASI"}) {
-      Etiketli({satir, kolX, satir + 3, matrahX - 1}, kol, oranX - 1, Bicim::Tutar);
+      Etiketli({satir, kolX, satir + 3, matrahX - 1}, kol, oranX - 1, Bicim::Toplam);
       Kutu({satir, oranX, satir + 3, primX - 1}, Bicim::Oran);
-      Kutu({satir, primX, satir + 3, SonKolon}, Bicim::Tutar);
+      Kutu({satir, primX, satir + 3, SonKolon}, Bicim::Toplam);
       satir += 4;
     }
-    Etiketli({satir, kolX, satir + 3, primX - 1}, "GENEL TOPLAM", SonKolon, Bicim::Tutar);
+    Etiketli({satir, kolX, satir + 3, primX - 1}, "GENEL TOPLAM", SonKolon, Bicim::Toplam);
   }
 
   void Sigortalilar() {
@@ -267,7 +276,8 @@ class Sablon {
     }
     for (int sira = 0; sira <= KisiSayisi; ++sira) {
       const int satir = 101 + 5 * sira;
-      for (const auto& k : kolonlar) Kutu({satir, k.ilk, satir + 4, k.son}, k.bicim, SatirMetni(k, sira).c_str());
+      for (const auto& k : kolonlar)
+        Kutu({satir, k.ilk, satir + 4, k.son}, SatirBicimi(k, sira), SatirMetni(k, sira).c_str());
     }
   }
 
@@ -286,6 +296,13 @@ class Sablon {
     Kutu({171, 195, 180, SonKolon}, Bicim::Metin);
     Kutu({181, 195, 188, 203}, Bicim::OrtaMetin);
     Kutu({181, 204, 188, SonKolon}, Bicim::SolEtiket, "RESEN DÜZENLENMİŞTİR");
+  }
+
+  // The line of the sums shows its zeros.
+  static Bicim SatirBicimi(const Kolon& kolon, int sira) {
+    const bool toplanir = sira == KisiSayisi && kolon.ilk >= GunKolonu && kolon.son <= IzinUcretiKolonu;
+    if (!toplanir) return kolon.bicim;
+    return kolon.bicim == Bicim::Sayi ? Bicim::Sayac : Bicim::Toplam;
   }
 
   // The eleventh line is that of the sums.

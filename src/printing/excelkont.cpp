@@ -41,6 +41,7 @@ std::string DosyaAdi(std::string_view baslik) {
 void excelkont::Birak() {
   hucreler_.clear();
   sablon_.reset();
+  sayfa_.clear();
   hazir_.reset();
   sablonAdi_.clear();
   kusur_.reset();
@@ -94,7 +95,7 @@ bool excelkont::SetExcell(int satir, int kolon, const Hucre& deger, ExcelYazisi 
   const std::string adres = satir < 1 || kolon < 1 ? "" : XlsxAdresi(satir - 1, kolon - 1);
   if (!XlsxYeriOku(adres))
     return KusuruTut(Kusur{"Sayfada satır " + std::to_string(satir) + ", kolon " + std::to_string(kolon) + " yok"});
-  if (sablon_) return KusuruTut(sablon_->Yaz("", adres, deger));
+  if (sablon_) return KusuruTut(sablon_->Yaz(sayfa_, adres, deger));
   hucreler_.insert_or_assign({satir, kolon}, YeniHucre{deger, yazi});
   return true;
 }

@@ -58,6 +58,12 @@ class excelkont {
   bool SetExcell(int satir, int kolon, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
   bool SetExcel(std::string_view adres, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
 
+  // Forms alone. A further sheet, as the first one is in the file; and the sheet that is filled from now on, "" the
+  // first.
+  bool SayfaEkle(const std::string& ad) { return sablon_ && KusuruTut(sablon_->SayfaKopyala("", ad)); }
+  void SayfaSec(std::string ad) { sayfa_ = std::move(ad); }
+  bool AdVar(std::string_view ad) const { return sablon_ && sablon_->AdVar(ad); }
+
   // The finished workbook, for one that is not handed over here; or the first failure.
   Sonuc<std::string> Kitap();
   // Writes the file into a new directory among the temporary ones and opens it in the user's program; without such a
@@ -85,6 +91,7 @@ class excelkont {
   std::optional<XlsxSablon> sablon_;
   std::optional<std::string> hazir_;
   std::string sablonAdi_;
+  std::string sayfa_;  // of the form
   std::optional<Kusur> kusur_;
   std::string dosya_;
   bool acik_ = false;

@@ -1,45 +1,16 @@
 #include "printing/xlsxsablon.h"
 
 #include <algorithm>
-#include <map>
-#include <vector>
 
 #include "core/sayi.h"
 #include "core/turkce.h"
 #include "printing/xlscevir.h"
-#include "printing/xlsxsayfa.h"
-#include "printing/zipdosya.h"
+#include "printing/xlsxsablonic.h"
 
 namespace belvani {
 namespace {
 
-constexpr const char* TurlerParcasi = "[Content_Types].xml";
 constexpr std::int32_t IlkGun = 61;  // 01.03.1900: earlier days have no number in a workbook
-
-struct SayfaYeri {
-  std::string ad;
-  std::string parca;
-};
-
-// Where a part lies that another one names: "worksheets/sheet1.xml" of "xl/workbook.xml" -> "xl/worksheets/sheet1.xml".
-std::string HedefParca(const std::string& kaynak, std::string_view hedef) {
-  if (hedef.starts_with('/')) return std::string(hedef.substr(1));
-  std::string dizin = kaynak.substr(0, kaynak.rfind('/') + 1);
-  for (; hedef.starts_with("../"); hedef.remove_prefix(3)) {
-    if (!dizin.empty()) dizin.pop_back();
-    dizin.erase(dizin.rfind('/') + 1);
-  }
-  return dizin + std::string(hedef);
-}
-
-std::string IliskiParcasi(const std::string& parca) {
-  const auto ayrac = parca.rfind('/') + 1;
-  return parca.substr(0, ayrac) + "_rels/" + parca.substr(ayrac) + ".rels";
-}
-
-bool TuruMu(pugi::xml_node iliski, std::string_view tur) {
-  return std::string_view(iliski.attribute("Type").value()).ends_with("/" + std::string(tur));
-}
 
 // Formats that a workbook knows by number alone.
 bool HazirTarihBicimi(int no) {
@@ -102,24 +73,24 @@ void SayiKoy(pugi::xml_node hucre, const std::string& sayi) {
 
 }  // namespace
 
-struct XlsxSablon::Ic {
-  explicit Ic(ZipDosyasi z) : zip(std::move(z)) {}
+std::string HedefParca(const std::string& kaynak, std::string_view hedef) {
+  if (hedef.starts_with('/')) return std::string(hedef.substr(1));
+  std::string dizin = kaynak.substr(0, kaynak.rfind('/') + 1);
+  for (; hedef.starts_with("../"); hedef.remove_prefix(3)) {
+    if (!dizin.empty()) dizin.pop_back();
+    dizin.erase(dizin.rfind('/') + 1);
+  }
+  return dizin + std::string(hedef);
+}
 
-  bool Oku();
-  void SayfalariOku(const std::string& iliskiler);
-  const SayfaYeri* SayfaBul(std::string_view ad) const;
-  XlsxSayfa* SayfaAc(const std::string& parca);
-  bool FormulVar() const;
-  void HesapSirasiniAt();
-  void AcilistaHesaplat();
-  void HucreYaz(pugi::xml_node hucre, const Hucre& deger) const;
+std::string IliskiParcasi(const std::string& parca) {
+  const auto ayrac = parca.rfind('/') + 1;
+  return parca.substr(0, ayrac) + "_rels/" + parca.substr(ayrac) + ".rels";
+}
 
-  ZipDosyasi zip;
-  std::string kitapParcasi;
-  std::vector<SayfaYeri> sayfalar;
-  std::vector<bool> tarihStilleri;
-  std::map<std::string, XlsxSayfa> acilan;  // by part
-};
+bool TuruMu(pugi::xml_node iliski, std::string_view tur) {
+  return std::string_view(iliski.attribute("Type").value()).ends_with("/" + std::string(tur));
+}
 
 bool XlsxSablon::Ic::Oku() {
   pugi::xml_document kok;

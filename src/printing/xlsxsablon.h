@@ -33,6 +33,12 @@ class XlsxSablon {
   // what is no address, and on a cell whose formula other cells share. A failure changes nothing.
   Durum Yaz(std::string_view sayfa, std::string_view adres, const Hucre& deger);
 
+  // A further sheet behind the last one, as `sayfa` ("" for the first) is in the file, whatever has been written into
+  // it since; with its print area and what it refers to. Fails where there is no such sheet, or one of the new name.
+  Durum SayfaKopyala(std::string_view sayfa, const std::string& yeniAd);
+  // The workbook has a name of its own for some of its cells.
+  bool AdVar(std::string_view ad) const;
+
   // The workbook as it is filled now.
   Sonuc<std::string> Bitir();
 

@@ -52,7 +52,7 @@ Durum BildirgeYazdir(EkranBaglami& baglam, AylikBildirge& bildirge) {
 Durum BildirgeExceleGonder(EkranBaglami& baglam, AylikBildirge& bildirge) {
   return KagitIle(baglam, bildirge, Cikti::Tablo, [&](const BildirgeKagidi& kagit) -> Durum {
     const auto yapilan =
-        UzunIs(baglam, QStringLiteral("Tablo hazırlanıyor…"), [&](Ilerleme& ilerleme) -> Sonuc<BildirgeTablosu> {
+        UzunIs(baglam, QStringLiteral("Tablo hazırlanıyor…"), [&](Ilerleme& ilerleme) -> Sonuc<std::string> {
           auto sablon = TabloSablonu(baglam.oturum);
           if (!sablon) return sablon.Kusuru();
           return BildirgeTablosuYap(std::move(*sablon), kagit, &ilerleme);
@@ -60,8 +60,7 @@ Durum BildirgeExceleGonder(EkranBaglami& baglam, AylikBildirge& bildirge) {
     if (!yapilan) return Tamam();
     const auto& tablo = *yapilan;
     if (!tablo) return tablo.Kusuru();
-    if (!tablo->uyari.empty()) baglam.bildirim.Uyari(tablo->uyari);
-    TabloyuAc(baglam, "aylik", tablo->baytlar);
+    TabloyuAc(baglam, "aylik", *tablo);
     return Tamam();
   });
 }
