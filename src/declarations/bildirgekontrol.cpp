@@ -3,6 +3,7 @@
 #include "core/sayi.h"
 #include "core/turkce.h"
 #include "isyeri/isyerinumarasi.h"
+#include "isyeri/numaradenetimi.h"
 #include "payroll/hazirlik/hazirlik.h"
 
 namespace belvani {
@@ -39,7 +40,10 @@ std::string IsyeriKusuru(const IsyeriBilgileri& isyeri, int yil) {
   if (HarfSayisi(isyeri.IsyeriUnvan) > UnvanHarfi) return "İşyeri Ünvanı 50 Harften Fazla olamaz.";
   if (const int kod = BastakiSayi(isyeri.KontrolNo); kod < 1 || kod > 99)
     return "Hatalı İşyeri Kontrol Kodu..  01 ile 99 arası olmalı";
-  if (HarfSayisi(isyeri.IsyeriSicil) != SicilHarfi) return "İşyeri Sicil Bilgisi 21 Karakter Olmalıdır";
+  if (HarfSayisi(isyeri.IsyeriSicil) != SicilHarfi) {
+    constexpr const char* kural = "İşyeri Sicil Bilgisi 21 Karakter Olmalıdır";
+    return isyeri.SicilKusuru.empty() ? kural : isyeri.SicilKusuru;
+  }
   return {};
 }
 
@@ -119,6 +123,7 @@ IsyeriBilgileri IsyeriniHazirla(const Firma& firma, const std::string& araciKodu
   return {
       .IsyeriSicil = Kirpik(firma.sektor) + Kirpik(firma.meslek) + Kirpik(firma.sube) + Kirpik(firma.dosya) +
                      IlKodu(firma) + Kirpik(firma.ilce),
+      .SicilKusuru = NumaraKusuru(firma),
       .KontrolNo = firma.kontrol,
       .AraciNo = araciKodu,
       .IsyeriUnvan = Kirpik(firma.unvan),

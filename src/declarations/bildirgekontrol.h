@@ -16,6 +16,7 @@ namespace belvani {
 // The employer as the declaration names him.
 struct IsyeriBilgileri {
   std::string IsyeriSicil;    // register number, 21 characters
+  std::string SicilKusuru;    // what is wrong with it, part by part
   std::string KontrolNo;      // its check digits
   std::string AraciNo;        // code of the subcontractor, "000" for none
   std::string IsyeriUnvan;    // at most 50 letters

@@ -201,7 +201,7 @@ double IsyeriSicili(FormKurucu& f, double y, const Firma& firma) {
     std::string_view etiket;
     int basamak;
   };
-  constexpr Kutular kutular[] = {{"Sektör", 1}, {"Meslek", 4}, {"Şube", 2}, {"Dosya", 7},
+  constexpr Kutular kutular[] = {{"Sektör", 1}, {"Meslek", 4}, {"Şube", 4}, {"Dosya", 7},
                                  {"İl", 3},     {"İlçe", 2},   {"Kont.", 2}};
   constexpr double boy = 12;
   f.Kutu({Sol, y, En, boy});

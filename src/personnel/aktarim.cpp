@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/store/koru.h"
+#include "core/tckimlik.h"
 #include "personnel/hucreler.h"
 #include "personnel/kayit.h"
 #include "personnel/tanimkodlari.h"
@@ -47,6 +48,15 @@ Sonuc<AktarimSonucu> Kaydet(Oturum& o, AktarimDosyasi& dosya, AktarimKipi kip, I
   });
 }
 
+void TcNoyaBak(const AktarimDosyasi& dosya, const AktarimSatiri& satir, AlanTutamagi alan, Kusurlar& uyarilar) {
+  if (std::string uyari = TcUyarisi(dosya.Metin(satir, alan.ad)); !uyari.empty())
+    uyarilar.push_back({.metin = std::move(uyari),
+                        .alan = alan,
+                        .kod = dosya.Metin(satir, "kod"),
+                        .satir = satir.satirNo,
+                        .derece = Derece::Uyari});
+}
+
 void GirisTarihiniDenetle(AktarimDosyasi& dosya, const AktarimSatiri& satir, bool yeni) {
   const int sira = dosya.KolonSirasi("girtar");
   const bool bos = sira < 0 || NullMu(satir.degerler[std::size_t(sira)]);
@@ -75,6 +85,7 @@ Durum PersonelleriYaz(Oturum& o, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
     const std::string kod = dosya.Metin(satir, "kod");
     const auto kart = kartlar.Bul(kod);
     GirisTarihiniDenetle(dosya, satir, !kart);
+    TcNoyaBak(dosya, satir, kimlik::tcno, sonuc.uyarilar);
     if (!dosya.sorunlar.empty()) continue;
     if (Durum d = Yaz(kartlar, kart, {}, dosya, satir); !d) return d;
     if (Durum d = Yaz(kimlikler, kimlikler.Bul(kod), YeniKimlik(kod), dosya, satir); !d) return d;
@@ -98,6 +109,7 @@ Durum AileYaz(Motor& motor, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
   }
   for (const auto& satir : dosya.satirlar) {
     if (Durum d = Yaz(aileler, {}, {}, dosya, satir); !d) return d;
+    TcNoyaBak(dosya, satir, esco::tcno, sonuc.uyarilar);
     ++sonuc.eklenen;
   }
   return Tamam();

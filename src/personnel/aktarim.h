@@ -17,7 +17,8 @@ struct AktarimSonucu {
   int eklenen = 0;
   int degisen = 0;
   Kusurlar sorunlar;  // not empty: nothing was saved
-  Kusurlar uyarilar;  // saved, but to be looked at: codes that the company does not define
+  // Saved, but to be looked at: codes that the company does not define, check digits of an identity number.
+  Kusurlar uyarilar;
 };
 
 // Fields of `sicil` and `kimlik`, key `kod`. A person who is known already is changed in the columns of the file alone;

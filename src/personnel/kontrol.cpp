@@ -4,6 +4,7 @@
 #include "core/store/satirlar.h"
 #include "core/tables/kimlik.h"
 #include "core/tables/sicil.h"
+#include "core/tckimlik.h"
 #include "core/turkce.h"
 #include "personnel/listeler.h"
 #include "personnel/tanimkodlari.h"
@@ -44,6 +45,7 @@ constexpr Kural<Kimlik> KimlikKurallari[] = {
     {[](const Kimlik& k) { return !SayiMi(k.tcno); }, "TC Kimlik No Rakamlardan Oluşmalı"},
     {[](const Kimlik& k) { return SayiMi(k.tcno) && HarfSayisi(k.tcno) != TcKimlikHanesi; },
      "TC Kimlik Nosu 11 Rakamdan Oluşmalı"},
+    {[](const Kimlik& k) { return !TcKontrolTutar(k.tcno); }, TcKontrolUyarisi},
     {[](const Kimlik& k) { return k.dogtar.Bos(); }, "Doğum Tarihi Yok"},
 };
 

@@ -102,7 +102,7 @@ TEST(IlkBordro, FromAnEmptyDataPathByKeysAlone) {
   o.MenudenAc("Özlük", "Eş ve Çocuk Bilgileri");
   o.Yaz("001\n");
   o.Bas(Qt::Key_Insert);
-  o.Yaz("12345678901\nGökçe\nÖzdemir\n\n\n05052005\n\n\n\n");
+  o.Yaz("10000000146\nGökçe\nÖzdemir\n\n\n05052005\n\n\n\n");
   o.Bas(Qt::Key_Escape);
   o.Bas(Qt::Key_Escape);
   EXPECT_EQ(o.bildirim.Al(), Iletiler{});

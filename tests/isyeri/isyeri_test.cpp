@@ -3,6 +3,7 @@
 
 #include "isyeri/firmaadresi.h"
 #include "isyeri/isyerinumarasi.h"
+#include "isyeri/numaradenetimi.h"
 #include "isyeri/taraflar.h"
 
 namespace belvani {
@@ -33,6 +34,24 @@ TEST(IsyeriNumarasi, GroupsInTextAndBoxes) {
   EXPECT_EQ(Deger(f.Sayfa(), "arac.kod"), "007");
   const FormAlani& son = f.Sayfa().alanlar.back();
   EXPECT_LE(son.yer.x + son.yer.en, 10 + IsyeriNumarasiEni);
+}
+
+TEST(IsyeriNumarasi, ThePartThatIsShortIsNamed) {
+  Firma firma;
+  EXPECT_FALSE(NumaraYazilmis(firma));
+  firma.sektor = "2";
+  firma.meslek = " 171 ";
+  firma.sube = "0101";
+  firma.dosya = "10345678";
+  firma.il = "34";  // its zero is added
+  EXPECT_TRUE(NumaraYazilmis(firma));
+  EXPECT_THAT(NumaraEksikleri(firma), ElementsAre("Meslek: 4 hane olmalı, 3 hane yazılı",
+                                                  "Dosya: 7 hane olmalı, 8 hane yazılı", "İlçe: 2 hane olmalı, boş"));
+  EXPECT_TRUE(NumaraKusuru(firma).starts_with("İşyeri Sicil Bilgisi 21 Karakter Olmalıdır\nMeslek"));
+  firma.meslek = "1721";
+  firma.dosya = "1034567";
+  firma.ilce = "12";
+  EXPECT_EQ(NumaraKusuru(firma), "");
 }
 
 TEST(Taraflar, TheOtherStandsInForAnEmptyOne) {

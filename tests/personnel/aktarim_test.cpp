@@ -49,6 +49,16 @@ TEST_F(Aktarim, OneFaultOrATrialWritesNothing) {
   EXPECT_TRUE(Hepsi<Kimlik>().empty());
 }
 
+// Check digits are told and never in the way.
+TEST_F(Aktarim, AWrongIdentityNumberIsTakenAndTold) {
+  const auto sonuc =
+      PersonelAktar(o, "kod,girtar,tcno\n1,01.01.2009,10000000146\n2,01.01.2009,10000000164\n", AktarimKipi::Kaydet);
+  ASSERT_EQ(sonuc->uyarilar.size(), 1u);
+  EXPECT_EQ(sonuc->uyarilar[0].metin, "TC Kimlik No Kontrol Basamakları Tutmuyor: 10000000164");
+  EXPECT_TRUE(sonuc->uyarilar[0].alan == kimlik::tcno && sonuc->uyarilar[0].satir == 3);
+  EXPECT_EQ(Hepsi<Kimlik>()[1].tcno, "10000000164");
+}
+
 TEST_F(Aktarim, TheFileIsTheWholeFamilyOfItsPeople) {
   Al("kod,girtar\n1,01.01.2009\n2,01.01.2009\n");
   ASSERT_TRUE(AileAktar(o, "kod,yakinlik,agiok\n1,1,1\n1,4,1\n2,1,0\n", AktarimKipi::Kaydet));

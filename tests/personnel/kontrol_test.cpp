@@ -16,7 +16,7 @@ struct Kontrol : test::SirketTesti {
     s.ucret = Tutar(1000);
     Kimlik k;
     k.kod = kod;
-    k.tcno = "12345678901";
+    k.tcno = "10000000146";
     k.dogtar = Tarih(1980, 1, 1);
     boz(s, k);
     Yaz(s);
@@ -65,7 +65,8 @@ TEST_F(Kontrol, TellsEveryFaultInOrder) {
     k.kod = "c";
     k.tcno = "1234567890";
   });
-  Kisi("ç", [](Sicil& s, Kimlik&) {
+  Kisi("ç", [](Sicil& s, Kimlik& k) {
+    k.tcno = "10000000147";
     s.sskdurum = 1;
     s.tahsisno = "12";
     s.ucrettipi = 2;
@@ -86,6 +87,7 @@ A Ali Veli: TC Kimlik No Rakamlardan Oluşmalı
 C Ali Veli: Çıkış Nedeni Kodu Yok
 C Ali Veli: TC Kimlik Nosu 11 Rakamdan Oluşmalı
 C Ali Veli: Doğum Tarihi Yok
+ç Ali Veli: TC Kimlik No Kontrol Basamakları Tutmuyor
 d  : SSK Sicil No Rakamlardan Oluşmalı
 d  : SSK Sicil No Bulunamadı
 d  : Giriş Tarihi Bulunamadı

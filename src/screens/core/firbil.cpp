@@ -1,5 +1,6 @@
 #include "screens/core/firbil.h"
 
+#include "isyeri/numaradenetimi.h"
 #include "payroll/parametre/parametreler.h"
 #include "ui/cakisma.h"
 
@@ -95,6 +96,10 @@ void firbil::Kaydet() {
   const auto kaydedilen =
       SorarakKaydet(Baglam(), *this, firma_, [this](const Okunan<Firma>& firma) { return durum_.KartKaydet(firma); });
   if (!kaydedilen && kaydedilen.Kusuru().cakisma) return;
+  // A number that was begun; the papers of a company without any stay without.
+  if (const std::string kusur = NumaraKusuru(firma_.simdi);
+      kaydedilen && !kusur.empty() && NumaraYazilmis(firma_.simdi))
+    Bildirimi().Uyari(kusur);
   Kapat();
 }
 

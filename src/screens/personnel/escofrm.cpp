@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "core/tckimlik.h"
 #include "personnel/aile.h"
 #include "personnel/kart.h"
 #include "ui/cakisma.h"
@@ -146,6 +147,7 @@ bool escofrm::SatirKaydet(int satir) {
   if (!yazilan) return false;
   SatiriGoster(satir, *yazilan);
   ZoomEfekt();
+  if (const std::string uyari = TcUyarisi(yazilan->tcno); !uyari.empty()) Bildirimi().Uyari(uyari);
   return true;
 }
 

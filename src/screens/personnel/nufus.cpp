@@ -1,5 +1,6 @@
 #include "screens/personnel/nufus.h"
 
+#include "core/tckimlik.h"
 #include "personnel/kimlik.h"
 #include "ui/cakisma.h"
 
@@ -78,6 +79,7 @@ void nufus::Kaydet() {
   Goster(*yazilan);
   KoddanBasla();
   ZoomEfekt();
+  if (const std::string uyari = TcUyarisi(yazilan->tcno); !uyari.empty()) Bildirimi().Uyari(uyari);
 }
 
 void nufus::Sil() {

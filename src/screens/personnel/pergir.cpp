@@ -5,6 +5,7 @@
 #include <QGroupBox>
 
 #include "core/dosya.h"
+#include "core/tckimlik.h"
 #include "ozluk/girisbildirgesi.h"
 #include "personnel/kart.h"
 #include "screens/personnel/pergiralanlar.h"
@@ -118,6 +119,7 @@ void pergir::Kaydet() {
   if (const auto simdiki = GirisBul(Oturumu(), form->sicil.kod, Tarih::Bugun())) KayitlariGoster(*simdiki);
   KoddanBasla();
   ZoomEfekt();
+  if (const std::string uyari = TcUyarisi(form->kimlik.tcno); !uyari.empty()) Bildirimi().Uyari(uyari);
 }
 
 // Asks for as long as another user's change stands against either record.

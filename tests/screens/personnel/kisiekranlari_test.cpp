@@ -35,7 +35,7 @@ TEST_F(KisiEkranlari, ARelativeIsAddedThenChangedInTheSameRecord) {
   EXPECT_EQ(AlanMetni(form, "adsoy"), "Işıl Öz");
   ASSERT_TRUE(liste.hasFocus());
   ortam.Bas(Qt::Key_Insert);
-  ortam.Yaz("12345678901\nEfe\nÖz\n4\n0\n\nBursa\nIhlamur Sk.\n1\n");  // no birth date
+  ortam.Yaz("10000000146\nEfe\nÖz\n4\n0\n\nBursa\nIhlamur Sk.\n1\n");  // no birth date
   auto aile = Aile("001");
   ASSERT_EQ(aile.size(), 1u);
   EXPECT_EQ(aile[0].yakinlik, 4);
@@ -108,7 +108,7 @@ TEST_F(KisiEkranlari, ARelativeWhomAnotherUserHasDeletedGoesFromTheList) {
 
 TEST_F(KisiEkranlari, IdentityIsSavedAndDeletedWithItsCard) {
   auto& form = ortam.Ac<nufus>();
-  ortam.Yaz("001\nA12\n12345678901\nK\n");
+  ortam.Yaz("001\nA12\n10000000146\nK\n");
   EXPECT_EQ(AlanMetni(form, "adsoy"), "Işıl Öz");
   EXPECT_EQ(AlanMetni(form, "uyruk"), "T.C.");
   ortam.Bas(Qt::Key_F5);
