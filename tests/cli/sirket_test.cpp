@@ -166,6 +166,16 @@ TEST(Sirket, EntriesComeFromAFile) {
   EXPECT_EQ(j[1]["borckes"], "10.00");
   EXPECT_EQ(j[2]["ng"], 12) << "who is not in the file follows the template";
 
+  s.Yaz("g.csv",
+        "kod,ng,ht,eksiksebebi,ucretsizizin,rapcalismadi,sskiscior,damgaveror\n002,20,3,7,8,1,10,7.5\n001,30,,,,,,\n");
+  s.Tamam("hazirla deneme --yil 2009 --ay 7 --giris @g.csv");
+  const auto oranli = s("bordro deneme --yil 2009 --ay 7 --bicim json").Json();
+  EXPECT_EQ(oranli[0]["sskiscior"], 14) << "an empty cell is no rate";
+  EXPECT_EQ(oranli[1]["sskiscior"], 10);
+  EXPECT_EQ(oranli[1]["damgaveror"], 7.5);
+  EXPECT_EQ(oranli[1]["ucretsizizin"], 8);
+  EXPECT_EQ(oranli[1]["rapcalismadi"], 1);
+
   s.Yaz("g.csv", "kod,ng,fm1,para\n001,31,241,1\n,5,-1,\n002,x,,\n");
   EXPECT_THAT(s.Hata("hazirla deneme --yil 2009 --ay 7 --giris @g.csv"),
               AllOf(HasSubstr("satır 1, para: giriş listesinde böyle bir alan olamaz"),

@@ -104,17 +104,10 @@ void BordroGirisi::SablonuYukle() {
   kosullar_.firma.sablon = yazilir ? SablonYukle(o_.FirmaDizini).deger : okunan.deger;
 }
 
-bool BordroGirisi::AyDegistir(int ay) {
-  if (!BirakilabilirMi()) return false;
+void BordroGirisi::AyDegistir(int ay) {
   EkranTemizle();
   kosullar_.donem.ay = ay;
   kosullar_.uygulama = UygulamaBul(kosullar_.yasal.kanunlar, ay, kosullar_.donem.yil);
-  return true;
-}
-
-bool BordroGirisi::BirakilabilirMi() {
-  return !Kaydedilmemis() ||
-         bildirim_.Soru(kod_ + " " + Baslik() + "\nBordrosu Kaydedilmedi, Girdikleriniz Bırakılsın mı ?");
 }
 
 bool BordroGirisi::MevzuatUygun() {
@@ -162,12 +155,10 @@ KodSonucu BordroGirisi::KodAl(std::string_view metin) {
   const std::string kod = BuyukHarf(Kirp(metin));
   if (kod.empty()) return KodSonucu::Bos;
   if (hal_ == Hal::KisiSecili && TurkceEsit(kod, kod_)) return KodSonucu::Yuklendi;
-  if (!BirakilabilirMi()) return KodSonucu::Birakilmadi;
   return Getir(kod, DonemDisiMetni::Gosterilir);
 }
 
 KodSonucu BordroGirisi::Git(Yon yon) {
-  if (!BirakilabilirMi()) return KodSonucu::Birakilmadi;
   // Before nobody stands the last one.
   const Yon nereye = kod_.empty() && yon == Yon::Onceki ? Yon::Son : yon;
   const auto kisi = Koru([&] { return Tablo<Sicil>(o_.depo.db.IcMotor()).Komsu(kod_, nereye); });

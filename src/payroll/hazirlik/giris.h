@@ -72,10 +72,9 @@ enum class PuantajKaynagi { ElIle, Sablondan, Puantajdan, Pdks };
 inline constexpr std::array<std::string_view, 4> PuantajKaynaklari{"El ile", "Şablondan", "Puantajdan", "P.D.K.S.'den"};
 
 enum class KodSonucu {
-  Bos,          // no code, or no further person in that direction: nothing has changed
-  Bilinmiyor,   // nobody has it, which is told; the screen is cleared
-  DonemDisi,    // the person does not belong to the period; the screen is cleared
-  Birakilmadi,  // the person who is there has unsaved entries, and the user keeps them
+  Bos,         // no code, or no further person in that direction: nothing has changed
+  Bilinmiyor,  // nobody has it, which is told; the screen is cleared
+  DonemDisi,   // the person does not belong to the period; the screen is cleared
   Yuklendi,
   Yuklenemedi,  // the store could not be read, the template is out of range, or there is no law; told
 };
@@ -140,13 +139,8 @@ class BordroGirisi {
   // For the session's period. Reads the template anew, and writes the built-in one where there is none; over a broken
   // one only when the user wants it. False: the company has no definitions or its store cannot be read, which is told.
   bool Ac();
-  // Another month of the year: the screen is cleared, the code stays. False: what is typed is not saved, and the user
-  // keeps it.
-  bool AyDegistir(int ay);
-  // Entries of the person have changed and are not saved.
-  bool Kaydedilmemis() const { return hal_ == Hal::KisiSecili && g_.giris != acilis_; }
-  // Asks before they are lost; true: they may go.
-  bool BirakilabilirMi();
+  // Another month of the year: the screen is cleared, the code stays.
+  void AyDegistir(int ay);
   // Asks about the installed law where it is not that of the month; false: nothing may be calculated with it. Asked
   // anew before people come up and before saving, for a colleague may have fetched another.
   bool MevzuatUygun();

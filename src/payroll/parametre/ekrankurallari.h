@@ -24,6 +24,10 @@ std::optional<Kusur> KanunSatiriKusuru(const KanunSatiri& satir);
 // The fault of its date `alan` ("bastar", "bittar") alone.
 Kusur KanunTarihiKusuru(std::string_view alan);
 
+// A branch whose number an earlier row has already, as the table would be saved: at its row, from 1. Which row a
+// person's branch is could not be told by its number.
+std::optional<Kusur> HesapTurleriKusuru(const HesapTurleri& turler);
+
 // Positions of the branches that the rate screen lists: those with a number, of the 32 that have rates.
 std::vector<int> OranliDallar(const HesapTurleri& turler);
 
@@ -31,5 +35,11 @@ std::vector<int> OranliDallar(const HesapTurleri& turler);
 inline constexpr std::array<std::string_view, YardimSayisi> TanimYardimAdlari{
     "Prim/İkramiye", "Yemek",        "Aile Yardımı", "Çocuk Yardımı",   "Doğum Yardımı",  "Evlilik Yardımı",
     "Giyim Yardımı", "Ölüm Yardımı", "Yolluk",       "İhbar/Kasa Taz.", "Kıdem Tazmınatı"};
+
+// Flags that a first payroll can be made with: earnings open, insured and taxed; allowances by their kind, as the law
+// of 5510 (article 80) and of income tax (articles 23 to 25) has them. What the company pays otherwise it sets itself.
+//   prim 15, yemek, aile and çocuk 31 (insured beyond their exemption), doğum, evlilik, ölüm, yolluk and kıdem 9 (stamp
+//   duty alone), giyim 15, ihbar 13 (not insured)
+KazancBayraklari OnerilenBayraklar();
 
 }  // namespace belvani

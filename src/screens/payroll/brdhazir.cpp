@@ -82,8 +82,7 @@ void brdhazir::UstSatirYap() {
   Govde()->addLayout(satir);
   Govde()->addLayout(kodSatiri);
   connect(ay_, &QComboBox::activated, this, [this](int sira) {
-    GirisiOku();
-    if (!giris_.AyDegistir(sira + 1)) return ay_->setCurrentIndex(giris_.Donem().ay - 1);
+    giris_.AyDegistir(sira + 1);
     BordroNoDoldur();
     simdiki_ = nullptr;
     degisen_.clear();
@@ -215,18 +214,13 @@ BordroAlani brdhazir::SimdikiAlan() const {
 bool brdhazir::KisiyiGetir() {
   const KodSonucu sonuc = giris_.KodAl(Utf8(YaziKutusu(bordroalani::kod).text()));
   if (sonuc == KodSonucu::Bos) return false;
-  if (sonuc == KodSonucu::Birakilmadi) {
-    YaziKutusu(bordroalani::kod).DegerKoy(giris_.Kod());
-    return true;
-  }
   degisen_.clear();
   Goster();
   return sonuc == KodSonucu::Yuklendi;
 }
 
 void brdhazir::Git(Yon yon) {
-  const KodSonucu sonuc = giris_.Git(yon);
-  if (sonuc == KodSonucu::Bos || sonuc == KodSonucu::Birakilmadi) return;
+  if (giris_.Git(yon) == KodSonucu::Bos) return;
   YaziKutusu(bordroalani::kod).DegerKoy(giris_.Kod());
   YaziKutusu(bordroalani::kod).selectAll();
   degisen_.clear();
@@ -381,9 +375,7 @@ void brdhazir::BordroNoDoldur() {
 }
 
 void brdhazir::TopluHazirla() {
-  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan)) return;
-  GirisiOku();
-  if (!giris_.BirakilabilirMi() || !giris_.MevzuatUygun()) return;
+  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan) || !giris_.MevzuatUygun()) return;
   const auto sonuc = UzunIs(Baglam(), QStringLiteral("Bordro hazırlanıyor…"),
                             [this](Ilerleme& ilerleme) { return giris_.SablondanHazirla(&ilerleme); });
   if (!sonuc) return;
@@ -429,11 +421,7 @@ void brdhazir::showEvent(QShowEvent* olay) {
 }
 
 void brdhazir::closeEvent(QCloseEvent* olay) {
-  if (acik_) {
-    GirisiOku();
-    if (!giris_.BirakilabilirMi()) return olay->ignore();
-    giris_.KapanisDenetimi();
-  }
+  if (acik_) giris_.KapanisDenetimi();
   Form::closeEvent(olay);
 }
 

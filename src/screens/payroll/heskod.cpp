@@ -1,6 +1,9 @@
 #include "screens/payroll/heskod.h"
 
+#include <QTimer>
+
 #include "core/turkce.h"
+#include "payroll/parametre/ekrankurallari.h"
 #include "screens/payroll/parametrealani.h"
 
 namespace belvani {
@@ -26,6 +29,11 @@ heskod::heskod(EkranBaglami& baglam, ParametreDeposu& parametreler)
   const auto yaz = [this](const auto& satirlar) {
     auto turler = Dizide<HesapTurleri>(satirlar);
     for (HesapTuru& tur : turler) tur.ack = Kirp(tur.ack);
+    if (const auto kusur = HesapTurleriKusuru(turler)) {
+      Bildir(*kusur);
+      QTimer::singleShot(0, &Liste(), [this, satir = kusur->satir - 1] { Liste().HucreyeGit(satir, "no"); });
+      return false;
+    }
     return YasalYazildi(HesapTurleriKaydet(Oturumu().DataPath, turler));
   };
   Ac(

@@ -37,13 +37,14 @@ kykm::kykm(EkranBaglami& baglam, ParametreDeposu& parametreler)
   gruplar_->GenisKolon("grup");
   gruplar_->setMinimumWidth(210);
   Yerlestir();
-  gruplar_->SatirSecildi = [this](int satir) { GrupGoster(Utf8(gruplar_->Text(satir, 0))); };
+  gruplar_->SatirSecildi = [this](int satir) { GrubaGec(Utf8(gruplar_->Text(satir, 0))); };
   // A new name keeps the flags on the screen: a new group starts as a copy.
   AnahtarBagla(kaztan::grup, [this](const std::string& ad) {
-    if (KazancGrubuVar(Parametreler().firma.Parametreler(), ad)) GrupGoster(ad);
+    if (KazancGrubuVar(Parametreler().firma.Parametreler(), ad)) GrubaGec(ad);
   });
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
-            {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }}});
+            {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }},
+            {.tus = Qt::Key_F9, .dugme = "Öneri", .simge = "degistir", .islev = [this] { OneriKoy(); }}});
   GruplariGoster(Oturumu().firma.ondeger);
   IlkOdak(gruplar_);
 }
@@ -71,8 +72,34 @@ void kykm::GruplariGoster(const std::string& secili) {
   if (gruplar_->FindByName("grup", Yazi(secili)) < 0) gruplar_->ChngSat(0);
 }
 
+bool kykm::Kaydedilmemis() const {
+  KazancBayraklari ekranda = bayraklar_;
+  kazanclar_->Al(ekranda.k);
+  yardimlar_->Al(ekranda.y);
+  return ekranda != bayraklar_;
+}
+
+// The user who stays finds list and name as they were.
+void kykm::GrubaGec(const std::string& grup) {
+  if (TurkceEsit(grup, gosterilen_) && !gosterilen_.empty()) return AnahtarKoy(grup);
+  if (Kaydedilmemis() && !Bildirimi().Soru(gosterilen_ + " Grubu\nİşaretler Kaydedilmedi, Bırakılsın mı ?")) {
+    AnahtarKoy(gosterilen_);
+    gruplar_->FindByName("grup", Yazi(gosterilen_));
+    return;
+  }
+  GrupGoster(grup);
+}
+
+void kykm::OneriKoy() {
+  const KazancBayraklari oneri = OnerilenBayraklar();
+  kazanclar_->Koy(oneri.k);
+  yardimlar_->Koy(oneri.y);
+  ZoomEfekt(QStringLiteral("Önerilen işaretler konuldu; F5 kaydeder"));
+}
+
 void kykm::GrupGoster(const std::string& grup) {
   AnahtarKoy(grup);
+  gosterilen_ = grup;
   bayraklar_ = KazancGrupYukle(Parametreler().firma.Parametreler(), grup);
   kazanclar_->Koy(bayraklar_.k);
   yardimlar_->Koy(bayraklar_.y);
@@ -84,6 +111,7 @@ void kykm::Kaydet() {
   const std::string grup = YazilanAnahtar();
   kazanclar_->Al(bayraklar_.k);
   yardimlar_->Al(bayraklar_.y);
+  gosterilen_.clear();  // what is stored comes up, whatever its name was here
   if (!Oldu(KazancGrubuKaydet(Tanimlar(), grup, bayraklar_))) return;
   ZoomEfekt();
   GruplariGoster(grup);
@@ -92,6 +120,7 @@ void kykm::Kaydet() {
 void kykm::Sil() {
   const int satir = gruplar_->CurSat();
   if (satir < 0 || !Silindi(KazancGrubuSil(Tanimlar(), Utf8(gruplar_->Text(satir, 0))))) return;
+  gosterilen_.clear();
   GruplariGoster(Oturumu().firma.ondeger);
   gruplar_->setFocus();
 }

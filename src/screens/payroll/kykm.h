@@ -1,5 +1,5 @@
 // kykm ("Kazanç, Yardım Tanımları"): for each group of people, which earnings and allowances are open for entry and
-// which bases they enter.
+// which bases they enter. "Öneri" puts sensible flags on the screen; nothing is saved before F5.
 #pragma once
 
 #include "screens/payroll/bayrakizgarasi.h"
@@ -15,6 +15,10 @@ class kykm : public ParametreEkrani {
   void Yerlestir();
   void GruplariGoster(const std::string& secili);
   void GrupGoster(const std::string& grup);
+  // Ticks that are not saved; asked about before another group comes up.
+  bool Kaydedilmemis() const;
+  void GrubaGec(const std::string& grup);
+  void OneriKoy();
   void Kaydet();
   void Sil();
 
@@ -22,6 +26,7 @@ class kykm : public ParametreEkrani {
   BayrakIzgarasi* kazanclar_;
   BayrakIzgarasi* yardimlar_;
   KazancBayraklari bayraklar_;  // of the group on the screen
+  std::string gosterilen_;      // its name
 };
 
 }  // namespace belvani

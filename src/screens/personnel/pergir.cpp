@@ -25,7 +25,7 @@ constexpr const char* AmblemDosyasi = "ssklogo.png";
 pergir::pergir(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : PersonelFormu(baglam, "pergir", QStringLiteral("Sigortalı İşe Giriş Formu")), parametreler_(parametreler) {
   Yerlestir();
-  SecenekleriKoy(Denetim(sicil::sskdurum), SigortaKollari(parametreler.yasal.hesapTurleri));
+  SigortaKollariniKoy(Denetim(sicil::sskdurum), parametreler.yasal.hesapTurleri);
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = " Kaydet ", .islev = [this] { Kaydet(); }},
             {.tus = Qt::Key_F8, .dugme = " Yazdır ", .simge = "yazici", .islev = [this] { Yazdir(); }}});
   PersonelKomutlari(sicil::kod);

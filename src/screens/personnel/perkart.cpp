@@ -5,7 +5,9 @@
 #include <QGridLayout>
 #include <QGroupBox>
 
+#include "payroll/hazirlik/tanimlar.h"
 #include "personnel/kart.h"
+#include "screens/personnel/kodrehberi.h"
 #include "screens/personnel/resimkutusu.h"
 #include "screens/personnel/sigortakollari.h"
 #include "ui/cakisma.h"
@@ -37,14 +39,15 @@ AlanGrubu TarihGrubu() {
 
 AlanGrubu KodGrubu() {
   return {"Gruplar",
-          {EtiketliAlan(sicil::grup), EtiketliAlan(sicil::tip), EtiketliAlan(sicil::ozel), EtiketliAlan(sicil::hesap),
-           EtiketliAlan(sicil::iskolu), EtiketliAlan(sicil::kanun, {.harf = 8})},
+          {EtiketliAlan(sicil::grup), EtiketliAlan(sicil::tip), EtiketliAlan(sicil::ozel),
+           EtiketliAlan(sicil::hesap, {.rehber = true}), EtiketliAlan(sicil::iskolu),
+           EtiketliAlan(sicil::kanun, {.harf = 8})},
           2};
 }
 
 AlanGrubu VergiGrubu() {
   return {"Vergi, Sendika, Emeklilik",
-          {EtiketliAlan(sicil::tasno, {.harf = 20}), EtiketliAlan(sicil::verda, {.harf = 20}),
+          {EtiketliAlan(sicil::tasno, {.harf = 20, .rehber = true}), EtiketliAlan(sicil::verda, {.harf = 20}),
            EtiketliAlan(sicil::verno, {.harf = 20}),
            EtiketliAlan(sicil::tahsisno, {.harf = 20, .ipucu = "Sadece Emeklilerde Kullanılacaktır"}),
            EtiketliAlan(sicil::sakatdrc, {.liste = SakatlikDereceleri, .harf = 14})}};
@@ -66,10 +69,12 @@ AlanGrubu BordroGrubu() {
 perkart::perkart(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : PersonelFormu(baglam, "perkart", QStringLiteral("Personel Kartları")), parametreler_(parametreler) {
   Yerlestir();
-  SecenekleriKoy(Denetim(sicil::sskdurum), SigortaKollari(parametreler.yasal.hesapTurleri));
+  SigortaKollariniKoy(Denetim(sicil::sskdurum), parametreler.yasal.hesapTurleri);
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
             {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }}});
   PersonelKomutlari(sicil::kod);
+  for (const AlanTutamagi alan : {AlanTutamagi(sicil::hesap), AlanTutamagi(sicil::tasno)})
+    RehberBagla(YaziKutusu(alan));
   Komutlar({{.tus = Qt::CTRL | Qt::Key_R, .ipucu = "Resim Ekle", .islev = [this] { ResimEkle(); }},
             {.tus = Qt::CTRL | Qt::SHIFT | Qt::Key_R, .ipucu = "Resim Sil", .islev = [this] { ResimSil(); }}});
   AlanDegisti = [this](AlanDenetimi& alan) {
@@ -113,6 +118,26 @@ QWidget* perkart::ResmiYap() {
   resim_->Sil = [this] { ResimSil(); };
   Izle(resim_);
   return kutu;
+}
+
+// Groups and unions are chosen from the company's own.
+bool perkart::AlanRehberi() {
+  const FirmaParametreleri& firma = parametreler_.firma.Parametreler();
+  std::vector<KodSecenegi> secenekler;
+  xtext* alan = qobject_cast<xtext*>(focusWidget());
+  if (alan == &YaziKutusu(sicil::hesap))
+    for (std::string& grup : KazancGruplari(firma)) secenekler.push_back({std::move(grup), ""});
+  else if (alan == &YaziKutusu(sicil::tasno))
+    for (const Sendika& s : firma.sendikalar) secenekler.push_back({s.kod, s.adi});
+  else
+    return false;
+  const auto baslik = alan == &YaziKutusu(sicil::hesap) ? "Hesap Grupları" : "Sendikalar";
+  if (const auto secilen = KodSec(Baglam(), baslik, secenekler, Utf8(alan->text()))) {
+    alan->selectAll();
+    alan->insert(Yazi(*secilen));
+  }
+  alan->setFocus();
+  return true;
 }
 
 bool perkart::Bul(const std::string& kod) {

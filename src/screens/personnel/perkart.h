@@ -16,6 +16,7 @@ class perkart : public PersonelFormu {
  protected:
   bool Bul(const std::string& kod) override;
   void Git(Yon yon) override;
+  bool AlanRehberi() override;
   bool Kaydedilmemis() const override { return Yazildi() || !yeniResim_.empty(); }
 
  private:

@@ -58,6 +58,7 @@ void PersonelFormu::AlaniSec() {
 }
 
 void PersonelFormu::RehberAc() {
+  if (AlanRehberi()) return;
   const auto secilen = PersonelSec(Baglam(), YazilanAnahtar());
   if (secilen) AnahtarAra(*secilen);
   KoddanBasla();

@@ -41,6 +41,8 @@ class PersonelFormu : public Form {
   virtual bool Bul(const std::string& kod) = 0;
   // Shows the neighbour of the person on the screen; stays when there is none.
   virtual void Git(Yon yon) = 0;
+  // F2 on a field whose codes have a list of their own; false: the people's guide opens.
+  virtual bool AlanRehberi() { return false; }
   // Something of the person on the screen is neither saved nor thrown away.
   virtual bool Kaydedilmemis() const { return Yazildi(); }
 

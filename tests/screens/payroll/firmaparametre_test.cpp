@@ -1,6 +1,7 @@
 // Screens of the company's parameters, typed key by key.
 #include "core/dosya.h"
 #include "ekran/ortam.h"
+#include "payroll/parametre/ekrankurallari.h"
 #include "screens/payroll/fazmes.h"
 #include "screens/payroll/indfrm.h"
 #include "screens/payroll/kykm.h"
@@ -42,6 +43,30 @@ TEST(Kykm, FlagsOfANewGroupAndTheProtectedDefault) {
   EXPECT_EQ(ortam.Odak(), "gruplar");
   ortam.Bas(Qt::Key_F7);
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: Varsayılan Hesap Silinemez\nYeniden Düzenlenir"});
+}
+
+// A newcomer's first payroll with overtime is right, and ticks are not lost to another group.
+TEST(Kykm, ProposesFlagsAndAsksBeforeTicksAreLost) {
+  EkranOrtami ortam;
+  ASSERT_TRUE(KazancGrubuKaydet({ortam.oturum, ortam.parametreler, ortam.bildirim}, "Memur", {}));
+  auto& form = ortam.Ac<kykm>(ortam.parametreler);
+  EXPECT_EQ(AlanMetni(form, "grup"), "Personel");
+  ortam.Bas(Qt::Key_F9);
+  ortam.bildirim.cevap = false;
+  auto* gruplar = form.findChild<dclist*>("gruplar");
+  gruplar->ChngSat(0);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Personel Grubu\nİşaretler Kaydedilmedi, Bırakılsın mı ?"});
+  EXPECT_EQ(AlanMetni(form, "grup"), "Personel");
+  EXPECT_EQ(gruplar->CurSat(), 1);
+  ortam.Bas(Qt::Key_F5);
+  const KazancBayraklari b = KazancGrupYukle(ortam.parametreler.firma.Parametreler(), "Personel");
+  EXPECT_EQ(b, OnerilenBayraklar());
+  EXPECT_EQ(b.k[6], 15) << "overtime is open, insured and taxed";
+  EXPECT_EQ(b.y[10], 9) << "severance pays stamp duty alone";
+  gruplar->ChngSat(0);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{}) << "what is saved is not asked about";
+  EXPECT_EQ(AlanMetni(form, "grup"), "Memur");
+  EXPECT_EQ(KazancGrupYukle(ortam.parametreler.firma.Parametreler(), "Memur"), KazancBayraklari{});
 }
 
 TEST(Sabpu, WritesTheWholeRecordAndCloses) {

@@ -131,6 +131,18 @@ TEST(Heskod, ARowThatIsLeftIsSavedTrimmed) {
   EXPECT_FALSE(form.isVisible());
 }
 
+TEST(Heskod, ANumberIsGivenOnce) {
+  EkranOrtami ortam;
+  ortam.oturum.PencereTip = "edit";
+  auto& form = ortam.Ac<heskod>(ortam.parametreler);
+  const HesapTurleri onceki = ortam.parametreler.yasal.hesapTurleri;
+  Liste(form).HucreyeGit(33, "no");
+  ortam.Yaz("3\nYine Üç\n1\n");
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: Hesap Türü No iki kez verilemez: 3 (3. ve 34. satır)"});
+  EXPECT_EQ(ortam.parametreler.yasal.hesapTurleri, onceki);
+  EXPECT_EQ(Liste(form).CurSat(), 33);
+}
+
 TEST(Kanun, AWrongDateKeepsTheCursorAndRowsComeAndGo) {
   EkranOrtami ortam;
   auto& form = ortam.Ac<kanun>(ortam.parametreler);

@@ -1,5 +1,6 @@
 #include "screens/personnel/perkart.h"
 
+#include <QComboBox>
 #include <QImage>
 
 #include "core/session/sirket.h"
@@ -233,6 +234,45 @@ TEST_F(Perkart, TheGuidePicksAPerson) {
   EXPECT_EQ(Metin("kod"), "002");
   EXPECT_EQ(Metin("adi"), "Can");
   EXPECT_EQ(ortam.Odak(), "kod");
+}
+
+// The list leaves out what is not in use, and a person keeps the row of the table all the same.
+TEST_F(Perkart, TheBranchIsTheRowOfItsTable) {
+  HesapTurleri turler = VarsayilanHesapTurleri();
+  turler[2] = {};
+  ASSERT_TRUE(HesapTurleriKaydet(ortam.oturum.DataPath, turler));
+  ortam.parametreler.YasalYukle(ortam.oturum.DataPath);
+  Sicil kisi = Kisi("001");
+  kisi.sskdurum = 3;
+  Ekle(kisi);
+  Ac();
+  ortam.Yaz("001\n");
+  auto& liste = dynamic_cast<QComboBox&>(*AlanBul(*form, "sskdurum").Odak());
+  EXPECT_EQ(liste.currentText().left(3), "04-");
+  liste.setFocus();
+  ortam.Bas(Qt::Key_Up);
+  EXPECT_EQ(liste.currentText().left(3), "02-") << "a row that is not in use is passed over";
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(Kayit().sskdurum, 1);
+}
+
+// A group that nobody has defined would leave the person without pay.
+TEST_F(Perkart, GroupsAreChosenFromTheirOwnListAndUnknownOnesRefused) {
+  Ekle(Kisi("001"));
+  Ac();
+  ortam.Yaz("001\n");
+  AlanBul(*form, "hesap").Odak()->setFocus();
+  QCoreApplication::processEvents();
+  ortam.Yaz("YOK");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: Hesap grubu tanımlı değil: YOK"});
+  EXPECT_EQ(ortam.Odak(), "hesap");
+  ortam.ModaldaYap([&] { ortam.Bas(Qt::Key_Return); });
+  ortam.Bas(Qt::Key_F2);
+  EXPECT_EQ(Metin("hesap"), "Personel");
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+  EXPECT_EQ(Kayit().hesap, "Personel");
 }
 
 }  // namespace
