@@ -8,6 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "core/yarimdizin.h"
+
 namespace belvani {
 namespace {
 
@@ -77,12 +79,6 @@ bool HepsiniYaz(int no, std::string_view icerik) {
   return true;
 }
 
-// A new name lasts only once its directory is on the disk.
-void DiziniDiskeIndir(const fs::path& dizin) {
-  const DosyaTutamagi d(::open(dizin.empty() ? "." : dizin.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (d.No() >= 0) ::fsync(d.No());
-}
-
 // A new file with this content, on the disk; 0 or the number of the failure, which leaves no file.
 int YeniDosya(std::string& ad, std::string_view icerik) {
   DosyaTutamagi dosya(::mkostemp(ad.data(), O_CLOEXEC));
@@ -137,6 +133,7 @@ Durum DizinYarat(const std::string& yol) {
     // By steps, so that a group inherited from the directory above stays.
     fs::permissions(olusan, fs::perms(0770), fs::perm_options::add, hata);
     fs::permissions(olusan, fs::perms::others_all, fs::perm_options::remove, hata);
+    DiziniDiskeIndir(olusan.parent_path());
   }
   return Tamam();
 }

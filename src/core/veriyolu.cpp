@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include "core/dosya.h"
+#include "core/yarimdizin.h"
 
 namespace belvani {
 namespace {
@@ -88,7 +89,11 @@ class DizinMakinesi final : public VeriMakinesi {
       if (Durum silindi = Kaldir(dosya, SirketSilinemedi); !silindi) return silindi;
     return Tamam();
   }
-  Durum Kaldir() const override { return Kaldir(Yol(), SirketSilinemedi); }
+  Durum Kaldir() const override {
+    Durum kalkti = Kaldir(Yol(), SirketSilinemedi);
+    if (kalkti) DiziniDiskeIndir(Yol().parent_path());
+    return kalkti;
+  }
   std::string Kimlik() const override {
     struct stat hal {};
     if (::stat(dizin_.c_str(), &hal) != 0) return {};

@@ -40,7 +40,7 @@ Okunan<Firma> FirmaDuzenle(Oturum& o) {
 
 Yazim<Firma> FirmaKaydet(Oturum& o, const Okunan<Firma>& firma) {
   Okunan<Firma> yazilan = firma;
-  yazilan.simdi.kanun = KanunMetni(firma.simdi.kanun);
+  if (!firma.ilk || firma.simdi.kanun != firma.ilk->kanun) yazilan.simdi.kanun = KanunMetni(firma.simdi.kanun);
   yazilan.simdi.versiyon = firma.ilk ? firma.ilk->versiyon : o.Versiyon;
   const Yazim<Firma> yazilamadi{YazmaEngeli<Firma>(Kusur{"Firma Bilgileri Güncellenemedi"})};
   Veritabani& db = o.depo.db;

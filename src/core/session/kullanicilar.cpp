@@ -27,13 +27,8 @@ Sonuc<bool> KullaniciEkle(Oturum& o, const KullaniciGirisi& giris) {
                        giris.yeni.empty() ? kullanicigirisi::yeni : kullanicigirisi::onay);
   if (giris.yeni != giris.onay) return false;
   Okunan<Peruser> yeni;
-  yeni.simdi.kod = giris.ad;
+  yeni.simdi.kod = Kirp(giris.ad);
   return KullaniciYaz(o, yeni, giris.yeni);
-}
-
-std::optional<Peruser> KullaniciBul(Oturum& o, std::string_view ad) {
-  Veritabani& db = o.depo.db;
-  return db.Koru(std::optional<Peruser>(), [&] { return Tablo<Peruser>(db.IcMotor()).Bul(std::string(ad)); });
 }
 
 }  // namespace
@@ -43,11 +38,20 @@ std::optional<Kusur> KullaniciKusuru(std::string_view kullanici, std::string_vie
   const auto kusur = [](const AlanTanimi& alan, std::string_view deger) {
     return DegerKusuru(alan, DenetimsizMetin(deger));
   };
-  if (const std::string k = kusur(peruser::kod, kullanici); !k.empty())
+  if (const std::string k = kusur(peruser::kod, Kirp(kullanici)); !k.empty())
     return KuralKusuru("Kullanıcı adı: " + k, kullanicigirisi::ad);
   if (const std::string k = kusur(peruser::pasw, sifre); !k.empty())
     return KuralKusuru("Şifre: " + k, kullanicigirisi::yeni);
   return std::nullopt;
+}
+
+std::optional<Peruser> KullaniciBul(Oturum& o, std::string_view ad) {
+  Veritabani& db = o.depo.db;
+  return db.Koru(std::optional<Peruser>(), [&] {
+    Tablo<Peruser> kullanicilar(db.IcMotor());
+    auto bulunan = kullanicilar.Bul(std::string(ad));
+    return bulunan ? bulunan : kullanicilar.Bul(std::string(Kirp(ad)));
+  });
 }
 
 std::vector<Peruser> Kullanicilar(Oturum& o) {
@@ -62,14 +66,14 @@ Sonuc<bool> KullaniciKaydet(Oturum& o, const KullaniciGirisi& giris) {
 }
 
 Sonuc<Silme> KullaniciSil(Oturum& o, std::string_view ad, Bildirim& bildirim) {
-  const std::string kod(ad);
-  if (Kirp(kod).empty() || !bildirim.Soru("Kullanıcıyı Silmek İstiyormusunuz")) return Silme::Silinmedi;
-  if (!KullaniciBul(o, kod)) return KuralKusuru("Kullanıcı Bulunamadı", kullanicigirisi::ad);
+  if (Kirp(ad).empty() || !bildirim.Soru("Kullanıcıyı Silmek İstiyormusunuz")) return Silme::Silinmedi;
+  const auto kullanici = KullaniciBul(o, ad);
+  if (!kullanici) return KuralKusuru("Kullanıcı Bulunamadı", kullanicigirisi::ad);
   Veritabani& db = o.depo.db;
   if (Kullanicilar(o).size() < 2 && !bildirim.Soru("Son Kullanıcı da Silinirse Giriş Yapamazsınız\nEminmisiniz"))
     return Silme::Silinmedi;
   const bool silindi = db.Koru(false, [&] {
-    Tablo<Peruser>(db.IcMotor()).Sil(kod);
+    Tablo<Peruser>(db.IcMotor()).Sil(kullanici->kod);
     return true;
   });
   if (!silindi) return Kusur{"Kullanıcı Silinemedi\n" + db.SonHata()};

@@ -32,22 +32,6 @@ bool DataDiziniYarat(const std::string& dataPath, Bildirim& bildirim) {
   return true;
 }
 
-bool IlkKullaniciYaz(Veritabani& db, std::string_view kullanici, std::string_view sifre) {
-  Okunan<Peruser> ilk;
-  ilk.simdi = {.kod = std::string(kullanici), .pasw = std::string(sifre), .admin = true};
-  return db.Koru(false, [&] { return bool(Tablo<Peruser>(db.IcMotor()).Yaz(ilk)); });
-}
-
-// The store of a new company with its first user, open; on failure there is no store.
-Durum DepoKur(Depo& depo, const std::string& yol, std::string_view kullanici, std::string_view sifre,
-              Bildirim& bildirim) {
-  if (const Durum yaratildi = depo.VeritabaniYarat(yol); !yaratildi) return yaratildi;
-  const bool acildi = depo.VeritabaniAc(yol, bildirim);
-  if (acildi && IlkKullaniciYaz(depo.db, kullanici, sifre)) return Tamam();
-  depo.VeritabaniKaldir(yol);
-  return Kusur{(acildi ? "Kullanıcı Eklenemedi: " : "Database Açılamadı: ") + depo.db.SonHata()};
-}
-
 }  // namespace
 
 bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komutSatiri, Bildirim& bildirim) {
@@ -73,47 +57,27 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
 }
 
 Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim) {
-  const auto dizin = SirketDizini(o.DataPath, sirket);
-  if (!dizin) return dizin.Kusuru();
-  if (!o.depo.VeritabaniAc(DepoAdresi(*dizin), bildirim)) {
-    o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
-    return Kusur{"Database Açılamadı: " + DepoAdresi(*dizin) + "\n" + o.depo.db.SonHata()};
-  }
-  o.FirmaKod = *SirketAdi(sirket);
-  o.FirmaDizini = *dizin;
-  return Tamam();
-}
-
-Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
-                    Bildirim& bildirim) {
-  const auto ad = SirketAdi(sirket);
+  const auto ad = SirketBul(o.DataPath, sirket);
   if (!ad) return ad.Kusuru();
-  if (SirketDizini(o.DataPath, *ad)) return Kusur{"Bu adda bir şirket var: " + *ad};
-  if (auto kusur = KullaniciKusuru(kullanici, sifre)) return *std::move(kusur);
-
   const VeriYolu yer = VeriYolu(o.DataPath).Alt(*ad);
-  if (!yer.Yarat()) return Kusur{"Şirket Dizini Yaratılamıyor: " + yer.Adres()};
-  if (const Durum kuruldu = DepoKur(o.depo, DepoAdresi(yer), kullanici, sifre, bildirim); !kuruldu) {
-    (void)yer.Kaldir();  // no half company stays behind; a place into which others have put something meanwhile does
-    return kuruldu;
+  if (!o.depo.VeritabaniAc(DepoAdresi(yer), bildirim)) {
+    o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
+    return Kusur{"Database Açılamadı: " + DepoAdresi(yer) + "\n" + o.depo.db.SonHata()};
   }
   o.FirmaKod = *ad;
   o.FirmaDizini = yer.Adres();
-  if (const Durum yazildi = FirmaIlkKayit(o); !yazildi) bildirim.KusuruGoster(yazildi.Kusuru());
   return Tamam();
 }
 
 Sonuc<Kusurlar> OturumAc(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre) {
-  Veritabani& db = o.depo.db;
-  const auto kayit =
-      db.Koru(std::optional<Peruser>(), [&] { return Tablo<Peruser>(db.IcMotor()).Bul(std::string(kullanici)); });
+  const auto kayit = KullaniciBul(o, kullanici);
   if (!kayit || kayit->pasw != sifre) {
     o.depo.TablolariKapat(KapatmaKapsami::YalnizImlecler);
     return KuralKusuru("Kullanıcı Adı veya Kullanıcı Şifresi\n           HATALI");
   }
   Kusurlar kusurlar;
-  o.FirmaKod = BuyukHarf(Kirp(sirket));
-  o.Kullanici = kullanici;
+  if (const auto ad = SirketBul(o.DataPath, sirket)) o.FirmaKod = *ad;
+  o.Kullanici = Kirp(kullanici);
   for (const auto& [anahtar, deger] : {std::pair("lastfirm", o.FirmaKod), std::pair("lastuser", o.Kullanici)})
     if (const auto d = KullaniciAyariYaz(anahtar, deger); !d) kusurlar.push_back(d.Kusuru());
   if (!FirmaYukle(o)) {

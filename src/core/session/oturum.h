@@ -26,7 +26,7 @@ struct Oturum {
   std::string ResimYolu = "image/soft/";    // of the skin, below PrgPath
   bool ResimKullan = true;
   std::string DataPath;  // root of the company directories; ends in a separator
-  std::string FirmaKod;  // name of the company's directory, upper case
+  std::string FirmaKod;  // name of the company's directory, as it is spelled
   std::string PrgPath;   // installed files; ends in a separator
   int ListeSirasi = 1;   // last search column of the lookup window
   Tek Versiyon = ProgramVersiyonu();

@@ -11,12 +11,20 @@ namespace belvani {
 
 inline const std::string DepoDosyasi = "tolu.dat";
 
-// The name as it is kept: trimmed and in upper case. Refused are names that would leave the data path or that a
-// directory cannot bear: separators, control characters, a leading point, more than 64 letters or 200 bytes.
+// The name of a new company as it is kept: trimmed, in upper case, its letters composed. Refused are names that would
+// leave the data path, that a directory cannot bear on some system (separators, control characters, a point at either
+// end, names of devices), that look like another one (letters that nobody sees), and more than 64 letters or 200 bytes.
 Sonuc<std::string> SirketAdi(std::string_view metin);
 
-// The company's directory with a separator at its end, found without regard to Turkish case; the failure names it.
-Sonuc<std::string> SirketDizini(const VeriYolu& veri, std::string_view ad);
+// Names of the directories that a text may mean: the one of exactly this name, else all that differ from it by Turkish
+// case or by the form of their letters alone. Directories made by hand may be written in any way.
+std::vector<std::string> UyanSirketler(const VeriYolu& veri, std::string_view metin);
+
+// The one directory that the text means, as it is spelled. None and several are faults; the latter names them.
+Sonuc<std::string> SirketBul(const VeriYolu& veri, std::string_view metin);
+
+// Its place, with a separator at the end.
+Sonuc<std::string> SirketDizini(const VeriYolu& veri, std::string_view metin);
 
 // Names of all company directories, in Turkish order.
 std::vector<std::string> Sirketler(const VeriYolu& veri);

@@ -1,11 +1,12 @@
 #include "core/session/sirketlistesi.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "core/asama.h"
 #include "core/session/sirket.h"
 #include "core/store/tablo.h"
-#include "core/turkce.h"
+#include "core/yarimdizin.h"
 
 namespace belvani {
 namespace {
@@ -33,7 +34,9 @@ Sonuc<std::unique_ptr<Motor>> TekBasinaAc(const std::string& yol) {
   }
 }
 
-Durum Kaldir(const VeriYolu& sirket) {
+Durum Kaldir(const VeriYolu& veri, const std::string& ad) {
+  if (YarimDizinAdi(ad)) return YarimDiziniSil(veri.Adres(), ad);
+  const VeriYolu sirket = veri.Alt(ad);
   const auto depo = TekBasinaAc(DepoAdresi(sirket));
   if (!depo) return depo.Kusuru();
   if (Durum bosaldi = sirket.Bosalt(DepoDosyasi); !bosaldi) return bosaldi;
@@ -53,13 +56,18 @@ std::vector<SirketSatiri> SirketListesi(const VeriYolu& veri, Ilerleme* ilerleme
   return satirlar;
 }
 
+std::vector<std::string> YarimSirketler(const VeriYolu& veri) {
+  return YarimDizinler(veri.Adres());
+}
+
 std::vector<std::string> SilinebilirSirketler(const VeriYolu& veri, const Oturum& o) {
   std::vector<std::string> adlar = Sirketler(veri);
   const std::string acik = o.FirmaDizini.empty() ? std::string() : VeriYolu(o.FirmaDizini).Kimlik();
   std::erase_if(adlar, [&](const std::string& ad) {
     const VeriYolu sirket = veri.Alt(ad);
-    return BuyukHarf(ad) == BuyukHarf(o.FirmaKod) || sirket.BagMi() || sirket.Kimlik() == acik;
+    return sirket.BagMi() || sirket.Kimlik() == acik;
   });
+  std::ranges::move(YarimSirketler(veri), std::back_inserter(adlar));
   return adlar;
 }
 
@@ -68,7 +76,7 @@ Sonuc<Silme> SirketSil(const VeriYolu& veri, std::string_view ad, const Oturum& 
   if (std::find(adlar.begin(), adlar.end(), ad) == adlar.end())
     return Kusur{"Silinebilecek şirketler arasında yok: " + std::string(ad)};
   if (!bildirim.Soru("Firmayı Silmeye Eminmisiniz ?")) return Silme::Silinmedi;
-  if (const Durum silindi = Kaldir(veri.Alt(ad)); !silindi) return silindi.Kusuru();
+  if (const Durum silindi = Kaldir(veri, std::string(ad)); !silindi) return silindi.Kusuru();
   return Silme::Silindi;
 }
 

@@ -25,8 +25,11 @@ struct SirketSatiri {
 // Every company below the data path, in Turkish order of the names. Throws Vazgecilmis when `ilerleme` stops it.
 std::vector<SirketSatiri> SirketListesi(const VeriYolu& veri, Ilerleme* ilerleme = nullptr);
 
-// Names of the directories that may be deleted: all real ones (no links) but that of the session's company, whose name
-// is compared without regard to Turkish case.
+// Names of directories in which a company was being made when its program ended, and which nobody is at.
+std::vector<std::string> YarimSirketler(const VeriYolu& veri);
+
+// Names of the directories that may be deleted: all real ones (no links) but that of the session's company, then the
+// half ones.
 std::vector<std::string> SilinebilirSirketler(const VeriYolu& veri, const Oturum& o);
 
 // Asks, then deletes the directory `ad`, as SilinebilirSirketler names it, with every file in it. Refused, with nothing

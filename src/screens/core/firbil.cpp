@@ -1,5 +1,6 @@
 #include "screens/core/firbil.h"
 
+#include "core/session/sinifbakimi.h"
 #include "isyeri/numaradenetimi.h"
 #include "payroll/parametre/parametreler.h"
 #include "ui/cakisma.h"
@@ -9,6 +10,13 @@ namespace {
 
 static_assert(ListeyeUyar(firma::tehlike, TehlikeSiniflari.size()));
 static_assert(ListeyeUyar(firma::sinif, TehlikeDereceleri.size()));
+
+// A year that was emptied, or lost a digit, is no month of work; the two are those that documents know.
+constexpr double EnAzYil = 1990, EnCokYil = 2100;
+
+// A choice, so that none (whole lira) is one and never what is left of an emptied field.
+constexpr std::array<std::string_view, 5> OndalikSayilari{"0", "1", "2", "3", "4"};
+static_assert(ListeyeUyar(firma::paraonda, OndalikSayilari.size()));
 
 // The work-accident rate that follows from class and degree; shown, never stored.
 struct PrimOrani {
@@ -46,7 +54,7 @@ std::vector<std::vector<AlanGrubu>> Gruplar() {
             3}},
           {{"Dönem",
             {{firma::firmaay, "Dönem Ay", {.liste = AyAdlari, .listeTabani = 1}},
-             {firma::firmayil, "Dönem Yıl"},
+             {firma::firmayil, "Dönem Yıl", {.enAz = EnAzYil, .enCok = EnCokYil}},
              {firma::tersfirma, "Dönem 15.01.2004 - 14.02.2004 gibi"}},
             2},
            {"Kurallar",
@@ -55,7 +63,7 @@ std::vector<std::vector<AlanGrubu>> Gruplar() {
              {TehlikeOranAlani, "İş Kazası Oranı", {.ondalik = 1, .kapali = true}},
              {firma::kanun, "Kanun", {.harf = 8, .ipucu = "Beş haneli kanun numarası, örneğin 05510"}},
              {firma::issaati, "Çalışma Saati", {.ipucu = "Günlük çalışma saati"}},
-             {firma::paraonda, "Para Ondalığı"},
+             {firma::paraonda, "Para Ondalığı", {.liste = OndalikSayilari}},
              {firma::yuvar, "Yuvarlama"},
              {firma::ondeger, "Öndeğer Hesap", {.ipucu = "Yeni personelin kazanç grubu"}}},
             2},
@@ -96,6 +104,7 @@ void firbil::Kaydet() {
   const auto kaydedilen =
       SorarakKaydet(Baglam(), *this, firma_, [this](const Okunan<Firma>& firma) { return durum_.KartKaydet(firma); });
   if (!kaydedilen && kaydedilen.Kusuru().cakisma) return;
+  if (kaydedilen) Oldu(SinifBakimiYaz(Oturumu().FirmaDizini, SinifBakimi::Bakildi));
   // A number that was begun; the papers of a company without any stay without.
   if (const std::string kusur = NumaraKusuru(firma_.simdi);
       kaydedilen && !kusur.empty() && NumaraYazilmis(firma_.simdi))

@@ -2,6 +2,7 @@
 
 #include <QHideEvent>
 #include <QLineEdit>
+#include <algorithm>
 
 #include "core/session/sirketlistesi.h"
 #include "printing/belge.h"
@@ -89,7 +90,8 @@ void firlist::ListeyiDoldur() {
   const auto sirketler = ListeyiOku(Baglam());
   if (!sirketler) return;
   ListeDoldur(*liste_, *sirketler, [](const SirketSatiri& s) { return std::array{s.ad, s.unvan, s.donem}; });
-  liste_->FindByName("kod", Yazi(simdiki));
+  const auto yer = std::ranges::find(*sirketler, simdiki, &SirketSatiri::ad);  // case told apart: another is another
+  if (yer != sirketler->end()) liste_->ChngSat(int(yer - sirketler->begin()));
 }
 
 void firlist::Sec() {

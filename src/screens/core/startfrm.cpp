@@ -212,31 +212,42 @@ bool startfrm::eventFilter(QObject* nesne, QEvent* olay) {
 }
 
 void startfrm::SirketSec() {
+  if (SirketSectir(Sirket())) IlkBosAlanaGit();
+}
+
+// What the user chooses from the list, which opens on `simdiki`, is the company now; false when he chooses none.
+bool startfrm::SirketSectir(const std::string& simdiki) {
   Oturum& o = baglam_.oturum;
   o.PencereTip = "pen";
-  o.SeciliKod = Sirket();
+  o.SeciliKod = simdiki;
   FormGoster(baglam_, std::make_unique<firlist>(baglam_), FormModu::Modal);
   const std::string secilen = std::exchange(o.SeciliKod, {});
   o.depo.TablolariKapat(KapatmaKapsami::YalnizImlecler);
-  if (secilen.empty()) return;
-  sirket_->setEditText(Yazi(secilen));
-  IlkBosAlanaGit();
+  if (!secilen.empty()) sirket_->setEditText(Yazi(secilen));
+  return !secilen.empty();
 }
 
-// The named company is open afterwards; a new one only when the user has agreed to it.
+// The named company is open afterwards; a new one only when the user has agreed to it. A text that means several
+// directories becomes the one that the user chooses.
 bool startfrm::SirketiAc() {
   Oturum& o = baglam_.oturum;
+  const auto uyanlar = UyanSirketler(o.DataPath, Sirket());
+  if (uyanlar.size() > 1) {
+    baglam_.bildirim.Bilgi(SirketBul(o.DataPath, Sirket()).KusurMetni());
+    return SirketSectir(uyanlar.front()) && Acildi(SirketAc(o, Sirket(), baglam_.bildirim));
+  }
+  if (!uyanlar.empty()) return Acildi(SirketAc(o, uyanlar.front(), baglam_.bildirim));
   if (const auto ad = SirketAdi(Sirket()); !ad) {
     baglam_.bildirim.Bilgi(ad.KusurMetni());
     return false;
   }
-  const bool var = bool(SirketDizini(o.DataPath, Sirket()));
-  if (!var && !baglam_.bildirim.Soru("Şirket Bulunamadı\nYeni Şirket Açılacak ?")) return false;
-  const Durum acildi =
-      var ? SirketAc(o, Sirket(), baglam_.bildirim)
-          : SirketOlustur(o, Sirket(), Utf8(kullanici_->text()), Utf8(sifre_->text()), baglam_.bildirim);
-  if (!acildi) baglam_.bildirim.Uyari(acildi.KusurMetni());
-  return bool(acildi);
+  if (!baglam_.bildirim.Soru("Şirket Bulunamadı\nYeni Şirket Açılacak ?")) return false;
+  return Acildi(SirketOlustur(o, Sirket(), Utf8(kullanici_->text()), Utf8(sifre_->text()), baglam_.bildirim));
+}
+
+bool startfrm::Acildi(const Durum& durum) {
+  if (!durum) baglam_.bildirim.Uyari(durum.KusurMetni());
+  return bool(durum);
 }
 
 void startfrm::Gir() {

@@ -37,7 +37,9 @@ class startfrm : public QDialog {
   bool TusuIsle(const QObject* alan, int tus);
   void IlkBosAlanaGit();
   void SirketSec();
+  bool SirketSectir(const std::string& simdiki);
   bool SirketiAc();
+  bool Acildi(const Durum& durum);
   void Gir();
   std::string Sirket() const;
 

@@ -23,7 +23,9 @@ TEST(SirketAdi, KeptInUpperCase) {
   for (const auto& [metin, ad] : Tablo<std::string, std::string>{{"izmir", "İZMİR"},
                                                                  {"ISPARTA", "ISPARTA"},
                                                                  {"  Şişli ğüçö ", "ŞİŞLİ ĞÜÇÖ"},
-                                                                 {"a.b..", "A.B.."},
+                                                                 {"a.b", "A.B"},
+                                                                 {"S\u0327I\u0307R\u0049\u0307N", "ŞİRİN"},
+                                                                 {"concept", "CONCEPT"},
                                                                  {"O'Neil; --", "O'NEİL; --"},
                                                                  {Kez("ş", 64), Kez("Ş", 64)}}) {
     const auto sonuc = SirketAdi(metin);
@@ -34,11 +36,14 @@ TEST(SirketAdi, KeptInUpperCase) {
 
 TEST(SirketAdi, Refused) {
   const std::string bos = "Şirket adı boş olamaz", uzun = "Şirket adı çok uzun (en çok 64 harf)",
+                    gorunmez = "Şirket adında görünmeyen bir harf var, adı klavyeden yazınız",
+                    nokta = "Şirket adı nokta ile bitemez",
                     harf =
                         "Şirket adında kullanılamayan bir harf var: nokta ile başlayamaz, / \\ : * ? \" < > | içeremez";
   // clang-format off
   const Tablo<std::string, std::vector<std::string>> durumlar{
-      {bos, {"", "  "}}, {uzun, {std::string(65, 'a'), Kez("ş", 65), Kez("😀", 51), std::string(100'000, 'a')}},
+      {bos, {"", "  "}}, {nokta, {"A.", "A.. ", "A. ."}},
+      {gorunmez, {"A\u200BB", "\uFEFFA", "A\u202E", "A\u00ADB", "A\u00A0B", "A\u2028", "A\u0085", "\u3164"}}, {uzun, {std::string(65, 'a'), Kez("ş", 65), Kez("😀", 51), std::string(100'000, 'a')}},
       {harf, {".", "..", "../A", "A/B", "/", "/etc", "A\\B", "..\\A", "C:", "A*", "A?", "\"A\"", "<A>", "A|B", ".gizli", "A\nB",
               "A\t", std::string("A\0B", 3), "A\x7F", "A\x1B[2J", "\xFF", "A\xC3"}}};
   // clang-format on
@@ -48,6 +53,11 @@ TEST(SirketAdi, Refused) {
       EXPECT_EQ(SirketAdi(ad).KusurMetni(), kusur) << ad;
       EXPECT_FALSE(SirketDizini("/tmp/", ad)) << ad;
     }
+}
+
+TEST(SirketAdi, DevicesOfOtherSystemsAreRefused) {
+  for (const char* ad : {"con", "Aux", "NUL.txt", "com1", "LPT9 .x"})
+    EXPECT_TRUE(SirketAdi(ad).KusurMetni().starts_with("Bu ad bazı bilgisayarlarda bir aygıtındır")) << ad;
 }
 
 TEST(SirketDizini, FoundInAnyTurkishCase) {
@@ -66,8 +76,23 @@ TEST(SirketDizini, FoundInAnyTurkishCase) {
   for (const auto& [ad, buyuk] :
        Tablo<const char*, std::string>{{"isparta", "İSPARTA"}, {"IZMIR", "IZMIR"}, {"dosya", "DOSYA"}})
     EXPECT_EQ(SirketDizini(d.Yol(), ad).KusurMetni(), "Şirket Bulunamadı: " + buyuk);
-  ASSERT_TRUE(DizinYarat(d.Yol() + "İZMİR"));  // the kept form goes before one made by hand
-  EXPECT_EQ(*SirketDizini(d.Yol(), "izmir"), d.Yol() + "İZMİR/");
+}
+
+// Exactly the name, else all that it may mean: never one of them unasked.
+TEST(SirketDizini, OfSeveralOnlyTheExactName) {
+  const GeciciDizin d;
+  const std::string ayrik = "S\u0327I\u0307LE";  // the same letters in pieces
+  for (const std::string& ad :
+       {std::string("izmir"), std::string("İZMİR"), ayrik, std::string("ŞİLE"), std::string("A..")})
+    ASSERT_TRUE(DizinYarat(d.Yol() + ad));
+  for (const std::string& ad :
+       {std::string("izmir"), std::string("İZMİR"), ayrik, std::string("ŞİLE"), std::string("A..")})
+    EXPECT_EQ(*SirketBul(d.Yol(), ad), ad);
+  EXPECT_EQ(*SirketBul(d.Yol(), " izmir "), "izmir");
+  EXPECT_EQ(UyanSirketler(d.Yol(), "İzmir"), (std::vector<std::string>{"izmir", "İZMİR"}));
+  EXPECT_EQ(SirketDizini(d.Yol(), "İzmir").KusurMetni(),
+            "Bu ada uyan birden çok şirket var, adı dizininki gibi yazınız:\nizmir\nİZMİR");
+  EXPECT_EQ(UyanSirketler(d.Yol(), "şile").size(), 2u);
 }
 
 }  // namespace

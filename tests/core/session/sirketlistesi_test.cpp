@@ -39,7 +39,10 @@ TEST_F(SirketListesiTest, BrokenStoresDoNotStopIt) {
 
 TEST_F(SirketListesiTest, OnlyWhatIsListedCanBeDeleted) {
   Kur("izmir");
-  Dizin("izmir");  // made by hand: in Turkish case the company that is open
+  Dizin("izmir");  // made by hand: another place than the company that is open
+  Dizin(".kurulan-YARIM-AbCdEf");
+  Dosya(".kurulan-YARIM-AbCdEf/tolu.dat-wal");
+  Dizin(".baska");
   Dizin("SİL");
   Dosya("SİL/kazanc.dat");
   Dizin("../disarida");
@@ -47,9 +50,9 @@ TEST_F(SirketListesiTest, OnlyWhatIsListedCanBeDeleted) {
   Dosya("DOSYA");
   fs::create_directory_symlink(d.Yol() + "disarida", o.DataPath + "BAĞ");
   fs::create_directory_symlink(d.Yol() + "disarida", o.DataPath + "SİL/bag");
-  EXPECT_EQ(SilinebilirSirketler(o.DataPath, o), Adlar{"SİL"});
-  for (const char* ad :
-       {"İZMİR", "izmir", "BAĞ", "DOSYA", "", ".", "..", "../disarida", "SİL/", "sil", "SİL/../İZMİR"}) {
+  EXPECT_EQ(SilinebilirSirketler(o.DataPath, o), (Adlar{"izmir", "SİL", ".kurulan-YARIM-AbCdEf"}));
+  for (const char* ad : {"İZMİR", "İzmir", "BAĞ", "DOSYA", ".baska", ".kurulan-yok", "", ".", "..", "../disarida",
+                         "SİL/", "sil", "SİL/../İZMİR"}) {
     const auto silinen = SirketSil(o.DataPath, ad, o, b);
     ASSERT_FALSE(silinen) << ad;
     EXPECT_EQ(silinen.KusurMetni(), std::string("Silinebilecek şirketler arasında yok: ") + ad);
@@ -59,8 +62,10 @@ TEST_F(SirketListesiTest, OnlyWhatIsListedCanBeDeleted) {
   EXPECT_EQ(b.Al(), Iletiler{"Soru: Firmayı Silmeye Eminmisiniz ?"});
   EXPECT_TRUE(fs::exists(o.DataPath + "SİL/kazanc.dat"));
   b.cevap = true;
-  EXPECT_TRUE(SirketSil(o.DataPath, "SİL", o, b));
-  EXPECT_FALSE(fs::exists(o.DataPath + "SİL"));
+  for (const char* ad : {"SİL", "izmir", ".kurulan-YARIM-AbCdEf"}) {
+    EXPECT_TRUE(SirketSil(o.DataPath, ad, o, b));
+    EXPECT_FALSE(fs::exists(o.DataPath + ad));
+  }
   EXPECT_TRUE(fs::exists(d.Yol() + "disarida/onemli") && fs::exists(o.DataPath + "DOSYA") && FirmaYukle(o));
 }
 

@@ -56,6 +56,30 @@ TEST(Firbil, SavesEveryClassAsItWasStored) {
   }
 }
 
+// What pays wrongly when it is lost: no year, or no decimals, where a digit was deleted.
+TEST(Firbil, AnEmptiedYearIsRefusedAndDecimalsCannotBeEmptied) {
+  EkranOrtami ortam;
+  auto& form = ortam.Ac<firbil>(ortam.parametreler);
+  for (const char* yil : {"", "0", "209"}) {
+    AlanBul(form, "firmayil").Odak()->setFocus();
+    YaziBul(form, "firmayil").selectAll();
+    ortam.Bas(Qt::Key_Delete);
+    ortam.Yaz(yil);
+    ortam.Bas(Qt::Key_F5);
+    EXPECT_TRUE(form.isVisible()) << yil;
+    EXPECT_EQ(ortam.bildirim.Al().size(), 1u) << yil;
+    EXPECT_EQ(ortam.Odak(), "firmayil");
+  }
+  ortam.Bas(Qt::Key_Delete);
+  ortam.Yaz("2009");
+  AlanBul(form, "paraonda").Odak()->setFocus();
+  for (const auto tus : {Qt::Key_Delete, Qt::Key_Backspace}) ortam.Bas(tus);
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+  const Firma firma = FirmaDuzenle(ortam.oturum).simdi;
+  EXPECT_EQ(firma.firmayil * 10 + firma.paraonda, 20'092);
+}
+
 // What is saved here holds at once for every screen that is open, but for the month it was opened for.
 TEST(Firbil, OpenScreensSeeTheNewCard) {
   EkranOrtami ortam;
@@ -64,7 +88,7 @@ TEST(Firbil, OpenScreensSeeTheNewCard) {
   auto& bordro = ortam.Ac<brdhazir>(ortam.parametreler);
   auto& form = ortam.Ac<firbil>(ortam.parametreler);
   YaziBul(form, "ondeger").DegerKoy(std::string("Memur"));
-  YaziBul(form, "paraonda").DegerKoy(std::int64_t(0));
+  AlanBul(form, "paraonda").Koy(std::int64_t(0));
   AlanBul(form, "firmaay").Koy(std::int64_t(8));
   ortam.Bas(Qt::Key_F5);
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});

@@ -88,6 +88,37 @@ TEST_F(GirisEkrani, CompaniesThatCannotBeOpenedOrMade) {
   EXPECT_EQ(Sirketler(ortam.oturum.DataPath), (std::vector<std::string>{"BOŞ", "TEST"}));
 }
 
+// Two directories that one text means: the user chooses, and nothing opens when he does not.
+TEST_F(GirisEkrani, OfTwoCompaniesOneIsChosen) {
+  std::filesystem::copy(ortam.oturum.DataPath + "TEST", ortam.oturum.DataPath + "test");
+  Ac("Test", "ayse");
+  const Iletiler sorulan{"Bilgi: Bu ada uyan birden çok şirket var, adı dizininki gibi yazınız:\nTEST\ntest"};
+  EkranOrtami::ModaldaYap([&] { ortam.Bas(Qt::Key_Escape); });
+  ortam.Yaz("gizli\n");
+  EXPECT_EQ(ortam.bildirim.Al(), sorulan);
+  EXPECT_FALSE(ortam.oturum.depo.db.AcikMi());
+  EXPECT_EQ(Sirket(), "Test");
+  form->findChild<xtext*>("TextBox2")->setFocus();
+  EkranOrtami::ModaldaYap([&] {
+    EXPECT_EQ(ortam.oturum.SeciliKod, "TEST");
+    ortam.Bas(Qt::Key_Down);
+    ortam.Bas(Qt::Key_Return);
+  });
+  ortam.Yaz("\n");
+  EXPECT_EQ(ortam.bildirim.Al(), sorulan);
+  EXPECT_EQ(form->result(), QDialog::Accepted);
+  EXPECT_EQ(ortam.oturum.FirmaDizini, ortam.oturum.DataPath + "test/");
+  EXPECT_EQ(KullaniciAyari("lastfirm", "") + "|" + ortam.oturum.FirmaKod, "test|test");
+  Ac("test", "ayse");
+  EkranOrtami::ModaldaYap([&] { ortam.Bas(Qt::Key_Return); });
+  Rehber();
+  EXPECT_EQ(Sirket(), "test") << "the list opens on the company of the screen, not on its neighbour";
+  Ac("TEST", " ayse ");
+  ortam.Yaz("gizli\n");
+  EXPECT_EQ(ortam.oturum.FirmaDizini, ortam.oturum.DataPath + "TEST/") << "the exact name goes first";
+  EXPECT_EQ(ortam.oturum.Kullanici, "ayse");
+}
+
 TEST_F(GirisEkrani, AcceptNeedsCompanyAndUserButNoPassword) {
   Ac("", "");
   EXPECT_FALSE(GirisAcik());

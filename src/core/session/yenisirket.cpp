@@ -1,0 +1,84 @@
+#include "core/session/yenisirket.h"
+
+#include "core/dosya.h"
+#include "core/session/firmabilgi.h"
+#include "core/session/kullanicilar.h"
+#include "core/session/sinifbakimi.h"
+#include "core/session/sirket.h"
+#include "core/store/tablo.h"
+#include "core/tables/peruser.h"
+#include "core/turkce.h"
+#include "core/yarimdizin.h"
+
+namespace belvani {
+namespace {
+
+bool IlkKullaniciYaz(Veritabani& db, const YeniSirket& yeni) {
+  Okunan<Peruser> ilk;
+  ilk.simdi = {.kod = std::string(Kirp(yeni.kullanici)), .pasw = yeni.sifre, .admin = true};
+  return db.Koru(false, [&] { return bool(Tablo<Peruser>(db.IcMotor()).Yaz(ilk)); });
+}
+
+Durum KartYaz(Oturum& o, const YeniSirket& yeni) {
+  if (Durum ilk = FirmaIlkKayit(o); !ilk) return ilk;
+  Okunan<Firma> kart = FirmaDuzenle(o);
+  yeni.kart(kart.simdi);
+  if (const auto yazilan = FirmaKaydet(o, kart); !yazilan) return Kusur(yazilan.Kusuru());
+  return Tamam();
+}
+
+Durum Doldur(Oturum& o, const std::string& yol, const YeniSirket& yeni, Bildirim& bildirim) {
+  Depo& depo = o.depo;
+  if (Durum yaratildi = depo.VeritabaniYarat(yol); !yaratildi) return yaratildi;
+  const auto kusur = [&](const std::string& metin) { return Kusur{metin + ": " + depo.db.SonHata()}; };
+  if (!depo.VeritabaniAc(yol, bildirim)) return kusur("Database Açılamadı");
+  if (!IlkKullaniciYaz(depo.db, yeni)) return kusur("Kullanıcı Eklenemedi");
+  if (const Durum yazildi = KartYaz(o, yeni); !yazildi) return kusur(yazildi.KusurMetni());
+  depo.TablolariKapat(KapatmaKapsami::YalnizImlecler);
+  // All into the one file: a directory that is renamed with a journal in it would not be whole.
+  const bool tekDosya = depo.db.Koru(false, [&] {
+    depo.db.IcMotor().Calistir("pragma journal_mode=delete");
+    return true;
+  });
+  return tekDosya ? Tamam() : Durum(kusur("Database Kapatılamadı"));
+}
+
+Durum AdinaKoy(YarimDizin& yarim, const VeriYolu& yer, const std::string& ad) {
+  if (yarim.Adlandir()) return Tamam();
+  if (DizinVar(yer.Adres())) return Kusur{"Bu adda bir şirket var: " + ad};
+  return Kusur{"Şirket Dizini Yaratılamıyor: " + yer.Adres()};
+}
+
+}  // namespace
+
+Durum SirketKur(Oturum& o, const YeniSirket& yeni, Bildirim& bildirim) {
+  const auto ad = SirketAdi(yeni.ad);
+  if (!ad) return ad.Kusuru();
+  if (!UyanSirketler(o.DataPath, *ad).empty()) return Kusur{"Bu adda bir şirket var: " + *ad};
+  if (auto kusur = KullaniciKusuru(yeni.kullanici, yeni.sifre)) return *std::move(kusur);
+
+  const VeriYolu yer = VeriYolu(o.DataPath).Alt(*ad);
+  auto yarim = YarimDizin::Ac(o.DataPath, *ad);
+  if (!yarim) return Kusur{"Şirket Dizini Yaratılamıyor: " + yer.Adres()};
+  const Firma oncekiKart = o.firma;
+  const bool kartVardi = o.firmaVar;
+  Durum kuruldu = Doldur(o, DepoAdresi(yarim->Yol()), yeni, bildirim);
+  o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
+  if (kuruldu) kuruldu = AdinaKoy(*yarim, yer, *ad);
+  if (!kuruldu) {
+    o.firma = oncekiKart;
+    o.firmaVar = kartVardi;
+    return kuruldu;
+  }
+  // Nothing older has touched it; without the mark its user is asked once, and that is all.
+  (void)SinifBakimiYaz(yer, SinifBakimi::Bakildi);
+  return SirketAc(o, *ad, bildirim);
+}
+
+Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
+                    Bildirim& bildirim) {
+  return SirketKur(o, {.ad = std::string(sirket), .kullanici = std::string(kullanici), .sifre = std::string(sifre)},
+                   bildirim);
+}
+
+}  // namespace belvani

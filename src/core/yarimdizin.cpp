@@ -1,0 +1,118 @@
+#include "core/yarimdizin.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+#include "core/dosya.h"
+
+namespace belvani {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view OnEk = ".kurulan-";
+
+// The directory with its lock, -1 when it is not there or someone is at it.
+int Kilitle(const std::string& yol) {
+  const int no = ::open(yol.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+  if (no < 0 || ::flock(no, LOCK_EX | LOCK_NB) == 0) return no;
+  ::close(no);
+  return -1;
+}
+
+// 0, or the number of the failure. Where the file system knows no such rename, the name is taken by an empty directory
+// of ours first: nobody else can take it meanwhile, and only a kill in between leaves it behind.
+int UzerineYazmadanAdlandir(const std::string& eski, const std::string& yeni) {
+  if (::renameat2(AT_FDCWD, eski.c_str(), AT_FDCWD, yeni.c_str(), RENAME_NOREPLACE) == 0) return 0;
+  if (errno != EINVAL && errno != ENOSYS) return errno;
+  if (::mkdir(yeni.c_str(), 0700) != 0) return errno;
+  if (::rename(eski.c_str(), yeni.c_str()) == 0) return 0;
+  const int kod = errno;
+  ::rmdir(yeni.c_str());
+  return kod;
+}
+
+}  // namespace
+
+void DiziniDiskeIndir(const std::string& dizin) {
+  const int no = ::open(dizin.empty() ? "." : dizin.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (no < 0) return;
+  ::fsync(no);
+  ::close(no);
+}
+
+YarimDizin::YarimDizin(std::string ust, std::string ad, std::string yarim)
+    : ust_(std::move(ust)), ad_(std::move(ad)), yarim_(std::move(yarim)), kilit_(Kilitle(ust_ + yarim_)) {}
+
+YarimDizin::YarimDizin(YarimDizin&& y) noexcept
+    : ust_(std::move(y.ust_)),
+      ad_(std::move(y.ad_)),
+      yarim_(std::exchange(y.yarim_, {})),
+      kilit_(std::exchange(y.kilit_, -1)) {}
+
+YarimDizin::~YarimDizin() {
+  std::error_code hata;
+  if (!yarim_.empty()) fs::remove_all(ust_ + yarim_, hata);
+  if (kilit_ >= 0) ::close(kilit_);
+}
+
+Sonuc<YarimDizin> YarimDizin::Ac(const std::string& ust, const std::string& ad) {
+  const std::string kok = DizinSonu(ust);
+  if (auto durum = DizinYarat(kok); !durum) return durum.Kusuru();
+  std::string yol = kok + std::string(OnEk) + ad + "-XXXXXX";
+  if (::mkdtemp(yol.data()) == nullptr) return Kusur{kok + ": dizin yaratılamadı"};
+  YarimDizin yarim(kok, ad, yol.substr(kok.size()));
+  std::error_code hata;
+  fs::permissions(yol, fs::perms(0770), fs::perm_options::add, hata);
+  return yarim;
+}
+
+Durum YarimDizin::Adlandir() {
+  DiziniDiskeIndir(Yol());
+  if (UzerineYazmadanAdlandir(ust_ + yarim_, ust_ + ad_) != 0) return Kusur{ust_ + ad_ + ": dizin yaratılamadı"};
+  yarim_.clear();
+  ::close(std::exchange(kilit_, -1));  // it is a place like any other now
+  DiziniDiskeIndir(ust_);
+  return Tamam();
+}
+
+bool YarimDizinAdi(std::string_view ad) {
+  return ad.starts_with(OnEk) && ad.find('/') == std::string_view::npos;
+}
+
+std::vector<std::string> YarimDizinler(const std::string& ust) {
+  std::vector<std::string> adlar;
+  std::error_code hata;
+  for (fs::directory_iterator i(ust, hata), son; !hata && i != son; i.increment(hata)) {
+    std::string ad = i->path().filename();
+    if (!YarimDizinAdi(ad)) continue;
+    const int no = Kilitle(i->path());
+    if (no < 0) continue;
+    ::close(no);
+    adlar.push_back(std::move(ad));
+  }
+  std::sort(adlar.begin(), adlar.end());
+  return adlar;
+}
+
+Durum YarimDiziniSil(const std::string& ust, const std::string& ad) {
+  const std::string yol = DizinSonu(ust) + ad;
+  const int no = YarimDizinAdi(ad) ? Kilitle(yol) : -1;
+  if (no < 0) return Kusur{"Bu dizin şu anda kullanılıyor, hiçbir dosya silinmedi:\n" + yol};
+  std::error_code hata;
+  fs::remove_all(yol, hata);
+  ::close(no);
+  if (hata) return Kusur{"Şirket silinemedi, silinemeyen: " + yol};
+  DiziniDiskeIndir(ust);
+  return Tamam();
+}
+
+}  // namespace belvani
