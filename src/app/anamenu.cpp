@@ -13,6 +13,7 @@
 #include "app/menuharfi.h"
 #include "app/yardim.h"
 #include "core/session/firmabilgi.h"
+#include "core/session/sinifbakimi.h"
 #include "screens/core/Dbupdate.h"
 #include "screens/personnel/personelformu.h"
 #include "ui/metin.h"
@@ -30,6 +31,16 @@ QWidget* IlkOdak(QWidget* ekran) {
     if (olur && (parca->focusPolicy() & Qt::TabFocus)) return parca;
   }
   return ekran;
+}
+
+// A menu in which nothing is seen is not seen either; true when something is.
+bool BoslariGizle(const QWidget& menu) {
+  bool dolu = false;
+  for (QAction* giris : menu.actions()) {
+    if (giris->menu() != nullptr) giris->setVisible(BoslariGizle(*giris->menu()));
+    dolu = dolu || giris->isVisible();
+  }
+  return dolu;
 }
 
 }  // namespace
@@ -100,10 +111,11 @@ void anamenu::MenuYap() {
   for (const EkranKaydi& kayit : Ekranlar()) {
     QAction* giris = AltMenu(kayit.menu)->addAction(Yazi(kayit.baslik));
     giris->setObjectName("mnu" + Yazi(kayit.kelime));
-    giris->setEnabled(Acilir(kayit));
+    giris->setVisible(Acilir(kayit));
     connect(giris, &QAction::triggered, this, [this, &kayit] { Ac(kayit); });
     girisler_.emplace_back(giris, &kayit);
   }
+  BoslariGizle(*menuBar());
   MenuHarfleriKoy(*menuBar());
   SimgeleriKoy();
 }
@@ -183,6 +195,16 @@ void anamenu::Islem(MenuIslemi islem) {
   }
 }
 
+// A save of an older program could change it unasked. "No" is not asked again; the control report goes on naming it.
+void anamenu::TehlikeSinifiniSor() {
+  const Oturum& o = ekran_.oturum;
+  if (!o.firmaVar || SinifBakimiOku(o.FirmaDizini) != SinifBakimi::Sorulmadi) return;
+  if (const Durum d = SinifBakimiYaz(o.FirmaDizini, SinifBakimi::Soruldu); !d) ekran_.bildirim.Uyari(d.KusurMetni());
+  if (ekran_.bildirim.Soru("İşyeri tehlike sınıfı: " + std::to_string(int(o.firma.sinif.Sayi()) + 1) +
+                           "\nEski sürümlerde firma kartı kaydedilirken değişmiş olabilir.\nKarta bakılsın mı ?"))
+    KisiyeGit({}, firma::sinif);
+}
+
 void anamenu::GorunumAc() {
   if (OneGetir("gorun")) return;
   // The desktop may be gone before the screen that takes its changes back.
@@ -224,9 +246,12 @@ void anamenu::SerbestGoster(std::unique_ptr<Form> form) {
   (odak != nullptr ? odak.data() : IlkOdak(ekran))->setFocus(Qt::TabFocusReason);
 }
 
+// A field of the company's card is nobody's.
 void anamenu::KisiyeGit(const std::string& kod, AlanTutamagi alan) {
-  const std::string kelime = Utf8(KisiEkrani(alan));
+  const bool firmanin = alan.kayit == typeid(Firma);
+  const std::string kelime = firmanin ? "firbil" : Utf8(KisiEkrani(alan));
   Ac(*std::ranges::find(Ekranlar(), std::string_view(kelime), &EkranKaydi::kelime));
+  if (auto* acik = qobject_cast<Form*>(alan_->currentSubWindow()->widget()); firmanin) return acik->OdakVer(alan);
   if (auto* acik = dynamic_cast<PersonelFormu*>(alan_->currentSubWindow()->widget())) acik->KisiyeGit(kod, alan);
 }
 

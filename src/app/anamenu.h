@@ -32,6 +32,8 @@ class anamenu : public QMainWindow, public FormGosterici {
   void SerbestGoster(std::unique_ptr<Form> form) override;
   QWidget* ModalUst() override { return this; }
   void KisiyeGit(const std::string& kod, AlanTutamagi alan) override;
+  // Asks once about a company whose class an older program may have changed (core/session/sinifbakimi.h).
+  void TehlikeSinifiniSor();
 
   Form1& Masaustu() { return *masaustu_; }
   // Closes every screen, from the last to the first.

@@ -51,7 +51,7 @@ class Program : ProgramParcalari<BildirimKutusu, SistemDialoglari> {
       const Durum ayniVersiyon = VersiyonKontrol(oturum);
       if (!ayniVersiyon) bildirim.KusuruGoster(ayniVersiyon.Kusuru());
       devam = ayniVersiyon || VeritabaniGuncelleGoster(ekran, parametreler) != GuncellemeSonucu::ProgramBitsin;
-      if (!devam) dongu.quit();
+      devam ? pencere.TehlikeSinifiniSor() : dongu.quit();
     });
     dongu.exec();
     pencere.EkranlariKapat();

@@ -1,8 +1,11 @@
-// sirket-ac, sirketler, denetle
+// sirket-ac, sirket-sil, sirketler, denetle
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
-#include "core/session/firmabilgi.h"
 #include "core/session/sirketlistesi.h"
+#include "core/session/yenisirket.h"
+#include "core/store/depodenetimi.h"
+#include "core/store/koru.h"
+#include "payroll/hazirlik/sirketdenetimi.h"
 
 namespace belvani::cli {
 namespace {
@@ -13,18 +16,23 @@ struct SirketAcSecenekleri {
   int ay = 0;
 };
 
+// A password in the arguments is seen by everybody on the computer: "-" stands for one line of standard input.
+std::string SifreOku(const std::string& secenek) {
+  if (secenek != "-") return secenek;
+  const std::string girdi = GirdiyiOku();
+  return girdi.substr(0, girdi.find_first_of("\r\n"));
+}
+
 void SirketiAc(Genel& genel, const SirketAcSecenekleri& s) {
   Oturum o;
   o.DataPath = genel.DataPath();
-  Basarmali(VeriYolu(o.DataPath).Yarat());
-  if (const auto acildi = SirketOlustur(o, s.kod, s.kullanici, s.sifre, genel.bildirim); !acildi)
-    throw KomutHatasi{acildi.KusurMetni()};
-  Okunan<Firma> firma = FirmaDuzenle(o);
-  if (!s.unvan.empty()) firma.simdi.unvan = s.unvan;
-  if (s.yil != 0) firma.simdi.firmayil = std::int16_t(s.yil);
-  if (s.ay != 0) firma.simdi.firmaay = std::uint8_t(s.ay);
-  if (const auto yazilan = FirmaKaydet(o, firma); !yazilan)
-    throw KomutHatasi{yazilan.KusurMetni() + ": " + o.depo.db.SonHata()};
+  const auto kart = [&s](Firma& firma) {
+    if (!s.unvan.empty()) firma.unvan = s.unvan;
+    if (s.yil != 0) firma.firmayil = std::int16_t(s.yil);
+    if (s.ay != 0) firma.firmaay = std::uint8_t(s.ay);
+  };
+  Basarmali(
+      SirketKur(o, {.ad = s.kod, .kullanici = s.kullanici, .sifre = SifreOku(s.sifre), .kart = kart}, genel.bildirim));
   Yaz("Şirket açıldı: " + o.FirmaKod + "\n");
 }
 
@@ -35,14 +43,43 @@ void SirketleriYaz(Genel& genel, bool json) {
     dizi.push_back({{"kod", s.ad}, {"unvan", s.unvan}, {"donem", s.donem}});
     metin += s.ad + "\t" + s.unvan + "\t" + s.donem + "\n";
   }
+  // They are no companies, so programs that read the list do not see them.
+  for (const std::string& ad : YarimSirketler(genel.DataPath()))
+    genel.bildirim.Uyari("Yarım kalmış şirket: " + ad + " (silmek için: sirket-sil " + ad + " --onay)");
   Yaz(json ? dizi.dump(2) + "\n" : metin);
+}
+
+// The user has agreed beforehand.
+class OnayliBildirim final : public StandartHata {
+ public:
+  bool Soru(std::string_view) override { return true; }
+};
+
+void SirketiSil(Genel& genel, const std::string& kod, bool onay) {
+  Oturum o;
+  o.DataPath = genel.DataPath();
+  OnayliBildirim onayli;
+  auto silinen = SirketSil(o.DataPath, kod, o, onay ? onayli : static_cast<Bildirim&>(genel.bildirim));
+  if (Degeri(silinen) != Silme::Silindi) throw KomutHatasi{"Silinmedi; silmek için --onay veriniz: " + kod};
+  Yaz("Şirket silindi: " + kod + "\n");
+}
+
+// A line each below the one before, with the person it is about.
+std::string BulguSatirlari(const Kusurlar& bulgular) {
+  std::string metin;
+  for (const Kusur& k : bulgular)
+    metin += std::string("\n") + (k.derece == Derece::Uyari ? "Uyarı: " : "") + (k.kod.empty() ? "" : k.kod + ": ") +
+             k.metin;
+  return metin;
 }
 
 void Denetle(Genel& genel, const std::string& kod) {
   const auto o = genel.SirketAc(kod);
-  if (const std::string kusur = o->depo.db.IcMotor().ButunlukKusuru(); !kusur.empty())
-    throw KomutHatasi{"Veritabanı bozuk: " + kusur};
-  Yaz("Veritabanı sağlam: " + o->FirmaKod + "\n");
+  const auto kusurlar = Koru([&] { return DepoKusurlari(o->depo.db.IcMotor()); });
+  if (!kusurlar) throw KomutHatasi{"Veritabanı okunamadı: " + kusurlar.KusurMetni()};
+  if (!kusurlar->empty()) throw KomutHatasi{"Veritabanı bozuk: " + o->FirmaKod + BulguSatirlari(*kusurlar)};
+  auto uyarilar = SirketDenetle(*o);
+  Yaz("Veritabanı sağlam: " + o->FirmaKod + BulguSatirlari(Degeri(uyarilar)) + "\n");
 }
 
 }  // namespace
@@ -52,7 +89,7 @@ void SirketKomutlari(CLI::App& app, Genel& genel) {
   auto s = std::make_shared<SirketAcSecenekleri>();
   ac->add_option("KOD", s->kod, "şirketin adı; dizini bu adla açılır")->required();
   ac->add_option("--kullanici", s->kullanici, "ilk kullanıcının adı")->required();
-  ac->add_option("--sifre", s->sifre, "ilk kullanıcının şifresi (verilmezse boş)");
+  ac->add_option("--sifre", s->sifre, "ilk kullanıcının şifresi (verilmezse boş; - ise standart girdiden okunur)");
   ac->add_option("--unvan", s->unvan, "şirketin ünvanı");
   YilSecenegi(*ac, s->yil, "çalışma yılı (verilmezse bu yıl)");
   AySecenegi(*ac, s->ay, "çalışma ayı (verilmezse bu ay)");
@@ -63,7 +100,15 @@ void SirketKomutlari(CLI::App& app, Genel& genel) {
   liste->add_flag("--json", *json, "JSON olarak");
   liste->callback([&genel, json] { SirketleriYaz(genel, *json); });
 
-  auto* denetle = app.add_subcommand("denetle", "Şirketin veritabanını baştan sona okuyup sağlamlığını denetler");
+  auto* sil = app.add_subcommand("sirket-sil", "Şirketi bütün dosyalarıyla siler; yarım kalmış olanı da");
+  auto silinen = std::make_shared<std::string>();
+  auto onay = std::make_shared<bool>(false);
+  sil->add_option("KOD", *silinen, "şirketin dizini, yazıldığı gibi")->required();
+  sil->add_flag("--onay", *onay, "sormadan siler; verilmezse hiçbir şey silinmez");
+  sil->callback([&genel, silinen, onay] { SirketiSil(genel, *silinen, *onay); });
+
+  auto* denetle =
+      app.add_subcommand("denetle", "Şirketin veritabanını baştan sona okuyup denetler; kusur varsa 1 ile biter");
   auto kod = std::make_shared<std::string>();
   denetle->add_option("KOD", *kod, "şirket")->required();
   denetle->callback([&genel, kod] { Denetle(genel, *kod); });

@@ -8,6 +8,7 @@
 #include "app/belgeyardimi.h"
 #include "app/menuharfi.h"
 #include "app/yardim.h"
+#include "core/session/sinifbakimi.h"
 #include "core/store/satirlar.h"
 #include "documents/belgeler.h"
 #include "screens/core/firbil.h"
@@ -52,6 +53,37 @@ TEST(Anamenu, EveryEntryIsReachedByItsOwnLetter) {
   EXPECT_EQ(HarfliBasliklar({"İndirimler", "ırmak", "Iğdır", "Ek İşlemler", "Ek", "E"}),
             (QStringList{"İ&ndirimler", "&ırmak", "I&ğdır", "&Ek İşlemler", "E&k", "E"}))
       << "ı and I are one key; İ is no plain key";
+}
+
+// Nothing that is seen is dead: what has no screen is not shown, nor a menu without any entry.
+TEST(Anamenu, EveryEntryThatIsSeenDoesSomething) {
+  AnaOrtam ortam;
+  for (const EkranKaydi& kayit : Ekranlar()) {
+    const auto* giris = ortam.pencere->findChild<QAction*>("mnu" + Yazi(kayit.kelime));
+    EXPECT_TRUE(giris->isEnabled()) << kayit.kelime;
+    EXPECT_EQ(giris->isVisible(), Acilir(kayit)) << kayit.kelime;
+  }
+  for (const QMenu* menu : ortam.pencere->menuBar()->findChildren<QMenu*>()) {
+    const bool dolu = std::ranges::any_of(menu->actions(), [](const QAction* giris) { return giris->isVisible(); });
+    EXPECT_EQ(menu->menuAction()->isVisible(), dolu) << Utf8(menu->objectName());
+  }
+}
+
+TEST(Anamenu, ACompanyOfOlderDaysIsAskedOnceToLookAtItsClass) {
+  AnaOrtam ortam;
+  const std::string& firma = ortam.oturum.FirmaDizini;
+  ortam.pencere->TehlikeSinifiniSor();
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{}) << "nothing older has touched a new company";
+  ASSERT_TRUE(SinifBakimiYaz(firma, SinifBakimi::Sorulmadi));
+  for (int kez = 0; kez < 2; ++kez) {
+    ortam.pencere->TehlikeSinifiniSor();
+    EXPECT_EQ(ortam.bildirim.Al().size(), kez == 0 ? 1u : 0u);
+  }
+  ASSERT_NE(ortam.Onde<firbil>(), nullptr);
+  EXPECT_EQ(ortam.Odak(), "sinif");
+  EXPECT_EQ(SinifBakimiOku(firma), SinifBakimi::Soruldu);
+  ortam.Bas(Qt::Key_F5);
+  EXPECT_EQ(SinifBakimiOku(firma), SinifBakimi::Bakildi);
 }
 
 TEST(Anamenu, WindowsOpenInViewAndRememberTheirPlace) {

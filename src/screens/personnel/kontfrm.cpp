@@ -3,6 +3,8 @@
 #include <QGroupBox>
 #include <QLineEdit>
 
+#include "payroll/hazirlik/sirketdenetimi.h"
+#include "personnel/kimlik.h"
 #include "personnel/kontrol.h"
 #include "ui/listedoldur.h"
 #include "ui/uzunis.h"
@@ -14,6 +16,8 @@ kontfrm::kontfrm(EkranBaglami& baglam)
   liste_->CreateNewCaption('m', "kod", "Kod", 90);
   liste_->CreateNewCaption('m', "adsoy", "Adı Soyadı", 240);
   liste_->CreateNewCaption('m', "sonuc", "Sonuç", 320);
+  liste_->CreateNewCaption('s', "sira", "", 0);
+  liste_->Gizle("sira");
   liste_->GenisKolon("sonuc");
   liste_->setMinimumSize(700, 380);
   auto* kutu = new QGroupBox(QStringLiteral("Kontrol Sonucları"), this);
@@ -23,17 +27,38 @@ kontfrm::kontfrm(EkranBaglami& baglam)
   duzen->addWidget(arama);
   duzen->addWidget(liste_, 1);
   Govde()->addWidget(kutu, 1);
-  liste_->Secildi = [this](int satir) { Baglam().gosterici.KisiyeGit(Utf8(liste_->TextByName(satir, "kod")), {}); };
+  liste_->Secildi = [this](int satir) { Git(bulgular_.at(liste_->TextByName(satir, "sira").toUInt())); };
   Doldur();
   IlkOdak(liste_);
 }
 
+// What the whole company has comes before what its people have.
 void kontfrm::Doldur() {
-  const auto kontrol = UzunIs(Baglam(), QStringLiteral("Personel kayıtları kontrol ediliyor…"),
-                              [this](Ilerleme& ilerleme) { return KontrolRaporu(Oturumu(), &ilerleme); });
-  if (!kontrol) return;
-  if (!Oldu(*kontrol)) return;
-  ListeDoldur(*liste_, **kontrol, [](const KontrolSatiri& k) { return std::array{k.kod, k.adsoy, k.sonuc}; });
+  struct Kontrol {
+    Sonuc<Kusurlar> sirket;
+    Sonuc<std::vector<KontrolSatiri>> kisiler;
+  };
+  const auto kontrol = UzunIs(Baglam(), QStringLiteral("Personel kayıtları kontrol ediliyor…"), [this](Ilerleme& i) {
+    return Kontrol{SirketDenetle(Oturumu(), &i), KontrolRaporu(Oturumu(), &i)};
+  });
+  if (!kontrol || !Oldu(kontrol->sirket) || !Oldu(kontrol->kisiler)) return;
+  bulgular_ = *kontrol->sirket;
+  std::vector<KontrolSatiri> satirlar;
+  for (const Kusur& k : bulgular_)
+    satirlar.push_back({k.kod, k.kod.empty() ? "Firma" : KisiAdi(Oturumu(), k.kod), k.metin});
+  for (const KontrolSatiri& k : *kontrol->kisiler) {
+    if (k.kod.empty() && !bulgular_.empty()) continue;  // says that nothing was found
+    satirlar.push_back(k);
+    bulgular_.push_back({.metin = k.sonuc, .kod = k.kod});
+  }
+  std::size_t sira = 0;
+  ListeDoldur(*liste_, satirlar, [&](const KontrolSatiri& k) {
+    return std::array{k.kod, k.adsoy, k.sonuc, std::to_string(sira++)};
+  });
+}
+
+void kontfrm::Git(const Kusur& bulgu) {
+  if (bulgu.alan || !bulgu.kod.empty()) Baglam().gosterici.KisiyeGit(bulgu.kod, bulgu.alan);
 }
 
 }  // namespace belvani

@@ -1,4 +1,5 @@
-// kontfrm ("Kontrol İşlemleri"): the faults of the personnel records, to read.
+// kontfrm ("Kontrol İşlemleri"): the faults of the personnel records and what is wrong with the company
+// as a whole, to read. Enter opens the screen on which it is mended.
 #pragma once
 
 #include "ui/dclist.h"
@@ -12,8 +13,10 @@ class kontfrm : public Form {
 
  private:
   void Doldur();
+  void Git(const Kusur& bulgu);
 
   dclist* liste_;
+  Kusurlar bulgular_;  // a row of the list each, by its hidden number
 };
 
 }  // namespace belvani

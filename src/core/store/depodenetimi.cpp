@@ -1,0 +1,134 @@
+#include "core/store/depodenetimi.h"
+
+#include <algorithm>
+#include <set>
+
+#include "core/tables/tablolar.h"
+
+namespace belvani {
+namespace {
+
+// Of a value that its column cannot hold, as this engine keeps them; {0} is the column.
+std::string TipKosulu(const AlanTanimi& alan) {
+  const auto tam = [](const std::string& enAz, const std::string& enCok) {
+    return "typeof({0}) <> 'integer' or {0} < " + enAz + " or {0} > " + enCok;
+  };
+  switch (alan.tip) {
+    case AlanTipi::Metin:
+      return "typeof({0}) <> 'text'";
+    case AlanTipi::Byte:
+      return tam("0", "255");
+    case AlanTipi::Kisa:
+      return tam("-32768", "32767");
+    case AlanTipi::Uzun:
+      return tam("-2147483648", "2147483647");
+    case AlanTipi::Tutar:
+      return "typeof({0}) <> 'integer'";
+    case AlanTipi::Tek:
+      return "typeof({0}) not in ('real', 'integer')";
+    case AlanTipi::Tarih:
+      return "typeof({0}) <> 'text' or date({0}) is null or date({0}) <> {0}";
+    case AlanTipi::Mantik:
+      return tam("0", "1");
+    case AlanTipi::Ikili:
+      return "typeof({0}) <> 'blob'";
+  }
+  return "0";
+}
+
+std::string Yerine(std::string metin, std::string_view yer, std::string_view ad) {
+  for (std::size_t i = 0; (i = metin.find(yer, i)) != std::string::npos; i += ad.size())
+    metin.replace(i, yer.size(), ad);
+  return metin;
+}
+
+bool KisiliMi(const TabloTanimi& tablo) {
+  return tablo.ad != "peruser" && tablo.ad != "arac" && tablo.ad != "sendika" && tablo.AlanBul("kod") != nullptr;
+}
+
+class DepoDenetimi {
+ public:
+  explicit DepoDenetimi(Motor& motor) : motor_(motor) {}
+
+  Kusurlar Denetle() {
+    if (std::string kusur = motor_.ButunlukKusuru(); !kusur.empty()) Ekle("veritabanı bozuk: " + kusur);
+    for (const TabloTanimi& tablo : Tablolar()) {
+      kolonlar_.clear();
+      for (const MotorKolonu& kolon : motor_.Kolonlar(tablo.ad)) kolonlar_.insert(kolon.ad);
+      kolonlar_.empty() ? Ekle(std::string(tablo.ad) + ": tablo yok") : TabloyuDenetle(tablo);
+    }
+    return std::move(kusurlar_);
+  }
+
+ private:
+  void Ekle(std::string metin, std::string kod = {}) {
+    kusurlar_.push_back({.metin = std::move(metin), .kod = std::move(kod)});
+  }
+
+  void TabloyuDenetle(const TabloTanimi& tablo) {
+    for (const AlanTanimi& alan : tablo.alanlar) {
+      if (kolonlar_.contains(alan.ad))
+        TipiDenetle(tablo, alan);
+      else
+        Ekle(std::string(tablo.ad) + "." + std::string(alan.ad) + ": alan yok");
+    }
+    IndeksleriDenetle(tablo);
+    if (tablo.ad == "firma") TekilligiDenetle(tablo, {});
+    for (const IndeksTanimi& indeks : tablo.indeksler)
+      if (indeks.tekil) TekilligiDenetle(tablo, indeks.alanlar);
+    if (tablo.ad == "brd") TekilligiDenetle(tablo, {"yil", "ay", "kod"});
+  }
+
+  void TipiDenetle(const TabloTanimi& tablo, const AlanTanimi& alan) {
+    const std::string sql = "select count(*), " + std::string(KisiliMi(tablo) ? "min(kod)" : "''") + " from " +
+                            std::string(tablo.ad) + " where {0} is not null and (" + TipKosulu(alan) + ")";
+    const auto komut = motor_.Hazirla(Yerine(sql, "{0}", alan.ad));
+    if (!komut->Adim() || komut->Tam(0) == 0) return;
+    Ekle(std::string(tablo.ad) + "." + std::string(alan.ad) + ": " + std::to_string(komut->Tam(0)) +
+             " kayıtta alanın türünden olmayan bir değer var",
+         std::string(komut->Metin(1)));
+  }
+
+  void IndeksleriDenetle(const TabloTanimi& tablo) {
+    std::set<std::string, std::less<>> olan;
+    const auto komut = motor_.Hazirla("select name from pragma_index_list(?)");
+    komut->MetinBagla(1, tablo.ad);
+    while (komut->Adim()) olan.emplace(komut->Metin(0));
+    const auto bak = [&](const std::string& ad) {
+      if (!olan.contains(ad)) Ekle(std::string(tablo.ad) + ": " + ad + " indeksi yok");
+    };
+    for (const IndeksTanimi& indeks : tablo.indeksler)
+      if (tablo.AlanBul(indeks.alanlar.front())->nitelik != AlanNiteligi::Otomatik)
+        bak(std::string(tablo.ad) + "_" + std::string(indeks.ad));
+    for (const IndeksTanimi& indeks : tablo.sorguIndeksleri) bak(std::string(indeks.ad));
+  }
+
+  // Without columns: the whole table holds one record.
+  void TekilligiDenetle(const TabloTanimi& tablo, const std::vector<std::string_view>& alanlar) {
+    std::string liste;
+    for (const std::string_view alan : alanlar) {
+      if (!kolonlar_.contains(alan)) return;
+      liste += (liste.empty() ? "" : ", ") + std::string(alan);
+    }
+    const std::string tekrar =
+        "select count(*), " + std::string(KisiliMi(tablo) && !liste.empty() ? "min(kod)" : "''") + " as kisi from " +
+        std::string(tablo.ad) + (liste.empty() ? "" : " group by " + liste) + " having count(*) > 1";
+    const auto komut = motor_.Hazirla(tekrar);
+    while (komut->Adim())
+      Ekle(std::string(tablo.ad) + ": aynı kayıt " + std::to_string(komut->Tam(0)) + " kez var" +
+               (liste.empty() ? "" : " (" + liste + ")"),
+           std::string(komut->Metin(1)));
+  }
+
+  Motor& motor_;
+  std::set<std::string, std::less<>> kolonlar_;  // of the table that is looked at
+  Kusurlar kusurlar_;
+};
+
+}  // namespace
+
+Kusurlar DepoKusurlari(Motor& motor) {
+  return DepoDenetimi(motor).Denetle();
+}
+
+}  // namespace belvani
