@@ -63,7 +63,7 @@ std::vector<EkranKaydi> Kayitlar() {
 
       {"Bordro", "Bordro Hazırlık", "brdhazir", "bordro", "", Yap<brdhazir>},
 
-      {"Bildirgeler", "Aylık Bildirge (ek 9-4a)", "yaylik", "tablo", "", Yap<yaylik>},
+      {"Bildirgeler", "Aylık Bildirge (ek 9-4a)", "yaylik", "tablo", "Aylık Bildirge EK-3", Yap<yaylik>},
       {"Bildirgeler", "Eksik Gün Bildirim Formu EK-10", "ek10"},
       {"Bildirgeler", "Aylık Bildirge", "aylik", "", "Aylık Bildirge Ek-1,Ek-2"},
       {"Bildirgeler", "S.G.D.P. Bildirgesi", "sgdp"},

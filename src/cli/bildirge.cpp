@@ -203,7 +203,8 @@ void XmlDosyasi(const Is& is) {
 void PdfDosyasi(const Is& is) {
   is.KagitKosullari(AylikBildirge::Cikti::Kagit);
   auto pdf = BelgePdf(*BildirgeBelgesi(is.Kagit()));
-  is.Ver(Degeri(pdf).baytlar, pdf->uyari);
+  const auto& belge = Degeri(pdf);  // the fault first: arguments are evaluated in any order
+  is.Ver(belge.baytlar, belge.uyari);
 }
 
 void MatbuMetni(const Is& is) {

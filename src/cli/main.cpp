@@ -11,20 +11,29 @@ namespace {
 constexpr int Basarisiz = 1;
 constexpr int YanlisKullanim = 2;
 
+std::string Degistir(std::string metin, std::string_view eski, std::string_view yeni) {
+  if (const auto i = metin.find(eski); i != std::string::npos) metin.replace(i, eski.size(), yeni);
+  return metin;
+}
+
+// Words of the library that have no label: the type before a list of choices, and how many values an option takes,
+// which the names of the values say.
+class TurkceBicim final : public CLI::Formatter {
+ public:
+  std::string make_option_opts(const CLI::Option* secenek) const override {
+    return Degistir(Degistir(CLI::Formatter::make_option_opts(secenek), "TEXT:", "METİN:"), " x 2", "");
+  }
+};
+
 void TurkceYap(CLI::App& app) {
-  auto bicim = std::make_shared<CLI::Formatter>();
+  auto bicim = std::make_shared<TurkceBicim>();
   const std::pair<const char*, const char*> sozcukler[] = {
       {"Usage", "Kullanım"},     {"OPTIONS", "SEÇENEKLER"}, {"SUBCOMMAND", "KOMUT"}, {"SUBCOMMANDS", "KOMUTLAR"},
-      {"REQUIRED", "(gerekli)"}, {"TEXT", "METİN"},         {"INT", "SAYI"},         {"POSITIONALS", "DEĞERLER"}};
+      {"REQUIRED", "(gerekli)"}, {"TEXT", "METİN"},         {"INT", "SAYI"},         {"Positionals", "Değerler"}};
   for (const auto& [ingilizce, turkce] : sozcukler) bicim->label(ingilizce, turkce);
   bicim->column_width(28);
   app.formatter(bicim);
   app.option_defaults()->group("Seçenekler");
-}
-
-std::string Degistir(std::string metin, std::string_view eski, std::string_view yeni) {
-  if (const auto i = metin.find(eski); i != std::string::npos) metin.replace(i, eski.size(), yeni);
-  return metin;
 }
 
 template <class Tur>
@@ -40,7 +49,7 @@ std::string KullanimKusuru(const CLI::ParseError& h) {
     return "tanınmayan değer:" + ayrinti.substr(std::min(ayrinti.size(), ayrinti.find(':') + 1));
   if (TuruMu<CLI::ArgumentMismatch>(h)) return ayrinti.substr(0, ayrinti.find(':')) + " seçeneğinin değeri verilmemiş";
   if (TuruMu<CLI::ValidationError>(h)) return Degistir(ayrinti, " not in ", " olamaz, şunlardan biri olmalı: ");
-  return ayrinti;
+  return Degistir(ayrinti, "Could not convert:", "okunamayan değer:");
 }
 
 int YanlisKullanimiBildir(const std::string& kusur) {
@@ -59,7 +68,10 @@ int Calistir(int argc, char** argv) {
   for (const KomutEkle ekle : {SirketKomutlari, ParametreKomutlari, AktarimKomutlari, HazirlaKomutlari, HesaplaKomutu,
                                BelgeKomutlari, BildirgeKomutu})
     ekle(app, genel);
-  for (CLI::App* komut : app.get_subcommands({})) komut->group("Komutlar");
+  for (CLI::App* komut : app.get_subcommands({})) {
+    komut->group("Komutlar");
+    komut->get_help_ptr()->group("Seçenekler");
+  }
   try {
     app.parse(argc, argv);
     if (app.get_subcommands().empty()) return YanlisKullanimiBildir("komut verilmemiş");

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "calistir.h"
+#include "core/store/motor.h"
 #include "core/turkce.h"
 #include "documents/belgeler.h"
 
@@ -244,6 +245,57 @@ TEST(Kullanim, IsToldInTurkishWithStatusTwo) {
   for (const char* ad : {"../kacak", "a/b", "..", "' '"})
     EXPECT_EQ(komut(std::string("sirket-ac ") + ad + " --kullanici a").durum, 1) << ad;
   EXPECT_THAT(komut("bordro yok --yil 2009 --ay 1").mesaj, HasSubstr("Şirket Bulunamadı: YOK"));
+}
+
+// Two directories that one word means, a company that was never finished, a card that cannot be: nothing is guessed,
+// and nothing half stays.
+TEST(Sirket, CompaniesAreMadeWholeAndNamedExactly) {
+  const Sirket s;
+  EXPECT_THAT(s.Hata("sirket-ac yeni --kullanici a --unvan " + std::string(41, 'x')), HasSubstr("en çok 40 harf"));
+  std::filesystem::copy(s.dizin.Yol() + "veri/DENEME", s.dizin.Yol() + "veri/deneme");
+  EXPECT_EQ(s.Hata("denetle Deneme"),
+            "Bu ada uyan birden çok şirket var, adı dizininki gibi yazınız:\nDENEME\ndeneme\n");
+  EXPECT_THAT(s.Tamam("denetle deneme"), HasSubstr("Veritabanı sağlam: deneme\n"));
+  std::filesystem::create_directories(s.dizin.Yol() + "veri/.kurulan-YARIM-abcdef");
+  const Cikti liste = s("sirketler");
+  EXPECT_EQ(liste.cikti, "DENEME\tŞık Örgü\t07-2009\ndeneme\tŞık Örgü\t07-2009\n");
+  EXPECT_THAT(liste.mesaj, HasSubstr("Yarım kalmış şirket: .kurulan-YARIM-abcdef"));
+  EXPECT_THAT(s.Hata("sirket-sil deneme"), HasSubstr("--onay"));
+  EXPECT_THAT(s.Hata("sirket-sil Deneme --onay"), HasSubstr("arasında yok: Deneme"));
+  for (const char* ad : {"deneme", ".kurulan-YARIM-abcdef"}) s.Tamam(std::string("sirket-sil ") + ad + " --onay");
+  EXPECT_EQ(s("sirketler").mesaj, "");
+  EXPECT_EQ(s.Tamam("sirketler"), "DENEME\tŞık Örgü\t07-2009\n");
+}
+
+TEST(Sirket, APasswordComesFromStandardInput) {
+  const Sirket s;
+  EXPECT_EQ(s("sirket-ac uzun --kullanici a --sifre -", "123456789\n").durum, 1) << "it is read, and is too long";
+  EXPECT_EQ(s("sirket-ac kisa --kullanici a --sifre -", "gizli\r\n").durum, 0);
+}
+
+TEST(Sirket, TheCheckTellsFaultsFromRemarks) {
+  const Sirket s;
+  const auto sql = [&](const std::string& komut) { MotorAc(s.dizin.Yol() + "veri/DENEME/tolu.dat")->Calistir(komut); };
+  s.Tamam("hazirla deneme --yil 2009 --ay 7");
+  EXPECT_EQ(s.Tamam("denetle deneme"), "Veritabanı sağlam: DENEME\n");
+  sql("insert into esco (kod) values ('9')");
+  EXPECT_EQ(s.Tamam("denetle deneme"),
+            "Veritabanı sağlam: DENEME\nUyarı: 9: Kartı olmayan personelin 1 eş ve çocuk kaydı var\n");
+  sql("update sicil set girtar = 'dün' where kod = '002'; drop index brd_ay");
+  EXPECT_EQ(s.Hata("denetle deneme"),
+            "Veritabanı bozuk: DENEME\n002: sicil.girtar: 1 kayıtta alanın türünden olmayan bir değer var\n"
+            "brd: brd_ay indeksi yok\n");
+}
+
+// No word of the library's language in any help.
+TEST(Sirket, HelpIsTurkish) {
+  const Komut komut;
+  for (const char* ad :
+       {"", "sirket-ac", "sirket-sil", "bordro", "bildirge", "hesapla", "parametre-kur", "personel-al"}) {
+    const std::string yardim = komut(std::string(ad) + " --help").cikti;
+    for (const char* sozcuk : {"Options", "OPTIONS", "Positionals", "TEXT", "Usage", "REQUIRED", " x 2", "Subcommand"})
+      EXPECT_EQ(yardim.find(sozcuk), std::string::npos) << ad << ": " << sozcuk;
+  }
 }
 
 // Garbage in any file: told, status 1, and the file stays as it is.
