@@ -6,6 +6,7 @@
 #include "core/store/depodenetimi.h"
 #include "core/store/koru.h"
 #include "payroll/hazirlik/sirketdenetimi.h"
+#include "personnel/tanimkodlari.h"
 
 namespace belvani::cli {
 namespace {
@@ -79,7 +80,9 @@ void Denetle(Genel& genel, const std::string& kod) {
   if (!kusurlar) throw KomutHatasi{"Veritabanı okunamadı: " + kusurlar.KusurMetni()};
   if (!kusurlar->empty()) throw KomutHatasi{"Veritabanı bozuk: " + o->FirmaKod + BulguSatirlari(*kusurlar)};
   auto uyarilar = SirketDenetle(*o);
-  Yaz("Veritabanı sağlam: " + o->FirmaKod + BulguSatirlari(Degeri(uyarilar)) + "\n");
+  const auto kodlar = Koru([&] { return TanimsizKodluKisiler(*o); });
+  Yaz("Veritabanı sağlam: " + o->FirmaKod + BulguSatirlari(Degeri(uyarilar)) +
+      BulguSatirlari(kodlar ? *kodlar : Kusurlar{kodlar.Kusuru()}) + "\n");
 }
 
 }  // namespace

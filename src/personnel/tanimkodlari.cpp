@@ -1,5 +1,6 @@
 #include "personnel/tanimkodlari.h"
 
+#include "core/store/satirlar.h"
 #include "core/store/tablo.h"
 #include "core/tables/kaztan.h"
 #include "core/tables/sendika.h"
@@ -37,6 +38,17 @@ Kusurlar TanimsizKodlar(Oturum& o, const Sicil& kart, const std::optional<Sicil>
     if (!kod.empty() && !durur && !tanim.tanimli(o, kod))
       kusurlar.push_back(KuralKusuru(tanim.tanimsiz + kod, tanim.kolon));
   }
+  return kusurlar;
+}
+
+Kusurlar TanimsizKodluKisiler(Oturum& o) {
+  Kusurlar kusurlar;
+  for (const Sicil& kart : KayitlariOku<Sicil>(o.depo.db.IcMotor(), "order by kod"))
+    for (Kusur kusur : TanimsizKodlar(o, kart)) {
+      kusur.kod = kart.kod;
+      kusur.derece = Derece::Uyari;
+      kusurlar.push_back(std::move(kusur));
+    }
   return kusurlar;
 }
 

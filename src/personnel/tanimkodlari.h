@@ -16,4 +16,7 @@ namespace belvani {
 // company's default group counts as defined: it comes into being when the company is opened. Throws MotorHatasi.
 Kusurlar TanimsizKodlar(Oturum& o, const Sicil& kart, const std::optional<Sicil>& ilk = {});
 
+// The same of everybody, as remarks with the person's code, in the order of the codes. Throws MotorHatasi.
+Kusurlar TanimsizKodluKisiler(Oturum& o);
+
 }  // namespace belvani

@@ -82,6 +82,12 @@ TEST(Anamenu, ACompanyOfOlderDaysIsAskedOnceToLookAtItsClass) {
   ASSERT_NE(ortam.Onde<firbil>(), nullptr);
   EXPECT_EQ(ortam.Odak(), "sinif");
   EXPECT_EQ(SinifBakimiOku(firma), SinifBakimi::Soruldu);
+  ortam.pencere->EkranlariKapat();
+  ortam.OneAl();
+  ortam.pencere->Ac(AnaOrtam::Kayit("kontfrm"));
+  ortam.Bas(Qt::Key_Return);  // its first row is that of the class
+  ASSERT_NE(ortam.Onde<firbil>(), nullptr);
+  EXPECT_EQ(ortam.Odak(), "sinif");
   ortam.Bas(Qt::Key_F5);
   EXPECT_EQ(SinifBakimiOku(firma), SinifBakimi::Bakildi);
 }

@@ -278,9 +278,10 @@ TEST(Sirket, TheCheckTellsFaultsFromRemarks) {
   const auto sql = [&](const std::string& komut) { MotorAc(s.dizin.Yol() + "veri/DENEME/tolu.dat")->Calistir(komut); };
   s.Tamam("hazirla deneme --yil 2009 --ay 7");
   EXPECT_EQ(s.Tamam("denetle deneme"), "Veritabanı sağlam: DENEME\n");
-  sql("insert into esco (kod) values ('9')");
+  sql("insert into esco (kod) values ('9'); update sicil set hesap = 'YOK' where kod = '002'");
   EXPECT_EQ(s.Tamam("denetle deneme"),
-            "Veritabanı sağlam: DENEME\nUyarı: 9: Kartı olmayan personelin 1 eş ve çocuk kaydı var\n");
+            "Veritabanı sağlam: DENEME\nUyarı: 9: Kartı olmayan personelin 1 eş ve çocuk kaydı var\n"
+            "Uyarı: 002: Hesap grubu tanımlı değil: YOK\n");
   sql("update sicil set girtar = 'dün' where kod = '002'; drop index brd_ay");
   EXPECT_EQ(s.Hata("denetle deneme"),
             "Veritabanı bozuk: DENEME\n002: sicil.girtar: 1 kayıtta alanın türünden olmayan bir değer var\n"

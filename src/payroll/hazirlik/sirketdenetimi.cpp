@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <map>
-#include <set>
 
 #include "core/asama.h"
 #include "core/session/sinifbakimi.h"
@@ -24,19 +23,6 @@ Kusur Uyari(std::string metin, AlanTutamagi alan = {}, std::string kod = {}) {
   return {.metin = std::move(metin), .alan = alan, .kod = std::move(kod), .derece = Derece::Uyari};
 }
 
-// Case-insensitive, as the store's keys are.
-struct TurkceSira {
-  bool operator()(const std::string& a, const std::string& b) const { return TurkceKarsilastir(a, b) < 0; }
-};
-using Kodlar = std::set<std::string, TurkceSira>;
-
-Kodlar KodlariOku(Motor& motor, const std::string& kolon, const std::string& tablo) {
-  Kodlar kodlar;
-  const auto komut = motor.Hazirla("select " + kolon + " from " + tablo);
-  while (komut->Adim()) kodlar.emplace(komut->Metin(0));
-  return kodlar;
-}
-
 void KartiDenetle(const Oturum& o, Kusurlar& kusurlar) {
   const Firma& f = o.firma;
   if (f.sinif.Sayi() == 0 && SinifBakimiOku(o.FirmaDizini) != SinifBakimi::Bakildi)
@@ -48,18 +34,6 @@ void KartiDenetle(const Oturum& o, Kusurlar& kusurlar) {
   if (f.firmayil <= 0 || f.firmaay < 1 || f.firmaay > 12)
     kusurlar.push_back(
         Uyari("Çalışma dönemi hatalı", f.firmayil <= 0 ? AlanTutamagi(firma::firmayil) : firma::firmaay));
-}
-
-void KisileriDenetle(Motor& motor, const Kodlar& gruplar, Kusurlar& kusurlar) {
-  const Kodlar sendikalar = KodlariOku(motor, "kod", "sendika");
-  const auto komut = motor.Hazirla("select kod, coalesce(hesap, ''), coalesce(tasno, '') from sicil order by kod");
-  while (komut->Adim()) {
-    const std::string kod(komut->Metin(0)), hesap(komut->Metin(1)), sendika(komut->Metin(2));
-    if (!Kirp(hesap).empty() && !gruplar.contains(hesap))
-      kusurlar.push_back(Uyari("Hesap Kodu tanımlı değil: " + hesap, sicil::hesap, kod));
-    if (!Kirp(sendika).empty() && !sendikalar.contains(sendika))
-      kusurlar.push_back(Uyari("Sendika Kodu tanımlı değil: " + sendika, sicil::tasno, kod));
-  }
 }
 
 // Records of a table whose person has no card, person by person.
@@ -182,10 +156,7 @@ Sonuc<Kusurlar> SirketDenetle(Oturum& o, Ilerleme* ilerleme) {
       [&] {
         Motor& motor = o.depo.db.IcMotor();
         Kusurlar kusurlar;
-        Kodlar gruplar = KodlariOku(motor, "grup", "kaztan");
-        gruplar.insert(o.firma.ondeger);  // its row is made when parameters are first loaded
         KartiDenetle(o, kusurlar);
-        KisileriDenetle(motor, gruplar, kusurlar);
         SicilsizleriDenetle(motor, kusurlar);
         BordrolariDenetle(motor, kusurlar, ilerleme);
         return kusurlar;

@@ -3,8 +3,7 @@
 // it is mended here.
 //
 //   the card       a class that a save of an older version may have lost, no default group, no month
-//   people         account and union codes that nothing is known of
-//   orphans        records of people who have no card
+//   orphans        records of people who have no card; faults of the people themselves are KontrolRaporu's
 //   pay records    amounts that do not follow from their own parts; months whose rates, ceiling or allowance base are
 //                  not those published for them
 #pragma once

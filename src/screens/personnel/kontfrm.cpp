@@ -16,8 +16,6 @@ kontfrm::kontfrm(EkranBaglami& baglam)
   liste_->CreateNewCaption('m', "kod", "Kod", 90);
   liste_->CreateNewCaption('m', "adsoy", "Adı Soyadı", 240);
   liste_->CreateNewCaption('m', "sonuc", "Sonuç", 320);
-  liste_->CreateNewCaption('s', "sira", "", 0);
-  liste_->Gizle("sira");
   liste_->GenisKolon("sonuc");
   liste_->setMinimumSize(700, 380);
   auto* kutu = new QGroupBox(QStringLiteral("Kontrol Sonucları"), this);
@@ -27,7 +25,7 @@ kontfrm::kontfrm(EkranBaglami& baglam)
   duzen->addWidget(arama);
   duzen->addWidget(liste_, 1);
   Govde()->addWidget(kutu, 1);
-  liste_->Secildi = [this](int satir) { Git(bulgular_.at(liste_->TextByName(satir, "sira").toUInt())); };
+  liste_->Secildi = [this](int satir) { Git(bulgular_.at(std::size_t(satir))); };
   Doldur();
   IlkOdak(liste_);
 }
@@ -51,10 +49,7 @@ void kontfrm::Doldur() {
     satirlar.push_back(k);
     bulgular_.push_back({.metin = k.sonuc, .kod = k.kod});
   }
-  std::size_t sira = 0;
-  ListeDoldur(*liste_, satirlar, [&](const KontrolSatiri& k) {
-    return std::array{k.kod, k.adsoy, k.sonuc, std::to_string(sira++)};
-  });
+  ListeDoldur(*liste_, satirlar, [](const KontrolSatiri& k) { return std::array{k.kod, k.adsoy, k.sonuc}; });
 }
 
 void kontfrm::Git(const Kusur& bulgu) {

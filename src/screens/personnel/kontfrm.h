@@ -16,7 +16,7 @@ class kontfrm : public Form {
   void Git(const Kusur& bulgu);
 
   dclist* liste_;
-  Kusurlar bulgular_;  // a row of the list each, by its hidden number
+  Kusurlar bulgular_;  // a row of the list each
 };
 
 }  // namespace belvani
