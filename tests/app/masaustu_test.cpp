@@ -1,6 +1,8 @@
 // Shortcuts: added, changed and deleted through the desktop, started by keyboard, kept over a restart.
 #include "app/masaustu.h"
 
+#include <set>
+
 #include "app/anaortam.h"
 #include "app/kyol.h"
 #include "core/dosya.h"
@@ -127,6 +129,20 @@ TEST_F(MasaustuTest, AnIconFileIsKeptByAPathThatFits) {
   EXPECT_EQ(ortam.bildirim.Al().size(), 1u);
   ortam.Bas(Qt::Key_F5);
   EXPECT_EQ(kaydedilen, (Kisayol{"x", 3, "ikon/davet.png", ""}));
+}
+
+// A program of the list that has a screen opens it, whatever the menu calls that screen; all others say that they have
+// none. The numbers are those that the file keeps.
+TEST_F(MasaustuTest, EveryProgramOpensItsScreenOrSaysThatThereIsNone) {
+  const std::set<std::size_t> acilan{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 13, 14, 22, 34, 35, 41, 42, 45, 46, 47, 48};
+  for (std::size_t i = 0; i < KisayolProgramlari.size(); ++i) {
+    const EkranKaydi* ekran = KisayolEkrani(KisayolProgramlari[i]);
+    EXPECT_EQ(ekran != nullptr && Acilir(*ekran), acilan.contains(i)) << KisayolProgramlari[i];
+    if (acilan.contains(i)) continue;
+    ortam.pencere->Calistir({"x", i, "", ""});
+    EXPECT_EQ(ortam.bildirim.Al(),
+              Iletiler{"Bilgi: " + std::string(KisayolProgramlari[i]) + "\nBu ekran bu sürümde yok."});
+  }
 }
 
 }  // namespace
