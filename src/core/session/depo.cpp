@@ -11,7 +11,7 @@ constexpr std::size_t EnCokFoto = 1'000'000'000;  // bytes: the most that a fiel
 
 enum class Yoklugu {
   Kusurdur,    // of a store that is no company's, or a broken one
-  Giderilir,   // a store of an older program: the first opening makes it
+  Giderilir,   // a store of an earlier version: the first opening makes it
   Baslangicta  // the same, and a new store has not got it either
 };
 

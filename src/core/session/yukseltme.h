@@ -1,4 +1,4 @@
-// The in-place upgrade of a company store that an older program has made, one numbered step after the other.
+// The in-place upgrade of a company store that an earlier version has made, one numbered step after the other.
 //
 // A step closes the cursors, opens the file anew, adds the fields that its version brought, opens the cursors, fills
 // the new fields and stamps `firma.versiyon`. Fields that are there already are passed over, so a step may be repeated;

@@ -1,6 +1,6 @@
 // Rows of the store as record structs, for work on many rows at once. All of it throws MotorHatasi.
 //
-// A store of an older program may lack columns: they read as Null and are left out of writes.
+// A store of an earlier version may lack columns: they read as Null and are left out of writes.
 #pragma once
 
 #include <algorithm>

@@ -54,7 +54,7 @@ class Veritabani {
   bool AlanEkle(std::string_view tablo, const AlanTanimi& alan);
   bool TabloEkle(const TabloTanimi& tanim);
   bool TabloVarMi(std::string_view tablo);
-  // The indexes of the engine's own queries, on the tables of a store that an older program has made.
+  // The indexes of the engine's own queries, on the tables of a store that an earlier version has made.
   bool SorguIndeksleriKur();
 
   const std::string& SonHata() const { return sonHata_; }

@@ -89,7 +89,7 @@ TEST_F(Yukseltme, RepeatedSteps) {
   const char* donemIndeksleri =
       "select count(*) from sqlite_master where type = 'index' and name like 'brd!_%' escape '!'";
   const std::string ilk = Satir(donemIndeksleri);
-  Sql("drop index brd_ay");  // an older program knew nothing of it
+  Sql("drop index brd_ay");  // an earlier version knew nothing of it
   ASSERT_EQ(AdimlariYurut(o, {true, true, true, true, true, true, false}, Taban, b), GuncellemeSonucu::Tamam);
   EXPECT_EQ(Satir(donemIndeksleri), ilk);
   EXPECT_EQ(Satir("select epos || kanun, tersfirma, versiyon from firma"), "00000 0 2003.6");
