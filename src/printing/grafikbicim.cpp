@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cmath>
 #include <limits>
 
 #include "core/asama.h"
@@ -205,7 +204,7 @@ GrafikBicimi GrafikBicimle(const Rapor& rapor, const GrafikDuzeni& duzen, Ilerle
   bicim.en = std::max(bicim.en, MetinEni(rapor.baslik, bicim.yazi) * 1.5);
   bicim.en = std::min(bicim.en, KullanilirEn(bicim.yon));
   bicim.satirBoyu = SatirBoyu(bicim.yazi) * SatirAraligi;
-  if (tablo.imza > 0) bicim.kagit.satirBoyu = int(std::ceil(ImzaBoyu / bicim.satirBoyu));
+  if (tablo.imza > 0) bicim.kagit.satirBoyu = std::max(1.0, ImzaBoyu / bicim.satirBoyu);
   bicim.satirSayisi = int((A4(bicim.yon).boy - 2 * KenarMm) / bicim.satirBoyu);
   return bicim;
 }

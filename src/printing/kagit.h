@@ -29,7 +29,7 @@ struct KagitBicimi {
   std::vector<IkiSatir> basliklar;  // of each column
   int baslikBoyu = 1;               // 1 or 2 lines of heads
   int en = 0;                       // letters of the whole line
-  int satirBoyu = 1;                // lines that a row takes
+  double satirBoyu = 1;             // lines that a row takes
 };
 
 // A number is never cut: its column grows as its cells and sums need. Where the line then passes `duzen.en`, all

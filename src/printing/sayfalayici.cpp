@@ -40,7 +40,7 @@ class Sayfalayici {
     Koy(Tur::Cizgi);
     for (std::size_t i = 2 - std::size_t(bicim_.baslikBoyu); i < 2; ++i) Koy(Tur::KolonBasligi, i);
     Koy(Tur::Cizgi);
-    satirSayaci_ = int(sayfalar_.back().satirlar.size());
+    satirSayaci_ = double(sayfalar_.back().satirlar.size());
   }
 
   void AraKoy() {
@@ -75,7 +75,7 @@ class Sayfalayici {
   }
 
   void BlokKoy() {
-    const int gerekli = SayfaBoyu(sayfalar_.back(), bicim_) + int(rapor_.sonBlok.size());
+    const double gerekli = SayfaBoyu(sayfalar_.back(), bicim_) + double(rapor_.sonBlok.size());
     // The last line of a page stays free: with it printed, a form feed would throw a blank page.
     if (!rapor_.sonBlok.empty() && gerekli >= duzen_.satirSayisi) Basla(rapor_.Satirlar().size());
     for (std::size_t i = 0; i < rapor_.sonBlok.size(); ++i) Koy(Tur::Blok, i);
@@ -85,7 +85,7 @@ class Sayfalayici {
   const KagitBicimi& bicim_;
   const SayfaDuzeni& duzen_;
   std::vector<Sayfa> sayfalar_;
-  int satirSayaci_ = 0;  // of the open page; 0: none is open
+  double satirSayaci_ = 0;  // of the open page; 0: none is open
 };
 
 }  // namespace
@@ -108,12 +108,12 @@ bool TabloSatiriMi(SayfaSatirTuru tur) {
   return false;
 }
 
-int SatirBoyu(const SayfaSatiri& satir, const KagitBicimi& bicim) {
+double SatirBoyu(const SayfaSatiri& satir, const KagitBicimi& bicim) {
   return satir.tur == Tur::Govde ? bicim.satirBoyu : 1;
 }
 
-int SayfaBoyu(const Sayfa& sayfa, const KagitBicimi& bicim) {
-  int boy = 0;
+double SayfaBoyu(const Sayfa& sayfa, const KagitBicimi& bicim) {
+  double boy = 0;
   for (const SayfaSatiri& satir : sayfa.satirlar) boy += SatirBoyu(satir, bicim);
   return boy;
 }

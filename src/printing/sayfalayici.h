@@ -49,8 +49,8 @@ struct Sayfa {
 };
 
 // Lines that one of a page takes, and all of them.
-int SatirBoyu(const SayfaSatiri& satir, const KagitBicimi& bicim);
-int SayfaBoyu(const Sayfa& sayfa, const KagitBicimi& bicim);
+double SatirBoyu(const SayfaSatiri& satir, const KagitBicimi& bicim);
+double SayfaBoyu(const Sayfa& sayfa, const KagitBicimi& bicim);
 
 std::vector<Sayfa> SayfalaraBol(const Rapor& rapor, const KagitBicimi& bicim, const SayfaDuzeni& duzen);
 
