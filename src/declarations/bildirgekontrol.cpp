@@ -123,13 +123,13 @@ IsyeriBilgileri IsyeriniHazirla(const Firma& firma, const std::string& araciKodu
   return {
       .IsyeriSicil = Kirpik(firma.sektor) + Kirpik(firma.meslek) + Kirpik(firma.sube) + Kirpik(firma.dosya) +
                      IlKodu(firma) + Kirpik(firma.ilce),
-      .SicilKusuru = NumaraKusuru(firma),
       .KontrolNo = firma.kontrol,
       .AraciNo = araciKodu,
       .IsyeriUnvan = Kirpik(firma.unvan),
       .IsyeriAdres = std::string(IlkHarfler(Kirp(adres), AdresHarfi)),
       .IsyeriVergiNo = Kirpik(firma.verno),
       .FirmaKanun = firma.kanun,
+      .SicilKusuru = NumaraKusuru(firma),
   };
 }
 

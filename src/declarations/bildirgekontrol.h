@@ -16,13 +16,13 @@ namespace belvani {
 // The employer as the declaration names him.
 struct IsyeriBilgileri {
   std::string IsyeriSicil;    // register number, 21 characters
-  std::string SicilKusuru;    // what is wrong with it, part by part
   std::string KontrolNo;      // its check digits
   std::string AraciNo;        // code of the subcontractor, "000" for none
   std::string IsyeriUnvan;    // at most 50 letters
   std::string IsyeriAdres;    // at most 50 letters
   std::string IsyeriVergiNo;  // may be empty
   std::string FirmaKanun;     // law of rows that have none of their own
+  std::string SicilKusuru{};  // what is wrong with the register number, part by part
 };
 
 IsyeriBilgileri IsyeriniHazirla(const Firma& firma, const std::string& araciKodu);

@@ -1,5 +1,6 @@
 #include "screens/core/araci.h"
 
+#include "core/tckimlik.h"
 #include "ui/cakisma.h"
 
 namespace belvani {
@@ -29,7 +30,9 @@ void araci::Kaydet() {
   if (!Oku(araci_.simdi)) return;
   const auto kaydedilen =
       SorarakKaydet(Baglam(), *this, araci_, [this](const Okunan<Arac>& a) { return AraciKaydet(Oturumu(), a); });
-  if (kaydedilen) Kapat();
+  if (!kaydedilen) return;
+  if (const std::string uyari = TcUyarisi(araci_.simdi.tcno); !uyari.empty()) Bildirimi().Uyari(uyari);
+  Kapat();
 }
 
 }  // namespace belvani

@@ -1,6 +1,7 @@
 #include "screens/core/firbil.h"
 
 #include "core/session/sinifbakimi.h"
+#include "core/tckimlik.h"
 #include "isyeri/numaradenetimi.h"
 #include "payroll/parametre/parametreler.h"
 #include "ui/cakisma.h"
@@ -109,6 +110,8 @@ void firbil::Kaydet() {
   if (const std::string kusur = NumaraKusuru(firma_.simdi);
       kaydedilen && !kusur.empty() && NumaraYazilmis(firma_.simdi))
     Bildirimi().Uyari(kusur);
+  if (const std::string uyari = TcUyarisi(firma_.simdi.tckimlik); kaydedilen && !uyari.empty())
+    Bildirimi().Uyari(uyari);
   Kapat();
 }
 

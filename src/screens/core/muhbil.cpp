@@ -1,6 +1,7 @@
 #include "screens/core/muhbil.h"
 
 #include "core/session/muhasebecibilgi.h"
+#include "core/tckimlik.h"
 
 namespace belvani {
 namespace {
@@ -21,7 +22,9 @@ muhbil::muhbil(EkranBaglami& baglam) : Form(baglam, "muhbil", QStringLiteral("Mu
 
 void muhbil::Kaydet() {
   Muhasebeci muhasebeci;
-  if (Oku(muhasebeci) && Oldu(MuhasebeciKaydet(Oturumu(), muhasebeci))) Kapat();
+  if (!Oku(muhasebeci) || !Oldu(MuhasebeciKaydet(Oturumu(), muhasebeci))) return;
+  if (const std::string uyari = TcUyarisi(muhasebeci.tcno); !uyari.empty()) Bildirimi().Uyari(uyari);
+  Kapat();
 }
 
 }  // namespace belvani
