@@ -241,10 +241,10 @@ void DosyayiIste(const BildirgeSecenekleri& s) {
       throw CLI::ValidationError("--bicim", s.bicim + " ekrana yazılmaz, dosyasını veriniz: -o DOSYA");
 }
 
-void KimliksizleriSoyle(const std::vector<std::string>& kodlar, Bildirim& bildirim) {
-  if (kodlar.empty()) return;
+void KimliksizleriSoyle(const Kusurlar& uyarilar, Bildirim& bildirim) {
+  if (uyarilar.empty()) return;
   std::string metin = "Kimlik bilgisi olmayanlar bildirgeye alınmadı:";
-  for (const auto& kod : kodlar) metin += " " + kod;
+  for (const Kusur& uyari : uyarilar) metin += " " + uyari.kod;
   bildirim.Uyari(metin);
 }
 
@@ -258,7 +258,7 @@ void BildirgeYap(Genel& genel, const BildirgeSecenekleri& s) {
   for (const Kusur& kusur : Olmali(bildirge.Ac(), "Şirketin kayıtları okunamadı")) bildirim.KusuruGoster(kusur);
   Sec(bildirge, s);
   Olmali(bildirge.Hesapla(), Hesaplanamadi);
-  KimliksizleriSoyle(bildirge.Tamami().kimliksizler, bildirim);
+  KimliksizleriSoyle(bildirge.Uyarilar(), bildirim);
   Cikar(bildirge, s.haric);
   for (const Bicim& bicim : bicimler)
     if (s.bicim == bicim.ad) bicim.yaz({bildirge, *o, bildirim, s.dosya});

@@ -103,6 +103,10 @@ bool AylikBildirge::HesaplansinMi() {
   return !duzeltildi_ || bildirim_.Soru(std::string(DuzeltmelerSilinir) + "\nBildirge Yeniden Hesaplansın mı ?");
 }
 
+bool AylikBildirge::BirakilsinMi() {
+  return !duzeltildi_ || bildirim_.Soru(std::string(DuzeltmelerSilinir) + "\nEkran Kapatılsın mı ?");
+}
+
 AylikBildirge::Tazeleme AylikBildirge::TazelensinMi() {
   const std::string neden = EskimeMetni();
   if (neden.empty()) return Tazeleme::Gerekmez;
@@ -249,6 +253,16 @@ void AylikBildirge::EksiUcretleriSoyle() {
   sorunlar_.insert(sorunlar_.end(), eksiler.begin(), eksiler.end());
 }
 
+Kusurlar AylikBildirge::Uyarilar() const {
+  Kusurlar uyarilar;
+  for (const std::string& kod : bildirge_.kimliksizler)
+    uyarilar.push_back({.metin = "Kimlik bilgisi olmadığı için bildirgeye alınmadı",
+                        .alan = KaynakAlani("tcno"),
+                        .kod = kod,
+                        .derece = Derece::Uyari});
+  return uyarilar;
+}
+
 Durum AylikBildirge::XmlKosullari() const {
   if (bildirge_.satirlar.empty()) return KuralKusuru(Hesaplatilmamis);
   if (bildirge_.secim.belgeTuru != 0) return KuralKusuru("Bildirgeyi  Tüm Sigorta Kolları İçin Hesaplatın");
@@ -267,6 +281,7 @@ Sonuc<std::optional<std::string>> AylikBildirge::XmlHazirla(const Yurutucu& yuru
   const bool bitti = yurut(
       [&](Ilerleme* ilerleme) { dosya = Koru([&] { return BildirgeXml(bildirge_, Isyeri(), Yuvarla(), ilerleme); }); });
   if (!dosya) return dosya.Kusuru();
+  sorunlar_.insert(sorunlar_.end(), dosya->sorunlar.begin(), dosya->sorunlar.end());
   if (!bitti || (!dosya->sorunlar.empty() && !bildirim_.Soru(SorunMetni(dosya->sorunlar))))
     return std::optional<std::string>();
   return std::optional(std::move(dosya->icerik));

@@ -56,6 +56,8 @@ class AylikBildirge {
   std::string EskimeMetni() const;
   // Asked before a calculation that would drop edits; without any it is true.
   bool HesaplansinMi();
+  // Asked before edits go with their screen.
+  bool BirakilsinMi();
   // Asked before whatever leaves an outdated grid. Nothing may leave one that was made for another selection.
   enum class Tazeleme { Gerekmez, Hesaplanir, Vazgecildi };
   Tazeleme TazelensinMi();
@@ -82,8 +84,11 @@ class AylikBildirge {
 
   // All checks, in their order, up to the first fault; what he may let through is asked.
   Sonuc<Karar> BildirgeKontrol();
-  // What the last of these checks has found in the rows, all of it, at the fields of the people's records.
+  // What the last of these checks and the way out behind it have found, all of it, at the fields of the people's
+  // records: faults of rows, values that spoil the file, wages below zero.
   const Kusurlar& Sorunlar() const { return sorunlar_; }
+  // What the last calculation has found: people who are left out, each at the record that he lacks.
+  Kusurlar Uyarilar() const;
 
   // " E-Bildirge Hazırla ", up to the choice of the file: there are rows, of all statuses together.
   Durum XmlKosullari() const;

@@ -141,7 +141,10 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
   Komutlar({{.tus = Qt::Key_F5, .dugme = "&Hesapla", .simge = "kaydet", .islev = [this] { Hesapla(); }},
             {.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır ", .simge = "yazici", .islev = [this] { Yazdir(); }},
             {.tus = Qt::Key_F9, .dugme = " Excel'e gönderim ", .simge = "tablo", .islev = [this] { ExceleGonder(); }},
-            {.tus = Qt::Key_F11, .dugme = " E-Bildirge Hazırla ", .simge = "indir", .islev = [this] { EBildirge(); }}});
+            {.tus = Qt::Key_F11, .dugme = " E-Bildirge Hazırla ", .simge = "indir", .islev = [this] { EBildirge(); }},
+            {.tus = Qt::Key_Escape, .ipucu = "Kapat", .islev = [this] {
+               if (bildirge_.BirakilsinMi()) Kapat();
+             }}});
   const auto acildi = bildirge_.Ac();
   for (const Kusur& kusur : acildi ? *acildi : Kusurlar{acildi.Kusuru()}) Bildir(kusur);
   SecenekleriKoy(Denetim(secim::belgeTuru), bildirge_.BelgeTurleri());
@@ -230,6 +233,8 @@ bool yaylik::HesaplaVeGoster() {
   const auto hesaplandi = UzunIs(Baglam(), QStringLiteral("Bildirge hesaplanıyor…"),
                                  [this](Ilerleme& ilerleme) { return bildirge_.Hesapla(&ilerleme); });
   Goster();
+  const auto& kimliksizler = bildirge_.Tamami().kimliksizler;
+  if (kimliksizler != std::exchange(listelenen_, kimliksizler)) KusurlariGoster(Baglam(), bildirge_.Uyarilar());
   return hesaplandi && Oldu(*hesaplandi);
 }
 
@@ -326,7 +331,7 @@ bool yaylik::SatirSil(int sira) {
   return silindi;
 }
 
-// Where the check has found more than the one fault that it ends with, the user goes through all of them.
+// Where more was found than the one thing that was told, the user goes through all of it.
 void yaylik::SorunlariGoster() {
   if (bildirge_.Sorunlar().size() > 1) KusurlariGoster(Baglam(), bildirge_.Sorunlar());
 }
@@ -356,6 +361,7 @@ void yaylik::EBildirge() {
                          [&](Ilerleme& ilerleme) { is(&ilerleme); });
   });
   if (!yazildi) return KusurGoster(yazildi.Kusuru());
+  SorunlariGoster();
   if (*yazildi == AylikBildirge::Karar::Devam && Bildirimi().Soru(AylikBildirge::GonderimSorusu))
     FormGoster(Baglam(), std::make_unique<intefrm>(Baglam(), *dosya));
 }
@@ -367,7 +373,9 @@ void yaylik::Yazdir() {
 
 void yaylik::ExceleGonder() {
   if (!Guncel()) return;
-  if (const Durum gonderildi = BildirgeExceleGonder(Baglam(), bildirge_); !gonderildi) KusurGoster(gonderildi.Kusuru());
+  if (const Durum gonderildi = BildirgeExceleGonder(Baglam(), bildirge_); !gonderildi)
+    return KusurGoster(gonderildi.Kusuru());
+  SorunlariGoster();
 }
 
 }  // namespace belvani

@@ -49,6 +49,7 @@ class yaylik : public Form {
   std::array<QLabel*, BransSayisi> primler_{};
   QLabel* genelToplam_ = nullptr;
   QLabel* eksikler_ = nullptr;
+  std::vector<std::string> listelenen_;  // people left out, as they were listed last
   QLabel* eskime_ = nullptr;
 };
 

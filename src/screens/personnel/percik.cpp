@@ -39,6 +39,18 @@ AlanGrubu AdresGrubu() {
            {Uye("tel", &CikisFormu::tel, kimlik::tel.boyut), "Telefon"}}};
 }
 
+// How the release is printed as text; of this print alone.
+struct BaskiSecimi {
+  bool duzCerceve = false;
+};
+
+AlanGrubu BaskiGrubu() {
+  return {"İbraname Baskısı",
+          {{Uye("duzcerceve", &BaskiSecimi::duzCerceve),
+            "Düz Çerçeve",
+            {.ipucu = "Metin baskıda çerçeve + - | ile çizilir: kutu harfi olmayan yazıcılar için"}}}};
+}
+
 std::string CikisDili(std::string_view alan, const Deger& deger) {
   const bool kodlu = alan == sicil::cikiskodu.ad;
   return kodlu ? std::string(CikisKoduMetni(std::uint8_t(TamDegeri(deger)))) : MetinDegeri(deger);
@@ -60,12 +72,15 @@ void percik::Yerlestir() {
   Govde()->addWidget(GrupYap(CikisGrubu()));
   auto* yatay = new QHBoxLayout;
   yatay->setSpacing(12);
-  yatay->addWidget(GrupYap(AdresGrubu()));
+  auto* sol = new QVBoxLayout;
+  sol->addWidget(GrupYap(AdresGrubu()));
+  yatay->addLayout(sol);
   auto* kutu = new QGroupBox(QStringLiteral("İbraname Ödemeleri"), this);
   auto* icerik = new QVBoxLayout(kutu);
   odemeler_ = new OdemeTablosu(Bildirimi(), Oturumu().firma.paraonda, kutu);
   icerik->addWidget(odemeler_, 0, Qt::AlignLeft | Qt::AlignTop);
   yatay->addWidget(kutu, 1);
+  sol->addWidget(GrupYap(BaskiGrubu()));
   Govde()->addLayout(yatay);
 }
 
@@ -127,11 +142,14 @@ void percik::GeriAl() {
 
 void percik::Yazdir() {
   if (!EkrandakiMi() || !odemeler_->Bitir()) return;
+  BaskiSecimi secim;
+  if (!Oku(secim)) return;
   const auto belge = IbranameBelgesi({.form = Okunan(),
                                       .firma = Oturumu().firma,
                                       .odemeler = odemeler_->Oku(),
                                       .tarih = Tarih::Bugun(),
-                                      .paraonda = Oturumu().firma.paraonda});
+                                      .paraonda = Oturumu().firma.paraonda},
+                                     secim.duzCerceve ? CerceveTuru::Duz : CerceveTuru::KutuHarfleri);
   BelgeBas(Baglam(), *belge);
 }
 

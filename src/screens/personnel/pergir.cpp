@@ -1,8 +1,10 @@
 #include "screens/personnel/pergir.h"
 
+#include <QBuffer>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QImage>
 
 #include "core/dosya.h"
 #include "core/tckimlik.h"
@@ -18,7 +20,33 @@ namespace belvani {
 namespace {
 
 constexpr const char* AmblemYeri = "Image";
-constexpr const char* AmblemDosyasi = "ssklogo.png";
+constexpr const char* AmblemUzantilari[] = {".png", ".jpg", ".jpeg", ".bmp"};
+
+// The picture as the paper takes it, a PNG; nothing for what is no picture.
+std::optional<std::string> PngYap(const std::string& baytlar) {
+  const QImage resim = QImage::fromData(QByteArray::fromStdString(baytlar));
+  if (resim.isNull()) return std::nullopt;
+  QByteArray png;
+  QBuffer yazilan(&png);
+  if (!resim.save(&yazilan, "PNG")) return std::nullopt;
+  return png.toStdString();
+}
+
+// The company's own picture, `logo` in its directory, else the emblem of all companies. "": there is none.
+std::string AmblemOku(const Oturum& oturum, Bildirim& bildirim) {
+  const VeriYolu firma(oturum.FirmaDizini);
+  const VeriYolu genel = VeriYolu(oturum.DataPath).Alt(AmblemYeri);
+  for (const auto& [yer, ad] : {std::pair(&firma, "logo"), std::pair(&genel, "ssklogo")})
+    for (const char* uzanti : AmblemUzantilari) {
+      const std::string dosya = std::string(ad) + uzanti;
+      const auto baytlar = yer->Oku(dosya);
+      if (!baytlar) continue;
+      if (auto png = PngYap(*baytlar)) return std::move(*png);
+      bildirim.Uyari(yer->Adres(dosya) + ": resim okunamadı, bildirge amblemsiz basılıyor");
+      return {};
+    }
+  return {};
+}
 
 }  // namespace
 
@@ -139,11 +167,10 @@ void pergir::Yazdir() {
   auto form = Okunan();
   if (!form) return;
   const auto& sskDurumu = dynamic_cast<QComboBox&>(*Denetim(sicil::sskdurum).Odak());
-  const auto belge = GirisBildirgesiBelgesi(
-      {.form = std::move(*form),
-       .firma = Oturumu().firma,
-       .sskDurumu = Utf8(sskDurumu.currentText()),
-       .amblemPng = VeriYolu(Oturumu().DataPath).Alt(AmblemYeri).Oku(AmblemDosyasi).value_or("")});
+  const auto belge = GirisBildirgesiBelgesi({.form = std::move(*form),
+                                             .firma = Oturumu().firma,
+                                             .sskDurumu = Utf8(sskDurumu.currentText()),
+                                             .amblemPng = AmblemOku(Oturumu(), Bildirimi())});
   BelgeBas(Baglam(), *belge);
 }
 

@@ -216,6 +216,9 @@ TEST(Yaylik, AnOutdatedGridIsNotDeclared) {
   EXPECT_THAT(ortam.bildirim.Al(), ElementsAre(HasSubstr("düzeltmeler silinecek")));
   EXPECT_EQ(form.Bildirge().Tamami().satirlar[0].gun, 29);
   EXPECT_TRUE(eskime.isVisible());
+  ortam.Bas(Qt::Key_Escape);
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre(HasSubstr("Ekran Kapatılsın mı ?")));
+  EXPECT_TRUE(form.isVisible()) << "nothing edited goes unasked";
 }
 
 // Another month's law is told before the declaration is priced with it.

@@ -129,6 +129,11 @@ TEST_F(Percik, SumsFollowTheCellsAndGoOnThePaper) {
                                    std::string("877.50"), std::string("01.08.2009")})
     EXPECT_NE(kagit.find(parca), kagit.npos) << parca;
 
+  EXPECT_EQ(kagit.find("+--"), kagit.npos);
+  QApplication::setActiveWindow(form);
+  AlanBul(*form, "duzcerceve").Odak()->setFocus();
+  ortam.Bas(Qt::Key_Space);
+  EXPECT_NE(MetinBas(ortam, "İBRANAME").find("+--"), kagit.npos) << "for a printer without box letters";
   QApplication::setActiveWindow(form);
   AlanBul(*form, "kod").Odak()->setFocus();
   ortam.Yaz("002\n");

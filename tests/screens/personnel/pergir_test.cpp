@@ -2,6 +2,8 @@
 #include "screens/personnel/pergir.h"
 
 #include <QComboBox>
+#include <QDir>
+#include <QImage>
 
 #include "core/saat.h"
 #include "core/session/sirket.h"
@@ -158,6 +160,32 @@ TEST_F(Pergir, ThePaperHasWhatIsOnTheScreen) {
   for (const std::string& parca : {std::string("Ali"), Yarin, Bugun, kol.substr(0, 3), std::string("Eski Cad.")})
     EXPECT_NE(kagit.find(parca), kagit.npos) << parca;
   EXPECT_FALSE(KartBul(ortam.oturum, "001")) << "printing saves nothing";
+}
+
+// The company's own picture in whatever format it has, else the emblem of all companies; a broken one is told.
+TEST_F(Pergir, TheCompanysLogoStandsOnThePaper) {
+  const auto resimliBas = [&] {
+    QApplication::setActiveWindow(form);
+    AlanBul(*form, "kod").Odak()->setFocus();
+    EkranOrtami::ModaldaYap([&] { ortam.Bas(Qt::Key_F8); });
+    ortam.Bas(Qt::Key_F8);
+    return ortam.kuyruk.isler.back().icerik.find("/Image") != std::string::npos;
+  };
+  ortam.Yaz("001\n");
+  Alana("girtar", Yarin);
+  EXPECT_FALSE(resimliBas());
+  QImage resim(40, 20, QImage::Format_RGB32);
+  resim.fill(Qt::blue);
+  ASSERT_TRUE(QDir().mkpath(Yazi(ortam.oturum.DataPath + "Image")));
+  ASSERT_TRUE(resim.save(Yazi(ortam.oturum.DataPath + "Image/ssklogo.png")));
+  EXPECT_TRUE(resimliBas());
+  const std::string firma = VeriYolu(ortam.oturum.FirmaDizini).Adres("logo.bmp");
+  ASSERT_TRUE(resim.save(Yazi(firma)));
+  EXPECT_TRUE(resimliBas());
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+  ASSERT_TRUE(DosyaYaz(firma, "resim degil"));
+  EXPECT_FALSE(resimliBas());
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Uyarı: " + firma + ": resim okunamadı, bildirge amblemsiz basılıyor"});
 }
 
 }  // namespace
