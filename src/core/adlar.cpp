@@ -33,7 +33,10 @@ bool GorunmezHarfVar(std::string_view metin) {
   const auto boy = int32_t(metin.size());
   for (int32_t i = 0; i < boy;) {
     UChar32 harf = 0;
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wconversion"  // inside the library's macro
     U8_NEXT(metin.data(), i, boy, harf);
+#pragma GCC diagnostic pop
     if (harf >= 0 && Gorunmez(harf)) return true;
   }
   return false;

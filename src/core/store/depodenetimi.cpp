@@ -27,7 +27,7 @@ std::string TipKosulu(const AlanTanimi& alan) {
     case AlanTipi::Tek:
       return "typeof({0}) not in ('real', 'integer')";
     case AlanTipi::Tarih:
-      return "typeof({0}) <> 'text' or date({0}) is null or date({0}) <> {0}";
+      return "typeof({0}) <> 'text' or date({0}, '+0 days') is null or date({0}, '+0 days') <> {0}";
     case AlanTipi::Mantik:
       return tam("0", "1");
     case AlanTipi::Ikili:
