@@ -61,6 +61,8 @@ class RasgeleDeger {
   Deger Uret(const AlanTanimi& alan) {
     // What rules narrow further than the type does.
     if (alan.ad == "firmayil") return Sec(1990, 2100);
+    if (alan.ad == "hesap") return std::string("Personel");
+    if (alan.ad == "tasno") return std::string(Sec(0, 1) == 0 ? "S1" : "S2");
     if (alan.ad == "kanun") return std::to_string(Sec(10'000, 99'999));
     if (alan.ad == "girtar") return Tarih(2008, int(Sec(1, 12)), int(Sec(1, 28)));
     if (alan.ad == "ciktar") return Tarih(2009, int(Sec(7, 12)), int(Sec(1, 28)));
@@ -149,6 +151,12 @@ class GidisDonus : public testing::TestWithParam<GidisDonusEkrani> {
         hepsi[g.path()] = DosyaOku(g.path()).value_or("");
     return hepsi;
   }
+  // Why something was not saved; warnings tell of what was.
+  Iletiler Retler() {
+    Iletiler retler = ortam.bildirim.Al();
+    std::erase_if(retler, [](const std::string& ileti) { return ileti.starts_with("Uyarı: "); });
+    return retler;
+  }
   void AlaniDene(std::size_t sira, RasgeleDeger& degerler);
   void KaydetVeBak(std::size_t sira);
 
@@ -194,7 +202,9 @@ void GidisDonus::Doldur(unsigned tohum) {
          {"tur", degerler.Sec(0, 1)},
          {"ucrettipi", degerler.Sec(0, 1)},
          {"cikiskodu", degerler.Sec(1, 34)},
-         {"cikissebebi", std::string("İstifa")}});
+         {"cikissebebi", std::string("İstifa")},
+         {"hesap", std::string("Yok")},
+         {"tasno", std::string("S9")}});
   Satir(degerler, "kimlik", {{"kod", kod}});
   for (I yakinlik = 1; yakinlik <= 4; ++yakinlik) Satir(degerler, "esco", {{"kod", kod}, {"yakinlik", yakinlik}});
   Satir(degerler, "arac", {{"kod", std::string("000")}});
@@ -216,7 +226,7 @@ TEST_P(GidisDonus, UntouchedAndSavedItIsAsItWas) {
     Ac();
     ortam.bildirim.Al();
     ortam.Bas(Qt::Key_F5);
-    EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+    EXPECT_EQ(Retler(), Iletiler{});
     const Saklanan sonra = Hepsi();
     EXPECT_EQ(sonra.size(), once.size());
     for (const auto& [yer, icerik] : once) EXPECT_EQ(sonra.count(yer) == 0 ? "-" : sonra.at(yer), icerik) << yer;
@@ -229,7 +239,7 @@ void GidisDonus::KaydetVeBak(std::size_t sira) {
   const std::string ad(denetim.Satir().tanim.ad);
   const std::string yazilan = MetinDegeri(denetim.Oku());
   ortam.Bas(Qt::Key_F5);
-  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{}) << ad << " = " << yazilan;
+  EXPECT_EQ(Retler(), Iletiler{}) << ad << " = " << yazilan;
   EXPECT_EQ(MetinDegeri(Ac()->Denetimler()[sira]->Oku()), yazilan) << ad;
 }
 
