@@ -1,5 +1,6 @@
 #include "ui/dclistdenetim.h"
 
+#include "core/girdi.h"
 #include "core/sayi.h"
 #include "core/tarih.h"
 #include "ui/metin.h"
@@ -7,12 +8,19 @@
 namespace belvani {
 namespace {
 
+// Month and year that are not typed come from today: 12.03 typed in 2005 is 12.03.2005. A year that was begun is the
+// user's own.
+QString Tamamlanan(QString metin) {
+  if (metin.endsWith('.')) metin.chop(1);
+  const qsizetype nokta = metin.count('.');
+  if (metin.isEmpty() || nokta > 1) return metin;
+  const QString bugun = Yazi(Tarih::Bugun().Metin());
+  return metin + bugun.mid(nokta == 0 ? bugun.indexOf('.') : bugun.lastIndexOf('.'));
+}
+
 bool TarihDenetle(const dclistKolonu& kolon, QString& metin, Bildirim& bildirim) {
   const bool gerek = kolon.denetim == HucreDenetimi::TarihGerek || kolon.denetim == HucreDenetimi::TarihGerekTatilUyar;
-  if (metin.endsWith('.')) metin.chop(1);
-  // What is missing at the end comes from today: 12.03 typed in 2005 is 12.03.2005.
-  if (!metin.isEmpty() && metin.size() < 10) metin += Yazi(Tarih::Bugun().Metin()).mid(metin.size());
-  const Tarih tarih = Tarih::MetinOku(Utf8(metin));
+  const Tarih tarih = YazilanTarih(Utf8(Tamamlanan(metin)));
   if (tarih.Bos() && !metin.isEmpty() && kolon.denetim == HucreDenetimi::TarihYaDaBos) {
     bildirim.Bilgi("Hatalı Tarih Girildi.\nDüzeltiniz.");
     return false;

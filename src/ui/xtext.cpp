@@ -16,6 +16,12 @@ bool DuzenlemeTusu(const QKeyEvent& olay) {
          olay.key() == Qt::Key_End || olay.key() == Qt::Key_Left || olay.key() == Qt::Key_Right;
 }
 
+// Alt with a letter is a menu's or a button's; one that is nobody's types nothing.
+bool AltHarfiMi(const QKeyEvent& olay) {
+  const auto degistirici = olay.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+  return degistirici == Qt::AltModifier && !olay.text().isEmpty() && olay.text().at(0).isPrint();
+}
+
 void SekmeGonder(QWidget* alan, int tus) {
   QKeyEvent bas(QEvent::KeyPress, tus, tus == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
   QApplication::sendEvent(alan, &bas);
@@ -129,6 +135,7 @@ bool xtext::OrtakTus(const QKeyEvent& olay) {
 
 void xtext::keyPressEvent(QKeyEvent* olay) {
   if (OrtakTus(*olay)) return;
+  if (AltHarfiMi(*olay)) return olay->ignore();
   if (!girdi_) return QLineEdit::keyPressEvent(olay);
   if (DuzenlemeTusu(*olay)) {
     girdi_->Gezildi();
@@ -136,6 +143,7 @@ void xtext::keyPressEvent(QKeyEvent* olay) {
   }
   const bool yazilabilir = !isReadOnly();
   if (yazilabilir && olay->matches(QKeySequence::Paste)) return Yapistir();
+  if (yazilabilir && olay->matches(QKeySequence::Undo)) return GeriAl();
   if (yazilabilir && olay->key() == Qt::Key_Delete) return Bosalt();
   if (yazilabilir && olay->key() == Qt::Key_Backspace) return Uygula(girdi_->GeriSil(HepsiSecili()));
   const bool yaziTusu = !olay->text().isEmpty() && olay->text().at(0).isPrint() &&
@@ -175,6 +183,13 @@ bool xtext::HepsiSecili() const {
 
 void xtext::Yapistir() {
   Uygula(girdi_->Yapistir(Utf8(QApplication::clipboard()->text().trimmed())));
+}
+
+// Whole, so that the next key begins anew as it would have done then.
+void xtext::GeriAl() {
+  const TusSonucu sonuc = girdi_->GeriAl();
+  Uygula(sonuc);
+  if (sonuc == TusSonucu::Alindi) selectAll();
 }
 
 void xtext::Bosalt() {

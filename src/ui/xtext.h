@@ -4,6 +4,7 @@
 //   Enter, Down    next field           Delete      empties a number or date wherever the caret stands
 //   Up             previous field       "+"         three zeros at the end of a number
 //   F2             lookup, where the field has the picture button
+//   Ctrl+Z         a number or date becomes what it was when the field was entered
 //
 // A number of zero shows as an empty field. Digits beyond the field's decimals or above its largest value are refused
 // with a beep and change nothing, so what is shown is always what is stored. A text that is no date becomes
@@ -72,6 +73,7 @@ class xtext : public QLineEdit {
   void Uygula(TusSonucu sonuc);
   bool HepsiSecili() const;
   void Yapistir();
+  void GeriAl();
   void Bosalt();
   void GirdiyiGoster();
   void Bitir();

@@ -60,6 +60,10 @@ TEST(SayiGirdisi, EditsWhatIsThereOrBeginsAnew) {
       {Tutar::Hamdan(12'345'600), "|7", "1,234.56", Tutar::Hamdan(12'345'600)},
       {Tutar(12.5), "a7", "7.00", Tutar(7)},  // the refused key does not count as the first
       {Tutar(12.5), "|..,5", "12.55", Tutar(12.55)},
+      // A mark alone empties nothing; with a digit behind it a new number has begun.
+      {Tutar(1250), ".", "1,250.00", Tutar(1250)},
+      {Tutar(1250), "..5", "0.50", Tutar(0.5)},
+      {Tutar(1250), ".>7", "7.00", Tutar(7)},
   };
   for (const auto& d : durumlar) {
     SayiGirdisi girdi({.enCok = 2'000'000, .ondalik = 2});
@@ -77,7 +81,10 @@ TEST(SayiGirdisi, AWholeValueIsPastedIfItFits) {
     Tutar deger;
   } const durumlar[] = {
       {" 1,250.50 ", TusSonucu::Alindi, Tutar(1250.5)},  {"0", TusSonucu::Alindi, Tutar()},
-      {"7.125", TusSonucu::Alindi, Tutar(7.13)},         {"1.250,50", TusSonucu::Reddedildi, Tutar(3.0004)},
+      {"7.125", TusSonucu::Reddedildi, Tutar(3.0004)},   {"1.250,50", TusSonucu::Alindi, Tutar(1250.5)},
+      {"1.250", TusSonucu::Alindi, Tutar(1250)},         {"12,5", TusSonucu::Alindi, Tutar(12.5)},
+      {"12.5000", TusSonucu::Alindi, Tutar(12.5)},       {"1.25,50", TusSonucu::Reddedildi, Tutar(3.0004)},
+      {"1,2,3", TusSonucu::Reddedildi, Tutar(3.0004)},   {"12 TL", TusSonucu::Reddedildi, Tutar(3.0004)},
       {"-5", TusSonucu::Reddedildi, Tutar(3.0004)},      {"2000", TusSonucu::Alindi, Tutar(2000)},
       {"2000.01", TusSonucu::Reddedildi, Tutar(3.0004)}, {"", TusSonucu::Reddedildi, Tutar(3.0004)},
   };
@@ -87,6 +94,32 @@ TEST(SayiGirdisi, AWholeValueIsPastedIfItFits) {
     EXPECT_EQ(girdi.Yapistir(d.metin), d.sonuc) << d.metin;
     EXPECT_EQ(TutarDegeri(girdi.Oku()), d.deger) << d.metin;
   }
+}
+
+TEST(SayiGirdisi, APasteThatMayBeTwoNumbersIsRefused) {
+  SayiGirdisi girdi({.enCok = 9000, .ondalik = 3});
+  EXPECT_EQ(girdi.Yapistir("1,250"), TusSonucu::Reddedildi);
+  EXPECT_EQ(girdi.Yapistir("1,250.000"), TusSonucu::Alindi);
+  EXPECT_EQ(girdi.Metin(), "1,250.000");
+}
+
+TEST(Girdi, WhatStoodThereOnEntryComesBack) {
+  SayiGirdisi sayi({.enCok = 2000, .ondalik = 2});
+  sayi.Yukle(12.004);
+  for (const char* tuslar : {"99", "#", "@<", ".", "|5"}) {
+    Bas(sayi, tuslar);
+    EXPECT_EQ(sayi.GeriAl(), TusSonucu::Alindi) << tuslar;
+    EXPECT_EQ(sayi.Oku(), Deger(12.004)) << tuslar;
+    EXPECT_EQ(sayi.GeriAl(), TusSonucu::Gecildi) << tuslar;
+  }
+  Bas(sayi, "7>8");
+  sayi.GeriAl();
+  EXPECT_EQ(sayi.Oku(), Deger(Tutar(7))) << "not further back than the last entry";
+  TarihGirdisi tarih;
+  tarih.Yukle(Tarih(2005, 3, 12));
+  Bas(tarih, "1");
+  EXPECT_EQ(tarih.GeriAl(), TusSonucu::Alindi);
+  EXPECT_EQ(tarih.Oku(), Deger(Tarih(2005, 3, 12)));
 }
 
 TEST(TarihGirdisi, EditsWhatIsThereOrBeginsAnew) {
@@ -105,6 +138,14 @@ TEST(TarihGirdisi, EditsWhatIsThereOrBeginsAnew) {
       {Tarih(2005, 3, 12), "|@<", "", ""},
       {Tarih(), "<29022008", "29.02.2008", "29.02.2008"},
       {Tarih(), "29022009", "29.02.2009", "??.??.????"},
+      {Tarih(), "1.3.2005", "01.03.2005", "01.03.2005"},
+      {Tarih(), "12.3,29", "12.03.29", "12.03.2029"},
+      {Tarih(), "1.3/30", "01.03.30", "01.03.1930"},
+      {Tarih(), "12030526", "12.03.0526", "??.??.????"},
+      {Tarih(), "120305", "12.03.05", "12.03.2005"},
+      {Tarih(), "1203200", "12.03.200", "??.??.????"},
+      {Tarih(), "0.0.05", "00.00.05", "??.??.????"},
+      {Tarih(1871, 5, 6), "", "06.05.1871", "06.05.1871"},  // what was loaded stays, however old
   };
   for (const auto& d : durumlar) {
     TarihGirdisi girdi;
@@ -123,9 +164,12 @@ TEST(TarihGirdisi, EditsWhatIsThereOrBeginsAnew) {
     EXPECT_EQ(silinen.Metin(), "");
   }
   TarihGirdisi girdi;
-  EXPECT_EQ(girdi.Yapistir("2008-02-29"), TusSonucu::Reddedildi);
-  EXPECT_EQ(girdi.Yapistir(" 1.2.2008 "), TusSonucu::Alindi);
-  EXPECT_EQ(girdi.Oku(), Deger(Tarih(2008, 2, 1)));
+  EXPECT_EQ(girdi.Yapistir("1.2"), TusSonucu::Reddedildi);
+  for (const char* metin : {" 1.2.2008 ", "2008-02-01", "01/02/08"}) {
+    girdi.Bosalt();
+    EXPECT_EQ(girdi.Yapistir(metin), TusSonucu::Alindi) << metin;
+    EXPECT_EQ(girdi.Oku(), Deger(Tarih(2008, 2, 1))) << metin;
+  }
 }
 
 std::string RastgeleTuslar(const std::string& harfler) {
@@ -152,7 +196,8 @@ RC_GTEST_PROP(SayiGirdisi, NoKeysTakeItOutOfItsLimits, ()) {
     else
       sonuc = girdi.Yaz(char32_t(tus), secili);
     if (sonuc != TusSonucu::Alindi) RC_ASSERT(girdi == once);
-    yazildi = yazildi || (sonuc == TusSonucu::Alindi && tus != '|' && tus != '>');
+    // A waiting mark changes nothing yet.
+    yazildi = yazildi || (girdi.Oku() != once.Oku() && tus != '|' && tus != '>');
     RC_ASSERT(yazildi || girdi.Oku() == yuklenen);
     if (!yazildi) continue;
 

@@ -103,7 +103,7 @@ TEST(Xtext, ARefusedKeyLeavesValueAndSelection) {
   a.alan.DegerKoy(Tutar::Hamdan(1'234'567));
   a.alan.selectAll();
   a.Yaz("a");
-  QApplication::clipboard()->setText("1.250,50");
+  QApplication::clipboard()->setText("1.25,50");
   EkranOrtami::Bas(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(a.alan.selectedText(), "123.46");
   EXPECT_EQ(TutarDegeri(a.alan.Value()), Tutar::Hamdan(1'234'567));
@@ -118,6 +118,21 @@ TEST(Xtext, ARefusedKeyLeavesValueAndSelection) {
   t.alan.selectAll();
   t.Yaz(".x");
   EXPECT_EQ(t.alan.selectedText(), "12.03.2005");
+}
+
+TEST(Xtext, CtrlZGivesBackTheValueOfTheEntryAndAltTypesNothing) {
+  Alanlar a(xtext::Tip::Sayi, 1e9, 2);
+  a.alan.DegerKoy(Tutar::Hamdan(1'234'567));
+  a.Yaz("77");
+  EkranOrtami::Bas(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(TutarDegeri(a.alan.Value()), Tutar::Hamdan(1'234'567));
+  a.Yaz("5");
+  EXPECT_EQ(a.Metin(), "5.00") << "the next key begins anew";
+  for (const auto tip : {xtext::Tip::Metin, xtext::Tip::Sayi, xtext::Tip::Tarih}) {
+    Alanlar b(tip, 100, 0);
+    TusGonder(&b.alan, Qt::Key_7, Qt::AltModifier, "7");
+    EXPECT_EQ(b.Metin(), "");
+  }
 }
 
 TEST(Xtext, DatesAreTypedByTheirRules) {
