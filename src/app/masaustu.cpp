@@ -277,7 +277,7 @@ void Form1::Duzenle(int sira) {
 }
 
 void Form1::Sil(int sira) {
-  if (!ekran_.bildirim.Soru("Kısa Yol Silinecek ?\n" + kisayollar_.at(std::size_t(sira)).ad)) return;
+  if (!ekran_.bildirim.SilinsinMi("Kısa Yol Silinecek ?", kisayollar_.at(std::size_t(sira)).ad)) return;
   if (const Durum d = KisayolSil(ekran_.oturum, std::size_t(sira)); !d) return ekran_.bildirim.Uyari(d.KusurMetni());
   std::vector<Kisayol> kalan = kisayollar_;
   kalan.erase(kalan.begin() + sira);

@@ -9,12 +9,25 @@
 
 namespace belvani {
 
+// What shall become of typed work that the next step would lose.
+enum class YazilanKarari { Kaydet, Birak, Kal };
+
+enum class SoruDugmeleri { EvetHayir, TamamIptal };
+
 class Bildirim {
  public:
   virtual ~Bildirim() = default;
   virtual void Bilgi(std::string_view metin) = 0;  // a broken rule, something done
   virtual void Uyari(std::string_view metin) = 0;  // a failed write, a risk
   virtual bool Soru(std::string_view metin) = 0;   // true: yes
+
+  // Before something goes for good: `giden` names it on a line of its own, and a hasty Enter says no.
+  bool SilinsinMi(std::string_view soru, std::string_view giden, SoruDugmeleri dugmeler = SoruDugmeleri::EvetHayir) {
+    return TehlikeliSoru(giden.empty() ? std::string(soru) : std::string(soru) + "\n" + std::string(giden), dugmeler);
+  }
+  virtual bool TehlikeliSoru(std::string_view metin, SoruDugmeleri) { return Soru(metin); }
+  // Who cannot be asked keeps what was typed.
+  virtual YazilanKarari YazilanSorusu(std::string_view) { return YazilanKarari::Kal; }
 
   // A fault in the box of its degree.
   void KusuruGoster(const Kusur& kusur) { kusur.derece == Derece::Bilgi ? Bilgi(kusur.metin) : Uyari(kusur.metin); }

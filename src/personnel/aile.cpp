@@ -1,6 +1,7 @@
 #include "personnel/aile.h"
 
 #include "core/store/satirlar.h"
+#include "core/turkce.h"
 
 namespace belvani {
 
@@ -19,7 +20,9 @@ Yazim<Esco> AileKaydet(Oturum& o, const Okunan<Esco>& satir) {
 }
 
 Sonuc<Silme> AileSil(Oturum& o, std::int32_t oto, Bildirim& bildirim) {
-  if (!bildirim.Soru("Kayıt Silinecek ?")) return Silme::Silinmedi;
+  const auto satir = o.depo.db.Koru(std::optional<Esco>(), [&] { return KisiTablosu<Esco>(o).Bul(std::int64_t(oto)); });
+  const std::string kim = satir ? satir->adi + " " + satir->soyadi : std::string();
+  if (!bildirim.SilinsinMi("Kayıt Silinecek ?", Kirp(kim), SoruDugmeleri::TamamIptal)) return Silme::Silinmedi;
   const Sonuc<bool> silinemedi{Kusur{"Kayıt Silinemedi"}};
   const auto vardi =
       o.depo.db.Koru(silinemedi, [&]() -> Sonuc<bool> { return KisiTablosu<Esco>(o).Sil(std::int64_t(oto)); });

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include "core/ayarlar.h"
+#include "personnel/kimlik.h"
 #include "personnel/tanimkodlari.h"
 
 namespace belvani {
@@ -76,8 +77,8 @@ KartSonucu KartKaydet(Oturum& o, const Okunan<Sicil>& kart, const std::string& y
 }
 
 Sonuc<Silme> KartSil(Oturum& o, std::string_view kod, Bildirim& bildirim) {
-  if (!bildirim.Soru("Personel Kaydını Silmek İstiyormusunuz ?")) return Silme::Silinmedi;
   const std::string silinen = TemizKod(kod);
+  if (!bildirim.SilinsinMi("Personel Kaydını Silmek İstiyormusunuz ?", KodVeAd(o, silinen))) return Silme::Silinmedi;
   if (silinen.empty()) return Silme::Silinmedi;
   if (!KartBul(o, silinen)) return KuralKusuru("Silinecek Personel Bulunamadı", sicil::kod);
   if (!KisiSil(o, silinen)) return Kusur{"Personel Kartı Silinemedi"};

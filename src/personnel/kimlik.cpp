@@ -15,6 +15,11 @@ std::string KisiAdi(Oturum& o, std::string_view kod) {
   return kart ? kart->adi + " " + kart->soyadi : std::string();
 }
 
+std::string KodVeAd(Oturum& o, std::string_view kod) {
+  const std::string adi = KisiAdi(o, kod);
+  return adi.empty() ? std::string(kod) : std::string(kod) + " " + adi;
+}
+
 Yazim<Kimlik> KimlikKaydet(Oturum& o, const Okunan<Kimlik>& kimlik) {
   Okunan<Kimlik> yazilan = kimlik;
   yazilan.simdi.kod = YazilacakKod(kimlik);
@@ -23,8 +28,9 @@ Yazim<Kimlik> KimlikKaydet(Oturum& o, const Okunan<Kimlik>& kimlik) {
 }
 
 Sonuc<Silme> KimlikSil(Oturum& o, std::string_view kod, Bildirim& bildirim) {
-  if (!bildirim.Soru("Personel Kimlik Bilgilerini Silmek İstiyormusunuz ?")) return Silme::Silinmedi;
   const std::string silinen = TemizKod(kod);
+  if (!bildirim.SilinsinMi("Personel Kimlik Bilgilerini Silmek İstiyormusunuz ?", KodVeAd(o, silinen)))
+    return Silme::Silinmedi;
   if (!KimlikBul(o, silinen)) return KuralKusuru("Silinecek Personel Bulunamadı", kimlik::kod);
   if (!KisiSil(o, silinen)) return Kusur{"Personel Kimlik Bilgisi Silinemedi"};
   return Silme::Silindi;

@@ -23,6 +23,9 @@ std::optional<Kimlik> KimlikGit(Oturum& o, Yon yon, std::string_view simdikiKod)
 // First name, a blank and family name of the card with this code; "" when there is no card.
 std::string KisiAdi(Oturum& o, std::string_view kod);
 
+// The code, and the name where there is one: "001 Işıl Öz".
+std::string KodVeAd(Oturum& o, std::string_view kod);
+
 // Saves the record: one that was read is edited, another one added.
 Yazim<Kimlik> KimlikKaydet(Oturum& o, const Okunan<Kimlik>& kimlik);
 

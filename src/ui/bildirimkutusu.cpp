@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include "ui/metin.h"
 #include "ui/renk.h"
@@ -28,9 +29,11 @@ class OlaganImlec {
   const bool mesgul_;
 };
 
-int Goster(QMessageBox::Icon simge, std::string_view metin, QMessageBox::StandardButtons dugmeler) {
+int Goster(QMessageBox::Icon simge, std::string_view metin, QMessageBox::StandardButtons dugmeler,
+           QMessageBox::StandardButton varsayilan = QMessageBox::NoButton) {
   QMessageBox kutu(simge, QStringLiteral("Belvani"), Yazi(metin), dugmeler, QApplication::activeWindow());
   kutu.setTextFormat(Qt::PlainText);
+  kutu.setDefaultButton(varsayilan);
   const OlaganImlec imlec;
   return kutu.exec();
 }
@@ -64,6 +67,29 @@ void BildirimKutusu::Uyari(std::string_view metin) {
 
 bool BildirimKutusu::Soru(std::string_view metin) {
   return Goster(QMessageBox::Question, metin, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+bool BildirimKutusu::TehlikeliSoru(std::string_view metin, SoruDugmeleri dugmeler) {
+  const bool evetHayir = dugmeler == SoruDugmeleri::EvetHayir;
+  const auto olur = evetHayir ? QMessageBox::Yes : QMessageBox::Ok;
+  const auto olmaz = evetHayir ? QMessageBox::No : QMessageBox::Cancel;
+  return Goster(QMessageBox::Question, metin, olur | olmaz, olmaz) == olur;
+}
+
+// An Enter or Esc in haste changes nothing.
+YazilanKarari BildirimKutusu::YazilanSorusu(std::string_view metin) {
+  QMessageBox kutu(QMessageBox::Question, QStringLiteral("Belvani"), Yazi(metin), QMessageBox::NoButton,
+                   QApplication::activeWindow());
+  kutu.setTextFormat(Qt::PlainText);
+  const auto* kaydet = kutu.addButton(QStringLiteral("&Kaydet"), QMessageBox::AcceptRole);
+  const auto* birak = kutu.addButton(QStringLiteral("Kaydet&me"), QMessageBox::DestructiveRole);
+  QPushButton* kal = kutu.addButton(QStringLiteral("&Ekranda Kal"), QMessageBox::RejectRole);
+  kutu.setDefaultButton(kal);
+  kutu.setEscapeButton(kal);
+  const OlaganImlec imlec;
+  kutu.exec();
+  if (kutu.clickedButton() == kaydet) return YazilanKarari::Kaydet;
+  return kutu.clickedButton() == birak ? YazilanKarari::Birak : YazilanKarari::Kal;
 }
 
 std::optional<std::string> SistemDialoglari::DosyaAc(const std::string& baslik, const std::string& dizin,

@@ -11,6 +11,8 @@ class BildirimKutusu final : public Bildirim {
   void Bilgi(std::string_view metin) override;
   void Uyari(std::string_view metin) override;
   bool Soru(std::string_view metin) override;
+  bool TehlikeliSoru(std::string_view metin, SoruDugmeleri dugmeler) override;
+  YazilanKarari YazilanSorusu(std::string_view metin) override;
 };
 
 // The platform's own dialogs.

@@ -34,6 +34,7 @@ TEST_F(Aile, ANewRowGetsItsNumberAndChangingItEditsTheSameRecord) {
 
 TEST_F(Aile, RowsAreDeletedOnceAndADeletedOneIsNotAddedUnseen) {
   Esco satir = Satir("");
+  satir.adi = "Can";
   satir = *AileKaydet(o, {.simdi = satir});
   Engelle("delete on esco");
   EXPECT_FALSE(Bildir(AileSil(o, satir.oto, bildirim)));
@@ -46,8 +47,9 @@ TEST_F(Aile, RowsAreDeletedOnceAndADeletedOneIsNotAddedUnseen) {
   ASSERT_TRUE(!engel && engel.Kusuru().cakisma);
   Uzlastir(silinen, *engel.Kusuru().cakisma, Galip::Benimki);
   EXPECT_FALSE(Bildir(AileKaydet(o, silinen)));
-  const char* const soru = "Soru: Kayıt Silinecek ?";
-  EXPECT_EQ(bildirim.Al(), (Iletiler{soru, "Uyarı: Kayıt Silinemedi", soru, soru, "Bilgi: Silinecek Kayıt Bulunamadı",
+  const std::string soru = "Soru: Kayıt Silinecek ?";
+  const std::string adli = soru + "\n" + satir.adi;
+  EXPECT_EQ(bildirim.Al(), (Iletiler{adli, "Uyarı: Kayıt Silinemedi", adli, soru, "Bilgi: Silinecek Kayıt Bulunamadı",
                                      "Uyarı: Eş ve Çocuk Bilgileri Güncellenemedi"}));
   Engelle("");
   EXPECT_NE(AileKaydet(o, silinen)->oto, satir.oto) << "a record of its own";

@@ -94,8 +94,9 @@ TEST_F(PersonelKarti, DeletingOnEitherScreenRemovesBothAndLeavesThePayRecords) {
     EXPECT_TRUE(Sil(sil, " 1"));
     EXPECT_EQ(KayitSayisi(), 0u);
     EXPECT_FALSE(Sil(sil, "1"));
-    EXPECT_EQ(bildirim.Al(),
-              (Iletiler{soru, soru, silinemedi, soru, silinemedi, soru, soru, "Bilgi: Silinecek Personel Bulunamadı"}));
+    const std::string adli = soru + "\n1 Ali Veli";
+    EXPECT_EQ(bildirim.Al(), (Iletiler{adli, adli, silinemedi, adli, silinemedi, adli, soru + "\n1",
+                                       "Bilgi: Silinecek Personel Bulunamadı"}));
   }
   EXPECT_EQ(Hepsi<Brd>().size(), 1u);
 }

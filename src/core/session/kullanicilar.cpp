@@ -66,11 +66,14 @@ Sonuc<bool> KullaniciKaydet(Oturum& o, const KullaniciGirisi& giris) {
 }
 
 Sonuc<Silme> KullaniciSil(Oturum& o, std::string_view ad, Bildirim& bildirim) {
-  if (Kirp(ad).empty() || !bildirim.Soru("Kullanıcıyı Silmek İstiyormusunuz")) return Silme::Silinmedi;
+  if (Kirp(ad).empty() ||
+      !bildirim.SilinsinMi("Kullanıcıyı Silmek İstiyormusunuz", Kirp(ad), SoruDugmeleri::TamamIptal))
+    return Silme::Silinmedi;
   const auto kullanici = KullaniciBul(o, ad);
   if (!kullanici) return KuralKusuru("Kullanıcı Bulunamadı", kullanicigirisi::ad);
   Veritabani& db = o.depo.db;
-  if (Kullanicilar(o).size() < 2 && !bildirim.Soru("Son Kullanıcı da Silinirse Giriş Yapamazsınız\nEminmisiniz"))
+  constexpr auto sonSoru = "Son Kullanıcı da Silinirse Giriş Yapamazsınız\nEminmisiniz";
+  if (Kullanicilar(o).size() < 2 && !bildirim.SilinsinMi(sonSoru, {}, SoruDugmeleri::TamamIptal))
     return Silme::Silinmedi;
   const bool silindi = db.Koru(false, [&] {
     Tablo<Peruser>(db.IcMotor()).Sil(kullanici->kod);

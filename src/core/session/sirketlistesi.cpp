@@ -75,7 +75,7 @@ Sonuc<Silme> SirketSil(const VeriYolu& veri, std::string_view ad, const Oturum& 
   const auto adlar = SilinebilirSirketler(veri, o);
   if (std::find(adlar.begin(), adlar.end(), ad) == adlar.end())
     return Kusur{"Silinebilecek şirketler arasında yok: " + std::string(ad)};
-  if (!bildirim.Soru("Firmayı Silmeye Eminmisiniz ?")) return Silme::Silinmedi;
+  if (!bildirim.SilinsinMi("Firmayı Silmeye Eminmisiniz ?", ad, SoruDugmeleri::TamamIptal)) return Silme::Silinmedi;
   if (const Durum silindi = Kaldir(veri, std::string(ad)); !silindi) return silindi.Kusuru();
   return Silme::Silindi;
 }

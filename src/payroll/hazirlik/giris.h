@@ -193,6 +193,8 @@ class BordroGirisi {
   // What the user should know of the person and his rates; "" when there is nothing.
   std::string KisiUyarisi() const;
   const std::optional<CalismaUyarisi>& CalismaPaneli() const { return uyari_; }
+  // The entry differs from what came up.
+  bool Yazildi() const { return hal_ == Hal::KisiSecili && g_.giris != acilis_; }
   bool KayitVar() const { return kisi_.kayit.has_value(); }
   int CalismaGun() const { return g_.CalismaGun; }
   int AyGunu() const { return ayGunu_; }
@@ -200,6 +202,7 @@ class BordroGirisi {
   bool AlanAcik(BordroAlani alan) const;
 
   Brd& Giris() { return g_.giris; }
+  const Brd& Giris() const { return g_.giris; }
   const BordroSonucu& Sonuc() const { return sonuc_; }
   const EkranToplamlari& Toplamlar() const { return toplamlar_; }
   // Why it cannot be made, as Hesapla has told.
@@ -221,6 +224,7 @@ class BordroGirisi {
   // Saved, or why the entry goes on.
   std::optional<KapanisSonucu> Kaydet();
   KapanisSonucu SonrakineGec();
+  std::int64_t KayitSayisi();  // of the month
 
   Oturum& o_;
   ParametreDeposu& parametreler_;

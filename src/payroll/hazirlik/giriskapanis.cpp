@@ -32,6 +32,11 @@ Aranan SonrakiUygun(Motor& motor, const BordroDonemi& donem, const std::string& 
   return aranan;
 }
 
+// "Temmuz 2009"
+std::string AyMetni(const BordroDonemi& donem) {
+  return std::string(AyAdi(donem.ay)) + " " + std::to_string(donem.yil);
+}
+
 }  // namespace
 
 // The days are all worked, or the rest has its reason and fills the month.
@@ -89,7 +94,7 @@ std::optional<KapanisSonucu> BordroGirisi::Kaydet() {
     return KapanisSonucu::KaydetmeHatasi;
   }
   // A mixture of the two would be no payroll: one of them must go.
-  if (!bildirim_.Soru(yazilan.KusurMetni() + "\nEkrandaki Giriş Bırakılsın ve Kişi Yeniden Getirilsin mi ?"))
+  if (!bildirim_.SilinsinMi(yazilan.KusurMetni() + "\nEkrandaki Giriş Bırakılsın ve Kişi Yeniden Getirilsin mi ?", {}))
     return KapanisSonucu::KaydetmeHatasi;
   Getir(kod_, DonemDisiMetni::Gosterilir);
   return KapanisSonucu::YenidenGeldi;
@@ -113,7 +118,10 @@ KapanisSonucu BordroGirisi::SonrakineGec() {
 
 bool BordroGirisi::KayitSil() {
   if (hal_ != Hal::KisiSecili || !KayitVar()) return false;
-  if (!bildirim_.Soru("Kayıt Silinecek Eminmisiniz ?")) return false;
+  const Sicil& kisi = kisi_.sicil;
+  if (!bildirim_.SilinsinMi("Kayıt Silinecek Eminmisiniz ?",
+                            kisi.kod + " " + kisi.adi + " " + kisi.soyadi + ", " + AyMetni(kosullar_.donem)))
+    return false;
   const Deger oto = std::int64_t(kisi_.kayit->oto);
   const bool silindi = o_.depo.db.Koru(false, [&] { return Tablo<Brd>(o_.depo.db.IcMotor()).Sil(oto); });
   if (silindi)
@@ -123,8 +131,18 @@ bool BordroGirisi::KayitSil() {
   return silindi;
 }
 
+std::int64_t BordroGirisi::KayitSayisi() {
+  return o_.depo.db.Koru(std::int64_t(), [&] {
+    const auto komut = o_.depo.db.IcMotor().Hazirla("select count(*) from brd where yil = ? and ay = ?");
+    komut->TamBagla(1, kosullar_.donem.yil);
+    komut->TamBagla(2, kosullar_.donem.ay);
+    return komut->Adim() ? komut->Tam(0) : std::int64_t();
+  });
+}
+
 bool BordroGirisi::AyinBordrosunuSil() {
-  if (!bildirim_.Soru("Bordro Tamamen Silinecek Eminmisiniz ?")) return false;
+  const std::string giden = AyMetni(kosullar_.donem) + ", " + std::to_string(KayitSayisi()) + " kişi";
+  if (!bildirim_.SilinsinMi("Bordro Tamamen Silinecek Eminmisiniz ?", giden)) return false;
   if (const auto silinen = BordroSil(o_, kosullar_.donem.yil, kosullar_.donem.ay); !silinen) {
     bildirim_.Uyari(silinen.KusurMetni());
     return false;

@@ -61,7 +61,8 @@ Sonuc<Silme> KazancGrubuSil(TanimOrtami ortam, std::string_view grup) {
   const std::string ad(Kirp(grup));
   if (TurkceEsit(ad, Kirp(ortam.oturum.firma.ondeger)))
     return KuralKusuru("Varsayılan Hesap Silinemez\nYeniden Düzenlenir");
-  if (!ortam.bildirim.Soru(ad + " Grubu\nKazanç Tanımlamalarını Silmek İstiyormusunuz ?")) return Silme::Silinmedi;
+  if (!ortam.bildirim.SilinsinMi(ad + " Grubu\nKazanç Tanımlamalarını Silmek İstiyormusunuz ?", {}))
+    return Silme::Silinmedi;
   return AnahtarlaSil<Kaztan>(ortam, ad);
 }
 
@@ -92,7 +93,7 @@ Durum SendikaKaydet(TanimOrtami ortam, const Sendika& sendika) {
 }
 
 Sonuc<Silme> SendikaSil(TanimOrtami ortam, std::string_view kod) {
-  if (!ortam.bildirim.Soru("Kaydı Silmek İstiyormusunuz ?")) return Silme::Silinmedi;
+  if (!ortam.bildirim.SilinsinMi("Kaydı Silmek İstiyormusunuz ?", Kirp(kod))) return Silme::Silinmedi;
   return AnahtarlaSil<Sendika>(ortam, std::string(Kirp(kod)));
 }
 

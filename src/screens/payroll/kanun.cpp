@@ -19,7 +19,7 @@ kanun::kanun(EkranBaglami& baglam, ParametreDeposu& parametreler)
                    ParametreKolonu<&KanunSatiri::uygulama>(100)}) {
   Liste().YeniSatirli(true);
   Liste().SatirGuncelle = [this](int satir) { return SatirSaglam(satir); };
-  Liste().SatirSil = [this](int) { return Bildirimi().Soru("Satır Silinecek..\nEminmisiniz ???"); };
+  Liste().SatirSil = [this](int) { return Bildirimi().SilinsinMi("Satır Silinecek..\nEminmisiniz ???", {}); };
   // A text that is no date has come here as an empty one; what was typed stays in the cell.
   Liste().Dogrula = [this](int, const QString& kolon, QString& metin) {
     if (kolon == "uygulama" || !metin.isEmpty()) return true;

@@ -57,16 +57,16 @@ TEST_F(KullanicilarTest, Deleting) {
   EXPECT_FALSE(sil(""));
   EXPECT_EQ(b.Al(), Iletiler{});
   EXPECT_EQ(KullaniciSil(o, "yok", b).KusurMetni(), "Kullanıcı Bulunamadı");
-  EXPECT_EQ(b.Al(), Iletiler{soru});
+  EXPECT_EQ(b.Al(), Iletiler{soru + "\nyok"});
   EXPECT_TRUE(sil("ali"));
-  EXPECT_EQ(b.Al(), Iletiler{soru});
+  EXPECT_EQ(b.Al(), Iletiler{soru + "\nali"});
   b.cevap = false;
   EXPECT_FALSE(sil("ayşe"));
-  EXPECT_EQ(b.Al(), Iletiler{soru});
+  EXPECT_EQ(b.Al(), Iletiler{soru + "\nayşe"});
   EXPECT_EQ(Kullanicilar(o).size(), 1u);
   b.cevap = true;
   EXPECT_TRUE(sil("ayşe"));
-  EXPECT_EQ(b.Al(), (Iletiler{soru, son}));
+  EXPECT_EQ(b.Al(), (Iletiler{soru + "\nayşe", son}));
   EXPECT_TRUE(Kullanicilar(o).empty());
 }
 

@@ -59,7 +59,7 @@ TEST_F(SirketListesiTest, OnlyWhatIsListedCanBeDeleted) {
   }
   b.cevap = false;
   EXPECT_EQ(*SirketSil(o.DataPath, "SİL", o, b), Silme::Silinmedi);
-  EXPECT_EQ(b.Al(), Iletiler{"Soru: Firmayı Silmeye Eminmisiniz ?"});
+  EXPECT_EQ(b.Al(), Iletiler{"Soru: Firmayı Silmeye Eminmisiniz ?\nSİL"});
   EXPECT_TRUE(fs::exists(o.DataPath + "SİL/kazanc.dat"));
   b.cevap = true;
   for (const char* ad : {"SİL", "izmir", ".kurulan-YARIM-AbCdEf"}) {

@@ -94,7 +94,7 @@ TEST(Firsil, DeletesWhatWasChosenAndNothingElse) {
 
   ortam.bildirim.cevap = false;
   ortam.Yaz("\n");
-  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Firmayı Silmeye Eminmisiniz ?"});
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Firmayı Silmeye Eminmisiniz ?\nESKİ"});
   EXPECT_EQ(Sirketler(veri).size(), 3u);
   EXPECT_TRUE(secilen.Bos());
   EXPECT_EQ(ortam.Odak(), "dclist1");

@@ -177,7 +177,7 @@ TEST(Brdhazir, MassPreparationAndDeletion) {
   o.Bas(Qt::Key_End);
   o.Bas(Qt::Key_PageUp);
   o.Bas(Qt::Key_F7);
-  EXPECT_EQ(o.bildirim.Al(), Iletiler{"Soru: Kayıt Silinecek Eminmisiniz ?"});
+  EXPECT_EQ(o.bildirim.Al(), Iletiler{"Soru: Kayıt Silinecek Eminmisiniz ?\n002 Gökçe Çağlar, Temmuz 2009"});
   ASSERT_EQ(o.Kayitlar().size(), 1u);
   EXPECT_EQ(o.Kayitlar()[0].kod, "001");
   o.Bas(Qt::Key_F7, Qt::ControlModifier);

@@ -113,7 +113,7 @@ TEST(Sendtan, AddsChangesAndDeletesAUnion) {
 
   ortam.Yaz("10\n");
   ortam.Bas(Qt::Key_F7);
-  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Kaydı Silmek İstiyormusunuz ?"});
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Kaydı Silmek İstiyormusunuz ?\n10"});
   EXPECT_TRUE(ortam.parametreler.firma.Parametreler().sendikalar.empty());
   EXPECT_EQ(ortam.Odak(), "kod");
 }
