@@ -1,7 +1,9 @@
 // The search of the lookup window: all people of the company in memory, narrowed with every key that is typed.
 //
 // Case is that of the Turkish alphabet, as in the store: "ış" finds IŞIL, not İŞCAN; "ali" finds ALİ. Marks count:
-// "cag" does not find ÇAĞ. What is typed is plain text, "*", "%" and "_" included. People who have left are listed too.
+// "cag" does not find ÇAĞ. The search over all of them (Hepsi) is the lenient one: each word may stand in the code or
+// in either name, and letters with and without marks are the same. What is typed is plain text, "*", "%" and "_"
+// included. People who have left are listed too.
 #pragma once
 
 #include <string>
@@ -20,7 +22,7 @@ struct KisiSatiri {
   Tarih ciktar;  // Null while employed
 };
 
-enum class AramaTuru { KodBastan, KodIcinde, AdBastan, AdIcinde };
+enum class AramaTuru { KodBastan, KodIcinde, AdBastan, AdIcinde, Hepsi };
 
 class KisiListesi {
  public:
@@ -37,6 +39,7 @@ class KisiListesi {
   // In small letters; `ad` has a blank between the names.
   struct Anahtar {
     std::string kod, ad, bitisikAd;
+    std::string hepsi;  // code and names, without marks
   };
 
   void Ekle(KisiSatiri kisi);

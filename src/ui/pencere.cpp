@@ -14,10 +14,11 @@ struct TurAdi {
   AramaTuru tur;
   const char* ad;
 };
-constexpr std::array<TurAdi, 4> Turler{{{AramaTuru::KodBastan, "Kod (baştan)"},
+constexpr std::array<TurAdi, 5> Turler{{{AramaTuru::KodBastan, "Kod (baştan)"},
                                         {AramaTuru::KodIcinde, "Kod (içinde)"},
                                         {AramaTuru::AdBastan, "Ad Soyad (baştan)"},
-                                        {AramaTuru::AdIcinde, "Ad Soyad (içinde)"}}};
+                                        {AramaTuru::AdIcinde, "Ad Soyad (içinde)"},
+                                        {AramaTuru::Hepsi, "Kod, Ad, Soyad"}}};
 
 }  // namespace
 

@@ -30,6 +30,13 @@ TEST_F(Ara, FindsInTurkishCaseAndTakesEverythingTypedAsText) {
       {AramaTuru::AdIcinde, "ALİ", " a_2 I10"},
       {AramaTuru::AdBastan, "aliv", " I10"},
       {AramaTuru::AdBastan, "Ali V", " I10"},
+      {AramaTuru::Hepsi, "", " a_2 A%1 I10 i20"},
+      {AramaTuru::Hepsi, "cag", " i20"},
+      {AramaTuru::Hepsi, "ÇAĞ ısı", " i20"},  // any order, with marks or without
+      {AramaTuru::Hepsi, "ali", " a_2 I10"},  // in either name
+      {AramaTuru::Hepsi, "I1 veli", " I10"},  // the code and a name
+      {AramaTuru::Hepsi, "aliveli", ""},
+      {AramaTuru::Hepsi, "*", ""},
   };
   for (const auto& [tur, metin, beklenen] : aramalar) {
     std::string kodlar;

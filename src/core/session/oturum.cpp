@@ -50,7 +50,7 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
       if (const auto d = MakineAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.KusurMetni());
   }
   o.Kullanici = "BELVANI";
-  o.ListeSirasi = 1;
+  o.ListeSirasi = Oturum().ListeSirasi;
   o.ResimKullan = true;
   RenkYukle(o);
   return true;
@@ -66,6 +66,7 @@ Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim) {
   }
   o.FirmaKod = *ad;
   o.FirmaDizini = yer.Adres();
+  o.SonKisi.clear();
   return Tamam();
 }
 

@@ -25,10 +25,12 @@ struct Oturum {
   std::array<std::uint32_t, 42> Renkler{};  // colour table of renk.dat
   std::string ResimYolu = "image/soft/";    // of the skin, below PrgPath
   bool ResimKullan = true;
-  std::string DataPath;  // root of the company directories; ends in a separator
-  std::string FirmaKod;  // name of the company's directory, as it is spelled
-  std::string PrgPath;   // installed files; ends in a separator
-  int ListeSirasi = 1;   // last search column of the lookup window
+  bool YazilanSorulsun = true;  // before a screen loses what was typed into it
+  std::string DataPath;         // root of the company directories; ends in a separator
+  std::string FirmaKod;         // name of the company's directory, as it is spelled
+  std::string PrgPath;          // installed files; ends in a separator
+  int ListeSirasi = 5;          // last search column of the lookup window; code and names at once to begin with
+  std::string SonKisi;          // code of the person shown last; screens of one person begin with him
   Tek Versiyon = ProgramVersiyonu();
   std::string Kullanici = "BELVANI";
   std::string BilgisayarAdi;
