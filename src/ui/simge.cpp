@@ -16,6 +16,11 @@ QColor& Renk() {
   return renk;
 }
 
+bool& Kullanilir() {
+  static bool kullanilir = true;
+  return kullanilir;
+}
+
 // The drawings are black on nothing.
 QIcon Ciz(const QString& ad) {
   QFile dosya(":/simgeler/" + ad + ".svg");
@@ -45,6 +50,14 @@ QIcon Simge(const QString& ad) {
 
 void SimgeRengi(const QColor& renk) {
   Renk() = renk;
+}
+
+void SimgelerKullanilsin(bool kullan) {
+  Kullanilir() = kullan;
+}
+
+bool SimgelerKullanilir() {
+  return Kullanilir();
 }
 
 }  // namespace belvani

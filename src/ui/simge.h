@@ -9,6 +9,10 @@ namespace belvani {
 // "kaydet", "sil", "ara", "yazici" …; an unknown name gives an empty icon.
 QIcon Simge(const QString& ad);
 
+// The user's wish for buttons with pictures. One that has no text keeps its own.
+void SimgelerKullanilsin(bool kullan);
+bool SimgelerKullanilir();
+
 // The colour in which pictures are drawn from now on.
 void SimgeRengi(const QColor& renk);
 

@@ -14,12 +14,17 @@ xButton::xButton(const QString& metin, const QString& simge, QWidget* ust) : QPu
 
 void xButton::ButtonResim(const QString& simge) {
   simge_ = simge;
-  setIcon(Simge(simge));
+  SimgeyiKoy();
 }
 
-// Pictures take the text colour of the look in force.
+void xButton::SimgeyiKoy() {
+  setIcon(SimgelerKullanilir() || text().isEmpty() ? Simge(simge_) : QIcon());
+}
+
+// Pictures take the text colour of the look in force, or go with it.
 void xButton::changeEvent(QEvent* olay) {
-  if (olay->type() == QEvent::PaletteChange && !simge_.isEmpty()) setIcon(Simge(simge_));
+  const bool gorunum = olay->type() == QEvent::PaletteChange || olay->type() == QEvent::StyleChange;
+  if (gorunum && !simge_.isEmpty()) SimgeyiKoy();
   QPushButton::changeEvent(olay);
 }
 

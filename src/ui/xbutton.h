@@ -18,6 +18,8 @@ class xButton : public QPushButton {
   void keyPressEvent(QKeyEvent* olay) override;
 
  private:
+  void SimgeyiKoy();
+
   QString simge_;
 };
 
