@@ -66,6 +66,7 @@ anamenu::anamenu(EkranBaglami& ekran, ParametreDeposu& parametreler)
 
 anamenu::~anamenu() {
   parametreler_.firma.Degisti = [] {};
+  ekran_.oturum.YazilanSorulsun = false;  // nobody is there to be asked any more
   EkranlariKapat();
 }
 
@@ -76,6 +77,7 @@ void anamenu::GorunumuUygula() {
   const std::string eskiYol = o.ResimYolu;
   GorunumUygula(o, ayar);
   if (o.ResimYolu != eskiYol) RenkYukle(o);
+  SimgelerKullanilsin(o.ResimKullan);
   StilKur(*qApp, GecerliRenkler(o, ayar));
 }
 
@@ -188,7 +190,10 @@ void anamenu::Islem(MenuIslemi islem) {
       break;
     case MenuIslemi::Guncelle:
       // Without its store the program cannot go on.
-      if (VeritabaniGuncelleGoster(ekran_, parametreler_) == GuncellemeSonucu::ProgramBitsin) close();
+      if (VeritabaniGuncelleGoster(ekran_, parametreler_) == GuncellemeSonucu::ProgramBitsin) {
+        ekran_.oturum.YazilanSorulsun = false;  // there is nothing left to save into
+        close();
+      }
       break;
     case MenuIslemi::Yok:
       break;
@@ -279,13 +284,15 @@ void anamenu::FirmaDegisti() {
     if (auto* form = qobject_cast<Form*>(pencere->widget())) form->FirmaDegisti();
 }
 
-void anamenu::EkranlariKapat() {
+bool anamenu::EkranlariKapat() {
   QList<QMdiSubWindow*> acik = alan_->subWindowList(QMdiArea::CreationOrder);
   while (!acik.isEmpty()) {
     QMdiSubWindow* son = acik.takeLast();
-    son->close();  // a screen may have something to take back
+    if (isVisible()) alan_->setActiveSubWindow(son);  // what it asks is asked in front of it
+    if (!son->close()) return false;                  // a screen may have something to take back
     delete son;
   }
+  return true;
 }
 
 void anamenu::showEvent(QShowEvent* olay) {
@@ -295,7 +302,10 @@ void anamenu::showEvent(QShowEvent* olay) {
 }
 
 void anamenu::closeEvent(QCloseEvent* olay) {
-  EkranlariKapat();
+  if (!EkranlariKapat()) {
+    firmaDegissin_ = false;
+    return olay->ignore();
+  }
   olay->accept();
   Q_EMIT Kapandi();
 }

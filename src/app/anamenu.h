@@ -36,8 +36,8 @@ class anamenu : public QMainWindow, public FormGosterici {
   void TehlikeSinifiniSor();
 
   Form1& Masaustu() { return *masaustu_; }
-  // Closes every screen, from the last to the first.
-  void EkranlariKapat();
+  // Closes every screen, from the last to the first; false: one stays with what was typed into it.
+  bool EkranlariKapat();
   // Why the window was closed.
   bool FirmaDegissinMi() const { return firmaDegissin_; }
 

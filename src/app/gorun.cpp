@@ -195,6 +195,7 @@ QWidget* gorun::AnaPencereYap() {
   };
   kutu(3, "Arka plan resmi gösterilsin", "backresimvarmi", ayar.backresimvarmi);
   kutu(4, "Resimler kullanılsın", "imagekullan", ayar.imagekullan);
+  kutu(5, "Kaydedilmeyen değişiklikler sorulsun", "yazilansor", ayar.yazilansor);
   return Kutu("Ana Pencere", this, izgara);
 }
 
@@ -269,6 +270,7 @@ QWidget* gorun::OrnekYap() {
 
 void gorun::Onizle() {
   degisti_ = true;
+  SimgelerKullanilsin(secim_.ayar.imagekullan);
   StilKur(*qApp, secim_.renkler, secim_.yazilar);
   goster_(secim_.ayar);
   for (const auto& tazele : tazelenecek_) tazele();
@@ -276,6 +278,7 @@ void gorun::Onizle() {
 
 void gorun::GeriAl() {
   if (!std::exchange(degisti_, false)) return;
+  SimgelerKullanilsin(ilk_.ayar.imagekullan);
   StilKur(*qApp, ilk_.renkler, ilk_.yazilar);
   goster_(ilk_.ayar);
 }

@@ -36,6 +36,7 @@ class MetinBildirimi final : public Bildirim {
     std::cerr << metin << "\n";
     return false;
   }
+  YazilanKarari YazilanSorusu(std::string_view) override { return YazilanKarari::Birak; }
 };
 
 // What is pressed before the picture is taken: keys by name, separated by blanks; other words are typed.

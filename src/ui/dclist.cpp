@@ -147,6 +147,7 @@ int dclist::Add() {
 void dclist::Clear() {
   mod_ = Mod::Gezinme;
   bosSatir_ = QPersistentModelIndex();
+  YazilaniUnut();
   model_->SatirlariSil();
 }
 
@@ -260,6 +261,23 @@ bool dclist::OkUpdateData() {
   return alindi;
 }
 
+bool dclist::Yazildi() const {
+  const auto* acik = state() == EditingState ? qobject_cast<QLineEdit*>(indexWidget(currentIndex())) : nullptr;
+  if (acik != nullptr && acik->text() != Text(CurSat(), CurrentCol())) return true;
+  for (int satir = 0; satir < ListCount(); ++satir)
+    if (model_->DegistiMi(satir)) return true;
+  return std::ranges::any_of(gelen_, [this](const auto& g) { return Text(g.first.first, g.first.second) != g.second; });
+}
+
+void dclist::YazilaniUnut() {
+  gelen_.clear();
+}
+
+void dclist::YazilaniBirak() {
+  YazilaniUnut();
+  for (int satir = 0; satir < ListCount(); ++satir) model_->Degisti(satir, false);
+}
+
 QWidget* dclist::DuzenleyiciYap(QWidget* ust, int kolon) const {
   const dclistKolonu& k = model_->Kolonlar()[std::size_t(kolon)];
   if (k.tip == dclistKolonu::Tip::Secim && !k.secenekler.isEmpty()) {
@@ -303,6 +321,7 @@ bool dclist::HucreBitir(QWidget* duzenleyici) {
     return false;
   }
   if (metin != model_->Metin(satir, kolon)) {
+    gelen_.try_emplace({satir, kolon}, model_->Metin(satir, kolon));
     model_->MetinKoy(satir, kolon, metin);
     model_->Degisti(satir, true);
     bosSatir_ = QPersistentModelIndex();
@@ -397,8 +416,19 @@ void dclist::SimdikiSatiriSil() {
   bitiriliyor_ = true;
   const bool silindi = SatirSil(satir);
   bitiriliyor_ = false;
-  if (silindi && satir < ListCount()) model_->SatirSil(satir);
+  if (silindi && satir < ListCount()) {
+    model_->SatirSil(satir);
+    YazilanSatirlariKaydir(satir);
+  }
   mod_ = Mod::Gezinme;
+}
+
+// Behind a row that is gone.
+void dclist::YazilanSatirlariKaydir(int silinen) {
+  std::map<std::pair<int, int>, QString> kalan;
+  for (const auto& [yer, metin] : gelen_)
+    if (yer.first != silinen) kalan[{yer.first - (yer.first > silinen ? 1 : 0), yer.second}] = metin;
+  gelen_ = std::move(kalan);
 }
 
 void dclist::Kopyala() const {
@@ -420,6 +450,8 @@ void dclist::Gezin(Qt::Key tus) {
 
 void dclist::keyPressEvent(QKeyEvent* olay) {
   if (Tus(*olay)) return;
+  const bool altHarfi = olay->modifiers() == Qt::AltModifier && !olay->text().isEmpty();
+  if (altHarfi) return olay->ignore();  // a menu's or a button's; it begins no cell
   if (olay->matches(QKeySequence::Copy)) return Kopyala();
   if (olay->matches(QKeySequence::Find) && arama_ != nullptr) return arama_->setFocus(Qt::ShortcutFocusReason);
   if (olay->key() == Qt::Key_Escape && mod_ == Mod::Ekleme && !model_->DegistiMi(CurSat())) {

@@ -13,6 +13,7 @@
 
 #include <QTableView>
 #include <functional>
+#include <map>
 
 #include "core/bildirim.h"
 #include "ui/dclistmodel.h"
@@ -63,6 +64,10 @@ class dclist : public QTableView {
   void YeniSatirli(bool olur) { yeniSatirli_ = olur; }  // false: the rows are fixed in number
   // Finishes the row being edited; false when it cannot stand or the owner refuses it.
   bool OkUpdateData();
+  // The user has typed texts that differ from those that came up, and nobody has kept them yet.
+  bool Yazildi() const;
+  void YazilaniUnut();   // kept, or replaced
+  void YazilaniBirak();  // given up, rows included that the owner has refused
   void tazele(int satir);
 
   void Filtrele(const QString& aranan);
@@ -106,6 +111,7 @@ class dclist : public QTableView {
   void YaziyaUydur();
   void YeniSatirAc();
   void SimdikiSatiriSil();
+  void YazilanSatirlariKaydir(int silinen);
   void Kopyala() const;
   void DuzenlemeyeBasla();
   void BosSatiriBirak();
@@ -113,6 +119,7 @@ class dclist : public QTableView {
 
   Bildirim& bildirim_;
   dclistModel* model_;
+  std::map<std::pair<int, int>, QString> gelen_;  // of the cells typed into, by row and column: the text before
   QLineEdit* arama_ = nullptr;
   Mod mod_ = Mod::Gezinme;
   QPersistentModelIndex bosSatir_;  // added, nothing typed into it yet

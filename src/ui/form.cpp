@@ -1,6 +1,7 @@
 #include "ui/form.h"
 
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -91,10 +92,11 @@ void Form::KomutSatiriYap() {
 }
 
 void Form::Kapat() {
+  if (std::exchange(kapaniyor_, true)) return;
   for (QWidget* ust = parentWidget(); ust != nullptr; ust = ust->parentWidget()) {
     if (qobject_cast<QMdiSubWindow*>(ust) != nullptr || qobject_cast<QDialog*>(ust) != nullptr) {
-      ust->close();
-      Q_EMIT Kapandi();
+      kapaniyor_ = ust->close();
+      if (kapaniyor_) Q_EMIT Kapandi();
       return;
     }
   }
@@ -121,9 +123,10 @@ xtext& Form::YaziKutusu(AlanTutamagi alan) const {
 AlanDenetimi& Form::DenetimEkle(const belvani::Alan& alan, QWidget* ust) {
   auto& denetim = *denetimler_.emplace_back(DenetimYap(alan, ust, baglam_.oturum.firma.paraonda));
   denetim.Degisti = [this, &denetim] {
-    if (!denetim.Satir().ek.anahtar) yazildi_ = true;
+    if (!denetim.Satir().ek.anahtar) yazilan_.insert(&denetim);
     AlanDegisti(denetim);
   };
+  gelen_[&denetim] = denetim.Oku();
   for (QWidget* odak : denetim.Odaklar()) Izle(odak);
   return denetim;
 }
@@ -200,13 +203,32 @@ void Form::Komutlar(const std::vector<KomutSatiri>& satirlar) {
       satir.tus = tanim.tus;
       satir.simge = tanim.simge;
       aciklama = QString::fromUtf8(tanim.aciklama);
-      if (satir.komut == FormKomutu::Kapat) satir.islev = [this] { Kapat(); };
+      if (satir.komut == FormKomutu::Kaydet) kaydet_ = satir.islev;
+      if (GezinmeMi(satir.komut)) satir.islev = Korunan(satir.islev);
+      if (satir.komut == FormKomutu::Kapat)
+        satir.islev = [this] {
+          if (KapanabilirMi()) Kapat();
+        };
     } else if (!satir.tus.isEmpty() && *satir.dugme != '\0') {
       aciklama = QString::fromUtf8(satir.dugme).remove('&').trimmed();
     }
-    if (!satir.tus.isEmpty()) TusBagla(satir.tus, GezinmeMi(satir.komut) ? QString() : aciklama, satir.islev);
+    if (!satir.tus.isEmpty()) {
+      TusBagla(satir.tus, GezinmeMi(satir.komut) ? QString() : aciklama, satir.islev, satir.gecerli);
+    } else if (*satir.dugme != '\0') {
+      satir.tus = SiradakiTus();
+      if (aciklama.isEmpty()) aciklama = QString::fromUtf8(satir.dugme).remove('&').trimmed();
+      TusBagla(satir.tus, {}, satir.islev);  // its tool tip tells it
+    }
     if (*satir.dugme != '\0' || GezinmeMi(satir.komut)) DugmeEkle(satir, aciklama);
   }
+}
+
+// A button without a key of its own has Alt and its number among those.
+QKeySequence Form::SiradakiTus() const {
+  int no = 1;
+  const auto dolu = [this](const QKeySequence& tus) { return std::ranges::count(tuslar_, tus, &TusIslevi::tus) > 0; };
+  while (dolu(QKeySequence(Qt::ALT | Qt::Key(Qt::Key_0 + no)))) ++no;
+  return QKeySequence(Qt::ALT | Qt::Key(Qt::Key_0 + no));
 }
 
 void Form::DugmeEkle(const KomutSatiri& satir, const QString& aciklama) {
@@ -223,9 +245,10 @@ void Form::DugmeEkle(const KomutSatiri& satir, const QString& aciklama) {
   }
 }
 
-void Form::TusBagla(const QKeySequence& tus, const QString& aciklama, std::function<void()> islev) {
+void Form::TusBagla(const QKeySequence& tus, const QString& aciklama, std::function<void()> islev,
+                    std::function<bool()> gecerli) {
   std::erase_if(tuslar_, [&](const TusIslevi& t) { return t.tus == tus; });
-  tuslar_.push_back({tus, aciklama, std::move(islev)});
+  tuslar_.push_back({tus, aciklama, std::move(islev), std::move(gecerli)});
   IpucuYaz();
 }
 
@@ -237,7 +260,7 @@ void Form::ListedeGezin(dclist& liste) {
 void Form::IpucuYaz() {
   QStringList parcalar, sonda;
   for (const TusIslevi& t : tuslar_) {
-    if (t.aciklama.isEmpty()) continue;
+    if (t.aciklama.isEmpty() || (t.gecerli && !t.gecerli())) continue;
     (t.tus == Tanim(FormKomutu::Kapat).tus ? sonda : parcalar) +=
         "<b>" + TusMetni(t.tus) + "</b>&nbsp;" + t.aciklama.toHtmlEscaped();
   }
@@ -276,9 +299,11 @@ void Form::keyPressEvent(QKeyEvent* olay) {
   if (!TusuIsle(*olay)) QWidget::keyPressEvent(olay);
 }
 
-void Form::AnahtarBagla(AlanTutamagi alan, std::function<void(const std::string&)> bulunacak) {
+void Form::AnahtarBagla(AlanTutamagi alan, std::function<void(const std::string&)> bulunacak,
+                        std::function<bool(const std::string&)> gelir) {
   anahtarAlani_ = alan;
   anahtarBul_ = std::move(bulunacak);
+  anahtarGelir_ = std::move(gelir);
   xtext& yazi = YaziKutusu(alan);
   connect(&yazi, &xtext::Ayrildi, this, &Form::AnahtarDenetle);
   RehberBagla(yazi);
@@ -295,11 +320,28 @@ std::string Form::YazilanAnahtar() const {
   return std::string(Kirp(Utf8(YaziKutusu(anahtarAlani_).text())));
 }
 
+// The field is being left: a question would come in the middle of that, so it comes right after.
 void Form::AnahtarDenetle() {
   const std::string anahtar = YazilanAnahtar();
-  if (anahtar.empty() || anahtar == sonAnahtar_) return;
+  if (soruyor_ || kapaniyor_ || anahtar.empty() || anahtar == sonAnahtar_) return;
+  if (!Kaydedilmemis()) return void(AnahtaraGec(anahtar));
+  QMetaObject::invokeMethod(
+      this,
+      [this, anahtar] {
+        if (YazilanAnahtar() == anahtar && anahtar != sonAnahtar_) AnahtaraGec(anahtar);
+      },
+      Qt::QueuedConnection);
+}
+
+bool Form::AnahtaraGec(const std::string& anahtar) {
+  if (Kaydedilmemis() && (!anahtarGelir_ || anahtarGelir_(anahtar))) {
+    YaziKutusu(anahtarAlani_).DegerKoy(sonAnahtar_);  // what is saved is saved under its own
+    if (!YazilanBirakilir()) return false;
+  }
+  if (YazilanAnahtar() != anahtar) YaziKutusu(anahtarAlani_).DegerKoy(anahtar);
   sonAnahtar_ = anahtar;
   anahtarBul_(anahtar);
+  return true;
 }
 
 void Form::AnahtarKoy(const std::string& anahtar) {
@@ -307,10 +349,57 @@ void Form::AnahtarKoy(const std::string& anahtar) {
   YaziKutusu(anahtarAlani_).DegerKoy(anahtar);
 }
 
-void Form::AnahtarAra(const std::string& anahtar) {
-  YaziKutusu(anahtarAlani_).DegerKoy(anahtar);
-  sonAnahtar_.clear();
-  AnahtarDenetle();
+bool Form::AnahtarAra(const std::string& anahtar) {
+  const std::string aranan(Kirp(anahtar));
+  return !aranan.empty() && AnahtaraGec(aranan);
+}
+
+bool Form::Kaydedilmemis() const {
+  if (!kaydet_) return false;
+  const auto degismis = [this](const AlanDenetimi* d) { return d->Oku() != gelen_.at(d); };
+  if (std::ranges::any_of(yazilan_, degismis)) return true;
+  const auto listeler = findChildren<dclist*>();
+  return std::ranges::any_of(listeler, [](const dclist* liste) { return liste->Yazildi(); });
+}
+
+bool Form::YazilaniKaydet() {
+  kaydet_();
+  return !Kaydedilmemis();
+}
+
+bool Form::YazilanBirakilir() {
+  if (soruyor_ || !KendiligindenKaydet()) return false;
+  if (!Oturumu().YazilanSorulsun || !Kaydedilmemis()) return true;
+  soruyor_ = true;
+  const std::string kimin = sonAnahtar_.empty() ? Utf8(windowTitle()) : Utf8(windowTitle()) + ", " + sonAnahtar_;
+  const auto karar = Bildirimi().YazilanSorusu("Ekrandaki Değişiklikler Kaydedilmedi\n" + kimin + "\nKaydedilsin mi ?");
+  soruyor_ = false;
+  switch (karar) {
+    case YazilanKarari::Kaydet:
+      return YazilaniKaydet() || kapaniyor_;
+    case YazilanKarari::Birak:
+      for (dclist* liste : findChildren<dclist*>()) liste->YazilaniBirak();
+      return true;
+    case YazilanKarari::Kal:
+      return false;
+  }
+  return false;
+}
+
+void Form::YazilaniUnut() {
+  yazilan_.clear();
+  for (const auto& d : denetimler_) gelen_[d.get()] = d->Oku();
+  for (dclist* liste : findChildren<dclist*>()) liste->YazilaniUnut();
+}
+
+// A save may empty the screen; the move then begins at what was saved.
+std::function<void()> Form::Korunan(std::function<void()> islev) {
+  return [this, islev = std::move(islev)] {
+    const std::string yer = sonAnahtar_;
+    if (!YazilanBirakilir()) return;
+    if (sonAnahtar_.empty()) AnahtarAra(yer);
+    islev();
+  };
 }
 
 bool Form::AlanlarSaglam(std::type_index kayitTuru) {
@@ -337,7 +426,7 @@ void Form::FirmaDegisti() {
 
 void Form::Temizle() {
   for (const auto& d : denetimler_) d->Temizle();
-  yazildi_ = false;
+  YazilaniUnut();
   sonAnahtar_.clear();
 }
 
@@ -366,7 +455,15 @@ void Form::showEvent(QShowEvent* olay) {
   if (focusWidget() == nullptr || focusWidget() == this) IlkAlanaGit();
 }
 
+void Form::closeEvent(QCloseEvent* olay) {
+  if (KapanabilirMi())
+    QWidget::closeEvent(olay);
+  else
+    olay->ignore();
+}
+
 void Form::ZoomEfekt(const QString& olan) {
+  YazilaniUnut();
   ipucu_->setText(QStringLiteral("✓ ") + olan);
   QTimer::singleShot(1500, this, [this] { IpucuYaz(); });
 }

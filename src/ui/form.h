@@ -3,6 +3,9 @@
 //   Esc closes · F5 saves · F7 deletes · F2 lookup · Ctrl+Home, Ctrl+End, Page Up, Page Down move through records
 //   Enter goes to the next field
 //
+// A screen with a save command loses nothing that was typed: before it moves, closes or brings another record up, it
+// asks whether to save, to give up or to stay. What the program has put into fields does not count.
+//
 // A screen declares its fields as rows (core/tables/alansatiri.h) and its commands; layout, tab order, keys, loading
 // and reading follow. It holds no rules: those are functions that it calls.
 #pragma once
@@ -10,7 +13,9 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QWidget>
+#include <map>
 #include <optional>
+#include <set>
 
 #include "core/silme.h"
 #include "core/sonuc.h"
@@ -36,6 +41,7 @@ struct KomutSatiri {
   const char* ad = "";                   // the button's object name
   bool ilkOdak = false;                  // the keyboard begins at this button
   xButton** dugmesi = nullptr;           // where the screen keeps it
+  std::function<bool()> gecerli = {};    // the key does something where the cursor stands; always, if not given
 };
 
 class Form : public QWidget {
@@ -46,7 +52,10 @@ class Form : public QWidget {
   ~Form() override;
 
   QString Kelime() const { return objectName(); }
+  // The screen's work is done; nothing is asked any more.
   void Kapat();
+  // False: something was typed, and its user stays.
+  bool KapanabilirMi() { return kapaniyor_ || YazilanBirakilir(); }
 
   // Editors in the order of their rows.
   const std::vector<std::unique_ptr<AlanDenetimi>>& Denetimler() const { return denetimler_; }
@@ -99,21 +108,38 @@ class Form : public QWidget {
   void ListedeGezin(dclist& liste);
 
   // Called with the trimmed key when the key field is left with a text that differs from the last one handled.
-  void AnahtarBagla(AlanTutamagi alan, std::function<void(const std::string&)> bulunacak);
+  // `gelir`: whether a record comes up under that key, in the place of what was typed; always, if not given.
+  void AnahtarBagla(AlanTutamagi alan, std::function<void(const std::string&)> bulunacak,
+                    std::function<bool(const std::string&)> gelir = {});
   // The lookup button of a field does what F2 does.
   void RehberBagla(xtext& yazi);
   void AnahtarKoy(const std::string& anahtar);  // counts as handled
   AlanTutamagi AnahtarAlani() const { return anahtarAlani_; }
   std::string SonAnahtar() const { return sonAnahtar_; }
   std::string YazilanAnahtar() const;  // trimmed
-  // Puts a code into the key field and looks it up, as if typed.
-  void AnahtarAra(const std::string& anahtar);
+  // Puts a code into the key field and looks it up, as if typed. False: its user stays with what he has typed.
+  bool AnahtarAra(const std::string& anahtar);
+
+  // Something that the user has typed is neither saved nor given up. A screen that holds such things outside of its
+  // fields and lists adds them.
+  virtual bool Kaydedilmemis() const;
+  // For rows that are saved as soon as they are left; false when one was refused, which is told.
+  virtual bool KendiligindenKaydet() { return true; }
+  // Saves it as the save command does, its checks included; false when it could not be saved.
+  virtual bool YazilaniKaydet();
+  // Asks before typed work is lost. False: the user stays; what the fields hold is as it was.
+  bool YazilanBirakilir();
+  // What stands in the fields now is what came up.
+  void YazilaniUnut();
 
   template <class Kayit>
   void Yukle(const Kayit& kayit) {
-    for (const auto& d : denetimler_)
-      if (d->Satir().kayitTuru == typeid(Kayit)) d->Koy(d->Satir().oku(&kayit));
-    yazildi_ = false;
+    for (const auto& d : denetimler_) {
+      if (d->Satir().kayitTuru != typeid(Kayit)) continue;
+      d->Koy(d->Satir().oku(&kayit));
+      yazilan_.erase(d.get());
+      gelen_[d.get()] = d->Oku();
+    }
     SecimiYenile();
   }
 
@@ -137,15 +163,16 @@ class Form : public QWidget {
   void IlkAlanaGit();
   // Where the keyboard begins, when that is not the first field. Focus given before the screen is shown is lost.
   void IlkOdak(QWidget* parca) { ilkOdak_ = parca; }
-  // The user has changed something of what was loaded last; the key does not count.
-  bool Yazildi() const { return yazildi_; }
   // Any field was changed by the user.
   std::function<void(AlanDenetimi&)> AlanDegisti = [](AlanDenetimi&) {};
 
-  // The flourish after a save or deletion: the line of hints says so for a moment. It carries no logic.
+  // The flourish after a save or deletion: the line of hints says so for a moment, and what was typed is kept.
   void ZoomEfekt(const QString& olan = QStringLiteral("Kaydedildi"));
+  // The line of hints, of the keys that work at the moment.
+  void IpucuYaz();
 
   void showEvent(QShowEvent* olay) override;
+  void closeEvent(QCloseEvent* olay) override;
   void keyPressEvent(QKeyEvent* olay) override;
   bool eventFilter(QObject* nesne, QEvent* olay) override;
 
@@ -154,15 +181,20 @@ class Form : public QWidget {
     QKeySequence tus;
     QString aciklama;
     std::function<void()> islev;
+    std::function<bool()> gecerli;
   };
 
-  void TusBagla(const QKeySequence& tus, const QString& aciklama, std::function<void()> islev);
+  void TusBagla(const QKeySequence& tus, const QString& aciklama, std::function<void()> islev,
+                std::function<bool()> gecerli = {});
   void DugmeEkle(const KomutSatiri& satir, const QString& aciklama);
   bool TusuIsle(const QKeyEvent& olay);
   void KomutSatiriYap();
   void AnahtarDenetle();
+  // To another key; the field keeps its own when the user stays.
+  bool AnahtaraGec(const std::string& anahtar);
+  std::function<void()> Korunan(std::function<void()> islev);
+  QKeySequence SiradakiTus() const;
   void SecimiYenile();
-  void IpucuYaz();
 
   EkranBaglami& baglam_;
   QVBoxLayout* govde_ = nullptr;
@@ -175,8 +207,13 @@ class Form : public QWidget {
   std::function<void(const std::string&)> anahtarBul_;
   int satirAraligi_ = 6;
   QWidget* ilkOdak_ = nullptr;
+  std::function<void()> kaydet_;  // the save command's
+  std::function<bool(const std::string&)> anahtarGelir_;
+  std::map<const AlanDenetimi*, Deger> gelen_;  // of each field: what came up in it
+  std::set<const AlanDenetimi*> yazilan_;       // changed by the user since
   bool acildi_ = false;
-  bool yazildi_ = false;
+  bool kapaniyor_ = false;
+  bool soruyor_ = false;  // the question takes the focus from the fields; they are not left
 };
 
 // Shows a screen that answers something, and returns what `cevap` reads of it when it has closed.

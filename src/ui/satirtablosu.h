@@ -131,6 +131,7 @@ class SatirTablosu {
     }
     for (std::size_t i = 0; i < satirlar.size(); ++i) Goster(i, satirlar[i]);
     if (yeni) liste_.Model().TopluBitir();
+    liste_.YazilaniUnut();
     if (liste_.CurSat() >= 0 || satirlar.empty()) return;
     const auto ilk = std::ranges::find_if(kolonlar_, [](const auto& k) { return bool(k.al); });
     liste_.HucreyeGit(0, (ilk == kolonlar_.end() ? kolonlar_.begin() : ilk)->ad);

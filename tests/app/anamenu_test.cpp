@@ -196,12 +196,13 @@ TEST(Anamenu, FaultsLeadToTheScreensOfTheirFields) {
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{}) << "who is there already is not read again";
   EXPECT_EQ(AlanMetni(*ortam.Onde<nufus>(), "tcno"), "1");
   EXPECT_EQ(ortam.Odak(), "baba");
-  const Iletiler soru{"Soru: Ekrandaki Değişiklikler Kaydedilmedi\nBırakılıp Bu Kişi Getirilsin mi ?"};
-  for (const bool cevap : {false, true}) {
-    ortam.bildirim.cevap = cevap;
+  const Iletiler soru{
+      "Yazılan: Ekrandaki Değişiklikler Kaydedilmedi\nPersonel Kimlik Bilgileri, 001\nKaydedilsin mi ?"};
+  for (const auto karar : {YazilanKarari::Kal, YazilanKarari::Birak}) {
+    ortam.bildirim.yazilan = karar;
     git("002", kimlik::tcno);
     EXPECT_EQ(ortam.bildirim.Al(), soru);
-    EXPECT_EQ(AlanMetni(*ortam.Onde<nufus>(), "kod"), cevap ? "002" : "001");
+    EXPECT_EQ(AlanMetni(*ortam.Onde<nufus>(), "kod"), karar == YazilanKarari::Kal ? "001" : "002");
   }
   git("001", {});
   EXPECT_NE(ortam.Onde<perkart>(), nullptr);

@@ -78,6 +78,7 @@ GorunumAyari GorunumOku(const Oturum& o) {
   a.formbackcolor = YazilirRenk(oku("formbackcolor", ""), ilk.formbackcolor);
   a.imagepath = AltYol(oku("imagepath", ""), ilk.imagepath);
   a.imagekullan = oku("imagekullan", Evet(ilk.imagekullan)) == "1";
+  a.yazilansor = oku("yazilansor", Evet(ilk.yazilansor)) == "1";
   a.labelback = YazilirRenk(oku("labelback", ""), ilk.labelback);
   a.labelfore = YazilirRenk(oku("labelfore", ""), ilk.labelfore);
   a.labelfont = oku("labelfont", ilk.labelfont);
@@ -87,11 +88,17 @@ GorunumAyari GorunumOku(const Oturum& o) {
 
 Durum GorunumYaz(const Oturum& o, const GorunumAyari& a) {
   const std::pair<const char*, std::string> degerler[] = {
-      {"backcolor", a.backcolor}, {"backresimvarmi", Evet(a.backresimvarmi)},
-      {"backresim", a.backresim}, {"formbackcolor", a.formbackcolor},
-      {"imagepath", a.imagepath}, {"imagekullan", Evet(a.imagekullan)},
-      {"labelback", a.labelback}, {"labelfore", a.labelfore},
-      {"labelfont", a.labelfont}, {"labelfontsize", std::to_string(a.labelfontsize)},
+      {"backcolor", a.backcolor},
+      {"backresimvarmi", Evet(a.backresimvarmi)},
+      {"backresim", a.backresim},
+      {"formbackcolor", a.formbackcolor},
+      {"imagepath", a.imagepath},
+      {"imagekullan", Evet(a.imagekullan)},
+      {"yazilansor", Evet(a.yazilansor)},
+      {"labelback", a.labelback},
+      {"labelfore", a.labelfore},
+      {"labelfont", a.labelfont},
+      {"labelfontsize", std::to_string(a.labelfontsize)},
   };
   for (const auto& [anahtar, deger] : degerler)
     if (auto d = IniYaz(Bolum, anahtar, deger, IstasyonDosyasi(o)); !d) return d;
@@ -101,6 +108,7 @@ Durum GorunumYaz(const Oturum& o, const GorunumAyari& a) {
 void GorunumUygula(Oturum& o, const GorunumAyari& ayar) {
   o.ResimYolu = AltYol(ayar.imagepath, GorunumAyari().imagepath);
   o.ResimKullan = ayar.imagekullan;
+  o.YazilanSorulsun = ayar.yazilansor;
 }
 
 RenkTablosu GecerliRenkler(const Oturum& o, const GorunumAyari& ayar) {

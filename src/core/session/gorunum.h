@@ -25,6 +25,7 @@ struct GorunumAyari {
   std::string formbackcolor = "&H8000000F";  // screens
   std::string imagepath = "image/soft/";     // set of button pictures, below PrgPath
   bool imagekullan = true;                   // pictures are used
+  bool yazilansor = true;                    // screens ask before they lose what was typed
   std::string labelback, labelfore;          // the main window's label; empty: as the colour table has it
   std::string labelfont = "Tahoma";
   int labelfontsize = 10;
@@ -39,7 +40,7 @@ IniDosyasi IstasyonDosyasi(const Oturum& o);
 GorunumAyari GorunumOku(const Oturum& o);
 Durum GorunumYaz(const Oturum& o, const GorunumAyari& ayar);
 
-// The session's share of it: `ResimYolu` and `ResimKullan`.
+// The session's share of it: `ResimYolu`, `ResimKullan` and `YazilanSorulsun`.
 void GorunumUygula(Oturum& o, const GorunumAyari& ayar);
 
 // The colours to paint with: the session's table, with this computer's colour of screens where that is a colour and not

@@ -41,6 +41,7 @@ void yapifrm::DizinSec(xtext& alan) {
 void yapifrm::Kaydet() {
   YapiAyari ayar;
   if (!Oku(ayar) || !Oldu(YapiAyariKaydet(ayar))) return;
+  YazilaniUnut();
   Bildirimi().Bilgi("Yeni Ayarlar Kaydedildi\nGeçerli Olabilmesi İçin Programdan Çıkıp Girmelisiniz..");
   IlkAlanaGit();
 }

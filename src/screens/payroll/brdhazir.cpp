@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QTimer>
 
+#include "core/turkce.h"
 #include "screens/payroll/brckes.h"
 #include "screens/payroll/brdhaziralanlar.h"
 #include "screens/payroll/parametreindirme.h"
@@ -82,6 +83,7 @@ void brdhazir::UstSatirYap() {
   Govde()->addLayout(satir);
   Govde()->addLayout(kodSatiri);
   connect(ay_, &QComboBox::activated, this, [this](int sira) {
+    if (!YazilanBirakilir()) return ay_->setCurrentIndex(giris_.Donem().ay - 1);
     giris_.AyDegistir(sira + 1);
     BordroNoDoldur();
     simdiki_ = nullptr;
@@ -139,12 +141,14 @@ void brdhazir::GovdeYap() {
 }
 
 void brdhazir::TuslariBagla() {
+  const auto yardimda = [this] { return YardimSirasi(SimdikiAlan()).has_value(); };
+  const auto girisSatirinda = [this, yardimda] { return KazancSirasi(SimdikiAlan()) || yardimda(); };
   Komutlar({{.komut = FormKomutu::Rehber, .islev = [this] { RehberAc(); }},
             {.komut = FormKomutu::Sil, .islev = [this] { Sil(); }},
             {.tus = Qt::Key_F5, .ipucu = "Sicil No", .islev = [this] { KodaDon(); }},
             {.tus = Qt::CTRL | Qt::Key_F7, .ipucu = "Ayı Sil", .islev = [this] { AyiSil(); }},
-            {.tus = Qt::Key_F9, .ipucu = "Netten Brüte", .islev = [this] { NettenBrute(); }},
-            {.tus = Qt::CTRL | Qt::Key_B, .ipucu = "Borç", .islev = [this] { BorcSor(); }},
+            {.tus = Qt::Key_F9, .ipucu = "Netten Brüte", .islev = [this] { NettenBrute(); }, .gecerli = yardimda},
+            {.tus = Qt::CTRL | Qt::Key_B, .ipucu = "Borç", .islev = [this] { BorcSor(); }, .gecerli = girisSatirinda},
             {.tus = Qt::Key_F4, .ipucu = "Neden?", .islev = [this] { SonuclaraGit(); }},
             {.tus = Qt::Key_F6, .ipucu = "Ay", .islev = [this] { ay_->setFocus(); }},
             {.tus = Qt::CTRL | Qt::Key_F6, .ipucu = "Ayın Parametreleri", .islev = [this] { ParametreleriGetir(); }},
@@ -212,15 +216,27 @@ BordroAlani brdhazir::SimdikiAlan() const {
 
 // The person of the typed code; the entry fields open.
 bool brdhazir::KisiyiGetir() {
-  const KodSonucu sonuc = giris_.KodAl(Utf8(YaziKutusu(bordroalani::kod).text()));
+  xtext& kod = YaziKutusu(bordroalani::kod);
+  const std::string yazilan(Kirp(Utf8(kod.text())));
+  if (!yazilan.empty() && !TurkceEsit(yazilan, giris_.Kod()) && !YazilanBirakilir()) {
+    kod.DegerKoy(giris_.Kod());
+    return false;
+  }
+  kod.DegerKoy(yazilan);
+  const KodSonucu sonuc = giris_.KodAl(yazilan);
   if (sonuc == KodSonucu::Bos) return false;
   degisen_.clear();
+  if (sonuc == KodSonucu::Yuklendi) Oturumu().SonKisi = giris_.Kod();
   Goster();
   return sonuc == KodSonucu::Yuklendi;
 }
 
 void brdhazir::Git(Yon yon) {
+  const std::string simdiki = giris_.Kod();
+  if (!YazilanBirakilir()) return;
+  if (giris_.Kod() != simdiki) giris_.KodAl(simdiki);  // a save goes on to the next person; the move begins at its own
   if (giris_.Git(yon) == KodSonucu::Bos) return;
+  Oturumu().SonKisi = giris_.Kod();
   YaziKutusu(bordroalani::kod).DegerKoy(giris_.Kod());
   YaziKutusu(bordroalani::kod).selectAll();
   degisen_.clear();
@@ -270,6 +286,7 @@ void brdhazir::AlanaGirildi(AlanDenetimi* yeni) {
   if (eski == yeni) return;
   if (eski != nullptr) GirisiOku();
   giris_.AlanaGirildi(SimdikiAlan());
+  IpucuYaz();
   neden_->Goster(giris_.HesapIzi(), yeni->Satir().tanim.ad, Yazi(yeni->Satir().etiket));
   if (SimdikiAlan() == BordroAlani::Kod && eski != nullptr) KodaGirildi();
 }
@@ -277,19 +294,22 @@ void brdhazir::AlanaGirildi(AlanDenetimi* yeni) {
 // Back on the code field: the person's entry closes.
 void brdhazir::KodaGirildi() {
   const KapanisSonucu sonuc = giris_.Kapat();
+  if (sonuc == KapanisSonucu::Bitti) return Kapat();
+  KapanisiGoster(sonuc);
+}
+
+void brdhazir::KapanisiGoster(KapanisSonucu sonuc) {
   switch (sonuc) {
     case KapanisSonucu::SonrakiVar:
       YaziKutusu(bordroalani::kod).DegerKoy(giris_.Kod());
       YaziKutusu(bordroalani::kod).selectAll();
       BordroNoDoldur();
       break;
-    case KapanisSonucu::Bitti:
-      Kapat();
-      return;
     case KapanisSonucu::KaldiEksikGun:
       Goster();
       OdakVer(giris_.SonGirisAlani() >= BordroAlani::EksikSebep ? AlanTutamagi(bordroalani::sebep) : bordroalani::kod);
       return;
+    case KapanisSonucu::Bitti:
     case KapanisSonucu::Kapanmadi:
     case KapanisSonucu::KaldiGunFazla:
     case KapanisSonucu::KaldiNetsiz:
@@ -300,6 +320,22 @@ void brdhazir::KodaGirildi() {
       break;
   }
   Goster();
+}
+
+// Days of the template and results are no work of the user's.
+bool brdhazir::Kaydedilmemis() const {
+  if (giris_.Durumu() != BordroGirisi::Hal::KisiSecili) return false;
+  const auto farkli = [this](const AlanDenetimi* alan) {
+    const bool kayitta = alan->Satir().kayitTuru == typeid(Brd);
+    return kayitta && alan->Oku() != alan->Satir().oku(&giris_.Giris());
+  };
+  return giris_.Yazildi() || std::ranges::any_of(degisen_, farkli);
+}
+
+bool brdhazir::YazilaniKaydet() {
+  GirisiOku();
+  KapanisiGoster(giris_.Kapat());
+  return giris_.Durumu() != BordroGirisi::Hal::KisiSecili;
 }
 
 // What was typed goes into the entry, and the calculation is run.
@@ -375,7 +411,8 @@ void brdhazir::BordroNoDoldur() {
 }
 
 void brdhazir::TopluHazirla() {
-  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan) || !giris_.MevzuatUygun()) return;
+  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan) || !YazilanBirakilir() || !giris_.MevzuatUygun())
+    return;
   const auto sonuc = UzunIs(Baglam(), QStringLiteral("Bordro hazırlanıyor…"),
                             [this](Ilerleme& ilerleme) { return giris_.SablondanHazirla(&ilerleme); });
   if (!sonuc) return;
@@ -415,14 +452,16 @@ void brdhazir::BorcSor() {
 void brdhazir::showEvent(QShowEvent* olay) {
   Form::showEvent(olay);
   if (std::exchange(gosterildi_, true)) return;
+  YaziKutusu(bordroalani::kod).DegerKoy(Oturumu().SonKisi);  // Enter brings him up
+  YaziKutusu(bordroalani::kod).selectAll();
   // Messages and questions come over the screen, not before it.
   QMetaObject::invokeMethod(
       this, [this] { acik_ ? void(giris_.MevzuatUygun()) : Kapat(); }, Qt::QueuedConnection);
 }
 
 void brdhazir::closeEvent(QCloseEvent* olay) {
-  if (acik_) giris_.KapanisDenetimi();
   Form::closeEvent(olay);
+  if (olay->isAccepted() && acik_) giris_.KapanisDenetimi();
 }
 
 }  // namespace belvani

@@ -27,6 +27,8 @@ class brdhazir : public Form {
   bool eventFilter(QObject* nesne, QEvent* olay) override;
   void closeEvent(QCloseEvent* olay) override;
   void showEvent(QShowEvent* olay) override;
+  bool Kaydedilmemis() const override;
+  bool YazilaniKaydet() override;
 
  private:
   void UstSatirYap();
@@ -37,6 +39,7 @@ class brdhazir : public Form {
   void AlanaGirildi(AlanDenetimi* yeni);
   void KodaGirildi();
   bool KisiyiGetir();
+  void KapanisiGoster(KapanisSonucu sonuc);
   void Git(Yon yon);
   void GirisiOku();
   void Goster();

@@ -39,9 +39,13 @@ kykm::kykm(EkranBaglami& baglam, ParametreDeposu& parametreler)
   Yerlestir();
   gruplar_->SatirSecildi = [this](int satir) { GrubaGec(Utf8(gruplar_->Text(satir, 0))); };
   // A new name keeps the flags on the screen: a new group starts as a copy.
-  AnahtarBagla(kaztan::grup, [this](const std::string& ad) {
-    if (KazancGrubuVar(Parametreler().firma.Parametreler(), ad)) GrubaGec(ad);
-  });
+  const auto var = [this](const std::string& ad) { return KazancGrubuVar(Parametreler().firma.Parametreler(), ad); };
+  AnahtarBagla(
+      kaztan::grup,
+      [this, var](const std::string& ad) {
+        if (var(ad)) GrupGoster(ad);
+      },
+      var);
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
             {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }},
             {.tus = Qt::Key_F9, .dugme = "Öneri", .simge = "degistir", .islev = [this] { OneriKoy(); }}});
@@ -72,22 +76,16 @@ void kykm::GruplariGoster(const std::string& secili) {
   if (gruplar_->FindByName("grup", Yazi(secili)) < 0) gruplar_->ChngSat(0);
 }
 
-bool kykm::Kaydedilmemis() const {
-  KazancBayraklari ekranda = bayraklar_;
-  kazanclar_->Al(ekranda.k);
-  yardimlar_->Al(ekranda.y);
-  return ekranda != bayraklar_;
-}
-
-// The user who stays finds list and name as they were.
+// A question would come in the middle of the list's move, so it comes right after; the list goes back to the group
+// that stays.
 void kykm::GrubaGec(const std::string& grup) {
   if (TurkceEsit(grup, gosterilen_) && !gosterilen_.empty()) return AnahtarKoy(grup);
-  if (Kaydedilmemis() && !Bildirimi().Soru(gosterilen_ + " Grubu\nİşaretler Kaydedilmedi, Bırakılsın mı ?")) {
-    AnahtarKoy(gosterilen_);
+  if (!Kaydedilmemis()) return GrupGoster(grup);
+  const auto sor = [this, grup] {
+    if (!TurkceEsit(grup, gosterilen_)) AnahtarAra(grup);
     gruplar_->FindByName("grup", Yazi(gosterilen_));
-    return;
-  }
-  GrupGoster(grup);
+  };
+  QMetaObject::invokeMethod(this, sor, Qt::QueuedConnection);
 }
 
 void kykm::OneriKoy() {
@@ -95,6 +93,17 @@ void kykm::OneriKoy() {
   kazanclar_->Koy(oneri.k);
   yardimlar_->Koy(oneri.y);
   ZoomEfekt(QStringLiteral("Önerilen işaretler konuldu; F5 kaydeder"));
+}
+
+KazancBayraklari kykm::Ekrandaki() const {
+  KazancBayraklari simdiki = bayraklar_;
+  kazanclar_->Al(simdiki.k);
+  yardimlar_->Al(simdiki.y);
+  return simdiki;
+}
+
+bool kykm::Kaydedilmemis() const {
+  return Ekrandaki() != bayraklar_ || ParametreEkrani::Kaydedilmemis();
 }
 
 void kykm::GrupGoster(const std::string& grup) {
@@ -109,10 +118,10 @@ void kykm::Kaydet() {
   AnahtariBul();
   if (!AlanlarSaglam(typeid(Kaztan))) return;
   const std::string grup = YazilanAnahtar();
-  kazanclar_->Al(bayraklar_.k);
-  yardimlar_->Al(bayraklar_.y);
+  const KazancBayraklari yeni = Ekrandaki();
+  if (!Oldu(KazancGrubuKaydet(Tanimlar(), grup, yeni))) return;
+  bayraklar_ = yeni;
   gosterilen_.clear();  // what is stored comes up, whatever its name was here
-  if (!Oldu(KazancGrubuKaydet(Tanimlar(), grup, bayraklar_))) return;
   ZoomEfekt();
   GruplariGoster(grup);
 }
@@ -121,6 +130,7 @@ void kykm::Sil() {
   const int satir = gruplar_->CurSat();
   if (satir < 0 || !Silindi(KazancGrubuSil(Tanimlar(), Utf8(gruplar_->Text(satir, 0))))) return;
   gosterilen_.clear();
+  bayraklar_ = Ekrandaki();  // unsaved ticks go with it
   GruplariGoster(Oturumu().firma.ondeger);
   gruplar_->setFocus();
 }

@@ -11,12 +11,14 @@ class kykm : public ParametreEkrani {
  public:
   kykm(EkranBaglami& baglam, ParametreDeposu& parametreler);
 
+ protected:
+  bool Kaydedilmemis() const override;
+
  private:
   void Yerlestir();
   void GruplariGoster(const std::string& secili);
+  KazancBayraklari Ekrandaki() const;
   void GrupGoster(const std::string& grup);
-  // Ticks that are not saved; asked about before another group comes up.
-  bool Kaydedilmemis() const;
   void GrubaGec(const std::string& grup);
   void OneriKoy();
   void Kaydet();

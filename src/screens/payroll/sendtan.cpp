@@ -39,7 +39,9 @@ sendtan::sendtan(EkranBaglami& baglam, ParametreDeposu& parametreler)
   };
   yatay->addWidget(liste_, 1);
   Govde()->addLayout(yatay, 1);
-  AnahtarBagla(sendika::kod, [this](const std::string& kod) { Bul(kod); });
+  AnahtarBagla(
+      sendika::kod, [this](const std::string& kod) { Bul(kod); },
+      [this](const std::string& kod) { return SendikaBul(Parametreler().firma.Parametreler(), kod) != nullptr; });
   Komutlar({{.komut = FormKomutu::Rehber, .islev = [this] { liste_->setFocus(); }},
             {.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
             {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }}});

@@ -87,18 +87,23 @@ void escofrm::ListeyiKur() {
 }
 
 // A row that was not taken must not be lost: the list then stays with its person.
-bool escofrm::Bul(const std::string& kod) {
-  if (liste_->OkUpdateData()) {
-    Goster(kod);
-    return true;
-  }
-  AnahtarKoy(kod_);
+bool escofrm::KendiligindenKaydet() {
+  if (liste_->OkUpdateData()) return true;
   liste_->setFocus();
   return false;
 }
 
+bool escofrm::Bul(const std::string& kod) {
+  if (KendiligindenKaydet()) {
+    Goster(kod);
+    return true;
+  }
+  AnahtarKoy(kod_);
+  return false;
+}
+
 void escofrm::Git(Yon yon) {
-  if (!liste_->OkUpdateData()) return;
+  if (!KendiligindenKaydet()) return;
   if (const auto kart = KartGit(Oturumu(), yon, kod_)) Goster(kart->kod);
 }
 
@@ -119,20 +124,23 @@ void escofrm::Goster(const std::string& kod) {
 void escofrm::SatiriGoster(int satir, const Esco& esco) {
   okunan_[esco.oto] = esco;
   for (const MetinKolonu& k : MetinKolonlari) liste_->TextByName(satir, k.ad, Yazi(esco.*k.uye));
-  for (const KodluKolon& k : KodluKolonlar)
-    liste_->TextByName(satir, k.ad, Yazi(KodluMetin(k.secenekler, esco.*k.uye)));
+  for (const KodluKolon& k : KodluKolonlar) {
+    const std::uint8_t kod = esco.*k.uye;
+    const bool secilmemis = kod == 0 && KodSayisi(k.secenekler.front()) != 0;
+    liste_->TextByName(satir, k.ad, secilmemis ? QString() : Yazi(KodluMetin(k.secenekler, kod)));
+  }
   liste_->TextByName(satir, "dogtar", Yazi(esco.dogtar.Metin()));
   liste_->TextByName(satir, "oto", QString::number(esco.oto));
 }
 
-// A coded cell that was never opened takes the first choice, which its editor would have shown.
+// A coded cell that was never opened stores 0: nobody becomes the spouse by his name alone.
 Esco escofrm::SatirdanOku(int satir) const {
   Esco esco;
   esco.kod = kod_;
   for (const MetinKolonu& k : MetinKolonlari) esco.*k.uye = Utf8(liste_->TextByName(satir, k.ad));
   for (const KodluKolon& k : KodluKolonlar) {
     const std::string hucre = Utf8(liste_->TextByName(satir, k.ad));
-    esco.*k.uye = KodSayisi(hucre.empty() ? k.secenekler.front() : std::string_view(hucre));
+    esco.*k.uye = hucre.empty() ? std::uint8_t() : KodSayisi(hucre);
   }
   esco.dogtar = Tarih::MetinOku(Utf8(liste_->TextByName(satir, "dogtar")));
   esco.oto = liste_->TextByName(satir, "oto").toInt();
@@ -140,6 +148,10 @@ Esco escofrm::SatirdanOku(int satir) const {
 }
 
 bool escofrm::SatirKaydet(int satir) {
+  if (!KartBul(Oturumu(), kod_)) {
+    Bildir(KuralKusuru("Bu Kodda Personel Yok: " + kod_, esco::kod));
+    return false;
+  }
   Okunan<Esco> kayit{.ilk = {}, .simdi = SatirdanOku(satir)};
   if (const auto ilk = okunan_.find(kayit.simdi.oto); ilk != okunan_.end()) kayit.ilk = ilk->second;
   const auto yazilan = SorarakKaydet(
@@ -154,7 +166,9 @@ bool escofrm::SatirKaydet(int satir) {
 bool escofrm::SatirSil(int satir) {
   const int oto = liste_->TextByName(satir, "oto").toInt();
   const bool hicKaydedilmedi = oto == 0;
-  if (hicKaydedilmedi) return Bildirimi().Soru("Kayıt Silinecek ?");
+  if (hicKaydedilmedi)
+    return Bildirimi().SilinsinMi("Kayıt Silinecek ?", Utf8(liste_->TextByName(satir, "adi")),
+                                  SoruDugmeleri::TamamIptal);
   const auto silme = AileSil(Oturumu(), oto, Bildirimi());
   // What another user has deleted goes from the list too.
   const bool yokmus = !silme && silme.Kusuru().derece == Derece::Bilgi;

@@ -14,6 +14,7 @@ class escofrm : public PersonelFormu {
  protected:
   bool Bul(const std::string& kod) override;
   void Git(Yon yon) override;
+  bool KendiligindenKaydet() override;
 
  private:
   void ListeyiKur();

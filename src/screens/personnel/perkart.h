@@ -17,7 +17,7 @@ class perkart : public PersonelFormu {
   bool Bul(const std::string& kod) override;
   void Git(Yon yon) override;
   bool AlanRehberi() override;
-  bool Kaydedilmemis() const override { return Yazildi() || !yeniResim_.empty(); }
+  bool Kaydedilmemis() const override { return Form::Kaydedilmemis() || !yeniResim_.empty(); }
 
  private:
   void Yerlestir();

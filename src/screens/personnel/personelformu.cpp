@@ -13,11 +13,31 @@ namespace belvani {
 
 void PersonelFormu::PersonelKomutlari(AlanTutamagi kod) {
   Komutlar({{.komut = FormKomutu::Rehber, .dugme = " Personel  Rehberi ", .islev = [this] { RehberAc(); }},
-            {.komut = FormKomutu::Ilk, .islev = [this] { Git(Yon::Ilk); }},
-            {.komut = FormKomutu::Onceki, .islev = [this] { Git(Yon::Onceki); }},
-            {.komut = FormKomutu::Sonraki, .islev = [this] { Git(Yon::Sonraki); }},
-            {.komut = FormKomutu::Son, .islev = [this] { Git(Yon::Son); }}});
-  AnahtarBagla(kod, [this](const std::string& yazilan) { Bul(yazilan); });
+            {.komut = FormKomutu::Ilk, .islev = [this] { GitVeTut(Yon::Ilk); }},
+            {.komut = FormKomutu::Onceki, .islev = [this] { GitVeTut(Yon::Onceki); }},
+            {.komut = FormKomutu::Sonraki, .islev = [this] { GitVeTut(Yon::Sonraki); }},
+            {.komut = FormKomutu::Son, .islev = [this] { GitVeTut(Yon::Son); }}});
+  AnahtarBagla(kod, [this](const std::string& yazilan) {
+    bulundu_ = Bul(yazilan);
+    KisiyiTut();
+  });
+}
+
+void PersonelFormu::GitVeTut(Yon yon) {
+  Git(yon);
+  KisiyiTut();
+}
+
+void PersonelFormu::KisiyiTut() {
+  if (!SonAnahtar().empty()) Oturumu().SonKisi = SonAnahtar();
+}
+
+// A code that was typed and never saved, or has been deleted since, is nobody's.
+void PersonelFormu::showEvent(QShowEvent* olay) {
+  const bool bos = YazilanAnahtar().empty();
+  Form::showEvent(olay);
+  const std::string& son = Oturumu().SonKisi;
+  if (bos && !son.empty() && !KisiAdi(Oturumu(), son).empty()) AnahtarAra(std::string(son));
 }
 
 QString KisiEkrani(AlanTutamagi alan) {
@@ -28,11 +48,7 @@ QString KisiEkrani(AlanTutamagi alan) {
 }
 
 void PersonelFormu::KisiyeGit(const std::string& kod, AlanTutamagi alan) {
-  if (!TurkceEsit(kod, SonAnahtar())) {
-    if (Kaydedilmemis() && !Bildirimi().Soru("Ekrandaki Değişiklikler Kaydedilmedi\nBırakılıp Bu Kişi Getirilsin mi ?"))
-      return;
-    AnahtarAra(kod);
-  }
+  if (!TurkceEsit(kod, SonAnahtar()) && !AnahtarAra(kod)) return;
   if (AlanDenetimi* denetim = DenetimBul(alan))
     denetim->Odak()->setFocus(Qt::TabFocusReason);
   else
@@ -41,8 +57,9 @@ void PersonelFormu::KisiyeGit(const std::string& kod, AlanTutamagi alan) {
 
 bool PersonelFormu::EkrandakiMi() {
   const std::string kod = YazilanAnahtar();
-  if (kod.empty() || kod == SonAnahtar()) return true;
-  return !Bul(kod);
+  if (!kod.empty() && kod != SonAnahtar()) return AnahtarAra(kod) && !bulundu_;
+  KisiyiTut();
+  return true;
 }
 
 void PersonelFormu::AdiGoster(const std::string& kod) {

@@ -1,5 +1,5 @@
 // PersonelFormu: what the screens of one person share. The person is found by his code when the code field is left, by
-// the guide (F2), or by a move through the people.
+// the guide (F2), or by a move through the people. A screen begins with the person who was shown last on any of them.
 #pragma once
 
 #include "personnel/etiket.h"
@@ -28,7 +28,7 @@ QString KisiEkrani(AlanTutamagi alan);
 class PersonelFormu : public Form {
  public:
   // Brings the person up as if his code had been typed, unless he is there already; the cursor goes to the field where
-  // this screen has it. Over typed work it asks first.
+  // this screen has it.
   void KisiyeGit(const std::string& kod, AlanTutamagi alan);
 
  protected:
@@ -43,19 +43,23 @@ class PersonelFormu : public Form {
   virtual void Git(Yon yon) = 0;
   // F2 on a field whose codes have a list of their own; false: the people's guide opens.
   virtual bool AlanRehberi() { return false; }
-  // Something of the person on the screen is neither saved nor thrown away.
-  virtual bool Kaydedilmemis() const { return Yazildi(); }
 
   // A code that was typed and not left yet is looked up first, so that no command meets another person than the one on
   // the screen. False: a person came up that the user has not seen yet.
   bool EkrandakiMi();
   void AdiGoster(const std::string& kod);
   void KoddanBasla();  // the next person may be typed
+  void showEvent(QShowEvent* olay) override;
   // After another record has come under the cursor: what is typed replaces the field's text.
   void AlaniSec();
 
  private:
   void RehberAc();
+  void GitVeTut(Yon yon);
+  // The next screen of one person begins with him.
+  void KisiyiTut();
+
+  bool bulundu_ = false;  // by the last lookup of a typed code
 };
 
 }  // namespace belvani

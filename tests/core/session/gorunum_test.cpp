@@ -97,7 +97,7 @@ TEST_F(GorunumTest, WorkstationFile) {
   GorunumAyari a;
   a.backresim = "/prg/image/Quick.jpg";
   EXPECT_EQ(GorunumOku(o), a);
-  a = {"&H00112233&", false, "/ev/şık.jpg", "&H00FFFFFF&", "image/yeni/", false, "&H1&", "&H2&", "Arial", 14};
+  a = {"&H00112233&", false, "/ev/şık.jpg", "&H00FFFFFF&", "image/yeni/", false, false, "&H1&", "&H2&", "Arial", 14};
   ASSERT_TRUE(GorunumYaz(o, a));
   EXPECT_EQ(GorunumOku(o), a);
   EXPECT_TRUE(

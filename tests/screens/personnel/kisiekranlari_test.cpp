@@ -56,7 +56,7 @@ TEST_F(KisiEkranlari, ARelativeIsAddedThenChangedInTheSameRecord) {
 
   ortam.Bas(Qt::Key_PageUp);
   ortam.Bas(Qt::Key_Delete);
-  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Kayıt Silinecek ?"});
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Kayıt Silinecek ?\nEge Öz"});
   EXPECT_TRUE(Aile("001").empty());
   EXPECT_EQ(liste.ListCount(), 0);
 }
@@ -123,7 +123,7 @@ TEST_F(KisiEkranlari, IdentityIsSavedAndDeletedWithItsCard) {
   ortam.Bas(Qt::Key_F7);
   EXPECT_FALSE(KartBul(ortam.oturum, "001"));
   EXPECT_EQ(AlanMetni(form, "kod"), "");
-  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Personel Kimlik Bilgilerini Silmek İstiyormusunuz ?"});
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Personel Kimlik Bilgilerini Silmek İstiyormusunuz ?\n001 Işıl Öz"});
 }
 
 TEST_F(KisiEkranlari, TheReportIsReadAndNarrowed) {

@@ -143,7 +143,7 @@ TEST_F(Perkart, DeleteLeavesPayRecordsAndLooksAtTheTypedCodeFirst) {
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
   EXPECT_EQ(Metin("adi"), "Ali");
   ortam.Bas(Qt::Key_F7);
-  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Personel Kaydını Silmek İstiyormusunuz ?"});
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Personel Kaydını Silmek İstiyormusunuz ?\n001 Ali Veli"});
   EXPECT_EQ(Sayi("sicil"), 1u);
   EXPECT_EQ(Sayi("kimlik"), 1u);
   EXPECT_EQ(Sayi("brd"), 1u);
@@ -160,6 +160,7 @@ TEST_F(Perkart, APictureIsStoredByTheSaveAlone) {
   ortam.Bas(Qt::Key_R, Qt::ControlModifier);
   EXPECT_FALSE(kutu.Bos());
   ortam.Bas(Qt::Key_Escape);
+  EXPECT_EQ(ortam.bildirim.Al().size(), 1u) << "asked about";
   EXPECT_EQ(Sayi("foto"), 0u) << "abandoned";
 
   Ac();
