@@ -52,10 +52,12 @@ TEST(Kykm, ProposesFlagsAndAsksBeforeTicksAreLost) {
   auto& form = ortam.Ac<kykm>(ortam.parametreler);
   EXPECT_EQ(AlanMetni(form, "grup"), "Personel");
   ortam.Bas(Qt::Key_F9);
-  ortam.bildirim.cevap = false;
+  ortam.bildirim.yazilan = YazilanKarari::Kal;
   auto* gruplar = form.findChild<dclist*>("gruplar");
   gruplar->ChngSat(0);
-  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Soru: Personel Grubu\nİşaretler Kaydedilmedi, Bırakılsın mı ?"});
+  QCoreApplication::processEvents();
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Yazılan: Ekrandaki Değişiklikler Kaydedilmedi\nKazanç, Yardım Tanımları, "
+                                          "Personel\nKaydedilsin mi ?"});
   EXPECT_EQ(AlanMetni(form, "grup"), "Personel");
   EXPECT_EQ(gruplar->CurSat(), 1);
   ortam.Bas(Qt::Key_F5);
