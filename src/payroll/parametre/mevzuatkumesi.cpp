@@ -46,6 +46,17 @@ bool AlindigiGibi(const KuruluMevzuat& kurulu, MevzuatBolumu bolum) {
   return kurulu.AlindigiAy(BolumDosyasi(bolum)).has_value();
 }
 
+// What the loader has written where there was no agitbl.dat: nobody's figures.
+bool HazirAgi(const KuruluMevzuat& kurulu) {
+  return !kurulu.kunye.dosyalar.contains(AgiKaydi::Dosya) && kurulu.parametreler.agi.AgiCocuk4 == Tek();
+}
+
+// The part holds what somebody has typed or fetched, and not what stands for a file that is absent or broken.
+bool RakamVar(const KuruluMevzuat& kurulu, MevzuatBolumu bolum) {
+  return std::ranges::find(kurulu.dosyalar, BolumDosyasi(bolum), &AdliDosya::ad) != kurulu.dosyalar.end() &&
+         RakamKusurlari(kurulu.parametreler, bolum).empty() && (bolum != MevzuatBolumu::Agi || !HazirAgi(kurulu));
+}
+
 // The month that the installed figures are thought to belong to: the one they were fetched for, also when the user has
 // changed some since; else the first month with this minimum wage.
 std::optional<MevzuatAyi> SahipAy(const KuruluMevzuat& kurulu) {
@@ -185,13 +196,14 @@ MevzuatGorusu MevzuataBak(const KuruluMevzuat& kurulu, MevzuatAyi ay) {
     const auto alinan = kurulu.AlindigiAy(BolumDosyasi(bolum));
     if (farklar.empty() || alinan == ay) continue;
     const auto sahip = alinan ? alinan : YayimlandigiAy(p, bolum);
-    if (!sahip) gorus.hal = MevzuatHali::Kullanici;
+    if (!sahip && RakamVar(kurulu, bolum)) gorus.hal = MevzuatHali::Kullanici;
     if (sahip && aylar.find(sahip->Metin()) == std::string::npos) aylar += (aylar.empty() ? "" : ", ") + sahip->Metin();
     for (const RakamFarki& fark : farklar) gorus.satirlar.push_back(fark.Metin());
   }
   if (gorus.satirlar.empty() || kurulu.kunye.kabuller.contains(KabulAnahtari(p, *yayimlanan))) return {};
   gorus.baslik = gorus.hal == MevzuatHali::BaskaAy
-                     ? "Kurulu yasal parametreler " + ay.Metin() + " döneminin değil (" + aylar + "):"
+                     ? "Kurulu yasal parametreler " + ay.Metin() + " döneminin değil" +
+                           (aylar.empty() ? "" : " (" + aylar + ")") + ":"
                      : "Kurulu yasal parametrelerde " + ay.Metin() + " için yayımlanandan farklı rakamlar var:";
   return gorus;
 }
@@ -212,7 +224,9 @@ std::vector<RakamFarki> KullanicininRakamlari(const KuruluMevzuat& kurulu) {
   const auto yayimlanan = YayimlananRakamlar(kurulu.parametreler, sahip.value_or(MevzuatAyi{}));
   if (!yayimlanan) return {};
   auto farklar = RakamFarklari(kurulu.parametreler, *yayimlanan);
-  std::erase_if(farklar, [&](const RakamFarki& fark) { return AlindigiGibi(kurulu, fark.bolum); });
+  std::erase_if(farklar, [&](const RakamFarki& fark) {
+    return AlindigiGibi(kurulu, fark.bolum) || !RakamVar(kurulu, fark.bolum);
+  });
   return farklar;
 }
 

@@ -167,6 +167,13 @@ TEST(TopluHazirla, CancelledChangesNothing) {
   EXPECT_TRUE(sirket.Kayitlar(2009, 1).empty());
 }
 
+TEST(TopluHazirla, OfNobodyIsNoFailure) {
+  test::Sirket s;
+  const HazirlikSonucu sonuc = s.Hazirla(2009, 7);
+  EXPECT_TRUE(sonuc.kaydedildi);
+  EXPECT_EQ(sonuc.kaydedilen + sonuc.donemDisi + sonuc.netsiz, 0u);
+}
+
 TEST(BordroSil, DeletesTheMonthAndNoOther) {
   Sirket sirket;
   sirket.Kisi("1", 700);

@@ -181,6 +181,18 @@ TEST_F(MevzuatKumesi, TheUsersOwnFiguresAreAskedOnceAndComeBackWithTheirMonth) {
   EXPECT_TRUE(KullanicininRakamlari(KuruluMevzuatOku(Dizin())).empty()) << "the published ones";
 }
 
+// A new installation fetches one file after the other: what stands for those that are not there yet is nobody's.
+TEST_F(MevzuatKumesi, WhatStandsForAnAbsentFileIsNobodysFigure) {
+  for (const auto dosya : ParametreDosyalari) {
+    YasalDosyalariYukle(Dizin(), {});  // writes built-in ones, as the desktop does
+    EXPECT_TRUE(KullanicininRakamlari(KuruluMevzuatOku(Dizin())).empty());
+    if (dosya == ParametreDosyasi::HesapTur) break;
+    if (dosya == ParametreDosyasi::Agi) EXPECT_EQ(Bak({2009, 7}).hal, MevzuatHali::BaskaAy);
+    Kur({2009, 7}, {.yalniz = dosya});
+  }
+  EXPECT_EQ(Bak({2009, 7}).hal, MevzuatHali::Uygun);
+}
+
 TEST_F(MevzuatKumesi, WhatAServerGaveForAMonthIsThatMonths) {
   const std::string adres = *ParametreAdresi(2009, 7);
   std::map<std::string, std::string> yanitlar;
