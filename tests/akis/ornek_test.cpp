@@ -1,7 +1,9 @@
 // The sample company on the payroll screen: what every stored record says, the screen says when the person comes up.
 #include "core/session/oturum.h"
+#include "core/store/depodenetimi.h"
 #include "core/store/satirlar.h"
 #include "ekran/ortam.h"
+#include "payroll/hazirlik/sirketdenetimi.h"
 #include "screens/payroll/brdhazir.h"
 
 namespace belvani::test {
@@ -77,6 +79,15 @@ TEST(Ornek, TheScreenShowsEveryStoredRecord) {
   }
   EXPECT_EQ(farklar, Iletiler{});
   EXPECT_EQ(asan.size(), TavaniAsar.size());
+}
+
+// Apprentices, pensioners, every era of premium rules: all of it is in order.
+TEST(Ornek, TheCheckOfTheCompanyFindsNothing) {
+  OrnekSirket sirket;
+  for (const Kusur& k : DepoKusurlari(sirket.oturum.depo.db.IcMotor())) ADD_FAILURE() << k.metin;
+  const auto bulunan = SirketDenetle(sirket.oturum);
+  ASSERT_TRUE(bulunan);
+  for (const Kusur& k : *bulunan) ADD_FAILURE() << k.kod << ": " << k.metin;
 }
 
 }  // namespace

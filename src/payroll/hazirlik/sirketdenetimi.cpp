@@ -64,10 +64,12 @@ std::string Tutmayan(const Brd& b) {
   };
   if (b.topyardim != yardim) return "yardımlar toplamı";
   if (b.yuvarlama != b.sendika + b.borckes) return "özel kesintiler toplamı";
+  const bool ciraginki = b.sskkesinti + b.issizisci + b.gvtutar + b.dvtutar == Tutar();  // his bases stand, untaxed
+  if (b.ogv > b.gvtutar) return "asgari geçim indirimi";
+  if (ciraginki) return {};
   if (uzak(b.sskkesinti, b.sskmatrah, b.sskiscior.Sayi() / 100)) return "SSK işçi primi";
   if (uzak(b.issizisci, b.sskmatrah, b.issiziscior.Sayi() / 100)) return "işsizlik işçi primi";
   if (uzak(b.dvtutar, b.dvmatrah, b.damgaveror.Sayi() / 1000)) return "damga vergisi";
-  if (b.ogv > b.gvtutar) return "asgari geçim indirimi";
   return {};
 }
 
@@ -84,7 +86,7 @@ std::string BaskaMevzuat(const Brd& b, const YasalParametreler& y) {
   if (b.sskmatrah > y.oranlar.SskTavan) return "SSK tavanı";
   if (!dalda(b.sskiscior, OranToplami)) return "SSK işçi oranı";
   if (!dalda(b.issiziscior, [](const OranSatiri& dal) { return dal.isz.Sayi(); })) return "işsizlik işçi oranı";
-  if (b.agimatrah != Tutar() && b.agimatrah != y.agi.AgiTaban) return "asgari geçim indirimi tabanı";
+  if (b.ogv != Tutar() && b.agimatrah != y.agi.AgiTaban) return "asgari geçim indirimi tabanı";
   return {};
 }
 

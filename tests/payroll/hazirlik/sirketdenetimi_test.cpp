@@ -38,7 +38,7 @@ TEST_F(SirketDenetimi, NamesTheMonthOfAnotherLawOnce) {
   ASSERT_TRUE(TopluHazirla(o, test::Al(KosullariYukle(o, test::Yasal(2008, 1), 2009, 1)), {}));
   EXPECT_EQ(Bulunan(),
             "||Ocak 2009 bordrosunda 2 kayıt başka bir ayın mevzuatıyla hesaplanmış (asgari geçim indirimi tabanı)\n");
-  motor().Calistir("update brd set agimatrah = 0");
+  motor().Calistir("update brd set ogv = 0");
   EXPECT_EQ(Bulunan(), "") << "the ceiling of 2008 lies below that of 2009";
   motor().Calistir("update brd set damgaveror = 7.5, dvtutar = round(dvmatrah * 0.0075) where kod = '1'");
   motor().Calistir("update brd set sskiscior = 13.7, sskkesinti = round(sskmatrah * 0.137) where kod = '2'");
