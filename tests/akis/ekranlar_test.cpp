@@ -158,7 +158,7 @@ std::vector<QWidget*> EkranTest::TabTuru(const Form& form, std::vector<QWidget*>
       for (const auto& d : form.Denetimler())
         // Some are in the walk only where another field asks for them.
         if (d->Odak()->isVisible() && d->Odak()->isEnabled() && !d->Satir().ek.kapali &&
-            d->Satir().tanim.ad != "rapcalismadi" && d->Satir().tanim.ad != "tahsisno")
+            d->Odak()->focusPolicy() != Qt::ClickFocus && d->Satir().tanim.ad != "tahsisno")
           alanlar.push_back(d->Odak());
     duraklar.push_back(odak);
   }

@@ -186,7 +186,12 @@ inline Hamle Oyuncu::Sec() {
 // Out of everything: Esc, and any answer to what is asked then.
 inline Hamle Oyuncu::CikisHamlesi() {
   if (++cikis_ > EnCokCikis) Dur("Esc does not leave " + Durum());
-  const bool soruldu = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr;
+  const auto* soru = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  const bool soruldu = soru != nullptr;
+  // Typed work goes only when its user says so.
+  for (QAbstractButton* dugme : soruldu ? soru->buttons() : QList<QAbstractButton*>())
+    if (soru->buttonRole(dugme) == QMessageBox::DestructiveRole && cikis_ % 2 == 0)
+      return {"drops what was typed", Yazma::Yazar, [dugme] { dugme->click(); }};
   return soruldu && cikis_ % 3 == 0 ? TusHamlesi("Return", Yazma::Yazar) : TusHamlesi("Esc");
 }
 

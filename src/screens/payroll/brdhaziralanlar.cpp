@@ -65,7 +65,7 @@ std::vector<AlanGrubu> OzetGruplari() {
         Toplamda(toplam::ozelKesinti, &EkranToplamlari::ozelKesinti),
         Toplamda(Uye("agi", &EkranToplamlari::agi), "A.G.İ."), Toplamda(bordroalani::net, "NET"),
         Alan(Uye("SskGun", &EkranToplamlari::SskGun), "Toplam Gün", {.kapali = true}),
-        Sonucta(brd::brutkaz, "Brüt Gelir")}}};
+        Sonucta(brd::brutkaz, "Brüt Gelir"), Oranda(4)}}};
 }
 
 std::vector<AlanGrubu> AyrintiGruplari() {
@@ -80,7 +80,7 @@ std::vector<AlanGrubu> AyrintiGruplari() {
             Oranda(1), Sonucta(brd::gvtutar, "Gelir Vergisi"), Oranda(3), Sonucta(brd::dvtutar, "Damga Vergisi"),
             Sonucta(brd::sskkesintiisveren, "SSK İşveren"), Toplamda(toplam::isciToplam, &EkranToplamlari::isciToplam),
             Sonucta(brd::issizisveren, "İşsizlik İşveren"),
-            Toplamda(toplam::isverenToplam, &EkranToplamlari::isverenToplam), Oranda(4)},
+            Toplamda(toplam::isverenToplam, &EkranToplamlari::isverenToplam)},
            2}};
 }
 

@@ -42,7 +42,7 @@ QString AdimMetni(const IzAdimi& adim) {
 NedenPaneli::NedenPaneli(QWidget* ust) : QTextBrowser(ust) {
   setFocusPolicy(Qt::NoFocus);
   setOpenLinks(false);
-  setFixedHeight(fontMetrics().height() * 6);
+  setFixedHeight(fontMetrics().height() * 11 / 2);
   Bosalt();
 }
 

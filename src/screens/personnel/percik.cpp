@@ -109,7 +109,8 @@ void percik::Goster(const CikisFormu& form) {
 CikisFormu percik::Okunan() const {
   CikisFormu form;
   form.kart = kart_;
-  for (const auto& d : Denetimler()) d->Satir().yaz(&form, d->Oku());
+  for (const auto& d : Denetimler())
+    if (d->Satir().kayitTuru == typeid(CikisFormu)) d->Satir().yaz(&form, d->Oku());
   return form;
 }
 

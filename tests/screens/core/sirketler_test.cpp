@@ -110,9 +110,9 @@ TEST(MuhbilYapifrm, AreKept) {
   EkranOrtami ortam;
   const Sonunda makine = OrtamKoy("BELVANI_MAKINE_AYAR", (ortam.dizin.Yol() + "makine.ini").c_str());
   ortam.Ac<muhbil>();
-  ortam.Yaz("Işıl Çağlar\n12345678901\nM-7\n");
+  ortam.Yaz("Işıl Çağlar\n10000000146\nM-7\n");
   ortam.Bas(Qt::Key_F5);
-  EXPECT_EQ(MuhasebeciOku(ortam.oturum), (Muhasebeci{"Işıl Çağlar", "12345678901", "M-7"}));
+  EXPECT_EQ(MuhasebeciOku(ortam.oturum), (Muhasebeci{"Işıl Çağlar", "10000000146", "M-7"}));
 
   auto& yapi = ortam.Ac<yapifrm>();
   const std::string eski = ortam.oturum.DataPath;
