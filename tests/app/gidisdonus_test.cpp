@@ -32,7 +32,7 @@ const GidisDonusEkrani Ekranlari[] = {
     {"perkart", "001\n"},
     {"nufus", "001\n"},
     {"escofrm", "001\n"},
-    {"percik", "001\n", {"girtar", "adr1", "adr2", "tel"}, {"cikiskodu"}},
+    {"percik", "001\n", {"girtar", "adr1", "adr2", "tel", "duzcerceve"}, {"cikiskodu"}},
     {"pergir",
      "001\n",
      {"tur", "islemTarihi", "emekliTercihi", "sandik0", "sandik1", "sandik2", "sandikNo0", "sandikNo1", "sandikNo2",
