@@ -187,7 +187,9 @@ TEST_F(MevzuatKumesi, WhatStandsForAnAbsentFileIsNobodysFigure) {
     YasalDosyalariYukle(Dizin(), {});  // writes built-in ones, as the desktop does
     EXPECT_TRUE(KullanicininRakamlari(KuruluMevzuatOku(Dizin())).empty());
     if (dosya == ParametreDosyasi::HesapTur) break;
-    if (dosya == ParametreDosyasi::Agi) EXPECT_EQ(Bak({2009, 7}).hal, MevzuatHali::BaskaAy);
+    if (dosya == ParametreDosyasi::Agi) {
+      EXPECT_EQ(Bak({2009, 7}).hal, MevzuatHali::BaskaAy);
+    }
     Kur({2009, 7}, {.yalniz = dosya});
   }
   EXPECT_EQ(Bak({2009, 7}).hal, MevzuatHali::Uygun);
