@@ -20,6 +20,7 @@
 #include "ui/pencere.h"
 #include "ui/perekr.h"
 #include "ui/sistembaskisi.h"
+#include "ui/xtext.h"
 
 namespace belvani {
 namespace {

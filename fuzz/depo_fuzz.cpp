@@ -6,6 +6,7 @@
 #include "core/dosya.h"
 #include "core/session/depo.h"
 #include "core/store/satirlar.h"
+#include "core/store/tablo.h"
 #include "core/tables/tablolar.h"
 #include "gecici.h"
 
@@ -24,7 +25,7 @@ std::string SaglamDepo(const std::string& dizin) {
   Sessiz bildirim;
   Depo depo;
   const std::string yol = dizin + "saglam.dat";
-  if (!depo.VeritabaniYarat(yol, bildirim) || !depo.VeritabaniAc(yol, bildirim)) std::abort();
+  if (!depo.VeritabaniYarat(yol) || !depo.VeritabaniAc(yol, bildirim)) std::abort();
   for (int i = 0; i < 40; ++i) {
     depo.sicil.KayitEkle();
     depo.sicil.AlanYaz("kod", std::to_string(i));
@@ -63,7 +64,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* veri, std::size_t boy)
   Depo depo;
   if (!depo.VeritabaniAc(yol, bildirim)) return 0;
   for (bool var = depo.sicil.IlkKayit(); var; var = depo.sicil.SonrakiKayit()) (void)depo.sicil.AlanOku("adi");
-  (void)depo.SicilBul("7");
+  depo.db.Koru(false, [&] { return Tablo<Sicil>(depo.db.IcMotor()).Bul(std::string("7")).has_value(); });
   depo.brd.KayitEkle();
   depo.brd.AlanYaz("kod", std::string("7"));
   depo.brd.KayitYaz();
