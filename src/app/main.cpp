@@ -5,7 +5,7 @@
 #include "app/program.h"
 
 int main(int argc, char** argv) {
-  belvani::Uygulama uygulama(argc, argv);
+  belvani::MasaustuUygulamasi uygulama(argc, argv);
   // Numbers in files are written with a point whatever the computer's locale says.
   std::setlocale(LC_NUMERIC, "C");
   return belvani::ProgramiYurut(uygulama);

@@ -64,7 +64,7 @@ class Program : ProgramParcalari<BildirimKutusu, SistemDialoglari> {
 
 }  // namespace
 
-bool Uygulama::notify(QObject* alici, QEvent* olay) {
+bool MasaustuUygulamasi::notify(QObject* alici, QEvent* olay) {
   try {
     return QApplication::notify(alici, olay);
   } catch (const std::exception& hata) {
@@ -74,7 +74,7 @@ bool Uygulama::notify(QObject* alici, QEvent* olay) {
   }
 }
 
-int ProgramiYurut(Uygulama& uygulama) {
+int ProgramiYurut(MasaustuUygulamasi& uygulama) {
   QApplication::setApplicationName(QStringLiteral("belvani"));
   QApplication::setApplicationDisplayName(QStringLiteral("Belvani"));
   QApplication::setQuitOnLastWindowClosed(false);

@@ -6,13 +6,13 @@
 namespace belvani {
 
 // A failure that nobody has caught is told, and the program goes on.
-class Uygulama : public QApplication {
+class MasaustuUygulamasi : public QApplication {
  public:
   using QApplication::QApplication;
   bool notify(QObject* alici, QEvent* olay) override;
 };
 
 // Returns the exit status of the process.
-int ProgramiYurut(Uygulama& uygulama);
+int ProgramiYurut(MasaustuUygulamasi& uygulama);
 
 }  // namespace belvani

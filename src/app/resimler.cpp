@@ -191,7 +191,7 @@ int main(int argc, char** argv) {
   qputenv("BELVANI_KULLANICI_DIZIN", ayarlar.path().toUtf8());
   qputenv("BELVANI_MAKINE_AYAR", (ayarlar.path() + "/makine.ini").toUtf8());
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  belvani::Uygulama uygulama(argc, argv);
+  belvani::MasaustuUygulamasi uygulama(argc, argv);
   std::setlocale(LC_NUMERIC, "C");
   const QStringList arg = QCoreApplication::arguments();
   if (arg.size() < 6) {

@@ -304,6 +304,10 @@ std::string BordroGirisi::CalismaSatiri() const {
   return hal_ == Hal::KisiYok ? "" : "Personel " + std::to_string(g_.CalismaGun) + " Gün Çalışmış..";
 }
 
+std::string BordroGirisi::KagittakiTutar(std::string_view alan) const {
+  return hal_ == Hal::KisiYok || kusur_ ? std::string() : belvani::KagittakiTutar(kosullar_, sonuc_, alan);
+}
+
 std::string BordroGirisi::KisiUyarisi() const {
   if (hal_ == Hal::KisiYok) return "";
   std::string metin = OranFarki(kosullar_, kisi_.sicil, g_.giris);

@@ -190,6 +190,8 @@ class BordroGirisi {
   const Kosullar& Kosul() const { return kosullar_; }
   std::string Baslik() const;         // "Işıl Çağlar ( SSK No:34-1)"
   std::string CalismaSatiri() const;  // "Personel 30 Gün Çalışmış.."
+  // What a paper says of an amount of the screen instead; "" where they agree, or nobody is calculated.
+  std::string KagittakiTutar(std::string_view alan) const;
   // What the user should know of the person and his rates; "" when there is nothing.
   std::string KisiUyarisi() const;
   const std::optional<CalismaUyarisi>& CalismaPaneli() const { return uyari_; }

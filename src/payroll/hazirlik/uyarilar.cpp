@@ -2,6 +2,7 @@
 
 #include "core/sayi.h"
 #include "core/turkce.h"
+#include "payroll/hesap/damga.h"
 #include "payroll/hesap/kayittoplami.h"
 #include "payroll/hesap/satirlar.h"
 #include "payroll/hesap/ucret.h"
@@ -33,6 +34,19 @@ std::string OranFarki(const Kosullar& k, const Sicil& sicil, const Brd& giris) {
     if (giris.*kolon.uye != tablo.*kolon.uye)
       farklar += (farklar.empty() ? "" : ", ") + std::string(ad) + " " + SayiMetni((tablo.*kolon.uye).Sayi());
   return farklar.empty() ? "" : "Kayıttaki oranlar kullanılıyor; tablodakiler: " + farklar;
+}
+
+std::string KagittakiTutar(const Kosullar& k, const BordroSonucu& sonuc, std::string_view alan) {
+  const Tutar agiDamgasi = DamgaVergisi(sonuc.brd.ogv, k.yasal.oranlar.DamgaOran, Yuvarlayici(k.paraonda));
+  if (agiDamgasi == Tutar()) return {};
+  const auto para = [&](Tutar tutar) { return TutarMetni(tutar, k.paraonda); };
+  if (alan == "net")
+    return "Bordro basımında net " + para(sonuc.NetOdenen - agiDamgasi) + ": A.G.İ.'nin damga vergisi " +
+           para(agiDamgasi) + " orada kesintilere eklenir.";
+  if (alan == brd::dvtutar.ad || alan == toplam::vergiler.ad)
+    return "Bordro basımında damga vergisi " + para(sonuc.brd.dvtutar + agiDamgasi) + ": A.G.İ.'ninki " +
+           para(agiDamgasi) + " eklenir; bordro özeti yalnız " + para(sonuc.brd.dvtutar) + " toplar.";
+  return {};
 }
 
 std::string NetsizNedeni(const BordroGirdi& girdi, const BordroSonucu& sonuc) {

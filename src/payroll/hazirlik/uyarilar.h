@@ -16,6 +16,10 @@ Kusurlar TanimUyarilari(const Kosullar& kosullar, const Sicil& sicil);
 // "Kayıttaki oranlar kullanılıyor; tablodakiler: SSK İşçi % 14"; "" where they agree.
 std::string OranFarki(const Kosullar& kosullar, const Sicil& sicil, const Brd& giris);
 
+// What a paper says of the amount instead, by rule: the ledger takes the duty of the allowance out of the allowance.
+// `alan`: stored name of the amount, or the screen's net or sum of taxes. "" where they agree.
+std::string KagittakiTutar(const Kosullar& kosullar, const BordroSonucu& sonuc, std::string_view alan);
+
 // Why the net is not above zero: no wage, no days, nothing that enters the gross, or deductions above it.
 std::string NetsizNedeni(const BordroGirdi& girdi, const BordroSonucu& sonuc);
 

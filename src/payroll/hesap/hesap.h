@@ -31,6 +31,7 @@ class Hesap {
   void DigerIndirimler();
   void Vergiler();
   void IsverenTarafi();
+  void VergiDilimleriniIzle();
   void AsgariGecimIndirimi();
   void SendikaVeCirak();
   void NetOdenen();

@@ -4,6 +4,18 @@
 #include "payroll/hesap/muafiyet.h"
 
 namespace belvani {
+namespace {
+
+// In the trace: the bases that a line's flags let it into.
+std::string MatrahAdlari(std::uint8_t bayraklar) {
+  std::string adlar;
+  for (const auto& [bit, ad] :
+       {std::pair{bayrak::Ssk, "SSK"}, std::pair{bayrak::Gv, "gelir vergisi"}, std::pair{bayrak::Dv, "damga vergisi"}})
+    if ((bayraklar & bit) != 0) adlar += (adlar.empty() ? "" : ", ") + std::string(ad);
+  return adlar.empty() ? "hiçbiri" : adlar;
+}
+
+}  // namespace
 
 template <class I>
 void Hesap<I>::Ucret() {
@@ -37,12 +49,10 @@ void Hesap<I>::GunSatirlari() {
     MatrahlaraEkle(g_.bayraklar.k[i], gun * gunlukUcret_);
     if (gun != 0)
       izle_([&] {
-        return IzAdimi(GunKolonlari[i].ad,
-                       std::string(KazancAdlari[i]) +
-                           " = gün × günlük ücret; bayrakların gösterdiği "
-                           "matrahlara girer (2 SSK, 4 gelir vergisi, 8 damga)",
-                       {{"Gün", gun}, {"Günlük ücret", gunlukUcret_}, {"Bayraklar", int(g_.bayraklar.k[i])}},
-                       gun * gunlukUcret_);
+        return IzAdimi(
+            GunKolonlari[i].ad, std::string(KazancAdlari[i]) + " = gün × günlük ücret",
+            {{"Gün", gun}, {"Günlük ücret", gunlukUcret_}, {"Girdiği matrahlar", MatrahAdlari(g_.bayraklar.k[i])}},
+            gun * gunlukUcret_);
       });
   }
   k_.brutkaz = yuvarla_(k_.sskmatrah);
@@ -94,7 +104,7 @@ void Hesap<I>::MesaiSatirlari() {
                        {{"Saat", saat},
                         {"Çarpan", carpan},
                         {"Saatlik ücret", saatlikUcret_},
-                        {"Bayraklar", int(g_.bayraklar.k[GunSatiriSayisi + i])}},
+                        {"Girdiği matrahlar", MatrahAdlari(g_.bayraklar.k[GunSatiriSayisi + i])}},
                        yuvarla_(deger));
       });
   }
@@ -129,11 +139,8 @@ void Hesap<I>::Yardimlar() {
     k_.brutkaz += tutar;
     if (tutar != Tutar())
       izle_([&] {
-        return IzAdimi(YardimKolonlari[i].ad,
-                       tanim.adi +
-                           ": yardımlara ve brüte eklenir; bayrakların gösterdiği "
-                           "matrahlara girer",
-                       {{"Bayraklar", int(bayraklar)}}, tutar);
+        return IzAdimi(YardimKolonlari[i].ad, tanim.adi + ": yardımlara ve brüte eklenir",
+                       {{"Girdiği matrahlar", MatrahAdlari(bayraklar)}}, tutar);
       });
   }
   izle_([&] { return IzAdimi("topyardim", "Yardımların toplamı", {}, k_.topyardim); });

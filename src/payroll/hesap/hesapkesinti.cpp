@@ -86,11 +86,26 @@ void Hesap<I>::DigerIndirimler() {
   }
 }
 
+// Each bracket that the month reaches, before the tax itself.
+template <class I>
+void Hesap<I>::VergiDilimleriniIzle() {
+  if constexpr (std::is_same_v<I, Izli>) {
+    for (const DilimMatrahi& d : DilimMatrahlari(g_.yasal->gv, k_.devgvmatrah, kalanMatrah_))
+      izle_([&] {
+        return IzAdimi(
+            "gvtutar", "Vergi dilimi: bu aydan dilime düşen matrah × oran / 100",
+            {{"Dilimin altı", d.alt}, {"Dilimin üstü", d.ust}, {"Dilime düşen", d.matrah}, {"Oran %", d.oran}},
+            Tutar(Yuzde(d.matrah.Sayi(), d.oran.Sayi())));
+      });
+  }
+}
+
 template <class I>
 void Hesap<I>::Vergiler() {
   if (kalanMatrah_ > Tutar())
     k_.gvtutar = SifirdanAzOlmaz(yuvarla_(GvHesapla(g_.yasal->gv, k_.devgvmatrah, kalanMatrah_)));
   k_.dvtutar = DamgaVergisi(k_.dvmatrah, k_.damgaveror, yuvarla_);
+  VergiDilimleriniIzle();
   izle_([&] {
     return IzAdimi("gvtutar", "Gelir vergisi = devreden matrah + kalan matrahın vergisi − devreden matrahın vergisi",
                    {{"Devreden matrah", k_.devgvmatrah}, {"Kalan matrah (indirimlerden sonra)", kalanMatrah_}},

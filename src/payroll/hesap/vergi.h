@@ -5,6 +5,8 @@
 //          -> 1,000 × 15 % + 1,000 × 20 % = 350.
 #pragma once
 
+#include <vector>
+
 #include "payroll/parametre/parametreler.h"
 
 namespace belvani {
@@ -16,5 +18,12 @@ Tutar VergiBul(const GvTablosu& tablo, Tutar matrah);
 
 // The tax on `matrah` when `devmatrah` has been earned earlier in the year. The caller money-rounds.
 Tutar GvHesapla(const GvTablosu& tablo, Tutar devmatrah, Tutar matrah);
+
+// What of a base lies in each bracket, as VergiBul taxes it; for the trace.
+struct DilimMatrahi {
+  Tutar alt, ust, matrah;
+  Tek oran;
+};
+std::vector<DilimMatrahi> DilimMatrahlari(const GvTablosu& tablo, Tutar devmatrah, Tutar matrah);
 
 }  // namespace belvani

@@ -108,7 +108,7 @@ void brdhazir::KodAlaniYap(QHBoxLayout* satir) {
 void brdhazir::GovdeYap() {
   SikDiz();
   auto* orta = new QHBoxLayout;
-  orta->setSpacing(10);
+  orta->setSpacing(5);  // all four columns stand in a window of 1280
   const auto sutun = [&](const std::vector<AlanGrubu>& gruplar) {
     auto* dikey = new QVBoxLayout;
     for (const AlanGrubu& grup : gruplar) dikey->addWidget(GrupYap(grup));
@@ -150,6 +150,8 @@ void brdhazir::TuslariBagla() {
             {.tus = Qt::Key_F9, .ipucu = "Netten Brüte", .islev = [this] { NettenBrute(); }, .gecerli = yardimda},
             {.tus = Qt::CTRL | Qt::Key_B, .ipucu = "Borç", .islev = [this] { BorcSor(); }, .gecerli = girisSatirinda},
             {.tus = Qt::Key_F4, .ipucu = "Neden?", .islev = [this] { SonuclaraGit(); }},
+            {.tus = Qt::CTRL | Qt::Key_Down, .islev = [this] { neden_->Kaydir(2); }},
+            {.tus = Qt::CTRL | Qt::Key_Up, .islev = [this] { neden_->Kaydir(-2); }},
             {.tus = Qt::Key_F6, .ipucu = "Ay", .islev = [this] { ay_->setFocus(); }},
             {.tus = Qt::CTRL | Qt::Key_F6, .ipucu = "Ayın Parametreleri", .islev = [this] { ParametreleriGetir(); }},
             {.tus = Qt::Key_F8, .ipucu = "Puantaj", .islev = [this] { PuantajaGit(); }}});
@@ -287,7 +289,8 @@ void brdhazir::AlanaGirildi(AlanDenetimi* yeni) {
   if (eski != nullptr) GirisiOku();
   giris_.AlanaGirildi(SimdikiAlan());
   IpucuYaz();
-  neden_->Goster(giris_.HesapIzi(), yeni->Satir().tanim.ad, Yazi(yeni->Satir().etiket));
+  const std::string_view ad = yeni->Satir().tanim.ad;
+  neden_->Goster(giris_.HesapIzi(), ad, Yazi(yeni->Satir().etiket), Yazi(giris_.KagittakiTutar(ad)));
   if (SimdikiAlan() == BordroAlani::Kod && eski != nullptr) KodaGirildi();
 }
 

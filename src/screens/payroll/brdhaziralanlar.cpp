@@ -6,13 +6,13 @@
 namespace belvani {
 namespace {
 
-constexpr int TutarHarfi = 11;
+constexpr int TutarHarfi = 11, SonucHarfi = 10;
 
 // An amount of the calculated record: shown, not typed.
 template <class U>
 Alan Sonucta(Kolon<Brd, U> kolon, const char* etiket, AlanEki ek = {}) {
   ek.kapali = true;
-  if (ek.harf == 0) ek.harf = TutarHarfi;
+  if (ek.harf == 0) ek.harf = SonucHarfi;
   return Alan(
       kolon, typeid(BordroSonucu),
       [uye = kolon.uye](const void* s) { return UyeDegeri(static_cast<const BordroSonucu*>(s)->brd.*uye); },
@@ -25,7 +25,7 @@ Alan Oranda(std::size_t sira) {
 }
 
 Alan Toplamda(Kolon<EkranToplamlari, Tutar> kolon, const char* etiket) {
-  return {kolon, etiket, {.harf = TutarHarfi, .kapali = true}};
+  return {kolon, etiket, {.harf = SonucHarfi, .kapali = true}};
 }
 Alan Toplamda(const KayitToplami& toplam, Tutar EkranToplamlari::*uye) {
   return Toplamda(Uye(toplam.ad, uye), toplam.etiket);

@@ -12,8 +12,10 @@ class NedenPaneli : public QTextBrowser {
   explicit NedenPaneli(QWidget* ust);
 
   // `alan`: stored name of the amount, or one of the screen's sums ("net", "vergiler"). `etiket`: what the screen
-  // calls it.
-  void Goster(const Iz& iz, std::string_view alan, const QString& etiket);
+  // calls it. `ek`: what else there is to say of it, where another place shows another figure by rule.
+  void Goster(const Iz& iz, std::string_view alan, const QString& etiket, const QString& ek = {});
+  // By so many lines, downwards above zero: the panel itself takes no keyboard.
+  void Kaydir(int satir);
   void Bosalt();
 };
 

@@ -1,5 +1,8 @@
 #include "screens/payroll/brdhazir.h"
 
+#include <QScrollBar>
+#include <QTextBrowser>
+
 #include "core/store/satirlar.h"
 #include "ekran/ortam.h"
 #include "payroll/hazirlik/tanimlar.h"
@@ -119,7 +122,18 @@ TEST(Brdhazir, DebtGrossedUpAllowanceAndReasonsOfAmounts) {
   o.Bas(Qt::Key_F4);
   const auto* neden = form.findChild<QTextBrowser*>();
   EXPECT_TRUE(neden->toPlainText().contains("Net = brüt")) << neden->toPlainText().toStdString();
-  EXPECT_TRUE(neden->toPlainText().contains(YaziBul(form, "net").text().remove(',')));
+  EXPECT_TRUE(neden->toPlainText().contains(YaziBul(form, "net").text()));
+  EXPECT_TRUE(neden->toPlainText().contains("A.G.İ.'nin damga vergisi 0.")) << "and what the papers say instead";
+  AlanBul(form, "gvtutar").Odak()->setFocus();
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(neden->toPlainText().contains("Dilimin üstü 8,700.00")) << neden->toPlainText().toStdString();
+  AlanBul(form, "brut").Odak()->setFocus();
+  QCoreApplication::processEvents();
+  for (const char* addend : {"Normal Gün", "Hafta Tatili", "Prim/İkramiye", "SSK, gelir vergisi, damga vergisi"})
+    EXPECT_TRUE(neden->toPlainText().contains(addend)) << addend;
+  const int once = neden->verticalScrollBar()->value();
+  o.Bas(Qt::Key_Down, Qt::ControlModifier);
+  EXPECT_GT(neden->verticalScrollBar()->value(), once) << "the rest is read by keys";
   o.Bas(Qt::Key_F4);
   EXPECT_EQ(o.Odak(), "kod");
   ASSERT_EQ(o.Kayitlar().size(), 1u) << "what was entered before the walk over the results is saved";
