@@ -7,15 +7,12 @@
 #include <algorithm>
 
 #include "ui/metin.h"
+#include "ui/tus.h"
 #include "ui/xgrid.h"
 #include "ui/xgridarama.h"
 
 namespace belvani {
 namespace {
-
-bool EnterMi(const QKeyEvent& olay) {
-  return olay.key() == Qt::Key_Return || olay.key() == Qt::Key_Enter;
-}
 
 bool CtrlIle(const QKeyEvent& olay, Qt::Key tus, Qt::KeyboardModifiers ek = Qt::NoModifier) {
   return olay.key() == tus && (olay.modifiers() & ~Qt::KeypadModifier) == (Qt::ControlModifier | ek);

@@ -35,4 +35,9 @@ inline BordroAlani BordroAlaniBul(const Alan& alan) {
   return BordroAlani(alan.ek.no);
 }
 
+// Walked through with F4: what the calculation gives, and the rates it has used.
+inline bool SonucAlani(const Alan& alan) {
+  return alan.ek.kapali || OranMi(BordroAlaniBul(alan));
+}
+
 }  // namespace belvani
