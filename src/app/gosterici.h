@@ -1,9 +1,8 @@
 // The place where screens appear, for a context that is made before its main window.
 #pragma once
 
-#include <QApplication>
-
 #include "app/anamenu.h"
+#include "ui/ondeki.h"
 #include "ui/sistembaskisi.h"
 
 namespace belvani {
@@ -14,7 +13,7 @@ struct AnaPencereGosterici final : FormGosterici {
   void SerbestGoster(std::unique_ptr<Form> form) override {
     if (pencere != nullptr) pencere->SerbestGoster(std::move(form));
   }
-  QWidget* ModalUst() override { return pencere != nullptr ? pencere : QApplication::activeWindow(); }
+  QWidget* ModalUst() override { return pencere != nullptr ? pencere : OndekiPencere(); }
   void KisiyeGit(const std::string& kod, AlanTutamagi alan) override {
     if (pencere != nullptr) pencere->KisiyeGit(kod, alan);
   }

@@ -19,6 +19,7 @@
 #include "documents/belgeler.h"
 #include "ui/dclistmodel.h"
 #include "ui/metin.h"
+#include "ui/ondeki.h"
 
 namespace belvani {
 namespace {
@@ -232,8 +233,7 @@ bool yardim::eventFilter(QObject* nesne, QEvent* olay) {
 
 yardim& YardimGoster(const QString& kelime) {
   static QPointer<yardim> acik;
-  QWidget* kutu = QApplication::activeModalWidget();
-  QWidget* ust = kutu != nullptr ? kutu : QApplication::activeWindow();
+  QWidget* ust = OndekiPencere();
   if (ust == acik) ust = ust == nullptr ? nullptr : ust->parentWidget();
   // A window that does not belong to the dialog in front would get no keys.
   const bool kapaniyor = acik != nullptr && !acik->isVisible();

@@ -5,9 +5,11 @@
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 #include "ui/metin.h"
+#include "ui/ondeki.h"
 #include "ui/renk.h"
 
 namespace belvani {
@@ -29,13 +31,23 @@ class OlaganImlec {
   const bool mesgul_;
 };
 
+// A window that goes while its message stands takes the box along, so nothing here owns it by value.
+using Kutu = QPointer<QMessageBox>;
+
+Kutu KutuYap(QMessageBox::Icon simge, std::string_view metin, QMessageBox::StandardButtons dugmeler) {
+  auto* kutu = new QMessageBox(simge, QStringLiteral("Belvani"), Yazi(metin), dugmeler, OndekiPencere());
+  kutu->setTextFormat(Qt::PlainText);
+  return kutu;
+}
+
 int Goster(QMessageBox::Icon simge, std::string_view metin, QMessageBox::StandardButtons dugmeler,
            QMessageBox::StandardButton varsayilan = QMessageBox::NoButton) {
-  QMessageBox kutu(simge, QStringLiteral("Belvani"), Yazi(metin), dugmeler, QApplication::activeWindow());
-  kutu.setTextFormat(Qt::PlainText);
-  kutu.setDefaultButton(varsayilan);
+  const Kutu kutu = KutuYap(simge, metin, dugmeler);
+  kutu->setDefaultButton(varsayilan);
   const OlaganImlec imlec;
-  return kutu.exec();
+  const int secilen = kutu->exec();
+  delete kutu;
+  return secilen;
 }
 
 // "Resim Dosyası(*.bmp,*.jpg)|*.bmp;*.jpg" as the file dialog wants it.
@@ -78,42 +90,44 @@ bool BildirimKutusu::TehlikeliSoru(std::string_view metin, SoruDugmeleri dugmele
 
 // An Enter or Esc in haste changes nothing.
 YazilanKarari BildirimKutusu::YazilanSorusu(std::string_view metin) {
-  QMessageBox kutu(QMessageBox::Question, QStringLiteral("Belvani"), Yazi(metin), QMessageBox::NoButton,
-                   QApplication::activeWindow());
-  kutu.setTextFormat(Qt::PlainText);
-  const auto* kaydet = kutu.addButton(QStringLiteral("&Kaydet"), QMessageBox::AcceptRole);
-  const auto* birak = kutu.addButton(QStringLiteral("Kaydet&me"), QMessageBox::DestructiveRole);
-  QPushButton* kal = kutu.addButton(QStringLiteral("&Ekranda Kal"), QMessageBox::RejectRole);
-  kutu.setDefaultButton(kal);
-  kutu.setEscapeButton(kal);
+  const Kutu kutu = KutuYap(QMessageBox::Question, metin, QMessageBox::NoButton);
+  const auto* kaydet = kutu->addButton(QStringLiteral("&Kaydet"), QMessageBox::AcceptRole);
+  const auto* birak = kutu->addButton(QStringLiteral("Kaydet&me"), QMessageBox::DestructiveRole);
+  QPushButton* kal = kutu->addButton(QStringLiteral("&Ekranda Kal"), QMessageBox::RejectRole);
+  kutu->setDefaultButton(kal);
+  kutu->setEscapeButton(kal);
   const OlaganImlec imlec;
-  kutu.exec();
-  if (kutu.clickedButton() == kaydet) return YazilanKarari::Kaydet;
-  return kutu.clickedButton() == birak ? YazilanKarari::Birak : YazilanKarari::Kal;
+  kutu->exec();
+  const QAbstractButton* secilen = kutu == nullptr ? kal : kutu->clickedButton();
+  const auto karar = secilen == kaydet  ? YazilanKarari::Kaydet
+                     : secilen == birak ? YazilanKarari::Birak
+                                        : YazilanKarari::Kal;
+  delete kutu;
+  return karar;
 }
 
 std::optional<std::string> SistemDialoglari::DosyaAc(const std::string& baslik, const std::string& dizin,
                                                      const std::string& filtre) {
-  return Secilen(QFileDialog::getOpenFileName(QApplication::activeWindow(), Yazi(baslik), Yazi(dizin), Suzgec(filtre)));
+  return Secilen(QFileDialog::getOpenFileName(OndekiPencere(), Yazi(baslik), Yazi(dizin), Suzgec(filtre)));
 }
 
 std::optional<std::string> SistemDialoglari::DosyaKaydet(const std::string& baslik, const std::string& dizin,
                                                          const std::string& filtre) {
-  return Secilen(QFileDialog::getSaveFileName(QApplication::activeWindow(), Yazi(baslik), Yazi(dizin), Suzgec(filtre)));
+  return Secilen(QFileDialog::getSaveFileName(OndekiPencere(), Yazi(baslik), Yazi(dizin), Suzgec(filtre)));
 }
 
 std::optional<std::string> SistemDialoglari::DizinSec(const std::string& baslik, const std::string& dizin) {
-  return Secilen(QFileDialog::getExistingDirectory(QApplication::activeWindow(), Yazi(baslik), Yazi(dizin)));
+  return Secilen(QFileDialog::getExistingDirectory(OndekiPencere(), Yazi(baslik), Yazi(dizin)));
 }
 
 std::optional<std::uint32_t> SistemDialoglari::RenkSec(std::uint32_t renk) {
-  const QColor secilen = QColorDialog::getColor(RenkYap(renk), QApplication::activeWindow());
+  const QColor secilen = QColorDialog::getColor(RenkYap(renk), OndekiPencere());
   return secilen.isValid() ? std::optional(RenkSayisi(secilen)) : std::nullopt;
 }
 
 std::optional<QFont> SistemDialoglari::FontSec(const QFont& font) {
   bool tamam = false;
-  const QFont secilen = QFontDialog::getFont(&tamam, font, QApplication::activeWindow());
+  const QFont secilen = QFontDialog::getFont(&tamam, font, OndekiPencere());
   return tamam ? std::optional(secilen) : std::nullopt;
 }
 

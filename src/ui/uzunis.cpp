@@ -14,6 +14,7 @@
 #include "core/asama.h"
 #include "ui/ilerlemekarti.h"
 #include "ui/metin.h"
+#include "ui/ondeki.h"
 
 namespace belvani {
 namespace {
@@ -209,17 +210,16 @@ class Nobet final : public QObject, public Ilerleme {
   bool basili_ = false;
 };
 
-QWidget* OndekiPencere(EkranBaglami& baglam) {
-  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  if (QWidget* pencere = QApplication::activeWindow()) return pencere;
-  return baglam.gosterici.ModalUst();
+QWidget* IsinPenceresi(EkranBaglami& baglam) {
+  QWidget* pencere = OndekiPencere();
+  return pencere != nullptr ? pencere : baglam.gosterici.ModalUst();
 }
 
 }  // namespace
 
 bool uzunis::Yurut(EkranBaglami& baglam, const QString& ad, const std::function<void(Ilerleme&)>& is) {
   if (Nobet::Var()) return false;
-  Nobet nobet(ad, OndekiPencere(baglam));
+  Nobet nobet(ad, IsinPenceresi(baglam));
   try {
     is(nobet);
   } catch (const Vazgecilmis&) {

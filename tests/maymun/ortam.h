@@ -82,6 +82,7 @@ struct MaymunOrtami {
   void PencereAc() {
     parametreler.YasalYukle(oturum.DataPath);
     static_cast<void>(parametreler.firma.Yukle());
+    SablonYukle(oturum.FirmaDizini);  // the payroll screen writes the built-in one when it is opened for the first time
     pencere = std::make_unique<anamenu>(baglam, parametreler);
     gosterici.pencere = pencere.get();
     QObject::connect(pencere.get(), &anamenu::Kapandi, pencere.get(), [this] { kapandi = true; });
