@@ -66,8 +66,7 @@ anamenu::anamenu(EkranBaglami& ekran, ParametreDeposu& parametreler)
 
 anamenu::~anamenu() {
   parametreler_.firma.Degisti = [] {};
-  ekran_.oturum.YazilanSorulsun = false;  // nobody is there to be asked any more
-  EkranlariKapat();
+  qDeleteAll(alan_->subWindowList());  // nobody is there to be asked any more
 }
 
 // What this computer shows for the company.

@@ -300,9 +300,12 @@ void dclist::focusOutEvent(QFocusEvent* olay) {
   QTableView::focusOutEvent(olay);
   const QWidget* yeni = QApplication::focusWidget();
   const bool iceride = yeni != nullptr && isAncestorOf(yeni);
-  if (iceride || state() == EditingState || olay->reason() == Qt::PopupFocusReason) return;
+  // A window that comes up in front (a drop-down list, a message, another program) is no leaving, and no time to ask:
+  // it may be gone before it is answered.
+  const bool pencere = olay->reason() == Qt::ActiveWindowFocusReason || olay->reason() == Qt::PopupFocusReason;
+  if (iceride || state() == EditingState || pencere) return;
   OkUpdateData();
-  if (bosSatir_.isValid() && olay->reason() != Qt::ActiveWindowFocusReason) BosSatiriBirak();
+  if (bosSatir_.isValid()) BosSatiriBirak();
 }
 
 void dclist::currentChanged(const QModelIndex& simdiki, const QModelIndex& onceki) {

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QToolButton>
 #include <filesystem>
+#include <map>
 #include <string>
 
 #include "maymun/hamleler.h"
@@ -31,23 +32,26 @@ inline bool MesgulMu() {
 class Denetci {
  public:
   // `veri`: the data path.
-  explicit Denetci(std::string veri) : veri_(std::move(veri)) { YazildiMi(); }
+  explicit Denetci(std::string veri) : veri_(std::move(veri)) { Degisen(); }
 
-  // Has a store or a parameter file changed since the last call? SQLite's shared memory changes by reading too, an
-  // empty journal comes and goes with the connections, and what is chosen on a screen is kept in an .ini when that
-  // goes.
-  bool YazildiMi() {
-    std::size_t ozet = 0;
+  // The store or parameter file that has changed since the last call; empty: none. SQLite's shared memory changes by
+  // reading too, an empty journal comes and goes with the connections, and what is chosen on a screen is kept in an
+  // .ini when that goes.
+  std::string Degisen() {
+    std::map<std::string, std::pair<std::uintmax_t, std::filesystem::file_time_type>> simdi;
     std::error_code hata;
     for (const auto& dosya : std::filesystem::recursive_directory_iterator(veri_, hata)) {
       const std::string yol = dosya.path();
       const bool bos = dosya.is_directory(hata) || dosya.file_size(hata) == 0;
       if (bos || yol.ends_with("-shm") || yol.ends_with(".ini")) continue;
-      const auto zaman = dosya.last_write_time(hata).time_since_epoch().count();
-      // A sum: the directory lists its files in any order.
-      ozet += std::hash<std::string>()(yol + ' ' + std::to_string(dosya.file_size(hata)) + ' ' + std::to_string(zaman));
+      simdi[yol] = {dosya.file_size(hata), dosya.last_write_time(hata)};
     }
-    return std::exchange(ozet_, ozet) != ozet;
+    const auto onceki = std::exchange(dosyalar_, std::move(simdi));
+    for (const auto& [yol, hal] : dosyalar_)
+      if (const auto o = onceki.find(yol); o == onceki.end() || o->second != hal) return yol;
+    for (const auto& [yol, hal] : onceki)
+      if (!dosyalar_.contains(yol)) return yol;
+    return {};
   }
 
   // The key that comes next may change a record.
@@ -56,7 +60,7 @@ class Denetci {
     if (yazma == Yazma::Yazar || kutuda || QApplication::activePopupWidget() != nullptr) return true;
     const QWidget* odak = QApplication::focusWidget();
     const bool dugme = qobject_cast<const QPushButton*>(odak) != nullptr || qobject_cast<const QToolButton*>(odak);
-    return (yazma == Yazma::Dugmede && dugme) || DegismisSatirVar();
+    return (yazma == Yazma::Dugmede && dugme) || DegismisSatirVar() || GirisAlaninda(odak);
   }
 
   // Empty: all is well.
@@ -99,6 +103,13 @@ class Denetci {
     return {};
   }
 
+  // The month's entry of a person is closed and saved when the keyboard goes back to his code, by whatever key.
+  static bool GirisAlaninda(const QWidget* odak) {
+    for (const QWidget* parca = odak; parca != nullptr; parca = parca->parentWidget())
+      if (parca->objectName() == "brdhazir") return odak->objectName() != "kod";
+    return false;
+  }
+
   // A list saves such a row as soon as it is left.
   static bool DegismisSatirVar() {
     for (const QWidget* ust : QApplication::topLevelWidgets())
@@ -112,7 +123,7 @@ class Denetci {
   }
 
   std::string veri_;
-  std::size_t ozet_ = 0;
+  std::map<std::string, std::pair<std::uintmax_t, std::filesystem::file_time_type>> dosyalar_;
 };
 
 }  // namespace belvani::test

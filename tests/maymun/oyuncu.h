@@ -153,7 +153,8 @@ inline void Oyuncu::Tik() {
 
 inline void Oyuncu::Yap(const Hamle& hamle) {
   gunluk_.Yaz(Durum() + ": " + hamle.ad);
-  const bool yazabilir = Denetci::YazabilirMi(hamle.yazma);
+  // What is pressed while slow work runs is dropped; that work saves when it will.
+  const bool yazabilir = MesgulMu() || Denetci::YazabilirMi(hamle.yazma);
   if (yazabilir)  // what waits below goes on when this window is left
     for (Cerceve& c : cerceveler_) c.yazabilir = true;
   cerceveler_.push_back({hamle.ad, yazabilir});
@@ -164,7 +165,8 @@ inline void Oyuncu::Yap(const Hamle& hamle) {
 }
 
 inline void Oyuncu::YazmayiDenetle(const std::string& hamle, bool yazabilir) {
-  if (denetci_.YazildiMi() && !yazabilir) Dur(hamle + " has changed the data, and is no key that saves");
+  const std::string dosya = denetci_.Degisen();
+  if (!dosya.empty() && !yazabilir) Dur(hamle + " has changed " + dosya + ", and is no key that saves");
 }
 
 // Nothing can be trusted any more after a fault.

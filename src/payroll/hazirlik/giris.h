@@ -92,6 +92,11 @@ enum class KapanisSonucu {
   OkumaHatasi,     // saved, but the next person could not be read
 };
 
+// Nobody is being entered any more, or nobody had begun to be.
+constexpr bool KapanisTamam(KapanisSonucu sonuc) {
+  return sonuc <= KapanisSonucu::Bitti;
+}
+
 // Where the focus goes after a reason for missing days was chosen.
 enum class SebepSonrasi { KodAlanina, UcretsizIzne };
 

@@ -69,6 +69,11 @@ void brdhazir::TuslariBagla() {
 void brdhazir::RehberAc() {
   const auto kod = PersonelSec(Baglam(), giris_.Kod());
   if (!kod) return;
+  // Whoever is being entered is closed first, as by going back to the code; the one that was picked comes next.
+  GirisiOku();
+  const KapanisSonucu sonuc = giris_.Kapat();
+  if (!KapanisTamam(sonuc)) return KapanisiGoster(sonuc);
+  Goster();
   YaziKutusu(bordroalani::kod).DegerKoy(*kod);
   KodaDon();
 }

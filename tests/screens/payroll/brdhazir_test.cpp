@@ -64,6 +64,26 @@ TEST(Brdhazir, AMonthIsTypedFromTheFirstPersonToTheLast) {
   EXPECT_EQ(o.Kayitlar().size(), 2u);
 }
 
+TEST(Brdhazir, APersonPickedInTheMiddleOfAnEntryComesNext) {
+  Bordro o;
+  auto& form = o.Ac<brdhazir>(o.parametreler);
+  o.Yaz("001\n");
+  o.Bas(Qt::Key_Tab);
+  const auto sec = [&](const char* kod) {
+    o.ModaldaYap([&o, kod] { o.Yaz((std::string(kod) + "\n").c_str()); });
+    o.Bas(Qt::Key_F2);
+  };
+  sec("003");
+  EXPECT_EQ(o.Kayitlar().size(), 1u) << "the one who was being entered is saved";
+  EXPECT_EQ(AlanMetni(form, "kod"), "003") << "and not whoever follows him";
+  o.Yaz("002\n");
+  o.Yaz("10\n");  // days are missing, without a reason
+  sec("001");
+  EXPECT_EQ(o.bildirim.Al().back(), "Bilgi: Eksik Gün Bildirildi\nEksik Gün Sebebini giriniz");
+  EXPECT_EQ(form.Giris().Kod(), "002") << "an entry that cannot close stays";
+  EXPECT_EQ(AlanMetni(form, "ng"), "10");
+}
+
 TEST(Brdhazir, MissingDaysNeedTheirReason) {
   Bordro o;
   auto& form = o.Ac<brdhazir>(o.parametreler);
