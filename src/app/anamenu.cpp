@@ -133,6 +133,8 @@ void anamenu::TuslariBagla() {
     connect(kisayol, &QShortcut::activated, this, islev);
   };
   bagla(QKeySequence(Qt::CTRL | Qt::Key_D), [this] { MasaustuneGit(); });
+  bagla(QKeySequence(Qt::CTRL | Qt::Key_PageUp), [this] { AyaGec(Yon::Onceki); });
+  bagla(QKeySequence(Qt::CTRL | Qt::Key_PageDown), [this] { AyaGec(Yon::Sonraki); });
   bagla(Qt::Key_F10, [this] { menuBar()->setActiveAction(menuBar()->actions().value(0)); });
   bagla(QKeySequence(Qt::CTRL | Qt::Key_Tab), [this] { alan_->activateNextSubWindow(); });
   bagla(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), [this] { alan_->activatePreviousSubWindow(); });
@@ -175,6 +177,12 @@ void anamenu::Islem(MenuIslemi islem) {
       firmaDegissin_ = true;
       close();
       break;
+    case MenuIslemi::OncekiAy:
+      AyaGec(Yon::Onceki);
+      break;
+    case MenuIslemi::SonrakiAy:
+      AyaGec(Yon::Sonraki);
+      break;
     case MenuIslemi::Cikis:
       close();
       break;
@@ -207,6 +215,20 @@ void anamenu::TehlikeSinifiniSor() {
   if (ekran_.bildirim.Soru("İşyeri tehlike sınıfı: " + std::to_string(int(o.firma.sinif.Sayi()) + 1) +
                            "\nEski sürümlerde firma kartı kaydedilirken değişmiş olabilir.\nKarta bakılsın mı ?"))
     KisiyeGit({}, firma::sinif);
+}
+
+// Everybody who works in the company works in this month from then on.
+void anamenu::AyaGec(Yon yon) {
+  const auto donem = parametreler_.firma.KomsuDonem(yon);
+  const auto metin = [](int ay, int yil) {
+    return (ay < 1 || ay > 12 ? std::string("?") : std::string(AyAdi(ay))) + " " + std::to_string(yil);
+  };
+  const Firma& kart = ekran_.oturum.firma;
+  if (!ekran_.bildirim.Soru("Şirket Dönemini Değiştirmeye Eminmisiniz ?\nŞimdiki Dönem: " +
+                            metin(kart.firmaay, kart.firmayil) + "\nGeçilecek Dönem: " + metin(donem.ay, donem.yil)))
+    return;
+  if (const Durum gecildi = parametreler_.firma.DonemKaydir(yon); !gecildi)
+    ekran_.bildirim.KusuruGoster(gecildi.Kusuru());
 }
 
 void anamenu::GorunumAc() {

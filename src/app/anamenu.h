@@ -34,6 +34,7 @@ class anamenu : public QMainWindow, public FormGosterici {
   void KisiyeGit(const std::string& kod, AlanTutamagi alan) override;
   // Asks once about a company whose class an older program may have changed (core/session/sinifbakimi.h).
   void TehlikeSinifiniSor();
+  void AyaGec(Yon yon);
 
   Form1& Masaustu() { return *masaustu_; }
   // Closes every screen, from the last to the first; false: one stays with what was typed into it.

@@ -19,7 +19,7 @@ void Koy(QLabel* etiket, const QString& metin, int enCokEn, Qt::TextElideMode ki
 DurumCubugu::DurumCubugu(QWidget* ust) : QStatusBar(ust) {
   setSizeGripEnabled(false);
   auto* tuslar = new QLabel(QStringLiteral("<b>F1</b>&nbsp;Yardım&nbsp;&nbsp; <b>F6</b>&nbsp;Masaüstü&nbsp;&nbsp; "
-                                           "<b>F10</b>&nbsp;Menü"),
+                                           "<b>F10</b>&nbsp;Menü&nbsp;&nbsp; <b>Ctrl+PgUp/PgDown</b>&nbsp;Ay"),
                             this);
   addWidget(tuslar);
   for (QLabel** etiket : {&firma_, &kullanici_, &donem_, &depo_}) {

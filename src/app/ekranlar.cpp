@@ -48,6 +48,8 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Firma", "Firma Bilgileri", "firbil", "firma", "", Yap<firbil>},
       {"Firma", "Aracı Bilgileri", "araci", "kisi", "", Yap<araci>},
       {"Firma", "Firma Değiştir", "firdegistir", "degistir", "", nullptr, MenuIslemi::FirmaDegistir},
+      {"Firma", "Önceki Ay", "oncekiay", "onceki", "", nullptr, MenuIslemi::OncekiAy},
+      {"Firma", "Sonraki Ay", "sonrakiay", "sonraki", "", nullptr, MenuIslemi::SonrakiAy},
       {"Firma", "Firma Listesi", "firlist", "liste", "", Yap<firlist>},
       {"Firma", "Firma Sil", "firsil", "sil", "", Yap<firsil>},
       {"Firma", "Çıkış", "cikis", "cikis", "", nullptr, MenuIslemi::Cikis},

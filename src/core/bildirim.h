@@ -20,6 +20,8 @@ class Bildirim {
   virtual void Bilgi(std::string_view metin) = 0;  // a broken rule, something done
   virtual void Uyari(std::string_view metin) = 0;  // a failed write, a risk
   virtual bool Soru(std::string_view metin) = 0;   // true: yes
+  // Something to be seen to before it can go on; true: it was.
+  virtual bool TamamMi(std::string_view metin) { return Soru(metin); }
 
   // Before something goes for good: `giden` names it on a line of its own, and a hasty Enter says no.
   bool SilinsinMi(std::string_view soru, std::string_view giden, SoruDugmeleri dugmeler = SoruDugmeleri::EvetHayir) {

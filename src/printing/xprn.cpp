@@ -66,7 +66,7 @@ void xprn::DosPrintPort(int no) {
 
 bool xprn::CheckDosPrint() {
   while ((portDurumu_ = ortam_.port.GetStatus(portNo_)) & port::KagitYok)
-    if (!ortam_.bildirim.Soru("Yazıcıda Kağıt Yok\nveya\nYazıcı Kapalı")) return false;
+    if (!ortam_.bildirim.TamamMi("Yazıcıda Kağıt Yok\nveya\nYazıcı Kapalı")) return false;
   if (portDurumu_ & port::Alindi) return true;
   ortam_.bildirim.Uyari("Printer Error\n Status : " + std::to_string(portDurumu_));
   return false;
@@ -77,7 +77,7 @@ bool xprn::BaytGonder(std::uint8_t bayt) {
     portDurumu_ = ortam_.port.DosPrint(portNo_, bayt);
     if (portDurumu_ & port::Alindi) return true;
     if (portDurumu_ & port::KagitYok) {
-      if (!ortam_.bildirim.Soru("Kağıt Yok")) return false;
+      if (!ortam_.bildirim.TamamMi("Kağıt Yok")) return false;
     } else if (portDurumu_ & port::Hata) {
       if (!ortam_.bildirim.Soru("Printer Error")) return false;
     }

@@ -81,6 +81,10 @@ bool BildirimKutusu::Soru(std::string_view metin) {
   return Goster(QMessageBox::Question, metin, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
+bool BildirimKutusu::TamamMi(std::string_view metin) {
+  return Goster(QMessageBox::Warning, metin, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok) == QMessageBox::Ok;
+}
+
 bool BildirimKutusu::TehlikeliSoru(std::string_view metin, SoruDugmeleri dugmeler) {
   const bool evetHayir = dugmeler == SoruDugmeleri::EvetHayir;
   const auto olur = evetHayir ? QMessageBox::Yes : QMessageBox::Ok;

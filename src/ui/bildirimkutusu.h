@@ -11,6 +11,7 @@ class BildirimKutusu final : public Bildirim {
   void Bilgi(std::string_view metin) override;
   void Uyari(std::string_view metin) override;
   bool Soru(std::string_view metin) override;
+  bool TamamMi(std::string_view metin) override;
   bool TehlikeliSoru(std::string_view metin, SoruDugmeleri dugmeler) override;
   YazilanKarari YazilanSorusu(std::string_view metin) override;
 };

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPointer>
 #include <map>
 
@@ -175,6 +176,27 @@ int dclist::FindByName(const QString& ad, const QString& metin, int ilk) {
     return satir;
   }
   return -1;
+}
+
+void dclist::TercihBoyu(int en, int boy) {
+  tercih_ = {en, boy};
+  updateGeometry();
+}
+
+// A few rows of a few columns.
+QSize dclist::minimumSizeHint() const {
+  if (tercih_.isEmpty()) return QTableView::minimumSizeHint();
+  const int satirlar = horizontalHeader()->sizeHint().height() + 4 * verticalHeader()->defaultSectionSize();
+  return tercih_.boundedTo({320, satirlar});
+}
+
+// A row that would be cut off at the bottom is left out; it comes with the next step down.
+void dclist::paintEvent(QPaintEvent* olay) {
+  QTableView::paintEvent(olay);
+  const int sira = rowAt(viewport()->height() - 1);
+  const int ust = sira < 0 ? 0 : rowViewportPosition(sira);
+  if (ust <= 0 || ust + rowHeight(sira) <= viewport()->height()) return;
+  QPainter(viewport()).fillRect(0, ust, viewport()->width(), viewport()->height() - ust, palette().base());
 }
 
 int dclist::CurSat() const {

@@ -37,6 +37,10 @@ class dclist : public QTableView {
   void SecenekKoy(const QString& ad, const QStringList& secenekler);  // choices of an "s" column
   void Gizle(const QString& ad);
   void GenisKolon(const QString& ad);  // takes the room that is left
+  // The size that it asks for where there is room; without, it scrolls in less.
+  void TercihBoyu(int en, int boy);
+  QSize sizeHint() const override { return tercih_.isEmpty() ? QTableView::sizeHint() : tercih_; }
+  QSize minimumSizeHint() const override;
   void Reset();
 
   int Add();
@@ -106,6 +110,7 @@ class dclist : public QTableView {
   void currentChanged(const QModelIndex& simdiki, const QModelIndex& onceki) override;
   void mouseDoubleClickEvent(QMouseEvent* olay) override;
   void changeEvent(QEvent* olay) override;
+  void paintEvent(QPaintEvent* olay) override;
 
  private:
   void YaziyaUydur();
@@ -121,6 +126,7 @@ class dclist : public QTableView {
   dclistModel* model_;
   std::map<std::pair<int, int>, QString> gelen_;  // of the cells typed into, by row and column: the text before
   QLineEdit* arama_ = nullptr;
+  QSize tercih_;
   Mod mod_ = Mod::Gezinme;
   QPersistentModelIndex bosSatir_;  // added, nothing typed into it yet
   bool duzenlenir_ = false;

@@ -11,6 +11,8 @@
 
 #include "core/turkce.h"
 #include "ui/dclist.h"
+#include "ui/ipucusatiri.h"
+#include "ui/kayangovde.h"
 #include "ui/listeciktisi.h"
 #include "ui/metin.h"
 #include "ui/simge.h"
@@ -63,9 +65,14 @@ Form::Form(EkranBaglami& baglam, const QString& kelime, const QString& baslik) :
   auto* duzen = new QVBoxLayout(this);
   duzen->setContentsMargins(16, 14, 16, 12);
   duzen->setSpacing(12);
-  govde_ = new QVBoxLayout;
+  auto* kayan = new KayanGovde(this);
+  govde_ = new QVBoxLayout(kayan->widget());
+  govde_->setContentsMargins(0, 0, 0, 0);
   govde_->setSpacing(12);
-  duzen->addLayout(govde_, 1);
+  duzen->addWidget(kayan, 1);
+  alt_ = new QVBoxLayout;
+  alt_->setSpacing(12);
+  duzen->addLayout(alt_);
   KomutSatiriYap();
   duzen->addLayout(komutSatiri_);
   Komutlar({{.komut = FormKomutu::Kapat}});
@@ -81,9 +88,7 @@ Form::~Form() {
 void Form::KomutSatiriYap() {
   komutSatiri_ = new QHBoxLayout;
   komutSatiri_->setSpacing(8);
-  ipucu_ = new QLabel(this);
-  ipucu_->setObjectName("ipucu");
-  ipucu_->setTextFormat(Qt::RichText);
+  ipucu_ = new IpucuSatiri(this);
   komutSatiri_->addWidget(ipucu_);
   komutSatiri_->addStretch(1);
 }
@@ -261,7 +266,7 @@ void Form::IpucuYaz() {
     (t.tus == Tanim(FormKomutu::Kapat).tus ? sonda : parcalar) +=
         "<b>" + TusMetni(t.tus) + "</b>&nbsp;" + t.aciklama.toHtmlEscaped();
   }
-  ipucu_->setText((parcalar + sonda).join("&nbsp;&nbsp; "));
+  ipucu_->Yaz(parcalar + sonda);
 }
 
 void Form::Izle(QWidget* parca) {
@@ -358,7 +363,7 @@ void Form::closeEvent(QCloseEvent* olay) {
 
 void Form::ZoomEfekt(const QString& olan) {
   YazilaniUnut();
-  ipucu_->setText(QStringLiteral("✓ ") + olan);
+  ipucu_->Soyle(QStringLiteral("✓ ") + olan);
   QTimer::singleShot(1500, this, [this] { IpucuYaz(); });
 }
 

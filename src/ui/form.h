@@ -25,6 +25,7 @@
 
 namespace belvani {
 
+class IpucuSatiri;
 class dclist;
 
 enum class FormKomutu { Kaydet, Sil, Rehber, Ilk, Onceki, Sonraki, Son, Kapat };
@@ -82,6 +83,8 @@ class Form : public QWidget {
 
   // The body, from top to bottom; the row of commands follows it.
   QVBoxLayout* Govde() { return govde_; }
+  // What stays in sight below the body where that has to scroll.
+  QVBoxLayout* Alt() { return alt_; }
 
   // Fields under their headings, the groups of each inner list one below the other, the lists side by side.
   void AlanlariDiz(const AlanSutunlari& sutunlar);
@@ -198,8 +201,9 @@ class Form : public QWidget {
 
   EkranBaglami& baglam_;
   QVBoxLayout* govde_ = nullptr;
+  QVBoxLayout* alt_ = nullptr;
   QHBoxLayout* komutSatiri_ = nullptr;
-  QLabel* ipucu_ = nullptr;
+  IpucuSatiri* ipucu_ = nullptr;
   std::vector<std::unique_ptr<AlanDenetimi>> denetimler_;
   std::vector<TusIslevi> tuslar_;
   AlanTutamagi anahtarAlani_;

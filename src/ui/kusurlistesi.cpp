@@ -68,7 +68,7 @@ class KusurListesi final : public Form {
     liste_->CreateNewCaption('m', "alan", "Alan", 150);
     liste_->CreateNewCaption('m', "metin", "Açıklama", 420);
     liste_->GenisKolon("metin");
-    liste_->setMinimumSize(860, 320);
+    liste_->TercihBoyu(860, 320);
     liste_->Model().Renk = [this](int satir, int kolon) -> std::optional<HucreRengi> {
       if (kolon != 0) return std::nullopt;
       const RenkTablosu renkler = GecerliRenkler(Oturumu());

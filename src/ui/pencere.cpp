@@ -41,7 +41,7 @@ pencere::pencere(EkranBaglami& baglam)
   liste_->CreateNewCaption('m', "soyadi", "Soyadı", 170);
   liste_->CreateNewCaption('m', "ciktar", "Çıkış Tarihi", 100);
   liste_->GenisKolon("soyadi");
-  liste_->setMinimumSize(580, 360);
+  liste_->TercihBoyu(580, 360);
   liste_->setFocusPolicy(Qt::NoFocus);  // its rows are walked from the search box
   liste_->Secildi = [this](int satir) { Sec(satir); };
   Izle(tur_);

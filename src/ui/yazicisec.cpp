@@ -15,7 +15,7 @@ class yazicisec : public Form {
     liste_->CreateNewCaption('m', "aciklama", "Açıklama", 220);
     liste_->CreateNewCaption('m', "durum", "Durum", 200);
     liste_->GenisKolon("aciklama");
-    liste_->setMinimumSize(620, 260);
+    liste_->TercihBoyu(620, 260);
     ListeDoldur(*liste_, yazicilar, [](const YaziciBilgisi& y) {
       return std::array{y.ad, y.aciklama, y.isAliyor ? y.bekleyen : "Yeni iş kabul etmiyor"};
     });

@@ -3,11 +3,13 @@
 
 #include <QMenuBar>
 #include <QTextDocument>
+#include <gmock/gmock.h>
 
 #include "app/anaortam.h"
 #include "app/belgeyardimi.h"
 #include "app/menuharfi.h"
 #include "app/yardim.h"
+#include "core/session/firmabilgi.h"
 #include "core/session/sinifbakimi.h"
 #include "core/store/satirlar.h"
 #include "documents/belgeler.h"
@@ -90,6 +92,27 @@ TEST(Anamenu, ACompanyOfOlderDaysIsAskedOnceToLookAtItsClass) {
   EXPECT_EQ(ortam.Odak(), "sinif");
   ortam.Bas(Qt::Key_F5);
   EXPECT_EQ(SinifBakimiOku(firma), SinifBakimi::Bakildi);
+}
+
+TEST(Anamenu, AKeyTakesTheCompanyToTheNextMonthAndBack) {
+  AnaOrtam o;
+  o.DonemYaz(2009, 12);
+  o.bildirim.cevap = false;
+  QTest::keyClick(o.pencere.get(), Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(o.bildirim.Al(), Iletiler{"Soru: Şirket Dönemini Değiştirmeye Eminmisiniz ?\nŞimdiki Dönem: Aralık 2009\n"
+                                      "Geçilecek Dönem: Ocak 2010"});
+  EXPECT_EQ(o.oturum.firma.firmaay, 12);
+  o.bildirim.cevap = true;
+  QTest::keyClick(o.pencere.get(), Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(FirmaDuzenle(o.oturum).simdi.firmayil, 2010);
+  EXPECT_THAT(Utf8(o.pencere->windowTitle()), testing::HasSubstr("(Ocak.2010)"));
+  QTest::keyClick(o.pencere.get(), Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(FirmaDuzenle(o.oturum).simdi.firmaay, 12);
+  o.DonemYaz(1990, 1);
+  o.bildirim.Al();
+  QTest::keyClick(o.pencere.get(), Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(o.bildirim.Al().back(), "Bilgi: Dönem Yıl: 1990 ile 2100 arasında olmalı");
+  EXPECT_EQ(o.oturum.firma.firmayil, 1990);
 }
 
 TEST(Anamenu, WindowsOpenInViewAndRememberTheirPlace) {

@@ -14,6 +14,9 @@
 
 namespace belvani {
 
+// Years that a company may work in.
+inline constexpr int EnAzDonemYili = 1990, EnCokDonemYili = 2100;
+
 // What a new company starts with: this month and year, founded today, "Yeni Şirket (2009)", class "Personel".
 Firma YeniFirma();
 

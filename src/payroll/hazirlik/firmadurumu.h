@@ -13,6 +13,7 @@
 #include <functional>
 
 #include "core/store/cakisma.h"
+#include "core/store/yon.h"
 #include "payroll/hazirlik/kosullar.h"
 
 namespace belvani {
@@ -35,6 +36,15 @@ class FirmaDurumu {
   // The card, and the parameters that follow from it (the default class). What the store refuses stays in the session,
   // so that the card can be saved again; another user's change leaves it as it was.
   Yazim<Firma> KartKaydet(const Okunan<Firma>& kart);
+
+  // The working month of all who work in the company, one month on or back: December goes over into January. Neither
+  // a pay record nor an open screen changes by it.
+  struct Donem {
+    int yil = 0;
+    int ay = 0;
+  };
+  Donem KomsuDonem(Yon yon) const;
+  Durum DonemKaydir(Yon yon);
 
   // Something has changed: windows that show it look again.
   std::function<void()> Degisti = [] {};

@@ -13,7 +13,6 @@ static_assert(ListeyeUyar(firma::tehlike, TehlikeSiniflari.size()));
 static_assert(ListeyeUyar(firma::sinif, TehlikeDereceleri.size()));
 
 // A year that was emptied, or lost a digit, is no month of work; the two are those that documents know.
-constexpr double EnAzYil = 1990, EnCokYil = 2100;
 
 // A choice, so that none (whole lira) is one and never what is left of an emptied field.
 constexpr std::array<std::string_view, 5> OndalikSayilari{"0", "1", "2", "3", "4"};
@@ -55,7 +54,7 @@ std::vector<std::vector<AlanGrubu>> Gruplar() {
             3}},
           {{"Dönem",
             {{firma::firmaay, "Dönem Ay", {.liste = AyAdlari, .listeTabani = 1}},
-             {firma::firmayil, "Dönem Yıl", {.enAz = EnAzYil, .enCok = EnCokYil}},
+             {firma::firmayil, "Dönem Yıl", {.enAz = EnAzDonemYili, .enCok = EnCokDonemYili}},
              {firma::tersfirma, "Dönem 15.01.2004 - 14.02.2004 gibi"}},
             2},
            {"Kurallar",

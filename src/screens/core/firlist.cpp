@@ -56,7 +56,7 @@ firlist::firlist(EkranBaglami& baglam)
   liste_->CreateNewCaption('m', "donem", "Dönem", 80);
   liste_->setObjectName("dclist1");
   liste_->GenisKolon("unvan");
-  liste_->setMinimumSize(secici_ ? 520 : 680, 360);
+  liste_->TercihBoyu(secici_ ? 520 : 680, 360);
   Govde()->addWidget(aranan_);
   Govde()->addWidget(liste_, 1);
   Izle(aranan_);

@@ -13,7 +13,7 @@ firsil::firsil(EkranBaglami& baglam)
   liste_->CreateNewCaption('m', "kod", "Firma", 320);
   liste_->setObjectName("dclist1");
   liste_->GenisKolon("kod");
-  liste_->setMinimumSize(420, 240);
+  liste_->TercihBoyu(420, 240);
   liste_->Secildi = [this](int satir) { Sec(satir); };
   connect(liste_, &QTableView::clicked, this, [this] { Sec(liste_->CurSat()); });
   dizin_->setObjectName("Text1");

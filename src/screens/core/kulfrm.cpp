@@ -20,7 +20,7 @@ kulfrm::kulfrm(EkranBaglami& baglam)
   liste_->Gizle("pasw");
   liste_->setObjectName("dclist1");
   liste_->GenisKolon("kod");
-  liste_->setMinimumSize(220, 180);
+  liste_->TercihBoyu(220, 180);
   liste_->SatirSecildi = [this](int satir) { Goster(satir); };
   // The current row too: it takes the place of what was typed meanwhile.
   connect(liste_, &QTableView::clicked, this, [this] { Goster(liste_->CurSat()); });

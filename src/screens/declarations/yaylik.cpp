@@ -122,7 +122,7 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
     OdakVer(secim::yil);
     return true;
   };
-  liste_->setMinimumSize(1270, 212);
+  liste_->TercihBoyu(1270, 212);
   mevzuat_.getiren = [this](MevzuatAyi ay, MevzuatIstegi istek) {
     return UzunIs(Baglam(), QStringLiteral("Parametre indiriliyor…"), [&](Ilerleme& ilerleme) {
       istek.sinir.ilerleme = &ilerleme;

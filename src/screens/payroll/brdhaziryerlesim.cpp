@@ -83,10 +83,10 @@ void brdhazir::GovdeYap() {
   sutun(AyrintiGruplari())->insertWidget(0, eksikGun);
   Govde()->addLayout(orta);
   kusur_->setProperty("hata", true);
-  Govde()->addWidget(kusur_);
+  Alt()->addWidget(kusur_);
   muafiyet_->setProperty("soluk", true);
-  Govde()->addWidget(muafiyet_);
-  Govde()->addWidget(neden_);
+  Alt()->addWidget(muafiyet_);
+  Alt()->addWidget(neden_);
   YaziKutusu(bordroalani::net).setProperty("toplam", true);
   YaziKutusu(bordroalani::brut).setProperty("toplam", true);
   for (const auto& d : Denetimler())

@@ -32,7 +32,7 @@ sendtan::sendtan(EkranBaglami& baglam, ParametreDeposu& parametreler)
   liste_->CreateNewCaption('m', "kod", "Sendika No", 90);
   liste_->CreateNewCaption('m', "adi", "Sendika Adı", 220);
   liste_->GenisKolon("adi");
-  liste_->setMinimumSize(330, 220);
+  liste_->TercihBoyu(330, 220);
   liste_->Secildi = [this](int satir) {
     AnahtarAra(Utf8(liste_->Text(satir, 0)));
     OdakVer(sendika::adi);

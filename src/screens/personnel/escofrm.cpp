@@ -80,7 +80,7 @@ void escofrm::ListeyiKur() {
   for (const KodluKolon& k : KodluKolonlar) liste_->SecenekKoy(k.ad, Secenekler(k.secenekler));
   liste_->Gizle("oto");
   liste_->GenisKolon("adr");
-  liste_->setMinimumSize(1080, 300);
+  liste_->TercihBoyu(1080, 300);
   liste_->SatirGuncelle = [this](int satir) { return SatirKaydet(satir); };
   liste_->SatirSil = [this](int satir) { return SatirSil(satir); };
   liste_->Tus = [this](const QKeyEvent& olay) { return ListeTusu(olay); };

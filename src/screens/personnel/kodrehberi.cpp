@@ -11,7 +11,7 @@ kodrehberi::kodrehberi(EkranBaglami& baglam, const char* baslik, const std::vect
   liste_->CreateNewCaption('m', "kod", "Kod", 140);
   liste_->CreateNewCaption('m', "adi", "Adı", 200);
   liste_->GenisKolon("adi");
-  liste_->setMinimumSize(380, 260);
+  liste_->TercihBoyu(380, 260);
   Govde()->addWidget(liste_, 1);
   ListeDoldur(*liste_, secenekler, [](const KodSecenegi& s) { return std::array{s.kod, s.ad}; });
   liste_->FindByName("kod", Yazi(simdiki));

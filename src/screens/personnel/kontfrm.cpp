@@ -17,7 +17,7 @@ kontfrm::kontfrm(EkranBaglami& baglam)
   liste_->CreateNewCaption('m', "adsoy", "Adı Soyadı", 240);
   liste_->CreateNewCaption('m', "sonuc", "Sonuç", 320);
   liste_->GenisKolon("sonuc");
-  liste_->setMinimumSize(700, 380);
+  liste_->TercihBoyu(700, 380);
   auto* kutu = new QGroupBox(QStringLiteral("Kontrol Sonucları"), this);
   auto* duzen = new QVBoxLayout(kutu);
   QLineEdit* arama = liste_->AramaKutusu(kutu);

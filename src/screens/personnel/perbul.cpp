@@ -25,7 +25,7 @@ perbul::perbul(EkranBaglami& baglam)
   liste_->CreateNewCaption('m', "firma", "Firma", 300);
   liste_->CreateNewCaption('m', "donem", "Dönem", 90);
   liste_->GenisKolon("firma");
-  liste_->setMinimumSize(680, 320);
+  liste_->TercihBoyu(680, 320);
   liste_->setEnabled(false);
   setTabOrder(&YaziKutusu(ArananAd), liste_);
   Govde()->addWidget(liste_, 1);
