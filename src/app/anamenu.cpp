@@ -77,6 +77,7 @@ void anamenu::GorunumuUygula() {
   GorunumUygula(o, ayar);
   if (o.ResimYolu != eskiYol) RenkYukle(o);
   SimgelerKullanilsin(o.ResimKullan);
+  SimgeSetiKoy(Yazi(o.PrgPath + o.ResimYolu));
   StilKur(*qApp, GecerliRenkler(o, ayar));
 }
 
@@ -333,7 +334,7 @@ void anamenu::closeEvent(QCloseEvent* olay) {
 
 void anamenu::changeEvent(QEvent* olay) {
   QMainWindow::changeEvent(olay);
-  if (olay->type() == QEvent::PaletteChange) SimgeleriKoy();
+  if (olay->type() == QEvent::PaletteChange || olay->type() == QEvent::StyleChange) SimgeleriKoy();
 }
 
 bool anamenu::eventFilter(QObject* nesne, QEvent* olay) {

@@ -1,6 +1,7 @@
 #include "app/gorun.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QPainter>
 
@@ -195,8 +196,31 @@ QWidget* gorun::AnaPencereYap() {
   };
   kutu(3, "Arka plan resmi gösterilsin", "backresimvarmi", ayar.backresimvarmi);
   kutu(4, "Resimler kullanılsın", "imagekullan", ayar.imagekullan);
-  kutu(5, "Kaydedilmeyen değişiklikler sorulsun", "yazilansor", ayar.yazilansor);
+  izgara->addWidget(SetSatiriYap(), 5, 0, 1, 2);
+  kutu(6, "Kaydedilmeyen değişiklikler sorulsun", "yazilansor", ayar.yazilansor);
   return Kutu("Ana Pencere", this, izgara);
+}
+
+// The sets by the names of their directories.
+QWidget* gorun::SetSatiriYap() {
+  auto* parca = new QWidget(this);
+  auto* duzen = new QHBoxLayout(parca);
+  duzen->setContentsMargins(0, 0, 0, 0);
+  auto* etiket = new QLabel(QStringLiteral("Resim Seti"), parca);
+  auto* setler = new QComboBox(parca);
+  setler->setObjectName("imagepath");
+  for (const std::string& set : ResimSetleri(Oturumu())) setler->addItem(Yazi(set).section('/', 1, 1), Yazi(set));
+  etiket->setBuddy(setler);
+  Izle(setler);
+  connect(setler, &QComboBox::activated, this, [this, setler] {
+    secim_.ayar.imagepath = Utf8(setler->currentData().toString());
+    Onizle();
+  });
+  tazelenecek_.push_back(
+      [this, setler] { setler->setCurrentIndex(std::max(0, setler->findData(Yazi(secim_.ayar.imagepath)))); });
+  duzen->addWidget(etiket);
+  duzen->addWidget(setler, 1);
+  return parca;
 }
 
 QWidget* gorun::ResimSatiriYap() {
@@ -271,6 +295,7 @@ QWidget* gorun::OrnekYap() {
 void gorun::Onizle() {
   degisti_ = true;
   SimgelerKullanilsin(secim_.ayar.imagekullan);
+  SimgeSetiKoy(Yazi(Oturumu().PrgPath + secim_.ayar.imagepath));
   StilKur(*qApp, secim_.renkler, secim_.yazilar);
   goster_(secim_.ayar);
   for (const auto& tazele : tazelenecek_) tazele();
@@ -279,6 +304,7 @@ void gorun::Onizle() {
 void gorun::GeriAl() {
   if (!std::exchange(degisti_, false)) return;
   SimgelerKullanilsin(ilk_.ayar.imagekullan);
+  SimgeSetiKoy(Yazi(Oturumu().PrgPath + ilk_.ayar.imagepath));
   StilKur(*qApp, ilk_.renkler, ilk_.yazilar);
   goster_(ilk_.ayar);
 }
@@ -291,6 +317,7 @@ void gorun::closeEvent(QCloseEvent* olay) {
 void gorun::Kaydet() {
   secim_.ayar.backresim = Utf8(resim_->text());
   const RenkTablosu eski = std::exchange(Oturumu().Renkler, secim_.renkler);
+  const std::string eskiSet = std::exchange(Oturumu().ResimYolu, secim_.ayar.imagepath);  // the colours lie in the set
   const auto yaz = [&]() -> Durum {
     if (auto d = RenkKaydet(Oturumu()); !d) return d;
     if (auto d = GridYazilariYaz(secim_.yazilar); !d) return d;
@@ -298,6 +325,7 @@ void gorun::Kaydet() {
   };
   if (const Durum d = yaz(); !d) {
     Oturumu().Renkler = eski;
+    Oturumu().ResimYolu = eskiSet;
     Bildirimi().Uyari(d.KusurMetni());
     return;
   }

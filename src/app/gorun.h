@@ -34,6 +34,7 @@ class gorun : public Form {
   QWidget* YazilariYap();
   QWidget* AnaPencereYap();
   QWidget* ResimSatiriYap();
+  QWidget* SetSatiriYap();
   QWidget* OrnekYap();
   // A button that shows its colour; `yaz` takes the chosen one.
   QPushButton* RenkDugmesi(const QString& baslik, const std::function<QColor()>& oku,

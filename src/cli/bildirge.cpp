@@ -57,7 +57,7 @@ T Olmali(Sonuc<T> sonuc, const char* yapilmayan) {
 
 [[noreturn]] void Tanimsiz(const char* ne, const std::string& deger, const std::vector<std::string>& liste) {
   std::string metin = deger + ne;
-  for (std::size_t i = 1; i < liste.size(); ++i) metin += "\n  " + liste[i];
+  for (std::size_t i = 1; i < liste.size(); ++i) metin += "\n  " + (liste[i].empty() ? "(boş)" : liste[i]);
   throw KomutHatasi{metin};
 }
 

@@ -43,8 +43,7 @@ void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
                          (sorun.kod.empty() ? "" : sorun.kod + ": ") +
                          (sorun.satir == 0 ? "" : "satır " + std::to_string(sorun.satir) + ": ") + sorun.metin);
   if (!sonuc->kaydedildi) throw KomutHatasi{"Bordro kaydedilmedi: girişlerde hata var"};
-  Yaz("Bordro Hazırlık Tamamlandı: " + std::to_string(sonuc->kaydedilen) + " kişi kaydedildi, " +
-      std::to_string(sonuc->donemDisi) + " kişi dönem dışı, " + std::to_string(sonuc->netsiz) + " kişi netsiz\n");
+  Yaz("Bordro Hazırlık Tamamlandı: " + sonuc->Ozet() + "\n");
 }
 
 void BordroyuSil(Genel& genel, const HazirlaSecenekleri& s) {

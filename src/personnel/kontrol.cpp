@@ -27,26 +27,27 @@ template <class Kayit>
 struct Kural {
   bool (*kusurlu)(const Kayit&);
   const char* metin;
+  AlanTutamagi alan;
 };
 
-constexpr Kural<Sicil> SicilKurallari[] = {
-    {[](const Sicil& s) { return !SayiMi(s.sskno); }, "SSK Sicil No Rakamlardan Oluşmalı"},
-    {[](const Sicil& s) { return Bos(s.sskno); }, "SSK Sicil No Bulunamadı"},
-    {[](const Sicil& s) { return s.girtar.Bos(); }, "Giriş Tarihi Bulunamadı"},
-    {[](const Sicil& s) { return Bos(s.adi); }, "Personel Adı Bulunamadı"},
-    {[](const Sicil& s) { return Bos(s.soyadi); }, "Personel SoyAdı Bulunamadı"},
-    {[](const Sicil& s) { return !s.ciktar.Bos() && s.cikiskodu == 0; }, "Çıkış Nedeni Kodu Yok"},
+const Kural<Sicil> SicilKurallari[] = {
+    {[](const Sicil& s) { return !SayiMi(s.sskno); }, "SSK Sicil No Rakamlardan Oluşmalı", sicil::sskno},
+    {[](const Sicil& s) { return Bos(s.sskno); }, "SSK Sicil No Bulunamadı", sicil::sskno},
+    {[](const Sicil& s) { return s.girtar.Bos(); }, "Giriş Tarihi Bulunamadı", sicil::girtar},
+    {[](const Sicil& s) { return Bos(s.adi); }, "Personel Adı Bulunamadı", sicil::adi},
+    {[](const Sicil& s) { return Bos(s.soyadi); }, "Personel SoyAdı Bulunamadı", sicil::soyadi},
+    {[](const Sicil& s) { return !s.ciktar.Bos() && s.cikiskodu == 0; }, "Çıkış Nedeni Kodu Yok", sicil::cikiskodu},
     {[](const Sicil& s) { return s.ciktar.Bos() && s.ucrettipi != AsgariUcretSirasi && s.ucret <= Tutar(); },
-     "Personelin Maaşı Yok"},
-    {[](const Sicil& s) { return s.sskdurum == Emekli && HarfSayisi(s.tahsisno) <= 1; }, "Emekli için Tahsis No Yok"},
+     "Personelin Maaşı Yok", sicil::ucret},
+    {[](const Sicil& s) { return s.sskdurum == Emekli && HarfSayisi(s.tahsisno) <= 1; }, "Emekli için Tahsis No Yok", sicil::tahsisno},
 };
 
-constexpr Kural<Kimlik> KimlikKurallari[] = {
-    {[](const Kimlik& k) { return !SayiMi(k.tcno); }, "TC Kimlik No Rakamlardan Oluşmalı"},
+const Kural<Kimlik> KimlikKurallari[] = {
+    {[](const Kimlik& k) { return !SayiMi(k.tcno); }, "TC Kimlik No Rakamlardan Oluşmalı", kimlik::tcno},
     {[](const Kimlik& k) { return SayiMi(k.tcno) && HarfSayisi(k.tcno) != TcKimlikHanesi; },
-     "TC Kimlik Nosu 11 Rakamdan Oluşmalı"},
-    {[](const Kimlik& k) { return !TcKontrolTutar(k.tcno); }, TcKontrolUyarisi},
-    {[](const Kimlik& k) { return k.dogtar.Bos(); }, "Doğum Tarihi Yok"},
+     "TC Kimlik Nosu 11 Rakamdan Oluşmalı", kimlik::tcno},
+    {[](const Kimlik& k) { return !TcKontrolTutar(k.tcno); }, TcKontrolUyarisi, kimlik::tcno},
+    {[](const Kimlik& k) { return k.dogtar.Bos(); }, "Doğum Tarihi Yok", kimlik::dogtar},
 };
 
 // Records of a table one after the other, in the order of their codes.
@@ -85,18 +86,18 @@ Sonuc<std::vector<KontrolSatiri>> Denetle(Oturum& o, Ilerleme* ilerleme) {
   Akis<Kimlik> kimlik(motor);
   for (kimlik.Ilerle(); sicil.Ilerle();) {
     if (ilerleme != nullptr && !ilerleme->Adim(0, 0)) return Kusur{.metin = YaridaKesildi, .derece = Derece::Bilgi};
-    const auto bildir = [&](const std::string& sonuc) {
-      rapor.push_back({sicil->kod, sicil->adi + " " + sicil->soyadi, sonuc});
+    const auto bildir = [&](const std::string& sonuc, AlanTutamagi alan) {
+      rapor.push_back({sicil->kod, sicil->adi + " " + sicil->soyadi, sonuc, alan});
     };
     for (const auto& kural : SicilKurallari)
-      if (kural.kusurlu(*sicil)) bildir(kural.metin);
-    for (const Kusur& kusur : TanimsizKodlar(o, *sicil)) bildir(kusur.metin);
+      if (kural.kusurlu(*sicil)) bildir(kural.metin, kural.alan);
+    for (const Kusur& kusur : TanimsizKodlar(o, *sicil)) bildir(kusur.metin, kusur.alan);
     if (!KimligeIlerle(kimlik, sicil->kod)) {
-      bildir("Personelin Nufus Kimlik Bilgileri Yok");
+      bildir("Personelin Nufus Kimlik Bilgileri Yok", kimlik::tcno);
       continue;
     }
     for (const auto& kural : KimlikKurallari)
-      if (kural.kusurlu(*kimlik)) bildir(kural.metin);
+      if (kural.kusurlu(*kimlik)) bildir(kural.metin, kural.alan);
   }
   if (rapor.empty()) rapor.push_back({"", "", "Hata Bulunamadı"});
   return rapor;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/bildirim.h"
+#include "core/kusur.h"
 #include "core/session/oturum.h"
 #include "core/sonuc.h"
 
@@ -18,8 +19,9 @@ struct KontrolSatiri {
   std::string kod;
   std::string adsoy;
   std::string sonuc;
+  AlanTutamagi alan = {};  // where it is mended; not part of the report
 
-  bool operator==(const KontrolSatiri&) const = default;
+  bool operator==(const KontrolSatiri& o) const { return kod == o.kod && adsoy == o.adsoy && sonuc == o.sonuc; }
 };
 
 // Never empty: without any fault its one row says "Hata Bulunamadı". A report that was stopped is a fault of the degree

@@ -125,7 +125,7 @@ xtext& Form::YaziKutusu(AlanTutamagi alan) const {
 AlanDenetimi& Form::DenetimEkle(const belvani::Alan& alan, QWidget* ust) {
   auto& denetim = *denetimler_.emplace_back(DenetimYap(alan, ust, baglam_.oturum.firma.paraonda));
   denetim.Degisti = [this, &denetim] {
-    if (!denetim.Satir().ek.anahtar) yazilan_.insert(&denetim);
+    if (!denetim.Satir().ek.anahtar && !denetim.Satir().ek.kayitDisi) yazilan_.insert(&denetim);
     AlanDegisti(denetim);
   };
   gelen_[&denetim] = denetim.Oku();

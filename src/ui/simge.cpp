@@ -1,19 +1,33 @@
 #include "ui/simge.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QPainter>
 #include <QPixmap>
 #include <QSvgRenderer>
+#include <array>
 #include <map>
+#include <tuple>
 
 namespace belvani {
 namespace {
 
 constexpr std::array<int, 6> Boylar{16, 20, 24, 32, 48, 64};
 
-QColor& Renk() {
-  static QColor renk(Qt::black);
-  return renk;
+// The set that is drawn in the accent instead of the text colour.
+constexpr QLatin1StringView RenkliSet("/renkli/");
+
+struct SimgeSeti {
+  QColor yazi = Qt::black;
+  QColor vurgu = Qt::black;
+  QString dizin;
+
+  QColor Renk() const { return dizin.endsWith(RenkliSet) ? vurgu : yazi; }
+};
+
+SimgeSeti& Simdiki() {
+  static SimgeSeti set;
+  return set;
 }
 
 bool& Kullanilir() {
@@ -21,12 +35,21 @@ bool& Kullanilir() {
   return kullanilir;
 }
 
+// The set's own picture; a file that is none is passed over.
+QIcon SettenOku(const QString& ad) {
+  for (const char* uzanti : {".svg", ".png"})
+    if (const QString yol = Simdiki().dizin + ad + uzanti; QFileInfo(yol).isFile())
+      if (const QPixmap resim(yol); !resim.isNull()) return QIcon(yol);
+  return {};
+}
+
 // The drawings are black on nothing.
 QIcon Ciz(const QString& ad) {
+  if (QIcon kendi = SettenOku(ad); !kendi.isNull()) return kendi;
   QFile dosya(":/simgeler/" + ad + ".svg");
   if (!dosya.open(QIODevice::ReadOnly)) return {};
   QByteArray cizim = dosya.readAll();
-  cizim.replace("#000000", Renk().name().toLatin1());
+  cizim.replace("#000000", Simdiki().Renk().name().toLatin1());
   QSvgRenderer cizen(cizim);
   QIcon simge;
   for (const int boy : Boylar) {
@@ -42,14 +65,19 @@ QIcon Ciz(const QString& ad) {
 }  // namespace
 
 QIcon Simge(const QString& ad) {
-  static std::map<std::pair<QString, QRgb>, QIcon> cizilen;
-  const auto [yer, yeni] = cizilen.try_emplace({ad, Renk().rgb()});
+  static std::map<std::tuple<QString, QString, QRgb>, QIcon> cizilen;
+  const auto [yer, yeni] = cizilen.try_emplace({Simdiki().dizin, ad, Simdiki().Renk().rgb()});
   if (yeni) yer->second = Ciz(ad);
   return yer->second;
 }
 
-void SimgeRengi(const QColor& renk) {
-  Renk() = renk;
+void SimgeRenkleri(const QColor& yazi, const QColor& vurgu) {
+  Simdiki().yazi = yazi;
+  Simdiki().vurgu = vurgu;
+}
+
+void SimgeSetiKoy(const QString& dizin) {
+  Simdiki().dizin = dizin;
 }
 
 void SimgelerKullanilsin(bool kullan) {

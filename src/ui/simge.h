@@ -1,4 +1,5 @@
-// The program's own pictures, drawn as SVG (data/simgeler/) and recoloured to the text colour of the look in force.
+// The program's pictures, drawn as SVG (data/simgeler/) and recoloured as the look in force and the chosen set say. A
+// set may bring pictures of its own: files in its directory, named as the pictures are.
 #pragma once
 
 #include <QIcon>
@@ -13,7 +14,10 @@ QIcon Simge(const QString& ad);
 void SimgelerKullanilsin(bool kullan);
 bool SimgelerKullanilir();
 
-// The colour in which pictures are drawn from now on.
-void SimgeRengi(const QColor& renk);
+// The colours in which pictures are drawn from now on: that of texts, and the accent.
+void SimgeRenkleri(const QColor& yazi, const QColor& vurgu);
+
+// The set in use: the directory of its own pictures (`kaydet.svg`, `kaydet.png`), which need not exist.
+void SimgeSetiKoy(const QString& dizin);
 
 }  // namespace belvani

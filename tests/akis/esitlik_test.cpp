@@ -1,5 +1,7 @@
 // Screen and command line over the same company full of faults: whatever the command prints on standard error, the
 // desktop has said as well, in a box or in its list of warnings and faults.
+#include <QAbstractButton>
+#include <QComboBox>
 #include <gmock/gmock.h>
 #include <sstream>
 
@@ -8,6 +10,8 @@
 #include "core/session/oturum.h"
 #include "ekran/ortam.h"
 #include "screens/declarations/yaylik.h"
+#include "screens/payroll/brdhazir.h"
+#include "screens/personnel/kontfrm.h"
 #include "ui/dclist.h"
 
 namespace belvani::test {
@@ -51,15 +55,16 @@ struct KusurluSirket : EkranParcalari {
     EXPECT_EQ(c.durum, 0) << degerler << ": " << c.mesaj;
   }
 
-  // All that the desktop has said since the last call: boxes, and the rows of its lists of faults.
+  // All that the desktop has said since the last call: boxes, and the rows of its lists of findings.
   std::string Soylenen() {
     std::string metin;
     for (const std::string& ileti : bildirim.Al()) metin += ileti + "\n";
     for (const auto& form : gosterici.formlar) {
-      if (form->Kelime() != "kusurlar" || !form->isVisible()) continue;
+      if ((form->Kelime() != "kusurlar" && form->Kelime() != "kontfrm") || !form->isVisible()) continue;
       dclist& liste = *form->findChild<dclist*>();
+      const int son = liste.Model().columnCount() - 1;
       for (int i = 0; i < liste.ListCount(); ++i)
-        metin += Utf8(liste.TextByName(i, "kod") + " " + liste.TextByName(i, "metin")) + "\n";
+        metin += Utf8(liste.TextByName(i, "kod") + " " + liste.Text(i, son)) + "\n";
     }
     return metin;
   }
@@ -87,6 +92,33 @@ std::vector<std::string> Eksikler(const std::string& mesaj, const std::string& e
     eksikler.push_back(satir);
   }
   return eksikler;
+}
+
+TEST(Esitlik, WhatTheMassRunPrintsStandsInTheListOfTheScreen) {
+  KusurluSirket o;
+  const Cikti c = o.komut("hazirla KUSUR --yil 2009 --ay 7");
+  EXPECT_THAT(c.mesaj, testing::AllOf(testing::HasSubstr("011"), testing::HasSubstr("012")));
+  o.gosterici.SerbestGoster(std::make_unique<brdhazir>(o.ekran, o.parametreler));
+  Form& form = *o.gosterici.formlar.back();
+  QAbstractButton* puantaj = nullptr;
+  for (auto* dugme : form.findChildren<QAbstractButton*>())
+    if (dugme->text().startsWith("Puantaj")) puantaj = dugme;
+  ASSERT_NE(puantaj, nullptr);
+  for (auto* kaynak : form.findChildren<QComboBox*>())
+    if (const int sira = kaynak->findText(QStringLiteral("Şablondan")); sira >= 0) kaynak->setCurrentIndex(sira);
+  puantaj->click();
+  EXPECT_THAT(Eksikler(c.mesaj, o.Soylenen()), testing::IsEmpty());
+}
+
+TEST(Esitlik, WhatTheCheckOfACompanyPrintsStandsInTheControlReport) {
+  KusurluSirket o;
+  o.Tamam("hazirla KUSUR --yil 2009 --ay 7");
+  o.Sql("update brd set yuzsgk = 13 where kod = '013'");
+  o.Sql("insert into esco (kod, adi) values ('777', 'Kimsesiz')");
+  const Cikti c = o.komut("denetle KUSUR");
+  EXPECT_THAT(c.mesaj + c.cikti, testing::AllOf(testing::HasSubstr("011"), testing::HasSubstr("777")));
+  o.gosterici.SerbestGoster(std::make_unique<kontfrm>(o.ekran));
+  EXPECT_THAT(Eksikler(c.cikti.substr(c.cikti.find('\n')), o.Soylenen()), testing::IsEmpty());
 }
 
 TEST(Esitlik, WhatTheDeclarationPrintsIsSaidByTheScreen) {

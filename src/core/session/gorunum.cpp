@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <filesystem>
 
 #include "core/ayarlar.h"
 #include "core/dosya.h"
@@ -103,6 +104,19 @@ Durum GorunumYaz(const Oturum& o, const GorunumAyari& a) {
   for (const auto& [anahtar, deger] : degerler)
     if (auto d = IniYaz(Bolum, anahtar, deger, IstasyonDosyasi(o)); !d) return d;
   return Tamam();
+}
+
+std::vector<std::string> ResimSetleri(const Oturum& o) {
+  std::vector<std::string> setler{"image/soft/", "image/renkli/"};
+  std::vector<std::string> bulunan;
+  std::error_code hata;
+  for (const auto& yer : std::filesystem::directory_iterator(o.PrgPath + "image", hata))
+    if (const std::string ad = yer.path().filename(); yer.is_directory(hata) && !ad.starts_with('.'))
+      bulunan.push_back("image/" + ad + "/");
+  std::ranges::sort(bulunan);
+  for (const std::string& set : bulunan)
+    if (std::ranges::find(setler, set) == setler.end()) setler.push_back(set);
+  return setler;
 }
 
 void GorunumUygula(Oturum& o, const GorunumAyari& ayar) {

@@ -40,6 +40,10 @@ IniDosyasi IstasyonDosyasi(const Oturum& o);
 GorunumAyari GorunumOku(const Oturum& o);
 Durum GorunumYaz(const Oturum& o, const GorunumAyari& ayar);
 
+// The sets of pictures to choose from, as `imagepath` has them: the program's two, and the directories below
+// `<PrgPath>image/`.
+std::vector<std::string> ResimSetleri(const Oturum& o);
+
 // The session's share of it: `ResimYolu`, `ResimKullan` and `YazilanSorulsun`.
 void GorunumUygula(Oturum& o, const GorunumAyari& ayar);
 

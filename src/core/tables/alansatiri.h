@@ -43,6 +43,7 @@ struct AlanEki {
   bool kapali = false;  // shown, not typed into
   bool sifre = false;   // masked
   bool rehber = false;  // has a lookup list (F2)
+  bool kayitDisi = false;  // a choice of the moment and no part of what is saved: it may go unasked
   const char* ipucu = "";
   int no = 0;  // by which the rules of its screen know the field: a value of their enum
   // The option of the command line that asks for it, with its line of help: "--yil". Rows that follow each other with

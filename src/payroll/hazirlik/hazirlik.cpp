@@ -179,6 +179,11 @@ YazmaEngeli<Brd> BordroEngeli(CakismaTuru tur, const Brd& onunki, const Brd& brd
 
 }  // namespace
 
+std::string HazirlikSonucu::Ozet() const {
+  return std::to_string(kaydedilen) + " kişi kaydedildi, " + std::to_string(donemDisi) + " kişi dönem dışı, " +
+         std::to_string(netsiz) + " kişi netsiz";
+}
+
 Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const std::vector<GirisSatiri>& girisler,
                                    Ilerleme* ilerleme) {
   const Kusur iptal{"Bordro hazırlık iptal edildi, hiçbir kayıt değişmedi"};

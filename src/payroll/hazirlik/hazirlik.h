@@ -31,6 +31,8 @@ struct HazirlikSonucu {
   int netsiz = 0;           // net not above zero: not saved
   Kusurlar sorunlar;        // by person; a Hata keeps the month from being saved
   bool kaydedildi = false;  // false: some Hata, nothing was saved
+
+  std::string Ozet() const;  // "31 kişi kaydedildi, 2 kişi dönem dışı, 0 kişi netsiz"
 };
 
 // Fails as a whole when the store cannot be written or `ilerleme` cancels.

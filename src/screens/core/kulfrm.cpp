@@ -21,9 +21,11 @@ kulfrm::kulfrm(EkranBaglami& baglam)
   liste_->setObjectName("dclist1");
   liste_->GenisKolon("kod");
   liste_->TercihBoyu(220, 180);
-  liste_->SatirSecildi = [this](int satir) { Goster(satir); };
-  // The current row too: it takes the place of what was typed meanwhile.
-  connect(liste_, &QTableView::clicked, this, [this] { Goster(liste_->CurSat()); });
+  liste_->SatirSecildi = [this](int satir) { Sec(satir); };
+  // The current row too, where a new user was to be typed.
+  connect(liste_, &QTableView::clicked, this, [this] {
+    if (!Kaydedilmemis()) Goster(liste_->CurSat());
+  });
   AlanlariDiz({Gruplar});
   Govde()->addWidget(liste_, 1);
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
@@ -31,13 +33,22 @@ kulfrm::kulfrm(EkranBaglami& baglam)
   ListeyiDoldur();
 }
 
+// Whoever was being typed stays when his user does.
+void kulfrm::Sec(int satir) {
+  if (secilen_ == satir) return;
+  if (!YazilanBirakilir()) return liste_->ChngSat(secilen_);
+  Goster(satir);
+}
+
 void kulfrm::Goster(int satir) {
+  secilen_ = satir;
   Yukle(KullaniciGirisi{Utf8(liste_->TextByName(satir, "kod")), Utf8(liste_->TextByName(satir, "pasw")), {}, {}});
 }
 
 // The list comes back on its first user.
 void kulfrm::ListeyiDoldur() {
   Temizle();
+  secilen_ = -1;
   ListeDoldur(*liste_, Kullanicilar(Oturumu()), [](const Peruser& k) { return std::array{k.kod, k.pasw}; });
 }
 

@@ -15,9 +15,11 @@ class kulfrm : public Form {
   void Kaydet();
   void Sil();
   void ListeyiDoldur();
+  void Sec(int satir);
   void Goster(int satir);
 
   dclist* liste_;
+  int secilen_ = -1;  // the row whose user is on the screen
 };
 
 }  // namespace belvani

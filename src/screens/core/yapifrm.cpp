@@ -34,7 +34,10 @@ yapifrm::yapifrm(EkranBaglami& baglam) : Form(baglam, "yapifrm", QStringLiteral(
 }
 
 void yapifrm::DizinSec(xtext& alan) {
-  if (const auto dizin = Baglam().dialoglar.DizinSec("Dizin Seçiniz", Utf8(alan.text()))) alan.DegerKoy(*dizin);
+  if (const auto dizin = Baglam().dialoglar.DizinSec("Dizin Seçiniz", Utf8(alan.text()))) {
+    alan.DegerKoy(*dizin);
+    Q_EMIT alan.Change();  // as if it had been typed
+  }
   alan.setFocus();
 }
 

@@ -141,10 +141,7 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
   Komutlar({{.tus = Qt::Key_F5, .dugme = "&Hesapla", .simge = "kaydet", .islev = [this] { Hesapla(); }},
             {.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır ", .simge = "yazici", .islev = [this] { Yazdir(); }},
             {.tus = Qt::Key_F9, .dugme = " Excel'e gönderim ", .simge = "tablo", .islev = [this] { ExceleGonder(); }},
-            {.tus = Qt::Key_F11, .dugme = " E-Bildirge Hazırla ", .simge = "indir", .islev = [this] { EBildirge(); }},
-            {.tus = Qt::Key_Escape, .ipucu = "Kapat", .islev = [this] {
-               if (bildirge_.BirakilsinMi()) Kapat();
-             }}});
+            {.tus = Qt::Key_F11, .dugme = " E-Bildirge Hazırla ", .simge = "indir", .islev = [this] { EBildirge(); }}});
   const auto acildi = bildirge_.Ac();
   for (const Kusur& kusur : acildi ? *acildi : Kusurlar{acildi.Kusuru()}) Bildir(kusur);
   SecenekleriKoy(Denetim(secim::belgeTuru), bildirge_.BelgeTurleri());

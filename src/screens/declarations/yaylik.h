@@ -21,6 +21,10 @@ class yaylik : public Form {
 
   const AylikBildirge& Bildirge() const { return bildirge_; }
 
+ protected:
+  // Edits are kept by no store: to leave is to give them up, by whatever key.
+  bool KendiligindenKaydet() override { return bildirge_.BirakilsinMi(); }
+
  private:
   QLabel* HataSatiri(const char* ad);
   QWidget* PrimTablosu();

@@ -333,15 +333,11 @@ void brdhazir::TopluHazirla() {
                             [this](Ilerleme& ilerleme) { return giris_.SablondanHazirla(&ilerleme); });
   if (!sonuc) return;
   if (*sonuc) {
-    Bildirimi().Bilgi("Bordro Hazırlık Tamamlandı");
+    const HazirlikSonucu& olan = **sonuc;
+    Bildirimi().Bilgi("Bordro Hazırlık Tamamlandı\n" + olan.Ozet());
     EkranBaglami& baglam = Baglam();  // the list comes up where this screen was
     Kapat();
-    const HazirlikSonucu& olan = **sonuc;
-    return KusurlariGoster(baglam, olan.sorunlar,
-                           QStringLiteral("%1 kişi kaydedildi, %2 kişi dönem dışı, %3 kişi netsiz")
-                               .arg(olan.kaydedilen)
-                               .arg(olan.donemDisi)
-                               .arg(olan.netsiz));
+    return KusurlariGoster(baglam, olan.sorunlar, Yazi(olan.Ozet()));
   }
   Bildir(sonuc->Kusuru());
   Goster();

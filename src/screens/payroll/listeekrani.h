@@ -47,6 +47,10 @@ class ListeEkrani : public ParametreEkrani {
     return dizi;
   }
   dclist& Liste() { return *liste_; }
+  // Rows that were taken out too.
+  bool Kaydedilmemis() const override {
+    return ParametreEkrani::Kaydedilmemis() || (liste_->ListCount() != int(oku_().size()));
+  }
 
  private:
   dclist* liste_;

@@ -47,7 +47,7 @@ void kontfrm::Doldur() {
   for (const KontrolSatiri& k : *kontrol->kisiler) {
     if (k.kod.empty() && !bulgular_.empty()) continue;  // says that nothing was found
     satirlar.push_back(k);
-    bulgular_.push_back({.metin = k.sonuc, .kod = k.kod});
+    bulgular_.push_back({.metin = k.sonuc, .alan = k.alan, .kod = k.kod});
   }
   ListeDoldur(*liste_, satirlar, [](const KontrolSatiri& k) { return std::array{k.kod, k.adsoy, k.sonuc}; });
 }

@@ -48,7 +48,7 @@ AlanGrubu BaskiGrubu() {
   return {"İbraname Baskısı",
           {{Uye("duzcerceve", &BaskiSecimi::duzCerceve),
             "Düz Çerçeve",
-            {.ipucu = "Metin baskıda çerçeve + - | ile çizilir: kutu harfi olmayan yazıcılar için"}}}};
+            {.kayitDisi = true, .ipucu = "Metin baskıda çerçeve + - | ile çizilir: kutu harfi olmayan yazıcılar için"}}}};
 }
 
 std::string CikisDili(std::string_view alan, const Deger& deger) {

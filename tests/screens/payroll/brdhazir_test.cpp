@@ -203,7 +203,7 @@ TEST(Brdhazir, MassPreparationAndDeletion) {
   o.Bas(Qt::Key_F8);
   o.Bas(Qt::Key_Down);
   o.Bas(Qt::Key_F8);
-  EXPECT_EQ(o.bildirim.Al(), Iletiler{"Bilgi: Bordro Hazırlık Tamamlandı"});
+  EXPECT_EQ(o.bildirim.Al(), Iletiler{"Bilgi: Bordro Hazırlık Tamamlandı\n2 kişi kaydedildi, 1 kişi dönem dışı, 0 kişi netsiz"});
   EXPECT_FALSE(form.isVisible());
   EXPECT_EQ(o.Kayitlar().size(), 2u);
 

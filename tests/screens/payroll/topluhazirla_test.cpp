@@ -82,7 +82,8 @@ TEST_F(TopluHazirlama, ADoubleClickIsOneRun) {
                        Puantaj(*form).mapTo(&alan, Puantaj(*form).rect().center()));
   });
   Puantaj(*form).click();
-  EXPECT_EQ(o.bildirim.Al(), Iletiler{"Bilgi: Bordro Hazırlık Tamamlandı"});
+  EXPECT_EQ(o.bildirim.Al(), Iletiler{"Bilgi: Bordro Hazırlık Tamamlandı\n" + std::to_string(KisiSayisi) +
+                                      " kişi kaydedildi, 0 kişi dönem dışı, 0 kişi netsiz"});
   EXPECT_EQ(Kayitlar(), std::size_t(KisiSayisi));
   QTest::qWait(10);
   EXPECT_EQ(form, nullptr) << "the screen has closed";
