@@ -84,7 +84,7 @@ bool EkranaYazilir(const std::string& bicim) {
 void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti) {
   komut.add_option("--bicim", cikti.bicim, "metin, csv, json, xlsx, pdf veya ham (metin yazıcısının baytları)")
       ->check(CLI::IsMember({"metin", "csv", "json", "xlsx", "pdf", "ham"}));
-  komut.add_option("-o", cikti.dosya, "yazılacak dosya (metin, csv ve json verilmezse ekrana)");
+  komut.add_option("-o", cikti.dosya, "yazılacak dosya (metin, csv ve json verilmezse ekrana; - standart çıktı)");
   komut.parse_complete_callback([&cikti] {
     if (cikti.dosya.empty() && !EkranaYazilir(cikti.bicim))
       throw CLI::ValidationError("--bicim", cikti.bicim + " ekrana yazılmaz, dosyasını veriniz: -o DOSYA");
@@ -92,7 +92,8 @@ void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti) {
 }
 
 void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti) {
-  Yaz(Cikti(belge, cikti.bicim), cikti.dosya);
+  const std::string icerik = Cikti(belge, cikti.bicim);
+  EkranaYazilir(cikti.bicim) ? Yaz(icerik, cikti.dosya) : BaytlariYaz(icerik, cikti.dosya);
 }
 
 }  // namespace belvani::cli

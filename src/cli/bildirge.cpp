@@ -4,6 +4,7 @@
 
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
+#include "core/adlar.h"
 #include "core/session/firmabilgi.h"
 #include "core/turkce.h"
 #include "declarations/aylikbildirge.h"
@@ -34,7 +35,7 @@ class Cevaplayan : public StandartHata {
   explicit Cevaplayan(bool evet) : evet_(evet) {}
   bool Soru(std::string_view metin) override {
     if (!evet_) return StandartHata::Soru(metin);
-    std::cerr << metin << " (evet)\n";
+    std::cerr << TerminalMetni(metin) << " (evet)\n";
     return true;
   }
 
@@ -180,7 +181,7 @@ struct Is {
   }
   void Ver(const std::string& icerik, const std::string& uyari) const {
     if (!uyari.empty()) bildirim.Uyari(uyari);
-    cli::Yaz(icerik, dosya);
+    BaytlariYaz(icerik, dosya);
   }
 };
 
@@ -190,14 +191,14 @@ void JsonYaz(const Is& is) {
 
 void XmlDosyasi(const Is& is) {
   Olmali(is.bildirge.XmlKosullari(), Yazilmadi);
-  if (!is.dosya.empty()) {
+  if (!is.dosya.empty() && is.dosya != "-") {
     if (Olmali(is.bildirge.XmlYaz(is.dosya), Yazilmadi) == AylikBildirge::Karar::Vazgecildi)
       throw KomutHatasi{Yazilmadi};
     return;
   }
   const auto icerik = Olmali(is.bildirge.XmlHazirla(), Yazilmadi);
   if (!icerik) throw KomutHatasi{Yazilmadi};
-  Yaz(*icerik);
+  Yaz(*icerik, is.dosya);
 }
 
 void PdfDosyasi(const Is& is) {
@@ -217,7 +218,7 @@ void ExcelDosyasi(const Is& is) {
   is.KagitKosullari(AylikBildirge::Cikti::Tablo);
   auto sablon = TabloSablonu(is.oturum);
   auto tablo = BildirgeTablosuYap(std::move(Degeri(sablon)), is.Kagit());
-  Yaz(Degeri(tablo), is.dosya);
+  BaytlariYaz(Degeri(tablo), is.dosya);
 }
 
 enum class Ekran { Olur, Olmaz };
@@ -278,7 +279,7 @@ void BildirgeKomutu(CLI::App& app, Genel& genel) {
   for (const Bicim& bicim : bicimler) adlar.emplace_back(bicim.ad);
   komut->add_option("--bicim", s->bicim, "json, xml (e-bildirge dosyası), pdf, xlsx veya metin (matbu evrak)")
       ->check(CLI::IsMember(adlar));
-  komut->add_option("-o", s->dosya, "yazılacak dosya (pdf ve xlsx dışında verilmezse ekrana)");
+  komut->add_option("-o", s->dosya, "yazılacak dosya (pdf ve xlsx dışında verilmezse ekrana; - standart çıktı)");
   komut->add_option("--haric", s->haric, "bu SSK sicil numaralı kişiyi bildirgeden çıkarır")->type_name("NO");
   komut->add_flag("--evet", s->evet, "sorulan sorulara evet der");
   komut->parse_complete_callback([s] { DosyayiIste(*s); });

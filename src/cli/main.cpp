@@ -1,8 +1,12 @@
 // belvani-cli: the program without its windows. Exit status 0; 1 when a command fails, with the reason on standard
 // error; 2 when it was called wrongly.
+#include <csignal>
 #include <iostream>
+#include <new>
+#include <sstream>
 
 #include "cli/ortak.h"
+#include "core/adlar.h"
 #include "core/session/oturum.h"
 
 namespace belvani::cli {
@@ -53,8 +57,20 @@ std::string KullanimKusuru(const CLI::ParseError& h) {
 }
 
 int YanlisKullanimiBildir(const std::string& kusur) {
-  std::cerr << "Yanlış kullanım: " << kusur << "\nYardım için: belvani-cli --help, belvani-cli KOMUT --help\n";
+  std::cerr << "Yanlış kullanım: " << TerminalMetni(kusur)
+            << "\nYardım için: belvani-cli --help, belvani-cli KOMUT --help\n";
   return YanlisKullanim;
+}
+
+int Yurut(CLI::App& app, int argc, char** argv) try {
+  app.parse(argc, argv);
+  return app.get_subcommands().empty() ? YanlisKullanimiBildir("komut verilmemiş") : 0;
+} catch (const CLI::ParseError& h) {
+  if (h.get_exit_code() != 0) return YanlisKullanimiBildir(KullanimKusuru(h));
+  std::ostringstream yardim;  // or the version
+  app.exit(h, yardim, yardim);
+  Yaz(yardim.str());
+  return 0;
 }
 
 int Calistir(int argc, char** argv) {
@@ -73,20 +89,13 @@ int Calistir(int argc, char** argv) {
     komut->get_help_ptr()->group("Seçenekler");
   }
   try {
-    app.parse(argc, argv);
-    if (app.get_subcommands().empty()) return YanlisKullanimiBildir("komut verilmemiş");
-    std::cout.flush();
-    if (std::cout) return 0;
-    std::cerr << "Çıktı yazılamadı\n";
-    return Basarisiz;
-  } catch (const CLI::ParseError& h) {
-    if (h.get_exit_code() == 0) return app.exit(h);
-    return YanlisKullanimiBildir(KullanimKusuru(h));
+    return Yurut(app, argc, argv);
   } catch (const KomutHatasi& h) {
-    std::cout.flush();
-    std::cerr << h.metin << '\n';
+    std::cerr << TerminalMetni(h.metin) << '\n';
+  } catch (const std::bad_alloc&) {
+    std::cerr << "Bellek yetmedi\n";
   } catch (const std::exception& h) {
-    std::cerr << "Beklenmeyen hata: " << h.what() << '\n';
+    std::cerr << TerminalMetni(std::string("Beklenmeyen hata: ") + h.what()) << '\n';
   }
   return Basarisiz;
 }
@@ -96,5 +105,6 @@ int Calistir(int argc, char** argv) {
 
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
+  std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is told, not died of
   return belvani::cli::Calistir(argc, argv);
 }

@@ -1,28 +1,31 @@
 #include "cli/ortak.h"
 
 #include <iostream>
-#include <iterator>
 
+#include "core/adlar.h"
 #include "core/ayarlar.h"
 #include "core/dosya.h"
+#include "core/gecici.h"
+#include "core/kaynak.h"
 #include "core/sayi.h"
 #include "documents/secimalanlari.h"
 
 namespace belvani::cli {
 void StandartHata::Bilgi(std::string_view metin) {
-  std::cerr << metin << '\n';
+  std::cerr << TerminalMetni(metin) << '\n';
 }
 void StandartHata::Uyari(std::string_view metin) {
-  std::cerr << metin << '\n';
+  std::cerr << TerminalMetni(metin) << '\n';
 }
 bool StandartHata::Soru(std::string_view metin) {
-  std::cerr << metin << " (hayır)\n";
+  std::cerr << TerminalMetni(metin) << " (hayır)\n";
   return false;
 }
 
 std::string Genel::DataPath() {
   const std::string yol = veri.empty() ? MakineAyari("DataPath") : veri;
   if (yol.empty()) throw KomutHatasi{"Data Dizini belli değil: --veri DIZIN veriniz"};
+  GecicileriSupur(yol);
   return DizinSonu(yol);
 }
 
@@ -83,18 +86,32 @@ void SatirKusurlariylaBitir(std::string baslik, const Kusurlar& kusurlar) {
 }
 
 std::string DosyayiOku(const std::string& yol) {
-  auto icerik = DosyaOku(yol);
-  if (!icerik) throw KomutHatasi{"Dosya okunamadı: " + yol};
-  return std::move(*icerik);
+  auto icerik = KaynakOku(yol);
+  return std::move(Degeri(icerik));
 }
 
 std::string GirdiyiOku() {
-  return std::string(std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>());
+  auto icerik = StandartGirdiOku();
+  return std::move(Degeri(icerik));
+}
+
+HedefDosya HedefAc(const std::string& dosya) {
+  if (dosya.empty() || dosya == "-") return HedefDosya::StandartCikti();
+  auto hedef = HedefDosya::Ac(dosya);
+  return std::move(Degeri(hedef));
 }
 
 void Yaz(const std::string& metin, const std::string& dosya) {
-  if (!dosya.empty()) return Basarmali(DosyaYaz(dosya, metin));
-  std::cout << metin;
+  HedefDosya hedef = HedefAc(dosya);
+  Basarmali(hedef.Ekle(hedef.Terminal() ? TerminalMetni(metin) : metin));
+  Basarmali(hedef.Bitir());
+}
+
+void BaytlariYaz(const std::string& baytlar, const std::string& dosya) {
+  HedefDosya hedef = HedefAc(dosya);
+  if (hedef.Terminal()) throw KomutHatasi{"Bu biçim terminale yazılmaz, bir dosya veriniz: -o DOSYA"};
+  Basarmali(hedef.Ekle(baytlar));
+  Basarmali(hedef.Bitir());
 }
 
 }  // namespace belvani::cli

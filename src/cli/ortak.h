@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "core/hedef.h"
 #include "core/session/oturum.h"
 #include "core/sonuc.h"
 #include "payroll/parametre/mevzuatkumesi.h"
@@ -71,7 +72,11 @@ void SatirKusurlariylaBitir(std::string baslik, const Kusurlar& kusurlar);
 std::string DosyayiOku(const std::string& yol);  // or KomutHatasi
 std::string GirdiyiOku();                        // standard input to its end
 
-// To standard output, or whole into the file when one is named.
+// Standard output for "" and "-", else the file of that name (core/hedef.h).
+HedefDosya HedefAc(const std::string& dosya);
+// Text; a terminal gets no letter that would command it.
 void Yaz(const std::string& metin, const std::string& dosya = {});
+// What no terminal can show (pictures, workbooks, bytes for a printer), and none gets.
+void BaytlariYaz(const std::string& baytlar, const std::string& dosya);
 
 }  // namespace belvani::cli

@@ -14,4 +14,8 @@ std::string BirlesikHarfli(std::string_view metin);
 // blanks other than " ".
 bool GorunmezHarfVar(std::string_view metin);
 
+// For a terminal: each letter that would command it or that nobody sees, and each broken byte, as "�"; tabs, line ends
+// and form feeds stay.
+std::string TerminalMetni(std::string_view metin);
+
 }  // namespace belvani

@@ -8,6 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "core/gecici.h"
+#include "core/tutamak.h"
 #include "core/yarimdizin.h"
 
 namespace belvani {
@@ -17,77 +19,26 @@ namespace fs = std::filesystem;
 
 constexpr mode_t SahibineVeGruba = 0660;
 
-// The message of a failed system call, in Turkish where the user can do something about it.
-std::string SistemHatasi(int kod) {
-  switch (kod) {
-    case ENOSPC:
-    case EDQUOT:
-      return "disk dolu";
-    case EACCES:
-    case EPERM:
-      return "yazma izni yok";
-    case EROFS:
-      return "disk salt okunur";
-    case ENOENT:
-      return "dizin bulunamadı";
-    case EISDIR:
-      return "bu adda bir dizin var";
-    case EEXIST:
-      return "bu adda bir dosya var";
-    case ENOTDIR:
-      return "yoldaki bir ad dizin değil";
-    case EFBIG:
-      return "dosya çok büyük";
-    case ENAMETOOLONG:
-      return "ad çok uzun";
-    case EIO:
-      return "disk hatası";
-    default:
-      return "sistem hatası " + std::to_string(kod);
-  }
-}
-
-Kusur DosyaHatasi(const std::string& yol, const char* ne, int kod) {
-  return Kusur{yol + ": " + ne + " (" + SistemHatasi(kod) + ")"};
-}
-
-class DosyaTutamagi {
- public:
-  explicit DosyaTutamagi(int no) : no_(no) {}
-  ~DosyaTutamagi() { Kapat(); }
-  DosyaTutamagi(const DosyaTutamagi&) = delete;
-  DosyaTutamagi& operator=(const DosyaTutamagi&) = delete;
-
-  int No() const { return no_; }
-  bool Kapat() {
-    const bool tamam = no_ < 0 || ::close(no_) == 0;
-    no_ = -1;
-    return tamam;
-  }
-
- private:
-  int no_;
-};
-
-bool HepsiniYaz(int no, std::string_view icerik) {
-  while (!icerik.empty()) {
-    const ssize_t n = ::write(no, icerik.data(), icerik.size());
-    if (n < 0 && errno == EINTR) continue;
-    if (n <= 0) return false;
-    icerik.remove_prefix(std::size_t(n));
-  }
-  return true;
-}
-
-// A new file with this content, on the disk; 0 or the number of the failure, which leaves no file.
-int YeniDosya(std::string& ad, std::string_view icerik) {
-  DosyaTutamagi dosya(::mkostemp(ad.data(), O_CLOEXEC));
-  if (dosya.No() < 0) return errno;
+// A new file beside `hedef` with this content, on the disk; 0 or the number of the failure, which leaves no file.
+int YeniDosya(const std::string& hedef, std::string& gecici, std::string_view icerik) {
+  DosyaTutamagi dosya = GeciciAc(hedef, gecici);
+  if (!dosya.Acik()) return errno;
   if (::fchmod(dosya.No(), SahibineVeGruba) == 0 && HepsiniYaz(dosya.No(), icerik) && ::fsync(dosya.No()) == 0 &&
       dosya.Kapat())
     return 0;
   const int kod = errno;
-  ::unlink(ad.c_str());
+  ::unlink(gecici.c_str());
+  return kod;
+}
+
+// 0 or the number of the failure, which leaves the old file as it was.
+int YerineYaz(const std::string& hedef, std::string_view icerik) {
+  std::string gecici;
+  int kod = YeniDosya(hedef, gecici, icerik);
+  if (kod == 0 && ::rename(gecici.c_str(), hedef.c_str()) != 0) {
+    kod = errno;
+    ::unlink(gecici.c_str());
+  }
   return kod;
 }
 
@@ -106,10 +57,8 @@ Durum YarimKumeYaz(const std::string& dizin, const std::string& yarim, const std
   for (const AdliDosya& dosya : dosyalar) {
     const std::string hedef = dizin + dosya.ad;
     if (DizinVar(hedef)) return DosyaHatasi(hedef, "dosya yazılamadı", EISDIR);
-    std::string gecici = yarim + "/XXXXXX";
-    int kod = YeniDosya(gecici, dosya.baytlar);
-    if (kod == 0 && ::rename(gecici.c_str(), (yarim + "/" + dosya.ad).c_str()) != 0) kod = errno;
-    if (kod != 0) return DosyaHatasi(hedef, "dosya yazılamadı", kod);
+    if (const int kod = YerineYaz(yarim + "/" + dosya.ad, dosya.baytlar); kod != 0)
+      return DosyaHatasi(hedef, "dosya yazılamadı", kod);
   }
   DiziniDiskeIndir(yarim);
   return Tamam();
@@ -154,13 +103,7 @@ std::optional<std::string> DosyaOku(const std::string& yol, std::size_t enCokBay
 }
 
 Durum DosyaYaz(const std::string& yol, std::string_view icerik) {
-  std::string gecici = yol + ".XXXXXX";
-  int kod = YeniDosya(gecici, icerik);
-  if (kod == 0 && ::rename(gecici.c_str(), yol.c_str()) != 0) {
-    kod = errno;
-    ::unlink(gecici.c_str());
-  }
-  if (kod != 0) return DosyaHatasi(yol, "dosya yazılamadı", kod);
+  if (const int kod = YerineYaz(yol, icerik); kod != 0) return DosyaHatasi(yol, "dosya yazılamadı", kod);
   DiziniDiskeIndir(fs::path(yol).parent_path());
   return Tamam();
 }

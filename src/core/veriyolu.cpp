@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include "core/dosya.h"
+#include "core/gecici.h"
 #include "core/yarimdizin.h"
 
 namespace belvani {
@@ -43,9 +44,13 @@ class DizinMakinesi final : public VeriMakinesi {
   }
   Durum Yaz(std::string_view ad, std::string_view baytlar) const override {
     if (auto durum = BekleyenleriYerlestir(dizin_); !durum) return durum;
+    GecicileriSupur(dizin_);
     return DosyaYaz(Adres(ad), baytlar);
   }
-  Durum YazHepsi(const std::vector<AdliDosya>& dosyalar) const override { return DosyalariYaz(dizin_, dosyalar); }
+  Durum YazHepsi(const std::vector<AdliDosya>& dosyalar) const override {
+    GecicileriSupur(dizin_);
+    return DosyalariYaz(dizin_, dosyalar);
+  }
   Durum Sil(std::string_view ad) const override {
     if (auto durum = BekleyenleriYerlestir(dizin_); !durum) return durum;
     return Kaldir(Adres(ad), "silinemedi: ");

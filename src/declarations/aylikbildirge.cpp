@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <tuple>
 
-#include "core/dosya.h"
+#include "core/hedef.h"
 #include "core/sayi.h"
 #include "core/session/aracibilgi.h"
 #include "core/store/koru.h"
@@ -291,7 +291,7 @@ Sonuc<AylikBildirge::Karar> AylikBildirge::XmlYaz(const std::string& dosya, cons
   const auto icerik = XmlHazirla(yurut);
   if (!icerik) return icerik.Kusuru();
   if (!*icerik) return Karar::Vazgecildi;
-  if (const Durum yazildi = DosyaYaz(dosya, **icerik); !yazildi)
+  if (const Durum yazildi = HedefeYaz(dosya, **icerik); !yazildi)
     return Kusur{"Verilen Dosya Adı Hatalı. (Örnek: c:\\bordro112003.xml)\n" + yazildi.KusurMetni()};
   bildirim_.Bilgi("XML Dosya Hazırlandı");
   return Karar::Devam;

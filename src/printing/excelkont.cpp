@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "core/dosya.h"
+#include "core/hedef.h"
 #include "core/turkce.h"
 #include "printing/xlscevir.h"
 #include "printing/xlsxkitap.h"
@@ -134,7 +135,7 @@ Sonuc<std::string> excelkont::Kitap() {
 }
 
 Durum excelkont::KitapYaz(const std::string& yol, const std::string& baytlar) {
-  const Durum yazildi = DosyaYaz(yol, baytlar);
+  const Durum yazildi = HedefeYaz(yol, baytlar);
   if (yazildi) dosya_ = yol;
   return yazildi;
 }

@@ -5,7 +5,7 @@
 #include <QStandardPaths>
 #include <QStatusBar>
 
-#include "core/dosya.h"
+#include "core/hedef.h"
 #include "printing/excelkont.h"
 #include "printing/yazdir.h"
 #include "ui/metin.h"
@@ -63,7 +63,7 @@ void YeriniYaz(EkranBaglami& baglam, const std::string& yol) {
 
 // True when the file is written; else it was told why not.
 bool Kaydet(EkranBaglami& baglam, const std::string& yol, std::string_view baytlar) {
-  if (const Durum yazildi = DosyaYaz(yol, baytlar); !yazildi) {
+  if (const Durum yazildi = HedefeYaz(yol, baytlar); !yazildi) {
     baglam.bildirim.Uyari(yazildi.KusurMetni());
     return false;
   }

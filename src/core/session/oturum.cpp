@@ -5,6 +5,7 @@
 
 #include "core/ayarlar.h"
 #include "core/dosya.h"
+#include "core/gecici.h"
 #include "core/sayi.h"
 #include "core/session/firmabilgi.h"
 #include "core/session/kullanicilar.h"
@@ -66,6 +67,7 @@ Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim) {
   }
   o.FirmaKod = *ad;
   o.FirmaDizini = yer.Adres();
+  for (const std::string& dizin : {o.DataPath, o.FirmaDizini}) GecicileriSupur(dizin);
   o.SonKisi.clear();
   return Tamam();
 }
