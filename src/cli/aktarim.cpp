@@ -1,7 +1,7 @@
 // personel-al, aile-al, tanim-al
 #include "personnel/aktarim.h"
 
-#include "cli/ortak.h"
+#include "cli/sorunlar.h"
 
 namespace belvani::cli {
 namespace {
@@ -9,15 +9,24 @@ namespace {
 struct AktarimSecenekleri {
   std::string kod, tablo, dosya;
   bool dene = false;
+  OndalikImi ondalik = OndalikImi::Belirsiz;
+  SorunListesi sorunlar;
 
   AktarimKipi Kip() const { return dene ? AktarimKipi::YalnizDene : AktarimKipi::Kaydet; }
 };
 
-void SonucuYaz(Genel& genel, const AktarimSecenekleri& s, Sonuc<AktarimSonucu> sonuc) {
+// `aktar` is given the session, the file and whether to save.
+template <class Aktar>
+void Al(Genel& genel, const AktarimSecenekleri& s, Aktar aktar) {
+  const auto o = genel.SirketAc(s.kod);
+  const std::string icerik = DosyayiOku(s.dosya);
+  const Sonuc<AktarimSonucu> sonuc = aktar(*o, AktarilanCsv(icerik, s.ondalik), s.Kip());
   if (!sonuc) throw KomutHatasi{s.dosya + ": " + sonuc.KusurMetni()};
-  SatirKusurlariylaBitir(s.dosya + ": hiçbir kayıt alınmadı", sonuc->sorunlar);
+  s.sorunlar.SatirKusurlariylaBitir(s.dosya + ": hiçbir kayıt alınmadı", sonuc->sorunlar);
+  std::vector<std::string> uyarilar;
   for (const Kusur& u : sonuc->uyarilar)
-    genel.bildirim.Uyari("Uyarı: satır " + std::to_string(u.satir) + ", " + u.kod + ": " + u.metin);
+    uyarilar.push_back("Uyarı: satır " + std::to_string(u.satir) + ", " + u.kod + ": " + u.metin);
+  s.sorunlar.Soyle(genel.bildirim, uyarilar);
   Yaz(std::to_string(sonuc->eklenen) + " kayıt eklendi, " + std::to_string(sonuc->degisen) + " kayıt değişti" +
       (s.dene ? " (deneme, kaydedilmedi)" : "") + "\n");
 }
@@ -29,8 +38,11 @@ CLI::App* Komut(CLI::App& app, const char* ad, const char* aciklama, AktarimSece
 }
 
 void Dosya(CLI::App& komut, AktarimSecenekleri& s) {
-  komut.add_option("DOSYA", s.dosya, "UTF-8 CSV; ilk satır alan adları, tarihler gg.aa.yyyy")->required();
+  komut.add_option("DOSYA", s.dosya, "CSV (UTF-8 veya Windows-1254); ilk satır alan adları, tarihler gg.aa.yyyy")
+      ->required();
   komut.add_flag("--dene", s.dene, "yalnız denetler, kaydetmez");
+  OndalikSecenegi(komut, s.ondalik);
+  s.sorunlar.SecenekEkle(komut);
 }
 
 }  // namespace
@@ -39,21 +51,20 @@ void AktarimKomutlari(CLI::App& app, Genel& genel) {
   auto p = std::make_shared<AktarimSecenekleri>();
   auto* personel = Komut(app, "personel-al", "Personel ve kimlik bilgilerini (sicil, kimlik) dosyadan alır", *p);
   Dosya(*personel, *p);
-  personel->callback(
-      [&genel, p] { SonucuYaz(genel, *p, PersonelAktar(*genel.SirketAc(p->kod), DosyayiOku(p->dosya), p->Kip())); });
+  personel->callback([&genel, p] { Al(genel, *p, PersonelAktar); });
 
   auto a = std::make_shared<AktarimSecenekleri>();
   auto* aile = Komut(app, "aile-al", "Eş ve çocukları (esco) alır; dosyadaki kişilerin eski kayıtları silinir", *a);
   Dosya(*aile, *a);
-  aile->callback(
-      [&genel, a] { SonucuYaz(genel, *a, AileAktar(*genel.SirketAc(a->kod), DosyayiOku(a->dosya), a->Kip())); });
+  aile->callback([&genel, a] { Al(genel, *a, AileAktar); });
 
   auto t = std::make_shared<AktarimSecenekleri>();
   auto* tanim = Komut(app, "tanim-al", "Şirketin tanımlarını alır: firma, muaf, indir, sendika veya kaztan", *t);
   tanim->add_option("TABLO", t->tablo, "tablonun adı")->required();
   Dosya(*tanim, *t);
   tanim->callback([&genel, t] {
-    SonucuYaz(genel, *t, TanimAktar(*genel.SirketAc(t->kod), t->tablo, DosyayiOku(t->dosya), t->Kip()));
+    Al(genel, *t,
+       [t](Oturum& o, const AktarilanCsv& csv, AktarimKipi kip) { return TanimAktar(o, t->tablo, csv, kip); });
   });
 }
 

@@ -4,6 +4,7 @@
 
 #include "cli/ortak.h"
 #include "core/csv.h"
+#include "core/tables/hucre.h"
 #include "core/tables/uye.h"
 #include "core/turkce.h"
 #include "payroll/hesap/satirlar.h"
@@ -29,9 +30,10 @@ bool BosBirakilir(const AlanTanimi& alan) {
   return OranTanimi(alan.ad) != nullptr || alan.ad == brd::ucretsizizin.ad;
 }
 
-void HucreIsle(const AlanTanimi& alan, const std::string& metin, GirisSatiri& giris, std::string& kusur) {
+void HucreIsle(const AlanTanimi& alan, const std::string& metin, OndalikImi ondalik, GirisSatiri& giris,
+               std::string& kusur) {
   if (BosBirakilir(alan) && Kirp(metin).empty()) return;
-  const Deger deger = MetindenDeger(alan, metin, kusur);
+  const Deger deger = HucredenDeger(alan, metin, ondalik, kusur);
   if (alan.ad == brd::eksiksebebi.ad && kusur.empty() && EksikSebepSec(int(TamDegeri(deger))) < 0)
     kusur = "eksik gün sebebi listede yok";
   if (!kusur.empty()) return;
@@ -51,9 +53,9 @@ const AlanTanimi* GirisAlani(std::string_view ad) {
   return Ara(digerleri, ad);
 }
 
-std::vector<GirisSatiri> GirisListesiOku(const std::string& csv, const std::string& dosyaAdi) {
-  auto okunan = CsvOku(csv);
-  if (!okunan) throw KomutHatasi{dosyaAdi + ": " + okunan.KusurMetni()};
+std::vector<GirisSatiri> GirisListesiOku(const GirisDosyasi& dosya, const SorunListesi& sorunlar) {
+  auto okunan = CsvOku(DosyayiOku(dosya.ad));
+  if (!okunan) throw KomutHatasi{dosya.ad + ": " + okunan.KusurMetni()};
   Kusurlar kusurlar;
   const auto kusurYaz = [&](int satir, const std::string& kolon, const std::string& neden) {
     kusurlar.push_back({.metin = kolon + ": " + neden, .satir = satir});
@@ -73,13 +75,13 @@ std::vector<GirisSatiri> GirisListesiOku(const std::string& csv, const std::stri
       if (basliklar[i] == "kod")
         giris.kod = Kirp(satir.hucreler[i]);
       else if (const AlanTanimi* alan = GirisAlani(basliklar[i]))
-        HucreIsle(*alan, satir.hucreler[i], giris, kusur);
+        HucreIsle(*alan, satir.hucreler[i], dosya.ondalik, giris, kusur);
       if (!kusur.empty()) kusurYaz(satir.satirNo, basliklar[i], kusur);
     }
     if (giris.kod.empty()) kusurYaz(satir.satirNo, "kod", "boş bırakılamaz");
     girisler.push_back(std::move(giris));
   }
-  SatirKusurlariylaBitir(dosyaAdi + ": hiçbir bordro kaydedilmedi", kusurlar);
+  sorunlar.SatirKusurlariylaBitir(dosya.ad + ": hiçbir bordro kaydedilmedi", kusurlar);
   return girisler;
 }
 

@@ -10,8 +10,10 @@ namespace belvani::cli {
 namespace {
 
 struct HazirlaSecenekleri {
-  std::string kod, giris;
+  std::string kod;
+  GirisDosyasi giris;
   Donem donem;
+  SorunListesi sorunlar;
 };
 
 // On a terminal alone; a log file stays clean.
@@ -35,13 +37,15 @@ void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
   auto kosullar = KosullariYukle(*o, Degeri(yasal), s.donem.yil, s.donem.ay);
   Degeri(kosullar);
   MevzuatUyarisi(genel, mevzuat, s.donem);
-  const auto girisler = s.giris.empty() ? std::vector<GirisSatiri>() : GirisListesiOku(DosyayiOku(s.giris), s.giris);
+  const auto girisler = s.giris.ad.empty() ? std::vector<GirisSatiri>() : GirisListesiOku(s.giris, s.sorunlar);
   TerminalIlerlemesi ilerleme;
   auto sonuc = TopluHazirla(*o, *kosullar, girisler, &ilerleme);
+  std::vector<std::string> sorunlar;
   for (const Kusur& sorun : Degeri(sonuc).sorunlar)
-    genel.bildirim.Uyari((sorun.derece == Derece::Hata ? "Hata: " : "Uyarı: ") +
-                         (sorun.kod.empty() ? "" : sorun.kod + ": ") +
-                         (sorun.satir == 0 ? "" : "satır " + std::to_string(sorun.satir) + ": ") + sorun.metin);
+    sorunlar.push_back((sorun.derece == Derece::Hata ? "Hata: " : "Uyarı: ") +
+                       (sorun.kod.empty() ? "" : sorun.kod + ": ") +
+                       (sorun.satir == 0 ? "" : "satır " + std::to_string(sorun.satir) + ": ") + sorun.metin);
+  s.sorunlar.Soyle(genel.bildirim, sorunlar);
   if (!sonuc->kaydedildi) throw KomutHatasi{"Bordro kaydedilmedi: girişlerde hata var"};
   Yaz("Bordro Hazırlık Tamamlandı: " + sonuc->Ozet() + "\n");
 }
@@ -61,10 +65,12 @@ void HazirlaKomutlari(CLI::App& app, Genel& genel) {
   hazirla->add_option("KOD", h->kod, "şirket")->required();
   DonemSecenekleri(*hazirla, h->donem);
   hazirla->add_option(
-      "--giris", h->giris,
+      "--giris", h->giris.ad,
       "giriş listesi (CSV): kod, gün ve saat alanları, yrd01…yrd11, eksiksebebi, ucretsizizin, "
       "rapcalismadi, borckes, sskiscior, sskisverenor, issiziscior, issizisverenor, damgaveror; listede "
       "olmayan kişi ve sütun şablondan");
+  OndalikSecenegi(*hazirla, h->giris.ondalik);
+  h->sorunlar.SecenekEkle(*hazirla);
   hazirla->callback([&genel, h] { Hazirla(genel, *h); });
 
   auto s = std::make_shared<HazirlaSecenekleri>();

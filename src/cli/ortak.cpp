@@ -80,9 +80,14 @@ void Basarmali(const Durum& durum) {
   if (!durum) throw KomutHatasi{durum.KusurMetni()};
 }
 
-void SatirKusurlariylaBitir(std::string baslik, const Kusurlar& kusurlar) {
-  for (const Kusur& kusur : kusurlar) baslik += "\n  satır " + std::to_string(kusur.satir) + ", " + kusur.metin;
-  if (!kusurlar.empty()) throw KomutHatasi{std::move(baslik)};
+void OndalikSecenegi(CLI::App& komut, OndalikImi& im) {
+  const auto oku = [&im](const std::string& ad) { im = ad == "nokta" ? OndalikImi::Nokta : OndalikImi::Virgul; };
+  komut
+      .add_option_function<std::string>("--ondalik", oku,
+                                        "sayıların ondalık işareti: nokta veya virgul (1.250 gibi iki türlü okunan "
+                                        "sayılar için)")
+      ->check(CLI::IsMember({"nokta", "virgul"}))
+      ->type_name("METİN");
 }
 
 std::string DosyayiOku(const std::string& yol) {

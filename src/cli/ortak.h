@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/hedef.h"
+#include "core/okunus.h"
 #include "core/session/oturum.h"
 #include "core/sonuc.h"
 #include "payroll/parametre/mevzuatkumesi.h"
@@ -66,8 +67,8 @@ T& Degeri(Sonuc<T>& sonuc) {
   return *sonuc;
 }
 void Basarmali(const Durum& durum);
-// What a file has wrong ends the command, under `baslik` in one line each: "satır 3, girtar: boş bırakılamaz".
-void SatirKusurlariylaBitir(std::string baslik, const Kusurlar& kusurlar);
+// --ondalik: what the decimal mark of a file is, where that cannot be seen from its numbers.
+void OndalikSecenegi(CLI::App& komut, OndalikImi& im);
 
 std::string DosyayiOku(const std::string& yol);  // or KomutHatasi
 std::string GirdiyiOku();                        // standard input to its end

@@ -1,13 +1,18 @@
 #include "core/csv.h"
 
 #include <algorithm>
+#include <set>
 
+#include "core/sayi.h"
 #include "core/turkce.h"
 
 namespace belvani {
 namespace {
 
 constexpr std::string_view Utf8Imi = "\xEF\xBB\xBF";
+constexpr std::size_t EnCokSutun = 1'000;
+constexpr std::size_t EnCokSatir = 1'048'576;  // of a sheet
+constexpr std::size_t EnCokHucre = 20'000'000;
 
 char AyracBul(std::string_view metin) {
   const std::string_view ilk = metin.substr(0, metin.find('\n'));
@@ -62,29 +67,80 @@ bool BosMu(const CsvSatiri& satir) {
 }
 
 std::string BaslikKusuru(const std::vector<std::string>& basliklar) {
+  std::set<std::string_view> gorulen;
   for (std::size_t i = 0; i < basliklar.size(); ++i) {
     if (basliklar[i].empty()) return std::to_string(i + 1) + ". sütunun başlığı yok";
-    if (std::count(basliklar.begin(), basliklar.end(), basliklar[i]) > 1) return "başlık iki kez var: " + basliklar[i];
+    if (!gorulen.insert(basliklar[i]).second) return "başlık iki kez var: " + basliklar[i];
   }
   return {};
 }
 
+// The file as UTF-8; what is no UTF-8 is of the code page in which Turkish spreadsheets save, or no text.
+Sonuc<std::string> Utf8Metin(std::string_view baytlar) {
+  if (baytlar.find('\0') != std::string_view::npos) return Kusur{"dosya bir metin dosyası değil"};
+  if (baytlar.starts_with(Utf8Imi)) {
+    baytlar.remove_prefix(Utf8Imi.size());
+    if (!GecerliUtf8(baytlar)) return Kusur{"dosya UTF-8 değil"};
+  }
+  if (GecerliUtf8(baytlar)) return std::string(baytlar);
+  // Bytes to which the code page gives no letter.
+  if (baytlar.find_first_of("\x81\x8D\x8E\x8F\x90\x9D\x9E") != std::string_view::npos)
+    return Kusur{"dosya ne UTF-8 ne de Windows-1254"};
+  return KodSayfasindan(baytlar, KodSayfasi::Windows1254);
+}
+
+// Cut at what programs may take for the end of a field.
+template <class Cevir>
+std::string HerAlan(std::string_view metin, Cevir cevir) {
+  std::string sonuc;
+  while (true) {
+    const auto ayrac = metin.find(';');
+    sonuc += cevir(metin.substr(0, ayrac));
+    if (ayrac == std::string_view::npos) return sonuc;
+    sonuc += ';';
+    metin.remove_prefix(ayrac + 1);
+  }
+}
+
+// Also behind apostrophes: what a text of ours has itself must be told from what was put before it.
+bool FormulGibi(std::string_view alan) {
+  alan.remove_prefix(std::min(alan.find_first_not_of('\''), alan.size()));
+  const auto ilk = alan.find_first_not_of(' ');
+  return ilk != std::string_view::npos && std::string_view("=+-@").find(alan[ilk]) != std::string_view::npos &&
+         !SayiOku(alan);
+}
+
 }  // namespace
 
-Sonuc<CsvTablosu> CsvOku(std::string_view metin) {
-  if (metin.substr(0, Utf8Imi.size()) == Utf8Imi) metin.remove_prefix(Utf8Imi.size());
-  if (!GecerliUtf8(metin)) return Kusur{"dosya UTF-8 değil"};
-  if (metin.find('\0') != std::string_view::npos) return Kusur{"dosya bir metin dosyası değil"};
-  Okuyucu okuyucu(metin, AyracBul(metin));
+std::string CsvKorumali(std::string_view metin) {
+  return HerAlan(metin, [](std::string_view alan) { return (FormulGibi(alan) ? "'" : "") + std::string(alan); });
+}
+
+std::string CsvKorumasiz(std::string_view metin) {
+  return HerAlan(metin, [](std::string_view alan) {
+    return std::string(alan.substr(alan.starts_with('\'') && FormulGibi(alan) ? 1 : 0));
+  });
+}
+
+Sonuc<CsvTablosu> CsvOku(std::string_view baytlar) {
+  const auto metin = Utf8Metin(baytlar);
+  if (!metin) return metin.Kusuru();
+  Okuyucu okuyucu(*metin, AyracBul(*metin));
   CsvTablosu tablo;
   for (const auto& baslik : okuyucu.Satir().hucreler) tablo.basliklar.emplace_back(Kirp(baslik));
+  const std::size_t sutun = tablo.basliklar.size();
+  if (sutun > EnCokSutun) return Kusur{"satır 1: en çok " + std::to_string(EnCokSutun) + " sütun olabilir"};
   if (const std::string kusur = BaslikKusuru(tablo.basliklar); !kusur.empty()) return Kusur{"satır 1: " + kusur};
   while (!okuyucu.Bitti()) {
     CsvSatiri satir = okuyucu.Satir();
     if (BosMu(satir)) continue;
-    if (satir.hucreler.size() > tablo.basliklar.size())
+    if (satir.hucreler.size() > sutun)
       return Kusur{"satır " + std::to_string(satir.satirNo) + ": başlıklardan çok alan var"};
-    satir.hucreler.resize(tablo.basliklar.size());
+    if (tablo.satirlar.size() == EnCokSatir || (tablo.satirlar.size() + 1) * sutun > EnCokHucre)
+      return Kusur{"satır " + std::to_string(satir.satirNo) + ": dosya çok uzun, birkaç dosyaya bölünüz"};
+    for (std::string& hucre : satir.hucreler)
+      if (hucre.find('\'') != std::string::npos) hucre = CsvKorumasiz(hucre);
+    satir.hucreler.resize(sutun);
     tablo.satirlar.push_back(std::move(satir));
   }
   if (okuyucu.TirnakAcik()) return Kusur{"kapanmamış bir tırnak var"};

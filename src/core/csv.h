@@ -1,5 +1,8 @@
-// Comma-separated files as spreadsheets write them: UTF-8 with or without a mark at the front, fields parted by "," or
-// ";" (the header row decides), quotes around fields, CRLF or LF.
+// Comma-separated files as spreadsheets write them: UTF-8 with or without a mark at the front, or code page 1254;
+// fields parted by "," or ";" (the header row decides), quotes around fields, CRLF or LF.
+//
+// A spreadsheet takes a text for a formula that begins with "=", "+", "-" or "@". Our files put an apostrophe before
+// it, here it is taken off again.
 #pragma once
 
 #include <string>
@@ -20,8 +23,14 @@ struct CsvTablosu {
   std::vector<CsvSatiri> satirlar;     // rows that are not blank
 };
 
-// Fails on text that is not UTF-8, an unclosed quote, a missing or repeated caption, a row with more fields than there
-// are captions. A row with fewer is completed with empty ones.
+// Fails on text of neither code, an unclosed quote, a missing or repeated caption, a row with more fields than there
+// are captions, more columns, rows or cells than any file of people has. A row with fewer fields is completed with
+// empty ones.
 Sonuc<CsvTablosu> CsvOku(std::string_view metin);
+
+// A text field of ours, before its quotes. Programs of Turkish computers part fields at ";", so what follows one is
+// looked at as a field too: "x;=1+2" -> "x;'=1+2".
+std::string CsvKorumali(std::string_view metin);
+std::string CsvKorumasiz(std::string_view metin);
 
 }  // namespace belvani

@@ -140,20 +140,20 @@ constexpr TanimTablosu TanimTablolari[] = {
 
 }  // namespace
 
-Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, std::string_view csv, AktarimKipi kip) {
+Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip) {
   auto dosya = AktarimDosyasiOku(csv, {TabloBul("sicil"), TabloBul("kimlik")}, "kod", AnahtarKurali::Tekil);
   if (!dosya) return dosya.Kusuru();
   FirmaYukle(o);  // its default group
   return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { return PersonelleriYaz(o, *dosya, sonuc); });
 }
 
-Sonuc<AktarimSonucu> AileAktar(Oturum& o, std::string_view csv, AktarimKipi kip) {
+Sonuc<AktarimSonucu> AileAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip) {
   auto dosya = AktarimDosyasiOku(csv, {TabloBul("esco")}, "kod", AnahtarKurali::TekrarEder);
   if (!dosya) return dosya.Kusuru();
   return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { return AileYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
 }
 
-Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, std::string_view csv, AktarimKipi kip) {
+Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, const AktarilanCsv& csv, AktarimKipi kip) {
   const auto tanim = std::find_if(std::begin(TanimTablolari), std::end(TanimTablolari),
                                   [&](const TanimTablosu& t) { return t.ad == tablo; });
   if (tanim == std::end(TanimTablolari))

@@ -6,12 +6,23 @@
 
 #include <string_view>
 
+#include "core/okunus.h"
 #include "core/session/oturum.h"
 #include "core/sonuc.h"
 
 namespace belvani {
 
 enum class AktarimKipi { Kaydet, YalnizDene };
+
+// The file's text, and how its numbers are to be read.
+struct AktarilanCsv {
+  AktarilanCsv(std::string_view metin, OndalikImi im = OndalikImi::Belirsiz)  // NOLINT: a text is a file
+      : icerik(metin), ondalik(im) {}
+  AktarilanCsv(const char* metin) : AktarilanCsv(std::string_view(metin)) {}  // NOLINT
+
+  std::string_view icerik;
+  OndalikImi ondalik;
+};
 
 struct AktarimSonucu {
   int eklenen = 0;
@@ -23,13 +34,13 @@ struct AktarimSonucu {
 
 // Fields of `sicil` and `kimlik`, key `kod`. A person who is known already is changed in the columns of the file alone;
 // a new one needs a hire date and gets his identity record (nationality "T.C." unless told).
-Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, std::string_view csv, AktarimKipi kip);
+Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip);
 
 // Fields of `esco`, `kod` being the employee, who must exist. The file is the whole family of each person in it: what
 // the store had for him goes.
-Sonuc<AktarimSonucu> AileAktar(Oturum& o, std::string_view csv, AktarimKipi kip);
+Sonuc<AktarimSonucu> AileAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip);
 
 // Fields of one definition table: `firma` (its one record), `muaf`, `indir`, `sendika` or `kaztan` (by their key).
-Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, std::string_view csv, AktarimKipi kip);
+Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, const AktarilanCsv& csv, AktarimKipi kip);
 
 }  // namespace belvani

@@ -1,8 +1,8 @@
 #include "personnel/hucreler.h"
 
-#include <algorithm>
 #include <set>
 
+#include "core/tables/hucre.h"
 #include "core/turkce.h"
 
 namespace belvani {
@@ -21,14 +21,14 @@ AlanTutamagi Tutamak(std::string_view tablo, std::string_view alan) {
   return tutamak;
 }
 
-AktarimSatiri SatirCevir(const CsvSatiri& satir, AktarimDosyasi& dosya) {
+AktarimSatiri SatirCevir(const CsvSatiri& satir, OndalikImi ondalik, AktarimDosyasi& dosya) {
   AktarimSatiri sonuc{satir.satirNo, {}};
   std::vector<std::pair<std::string_view, std::string>> kusurlar;
   for (std::size_t i = 0; i < satir.hucreler.size(); ++i) {
     std::string kusur;
     Deger deger;
     const AlanTanimi* alan = dosya.kolonlar[i].alan;
-    if (alan != nullptr) deger = MetindenDeger(*alan, satir.hucreler[i], kusur);
+    if (alan != nullptr) deger = HucredenDeger(*alan, satir.hucreler[i], ondalik, kusur);
     if (!kusur.empty()) kusurlar.emplace_back(alan->ad, kusur);
     sonuc.degerler.push_back(std::move(deger));
   }
@@ -57,13 +57,14 @@ void AktarimDosyasi::SorunEkle(const AktarimSatiri& satir, std::string_view alan
   if (kisi >= 0 && kolonlar[std::size_t(kisi)].tablo->ad != Sendika::TabloAdi) kusur.kod = Metin(satir, "kod");
   if (const int sira = KolonSirasi(alan); sira >= 0) {
     const AktarimKolonu& kolon = kolonlar[std::size_t(sira)];
+    soylenenler.insert({satir.satirNo, kolon.alan->ad});
     kusur.alan = Tutamak<Sicil, Kimlik, Esco, Firma, Muaf, Indir, Sendika, Kaztan>(kolon.tablo->ad, kolon.alan->ad);
   }
   sorunlar.push_back(std::move(kusur));
 }
 
 bool AktarimDosyasi::Soylendi(int satirNo, std::string_view kolon) const {
-  return std::ranges::any_of(sorunlar, [&](const Kusur& s) { return s.satir == satirNo && s.alan.ad == kolon; });
+  return soylenenler.contains({satirNo, kolon});
 }
 
 int AktarimDosyasi::KolonSirasi(std::string_view alan) const {
@@ -77,9 +78,9 @@ std::string AktarimDosyasi::Metin(const AktarimSatiri& satir, std::string_view a
   return sira < 0 ? std::string() : MetinDegeri(satir.degerler[std::size_t(sira)]);
 }
 
-Sonuc<AktarimDosyasi> AktarimDosyasiOku(std::string_view csv, const std::vector<const TabloTanimi*>& tablolar,
+Sonuc<AktarimDosyasi> AktarimDosyasiOku(const AktarilanCsv& csv, const std::vector<const TabloTanimi*>& tablolar,
                                         std::string_view anahtar, AnahtarKurali kural) {
-  const auto tablo = CsvOku(csv);
+  const auto tablo = CsvOku(csv.icerik);
   if (!tablo) return tablo.Kusuru();
   AktarimDosyasi dosya;
   const auto baslikKusuru = [&](std::string_view baslik, const char* neden) {
@@ -97,7 +98,7 @@ Sonuc<AktarimDosyasi> AktarimDosyasiOku(std::string_view csv, const std::vector<
     baslikKusuru(anahtar, "bu sütun dosyada olmalı");
     return dosya;
   }
-  for (const auto& satir : tablo->satirlar) dosya.satirlar.push_back(SatirCevir(satir, dosya));
+  for (const auto& satir : tablo->satirlar) dosya.satirlar.push_back(SatirCevir(satir, csv.ondalik, dosya));
   if (!anahtar.empty()) AnahtarDenetle(dosya, anahtar, kural);
   return dosya;
 }

@@ -1,8 +1,10 @@
 // The checked cells of an import file: every column found in the schema, every cell a value of its column.
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/csv.h"
@@ -25,6 +27,7 @@ struct AktarimDosyasi {
   std::vector<AktarimKolonu> kolonlar;
   std::vector<AktarimSatiri> satirlar;
   Kusurlar sorunlar;
+  std::set<std::pair<int, std::string_view>> soylenenler;  // row and column of each
 
   // "girtar: boş bırakılamaz", of the row's person.
   void SorunEkle(const AktarimSatiri& satir, std::string_view alan, const std::string& neden);
@@ -36,7 +39,7 @@ struct AktarimDosyasi {
 // `tablolar`: whose fields the header may name. `anahtar` must be a column, filled and different in every row unless
 // `tekrarEder`.
 enum class AnahtarKurali { Tekil, TekrarEder };
-Sonuc<AktarimDosyasi> AktarimDosyasiOku(std::string_view csv, const std::vector<const TabloTanimi*>& tablolar,
+Sonuc<AktarimDosyasi> AktarimDosyasiOku(const AktarilanCsv& csv, const std::vector<const TabloTanimi*>& tablolar,
                                         std::string_view anahtar, AnahtarKurali kural);
 
 }  // namespace belvani

@@ -79,7 +79,7 @@ std::string YenidenGirisSorusu(const GirisFormu& form) {
 Sonuc<GirisKayitlari> GirisHazirla(const Oturum& o, const GirisFormu& form, Tutar asgariUcret) {
   if (const Durum denetim = GirisDenetle(form); !denetim) return denetim.Kusuru();
   const std::string kod = TemizKod(form.sicil.kod);
-  if (kod.empty()) return KuralKusuru("Personel Sicil Kodu Hatalı", sicil::kod);
+  if (auto kusur = SicilKoduKusuru(kod, !form.ilkSicil)) return *std::move(kusur);
   const bool yeniden = !YenidenGirisSorusu(form).empty();
   if (yeniden && !form.cikisSilinir)
     return KuralKusuru("Bu personel " + form.ilkSicil->ciktar.Metin() + " tarihinde işten çıkmış, kaydedilmedi",

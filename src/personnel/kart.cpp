@@ -9,8 +9,8 @@
 namespace belvani {
 namespace {
 
-std::optional<Kusur> KartKusuru(const Sicil& kart) {
-  if (kart.kod.empty()) return KuralKusuru("Personel Sicil Kodu Hatalı", sicil::kod);
+std::optional<Kusur> KartKusuru(const Sicil& kart, bool yeni) {
+  if (auto kusur = SicilKoduKusuru(kart.kod, yeni)) return kusur;
   if (kart.girtar.Bos() || kart.girtar.SeriNo() <= 0) return KuralKusuru("Giriş Tarihi Hatalı", sicil::girtar);
   return std::nullopt;
 }
@@ -68,7 +68,7 @@ Tutar GosterilenUcret(const Sicil& kart, Tutar asgariUcret) {
 
 KartSonucu KartKaydet(Oturum& o, const Okunan<Sicil>& kart, const std::string& yeniResim) {
   const Okunan<Sicil> yazilan = YazilacakKart(kart);
-  if (auto kusur = KartKusuru(yazilan.simdi)) return YazmaEngeli<Sicil>(*std::move(kusur));
+  if (auto kusur = KartKusuru(yazilan.simdi, !yazilan.ilk)) return YazmaEngeli<Sicil>(*std::move(kusur));
   KartSonucu sonuc = KartYaz(o, yazilan);
   if (!sonuc || yeniResim.empty()) return sonuc;
   if (const Durum foto = FotoYaz(o, yazilan.simdi.kod, yeniResim); !foto)

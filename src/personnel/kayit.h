@@ -43,6 +43,9 @@ std::optional<Kayit> KodaGit(Oturum& o, Yon yon, std::string_view kod) {
   return o.depo.db.Koru(std::optional<Kayit>(), [&] { return KisiTablosu<Kayit>(o).Komsu(TemizKod(kod), yon); });
 }
 
+// Why a card cannot have this code. One that has it already keeps it.
+std::optional<Kusur> SicilKoduKusuru(const std::string& kod, bool yeni);
+
 // Writes a record of a person in a transaction; `yazilamadi` is said where the engine refuses.
 template <class Kayit>
 Yazim<Kayit> KayitYaz(Oturum& o, const Okunan<Kayit>& kayit, const char* yazilamadi) {

@@ -2,21 +2,15 @@
 
 #include <string_view>
 
+#include "core/csv.h"
 #include "core/sayi.h"
 #include "core/turkce.h"
 
 namespace belvani {
 namespace {
 
-bool FormulGibi(std::string_view metin) {
-  const auto ilk = metin.find_first_not_of(' ');
-  if (ilk == std::string_view::npos || std::string_view("=+-@").find(metin[ilk]) == std::string_view::npos)
-    return false;
-  return !SayiOku(metin);
-}
-
 std::string Tirnakla(std::string_view alan) {
-  if (alan.find_first_of(",\"") == std::string_view::npos) return std::string(alan);
+  if (alan.find_first_of(",;\"") == std::string_view::npos) return std::string(alan);
   std::string sonuc = "\"";
   for (const char c : alan) {
     if (c == '"') sonuc += '"';
@@ -26,7 +20,7 @@ std::string Tirnakla(std::string_view alan) {
 }
 
 std::string MetinAlani(const std::string& metin) {
-  return Tirnakla(FormulGibi(metin) ? "'" + metin : metin);
+  return Tirnakla(CsvKorumali(metin));
 }
 
 std::string Alan(const Hucre& hucre) {

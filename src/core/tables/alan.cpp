@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "core/adlar.h"
 #include "core/sayi.h"
 #include "core/turkce.h"
 
@@ -58,6 +59,11 @@ std::string SinirKusuru(const AlanSiniri& s, double sayi) {
   return sayi < s.enAz ? "eksi olamaz" : "en çok " + SayiMetni(s.enCok) + " olabilir";
 }
 
+// A code by which records are found: two that look the same must be the same.
+bool KodMu(const AlanTanimi& alan) {
+  return alan.tip == AlanTipi::Metin && (alan.ad == "kod" || alan.ad == "grup");
+}
+
 Deger TamSayiyaCevir(const AlanTanimi& alan, std::string_view metin, std::string& kusur) {
   const Aralik aralik = TamSayiAraligi(alan.tip);
   const auto sayi = TamSayiOku(metin);
@@ -104,6 +110,7 @@ std::string TipKusuru(const AlanTanimi& alan, const Deger& deger) {
 
 std::string DegerKusuru(const AlanTanimi& alan, const Deger& deger) {
   std::string kusur = TipKusuru(alan, deger);
+  if (kusur.empty() && KodMu(alan) && GorunmezHarfVar(MetinDegeri(deger))) return "görünmeyen bir harf var";
   return kusur.empty() && !NullMu(deger) ? SinirKusuru(alan.sinir, SayiDegeri(deger)) : kusur;
 }
 
