@@ -1,7 +1,10 @@
 #include "cli/belgecikti.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
+#include "cli/jsonakisi.h"
 #include "printing/csvyazici.h"
 
 namespace belvani::cli {
@@ -35,12 +38,57 @@ Json BlokJson(const std::vector<BlokSatiri>& blok) {
   return nesne;
 }
 
-std::string JsonRaporu(const Rapor& rapor) {
-  Json json{{"baslik", rapor.ekranBasligi}, {"satirlar", Json::array()}};
-  for (const auto& satir : rapor.Satirlar()) json["satirlar"].push_back(HucrelerJson(rapor, satir.hucreler));
-  if (rapor.ToplamVar()) json["toplam"] = HucrelerJson(rapor, rapor.Toplam());
-  if (!rapor.sonBlok.empty()) json["icmal"] = BlokJson(rapor.sonBlok);
-  return json.dump(2) + "\n";
+constexpr const char* SatirsizForm = "Bu belge bir form; csv ve json biçimi yok";
+
+// The reports are pieces of one: their rows one after the other, and one sum of all.
+class JsonRaporu {
+ public:
+  explicit JsonRaporu(MetinCikisi& cikis) : cikis_(cikis), satirlar_(cikis, Girinti) {}
+
+  void Ekle(const Rapor& parca) {
+    if (!toplamlar_) Basla(parca);
+    for (const auto& satir : parca.Satirlar()) satirlar_.Ekle(HucrelerJson(parca, satir.hucreler));
+    if (parca.ToplamVar()) toplamlar_->Ekle({parca.Toplam()});
+  }
+  void Bitir() {
+    if (!toplamlar_) throw KomutHatasi{SatirsizForm};
+    satirlar_.Bitir();
+    if (toplamlar_->ToplamVar()) UyeYaz("toplam", HucrelerJson(*toplamlar_, toplamlar_->Toplam()));
+    if (!toplamlar_->sonBlok.empty()) UyeYaz("icmal", BlokJson(toplamlar_->sonBlok));
+    cikis_.Yaz("\n}\n");
+  }
+
+ private:
+  static constexpr int Girinti = 2;
+
+  void Basla(const Rapor& parca) {
+    toplamlar_.emplace(parca.Kolonlar());
+    toplamlar_->toplamEtiketi = parca.toplamEtiketi;
+    toplamlar_->sonBlok = parca.sonBlok;
+    cikis_.Yaz("{\n  \"baslik\": " + JsonMetni(parca.ekranBasligi) + ",\n  \"satirlar\": ");
+  }
+  void UyeYaz(const char* ad, const Json& deger) {
+    cikis_.Yaz(",\n  \"" + std::string(ad) + "\": " + JsonMetni(deger, Girinti));
+  }
+
+  MetinCikisi& cikis_;
+  JsonDizisi satirlar_;
+  std::optional<Rapor> toplamlar_;  // a row for each piece
+};
+
+void JsonYaz(const Belge& belge, MetinCikisi& cikis) {
+  JsonRaporu json(cikis);
+  belge.VeriyiVer([&](const Rapor& parca) { json.Ekle(parca); });
+  json.Bitir();
+}
+
+void CsvYaz(const Belge& belge, MetinCikisi& cikis) {
+  bool basladi = false;
+  belge.VeriyiVer([&](const Rapor& parca) {
+    if (!std::exchange(basladi, true)) cikis.Yaz(CsvBasligi(parca));
+    cikis.Yaz(CsvSatirlari(parca));
+  });
+  if (!basladi) throw KomutHatasi{SatirsizForm};
 }
 
 std::string Xlsx(const Belge& belge) {
@@ -48,35 +96,39 @@ std::string Xlsx(const Belge& belge) {
   return std::move(Degeri(baytlar));
 }
 
-std::string Uyarili(std::string cikti, const std::string& uyari) {
+void Uyar(const std::string& uyari) {
   if (!uyari.empty()) StandartHata().Uyari(uyari);
-  return cikti;
 }
 
 std::string Pdf(const Belge& belge) {
   auto pdf = BelgePdf(belge);
   if (Degeri(pdf).baytlar.empty()) throw KomutHatasi{"Basılacak kayıt yok, PDF dosyası yazılmadı"};
-  return Uyarili(std::move(pdf->baytlar), pdf->uyari);
-}
-
-// A statutory form has no rows.
-std::string Satirlar(const Belge& belge, std::string (*yaz)(const Rapor&)) {
-  const auto veri = belge.Veri();
-  if (veri == nullptr) throw KomutHatasi{"Bu belge bir form; csv ve json biçimi yok"};
-  return yaz(*veri);
-}
-
-std::string Cikti(const Belge& belge, const std::string& bicim) {
-  if (bicim == "csv") return Satirlar(belge, CsvRaporu);
-  if (bicim == "json") return Satirlar(belge, JsonRaporu);
-  if (bicim == "xlsx") return Xlsx(belge);
-  if (bicim == "pdf") return Pdf(belge);
-  return Uyarili(bicim == "ham" ? BelgeHam(belge) : belge.Metin(), belge.MetinUyarisi());
+  Uyar(pdf->uyari);
+  return std::move(pdf->baytlar);
 }
 
 // Whether a terminal can show it.
 bool EkranaYazilir(const std::string& bicim) {
   return bicim == "metin" || bicim == "csv" || bicim == "json";
+}
+
+void MetinYaz(const Belge& belge, const BelgeCiktisi& cikti) {
+  MetinCikisi cikis(cikti.dosya);
+  if (cikti.bicim == "csv") {
+    CsvYaz(belge, cikis);
+  } else if (cikti.bicim == "json") {
+    JsonYaz(belge, cikis);
+  } else {
+    Uyar(belge.MetinUyarisi());
+    belge.MetniVer([&](std::string_view parca) { cikis.Yaz(parca); });
+  }
+  cikis.Bitir();
+}
+
+void BaytYaz(const Belge& belge, const BelgeCiktisi& cikti) {
+  const std::string baytlar = cikti.bicim == "xlsx" ? Xlsx(belge) : cikti.bicim == "pdf" ? Pdf(belge) : BelgeHam(belge);
+  if (cikti.bicim == "ham") Uyar(belge.MetinUyarisi());
+  BaytlariYaz(baytlar, cikti.dosya);
 }
 
 }  // namespace
@@ -92,8 +144,7 @@ void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti) {
 }
 
 void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti) {
-  const std::string icerik = Cikti(belge, cikti.bicim);
-  EkranaYazilir(cikti.bicim) ? Yaz(icerik, cikti.dosya) : BaytlariYaz(icerik, cikti.dosya);
+  EkranaYazilir(cikti.bicim) ? MetinYaz(belge, cikti) : BaytYaz(belge, cikti);
 }
 
 }  // namespace belvani::cli

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "cli/belgecikti.h"
+#include "cli/jsonakisi.h"
 #include "core/sayi.h"
 #include "documents/belgeler.h"
 #include "documents/belgeyap.h"
@@ -89,10 +90,17 @@ void SecenekleriEkle(CLI::App& komut, const std::shared_ptr<BelgeIsi>& is) {
   }
 }
 
-Json KayitlarJson(const std::vector<Brd>& kayitlar) {
-  Json dizi = Json::array();
-  for (const Brd& kayit : kayitlar) KayitJson(kayit, dizi.emplace_back(Json::object()));
-  return dizi;
+void KayitlariYaz(const BelgeIsi& is, const BelgeKaynagi& kaynak, BelgeSecimi& secim) {
+  MetinCikisi cikis(is.cikti.dosya);
+  JsonDizisi dizi(cikis);
+  is.belge.kayitlar(kaynak, secim, [&](const Brd& kayit) {
+    Json nesne = Json::object();
+    KayitJson(kayit, nesne);
+    dizi.Ekle(nesne);
+  });
+  dizi.Bitir();
+  cikis.Yaz("\n");
+  cikis.Bitir();
 }
 
 void BelgeVer(Genel& genel, const BelgeIsi& is) {
@@ -103,8 +111,7 @@ void BelgeVer(Genel& genel, const BelgeIsi& is) {
   const auto secim = is.belge.secim();
   if (is.belge.ayar.oku != nullptr) is.belge.ayar.oku(oturum->FirmaDizini, *secim);
   for (const auto& [alan, deger] : is.verilenler) alan->yaz(secim->Kayit(alan->kayitTuru), deger);
-  if (is.belge.kayitlar != nullptr && is.cikti.bicim == "json")
-    return Yaz(KayitlarJson(is.belge.kayitlar(kaynak, *secim)).dump(2) + "\n", is.cikti.dosya);
+  if (is.belge.kayitlar != nullptr && is.cikti.bicim == "json") return KayitlariYaz(is, kaynak, *secim);
   const auto belge = BelgeYap(is.belge, *secim, kaynak);
   const auto bak = [&](MevzuatAyi ay) { return MevzuataBak(mevzuat, ay); };
   if (const std::string soz = BelgeMevzuatSozu(is.belge, *secim, kaynak.motor, bak); !soz.empty())

@@ -2,10 +2,16 @@
 // company, and go the same way from there on: PersonelYukle, BordroHesapla.
 #include "cli/giris.h"
 #include "cli/hesapgirdisi.h"
-#include "cli/ortak.h"
+#include "cli/jsonakisi.h"
+#include "cli/sorunlar.h"
 
 namespace belvani::cli {
 namespace {
+
+struct HesaplaSecenekleri {
+  bool izli = false;
+  SorunListesi sorunlar;
+};
 
 Json IzJson(const Iz& iz) {
   Json dizi = Json::array();
@@ -42,20 +48,32 @@ Json BirHesap(Genel& genel, const Json& girdi, bool izli) {
   return sonuc;
 }
 
-void Hesapla(Genel& genel, bool izli) {
-  const Json girdi = JsonOku(GirdiyiOku());
-  const bool liste = girdi.is_array();
-  Json sonuclar = Json::array();
-  std::string hatalar;
-  const Json tekli = Json::array({girdi});
-  for (const Json& biri : liste ? girdi : tekli) {
-    sonuclar.push_back(BirHesap(genel, biri, izli));
-    if (!sonuclar.back().contains("hata")) continue;
-    if (liste) hatalar += std::to_string(sonuclar.size()) + ". hesap: ";
-    hatalar += sonuclar.back()["hata"].get<std::string>() + "\n";
+void BiriniHesapla(Genel& genel, const Json& girdi, bool izli) {
+  const Json sonuc = BirHesap(genel, girdi, izli);
+  if (sonuc.contains("hata")) throw KomutHatasi{sonuc["hata"].get<std::string>()};
+  Yaz(JsonMetni(sonuc) + "\n");
+}
+
+// Each result goes out before the next person is read.
+void ListeyiHesapla(Genel& genel, JsonGirdisi& girdi, const HesaplaSecenekleri& s) {
+  MetinCikisi cikis;
+  JsonDizisi dizi(cikis);
+  std::vector<std::string> hatalar;
+  for (int no = 1; const auto biri = girdi.Sonraki(); ++no) {
+    const Json sonuc = BirHesap(genel, *biri, s.izli);
+    if (sonuc.contains("hata")) hatalar.push_back(std::to_string(no) + ". hesap: " + sonuc["hata"].get<std::string>());
+    dizi.Ekle(sonuc);
   }
-  if (liste || hatalar.empty()) Yaz((liste ? sonuclar : sonuclar.front()).dump(2) + "\n");
-  if (!hatalar.empty()) throw KomutHatasi{hatalar.substr(0, hatalar.size() - 1)};
+  dizi.Bitir();
+  cikis.Yaz("\n");
+  cikis.Bitir();
+  if (const std::string metin = s.sorunlar.Metin(hatalar); !metin.empty()) throw KomutHatasi{metin.substr(1)};
+}
+
+void Hesapla(Genel& genel, const HesaplaSecenekleri& s) {
+  JsonGirdisi girdi(GirdiyiOku());
+  if (girdi.Liste()) return ListeyiHesapla(genel, girdi, s);
+  BiriniHesapla(genel, *girdi.Sonraki(), s.izli);
 }
 
 }  // namespace
@@ -64,15 +82,16 @@ void HesaplaKomutu(CLI::App& app, Genel& genel) {
   auto* komut = app.add_subcommand("hesapla",
                                    "Şirket olmadan hesaplar: standart girdiden JSON (bir nesne veya dizi) okur, bordro "
                                    "kaydının bütün tutarlarını ve NetOdenen'i JSON olarak verir");
-  auto izli = std::make_shared<bool>(false);
-  komut->add_flag("--iz", *izli, "her tutarın nasıl bulunduğunu da verir");
+  auto s = std::make_shared<HesaplaSecenekleri>();
+  komut->add_flag("--iz", s->izli, "her tutarın nasıl bulunduğunu da verir");
+  s->sorunlar.SecenekEkle(*komut);
   komut->footer(
       "Girdi: donem {yil, ay}; sicil {alanlar}; giris {gün, saat, yrd01…yrd11, borckes};\n"
       "isteğe bağlı: esco [{yakinlik, agiok}], devgvmatrah, devgvtutar, calismagun, toind1…3,\n"
       "firma {issaati, paraonda, tehlike, sinif, tersfirma}, muaf, indir ve sendika satırları,\n"
       "kaztan {k1…k9, y1…y11}, eskilira, parametre {AsgariUcret, SskTaban, …}.\n"
       "Parametre verilmezse o ayın programla gelen rakamları kullanılır.");
-  komut->callback([&genel, izli] { Hesapla(genel, *izli); });
+  komut->callback([&genel, s] { Hesapla(genel, *s); });
 }
 
 }  // namespace belvani::cli

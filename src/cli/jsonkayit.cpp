@@ -45,14 +45,4 @@ Deger JsonDegeri(const AlanTanimi& alan, const Json& json, const std::string& ye
   return deger;
 }
 
-Json JsonOku(const std::string& metin) {
-  try {
-    return Json::parse(metin);
-  } catch (const Json::parse_error& h) {
-    throw KomutHatasi{"Girdi JSON değil (" + std::to_string(h.byte) + ". bayt)"};
-  } catch (const Json::out_of_range&) {
-    throw KomutHatasi{"Girdide sınırı aşan bir sayı var"};
-  }
-}
-
 }  // namespace belvani::cli

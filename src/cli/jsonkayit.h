@@ -43,7 +43,4 @@ void JsondanKayit(const Json& nesne, const std::string& yer, Kayit& kayit, std::
   }
 }
 
-// The text of a parse failure without the library's own wording.
-Json JsonOku(const std::string& metin);
-
 }  // namespace belvani::cli

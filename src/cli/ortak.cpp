@@ -106,10 +106,26 @@ HedefDosya HedefAc(const std::string& dosya) {
   return std::move(Degeri(hedef));
 }
 
+void MetinCikisi::Yaz(std::string_view metin) {
+  constexpr std::size_t enCokBekleyen = 1u << 18;
+  terminal_ ? bekleyen_ += TerminalMetni(metin) : bekleyen_ += metin;
+  if (bekleyen_.size() > enCokBekleyen) Bosalt();
+}
+
+void MetinCikisi::Bosalt() {
+  Basarmali(hedef_.Ekle(bekleyen_));
+  bekleyen_.clear();
+}
+
+void MetinCikisi::Bitir() {
+  Bosalt();
+  Basarmali(hedef_.Bitir());
+}
+
 void Yaz(const std::string& metin, const std::string& dosya) {
-  HedefDosya hedef = HedefAc(dosya);
-  Basarmali(hedef.Ekle(hedef.Terminal() ? TerminalMetni(metin) : metin));
-  Basarmali(hedef.Bitir());
+  MetinCikisi cikis(dosya);
+  cikis.Yaz(metin);
+  cikis.Bitir();
 }
 
 void BaytlariYaz(const std::string& baytlar, const std::string& dosya) {

@@ -75,6 +75,21 @@ std::string GirdiyiOku();                        // standard input to its end
 
 // Standard output for "" and "-", else the file of that name (core/hedef.h).
 HedefDosya HedefAc(const std::string& dosya);
+// Text in pieces, gathered before they go out; the old file stays until Bitir.
+class MetinCikisi {
+ public:
+  explicit MetinCikisi(const std::string& dosya = {}) : hedef_(HedefAc(dosya)), terminal_(hedef_.Terminal()) {}
+
+  void Yaz(std::string_view metin);  // or KomutHatasi
+  void Bitir();
+
+ private:
+  void Bosalt();
+
+  HedefDosya hedef_;
+  bool terminal_;
+  std::string bekleyen_;
+};
 // Text; a terminal gets no letter that would command it.
 void Yaz(const std::string& metin, const std::string& dosya = {});
 // What no terminal can show (pictures, workbooks, bytes for a printer), and none gets.

@@ -67,11 +67,8 @@ AlanGrubu DefterKolonlari() {
   return grup;
 }
 
-std::vector<Brd> DefterKayitlari(const BelgeKaynagi& kaynak, BelgeSecimi& secim) {
-  std::vector<Brd> kayitlar;
-  for (BordroSatiri& satir : DefterSatirlariOku(kaynak.motor, *secim.Bul<DefterSecim>()))
-    kayitlar.push_back(std::move(satir.brd));
-  return kayitlar;
+void DefterKayitlari(const BelgeKaynagi& kaynak, BelgeSecimi& secim, const std::function<void(const Brd&)>& al) {
+  DefterSatirlariniGez(kaynak.motor, *secim.Bul<DefterSecim>(), [&](const BordroSatiri& satir) { al(satir.brd); });
 }
 
 AlanGrubu OzelBordroBicimi() {

@@ -10,6 +10,7 @@
 // fields fill in: their types are the paper's choices, their initial values what stands there at first.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <tuple>
 
@@ -109,8 +110,8 @@ struct BelgeTanimi {
   BelgeAyari ayar = {};
   // What screen and command line say of a paper that is made of no records; "" keeps them silent.
   std::string_view kayitYok = "Bu dönemde bordro kaydı yok";
-  // For a paper whose JSON is not its table but the pay records with all their fields.
-  std::vector<Brd> (*kayitlar)(const BelgeKaynagi& kaynak, BelgeSecimi& secim) = nullptr;
+  // For a paper whose JSON is not its table but the pay records with all their fields: gives them one by one.
+  void (*kayitlar)(const BelgeKaynagi& kaynak, BelgeSecimi& secim, const std::function<void(const Brd&)>& al) = nullptr;
 };
 
 }  // namespace belvani

@@ -21,7 +21,8 @@ std::string_view Sira(DefterSirasi sira) {
 
 }  // namespace
 
-std::vector<BordroSatiri> DefterSatirlariOku(Motor& motor, const DefterSecim& secim, Ilerleme* ilerleme) {
+void DefterSatirlariniGez(Motor& motor, const DefterSecim& secim, const std::function<void(BordroSatiri&)>& al,
+                          Ilerleme* ilerleme) {
   SorguMetni sorgu("select " + SecimListesi<Brd>(motor, "b") + ", " + SecimListesi<Sicil>(motor, "s") +
                        ", k.tcno from brd b join sicil s on s.kod = b.kod left join kimlik k on k.kod = b.kod "
                        "where b.yil = ? and b.ay = ?",
@@ -29,13 +30,19 @@ std::vector<BordroSatiri> DefterSatirlariOku(Motor& motor, const DefterSecim& se
   sorgu.Secim(secim);
   sorgu.Ekle(Sira(secim.sira));
   const auto komut = sorgu.Hazirla(motor);
-  std::vector<BordroSatiri> satirlar;
   for (Asama asama(ilerleme); komut->Adim();) {
     asama.Adim();
-    BordroSatiri& satir = satirlar.emplace_back();
+    BordroSatiri satir;
     const int sonraki = KayitAl(*komut, KayitAl(*komut, 0, satir.brd), satir.sicil);
     KolonAl(*komut, sonraki, satir.tcno);
+    al(satir);
   }
+}
+
+std::vector<BordroSatiri> DefterSatirlariOku(Motor& motor, const DefterSecim& secim, Ilerleme* ilerleme) {
+  std::vector<BordroSatiri> satirlar;
+  DefterSatirlariniGez(
+      motor, secim, [&](BordroSatiri& satir) { satirlar.push_back(std::move(satir)); }, ilerleme);
   return satirlar;
 }
 

@@ -7,6 +7,7 @@
 #include "core/tables/muaf.h"
 #include "documents/deftersorgu.h"
 #include "documents/listebelgesi.h"
+#include "documents/sikisatirlar.h"
 #include "documents/turetilensatir.h"
 #include "isyeri/isyerinumarasi.h"
 #include "payroll/hesap/kayittoplami.h"
@@ -136,6 +137,8 @@ std::string PusulaDonemi(const BordroDonemi& donem) {
   return {};
 }
 
+constexpr std::size_t ParcaBoyu = 1'000;  // people whose rows stand in memory together
+
 constexpr const char* pusulaBasligi = "ÜCRET PUSULASI";
 
 constexpr std::array<const char*, 4> cumleler{
@@ -143,25 +146,39 @@ constexpr std::array<const char*, 4> cumleler{
     "ile ücret yönünden bir ilişiğim kalmamıştır.", "", "   İ M Z A"};
 
 // The records of a paper, kept once for all of its forms.
-using Kayitlar = std::shared_ptr<const std::vector<BordroSatiri>>;
+using Kayitlar = std::shared_ptr<const SikiSatirlar>;
+
+Kayitlar Sikistir(const std::vector<BordroSatiri>& satirlar) {
+  auto siki = std::make_shared<SikiSatirlar>();
+  for (const BordroSatiri& satir : satirlar) siki->Ekle(satir);
+  return siki;
+}
 
 // Makes any of the slips from the records.
 class PusulaYapan {
  public:
   PusulaYapan(Kayitlar satirlar, const PusulaBaslik& baslik)
       : satirlar_(std::move(satirlar)),
-        turetilen_(TuretilmisSatirlar(*satirlar_, baslik.defter)),
+        damgaOran_(baslik.defter.damgaOran),
+        yuvarla_(baslik.defter.paraonda),
         ekAlanlar_(EkAlanlar(baslik)),
         donem_(PusulaDonemi(BelgeDonemi(baslik.defter))),
         isveren_{{"Firma İsmi    :", baslik.defter.firma.unvan},
                  {"İşyeri Sicil  :", IsyeriSicilNo(baslik.defter.firma)}} {
-    for (const auto& satir : *satirlar_) Degeri(toplam::fazlaMesai, satir.brd);  // out of range: now, not while drawn
+    for (std::size_t i = 0; i < satirlar_->size(); ++i) Denetle((*satirlar_)[i]);
   }
   PusulaYapan(const PusulaYapan&) = delete;
   PusulaYapan& operator=(const PusulaYapan&) = delete;
 
+  // An amount out of range is told now, not while a page is drawn.
+  void Denetle(const BordroSatiri& satir) const {
+    TuretilmisSatir(satir, damgaOran_, yuvarla_, 0);
+    Degeri(toplam::fazlaMesai, satir.brd);
+  }
+
   Yaprak Yap(std::size_t sira) const {
-    const TuretilmisSatir& satir = turetilen_[sira];
+    const BordroSatiri kayit = (*satirlar_)[sira];
+    const TuretilmisSatir satir(kayit, damgaOran_, yuvarla_, int(sira) + 1);
     Yaprak yaprak{.altBaslik = donem_,
                   .bas = isveren_,
                   .sol = kazanclar.Blok(satir),
@@ -174,7 +191,8 @@ class PusulaYapan {
 
  private:
   Kayitlar satirlar_;
-  std::vector<TuretilmisSatir> turetilen_;  // of those
+  Tek damgaOran_;
+  Yuvarlayici yuvarla_;
   Kolonlar<TuretilmisSatir> ekAlanlar_;
   std::string donem_;
   std::vector<BlokSatiri> isveren_;
@@ -205,8 +223,8 @@ void IndirimAdlariniOku(Motor& motor, PusulaBaslik& baslik) {
       baslik.indirimAdlari[satir.no - 1u] = satir.adi;
 }
 
-YaprakBelgesi PusulaBelgesi(std::vector<BordroSatiri> satirlar, const PusulaBaslik& baslik) {
-  return Pusulalar(std::make_shared<const std::vector<BordroSatiri>>(std::move(satirlar)), baslik);
+YaprakBelgesi PusulaBelgesi(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik) {
+  return Pusulalar(Sikistir(satirlar), baslik);
 }
 
 Rapor PusulaRaporu(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik) {
@@ -222,11 +240,22 @@ std::unique_ptr<Belge> UcretPusulalari(const BelgeKaynagi& kaynak, const DefterS
                                        const PusulaSecenegi& secenek) {
   PusulaBaslik baslik{.defter = BaslikYap(kaynak, secim), .yardimAdlari = YardimAdlariOku(kaynak.motor)};
   IndirimAdlariniOku(kaynak.motor, baslik);
-  const auto satirlar = std::make_shared<const std::vector<BordroSatiri>>(
-      DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::Kisi), kaynak.ilerleme));
+  const auto satirlar = std::make_shared<SikiSatirlar>();
+  DefterSatirlariniGez(
+      kaynak.motor, Sirali(secim, DefterSirasi::Kisi), [&](const BordroSatiri& satir) { satirlar->Ekle(satir); },
+      kaynak.ilerleme);
   YaprakBelgesi belge = Pusulalar(satirlar, baslik);
   const YzcAyarlari ayar = BaskiAyari(belge.baslik, KagitYonu::Dikey);
-  auto veri = [satirlar, baslik = std::move(baslik)] { return PusulaRaporu(*satirlar, baslik); };
+  auto veri = [satirlar, baslik = std::move(baslik)](const RaporAlici& al) {
+    std::vector<BordroSatiri> parca;
+    for (std::size_t i = 0; i < satirlar->size(); ++i) {
+      parca.push_back((*satirlar)[i]);
+      if (parca.size() < ParcaBoyu) continue;
+      al(PusulaRaporu(parca, baslik));
+      parca.clear();
+    }
+    if (!parca.empty() || satirlar->size() == 0) al(PusulaRaporu(parca, baslik));
+  };
   return std::make_unique<YaprakliBelge>(std::move(belge), secenek.sayfada, ayar, std::move(veri));
 }
 

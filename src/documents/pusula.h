@@ -25,7 +25,7 @@ std::array<std::string, YardimSayisi> YardimAdlariOku(Motor& motor);
 void IndirimAdlariniOku(Motor& motor, PusulaBaslik& baslik);
 
 // The records as they are to be printed: in the order DefterSirasi::Kisi.
-YaprakBelgesi PusulaBelgesi(std::vector<BordroSatiri> satirlar, const PusulaBaslik& baslik);
+YaprakBelgesi PusulaBelgesi(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik);
 Rapor PusulaRaporu(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik);
 
 struct PusulaSecenegi {

@@ -123,8 +123,7 @@ Sonuc<std::string> RaporBelgesi::XlsxYap(Ilerleme* ilerleme) const {
   return XlsxRaporu(*tablo_, ilerleme);
 }
 
-YaprakliBelge::YaprakliBelge(YaprakBelgesi yapraklar, SayfadaYaprak sayfada, YzcAyarlari ilk,
-                             std::function<Rapor()> veri)
+YaprakliBelge::YaprakliBelge(YaprakBelgesi yapraklar, SayfadaYaprak sayfada, YzcAyarlari ilk, VeriVeren veri)
     : Belge(std::move(ilk)), yapraklar_(std::move(yapraklar)), sayfada_(sayfada), veri_(std::move(veri)) {}
 
 void YaprakliBelge::AyarDegisti() {
@@ -139,8 +138,23 @@ std::string YaprakliBelge::MetinYap(Ilerleme* ilerleme) const {
   return MetinYapraklari(yapraklar_, {.satirSayisi = Ayar().YzcSatir}, ilerleme);
 }
 
+void YaprakliBelge::MetniVerYap(const MetinAlici& al) const {
+  MetinYapraklariniVer(yapraklar_, {.satirSayisi = Ayar().YzcSatir}, al);
+}
+
+void YaprakliBelge::VeriyiVer(const RaporAlici& al) const {
+  if (veri_) veri_(al);
+}
+
 std::shared_ptr<const Rapor> YaprakliBelge::Veri() const {
-  return veri_ ? std::make_shared<const Rapor>(veri_()) : nullptr;
+  std::shared_ptr<Rapor> hepsi;
+  VeriyiVer([&](const Rapor& parca) {
+    if (hepsi == nullptr)
+      hepsi = std::make_shared<Rapor>(parca);
+    else
+      for (const RaporSatiri& satir : parca.Satirlar()) hepsi->Ekle(satir);
+  });
+  return hepsi;
 }
 
 Sonuc<std::string> YaprakliBelge::XlsxYap(Ilerleme* ilerleme) const {

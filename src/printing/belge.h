@@ -20,6 +20,8 @@
 
 namespace belvani {
 
+using RaporAlici = std::function<void(const Rapor& parca)>;
+
 class Belge {
  public:
   // What its print dialog starts with.
@@ -44,6 +46,8 @@ class Belge {
   std::unique_ptr<CizilenBelge> Cizim(Ilerleme* ilerleme = nullptr) const { return CizimYap(ilerleme); }
   // The text, UTF-8; empty for one that has none, or nothing to print.
   std::string Metin(Ilerleme* ilerleme = nullptr) const { return MetinYap(ilerleme); }
+  // The text in pieces, that together are Metin: of a paper that is made person by person it never stands as a whole.
+  void MetniVer(const MetinAlici& al) const { MetniVerYap(al); }
   // The spreadsheet file.
   Sonuc<std::string> Xlsx(Ilerleme* ilerleme = nullptr) const { return XlsxYap(ilerleme); }
   // Told in place of a text print that does not exist.
@@ -56,10 +60,15 @@ class Belge {
   virtual void Sirala(std::span<const int>) {}
   // What it says as rows for other programs (CSV, JSON); null when it is a form.
   virtual std::shared_ptr<const Rapor> Veri() const { return Tablo(); }
+  // The same in reports of some of its rows each, at least one; nothing of a form.
+  virtual void VeriyiVer(const RaporAlici& al) const {
+    if (const auto veri = Veri()) al(*veri);
+  }
 
  private:
   virtual std::unique_ptr<CizilenBelge> CizimYap(Ilerleme* ilerleme) const = 0;
   virtual std::string MetinYap(Ilerleme* ilerleme) const = 0;
+  virtual void MetniVerYap(const MetinAlici& al) const { al(MetinYap(nullptr)); }
   virtual Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const = 0;
   virtual void AyarDegisti() {}
 
@@ -99,24 +108,26 @@ class RaporBelgesi : public Belge {
 // Slips.
 class YaprakliBelge final : public Belge {
  public:
-  // `veri` makes the slips as a table with a row for each person.
-  YaprakliBelge(YaprakBelgesi yapraklar, SayfadaYaprak sayfada, YzcAyarlari ilk = {},
-                std::function<Rapor()> veri = nullptr);
+  // `veri` gives the slips as a table with a row for each person, in pieces.
+  using VeriVeren = std::function<void(const RaporAlici& al)>;
+  YaprakliBelge(YaprakBelgesi yapraklar, SayfadaYaprak sayfada, YzcAyarlari ilk = {}, VeriVeren veri = nullptr);
 
   YzcDestegi Destek() const override { return {.baslik = true, .satir = true}; }
   std::string Baslik() const override { return yapraklar_.baslik; }
   bool Bos() const override { return yapraklar_.yapraklar.empty(); }
   std::shared_ptr<const Rapor> Veri() const override;
+  void VeriyiVer(const RaporAlici& al) const override;
 
  private:
   std::unique_ptr<CizilenBelge> CizimYap(Ilerleme* ilerleme) const override;
   std::string MetinYap(Ilerleme* ilerleme) const override;
+  void MetniVerYap(const MetinAlici& al) const override;
   Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const override;
   void AyarDegisti() override;
 
   YaprakBelgesi yapraklar_;
   SayfadaYaprak sayfada_;
-  std::function<Rapor()> veri_;
+  VeriVeren veri_;
 };
 
 // The report's head as the settings want it: title, day of printing, page number, company. What is off and stands in

@@ -44,11 +44,20 @@ void SatirEkle(std::string& csv, const Dizi& dizi, AlanYap alanYap) {
 
 }  // namespace
 
-std::string CsvRaporu(const Rapor& rapor) {
+std::string CsvBasligi(const Rapor& rapor) {
   std::string csv;
   SatirEkle(csv, rapor.Kolonlar(), [](const RaporKolonu& kolon) { return MetinAlani(kolon.kisaBaslik); });
+  return csv;
+}
+
+std::string CsvSatirlari(const Rapor& rapor) {
+  std::string csv;
   for (const auto& satir : rapor.Satirlar()) SatirEkle(csv, satir.hucreler, Alan);
   return csv;
+}
+
+std::string CsvRaporu(const Rapor& rapor) {
+  return CsvBasligi(rapor) + CsvSatirlari(rapor);
 }
 
 }  // namespace belvani

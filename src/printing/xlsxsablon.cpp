@@ -196,8 +196,12 @@ Sonuc<XlsxSablon> XlsxSablon::Ac(std::string baytlar) {
     return Kusur{"Çalışma kitabı eski biçimde (.xls) ya da parolalı: parolasız .xlsx olarak kaydediniz"};
   auto zip = ZipDosyasi::Ac(std::move(baytlar));
   if (!zip) return Kusur{"Dosya bir çalışma kitabı (.xlsx) değil ya da bozuk"};
+  if (const Durum sigar = KitapSinirlari(*zip); !sigar) return sigar.Kusuru();
   auto ic = std::make_unique<Ic>(std::move(*zip));
-  if (!ic->Oku()) return Kusur{"Dosya bir çalışma kitabı (.xlsx) değil: içinde sayfa yok"};
+  const bool okundu = ic->Oku();
+  if (ic->sayfalar.size() > EnCokSayfa)
+    return Kusur{"Çalışma kitabı çok büyük: en çok " + std::to_string(EnCokSayfa) + " sayfası olabilir"};
+  if (!okundu) return Kusur{"Dosya bir çalışma kitabı (.xlsx) değil: içinde sayfa yok"};
   return XlsxSablon(std::move(ic));
 }
 

@@ -23,6 +23,11 @@ std::string HedefParca(const std::string& kaynak, std::string_view hedef);
 std::string IliskiParcasi(const std::string& parca);
 bool TuruMu(pugi::xml_node iliski, std::string_view tur);
 
+inline constexpr std::size_t EnCokSayfa = 256;
+
+// Its parts before any of them is taken apart.
+Durum KitapSinirlari(const ZipDosyasi& zip);
+
 struct XlsxSablon::Ic {
   explicit Ic(ZipDosyasi z) : zip(std::move(z)) {}
 

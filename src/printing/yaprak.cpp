@@ -82,15 +82,16 @@ std::string YaprakMetni(const Hucre& hucre, int paraOndaligi) {
   return HucreMetni(hucre, {});
 }
 
-std::string MetinYapraklari(const YaprakBelgesi& belge, const SayfaDuzeni& duzen, Ilerleme* ilerleme) {
+void MetinYapraklariniVer(const YaprakBelgesi& belge, const SayfaDuzeni& duzen, const MetinAlici& al,
+                          Ilerleme* ilerleme) {
   const YaprakMetinYazici yazici(belge, ilerleme);
   Asama asama(ilerleme, belge.yapraklar.size());
-  std::string metin;
   int dolu = 0;  // lines of the open page
   for (const auto& yaprak : belge.yapraklar) {
     asama.Adim();
     const auto satirlar = yazici.Satirlar(yaprak);
     const int boy = int(satirlar.size());
+    std::string metin;
     if (dolu > 0 && dolu + YapraklarArasi + boy >= duzen.satirSayisi) {
       metin += '\f';
       dolu = 0;
@@ -100,7 +101,14 @@ std::string MetinYapraklari(const YaprakBelgesi& belge, const SayfaDuzeni& duzen
     }
     for (const auto& satir : satirlar) metin += satir + '\n';
     dolu += boy;
+    al(metin);
   }
+}
+
+std::string MetinYapraklari(const YaprakBelgesi& belge, const SayfaDuzeni& duzen, Ilerleme* ilerleme) {
+  std::string metin;
+  MetinYapraklariniVer(
+      belge, duzen, [&](std::string_view parca) { metin += parca; }, ilerleme);
   return metin;
 }
 

@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/bildirim.h"
@@ -73,5 +74,9 @@ std::string YaprakMetni(const Hucre& hucre, int paraOndaligi);
 // UTF-8 lines for fixed-width printers, as MetinRaporu: as many slips on a page as stay whole on it, at least one; the
 // last line of a page is free. `ek` is left out. No slips, no text.
 std::string MetinYapraklari(const YaprakBelgesi& belge, const SayfaDuzeni& duzen, Ilerleme* ilerleme = nullptr);
+// The same slip by slip.
+using MetinAlici = std::function<void(std::string_view parca)>;
+void MetinYapraklariniVer(const YaprakBelgesi& belge, const SayfaDuzeni& duzen, const MetinAlici& al,
+                          Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -89,9 +89,9 @@ Sonuc<ZipDosyasi> ZipDosyasi::Ac(std::string baytlar) {
   return dosya;
 }
 
-bool ZipDosyasi::Aktar(const std::string& ad, const std::function<void(std::string_view)>& al) const {
+bool ZipDosyasi::Gez(const std::string& ad, const std::function<bool(std::string_view)>& al) const {
   if (const auto d = degisen_.find(ad); d != degisen_.end()) {
-    if (d->second) al(*d->second);
+    if (d->second) (void)al(*d->second);
     return d->second.has_value();
   }
   const Arsiv arsiv(baytlar_);
@@ -100,16 +100,31 @@ bool ZipDosyasi::Aktar(const std::string& ad, const std::function<void(std::stri
   if (!parca) return false;
   std::string blok(65536, '\0');
   zip_int64_t n = 0;  // the last one, of nothing, also checks the part's sum
-  while ((n = zip_fread(parca.get(), blok.data(), blok.size())) > 0) al({blok.data(), std::size_t(n)});
+  while ((n = zip_fread(parca.get(), blok.data(), blok.size())) > 0)
+    if (!al({blok.data(), std::size_t(n)})) return true;
   return n == 0;
+}
+
+bool ZipDosyasi::Aktar(const std::string& ad, const std::function<void(std::string_view)>& al) const {
+  return Gez(ad, [&](std::string_view blok) {
+    al(blok);
+    return true;
+  });
+}
+
+std::optional<std::size_t> ZipDosyasi::Boyu(const std::string& ad, std::size_t enCok) const {
+  std::size_t boy = 0;
+  const bool tamam = Gez(ad, [&](std::string_view blok) { return (boy += blok.size()) <= enCok; });
+  return tamam ? std::optional(boy) : std::nullopt;
 }
 
 std::optional<std::string> ZipDosyasi::Oku(const std::string& ad) const {
   std::string icerik;
   bool buyuk = false;
-  const bool tamam = Aktar(ad, [&](std::string_view blok) {
-    buyuk = buyuk || icerik.size() + blok.size() > EnBuyukParca;
+  const bool tamam = Gez(ad, [&](std::string_view blok) {
+    buyuk = icerik.size() + blok.size() > EnBuyukParca;
     if (!buyuk) icerik += blok;
+    return !buyuk;
   });
   if (!tamam || buyuk) return std::nullopt;
   return icerik;

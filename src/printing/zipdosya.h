@@ -22,6 +22,8 @@ class ZipDosyasi {
 
   // A part as it is now; nothing when there is none, or it cannot be unpacked, or is larger than EnBuyukParca.
   std::optional<std::string> Oku(const std::string& ad) const;
+  // How large the part is unpacked, counted up to `enCok` and a little more; nothing as with Oku.
+  std::optional<std::size_t> Boyu(const std::string& ad, std::size_t enCok) const;
   // The same piece by piece, of any size; false when it could not be given to its end.
   bool Aktar(const std::string& ad, const std::function<void(std::string_view)>& al) const;
 
@@ -35,6 +37,8 @@ class ZipDosyasi {
 
  private:
   struct Arsiv;
+  // Ends early when `al` has enough.
+  bool Gez(const std::string& ad, const std::function<bool(std::string_view)>& al) const;
   explicit ZipDosyasi(std::string baytlar) : baytlar_(std::move(baytlar)) {}
 
   std::string baytlar_;

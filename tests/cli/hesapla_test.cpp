@@ -134,5 +134,28 @@ TEST(Hesapla, OfAListGivesAResultForEach) {
   EXPECT_EQ(komut("hesapla", "[]").cikti, "[]\n");
 }
 
+// A list is looked at as a whole before any of it is calculated, and nests no deeper than people do.
+TEST(Hesapla, HostileListsAreRefusedBeforeAnythingIsWritten) {
+  const Komut komut;
+  const std::string derin = std::string(200'000, '[') + std::string(200'000, ']');
+  std::string nesneler;
+  for (int i = 0; i < 100'000; ++i) nesneler += R"({"a":)";
+  for (const auto& [girdi, mesaj] : {std::pair<std::string, const char*>{derin, "Girdi çok derin: iç içe en çok 64"},
+                                     {"[{}," + derin + "]", "Girdi çok derin"},
+                                     {nesneler, "Girdi çok derin"},
+                                     {"[{},{}", "Girdi JSON değil (7. bayt)"},
+                                     {"[{}] x", "Girdi JSON değil (6. bayt)"},
+                                     {"[1e999]", "Girdide sınırı aşan bir sayı var"}}) {
+    const auto c = komut("hesapla", girdi);
+    EXPECT_EQ(c.durum, 1) << mesaj;
+    EXPECT_EQ(c.cikti, "") << mesaj;
+    EXPECT_THAT(c.mesaj, HasSubstr(mesaj));
+  }
+  const auto parantezli = komut("hesapla", R"( [ {"x[[{\"":"]},["} , 5 ] )");
+  EXPECT_EQ(parantezli.Json().size(), 2u);
+  EXPECT_THAT(parantezli.mesaj, HasSubstr("2. hesap: Girdi bir JSON nesnesi olmalı"));
+  EXPECT_EQ(komut("hesapla", "[]").cikti, "[]\n");
+}
+
 }  // namespace
 }  // namespace belvani

@@ -143,6 +143,43 @@ TEST(XlsxSablon, Refuses) {
   EXPECT_THAT(bozuk->Yaz("ikinci", "A1", Null{}).KusurMetni(), HasSubstr("sayfası bozuk"));
 }
 
+// Small as files, without end when they are unpacked or gone through.
+TEST(XlsxSablon, HostileWorkbooksAreRefusedAtOnce) {
+  const std::string form = Form();
+  const auto degisik = [&](const std::vector<std::pair<std::string, std::string>>& parcalar) {
+    auto zip = ZipDosyasi::Ac(form);
+    for (const auto& [ad, icerik] : parcalar) zip->Degistir(ad, icerik);
+    return *zip->Bitir();
+  };
+  const auto cok = [](const std::string& ne, int kac) {
+    std::string hepsi;
+    for (int i = 0; i < kac; ++i) hepsi += ne;
+    return hepsi;
+  };
+  std::string sayfalar = XlsxParcasi(form, "xl/workbook.xml");
+  sayfalar.insert(sayfalar.find("</sheets>"), cok("<sheet name=\"x\" sheetId=\"9\" r:id=\"rId90\"/>", 300));
+  std::vector<std::pair<std::string, std::string>> parcalar;
+  for (int i = 0; i < 2'000; ++i) parcalar.emplace_back("xl/p" + std::to_string(i), "");
+  const std::pair<std::string, const char*> dosyalar[] = {
+      {degisik({{Sayfa1, cok("<a b='>'>", 100'000)}}), "sheet1.xml içinde ögeler çok derin"},
+      {degisik({{Sayfa1, "<a " + cok("b='' ", 2'000'001) + "/>"}}), "sheet1.xml içinde çok fazla öge var"},
+      {degisik({{Sayfa2, cok("<c/>", 1'000'001)}}), "ikinci.xml içinde çok fazla öge var"},
+      {degisik({{Sayfa2, std::string(17u << 20, ' ')}}), "ikinci.xml açılınca 16 MB sınırını aşıyor"},
+      {degisik({{"xl/media/1", std::string(70u << 20, ' ')}, {"xl/media/2", std::string(70u << 20, ' ')}}),
+       "açılınca 128 MB sınırını aşıyor"},
+      {degisik(parcalar), "en çok 2000 parçası olabilir"},
+      {degisik({{"xl/workbook.xml", sayfalar}}), "en çok 256 sayfası olabilir"},
+  };
+  for (const auto& [baytlar, neden] : dosyalar) {
+    EXPECT_LT(baytlar.size(), 1u << 20) << neden;
+    const auto sablon = XlsxSablon::Ac(baytlar);
+    EXPECT_THAT(sablon ? "açıldı" : sablon.KusurMetni(), HasSubstr(neden));
+  }
+  EXPECT_TRUE(XlsxSablon::Ac(degisik({{Sayfa2, "<!-- " + cok("<a>", 1'000) + " --><![CDATA[" + cok("<a>", 1'000) +
+                                                   "]]><worksheet><sheetData/></worksheet>"}})))
+      << "what looks deep and is not";
+}
+
 TEST(XlsxSablon, Addresses) {
   const std::pair<const char*, std::pair<int, int>> ornekler[] = {
       {"A1", {0, 0}},   {"Z9", {8, 25}},   {"AA10", {9, 26}},  {"AZ1", {0, 51}},

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string_view>
 
+#include "core/derinlik.h"
 #include "core/dosya.h"
 #include "core/sayi.h"
 #include "core/veridizini.h"
@@ -175,7 +176,8 @@ Sonuc<YasalParametreler> MevzuatYukle(const std::string& dizin, int yil, int ay,
   const auto metin = DosyaOku(DizinSonu(dizin) + ad, EnCokMevzuatBayti);
   const std::string donemAdi = std::string(AyAdi(ay)) + " " + std::to_string(yil);
   if (!metin) return Kusur{donemAdi + " için yasal parametre yok (" + DizinSonu(dizin) + ad + " okunamadı)."};
-  const Json kok = Json::parse(*metin, nullptr, false);
+  const Json kok =
+      JsonDerinligi(*metin) > EnCokDerinlik ? Json(Json::value_t::discarded) : Json::parse(*metin, nullptr, false);
   if (kok.is_discarded()) return Kusur{"Yasal parametre dosyası bozuk: " + DizinSonu(dizin) + ad};
   try {
     return DonemOku(DonemBul(kok, ilkGun), lira);

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 #include <xxhash.h>
 
+#include "core/derinlik.h"
 #include "payroll/parametre/kayitlar.h"
 
 namespace belvani {
@@ -124,6 +125,7 @@ Sonuc<std::vector<AdliDosya>> Getir(const std::vector<ParametreDosyasi>& hangile
 
 MevzuatKunyesi MevzuatKunyesi::Coz(const std::string& metin) {
   MevzuatKunyesi kunye;
+  if (JsonDerinligi(metin) > EnCokDerinlik) return kunye;
   const Json kok = Json::parse(metin, nullptr, false);
   if (!kok.is_object()) return kunye;
   const auto metinAl = [](const Json& nesne, const char* ad) {
