@@ -48,9 +48,9 @@ class Program : ProgramParcalari<BildirimKutusu, SistemDialoglari> {
     pencere.showMaximized();
     bool devam = true;
     QTimer::singleShot(0, &pencere, [&] {  // with the window behind its messages
-      const Durum ayniVersiyon = VersiyonKontrol(oturum);
-      if (!ayniVersiyon) bildirim.KusuruGoster(ayniVersiyon.Kusuru());
-      devam = ayniVersiyon || VeritabaniGuncelleGoster(ekran, parametreler) != GuncellemeSonucu::ProgramBitsin;
+      const Durum yapi = YapiKontrol(oturum);
+      if (!yapi) bildirim.KusuruGoster(yapi.Kusuru());
+      devam = yapi || VeritabaniGuncelleGoster(ekran, parametreler) != GuncellemeSonucu::ProgramBitsin;
       devam ? pencere.TehlikeSinifiniSor() : dongu.quit();
     });
     dongu.exec();

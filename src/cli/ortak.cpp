@@ -8,6 +8,7 @@
 #include "core/gecici.h"
 #include "core/kaynak.h"
 #include "core/sayi.h"
+#include "core/session/yukseltme.h"
 #include "documents/secimalanlari.h"
 
 namespace belvani::cli {
@@ -36,6 +37,7 @@ std::unique_ptr<Oturum> Genel::SirketAc(const std::string& kod) {
   if (!FirmaYukle(*o)) throw KomutHatasi{"İşyeri Tanımlamaları Yapılmamış"};
   if (const Durum ayni = VersiyonKontrol(*o); !ayni)
     throw KomutHatasi{ayni.KusurMetni() + "\nŞirket bu programla açılamadı"};
+  if (const Durum yapi = YapiKontrol(*o); !yapi) bildirim.Uyari("Uyarı: " + yapi.KusurMetni());
   return o;
 }
 

@@ -33,7 +33,7 @@ TEST(Yukseltme, AnOldCompanyIsWorkedInAfterItsUpgrade) {
     o.Yaz("\n");
   });
   ASSERT_EQ(VeritabaniGuncelleGoster(o.baglam, o.parametreler), GuncellemeSonucu::Tamam);
-  EXPECT_EQ(o.bildirim.Al(), Iletiler{});
+  EXPECT_EQ(o.bildirim.Al(), Iletiler{"Bilgi: Yükseltmeden önceki veritabanının kopyası: tolu.dat.1.yedek"});
   o.OneAl();
 
   o.pencere->Ac(AnaOrtam::Kayit("perkart"));

@@ -2,107 +2,24 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include "core/session/sirket.h"
+#include "core/store/koru.h"
 #include "core/tables/tablolar.h"
 
 namespace belvani {
 namespace {
 
-struct YeniAlanlar {
-  std::string_view tablo;
-  std::vector<std::string_view> alanlar;
-};
-
-struct Adim {
-  std::string_view baslik;
-  std::string_view versiyon;  // the step is open to stores before it
-  std::vector<YeniAlanlar> eklenen;
-  void (*doldur)(Depo& depo, Tutar sskTaban);
-  double damga;  // 0: the program's version
-};
-
-// `tahsisno` of `sicil` is not filled: a new text field is Null, and Null reads as the empty text that it would get.
-void Adim0Doldur(Depo& depo, Tutar) {
-  depo.db.IcMotor().Calistir(
-      "update firma set tckimlik = '', epos = '', kanun = '00000', semt = '', adrilce = '', adril = '', pk = '';"
-      "update brd set ucretsizizin = coalesce(ucretsizizin, 0), ogv = coalesce(ogv, 0) "
-      "where ucretsizizin is null or ogv is null");
-}
-
-void Adim1Doldur(Depo& depo, Tutar sskTaban) {
-  const auto komut = depo.db.IcMotor().Hazirla(
-      "update brd set ucrizmatrah = 0, indirim1 = 0, indirim2 = 0, indirim3 = 0, sakindir = 0, gocindir = 0, katki = "
-      "case when coalesce(sskmatrahisveren, 0) < ? then ? - coalesce(sskmatrahisveren, 0) else 0 end");
-  komut->Bagla(1, sskTaban);
-  komut->Bagla(2, sskTaban);
-  komut->Calistir();
-}
-
-void Adim2Doldur(Depo& depo, Tutar) {
-  depo.db.IcMotor().Calistir("update firma set tersfirma = 0");
-}
-
-// `kanun` of `sicil` stays Null in step 4 for the same reason as `tahsisno`.
-void Doldurma(Depo&, Tutar) {}
-
-void Adim5Doldur(Depo& depo, Tutar) {
-  depo.db.IcMotor().Calistir(
-      "update sicil set tur = case coalesce(sskdurum, 0) "
-      "when 0 then 1 when 1 then 2 when 2 then 15 when 3 then 7 when 4 then 0 else tur end "
-      "where coalesce(tur, 0) < 1 or tur > 18");
-}
-
-void Adim6Doldur(Depo& depo, Tutar) {
-  depo.db.IcMotor().Calistir(
-      "update sicil set agi = 1, tur = case when sskdurum = 4 then 1 else 0 end, "
-      "sskdurum = case when sskdurum = 4 then 4 else 0 end");
-}
-
-const std::array<Adim, AdimSayisi>& Adimlar() {
-  static const std::array<Adim, AdimSayisi> adimlar{{
-      {"Önceki Versiyonlardan 2003.1'e  Geçiş",
-       "2003.1",
-       {{"firma", {"tckimlik", "epos", "kanun", "versiyon", "semt", "adrilce", "adril", "pk"}},
-        {"brd", {"ucretsizizin", "ogv"}},
-        {"sicil", {"tahsisno"}}},
-       Adim0Doldur,
-       0},
-      {"2003.1' den 2003.2 ' ye Geçiş",
-       "2003.2",
-       {{"sicil", {"indirim1", "indirim2", "indirim3", "indtut1", "indtut2", "indtut3"}},
-        {"brd", {"ucrizmatrah", "katki", "indirim1", "indirim2", "indirim3", "sakindir", "gocindir"}}},
-       Adim1Doldur,
-       0},
-      {"2003.2' den 2003.3 ' ye Geçiş", "2003.3", {{"firma", {"tersfirma"}}}, Adim2Doldur, 0},
-      {"2003.3' den 2003.4 ' ye Geçiş", "2003.4", {{"brd", {"sendika", "borckes", "muaftutar"}}}, Doldurma, 0},
-      {"2003.4' den 2003.5 ' ye Geçiş", "2003.5", {{"sicil", {"kanun"}}}, Doldurma, 0},
-      {"2003.5' den 2003.6 ' ye Geçiş", "2003.6", {{"sicil", {"tur"}}}, Adim5Doldur, 2003.6},
-      {"2003.6' den 2003.7 ' ye Geçiş",
-       "2003.7",
-       {{"sicil", {"agi"}}, {"esco", {"agiok"}}, {"brd", {"agioran", "agimatrah", "brdkanun"}}},
-       Adim6Doldur,
-       2003.7},
-  }};
-  return adimlar;
-}
-
-template <class Is>
-bool HerAlan(const Adim& adim, Is&& is) {
-  return std::all_of(adim.eklenen.begin(), adim.eklenen.end(), [&](const YeniAlanlar& y) {
-    return std::all_of(y.alanlar.begin(), y.alanlar.end(), [&](std::string_view alan) { return is(y.tablo, alan); });
-  });
-}
-
-// All of the step's fields in one transaction; those that are there stay as they are.
-bool AlanlariEkle(Veritabani& db, const Adim& adim) {
-  return db.Koru(false, [&] {
-    Islem islem(db.IcMotor());
-    const bool tamam = HerAlan(adim, [&](std::string_view tablo, std::string_view alan) {
-      return !db.TabloVarMi(tablo) || db.AlanVarMi(tablo, alan) || db.AlanEkle(tablo, *TabloBul(tablo)->AlanBul(alan));
-    });
-    if (tamam) islem.Onayla();
-    return tamam;
+// Those that are there stay as they are.
+bool AlanlariEkle(Veritabani& db, const YukseltmeAdimi& adim) {
+  const auto eklenir = [&](std::string_view tablo, std::string_view alan) {
+    return !db.TabloVarMi(tablo) || db.AlanVarMi(tablo, alan) || db.AlanEkle(tablo, *TabloBul(tablo)->AlanBul(alan));
+  };
+  return std::ranges::all_of(adim.eklenen, [&](const AdimAlanlari& a) {
+    return std::ranges::all_of(a.alanlar, [&](std::string_view alan) { return eklenir(a.tablo, alan); });
   });
 }
 
@@ -111,35 +28,129 @@ bool DamgasizOlur(std::size_t adim) {
   return adim < 2;
 }
 
-GuncellemeSonucu DoldurVeDamgala(Oturum& o, std::size_t no, Tutar sskTaban, Bildirim& bildirim) {
-  const Adim& adim = Adimlar()[no];
-  auto& depo = o.depo;
-  const bool tamam = depo.db.Koru(false, [&] {
-    Islem islem(depo.db.IcMotor());
-    adim.doldur(depo, sskTaban);
-    const auto damga = depo.db.IcMotor().Hazirla("update firma set versiyon = ?");
-    damga->SayiBagla(1, adim.damga == 0 ? o.Versiyon.Sayi() : adim.damga);
+// Fields, filling and stamp: a store without the fields must not be stamped as if it had them.
+bool AdimiYap(Veritabani& db, std::size_t no, Tek programVersiyonu, Tutar sskTaban) {
+  const YukseltmeAdimi& adim = YukseltmeAdimlari()[no];
+  return db.Koru(false, [&] {
+    Motor& motor = db.IcMotor();
+    Islem islem(motor);
+    if (!AlanlariEkle(db, adim)) return false;
+    adim.doldur(motor, sskTaban);
+    const auto damga = motor.Hazirla("update firma set versiyon = ?");
+    damga->SayiBagla(1, adim.damga == 0 ? programVersiyonu.Sayi() : adim.damga);
     damga->Calistir();
-    const bool kayitVar = depo.db.IcMotor().DegisenSatir() != 0;
+    if (motor.DegisenSatir() == 0 && !DamgasizOlur(no)) {
+      db.HataYaz("firma kaydı yok, versiyon yazılamadı");
+      return false;
+    }
     islem.Onayla();
-    if (!kayitVar) depo.db.HataYaz("firma kaydı yok, versiyon yazılamadı");
-    return kayitVar || DamgasizOlur(no);
+    return true;
   });
-  if (tamam) return GuncellemeSonucu::Tamam;
-  bildirim.Uyari(std::string(adim.baslik) + "\nyapılamadı: " + depo.db.SonHata());
-  return GuncellemeSonucu::Basarisiz;
+}
+
+Durum AlanKontrol(Oturum& o) {
+  const auto yarim = Koru([&] { return YarimYukseltmeKusuru(o.depo.db.IcMotor()); });
+  if (!yarim) return yarim.Kusuru();
+  return *yarim ? Durum(**yarim) : Tamam();
+}
+
+// Cards whose kind of insurance or board-fee flag would be another one after the step; and all.
+std::pair<std::int64_t, std::int64_t> DegisecekKartlar(Motor& motor) {
+  const auto kolonlar = motor.Kolonlar("sicil");
+  const bool turVar = std::ranges::find(kolonlar, "tur", &MotorKolonu::ad) != kolonlar.end();
+  const auto komut = motor.Hazirla(std::string("select count(case when coalesce(sskdurum, 0) not in (0, 4) or ") +
+                                   (turVar ? "coalesce(tur, 0)" : "0") +
+                                   " <> (case when sskdurum = 4 then 1 else 0 end) then 1 end), count(*) from sicil");
+  if (!komut->Adim()) return {};
+  return {komut->Tam(0), komut->Tam(1)};
+}
+
+// Made empty first, so that the copy is open to owner and group only; a name that is taken is left alone.
+std::string BosDosyaAc(const std::string& govde, const std::string& ek) {
+  for (int no = 1; no < 1000; ++no) {
+    const std::string yol = govde + (no == 1 ? "" : "-" + std::to_string(no)) + ek;
+    const int dosya = ::open(yol.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0660);
+    if (dosya >= 0) {
+      ::close(dosya);
+      return yol;
+    }
+    if (errno != EEXIST) break;
+  }
+  throw MotorHatasi(MotorKusuru::Acilamadi, "dosya açılamadı: " + govde + ek);
+}
+
+// What the steps do, between the copy and the last words.
+GuncellemeSonucu Yurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Bildirim& bildirim,
+                       Ilerleme* ilerleme) {
+  const auto adimlar = std::size_t(std::ranges::count(isaretli, true));
+  std::size_t biten = 0;
+  for (std::size_t i = 0; i < AdimSayisi; ++i) {
+    if (!isaretli[i]) continue;
+    if (ilerleme != nullptr) {
+      ilerleme->Adim(biten++, adimlar);
+      ilerleme->Asama(AdimBasligi(i));
+    }
+    if (const auto sonuc = VeritabaniGuncelle(o, i, sskTaban, bildirim); sonuc != GuncellemeSonucu::Tamam) return sonuc;
+  }
+  return GuncellemeSonucu::Tamam;
 }
 
 }  // namespace
 
 std::string_view AdimBasligi(std::size_t adim) {
-  return Adimlar().at(adim).baslik;
+  return YukseltmeAdimlari().at(adim).baslik;
 }
 
 AdimIsaretleri AcikAdimlar(Tek depoVersiyonu) {
   AdimIsaretleri acik{};
-  for (std::size_t i = 0; i < AdimSayisi; ++i) acik[i] = VersiyonMetni(depoVersiyonu) < Adimlar()[i].versiyon;
+  for (std::size_t i = 0; i < AdimSayisi; ++i) acik[i] = VersiyonMetni(depoVersiyonu) < YukseltmeAdimlari()[i].versiyon;
   return acik;
+}
+
+AdimIsaretleri AcikAdimlar(Depo& depo) {
+  AdimIsaretleri acik = AcikAdimlar(depo.Versiyon());
+  for (const EksikAdim& eksik : depo.db.Koru(std::vector<EksikAdim>(), [&] { return EksikAdimlar(depo.db.IcMotor()); }))
+    acik[eksik.adim] = true;
+  return acik;
+}
+
+Durum YapiKontrol(Oturum& o) {
+  Durum ayni = VersiyonKontrol(o);
+  return ayni ? AlanKontrol(o) : ayni;
+}
+
+bool SigortaTuruOnayi(Oturum& o, const AdimIsaretleri& isaretli, Bildirim& bildirim) {
+  if (!isaretli[SigortaTuruAdimi]) return true;
+  const auto kartlar = Koru([&] { return DegisecekKartlar(o.depo.db.IcMotor()); });
+  if (!kartlar) {
+    bildirim.Uyari(kartlar.KusurMetni());
+    return false;
+  }
+  const auto [degisen, toplam] = *kartlar;
+  return degisen == 0 ||
+         bildirim.SilinsinMi("Bütün Kartların SSK Durumu Yeniden Yazılacak Eminmisiniz ?",
+                             std::string(AdimBasligi(SigortaTuruAdimi)) + ": " + std::to_string(toplam) + " karttan " +
+                                 std::to_string(degisen) + " kart değişecek");
+}
+
+Sonuc<std::string> YukseltmeOncesiKopya(Oturum& o) {
+  const std::string depo = DepoAdresi(o.FirmaDizini);
+  return Koru(
+      [&] {
+        if (!o.depo.db.AcikMi()) throw MotorHatasi(MotorKusuru::Acilamadi, "Veritabanı açık değil");
+        o.depo.TablolariKapat(KapatmaKapsami::YalnizImlecler);
+        const std::string kopya = BosDosyaAc(depo + "." + VersiyonMetni(o.depo.Versiyon()), ".yedek");
+        try {
+          const auto komut = o.depo.db.IcMotor().Hazirla("vacuum into ?");
+          komut->MetinBagla(1, kopya);
+          komut->Calistir();
+        } catch (...) {
+          MotorDosyasiniSil(kopya);
+          throw;
+        }
+        return kopya.substr(kopya.rfind('/') + 1);
+      },
+      "Yükseltmeden önce veritabanının kopyası alınamadı, hiçbir geçiş yapılmadı: ");
 }
 
 GuncellemeSonucu VeritabaniGuncelle(Oturum& o, std::size_t adim, Tutar sskTaban, Bildirim& bildirim) {
@@ -150,40 +161,39 @@ GuncellemeSonucu VeritabaniGuncelle(Oturum& o, std::size_t adim, Tutar sskTaban,
     bildirim.Uyari("Dosyalar Güvenli Kapatılıp Açılamadı..");
     return GuncellemeSonucu::ProgramBitsin;
   }
-  const bool eklendi = AlanlariEkle(o.depo.db, Adimlar()[adim]);
-  const std::string eklemeHatasi = o.depo.db.SonHata();
+  const bool yapildi = AdimiYap(o.depo.db, adim, o.Versiyon, sskTaban);
+  const std::string kusur = o.depo.db.SonHata();
   if (!o.depo.VeritabaniAc(yol, bildirim)) {
     if (adim != 0) return GuncellemeSonucu::Basarisiz;
     bildirim.Uyari("Database Tekrar Açılamadı");
     return GuncellemeSonucu::ProgramBitsin;
   }
-  if (eklendi) return DoldurVeDamgala(o, adim, sskTaban, bildirim);
-  // A store without the fields must not be stamped as if it had them.
-  bildirim.Uyari(std::string(AdimBasligi(adim)) + "\nyapılamadı: " + eklemeHatasi);
+  if (yapildi) return GuncellemeSonucu::Tamam;
+  bildirim.Uyari(std::string(AdimBasligi(adim)) + "\nyapılamadı: " + kusur);
   return GuncellemeSonucu::Basarisiz;
 }
 
 GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Bildirim& bildirim,
                                Ilerleme* ilerleme) {
-  const auto adimlar = std::size_t(std::count(isaretli.begin(), isaretli.end(), true));
-  if (adimlar == 0) {
+  if (std::ranges::count(isaretli, true) == 0) {
     bildirim.Uyari("İşaretleme Yapılmamış..");
     return GuncellemeSonucu::IsaretYok;
   }
   // Given up before the first step, it is as if nothing had been ticked.
   if (ilerleme != nullptr && !ilerleme->Kesin()) return GuncellemeSonucu::IsaretYok;
-  std::size_t biten = 0;
-  for (std::size_t i = 0; i < AdimSayisi; ++i) {
-    if (!isaretli[i]) continue;
-    if (ilerleme != nullptr) {
-      ilerleme->Adim(biten++, adimlar);
-      ilerleme->Asama(AdimBasligi(i));
-    }
-    if (const auto sonuc = VeritabaniGuncelle(o, i, sskTaban, bildirim); sonuc != GuncellemeSonucu::Tamam) return sonuc;
+  const auto kopya = YukseltmeOncesiKopya(o);
+  if (!kopya) {
+    bildirim.Uyari(kopya.KusurMetni());
+    return GuncellemeSonucu::Basarisiz;
   }
-  // The store is whole without them, only slower: nobody is told when they cannot be made.
-  o.depo.db.SorguIndeksleriKur();
-  return GuncellemeSonucu::Tamam;
+  const GuncellemeSonucu sonuc = Yurut(o, isaretli, sskTaban, bildirim, ilerleme);
+  if (sonuc == GuncellemeSonucu::Tamam) {
+    // The store is whole without them, only slower: nobody is told when they cannot be made.
+    o.depo.db.SorguIndeksleriKur();
+    if (const Durum kalan = AlanKontrol(o); !kalan) bildirim.Uyari(kalan.KusurMetni());
+  }
+  bildirim.Bilgi("Yükseltmeden önceki veritabanının kopyası: " + *kopya);
+  return sonuc;
 }
 
 }  // namespace belvani

@@ -1,8 +1,8 @@
 // The in-place upgrade of a company store that an earlier version has made, one numbered step after the other.
 //
-// A step closes the cursors, opens the file anew, adds the fields that its version brought, opens the cursors, fills
-// the new fields and stamps `firma.versiyon`. Fields that are there already are passed over, so a step may be repeated;
-// its filling is then done again, too. Filling and stamp are one transaction: they happen whole or not at all.
+// A step closes the cursors, opens the file anew, adds the fields that its version brought, fills them and stamps
+// `firma.versiyon`, all in one transaction, and opens the cursors: it happens whole or not at all. Fields that are
+// there already are passed over, so a step may be repeated; its filling is then done again, too.
 //
 //   step  from    to      fields                                           filled with
 //   0     older   2003.1  firma: tckimlik epos kanun versiyon semt         "", kanun "00000"; 0
@@ -23,17 +23,15 @@
 // The store must be this program's alone meanwhile; nothing but the screen's notice sees to that.
 #pragma once
 
-#include <array>
+#include <string>
 #include <string_view>
 
 #include "core/bildirim.h"
 #include "core/session/oturum.h"
+#include "core/session/yukseltmeadimlari.h"
 #include "core/tutar.h"
 
 namespace belvani {
-
-inline constexpr std::size_t AdimSayisi = 7;
-using AdimIsaretleri = std::array<bool, AdimSayisi>;
 
 enum class GuncellemeSonucu {
   Tamam,
@@ -47,13 +45,27 @@ std::string_view AdimBasligi(std::size_t adim);
 
 // Steps whose version the store has not reached. Versions are compared as the texts that the screen shows.
 AdimIsaretleri AcikAdimlar(Tek depoVersiyonu);
+// The same of the open store, and the steps that it lacks whatever its version says.
+AdimIsaretleri AcikAdimlar(Depo& depo);
+
+// The store has the program's version and every field that the steps bring; the fault says what is missing. With such a
+// store the user goes on, to read it and to upgrade it.
+Durum YapiKontrol(Oturum& o);
+
+// Before the step that writes everybody's kind of insurance anew, where it is ticked: tells how many cards it changes.
+// False: its user does not want that.
+bool SigortaTuruOnayi(Oturum& o, const AdimIsaretleri& isaretli, Bildirim& bildirim);
+
+// The store as it is, in a file beside it that is named after its version; gives the file's name.
+Sonuc<std::string> YukseltmeOncesiKopya(Oturum& o);
 
 // One step, 0 to 6, on the session's company. `sskTaban` is the monthly floor of the social-security base as the
 // parameters have it now.
 GuncellemeSonucu VeritabaniGuncelle(Oturum& o, std::size_t adim, Tutar sskTaban, Bildirim& bildirim);
 
-// The ticked steps in ascending order, up to the first that fails. `ilerleme` only shows them: a chain that stopped in
-// its middle would leave a store that claims to be newer than it is.
+// The ticked steps in ascending order, up to the first that fails, after a copy of the store; without the copy nothing
+// is done. At the end it tells where the copy is, and what the store still lacks. `ilerleme` only shows the steps: a
+// chain that stopped in its middle would leave a store that claims to be newer than it is.
 GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Bildirim& bildirim,
                                Ilerleme* ilerleme = nullptr);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/session/yukseltmeadimlari.h"
 #include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/turkce.h"
@@ -190,6 +191,7 @@ Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const st
   const auto hazirla = [&]() -> Sonuc<HazirlikSonucu> {
     Motor& motor = o.depo.db.IcMotor();
     Islem islem(motor, KilitBekleme);
+    if (const auto yarim = YarimYukseltmeKusuru(motor)) return *yarim;
     const std::size_t toplam = KisiSayisi(motor);
     std::size_t biten = 0;
     bool suruyor = true;
@@ -216,6 +218,7 @@ Yazim<Brd> BordroKaydet(Motor& motor, const Okunan<Brd>& kayit) {
   yazilan.simdi.gocindir = kayit.ilk ? kayit.ilk->gocindir : Tutar();
   yazilan.simdi.oto = kayit.ilk ? kayit.ilk->oto : 0;
   Islem islem(motor);
+  if (auto yarim = YarimYukseltmeKusuru(motor)) return YazmaEngeli<Brd>(*std::move(yarim));
   if (!kayit.ilk)
     if (const auto baska = AyinKaydi(motor, kayit.simdi))
       return BordroEngeli(CakismaTuru::Eklenmis, *baska, kayit.simdi);

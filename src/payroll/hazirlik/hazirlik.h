@@ -3,7 +3,7 @@
 // A mass run is one transaction. It goes through all people in code order; whoever belongs to the period is calculated
 // from his saved record, else from the template, each overlaid by what an entry list gives for him, and is saved when
 // his net is above zero. Either the whole month is saved or nothing is: an entry that cannot stand, a cancel or a
-// failed write leaves the store as it was.
+// failed write leaves the store as it was. In a store that lacks fields of an upgrade no month is saved.
 #pragma once
 
 #include <set>

@@ -51,7 +51,7 @@ QWidget* Dbupdate::VersiyonlariYap() {
 QWidget* Dbupdate::AdimlariYap() {
   auto* grup = new QGroupBox(QStringLiteral("Geçişler"), this);
   auto* duzen = new QVBoxLayout(grup);
-  const AdimIsaretleri acik = AcikAdimlar(Oturumu().depo.Versiyon());
+  const AdimIsaretleri acik = AcikAdimlar(Oturumu().depo);
   for (std::size_t i = 0; i < AdimSayisi; ++i) {
     auto* kutu = new QCheckBox(Yazi(AdimBasligi(i)), grup);
     kutu->setObjectName(QStringLiteral("Check1(%1)").arg(i));
@@ -82,6 +82,7 @@ void Dbupdate::HepsiniAc() {
 void Dbupdate::Calistir() {
   AdimIsaretleri isaretli{};
   for (std::size_t i = 0; i < AdimSayisi; ++i) isaretli[i] = kutular_[i]->isChecked();
+  if (!SigortaTuruOnayi(Oturumu(), isaretli, Bildirimi())) return;
   const auto sonuc = UzunIs(Baglam(), QStringLiteral("Database güncelleniyor…"), [&](Ilerleme& ilerleme) {
     return AdimlariYurut(Oturumu(), isaretli, parametreler_.yasal.oranlar.SskTaban, Bildirimi(), &ilerleme);
   });

@@ -1,6 +1,8 @@
 // The upgrade: which steps are open, and a store of the oldest program brought through all of them.
 #include "core/session/yukseltme.h"
 
+#include <gmock/gmock.h>
+
 #include "core/session/eskidepo.h"
 #include "core/session/ornekoturum.h"
 #include "core/session/sirket.h"
@@ -17,6 +19,10 @@ using test::Tablo;
 const AdimIsaretleri Hepsi{true, true, true, true, true, true, true};
 const Tutar Taban(444.15);
 
+std::string KopyaIletisi(const std::string& dosya) {
+  return "Bilgi: Yükseltmeden önceki veritabanının kopyası: tolu.dat." + dosya + ".yedek";
+}
+
 struct Yukseltme : test::OrnekOturum {
   Yukseltme() { Kur(); }
 
@@ -25,6 +31,11 @@ struct Yukseltme : test::OrnekOturum {
     ASSERT_TRUE(SirketAc(o, "deneme", b));
   }
   GuncellemeSonucu Adim(std::size_t no) { return VeritabaniGuncelle(o, no, Taban, b); }
+  std::vector<std::size_t> Eksik() {
+    std::vector<std::size_t> adimlar;
+    for (const EksikAdim& e : EksikAdimlar(o.depo.db.IcMotor())) adimlar.push_back(e.adim);
+    return adimlar;
+  }
   // One row of a query as text, columns parted by blanks; Null as "-".
   std::string Satir(const std::string& sql) {
     const auto komut = o.depo.db.IcMotor().Hazirla(sql);
@@ -83,8 +94,8 @@ TEST_F(Yukseltme, OldestStoreThroughAllSteps) {
 // Fields that are there pass unnoticed; what a step fills is filled again.
 TEST_F(Yukseltme, RepeatedSteps) {
   Sql("update firma set epos = 'a@b', kanun = '05510', tersfirma = 1");
-  Sql("insert into sicil (kod, sskdurum, tur, tahsisno, kanun) values ('1', 2, 18, '7', '05084'), ('2', 2, 19, '', "
-      "'')");
+  Sql("insert into sicil (kod, sskdurum, tur, tahsisno, kanun, agi) values ('1', 2, 18, '7', '05084', 1), ('2', 2, 19, "
+      "'', '', 1)");
   Sql("insert into brd (kod, ogv, katki, sskmatrahisveren, sendika) values ('1', 5, 6, 9000000, 8)");
   const char* donemIndeksleri =
       "select count(*) from sqlite_master where type = 'index' and name like 'brd!_%' escape '!'";
@@ -95,7 +106,72 @@ TEST_F(Yukseltme, RepeatedSteps) {
   EXPECT_EQ(Satir("select epos || kanun, tersfirma, versiyon from firma"), "00000 0 2003.6");
   EXPECT_EQ(Satir("select tur, tahsisno || kanun from sicil order by kod"), "18 705084 15 ");
   EXPECT_EQ(Satir("select ogv, katki, sendika from brd"), "5 0 8");
-  EXPECT_EQ(b.iletiler, Iletiler{});
+  EXPECT_EQ(b.iletiler, Iletiler{KopyaIletisi("2003.7")});
+}
+
+// Each step by itself is missing in a store that says it is of this version; the step mends it.
+TEST_F(Yukseltme, HalfStoresNameTheStepThatIsMissing) {
+  Sql("insert into sicil (kod, agi, tur) values ('1', 1, 0); insert into brd (kod, ogv, katki) values ('1', 5, 6)");
+  EXPECT_EQ(Eksik(), std::vector<std::size_t>{});
+  EXPECT_TRUE(YapiKontrol(o));
+  Sql("drop index brd_yil; drop index esco_kod");  // they hold columns of the steps
+  for (std::size_t i = 0; i < AdimSayisi; ++i) {
+    const YukseltmeAdimi& adim = YukseltmeAdimlari()[i];
+    const std::string baslik(AdimBasligi(i));
+    for (const auto& [tablo, alanlar] : adim.eklenen)
+      Sql("alter table " + std::string(tablo) + " drop column " + std::string(alanlar.back()));
+    EXPECT_EQ(Eksik(), std::vector<std::size_t>{i});
+    EXPECT_TRUE(AcikAdimlar(o.depo)[i]) << baslik;
+    EXPECT_THAT(YarimYukseltmeKusuru(o.depo.db.IcMotor())->metin, testing::HasSubstr("\n" + baslik + " ("));
+    EXPECT_FALSE(YapiKontrol(o)) << "told at the opening";
+    EXPECT_EQ(Adim(i), GuncellemeSonucu::Tamam) << baslik << o.depo.db.SonHata();
+    EXPECT_EQ(Eksik(), std::vector<std::size_t>{}) << baslik;
+    Sql("update firma set versiyon = 2003.7");
+  }
+  // Added, and never filled.
+  for (const auto& [sql, adim] : Tablo<std::string, std::size_t>{{"update brd set ogv = null", 0},
+                                                                 {"update brd set katki = null", 1},
+                                                                 {"update firma set tersfirma = null", 2},
+                                                                 {"update sicil set agi = null", 6}}) {
+    Sql(sql);
+    EXPECT_EQ(Eksik(), std::vector<std::size_t>{adim}) << sql;
+    EXPECT_THAT(YapiKontrol(o).KusurMetni(), testing::HasSubstr("alanları doldurulmamış")) << sql;
+    EXPECT_EQ(Adim(adim), GuncellemeSonucu::Tamam);
+  }
+  EXPECT_EQ(b.Al(), Iletiler{});
+}
+
+TEST_F(Yukseltme, OneStepAloneLeavesAStoreThatSaysSo) {
+  Yaslandir();
+  Sql("insert into sicil (kod) values ('1')");
+  ASSERT_EQ(AdimlariYurut(o, {true}, Taban, b), GuncellemeSonucu::Tamam);
+  EXPECT_TRUE(VersiyonKontrol(o)) << "the version alone says that it is new";
+  EXPECT_EQ(Eksik(), (std::vector<std::size_t>{1, 2, 3, 4, 5, 6}));
+  const Iletiler soylenen = b.Al();
+  ASSERT_EQ(soylenen.size(), 2u);
+  EXPECT_THAT(soylenen[0], testing::AllOf(testing::HasSubstr("2003.6' den 2003.7 ' ye Geçiş (sicil.agi, esco.agiok"),
+                                          testing::HasSubstr("bordro kaydedilmez")));
+  EXPECT_EQ(soylenen[1], KopyaIletisi("1"));
+  // The copy is the store before the first step; a second one takes another name.
+  {
+    Veritabani kopya;
+    ASSERT_TRUE(kopya.DbAc(o.FirmaDizini + "tolu.dat.1.yedek"));
+    EXPECT_TRUE(kopya.TabloVarMi("sicil") && !kopya.AlanVarMi("firma", "versiyon"));
+  }
+  EXPECT_EQ(*YukseltmeOncesiKopya(o), "tolu.dat.2003.7.yedek");
+  EXPECT_EQ(*YukseltmeOncesiKopya(o), "tolu.dat.2003.7-2.yedek");
+}
+
+TEST_F(Yukseltme, TellsHowManyCardsGetAnotherKindOfInsurance) {
+  Sql("insert into sicil (kod, sskdurum, tur) values ('1', 0, 0), ('2', 1, 0), ('3', 4, 1), ('4', 4, 0), ('5', 0, 2)");
+  b.cevap = false;
+  EXPECT_TRUE(SigortaTuruOnayi(o, {true, true}, b)) << "only that step is asked about";
+  EXPECT_EQ(b.Al(), Iletiler{});
+  EXPECT_FALSE(SigortaTuruOnayi(o, Hepsi, b));
+  EXPECT_EQ(b.Al(), Iletiler{"Soru: Bütün Kartların SSK Durumu Yeniden Yazılacak Eminmisiniz ?\n"
+                             "2003.6' den 2003.7 ' ye Geçiş: 5 karttan 3 kart değişecek"});
+  ASSERT_EQ(Adim(6), GuncellemeSonucu::Tamam);
+  EXPECT_TRUE(SigortaTuruOnayi(o, Hepsi, b)) << "nothing is left to change";
 }
 
 TEST_F(Yukseltme, ChainStopsAtTheFirstFailure) {
@@ -103,13 +179,16 @@ TEST_F(Yukseltme, ChainStopsAtTheFirstFailure) {
   EXPECT_EQ(b.Al(), Iletiler{"Uyarı: İşaretleme Yapılmamış.."});
   Sql("delete from firma; insert into sicil (kod, tur) values ('1', 5)");
   EXPECT_EQ(AdimlariYurut(o, Hepsi, Taban, b), GuncellemeSonucu::Basarisiz);
-  EXPECT_EQ(b.Al(), Iletiler{"Uyarı: 2003.2' den 2003.3 ' ye Geçiş\nyapılamadı: firma kaydı yok, versiyon yazılamadı"});
+  EXPECT_EQ(b.Al(), (Iletiler{"Uyarı: 2003.2' den 2003.3 ' ye Geçiş\nyapılamadı: firma kaydı yok, versiyon yazılamadı",
+                              KopyaIletisi("1")}));
   EXPECT_EQ(Satir("select tur, agi from sicil"), "5 -") << "later steps have not run";
-  // A step that fails half way leaves neither its filling nor its stamp.
+  // A step that fails half way leaves neither its fields nor its filling nor its stamp.
   Sql("insert into firma (versiyon) values (2003.1); insert into brd (kod, katki) values ('1', 7)");
+  Sql("alter table brd drop column sakindir");
   Sql("create trigger t before update of versiyon on firma begin select raise(abort, 'x'); end");
   EXPECT_EQ(Adim(1), GuncellemeSonucu::Basarisiz);
   EXPECT_EQ(Satir("select katki from brd"), "7");
+  EXPECT_FALSE(o.depo.db.AlanVarMi("brd", "sakindir"));
 }
 
 TEST_F(Yukseltme, StoreThatCannotBeOpenedAgain) {
@@ -119,8 +198,10 @@ TEST_F(Yukseltme, StoreThatCannotBeOpenedAgain) {
   EXPECT_EQ(Adim(0), GuncellemeSonucu::ProgramBitsin);
   EXPECT_EQ(b.Al().back(), "Uyarı: Database Tekrar Açılamadı");
   std::filesystem::remove(o.FirmaDizini + DepoDosyasi);
-  EXPECT_EQ(AdimlariYurut(o, Hepsi, Taban, b), GuncellemeSonucu::ProgramBitsin);
+  EXPECT_EQ(Adim(1), GuncellemeSonucu::ProgramBitsin);
   EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Dosyalar Güvenli Kapatılıp Açılamadı.."});
+  EXPECT_EQ(AdimlariYurut(o, Hepsi, Taban, b), GuncellemeSonucu::Basarisiz) << "no step without a copy";
+  EXPECT_THAT(b.Al(), testing::ElementsAre(testing::HasSubstr("kopyası alınamadı, hiçbir geçiş yapılmadı")));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <random>
 #include <thread>
 
+#include "core/session/yukseltme.h"
 #include "sirket.h"
 #include "surec.h"
 
@@ -210,6 +211,27 @@ TEST(BordroKaydet, SavesWholeOrNotAtAllOnceAnotherUserHasBeenThere) {
   ASSERT_TRUE(BordroKaydet(sirket.motor(), okunan));
   engellenir("eklenmiş");
   EXPECT_EQ(sirket.Kayit("1", 2009, 1).fm1, Tek(7));
+}
+
+// What a store lacks reads as zero, and the month would pay it so.
+TEST(BordroKaydet, NoMonthIsSavedInAHalfUpgradedStore) {
+  Sirket sirket;
+  sirket.Kisi("1", 700);
+  sirket.Hazirla(2009, 7);
+  const Brd tam = sirket.Kayit("1", 2009, 7);
+  EXPECT_EQ(tam.ogv, Tutar(49.95));
+  sirket.motor().Calistir("alter table sicil drop column agi");
+  const Kosullar k = sirket.Kosul(2009, 8);
+  const auto eksik = HasSubstr("2003.6' den 2003.7 ' ye Geçiş (sicil.agi yok)");
+  EXPECT_THAT(TopluHazirla(sirket.o, k).KusurMetni(), eksik);
+  Okunan<Brd> okunan{.ilk = tam, .simdi = tam};
+  okunan.simdi.ogv = Tutar();
+  EXPECT_THAT(BordroKaydet(sirket.motor(), okunan).KusurMetni(), eksik);
+  EXPECT_EQ(sirket.Kayit("1", 2009, 7), tam) << "records are read as before, and none is written";
+  EXPECT_TRUE(sirket.Kayitlar(2009, 8).empty());
+  ASSERT_EQ(VeritabaniGuncelle(sirket.o, 6, Tutar(693), sirket.bildirim), GuncellemeSonucu::Tamam);
+  sirket.Hazirla(2009, 8);
+  EXPECT_EQ(sirket.Kayit("1", 2009, 8).ogv, Tutar(49.95));
 }
 
 // Opens the company in this process and prepares a month; 0 when it went well.

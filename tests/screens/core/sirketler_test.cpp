@@ -144,7 +144,7 @@ TEST(DbupdateEkrani, BringsAnOldStoreUp) {
     ortam.Yaz("\n");
   });
   EXPECT_EQ(VeritabaniGuncelleGoster(ortam.ekran, ortam.parametreler), GuncellemeSonucu::Tamam);
-  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: Yükseltmeden önceki veritabanının kopyası: tolu.dat.1.yedek"});
   EXPECT_TRUE(VersiyonKontrol(ortam.oturum));
   EXPECT_TRUE(ortam.oturum.depo.db.AlanVarMi("brd", "brdkanun"));
 }
