@@ -1,4 +1,6 @@
 // sirket-ac, sirket-sil, sirketler, denetle
+#include <algorithm>
+
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
 #include "core/session/sirketlistesi.h"
@@ -76,12 +78,13 @@ std::string BulguSatirlari(const Kusurlar& bulgular) {
 
 void Denetle(Genel& genel, const std::string& kod) {
   const auto o = genel.SirketAc(kod);
-  const auto kusurlar = Koru([&] { return DepoKusurlari(o->depo.db.IcMotor()); });
-  if (!kusurlar) throw KomutHatasi{"Veritabanı okunamadı: " + kusurlar.KusurMetni()};
-  if (!kusurlar->empty()) throw KomutHatasi{"Veritabanı bozuk: " + o->FirmaKod + BulguSatirlari(*kusurlar)};
+  const auto bulgular = Koru([&] { return DepoKusurlari(o->depo.db.IcMotor()); });
+  if (!bulgular) throw KomutHatasi{"Veritabanı okunamadı: " + bulgular.KusurMetni()};
+  if (std::ranges::any_of(*bulgular, [](const Kusur& k) { return k.derece == Derece::Hata; }))
+    throw KomutHatasi{"Veritabanı bozuk: " + o->FirmaKod + BulguSatirlari(*bulgular)};
   auto uyarilar = SirketDenetle(*o);
   const auto kodlar = Koru([&] { return TanimsizKodluKisiler(*o); });
-  Yaz("Veritabanı sağlam: " + o->FirmaKod + BulguSatirlari(Degeri(uyarilar)) +
+  Yaz("Veritabanı sağlam: " + o->FirmaKod + BulguSatirlari(*bulgular) + BulguSatirlari(Degeri(uyarilar)) +
       BulguSatirlari(kodlar ? *kodlar : Kusurlar{kodlar.Kusuru()}) + "\n");
 }
 

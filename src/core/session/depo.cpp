@@ -1,6 +1,8 @@
 #include "core/session/depo.h"
 
 #include "core/dosya.h"
+#include "core/store/brdozet.h"
+#include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/surum.h"
 
@@ -78,6 +80,10 @@ Durum Depo::VeritabaniYarat(const std::string& yol) {
       VeritabaniKaldir(yol);
       return yaratildi;
     }
+  }
+  if (Durum ozetler = Koru([&] { BrdOzetleri(db.IcMotor()); }); !ozetler) {
+    VeritabaniKaldir(yol);
+    return ozetler;
   }
   return Tamam();
 }

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include "core/session/sirket.h"
+#include "core/store/brdozet.h"
 #include "core/store/koru.h"
 #include "core/tables/tablolar.h"
 
@@ -28,7 +29,8 @@ bool DamgasizOlur(std::size_t adim) {
   return adim < 2;
 }
 
-// Fields, filling and stamp: a store without the fields must not be stamped as if it had them.
+// Fields, filling, stamp, and checksums of the pay records that have none: a store without the fields must not be
+// stamped as if it had them.
 bool AdimiYap(Veritabani& db, std::size_t no, Tek programVersiyonu, Tutar sskTaban) {
   const YukseltmeAdimi& adim = YukseltmeAdimlari()[no];
   return db.Koru(false, [&] {
@@ -36,6 +38,7 @@ bool AdimiYap(Veritabani& db, std::size_t no, Tek programVersiyonu, Tutar sskTab
     Islem islem(motor);
     if (!AlanlariEkle(db, adim)) return false;
     adim.doldur(motor, sskTaban);
+    BrdOzetleri(motor).EksikleriYaz();
     const auto damga = motor.Hazirla("update firma set versiyon = ?");
     damga->SayiBagla(1, adim.damga == 0 ? programVersiyonu.Sayi() : adim.damga);
     damga->Calistir();

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 
+#include "core/store/brdozet.h"
 #include "core/store/donusum.h"
+#include "core/store/islem.h"
+#include "core/tables/brd.h"
 
 namespace belvani {
 
@@ -51,6 +54,10 @@ void BekleyenKayit::Yaz(Motor& motor, const TabloGezgini& kayit) {
   const bool duzeltme = tur_ == Tur::Duzeltme;
   const bool bos = std::none_of(yeni_.begin(), yeni_.end(), [](const auto& d) { return d.has_value(); });
   if (!bos || !duzeltme) {
+    // The record and its checksum are one.
+    std::optional<KatilanIslem> islem;
+    const bool ozetli = kayit.Tanim().ad == Brd::TabloAdi;
+    if (ozetli) islem.emplace(motor);
     const auto komut = motor.Hazirla(YazmaMetni(motor, kayit));
     int no = 0;
     for (const auto& yeni : yeni_)
@@ -59,6 +66,10 @@ void BekleyenKayit::Yaz(Motor& motor, const TabloGezgini& kayit) {
     komut->Calistir();
     if (duzeltme && motor.DegisenSatir() == 0)
       throw MotorHatasi(MotorKusuru::Diger, "Kayıt bu arada başka bir kullanıcı tarafından silinmiş");
+    if (ozetli) {
+      BrdOzetleri(motor).Yenile(duzeltme ? kayit.Kimlik() : motor.SonKimlik());
+      islem->Onayla();
+    }
   }
   tur_ = Tur::Yok;
 }

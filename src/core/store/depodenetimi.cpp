@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "core/store/brdozet.h"
 #include "core/tables/tablolar.h"
 
 namespace belvani {
@@ -76,7 +77,10 @@ class DepoDenetimi {
     if (tablo.ad == "firma") TekilligiDenetle(tablo, {});
     for (const IndeksTanimi& indeks : tablo.indeksler)
       if (indeks.tekil) TekilligiDenetle(tablo, indeks.alanlar);
-    if (tablo.ad == "brd") TekilligiDenetle(tablo, {"yil", "ay", "kod"});
+    if (tablo.ad == "brd") {
+      TekilligiDenetle(tablo, {"yil", "ay", "kod"});
+      std::ranges::move(BrdOzetKusurlari(motor_), std::back_inserter(kusurlar_));
+    }
   }
 
   void TipiDenetle(const TabloTanimi& tablo, const AlanTanimi& alan) {

@@ -4,9 +4,9 @@
 #pragma once
 
 #include <algorithm>
-#include <set>
 #include <string>
 
+#include "core/store/brdozet.h"
 #include "core/store/motor.h"
 
 namespace belvani {
@@ -23,15 +23,16 @@ inline void KolonAl(const Komut& k, int i, Tarih& d) { d = Tarih::IsoOku(k.Metin
 inline void KolonAl(const Komut& k, int i, bool& d) { d = k.Tam(i) != 0; }
 inline void KolonAl(const Komut& k, int i, Baytlar& d) { d = k.Bayt(i); }
 
-inline void KolonBagla(Komut& k, int no, const std::string& d) { k.MetinBagla(no, d); }
-inline void KolonBagla(Komut& k, int no, std::uint8_t d) { k.TamBagla(no, d); }
-inline void KolonBagla(Komut& k, int no, std::int16_t d) { k.TamBagla(no, d); }
-inline void KolonBagla(Komut& k, int no, std::int32_t d) { k.TamBagla(no, d); }
-inline void KolonBagla(Komut& k, int no, Tutar d) { k.TamBagla(no, d.Ham()); }
-inline void KolonBagla(Komut& k, int no, Tek d) { k.SayiBagla(no, d.Sayi()); }
-inline void KolonBagla(Komut& k, int no, Tarih d) { k.Bagla(no, d); }
-inline void KolonBagla(Komut& k, int no, bool d) { k.TamBagla(no, d ? 1 : 0); }
-inline void KolonBagla(Komut& k, int no, const Baytlar& d) { k.BaytBagla(no, d); }
+// The same way back, to whatever takes values one after the other: a statement, a checksum.
+template <class H> void KolonBagla(H& k, int no, const std::string& d) { k.MetinBagla(no, d); }
+template <class H> void KolonBagla(H& k, int no, std::uint8_t d) { k.TamBagla(no, d); }
+template <class H> void KolonBagla(H& k, int no, std::int16_t d) { k.TamBagla(no, d); }
+template <class H> void KolonBagla(H& k, int no, std::int32_t d) { k.TamBagla(no, d); }
+template <class H> void KolonBagla(H& k, int no, Tutar d) { k.TamBagla(no, d.Ham()); }
+template <class H> void KolonBagla(H& k, int no, Tek d) { k.SayiBagla(no, d.Sayi()); }
+template <class H> void KolonBagla(H& k, int no, Tarih d) { d.Bos() ? k.NullBagla(no) : k.MetinBagla(no, d.Iso()); }
+template <class H> void KolonBagla(H& k, int no, bool d) { k.TamBagla(no, d ? 1 : 0); }
+template <class H> void KolonBagla(H& k, int no, const Baytlar& d) { k.BaytBagla(no, d); }
 // clang-format on
 
 // Which columns of `Kayit` the store's table has. It is asked once, and told by the place of the column, so that no
@@ -102,14 +103,13 @@ std::vector<Kayit> KayitlariOku(Motor& motor, const std::string& kosul = {}, con
   return kayitlar;
 }
 
-// Writes whole records of one table, many at a time, with the automatic number left to the store.
+// Writes whole records of one table, many at a time, with the automatic number left to the store, and with the
+// checksums of those that carry one.
 template <class Kayit>
 class KayitYazici {
  public:
-  // Columns named in `dokunma` are never written (they keep what they hold).
-  explicit KayitYazici(Motor& motor, const std::set<std::string, std::less<>>& dokunma = {}) : yazilan_(motor) {
-    yazilan_.Cikar(
-        [&](const AlanTanimi& alan) { return alan.nitelik == AlanNiteligi::Otomatik || dokunma.contains(alan.ad); });
+  explicit KayitYazici(Motor& motor) : motor_(motor), yazilan_(motor) {
+    yazilan_.Cikar([](const AlanTanimi& alan) { return alan.nitelik == AlanNiteligi::Otomatik; });
     std::string adlar, sorular, atamalar;
     yazilan_.Her([&](const auto& kolon, bool yazilir) {
       if (!yazilir) return;
@@ -121,30 +121,43 @@ class KayitYazici {
     const std::string tablo(Kayit::TabloAdi);
     ekle_ = motor.Hazirla("insert into " + tablo + " (" + adlar + ") values (" + sorular + ")");
     degistir_ = motor.Hazirla("update " + tablo + " set " + atamalar + " where " + motor.KimlikKolonu() + " = ?");
+    if constexpr (Ozetli<Kayit>) ozetler_.emplace(motor);
   }
 
   void Ekle(const Kayit& kayit) {
     Bagla(*ekle_, kayit);
     ekle_->Calistir();
+    if constexpr (Ozetli<Kayit>) ozetler_->Ekle(motor_.SonKimlik(), ozet_.Deger());
   }
   void Degistir(const Kayit& kayit, std::int64_t kimlik) {
     degistir_->TamBagla(Bagla(*degistir_, kayit), kimlik);
     degistir_->Calistir();
+    if constexpr (Ozetli<Kayit>) ozetler_->Degistir(kimlik, ozet_.Deger());
   }
 
  private:
   // Returns the number of the next parameter.
   int Bagla(Komut& komut, const Kayit& kayit) {
     int no = 0;
+    ozet_.Bosalt();
     yazilan_.Her([&](const auto& kolon, bool yazilir) {
       if (yazilir) KolonBagla(komut, ++no, kayit.*kolon.uye);
+      if constexpr (Ozetli<Kayit>) {
+        if (yazilir)
+          KolonBagla(ozet_, no, kayit.*kolon.uye);
+        else if (kolon.nitelik != AlanNiteligi::Otomatik)
+          ozet_.NullBagla(no);
+      }
     });
     return no + 1;
   }
 
+  Motor& motor_;
   VarolanKolonlar<Kayit> yazilan_;
   std::unique_ptr<Komut> ekle_;
   std::unique_ptr<Komut> degistir_;
+  KayitOzeti ozet_;                     // of the record bound last
+  std::optional<BrdOzetleri> ozetler_;  // of records that carry one
 };
 
 }  // namespace belvani

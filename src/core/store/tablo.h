@@ -161,6 +161,7 @@ class Tablo {
     });
     komut->TamBagla(no + 1, simdiki.kimlik);
     komut->Calistir();
+    if constexpr (Ozetli<Kayit>) BrdOzetleri(motor_).Yenile(simdiki.kimlik);
     return sonuc;
   }
 

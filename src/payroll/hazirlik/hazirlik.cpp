@@ -15,9 +15,6 @@ namespace {
 constexpr std::chrono::seconds KilitBekleme{60};  // another mass run is waited for
 constexpr std::size_t IlerlemeAraligi = 32;       // people
 
-// Kept, not calculated: whatever was typed there stays.
-const std::set<std::string, std::less<>> Dokunulmayan{"gocindir"};
-
 void GirisiUygula(Brd& brd, const GirisSatiri& giris) {
   Brd::HerKolon([&](const auto& kolon) {
     if (giris.verilen.contains(kolon.ad)) brd.*kolon.uye = giris.deger.*kolon.uye;
@@ -65,7 +62,7 @@ class GirisListesi {
 class TopluIs {
  public:
   TopluIs(Motor& motor, const Kosullar& k, const std::vector<GirisSatiri>& girisler)
-      : k_(k), girisler_(girisler, sonuc_.sorunlar), yazici_(motor, Dokunulmayan) {}
+      : k_(k), girisler_(girisler, sonuc_.sorunlar), yazici_(motor) {}
 
   void Kisi(const KisiVerisi& kisi) {
     const GirisSatiri* giris = girisler_.Bul(kisi.sicil.kod);
@@ -110,6 +107,7 @@ class TopluIs {
                  "Net sıfırın üstünde değil, bordrosu kaydedilmedi: " + NetsizNedeni(g, s) +
                      (kisi.kayit ? "; önceki kaydı duruyor" : ""));
     }
+    s.brd.gocindir = kisi.kayit ? kisi.kayit->gocindir : Tutar();  // kept, not calculated
     // A record that comes out as it stands is left alone: a month that is run again over itself writes nothing.
     if (!kisi.kayit)
       yazici_.Ekle(s.brd);

@@ -1,0 +1,157 @@
+#include "core/store/brdozet.h"
+
+#include "core/store/satirlar.h"
+#include "core/tables/brd.h"
+#include "core/turkce.h"
+
+namespace belvani {
+namespace {
+
+// An earlier program has no names of this table, but its engine runs the triggers. A column that is added later is Null
+// in old records, as a column is that is not there: neither changes a checksum.
+const char* const TabloyuKur =
+    "create table if not exists brdozet (oto integer primary key, ozet bigint);"
+    "create trigger if not exists brdozet_degisti after update on brd begin "
+    "update brdozet set ozet = null where oto = old.oto; end;"
+    "create trigger if not exists brdozet_silindi after delete on brd begin "
+    "delete from brdozet where oto = old.oto; end";
+
+bool TabloVar(Motor& motor) {
+  return !motor.Kolonlar("brdozet").empty();
+}
+
+void DegeriBagla(KayitOzeti& ozet, const Komut& komut, int i, AlanTipi tip) {
+  switch (komut.Turu(i)) {
+    case Komut::Tur::Null:
+      return ozet.NullBagla(i);
+    case Komut::Tur::Tam:
+      // A real that is whole may be kept as a whole number.
+      return tip == AlanTipi::Tek ? ozet.SayiBagla(i, komut.Sayi(i)) : ozet.TamBagla(i, komut.Tam(i));
+    case Komut::Tur::Sayi:
+      return ozet.SayiBagla(i, komut.Sayi(i));
+    case Komut::Tur::Metin:
+      return ozet.MetinBagla(i, komut.Metin(i));
+    case Komut::Tur::Bayt:
+      return ozet.BaytBagla(i, komut.Bayt(i));
+  }
+}
+
+// Of the row that stands ready, whose columns of the schema start at `ilk`.
+std::int64_t SatirOzeti(const Komut& komut, int ilk) {
+  KayitOzeti ozet;
+  Brd::HerKolon([&](const AlanTanimi& kolon) {
+    if (kolon.nitelik != AlanNiteligi::Otomatik) DegeriBagla(ozet, komut, ilk, kolon.tip);
+    ++ilk;
+  });
+  return ozet.Deger();
+}
+
+// Number, columns, checksum and its number of the records that meet `kosul`.
+std::unique_ptr<Komut> KayitKomutu(Motor& motor, const std::string& kosul = {}) {
+  const std::string kimlik = "b." + motor.KimlikKolonu();
+  return motor.Hazirla("select " + kimlik + ", o.ozet, o.oto, " + SecimListesi<Brd>(motor, "b") +
+                       " from brd b left join brdozet o on o.oto = " + kimlik + kosul);
+}
+constexpr int KimlikYeri = 0, OzetYeri = 1, OzetKimligiYeri = 2, IlkKolonYeri = 3;
+
+// What a damaged record says of itself, as far as it can be printed.
+struct KayitAdi {
+  std::string kod, ay;
+};
+
+KayitAdi Adi(const Komut& komut) {
+  Brd b;
+  KayitAl(komut, IlkKolonYeri, b);
+  return {GecerliUtf8(b.kod) ? b.kod : std::string(), std::to_string(b.yil) + "/" + std::to_string(b.ay)};
+}
+
+// Records of one kind of remark: how many, and the first one's person.
+struct Sayim {
+  std::size_t sayi = 0;
+  std::string kod;
+
+  void Ekle(const Komut& komut) {
+    if (sayi++ == 0) kod = Adi(komut).kod;
+  }
+  void Yaz(const char* ne, Kusurlar& kusurlar) const {
+    if (sayi != 0)
+      kusurlar.push_back(
+          {.metin = "brd: " + std::to_string(sayi) + " kayıt " + ne, .kod = kod, .derece = Derece::Uyari});
+  }
+};
+
+void Yaz(Komut& komut, std::int64_t oto, std::int64_t ozet) {
+  komut.TamBagla(1, oto);
+  komut.TamBagla(2, ozet);
+  komut.Calistir();
+}
+
+void KayiplariYaz(Motor& motor, Kusurlar& kusurlar) {
+  const auto komut = motor.Hazirla("select o.oto from brdozet o where not exists (select 1 from brd b where b." +
+                                   motor.KimlikKolonu() + " = o.oto)");
+  while (komut->Adim())
+    kusurlar.push_back({.metin = "brd: " + std::to_string(komut->Tam(0)) + " numaralı kayıt kaybolmuş"});
+}
+
+}  // namespace
+
+BrdOzetleri::BrdOzetleri(Motor& motor) : motor_(motor) {
+  motor.Calistir(TabloyuKur);
+  ekle_ = motor.Hazirla("insert into brdozet (oto, ozet) values (?, ?)");
+  degistir_ = motor.Hazirla(
+      "insert into brdozet (oto, ozet) values (?, ?) on conflict (oto) do update set ozet = excluded.ozet");
+}
+
+void BrdOzetleri::Ekle(std::int64_t oto, std::int64_t ozet) {
+  Yaz(*ekle_, oto, ozet);
+}
+
+void BrdOzetleri::Degistir(std::int64_t oto, std::int64_t ozet) {
+  Yaz(*degistir_, oto, ozet);
+}
+
+void BrdOzetleri::Yenile(std::int64_t oto) {
+  const auto kayit = KayitKomutu(motor_, " where b." + motor_.KimlikKolonu() + " = ?");
+  kayit->TamBagla(1, oto);
+  if (!kayit->Adim()) return;
+  const std::int64_t ozet = SatirOzeti(*kayit, IlkKolonYeri);
+  kayit->Birak();
+  Degistir(oto, ozet);
+}
+
+std::size_t BrdOzetleri::EksikleriYaz() {
+  std::vector<std::pair<std::int64_t, std::int64_t>> eksik;  // read to the end before anything is written
+  const auto kayitlar = KayitKomutu(motor_, " where o.ozet is null");
+  while (kayitlar->Adim()) eksik.emplace_back(kayitlar->Tam(KimlikYeri), SatirOzeti(*kayitlar, IlkKolonYeri));
+  for (const auto& [oto, ozet] : eksik) Degistir(oto, ozet);
+  return eksik.size();
+}
+
+Kusurlar BrdOzetKusurlari(Motor& motor) {
+  Kusurlar kusurlar;
+  Sayim ozetsiz, disaridan;
+  if (!TabloVar(motor)) {
+    const auto komut = motor.Hazirla("select count(*) from brd");
+    if (komut->Adim()) ozetsiz.sayi = std::size_t(komut->Tam(0));
+  } else {
+    const auto komut = KayitKomutu(motor);
+    while (komut->Adim()) {
+      if (komut->Turu(OzetKimligiYeri) == Komut::Tur::Null)
+        ozetsiz.Ekle(*komut);
+      else if (komut->Turu(OzetYeri) == Komut::Tur::Null)
+        disaridan.Ekle(*komut);
+      else if (komut->Tam(OzetYeri) != SatirOzeti(*komut, IlkKolonYeri)) {
+        auto [kod, ay] = Adi(*komut);
+        kusurlar.push_back({.metin = "brd: " + ay + " kaydı (" + std::to_string(komut->Tam(KimlikYeri)) +
+                                     ") bozulmuş, değerleri özetini tutmuyor",
+                            .kod = std::move(kod)});
+      }
+    }
+    KayiplariYaz(motor, kusurlar);
+  }
+  ozetsiz.Yaz("özetsiz (önceki sürümden), bozulsa anlaşılmaz", kusurlar);
+  disaridan.Yaz("son özetinden sonra önceki bir sürümle veya program dışında değiştirilmiş", kusurlar);
+  return kusurlar;
+}
+
+}  // namespace belvani
