@@ -40,6 +40,7 @@ struct Genel {
 // Adds one command with its options to the program.
 using KomutEkle = void (*)(CLI::App&, Genel&);
 void SirketKomutlari(CLI::App& app, Genel& genel);
+void DenetleKomutu(CLI::App& app, Genel& genel);
 void ParametreKomutlari(CLI::App& app, Genel& genel);
 void AktarimKomutlari(CLI::App& app, Genel& genel);
 void HazirlaKomutlari(CLI::App& app, Genel& genel);

@@ -1,14 +1,8 @@
-// sirket-ac, sirket-sil, sirketler, denetle
-#include <algorithm>
-
+// sirket-ac, sirket-sil, sirketler
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
 #include "core/session/sirketlistesi.h"
 #include "core/session/yenisirket.h"
-#include "core/store/depodenetimi.h"
-#include "core/store/koru.h"
-#include "payroll/hazirlik/sirketdenetimi.h"
-#include "personnel/tanimkodlari.h"
 
 namespace belvani::cli {
 namespace {
@@ -67,27 +61,6 @@ void SirketiSil(Genel& genel, const std::string& kod, bool onay) {
   Yaz("Şirket silindi: " + kod + "\n");
 }
 
-// A line each below the one before, with the person it is about.
-std::string BulguSatirlari(const Kusurlar& bulgular) {
-  std::string metin;
-  for (const Kusur& k : bulgular)
-    metin += std::string("\n") + (k.derece == Derece::Uyari ? "Uyarı: " : "") + (k.kod.empty() ? "" : k.kod + ": ") +
-             k.metin;
-  return metin;
-}
-
-void Denetle(Genel& genel, const std::string& kod) {
-  const auto o = genel.SirketAc(kod);
-  const auto bulgular = Koru([&] { return DepoKusurlari(o->depo.db.IcMotor()); });
-  if (!bulgular) throw KomutHatasi{"Veritabanı okunamadı: " + bulgular.KusurMetni()};
-  if (std::ranges::any_of(*bulgular, [](const Kusur& k) { return k.derece == Derece::Hata; }))
-    throw KomutHatasi{"Veritabanı bozuk: " + o->FirmaKod + BulguSatirlari(*bulgular)};
-  auto uyarilar = SirketDenetle(*o);
-  const auto kodlar = Koru([&] { return TanimsizKodluKisiler(*o); });
-  Yaz("Veritabanı sağlam: " + o->FirmaKod + BulguSatirlari(*bulgular) + BulguSatirlari(Degeri(uyarilar)) +
-      BulguSatirlari(kodlar ? *kodlar : Kusurlar{kodlar.Kusuru()}) + "\n");
-}
-
 }  // namespace
 
 void SirketKomutlari(CLI::App& app, Genel& genel) {
@@ -112,12 +85,6 @@ void SirketKomutlari(CLI::App& app, Genel& genel) {
   sil->add_option("KOD", *silinen, "şirketin dizini, yazıldığı gibi")->required();
   sil->add_flag("--onay", *onay, "sormadan siler; verilmezse hiçbir şey silinmez");
   sil->callback([&genel, silinen, onay] { SirketiSil(genel, *silinen, *onay); });
-
-  auto* denetle =
-      app.add_subcommand("denetle", "Şirketin veritabanını baştan sona okuyup denetler; kusur varsa 1 ile biter");
-  auto kod = std::make_shared<std::string>();
-  denetle->add_option("KOD", *kod, "şirket")->required();
-  denetle->callback([&genel, kod] { Denetle(genel, *kod); });
 }
 
 }  // namespace belvani::cli

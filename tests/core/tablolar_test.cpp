@@ -9,6 +9,7 @@
 #include <new>
 #include <set>
 
+#include "core/tables/bordronosu.h"
 #include "core/tablo.h"
 
 namespace belvani {
@@ -52,7 +53,7 @@ TEST(Tablolar, IndexesNameColumnsAndOneIsPrimary) {
     for (const auto* liste : {&t.indeksler, &t.sorguIndeksleri})
       for (const auto& x : *liste) {
         birincil += x.birincil;
-        for (const auto alan : x.alanlar) EXPECT_NE(t.AlanBul(alan), nullptr) << t.ad << "." << alan;
+        for (const auto alan : x.alanlar) EXPECT_NE(t.AlanBul(IndeksKolonu(alan)), nullptr) << t.ad << "." << alan;
       }
     EXPECT_EQ(birincil, t.ad == "firma" ? 0 : 1) << t.ad;
   }

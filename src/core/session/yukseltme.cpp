@@ -8,6 +8,7 @@
 
 #include "core/session/sirket.h"
 #include "core/store/brdozet.h"
+#include "core/store/depoonarimi.h"
 #include "core/store/koru.h"
 #include "core/tables/tablolar.h"
 
@@ -55,6 +56,14 @@ Durum AlanKontrol(Oturum& o) {
   const auto yarim = Koru([&] { return YarimYukseltmeKusuru(o.depo.db.IcMotor()); });
   if (!yarim) return yarim.Kusuru();
   return *yarim ? Durum(**yarim) : Tamam();
+}
+
+Durum CiftKontrol(Oturum& o) {
+  const auto cift = Koru([&] { return CiftBordrolar(o.depo.db.IcMotor()); });
+  if (!cift) return cift.Kusuru();
+  if (cift->empty()) return Tamam();
+  return Kusur{"Aynı ayın bordrosu birden çok kez duran " + std::to_string(cift->size()) + " kayıt var, ilki: " +
+               cift->front().front().kod + "\nHangisinin kalacağı belvani-cli denetle --onar ile seçilir."};
 }
 
 // Cards whose kind of insurance or board-fee flag would be another one after the step; and all.
@@ -191,9 +200,10 @@ GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar 
   }
   const GuncellemeSonucu sonuc = Yurut(o, isaretli, sskTaban, bildirim, ilerleme);
   if (sonuc == GuncellemeSonucu::Tamam) {
-    // The store is whole without them, only slower: nobody is told when they cannot be made.
-    o.depo.db.SorguIndeksleriKur();
-    if (const Durum kalan = AlanKontrol(o); !kalan) bildirim.Uyari(kalan.KusurMetni());
+    // The store works without them: nobody is told when they cannot be made.
+    o.depo.db.IndeksleriKur();
+    for (const Durum& kalan : {AlanKontrol(o), CiftKontrol(o)})
+      if (!kalan) bildirim.Uyari(kalan.KusurMetni());
   }
   bildirim.Bilgi("Yükseltmeden önceki veritabanının kopyası: " + *kopya);
   return sonuc;

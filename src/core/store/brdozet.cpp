@@ -54,6 +54,11 @@ std::unique_ptr<Komut> KayitKomutu(Motor& motor, const std::string& kosul = {}) 
 }
 constexpr int KimlikYeri = 0, OzetYeri = 1, OzetKimligiYeri = 2, IlkKolonYeri = 3;
 
+// A record without a checksum agrees with everything.
+bool OzetTutuyor(const Komut& komut) {
+  return komut.Turu(OzetYeri) == Komut::Tur::Null || komut.Tam(OzetYeri) == SatirOzeti(komut, IlkKolonYeri);
+}
+
 // What a damaged record says of itself, as far as it can be printed.
 struct KayitAdi {
   std::string kod, ay;
@@ -119,6 +124,14 @@ void BrdOzetleri::Yenile(std::int64_t oto) {
   Degistir(oto, ozet);
 }
 
+bool BrdOzetleri::Tutuyor(std::int64_t oto) {
+  const auto kayit = KayitKomutu(motor_, " where b." + motor_.KimlikKolonu() + " = ?");
+  kayit->TamBagla(1, oto);
+  const bool tutuyor = !kayit->Adim() || OzetTutuyor(*kayit);
+  kayit->Birak();
+  return tutuyor;
+}
+
 std::size_t BrdOzetleri::EksikleriYaz() {
   std::vector<std::pair<std::int64_t, std::int64_t>> eksik;  // read to the end before anything is written
   const auto kayitlar = KayitKomutu(motor_, " where o.ozet is null");
@@ -140,7 +153,7 @@ Kusurlar BrdOzetKusurlari(Motor& motor) {
         ozetsiz.Ekle(*komut);
       else if (komut->Turu(OzetYeri) == Komut::Tur::Null)
         disaridan.Ekle(*komut);
-      else if (komut->Tam(OzetYeri) != SatirOzeti(*komut, IlkKolonYeri)) {
+      else if (!OzetTutuyor(*komut)) {
         auto [kod, ay] = Adi(*komut);
         kusurlar.push_back({.metin = "brd: " + ay + " kaydı (" + std::to_string(komut->Tam(KimlikYeri)) +
                                      ") bozulmuş, değerleri özetini tutmuyor",

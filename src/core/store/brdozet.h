@@ -38,6 +38,8 @@ class BrdOzetleri {
   void Degistir(std::int64_t oto, std::int64_t ozet);
   // Of the record as it stands in the store.
   void Yenile(std::int64_t oto);
+  // Whether the record agrees with its checksum, or has none.
+  bool Tutuyor(std::int64_t oto);
   // Gives one to each record that has none; how many there were.
   std::size_t EksikleriYaz();
 

@@ -4,6 +4,8 @@
 #include <set>
 
 #include "core/store/brdozet.h"
+#include "core/store/indeksler.h"
+#include "core/tables/bordronosu.h"
 #include "core/tables/tablolar.h"
 
 namespace belvani {
@@ -75,12 +77,10 @@ class DepoDenetimi {
     }
     IndeksleriDenetle(tablo);
     if (tablo.ad == "firma") TekilligiDenetle(tablo, {});
-    for (const IndeksTanimi& indeks : tablo.indeksler)
-      if (indeks.tekil) TekilligiDenetle(tablo, indeks.alanlar);
-    if (tablo.ad == "brd") {
-      TekilligiDenetle(tablo, {"yil", "ay", "kod"});
-      std::ranges::move(BrdOzetKusurlari(motor_), std::back_inserter(kusurlar_));
-    }
+    for (const auto* indeksler : {&tablo.indeksler, &tablo.sorguIndeksleri})
+      for (const IndeksTanimi& indeks : *indeksler)
+        if (indeks.tekil) TekilligiDenetle(tablo, indeks.alanlar);
+    if (tablo.ad == Brd::TabloAdi) std::ranges::move(BrdOzetKusurlari(motor_), std::back_inserter(kusurlar_));
   }
 
   void TipiDenetle(const TabloTanimi& tablo, const AlanTanimi& alan) {
@@ -94,25 +94,27 @@ class DepoDenetimi {
   }
 
   void IndeksleriDenetle(const TabloTanimi& tablo) {
-    std::set<std::string, std::less<>> olan;
-    const auto komut = motor_.Hazirla("select name from pragma_index_list(?)");
-    komut->MetinBagla(1, tablo.ad);
-    while (komut->Adim()) olan.emplace(komut->Metin(0));
-    const auto bak = [&](const std::string& ad) {
-      if (!olan.contains(ad)) Ekle(std::string(tablo.ad) + ": " + ad + " indeksi yok");
-    };
-    for (const IndeksTanimi& indeks : tablo.indeksler)
-      if (tablo.AlanBul(indeks.alanlar.front())->nitelik != AlanNiteligi::Otomatik)
-        bak(std::string(tablo.ad) + "_" + std::string(indeks.ad));
-    for (const IndeksTanimi& indeks : tablo.sorguIndeksleri) bak(std::string(indeks.ad));
+    const Indeksler olan = IndeksleriOku(motor_, tablo.ad);
+    for (const auto* indeksler : {&tablo.indeksler, &tablo.sorguIndeksleri})
+      for (const IndeksTanimi& indeks : *indeksler) {
+        const std::string ad = IndeksAdi(tablo, indeks);
+        const auto bu = olan.find(ad);
+        if (ad.empty() || (bu != olan.end() && (bu->second || !indeks.tekil))) continue;
+        const bool yok = bu == olan.end();
+        Ekle(std::string(tablo.ad) + ": " + ad +
+             (yok ? " indeksi yok" : " indeksi tekil değil (önceki sürümden), aynı kayıt iki kez yazılabilir"));
+        if (!yok) kusurlar_.back().derece = Derece::Uyari;
+      }
   }
 
   // Without columns: the whole table holds one record.
   void TekilligiDenetle(const TabloTanimi& tablo, const std::vector<std::string_view>& alanlar) {
-    std::string liste;
+    std::string liste, adlar;
     for (const std::string_view alan : alanlar) {
-      if (!kolonlar_.contains(alan)) return;
+      const std::string_view kolon = IndeksKolonu(alan);
+      if (!kolonlar_.contains(kolon)) return;
       liste += (liste.empty() ? "" : ", ") + std::string(alan);
+      adlar += (adlar.empty() ? "" : ", ") + std::string(kolon);
     }
     const std::string tekrar =
         "select count(*), " + std::string(KisiliMi(tablo) && !liste.empty() ? "min(kod)" : "''") + " as kisi from " +
@@ -120,7 +122,7 @@ class DepoDenetimi {
     const auto komut = motor_.Hazirla(tekrar);
     while (komut->Adim())
       Ekle(std::string(tablo.ad) + ": aynı kayıt " + std::to_string(komut->Tam(0)) + " kez var" +
-               (liste.empty() ? "" : " (" + liste + ")"),
+               (adlar.empty() ? "" : " (" + adlar + ")"),
            std::string(komut->Metin(1)));
   }
 

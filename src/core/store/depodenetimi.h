@@ -1,7 +1,7 @@
 // What is wrong with a company's store itself, whatever its records mean: the engine's own check, tables, columns and
-// indexes that are missing, values that are not of their column's type (a text where a number belongs, a day that is
-// none, a number that the type cannot hold), records that stand twice where only one may, pay records that do not agree
-// with their checksum.
+// indexes that are missing or let a record stand twice, values that are not of their column's type (a text where a
+// number belongs, a day that is none, a number that the type cannot hold), records that stand twice where only one may,
+// pay records that do not agree with their checksum.
 #pragma once
 
 #include "core/kusur.h"

@@ -5,30 +5,16 @@
 #include <fstream>
 
 #include "core/store/imlec.h"
+#include "core/store/indeksler.h"
 #include "core/tables/tablolar.h"
 #include "core/turkce.h"
 
 namespace belvani {
 namespace {
 
-enum class Varsa { Kusurdur, Gecilir };
-
-std::string IndeksKur(std::string_view tablo, const std::string& ad, const IndeksTanimi& indeks,
-                      Varsa varsa = Varsa::Kusurdur) {
-  std::string sql = indeks.tekil ? "create unique index " : "create index ";
-  if (varsa == Varsa::Gecilir) sql += "if not exists ";
-  sql += ad + " on " + std::string(tablo) + " (";
-  for (std::size_t i = 0; i < indeks.alanlar.size(); ++i) sql += (i ? ", " : "") + std::string(indeks.alanlar[i]);
-  return sql + ")";
-}
-
 bool BirincilMi(const TabloTanimi& tanim, std::string_view alan) {
   return std::any_of(tanim.indeksler.begin(), tanim.indeksler.end(),
                      [&](const auto& i) { return i.birincil && i.alanlar.front() == alan; });
-}
-
-bool OtomatikMi(const TabloTanimi& tanim, const IndeksTanimi& indeks) {
-  return tanim.AlanBul(indeks.alanlar.front())->nitelik == AlanNiteligi::Otomatik;
 }
 
 void Gunluge(const std::string& metin) {
@@ -131,23 +117,18 @@ bool Veritabani::TabloEkle(const TabloTanimi& tanim) {
       ayrac = ", ";
     }
     motor_->Calistir(sql + ")");
-    for (const auto& indeks : tanim.indeksler)
-      if (!OtomatikMi(tanim, indeks))
-        motor_->Calistir(IndeksKur(tanim.ad, std::string(tanim.ad) + "_" + std::string(indeks.ad), indeks));
-    for (const auto& indeks : tanim.sorguIndeksleri)
-      motor_->Calistir(IndeksKur(tanim.ad, std::string(indeks.ad), indeks));
+    for (const auto* indeksler : {&tanim.indeksler, &tanim.sorguIndeksleri})
+      for (const IndeksTanimi& indeks : *indeksler)
+        if (!IndeksAdi(tanim, indeks).empty()) motor_->Calistir(IndeksMetni(tanim, indeks, indeks.tekil));
     islem.Onayla();
     return true;
   });
 }
 
-bool Veritabani::SorguIndeksleriKur() {
+bool Veritabani::IndeksleriKur() {
   return Koru(false, [&] {
     Islem islem(*motor_);
-    for (const TabloTanimi& tanim : Tablolar())
-      for (const auto& indeks : tanim.sorguIndeksleri)
-        if (!motor_->Kolonlar(tanim.ad).empty())
-          motor_->Calistir(IndeksKur(tanim.ad, std::string(indeks.ad), indeks, Varsa::Gecilir));
+    IndeksleriTamamla(*motor_);
     islem.Onayla();
     return true;
   });

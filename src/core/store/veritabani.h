@@ -54,8 +54,8 @@ class Veritabani {
   bool AlanEkle(std::string_view tablo, const AlanTanimi& alan);
   bool TabloEkle(const TabloTanimi& tanim);
   bool TabloVarMi(std::string_view tablo);
-  // The indexes of the engine's own queries, on the tables of a store that an earlier version has made.
-  bool SorguIndeksleriKur();
+  // The indexes that the tables of an earlier version lack (core/store/indeksler.h).
+  bool IndeksleriKur();
 
   const std::string& SonHata() const { return sonHata_; }
   void HataYaz(std::string metin);

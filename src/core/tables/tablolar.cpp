@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/tables/bordronosu.h"
 #include "core/turkce.h"
 
 namespace belvani {
@@ -37,10 +38,10 @@ const std::vector<TabloTanimi>& Tablolar() {
       Tanim<Sicil>({Anahtar("kod")}),
       Tanim<Foto>({Anahtar("kod")}),
       Tanim<Kimlik>({Anahtar("kod")}),
-      // The first serves a month's documents; the second holds all that the year-to-date sums read, of one person or of
-      // the whole company, so that they never touch the records themselves.
+      // The first serves a month's documents, and lets each record stand once; the second holds all that the
+      // year-to-date sums read, of one person or of the whole company, so that they never touch the records themselves.
       Tanim<Brd>({Anahtar("oto")},
-                 {{"brd_ay", {"yil", "ay", "kod"}},
+                 {{.ad = "brd_ay", .alanlar = {"yil", "ay", "kod", BordroNosu}, .tekil = true},
                   {"brd_yil", {"yil", "kod", "ay", "gvmatrah", "gvtutar", "indirim1", "indirim2", "indirim3"}}}),
       Tanim<Dvr>({Anahtar("yilkod")}, {{"dvr_kod", {"kod", "yil"}}}),
       Tanim<Esco>({Anahtar("oto")}, {{"esco_kod", {"kod", "yakinlik", "agiok"}}}),

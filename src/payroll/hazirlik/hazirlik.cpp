@@ -5,6 +5,7 @@
 #include "core/session/yukseltmeadimlari.h"
 #include "core/store/koru.h"
 #include "core/store/tablo.h"
+#include "core/tables/bordronosu.h"
 #include "core/turkce.h"
 #include "payroll/hazirlik/uyarilar.h"
 #include "payroll/hesap/satirlar.h"
@@ -165,8 +166,9 @@ std::size_t KisiSayisi(Motor& motor) {
 
 // The record that the person has in that month by now.
 std::optional<Brd> AyinKaydi(Motor& motor, const Brd& brd) {
-  auto kayitlar = KayitlariOku<Brd>(motor, "where yil = ? and ay = ? and kod = ? and no = 1 order by oto limit 1",
-                                    {std::int64_t(brd.yil), std::int64_t(brd.ay), brd.kod});
+  auto kayitlar = KayitlariOku<Brd>(
+      motor, "where yil = ? and ay = ? and kod = ? and " + std::string(BordroNosu) + " = 1 order by oto limit 1",
+      {std::int64_t(brd.yil), std::int64_t(brd.ay), brd.kod});
   return kayitlar.empty() ? std::nullopt : std::optional(std::move(kayitlar.front()));
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/store/satirlar.h"
+#include "core/tables/bordronosu.h"
 #include "core/turkce.h"
 #include "payroll/hesap/sablonyay.h"
 #include "payroll/hesap/satirlar.h"
@@ -64,8 +65,11 @@ std::vector<Kodlu<YilToplamlari>> YilToplamlariniOku(Motor& motor, const BordroD
 std::vector<Brd> AyinKayitlariniOku(Motor& motor, const BordroDonemi& donem, const std::string* kod) {
   std::vector<Deger> degerler{std::int64_t(donem.yil), std::int64_t(donem.ay)};
   if (kod != nullptr) degerler.emplace_back(*kod);
+  // Ordered as the index of the month is, which spares the sorting of a company.
+  const std::string no(BordroNosu);
+  const std::string kisi = KisiSuzgeci(kod).Kosul("and");
   return KayitlariOku<Brd>(
-      motor, "where yil = ? and ay = ?" + KisiSuzgeci(kod).Kosul("and") + " and no = 1 order by kod, oto", degerler);
+      motor, "where yil = ? and ay = ?" + kisi + " and " + no + " = 1 order by kod, " + no + ", oto", degerler);
 }
 
 // Walks a list in code order beside the people, who come in code order too.
