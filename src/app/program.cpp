@@ -29,11 +29,11 @@ class Program : ProgramParcalari<BildirimKutusu, SistemDialoglari> {
       // A company whose parameters cannot be read is not opened: the login comes back.
       if (const Durum d = parametreler.firma.Yukle(); !d) {
         bildirim.KusuruGoster(d.Kusuru());
-        oturum.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
+        SirketKapat(oturum);
         continue;
       }
       const bool yeniden = AnaPencere();
-      oturum.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
+      SirketKapat(oturum);
       if (!yeniden) return 0;
     }
   }
@@ -46,6 +46,11 @@ class Program : ProgramParcalari<BildirimKutusu, SistemDialoglari> {
     QEventLoop dongu;
     QObject::connect(&pencere, &anamenu::Kapandi, &dongu, &QEventLoop::quit);
     pencere.showMaximized();
+    QTimer nabiz;
+    QObject::connect(&nabiz, &QTimer::timeout, [this] {
+      if (oturum.icerde) (void)oturum.icerde->Yenile();  // a share that is away comes back, or its user notices it
+    });
+    nabiz.start(std::chrono::seconds(IcerdeYenilemeSaniyesi));
     bool devam = true;
     QTimer::singleShot(0, &pencere, [&] {  // with the window behind its messages
       const Durum yapi = YapiKontrol(oturum);

@@ -18,7 +18,7 @@ struct AktarimSecenekleri {
 // `aktar` is given the session, the file and whether to save.
 template <class Aktar>
 void Al(Genel& genel, const AktarimSecenekleri& s, Aktar aktar) {
-  const auto o = genel.SirketAc(s.kod);
+  const auto o = genel.YazmayaAc(s.kod);
   const std::string icerik = DosyayiOku(s.dosya);
   const Sonuc<AktarimSonucu> sonuc = aktar(*o, AktarilanCsv(icerik, s.ondalik), s.Kip());
   if (!sonuc) throw KomutHatasi{s.dosya + ": " + sonuc.KusurMetni()};

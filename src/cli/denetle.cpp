@@ -62,7 +62,7 @@ std::string OnarimMetni(const Onarim& onarim) {
 
 void Denetle(Genel& genel, const DenetleSecenekleri& s) {
   if (!s.kalan.empty() && !s.onar) throw CLI::ValidationError("--kalan", "--onar ile birlikte verilir");
-  const auto o = genel.SirketAc(s.kod);
+  const auto o = s.onar ? genel.YazmayaAc(s.kod) : genel.SirketAc(s.kod, SirketErisimi::YalnizBakis);
   Motor& motor = o->depo.db.IcMotor();
   if (s.onar) {
     auto onarim = DepoyuOnar(motor, s.kalan);

@@ -31,7 +31,7 @@ class TerminalIlerlemesi : public Ilerleme {
 };
 
 void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
-  const auto o = genel.SirketAc(s.kod);
+  const auto o = genel.YazmayaAc(s.kod);
   const KuruluMevzuat mevzuat = KuruluMevzuatOku(o->DataPath);
   auto yasal = YasalParametreleriAl(mevzuat);
   auto kosullar = KosullariYukle(*o, Degeri(yasal), s.donem.yil, s.donem.ay);
@@ -51,7 +51,7 @@ void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
 }
 
 void BordroyuSil(Genel& genel, const HazirlaSecenekleri& s) {
-  const auto o = genel.SirketAc(s.kod);
+  const auto o = genel.YazmayaAc(s.kod);
   auto silinen = BordroSil(*o, s.donem.yil, s.donem.ay);
   Yaz("Bordro Tamamen Silindi: " + std::to_string(Degeri(silinen)) + " kayıt\n");
 }

@@ -30,14 +30,21 @@ std::string Genel::DataPath() {
   return DizinSonu(yol);
 }
 
-std::unique_ptr<Oturum> Genel::SirketAc(const std::string& kod) {
+std::unique_ptr<Oturum> Genel::SirketAc(const std::string& kod, SirketErisimi erisim) {
   auto o = std::make_unique<Oturum>();
   o->DataPath = DataPath();
-  Basarmali(belvani::SirketAc(*o, kod, bildirim));
+  Basarmali(belvani::SirketAc(*o, kod, bildirim, erisim));
+  if (o->SaltOkunur && erisim == SirketErisimi::Yazilir) bildirim.Uyari(std::string("Uyarı: ") + SaltOkunurUyarisi);
   if (!FirmaYukle(*o)) throw KomutHatasi{"İşyeri Tanımlamaları Yapılmamış"};
   if (const Durum ayni = VersiyonKontrol(*o); !ayni)
     throw KomutHatasi{ayni.KusurMetni() + "\nŞirket bu programla açılamadı"};
   if (const Durum yapi = YapiKontrol(*o); !yapi) bildirim.Uyari("Uyarı: " + yapi.KusurMetni());
+  return o;
+}
+
+std::unique_ptr<Oturum> Genel::YazmayaAc(const std::string& kod) {
+  auto o = SirketAc(kod);
+  IcerdeYaz(*o, "belvani-cli");
   return o;
 }
 

@@ -33,14 +33,18 @@ struct Genel {
 
   // The data path: --veri, else the machine's setting.
   std::string DataPath();
-  // The company's store, opened without login: who may read the files may work on them.
-  std::unique_ptr<Oturum> SirketAc(const std::string& kod);
+  // The company's store, opened without login: who may read the files may work on them. One that cannot be written is
+  // told and opened for reading.
+  std::unique_ptr<Oturum> SirketAc(const std::string& kod, SirketErisimi erisim = SirketErisimi::Yazilir);
+  // For a command that changes it: others see that someone is in.
+  std::unique_ptr<Oturum> YazmayaAc(const std::string& kod);
 };
 
 // Adds one command with its options to the program.
 using KomutEkle = void (*)(CLI::App&, Genel&);
 void SirketKomutlari(CLI::App& app, Genel& genel);
 void DenetleKomutu(CLI::App& app, Genel& genel);
+void PaylasKomutu(CLI::App& app, Genel& genel);
 void ParametreKomutlari(CLI::App& app, Genel& genel);
 void AktarimKomutlari(CLI::App& app, Genel& genel);
 void HazirlaKomutlari(CLI::App& app, Genel& genel);

@@ -6,7 +6,8 @@
 namespace belvani {
 namespace {
 
-Tarih ayarliGun;  // Null: the clock's
+Tarih ayarliGun;             // Null: the clock's
+std::int64_t ayarliAn = -1;  // -1: the clock's
 
 Tarih SaatinGunu() {
   const std::time_t simdi = std::time(nullptr);
@@ -25,6 +26,29 @@ SabitGun::SabitGun(Tarih gun) : onceki_(std::exchange(ayarliGun, gun)) {}
 
 SabitGun::~SabitGun() {
   ayarliGun = onceki_;
+}
+
+std::int64_t SimdikiAn() {
+  return ayarliAn >= 0 ? ayarliAn : std::int64_t(std::time(nullptr));
+}
+
+SabitAn::SabitAn(std::int64_t an) : onceki_(std::exchange(ayarliAn, an)) {}
+
+SabitAn::~SabitAn() {
+  ayarliAn = onceki_;
+}
+
+void SabitAn::Gec(std::int64_t saniye) {
+  ayarliAn += saniye;
+}
+
+std::string AnMetni(std::int64_t an) {
+  const std::time_t zaman = an;
+  std::tm yerel{};
+  char metin[32] = {};
+  localtime_r(&zaman, &yerel);
+  std::strftime(metin, sizeof metin, "%d.%m.%Y %H:%M", &yerel);
+  return metin;
 }
 
 }  // namespace belvani

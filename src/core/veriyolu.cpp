@@ -31,7 +31,21 @@ class DizinKilidi final : public YolKilidi {
   int no_;
 };
 
+constexpr std::string_view IsaretOnEki = ".isaret-";
+constexpr std::size_t EnCokIsaret = 4096;
+
 constexpr const char* SirketSilinemedi = "Şirket silinemedi, silinemeyen: ";
+
+// Whole for its readers, but not brought to the disk: a power cut takes the programs along that have laid it.
+bool IsaretYaz(const std::string& yol, std::string_view baytlar) {
+  const std::string gecici = yol + "~";
+  const int no = ::open(gecici.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, 0660);
+  if (no < 0) return false;
+  const bool yazildi = ::write(no, baytlar.data(), baytlar.size()) == ssize_t(baytlar.size());
+  if (::close(no) == 0 && yazildi && ::rename(gecici.c_str(), yol.c_str()) == 0) return true;
+  ::unlink(gecici.c_str());
+  return false;
+}
 
 class DizinMakinesi final : public VeriMakinesi {
  public:
@@ -57,6 +71,21 @@ class DizinMakinesi final : public VeriMakinesi {
   }
   std::vector<std::string> Dosyalar() const override {
     return Adlar([](const fs::directory_entry& g, std::error_code& hata) { return g.is_regular_file(hata); });
+  }
+  Durum IsaretKoy(std::string_view ad, std::string_view baytlar) const override {
+    return IsaretYaz(IsaretYolu(ad), baytlar) ? Tamam() : Durum(Kusur{dizin_ + ": işaret yazılamadı"});
+  }
+  Durum IsaretKaldir(std::string_view ad) const override { return Kaldir(IsaretYolu(ad), "silinemedi: "); }
+  std::vector<AdliDosya> Isaretler() const override {
+    std::vector<AdliDosya> isaretler;
+    std::error_code hata;
+    for (fs::directory_iterator i(dizin_, hata), son; !hata && i != son; i.increment(hata)) {
+      const std::string dosya = i->path().filename();
+      if (!dosya.starts_with(IsaretOnEki)) continue;
+      if (auto baytlar = DosyaOku(i->path(), EnCokIsaret))
+        isaretler.push_back({dosya.substr(IsaretOnEki.size()), std::move(*baytlar)});
+    }
+    return isaretler;
   }
   Sonuc<std::unique_ptr<YolKilidi>> Kilitle(std::chrono::milliseconds enCok) const override {
     constexpr std::chrono::milliseconds aralik{20};
@@ -117,6 +146,8 @@ class DizinMakinesi final : public VeriMakinesi {
     const std::uintmax_t boy = fs::is_regular_file(yol, hata) ? fs::file_size(yol, hata) : 0;
     return {.boy = hata ? 0 : boy, .var = true, .okunamadi = hata || boy <= enCok};
   }
+
+  std::string IsaretYolu(std::string_view ad) const { return Adres(std::string(IsaretOnEki) + std::string(ad)); }
 
   // Without the separator, which would lead through a link.
   fs::path Yol() const { return fs::path(dizin_).parent_path(); }
@@ -193,6 +224,16 @@ std::vector<DosyaHali> VeriYolu::BakHepsi(const std::vector<std::string_view>& a
 Durum VeriYolu::Sil(std::string_view ad) const {
   assert(Ad(ad));
   return makine_->Sil(ad);
+}
+
+Durum VeriYolu::IsaretKoy(std::string_view ad, std::string_view baytlar) const {
+  assert(Ad(ad));
+  return makine_->IsaretKoy(ad, baytlar);
+}
+
+Durum VeriYolu::IsaretKaldir(std::string_view ad) const {
+  assert(Ad(ad));
+  return makine_->IsaretKaldir(ad);
 }
 
 Sonuc<std::unique_ptr<YolKilidi>> VeriYolu::Kilitle(std::chrono::milliseconds enCok) const {

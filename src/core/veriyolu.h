@@ -49,6 +49,9 @@ class VeriMakinesi {
   virtual Durum YazHepsi(const std::vector<AdliDosya>& dosyalar) const = 0;
   virtual Durum Sil(std::string_view ad) const = 0;
   virtual std::vector<std::string> Dosyalar() const = 0;
+  virtual Durum IsaretKoy(std::string_view ad, std::string_view baytlar) const = 0;
+  virtual Durum IsaretKaldir(std::string_view ad) const = 0;
+  virtual std::vector<AdliDosya> Isaretler() const = 0;
   virtual Sonuc<std::unique_ptr<YolKilidi>> Kilitle(std::chrono::milliseconds enCok) const = 0;
   virtual std::string Adres(std::string_view ad) const = 0;
   virtual std::shared_ptr<const VeriMakinesi> Alt(std::string_view ad) const = 0;
@@ -83,6 +86,11 @@ class VeriYolu {
   Durum Sil(std::string_view ad) const;  // a file that is not there is a success
   // Names of the files, but for those that begin with a point.
   std::vector<std::string> Dosyalar() const { return makine_->Dosyalar(); }
+  // Marks, which programs lay for one another while they are at work in a place: a few bytes under a name. They are no
+  // files of the place: Dosyalar() does not see them, and they go when it is emptied.
+  Durum IsaretKoy(std::string_view ad, std::string_view baytlar) const;  // replaces the one of this name
+  Durum IsaretKaldir(std::string_view ad) const;                         // one that is not there is a success
+  std::vector<AdliDosya> Isaretler() const { return makine_->Isaretler(); }
   // For reading, changing and writing as one step: the files of this place, not those of the places below. Waits at
   // most so long; the failure says that someone else is at it. Null where nothing can be locked (a place that cannot be
   // written, a file system without locks).

@@ -1,6 +1,7 @@
 #include "personnel/firmalardaara.h"
 
 #include "core/session/sirket.h"
+#include "core/store/depokopyasi.h"
 #include "core/store/koru.h"
 #include "core/store/satirlar.h"
 #include "core/turkce.h"
@@ -25,8 +26,7 @@ FirmaSatiri FirmaSatiriOku(Motor& motor) {
 
 std::vector<BulunanKisi> SirketteAra(const VeriYolu& veri, const std::string& ad, const std::string& aranan) {
   std::vector<BulunanKisi> bulunanlar;
-  const auto motor = MotorAc(DepoAdresi(veri.Alt(ad)));
-  motor->Calistir("pragma query_only=on");
+  const auto motor = MotorBak(DepoAdresi(veri.Alt(ad)));
   const FirmaSatiri firma = FirmaSatiriOku(*motor);
   const std::string firmaAdi = firma.unvan.empty() ? ad : ad + " - " + firma.unvan;
   const auto komut = motor->Hazirla("select adi, soyadi from sicil order by kod");

@@ -61,9 +61,10 @@ std::string KanunMetni(std::string_view metin) {
 }
 
 std::string AnaPencereBasligi(const Oturum& o) {
-  if (o.firma.firmaay < 1 || o.firma.firmaay > 12) return o.firma.unvan;
+  const std::string hal = o.SaltOkunur ? " (salt okunur)" : "";
+  if (o.firma.firmaay < 1 || o.firma.firmaay > 12) return o.firma.unvan + hal;
   return o.firma.unvan + " (" + std::string(AyAdi(o.firma.firmaay)) + "." +
-         SonHaneler(std::to_string(o.firma.firmayil), 4) + ")";
+         SonHaneler(std::to_string(o.firma.firmayil), 4) + ")" + hal;
 }
 
 }  // namespace belvani

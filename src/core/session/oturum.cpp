@@ -11,6 +11,8 @@
 #include "core/session/kullanicilar.h"
 #include "core/session/renkler.h"
 #include "core/session/sirket.h"
+#include "core/store/depokopyasi.h"
+#include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/tables/peruser.h"
 #include "core/turkce.h"
@@ -31,6 +33,24 @@ bool DataDiziniYarat(const std::string& dataPath, Bildirim& bildirim) {
   }
   bildirim.Bilgi("Yeni Data Dizini Yaratıldı\n" + dataPath);
   return true;
+}
+
+// A copy may grow as the store of an earlier version that it is of. Once open it needs no names: what a killed program
+// would leave of it is nothing.
+Durum KopyaAc(Depo& depo, const std::string& yol, Bildirim& bildirim) {
+  const auto kopya = DepoKopyasi::Al(yol);
+  if (!kopya) return kopya.Kusuru();
+  auto duzenlendi = Koru([&] { MotorAc(kopya->Yol(), AcilisKipi::Tek)->YerKoy(DepoYeri::Paylasilan); });
+  if (!duzenlendi) return duzenlendi;
+  if (!depo.VeritabaniAc(kopya->Yol(), bildirim)) return Kusur{depo.db.SonHata()};
+  return Koru([&] { depo.db.IcMotor().SaltOkunurYap(); });
+}
+
+Durum DepoAc(Oturum& o, const std::string& yol, Bildirim& bildirim, SirketErisimi erisim) {
+  o.SaltOkunur = erisim == SirketErisimi::YalnizBakis || !DepoYazilir(yol);
+  if (o.SaltOkunur) return KopyaAc(o.depo, yol, bildirim);
+  if (!o.depo.VeritabaniAc(yol, bildirim)) return Kusur{o.depo.db.SonHata()};
+  return Tamam();
 }
 
 }  // namespace
@@ -57,19 +77,33 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
   return true;
 }
 
-Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim) {
+Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim, SirketErisimi erisim) {
   const auto ad = SirketBul(o.DataPath, sirket);
   if (!ad) return ad.Kusuru();
   const VeriYolu yer = VeriYolu(o.DataPath).Alt(*ad);
-  if (!o.depo.VeritabaniAc(DepoAdresi(yer), bildirim)) {
-    o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
-    return Kusur{"Database Açılamadı: " + DepoAdresi(yer) + "\n" + o.depo.db.SonHata()};
+  SirketKapat(o);
+  if (const Durum acildi = DepoAc(o, DepoAdresi(yer), bildirim, erisim); !acildi) {
+    SirketKapat(o);
+    return Kusur{"Database Açılamadı: " + DepoAdresi(yer) + "\n" + acildi.KusurMetni()};
   }
   o.FirmaKod = *ad;
   o.FirmaDizini = yer.Adres();
   for (const std::string& dizin : {o.DataPath, o.FirmaDizini}) GecicileriSupur(dizin);
   o.SonKisi.clear();
   return Tamam();
+}
+
+void SirketKapat(Oturum& o) {
+  o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
+  o.icerde.reset();
+  o.SaltOkunur = false;
+}
+
+void IcerdeYaz(Oturum& o, const std::string& kullanici) {
+  if (o.SaltOkunur) return;
+  o.icerde = IcerdeIsareti::Koy(
+      o.FirmaDizini,
+      {.kullanici = kullanici, .bilgisayar = o.BilgisayarAdi.empty() ? BilgisayarAdiBul() : o.BilgisayarAdi});
 }
 
 Sonuc<Kusurlar> OturumAc(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre) {
@@ -79,8 +113,10 @@ Sonuc<Kusurlar> OturumAc(Oturum& o, std::string_view sirket, std::string_view ku
     return KuralKusuru("Kullanıcı Adı veya Kullanıcı Şifresi\n           HATALI");
   }
   Kusurlar kusurlar;
+  if (o.SaltOkunur) kusurlar.push_back(KuralKusuru(SaltOkunurUyarisi));
   if (const auto ad = SirketBul(o.DataPath, sirket)) o.FirmaKod = *ad;
   o.Kullanici = Kirp(kullanici);
+  IcerdeYaz(o, o.Kullanici);
   for (const auto& [anahtar, deger] : {std::pair("lastfirm", o.FirmaKod), std::pair("lastuser", o.Kullanici)})
     if (const auto d = KullaniciAyariYaz(anahtar, deger); !d) kusurlar.push_back(d.Kusuru());
   if (!FirmaYukle(o)) {

@@ -1,15 +1,17 @@
 // The session: who works in which company and month, and the open store. There is one at a time in a program; it is
 // passed on by reference, and only start, login, the company card and the lookup window write it.
 //
-//   no store open --SirketAc--> store open --OturumAc--> logged in --change of company--> no store open
+//   no store open --SirketAc--> store open --OturumAc--> logged in --SirketKapat--> no store open
 #pragma once
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "core/bildirim.h"
 #include "core/session/depo.h"
+#include "core/session/icerde.h"
 #include "core/sonuc.h"
 #include "core/surum.h"
 #include "core/tables/firma.h"
@@ -39,6 +41,9 @@ struct Oturum {
 
   std::string FirmaDizini;  // directory of the open company; ends in a separator
   Depo depo;
+  // The open store is a private copy: nothing is saved, and every save is refused by the engine.
+  bool SaltOkunur = false;
+  std::unique_ptr<IcerdeIsareti> icerde;  // tells others that this program is in the company, from the login on
 
   // The company's card as this program knows it, the only copy of it: title, working month and year, decimals, default
   // class and all else. From the login on, and after each save; a colleague's save is seen at the next login.
@@ -52,8 +57,23 @@ struct Oturum {
 // command line is then dropped. False: the data directory cannot be made, and the program must end.
 bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komutSatiri, Bildirim& bildirim);
 
-// Opens the company's store; "Database Açılamadı" or the name's fault otherwise, and then no store is open.
-Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim);
+enum class SirketErisimi {
+  Yazilir,     // as far as the files may be written
+  YalnizBakis  // whatever the company's files are, nothing changes in them
+};
+
+// Opens the company's store; "Database Açılamadı" or the name's fault otherwise, and then no store is open. One that
+// cannot be written is opened all the same, as a copy (`SaltOkunur`).
+Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim, SirketErisimi erisim = SirketErisimi::Yazilir);
+
+// Leaves the company.
+void SirketKapat(Oturum& o);
+
+inline constexpr const char* SaltOkunurUyarisi =
+    "Şirketin dosyaları yazılamıyor, şirket salt okunur açıldı: değişiklikler kaydedilemez";
+
+// Tells others who is in, from now to SirketKapat.
+void IcerdeYaz(Oturum& o, const std::string& kullanici);
 
 // Makes a company with its store, its first user (an administrator) and its `firma` record, and leaves it open. On
 // failure no trace of the company stays on the disk, and no store is open.

@@ -5,6 +5,9 @@
 
 #include "core/asama.h"
 #include "core/session/sirket.h"
+#include "core/session/tekbasina.h"
+#include "core/store/depokopyasi.h"
+#include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/yarimdizin.h"
 
@@ -12,32 +15,17 @@ namespace belvani {
 namespace {
 
 SirketSatiri SatirOku(const VeriYolu& veri, const std::string& ad) {
-  Veritabani db;
-  db.DbAc(DepoAdresi(veri.Alt(ad)));
-  const auto kart = db.Koru(std::optional<Firma>(), [&] { return Tablo<Firma>(db.IcMotor()).Bul(); });
-  if (!kart) return {ad, "Database'e Ulaşılamadı", ""};
-  const std::string ay = std::to_string(kart->firmaay);
-  return {ad, kart->unvan, (ay.size() < 2 ? "0" + ay : ay) + "-" + std::to_string(kart->firmayil)};
-}
-
-// The company's store with everybody else kept out, as long as the result lives; null when the file is no store, which
-// nobody can have open. A connection of another computer or program, even an idle one, is told by its hold on the
-// write-ahead log, which leaving that journal mode asks for.
-Sonuc<std::unique_ptr<Motor>> TekBasinaAc(const std::string& yol) {
-  try {
-    auto motor = MotorAc(yol);
-    motor->Calistir("pragma journal_mode=delete; begin exclusive");
-    return motor;
-  } catch (const MotorHatasi& h) {
-    if (h.tur == MotorKusuru::Kilitli) return Kusur{"Bu şirket şu anda kullanılıyor, hiçbir dosya silinmedi:\n" + yol};
-    return std::unique_ptr<Motor>();
-  }
+  const auto kart = Koru([&] { return Tablo<Firma>(*MotorBak(DepoAdresi(veri.Alt(ad)))).Bul(); });
+  if (!kart || !*kart) return {ad, "Database'e Ulaşılamadı", ""};
+  const Firma& firma = **kart;
+  const std::string ay = std::to_string(firma.firmaay);
+  return {ad, firma.unvan, (ay.size() < 2 ? "0" + ay : ay) + "-" + std::to_string(firma.firmayil)};
 }
 
 Durum Kaldir(const VeriYolu& veri, const std::string& ad) {
   if (YarimDizinAdi(ad)) return YarimDiziniSil(veri.Adres(), ad);
   const VeriYolu sirket = veri.Alt(ad);
-  const auto depo = TekBasinaAc(DepoAdresi(sirket));
+  const auto depo = TekBasinaAc(sirket, "hiçbir dosya silinmedi");
   if (!depo) return depo.Kusuru();
   if (Durum bosaldi = sirket.Bosalt(DepoDosyasi); !bosaldi) return bosaldi;
   return sirket.Kaldir();

@@ -3,6 +3,7 @@
 #include "core/dosya.h"
 #include "core/session/firmabilgi.h"
 #include "core/session/kullanicilar.h"
+#include "core/session/paylasim.h"
 #include "core/session/sinifbakimi.h"
 #include "core/session/sirket.h"
 #include "core/store/tablo.h"
@@ -27,7 +28,7 @@ Durum KartYaz(Oturum& o, const YeniSirket& yeni) {
   return Tamam();
 }
 
-Durum Doldur(Oturum& o, const std::string& yol, const YeniSirket& yeni, Bildirim& bildirim) {
+Durum Doldur(Oturum& o, const std::string& yol, DepoYeri yer, const YeniSirket& yeni, Bildirim& bildirim) {
   Depo& depo = o.depo;
   if (Durum yaratildi = depo.VeritabaniYarat(yol); !yaratildi) return yaratildi;
   const auto kusur = [&](const std::string& metin) { return Kusur{metin + ": " + depo.db.SonHata()}; };
@@ -37,7 +38,7 @@ Durum Doldur(Oturum& o, const std::string& yol, const YeniSirket& yeni, Bildirim
   depo.TablolariKapat(KapatmaKapsami::YalnizImlecler);
   // All into the one file: a directory that is renamed with a journal in it would not be whole.
   const bool tekDosya = depo.db.Koru(false, [&] {
-    depo.db.IcMotor().Calistir("pragma journal_mode=delete");
+    depo.db.IcMotor().YerKoy(yer);
     return true;
   });
   return tekDosya ? Tamam() : Durum(kusur("Database Kapatılamadı"));
@@ -62,8 +63,8 @@ Durum SirketKur(Oturum& o, const YeniSirket& yeni, Bildirim& bildirim) {
   if (!yarim) return Kusur{"Şirket Dizini Yaratılamıyor: " + yer.Adres()};
   const Firma oncekiKart = o.firma;
   const bool kartVardi = o.firmaVar;
-  Durum kuruldu = Doldur(o, DepoAdresi(yarim->Yol()), yeni, bildirim);
-  o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
+  Durum kuruldu = Doldur(o, DepoAdresi(yarim->Yol()), YeniDepoYeri(o.DataPath), yeni, bildirim);
+  SirketKapat(o);
   if (kuruldu) kuruldu = AdinaKoy(*yarim, yer, *ad);
   if (!kuruldu) {
     o.firma = oncekiKart;

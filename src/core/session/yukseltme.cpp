@@ -191,6 +191,14 @@ GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar 
     bildirim.Uyari("İşaretleme Yapılmamış..");
     return GuncellemeSonucu::IsaretYok;
   }
+  if (o.SaltOkunur) {
+    bildirim.Uyari(SaltOkunurUyarisi);
+    return GuncellemeSonucu::IsaretYok;
+  }
+  if (const auto baskalari = Icerdekiler(o.FirmaDizini, o.icerde.get()); !baskalari.empty()) {
+    bildirim.Uyari("Bu şirkette başka kullanıcılar var, güncelleme yapılmadı:" + IcerdekiSatirlari(baskalari));
+    return GuncellemeSonucu::IsaretYok;
+  }
   // Given up before the first step, it is as if nothing had been ticked.
   if (ilerleme != nullptr && !ilerleme->Kesin()) return GuncellemeSonucu::IsaretYok;
   const auto kopya = YukseltmeOncesiKopya(o);

@@ -20,7 +20,7 @@
 //
 // Example of step 1: floor 444.15, sskmatrahisveren 400.00 -> katki 44.15. Steps 0 to 4 stamp the program's version,
 // which carries the store to the end of the chain; which steps are open is therefore asked once, before the first.
-// The store must be this program's alone meanwhile; nothing but the screen's notice sees to that.
+// The store must be this program's alone: while others are in (icerde.h), nothing is begun.
 #pragma once
 
 #include <string>
@@ -35,7 +35,7 @@ namespace belvani {
 
 enum class GuncellemeSonucu {
   Tamam,
-  IsaretYok,      // nothing was ticked: told, the screen stays
+  IsaretYok,      // nothing was ticked, or nothing may be begun: told, the screen stays
   Basarisiz,      // the chain stops here
   ProgramBitsin,  // the store could not be opened again: told, and the program must end
 };

@@ -70,6 +70,18 @@ class Komut {
   void Calistir();
 };
 
+// For whom a store is laid out, which decides how it keeps what is not approved yet. The file itself remembers it, and
+// opening never changes it.
+enum class DepoYeri {
+  BuBilgisayar,  // WAL: readers never wait, but its shared memory is seen by the programs of one computer alone
+  Paylasilan,    // rollback journal: several computers may work on the file
+};
+
+enum class AcilisKipi {
+  Ortak,
+  Tek,  // everybody else is kept out as long as the motor lives; refused (Kilitli) while someone has the store open
+};
+
 struct MotorKolonu {
   std::string ad;
   std::string tip;  // as the table declares it, lower case
@@ -95,12 +107,19 @@ class Motor {
   virtual std::int64_t DegisenSatir() const = 0;  // by the last write
   virtual std::uint64_t YazmaSayaci() const = 0;  // grows with every write of this process
 
+  virtual DepoYeri Yeri() = 0;
+  // Lays the store out anew, and brings all of it into the one file; it must be this motor's alone.
+  virtual void YerKoy(DepoYeri yer) = 0;
+  // From now on nothing is written: a write is refused as MotorKusuru::SaltOkunur.
+  virtual void SaltOkunurYap() = 0;
+
   // "" when the store is sound, else what is wrong with it. Reads everything.
   virtual std::string ButunlukKusuru() = 0;
 };
 
-// Opens the store file at `yol`, or makes it anew where there is none; shared, for reading and writing.
-std::unique_ptr<Motor> MotorAc(const std::string& yol);
+// Opens the store file at `yol`, or makes it anew where there is none, for reading and writing. A store that is laid
+// out for one computer is not opened from another one. A new one is laid out as its file system asks for.
+std::unique_ptr<Motor> MotorAc(const std::string& yol, AcilisKipi kip = AcilisKipi::Ortak);
 std::unique_ptr<Motor> MotorYarat(const std::string& yol);
 
 // Removes a closed store, with what the engine has laid beside it.

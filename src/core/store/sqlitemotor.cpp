@@ -1,17 +1,17 @@
 // The SQLite engine.
 //
-// Durability: WAL journal with synchronous=FULL, so a committed transaction survives a power cut and an open one
-// vanishes whole. WAL needs shared memory; on a network file system the rollback journal serves in its place.
+// Durability: synchronous=FULL, so a committed transaction survives a power cut and an open one vanishes whole. The
+// journal (WAL, or rollback journal where several computers write) belongs to the file: opening takes it as it is.
 // Text columns carry the collation `turkce`. Its order belongs to the Unicode library's version, which the store
 // remembers in user_version: under another version the indexes are rebuilt before anything is searched.
 
 #include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
-#include <sys/vfs.h>
 #include <thread>
 #include <unistd.h>
 
+#include "core/store/dosyasistemi.h"
 #include "core/store/motor.h"
 #include "core/turkce.h"
 
@@ -22,6 +22,7 @@ using Milisaniye = std::chrono::milliseconds;
 
 constexpr int UygulamaKimligi = 0x42454C56;  // "BELV", in the header of the file
 constexpr Milisaniye KilitBekleme{5000};
+constexpr Milisaniye TekBekleme{1000};  // for readers who are about to go
 
 const char* const OturumAyarlari =
     "pragma synchronous=full;"
@@ -75,10 +76,21 @@ std::string KusurMetni(MotorKusuru tur) {
   return {};
 }
 
-[[noreturn]] void HataAt(sqlite3* db, int kod) {
+constexpr const char* PaylasilanDegil =
+    "Şirketin veritabanı yalnız kendi bilgisayarı için kurulmuş, paylaşılan diskten açılamaz. Kimse içeride değilken "
+    "çalıştırınız: belvani-cli paylas KOD (bütün şirketler için: belvani-cli paylas --hepsi)";
+constexpr const char* SaltOkunurAcildi = "Şirket salt okunur açıldı, değişiklikler kaydedilemez";
+
+struct MotorHali {
+  std::uint64_t yazmaSayaci = 0;
+  bool saltOkunur = false;
+};
+
+MotorHatasi Hata(sqlite3* db, int kod, const MotorHali& hal) {
   const MotorKusuru tur = KusurTuru(kod);
+  if (tur == MotorKusuru::SaltOkunur && hal.saltOkunur) return MotorHatasi(tur, SaltOkunurAcildi);
   const char* ayrinti = db == nullptr ? sqlite3_errstr(kod) : sqlite3_errmsg(db);
-  throw MotorHatasi(tur, KusurMetni(tur) + " [" + ayrinti + "]");
+  return MotorHatasi(tur, KusurMetni(tur) + " [" + ayrinti + "]");
 }
 
 int TurkceSirala(void*, int na, const void* a, int nb, const void* b) {
@@ -88,9 +100,9 @@ int TurkceSirala(void*, int na, const void* a, int nb, const void* b) {
 
 class SqliteKomut final : public Komut {
  public:
-  SqliteKomut(sqlite3* db, std::string_view sql, std::uint64_t& yazmaSayaci) : db_(db), yazmaSayaci_(yazmaSayaci) {
+  SqliteKomut(sqlite3* db, std::string_view sql, MotorHali& hal) : db_(db), hal_(hal) {
     const int kod = sqlite3_prepare_v3(db, sql.data(), int(sql.size()), SQLITE_PREPARE_PERSISTENT, &komut_, nullptr);
-    if (kod != SQLITE_OK) HataAt(db, kod);
+    if (kod != SQLITE_OK) throw Hata(db, kod, hal);
     yazan_ = sqlite3_stmt_readonly(komut_) == 0;
   }
   ~SqliteKomut() override { sqlite3_finalize(komut_); }
@@ -109,12 +121,11 @@ class SqliteKomut final : public Komut {
   bool Adim() override {
     const int kod = sqlite3_step(komut_);
     if (kod == SQLITE_ROW) return true;
-    if (yazan_) ++yazmaSayaci_;
+    if (yazan_) ++hal_.yazmaSayaci;
     if (kod != SQLITE_DONE) {
-      const MotorKusuru tur = KusurTuru(kod);
-      const std::string metin = KusurMetni(tur) + " [" + sqlite3_errmsg(db_) + "]";
+      const MotorHatasi hata = Hata(db_, kod, hal_);
       sqlite3_reset(komut_);
-      throw MotorHatasi(tur, metin);
+      throw hata;
     }
     sqlite3_reset(komut_);
     return false;
@@ -154,23 +165,14 @@ class SqliteKomut final : public Komut {
  private:
   static std::string_view MetinYa(const char* m) { return m == nullptr ? std::string_view() : std::string_view(m); }
   void Sina(int kod) const {
-    if (kod != SQLITE_OK) HataAt(db_, kod);
+    if (kod != SQLITE_OK) throw Hata(db_, kod, hal_);
   }
 
   sqlite3* db_;
-  std::uint64_t& yazmaSayaci_;
+  MotorHali& hal_;
   sqlite3_stmt* komut_ = nullptr;
   bool yazan_ = false;
 };
-
-// True on NFS and SMB shares, where several computers cannot share WAL's memory.
-bool AgUzerinde(const std::string& yol) {
-  constexpr unsigned long Nfs = 0x6969, Smb = 0x517B, Cifs = 0xFF534D42, Smb2 = 0xFE534D42;
-  struct statfs bilgi {};
-  if (statfs(yol.c_str(), &bilgi) != 0) return false;
-  const auto tur = static_cast<unsigned long>(bilgi.f_type) & 0xFFFFFFFFul;
-  return tur == Nfs || tur == Smb || tur == Cifs || tur == Smb2;
-}
 
 // Nobody asks the library for its memory statistics, and they cost a lock with every allocation.
 void KitapligiHazirla() {
@@ -180,15 +182,18 @@ void KitapligiHazirla() {
 
 class SqliteMotor final : public Motor {
  public:
-  explicit SqliteMotor(const std::string& yol) {
+  SqliteMotor(const std::string& yol, AcilisKipi kip) {
     KitapligiHazirla();
     const int kod = sqlite3_open_v2(yol.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     try {
-      if (kod != SQLITE_OK) HataAt(db_, kod);
+      if (kod != SQLITE_OK) throw Hata(db_, kod, hal_);
       sqlite3_extended_result_codes(db_, 1);
       sqlite3_busy_timeout(db_, int(KilitBekleme.count()));
       sqlite3_create_collation_v2(db_, "turkce", SQLITE_UTF8, nullptr, &TurkceSirala, nullptr);
-      Calistir(AgUzerinde(yol) ? "pragma journal_mode=delete" : "pragma journal_mode=wal");
+      if (kip == AcilisKipi::Tek)
+        TekBasinaKal();
+      else if (WalBasligi() && PaylasilanDiskte(yol))
+        throw MotorHatasi(MotorKusuru::Acilamadi, PaylasilanDegil);
       Calistir(OturumAyarlari);
       Calistir("select count(*) from sqlite_master");  // a file that is no store shows itself here
     } catch (...) {
@@ -222,14 +227,14 @@ class SqliteMotor final : public Motor {
   }
 
   std::unique_ptr<Komut> Hazirla(std::string_view sql) override {
-    return std::make_unique<SqliteKomut>(db_, sql, yazmaSayaci_);
+    return std::make_unique<SqliteKomut>(db_, sql, hal_);
   }
 
   void Calistir(std::string_view sql) override {
     const std::string metin(sql);
     const int kod = sqlite3_exec(db_, metin.c_str(), nullptr, nullptr, nullptr);
-    ++yazmaSayaci_;
-    if (kod != SQLITE_OK) HataAt(db_, kod);
+    ++hal_.yazmaSayaci;
+    if (kod != SQLITE_OK) throw Hata(db_, kod, hal_);
   }
 
   void IslemBaslat(Milisaniye enCok) override {
@@ -239,12 +244,12 @@ class SqliteMotor final : public Motor {
     do kod = sqlite3_exec(db_, "begin immediate", nullptr, nullptr, nullptr);
     while ((kod & 0xFF) == SQLITE_BUSY && std::chrono::steady_clock::now() < son);
     sqlite3_busy_timeout(db_, int(KilitBekleme.count()));
-    if (kod != SQLITE_OK) HataAt(db_, kod);
+    if (kod != SQLITE_OK) throw Hata(db_, kod, hal_);
   }
   void IslemOnayla() override { Calistir("commit"); }
   void IslemGeriAl() noexcept override {
     if (IslemdeMi()) sqlite3_exec(db_, "rollback", nullptr, nullptr, nullptr);
-    ++yazmaSayaci_;
+    ++hal_.yazmaSayaci;
   }
   bool IslemdeMi() const override { return sqlite3_get_autocommit(db_) == 0; }
 
@@ -267,7 +272,17 @@ class SqliteMotor final : public Motor {
   std::string KimlikKolonu() const override { return "rowid"; }
   std::int64_t SonKimlik() const override { return sqlite3_last_insert_rowid(db_); }
   std::int64_t DegisenSatir() const override { return sqlite3_changes64(db_); }
-  std::uint64_t YazmaSayaci() const override { return yazmaSayaci_; }
+  std::uint64_t YazmaSayaci() const override { return hal_.yazmaSayaci; }
+
+  DepoYeri Yeri() override { return WalBasligi() ? DepoYeri::BuBilgisayar : DepoYeri::Paylasilan; }
+  void YerKoy(DepoYeri yer) override {
+    Calistir("pragma journal_mode=delete");
+    if (yer == DepoYeri::BuBilgisayar) Calistir("pragma journal_mode=wal");
+  }
+  void SaltOkunurYap() override {
+    Calistir("pragma query_only=on");
+    hal_.saltOkunur = true;
+  }
 
   std::string ButunlukKusuru() override {
     auto komut = Hazirla("pragma integrity_check(1)");
@@ -277,6 +292,26 @@ class SqliteMotor final : public Motor {
   }
 
  private:
+  // Asked for before anything is read: then a write-ahead log needs no memory shared with others, so the store opens
+  // on any file system, and the hold of everybody else who has it open, even idly, is met.
+  void TekBasinaKal() {
+    sqlite3_busy_timeout(db_, int(TekBekleme.count()));
+    Calistir("pragma locking_mode=exclusive; begin exclusive; commit");
+  }
+
+  // Whether the file's header asks for a write-ahead log. Read through the engine's own handle: closing another one of
+  // the file would drop the locks that this process holds on it.
+  bool WalBasligi() {
+    constexpr sqlite3_int64 okumaBicimi = 19;
+    constexpr unsigned char wal = 2;
+    sqlite3_file* dosya = nullptr;
+    unsigned char bicim = 0;
+    if (sqlite3_file_control(db_, "main", SQLITE_FCNTL_FILE_POINTER, &dosya) != SQLITE_OK || dosya == nullptr ||
+        dosya->pMethods == nullptr)
+      return false;
+    return dosya->pMethods->xRead(dosya, &bicim, 1, okumaBicimi) == SQLITE_OK && bicim == wal;
+  }
+
   static std::string TipAdi(const AlanTanimi& alan) {
     switch (alan.tip) {
       case AlanTipi::Metin:
@@ -312,13 +347,13 @@ class SqliteMotor final : public Motor {
   }
 
   sqlite3* db_ = nullptr;
-  std::uint64_t yazmaSayaci_ = 0;
+  MotorHali hal_;
 };
 
 }  // namespace
 
-std::unique_ptr<Motor> MotorAc(const std::string& yol) {
-  auto motor = std::make_unique<SqliteMotor>(yol);
+std::unique_ptr<Motor> MotorAc(const std::string& yol, AcilisKipi kip) {
+  auto motor = std::make_unique<SqliteMotor>(yol, kip);
   motor->SirayiDenetle();
   return motor;
 }
@@ -334,7 +369,8 @@ std::unique_ptr<Motor> MotorYarat(const std::string& yol) {
   ::fchmod(dosya, 0660);
   ::close(dosya);
   try {
-    auto motor = std::make_unique<SqliteMotor>(yol);
+    auto motor = std::make_unique<SqliteMotor>(yol, AcilisKipi::Ortak);
+    if (!PaylasilanDiskte(yol)) motor->YerKoy(DepoYeri::BuBilgisayar);
     motor->YeniDosyayiImzala();
     return motor;
   } catch (...) {

@@ -1,0 +1,116 @@
+// Who is in a company, and what is refused meanwhile.
+#include "core/session/icerde.h"
+
+#include <algorithm>
+#include <ctime>
+
+#include "core/saat.h"
+#include "core/session/ornekoturum.h"
+#include "core/session/paylasim.h"
+#include "core/session/sirketlistesi.h"
+#include "core/session/yukseltme.h"
+#include "surec.h"
+
+namespace belvani {
+namespace {
+
+using test::Iletiler;
+
+struct IcerdeTest : test::OrnekOturum {
+  test::Sonunda dilim = test::OrtamKoy("TZ", "UTC");
+  VeriYolu yer = VeriYolu(o.DataPath).Alt("DENEME");
+
+  IcerdeTest() { ::tzset(); }
+  std::string Kimler(const IcerdeIsareti* kendim = nullptr) const {
+    return IcerdekiSatirlari(Icerdekiler(yer, kendim));
+  }
+  // A mark as another computer lays it, whose processes cannot be seen from here.
+  void BaskaBilgisayarinki(const std::string& ad) const {
+    const auto kendi = IcerdeIsareti::Koy(yer, {.kullanici = "Çağrı", .bilgisayar = "MASA2"});
+    const auto isaretler = yer.Isaretler();
+    const auto i = std::ranges::find_if(isaretler, [](const AdliDosya& a) { return a.baytlar.starts_with("Çağrı"); });
+    ASSERT_NE(i, isaretler.end());
+    std::string baytlar = i->baytlar;
+    const std::size_t uzay = baytlar.find("pid:");
+    ASSERT_NE(uzay, std::string::npos) << baytlar;
+    ASSERT_TRUE(yer.IsaretKoy(ad, baytlar.replace(uzay, 4, "PID:")));
+  }
+};
+
+TEST_F(IcerdeTest, AMarkIsThereUntilItIsVoid) {
+  ASSERT_TRUE(yer.Yarat());
+  SabitAn an(1'000'000'000);
+  const auto ben = IcerdeIsareti::Koy(yer, {.kullanici = "Ayşe\n", .bilgisayar = "MASA1"});
+  ASSERT_NE(ben, nullptr);
+  an.Gec(60);
+  BaskaBilgisayarinki("oteki");
+  EXPECT_EQ(Kimler(), "\nAyşe  (MASA1, 09.09.2001 01:46)\nÇağrı (MASA2, 09.09.2001 01:47)");
+  EXPECT_EQ(Kimler(ben.get()), "\nÇağrı (MASA2, 09.09.2001 01:47)");
+  an.Gec(240);
+  ASSERT_TRUE(ben->Yenile());
+  an.Gec(60);
+  EXPECT_EQ(Icerdekiler(yer).size(), 2u);
+  an.Gec(1);
+  EXPECT_EQ(Kimler(), "\nAyşe  (MASA1, 09.09.2001 01:46)");
+  EXPECT_EQ(yer.Isaretler().size(), 1u) << "what is void is swept";
+  an.Gec(1000);
+  EXPECT_TRUE(Icerdekiler(yer).empty() && yer.Isaretler().empty());
+  EXPECT_TRUE(ben->Yenile()) << "the computer has slept";
+  EXPECT_EQ(Icerdekiler(yer).size(), 1u);
+  for (const char* bozuk : {"", "x", "a\nb\n1\nm\n1\n1\nx\n"}) ASSERT_TRUE(yer.IsaretKoy("bozuk", bozuk));
+  EXPECT_EQ(Icerdekiler(yer).size(), 1u);
+  EXPECT_TRUE(yer.Dosyalar().empty()) << "no file of the company";
+  EXPECT_EQ(IcerdeIsareti::Koy(VeriYolu(o.DataPath).Alt("YOK"), {}), nullptr);
+}
+
+TEST_F(IcerdeTest, AKilledProgramIsOutAtOnce) {
+  ASSERT_TRUE(yer.Yarat());
+  const test::Kapi kondu;
+  test::Surec oteki([&] {
+    const auto isaret = IcerdeIsareti::Koy(yer, {.kullanici = "Ayşe", .bilgisayar = "MASA1"});
+    kondu.Ac();
+    return ::pause();
+  });
+  kondu.Bekle();
+  EXPECT_EQ(Icerdekiler(yer).size(), 1u);
+  oteki.Oldur();
+  EXPECT_TRUE(Icerdekiler(yer).empty());
+}
+
+TEST_F(IcerdeTest, FromLoginToLeaving) {
+  Kur();
+  EXPECT_TRUE(Icerdekiler(yer).empty());
+  EXPECT_FALSE(OturumAc(o, "deneme", "Ayşe", "yanlış"));
+  EXPECT_TRUE(Icerdekiler(yer).empty());
+  ASSERT_TRUE(OturumAc(o, "deneme", "Ayşe", "gizli'"));
+  EXPECT_EQ(Icerdekiler(yer).at(0).kullanici, "Ayşe");
+  EXPECT_TRUE(Icerdekiler(yer, o.icerde.get()).empty());
+  SirketKapat(o);
+  EXPECT_TRUE(yer.Isaretler().empty());
+}
+
+// A store on a share does not tell of its idle users: the marks do.
+TEST_F(IcerdeTest, DeletionAndUpgradeNameWhoIsIn) {
+  Kur();
+  const SabitAn an(1'000'000'000);
+  BaskaBilgisayarinki("oteki");
+  const std::string cagri = "\nÇağrı (MASA2, 09.09.2001 01:46)";
+  ASSERT_TRUE(OturumAc(o, "deneme", "Ayşe", "gizli'"));
+  AdimIsaretleri isaretli{};
+  isaretli[2] = true;
+  EXPECT_EQ(AdimlariYurut(o, isaretli, Tutar(), b), GuncellemeSonucu::IsaretYok);
+  EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Bu şirkette başka kullanıcılar var, güncelleme yapılmadı:" + cagri});
+  SirketKapat(o);
+  o.FirmaDizini.clear();
+  const std::string depo = "\n" + yer.Adres("tolu.dat");
+  EXPECT_EQ(SirketSil(o.DataPath, "DENEME", o, b).KusurMetni(),
+            "Bu şirket şu anda kullanılıyor, hiçbir dosya silinmedi:" + depo + cagri);
+  EXPECT_EQ(DepoYeriDegistir(o.DataPath, "DENEME", DepoYeri::Paylasilan).KusurMetni(),
+            "Bu şirket şu anda kullanılıyor, değiştirilmedi:" + depo + cagri);
+  ASSERT_TRUE(yer.IsaretKaldir("oteki"));
+  EXPECT_TRUE(DepoYeriDegistir(o.DataPath, "DENEME", DepoYeri::Paylasilan));
+  EXPECT_TRUE(SirketSil(o.DataPath, "DENEME", o, b));
+}
+
+}  // namespace
+}  // namespace belvani
