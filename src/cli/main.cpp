@@ -81,8 +81,8 @@ int Calistir(int argc, char** argv) {
   app.add_option("--veri", genel.veri, "data dizini (verilmezse kurulumun data dizini)");
   app.require_subcommand(0, 1);
   app.set_version_flag("--version", "Belvani " + VersiyonMetni(ProgramVersiyonu()), "programın sürümünü gösterir");
-  for (const KomutEkle ekle : {SirketKomutlari, DenetleKomutu, PaylasKomutu, ParametreKomutlari, AktarimKomutlari,
-                               HazirlaKomutlari, HesaplaKomutu, BelgeKomutlari, BildirgeKomutu})
+  for (const KomutEkle ekle : {SirketKomutlari, YedekKomutlari, DenetleKomutu, PaylasKomutu, ParametreKomutlari,
+                               AktarimKomutlari, HazirlaKomutlari, HesaplaKomutu, BelgeKomutlari, BildirgeKomutu})
     ekle(app, genel);
   for (CLI::App* komut : app.get_subcommands({})) {
     komut->group("Komutlar");

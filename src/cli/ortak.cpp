@@ -9,6 +9,7 @@
 #include "core/kaynak.h"
 #include "core/sayi.h"
 #include "core/session/yukseltme.h"
+#include "core/yarimdizin.h"
 #include "documents/secimalanlari.h"
 
 namespace belvani::cli {
@@ -27,6 +28,7 @@ std::string Genel::DataPath() {
   const std::string yol = veri.empty() ? MakineAyari("DataPath") : veri;
   if (yol.empty()) throw KomutHatasi{"Data Dizini belli değil: --veri DIZIN veriniz"};
   GecicileriSupur(yol);
+  YarimDegisimleriBitir(yol);
   return DizinSonu(yol);
 }
 

@@ -26,6 +26,12 @@ class StandartHata : public Bildirim {
   bool Soru(std::string_view metin) override;
 };
 
+// The user has agreed beforehand.
+class OnayliBildirim final : public StandartHata {
+ public:
+  bool Soru(std::string_view) override { return true; }
+};
+
 // Options of the program itself.
 struct Genel {
   std::string veri;  // --veri
@@ -45,6 +51,7 @@ using KomutEkle = void (*)(CLI::App&, Genel&);
 void SirketKomutlari(CLI::App& app, Genel& genel);
 void DenetleKomutu(CLI::App& app, Genel& genel);
 void PaylasKomutu(CLI::App& app, Genel& genel);
+void YedekKomutlari(CLI::App& app, Genel& genel);
 void ParametreKomutlari(CLI::App& app, Genel& genel);
 void AktarimKomutlari(CLI::App& app, Genel& genel);
 void HazirlaKomutlari(CLI::App& app, Genel& genel);

@@ -46,12 +46,6 @@ void SirketleriYaz(Genel& genel, bool json) {
   Yaz(json ? dizi.dump(2) + "\n" : metin);
 }
 
-// The user has agreed beforehand.
-class OnayliBildirim final : public StandartHata {
- public:
-  bool Soru(std::string_view) override { return true; }
-};
-
 void SirketiSil(Genel& genel, const std::string& kod, bool onay) {
   Oturum o;
   o.DataPath = genel.DataPath();

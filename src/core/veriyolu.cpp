@@ -56,6 +56,12 @@ class DizinMakinesi final : public VeriMakinesi {
     const DosyaHali bekleyen = Bul(BekleyenDosya(dizin_, ad), enCok);
     return bekleyen.var && !bekleyen.okunamadi ? bekleyen : Bul(Adres(ad), enCok);
   }
+  std::optional<DosyaIzi> Iz(std::string_view ad) const override {
+    struct stat hal {};
+    if (::stat(Adres(ad).c_str(), &hal) != 0 || !S_ISREG(hal.st_mode)) return std::nullopt;
+    constexpr std::int64_t nano = 1'000'000'000;
+    return DosyaIzi{std::uintmax_t(hal.st_size), hal.st_mtim.tv_sec * nano + hal.st_mtim.tv_nsec};
+  }
   Durum Yaz(std::string_view ad, std::string_view baytlar) const override {
     if (auto durum = BekleyenleriYerlestir(dizin_); !durum) return durum;
     GecicileriSupur(dizin_);
@@ -192,6 +198,11 @@ std::optional<std::string> VeriYolu::Oku(std::string_view ad, std::size_t enCok)
 DosyaHali VeriYolu::Bak(std::string_view ad, std::size_t enCok) const {
   assert(Ad(ad));
   return makine_->Bak(ad, enCok);
+}
+
+std::optional<DosyaIzi> VeriYolu::Iz(std::string_view ad) const {
+  assert(Ad(ad));
+  return makine_->Iz(ad);
 }
 
 Durum VeriYolu::Yaz(std::string_view ad, std::string_view baytlar) const {

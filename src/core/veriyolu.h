@@ -34,6 +34,14 @@ struct DosyaHali {
   bool operator==(const DosyaHali&) const = default;
 };
 
+// By what a file is known to have changed without reading it.
+struct DosyaIzi {
+  std::uintmax_t boy = 0;
+  std::int64_t zaman = 0;  // of its last change, nanoseconds of the computer's clock since 1970
+
+  bool operator==(const DosyaIzi&) const = default;
+};
+
 // Held by one at a time, on all computers, until it is destroyed.
 class YolKilidi {
  public:
@@ -45,6 +53,7 @@ class VeriMakinesi {
  public:
   virtual ~VeriMakinesi() = default;
   virtual DosyaHali Bak(std::string_view ad, std::size_t enCok) const = 0;
+  virtual std::optional<DosyaIzi> Iz(std::string_view ad) const = 0;
   virtual Durum Yaz(std::string_view ad, std::string_view baytlar) const = 0;
   virtual Durum YazHepsi(const std::vector<AdliDosya>& dosyalar) const = 0;
   virtual Durum Sil(std::string_view ad) const = 0;
@@ -76,6 +85,7 @@ class VeriYolu {
   // The same with the reason.
   DosyaHali Bak(std::string_view ad, std::size_t enCok = EnCokBayt) const;
   bool Var(std::string_view ad) const { return Bak(ad, 0).var; }
+  std::optional<DosyaIzi> Iz(std::string_view ad) const;  // nothing when it is no file
   // In one step: a reader, a full disk or a power cut sees the old content or the new, never a half.
   Durum Yaz(std::string_view ad, std::string_view baytlar) const;
   // Several files as one: all readers see the old ones or the new ones, over a kill and a power cut too. Under the
@@ -103,6 +113,8 @@ class VeriYolu {
   VeriYolu Alt(std::string_view ad) const;
   std::vector<std::string> Altlar() const { return makine_->Altlar(); }
   bool AltVar(std::string_view ad) const;
+  // Where backups of the places below are kept, below a place for each. It need not be there, and no list names it.
+  VeriYolu Yedekler() const { return VeriYolu(makine_->Alt(".yedek")); }
   // Makes the place itself, where there is none.
   Durum Yarat() const { return makine_->Yarat(); }
   // Deletes every file, whatever its name, `sonuncu` as the last: what fails half way leaves that one. Nothing is

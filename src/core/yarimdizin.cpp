@@ -19,6 +19,9 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view OnEk = ".kurulan-";
+constexpr std::string_view DonenOnEk = ".donen-";
+constexpr std::string_view DegisenOnEk = ".degisen-";  // what another takes the place of, between two renames
+constexpr std::size_t RastgeleEk = std::string_view("-XXXXXX").size();
 
 // The directory with its lock, -1 when it is not there or someone is at it.
 int Kilitle(const std::string& yol) {
@@ -37,6 +40,19 @@ int UzerineYazmadanAdlandir(const std::string& eski, const std::string& yeni) {
   if (::rename(eski.c_str(), yeni.c_str()) == 0) return 0;
   const int kod = errno;
   ::rmdir(yeni.c_str());
+  return kod;
+}
+
+// The new one into the place of the old one, which is at `yan` afterwards; 0, or the number of the failure.
+int IkiAdimdaDegis(const std::string& yeni, const std::string& yer, const std::string& yan) {
+  const int kilit = Kilitle(yer);  // the next start leaves it alone while this program lives
+  if (kilit < 0) return EBUSY;
+  int kod = ::rename(yer.c_str(), yan.c_str()) == 0 ? 0 : errno;
+  if (kod == 0 && ::rename(yeni.c_str(), yer.c_str()) != 0) {
+    kod = errno;
+    ::rename(yan.c_str(), yer.c_str());
+  }
+  ::close(kilit);
   return kod;
 }
 
@@ -64,10 +80,10 @@ YarimDizin::~YarimDizin() {
   if (kilit_ >= 0) ::close(kilit_);
 }
 
-Sonuc<YarimDizin> YarimDizin::Ac(const std::string& ust, const std::string& ad) {
+Sonuc<YarimDizin> YarimDizin::Ac(const std::string& ust, const std::string& ad, YarimTuru tur) {
   const std::string kok = DizinSonu(ust);
   if (auto durum = DizinYarat(kok); !durum) return durum.Kusuru();
-  std::string yol = kok + std::string(OnEk) + ad + "-XXXXXX";
+  std::string yol = kok + std::string(tur == YarimTuru::Donen ? DonenOnEk : OnEk) + ad + "-XXXXXX";
   if (::mkdtemp(yol.data()) == nullptr) return Kusur{kok + ": dizin yaratılamadı"};
   YarimDizin yarim(kok, ad, yol.substr(kok.size()));
   std::error_code hata;
@@ -84,8 +100,47 @@ Durum YarimDizin::Adlandir() {
   return Tamam();
 }
 
+Durum YarimDizin::YerineGec() {
+  DiziniDiskeIndir(Yol());
+  const std::string yeni = ust_ + yarim_, yer = ust_ + ad_;
+  int kod = ::renameat2(AT_FDCWD, yeni.c_str(), AT_FDCWD, yer.c_str(), RENAME_EXCHANGE) == 0 ? 0 : errno;
+  if (kod == EINVAL || kod == ENOSYS) {
+    const std::string yan = std::string(DegisenOnEk) + ad_;
+    kod = IkiAdimdaDegis(yeni, yer, ust_ + yan);
+    if (kod == 0) yarim_ = yan;
+  }
+  if (kod != 0) return Kusur{yer + ": dizinin yerine yenisi konamadı"};
+  ::close(kilit_);
+  kilit_ = Kilitle(ust_ + yarim_);
+  DiziniDiskeIndir(ust_);
+  return Tamam();
+}
+
+void YarimDegisimleriBitir(const std::string& ust) {
+  const std::string kok = DizinSonu(ust);
+  std::vector<std::string> adlar;
+  std::error_code hata;
+  for (fs::directory_iterator i(kok, hata), son; !hata && i != son; i.increment(hata)) {
+    const std::string ad = i->path().filename();
+    if (ad.starts_with(DonenOnEk) || ad.starts_with(DegisenOnEk)) adlar.push_back(ad);
+  }
+  for (const std::string& ad : adlar) {
+    const int no = Kilitle(kok + ad);
+    if (no < 0) continue;
+    const bool geriDondu =
+        ad.starts_with(DegisenOnEk) && UzerineYazmadanAdlandir(kok + ad, kok + ad.substr(DegisenOnEk.size())) == 0;
+    if (!geriDondu) fs::remove_all(kok + ad, hata);
+    ::close(no);
+  }
+}
+
 bool YarimDizinAdi(std::string_view ad) {
   return ad.starts_with(OnEk) && ad.find('/') == std::string_view::npos;
+}
+
+bool YarimDizinAdi(std::string_view ad, std::string_view kimin) {
+  return YarimDizinAdi(ad) && ad.size() == OnEk.size() + kimin.size() + RastgeleEk &&
+         ad.substr(OnEk.size()).starts_with(kimin);
 }
 
 std::vector<std::string> YarimDizinler(const std::string& ust) {

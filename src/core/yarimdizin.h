@@ -11,10 +11,16 @@
 
 namespace belvani {
 
+// What becomes of one that a killed program has left.
+enum class YarimTuru {
+  Kurulan,  // it stays, and its user is told of it
+  Donen,    // the next start removes it: all that is in it is kept elsewhere
+};
+
 class YarimDizin {
  public:
   // Below `ust`, which is made where there is none.
-  static Sonuc<YarimDizin> Ac(const std::string& ust, const std::string& ad);
+  static Sonuc<YarimDizin> Ac(const std::string& ust, const std::string& ad, YarimTuru tur = YarimTuru::Kurulan);
   YarimDizin(YarimDizin&& y) noexcept;
   YarimDizin& operator=(YarimDizin&&) = delete;
   ~YarimDizin();
@@ -24,6 +30,9 @@ class YarimDizin {
 
   // Gives it its name. What stands there already, a file or an empty directory too, is never replaced.
   Durum Adlandir();
+  // Takes the place of the directory that bears its name; that one is then the half one, and goes with the object.
+  // Where the file system cannot exchange two names, a kill in between is mended by YarimDegisimleriBitir.
+  Durum YerineGec();
 
  private:
   YarimDizin(std::string ust, std::string ad, std::string yarim);
@@ -35,9 +44,14 @@ class YarimDizin {
 // Names of the directories below `ust` that were never finished and that nobody is at.
 std::vector<std::string> YarimDizinler(const std::string& ust);
 bool YarimDizinAdi(std::string_view ad);
+bool YarimDizinAdi(std::string_view ad, std::string_view kimin);  // one that was to bear the name `kimin`
 
 // Removes such a directory with all in it; refused while someone is at it.
 Durum YarimDiziniSil(const std::string& ust, const std::string& ad);
+
+// At a program's start: a directory whose place was about to be taken when a program was killed gets its name back, and
+// what such programs have left goes. Those that someone is at stay.
+void YarimDegisimleriBitir(const std::string& ust);
 
 // A new name, and one that is gone, lasts only once its directory is on the disk.
 void DiziniDiskeIndir(const std::string& dizin);

@@ -291,8 +291,8 @@ TEST(Sirket, TheCheckTellsFaultsFromRemarks) {
 // No word of the library's language in any help.
 TEST(Sirket, HelpIsTurkish) {
   const Komut komut;
-  for (const char* ad :
-       {"", "sirket-ac", "sirket-sil", "bordro", "bildirge", "hesapla", "parametre-kur", "personel-al"}) {
+  for (const char* ad : {"", "sirket-ac", "sirket-sil", "yedekle", "yedekten", "bordro", "bildirge", "hesapla",
+                         "parametre-kur", "personel-al"}) {
     const std::string yardim = komut(std::string(ad) + " --help").cikti;
     for (const char* sozcuk : {"Options", "OPTIONS", "Positionals", "TEXT", "Usage", "REQUIRED", " x 2", "Subcommand"})
       EXPECT_EQ(yardim.find(sozcuk), std::string::npos) << ad << ": " << sozcuk;

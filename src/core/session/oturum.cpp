@@ -16,6 +16,7 @@
 #include "core/store/tablo.h"
 #include "core/tables/peruser.h"
 #include "core/turkce.h"
+#include "core/yarimdizin.h"
 
 namespace belvani {
 namespace {
@@ -70,6 +71,7 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
     for (const auto& [anahtar, deger] : {std::pair("PrgPath", o.PrgPath), std::pair("DataPath", o.DataPath)})
       if (const auto d = MakineAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.KusurMetni());
   }
+  YarimDegisimleriBitir(o.DataPath);
   o.Kullanici = "BELVANI";
   o.ListeSirasi = Oturum().ListeSirasi;
   o.ResimKullan = true;

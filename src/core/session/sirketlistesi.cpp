@@ -5,6 +5,7 @@
 
 #include "core/asama.h"
 #include "core/session/sirket.h"
+#include "core/session/sirketyedegi.h"
 #include "core/session/tekbasina.h"
 #include "core/store/depokopyasi.h"
 #include "core/store/koru.h"
@@ -22,11 +23,16 @@ SirketSatiri SatirOku(const VeriYolu& veri, const std::string& ad) {
   return {ad, firma.unvan, (ay.size() < 2 ? "0" + ay : ay) + "-" + std::to_string(firma.firmayil)};
 }
 
-Durum Kaldir(const VeriYolu& veri, const std::string& ad) {
+constexpr const char* Silinmedi = "hiçbir dosya silinmedi";
+
+Durum Kaldir(const VeriYolu& veri, const std::string& ad, Ilerleme* ilerleme) {
   if (YarimDizinAdi(ad)) return YarimDiziniSil(veri.Adres(), ad);
   const VeriYolu sirket = veri.Alt(ad);
-  const auto depo = TekBasinaAc(sirket, "hiçbir dosya silinmedi");
+  const auto depo = TekBasinaAc(sirket, Silinmedi);
   if (!depo) return depo.Kusuru();
+  const auto yedek = YedekAl(veri, ad, {.tur = YedekTuru::Silme, .depo = depo->get()}, ilerleme);
+  if (!yedek) return Kusur{std::string("Silmeden önce yedek alınamadı, ") + Silinmedi + ":\n" + yedek.KusurMetni()};
+  if (ilerleme != nullptr && !ilerleme->Kesin()) throw Vazgecilmis{};
   if (Durum bosaldi = sirket.Bosalt(DepoDosyasi); !bosaldi) return bosaldi;
   return sirket.Kaldir();
 }
@@ -59,12 +65,15 @@ std::vector<std::string> SilinebilirSirketler(const VeriYolu& veri, const Oturum
   return adlar;
 }
 
-Sonuc<Silme> SirketSil(const VeriYolu& veri, std::string_view ad, const Oturum& o, Bildirim& bildirim) {
+Sonuc<Silme> SirketSil(const VeriYolu& veri, std::string_view ad, const Oturum& o, Bildirim& bildirim,
+                       const Yurutucu& yurut) {
   const auto adlar = SilinebilirSirketler(veri, o);
   if (std::find(adlar.begin(), adlar.end(), ad) == adlar.end())
     return Kusur{"Silinebilecek şirketler arasında yok: " + std::string(ad)};
   if (!bildirim.SilinsinMi("Firmayı Silmeye Eminmisiniz ?", ad, SoruDugmeleri::TamamIptal)) return Silme::Silinmedi;
-  if (const Durum silindi = Kaldir(veri, std::string(ad)); !silindi) return silindi.Kusuru();
+  Durum silindi = Tamam();
+  if (!yurut([&](Ilerleme* ilerleme) { silindi = Kaldir(veri, std::string(ad), ilerleme); })) return Silme::Silinmedi;
+  if (!silindi) return silindi.Kusuru();
   return Silme::Silindi;
 }
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/bildirim.h"
+#include "core/asama.h"
 #include "core/session/oturum.h"
 #include "core/silme.h"
 #include "core/veriyolu.h"
@@ -33,8 +33,10 @@ std::vector<std::string> YarimSirketler(const VeriYolu& veri);
 std::vector<std::string> SilinebilirSirketler(const VeriYolu& veri, const Oturum& o);
 
 // Asks, then deletes the directory `ad`, as SilinebilirSirketler names it, with every file in it. Refused, with nothing
-// deleted, are a name that is not in that list, a directory with a subdirectory, and a company that someone is in.
-// The store goes last, so that a removal that fails half way leaves a company that still opens.
-Sonuc<Silme> SirketSil(const VeriYolu& veri, std::string_view ad, const Oturum& o, Bildirim& bildirim);
+// deleted, are a name that is not in that list, a directory with a subdirectory, a company that someone is in, and a
+// company of which no backup can be made first. The store goes last, so that a removal that fails half way leaves a
+// company that still opens.
+Sonuc<Silme> SirketSil(const VeriYolu& veri, std::string_view ad, const Oturum& o, Bildirim& bildirim,
+                       const Yurutucu& yurut = HemenYurut);
 
 }  // namespace belvani

@@ -1,4 +1,5 @@
-// A company's store with everybody else kept out, for what must not happen under anybody's hands.
+// A company's store with everybody else kept out, for what must not happen under anybody's hands: deletion, the return
+// of a backup.
 #pragma once
 
 #include <memory>

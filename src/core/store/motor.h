@@ -7,6 +7,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -115,6 +116,11 @@ class Motor {
 
   // "" when the store is sound, else what is wrong with it. Reads everything.
   virtual std::string ButunlukKusuru() = 0;
+
+  // The store as it stands at one moment into the new file `yol`, page by page, while others go on working. `adim` is
+  // told the pages that are done and all there are; what it throws ends the copying.
+  using KopyaAdimi = std::function<void(std::size_t biten, std::size_t toplam)>;
+  virtual void Kopyala(const std::string& yol, const KopyaAdimi& adim) = 0;
 };
 
 // Opens the store file at `yol`, or makes it anew where there is none, for reading and writing. A store that is laid

@@ -13,6 +13,7 @@
 
 #include "core/store/dosyasistemi.h"
 #include "core/store/motor.h"
+#include "core/store/sqlitekopya.h"
 #include "core/turkce.h"
 
 namespace belvani {
@@ -289,6 +290,10 @@ class SqliteMotor final : public Motor {
     const std::string sonuc = komut->Adim() ? std::string(komut->Metin(0)) : "denetim yapılamadı";
     komut->Birak();
     return sonuc == "ok" ? std::string() : sonuc;
+  }
+
+  void Kopyala(const std::string& yol, const KopyaAdimi& adim) override {
+    if (const int kod = SqliteKopyala(db_, yol, adim); kod != SQLITE_OK) HataAt(nullptr, kod);
   }
 
  private:

@@ -2,6 +2,7 @@
 
 #include "core/session/sirketlistesi.h"
 #include "ui/metin.h"
+#include "ui/uzunis.h"
 #include "ui/xtext.h"
 
 namespace belvani {
@@ -67,7 +68,10 @@ void firsil::Sec(int satir) {
 
 void firsil::Sil() {
   if (secilen_.empty()) return;
-  Oldu(SirketSil(Oturumu().DataPath, secilen_, Oturumu(), Bildirimi()));
+  const auto yurut = [this](const std::function<void(Ilerleme*)>& is) {
+    return uzunis::Yurut(Baglam(), QStringLiteral("Firma yedeklenip siliniyor…"), [&](Ilerleme& i) { is(&i); });
+  };
+  Oldu(SirketSil(Oturumu().DataPath, secilen_, Oturumu(), Bildirimi(), yurut));
   liste_->setFocus();
   ListeyiDoldur();
 }

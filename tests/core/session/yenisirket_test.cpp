@@ -2,43 +2,18 @@
 #include "core/session/yenisirket.h"
 
 #include <filesystem>
-#include <sys/ptrace.h>
 
 #include "core/dosya.h"
 #include "core/session/ornekoturum.h"
 #include "core/session/sirket.h"
 #include "core/session/sirketlistesi.h"
-#include "surec.h"
+#include "kesilen.h"
 
 namespace belvani {
 namespace {
 
 namespace fs = std::filesystem;
 using YeniSirketTest = test::OrnekOturum;
-
-// Runs `is` in a process of its own that is killed when it makes its system call number `no`. Gives the number of calls
-// made; fewer than `no`: it came to its end.
-int KesilenCagri(const std::function<void()>& is, int no) {
-  const pid_t surec = ::fork();
-  if (surec == 0) {
-    ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
-    ::raise(SIGSTOP);
-    is();
-    ::_exit(0);
-  }
-  int durum = 0;
-  ::waitpid(surec, &durum, 0);
-  for (int adim = 0;; ++adim) {  // a call stops twice, on its way in and out
-    if (adim / 2 >= no) {
-      ::kill(surec, SIGKILL);
-      ::waitpid(surec, &durum, 0);
-      return no;
-    }
-    if (::ptrace(PTRACE_SYSCALL, surec, nullptr, nullptr) != 0) std::abort();
-    ::waitpid(surec, &durum, 0);
-    if (WIFEXITED(durum) || WIFSIGNALED(durum)) return adim / 2;
-  }
-}
 
 TEST_F(YeniSirketTest, KilledAnywhereItIsWholeOrNotThere) {
   const auto kur = [&](const std::string& veri, Oturum& yeni) {
@@ -51,7 +26,7 @@ TEST_F(YeniSirketTest, KilledAnywhereItIsWholeOrNotThere) {
       Oturum yeni;
       (void)kur(veri, yeni);
     };
-    return KesilenCagri(is, no);
+    return test::KesilenCagri(is, no);
   };
   const int hepsi = kes(d.Yol() + "tam/", 1'000'000);
   ASSERT_GT(hepsi, 100);
