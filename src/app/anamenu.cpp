@@ -328,6 +328,7 @@ void anamenu::closeEvent(QCloseEvent* olay) {
     firmaDegissin_ = false;
     return olay->ignore();
   }
+  Birakilirken();
   olay->accept();
   Q_EMIT Kapandi();
 }

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QPointer>
+#include <functional>
 #include <map>
 
 #include "app/durumcubugu.h"
@@ -39,6 +40,8 @@ class anamenu : public QMainWindow, public FormGosterici {
   Form1& Masaustu() { return *masaustu_; }
   // Closes every screen, from the last to the first; false: one stays with what was typed into it.
   bool EkranlariKapat();
+  // The last thing before the window goes: every screen has closed.
+  std::function<void()> Birakilirken = [] {};
   // Why the window was closed.
   bool FirmaDegissinMi() const { return firmaDegissin_; }
 

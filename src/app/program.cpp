@@ -3,6 +3,7 @@
 #include <QEventLoop>
 #include <QTimer>
 
+#include "app/cikisyedegi.h"
 #include "app/gosterici.h"
 #include "app/yardim.h"
 #include "screens/core/Dbupdate.h"
@@ -43,6 +44,7 @@ class Program : ProgramParcalari<BildirimKutusu, SistemDialoglari> {
   bool AnaPencere() {
     anamenu pencere(ekran, parametreler);
     gosterici.pencere = &pencere;
+    pencere.Birakilirken = [this] { CikisYedegiAl(ekran); };
     QEventLoop dongu;
     QObject::connect(&pencere, &anamenu::Kapandi, &dongu, &QEventLoop::quit);
     pencere.showMaximized();

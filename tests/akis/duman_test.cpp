@@ -7,6 +7,7 @@
 #include "app/ekranlar.h"
 #include "app/menuharfi.h"
 #include "core/dosya.h"
+#include "core/session/sirketyedegi.h"
 #include "ekran/ortam.h"
 #include "personnel/kart.h"
 #include "surec.h"
@@ -156,6 +157,9 @@ TEST(Duman, TheProgramTakesAPersonAndLeaves) {
   x.Bas("Escape");
   ASSERT_NO_FATAL_FAILURE(MenudenSec(x, "Firma", "Çıkış"));
   EXPECT_EQ(program.Bekle(), 0);
+  const auto yedekler = SirketYedekleri(veri, "ORNEK");
+  ASSERT_EQ(yedekler.size(), 1u) << "made at leaving";
+  EXPECT_EQ(yedekler.front().ad.tur, YedekTuru::Gunluk);
 
   kart = DepodakiKart(veri, bildirim);
   ASSERT_TRUE(kart.has_value());
