@@ -1,9 +1,10 @@
-// hazirla, bordro-sil
+// hazirla, bordro-sil, geri-al
 #include <iostream>
 #include <unistd.h>
 
 #include "cli/giris.h"
 #include "cli/ortak.h"
+#include "payroll/hazirlik/aysaklama.h"
 #include "payroll/hazirlik/hazirlik.h"
 
 namespace belvani::cli {
@@ -56,6 +57,20 @@ void BordroyuSil(Genel& genel, const HazirlaSecenekleri& s) {
   Yaz("Bordro Tamamen Silindi: " + std::to_string(Degeri(silinen)) + " kayıt\n");
 }
 
+struct GeriAlSecenekleri {
+  std::string kod, ay;
+  bool onay = false;
+};
+
+void GeriAl(Genel& genel, const GeriAlSecenekleri& s) {
+  const Donem donem = DonemOku(s.ay);
+  const auto o = genel.SirketAc(s.kod);
+  OnayliBildirim onayli;
+  auto gelen = AyiGeriAl(*o, donem.yil, donem.ay, s.onay ? onayli : static_cast<Bildirim&>(genel.bildirim));
+  if (!Degeri(gelen)) throw KomutHatasi{"Geri alınmadı; geri almak için --onay veriniz: " + s.ay};
+  Yaz("Bordro geri alındı: " + std::to_string(**gelen) + " kayıt\n");
+}
+
 }  // namespace
 
 void HazirlaKomutlari(CLI::App& app, Genel& genel) {
@@ -78,6 +93,15 @@ void HazirlaKomutlari(CLI::App& app, Genel& genel) {
   sil->add_option("KOD", s->kod, "şirket")->required();
   DonemSecenekleri(*sil, s->donem);
   sil->callback([&genel, s] { BordroyuSil(genel, *s); });
+
+  auto g = std::make_shared<GeriAlSecenekleri>();
+  auto* geriAl = app.add_subcommand(
+      "geri-al",
+      "Ayın bordrosunu silinmeden ya da hazirla üzerine yazmadan önceki haline döndürür; şimdiki hali saklanır");
+  geriAl->add_option("KOD", g->kod, "şirket")->required();
+  geriAl->add_option("--ay", g->ay, "ay, YYYY-AA")->required();
+  geriAl->add_flag("--onay", g->onay, "sormadan geri alır; verilmezse hiçbir kayıt değişmez");
+  geriAl->callback([&genel, g] { GeriAl(genel, *g); });
 }
 
 }  // namespace belvani::cli

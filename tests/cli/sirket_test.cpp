@@ -64,6 +64,9 @@ TEST(Sirket, FromOpeningToTheLedger) {
       << "parameters of another half year";
   EXPECT_THAT(s.Tamam("bordro-sil deneme --yil 2009 --ay 7"), HasSubstr("3 kayıt"));
   EXPECT_EQ(s.Tamam("bordro deneme --yil 2009 --ay 7 --bicim json"), "[]\n");
+  EXPECT_THAT(s.Hata("geri-al deneme --ay 2009-07"), HasSubstr("--onay"));
+  EXPECT_EQ(s.Tamam("geri-al deneme --ay 2009-07 --onay"), "Bordro geri alındı: 3 kayıt\n");
+  EXPECT_EQ(s("bordro deneme --yil 2009 --ay 7 --bicim json").Json(), j);
   EXPECT_THAT(s.Tamam("denetle deneme"), HasSubstr("sağlam"));
 }
 

@@ -185,6 +185,8 @@ class BordroGirisi {
   bool KayitSil();
   // Ctrl+F7: all records of the month.
   bool AyinBordrosunuSil();
+  // Ctrl+F8: the month as it was before it was deleted or prepared anew. True: it is back, and the screen is cleared.
+  bool AyiGeriAl();
   // The "Puantaj " button with the template: everybody's month, without a question or a message. The failure is that
   // there is no law to calculate with, or that the store did not take it.
   belvani::Sonuc<HazirlikSonucu> SablondanHazirla(Ilerleme* ilerleme = nullptr);

@@ -3,6 +3,7 @@
 #include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/turkce.h"
+#include "payroll/hazirlik/aysaklama.h"
 #include "payroll/hazirlik/giris.h"
 #include "payroll/hazirlik/uyarilar.h"
 
@@ -148,6 +149,15 @@ bool BordroGirisi::AyinBordrosunuSil() {
     return false;
   }
   bildirim_.Bilgi("Bordro Tamamen Silindi");
+  EkranTemizle();
+  return true;
+}
+
+bool BordroGirisi::AyiGeriAl() {
+  const auto gelen = belvani::AyiGeriAl(o_, kosullar_.donem.yil, kosullar_.donem.ay, bildirim_);
+  if (!gelen) bildirim_.KusuruGoster(gelen.Kusuru());
+  if (!gelen || !*gelen) return false;
+  bildirim_.Bilgi("Ayın Bordrosu Geri Alındı: " + std::to_string(**gelen) + " kayıt");
   EkranTemizle();
   return true;
 }

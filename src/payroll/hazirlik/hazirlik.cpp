@@ -7,6 +7,7 @@
 #include "core/store/tablo.h"
 #include "core/tables/bordronosu.h"
 #include "core/turkce.h"
+#include "payroll/hazirlik/aysaklama.h"
 #include "payroll/hazirlik/uyarilar.h"
 #include "payroll/hesap/satirlar.h"
 
@@ -63,7 +64,7 @@ class GirisListesi {
 class TopluIs {
  public:
   TopluIs(Motor& motor, const Kosullar& k, const std::vector<GirisSatiri>& girisler)
-      : k_(k), girisler_(girisler, sonuc_.sorunlar), yazici_(motor) {}
+      : motor_(motor), k_(k), girisler_(girisler, sonuc_.sorunlar), yazici_(motor) {}
 
   void Kisi(const KisiVerisi& kisi) {
     const GirisSatiri* giris = girisler_.Bul(kisi.sicil.kod);
@@ -110,11 +111,13 @@ class TopluIs {
     }
     s.brd.gocindir = kisi.kayit ? kisi.kayit->gocindir : Tutar();  // kept, not calculated
     // A record that comes out as it stands is left alone: a month that is run again over itself writes nothing.
-    if (!kisi.kayit)
-      yazici_.Ekle(s.brd);
-    else if (*kisi.kayit != s.brd)
-      yazici_.Degistir(s.brd, s.brd.oto);
+    if (!kisi.kayit || *kisi.kayit != s.brd) Kaydet(s.brd, kisi.kayit.has_value());
     ++sonuc_.kaydedilen;
+  }
+
+  void Kaydet(const Brd& brd, bool kayitVar) {
+    if (!std::exchange(saklandi_, true)) AyiSakla(motor_, k_.donem.yil, k_.donem.ay, TopluHazirliktanOnce);
+    kayitVar ? yazici_.Degistir(brd, brd.oto) : yazici_.Ekle(brd);
   }
 
   // The template knows no reason for missing days, so only an entry list must give one.
@@ -151,7 +154,9 @@ class TopluIs {
                                .derece = giris == nullptr ? Derece::Uyari : Derece::Hata});
   }
 
+  Motor& motor_;
   const Kosullar& k_;
+  bool saklandi_ = false;  // the month as it was
   HazirlikSonucu sonuc_;
   GirisListesi girisler_;
   KayitYazici<Brd> yazici_;
@@ -192,6 +197,7 @@ Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const st
     Motor& motor = o.depo.db.IcMotor();
     Islem islem(motor, KilitBekleme);
     if (const auto yarim = YarimYukseltmeKusuru(motor)) return *yarim;
+    AySaklamayaHazirla(motor);
     const std::size_t toplam = KisiSayisi(motor);
     std::size_t biten = 0;
     bool suruyor = true;
@@ -235,6 +241,8 @@ Sonuc<int> BordroSil(Oturum& o, int yil, int ay) {
   const auto sil = [&] {
     Motor& motor = o.depo.db.IcMotor();
     Islem islem(motor, KilitBekleme);
+    AySaklamayaHazirla(motor);
+    AyiSakla(motor, yil, ay, SilinmedenOnce);
     const auto komut = motor.Hazirla("delete from brd where yil = ? and ay = ?");
     komut->TamBagla(1, yil);
     komut->TamBagla(2, ay);

@@ -44,7 +44,8 @@ Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const st
 // MotorHatasi.
 Yazim<Brd> BordroKaydet(Motor& motor, const Okunan<Brd>& kayit);
 
-// Deletes all records of a month, of all people; gives their number.
+// Deletes all records of a month, of all people; gives their number. As before a mass run, they are kept
+// (payroll/hazirlik/aysaklama.h).
 Sonuc<int> BordroSil(Oturum& o, int yil, int ay);
 
 // Whether everyone of the month has a record: always true, nothing is looked at. Asked when the payroll screen closes

@@ -55,6 +55,7 @@ void brdhazir::TuslariBagla() {
             {.komut = FormKomutu::Sil, .islev = [this] { Sil(); }},
             {.tus = Qt::Key_F5, .ipucu = "Sicil No", .islev = [this] { KodaDon(); }},
             {.tus = Qt::CTRL | Qt::Key_F7, .ipucu = "Ayı Sil", .islev = [this] { AyiSil(); }},
+            {.tus = Qt::CTRL | Qt::Key_F8, .ipucu = "Ayı Geri Al", .islev = [this] { AyiGeriAl(); }},
             {.tus = Qt::Key_F9, .ipucu = "Netten Brüte", .islev = [this] { NettenBrute(); }, .gecerli = yardimda},
             {.tus = Qt::CTRL | Qt::Key_B, .ipucu = "Borç", .islev = [this] { BorcSor(); }, .gecerli = girisSatirinda},
             {.tus = Qt::Key_F4, .ipucu = "Neden?", .islev = [this] { SonuclaraGit(); }},
@@ -87,6 +88,13 @@ void brdhazir::Sil() {
 
 void brdhazir::AyiSil() {
   if (!giris_.AyinBordrosunuSil()) return;
+  BordroNoDoldur();
+  Goster();
+  KodaDon();
+}
+
+void brdhazir::AyiGeriAl() {
+  if (!YazilanBirakilir() || !giris_.AyiGeriAl()) return;
   BordroNoDoldur();
   Goster();
   KodaDon();

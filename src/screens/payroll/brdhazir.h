@@ -52,6 +52,7 @@ class brdhazir : public Form {
   void RehberAc();
   void Sil();
   void AyiSil();
+  void AyiGeriAl();
   void ParametreleriGetir();
   void NettenBrute();
   void PuantajaGit();

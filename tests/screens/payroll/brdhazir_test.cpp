@@ -216,6 +216,11 @@ TEST(Brdhazir, MassPreparationAndDeletion) {
   EXPECT_EQ(o.Kayitlar()[0].kod, "001");
   o.Bas(Qt::Key_F7, Qt::ControlModifier);
   EXPECT_TRUE(o.Kayitlar().empty());
+  o.bildirim.Al();
+  o.Bas(Qt::Key_F8, Qt::ControlModifier);
+  ASSERT_EQ(o.bildirim.iletiler.size(), 2u);
+  EXPECT_EQ(o.bildirim.iletiler[1], "Bilgi: Ayın Bordrosu Geri Alındı: 1 kayıt");
+  EXPECT_EQ(o.Kayitlar().size(), 1u);
 }
 
 }  // namespace

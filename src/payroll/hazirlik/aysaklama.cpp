@@ -1,0 +1,164 @@
+#include "payroll/hazirlik/aysaklama.h"
+
+#include <algorithm>
+#include <ctime>
+
+#include "core/store/islem.h"
+#include "core/store/koru.h"
+
+namespace belvani {
+namespace {
+
+constexpr std::string_view GeriAlmadanOnce = "geri almadan önce";
+constexpr std::chrono::seconds KilitBekleme{60};  // a mass run is waited for
+
+// A state that takes the place of the kept one waits beside it until that one is back.
+enum class Nesil { Saklanan = 0, Bekleyen = 1 };
+
+bool TabloVar(Motor& motor, std::string_view tablo) {
+  return !motor.Kolonlar(tablo).empty();
+}
+
+// "b.yil, b.ay, …" of the pay records.
+std::string BordroKolonlari(Motor& motor, const std::string& onEk = {}) {
+  std::string liste;
+  for (const MotorKolonu& kolon : motor.Kolonlar("brd")) liste += (liste.empty() ? "" : ", ") + onEk + kolon.ad;
+  return liste;
+}
+
+// Values are bound in order.
+std::int64_t Yurut(Motor& motor, const std::string& sql, const std::vector<Deger>& degerler) {
+  const auto komut = motor.Hazirla(sql);
+  int no = 0;
+  for (const Deger& d : degerler) komut->Bagla(++no, d);
+  komut->Calistir();
+  return motor.DegisenSatir();
+}
+
+std::vector<SaklananAy> Oku(Motor& motor) {
+  std::vector<SaklananAy> aylar;
+  if (!TabloVar(motor, "brdonceki")) return aylar;
+  const auto komut = motor.Hazirla(
+      "select yil, ay, max(onc_an), max(onc_neden), count(*) from brdonceki group by yil, ay order by yil desc, ay "
+      "desc");
+  while (komut->Adim())
+    aylar.push_back({komut->TamSigan<int>(0), komut->TamSigan<int>(1), komut->Tam(2), std::string(komut->Metin(3)),
+                     komut->TamSigan<int>(4)});
+  return aylar;
+}
+
+std::int64_t KayitSayisi(Motor& motor, int yil, int ay) {
+  const auto komut = motor.Hazirla("select count(*) from brd where yil = ? and ay = ?");
+  komut->TamBagla(1, yil);
+  komut->TamBagla(2, ay);
+  const std::int64_t sayi = komut->Adim() ? komut->Tam(0) : 0;
+  komut->Birak();
+  return sayi;
+}
+
+void Sakla(Motor& motor, int yil, int ay, std::string_view neden, Nesil nesil) {
+  const bool ozetli = TabloVar(motor, "brdozet");
+  Yurut(
+      motor,
+      "insert into brdonceki (onc_an, onc_neden, onc_nesil, onc_ozetoto, onc_ozet, " + BordroKolonlari(motor) +
+          ") select ?, ?, ?, " + (ozetli ? "o.oto, o.ozet, " : "null, null, ") + BordroKolonlari(motor, "b.") +
+          " from brd b" + (ozetli ? " left join brdozet o on o.oto = b.oto" : "") + " where b.yil = ? and b.ay = ?",
+      {std::int64_t(std::time(nullptr)), std::string(neden), std::int64_t(nesil), std::int64_t(yil), std::int64_t(ay)});
+}
+
+void Birak(Motor& motor, int yil, int ay) {
+  Yurut(motor, "delete from brdonceki where yil = ? and ay = ? and onc_nesil = 0",
+        {std::int64_t(yil), std::int64_t(ay)});
+}
+
+int YerineKoy(Motor& motor, int yil, int ay) {
+  const std::vector<Deger> ayi{std::int64_t(yil), std::int64_t(ay)};
+  const std::string saklanan = " from brdonceki where yil = ? and ay = ? and onc_nesil = 0",
+                    kolonlar = BordroKolonlari(motor);
+  Sakla(motor, yil, ay, GeriAlmadanOnce, Nesil::Bekleyen);
+  const bool ozetli = TabloVar(motor, "brdozet");
+  if (ozetli) Yurut(motor, "delete from brdozet where oto in (select oto from brd where yil = ? and ay = ?)", ayi);
+  Yurut(motor, "delete from brd where yil = ? and ay = ?", ayi);
+  const auto gelen = Yurut(motor, "insert into brd (" + kolonlar + ") select " + kolonlar + saklanan, ayi);
+  if (ozetli)
+    Yurut(motor,
+          "insert into brdozet (oto, ozet) select onc_ozetoto, onc_ozet" + saklanan + " and onc_ozetoto is not null",
+          ayi);
+  Birak(motor, yil, ay);
+  Yurut(motor, "update brdonceki set onc_nesil = 0 where yil = ? and ay = ?", ayi);
+  return int(gelen);
+}
+
+std::string DonemMetni(int yil, int ay) {
+  return std::string(AyAdi(ay)) + " " + std::to_string(yil);
+}
+
+std::string ZamanMetni(std::int64_t an) {
+  const std::time_t saniye = an;
+  std::tm zaman{};
+  ::localtime_r(&saniye, &zaman);
+  char metin[32];
+  std::strftime(metin, sizeof metin, "%d.%m.%Y %H:%M", &zaman);
+  return metin;
+}
+
+std::string Soru(const SaklananAy& saklanan) {
+  return DonemMetni(saklanan.yil, saklanan.ay) + " bordrosunun " + ZamanMetni(saklanan.an) + " tarihinde (" +
+         saklanan.neden + ") saklanan " + std::to_string(saklanan.kayit) + " kaydı geri gelecek.\nEminmisiniz ?";
+}
+
+}  // namespace
+
+void AySaklamayaHazirla(Motor& motor) {
+  const auto brd = motor.Kolonlar("brd"), var = motor.Kolonlar("brdonceki");
+  if (var.empty()) {
+    std::string sql =
+        "create table brdonceki (onc_an bigint, onc_neden varchar(40), onc_nesil smallint, onc_ozetoto bigint, "
+        "onc_ozet "
+        "bigint";
+    for (const MotorKolonu& kolon : brd) sql += ", " + kolon.ad + " " + kolon.tip;
+    motor.Calistir(sql + "); create index brdonceki_ay on brdonceki (yil, ay)");
+    return;
+  }
+  // The store was upgraded since.
+  for (const MotorKolonu& kolon : brd)
+    if (std::ranges::find(var, kolon.ad, &MotorKolonu::ad) == var.end())
+      motor.Calistir("alter table brdonceki add column " + kolon.ad + " " + kolon.tip);
+}
+
+void AyiSakla(Motor& motor, int yil, int ay, std::string_view neden) {
+  if (KayitSayisi(motor, yil, ay) == 0) return;
+  Birak(motor, yil, ay);
+  Sakla(motor, yil, ay, neden, Nesil::Saklanan);
+}
+
+Sonuc<std::vector<SaklananAy>> SaklananAylar(Oturum& o) {
+  return Koru([&] { return Oku(o.depo.db.IcMotor()); });
+}
+
+Sonuc<std::optional<int>> AyiGeriAl(Oturum& o, int yil, int ay, Bildirim& bildirim) {
+  Motor& motor = o.depo.db.IcMotor();
+  const auto simdiki = Koru([&] { return KayitSayisi(motor, yil, ay); });
+  const auto aylar = SaklananAylar(o);
+  if (!simdiki) return simdiki.Kusuru();
+  if (!aylar) return aylar.Kusuru();
+  const auto ayi = [&](const SaklananAy& s) { return s.yil == yil && s.ay == ay; };
+  const auto saklanan = std::ranges::find_if(*aylar, ayi);
+  if (saklanan == aylar->end()) return Kusur{"Saklanan bordro yok: " + DonemMetni(yil, ay)};
+  const std::string giden = "Giden: ayın şimdiki " + std::to_string(*simdiki) + " kaydı; o da saklanır";
+  if (!bildirim.SilinsinMi(Soru(*saklanan), giden)) return std::optional<int>();
+  const auto geriAl = [&]() -> Sonuc<std::optional<int>> {
+    Islem islem(motor, KilitBekleme);
+    const auto simdi = Oku(motor);
+    const auto yeni = std::ranges::find_if(simdi, ayi);
+    if (yeni == simdi.end() || yeni->an != saklanan->an || yeni->kayit != saklanan->kayit)
+      return Kusur{"Saklanan bordro bu arada değişti, hiçbir kayıt geri gelmedi"};
+    AySaklamayaHazirla(motor);
+    const int gelen = YerineKoy(motor, yil, ay);
+    islem.Onayla();
+    return std::optional(gelen);
+  };
+  return Koru(geriAl, "Bordro geri alınamadı: ");
+}
+
+}  // namespace belvani

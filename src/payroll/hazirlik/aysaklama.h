@@ -1,0 +1,43 @@
+// The month as it was: before a mass run writes over a month's pay records, and before all of them are deleted, they
+// are kept beside them in the store, in the same transaction; so a kill keeps neither without the other. One state a
+// month is kept, the last one. Bringing it back keeps what stood there, so that this too can be taken back.
+//
+// The records are kept as they are stored, column by column, with their numbers and checksums: what comes back is what
+// was there, damage included.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/session/oturum.h"
+
+namespace belvani {
+
+inline constexpr std::string_view TopluHazirliktanOnce = "toplu hazırlıktan önce";
+inline constexpr std::string_view SilinmedenOnce = "silinmeden önce";
+
+struct SaklananAy {
+  int yil = 0;
+  int ay = 0;
+  std::int64_t an = 0;  // when it was kept, seconds since 1970
+  std::string neden;    // "silinmeden önce"
+  int kayit = 0;
+};
+
+// The table of what is kept, with every column that pay records have; to be made before their table is read. Throws
+// MotorHatasi, as AyiSakla does.
+void AySaklamayaHazirla(Motor& motor);
+// Keeps the month's records in the transaction that is open; a month without any keeps what was kept before.
+void AyiSakla(Motor& motor, int yil, int ay, std::string_view neden);
+
+// The months that have a kept state, the latest month first.
+Sonuc<std::vector<SaklananAy>> SaklananAylar(Oturum& o);
+
+// Asks, naming both states, then puts the kept one in the place of the month's records. Gives the number of records
+// that came back; nothing when the answer was no.
+Sonuc<std::optional<int>> AyiGeriAl(Oturum& o, int yil, int ay, Bildirim& bildirim);
+
+}  // namespace belvani
