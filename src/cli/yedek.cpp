@@ -2,6 +2,7 @@
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
 #include "core/dosya.h"
+#include "core/kaynak.h"
 #include "core/session/sirket.h"
 #include "core/session/sirketyedegi.h"
 #include "core/session/yedektendon.h"

@@ -60,9 +60,13 @@ Sonuc<std::string> StandartGirdiOku(std::size_t enCok) {
   return Oku(STDIN_FILENO, "Standart girdi okunamadı", enCok);
 }
 
-std::string BoyMetni(std::size_t bayt) {
-  constexpr std::size_t mb = 1u << 20;
-  return bayt >= mb ? std::to_string(bayt / mb) + " MB" : std::to_string(bayt) + " bayt";
+std::string BoyMetni(std::uint64_t bayt) {
+  constexpr std::uint64_t kilo = 1024, onda = 10;
+  if (bayt < kilo) return std::to_string(bayt) + " bayt";
+  if (bayt < kilo * kilo) return std::to_string(bayt / kilo) + " KB";
+  const std::uint64_t ondalik = bayt * onda / (kilo * kilo);
+  const std::string kesir = ondalik % onda == 0 ? "" : "." + std::to_string(ondalik % onda);
+  return std::to_string(ondalik / onda) + kesir + " MB";
 }
 
 }  // namespace belvani

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "core/sonuc.h"
@@ -14,7 +15,7 @@ inline constexpr std::size_t EnCokKaynakBayti = 64u << 20;
 Sonuc<std::string> KaynakOku(const std::string& yol, std::size_t enCok = EnCokKaynakBayti);
 Sonuc<std::string> StandartGirdiOku(std::size_t enCok = EnCokKaynakBayti);
 
-// "64 MB", "900 bayt"
-std::string BoyMetni(std::size_t bayt);
+// "900 bayt", "12 KB", "64 MB", "1.5 MB"
+std::string BoyMetni(std::uint64_t bayt);
 
 }  // namespace belvani

@@ -80,13 +80,11 @@ void perekr::TuslariBagla(const PerekrIslevleri& islevler) {
       islev();
     };
   };
-  const auto yazdir = siraliyla(islevler.yazdir);
-  const auto excel = siraliyla(islevler.excel);
-  xgrid1_->YazdirIslevi = yazdir;
-  xgrid1_->ExcelIslevi = excel;
+  xgrid1_->YazdirIslevi = siraliyla(islevler.yazdir);
+  xgrid1_->ExcelIslevi = siraliyla(islevler.excel);
   Komutlar(
-      {{.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır", .simge = "yazici", .islev = yazdir},
-       {.tus = Qt::Key_F9, .dugme = " Excel'e Gönder", .simge = "tablo", .islev = excel},
+      {{.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır", .simge = "yazici", .islev = [this] { xgrid1_->yazdosprint(); }},
+       {.tus = Qt::Key_F9, .dugme = " Excel'e Gönder", .simge = "tablo", .islev = [this] { xgrid1_->yazexcell(); }},
        {.tus = Qt::CTRL | Qt::Key_F, .ipucu = "Bul", .islev = [this] { xgrid1_->AramayaGit(); }},
        {.tus = Qt::Key_F3, .ipucu = "Sonraki", .islev = [this] { xgrid1_->SonrakiniBul(xgrid::Yon::Ileri); }},
        {.tus = Qt::CTRL | Qt::Key_S, .ipucu = "Sırala", .islev = [this] { xgrid1_->Sirala(xgrid1_->CurrentColon()); }},

@@ -10,6 +10,7 @@
 #include "core/saat.h"
 #include "core/surum.h"
 #include "core/tables/tablolar.h"
+#include "ui/dclist.h"
 
 namespace belvani::test {
 namespace {
@@ -158,6 +159,7 @@ class GidisDonus : public testing::TestWithParam<GidisDonusEkrani> {
     return retler;
   }
   void AlaniDene(std::size_t sira, RasgeleDeger& degerler);
+  void HucreyiDene(int kolon, RasgeleDeger& degerler);
   void KaydetVeBak(std::size_t sira);
 
   const SabitGun gun{Tarih(2007, 2, 1)};  // before anybody is hired
@@ -305,6 +307,62 @@ TEST_P(GidisDonus, WhatIsTypedComesBack) {
     const std::string_view ad = ortam.Onde<Form>()->Denetimler()[sira]->Satir().tanim.ad;
     if (std::ranges::find(GetParam().tutulmayan, ad) == GetParam().tutulmayan.end()) AlaniDene(sira, degerler);
   }
+}
+
+std::string HucreTuslari(const dclistKolonu& kolon, RasgeleDeger& degerler) {
+  switch (kolon.tip) {
+    case dclistKolonu::Tip::Sayi: {
+      const double enCok = kolon.enCok > 0 ? std::min(kolon.enCok, 99'999.0) : 99'999;
+      const std::string tam = std::to_string(degerler.Sec(1, std::int64_t(enCok) - (kolon.ondalik > 0 ? 1 : 0)));
+      return kolon.ondalik > 0 ? tam + "." + std::to_string(degerler.Sec(1, 9)) : tam;
+    }
+    case dclistKolonu::Tip::Tarih:
+      return "1503" + std::to_string(degerler.Sec(1980, 2005));
+    case dclistKolonu::Tip::Metin:
+    case dclistKolonu::Tip::Secim:
+      break;
+  }
+  return std::string("Iİşğç7").substr(0, kolon.enCok > 0 && kolon.enCok < 6 ? std::size_t(1) : std::string::npos);
+}
+
+// Typed into the first row, taken by Enter, saved, and read again.
+void GidisDonus::HucreyiDene(int kolon, RasgeleDeger& degerler) {
+  const auto liste = [&] { return Ac()->findChild<dclist*>(); };
+  const dclistKolonu k = liste()->Model().Kolonlar()[std::size_t(kolon)];
+  for (int secim = 0; secim < std::max(1, int(k.secenekler.size())); ++secim) {
+    dclist* l = liste();
+    if (k.gizli || k.salt || l->isColumnHidden(kolon) || !(l->Model().index(0, kolon).flags() & Qt::ItemIsEditable))
+      return;
+    l->setFocus();
+    l->HucreyeGit(0, k.ad);
+    ortam.Bas(Qt::Key_Return);
+    QWidget* duzenleyici = QApplication::focusWidget();
+    ASSERT_NE(duzenleyici, l) << Utf8(k.ad) << " does not open";
+    std::string tuslar;
+    if (qobject_cast<QComboBox*>(duzenleyici) != nullptr) {
+      ortam.Bas(Qt::Key_Home);
+      for (int adim = 0; adim < secim; ++adim) ortam.Bas(Qt::Key_Down);
+    } else {
+      qobject_cast<QLineEdit*>(duzenleyici)->selectAll();
+      tuslar = HucreTuslari(k, degerler);
+      ortam.Yaz(tuslar.c_str());
+    }
+    ortam.Bas(Qt::Key_Return);
+    const QString metin = l->Text(0, kolon);
+    EXPECT_FALSE(metin.isEmpty()) << Utf8(k.ad) << " = " << tuslar;
+    ortam.Bas(Qt::Key_F5);
+    EXPECT_EQ(Retler(), Iletiler{}) << Utf8(k.ad) << " = " << tuslar;
+    EXPECT_EQ(Utf8(liste()->Text(0, kolon)), Utf8(metin)) << Utf8(k.ad);
+  }
+}
+
+TEST_P(GidisDonus, WhatIsTypedIntoCellsComesBack) {
+  Doldur(5);
+  RasgeleDeger degerler(6);
+  auto* liste = Ac()->findChild<dclist*>();
+  const int sayi =
+      liste == nullptr || liste->editTriggers() == QAbstractItemView::NoEditTriggers ? 0 : liste->Model().columnCount();
+  for (int kolon = 0; kolon < sayi; ++kolon) HucreyiDene(kolon, degerler);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ekranlar, GidisDonus, testing::ValuesIn(Ekranlari),

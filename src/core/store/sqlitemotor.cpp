@@ -293,7 +293,7 @@ class SqliteMotor final : public Motor {
   }
 
   void Kopyala(const std::string& yol, const KopyaAdimi& adim) override {
-    if (const int kod = SqliteKopyala(db_, yol, adim); kod != SQLITE_OK) HataAt(nullptr, kod);
+    if (const int kod = SqliteKopyala(db_, yol, adim); kod != SQLITE_OK) throw Hata(nullptr, kod, hal_);
   }
 
  private:

@@ -9,6 +9,7 @@
 #include <zip.h>
 
 #include "core/asama.h"
+#include "core/kaynak.h"
 #include "core/turkce.h"
 #include "core/yedek/ozet.h"
 

@@ -70,14 +70,6 @@ bool YedeklenirAd(std::string_view ad) {
          GecerliUtf8(ad) && DenetimsizMetin(ad) == ad;
 }
 
-std::string BoyMetni(std::uint64_t bayt) {
-  constexpr std::uint64_t kilo = 1024, onda = 10;
-  if (bayt < kilo) return std::to_string(bayt) + " bayt";
-  if (bayt < kilo * kilo) return std::to_string(bayt / kilo) + " KB";
-  const std::uint64_t ondalik = bayt * onda / (kilo * kilo);
-  return std::to_string(ondalik / onda) + "." + std::to_string(ondalik % onda) + " MB";
-}
-
 std::string KunyeMetni(const YedekKunyesi& kunye) {
   std::string metin = std::string(Imza) + std::string(BuBicim) + "\n";
   for (const KunyeSatiri& s : Satirlar) metin += std::string(s.anahtar) + ": " + DenetimsizMetin(kunye.*s.uye) + "\n";

@@ -48,9 +48,6 @@ inline constexpr std::string_view KunyeAdi = ".kunye";
 // A name that may be a file's in a backup: of this place, not hidden, in letters that every reader of archives knows.
 bool YedeklenirAd(std::string_view ad);
 
-// "734 bayt", "12 KB", "1.5 MB".
-std::string BoyMetni(std::uint64_t bayt);
-
 std::string KunyeMetni(const YedekKunyesi& kunye);
 // Refuses another format, a name that is none and a file that stands twice.
 Sonuc<YedekKunyesi> KunyeOku(std::string_view metin);

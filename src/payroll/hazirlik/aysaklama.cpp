@@ -1,8 +1,8 @@
 #include "payroll/hazirlik/aysaklama.h"
 
 #include <algorithm>
-#include <ctime>
 
+#include "core/saat.h"
 #include "core/store/islem.h"
 #include "core/store/koru.h"
 
@@ -58,12 +58,11 @@ std::int64_t KayitSayisi(Motor& motor, int yil, int ay) {
 
 void Sakla(Motor& motor, int yil, int ay, std::string_view neden, Nesil nesil) {
   const bool ozetli = TabloVar(motor, "brdozet");
-  Yurut(
-      motor,
-      "insert into brdonceki (onc_an, onc_neden, onc_nesil, onc_ozetoto, onc_ozet, " + BordroKolonlari(motor) +
-          ") select ?, ?, ?, " + (ozetli ? "o.oto, o.ozet, " : "null, null, ") + BordroKolonlari(motor, "b.") +
-          " from brd b" + (ozetli ? " left join brdozet o on o.oto = b.oto" : "") + " where b.yil = ? and b.ay = ?",
-      {std::int64_t(std::time(nullptr)), std::string(neden), std::int64_t(nesil), std::int64_t(yil), std::int64_t(ay)});
+  Yurut(motor,
+        "insert into brdonceki (onc_an, onc_neden, onc_nesil, onc_ozetoto, onc_ozet, " + BordroKolonlari(motor) +
+            ") select ?, ?, ?, " + (ozetli ? "o.oto, o.ozet, " : "null, null, ") + BordroKolonlari(motor, "b.") +
+            " from brd b" + (ozetli ? " left join brdozet o on o.oto = b.oto" : "") + " where b.yil = ? and b.ay = ?",
+        {SimdikiAn(), std::string(neden), std::int64_t(nesil), std::int64_t(yil), std::int64_t(ay)});
 }
 
 void Birak(Motor& motor, int yil, int ay) {
@@ -93,17 +92,8 @@ std::string DonemMetni(int yil, int ay) {
   return std::string(AyAdi(ay)) + " " + std::to_string(yil);
 }
 
-std::string ZamanMetni(std::int64_t an) {
-  const std::time_t saniye = an;
-  std::tm zaman{};
-  ::localtime_r(&saniye, &zaman);
-  char metin[32];
-  std::strftime(metin, sizeof metin, "%d.%m.%Y %H:%M", &zaman);
-  return metin;
-}
-
 std::string Soru(const SaklananAy& saklanan) {
-  return DonemMetni(saklanan.yil, saklanan.ay) + " bordrosunun " + ZamanMetni(saklanan.an) + " tarihinde (" +
+  return DonemMetni(saklanan.yil, saklanan.ay) + " bordrosunun " + AnMetni(saklanan.an) + " tarihinde (" +
          saklanan.neden + ") saklanan " + std::to_string(saklanan.kayit) + " kaydı geri gelecek.\nEminmisiniz ?";
 }
 
@@ -114,8 +104,7 @@ void AySaklamayaHazirla(Motor& motor) {
   if (var.empty()) {
     std::string sql =
         "create table brdonceki (onc_an bigint, onc_neden varchar(40), onc_nesil smallint, onc_ozetoto bigint, "
-        "onc_ozet "
-        "bigint";
+        "onc_ozet bigint";
     for (const MotorKolonu& kolon : brd) sql += ", " + kolon.ad + " " + kolon.tip;
     motor.Calistir(sql + "); create index brdonceki_ay on brdonceki (yil, ay)");
     return;
