@@ -93,6 +93,8 @@ class Motor {
   virtual ~Motor() = default;
 
   virtual std::unique_ptr<Komut> Hazirla(std::string_view sql) = 0;
+  // For a statement that does itself what the store's triggers do for other programs: it runs without them.
+  virtual std::unique_ptr<Komut> TetiksizHazirla(std::string_view sql) = 0;
   virtual void Calistir(std::string_view sql) = 0;  // statements without parameters, several at once
 
   // BEGIN IMMEDIATE: the write lock is taken at once, waiting for others up to `enCok`.

@@ -4,6 +4,8 @@
 #pragma once
 
 #include <algorithm>
+#include <cassert>
+#include <set>
 #include <string>
 
 #include "core/store/brdozet.h"
@@ -65,7 +67,7 @@ class VarolanKolonlar {
   }
 
  private:
-  std::vector<bool> var_;
+  std::vector<char> var_;  // one a column; bits would cost more to read than they spare
 };
 
 // "s.kod, s.adi, …, null" for `Kayit`, in the order in which KayitAl reads them.
@@ -108,8 +110,12 @@ std::vector<Kayit> KayitlariOku(Motor& motor, const std::string& kosul = {}, con
 template <class Kayit>
 class KayitYazici {
  public:
-  explicit KayitYazici(Motor& motor) : motor_(motor), yazilan_(motor) {
-    yazilan_.Cikar([](const AlanTanimi& alan) { return alan.nitelik == AlanNiteligi::Otomatik; });
+  // `duran`: columns that Degistir leaves alone, for they hold in the store what they hold in the record; an index on
+  // them is spared. Such a writer adds no records.
+  explicit KayitYazici(Motor& motor, const std::set<std::string_view>& duran = {})
+      : motor_(motor), var_(motor), yazilan_(var_), yalnizDegistirir_(!duran.empty()) {
+    yazilan_.Cikar(
+        [&](const AlanTanimi& alan) { return alan.nitelik == AlanNiteligi::Otomatik || duran.contains(alan.ad); });
     std::string adlar, sorular, atamalar;
     yazilan_.Her([&](const auto& kolon, bool yazilir) {
       if (!yazilir) return;
@@ -119,45 +125,52 @@ class KayitYazici {
       atamalar += ayrac + std::string(kolon.ad) + " = ?";
     });
     const std::string tablo(Kayit::TabloAdi);
-    ekle_ = motor.Hazirla("insert into " + tablo + " (" + adlar + ") values (" + sorular + ")");
-    degistir_ = motor.Hazirla("update " + tablo + " set " + atamalar + " where " + motor.KimlikKolonu() + " = ?");
+    const std::string degistir = "update " + tablo + " set " + atamalar + " where " + motor.KimlikKolonu() + " = ?";
     if constexpr (Ozetli<Kayit>) ozetler_.emplace(motor);
+    ekle_ = motor.Hazirla("insert into " + tablo + " (" + adlar + ") values (" + sorular + ")");
+    degistir_ = Ozetli<Kayit> ? motor.TetiksizHazirla(degistir) : motor.Hazirla(degistir);
   }
 
   void Ekle(const Kayit& kayit) {
+    assert(!yalnizDegistirir_);
     Bagla(*ekle_, kayit);
     ekle_->Calistir();
-    if constexpr (Ozetli<Kayit>) ozetler_->Ekle(motor_.SonKimlik(), ozet_.Deger());
+    if constexpr (Ozetli<Kayit>) ozetler_->Ekle(motor_.SonKimlik(), Ozeti(kayit));
   }
   void Degistir(const Kayit& kayit, std::int64_t kimlik) {
     degistir_->TamBagla(Bagla(*degistir_, kayit), kimlik);
     degistir_->Calistir();
-    if constexpr (Ozetli<Kayit>) ozetler_->Degistir(kimlik, ozet_.Deger());
+    if constexpr (Ozetli<Kayit>) ozetler_->Degistir(kimlik, Ozeti(kayit));
   }
 
  private:
   // Returns the number of the next parameter.
   int Bagla(Komut& komut, const Kayit& kayit) {
     int no = 0;
-    ozet_.Bosalt();
     yazilan_.Her([&](const auto& kolon, bool yazilir) {
       if (yazilir) KolonBagla(komut, ++no, kayit.*kolon.uye);
-      if constexpr (Ozetli<Kayit>) {
-        if (yazilir)
-          KolonBagla(ozet_, no, kayit.*kolon.uye);
-        else if (kolon.nitelik != AlanNiteligi::Otomatik)
-          ozet_.NullBagla(no);
-      }
     });
     return no + 1;
   }
 
+  // A column that the store lacks reads as Null.
+  std::int64_t Ozeti(const Kayit& kayit) {
+    ozet_.Bosalt();
+    var_.Her([&](const auto& kolon, bool var) {
+      if (kolon.nitelik == AlanNiteligi::Otomatik) return;
+      var ? KolonBagla(ozet_, 0, kayit.*kolon.uye) : ozet_.NullBagla(0);
+    });
+    return ozet_.Deger();
+  }
+
   Motor& motor_;
+  VarolanKolonlar<Kayit> var_;
   VarolanKolonlar<Kayit> yazilan_;
+  bool yalnizDegistirir_;
   std::unique_ptr<Komut> ekle_;
   std::unique_ptr<Komut> degistir_;
-  KayitOzeti ozet_;                     // of the record bound last
-  std::optional<BrdOzetleri> ozetler_;  // of records that carry one
+  KayitOzeti ozet_;
+  std::optional<BrdOzetleri> ozetler_;  // of records that carry a checksum
 };
 
 }  // namespace belvani

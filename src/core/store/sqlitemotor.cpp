@@ -175,6 +175,11 @@ class SqliteKomut final : public Komut {
   bool yazan_ = false;
 };
 
+struct TetikleriAc {
+  sqlite3* db;
+  ~TetikleriAc() { sqlite3_db_config(db, SQLITE_DBCONFIG_ENABLE_TRIGGER, 1, nullptr); }
+};
+
 // Nobody asks the library for its memory statistics, and they cost a lock with every allocation.
 void KitapligiHazirla() {
   static const int kod = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
@@ -229,6 +234,14 @@ class SqliteMotor final : public Motor {
 
   std::unique_ptr<Komut> Hazirla(std::string_view sql) override {
     return std::make_unique<SqliteKomut>(db_, sql, hal_);
+  }
+
+  // The engine asks while it compiles. Compiled anew after a change of the schema it has them again, which costs time
+  // and nothing else.
+  std::unique_ptr<Komut> TetiksizHazirla(std::string_view sql) override {
+    sqlite3_db_config(db_, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    const TetikleriAc ac{db_};
+    return Hazirla(sql);
   }
 
   void Calistir(std::string_view sql) override {

@@ -17,6 +17,12 @@ namespace {
 constexpr std::chrono::seconds KilitBekleme{60};  // another mass run is waited for
 constexpr std::size_t IlerlemeAraligi = 32;       // people
 
+const std::set<std::string_view> AnahtarKolonlari{brd::yil.ad, brd::ay.ad, brd::no.ad, brd::kod.ad};
+
+bool AyniAnahtar(const Brd& a, const Brd& b) {
+  return a.yil == b.yil && a.ay == b.ay && a.no == b.no && a.kod == b.kod;
+}
+
 void GirisiUygula(Brd& brd, const GirisSatiri& giris) {
   Brd::HerKolon([&](const auto& kolon) {
     if (giris.verilen.contains(kolon.ad)) brd.*kolon.uye = giris.deger.*kolon.uye;
@@ -64,7 +70,7 @@ class GirisListesi {
 class TopluIs {
  public:
   TopluIs(Motor& motor, const Kosullar& k, const std::vector<GirisSatiri>& girisler)
-      : motor_(motor), k_(k), girisler_(girisler, sonuc_.sorunlar), yazici_(motor) {}
+      : motor_(motor), k_(k), girisler_(girisler, sonuc_.sorunlar), yazici_(motor), yerinde_(motor, AnahtarKolonlari) {}
 
   void Kisi(const KisiVerisi& kisi) {
     const GirisSatiri* giris = girisler_.Bul(kisi.sicil.kod);
@@ -111,13 +117,16 @@ class TopluIs {
     }
     s.brd.gocindir = kisi.kayit ? kisi.kayit->gocindir : Tutar();  // kept, not calculated
     // A record that comes out as it stands is left alone: a month that is run again over itself writes nothing.
-    if (!kisi.kayit || *kisi.kayit != s.brd) Kaydet(s.brd, kisi.kayit.has_value());
+    if (!kisi.kayit || *kisi.kayit != s.brd) Kaydet(s.brd, kisi.kayit);
     ++sonuc_.kaydedilen;
   }
 
-  void Kaydet(const Brd& brd, bool kayitVar) {
+  void Kaydet(const Brd& brd, const std::optional<Brd>& eski) {
     if (!std::exchange(saklandi_, true)) AyiSakla(motor_, k_.donem.yil, k_.donem.ay, TopluHazirliktanOnce);
-    kayitVar ? yazici_.Degistir(brd, brd.oto) : yazici_.Ekle(brd);
+    if (!eski)
+      yazici_.Ekle(brd);
+    else
+      (AyniAnahtar(*eski, brd) ? yerinde_ : yazici_).Degistir(brd, brd.oto);
   }
 
   // The template knows no reason for missing days, so only an entry list must give one.
@@ -160,6 +169,7 @@ class TopluIs {
   HazirlikSonucu sonuc_;
   GirisListesi girisler_;
   KayitYazici<Brd> yazici_;
+  KayitYazici<Brd> yerinde_;  // records whose key stays as it is spelled
 };
 
 std::size_t KisiSayisi(Motor& motor) {

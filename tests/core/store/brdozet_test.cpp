@@ -54,6 +54,10 @@ TEST_F(BrdOzetTest, EveryWriterKeepsThem) {
   EXPECT_EQ(Bulunan(), "") << "records in numbers";
   yazici.Degistir(OrnekBordro(99), 3);
   EXPECT_EQ(Bulunan(), "") << "a record over another";
+  Brd yerinde = OrnekBordro(98);
+  yerinde.kod = OrnekBordro(7).kod;
+  KayitYazici<Brd>(motor(), {"kod"}).Degistir(yerinde, 8);
+  EXPECT_EQ(Bulunan(), "") << "a record whose key stays";
 
   Tablo<Brd> tablo(motor());
   Okunan<Brd> okunan{.ilk = tablo.Bul(std::int64_t(4)), .simdi = *tablo.Bul(std::int64_t(4))};
