@@ -8,7 +8,7 @@ RESIMLER = build/$(PRESET)/src/app/belvani-resimler
 
 PREFIX ?= /usr/local
 
-.PHONY: screenshots run test altin maymun bench lint fuzz deps asan install clean
+.PHONY: screenshots run test altin maymun dayanim bench lint fuzz deps asan install clean
 
 # The main job on the sample company. With a display: the desktop opens on it. Without one: it is made in a scratch data
 # path, all its months are prepared, and the last ledger is printed.
@@ -48,6 +48,13 @@ maymun: deps
 	cmake --build --preset asan-ubsan --target test_maymun -j $(JOBS)
 	BELVANI_MAYMUN_TOHUM=$(TOHUM) BELVANI_MAYMUN_SANIYE=$(SANIYE) BELVANI_MAYMUN_SAHNE=$(SAHNE) \
 	  build/asan-ubsan/tests/test_maymun
+
+# Every command that writes, interrupted at each of its system calls, or at ADET of them; `make test` plays a few.
+ADET ?= tam
+dayanim: deps
+	cmake --preset $(PRESET)
+	cmake --build --preset $(PRESET) --target test_dayanim -j $(JOBS)
+	BELVANI_DAYANIM=$(ADET) build/$(PRESET)/tests/test_dayanim --gtest_brief=1
 
 # The same tests under the address and undefined-behaviour sanitizers.
 asan:

@@ -34,8 +34,6 @@ class DizinKilidi final : public YolKilidi {
 constexpr std::string_view IsaretOnEki = ".isaret-";
 constexpr std::size_t EnCokIsaret = 4096;
 
-constexpr const char* SirketSilinemedi = "Şirket silinemedi, silinemeyen: ";
-
 // Whole for its readers, but not brought to the disk: a power cut takes the programs along that have laid it.
 bool IsaretYaz(const std::string& yol, std::string_view baytlar) {
   const std::string gecici = yol + "~";
@@ -73,7 +71,7 @@ class DizinMakinesi final : public VeriMakinesi {
   }
   Durum Sil(std::string_view ad) const override {
     if (auto durum = BekleyenleriYerlestir(dizin_); !durum) return durum;
-    return Kaldir(Adres(ad), "silinemedi: ");
+    return Kaldir(Adres(ad));
   }
   std::vector<std::string> Dosyalar() const override {
     return Adlar([](const fs::directory_entry& g, std::error_code& hata) { return g.is_regular_file(hata); });
@@ -81,7 +79,7 @@ class DizinMakinesi final : public VeriMakinesi {
   Durum IsaretKoy(std::string_view ad, std::string_view baytlar) const override {
     return IsaretYaz(IsaretYolu(ad), baytlar) ? Tamam() : Durum(Kusur{dizin_ + ": işaret yazılamadı"});
   }
-  Durum IsaretKaldir(std::string_view ad) const override { return Kaldir(IsaretYolu(ad), "silinemedi: "); }
+  Durum IsaretKaldir(std::string_view ad) const override { return Kaldir(IsaretYolu(ad)); }
   std::vector<AdliDosya> Isaretler() const override {
     std::vector<AdliDosya> isaretler;
     std::error_code hata;
@@ -115,25 +113,6 @@ class DizinMakinesi final : public VeriMakinesi {
   }
   bool AltVar(std::string_view ad) const override { return DizinVar(Adres(ad)); }
   Durum Yarat() const override { return DizinYarat(dizin_); }
-  Durum Bosalt(std::string_view sonuncu) const override {
-    std::vector<fs::path> dosyalar;
-    std::error_code hata;
-    for (fs::directory_iterator i(dizin_, hata), son; !hata && i != son; i.increment(hata)) {
-      if (i->symlink_status(hata).type() == fs::file_type::directory)
-        return Kusur{"Şirket dizininde alt dizin var, hiçbir dosya silinmedi:\n" + i->path().string()};
-      dosyalar.push_back(i->path());
-    }
-    if (hata) return Kusur{"Şirket dizini okunamadı, hiçbir dosya silinmedi:\n" + Yol().string()};
-    std::ranges::stable_partition(dosyalar, [&](const fs::path& d) { return d.filename() != sonuncu; });
-    for (const fs::path& dosya : dosyalar)
-      if (Durum silindi = Kaldir(dosya, SirketSilinemedi); !silindi) return silindi;
-    return Tamam();
-  }
-  Durum Kaldir() const override {
-    Durum kalkti = Kaldir(Yol(), SirketSilinemedi);
-    if (kalkti) DiziniDiskeIndir(Yol().parent_path());
-    return kalkti;
-  }
   std::string Kimlik() const override {
     struct stat hal {};
     if (::stat(dizin_.c_str(), &hal) != 0) return {};
@@ -158,10 +137,10 @@ class DizinMakinesi final : public VeriMakinesi {
   // Without the separator, which would lead through a link.
   fs::path Yol() const { return fs::path(dizin_).parent_path(); }
 
-  static Durum Kaldir(const fs::path& yol, const char* kusur) {
+  static Durum Kaldir(const fs::path& yol) {
     std::error_code hata;
     fs::remove(yol, hata);
-    return hata ? Durum(Kusur{kusur + yol.string()}) : Tamam();
+    return hata ? Durum(Kusur{"silinemedi: " + yol.string()}) : Tamam();
   }
 
   template <class Uyar>

@@ -67,8 +67,6 @@ class VeriMakinesi {
   virtual std::vector<std::string> Altlar() const = 0;
   virtual bool AltVar(std::string_view ad) const = 0;
   virtual Durum Yarat() const = 0;
-  virtual Durum Bosalt(std::string_view sonuncu) const = 0;
-  virtual Durum Kaldir() const = 0;
   virtual std::string Kimlik() const = 0;
   virtual bool BagMi() const = 0;
 };
@@ -97,7 +95,7 @@ class VeriYolu {
   // Names of the files, but for those that begin with a point.
   std::vector<std::string> Dosyalar() const { return makine_->Dosyalar(); }
   // Marks, which programs lay for one another while they are at work in a place: a few bytes under a name. They are no
-  // files of the place: Dosyalar() does not see them, and they go when it is emptied.
+  // files of the place: Dosyalar() does not see them, and they go with it.
   Durum IsaretKoy(std::string_view ad, std::string_view baytlar) const;  // replaces the one of this name
   Durum IsaretKaldir(std::string_view ad) const;                         // one that is not there is a success
   std::vector<AdliDosya> Isaretler() const { return makine_->Isaretler(); }
@@ -117,11 +115,6 @@ class VeriYolu {
   VeriYolu Yedekler() const { return VeriYolu(makine_->Alt(".yedek")); }
   // Makes the place itself, where there is none.
   Durum Yarat() const { return makine_->Yarat(); }
-  // Deletes every file, whatever its name, `sonuncu` as the last: what fails half way leaves that one. Nothing is
-  // deleted where a place below is.
-  Durum Bosalt(std::string_view sonuncu) const { return makine_->Bosalt(sonuncu); }
-  // Removes the place itself; it must be empty.
-  Durum Kaldir() const { return makine_->Kaldir(); }
   // The same for all addresses of one place; empty where there is none.
   std::string Kimlik() const { return makine_->Kimlik(); }
   // What stands at the address only leads to the place, which may be anywhere.

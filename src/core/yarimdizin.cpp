@@ -56,6 +56,14 @@ int IkiAdimdaDegis(const std::string& yeni, const std::string& yer, const std::s
   return kod;
 }
 
+Durum YalnizDosyaVar(const std::string& yol) {
+  std::error_code hata;
+  for (fs::directory_iterator i(yol, hata), son; !hata && i != son; i.increment(hata))
+    if (i->symlink_status(hata).type() == fs::file_type::directory)
+      return Kusur{"Şirket dizininde alt dizin var, hiçbir dosya silinmedi:\n" + i->path().string()};
+  return hata ? Durum(Kusur{"Şirket dizini okunamadı, hiçbir dosya silinmedi:\n" + yol}) : Tamam();
+}
+
 }  // namespace
 
 void DiziniDiskeIndir(const std::string& dizin) {
@@ -156,6 +164,18 @@ std::vector<std::string> YarimDizinler(const std::string& ust) {
   }
   std::sort(adlar.begin(), adlar.end());
   return adlar;
+}
+
+Sonuc<std::string> YarimDizineCevir(const std::string& ust, const std::string& ad) {
+  const std::string kok = DizinSonu(ust);
+  if (auto durum = YalnizDosyaVar(kok + ad); !durum) return durum.Kusuru();
+  std::string yol = kok + std::string(OnEk) + ad + "-XXXXXX";
+  if (::mkdtemp(yol.data()) == nullptr || ::rename((kok + ad).c_str(), yol.c_str()) != 0) {
+    ::rmdir(yol.c_str());
+    return Kusur{"Şirket silinemedi, silinemeyen: " + kok + ad};
+  }
+  DiziniDiskeIndir(kok);
+  return yol.substr(kok.size());
 }
 
 Durum YarimDiziniSil(const std::string& ust, const std::string& ad) {

@@ -46,6 +46,10 @@ std::vector<std::string> YarimDizinler(const std::string& ust);
 bool YarimDizinAdi(std::string_view ad);
 bool YarimDizinAdi(std::string_view ad, std::string_view kimin);  // one that was to bear the name `kimin`
 
+// Makes a finished directory, which holds files alone, a half one again, whole and in one step, and gives its new name:
+// no list of companies sees it any more, and what may go wrong while it is removed leaves no half company.
+Sonuc<std::string> YarimDizineCevir(const std::string& ust, const std::string& ad);
+
 // Removes such a directory with all in it; refused while someone is at it.
 Durum YarimDiziniSil(const std::string& ust, const std::string& ad);
 

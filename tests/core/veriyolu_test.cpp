@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "core/ini.h"
+#include "core/yarimdizin.h"
 #include "gecici.h"
 
 namespace belvani {
@@ -40,8 +41,8 @@ TEST(VeriYolu, TellsAnAbsentFileFromAnUnreadableOne) {
   EXPECT_FALSE(veri.Alt("yok").Yaz("a.dat", "1"));
 }
 
-// A place goes whole or not at all, and what a link leads to is nobody's to empty.
-TEST(VeriYolu, EmptiedAndRemoved) {
+// A place goes out of sight whole or not at all, and what a link leads to is nobody's to remove.
+TEST(VeriYolu, RemovedWhole) {
   const test::GeciciDizin dizin;
   const VeriYolu veri = dizin.Yol(), sile = veri.Alt("ŞİLE"), bag = veri.Alt("BAĞ");
   ASSERT_TRUE(sile.Yarat() && sile.Yaz("tolu.dat", "1") && sile.Alt("yedek").Yarat());
@@ -50,12 +51,15 @@ TEST(VeriYolu, EmptiedAndRemoved) {
   EXPECT_EQ(bag.Kimlik(), sile.Kimlik());
   EXPECT_NE(sile.Kimlik(), veri.Kimlik());
   EXPECT_EQ(veri.Alt("YOK").Kimlik(), "");
-  EXPECT_FALSE(sile.Bosalt("tolu.dat") || sile.Kaldir());
-  EXPECT_TRUE(sile.Var("tolu.dat"));
-  ASSERT_TRUE(sile.Alt("yedek").Kaldir());
+  EXPECT_FALSE(YarimDizineCevir(dizin.Yol(), "ŞİLE")) << "it has a directory in it";
+  std::filesystem::remove(dizin.Yol() + "ŞİLE/yedek");
+  EXPECT_FALSE(YarimDizineCevir(dizin.Yol(), "BAĞ") || YarimDizineCevir(dizin.Yol(), "YOK"));
+  EXPECT_TRUE(sile.Var("tolu.dat") && YarimDizinler(dizin.Yol()).empty());
   std::ofstream(dizin.Yol() + "ŞİLE/.gizli") << "x";
-  EXPECT_TRUE(sile.Bosalt("tolu.dat") && sile.Kaldir());
-  EXPECT_FALSE(veri.AltVar("ŞİLE"));
+  const auto ad = YarimDizineCevir(dizin.Yol(), "ŞİLE");
+  ASSERT_TRUE(ad && !veri.AltVar("ŞİLE"));
+  EXPECT_EQ(YarimDizinler(dizin.Yol()), std::vector<std::string>{*ad});
+  EXPECT_TRUE(YarimDiziniSil(dizin.Yol(), *ad) && YarimDizinler(dizin.Yol()).empty());
 }
 
 TEST(VeriYolu, OneWriterWaitsForTheOther) {

@@ -25,16 +25,22 @@ SirketSatiri SatirOku(const VeriYolu& veri, const std::string& ad) {
 
 constexpr const char* Silinmedi = "hiçbir dosya silinmedi";
 
-Durum Kaldir(const VeriYolu& veri, const std::string& ad, Ilerleme* ilerleme) {
-  if (YarimDizinAdi(ad)) return YarimDiziniSil(veri.Adres(), ad);
-  const VeriYolu sirket = veri.Alt(ad);
-  const auto depo = TekBasinaAc(sirket, Silinmedi);
+// Nobody else may have the store open while it is backed up and goes out of sight; then it is closed, for a network
+// file system keeps the name of an open file.
+Sonuc<std::string> Ayir(const VeriYolu& veri, const std::string& ad, Ilerleme* ilerleme) {
+  if (YarimDizinAdi(ad)) return ad;
+  const auto depo = TekBasinaAc(veri.Alt(ad), Silinmedi);
   if (!depo) return depo.Kusuru();
   const auto yedek = YedekAl(veri, ad, {.tur = YedekTuru::Silme, .depo = depo->get()}, ilerleme);
   if (!yedek) return Kusur{std::string("Silmeden önce yedek alınamadı, ") + Silinmedi + ":\n" + yedek.KusurMetni()};
   if (ilerleme != nullptr && !ilerleme->Kesin()) throw Vazgecilmis{};
-  if (Durum bosaldi = sirket.Bosalt(DepoDosyasi); !bosaldi) return bosaldi;
-  return sirket.Kaldir();
+  return YarimDizineCevir(veri.Adres(), ad);
+}
+
+Durum Kaldir(const VeriYolu& veri, const std::string& ad, Ilerleme* ilerleme) {
+  const auto ayrilan = Ayir(veri, ad, ilerleme);
+  if (!ayrilan) return ayrilan.Kusuru();
+  return YarimDiziniSil(veri.Adres(), *ayrilan);
 }
 
 }  // namespace

@@ -34,8 +34,8 @@ std::vector<std::string> SilinebilirSirketler(const VeriYolu& veri, const Oturum
 
 // Asks, then deletes the directory `ad`, as SilinebilirSirketler names it, with every file in it. Refused, with nothing
 // deleted, are a name that is not in that list, a directory with a subdirectory, a company that someone is in, and a
-// company of which no backup can be made first. The store goes last, so that a removal that fails half way leaves a
-// company that still opens.
+// company of which no backup can be made first. It goes in one step; what could not be removed then is one of the
+// half ones.
 Sonuc<Silme> SirketSil(const VeriYolu& veri, std::string_view ad, const Oturum& o, Bildirim& bildirim,
                        const Yurutucu& yurut = HemenYurut);
 

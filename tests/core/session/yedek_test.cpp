@@ -12,7 +12,7 @@
 #include "core/session/yedektendon.h"
 #include "core/yarimdizin.h"
 #include "core/yedek/arsiv.h"
-#include "kesilen.h"
+#include "kesinti.h"
 #include "surec.h"
 
 namespace belvani {

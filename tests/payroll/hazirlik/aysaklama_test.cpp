@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "core/session/firmabilgi.h"
-#include "kesilen.h"
+#include "kesinti.h"
 #include "sirket.h"
 
 namespace belvani {
