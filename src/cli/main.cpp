@@ -7,6 +7,7 @@
 
 #include "cli/ortak.h"
 #include "core/adlar.h"
+#include "core/sayi.h"
 #include "core/session/oturum.h"
 
 namespace belvani::cli {
@@ -31,9 +32,19 @@ class TurkceBicim final : public CLI::Formatter {
 
 void TurkceYap(CLI::App& app) {
   auto bicim = std::make_shared<TurkceBicim>();
-  const std::pair<const char*, const char*> sozcukler[] = {
-      {"Usage", "Kullanım"},     {"OPTIONS", "SEÇENEKLER"}, {"SUBCOMMAND", "KOMUT"}, {"SUBCOMMANDS", "KOMUTLAR"},
-      {"REQUIRED", "(gerekli)"}, {"TEXT", "METİN"},         {"INT", "SAYI"},         {"Positionals", "Değerler"}};
+  const std::pair<const char*, const char*> sozcukler[] = {{"Usage", "Kullanım"},
+                                                           {"OPTIONS", "SEÇENEKLER"},
+                                                           {"SUBCOMMAND", "KOMUT"},
+                                                           {"SUBCOMMANDS", "KOMUTLAR"},
+                                                           {"REQUIRED", "(gerekli)"},
+                                                           {"TEXT", "METİN"},
+                                                           {"INT", "SAYI"},
+                                                           {"Positionals", "Değerler"},
+                                                           {"Excludes", "birlikte verilmez"},
+                                                           {"Needs", "gerektirir"},
+                                                           {"UINT", "SAYI"},
+                                                           {"FLOAT", "SAYI"},
+                                                           {"Env", "ortam"}};
   for (const auto& [ingilizce, turkce] : sozcukler) bicim->label(ingilizce, turkce);
   bicim->column_width(28);
   app.formatter(bicim);
@@ -45,15 +56,34 @@ bool TuruMu(const CLI::ParseError& h) {
   return dynamic_cast<const Tur*>(&h) != nullptr;
 }
 
+int SayiArdindan(const std::string& metin, const std::string& sozcuk) {
+  const auto yer = metin.find(sozcuk);
+  return yer == std::string::npos ? 0 : BastakiSayi(std::string_view(metin).substr(yer + sozcuk.size()));
+}
+
+// Of the library's texts that tell how many values an option wants and how many it got.
+std::string DegerSayisiKusuru(const std::string& ayrinti) {
+  const auto bas = ayrinti.starts_with('-') ? 0 : std::min(ayrinti.find(" -") + 1, ayrinti.size());
+  const std::string secenek = ayrinti.substr(bas, ayrinti.find_first_of(" :,", bas) - bas);
+  const auto gecer = [&](const char* soz) { return ayrinti.find(soz) != std::string::npos; };
+  if (gecer("flag override")) return secenek + " seçeneği değer almaz";
+  const bool cok = gecer("At Most") || SayiArdindan(ayrinti, ", got ") > SayiArdindan(ayrinti, "exactly ");
+  return secenek + (cok ? " seçeneği birden çok verilmiş" : " seçeneğinin değeri verilmemiş");
+}
+
 // The library's fault in Turkish: what was wrong, with the word that was.
 std::string KullanimKusuru(const CLI::ParseError& h) {
   const std::string ayrinti = h.what();
   if (TuruMu<CLI::RequiredError>(h)) return Degistir(ayrinti, " is required", " verilmemiş");
   if (TuruMu<CLI::ExtrasError>(h))
     return "tanınmayan değer:" + ayrinti.substr(std::min(ayrinti.size(), ayrinti.find(':') + 1));
-  if (TuruMu<CLI::ArgumentMismatch>(h)) return ayrinti.substr(0, ayrinti.find(':')) + " seçeneğinin değeri verilmemiş";
+  if (TuruMu<CLI::ExcludesError>(h)) return Degistir(ayrinti, " excludes ", " ile birlikte verilemez: ");
+  if (TuruMu<CLI::RequiresError>(h)) return Degistir(ayrinti, " requires ", " için bu da verilmeli: ");
+  if (TuruMu<CLI::ArgumentMismatch>(h)) return DegerSayisiKusuru(ayrinti);
   if (TuruMu<CLI::ValidationError>(h)) return Degistir(ayrinti, " not in ", " olamaz, şunlardan biri olmalı: ");
-  return Degistir(ayrinti, "Could not convert:", "okunamayan değer:");
+  if (TuruMu<CLI::ConversionError>(h))
+    return "okunamayan değer: " + ayrinti.substr(std::min(ayrinti.size(), ayrinti.find(':') + 2));
+  return "okunamayan komut satırı";
 }
 
 int YanlisKullanimiBildir(const std::string& kusur) {

@@ -23,9 +23,9 @@ inline constexpr std::string_view AnaBolum = "personel";
 std::string KullaniciAyari(std::string_view anahtar, std::string_view varsayilan, std::string_view bolum = AnaBolum);
 Durum KullaniciAyariYaz(std::string_view anahtar, std::string_view deger, std::string_view bolum = AnaBolum);
 
-// The user's own directories, with a separator at the end: settings, data, and what can be made anew.
+// The user's own directories, with a separator at the end: settings, data. An account without HOME (a service) has
+// those of its entry in the list of accounts.
 std::string KullaniciDizini();
 std::string KullaniciVeriDizini();
-std::string OnbellekDizini();
 
 }  // namespace belvani

@@ -19,12 +19,22 @@ namespace fs = std::filesystem;
 
 constexpr mode_t SahibineVeGruba = 0660;
 
+// Settings of a machine, which all its accounts read, must not be closed to them even for a moment: a file that all
+// may read, in a directory that all may read, stays so.
+mode_t HerkeseAcikligi(const std::string& hedef) {
+  struct stat hal {
+  }, dizin{};
+  const std::string ust = fs::path(hedef).parent_path();
+  if (::stat(hedef.c_str(), &hal) != 0 || ::stat(ust.empty() ? "." : ust.c_str(), &dizin) != 0) return 0;
+  return hal.st_mode & dizin.st_mode & S_IROTH;
+}
+
 // A new file beside `hedef` with this content, on the disk; 0 or the number of the failure, which leaves no file.
 int YeniDosya(const std::string& hedef, std::string& gecici, std::string_view icerik) {
   DosyaTutamagi dosya = GeciciAc(hedef, gecici);
   if (!dosya.Acik()) return errno;
-  if (::fchmod(dosya.No(), SahibineVeGruba) == 0 && HepsiniYaz(dosya.No(), icerik) && ::fsync(dosya.No()) == 0 &&
-      dosya.Kapat())
+  if (::fchmod(dosya.No(), SahibineVeGruba | HerkeseAcikligi(hedef)) == 0 && HepsiniYaz(dosya.No(), icerik) &&
+      ::fsync(dosya.No()) == 0 && dosya.Kapat())
     return 0;
   const int kod = errno;
   ::unlink(gecici.c_str());

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "core/dosya.h"
+#include "core/tutamak.h"
 
 namespace belvani {
 namespace {
@@ -92,7 +93,7 @@ Sonuc<YarimDizin> YarimDizin::Ac(const std::string& ust, const std::string& ad, 
   const std::string kok = DizinSonu(ust);
   if (auto durum = DizinYarat(kok); !durum) return durum.Kusuru();
   std::string yol = kok + std::string(tur == YarimTuru::Donen ? DonenOnEk : OnEk) + ad + "-XXXXXX";
-  if (::mkdtemp(yol.data()) == nullptr) return Kusur{kok + ": dizin yaratılamadı"};
+  if (::mkdtemp(yol.data()) == nullptr) return DosyaHatasi(kok, "dizin yaratılamadı", errno);
   YarimDizin yarim(kok, ad, yol.substr(kok.size()));
   std::error_code hata;
   fs::permissions(yol, fs::perms(0770), fs::perm_options::add, hata);
@@ -101,7 +102,8 @@ Sonuc<YarimDizin> YarimDizin::Ac(const std::string& ust, const std::string& ad, 
 
 Durum YarimDizin::Adlandir() {
   DiziniDiskeIndir(Yol());
-  if (UzerineYazmadanAdlandir(ust_ + yarim_, ust_ + ad_) != 0) return Kusur{ust_ + ad_ + ": dizin yaratılamadı"};
+  if (const int kod = UzerineYazmadanAdlandir(ust_ + yarim_, ust_ + ad_); kod != 0)
+    return DosyaHatasi(ust_ + ad_, "dizin yaratılamadı", kod);
   yarim_.clear();
   ::close(std::exchange(kilit_, -1));  // it is a place like any other now
   DiziniDiskeIndir(ust_);

@@ -24,6 +24,8 @@ std::string EBildirgeAdresi(const VeriYolu& veri) {
 }
 
 Durum EBildirgeAdresiYaz(const VeriYolu& veri, const std::string& adres) {
+  if (adres.substr(0, adres.find('/', adres.find("//") + 2)).find('@') != std::string::npos)
+    return Kusur{"Adreste kullanıcı adı ve şifre olamaz, bu ayarı şirketlerin bütün kullanıcıları okur"};
   if (!WebAdresiMi(adres)) return Kusur{"Adres http:// veya https:// ile başlamalıdır"};
   return IniYaz(Bolum, Anahtar, adres, {veri, Dosya});
 }

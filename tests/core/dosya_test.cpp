@@ -3,8 +3,12 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <thread>
+#include <unistd.h>
 
 #include "core/ayarlar.h"
+#include "core/ini.h"
 #include "core/ortam.h"
 #include "core/tablo.h"
 #include "gecici.h"
@@ -113,11 +117,46 @@ TEST(Ayarlar, MachineAndUserValuesComeBack) {
 
 TEST(Ayarlar, UserDirectoriesFollowTheDesktop) {
   const test::Sonunda geri[] = {OrtamKoy("BELVANI_KULLANICI_DIZIN", nullptr), OrtamKoy("HOME", "/ev/ali"),
-                                OrtamKoy("XDG_CONFIG_HOME", "/ayar"), OrtamKoy("XDG_DATA_HOME", "not/absolute"),
-                                OrtamKoy("XDG_CACHE_HOME", nullptr)};
+                                OrtamKoy("XDG_CONFIG_HOME", "/ayar"), OrtamKoy("XDG_DATA_HOME", "not/absolute")};
   EXPECT_EQ(KullaniciDizini(), "/ayar/belvani/");
   EXPECT_EQ(KullaniciVeriDizini(), "/ev/ali/.local/share/belvani/");
-  EXPECT_EQ(OnbellekDizini(), "/ev/ali/.cache/belvani/");
+  const auto evsiz = OrtamKoy("HOME", nullptr);
+  EXPECT_EQ(KullaniciVeriDizini(), DizinSonu(::getpwuid(::geteuid())->pw_dir) + ".local/share/belvani/")
+      << "never below the working directory";
+}
+
+// One account installs, the others work.
+TEST(Ayarlar, OfTheMachineAreReadableByAll) {
+  const GeciciDizin d;
+  const auto kullanici = OrtamKoy("BELVANI_KULLANICI_DIZIN", d.Yol().c_str());
+  const auto makine = OrtamKoy("BELVANI_MAKINE_AYAR", (d.Yol() + "ortak/personel.ini").c_str());
+  const auto geri = Maske(077);
+  for (const char* deger : {"/a/", "/b/"}) {
+    ASSERT_TRUE(MakineAyariYaz("DataPath", deger));
+    EXPECT_EQ(Izinler(d.Yol() + "ortak/personel.ini"), 0664u);
+    EXPECT_EQ(Izinler(d.Yol() + "ortak") & 0555u, 0555u);
+  }
+  ASSERT_TRUE(KullaniciAyariYaz("lastfirm", "A"));
+  EXPECT_EQ(Izinler(d.Yol() + "personel.ini"), 0660u) << "a user's own";
+}
+
+TEST(Ayarlar, FourWritersLoseNoValue) {
+  const GeciciDizin d;
+  const std::string dosya = d.Yol() + "ortak.ini";
+  std::vector<std::thread> yazanlar;
+  for (int kim = 0; kim < 4; ++kim)
+    yazanlar.emplace_back([&, kim] {
+      for (int i = 0; i < 25; ++i) {
+        const std::string ad = std::to_string(kim) + "-" + std::to_string(i);
+        EXPECT_TRUE(IniYaz("bolum", ad, ad, dosya));
+      }
+    });
+  for (auto& yazan : yazanlar) yazan.join();
+  for (int kim = 0; kim < 4; ++kim)
+    for (int i = 0; i < 25; ++i) {
+      const std::string ad = std::to_string(kim) + "-" + std::to_string(i);
+      EXPECT_EQ(IniOku("bolum", ad, "kayıp", dosya), ad);
+    }
 }
 
 }  // namespace

@@ -49,7 +49,9 @@ TEST(HedefDosya, AFileIsReplacedWholeWithItsModeAtTheEndOfItsLinks) {
   ASSERT_TRUE(HedefeYaz(dosya, "ilk"));
   EXPECT_EQ(Hal(dosya).st_mode & 07777, 0660u);
   ASSERT_EQ(::chmod(dosya.c_str(), 0604), 0);
-  if (::geteuid() == 0) ASSERT_EQ(::chown(dosya.c_str(), 1234, 4321), 0);
+  if (::geteuid() == 0) {
+    ASSERT_EQ(::chown(dosya.c_str(), 1234, 4321), 0);
+  }
   const auto once = Hal(dosya);
   fs::create_symlink("rapor.csv", d.Yol() + "asıl/iç");
   fs::create_symlink("./asıl/../asıl/iç", d.Yol() + "bağ");

@@ -30,8 +30,8 @@ Durum KartYaz(Oturum& o, const YeniSirket& yeni) {
 
 Durum Doldur(Oturum& o, const std::string& yol, DepoYeri yer, const YeniSirket& yeni, Bildirim& bildirim) {
   Depo& depo = o.depo;
-  if (Durum yaratildi = depo.VeritabaniYarat(yol); !yaratildi) return yaratildi;
   const auto kusur = [&](const std::string& metin) { return Kusur{metin + ": " + depo.db.SonHata()}; };
+  if (Durum yaratildi = depo.VeritabaniYarat(yol); !yaratildi) return kusur(yaratildi.KusurMetni());
   if (!depo.VeritabaniAc(yol, bildirim)) return kusur("Database Açılamadı");
   if (!IlkKullaniciYaz(depo.db, yeni)) return kusur("Kullanıcı Eklenemedi");
   if (const Durum yazildi = KartYaz(o, yeni); !yazildi) return kusur(yazildi.KusurMetni());
@@ -45,9 +45,10 @@ Durum Doldur(Oturum& o, const std::string& yol, DepoYeri yer, const YeniSirket& 
 }
 
 Durum AdinaKoy(YarimDizin& yarim, const VeriYolu& yer, const std::string& ad) {
-  if (yarim.Adlandir()) return Tamam();
+  const Durum konuldu = yarim.Adlandir();
+  if (konuldu) return Tamam();
   if (DizinVar(yer.Adres())) return Kusur{"Bu adda bir şirket var: " + ad};
-  return Kusur{"Şirket Dizini Yaratılamıyor: " + yer.Adres()};
+  return Kusur{"Şirket Dizini Yaratılamıyor: " + yer.Adres() + "\n" + konuldu.KusurMetni()};
 }
 
 }  // namespace
@@ -60,7 +61,7 @@ Durum SirketKur(Oturum& o, const YeniSirket& yeni, Bildirim& bildirim) {
 
   const VeriYolu yer = VeriYolu(o.DataPath).Alt(*ad);
   auto yarim = YarimDizin::Ac(o.DataPath, *ad);
-  if (!yarim) return Kusur{"Şirket Dizini Yaratılamıyor: " + yer.Adres()};
+  if (!yarim) return Kusur{"Şirket Dizini Yaratılamıyor: " + yer.Adres() + "\n" + yarim.KusurMetni()};
   const Firma oncekiKart = o.firma;
   const bool kartVardi = o.firmaVar;
   Durum kuruldu = Doldur(o, DepoAdresi(yarim->Yol()), YeniDepoYeri(o.DataPath), yeni, bildirim);

@@ -5,6 +5,7 @@
 // Text columns carry the collation `turkce`. Its order belongs to the Unicode library's version, which the store
 // remembers in user_version: under another version the indexes are rebuilt before anything is searched.
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
@@ -57,6 +58,13 @@ MotorKusuru KusurTuru(int kod) {
   }
 }
 
+// A reader too needs room, for what all processes of a store share: the system's own reason tells a full disk.
+MotorKusuru KusurTuru(sqlite3* db, int kod) {
+  const int neden = db == nullptr ? 0 : sqlite3_system_errno(db);
+  const bool sistemin = (kod & 0xFF) == SQLITE_IOERR || (kod & 0xFF) == SQLITE_CANTOPEN;
+  return sistemin && (neden == ENOSPC || neden == EDQUOT) ? MotorKusuru::DiskDolu : KusurTuru(kod);
+}
+
 std::string KusurMetni(MotorKusuru tur) {
   switch (tur) {
     case MotorKusuru::Kilitli:
@@ -88,10 +96,11 @@ struct MotorHali {
 };
 
 MotorHatasi Hata(sqlite3* db, int kod, const MotorHali& hal) {
-  const MotorKusuru tur = KusurTuru(kod);
+  const MotorKusuru tur = KusurTuru(db, kod);
   if (tur == MotorKusuru::SaltOkunur && hal.saltOkunur) return MotorHatasi(tur, SaltOkunurAcildi);
-  const char* ayrinti = db == nullptr ? sqlite3_errstr(kod) : sqlite3_errmsg(db);
-  return MotorHatasi(tur, KusurMetni(tur) + " [" + ayrinti + "]");
+  // With the engine's number; its own words are no user's.
+  const int no = db == nullptr ? kod : sqlite3_extended_errcode(db);
+  return MotorHatasi(tur, KusurMetni(tur) + " [" + std::to_string(no) + "]");
 }
 
 int TurkceSirala(void*, int na, const void* a, int nb, const void* b) {

@@ -28,22 +28,31 @@ class Yukleyici {
     return Coz<Kayit>(Bak(Kayit::Dosya), sonuc);
   }
 
-  // The same, but a file of another size is replaced by the built-in record.
+  // The same, but a file of another size is replaced by the built-in record `hazir`, known to the user by that name.
   template <class Kayit>
-  typename Kayit::Deger AlYaDaYaz(const typename Kayit::Deger& hazir, const std::string& sonuc) {
+  typename Kayit::Deger AlYaDaYaz(const typename Kayit::Deger& hazir, const std::string& ad) {
     const DosyaHali dosya = Bak(Kayit::Dosya);
-    if (const auto deger = Coz<Kayit>(dosya, sonuc)) return *deger;
-    Onar(Kayit::Dosya, dosya, KayitBaytlari<Kayit>(hazir));
+    if (!BoyuBaska<Kayit>(dosya)) return Parca<Kayit>(dosya.baytlar);
+    const auto onarim = Onar(Kayit::Dosya, dosya, KayitBaytlari<Kayit>(hazir));
+    BoyUyarisi<Kayit>(dosya, ad + (onarim && *onarim ? " yazıldı." : " alındı."));
+    OnarilamadiysaUyar(onarim);
     return hazir;
   }
 
   template <class Kayit>
   std::optional<typename Kayit::Deger> Coz(const DosyaHali& dosya, const std::string& sonuc) {
-    if (dosya.okunamadi || dosya.boy != Kayit::Boy) {
-      BoyUyarisi(Kayit::Dosya, dosya, std::to_string(Kayit::Boy) + " bayt olmalıydı", sonuc);
-      return std::nullopt;
-    }
-    return Parca<Kayit>(dosya.baytlar);
+    if (!BoyuBaska<Kayit>(dosya)) return Parca<Kayit>(dosya.baytlar);
+    BoyUyarisi<Kayit>(dosya, sonuc);
+    return std::nullopt;
+  }
+
+  template <class Kayit>
+  static bool BoyuBaska(const DosyaHali& dosya) {
+    return dosya.okunamadi || dosya.boy != Kayit::Boy;
+  }
+  template <class Kayit>
+  void BoyUyarisi(const DosyaHali& dosya, const std::string& olan) {
+    BoyUyarisi(Kayit::Dosya, dosya, std::to_string(Kayit::Boy) + " bayt olmalıydı", olan);
   }
 
   // One record out of the bytes of a file.
@@ -65,11 +74,15 @@ class Yukleyici {
       Uyar(ad, "yok ya da boş" + sonuc);
   }
 
-  // Puts the built-in record in the place of a file that does not serve, so far as that is wanted.
-  void Onar(std::string_view ad, const DosyaHali& dosya, const std::string& baytlar) {
+  // Puts the built-in record in the place of a file that does not serve. Nothing where that is not wanted.
+  std::optional<Durum> Onar(std::string_view ad, const DosyaHali& dosya, const std::string& baytlar) {
     const bool bosYer = dosya.boy == 0 && EksikligiOlagan(ad);
-    if (dosya.okunamadi || bozuk_ == BozukDosya::Dokunulmaz || (bozuk_ == BozukDosya::Kalir && !bosYer)) return;
-    if (const auto durum = yol_.Yaz(ad, baytlar); !durum) uyarilar_.push_back(durum.KusurMetni());
+    if (dosya.okunamadi || bozuk_ == BozukDosya::Dokunulmaz || (bozuk_ == BozukDosya::Kalir && !bosYer))
+      return std::nullopt;
+    return yol_.Yaz(ad, baytlar);
+  }
+  void OnarilamadiysaUyar(const std::optional<Durum>& onarim) {
+    if (onarim && !*onarim) uyarilar_.push_back(onarim->KusurMetni());
   }
 
   void Uyar(std::string_view ad, const std::string& metin) { uyarilar_.push_back(std::string(ad) + " " + metin); }
@@ -97,7 +110,7 @@ AgiTablosu VarsayilanAgi(Tutar asgariUcret, Tek cocuk4) {
 
 AgiTablosu AgiYukle(Yukleyici& y, Tutar asgariUcret, Tek cocuk4) {
   const auto hazir = VarsayilanAgi(asgariUcret, cocuk4);
-  return AgiTabaniIle(y.AlYaDaYaz<AgiKaydi>(hazir, "hazır oranlar yazıldı."), asgariUcret);
+  return AgiTabaniIle(y.AlYaDaYaz<AgiKaydi>(hazir, "hazır oranlar"), asgariUcret);
 }
 
 std::string KanunBaytlari(const Kanunlar& kanunlar) {
@@ -111,7 +124,7 @@ Kanunlar KanunlariYukle(Yukleyici& y) {
   if (dosya.boy > dosya.baytlar.size()) dosya.okunamadi = true;
   if (dosya.okunamadi || dosya.boy < EnAzKanunBoyu) {
     y.BoyUyarisi(KanunKaydi::Dosya, dosya, "en az 72 bayt olmalıydı", "hazır dönemler alındı.");
-    y.Onar(KanunKaydi::Dosya, dosya, KanunBaytlari(VarsayilanKanunlar()));
+    y.OnarilamadiysaUyar(y.Onar(KanunKaydi::Dosya, dosya, KanunBaytlari(VarsayilanKanunlar())));
     return VarsayilanKanunlar();
   }
   if (dosya.boy % KanunKaydi::Boy != 0) y.Uyar(KanunKaydi::Dosya, "yarım bir satırla bitiyor: o satır alınmadı.");
@@ -127,7 +140,7 @@ Yukleme<YasalParametreler> YasalYukle(Yukleyici y, const YasalParametreler& simd
   p.oranlar = y.Al<YasalKaydi>("yasal oranlar sıfır alındı.").value_or(YasalOranlar());
   p.gv = y.Al<GvKaydi>("gelir vergisi tablosu değişmedi.").value_or(simdiki.gv);
   p.agi = AgiYukle(y, p.oranlar.AsgariUcret, simdiki.agi.AgiCocuk4);
-  p.hesapTurleri = y.AlYaDaYaz<HesapTurKaydi>(VarsayilanHesapTurleri(), "hazır sigorta kolları yazıldı.");
+  p.hesapTurleri = y.AlYaDaYaz<HesapTurKaydi>(VarsayilanHesapTurleri(), "hazır sigorta kolları");
   p.kanunlar = KanunlariYukle(y);
   return {p, std::move(y).Uyarilar()};
 }

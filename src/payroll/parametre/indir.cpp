@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <curl/curl.h>
-#include <filesystem>
 #include <memory>
 #include <optional>
 
@@ -14,8 +13,6 @@
 
 namespace belvani {
 namespace {
-
-namespace fs = std::filesystem;
 
 struct CurlBirak {
   void operator()(CURL* c) const { curl_easy_cleanup(c); }
@@ -35,6 +32,10 @@ std::optional<std::string> AdresParcasi(CURLU* adres, CURLUPart parca, unsigned 
   return std::string(metin);
 }
 
+// What is shipped, told by the month: "hazir:2009-07", "hazir:2004-04-eski".
+constexpr std::string_view HazirAdres = "hazir:";
+constexpr std::string_view EskiLiraEki = "-eski";
+
 Sonuc<Adres> AdresCoz(const std::string& url) {
   const std::unique_ptr<CURLU, CurlBirak> adres(curl_url());
   if (adres && curl_url_set(adres.get(), CURLUPART_URL, url.c_str(), 0) == CURLUE_OK) {
@@ -42,7 +43,7 @@ Sonuc<Adres> AdresCoz(const std::string& url) {
     const auto yol = AdresParcasi(adres.get(), CURLUPART_PATH, CURLU_URLDECODE);
     if (sema && yol && (*sema == "file" || *sema == "http" || *sema == "https")) return Adres{*sema, *yol};
   }
-  return Kusur{"Parametre adresi http:, https: ya da file: ile başlayan tam bir adres olmalı: " + url};
+  return Kusur{"Parametre adresi http:, https: ya da file: ile başlayan tam bir adres olmalı: " + GorunenAdres(url)};
 }
 
 // The body of a response as it arrives.
@@ -60,10 +61,10 @@ std::size_t GovdeyeEkle(const char* veri, std::size_t boy, std::size_t adet, voi
 }
 
 Kusur IndirmeHatasi(const std::string& url, const std::string& neden) {
-  return {"Parametre Bulunamadı: " + url + " (" + neden + ")"};
+  return {"Parametre Bulunamadı: " + GorunenAdres(url) + " (" + neden + ")"};
 }
 
-// What the user can act on is told in Turkish, the rest in the library's words.
+// What the user can act on is told in words, the rest by its number.
 std::string AktarimKusuru(CURL* aktarim, CURLcode kod, const IndirmeSiniri& sinir) {
   static constexpr std::pair<CURLcode, const char*> bilinenler[] = {
       {CURLE_COULDNT_RESOLVE_HOST, "sunucu adı bulunamadı"},
@@ -72,6 +73,17 @@ std::string AktarimKusuru(CURL* aktarim, CURLcode kod, const IndirmeSiniri& sini
       {CURLE_ABORTED_BY_CALLBACK, "vazgeçildi"},
       {CURLE_PARTIAL_FILE, "aktarım yarıda kesildi"},
       {CURLE_PEER_FAILED_VERIFICATION, "sunucunun kimliği doğrulanamadı"},
+      {CURLE_SSL_CONNECT_ERROR, "güvenli bağlantı kurulamadı"},
+      {CURLE_SSL_CACERT_BADFILE, "güvenilen sunucuların listesi okunamadı"},
+      {CURLE_COULDNT_RESOLVE_PROXY, "vekil sunucunun adı bulunamadı"},
+      {CURLE_TOO_MANY_REDIRECTS, "sunucu hep başka bir adrese gönderiyor"},
+      {CURLE_UNSUPPORTED_PROTOCOL, "sunucu izin verilmeyen bir adrese gönderdi"},
+      {CURLE_URL_MALFORMAT, "sunucunun gönderdiği adres hatalı"},
+      {CURLE_GOT_NOTHING, "sunucu yanıt vermedi"},
+      {CURLE_SEND_ERROR, "bağlantı koptu"},
+      {CURLE_RECV_ERROR, "bağlantı koptu"},
+      {CURLE_WEIRD_SERVER_REPLY, "sunucunun yanıtı anlaşılmadı"},
+      {CURLE_OUT_OF_MEMORY, "bellek yetmedi"},
   };
   for (const auto& [bilinen, metin] : bilinenler)
     if (bilinen == kod) return metin;
@@ -80,7 +92,7 @@ std::string AktarimKusuru(CURL* aktarim, CURLcode kod, const IndirmeSiniri& sini
   long durum = 0;
   curl_easy_getinfo(aktarim, CURLINFO_RESPONSE_CODE, &durum);
   if (kod == CURLE_HTTP_RETURNED_ERROR) return "sunucu " + std::to_string(durum) + " yanıtını verdi";
-  return curl_easy_strerror(kod);
+  return "aktarım hatası " + std::to_string(int(kod));
 }
 
 // The transfer step by step, so that it can be given up also while the server is silent.
@@ -136,21 +148,6 @@ Sonuc<std::string> Al(const std::string& url, const IndirmeSiniri& sinir) {
   return IndirmeHatasi(url, "dosya okunamadı");
 }
 
-std::string DosyaAdresi(const std::string& yol) {
-  std::string adres = "file://";
-  for (const char c : yol) {
-    constexpr char onalti[] = "0123456789ABCDEF";
-    const auto b = std::uint8_t(c);
-    const bool duz = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-                     std::string_view("/-._~").find(c) != std::string_view::npos;
-    if (duz)
-      adres += c;
-    else
-      adres += {'%', onalti[b / 16], onalti[b % 16]};
-  }
-  return adres;
-}
-
 // The files that are fetched, in the order of ParametreDosyasi: as the server calls them and as they lie in the data
 // path.
 struct Parametre {
@@ -171,12 +168,24 @@ ParametreBaytlari BaytlaraCevir(const YasalParametreler& p) {
           KayitBaytlari<HesapTurKaydi>(p.hesapTurleri)};
 }
 
-std::string DonemDizini(int yil, int ay, Lira lira) {
-  return OnbellekDizini() + "parametre/" + std::to_string(yil) + (ay < 10 ? "-0" : "-") + std::to_string(ay) +
-         (lira == Lira::Eski ? "-eski" : "");
+Sonuc<std::string> HazirDosya(ParametreDosyasi dosya, std::string_view donem) {
+  const Lira lira = donem.ends_with(EskiLiraEki) ? Lira::Eski : Lira::Yeni;
+  if (lira == Lira::Eski) donem.remove_suffix(EskiLiraEki.size());
+  const Tarih ilkGun = Tarih::IsoOku(std::string(donem) + "-01");
+  const auto parametre = MevzuatYukle(MevzuatDizini(), ilkGun.Yil(), ilkGun.Ay(), lira);
+  if (!parametre) return parametre.Kusuru();
+  return BaytlaraCevir(*parametre)[std::size_t(dosya)];
 }
 
 }  // namespace
+
+std::string GorunenAdres(std::string adres) {
+  adres.erase(std::min(adres.find_first_of("?#"), adres.size()));
+  const auto sema = adres.find("://");
+  const auto sahis = adres.starts_with("file:") ? std::string::npos : adres.rfind('@');
+  if (sema != std::string::npos && sahis != std::string::npos && sahis > sema) adres.erase(sema + 3, sahis - sema - 2);
+  return adres;
+}
 
 Durum ParametreIndir(const std::string& url, const VeriYolu& veri, std::string_view ad, const IndirmeSiniri& sinir) {
   const auto baytlar = Al(url, sinir);
@@ -190,11 +199,12 @@ std::string_view ParametreDosyaAdi(ParametreDosyasi dosya) {
 
 Sonuc<AdliDosya> ParametreDosyasiAl(ParametreDosyasi dosya, const std::string& kaynak, const IndirmeSiniri& sinir) {
   const Parametre& p = parametreler[std::size_t(dosya)];
-  const std::string url = kaynak + "/download/" + std::string(p.uzak);
-  auto baytlar = Al(url, sinir);
+  const bool hazir = kaynak.starts_with(HazirAdres);
+  const std::string url = hazir ? kaynak : kaynak + "/download/" + std::string(p.uzak);
+  auto baytlar = hazir ? HazirDosya(dosya, std::string_view(kaynak).substr(HazirAdres.size())) : Al(url, sinir);
   if (!baytlar) return baytlar.Kusuru();
   if (baytlar->size() != p.boy)
-    return Kusur{"Parametre dosyası hatalı: " + url + " " + std::to_string(baytlar->size()) + " bayt, " +
+    return Kusur{"Parametre dosyası hatalı: " + GorunenAdres(url) + " " + std::to_string(baytlar->size()) + " bayt, " +
                  std::to_string(p.boy) + " bayt olmalıydı"};
   return AdliDosya{std::string(p.yerel), std::move(*baytlar)};
 }
@@ -204,15 +214,10 @@ Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira) {
   while (!ayar.empty() && (ayar.back() == '/' || ayar.back() == ' ')) ayar.pop_back();
   if (!ayar.empty()) return ayar;
 
-  const auto parametre = MevzuatYukle(MevzuatDizini(), yil, ay, lira);
-  if (!parametre) return parametre.Kusuru();
-  const std::string kok = DonemDizini(yil, ay, lira);
-  const std::string dizin = kok + "/download/";
-  if (auto durum = DizinYarat(dizin); !durum) return durum.Kusuru();
-  const ParametreBaytlari hepsi = BaytlaraCevir(*parametre);
-  for (std::size_t i = 0; i < parametreler.size(); ++i)
-    if (auto durum = DosyaYaz(dizin + std::string(parametreler[i].uzak), hepsi[i]); !durum) return durum.Kusuru();
-  return DosyaAdresi(fs::absolute(kok).lexically_normal());
+  // What is not there is told now, and not as a failed transfer.
+  if (const auto parametre = MevzuatYukle(MevzuatDizini(), yil, ay, lira); !parametre) return parametre.Kusuru();
+  const Tarih ilkGun(yil, ay, 1);
+  return std::string(HazirAdres) + ilkGun.Iso().substr(0, 7) + std::string(lira == Lira::Eski ? EskiLiraEki : "");
 }
 
 }  // namespace belvani

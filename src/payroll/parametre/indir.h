@@ -15,6 +15,9 @@
 
 namespace belvani {
 
+// An address as it may be shown: without what a user has put into it for the server alone (name, password, query).
+std::string GorunenAdres(std::string adres);
+
 struct IndirmeSiniri {
   std::chrono::milliseconds baglanti{5'000};
   std::chrono::milliseconds toplam{20'000};
@@ -26,8 +29,8 @@ struct IndirmeSiniri {
 Durum ParametreIndir(const std::string& url, const VeriYolu& veri, std::string_view ad,
                      const IndirmeSiniri& sinir = {});
 
-// The address to fetch the parameters of a month from: the setting `ParametreAdresi` where it is given, else a file:
-// address of the shipped figures, written out in the user's cache directory. No separator at the end.
+// The address to fetch the parameters of a month from: the setting `ParametreAdresi` where it is given, else one of our
+// own that stands for the shipped figures. No separator at the end.
 Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira = Lira::Yeni);
 
 // The four files that are fetched, in the order in which they lie in the data path.

@@ -115,7 +115,7 @@ Sonuc<std::vector<AdliDosya>> Getir(const std::vector<ParametreDosyasi>& hangile
     auto dosya = ParametreDosyasiAl(hangisi, kaynak, sinir);
     if (!dosya) return dosya.Kusuru();
     if (const std::string kusur = BolumuCoz(*dosya, p); !kusur.empty())
-      return Kusur{"Parametre dosyası hatalı, kurulmadı: " + kaynak + ", " + dosya->ad + ": " + kusur};
+      return Kusur{"Parametre dosyası hatalı, kurulmadı: " + GorunenAdres(kaynak) + ", " + dosya->ad + ": " + kusur};
     gelen.push_back(std::move(*dosya));
   }
   return gelen;

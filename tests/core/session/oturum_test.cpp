@@ -128,7 +128,8 @@ TEST_F(OturumTest, NewCompanyRefusedLeavesNoTrace) {
   EXPECT_EQ(SirketOlustur(o, "İzmir", "a", "b", b).KusurMetni(), "Bu adda bir şirket var: İZMİR");
   EXPECT_TRUE(std::filesystem::is_empty(o.DataPath + "izmir"));
   EXPECT_EQ(SirketOlustur(o, "dosya", "a", "b", b).KusurMetni(),
-            "Şirket Dizini Yaratılamıyor: " + o.DataPath + "DOSYA/");
+            "Şirket Dizini Yaratılamıyor: " + o.DataPath + "DOSYA/\n" + o.DataPath +
+                "DOSYA: dizin yaratılamadı (bu adda bir dosya var)");
   EXPECT_EQ(DosyaOku(o.DataPath + "DOSYA"), "x");
   EXPECT_EQ(o.FirmaKod, "");
   EXPECT_EQ(b.iletiler, Iletiler{});
