@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* veri, std::size_t boy)
   (void)AktarimDosyasiOku(csv, {TabloBul("esco")}, "kod", AnahtarKurali::TekrarEder);
   (void)AktarimDosyasiOku(csv, {TabloBul("firma")}, "", AnahtarKurali::Tekil);
   try {
-    (void)cli::GirisListesiOku(csv, "giris.csv");
+    (void)cli::GirisListesiOku(csv, {.ad = "giris.csv"}, {});
   } catch (const cli::KomutHatasi&) {
   }
   return 0;

@@ -1,16 +1,26 @@
 // JSON for one calculation, and the calculation on whatever passes the checks.
 #include "cli/hesapgirdisi.h"
+#include "cli/jsonakisi.h"
 #include "cli/ortak.h"
 
 using namespace belvani;
 
+namespace {
+
+void Hesapla(const cli::Json& json) {
+  const cli::HesapGirdisi h = cli::HesapGirdisiOku(json);
+  if (!h.kusurlar.empty()) return;
+  const BordroGirdi g = h.Girdi();
+  Iz iz;
+  if (!GirdiKusuru(g)) (void)BordroHesapla(g, nullptr, &iz);
+}
+
+}  // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* veri, std::size_t boy) {
   try {
-    const cli::HesapGirdisi h = cli::HesapGirdisiOku(cli::JsonOku({reinterpret_cast<const char*>(veri), boy}));
-    if (!h.kusurlar.empty()) return 0;
-    const BordroGirdi g = h.Girdi();
-    Iz iz;
-    if (!GirdiKusuru(g)) (void)BordroHesapla(g, nullptr, &iz);
+    cli::JsonGirdisi girdi({reinterpret_cast<const char*>(veri), boy});
+    while (const auto biri = girdi.Sonraki()) Hesapla(*biri);
   } catch (const cli::KomutHatasi&) {
   } catch (const TutarTasmasi&) {
   }

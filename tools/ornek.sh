@@ -53,7 +53,7 @@ yiliHazirla() {
   echo "$yil: $# ay, $toplam bordro kaydı"
 }
 
-belvani sirket-ac ORNEK --kullanici ornek --sifre ornek --yil 2009 --ay 12
+echo ornek | belvani sirket-ac ORNEK --kullanici ornek --sifre - --yil 2009 --ay 12
 for tablo in firma muaf indir sendika kaztan; do
   belvani tanim-al ORNEK "$tablo" "$ornek/$tablo.csv"
 done

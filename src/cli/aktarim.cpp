@@ -20,7 +20,7 @@ template <class Aktar>
 void Al(Genel& genel, const AktarimSecenekleri& s, Aktar aktar) {
   const auto o = genel.YazmayaAc(s.kod);
   const std::string icerik = DosyayiOku(s.dosya);
-  const Sonuc<AktarimSonucu> sonuc = aktar(*o, AktarilanCsv(icerik, s.ondalik), s.Kip());
+  const Sonuc<AktarimSonucu> sonuc = aktar(*o, AktarilanCsv(std::string_view(icerik), s.ondalik), s.Kip());
   if (!sonuc) throw KomutHatasi{s.dosya + ": " + sonuc.KusurMetni()};
   s.sorunlar.SatirKusurlariylaBitir(s.dosya + ": hiçbir kayıt alınmadı", sonuc->sorunlar);
   std::vector<std::string> uyarilar;

@@ -53,8 +53,9 @@ const AlanTanimi* GirisAlani(std::string_view ad) {
   return Ara(digerleri, ad);
 }
 
-std::vector<GirisSatiri> GirisListesiOku(const GirisDosyasi& dosya, const SorunListesi& sorunlar) {
-  auto okunan = CsvOku(DosyayiOku(dosya.ad));
+std::vector<GirisSatiri> GirisListesiOku(const std::string& csv, const GirisDosyasi& dosya,
+                                         const SorunListesi& sorunlar) {
+  auto okunan = CsvOku(csv);
   if (!okunan) throw KomutHatasi{dosya.ad + ": " + okunan.KusurMetni()};
   Kusurlar kusurlar;
   const auto kusurYaz = [&](int satir, const std::string& kolon, const std::string& neden) {

@@ -38,7 +38,8 @@ void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
   auto kosullar = KosullariYukle(*o, Degeri(yasal), s.donem.yil, s.donem.ay);
   Degeri(kosullar);
   MevzuatUyarisi(genel, mevzuat, s.donem);
-  const auto girisler = s.giris.ad.empty() ? std::vector<GirisSatiri>() : GirisListesiOku(s.giris, s.sorunlar);
+  const auto girisler =
+      s.giris.ad.empty() ? std::vector<GirisSatiri>() : GirisListesiOku(DosyayiOku(s.giris.ad), s.giris, s.sorunlar);
   TerminalIlerlemesi ilerleme;
   auto sonuc = TopluHazirla(*o, *kosullar, girisler, &ilerleme);
   std::vector<std::string> sorunlar;

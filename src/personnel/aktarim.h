@@ -4,6 +4,7 @@
 // when there is one, nothing is saved. All rows are one transaction.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "core/okunus.h"
@@ -18,7 +19,8 @@ enum class AktarimKipi { Kaydet, YalnizDene };
 struct AktarilanCsv {
   AktarilanCsv(std::string_view metin, OndalikImi im = OndalikImi::Belirsiz)  // NOLINT: a text is a file
       : icerik(metin), ondalik(im) {}
-  AktarilanCsv(const char* metin) : AktarilanCsv(std::string_view(metin)) {}  // NOLINT
+  AktarilanCsv(const char* metin) : AktarilanCsv(std::string_view(metin)) {}         // NOLINT
+  AktarilanCsv(const std::string& metin) : AktarilanCsv(std::string_view(metin)) {}  // NOLINT
 
   std::string_view icerik;
   OndalikImi ondalik;
