@@ -15,6 +15,7 @@
 #include "core/session/firmabilgi.h"
 #include "core/session/sinifbakimi.h"
 #include "screens/core/Dbupdate.h"
+#include "screens/core/yedekfrm.h"
 #include "screens/personnel/personelformu.h"
 #include "ui/metin.h"
 #include "ui/simge.h"
@@ -200,6 +201,14 @@ void anamenu::Islem(MenuIslemi islem) {
       // Without its store the program cannot go on.
       if (VeritabaniGuncelleGoster(ekran_, parametreler_) == GuncellemeSonucu::ProgramBitsin) {
         ekran_.oturum.YazilanSorulsun = false;  // there is nothing left to save into
+        close();
+      }
+      break;
+    case MenuIslemi::Yedekler:
+      // The company that another one has taken the place of is gone to anew.
+      if (const auto yedek = YedekSectir(ekran_);
+          yedek && AcikSirketeGetir(ekran_, *yedek, [this] { return EkranlariKapat(); })) {
+        firmaDegissin_ = true;
         close();
       }
       break;

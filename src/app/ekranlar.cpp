@@ -9,6 +9,7 @@
 #include "screens/core/kulfrm.h"
 #include "screens/core/muhbil.h"
 #include "screens/core/yapifrm.h"
+#include "screens/core/yedekfrm.h"
 #include "screens/declarations/yaylik.h"
 #include "screens/documents/belgeekrani.h"
 #include "screens/payroll/agifrm.h"
@@ -111,6 +112,7 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Ek İşlemler", "Kullanıcı İşlemleri", "kulfrm", "kullanici", "", Yap<kulfrm>},
       {"Ek İşlemler", "Kontrol İşlemleri", "kontfrm", "kontrol", "Kontrol İşlemi", Yap<kontfrm>},
       {"Ek İşlemler", "Database Update", "Dbupdate", "yukselt", "", Yap<Dbupdate>, MenuIslemi::Guncelle},
+      {"Ek İşlemler", "Yedekleme", "yedekfrm", "sablon", "", Yap<yedekfrm>, MenuIslemi::Yedekler},
       {"Ek İşlemler", "Yapı Ayarları", "yapifrm", "klasor", "", Yap<yapifrm>},
       {"Ek İşlemler", "Personel Bul", "perbul", "ara", "", Yap<perbul>},
 

@@ -20,7 +20,7 @@ struct UygulamaBaglami {
 };
 
 // Entries that do more than open a screen, or something else.
-enum class MenuIslemi { Yok, FirmaDegistir, OncekiAy, SonrakiAy, Cikis, Yardim, Hakkinda, Gorunum, Guncelle };
+enum class MenuIslemi { Yok, FirmaDegistir, OncekiAy, SonrakiAy, Cikis, Yardim, Hakkinda, Gorunum, Guncelle, Yedekler };
 
 struct EkranKaydi {
   std::string_view menu;    // "Ek Moduller/Banka Modülü": top entry, then submenu

@@ -110,4 +110,12 @@ Sonuc<std::optional<Donus>> YedektenDon(const VeriYolu& veri, const DonusIstegi&
   return std::optional(std::move(**donus));
 }
 
+Sonuc<std::string> YedeginYeri(const VeriYolu& veri, const std::string& dosya) {
+  const auto arsiv = YedekArsivi::Ac(dosya);
+  if (!arsiv) return arsiv.Kusuru();
+  const auto yer = YeriBul(veri, {.dosya = dosya}, arsiv->Kunye());
+  if (!yer) return yer.Kusuru();
+  return yer->dolu ? yer->ad : std::string();
+}
+
 }  // namespace belvani

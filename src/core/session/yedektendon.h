@@ -28,4 +28,7 @@ struct Donus {
 Sonuc<std::optional<Donus>> YedektenDon(const VeriYolu& veri, const DonusIstegi& istek, Bildirim& bildirim,
                                         const Yurutucu& yurut = HemenYurut);
 
+// The company whose place the backup would take under its own code; "" when none stands there.
+Sonuc<std::string> YedeginYeri(const VeriYolu& veri, const std::string& dosya);
+
 }  // namespace belvani
