@@ -7,8 +7,8 @@ namespace belvani {
 
 void CikisYedegiAl(EkranBaglami& baglam) {
   Oturum& o = baglam.oturum;
-  if (!o.depo.db.AcikMi()) return;
-  o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);  // all that was saved is in the files now
+  if (!o.depo.db.AcikMi() || o.SaltOkunur) return;
+  SirketKapat(o);  // all that was saved is in the files now
   const auto alinan = UzunIs(baglam, QStringLiteral("Günün yedeği alınıyor…"),
                              [&](Ilerleme& ilerleme) { return GunlukYedekAl(o.DataPath, o.FirmaKod, &ilerleme); });
   if (!alinan) return;

@@ -1,6 +1,7 @@
 // A company of the oldest program: login, upgrade, and a day's work in it, by keys.
 #include "app/anaortam.h"
 #include "core/session/eskidepo.h"
+#include "core/session/sirketyedegi.h"
 #include "core/store/satirlar.h"
 #include "personnel/kart.h"
 #include "screens/core/Dbupdate.h"
@@ -33,7 +34,8 @@ TEST(Yukseltme, AnOldCompanyIsWorkedInAfterItsUpgrade) {
     o.Yaz("\n");
   });
   ASSERT_EQ(VeritabaniGuncelleGoster(o.baglam, o.parametreler), GuncellemeSonucu::Tamam);
-  EXPECT_EQ(o.bildirim.Al(), Iletiler{"Bilgi: Yükseltmeden önceki veritabanının kopyası: tolu.dat.1.yedek"});
+  EXPECT_EQ(o.bildirim.Al(),
+            Iletiler{"Bilgi: Yükseltmeden önceki yedek: " + SirketYedekleri(o.oturum.DataPath, "TEST").at(0).yol});
   o.OneAl();
 
   o.pencere->Ac(AnaOrtam::Kayit("perkart"));

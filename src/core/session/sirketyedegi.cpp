@@ -1,15 +1,16 @@
 #include "core/session/sirketyedegi.h"
 
 #include <algorithm>
-#include <ctime>
 #include <filesystem>
 #include <system_error>
 #include <unistd.h>
 
 #include "core/asama.h"
 #include "core/dosya.h"
+#include "core/saat.h"
 #include "core/session/oturum.h"
 #include "core/session/sirket.h"
+#include "core/store/depokopyasi.h"
 #include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/yarimdizin.h"
@@ -149,7 +150,7 @@ class Yedekleme {
     if (!sirket_.Iz(DepoDosyasi)) return Uyar("Şirketin veritabanı yok, yalnızca öteki dosyaları yedeklendi"), Tamam();
     try {
       std::unique_ptr<Motor> kendi;
-      if (istek_.depo == nullptr) kendi = MotorAc(DepoAdresi(sirket_));
+      if (istek_.depo == nullptr) kendi = MotorBak(DepoAdresi(sirket_));
       Motor& motor = kendi ? *kendi : *istek_.depo;
       KunyeyeYaz(motor, kunye_);
       if (const std::string kusur = SayfaKusuru(motor); !kusur.empty())
@@ -260,14 +261,8 @@ Sonuc<std::string> YedekliSirketBul(const VeriYolu& veri, std::string_view metin
 std::string SonDegisim(const VeriYolu& sirket) {
   std::int64_t son = 0;
   HerIz(sirket, [&](const std::string&, const DosyaIzi& iz) { son = std::max(son, iz.zaman); });
-  if (son == 0) return {};
   constexpr std::int64_t nano = 1'000'000'000;
-  const auto saniye = std::time_t(son / nano);
-  std::tm zaman{};
-  ::localtime_r(&saniye, &zaman);
-  char metin[32];
-  std::strftime(metin, sizeof metin, "%d.%m.%Y %H:%M", &zaman);
-  return metin;
+  return son == 0 ? std::string() : AnMetni(son / nano);
 }
 
 }  // namespace belvani

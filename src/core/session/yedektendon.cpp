@@ -7,6 +7,7 @@
 #include "core/session/sirket.h"
 #include "core/session/sirketyedegi.h"
 #include "core/session/tekbasina.h"
+#include "core/store/dosyasistemi.h"
 #include "core/store/koru.h"
 #include "core/yarimdizin.h"
 #include "core/yedek/arsiv.h"
@@ -47,16 +48,20 @@ bool Sor(const VeriYolu& veri, const DonusYeri& yer, const YedekKunyesi& kunye, 
                              {});
 }
 
-// Opened once, so that what is no store never takes a company's place; all of it in the one file, as a directory that
-// is renamed must have it.
-Durum DepoyuHazirla(const std::string& dizin) {
+// Opened once, so that what is no store never takes a company's place; laid out for those who work there, whoever
+// worked where it comes from.
+Durum DepoyuHazirla(const std::string& dizin, DepoYeri yer) {
   return Koru(
       [&] {
-        const auto motor = MotorAc(dizin + DepoDosyasi);
-        motor->Calistir("pragma journal_mode=delete");
+        const auto motor = MotorAc(dizin + DepoDosyasi, AcilisKipi::Tek);
+        motor->YerKoy(yer);
         if (motor->Kolonlar("firma").empty()) throw MotorHatasi(MotorKusuru::Bozuk, "firma tablosu yok");
       },
       "Yedekteki veritabanı açılamadı: ");
+}
+
+DepoYeri BosYer(const VeriYolu& veri) {
+  return PaylasilanDiskte(veri.Adres()) ? DepoYeri::Paylasilan : DepoYeri::BuBilgisayar;
 }
 
 // A program that has opened the replaced store but not yet read from it must not go on in a file that is nobody's: it
@@ -80,7 +85,8 @@ Sonuc<Donus> Don(const VeriYolu& veri, const YedekArsivi& arsiv, const DonusYeri
   auto yarim = YarimDizin::Ac(veri.Adres(), yer.ad, YarimTuru::Donen);
   if (!yarim) return yarim.Kusuru();
   if (Durum cikti = arsiv.Cikar(yarim->Yol(), ilerleme); !cikti) return cikti.Kusuru();
-  if (Durum hazir = DepoyuHazirla(yarim->Yol()); !hazir) return hazir.Kusuru();
+  if (Durum hazir = DepoyuHazirla(yarim->Yol(), simdiki ? simdiki->Yeri() : BosYer(veri)); !hazir)
+    return hazir.Kusuru();
   if (yer.dolu) {
     auto onceki = YedekAl(veri, yer.ad, {.tur = YedekTuru::Donus, .depo = simdiki.get()}, ilerleme);
     if (!onceki) return Kusur{"Şimdiki hali yedeklenemedi, yedek geri yüklenmedi:\n" + onceki.KusurMetni()};

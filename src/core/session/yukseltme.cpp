@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <cassert>
-#include <cerrno>
-#include <fcntl.h>
-#include <unistd.h>
 
 #include "core/session/sirket.h"
+#include "core/session/sirketyedegi.h"
 #include "core/store/brdozet.h"
 #include "core/store/depoonarimi.h"
 #include "core/store/koru.h"
@@ -77,21 +75,7 @@ std::pair<std::int64_t, std::int64_t> DegisecekKartlar(Motor& motor) {
   return {komut->Tam(0), komut->Tam(1)};
 }
 
-// Made empty first, so that the copy is open to owner and group only; a name that is taken is left alone.
-std::string BosDosyaAc(const std::string& govde, const std::string& ek) {
-  for (int no = 1; no < 1000; ++no) {
-    const std::string yol = govde + (no == 1 ? "" : "-" + std::to_string(no)) + ek;
-    const int dosya = ::open(yol.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0660);
-    if (dosya >= 0) {
-      ::close(dosya);
-      return yol;
-    }
-    if (errno != EEXIST) break;
-  }
-  throw MotorHatasi(MotorKusuru::Acilamadi, "dosya açılamadı: " + govde + ek);
-}
-
-// What the steps do, between the copy and the last words.
+// What the steps do, between the backup and the last words.
 GuncellemeSonucu Yurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Bildirim& bildirim,
                        Ilerleme* ilerleme) {
   const auto adimlar = std::size_t(std::ranges::count(isaretli, true));
@@ -145,24 +129,13 @@ bool SigortaTuruOnayi(Oturum& o, const AdimIsaretleri& isaretli, Bildirim& bildi
                                  std::to_string(degisen) + " kart değişecek");
 }
 
-Sonuc<std::string> YukseltmeOncesiKopya(Oturum& o) {
-  const std::string depo = DepoAdresi(o.FirmaDizini);
-  return Koru(
-      [&] {
-        if (!o.depo.db.AcikMi()) throw MotorHatasi(MotorKusuru::Acilamadi, "Veritabanı açık değil");
-        o.depo.TablolariKapat(KapatmaKapsami::YalnizImlecler);
-        const std::string kopya = BosDosyaAc(depo + "." + VersiyonMetni(o.depo.Versiyon()), ".yedek");
-        try {
-          const auto komut = o.depo.db.IcMotor().Hazirla("vacuum into ?");
-          komut->MetinBagla(1, kopya);
-          komut->Calistir();
-        } catch (...) {
-          MotorDosyasiniSil(kopya);
-          throw;
-        }
-        return kopya.substr(kopya.rfind('/') + 1);
-      },
-      "Yükseltmeden önce veritabanının kopyası alınamadı, hiçbir geçiş yapılmadı: ");
+Sonuc<std::string> YukseltmeOncesiYedek(Oturum& o) {
+  const Kusur kapali{"Veritabanı açık değil"};
+  const auto yedek = o.depo.db.AcikMi()
+                         ? YedekAl(o.DataPath, o.FirmaKod, {.tur = YedekTuru::Yukseltme, .depo = &o.depo.db.IcMotor()})
+                         : Sonuc<AlinanYedek>(kapali);
+  if (yedek) return yedek->yol;
+  return Kusur{"Yükseltmeden önce yedek alınamadı, hiçbir geçiş yapılmadı: " + yedek.KusurMetni()};
 }
 
 GuncellemeSonucu VeritabaniGuncelle(Oturum& o, std::size_t adim, Tutar sskTaban, Bildirim& bildirim) {
@@ -201,9 +174,9 @@ GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar 
   }
   // Given up before the first step, it is as if nothing had been ticked.
   if (ilerleme != nullptr && !ilerleme->Kesin()) return GuncellemeSonucu::IsaretYok;
-  const auto kopya = YukseltmeOncesiKopya(o);
-  if (!kopya) {
-    bildirim.Uyari(kopya.KusurMetni());
+  const auto yedek = YukseltmeOncesiYedek(o);
+  if (!yedek) {
+    bildirim.Uyari(yedek.KusurMetni());
     return GuncellemeSonucu::Basarisiz;
   }
   const GuncellemeSonucu sonuc = Yurut(o, isaretli, sskTaban, bildirim, ilerleme);
@@ -213,7 +186,7 @@ GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar 
     for (const Durum& kalan : {AlanKontrol(o), CiftKontrol(o)})
       if (!kalan) bildirim.Uyari(kalan.KusurMetni());
   }
-  bildirim.Bilgi("Yükseltmeden önceki veritabanının kopyası: " + *kopya);
+  bildirim.Bilgi("Yükseltmeden önceki yedek: " + *yedek);
   return sonuc;
 }
 

@@ -56,8 +56,8 @@ Durum YapiKontrol(Oturum& o);
 // False: its user does not want that.
 bool SigortaTuruOnayi(Oturum& o, const AdimIsaretleri& isaretli, Bildirim& bildirim);
 
-// The store as it is, in a file beside it that is named after its version; gives the file's name.
-Sonuc<std::string> YukseltmeOncesiKopya(Oturum& o);
+// The company as it is, among its backups; gives the file's address.
+Sonuc<std::string> YukseltmeOncesiYedek(Oturum& o);
 
 // One step, 0 to 6, on the session's company. `sskTaban` is the monthly floor of the social-security base as the
 // parameters have it now.

@@ -133,7 +133,7 @@ bool AcikSirketeGetir(EkranBaglami& baglam, const std::string& dosya, const std:
   const auto yurut = [&](const std::function<void(Ilerleme*)>& is) {
     if (!birak()) return false;
     birakildi = true;
-    baglam.oturum.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
+    SirketKapat(baglam.oturum);
     return UzunYurutucu(baglam)(is);
   };
   const auto donus = YedektenDon(baglam.oturum.DataPath, {.dosya = dosya}, baglam.bildirim, yurut);

@@ -6,6 +6,8 @@
 #include "core/session/eskidepo.h"
 #include "core/session/ornekoturum.h"
 #include "core/session/sirket.h"
+#include "core/session/sirketyedegi.h"
+#include "core/session/yedektendon.h"
 #include "core/store/satirlar.h"
 #include "core/tables/tablolar.h"
 #include "core/tablo.h"
@@ -19,12 +21,11 @@ using test::Tablo;
 const AdimIsaretleri Hepsi{true, true, true, true, true, true, true};
 const Tutar Taban(444.15);
 
-std::string KopyaIletisi(const std::string& dosya) {
-  return "Bilgi: Yükseltmeden önceki veritabanının kopyası: tolu.dat." + dosya + ".yedek";
-}
-
 struct Yukseltme : test::OrnekOturum {
   Yukseltme() { Kur(); }
+
+  std::string SonYedek() { return SirketYedekleri(o.DataPath, o.FirmaKod).at(0).yol; }
+  std::string YedekIletisi() { return "Bilgi: Yükseltmeden önceki yedek: " + SonYedek(); }
 
   void Yaslandir() {
     test::DepoyuYaslandir(o);
@@ -106,7 +107,7 @@ TEST_F(Yukseltme, RepeatedSteps) {
   EXPECT_EQ(Satir("select epos || kanun, tersfirma, versiyon from firma"), "00000 0 2003.6");
   EXPECT_EQ(Satir("select tur, tahsisno || kanun from sicil order by kod"), "18 705084 15 ");
   EXPECT_EQ(Satir("select ogv, katki, sendika from brd"), "5 0 8");
-  EXPECT_EQ(b.iletiler, Iletiler{KopyaIletisi("2003.7")});
+  EXPECT_EQ(b.iletiler, Iletiler{YedekIletisi()});
 }
 
 // Each step by itself is missing in a store that says it is of this version; the step mends it.
@@ -151,15 +152,13 @@ TEST_F(Yukseltme, OneStepAloneLeavesAStoreThatSaysSo) {
   ASSERT_EQ(soylenen.size(), 2u);
   EXPECT_THAT(soylenen[0], testing::AllOf(testing::HasSubstr("2003.6' den 2003.7 ' ye Geçiş (sicil.agi, esco.agiok"),
                                           testing::HasSubstr("bordro kaydedilmez")));
-  EXPECT_EQ(soylenen[1], KopyaIletisi("1"));
-  // The copy is the store before the first step; a second one takes another name.
-  {
-    Veritabani kopya;
-    ASSERT_TRUE(kopya.DbAc(o.FirmaDizini + "tolu.dat.1.yedek"));
-    EXPECT_TRUE(kopya.TabloVarMi("sicil") && !kopya.AlanVarMi("firma", "versiyon"));
-  }
-  EXPECT_EQ(*YukseltmeOncesiKopya(o), "tolu.dat.2003.7.yedek");
-  EXPECT_EQ(*YukseltmeOncesiKopya(o), "tolu.dat.2003.7-2.yedek");
+  EXPECT_EQ(soylenen[1], YedekIletisi());
+  // The backup is the store before the first step.
+  EXPECT_EQ(SirketYedekleri(o.DataPath, o.FirmaKod).at(0).ad.tur, YedekTuru::Yukseltme);
+  ASSERT_TRUE(*YedektenDon(o.DataPath, {.dosya = SonYedek(), .yeniKod = "eski"}, b));
+  Veritabani kopya;
+  ASSERT_TRUE(kopya.DbAc(o.DataPath + "ESKİ/tolu.dat"));
+  EXPECT_TRUE(kopya.TabloVarMi("sicil") && !kopya.AlanVarMi("firma", "versiyon"));
 }
 
 TEST_F(Yukseltme, TellsHowManyCardsGetAnotherKindOfInsurance) {
@@ -180,7 +179,7 @@ TEST_F(Yukseltme, ChainStopsAtTheFirstFailure) {
   Sql("delete from firma; insert into sicil (kod, tur) values ('1', 5)");
   EXPECT_EQ(AdimlariYurut(o, Hepsi, Taban, b), GuncellemeSonucu::Basarisiz);
   EXPECT_EQ(b.Al(), (Iletiler{"Uyarı: 2003.2' den 2003.3 ' ye Geçiş\nyapılamadı: firma kaydı yok, versiyon yazılamadı",
-                              KopyaIletisi("1")}));
+                              YedekIletisi()}));
   EXPECT_EQ(Satir("select tur, agi from sicil"), "5 -") << "later steps have not run";
   // A step that fails half way leaves neither its fields nor its filling nor its stamp.
   Sql("insert into firma (versiyon) values (2003.1); insert into brd (kod, katki) values ('1', 7)");
@@ -201,7 +200,7 @@ TEST_F(Yukseltme, StoreThatCannotBeOpenedAgain) {
   EXPECT_EQ(Adim(1), GuncellemeSonucu::ProgramBitsin);
   EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Dosyalar Güvenli Kapatılıp Açılamadı.."});
   EXPECT_EQ(AdimlariYurut(o, Hepsi, Taban, b), GuncellemeSonucu::Basarisiz) << "no step without a copy";
-  EXPECT_THAT(b.Al(), testing::ElementsAre(testing::HasSubstr("kopyası alınamadı, hiçbir geçiş yapılmadı")));
+  EXPECT_THAT(b.Al(), testing::ElementsAre(testing::HasSubstr("yedek alınamadı, hiçbir geçiş yapılmadı")));
 }
 
 }  // namespace

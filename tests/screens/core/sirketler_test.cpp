@@ -7,6 +7,7 @@
 #include "core/session/eskidepo.h"
 #include "core/session/muhasebecibilgi.h"
 #include "core/session/sirket.h"
+#include "core/session/sirketyedegi.h"
 #include "ekran/sirayla.h"
 #include "screens/core/Dbupdate.h"
 #include "screens/core/firlist.h"
@@ -144,7 +145,8 @@ TEST(DbupdateEkrani, BringsAnOldStoreUp) {
     ortam.Yaz("\n");
   });
   EXPECT_EQ(VeritabaniGuncelleGoster(ortam.ekran, ortam.parametreler), GuncellemeSonucu::Tamam);
-  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: Yükseltmeden önceki veritabanının kopyası: tolu.dat.1.yedek"});
+  EXPECT_EQ(ortam.bildirim.Al(),
+            Iletiler{"Bilgi: Yükseltmeden önceki yedek: " + SirketYedekleri(ortam.oturum.DataPath, "TEST").at(0).yol});
   EXPECT_TRUE(VersiyonKontrol(ortam.oturum));
   EXPECT_TRUE(ortam.oturum.depo.db.AlanVarMi("brd", "brdkanun"));
 }
