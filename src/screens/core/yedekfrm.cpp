@@ -1,5 +1,6 @@
 #include "screens/core/yedekfrm.h"
 
+#include "core/kaynak.h"
 #include "core/turkce.h"
 #include "ui/listedoldur.h"
 #include "ui/uzunis.h"
