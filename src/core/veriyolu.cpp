@@ -5,11 +5,10 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
-#include <sys/file.h>
 #include <sys/stat.h>
-#include <thread>
 #include <unistd.h>
 
+#include "core/dizinkilidi.h"
 #include "core/dosya.h"
 #include "core/gecici.h"
 #include "core/yarimdizin.h"
@@ -18,18 +17,6 @@ namespace belvani {
 namespace {
 
 namespace fs = std::filesystem;
-
-// flock on the directory itself: nothing is left behind, and it goes with the process that held it.
-class DizinKilidi final : public YolKilidi {
- public:
-  explicit DizinKilidi(int no) : no_(no) {}
-  ~DizinKilidi() override { ::close(no_); }
-  DizinKilidi(const DizinKilidi&) = delete;
-  DizinKilidi& operator=(const DizinKilidi&) = delete;
-
- private:
-  int no_;
-};
 
 constexpr std::string_view IsaretOnEki = ".isaret-";
 constexpr std::size_t EnCokIsaret = 4096;
@@ -92,17 +79,7 @@ class DizinMakinesi final : public VeriMakinesi {
     return isaretler;
   }
   Sonuc<std::unique_ptr<YolKilidi>> Kilitle(std::chrono::milliseconds enCok) const override {
-    constexpr std::chrono::milliseconds aralik{20};
-    const int no = ::open(dizin_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (no < 0) return std::unique_ptr<YolKilidi>();
-    std::unique_ptr<YolKilidi> kilit = std::make_unique<DizinKilidi>(no);
-    const auto son = std::chrono::steady_clock::now() + enCok;
-    while (::flock(no, LOCK_EX | LOCK_NB) != 0) {
-      if (errno != EWOULDBLOCK && errno != EINTR) return std::unique_ptr<YolKilidi>();
-      if (std::chrono::steady_clock::now() >= son) return Kusur{dizin_ + ": başka bir program yazıyor"};
-      std::this_thread::sleep_for(aralik);
-    }
-    return kilit;
+    return DiziniKilitle(dizin_, enCok);
   }
   std::string Adres(std::string_view ad) const override { return dizin_ + std::string(ad); }
   std::shared_ptr<const VeriMakinesi> Alt(std::string_view ad) const override {
