@@ -65,7 +65,7 @@ struct GeriAlSecenekleri {
 
 void GeriAl(Genel& genel, const GeriAlSecenekleri& s) {
   const Donem donem = DonemOku(s.ay);
-  const auto o = genel.SirketAc(s.kod);
+  const auto o = genel.YazmayaAc(s.kod);
   OnayliBildirim onayli;
   auto gelen = AyiGeriAl(*o, donem.yil, donem.ay, s.onay ? onayli : static_cast<Bildirim&>(genel.bildirim));
   if (!Degeri(gelen)) throw KomutHatasi{"Geri alınmadı; geri almak için --onay veriniz: " + s.ay};

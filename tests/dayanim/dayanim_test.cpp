@@ -129,7 +129,7 @@ class Yer {
     std::vector<std::string> adlar;
     for (const auto& g : fs::recursive_directory_iterator(Yol())) {
       const std::string ad = g.path().filename();
-      if (ad.starts_with(".isaret-")) continue;
+      if (ad.starts_with(".isaret-") || ad == ".yedek") continue;
       if (ad.starts_with('.') || (ad.find('.') != ad.rfind('.'))) adlar.push_back(ad);
     }
     return adlar;
@@ -156,7 +156,8 @@ class Yer {
         const auto komut = motor->Hazirla("select * from " + tablo + " order by rowid");
         while (komut->Adim()) {
           icerik += "\n";
-          for (int i = 0; i < komut->KolonSayisi(); ++i) icerik.append(komut->Metin(i)).append("|");
+          for (int i = 0; i < komut->KolonSayisi(); ++i)
+            if (!komut->KolonAdi(i).ends_with("_an")) icerik.append(komut->Metin(i)).append("|");  // no clock
         }
       }
       return icerik;
@@ -167,12 +168,13 @@ class Yer {
   GeciciDizin dizin_;
 };
 
-// The sample company with its people, a month prepared and the law of the next one installed.
+// The sample company with its people, a backup, a month prepared twice and the law of the next one installed.
 class Ornek {
  public:
   Ornek() {
     const std::string ornek = KaynakYolu("data/ornek/");
     Dosya("ucret.csv", "kod,ucret\n001,1234.5\n002,2345.6\n");
+    Dosya("zam.csv", "kod,ucret\n001,3456.7\n");
     Dosya("firma.csv", "unvan,issaati\nBaşka Ünvan,7.5\n");
     Komut("sirket-ac ORNEK --kullanici ornek --yil 2009 --ay 12");
     for (const char* tablo : {"firma", "muaf", "indir", "sendika", "kaztan"})
@@ -180,7 +182,11 @@ class Ornek {
     Komut("personel-al ORNEK " + ornek + "personel.csv");
     Komut("aile-al ORNEK " + ornek + "aile.csv");
     Komut("parametre-kur --donem 2009-11");
-    Komut("hazirla ORNEK --yil 2009 --ay 11");
+    Komut("yedekle ORNEK -o " + dosyalar_.Yol() + "yedek.zip");
+    for (const char* ucret : {"ucret.csv", "zam.csv"}) {
+      Komut("personel-al ORNEK " + dosyalar_.Yol() + ucret);
+      Komut("hazirla ORNEK --yil 2009 --ay 11");
+    }
     Komut("parametre-kur --donem 2009-12");
   }
 
@@ -328,6 +334,10 @@ const std::vector<YazanKomut>& YazanKomutlar() {
       {"tanim_al", "tanim-al ORNEK firma @firma.csv", "sirketler"},
       {"personel_al", "personel-al ORNEK @ucret.csv", "denetle ORNEK"},
       {"hazirla", "hazirla ORNEK --yil 2009 --ay 12", defter + "12"},
+      {"geri_al", "geri-al ORNEK --ay 2009-11 --onay", defter + "11"},
+      {"yedekle", "yedekle ORNEK", "sirketler"},
+      {"yedekten", "yedekten @yedek.zip --onay", "sirketler"},
+      {"yedekten_yeni", "yedekten @yedek.zip --kod YENI", "sirketler"},
       {"bordro_sil", "bordro-sil ORNEK --yil 2009 --ay 11", defter + "11"},
   };
   return komutlar;

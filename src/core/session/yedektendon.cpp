@@ -4,10 +4,10 @@
 #include <unistd.h>
 
 #include "core/dosya.h"
+#include "core/session/paylasim.h"
 #include "core/session/sirket.h"
 #include "core/session/sirketyedegi.h"
 #include "core/session/tekbasina.h"
-#include "core/store/dosyasistemi.h"
 #include "core/store/koru.h"
 #include "core/yarimdizin.h"
 #include "core/yedek/arsiv.h"
@@ -60,10 +60,6 @@ Durum DepoyuHazirla(const std::string& dizin, DepoYeri yer) {
       "Yedekteki veritabanı açılamadı: ");
 }
 
-DepoYeri BosYer(const VeriYolu& veri) {
-  return PaylasilanDiskte(veri.Adres()) ? DepoYeri::Paylasilan : DepoYeri::BuBilgisayar;
-}
-
 // A program that has opened the replaced store but not yet read from it must not go on in a file that is nobody's: it
 // finds that this is no store.
 void DepoyuGecersizKil(const std::string& yol) {
@@ -85,8 +81,8 @@ Sonuc<Donus> Don(const VeriYolu& veri, const YedekArsivi& arsiv, const DonusYeri
   auto yarim = YarimDizin::Ac(veri.Adres(), yer.ad, YarimTuru::Donen);
   if (!yarim) return yarim.Kusuru();
   if (Durum cikti = arsiv.Cikar(yarim->Yol(), ilerleme); !cikti) return cikti.Kusuru();
-  if (Durum hazir = DepoyuHazirla(yarim->Yol(), simdiki ? simdiki->Yeri() : BosYer(veri)); !hazir)
-    return hazir.Kusuru();
+  const DepoYeri depoYeri = simdiki ? simdiki->Yeri() : YeniDepoYeri(veri);
+  if (Durum hazir = DepoyuHazirla(yarim->Yol(), depoYeri); !hazir) return hazir.Kusuru();
   if (yer.dolu) {
     auto onceki = YedekAl(veri, yer.ad, {.tur = YedekTuru::Donus, .depo = simdiki.get()}, ilerleme);
     if (!onceki) return Kusur{"Şimdiki hali yedeklenemedi, yedek geri yüklenmedi:\n" + onceki.KusurMetni()};
