@@ -109,15 +109,14 @@ bool BaskasininTuzagi(const std::string& yol) {
   struct stat hal {
   }, ust{};
   if (::lstat(yol.c_str(), &hal) != 0 || ::stat(UstDizin(yol).c_str(), &ust) != 0) return false;
-  const bool herkesin = (ust.st_mode & S_ISVTX) != 0 && (ust.st_mode & S_IWOTH) != 0;
-  return herkesin && hal.st_uid != ::geteuid() && hal.st_uid != ust.st_uid;
+  const bool ortak = (ust.st_mode & S_ISVTX) != 0;
+  return ortak && hal.st_uid != ::geteuid() && hal.st_uid != ust.st_uid;
 }
 
 Sonuc<BagSonu> BagSonunuBul(const std::string& yol) {
   Yuruyus yuruyus(yol);
   const int kod = yuruyus.Yuru();
-  if (yuruyus.Tuzak())
-    return Kusur{yol + ": dosya yazılamadı (herkesin yazabildiği bir dizinde, başkasının koyduğu bir bağ)"};
+  if (yuruyus.Tuzak()) return Kusur{yol + ": dosya yazılamadı (ortak bir dizine başkasının koyduğu bir bağ)"};
   if (kod != 0) return DosyaHatasi(yol, "dosya yazılamadı", kod);
   return yuruyus.Sonu();
 }

@@ -16,7 +16,8 @@ struct BagSonu {
 // The last name need not exist.
 Sonuc<BagSonu> BagSonunuBul(const std::string& yol);
 
-// Laid by somebody else into a directory that is open to all: whoever writes there writes where the other wants.
+// Laid by somebody else into a directory that many share (sticky, as /tmp is): whoever writes there writes where the
+// other wants.
 bool BaskasininTuzagi(const std::string& yol);
 
 }  // namespace belvani

@@ -87,8 +87,9 @@ Durum DizinYarat(const std::string& yol) {
   for (const auto& parca : fs::path(yol)) {
     olusan /= parca;
     if (fs::is_directory(olusan, hata)) continue;
-    fs::create_directory(olusan, hata);
+    const bool yeni = fs::create_directory(olusan, hata);
     if (hata) return DosyaHatasi(olusan, "dizin yaratılamadı", hata.value());
+    if (!yeni) continue;  // it was there, whatever the first look said: its permissions are not ours
     // By steps, so that a group inherited from the directory above stays.
     fs::permissions(olusan, fs::perms(0770), fs::perm_options::add, hata);
     fs::permissions(olusan, fs::perms::others_all, fs::perm_options::remove, hata);
