@@ -63,6 +63,9 @@ TEST_F(AySaklama, WrittenOverAndDeletedItComesBack) {
   bildirim.cevap = true;
   EXPECT_EQ(GeriAl(), 3);
   EXPECT_EQ(Ay(), once);
+  const Kusurlar ozetler = BrdOzetKusurlari(motor());
+  ASSERT_EQ(ozetler.size(), 1u) << "of the record that was changed by hand, and of no other";
+  EXPECT_EQ(ozetler[0].kod, "2");
   EXPECT_EQ(GeriAl(), 3) << "what stood there was kept";
   EXPECT_EQ(Ay(), sonra);
 
