@@ -4,7 +4,6 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <pwd.h>
-#include <thread>
 #include <unistd.h>
 
 #include "core/ayarlar.h"
@@ -138,25 +137,6 @@ TEST(Ayarlar, OfTheMachineAreReadableByAll) {
   }
   ASSERT_TRUE(KullaniciAyariYaz("lastfirm", "A"));
   EXPECT_EQ(Izinler(d.Yol() + "personel.ini"), 0660u) << "a user's own";
-}
-
-TEST(Ayarlar, FourWritersLoseNoValue) {
-  const GeciciDizin d;
-  const std::string dosya = d.Yol() + "ortak.ini";
-  std::vector<std::thread> yazanlar;
-  for (int kim = 0; kim < 4; ++kim)
-    yazanlar.emplace_back([&, kim] {
-      for (int i = 0; i < 25; ++i) {
-        const std::string ad = std::to_string(kim) + "-" + std::to_string(i);
-        EXPECT_TRUE(IniYaz("bolum", ad, ad, dosya));
-      }
-    });
-  for (auto& yazan : yazanlar) yazan.join();
-  for (int kim = 0; kim < 4; ++kim)
-    for (int i = 0; i < 25; ++i) {
-      const std::string ad = std::to_string(kim) + "-" + std::to_string(i);
-      EXPECT_EQ(IniOku("bolum", ad, "kayıp", dosya), ad);
-    }
 }
 
 }  // namespace

@@ -1,12 +1,14 @@
 // The place of data: what is written whole is read whole, a place keeps to itself, and one writer waits for the other.
 #include "core/veriyolu.h"
 
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <thread>
 
 #include "core/ini.h"
+#include "core/tutamak.h"
 #include "core/yarimdizin.h"
 #include "gecici.h"
 
@@ -82,6 +84,20 @@ TEST(VeriYolu, OneWriterWaitsForTheOther) {
   for (int i = 0; i < adet; ++i)
     for (const char* on : {"a", "b"})
       EXPECT_EQ(IniOku("Bolum", on + std::to_string(i), "yok", dizin.Yol() + "ortak.ini"), std::to_string(i));
+}
+
+// On a network file system, where no directory can be locked, the programs of all computers lock a file in it.
+TEST(VeriYolu, AWriterOnTheNetworkIsWaitedForToo) {
+  const test::GeciciDizin dizin;
+  const VeriYolu veri = dizin.Yol();
+  DosyaTutamagi baskasi(::open((dizin.Yol() + ".kilit").c_str(), O_CREAT | O_RDWR, 0660));
+  struct flock hepsi {};
+  hepsi.l_type = F_WRLCK;
+  ASSERT_EQ(::fcntl(baskasi.No(), F_OFD_SETLK, &hepsi), 0);
+  EXPECT_FALSE(veri.Kilitle(std::chrono::milliseconds(50)));
+  baskasi.Kapat();
+  EXPECT_TRUE(IniYaz("Bolum", "a", "1", IniDosyasi(veri, "ortak.ini")));
+  EXPECT_TRUE(veri.Dosyalar() == std::vector<std::string>{"ortak.ini"}) << "the lock is no file of the place";
 }
 
 // What a killed writer has left behind holds for readers at once, and the next writer moves it.
