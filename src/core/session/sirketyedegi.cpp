@@ -117,7 +117,8 @@ class Yedekleme {
     }
     if (DizinVar(istek_.hedef)) return DizinSonu(istek_.hedef) + kunye_.sirket + "-" + ad_.Metin();
     std::error_code hata;
-    if (fs::exists(istek_.hedef, hata) && !fs::is_regular_file(istek_.hedef, hata))
+    const fs::file_type tur = fs::symlink_status(istek_.hedef, hata).type();  // a link may be somebody else's
+    if (tur != fs::file_type::regular && tur != fs::file_type::not_found)
       return Kusur{"Yedek yalnızca bir dosyaya yazılır: " + istek_.hedef};
     if (!DizinVar(DizinSonu(fs::path(istek_.hedef).parent_path())))
       return Kusur{"Yedeğin yazılacağı dizin bulunamadı: " + istek_.hedef};

@@ -121,6 +121,8 @@ TEST_F(SirketYedegi, ChosenPlaces) {
   EXPECT_TRUE(Turler("DENEME").empty());
   EXPECT_EQ(YedekAl(o.DataPath, "DENEME", {.hedef = "/dev/null"}).KusurMetni(),
             "Yedek yalnızca bir dosyaya yazılır: /dev/null");
+  fs::create_symlink(d.Yol() + "usb/a.zip", d.Yol() + "bag.zip");
+  EXPECT_FALSE(YedekAl(o.DataPath, "DENEME", {.hedef = d.Yol() + "bag.zip"}));
   EXPECT_FALSE(YedekAl(o.DataPath, "DENEME", {.hedef = d.Yol() + "yok/a.zip"}));
   EXPECT_FALSE(fs::exists(d.Yol() + "yok"));
   EXPECT_EQ(YedekAl(o.DataPath, "YOK").KusurMetni(), "Şirket Bulunamadı: YOK");
