@@ -3,7 +3,6 @@
 
 #include "cli/ortak.h"
 #include "core/deger.h"
-#include "core/store/depodenetimi.h"
 #include "core/store/depoonarimi.h"
 #include "core/store/koru.h"
 #include "core/tables/uye.h"
@@ -68,8 +67,8 @@ void Denetle(Genel& genel, const DenetleSecenekleri& s) {
     auto onarim = DepoyuOnar(motor, s.kalan);
     Yaz(OnarimMetni(Degeri(onarim)));
   }
-  const auto bulgular = Koru([&] { return DepoKusurlari(motor); });
-  if (!bulgular) throw KomutHatasi{"Veritabanı okunamadı: " + bulgular.KusurMetni()};
+  const auto bulgular = DepoDenetle(*o);
+  if (!bulgular) throw KomutHatasi{bulgular.KusurMetni()};
   if (std::ranges::any_of(*bulgular, [](const Kusur& k) { return k.derece == Derece::Hata; }))
     throw KomutHatasi{"Veritabanı bozuk: " + o->FirmaKod + BulguSatirlari(*bulgular)};
   auto uyarilar = SirketDenetle(*o);

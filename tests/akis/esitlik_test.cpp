@@ -113,7 +113,7 @@ TEST(Esitlik, WhatTheMassRunPrintsStandsInTheListOfTheScreen) {
 TEST(Esitlik, WhatTheCheckOfACompanyPrintsStandsInTheControlReport) {
   KusurluSirket o;
   o.Tamam("hazirla KUSUR --yil 2009 --ay 7");
-  o.Sql("update brd set yuzsgk = 13 where kod = '013'");
+  o.Sql("update brd set sskiscior = 13 where kod = '013'");
   o.Sql("insert into esco (kod, adi) values ('777', 'Kimsesiz')");
   const Cikti c = o.komut("denetle KUSUR");
   EXPECT_THAT(c.mesaj + c.cikti, testing::AllOf(testing::HasSubstr("011"), testing::HasSubstr("777")));

@@ -59,8 +59,9 @@ TEST(AylikBildirge, ChoiceOrderAndWhoIsLeftOut) {
 
 TEST(AylikBildirge, ComparesWithTheMonthBefore) {
   BildirgeSirketi s;
-  const auto onceki = [&](const char* kod, int yil, int ay, double matrah, int gun) {
+  const auto onceki = [&](const char* kod, int yil, int ay, double matrah, int gun, int no = 1) {
     Sigortali p(kod, yil, ay);
+    p.brd.no = std::uint8_t(no);
     p.brd.sskmatrahisveren = Tutar(matrah);
     p.brd.ng = std::uint8_t(gun - p.brd.ht);
     s.Yaz(p.brd);
@@ -77,7 +78,7 @@ TEST(AylikBildirge, ComparesWithTheMonthBefore) {
   onceki("4yok", 2008, 11, 1000, 30);
   onceki("4yok", 2009, 12, 1000, 30);
   onceki("5ilk", 2008, 12, 1000, 30);
-  onceki("5ilk", 2008, 12, 900, 15);
+  onceki("5ilk", 2008, 12, 900, 15, 2);
   onceki("6KOD", 2008, 12, 1000, 30);
   onceki("7para", 2008, 12, 2, 30);
   ASSERT_TRUE(s.bildirge.Ac());

@@ -5,6 +5,7 @@
 
 #include "core/asama.h"
 #include "core/session/sinifbakimi.h"
+#include "core/store/depodenetimi.h"
 #include "core/store/koru.h"
 #include "core/store/satirlar.h"
 #include "core/tables/tablolar.h"
@@ -164,6 +165,11 @@ Sonuc<Kusurlar> SirketDenetle(Oturum& o, Ilerleme* ilerleme) {
         return kusurlar;
       },
       "Şirket kayıtları okunamadı: ");
+}
+
+Sonuc<Kusurlar> DepoDenetle(Oturum& o) {
+  if (!o.depo.db.AcikMi()) return Kusur{"Veritabanı açık değil"};
+  return Koru([&] { return DepoKusurlari(o.depo.db.IcMotor()); }, "Veritabanı okunamadı: ");
 }
 
 }  // namespace belvani

@@ -33,14 +33,17 @@ kontfrm::kontfrm(EkranBaglami& baglam)
 // What the whole company has comes before what its people have.
 void kontfrm::Doldur() {
   struct Kontrol {
-    Sonuc<Kusurlar> sirket;
+    Sonuc<Kusurlar> depo, sirket;
     Sonuc<std::vector<KontrolSatiri>> kisiler;
   };
   const auto kontrol = UzunIs(Baglam(), QStringLiteral("Personel kayıtları kontrol ediliyor…"), [this](Ilerleme& i) {
-    return Kontrol{SirketDenetle(Oturumu(), &i), KontrolRaporu(Oturumu(), &i)};
+    i.Asama("Veritabanı okunuyor…");
+    auto depo = DepoDenetle(Oturumu());
+    return Kontrol{std::move(depo), SirketDenetle(Oturumu(), &i), KontrolRaporu(Oturumu(), &i)};
   });
-  if (!kontrol || !Oldu(kontrol->sirket) || !Oldu(kontrol->kisiler)) return;
-  bulgular_ = *kontrol->sirket;
+  if (!kontrol || !Oldu(kontrol->depo) || !Oldu(kontrol->sirket) || !Oldu(kontrol->kisiler)) return;
+  bulgular_ = *kontrol->depo;
+  bulgular_.insert(bulgular_.end(), kontrol->sirket->begin(), kontrol->sirket->end());
   std::vector<KontrolSatiri> satirlar;
   for (const Kusur& k : bulgular_)
     satirlar.push_back({k.kod, k.kod.empty() ? "Firma" : KisiAdi(Oturumu(), k.kod), k.metin});
