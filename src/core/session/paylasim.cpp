@@ -3,6 +3,7 @@
 #include "core/ini.h"
 #include "core/session/sirket.h"
 #include "core/session/tekbasina.h"
+#include "core/store/depokopyasi.h"
 #include "core/store/dosyasistemi.h"
 #include "core/store/koru.h"
 
@@ -32,6 +33,7 @@ Durum DepoYeriDegistir(const VeriYolu& veri, std::string_view ad, DepoYeri yer) 
   const std::string yol = DepoAdresi(sirket);
   if (yer == DepoYeri::BuBilgisayar && PaylasilanDiskte(sirket.Adres()))
     return Kusur{"Paylaşılan diskteki şirket yalnız bu bilgisayar için kurulamaz:\n" + yol};
+  if (!DepoYazilir(yol)) return Kusur{"Şirketin dosyaları yazılamıyor, değiştirilmedi:\n" + yol};
   const auto motor = TekBasinaAc(sirket, "değiştirilmedi");
   if (!motor) return motor.Kusuru();
   if (*motor == nullptr) return Kusur{"Veritabanı açılamadı:\n" + yol};
