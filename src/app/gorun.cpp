@@ -56,10 +56,11 @@ gorun::gorun(EkranBaglami& baglam, std::function<void(const GorunumAyari&)> gost
   auto* yatay = new QHBoxLayout;
   yatay->setSpacing(12);
   auto* sol = new QVBoxLayout;
-  for (QWidget* parca : {RenkleriYap(), HazirlariYap()}) sol->addWidget(parca);
+  for (QWidget* parca : {RenkleriYap(), HazirlariYap(), YazilariYap()}) sol->addWidget(parca);
   sol->addStretch(1);
   auto* sag = new QVBoxLayout;
-  for (QWidget* parca : {YazilariYap(), AnaPencereYap(), OrnekYap()}) sag->addWidget(parca);
+  for (QWidget* parca : {AnaPencereYap(), OrnekYap()}) sag->addWidget(parca);
+  sag->addStretch(1);
   yatay->addLayout(sol);
   yatay->addLayout(sag);
   Govde()->addLayout(yatay);

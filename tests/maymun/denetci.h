@@ -35,15 +35,16 @@ class Denetci {
   explicit Denetci(std::string veri) : veri_(std::move(veri)) { Degisen(); }
 
   // The store or parameter file that has changed since the last call; empty: none. SQLite's shared memory changes by
-  // reading too, an empty journal comes and goes with the connections, and what is chosen on a screen is kept in an
-  // .ini when that goes.
+  // reading too, an empty journal comes and goes with the connections, what is chosen on a screen is kept in an .ini
+  // when that goes, and the marks of who is in and the backups at leaving are the program's own.
   std::string Degisen() {
     std::map<std::string, std::pair<std::uintmax_t, std::filesystem::file_time_type>> simdi;
     std::error_code hata;
     for (const auto& dosya : std::filesystem::recursive_directory_iterator(veri_, hata)) {
       const std::string yol = dosya.path();
       const bool bos = dosya.is_directory(hata) || dosya.file_size(hata) == 0;
-      if (bos || yol.ends_with("-shm") || yol.ends_with(".ini")) continue;
+      const bool kendinin = yol.find("/.isaret-") != yol.npos || yol.find("/.yedek/") != yol.npos;
+      if (bos || kendinin || yol.ends_with("-shm") || yol.ends_with(".ini")) continue;
       simdi[yol] = {dosya.file_size(hata), dosya.last_write_time(hata)};
     }
     const auto onceki = std::exchange(dosyalar_, std::move(simdi));
