@@ -126,7 +126,7 @@ void anamenu::MenuYap() {
 // Pictures take the text colour of the look in force.
 void anamenu::SimgeleriKoy() {
   for (const auto& [giris, kayit] : girisler_)
-    giris->setIcon(ekran_.oturum.ResimKullan ? Simge(Yazi(kayit->simge)) : QIcon());
+    giris->setIcon(ekran_.oturum.ResimKullan ? MenuSimgesi(Yazi(kayit->simge)) : QIcon());
 }
 
 void anamenu::TuslariBagla() {

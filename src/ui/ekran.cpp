@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QPointer>
+#include <QScreen>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include "ui/form.h"
@@ -10,12 +12,20 @@
 namespace belvani {
 namespace {
 
-// Whatever closes the window, typed work is asked about.
+constexpr QSize PencereKenari(16, 64);  // frame and title, with room for a bar of the desktop
+
+// Whatever closes the window, typed work is asked about. It is as large as its screen asks for, where the display is.
 class ModalPencere final : public QDialog {
  public:
   ModalPencere(Form& form, QWidget* ust) : QDialog(ust), form_(form) {}
   void reject() override {
     if (form_.KapanabilirMi()) QDialog::reject();
+  }
+
+ protected:
+  void showEvent(QShowEvent* olay) override {
+    if (!olay->spontaneous()) resize(sizeHint().boundedTo(screen()->availableSize() - PencereKenari));
+    QDialog::showEvent(olay);
   }
 
  private:

@@ -20,6 +20,7 @@ constexpr QLatin1StringView RenkliSet("/renkli/");
 struct SimgeSeti {
   QColor yazi = Qt::black;
   QColor vurgu = Qt::black;
+  QColor vurguYazi = Qt::white;
   QString dizin;
 
   QColor Renk() const { return dizin.endsWith(RenkliSet) ? vurgu : yazi; }
@@ -44,21 +45,24 @@ QIcon SettenOku(const QString& ad) {
 }
 
 // The drawings are black on nothing.
-QIcon Ciz(const QString& ad) {
-  if (QIcon kendi = SettenOku(ad); !kendi.isNull()) return kendi;
+void Ciz(QIcon& simge, const QString& ad, const QColor& renk, QIcon::Mode hal) {
   QFile dosya(":/simgeler/" + ad + ".svg");
-  if (!dosya.open(QIODevice::ReadOnly)) return {};
+  if (!dosya.open(QIODevice::ReadOnly)) return;
   QByteArray cizim = dosya.readAll();
-  cizim.replace("#000000", Simdiki().Renk().name().toLatin1());
+  cizim.replace("#000000", renk.name().toLatin1());
   QSvgRenderer cizen(cizim);
-  QIcon simge;
   for (const int boy : Boylar) {
     QPixmap resim(boy, boy);
     resim.fill(Qt::transparent);
     QPainter boya(&resim);
     cizen.render(&boya);
-    simge.addPixmap(resim);
+    simge.addPixmap(resim, hal);
   }
+}
+
+QIcon Yap(const QString& ad) {
+  QIcon simge = SettenOku(ad);
+  if (simge.isNull()) Ciz(simge, ad, Simdiki().Renk(), QIcon::Normal);
   return simge;
 }
 
@@ -67,13 +71,22 @@ QIcon Ciz(const QString& ad) {
 QIcon Simge(const QString& ad) {
   static std::map<std::tuple<QString, QString, QRgb>, QIcon> cizilen;
   const auto [yer, yeni] = cizilen.try_emplace({Simdiki().dizin, ad, Simdiki().Renk().rgb()});
-  if (yeni) yer->second = Ciz(ad);
+  if (yeni) yer->second = Yap(ad);
   return yer->second;
 }
 
-void SimgeRenkleri(const QColor& yazi, const QColor& vurgu) {
+QIcon MenuSimgesi(const QString& ad) {
+  QIcon simge = SettenOku(ad);
+  if (!simge.isNull() || ad.isEmpty()) return simge;
+  Ciz(simge, ad, Simdiki().Renk(), QIcon::Normal);
+  Ciz(simge, ad, Simdiki().vurguYazi, QIcon::Active);
+  return simge;
+}
+
+void SimgeRenkleri(const QColor& yazi, const QColor& vurgu, const QColor& vurguYazi) {
   Simdiki().yazi = yazi;
   Simdiki().vurgu = vurgu;
+  Simdiki().vurguYazi = vurguYazi;
 }
 
 void SimgeSetiKoy(const QString& dizin) {

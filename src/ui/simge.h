@@ -10,12 +10,15 @@ namespace belvani {
 // "kaydet", "sil", "ara", "yazici" …; an unknown name gives an empty icon.
 QIcon Simge(const QString& ad);
 
+// The same for an entry of a menu, whose row is in the accent colour while it is the current one.
+QIcon MenuSimgesi(const QString& ad);
+
 // The user's wish for buttons with pictures. One that has no text keeps its own.
 void SimgelerKullanilsin(bool kullan);
 bool SimgelerKullanilir();
 
-// The colours in which pictures are drawn from now on: that of texts, and the accent.
-void SimgeRenkleri(const QColor& yazi, const QColor& vurgu);
+// The colours in which pictures are drawn from now on: that of texts, the accent, and that of texts on the accent.
+void SimgeRenkleri(const QColor& yazi, const QColor& vurgu, const QColor& vurguYazi);
 
 // The set in use: the directory of its own pictures (`kaydet.svg`, `kaydet.png`), which need not exist.
 void SimgeSetiKoy(const QString& dizin);

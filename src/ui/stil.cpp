@@ -241,7 +241,7 @@ void StilKur(QApplication& uygulama, const RenkTablosu& renkler, const GridYazil
     uygulama.setWindowIcon(QIcon(":/simgeler/belvani.svg"));
   }
   const QColor yazi = RenkYap(RenkAl(renkler, Renk::Yazi));
-  SimgeRenkleri(yazi, RenkYap(RenkAl(renkler, Renk::Vurgu)));
+  SimgeRenkleri(yazi, RenkYap(RenkAl(renkler, Renk::Vurgu)), RenkYap(RenkAl(renkler, Renk::VurguText)));
   QApplication::setPalette(Palet(renkler));
   uygulama.setStyleSheet(SayfaYaz(renkler, yazi.lightness() > 128));
   // After the style sheet, whose first setting drops the fonts of classes.

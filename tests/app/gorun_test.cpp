@@ -1,19 +1,26 @@
 // Appearance: seen at once, taken back when not saved, and read again as it was saved.
 #include "app/gorun.h"
 
+#include <QAction>
+#include <QComboBox>
 #include <QHeaderView>
 
 #include "app/anaortam.h"
+#include "core/dosya.h"
 #include "screens/core/kulfrm.h"
 #include "ui/dclist.h"
 #include "ui/renk.h"
+#include "ui/simge.h"
 #include "ui/stil.h"
 
 namespace belvani::test {
 namespace {
 
 struct GorunTest : testing::Test {
-  ~GorunTest() override { StilKur(*qApp, AcikRenkler(), GridYazilari()); }
+  ~GorunTest() override {
+    SimgeSetiKoy({});
+    StilKur(*qApp, AcikRenkler(), GridYazilari());
+  }
 
   gorun& Ac() {
     ortam.pencere->Islem(MenuIslemi::Gorunum);
@@ -42,6 +49,41 @@ TEST_F(GorunTest, PreviewThenCancel) {
   Tikla(Ac(), "koyu");
   ortam.pencere->EkranlariKapat();  // the program ends over an open screen
   EXPECT_EQ(FormRengi(), RenkYap(RenkAl(AcikRenkler(), Renk::FormArka)));
+}
+
+// Of the picture of a menu entry: its colour, and that of its current row.
+QColor MenuRengi(const anamenu& pencere, QIcon::Mode hal) {
+  const QImage resim = pencere.findChild<QAction*>("mnufirbil")->icon().pixmap(QSize(64, 64), hal).toImage();
+  for (int y = 0; y < resim.height(); ++y)
+    for (int x = 0; x < resim.width(); ++x)
+      if (resim.pixelColor(x, y).alpha() == 255) return resim.pixelColor(x, y);
+  return {};
+}
+
+TEST_F(GorunTest, ASetOfPicturesIsSeenAtOnceAndKept) {
+  const auto renk = [](Renk r) { return RenkYap(RenkAl(AcikRenkler(), r)); };
+  EXPECT_EQ(MenuRengi(*ortam.pencere, QIcon::Normal), renk(Renk::Yazi));
+  EXPECT_EQ(MenuRengi(*ortam.pencere, QIcon::Active), renk(Renk::VurguText));
+  const std::string kendi = ortam.oturum.PrgPath + "image/kendi/";
+  ASSERT_TRUE(DizinYarat(kendi));
+  QImage kirmizi(8, 8, QImage::Format_RGB32);
+  kirmizi.fill(Qt::red);
+  ASSERT_TRUE(kirmizi.save(Yazi(kendi + "firma.png")));
+  const auto sec = [&](const char* set) {
+    auto* setler = Ac().findChild<QComboBox*>("imagepath");
+    setler->setFocus();
+    ortam.Yaz(set);
+    Q_EMIT setler->activated(setler->currentIndex());
+  };
+  sec("renkli");
+  EXPECT_EQ(MenuRengi(*ortam.pencere, QIcon::Normal), renk(Renk::Vurgu));
+  ortam.Bas(Qt::Key_Escape);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(MenuRengi(*ortam.pencere, QIcon::Normal), renk(Renk::Yazi)) << "taken back";
+  sec("kendi");
+  ortam.Bas(Qt::Key_F5);
+  ortam.Yeniden();
+  EXPECT_EQ(MenuRengi(*ortam.pencere, QIcon::Normal), QColor(Qt::red));
 }
 
 TEST_F(GorunTest, WhatIsSavedIsRead) {
