@@ -217,7 +217,7 @@ void anamenu::Islem(MenuIslemi islem) {
   }
 }
 
-// A save of an older program could change it unasked. "No" is not asked again; the control report goes on naming it.
+// A save of an earlier version could change it unasked. "No" is not asked again; the control report goes on naming it.
 void anamenu::TehlikeSinifiniSor() {
   const Oturum& o = ekran_.oturum;
   if (!o.firmaVar || SinifBakimiOku(o.FirmaDizini) != SinifBakimi::Sorulmadi) return;

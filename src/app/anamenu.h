@@ -33,7 +33,7 @@ class anamenu : public QMainWindow, public FormGosterici {
   void SerbestGoster(std::unique_ptr<Form> form) override;
   QWidget* ModalUst() override { return this; }
   void KisiyeGit(const std::string& kod, AlanTutamagi alan) override;
-  // Asks once about a company whose class an older program may have changed (core/session/sinifbakimi.h).
+  // Asks once about a company whose class an earlier version may have changed (core/session/sinifbakimi.h).
   void TehlikeSinifiniSor();
   void AyaGec(Yon yon);
 

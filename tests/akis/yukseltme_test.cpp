@@ -1,4 +1,4 @@
-// A company of the oldest program: login, upgrade, and a day's work in it, by keys.
+// A company of the oldest version: login, upgrade, and a day's work in it, by keys.
 #include "app/anaortam.h"
 #include "core/session/eskidepo.h"
 #include "core/session/sirketyedegi.h"

@@ -100,7 +100,7 @@ class RasgeleDeger {
   Deger Tam(const AlanTanimi& alan, double tipinEnCogu) {
     return Sec(std::int64_t(std::max(0.0, alan.sinir.enAz)), std::int64_t(std::min(alan.sinir.enCok, tipinEnCogu)));
   }
-  // With blanks at its ends at times, as an older program has left them.
+  // With blanks at its ends at times, as an earlier version has left them.
   std::string Metin(int enUzun) {
     static const char* const harfler[] = {"a", "b", "ç", "ğ", "ı", "i", "Ö", "Ş",
                                           "Ü", "Z", "0", "7", " ", "'", "&", "-"};

@@ -33,7 +33,7 @@ struct Depo {
   // or brd is a failure, reported in the words of the table; a file that cannot be opened fails without a message.
   bool VeritabaniAc(const std::string& yol, Bildirim& bildirim);
 
-  // `versiyon` of the `firma` record; 1 where none can be read, as in a store of the oldest programs.
+  // `versiyon` of the `firma` record; 1 where none can be read, as in a store of the oldest versions.
   Tek Versiyon();
 
   void TablolariKapat(KapatmaKapsami kapsam);

@@ -32,7 +32,7 @@ inline constexpr Kolon<KullaniciGirisi, std::string> onay{{"onay", AlanTipi::Met
 // Why name and password cannot be kept ("Şifre: en çok 8 harf olabilir"); nothing when they can.
 std::optional<Kusur> KullaniciKusuru(std::string_view kullanici, std::string_view sifre);
 
-// By the name as it is typed, blanks at its ends aside; older programs kept such blanks, and find their users too.
+// By the name as it is typed, blanks at its ends aside; earlier versions kept such blanks, and find their users too.
 std::optional<Peruser> KullaniciBul(Oturum& o, std::string_view ad);
 
 // In the order of the names.

@@ -7,7 +7,7 @@
 namespace belvani {
 namespace {
 
-// An earlier program has no names of this table, but its engine runs the triggers. A column that is added later is Null
+// An earlier version has no names of this table, but its engine runs the triggers. A column that is added later is Null
 // in old records, as a column is that is not there: neither changes a checksum.
 const char* const TabloyuKur =
     "create table if not exists brdozet (oto integer primary key, ozet bigint);"

@@ -1,4 +1,4 @@
-// A store as the oldest program left it: without the columns that the upgrade brings.
+// A store as the oldest version left it: without the columns that the upgrade brings.
 #pragma once
 
 #include <sstream>

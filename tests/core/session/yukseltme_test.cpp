@@ -1,4 +1,4 @@
-// The upgrade: which steps are open, and a store of the oldest program brought through all of them.
+// The upgrade: which steps are open, and a store of the oldest version brought through all of them.
 #include "core/session/yukseltme.h"
 
 #include <gmock/gmock.h>
