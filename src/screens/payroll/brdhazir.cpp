@@ -70,12 +70,11 @@ void brdhazir::TuslariBagla() {
 void brdhazir::RehberAc() {
   const auto kod = PersonelSec(Baglam(), giris_.Kod());
   if (!kod) return;
-  // Whoever is being entered is closed first, as by going back to the code; the one that was picked comes next.
-  GirisiOku();
-  const KapanisSonucu sonuc = giris_.Kapat();
-  if (!KapanisTamam(sonuc)) return KapanisiGoster(sonuc);
-  Goster();
-  YaziKutusu(bordroalani::kod).DegerKoy(*kod);
+  // Going back to the code closes whoever is being entered; the one that was picked comes next.
+  if (SimdikiAlan() == BordroAlani::Kod)
+    YaziKutusu(bordroalani::kod).DegerKoy(*kod);
+  else
+    rehberden_ = *kod;
   KodaDon();
 }
 
@@ -217,9 +216,14 @@ void brdhazir::AlanaGirildi(AlanDenetimi* yeni) {
 
 // Back on the code field: the person's entry closes.
 void brdhazir::KodaGirildi() {
+  const std::string rehberden = std::exchange(rehberden_, {});
   const KapanisSonucu sonuc = giris_.Kapat();
-  if (sonuc == KapanisSonucu::Bitti) return Kapat();
+  const bool secilenGelir = !rehberden.empty() && KapanisTamam(sonuc);
+  if (sonuc == KapanisSonucu::Bitti && !secilenGelir) return Kapat();
   KapanisiGoster(sonuc);
+  if (!secilenGelir) return;
+  YaziKutusu(bordroalani::kod).DegerKoy(rehberden);
+  YaziKutusu(bordroalani::kod).selectAll();
 }
 
 void brdhazir::KapanisiGoster(KapanisSonucu sonuc) {

@@ -73,6 +73,7 @@ class brdhazir : public Form {
   QLabel* kusur_;
   QLabel* muafiyet_;
   NedenPaneli* neden_;
+  std::string rehberden_;  // picked from the guide in the middle of an entry
   AlanDenetimi* simdiki_ = nullptr;
   std::vector<AlanDenetimi*> degisen_;  // typed into since the last calculation
 };
