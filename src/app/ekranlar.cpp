@@ -1,6 +1,6 @@
 #include "app/ekranlar.h"
 
-#include "documents/belgeler.h"
+#include "registry/belgeler.h"
 #include "screens/core/Dbupdate.h"
 #include "screens/core/araci.h"
 #include "screens/core/firbil.h"
@@ -135,11 +135,18 @@ std::vector<EkranKaydi> Kayitlar() {
   };
 }
 
-// At the end of its menu.
+// Where the menu has its caption, else at the end of its menu.
 void BelgeEkle(std::vector<EkranKaydi>& tablo, const BelgeTanimi& belge) {
   const auto yap = [&belge](const UygulamaBaglami& b) { return BelgeEkraniYap(b.ekran, b.parametreler, belge); };
+  const auto ayni = [&](const EkranKaydi& e) { return e.menu == belge.menu && e.baslik == belge.menuBasligi; };
+  EkranKaydi kayit{belge.menu, belge.menuBasligi, belge.ekran, belge.simge, "", yap};
+  if (const auto yeri = std::ranges::find_if(tablo, ayni); yeri != tablo.end()) {
+    kayit.kisayol = yeri->kisayol;
+    *yeri = std::move(kayit);
+    return;
+  }
   const auto son = std::ranges::find(tablo.rbegin(), tablo.rend(), belge.menu, &EkranKaydi::menu);
-  tablo.insert(son.base(), {belge.menu, belge.menuBasligi, belge.ekran, belge.simge, "", yap});
+  tablo.insert(son.base(), std::move(kayit));
 }
 
 const std::vector<EkranKaydi>& EkranTablosu() {

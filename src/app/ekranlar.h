@@ -1,5 +1,5 @@
 // The registry of screens: one row for each entry of the main menu; those of the papers come out of their own registry
-// (documents/belgeler.h). The menu, the shortcuts of the desktop, the help and the test that opens every screen all
+// (registry/belgeler.h). The menu, the shortcuts of the desktop, the help and the test that opens every screen all
 // come from it. An entry whose screen is not built yet is not shown.
 #pragma once
 

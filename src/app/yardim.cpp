@@ -16,7 +16,7 @@
 #include "app/masaustu.h"
 #include "core/turkce.h"
 #include "core/veridizini.h"
-#include "documents/belgeler.h"
+#include "registry/belgeler.h"
 #include "ui/dclistmodel.h"
 #include "ui/metin.h"
 #include "ui/ondeki.h"

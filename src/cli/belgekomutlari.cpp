@@ -4,9 +4,9 @@
 #include "cli/belgecikti.h"
 #include "cli/jsonakisi.h"
 #include "core/sayi.h"
-#include "documents/belgeler.h"
 #include "documents/belgeyap.h"
 #include "payroll/hazirlik/kosullar.h"
+#include "registry/belgeler.h"
 
 namespace belvani::cli {
 namespace {
@@ -107,7 +107,10 @@ void BelgeVer(Genel& genel, const BelgeIsi& is) {
   const auto oturum = genel.SirketAc(is.kod);
   const KuruluMevzuat mevzuat = KuruluMevzuatOku(oturum->DataPath);
   auto yasal = YasalParametreleriAl(mevzuat);
-  const BelgeKaynagi kaynak{.motor = oturum->depo.db.IcMotor(), .yasal = Degeri(yasal), .firma = oturum->firma};
+  const BelgeKaynagi kaynak{.motor = oturum->depo.db.IcMotor(),
+                            .yasal = Degeri(yasal),
+                            .firma = oturum->firma,
+                            .sirket = oturum->FirmaDizini};
   const auto secim = is.belge.secim();
   if (is.belge.ayar.oku != nullptr) is.belge.ayar.oku(oturum->FirmaDizini, *secim);
   for (const auto& [alan, deger] : is.verilenler) alan->yaz(secim->Kayit(alan->kayitTuru), deger);

@@ -103,6 +103,20 @@ int Yurut(CLI::App& app, int argc, char** argv) try {
   return 0;
 }
 
+// In the order of the help.
+constexpr KomutEkle Komutlar[] = {
+    SirketKomutlari,     // companies
+    YedekKomutlari,      // backups, the earlier state of a month
+    DenetleKomutu,       // what a store holds, mended
+    PaylasKomutu,        // for whom a store is laid out
+    ParametreKomutlari,  // the law's figures
+    AktarimKomutlari,    // cards and lists out of files
+    HazirlaKomutlari,    // the month's payroll
+    HesaplaKomutu,       // one person out of JSON
+    BelgeKomutlari,      // papers of the registry
+    BildirgeKomutu,      // the monthly declaration
+};
+
 int Calistir(int argc, char** argv) {
   Genel genel;
   CLI::App app("Belvani: personel ve bordro programı, toplu işler için komutlar", "belvani-cli");
@@ -111,9 +125,7 @@ int Calistir(int argc, char** argv) {
   app.add_option("--veri", genel.veri, "data dizini (verilmezse kurulumun data dizini)");
   app.require_subcommand(0, 1);
   app.set_version_flag("--version", "Belvani " + VersiyonMetni(ProgramVersiyonu()), "programın sürümünü gösterir");
-  for (const KomutEkle ekle : {SirketKomutlari, YedekKomutlari, DenetleKomutu, PaylasKomutu, ParametreKomutlari,
-                               AktarimKomutlari, HazirlaKomutlari, HesaplaKomutu, BelgeKomutlari, BildirgeKomutu})
-    ekle(app, genel);
+  for (const KomutEkle ekle : Komutlar) ekle(app, genel);
   for (CLI::App* komut : app.get_subcommands({})) {
     komut->group("Komutlar");
     komut->get_help_ptr()->group("Seçenekler");

@@ -1,6 +1,6 @@
 // BelgeTanimi: all that makes a paper a part of the program besides the paper itself. Its entry of the menu, its
-// screen, its command with options and help, its settings and the tests of all papers follow from this one row
-// (belgeler.cpp).
+// screen, its command with options and help, its settings and the tests of all papers follow from this one row,
+// which its room gives to the registry (registry/belgeler.h).
 //
 //   {.ekran = "agibrd", .komut = "agi", .menu = "Bordro", …,
 //    .alanlar = {{DonemAlanlari("Bordro Yılı", "Bordro Ayı"), AralikAlanlari(true, "Sicil No")}},
@@ -30,6 +30,7 @@ struct BelgeKaynagi {
   Motor& motor;
   const YasalParametreler& yasal;
   const Firma& firma;            // the company's card
+  VeriYolu sirket;               // its place, where its parameter files lie
   Ilerleme* ilerleme = nullptr;  // shows and stops the making
 };
 
@@ -97,9 +98,9 @@ struct MevzuatRakami {
 };
 
 struct BelgeTanimi {
-  std::string_view ekran;           // the screen's word; also its page of the guide
-  std::string_view komut;           // of the command line
-  std::string_view menu;            // "Bordro"; papers stand at the end of their menu, in the order of the registry
+  std::string_view ekran;  // the screen's word; also its page of the guide
+  std::string_view komut;  // of the command line
+  std::string_view menu;   // "Bordro"; papers whose caption the menu does not place stand at its end, in this order
   std::string_view menuBasligi;     // caption of the entry
   std::string_view pencereBasligi;  // title of the screen
   std::string_view simge;           // picture of the entry

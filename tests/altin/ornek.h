@@ -38,7 +38,8 @@ class OrnekSirket {
   // The law's figures of the month, for both ways.
   void DonemeGec(const Ay& ay) {
     if (ay == donem) return;
-    if (!MevzuatKur(oturum.DataPath, {ay.yil, ay.ay}, *ParametreAdresi(ay.yil, ay.ay))) throw std::runtime_error(ay.Metin());
+    if (!MevzuatKur(oturum.DataPath, {ay.yil, ay.ay}, *ParametreAdresi(ay.yil, ay.ay)))
+      throw std::runtime_error(ay.Metin());
     yasal = *YasalParametreleriAl(oturum.DataPath);
     donem = ay;
   }
@@ -58,7 +59,9 @@ class OrnekSirket {
     return DosyaOku(yol).value();
   }
 
-  BelgeKaynagi Kaynak() { return {.motor = oturum.depo.db.IcMotor(), .yasal = yasal, .firma = oturum.firma}; }
+  BelgeKaynagi Kaynak() {
+    return {.motor = oturum.depo.db.IcMotor(), .yasal = yasal, .firma = oturum.firma, .sirket = oturum.FirmaDizini};
+  }
   DefterSecim Secim(const char* ilk, const char* son) const {
     DefterSecim secim;
     secim.yil = donem.yil;

@@ -12,7 +12,7 @@
 #include "core/session/firmabilgi.h"
 #include "core/session/sinifbakimi.h"
 #include "core/store/satirlar.h"
-#include "documents/belgeler.h"
+#include "registry/belgeler.h"
 #include "screens/core/firbil.h"
 #include "screens/core/kulfrm.h"
 #include "screens/personnel/nufus.h"

@@ -8,7 +8,7 @@
 #include "calistir.h"
 #include "core/store/motor.h"
 #include "core/turkce.h"
-#include "documents/belgeler.h"
+#include "registry/belgeler.h"
 
 namespace belvani {
 namespace {

@@ -81,6 +81,7 @@ BelgeKaynagi BelgeEkrani::Kaynak(Ilerleme* ilerleme) const {
   return {.motor = Oturumu().depo.db.IcMotor(),
           .yasal = parametreler_.yasal,
           .firma = Oturumu().firma,
+          .sirket = Oturumu().FirmaDizini,
           .ilerleme = ilerleme};
 }
 

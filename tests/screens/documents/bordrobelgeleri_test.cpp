@@ -2,8 +2,8 @@
 #include <gmock/gmock.h>
 
 #include "core/dosya.h"
-#include "documents/belgeler.h"
 #include "ekran/ortam.h"
+#include "registry/belgeler.h"
 #include "screens/documents/belgeekrani.h"
 #include "ui/perekr.h"
 #include "ui/yzcsetup.h"

@@ -1,4 +1,4 @@
-#include "documents/belgeler.h"
+#include "documents/bordrobelgeleri.h"
 
 #include "documents/agilistesi.h"
 #include "documents/defterayari.h"
@@ -177,13 +177,8 @@ const std::vector<BelgeTanimi>& Tablo() {
 
 }  // namespace
 
-std::span<const BelgeTanimi> Belgeler() {
+std::span<const BelgeTanimi> BordroBelgeleri() {
   return Tablo();
-}
-
-const BelgeTanimi* BelgeBul(std::string_view ekran) {
-  const auto yer = std::ranges::find(Tablo(), ekran, &BelgeTanimi::ekran);
-  return yer == Tablo().end() ? nullptr : &*yer;
 }
 
 }  // namespace belvani

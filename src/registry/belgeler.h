@@ -1,4 +1,5 @@
-// The registry of papers: one row for each that has a screen and a command of its own.
+// The registry of papers: one row for each that has a screen and a command of its own. A room that makes papers gives
+// its own rows; belgeler.cpp names the rooms.
 #pragma once
 
 #include <span>
@@ -7,7 +8,7 @@
 
 namespace belvani {
 
-// In the order of their menu.
+// Room by room, in the order of their menu.
 std::span<const BelgeTanimi> Belgeler();
 
 // The paper of a screen; null when there is none.

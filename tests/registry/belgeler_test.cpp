@@ -1,11 +1,12 @@
 // Every paper of the registry: it comes in all its forms, and the print settings change just what it says.
+#include "registry/belgeler.h"
+
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <set>
 
 #include "core/asama.h"
 #include "core/ortam.h"
-#include "documents/belgeler.h"
 #include "documents/belgeyap.h"
 #include "documents/doludepo.h"
 #include "gecici.h"
@@ -22,7 +23,7 @@ struct Belgelik {
   test::DoluDepo depo{20080701, 30};
   YasalParametreler yasal;
   Firma firma;
-  BelgeKaynagi kaynak{.motor = depo.db.IcMotor(), .yasal = yasal, .firma = firma};
+  BelgeKaynagi kaynak{.motor = depo.db.IcMotor(), .yasal = yasal, .firma = firma, .sirket = depo.dizin.Yol()};
 
   Belgelik() {
     firma.unvan = "Çınar Tekstil";
