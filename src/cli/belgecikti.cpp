@@ -24,7 +24,7 @@ void UyeEkle(Json& nesne, const std::string& ad, const Hucre& deger) {
 Json HucrelerJson(const Rapor& rapor, const std::vector<Hucre>& hucreler) {
   Json nesne = Json::object();
   for (std::size_t k = 0; k < hucreler.size(); ++k)
-    if (rapor.Kolonlar()[k].tur != KolonTuru::Bos) UyeEkle(nesne, rapor.Kolonlar()[k].kisaBaslik, hucreler[k]);
+    if (rapor.Kolonlar()[k].tur != KolonTuru::Bos) UyeEkle(nesne, rapor.Kolonlar()[k].Adi(), hucreler[k]);
   return nesne;
 }
 

@@ -46,6 +46,7 @@ Deger OkunanDeger(const Alan& alan, const std::string& metin) {
 
 std::string TurAdi(const AlanListesi& alanlar) {
   if (alanlar.size() > 1) return "BAŞ BİT";
+  if (alanlar.front()->tanim.tip == AlanTipi::Tarih) return "TARİH";
   const auto sozcukler = alanlar.front()->ek.komutSozcukleri;
   const bool sayilar = std::ranges::all_of(sozcukler, [](auto sozcuk) { return TamSayiOku(sozcuk).has_value(); });
   return SayiMi(*alanlar.front()) && sayilar ? "SAYI" : "METİN";
@@ -55,6 +56,7 @@ std::string TurAdi(const AlanListesi& alanlar) {
 bool VerilmeliMi(const Alan& alan, BelgeSecimi& secim) {
   const Deger ilk = alan.oku(secim.Kayit(alan.kayitTuru));
   const auto& liste = alan.ek.liste;
+  if (alan.tanim.tip == AlanTipi::Tarih) return NullMu(ilk);
   return liste.empty() ? !AlanKusuru(alan, ilk).empty() : SecenekSirasi(alan, ilk, liste.size()) < 0;
 }
 
@@ -114,11 +116,13 @@ void BelgeVer(Genel& genel, const BelgeIsi& is) {
   const auto secim = is.belge.secim();
   if (is.belge.ayar.oku != nullptr) is.belge.ayar.oku(oturum->FirmaDizini, *secim);
   for (const auto& [alan, deger] : is.verilenler) alan->yaz(secim->Kayit(alan->kayitTuru), deger);
+  if (const auto kusur = secim->Kusuru()) throw KomutHatasi{kusur->metin};
   if (is.belge.kayitlar != nullptr && is.cikti.bicim == "json") return KayitlariYaz(is, kaynak, *secim);
   const auto belge = BelgeYap(is.belge, *secim, kaynak);
   const auto bak = [&](MevzuatAyi ay) { return MevzuataBak(mevzuat, ay); };
   if (const std::string soz = BelgeMevzuatSozu(is.belge, *secim, kaynak.motor, bak); !soz.empty())
     genel.bildirim.Uyari("Uyarı: " + soz);
+  if (const std::string soz = belge->Eksikler(); !soz.empty()) genel.bildirim.Uyari("Uyarı: " + soz);
   if (belge->Kayitsiz() && !is.belge.kayitYok.empty()) genel.bildirim.Bilgi(is.belge.kayitYok);
   BelgeYaz(*belge, is.cikti);
 }

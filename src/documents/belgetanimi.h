@@ -12,6 +12,8 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <tuple>
 
 #include "core/sonuc.h"
@@ -40,7 +42,22 @@ struct BelgeYazisi {
   int punto = 8;
 };
 
-// The choices of one paper.
+// Of when a paper is: the month whose law its figures are of, and what its files are named by.
+struct BelgeZamani {
+  int yil = 0;
+  int ay = 0;
+  std::string metin;  // "2009-07"
+};
+
+inline std::string AyMetni(int yil, int ay) {
+  return std::to_string(yil) + (ay < 10 ? "-0" : "-") + std::to_string(ay);
+}
+
+// The choices of one paper. Of its records, which are plain structs, one may know more:
+//
+//   void AyKoy(int yil, int ay);            // the company's working month, in the choices of a time
+//   BelgeZamani Zaman() const;              // the time that they stand for
+//   std::optional<Kusur> Kusuru() const;    // what is wrong with them together, at the field where it can be mended
 class BelgeSecimi {
  public:
   virtual ~BelgeSecimi() = default;
@@ -48,6 +65,10 @@ class BelgeSecimi {
   // Throws MotorHatasi, TutarTasmasi, and Vazgecilmis when it was stopped. A period without records gives a paper
   // without rows.
   virtual std::unique_ptr<Belge> BelgeYap(const BelgeKaynagi& kaynak) const = 0;
+
+  virtual void AyKoy(int yil, int ay) = 0;
+  virtual std::optional<BelgeZamani> Zaman() const = 0;  // nothing for a paper of no time
+  virtual std::optional<Kusur> Kusuru() const = 0;
 
   // The record of a type, that fields of `Alan::kayitTuru` read and write; null when the paper has none.
   virtual void* Kayit(std::type_index tur) = 0;
@@ -66,6 +87,26 @@ class ParcaliSecim final : public BelgeSecimi {
   std::unique_ptr<Belge> BelgeYap(const BelgeKaynagi& kaynak) const override {
     return std::apply([&](const auto&... parca) { return yapan_(kaynak, parca...); }, parcalar_);
   }
+  void AyKoy(int yil, int ay) override {
+    Her(parcalar_, [&](auto& parca) {
+      if constexpr (requires { parca.AyKoy(yil, ay); }) parca.AyKoy(yil, ay);
+    });
+  }
+  std::optional<BelgeZamani> Zaman() const override {
+    std::optional<BelgeZamani> zaman;
+    Her(parcalar_, [&](const auto& parca) {
+      if constexpr (requires { parca.Zaman(); }) zaman = parca.Zaman();
+    });
+    return zaman;
+  }
+  std::optional<Kusur> Kusuru() const override {
+    std::optional<Kusur> kusur;
+    Her(parcalar_, [&](const auto& parca) {
+      if constexpr (requires { parca.Kusuru(); })
+        if (!kusur) kusur = parca.Kusuru();
+    });
+    return kusur;
+  }
   void* Kayit(std::type_index tur) override {
     void* bulunan = nullptr;
     ((tur == typeid(Parcalar) ? void(bulunan = &std::get<Parcalar>(parcalar_)) : void()), ...);
@@ -73,6 +114,11 @@ class ParcaliSecim final : public BelgeSecimi {
   }
 
  private:
+  template <class Demet, class Is>
+  static void Her(Demet& demet, Is is) {
+    std::apply([&](auto&... parca) { (is(parca), ...); }, demet);
+  }
+
   Yapan yapan_;
   std::tuple<Parcalar...> parcalar_;
 };
@@ -97,6 +143,21 @@ struct MevzuatRakami {
   bool agiOdenmisse = false;  // only where the allowance was paid in the month
 };
 
+// A column of sums below the list: its head, and the columns of the paper that it sums, by name.
+struct ToplamSutunu {
+  std::string_view baslik;
+  std::vector<std::string_view> kolonlar;
+};
+
+// The rows of a paper on its screen: its table as a list below the fields, with its sums. The list follows what stands
+// in the fields, or only its command.
+struct BelgeListesi {
+  const char* komut = "";                        // the button of that command (F5); "": the screen shows no rows
+  bool degisince = true;                         // anew with each change of a field
+  std::vector<std::string_view> toplamlar = {};  // captions of the lines of sums; none: one line of all that is summed
+  std::vector<ToplamSutunu> sutunlar = {};       // of these lines
+};
+
 struct BelgeTanimi {
   std::string_view ekran;  // the screen's word; also its page of the guide
   std::string_view komut;  // of the command line
@@ -109,6 +170,7 @@ struct BelgeTanimi {
   SecimYapan secim;
   MevzuatRakami mevzuat = {};
   BelgeAyari ayar = {};
+  BelgeListesi liste = {};
   // What screen and command line say of a paper that is made of no records; "" keeps them silent.
   std::string_view kayitYok = "Bu dönemde bordro kaydı yok";
   // For a paper whose JSON is not its table but the pay records with all their fields: gives them one by one.

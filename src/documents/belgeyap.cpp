@@ -6,6 +6,7 @@
 namespace belvani {
 namespace {
 
+// Not of a paper that is of a year.
 bool AyiSecilir(const BelgeTanimi& tanim) {
   for (const auto& sutun : tanim.alanlar)
     for (const AlanGrubu& grup : sutun)
@@ -14,17 +15,10 @@ bool AyiSecilir(const BelgeTanimi& tanim) {
   return false;
 }
 
-// "2009-07"; "2009" of a paper that is of a year.
-std::string DonemMetni(const BelgeTanimi& tanim, const DefterSecim& secim) {
-  const std::string yil = std::to_string(secim.yil);
-  if (!AyiSecilir(tanim)) return yil;
-  return yil + (secim.ay < 10 ? "-0" : "-") + std::to_string(secim.ay);
-}
-
-bool AgiOdenmis(Motor& motor, const DefterSecim& secim) {
+bool AgiOdenmis(Motor& motor, const BelgeZamani& zaman) {
   const auto komut = motor.Hazirla("select 1 from brd where yil = ? and ay = ? and ogv <> 0 limit 1");
-  komut->TamBagla(1, secim.yil);
-  komut->TamBagla(2, secim.ay);
+  komut->TamBagla(1, zaman.yil);
+  komut->TamBagla(2, zaman.ay);
   return komut->Adim();
 }
 
@@ -39,15 +33,16 @@ std::string BaskaAySozu(const MevzuatGorusu& gorus, const MevzuatRakami& rakam) 
 
 std::unique_ptr<Belge> BelgeYap(const BelgeTanimi& tanim, BelgeSecimi& secim, const BelgeKaynagi& kaynak) {
   auto belge = secim.BelgeYap(kaynak);
-  if (const auto* donem = secim.Bul<DefterSecim>()) belge->Donem(DonemMetni(tanim, *donem));
+  if (const auto zaman = secim.Zaman())
+    belge->Donem(secim.Bul<DefterSecim>() == nullptr || AyiSecilir(tanim) ? zaman->metin : std::to_string(zaman->yil));
   return belge;
 }
 
 std::string BelgeMevzuatSozu(const BelgeTanimi& tanim, BelgeSecimi& secim, Motor& motor, const MevzuataBakan& bak) {
-  const auto* donem = secim.Bul<DefterSecim>();
-  if (donem == nullptr || tanim.mevzuat.ad.empty()) return {};
-  if (tanim.mevzuat.agiOdenmisse && !AgiOdenmis(motor, *donem)) return {};
-  const MevzuatGorusu gorus = bak({donem->yil, donem->ay});
+  const auto zaman = secim.Zaman();
+  if (!zaman || tanim.mevzuat.ad.empty()) return {};
+  if (tanim.mevzuat.agiOdenmisse && !AgiOdenmis(motor, *zaman)) return {};
+  const MevzuatGorusu gorus = bak({zaman->yil, zaman->ay});
   switch (gorus.hal) {
     case MevzuatHali::Uygun:
     case MevzuatHali::Kullanici:  // the user's own for this month: another question, asked where it is calculated

@@ -60,6 +60,9 @@ struct DefterSecim {
   MetinAraligi tip;
   MetinAraligi ozel;
   DefterSirasi sira = DefterSirasi::Kod;
+
+  void AyKoy(int secilenYil, int secilenAy) { std::tie(yil, ay) = std::tuple(secilenYil, secilenAy); }
+  BelgeZamani Zaman() const { return {yil, ay, AyMetni(yil, ay)}; }
 };
 
 // The ledger has 24 columns. "Adı Soyadı" and "İmza" are always there, for without a name and a place to sign it would

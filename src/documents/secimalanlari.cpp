@@ -40,11 +40,13 @@ void AralikEkle(AlanGrubu& grup, const AralikTanimi& tanim, const char* etiket, 
 
 }  // namespace
 
-Alan YilAlani(const char* etiket, const char* komutYardimi) {
+AlanEki YilEki(const char* komutYardimi) {
   return {
-      SecimYili,
-      etiket,
-      {.enAz = IlkBelgeYili, .enCok = SonBelgeYili, .harf = SayiHarfi, .komut = "--yil", .komutYardimi = komutYardimi}};
+      .enAz = IlkBelgeYili, .enCok = SonBelgeYili, .harf = SayiHarfi, .komut = "--yil", .komutYardimi = komutYardimi};
+}
+
+Alan YilAlani(const char* etiket, const char* komutYardimi) {
+  return {SecimYili, etiket, YilEki(komutYardimi)};
 }
 
 AlanGrubu DonemAlanlari(const char* yilEtiketi, const char* ayEtiketi) {

@@ -13,6 +13,7 @@ constexpr int SonBelgeYili = 2100;
 // Of a DefterSecim.
 inline constexpr auto SecimYili = Uye("yil", &DefterSecim::yil);
 inline constexpr auto SecimAyi = Uye("ay", &DefterSecim::ay);
+AlanEki YilEki(const char* komutYardimi = "bordro yılı");  // of a year in choices of another type
 Alan YilAlani(const char* etiket, const char* komutYardimi = "bordro yılı");
 AlanGrubu DonemAlanlari(const char* yilEtiketi, const char* ayEtiketi);
 // People from and to, by code alone; by code, group, type and own code; `numarali`: by run number too.

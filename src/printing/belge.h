@@ -50,6 +50,11 @@ class Belge {
   void MetniVer(const MetinAlici& al) const { MetniVerYap(al); }
   // The spreadsheet file.
   Sonuc<std::string> Xlsx(Ilerleme* ilerleme = nullptr) const { return XlsxYap(ilerleme); }
+  // Asked before a text page goes to the printer, of papers for sheets that are put in by hand: where it is not empty,
+  // what stands before the page goes out first, and a no ends the print there. Pages count from 1.
+  virtual std::string SayfaSozu(int) const { return {}; }
+  // Who or what should be on it and is not, in the user's words; told beside the paper. Else empty.
+  virtual std::string Eksikler() const { return {}; }
   // Told in place of a text print that does not exist.
   virtual std::string MetinYok() const { return "Bu belge yalnız grafik yazıcıdan alınabilir."; }
   // What its user should know about the text form (lines too long for the printer); else empty.

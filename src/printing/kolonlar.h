@@ -7,6 +7,7 @@
 //   Rapor rapor = RaporYap(kolonlar, satirlar, paraonda);
 //
 // A column is a head (or two: paper, screen), a width in letters, what it shows of a row, and what is special about it.
+// Where other programs know it by a name of its own, that stands first: {"sskno", "SİCİL NO", 13, …}.
 // The kind of the column follows from the type that its reader gives: text, whole number, Tutar, Tek (a rate), Tarih,
 // or any of them as std::optional, whose absence is an empty cell; Null makes an empty column for the pen.
 #pragma once
@@ -86,6 +87,11 @@ class Kolonlar {
           nitelik(nitelikler),
           oran(std::same_as<std::decay_t<std::invoke_result_t<Okur, const Satir&>>, Tek>),
           oku([okur](const Satir& satir) { return HucreYap(okur(satir)); }) {}
+    template <class Okur>
+    Tanim(const char* ad, KolonBasligi baslik, int en, Okur okur, KolonNiteligi nitelikler = KolonNiteligi::Yok)
+        : Tanim(std::move(baslik), en, std::move(okur), nitelikler) {
+      kolon.ad = ad;
+    }
 
     RaporKolonu kolon;
     KolonNiteligi nitelik;

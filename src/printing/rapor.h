@@ -54,7 +54,9 @@ struct RaporKolonu {
   KolonTuru tur = KolonTuru::Metin;
   int ondalik = 0;
   bool toplanir = false;
+  std::string ad = {};  // by which other programs and lists know it; "": by its short head
 
+  const std::string& Adi() const { return ad.empty() ? kisaBaslik : ad; }
   bool Sayisal() const { return tur == KolonTuru::Tam || tur == KolonTuru::Tutar; }
 };
 

@@ -37,7 +37,7 @@ bool MetniYaz(const std::string& metin, int kopya, Yaz yaz) {
 // Where a text goes, and who watches over it.
 struct MetinIsi {
   const Belge& belge;
-  std::string metin;
+  std::string metin;  // all of it, or pages that go out together
   BaskiOrtami& ortam;
   Bildirim& bildirim;
   Ilerleme* ilerleme;
@@ -86,6 +86,31 @@ Sonuc<YazdirmaSonucu> MetinYazdir(const MetinIsi& is) {
   return YazdirmaSonucu{tamam, Birlestir(is.belge.MetinUyarisi(), yazici->bekleyen)};
 }
 
+// Page by page, as far as sheets have to be put in by hand.
+Sonuc<YazdirmaSonucu> SayfalariYazdir(MetinIsi is) {
+  const std::string metin = std::move(is.metin);
+  is.metin.clear();
+  YazdirmaSonucu sonuc;
+  const auto gonder = [&]() -> Durum {
+    if (is.metin.empty()) return Tamam();
+    const auto giden = MetinYazdir(is);
+    if (!giden) return giden.Kusuru();
+    sonuc = {sonuc.gonderildi || giden->gonderildi, giden->uyari};
+    is.metin.clear();
+    return Tamam();
+  };
+  int no = 0;
+  for (const std::string_view sayfa : Parcala(metin, '\f')) {
+    if (const std::string soz = is.belge.SayfaSozu(++no); !soz.empty()) {
+      if (const Durum gitti = gonder(); !gitti) return gitti.Kusuru();
+      if (!is.bildirim.TamamMi(soz)) return sonuc;
+    }
+    is.metin += (is.metin.empty() ? "" : "\f") + std::string(sayfa);
+  }
+  if (const Durum gitti = gonder(); !gitti) return gitti.Kusuru();
+  return sonuc;
+}
+
 Sonuc<YazdirmaSonucu> GrafikYazdir(const Belge& belge, BaskiOrtami& ortam, Ilerleme* ilerleme) {
   const YzcAyarlari& ayar = belge.Ayar();
   if (PortNo(ayar.yazici) >= 0) return Kusur{ayar.yazici + ": bu yazıcıya yalnız Dot Matrix (Dos Mod) ile basılabilir"};
@@ -123,7 +148,7 @@ Sonuc<YazdirmaSonucu> BelgeYazdir(const Belge& belge, BaskiOrtami& ortam, Bildir
       case BaskiYolu::Yok:
         break;
       case BaskiYolu::Metin:
-        return MetinYazdir({belge, belge.Metin(ilerleme), ortam, bildirim, ilerleme});
+        return SayfalariYazdir({belge, belge.Metin(ilerleme), ortam, bildirim, ilerleme});
       case BaskiYolu::Grafik:
         return GrafikYazdir(belge, ortam, ilerleme);
     }

@@ -5,19 +5,21 @@
 namespace belvani {
 namespace {
 
-class FormCizimi final : public CizilenBelge {
- public:
-  explicit FormCizimi(const std::vector<FormSayfasi>& sayfalar) : sayfalar_(sayfalar) {}
+using Sayfalar = std::shared_ptr<const std::vector<FormSayfasi>>;
 
-  int SayfaSayisi() const override { return int(sayfalar_.size()); }
+class Cizim final : public CizilenBelge {
+ public:
+  explicit Cizim(Sayfalar sayfalar) : sayfalar_(std::move(sayfalar)) {}
+
+  int SayfaSayisi() const override { return int(sayfalar_->size()); }
   void SayfaCiz(int no, Tuval& tuval) const override {
-    const FormSayfasi& sayfa = sayfalar_.at(std::size_t(no) - 1);
-    const auto ilk = std::ranges::find_if(sayfalar_, [&](const FormSayfasi& s) { return AyniForm(s, sayfa); });
-    FormCiz(sayfa, tuval, "form " + std::to_string(ilk - sayfalar_.begin()));
+    const FormSayfasi& sayfa = sayfalar_->at(std::size_t(no) - 1);
+    const auto ilk = std::ranges::find_if(*sayfalar_, [&](const FormSayfasi& s) { return AyniForm(s, sayfa); });
+    FormCiz(sayfa, tuval, "form " + std::to_string(ilk - sayfalar_->begin()));
   }
 
  private:
-  const std::vector<FormSayfasi>& sayfalar_;
+  Sayfalar sayfalar_;
 };
 
 YzcAyarlari VarOlanYollar(YzcAyarlari ayar, bool cizim, bool metin) {
@@ -29,6 +31,10 @@ YzcAyarlari VarOlanYollar(YzcAyarlari ayar, bool cizim, bool metin) {
 
 }  // namespace
 
+std::unique_ptr<CizilenBelge> FormCizimi(Sayfalar sayfalar) {
+  return std::make_unique<Cizim>(std::move(sayfalar));
+}
+
 FormBelgesi::FormBelgesi(YzcAyarlari ilk, std::vector<FormSayfasi> sayfalar, std::string metin)
     : Belge(VarOlanYollar(std::move(ilk), !sayfalar.empty(), !metin.empty())),
       sayfalar_(std::move(sayfalar)),
@@ -36,7 +42,7 @@ FormBelgesi::FormBelgesi(YzcAyarlari ilk, std::vector<FormSayfasi> sayfalar, std
 
 std::unique_ptr<CizilenBelge> FormBelgesi::CizimYap(Ilerleme*) const {
   if (sayfalar_.empty()) return nullptr;
-  return std::make_unique<FormCizimi>(sayfalar_);
+  return FormCizimi(belvani::Sayfalar(std::shared_ptr<void>(), &sayfalar_));  // kept by this document
 }
 
 Sonuc<std::string> FormBelgesi::XlsxYap(Ilerleme*) const {

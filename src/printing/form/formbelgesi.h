@@ -10,6 +10,9 @@
 
 namespace belvani {
 
+// The pages as they stand, drawn one at a time; pages that differ in their values alone share their frame.
+std::unique_ptr<CizilenBelge> FormCizimi(std::shared_ptr<const std::vector<FormSayfasi>> sayfalar);
+
 // A screen that lets its user move and edit the values gives the pages back by a new FormBelgesi.
 class FormBelgesi final : public Belge {
  public:

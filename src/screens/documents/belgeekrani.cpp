@@ -7,6 +7,7 @@
 #include "documents/belgeyap.h"
 #include "documents/defter.h"
 #include "screens/documents/brdicmal.h"
+#include "screens/documents/listelibelgeekrani.h"
 #include "ui/basim.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
@@ -23,10 +24,7 @@ BelgeEkrani::BelgeEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, co
   AlanlariDiz(tanim.alanlar);
   RehberleriBagla();
   KomutlariKur();
-  if (auto* secim = secim_->Bul<DefterSecim>()) {
-    secim->yil = Oturumu().firma.firmayil;
-    secim->ay = Oturumu().firma.firmaay;
-  }
+  secim_->AyKoy(Oturumu().firma.firmayil, Oturumu().firma.firmaay);
   if (tanim.ayar.oku != nullptr) tanim.ayar.oku(Oturumu().FirmaDizini, *secim_);
   AlanlariYukle();
 }
@@ -56,6 +54,8 @@ void BelgeEkrani::KomutlariKur() {
   const auto gonder = [this] {
     if (const auto belge = VerilecekBelge()) BelgeExceleGonder(Baglam(), *belge);
   };
+  if (*tanim_.liste.komut != '\0')
+    Komutlar({{.tus = Qt::Key_F5, .dugme = tanim_.liste.komut, .simge = "calistir", .islev = [this] { Listelet(); }}});
   Komutlar({{.tus = Qt::Key_F6, .dugme = " Ekrana Listele", .simge = "liste", .islev = listele},
             {.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır", .simge = "yazici", .islev = yazdir},
             {.tus = Qt::Key_F9, .dugme = " Excel'e Gönder", .simge = "tablo", .islev = gonder}});
@@ -70,11 +70,31 @@ void BelgeEkrani::FontSec(BelgeYazisi& yazi) {
   if (font->pointSize() > 0) yazi.punto = font->pointSize();
 }
 
+// A field that cannot be read leaves its choice alone; a text that is no date is none.
+void BelgeEkrani::AlanlariOku() {
+  for (const auto& d : Denetimler())
+    if (!d->Kusuru()) d->Satir().yaz(secim_->Kayit(d->Satir().kayitTuru), d->Oku());
+}
+
+// What the paper itself says of its choices comes before what its fields say.
 BelgeSecimi* BelgeEkrani::Secilen() {
+  AlanlariOku();
+  if (const auto kusur = secim_->Kusuru()) {
+    Bildir(*kusur);
+    return nullptr;
+  }
   for (const auto& d : Denetimler())
     if (!AlanlarSaglam(d->Satir().kayitTuru)) return nullptr;
-  for (const auto& d : Denetimler()) d->Satir().yaz(secim_->Kayit(d->Satir().kayitTuru), d->Oku());
   return secim_.get();
+}
+
+bool BelgeEkrani::Secilebilir() {
+  AlanlariOku();
+  const auto okunur = [](const auto& d) {
+    const xtext* yazi = d->YaziKutusu();
+    return !d->Kusuru() && (yazi == nullptr || !yazi->HataliTarih());
+  };
+  return !secim_->Kusuru() && std::ranges::all_of(Denetimler(), okunur);
 }
 
 BelgeKaynagi BelgeEkrani::Kaynak(Ilerleme* ilerleme) const {
@@ -96,7 +116,8 @@ std::unique_ptr<Belge> BelgeEkrani::BelgeYap() {
     return Koru([&] { return belvani::BelgeYap(tanim_, *secim, Kaynak(&ilerleme)); });
   });
   if (!belge || !Oldu(*belge)) return nullptr;
-  MevzuatSozu(*soz);
+  const std::string eksikler = (**belge)->Eksikler();
+  BelgeSozu(*soz + (soz->empty() || eksikler.empty() ? "" : "\n\n") + eksikler);
   return std::move(**belge);
 }
 
@@ -106,22 +127,21 @@ std::unique_ptr<Belge> BelgeEkrani::VerilecekBelge() {
   return belge;
 }
 
-void BelgeEkrani::MevzuatSozu(const std::string& soz) {
+void BelgeEkrani::BelgeSozu(const std::string& soz) {
   if (soz.empty() || std::exchange(soylenenSoz_, soz) == soz) return;
   Baglam().bildirim.Uyari(soz);
 }
 
-// A field that cannot be read does not keep the others from being saved.
 void BelgeEkrani::hideEvent(QHideEvent* olay) {
   Form::hideEvent(olay);
   if (olay->spontaneous() || tanim_.ayar.yaz == nullptr) return;
-  for (const auto& d : Denetimler())
-    if (!d->Kusuru()) d->Satir().yaz(secim_->Kayit(d->Satir().kayitTuru), d->Oku());
+  AlanlariOku();
   Oldu(tanim_.ayar.yaz(Oturumu().FirmaDizini, *secim_));
 }
 
 std::unique_ptr<Form> BelgeEkraniYap(EkranBaglami& baglam, ParametreDeposu& parametreler, const BelgeTanimi& tanim) {
   if (tanim.ekran == "brdicmal") return std::make_unique<brdicmal>(baglam, parametreler, tanim);
+  if (*tanim.liste.komut != '\0') return std::make_unique<ListeliBelgeEkrani>(baglam, parametreler, tanim);
   return std::make_unique<BelgeEkrani>(baglam, parametreler, tanim);
 }
 

@@ -2,7 +2,7 @@
 // make the paper out of them.
 //
 //   F6 " Ekrana Listele"    F8 " Yazıcıya Yazdır"    F9 " Excel'e Gönder"    F2 in a code field: lookup
-//   "Yazıcı Fontu " for a paper that takes a font
+//   "Yazıcı Fontu " for a paper that takes a font    F5 for one that shows its rows: listelibelgeekrani.h
 //
 // Choices that outlive a run are read when it opens and written when it closes.
 #pragma once
@@ -26,13 +26,23 @@ class BelgeEkrani : public Form {
   std::unique_ptr<Belge> VerilecekBelge();
   BelgeKaynagi Kaynak(Ilerleme* ilerleme = nullptr) const;
 
-  // Tells that a figure of the paper is another month's law, once for each text; "": there is nothing to tell.
-  virtual void MevzuatSozu(const std::string& soz);
+  // Whether Secilen would find nothing to tell.
+  bool Secilebilir();
+
+  // Tells what its user must know of the paper, once for each text: a figure of it is another month's law, someone is
+  // left out. "": there is nothing to tell.
+  virtual void BelgeSozu(const std::string& soz);
+
+  // The command of a paper that shows its rows.
+  virtual void Listelet() {}
+
+  const BelgeTanimi& Tanim() const { return tanim_; }
 
   void hideEvent(QHideEvent* olay) override;
 
  private:
   void AlanlariYukle();
+  void AlanlariOku();
   void RehberleriBagla();
   void KomutlariKur();
   void FontSec(BelgeYazisi& yazi);

@@ -101,7 +101,7 @@ void brdicmal::Goster() {
 }
 
 // Beside the figures, which change with every choice of a month.
-void brdicmal::MevzuatSozu(const std::string& soz) {
+void brdicmal::BelgeSozu(const std::string& soz) {
   mevzuat_->setText(Yazi(soz));
   mevzuat_->setVisible(!soz.empty());
 }

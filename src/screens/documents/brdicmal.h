@@ -15,7 +15,7 @@ class brdicmal : public BelgeEkrani {
   brdicmal(EkranBaglami& baglam, ParametreDeposu& parametreler, const BelgeTanimi& tanim);
 
  private:
-  void MevzuatSozu(const std::string& soz) override;
+  void BelgeSozu(const std::string& soz) override;
   void Goster();
   void AyiOku(int surum, std::size_t sira);
   void GrafikCiz();

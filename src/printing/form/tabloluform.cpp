@@ -1,0 +1,44 @@
+#include "printing/form/tabloluform.h"
+
+#include "printing/form/formbelgesi.h"
+#include "printing/metinyazici.h"
+#include "printing/xlsxyazici.h"
+
+namespace belvani {
+namespace {
+
+YzcAyarlari MetinYolu(YzcAyarlari ayar, bool var) {
+  ayar.YzcDosAcik = var;
+  return ayar;
+}
+
+}  // namespace
+
+TabloluForm::TabloluForm(YzcAyarlari ilk, Rapor tablo, FormYapanlar yapanlar)
+    : Belge(MetinYolu(std::move(ilk), yapanlar.metin != nullptr)),
+      ilk_(std::make_shared<const Rapor>(std::move(tablo))),
+      tablo_(ilk_),
+      yapanlar_(std::move(yapanlar)) {}
+
+// The law's order stays on the form itself.
+void TabloluForm::Sirala(std::span<const int> sira) {
+  tablo_ = std::make_shared<const Rapor>(ilk_->Sirali(sira));
+}
+
+std::string TabloluForm::SayfaSozu(int sayfa) const {
+  return yapanlar_.sayfaSozu ? yapanlar_.sayfaSozu(sayfa) : std::string();
+}
+
+std::unique_ptr<CizilenBelge> TabloluForm::CizimYap(Ilerleme* ilerleme) const {
+  return FormCizimi(std::make_shared<const std::vector<FormSayfasi>>(yapanlar_.sayfalar(ilerleme)));
+}
+
+std::string TabloluForm::MetinYap(Ilerleme* ilerleme) const {
+  return yapanlar_.metin ? yapanlar_.metin(ilerleme) : MetinRaporu(*tablo_, {}, ilerleme);
+}
+
+Sonuc<std::string> TabloluForm::XlsxYap(Ilerleme* ilerleme) const {
+  return XlsxRaporu(*tablo_, ilerleme);
+}
+
+}  // namespace belvani
