@@ -2,16 +2,13 @@
 
 #include <algorithm>
 
-#include "core/store/koru.h"
 #include "core/tckimlik.h"
-#include "personnel/hucreler.h"
+#include "personnel/aktarimyaz.h"
 #include "personnel/kayit.h"
 #include "personnel/tanimkodlari.h"
 
 namespace belvani {
 namespace {
-
-constexpr std::chrono::seconds KilitBekleme{60};
 
 // The record with the row's columns over what the store has. It is read within the transaction, so nobody can have
 // changed it meanwhile.
@@ -19,33 +16,8 @@ template <class Kayit>
 Durum Yaz(Tablo<Kayit>& tablo, const std::optional<Kayit>& ilk, const Kayit& yeni, const AktarimDosyasi& dosya,
           const AktarimSatiri& satir) {
   Okunan<Kayit> kayit{.ilk = ilk, .simdi = ilk.value_or(yeni)};
-  for (std::size_t i = 0; i < dosya.kolonlar.size(); ++i) {
-    const AktarimKolonu& hucre = dosya.kolonlar[i];
-    Kayit::HerKolon([&](const auto& kolon) {
-      // `kod` belongs to both tables of a person.
-      const bool buTablo = hucre.tablo->ad == Kayit::TabloAdi || hucre.alan->ad == "kod";
-      if (buTablo && hucre.alan->ad == kolon.ad) UyeyeYaz(kayit.simdi.*kolon.uye, satir.degerler[i]);
-    });
-  }
-  const auto yazilan = Koru([&] { return tablo.Yaz(kayit); });
-  if (yazilan) return Tamam();
-  Kusur kusur = yazilan.Kusuru();
-  kusur.metin = "satır " + std::to_string(satir.satirNo) + ": kayıt yazılamadı: " + kusur.metin;
-  kusur.satir = satir.satirNo;
-  return kusur;
-}
-
-// Runs `is` in one transaction, unless the file has problems or is only tried out.
-template <class Is>
-Sonuc<AktarimSonucu> Kaydet(Oturum& o, AktarimDosyasi& dosya, AktarimKipi kip, Is&& is) {
-  return Koru([&]() -> Sonuc<AktarimSonucu> {
-    AktarimSonucu sonuc;
-    Islem islem(o.depo.db.IcMotor(), KilitBekleme);
-    if (const Durum yazildi = is(sonuc); !yazildi) return yazildi.Kusuru();
-    sonuc.sorunlar = std::move(dosya.sorunlar);
-    if (sonuc.sorunlar.empty() && kip == AktarimKipi::Kaydet) islem.Onayla();
-    return sonuc;
-  });
+  HucreleriKoy(kayit.simdi, dosya, satir);
+  return SatirYaz(tablo, kayit, satir);
 }
 
 void TcNoyaBak(const AktarimDosyasi& dosya, const AktarimSatiri& satir, AlanTutamagi alan, Kusurlar& uyarilar) {
@@ -144,13 +116,14 @@ Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, const AktarilanCsv& csv, AktarimKi
   auto dosya = AktarimDosyasiOku(csv, {TabloBul("sicil"), TabloBul("kimlik")}, "kod", AnahtarKurali::Tekil);
   if (!dosya) return dosya.Kusuru();
   FirmaYukle(o);  // its default group
-  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { return PersonelleriYaz(o, *dosya, sonuc); });
+  return AktarimiKaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { return PersonelleriYaz(o, *dosya, sonuc); });
 }
 
 Sonuc<AktarimSonucu> AileAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip) {
   auto dosya = AktarimDosyasiOku(csv, {TabloBul("esco")}, "kod", AnahtarKurali::TekrarEder);
   if (!dosya) return dosya.Kusuru();
-  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { return AileYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
+  return AktarimiKaydet(o, *dosya, kip,
+                        [&](AktarimSonucu& sonuc) { return AileYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
 }
 
 Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, const AktarilanCsv& csv, AktarimKipi kip) {
@@ -161,7 +134,7 @@ Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, const Aktaril
   auto dosya = AktarimDosyasiOku(csv, {TabloBul(tanim->ad)}, tanim->anahtar, AnahtarKurali::Tekil);
   if (!dosya) return dosya.Kusuru();
   if (tanim->anahtar.empty() && dosya->satirlar.size() != 1) return Kusur{"firma dosyasında tek bir satır olmalı"};
-  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) {
+  return AktarimiKaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) {
     return dosya->sorunlar.empty() ? tanim->yaz(o.depo.db.IcMotor(), tanim->anahtar, *dosya, sonuc) : Tamam();
   });
 }

@@ -14,6 +14,10 @@ AktarimKolonu KolonBul(const std::vector<const TabloTanimi*>& tablolar, const st
   return {};
 }
 
+void BaslikKusuru(AktarimDosyasi& dosya, std::string_view baslik, std::string_view neden) {
+  dosya.sorunlar.push_back({.metin = std::string(baslik) + ": " + std::string(neden), .satir = 1});
+}
+
 template <class... Kayit>
 AlanTutamagi Tutamak(std::string_view tablo, std::string_view alan) {
   AlanTutamagi tutamak;
@@ -21,16 +25,17 @@ AlanTutamagi Tutamak(std::string_view tablo, std::string_view alan) {
   return tutamak;
 }
 
-AktarimSatiri SatirCevir(const CsvSatiri& satir, OndalikImi ondalik, AktarimDosyasi& dosya) {
+AktarimSatiri SatirCevir(const CsvSatiri& satir, OndalikImi ondalik, HucreOkuyan okuyan, AktarimDosyasi& dosya) {
   AktarimSatiri sonuc{satir.satirNo, {}};
   std::vector<std::pair<std::string_view, std::string>> kusurlar;
   for (std::size_t i = 0; i < satir.hucreler.size(); ++i) {
     std::string kusur;
-    Deger deger;
+    std::optional<Deger> deger;
     const AlanTanimi* alan = dosya.kolonlar[i].alan;
-    if (alan != nullptr) deger = HucredenDeger(*alan, satir.hucreler[i], ondalik, kusur);
+    if (alan != nullptr && okuyan != nullptr) deger = okuyan(*alan, satir.hucreler[i], kusur);
+    if (alan != nullptr && !deger) deger = HucredenDeger(*alan, satir.hucreler[i], ondalik, kusur);
     if (!kusur.empty()) kusurlar.emplace_back(alan->ad, kusur);
-    sonuc.degerler.push_back(std::move(deger));
+    sonuc.degerler.push_back(std::move(deger).value_or(Null{}));
   }
   for (const auto& [alan, neden] : kusurlar) dosya.SorunEkle(sonuc, alan, neden);
   return sonuc;
@@ -58,13 +63,22 @@ void AktarimDosyasi::SorunEkle(const AktarimSatiri& satir, std::string_view alan
   if (const int sira = KolonSirasi(alan); sira >= 0) {
     const AktarimKolonu& kolon = kolonlar[std::size_t(sira)];
     soylenenler.insert({satir.satirNo, kolon.alan->ad});
-    kusur.alan = Tutamak<Sicil, Kimlik, Esco, Firma, Muaf, Indir, Sendika, Kaztan>(kolon.tablo->ad, kolon.alan->ad);
+    kusur.alan = Tutamak<Sicil, Kimlik, Esco, Firma, Muaf, Indir, Sendika, Kaztan, Brd, Dvr, Cari>(kolon.tablo->ad,
+                                                                                                   kolon.alan->ad);
   }
   sorunlar.push_back(std::move(kusur));
 }
 
 bool AktarimDosyasi::Soylendi(int satirNo, std::string_view kolon) const {
   return soylenenler.contains({satirNo, kolon});
+}
+
+void AktarimDosyasi::KolonIste(std::string_view alan) {
+  if (KolonSirasi(alan) < 0) BaslikKusuru(*this, alan, "bu sütun dosyada olmalı");
+}
+
+void AktarimDosyasi::KolonYasakla(std::string_view alan, std::string_view neden) {
+  if (KolonSirasi(alan) >= 0) BaslikKusuru(*this, alan, neden);
 }
 
 int AktarimDosyasi::KolonSirasi(std::string_view alan) const {
@@ -79,26 +93,23 @@ std::string AktarimDosyasi::Metin(const AktarimSatiri& satir, std::string_view a
 }
 
 Sonuc<AktarimDosyasi> AktarimDosyasiOku(const AktarilanCsv& csv, const std::vector<const TabloTanimi*>& tablolar,
-                                        std::string_view anahtar, AnahtarKurali kural) {
+                                        std::string_view anahtar, AnahtarKurali kural, HucreOkuyan okuyan) {
   const auto tablo = CsvOku(csv.icerik);
   if (!tablo) return tablo.Kusuru();
   AktarimDosyasi dosya;
-  const auto baslikKusuru = [&](std::string_view baslik, const char* neden) {
-    dosya.sorunlar.push_back({.metin = std::string(baslik) + ": " + neden, .satir = 1});
-  };
   for (const auto& baslik : tablo->basliklar) {
     dosya.kolonlar.push_back(KolonBul(tablolar, baslik));
     const AlanTanimi* alan = dosya.kolonlar.back().alan;
     if (alan == nullptr)
-      baslikKusuru(baslik, "böyle bir alan yok");
+      BaslikKusuru(dosya, baslik, "böyle bir alan yok");
     else if (alan->nitelik == AlanNiteligi::Otomatik)
-      baslikKusuru(baslik, "bu numarayı program verir, dosyada olamaz");
+      BaslikKusuru(dosya, baslik, "bu numarayı program verir, dosyada olamaz");
   }
   if (!anahtar.empty() && dosya.KolonSirasi(anahtar) < 0) {
-    baslikKusuru(anahtar, "bu sütun dosyada olmalı");
+    dosya.KolonIste(anahtar);
     return dosya;
   }
-  for (const auto& satir : tablo->satirlar) dosya.satirlar.push_back(SatirCevir(satir, csv.ondalik, dosya));
+  for (const auto& satir : tablo->satirlar) dosya.satirlar.push_back(SatirCevir(satir, csv.ondalik, okuyan, dosya));
   if (!anahtar.empty()) AnahtarDenetle(dosya, anahtar, kural);
   return dosya;
 }

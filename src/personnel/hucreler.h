@@ -1,6 +1,7 @@
 // The checked cells of an import file: every column found in the schema, every cell a value of its column.
 #pragma once
 
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -31,15 +32,20 @@ struct AktarimDosyasi {
 
   // "girtar: boş bırakılamaz", of the row's person.
   void SorunEkle(const AktarimSatiri& satir, std::string_view alan, const std::string& neden);
-  bool Soylendi(int satirNo, std::string_view kolon) const;                    // has this cell a fault already?
-  int KolonSirasi(std::string_view alan) const;                                // -1: not in the file
+  bool Soylendi(int satirNo, std::string_view kolon) const;          // has this cell a fault already?
+  void KolonIste(std::string_view alan);                             // a fault of the heads where it is not in the file
+  void KolonYasakla(std::string_view alan, std::string_view neden);  // one where it is
+  int KolonSirasi(std::string_view alan) const;                      // -1: not in the file
   std::string Metin(const AktarimSatiri& satir, std::string_view alan) const;  // "" when not in the file
 };
+
+// Reads a cell that is written otherwise than its column is stored; nothing: as any other.
+using HucreOkuyan = std::optional<Deger> (*)(const AlanTanimi& alan, std::string_view metin, std::string& kusur);
 
 // `tablolar`: whose fields the header may name. `anahtar` must be a column, filled and different in every row unless
 // `tekrarEder`.
 enum class AnahtarKurali { Tekil, TekrarEder };
 Sonuc<AktarimDosyasi> AktarimDosyasiOku(const AktarilanCsv& csv, const std::vector<const TabloTanimi*>& tablolar,
-                                        std::string_view anahtar, AnahtarKurali kural);
+                                        std::string_view anahtar, AnahtarKurali kural, HucreOkuyan okuyan = nullptr);
 
 }  // namespace belvani
