@@ -1,6 +1,5 @@
 #include "payroll/hazirlik/sirketdenetimi.h"
 
-#include <cmath>
 #include <map>
 
 #include "core/asama.h"
@@ -10,6 +9,7 @@
 #include "core/store/satirlar.h"
 #include "core/tables/tablolar.h"
 #include "core/turkce.h"
+#include "payroll/hesap/oranlitutar.h"
 #include "payroll/hesap/satirlar.h"
 #include "payroll/parametre/mevzuat.h"
 #include "payroll/parametre/mevzuatdenetimi.h"
@@ -19,6 +19,7 @@ namespace {
 
 constexpr int IlkMevzuatYili = 2003;
 constexpr int EskiLiraSonYili = 2004;
+constexpr double EnCokFark = 1.0;
 
 Kusur Uyari(std::string metin, AlanTutamagi alan = {}, std::string kod = {}) {
   return {.metin = std::move(metin), .alan = alan, .kod = std::move(kod), .derece = Derece::Uyari};
@@ -60,17 +61,12 @@ std::string AyMetni(int yil, int ay) {
 std::string Tutmayan(const Brd& b) {
   Tutar yardim;
   for (const auto& kolon : YardimKolonlari) yardim += b.*kolon.uye;
-  const auto uzak = [](Tutar tutar, Tutar matrah, double oran) {
-    return std::abs(tutar.Sayi() - matrah.Sayi() * oran) > 1.0;
-  };
   if (b.topyardim != yardim) return "yardımlar toplamı";
   if (b.yuvarlama != b.sendika + b.borckes) return "özel kesintiler toplamı";
-  const bool ciraginki = b.sskkesinti + b.issizisci + b.gvtutar + b.dvtutar == Tutar();  // his bases stand, untaxed
   if (b.ogv > b.gvtutar) return "asgari geçim indirimi";
-  if (ciraginki) return {};
-  if (uzak(b.sskkesinti, b.sskmatrah, b.sskiscior.Sayi() / 100)) return "SSK işçi primi";
-  if (uzak(b.issizisci, b.sskmatrah, b.issiziscior.Sayi() / 100)) return "işsizlik işçi primi";
-  if (uzak(b.dvtutar, b.dvmatrah, b.damgaveror.Sayi() / 1000)) return "damga vergisi";
+  if (KesintisizKayit(b)) return {};
+  for (const OranliTutar& t : IscininTutarlari)
+    if (t.Farki(b) > EnCokFark) return t.ad;
   return {};
 }
 
