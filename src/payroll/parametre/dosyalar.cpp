@@ -177,6 +177,13 @@ Yukleme<GvTablosu> OzelGvYukle(const VeriYolu& veri) {
   return {tablo.value_or(GvTablosu()), std::move(y).Uyarilar()};
 }
 
+Yukleme<OzelGiderParametreleri> OzelGiderYukle(const VeriYolu& sirket, const OzelGiderParametreleri& hazir,
+                                               BozukDosya bozuk) {
+  Yukleyici y(sirket, Yukleyici::Eksik::Olagan, bozuk);
+  const auto parametreler = y.AlYaDaYaz<OzelGiderKaydi>(hazir, "hazır değerler");
+  return {parametreler, std::move(y).Uyarilar()};
+}
+
 Yukleme<KazancBayraklari> KazancBayraklariYukle(const VeriYolu& sirket) {
   Yukleyici y(sirket, Yukleyici::Eksik::Olagan);
   KazancBayraklari bayraklar = VarsayilanKazancBayraklari();
@@ -243,6 +250,11 @@ Durum KanunlarKaydet(const VeriYolu& veri, const Kanunlar& kanunlar) {
 
 Durum OzelGvKaydet(const VeriYolu& veri, const GvTablosu& tablo) {
   return Kaydet<OzelGvKaydi>(veri, tablo);
+}
+
+Durum OzelGiderKaydet(const VeriYolu& sirket, const OzelGiderParametreleri& parametreler) {
+  if (auto kusur = OzelGiderParametreKusuru(parametreler)) return *std::move(kusur);
+  return Kaydet<OzelGiderKaydi>(sirket, parametreler);
 }
 
 Durum FazlaMesaiKaydet(const VeriYolu& sirket, const FazlaMesailer& mesailer) {

@@ -1,10 +1,10 @@
 // The parameter files of the installation and of a company: loaded into plain values, saved whole.
 //
 // Installation files lie in the data path (yasal2.dat, gvtbl.dat, agitbl.dat, hestur.dat, kanun.dat, ozgvtbl.dat),
-// company files in the company's directory (kazanc.dat, yardim.dat, fmesai.dat, sablon.dat). Their bytes are told in
-// payroll/parametre/kayitlar.h. No file is ever refused: the size is the only test, and each loader below tells what a
-// file of another size gives. An absent file counts as an empty one; one that is there but cannot be read keeps its
-// bytes. A file is written only where its loader says so.
+// company files in the company's directory (kazanc.dat, yardim.dat, fmesai.dat, sablon.dat, ozgvpar.dat). Their bytes
+// are told in payroll/parametre/kayitlar.h. No file is ever refused: the size is the only test, and each loader below
+// tells what a file of another size gives. An absent file counts as an empty one; one that is there but cannot be read
+// keeps its bytes. A file is written only where its loader says so.
 //
 // Example: with no files at all the minimum wage is 0, and agitbl.dat (50, 10, 7.5, 5, 0; base 0) and hestur.dat
 // (4050 bytes) and kanun.dat (72 bytes) come into being.
@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "core/veriyolu.h"
+#include "payroll/parametre/ozelgiderparametreleri.h"
 #include "payroll/parametre/parametreler.h"
 
 namespace belvani {
@@ -54,6 +55,10 @@ Yukleme<YasalParametreler> YasalDosyalariCoz(const VeriYolu& veri, const DosyaHa
 // ozgvtbl.dat; not 96 bytes: all zero, the file stays.
 Yukleme<GvTablosu> OzelGvYukle(const VeriYolu& veri);
 
+// ozgvpar.dat of a company; not 12 bytes: `hazir` is written.
+Yukleme<OzelGiderParametreleri> OzelGiderYukle(const VeriYolu& sirket, const OzelGiderParametreleri& hazir,
+                                               BozukDosya bozuk = BozukDosya::Onarilir);
+
 // kazanc.dat: empty: the built-in flags are written; not 9 bytes: the built-in flags, the file stays.
 // yardim.dat: not 11 bytes: zeros, the file stays. That a company has none of these files is ordinary.
 Yukleme<KazancBayraklari> KazancBayraklariYukle(const VeriYolu& sirket);
@@ -74,6 +79,7 @@ Durum AgiTablosuKaydet(const VeriYolu& veri, const AgiTablosu& tablo);
 Durum HesapTurleriKaydet(const VeriYolu& veri, const HesapTurleri& turler);
 Durum KanunlarKaydet(const VeriYolu& veri, const Kanunlar& kanunlar);
 Durum OzelGvKaydet(const VeriYolu& veri, const GvTablosu& tablo);
+Durum OzelGiderKaydet(const VeriYolu& sirket, const OzelGiderParametreleri& parametreler);
 Durum FazlaMesaiKaydet(const VeriYolu& sirket, const FazlaMesailer& mesailer);
 Durum SablonKaydet(const VeriYolu& sirket, const Sablon& sablon);
 

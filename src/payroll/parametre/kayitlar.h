@@ -8,6 +8,7 @@
 //   hestur.dat    4050  50 × (number, text of 79, work-accident mark)
 //   kanun.dat       18  a row: first day, last day, era; the file holds any number of rows
 //   ozgvtbl.dat     96  8 × (limit, rate): this table keeps limit and rate of a row side by side
+//   ozgvpar.dat     12  rate (single), month, year (16 bits each), stamp duty (single)
 //   fmesai.dat       8  a line: multiplier, limit; the file holds three
 //   kazanc.dat       9  flag bytes of the earnings
 //   yardim.dat      11  flag bytes of the allowances
@@ -20,6 +21,7 @@
 #include <string>
 #include <string_view>
 
+#include "payroll/parametre/ozelgiderparametreleri.h"
 #include "payroll/parametre/parametreler.h"
 
 namespace belvani {
@@ -31,6 +33,7 @@ struct AgiKaydi        { using Deger = AgiTablosu;   static constexpr std::size_
 struct HesapTurKaydi   { using Deger = HesapTurleri; static constexpr std::size_t Boy = 4050; static constexpr std::string_view Dosya = "hestur.dat"; };
 struct KanunKaydi      { using Deger = KanunSatiri;  static constexpr std::size_t Boy = 18;   static constexpr std::string_view Dosya = "kanun.dat"; };
 struct OzelGvKaydi     { using Deger = GvTablosu;    static constexpr std::size_t Boy = 96;   static constexpr std::string_view Dosya = "ozgvtbl.dat"; };
+struct OzelGiderKaydi  { using Deger = OzelGiderParametreleri; static constexpr std::size_t Boy = 12; static constexpr std::string_view Dosya = "ozgvpar.dat"; };
 struct FazlaMesaiKaydi { using Deger = FazlaMesai;   static constexpr std::size_t Boy = 8;    static constexpr std::string_view Dosya = "fmesai.dat"; };
 struct KazancKaydi     { using Deger = decltype(KazancBayraklari::k); static constexpr std::size_t Boy = 9;  static constexpr std::string_view Dosya = "kazanc.dat"; };
 struct YardimKaydi     { using Deger = decltype(KazancBayraklari::y); static constexpr std::size_t Boy = 11; static constexpr std::string_view Dosya = "yardim.dat"; };

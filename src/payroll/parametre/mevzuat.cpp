@@ -157,6 +157,25 @@ const Json& DonemBul(const Json& kok, Tarih ilkGun) {
   throw MevzuatKusuru{ilkGun.Metin() + " gününü kapsayan bir dönem yok"};
 }
 
+// What `oku` takes out of the period that holds the month.
+template <class Oku>
+auto DonemdenOku(const std::string& dizin, int yil, int ay, Oku&& oku) -> Sonuc<decltype(oku(Json()))> {
+  const Tarih ilkGun(yil, ay, 1);
+  if (ilkGun.Bos()) return Kusur{"Dönem hatalı: " + std::to_string(ay) + "/" + std::to_string(yil)};
+  const std::string ad = std::to_string(yil) + (ay <= 6 ? "-1.json" : "-2.json");
+  const auto metin = DosyaOku(DizinSonu(dizin) + ad, EnCokMevzuatBayti);
+  const std::string donemAdi = std::string(AyAdi(ay)) + " " + std::to_string(yil);
+  if (!metin) return Kusur{donemAdi + " için yasal parametre yok (" + DizinSonu(dizin) + ad + " okunamadı)."};
+  const Json kok =
+      JsonDerinligi(*metin) > EnCokDerinlik ? Json(Json::value_t::discarded) : Json::parse(*metin, nullptr, false);
+  if (kok.is_discarded()) return Kusur{"Yasal parametre dosyası bozuk: " + DizinSonu(dizin) + ad};
+  try {
+    return oku(DonemBul(kok, ilkGun));
+  } catch (const MevzuatKusuru& kusur) {
+    return Kusur{donemAdi + " yasal parametreleri okunamadı (" + ad + "): " + kusur.metin};
+  }
+}
+
 }  // namespace
 
 Tutar AcikDilimLimiti(Lira lira) {
@@ -170,20 +189,21 @@ Tutar AcikDilimLimiti(Lira lira) {
 }
 
 Sonuc<YasalParametreler> MevzuatYukle(const std::string& dizin, int yil, int ay, Lira lira) {
-  const Tarih ilkGun(yil, ay, 1);
-  if (ilkGun.Bos()) return Kusur{"Dönem hatalı: " + std::to_string(ay) + "/" + std::to_string(yil)};
-  const std::string ad = std::to_string(yil) + (ay <= 6 ? "-1.json" : "-2.json");
-  const auto metin = DosyaOku(DizinSonu(dizin) + ad, EnCokMevzuatBayti);
-  const std::string donemAdi = std::string(AyAdi(ay)) + " " + std::to_string(yil);
-  if (!metin) return Kusur{donemAdi + " için yasal parametre yok (" + DizinSonu(dizin) + ad + " okunamadı)."};
-  const Json kok =
-      JsonDerinligi(*metin) > EnCokDerinlik ? Json(Json::value_t::discarded) : Json::parse(*metin, nullptr, false);
-  if (kok.is_discarded()) return Kusur{"Yasal parametre dosyası bozuk: " + DizinSonu(dizin) + ad};
-  try {
-    return DonemOku(DonemBul(kok, ilkGun), lira);
-  } catch (const MevzuatKusuru& kusur) {
-    return Kusur{donemAdi + " yasal parametreleri okunamadı (" + ad + "): " + kusur.metin};
-  }
+  return DonemdenOku(dizin, yil, ay, [lira](const Json& donem) { return DonemOku(donem, lira); });
+}
+
+Sonuc<GvTablosu> OzelGvMevzuati(const std::string& dizin, int yil, Lira lira) {
+  constexpr int Aralik = 12, OzelTarifeninIlkYili = 2004;
+  if (yil < OzelTarifeninIlkYili)
+    return DonemdenOku(dizin, yil, Aralik,
+                       [lira](const Json& donem) { return GvOku(Uye(donem, "gelirVergisi"), lira); });
+  const Kusur yok{std::to_string(yil) + " yılı için özel gider indirimi tablosu yok"};
+  auto tablo = DonemdenOku(dizin, yil, Aralik, [](const Json& donem) {
+    const Json tarife = donem.value("ozelGiderIndirimi", Json());
+    return tarife.is_null() || Dizi(tarife, "dilimler").empty() ? GvTablosu() : GvOku(tarife, Lira::Yeni);
+  });
+  if (tablo && *tablo == GvTablosu()) return yok;
+  return tablo;
 }
 
 std::string MevzuatDizini() {

@@ -10,6 +10,7 @@
 
 #include <tuple>
 
+#include "payroll/parametre/ozelgiderparametreleri.h"
 #include "payroll/parametre/parametreler.h"
 
 namespace belvani {
@@ -83,6 +84,13 @@ template <>
 inline constexpr auto Uyeler<FazlaMesai> = std::tuple{
     ParametreUyesi{&FazlaMesai::oran,  "oran",  "Ücret Çarpanı", 99},
     ParametreUyesi{&FazlaMesai::limit, "limit", "Limit",         9999}};
+
+template <>
+inline constexpr auto Uyeler<OzelGiderParametreleri> = std::tuple{
+    ParametreUyesi{&OzelGiderParametreleri::oran,   "oran",   "Özel Gider İndirim Oranı", 100},
+    ParametreUyesi{&OzelGiderParametreleri::mahay,  "mahay",  "Mahsup Başlangıç Ay",      12},
+    ParametreUyesi{&OzelGiderParametreleri::mahyil, "mahyil", "Mahsup Başlangıç Yıl",     2100},
+    ParametreUyesi{&OzelGiderParametreleri::damga,  "damga",  "Damga Vergisi Oranı",      1000}};
 
 template <>
 inline constexpr auto Uyeler<Sablon> = std::tuple{

@@ -76,6 +76,9 @@ TEST_F(Dosyalar, WhatIsSavedIsLoaded) {
   EXPECT_EQ(y.deger.hesapTurleri, p.hesapTurleri);
   EXPECT_EQ(y.deger.kanunlar, p.kanunlar);
   EXPECT_EQ(OzelGvYukle(Dizin()).deger, p.gv);
+  const OzelGiderParametreleri ozel{Tek(35), 8, 2005, Tek(6)};
+  ASSERT_TRUE(OzelGiderKaydet(Dizin(), ozel));
+  EXPECT_EQ(OzelGiderYukle(Dizin(), {}).deger, ozel);
 
   KazancBayraklari bayraklar;
   bayraklar.k.fill(6);
@@ -90,6 +93,30 @@ TEST_F(Dosyalar, WhatIsSavedIsLoaded) {
   EXPECT_EQ(FazlaMesaiYukle(Dizin()).deger, mesailer);
   EXPECT_EQ(SablonYukle(Dizin()).deger, sablon);
   EXPECT_EQ(SablonOku(Dizin()).deger, sablon);
+}
+
+TEST_F(Dosyalar, SpecialExpenseParametersOfAnotherSize) {
+  const OzelGiderParametreleri hazir = VarsayilanOzelGider(2004, Tek(6));
+  EXPECT_EQ(hazir, (OzelGiderParametreleri{Tek(35), 1, 2005, Tek(6)}));
+  EXPECT_THAT(OzelGiderYukle(Dizin(), hazir).uyarilar, SizeIs(0)) << "a new company has none";
+  EXPECT_EQ(Oku("ozgvpar.dat"), KayitBaytlari<OzelGiderKaydi>(hazir));
+  for (const std::size_t boy : {1u, 11u, 13u, 96u}) {
+    Yaz("ozgvpar.dat", std::string(boy, '\x11'));
+    EXPECT_THAT(OzelGiderYukle(Dizin(), hazir, BozukDosya::Dokunulmaz).uyarilar, SizeIs(1));
+    EXPECT_EQ(Oku("ozgvpar.dat").size(), boy) << "papers write nothing";
+    const auto y = OzelGiderYukle(Dizin(), hazir);
+    EXPECT_EQ(y.deger, hazir);
+    EXPECT_THAT(y.uyarilar, ElementsAre(HasSubstr("bayt, 12 bayt olmalıydı: hazır değerler yazıldı.")));
+    EXPECT_EQ(Oku("ozgvpar.dat").size(), 12u);
+  }
+  for (const OzelGiderParametreleri& p : {OzelGiderParametreleri{Tek(101), 1, 2005, Tek(6)},
+                                          {Tek(35), 0, 2005, Tek(6)},
+                                          {Tek(35), 13, 2005, Tek(6)},
+                                          {Tek(35), 1, 5, Tek(6)},
+                                          {Tek(35), 1, 2005, Tek(-1)}}) {
+    EXPECT_THAT(OzelGiderKaydet(Dizin(), p).KusurMetni(), HasSubstr("arasında olmalı"));
+  }
+  EXPECT_EQ(OzelGiderYukle(Dizin(), {}).deger, hazir) << "nothing of it was stored";
 }
 
 TEST_F(Dosyalar, WrongSizesOfStatutoryFiles) {

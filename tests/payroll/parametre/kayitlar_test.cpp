@@ -40,6 +40,11 @@ typename Kayit::Deger GidisDonus(const std::string& el) {
   return cozum.deger;
 }
 
+TEST(Kayitlar, SpecialExpenseParameters) {
+  const auto p = GidisDonus<OzelGiderKaydi>(El(35.5f, std::int16_t(11), std::int16_t(2005), 6.6f));
+  EXPECT_EQ(p, (OzelGiderParametreleri{Tek(35.5), 11, 2005, Tek(6.6)}));
+}
+
 TEST(Kayitlar, StatutoryRates) {
   std::string el;
   for (int i = 0; i < 320; ++i) el += El(float(i));  // both sides, column after column of 32 rows

@@ -166,6 +166,24 @@ TEST(Mevzuat, EveryFigureTellsCertaintyAndSources) {
   }
 }
 
+TEST(Mevzuat, TablesOfTheSpecialExpenseRefund) {
+  for (const auto& [yil, ilk, ikinci] :
+       Tablo<int, double, double>{{2004, 3000, 6000}, {2005, 3300, 6600}, {2006, 3600, 7200}}) {
+    const auto tablo = OzelGvMevzuati(mevzuat, yil, Lira::Eski);
+    ASSERT_TRUE(tablo) << tablo.KusurMetni();
+    EXPECT_EQ((std::array{tablo->GvLimit[0], tablo->GvLimit[1], tablo->GvLimit[2], tablo->GvLimit[3]}),
+              (std::array{Tutar(ilk), Tutar(ikinci), AcikDilimLimiti(Lira::Yeni), Tutar()}))
+        << yil;
+    EXPECT_EQ((std::array{tablo->GvOran[0].Sayi(), tablo->GvOran[1].Sayi(), tablo->GvOran[2].Sayi()}),
+              (std::array{8.0, 6.0, 4.0}));
+  }
+  for (const Lira lira : {Lira::Yeni, Lira::Eski})
+    EXPECT_EQ(*OzelGvMevzuati(mevzuat, 2003, lira), Yukle(2003, 12, lira).gv) << "the year's income tax";
+  for (const int yil : {2007, 2008, 2009})
+    EXPECT_THAT(OzelGvMevzuati(mevzuat, yil).KusurMetni(), HasSubstr("özel gider indirimi tablosu yok"));
+  EXPECT_THAT(OzelGvMevzuati(mevzuat, 2002).KusurMetni(), HasSubstr("Aralık 2002 için yasal parametre yok"));
+}
+
 TEST(Mevzuat, WhatIsMissingOrBrokenIsToldInTurkish) {
   EXPECT_THAT(MevzuatYukle(mevzuat, 2010, 1).KusurMetni(), HasSubstr("Ocak 2010 için yasal parametre yok"));
   EXPECT_THAT(MevzuatYukle(mevzuat, 2009, 13).KusurMetni(), HasSubstr("Dönem hatalı: 13/2009"));
