@@ -1,5 +1,5 @@
-// personel-al, aile-al, tanim-al
-#include "personnel/aktarim.h"
+// personel-al, aile-al, tanim-al, and what all commands of their kind share
+#include "cli/aktarim.h"
 
 #include "cli/sorunlar.h"
 
@@ -15,9 +15,7 @@ struct AktarimSecenekleri {
   AktarimKipi Kip() const { return dene ? AktarimKipi::YalnizDene : AktarimKipi::Kaydet; }
 };
 
-// `aktar` is given the session, the file and whether to save.
-template <class Aktar>
-void Al(Genel& genel, const AktarimSecenekleri& s, Aktar aktar) {
+void Al(Genel& genel, const AktarimSecenekleri& s, const DosyaAktaran& aktar) {
   const auto o = genel.YazmayaAc(s.kod);
   const std::string icerik = DosyayiOku(s.dosya);
   const Sonuc<AktarimSonucu> sonuc = aktar(*o, AktarilanCsv(std::string_view(icerik), s.ondalik), s.Kip());
@@ -47,16 +45,18 @@ void Dosya(CLI::App& komut, AktarimSecenekleri& s) {
 
 }  // namespace
 
-void AktarimKomutlari(CLI::App& app, Genel& genel) {
-  auto p = std::make_shared<AktarimSecenekleri>();
-  auto* personel = Komut(app, "personel-al", "Personel ve kimlik bilgilerini (sicil, kimlik) dosyadan alır", *p);
-  Dosya(*personel, *p);
-  personel->callback([&genel, p] { Al(genel, *p, PersonelAktar); });
+void AktarimKomutu(CLI::App& app, Genel& genel, const char* ad, const char* aciklama, const DosyaAktaran& aktar) {
+  auto s = std::make_shared<AktarimSecenekleri>();
+  auto* komut = Komut(app, ad, aciklama, *s);
+  Dosya(*komut, *s);
+  komut->callback([&genel, s, aktar] { Al(genel, *s, aktar); });
+}
 
-  auto a = std::make_shared<AktarimSecenekleri>();
-  auto* aile = Komut(app, "aile-al", "Eş ve çocukları (esco) alır; dosyadaki kişilerin eski kayıtları silinir", *a);
-  Dosya(*aile, *a);
-  aile->callback([&genel, a] { Al(genel, *a, AileAktar); });
+void AktarimKomutlari(CLI::App& app, Genel& genel) {
+  AktarimKomutu(app, genel, "personel-al", "Personel ve kimlik bilgilerini (sicil, kimlik) dosyadan alır",
+                PersonelAktar);
+  AktarimKomutu(app, genel, "aile-al", "Eş ve çocukları (esco) alır; dosyadaki kişilerin eski kayıtları silinir",
+                AileAktar);
 
   auto t = std::make_shared<AktarimSecenekleri>();
   auto* tanim = Komut(app, "tanim-al", "Şirketin tanımlarını alır: firma, muaf, indir, sendika veya kaztan", *t);

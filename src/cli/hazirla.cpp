@@ -1,7 +1,4 @@
 // hazirla, bordro-sil, geri-al
-#include <iostream>
-#include <unistd.h>
-
 #include "cli/giris.h"
 #include "cli/ortak.h"
 #include "payroll/hazirlik/aysaklama.h"
@@ -15,20 +12,6 @@ struct HazirlaSecenekleri {
   GirisDosyasi giris;
   Donem donem;
   SorunListesi sorunlar;
-};
-
-// On a terminal alone; a log file stays clean.
-class TerminalIlerlemesi : public Ilerleme {
- public:
-  bool Adim(std::size_t biten, std::size_t toplam) override {
-    if (!terminal_ || toplam < EnAzKisi) return true;
-    std::cerr << "\r" << biten << " / " << toplam << (biten == toplam ? "\n" : "") << std::flush;
-    return true;
-  }
-
- private:
-  static constexpr std::size_t EnAzKisi = 1000;
-  const bool terminal_ = ::isatty(STDERR_FILENO) == 1;
 };
 
 void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {

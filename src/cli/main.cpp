@@ -112,6 +112,7 @@ constexpr KomutEkle Komutlar[] = {
     ParametreKomutlari,  // the law's figures
     AktarimKomutlari,    // cards and lists out of files
     HazirlaKomutlari,    // the month's payroll
+    DevirKomutlari,      // to the next month and year, past months, accounts
     HesaplaKomutu,       // one person out of JSON
     BelgeKomutlari,      // papers of the registry
     BildirgeKomutu,      // the monthly declaration

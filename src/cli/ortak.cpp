@@ -1,6 +1,7 @@
 #include "cli/ortak.h"
 
 #include <iostream>
+#include <unistd.h>
 
 #include "core/adlar.h"
 #include "core/ayarlar.h"
@@ -42,6 +43,16 @@ std::unique_ptr<Oturum> Genel::SirketAc(const std::string& kod, SirketErisimi er
     throw KomutHatasi{ayni.KusurMetni() + "\nŞirket bu programla açılamadı"};
   if (const Durum yapi = YapiKontrol(*o); !yapi) bildirim.Uyari("Uyarı: " + yapi.KusurMetni());
   return o;
+}
+
+TerminalIlerlemesi::TerminalIlerlemesi() : terminal_(::isatty(STDERR_FILENO) == 1) {}
+
+bool TerminalIlerlemesi::Adim(std::size_t biten, std::size_t toplam) {
+  constexpr std::size_t EnAzKisi = 1000, Aralik = 32;
+  const bool gosterilir = biten % Aralik == 0 || biten == toplam;
+  if (terminal_ && toplam >= EnAzKisi && gosterilir)
+    std::cerr << "\r" << biten << " / " << toplam << (biten == toplam ? "\n" : "") << std::flush;
+  return true;
 }
 
 std::unique_ptr<Oturum> Genel::YazmayaAc(const std::string& kod) {

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "core/bildirim.h"
 #include "core/hedef.h"
 #include "core/okunus.h"
 #include "core/session/oturum.h"
@@ -55,6 +56,7 @@ void YedekKomutlari(CLI::App& app, Genel& genel);
 void ParametreKomutlari(CLI::App& app, Genel& genel);
 void AktarimKomutlari(CLI::App& app, Genel& genel);
 void HazirlaKomutlari(CLI::App& app, Genel& genel);
+void DevirKomutlari(CLI::App& app, Genel& genel);
 void HesaplaKomutu(CLI::App& app, Genel& genel);
 void BelgeKomutlari(CLI::App& app, Genel& genel);
 void BildirgeKomutu(CLI::App& app, Genel& genel);
@@ -79,6 +81,17 @@ T& Degeri(Sonuc<T>& sonuc) {
   return *sonuc;
 }
 void Basarmali(const Durum& durum);
+
+// How far a long run is, on a terminal alone; a log file stays clean.
+class TerminalIlerlemesi final : public Ilerleme {
+ public:
+  TerminalIlerlemesi();
+  bool Adim(std::size_t biten, std::size_t toplam) override;
+
+ private:
+  bool terminal_;
+};
+
 // --ondalik: what the decimal mark of a file is, where that cannot be seen from its numbers.
 void OndalikSecenegi(CLI::App& komut, OndalikImi& im);
 

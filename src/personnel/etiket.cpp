@@ -71,6 +71,37 @@ constexpr Etiket Etiketler[] = {
     {"esco", "dogyer", "Doğum Yeri"},
     {"esco", "adr", "Adres"},
     {"esco", "agiok", "A.G.İ."},
+
+    {"brd", "ay", "Ay"},
+    {"brd", "ng", "N.G."},
+    {"brd", "ht", "H.T."},
+    {"brd", "ui", "U.İ."},
+    {"brd", "rt", "R.T."},
+    {"brd", "eksiksebebi", "E.G.Sebebi"},
+    {"brd", "sskmatrah", "SSK Matrah"},
+    {"brd", "sskkesinti", "SSK Kesintisi"},
+    {"brd", "sskmatrahisveren", "SSK.İşvr.Matrah"},
+    {"brd", "sskkesintiisveren", "SSK.İşvr.Kesinti"},
+    {"brd", "gvmatrah", "G.V.Matrah"},
+    {"brd", "gvtutar", "G.V.Tutar"},
+    {"brd", "dvmatrah", "D.V.Matrah"},
+    {"brd", "dvtutar", "D.V.Tutar"},
+    {"brd", "ogv", "A.G.İ./Ö.G.İ."},
+
+    {"dvr", "kod", "Personel Sicil No"},
+    {"dvr", "yil", "Yılı"},
+    {"dvr", "gvmatrah", "G.V. Matrah"},
+    {"dvr", "gvtutar", "G.V. Tutar"},
+    {"dvr", "issizlik", "İşsizlik Primi"},
+    {"dvr", "ogimatrah", "Ö.G.İ. Matrah"},
+    {"dvr", "ogitutar", "Ö.G.İ. Tutar"},
+    {"dvr", "ogiodenen", "Ö.G.İ. Ödenen"},
+
+    {"cari", "kod", "Personel Kodu"},
+    {"cari", "tarih", "Tarih"},
+    {"cari", "islem", "İş."},
+    {"cari", "ack", "Açıklama"},
+    {"cari", "tutar", "Tutar"},
 };
 
 }  // namespace

@@ -5,7 +5,7 @@
 
 namespace belvani {
 
-// Tables `sicil`, `kimlik` and `esco`; a field without a label is called by its own name.
+// Tables `sicil`, `kimlik`, `esco`, `brd`, `dvr` and `cari`; a field without a label is called by its own name.
 std::string_view AlanEtiketi(std::string_view tablo, std::string_view alan);
 
 }  // namespace belvani

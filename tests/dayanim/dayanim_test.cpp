@@ -176,6 +176,9 @@ class Ornek {
     Dosya("ucret.csv", "kod,ucret\n001,1234.5\n002,2345.6\n");
     Dosya("zam.csv", "kod,ucret\n001,3456.7\n");
     Dosya("firma.csv", "unvan,issaati\nBaşka Ünvan,7.5\n");
+    Dosya("devir.csv", "kod,yil,gvmatrah\n001,2008,1000\n002,2009,2000\n");
+    Dosya("kart.csv", "kod,yil,ay,gvmatrah\n001,2009,10,1000\n002,2009,11,2000\n");
+    Dosya("cari.csv", "kod,tarih,islem,tutar\n001,01.05.2009,B,100\n001,15.05.2009,A,30\n");
     Komut("sirket-ac ORNEK --kullanici ornek --yil 2009 --ay 12");
     for (const char* tablo : {"firma", "muaf", "indir", "sendika", "kaztan"})
       Komut(std::string("tanim-al ORNEK ") + tablo + " " + ornek + tablo + ".csv");
@@ -339,6 +342,11 @@ const std::vector<YazanKomut>& YazanKomutlar() {
       {"yedekle", "yedekle ORNEK", "sirketler"},
       {"yedekten", "yedekten @yedek.zip --onay", "sirketler"},
       {"yedekten_yeni", "yedekten @yedek.zip --kod YENI", "sirketler"},
+      {"devir", "devir ORNEK --evet", "sirketler"},
+      {"yillik_devir", "yillik-devir ORNEK --yil 2009", "denetle ORNEK"},
+      {"perdev_al", "perdev-al ORNEK @devir.csv", "denetle ORNEK"},
+      {"kart_al", "kart-al ORNEK @kart.csv", defter + "11"},
+      {"cari_al", "cari-al ORNEK @cari.csv", "cari ORNEK 001"},
       {"bordro_sil", "bordro-sil ORNEK --yil 2009 --ay 11", defter + "11"},
   };
   return komutlar;
