@@ -126,6 +126,7 @@ void MetinYaz(const Belge& belge, const BelgeCiktisi& cikti) {
 }
 
 void BaytYaz(const Belge& belge, const BelgeCiktisi& cikti) {
+  if (std::string yok = belge.BaskiYok(); !yok.empty() && cikti.bicim != "xlsx") throw KomutHatasi{std::move(yok)};
   const std::string baytlar = cikti.bicim == "xlsx" ? Xlsx(belge) : cikti.bicim == "pdf" ? Pdf(belge) : BelgeHam(belge);
   if (cikti.bicim == "ham") Uyar(belge.MetinUyarisi());
   BaytlariYaz(baytlar, cikti.dosya);
@@ -133,9 +134,12 @@ void BaytYaz(const Belge& belge, const BelgeCiktisi& cikti) {
 
 }  // namespace
 
-void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti) {
-  komut.add_option("--bicim", cikti.bicim, "metin, csv, json, xlsx, pdf veya ham (metin yazıcısının baytları)")
-      ->check(CLI::IsMember({"metin", "csv", "json", "xlsx", "pdf", "ham"}));
+void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti, const std::vector<std::string>& bicimler) {
+  const std::vector<std::string> hepsi{"metin", "csv", "json", "xlsx", "pdf", "ham"};
+  komut
+      .add_option("--bicim", cikti.bicim,
+                  bicimler.empty() ? "metin, csv, json, xlsx, pdf veya ham (metin yazıcısının baytları)" : "biçim")
+      ->check(CLI::IsMember(bicimler.empty() ? hepsi : bicimler));
   komut.add_option("-o", cikti.dosya, "yazılacak dosya (metin, csv ve json verilmezse ekrana; - standart çıktı)");
   komut.parse_complete_callback([&cikti] {
     if (cikti.dosya.empty() && !EkranaYazilir(cikti.bicim))

@@ -14,8 +14,8 @@ struct BelgeCiktisi {
   std::string dosya;  // empty: standard output, for the forms that are text
 };
 
-// --bicim, -o
-void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti);
+// --bicim, -o; `bicimler` where a paper has fewer of them.
+void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti, const std::vector<std::string>& bicimler = {});
 
 // A report too wide for its pages is told on standard error. Without records there is no PDF: KomutHatasi.
 void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti);

@@ -2,6 +2,7 @@
 // company, and go the same way from there on: PersonelYukle, BordroHesapla.
 #include "cli/giris.h"
 #include "cli/hesapgirdisi.h"
+#include "cli/izjson.h"
 #include "cli/jsonakisi.h"
 #include "cli/sorunlar.h"
 
@@ -12,16 +13,6 @@ struct HesaplaSecenekleri {
   bool izli = false;
   SorunListesi sorunlar;
 };
-
-Json IzJson(const Iz& iz) {
-  Json dizi = Json::array();
-  for (const IzAdimi& adim : iz) {
-    Json girdiler = Json::object();
-    for (const auto& g : adim.girdiler) girdiler[g.ad] = g.deger;
-    dizi.push_back({{"alan", adim.alan}, {"kural", adim.kural}, {"girdiler", girdiler}, {"sonuc", adim.sonuc}});
-  }
-  return dizi;
-}
 
 // The result, or {"hata": …} with the reasons.
 Json BirHesap(Genel& genel, const Json& girdi, bool izli) {

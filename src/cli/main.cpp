@@ -115,6 +115,7 @@ constexpr KomutEkle Komutlar[] = {
     DevirKomutlari,      // to the next month and year, past months, accounts
     HesaplaKomutu,       // one person out of JSON
     BelgeKomutlari,      // papers of the registry
+    KidemKomutu,         // severance and notice of one person
     BildirgeKomutu,      // the monthly declaration
 };
 

@@ -59,6 +59,7 @@ void HazirlaKomutlari(CLI::App& app, Genel& genel);
 void DevirKomutlari(CLI::App& app, Genel& genel);
 void HesaplaKomutu(CLI::App& app, Genel& genel);
 void BelgeKomutlari(CLI::App& app, Genel& genel);
+void KidemKomutu(CLI::App& app, Genel& genel);
 void BildirgeKomutu(CLI::App& app, Genel& genel);
 
 struct Donem {

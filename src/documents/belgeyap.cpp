@@ -6,12 +6,11 @@
 namespace belvani {
 namespace {
 
-// Not of a paper that is of a year.
-bool AyiSecilir(const BelgeTanimi& tanim) {
+bool Secilir(const BelgeTanimi& tanim, const AlanTanimi& aranan) {
   for (const auto& sutun : tanim.alanlar)
     for (const AlanGrubu& grup : sutun)
       for (const Alan& alan : grup.alanlar)
-        if (alan.tanim.ad == SecimAyi.ad) return true;
+        if (alan.tanim.ad == aranan.ad) return true;
   return false;
 }
 
@@ -33,8 +32,11 @@ std::string BaskaAySozu(const MevzuatGorusu& gorus, const MevzuatRakami& rakam) 
 
 std::unique_ptr<Belge> BelgeYap(const BelgeTanimi& tanim, BelgeSecimi& secim, const BelgeKaynagi& kaynak) {
   auto belge = secim.BelgeYap(kaynak);
-  if (const auto zaman = secim.Zaman())
-    belge->Donem(secim.Bul<DefterSecim>() == nullptr || AyiSecilir(tanim) ? zaman->metin : std::to_string(zaman->yil));
+  // A paper of a year is named by that; one of a day by its day.
+  if (const auto zaman = secim.Zaman()) {
+    const bool yilin = Secilir(tanim, SecimYili) && !Secilir(tanim, SecimAyi);
+    belge->Donem(yilin ? std::to_string(zaman->yil) : zaman->metin);
+  }
   return belge;
 }
 

@@ -21,20 +21,6 @@ std::string Cizgi(std::size_t harf) {
   return Yinele("─", int(harf));
 }
 
-// Lines of at most `en` letters, broken at blanks where there are any.
-Satirlar SatirlaraBol(std::string_view metin, std::size_t en) {
-  Satirlar satirlar;
-  while (HarfSayisi(metin) > en) {
-    const std::string_view sigan = IlkHarfler(metin, en + 1);
-    const auto bosluk = sigan.rfind(' ');
-    const auto kesim = bosluk == 0 || bosluk == sigan.npos ? IlkHarfler(metin, en).size() : bosluk;
-    satirlar.emplace_back(Kirp(metin.substr(0, kesim)));
-    metin = Kirp(metin.substr(kesim));
-  }
-  satirlar.emplace_back(metin);
-  return satirlar;
-}
-
 void BilgileriEkle(Satirlar& satirlar, std::string_view baslik, const std::vector<IbranameBilgisi>& bilgiler) {
   constexpr std::size_t bas = EtiketHarfi + 3;
   satirlar.push_back(" " + std::string(baslik));

@@ -168,6 +168,7 @@ std::unique_ptr<CizilenBelge> BelgeSayfalari(const Belge& belge, Ilerleme* ilerl
 }
 
 Sonuc<PdfCiktisi> BelgePdf(const Belge& belge, Ilerleme* ilerleme) {
+  if (std::string yok = belge.BaskiYok(); !yok.empty()) return KuralKusuru(std::move(yok));
   const auto sayfalar = BelgeSayfalari(belge, ilerleme);
   if (sayfalar->SayfaSayisi() == 0) return PdfCiktisi{};
   PdfTuvali tuval({.baslik = belge.Baslik()});

@@ -57,6 +57,8 @@ class Belge {
   virtual std::string Eksikler() const { return {}; }
   // Told in place of a text print that does not exist.
   virtual std::string MetinYok() const { return "Bu belge yalnız grafik yazıcıdan alınabilir."; }
+  // Told in the place of any print, of a paper that only the screen and other programs have; else empty.
+  virtual std::string BaskiYok() const { return {}; }
   // What its user should know about the text form (lines too long for the printer); else empty.
   virtual std::string MetinUyarisi() const { return {}; }
   // For the screen; null for a paper that is no table.

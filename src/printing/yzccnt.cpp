@@ -45,6 +45,19 @@ std::string OrtalaMetin(std::string_view metin, int n) {
   return Yinele(" ", OrtaYeri(Kirp(metin), n)).append(Kirp(metin));
 }
 
+std::vector<std::string> SatirlaraBol(std::string_view metin, std::size_t n) {
+  std::vector<std::string> satirlar;
+  while (HarfSayisi(metin) > n) {
+    const std::string_view sigan = IlkHarfler(metin, n + 1);
+    const auto bosluk = sigan.rfind(' ');
+    const auto kesim = bosluk == 0 || bosluk == sigan.npos ? IlkHarfler(metin, n).size() : bosluk;
+    satirlar.emplace_back(Kirp(metin.substr(0, kesim)));
+    metin = Kirp(metin.substr(kesim));
+  }
+  satirlar.emplace_back(metin);
+  return satirlar;
+}
+
 void yzccnt::YzcKutu(double x1, double y1, double x2, double y2) {
   const auto [sol, sag] = std::minmax(x1, x2);
   const auto [ust, alt] = std::minmax(y1, y2);

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/deger.h"
 #include "core/sayi.h"
@@ -39,6 +40,9 @@ int OrtaYeri(std::string_view metin, int n);
 
 // The trimmed text in the middle of n letters; not filled up behind.
 std::string OrtalaMetin(std::string_view metin, int n);
+
+// Lines of at most n letters, broken at blanks where there are any; at least one.
+std::vector<std::string> SatirlaraBol(std::string_view metin, std::size_t n);
 
 // Draws on an open page, in its millimetres. The size of letters stays until another one is given.
 class yzccnt {

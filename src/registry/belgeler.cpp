@@ -1,6 +1,7 @@
 #include "registry/belgeler.h"
 
 #include "documents/bordrobelgeleri.h"
+#include "severance/kidembelgeleri.h"
 
 namespace belvani {
 namespace {
@@ -8,6 +9,7 @@ namespace {
 using OdaBelgeleri = std::span<const BelgeTanimi> (*)();
 constexpr OdaBelgeleri Odalar[] = {
     BordroBelgeleri,  // the month's payroll
+    KidemBelgeleri,   // severance and notice
 };
 
 const std::vector<BelgeTanimi>& Tablo() {

@@ -146,6 +146,7 @@ void BelgeBas(EkranBaglami& baglam, Belge& belge) {
 }
 
 void BelgeBas(EkranBaglami& baglam, Belge& belge, const BasimSozu& once) {
+  if (const std::string yok = belge.BaskiYok(); !yok.empty()) return baglam.bildirim.Bilgi(yok);
   if (belge.Bos()) return baglam.bildirim.Bilgi(BasilacakYok);
   YzcAyarlari ayar = belge.Ayar();
   ayar.yazici = baglam.baski.yazici;

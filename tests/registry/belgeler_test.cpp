@@ -28,6 +28,10 @@ struct Belgelik {
   Belgelik() {
     firma.unvan = "Çınar Tekstil";
     firma.paraonda = 2;
+    firma.issaati = Tek(8);
+    Motor& motor = depo.db.IcMotor();
+    motor.Calistir("update sicil set girtar = '2005-01-01', ucret = 6930000 where girtar is null");
+    motor.Calistir("insert into kimlik (kod) select kod from sicil where kod not in (select kod from kimlik)");
   }
   std::unique_ptr<Belge> Yap(const BelgeTanimi& tanim, int yil = test::Yil) {
     const auto secim = tanim.secim();
@@ -37,6 +41,14 @@ struct Belgelik {
   }
 };
 
+bool DonemiSecilir(const BelgeTanimi& tanim) {
+  for (const auto& sutun : tanim.alanlar)
+    for (const AlanGrubu& grup : sutun)
+      for (const Alan& alan : grup.alanlar)
+        if (alan.Tutamak() == AlanTutamagi(Uye("yil", &DefterSecim::yil))) return true;
+  return false;
+}
+
 TEST(KayitliBelgeler, ComesOutInEveryForm) {
   Belgelik belgelik;
   for (const BelgeTanimi& tanim : Belgeler()) {
@@ -45,13 +57,16 @@ TEST(KayitliBelgeler, ComesOutInEveryForm) {
     EXPECT_FALSE(belge->Bos() || belge->Kayitsiz());
     EXPECT_FALSE(belge->Baslik().empty());
     EXPECT_GT(BelgeSayfalari(*belge)->SayfaSayisi(), 0);
-    EXPECT_THAT(BelgePdf(*belge)->baytlar, StartsWith("%PDF"));
+    if (belge->BaskiYok().empty())
+      EXPECT_THAT(BelgePdf(*belge)->baytlar, StartsWith("%PDF"));
+    else
+      EXPECT_EQ(BelgePdf(*belge).KusurMetni(), belge->BaskiYok());
     EXPECT_THAT(*belge->Xlsx(), StartsWith("PK"));
     EXPECT_THAT(belge->Metin(), testing::HasSubstr(belge->Baslik()));
     ASSERT_NE(belge->Veri(), nullptr);
     EXPECT_EQ(belge->Tablo() == nullptr, tanim.ekran == "brdzarf") << "all but the slips are tables";
     EXPECT_GT(std::ranges::count(CsvRaporu(*belge->Veri()), '\n'), 1);
-    if (!tanim.kayitYok.empty()) {
+    if (!tanim.kayitYok.empty() && DonemiSecilir(tanim)) {
       EXPECT_TRUE(belgelik.Yap(tanim, 1995)->Kayitsiz());
     }
   }
@@ -80,7 +95,9 @@ TEST(KayitliBelgeler, HerAdimdaBirakilabilir) {
   const std::vector<std::function<std::string(const Belge&, Ilerleme*)>> bicimler{
       [](const Belge& b, Ilerleme* i) { return BelgeHam(b, i); },
       [](const Belge& b, Ilerleme* i) { return std::to_string(BelgeSayfalari(b, i)->SayfaSayisi()); },
-      [](const Belge& b, Ilerleme* i) { return BelgePdf(b, i)->uyari; },
+      [](const Belge& b, Ilerleme* i) {
+        return b.BaskiYok().empty() ? BelgePdf(b, i)->uyari : std::to_string(BelgeSayfalari(b, i)->SayfaSayisi());
+      },
       [](const Belge& b, Ilerleme* i) { return std::string(b.Xlsx(i) ? "PK" : ""); }};
   for (const BelgeTanimi& tanim : Belgeler()) {
     SCOPED_TRACE(tanim.ekran);

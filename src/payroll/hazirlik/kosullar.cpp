@@ -25,6 +25,11 @@ const Kaztan* GrupBul(const std::vector<Kaztan>& gruplar, std::string_view grup)
   return i == gruplar.end() ? nullptr : &*i;
 }
 
+void VarsayilanGrubuSec(FirmaParametreleri& f, const Firma& firma) {
+  f.ondegerYazili = !Kirp(firma.ondeger).empty();
+  f.varsayilanGrup = Kirp(f.ondegerYazili ? firma.ondeger : KartsizFirma().ondeger);
+}
+
 void VarsayilanGrubuEkle(Motor& motor, FirmaParametreleri& firma, const std::string& grup,
                          const KazancBayraklari& dosyadan) {
   if (GrupBul(firma.gruplar, grup) != nullptr) return;
@@ -74,13 +79,22 @@ Kosullar Kur(const Firma& firma, const YasalParametreler& yasal, const FirmaPara
 
 }  // namespace
 
+FirmaParametreleri KazancGruplariOku(Motor& motor, const Firma& firma, const VeriYolu& sirket) {
+  FirmaParametreleri f;
+  f.gruplar = KayitlariOku<Kaztan>(motor);
+  VarsayilanGrubuSec(f, firma);
+  if (GrupBul(f.gruplar, f.varsayilanGrup) == nullptr)
+    f.gruplar.push_back(GrupSatiri(f.varsayilanGrup, Al(f, KazancBayraklariYukle(sirket))));
+  f.varsayilan = KazancGrupYukle(f, f.varsayilanGrup);
+  return f;
+}
+
 FirmaParametreleri FirmaDosyalariYukle(Oturum& o) {
   Motor& motor = o.depo.db.IcMotor();
   FirmaParametreleri f;
   f.gruplar = KayitlariOku<Kaztan>(motor);
   const auto dosyadan = Al(f, KazancBayraklariYukle(o.FirmaDizini));
-  f.ondegerYazili = !Kirp(o.firma.ondeger).empty();
-  f.varsayilanGrup = Kirp(f.ondegerYazili ? o.firma.ondeger : KartsizFirma().ondeger);
+  VarsayilanGrubuSec(f, o.firma);
   VarsayilanGrubuEkle(motor, f, f.varsayilanGrup, dosyadan);
   f.varsayilan = KazancGrupYukle(f, f.varsayilanGrup);
   f.mesailer = Al(f, FazlaMesaiYukle(o.FirmaDizini));

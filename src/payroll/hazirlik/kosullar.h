@@ -47,6 +47,9 @@ struct Kosullar {
 // and from then on the files are no longer asked. A broken template is left as it is, and told. Throws MotorHatasi.
 FirmaParametreleri FirmaDosyalariYukle(Oturum& o);
 
+// Of those the earning groups alone, for papers that tax by their flags: the store stays as it is.
+FirmaParametreleri KazancGruplariOku(Motor& motor, const Firma& firma, const VeriYolu& sirket);
+
 // The legal parameters of the installation for work that must not go wrong unseen: a file that is absent, broken or
 // with figures that no law has is a failure, and stays as it is.
 Sonuc<YasalParametreler> YasalParametreleriAl(const KuruluMevzuat& kurulu);

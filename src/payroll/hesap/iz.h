@@ -29,6 +29,8 @@ struct IzGirdi {
 struct IzAdimi {
   IzAdimi(std::string_view alanAdi, std::string_view kuralMetni, std::initializer_list<IzGirdi> g, Tutar s)
       : alan(alanAdi), kural(kuralMetni), girdiler(g), sonuc(OndalikMetin(s)) {}
+  IzAdimi(std::string_view alanAdi, std::string_view kuralMetni, std::initializer_list<IzGirdi> g, int s)
+      : alan(alanAdi), kural(kuralMetni), girdiler(g), sonuc(std::to_string(s)) {}
   IzAdimi(std::string_view alanAdi, std::string_view kuralMetni, std::initializer_list<IzGirdi> g, Tek s)
       : alan(alanAdi), kural(kuralMetni), girdiler(g), sonuc(SayiMetni(s.Sayi())) {}
 

@@ -224,6 +224,18 @@ Yukleme<Sablon> SablonOku(const VeriYolu& sirket) {
   return {sablon.value_or(VarsayilanSablon()), std::move(y).Uyarilar()};
 }
 
+Yukleme<KidemParametreleri> KidemParOku(const VeriYolu& sirket) {
+  Yukleyici y(sirket, Yukleyici::Eksik::Olagan);
+  const KidemParametreleri kidem = y.AlYaDaYaz<KidemParKaydi>({}, "hazır kıdem parametreleri");
+  return {kidem, std::move(y).Uyarilar()};
+}
+
+Yukleme<IhbarSureleri> IhbarSureOku(const VeriYolu& sirket) {
+  Yukleyici y(sirket, Yukleyici::Eksik::Olagan);
+  const IhbarSureleri sureler = y.AlYaDaYaz<IhbarSureKaydi>(VarsayilanIhbarSureleri, "hazır ihbar süreleri");
+  return {sureler, std::move(y).Uyarilar()};
+}
+
 Durum YasalOranlarKaydet(const VeriYolu& veri, const YasalOranlar& oranlar) {
   return Kaydet<YasalKaydi>(veri, oranlar);
 }
@@ -265,6 +277,14 @@ Durum FazlaMesaiKaydet(const VeriYolu& sirket, const FazlaMesailer& mesailer) {
 
 Durum SablonKaydet(const VeriYolu& sirket, const Sablon& sablon) {
   return Kaydet<SablonKaydi>(sirket, sablon);
+}
+
+Durum KidemParKaydet(const VeriYolu& sirket, const KidemParametreleri& kidem) {
+  return Kaydet<KidemParKaydi>(sirket, kidem);
+}
+
+Durum IhbarSureKaydet(const VeriYolu& sirket, const IhbarSureleri& sureler) {
+  return Kaydet<IhbarSureKaydi>(sirket, sureler);
 }
 
 }  // namespace belvani

@@ -1,10 +1,10 @@
 // The parameter files of the installation and of a company: loaded into plain values, saved whole.
 //
 // Installation files lie in the data path (yasal2.dat, gvtbl.dat, agitbl.dat, hestur.dat, kanun.dat, ozgvtbl.dat),
-// company files in the company's directory (kazanc.dat, yardim.dat, fmesai.dat, sablon.dat, ozgvpar.dat). Their bytes
-// are told in payroll/parametre/kayitlar.h. No file is ever refused: the size is the only test, and each loader below
-// tells what a file of another size gives. An absent file counts as an empty one; one that is there but cannot be read
-// keeps its bytes. A file is written only where its loader says so.
+// company files in the company's directory (kazanc.dat, yardim.dat, fmesai.dat, sablon.dat, ozgvpar.dat, kidpar.dat,
+// ihbsure.dat). Their bytes are told in payroll/parametre/kayitlar.h. No file is ever refused: the size is the only
+// test, and each loader below tells what a file of another size gives. An absent file counts as an empty one; one that
+// is there but cannot be read keeps its bytes. A file is written only where its loader says so.
 //
 // Example: with no files at all the minimum wage is 0, and agitbl.dat (50, 10, 7.5, 5, 0; base 0) and hestur.dat
 // (4050 bytes) and kanun.dat (72 bytes) come into being.
@@ -17,6 +17,7 @@
 #include "core/veriyolu.h"
 #include "payroll/parametre/ozelgiderparametreleri.h"
 #include "payroll/parametre/parametreler.h"
+#include "payroll/parametre/tazminatparametreleri.h"
 
 namespace belvani {
 
@@ -72,6 +73,10 @@ Yukleme<FazlaMesailer> FazlaMesaiYukle(const VeriYolu& sirket);
 Yukleme<Sablon> SablonYukle(const VeriYolu& sirket, BozukDosya bozuk = BozukDosya::Onarilir);
 Yukleme<Sablon> SablonOku(const VeriYolu& sirket);
 
+// kidpar.dat, ihbsure.dat; not 4 and 32 bytes: the built-in record is written, and a file that was there is told.
+Yukleme<KidemParametreleri> KidemParOku(const VeriYolu& sirket);
+Yukleme<IhbarSureleri> IhbarSureOku(const VeriYolu& sirket);
+
 // Each writes its file whole: the old one stays where that fails.
 Durum YasalOranlarKaydet(const VeriYolu& veri, const YasalOranlar& oranlar);
 Durum GvTablosuKaydet(const VeriYolu& veri, const GvTablosu& tablo);
@@ -82,5 +87,7 @@ Durum OzelGvKaydet(const VeriYolu& veri, const GvTablosu& tablo);
 Durum OzelGiderKaydet(const VeriYolu& sirket, const OzelGiderParametreleri& parametreler);
 Durum FazlaMesaiKaydet(const VeriYolu& sirket, const FazlaMesailer& mesailer);
 Durum SablonKaydet(const VeriYolu& sirket, const Sablon& sablon);
+Durum KidemParKaydet(const VeriYolu& sirket, const KidemParametreleri& kidem);
+Durum IhbarSureKaydet(const VeriYolu& sirket, const IhbarSureleri& sureler);
 
 }  // namespace belvani

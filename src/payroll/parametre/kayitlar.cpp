@@ -99,6 +99,8 @@ BELVANI_KAYIT(OzelGiderKaydi)
 BELVANI_KAYIT(FazlaMesaiKaydi)
 BELVANI_KAYIT(KazancKaydi)
 BELVANI_KAYIT(YardimKaydi)
+BELVANI_KAYIT(KidemParKaydi)
+BELVANI_KAYIT(IhbarSureKaydi)
 BELVANI_KAYIT(SablonKaydi)
 #undef BELVANI_KAYIT
 

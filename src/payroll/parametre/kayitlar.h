@@ -12,6 +12,8 @@
 //   fmesai.dat       8  a line: multiplier, limit; the file holds three
 //   kazanc.dat       9  flag bytes of the earnings
 //   yardim.dat      11  flag bytes of the allowances
+//   kidpar.dat       4  days of the year of service (16 bits), two positions among the allowances (a byte each)
+//   ihbsure.dat     32  8 × (months, days of notice), 16 bits each
 //   sablon.dat     135  9 singles of days and hours, 11 amounts, 11 bytes of spreading kind
 //
 // Example: row r, column c of the employee rates stands at byte (r + 32c) × 4; the minimum wage at byte 1280.
@@ -23,6 +25,7 @@
 
 #include "payroll/parametre/ozelgiderparametreleri.h"
 #include "payroll/parametre/parametreler.h"
+#include "payroll/parametre/tazminatparametreleri.h"
 
 namespace belvani {
 
@@ -37,6 +40,8 @@ struct OzelGiderKaydi  { using Deger = OzelGiderParametreleri; static constexpr 
 struct FazlaMesaiKaydi { using Deger = FazlaMesai;   static constexpr std::size_t Boy = 8;    static constexpr std::string_view Dosya = "fmesai.dat"; };
 struct KazancKaydi     { using Deger = decltype(KazancBayraklari::k); static constexpr std::size_t Boy = 9;  static constexpr std::string_view Dosya = "kazanc.dat"; };
 struct YardimKaydi     { using Deger = decltype(KazancBayraklari::y); static constexpr std::size_t Boy = 11; static constexpr std::string_view Dosya = "yardim.dat"; };
+struct KidemParKaydi   { using Deger = KidemParametreleri; static constexpr std::size_t Boy = 4; static constexpr std::string_view Dosya = "kidpar.dat"; };
+struct IhbarSureKaydi  { using Deger = IhbarSureleri; static constexpr std::size_t Boy = 32;  static constexpr std::string_view Dosya = "ihbsure.dat"; };
 struct SablonKaydi     { using Deger = Sablon;       static constexpr std::size_t Boy = 135;  static constexpr std::string_view Dosya = "sablon.dat"; };
 // clang-format on
 

@@ -12,6 +12,7 @@
 
 #include "payroll/parametre/ozelgiderparametreleri.h"
 #include "payroll/parametre/parametreler.h"
+#include "payroll/parametre/tazminatparametreleri.h"
 
 namespace belvani {
 
@@ -91,6 +92,17 @@ inline constexpr auto Uyeler<OzelGiderParametreleri> = std::tuple{
     ParametreUyesi{&OzelGiderParametreleri::mahay,  "mahay",  "Mahsup Başlangıç Ay",      12},
     ParametreUyesi{&OzelGiderParametreleri::mahyil, "mahyil", "Mahsup Başlangıç Yıl",     2100},
     ParametreUyesi{&OzelGiderParametreleri::damga,  "damga",  "Damga Vergisi Oranı",      1000}};
+
+template <>
+inline constexpr auto Uyeler<KidemParametreleri> = std::tuple{
+    ParametreUyesi{&KidemParametreleri::KidemYilGun,      "KidemYilGun",      "Kıdem Yılı Gün Sayısı"},
+    ParametreUyesi{&KidemParametreleri::KidemPuantajYeri, "KidemPuantajYeri", "Kıdem'in Puantaj Yeri"},
+    ParametreUyesi{&KidemParametreleri::IhbarPuantajYeri, "IhbarPuantajYeri", "İhbar'ın Puantaj Yeri"}};
+
+template <>
+inline constexpr auto Uyeler<IhbarSuresi> = std::tuple{
+    ParametreUyesi{&IhbarSuresi::ay,  "ay",  "Ay"},
+    ParametreUyesi{&IhbarSuresi::gun, "gun", "Gün"}};
 
 template <>
 inline constexpr auto Uyeler<Sablon> = std::tuple{

@@ -219,6 +219,29 @@ TEST_F(Dosyalar, OnlyThePayrollScreenWritesTheBuiltInTemplate) {
   }
 }
 
+// An absent file is ordinary; one of another size goes, and that is told.
+TEST_F(Dosyalar, SeveranceFilesOfAnotherSizeBecomeTheBuiltInOnes) {
+  const std::string kidem("\x68\x01\x09\x0a", 4);
+  const std::string ihbar = std::string("\6\0\x0f\0\x12\0\x1e\0\x24\0\x2d\0\x0f\x27\x3c\0", 16) + std::string(16, '\0');
+  for (const auto& [kidemBoyu, ihbarBoyu] : Tablo<std::size_t, std::size_t>{{0, 0}, {3, 31}, {5, 33}, {400, 4000}}) {
+    if (kidemBoyu > 0) Yaz("kidpar.dat", std::string(kidemBoyu, 'x'));
+    if (ihbarBoyu > 0) Yaz("ihbsure.dat", std::string(ihbarBoyu, 'x'));
+    const auto k = KidemParOku(Dizin());
+    const auto i = IhbarSureOku(Dizin());
+    EXPECT_EQ(k.deger, KidemParametreleri());
+    EXPECT_EQ(i.deger, VarsayilanIhbarSureleri);
+    EXPECT_EQ(Oku("kidpar.dat"), kidem);
+    EXPECT_EQ(Oku("ihbsure.dat"), ihbar);
+    EXPECT_THAT(k.uyarilar, SizeIs(kidemBoyu == 0 ? 0 : 1));
+    EXPECT_THAT(i.uyarilar, SizeIs(ihbarBoyu == 0 ? 0 : 1));
+  }
+  IhbarSureleri sureler = VarsayilanIhbarSureleri;
+  sureler[7] = {12, 7};
+  ASSERT_TRUE(KidemParKaydet(Dizin(), {365, 1, 2}) && IhbarSureKaydet(Dizin(), sureler));
+  EXPECT_EQ(KidemParOku(Dizin()).deger, (KidemParametreleri{365, 1, 2}));
+  EXPECT_EQ(IhbarSureOku(Dizin()).deger, sureler);
+}
+
 TEST_F(Dosyalar, ANumberThatIsNoneIsToldOnce) {
   std::string baytlar = KayitBaytlari<YasalKaydi>(Ornek().oranlar);
   baytlar.replace(1312, 4, "\xff\xff\xff\x7f");

@@ -86,6 +86,12 @@ TEST(Kayitlar, SmallRecords) {
   // 01.10.2008 is day 39722.
   const std::string kanun = "\x00\x00\x00\x00\x40\x65\xe3\x40"s + "\x00\x00\x00\x00\x00\x00\xf0\x3f"s + "\xfe\xff"s;
   EXPECT_EQ(GidisDonus<KanunKaydi>(kanun), (KanunSatiri{Tarih(2008, 10, 1), Tarih(1899, 12, 31), -2}));
+  EXPECT_EQ(GidisDonus<KidemParKaydi>("\x6d\x01\x05\xff"s), (KidemParametreleri{365, 5, 255}));
+  EXPECT_EQ(GidisDonus<KidemParKaydi>("\xff\xff\x00\x00"s).KidemYilGun, -1);
+  const IhbarSureleri sureler =
+      GidisDonus<IhbarSureKaydi>("\x06\0\x0f\0"s + std::string(24, '\0') + "\x0f\x27\xff\xff"s);
+  EXPECT_EQ(sureler[0], (IhbarSuresi{6, 15}));
+  EXPECT_EQ(sureler[7], (IhbarSuresi{9999, -1}));
   const Sablon s = GidisDonus<SablonKaydi>(
       El(26.0f, std::string(28, '\0'), 2.5f, I(1'500'000), std::string(72, '\0'), I(99), "\2 23456789\xFF"s));
   EXPECT_EQ(s.SablonGun[0].Sayi() + s.SablonGun[8].Sayi(), 28.5);

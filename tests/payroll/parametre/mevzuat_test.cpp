@@ -97,6 +97,16 @@ TEST(Mevzuat, PublishedAmounts) {
   EXPECT_EQ(p.oranlar.SakatIndirim, (std::array{Tutar(670.0), Tutar(330.0), Tutar(160.0)}));
 }
 
+// Law 1475, article 14: the ceiling changes with each half year, and holds in all of its months.
+TEST(Mevzuat, SeveranceCeilingOfEveryHalfYear) {
+  const Tablo<int, double, double> yillar{{2003, 1323.95, 1389.95}, {2004, 1485.43, 1574.74}, {2005, 1648.90, 1727.15},
+                                          {2006, 1770.62, 1857.44}, {2007, 1960.69, 2030.19}, {2008, 2087.92, 2173.18},
+                                          {2009, 2260.05, 2365.16}};
+  for (const auto& [yil, ilk, ikinci] : yillar)
+    for (int ay = 1; ay <= 12; ++ay)
+      EXPECT_EQ(Yukle(yil, ay).oranlar.KidemTavan, Tutar(ay <= 6 ? ilk : ikinci)) << yil << "/" << ay;
+}
+
 TEST(Mevzuat, OldLiraIsThePublishedAmountToTheLastLira) {
   for (const auto& [yil, ay, ucret, taban, tavan] : Tablo<int, int, std::int64_t, std::int64_t, std::int64_t>{
            {2003, 3, 306'000'000, 327'583'290, 1'637'916'450}, {2004, 7, 444'150'000, 444'150'000, 2'886'975'000}}) {

@@ -1,0 +1,133 @@
+#include "severance/kidemicmali.h"
+
+#include "core/asama.h"
+#include "documents/listebelgesi.h"
+#include "documents/turetilen.h"
+#include "printing/kolonlar.h"
+
+namespace belvani {
+namespace {
+
+using enum KolonNiteligi;
+
+constexpr const char* KidemIcmalBasligi = "KIDEM-İHBAR ICMAL LISTESI";
+
+using Satir = KidemIcmalSatiri;
+
+const Kolonlar<Satir> kolonlar{
+    {"Sicil", 8, [](auto& s) { return s.kisi.sicil.kod; }},
+    {"SSK No", 13, [](auto& s) { return s.kisi.sicil.sskno; }},
+    {"TC No", 11, [](auto& s) { return s.kisi.tcno; }},
+    {"Adı Soyadı", 30, [](auto& s) { return AdSoyad(s.kisi.sicil); }},
+    {"Giriş", 10, [](auto& s) { return s.kisi.sicil.girtar; }},
+    {"Çıkış", 10, [](auto& s) { return s.baz; }},
+    {"Ücret", 10, [](auto& s) { return s.AylikUcret; }},
+    {"K.Gün", 6, [](auto& s) { return s.CalismaGunu; }},
+    {"PEK (Gün)", 9, [](auto& s) { return s.gunlukEsas; }},
+    {"Bürüt", 10, [](auto& s) { return s.brutKidem; }, Toplanir},
+    {"Damga", 8, [](auto& s) { return s.kidemDamga; }, Toplanir},
+    {"NET Kıdem", 10, [](auto& s) { return s.netKidem; }, Toplanir},
+    {"İ.Gün", 5, [](auto& s) { return s.IhbarGun; }},
+    {"Brüt", 10, [](auto& s) { return s.brutIhbar; }, Toplanir},
+    {"Gelir V.", 9, [](auto& s) { return s.ihbarGelirVergisi; }, Toplanir},
+    {"Damga V.", 8, [](auto& s) { return s.ihbarDamga; }, Toplanir},
+    {"NET İhbar.", 10, [](auto& s) { return s.netIhbar; }, Toplanir},
+    {"TOPLAM NET.", 11, [](auto& s) { return s.netKidem + s.netIhbar; }, Toplanir},
+};
+
+// What its reader must know: whom it leaves out though he may be owed something, and under which figures it stands.
+std::vector<std::string> Notlar(const KidemKosullari& kosullar, const KidemKisileri& kisiler, std::string tavanSozu) {
+  std::vector<std::string> notlar;
+  const auto ekle = [&](std::string soz) {
+    if (!soz.empty() && std::ranges::find(notlar, soz) == notlar.end()) notlar.push_back(std::move(soz));
+  };
+  const auto eksik = [&](int sayi, const char* olmayan) {
+    if (sayi > 0) ekle(std::to_string(sayi) + " kişi listede yok: " + olmayan + " yazılmamış.");
+  };
+  ekle(std::move(tavanSozu));
+  if (!kosullar.IsSaatiYazili) ekle(std::string(IsSaatiYazilmamis) + ": günde 8 saat alındı.");
+  for (const std::string& uyari : kosullar.uyarilar) ekle(uyari);
+  for (const KidemKisisi& kisi : kisiler.kisiler)
+    for (std::string& soz : AlinmayanVergiler(kosullar.Bayraklar(kisi.sicil))) ekle(std::move(soz));
+  eksik(kisiler.kimliksiz, "kimlik bilgileri");
+  eksik(kisiler.girissiz, "giriş tarihi");
+  return notlar;
+}
+
+std::string TekMetin(const std::vector<std::string>& sozler) {
+  std::string metin;
+  for (const std::string& soz : sozler) metin += (metin.empty() ? "" : "\n") + soz;
+  return metin;
+}
+
+class KidemIcmali final : public RaporBelgesi {
+ public:
+  KidemIcmali(Rapor rapor, const YzcAyarlari& ayar, std::string notlar)
+      : RaporBelgesi(std::move(rapor), ayar), notlar_(std::move(notlar)) {}
+
+  std::string Eksikler() const override { return notlar_; }
+  std::string BaskiYok() const override { return "Yazıcı Bölümü Kapatılmış"; }
+  std::string MetinUyarisi() const override { return {}; }  // no printer's line has to hold it
+
+ private:
+  std::string notlar_;
+};
+
+}  // namespace
+
+std::optional<Kusur> KidemIcmalSecimi::Kusuru() const {
+  if (!baz.Bos()) return std::nullopt;
+  return KuralKusuru("Hatalı Baz Tarihi", Uye("baz", &KidemIcmalSecimi::baz));
+}
+
+KidemIcmalSatiri KidemIcmalSatiriYap(const KidemKisisi& kisi, Tarih baz, const KidemKosullari& kosullar,
+                                     Tutar KidemTavan) {
+  const KidemKurallari kurallar = kosullar.Kurallar();
+  const Yuvarlayici yuvarla(kosullar.paraonda);
+  KidemIcmalSatiri satir(kisi, baz);
+  satir.AylikUcret = UcretYukle(kisi.sicil, kurallar, kisi.matrah);
+  const KidemSonucu s = KidemHesapla(kurallar, {.girtar = kisi.sicil.girtar,
+                                                .ciktar = baz,
+                                                .AylikUcret = satir.AylikUcret,
+                                                .IhbarGun = {},
+                                                .matrah = kisi.matrah,
+                                                .KidemTavan = KidemTavan,
+                                                .bayraklar = kosullar.Bayraklar(kisi.sicil)});
+  satir.CalismaGunu = s.CalismaGunu;
+  satir.IhbarGun = s.IhbarGun;
+  if (!s.tutarlar) return satir;
+  const KidemTutarlari& t = *s.tutarlar;
+  satir.gunlukEsas = Gosterilen(t.gunlukEsas, kosullar.paraonda);
+  satir.brutKidem = yuvarla(t.brutKidem);
+  satir.kidemDamga = t.kidemDamga;
+  satir.netKidem = yuvarla(t.netKidem);
+  satir.brutIhbar = yuvarla(t.brutIhbar);
+  satir.ihbarGelirVergisi = yuvarla(t.ihbarGelirVergisi);
+  satir.ihbarDamga = t.ihbarDamga;
+  satir.netIhbar = yuvarla(t.netIhbar);
+  return satir;
+}
+
+std::unique_ptr<Belge> KidemIcmalBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim,
+                                         const KidemIcmalSecimi& icmal) {
+  const KidemKosullari kosullar = KidemKosullariYukle(kaynak);
+  const KidemTavaniGorusu tavan = KidemTavaninaBak(kosullar.yasal, icmal.baz);
+  const KidemKisileri kisiler = KidemKisileriOku(kaynak.motor, secim, icmal.baz, kaynak.ilerleme);
+  std::vector<KidemIcmalSatiri> satirlar;
+  satirlar.reserve(kisiler.kisiler.size());
+  Asama asama(kaynak.ilerleme, kisiler.kisiler.size());
+  for (const KidemKisisi& kisi : kisiler.kisiler) {
+    asama.Adim();
+    satirlar.push_back(KidemIcmalSatiriYap(kisi, icmal.baz, kosullar, tavan.Secilen(icmal.tavan)));
+  }
+  Rapor rapor = RaporYap(kolonlar, satirlar, kosullar.paraonda);
+  rapor.baslik = rapor.ekranBasligi = KidemIcmalBasligi;
+  rapor.toplamEtiketi = "TOPLAM";
+  rapor.ustSatirlar = {{.sol = kaynak.firma.unvan, .sag = "Baz Tarihi : " + icmal.baz.Metin(), .sirket = true}};
+  const auto notlar = Notlar(kosullar, kisiler, tavan.Soz(icmal.tavan));
+  for (const std::string& soz : notlar) rapor.ustSatirlar.push_back({.sol = soz});
+  return std::make_unique<KidemIcmali>(std::move(rapor), BaskiAyari(KidemIcmalBasligi, KagitYonu::Yatay),
+                                       TekMetin(notlar));
+}
+
+}  // namespace belvani
