@@ -1,4 +1,4 @@
-// personel-al, aile-al, tanim-al, and what all commands of their kind share
+// personel-al, ucret-al, aile-al, tanim-al, and what all commands of their kind share
 #include "cli/aktarim.h"
 
 #include "cli/sorunlar.h"
@@ -55,6 +55,8 @@ void AktarimKomutu(CLI::App& app, Genel& genel, const char* ad, const char* acik
 void AktarimKomutlari(CLI::App& app, Genel& genel) {
   AktarimKomutu(app, genel, "personel-al", "Personel ve kimlik bilgilerini (sicil, kimlik) dosyadan alır",
                 PersonelAktar);
+  AktarimKomutu(app, genel, "ucret-al", "Kişilerin ücretlerini (kod, ucret, ucrettipi, ucretags) dosyadan alır",
+                UcretAktar);
   AktarimKomutu(app, genel, "aile-al", "Eş ve çocukları (esco) alır; dosyadaki kişilerin eski kayıtları silinir",
                 AileAktar);
 

@@ -111,6 +111,7 @@ constexpr KomutEkle Komutlar[] = {
     PaylasKomutu,        // for whom a store is laid out
     ParametreKomutlari,  // the law's figures
     AktarimKomutlari,    // cards and lists out of files
+    KisiKomutlari,       // people in bulk, and into other companies
     HazirlaKomutlari,    // the month's payroll
     DevirKomutlari,      // to the next month and year, past months, accounts
     HesaplaKomutu,       // one person out of JSON

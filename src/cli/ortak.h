@@ -55,6 +55,7 @@ void PaylasKomutu(CLI::App& app, Genel& genel);
 void YedekKomutlari(CLI::App& app, Genel& genel);
 void ParametreKomutlari(CLI::App& app, Genel& genel);
 void AktarimKomutlari(CLI::App& app, Genel& genel);
+void KisiKomutlari(CLI::App& app, Genel& genel);
 void HazirlaKomutlari(CLI::App& app, Genel& genel);
 void DevirKomutlari(CLI::App& app, Genel& genel);
 void HesaplaKomutu(CLI::App& app, Genel& genel);

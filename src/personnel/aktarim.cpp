@@ -67,6 +67,41 @@ Durum PersonelleriYaz(Oturum& o, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
   return Tamam();
 }
 
+// No wage is brought in by a file of something else, and none is lost by an empty cell, which would be a zero.
+void UcretDosyasiniDenetle(AktarimDosyasi& dosya, const CsvTablosu& tablo) {
+  if (dosya.kolonlar.size() < 2) dosya.sorunlar.push_back({.metin = "ucret: bu sütun dosyada olmalı", .satir = 1});
+  for (std::size_t i = 0; i < dosya.kolonlar.size(); ++i) {
+    const AlanTanimi* alan = dosya.kolonlar[i].alan;
+    if (alan == nullptr || alan->ad == sicil::kod.ad) continue;
+    if (alan->ad != sicil::ucret.ad && alan->ad != sicil::ucrettipi.ad && alan->ad != sicil::ucretags.ad)
+      dosya.sorunlar.push_back(
+          {.metin = std::string(alan->ad) + ": ücret dosyasında olamaz (ucret, ucrettipi, ucretags)", .satir = 1});
+    else
+      for (std::size_t satir = 0; satir < dosya.satirlar.size(); ++satir)
+        if (Kirp(tablo.satirlar[satir].hucreler[i]).empty())
+          dosya.SorunEkle(dosya.satirlar[satir], alan->ad, "boş bırakılamaz");
+  }
+}
+
+Durum UcretleriYaz(Motor& motor, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
+  Tablo<Sicil> kartlar(motor);
+  for (const auto& satir : dosya.satirlar) {
+    const std::string kod = dosya.Metin(satir, sicil::kod.ad);
+    const auto kart = kartlar.Bul(kod);
+    if (!kart && !kod.empty()) dosya.SorunEkle(satir, sicil::kod.ad, "bu kodla personel yok: " + kod);
+    if (!dosya.sorunlar.empty()) continue;
+    if (Durum d = Yaz(kartlar, kart, {}, dosya, satir); !d) return d;
+    ++sonuc.degisen;
+    if (kart->cikiskodu != 0)
+      sonuc.uyarilar.push_back({.metin = "işten çıkmış",
+                                .alan = sicil::cikiskodu,
+                                .kod = kart->kod,
+                                .satir = satir.satirNo,
+                                .derece = Derece::Uyari});
+  }
+  return Tamam();
+}
+
 Durum AileYaz(Motor& motor, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
   Tablo<Sicil> kartlar(motor);
   Tablo<Esco> aileler(motor);
@@ -117,6 +152,13 @@ Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, const AktarilanCsv& csv, AktarimKi
   if (!dosya) return dosya.Kusuru();
   FirmaYukle(o);  // its default group
   return AktarimiKaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { return PersonelleriYaz(o, *dosya, sonuc); });
+}
+
+Sonuc<AktarimSonucu> UcretAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip) {
+  auto dosya = AktarimDosyasiOku(csv, {TabloBul("sicil")}, "kod", AnahtarKurali::Tekil);
+  if (!dosya) return dosya.Kusuru();
+  UcretDosyasiniDenetle(*dosya, *CsvOku(csv.icerik));
+  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { return UcretleriYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
 }
 
 Sonuc<AktarimSonucu> AileAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip) {

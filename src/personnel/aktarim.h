@@ -38,6 +38,10 @@ struct AktarimSonucu {
 // a new one needs a hire date and gets his identity record (nationality "T.C." unless told).
 Sonuc<AktarimSonucu> PersonelAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip);
 
+// `ucret`, `ucrettipi` and `ucretags` of people who are there, by `kod`; other fields are not taken, and no cell may be
+// empty.
+Sonuc<AktarimSonucu> UcretAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip);
+
 // Fields of `esco`, `kod` being the employee, who must exist. The file is the whole family of each person in it: what
 // the store had for him goes.
 Sonuc<AktarimSonucu> AileAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip);

@@ -28,6 +28,7 @@ constexpr Etiket Etiketler[] = {
     {"sicil", "verda", "Vergi Dairesi"},
     {"sicil", "verno", "Hesap No"},
     {"sicil", "iskolu", "Meslek Kolu"},
+    {"sicil", "meslekkod", "Meslek Kodu"},
     {"sicil", "kanun", "Kanun No"},
     {"sicil", "tahsisno", "Tahsis No"},
     {"sicil", "sakatdrc", "Sakatlık Drc."},

@@ -168,7 +168,8 @@ class Yer {
   GeciciDizin dizin_;
 };
 
-// The sample company with its people, a backup, a month prepared twice and the law of the next one installed.
+// The sample company with its people, a backup, a month prepared twice and the law of the next one installed; another
+// company without people.
 class Ornek {
  public:
   Ornek() {
@@ -191,6 +192,7 @@ class Ornek {
       Komut("hazirla ORNEK --yil 2009 --ay 11");
     }
     Komut("parametre-kur --donem 2009-12");
+    Komut("sirket-ac IKINCI --kullanici ornek --yil 2009 --ay 12");
   }
 
   std::string Veri() const { return yer_.Yol(); }
@@ -337,6 +339,10 @@ const std::vector<YazanKomut>& YazanKomutlar() {
       {"parametre_kur", "parametre-kur --donem 2008-07", "parametre"},
       {"tanim_al", "tanim-al ORNEK firma @firma.csv", "sirketler"},
       {"personel_al", "personel-al ORNEK @ucret.csv", "denetle ORNEK"},
+      {"ucret_al", "ucret-al ORNEK @ucret.csv", "denetle ORNEK"},
+      {"kod_degistir", "kod-degistir ORNEK 001 901 --bagli", defter + "11"},
+      {"kanun_degistir", "kanun-degistir ORNEK 5921", "denetle ORNEK"},
+      {"transfer", "transfer ORNEK 001 IKINCI 77 --giris 01.12.2009", "sirketler"},
       {"hazirla", "hazirla ORNEK --yil 2009 --ay 12", defter + "12"},
       {"geri_al", "geri-al ORNEK --ay 2009-11 --onay", defter + "11"},
       {"yedekle", "yedekle ORNEK", "sirketler"},

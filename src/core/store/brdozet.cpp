@@ -1,5 +1,6 @@
 #include "core/store/brdozet.h"
 
+#include "core/store/bordrokodu.h"
 #include "core/store/satirlar.h"
 #include "core/tables/brd.h"
 #include "core/turkce.h"
@@ -36,16 +37,6 @@ void DegeriBagla(KayitOzeti& ozet, const Komut& komut, int i, AlanTipi tip) {
   }
 }
 
-// Of the row that stands ready, whose columns of the schema start at `ilk`.
-std::int64_t SatirOzeti(const Komut& komut, int ilk) {
-  KayitOzeti ozet;
-  Brd::HerKolon([&](const AlanTanimi& kolon) {
-    if (kolon.nitelik != AlanNiteligi::Otomatik) DegeriBagla(ozet, komut, ilk, kolon.tip);
-    ++ilk;
-  });
-  return ozet.Deger();
-}
-
 // Number, columns, checksum and its number of the records that meet `kosul`.
 std::unique_ptr<Komut> KayitKomutu(Motor& motor, const std::string& kosul = {}) {
   const std::string kimlik = "b." + motor.KimlikKolonu();
@@ -56,7 +47,7 @@ constexpr int KimlikYeri = 0, OzetYeri = 1, OzetKimligiYeri = 2, IlkKolonYeri = 
 
 // A record without a checksum agrees with everything.
 bool OzetTutuyor(const Komut& komut) {
-  return komut.Turu(OzetYeri) == Komut::Tur::Null || komut.Tam(OzetYeri) == SatirOzeti(komut, IlkKolonYeri);
+  return komut.Turu(OzetYeri) == Komut::Tur::Null || komut.Tam(OzetYeri) == BrdSatirOzeti(komut, IlkKolonYeri);
 }
 
 // What a damaged record says of itself, as far as it can be printed.
@@ -100,6 +91,40 @@ void KayiplariYaz(Motor& motor, Kusurlar& kusurlar) {
 
 }  // namespace
 
+std::int64_t BrdSatirOzeti(const Komut& komut, int ilk, std::optional<std::string_view> kod) {
+  KayitOzeti ozet;
+  Brd::HerKolon([&](const AlanTanimi& kolon) {
+    if (kod && kolon.ad == brd::kod.ad)
+      ozet.MetinBagla(ilk, *kod);
+    else if (kolon.nitelik != AlanNiteligi::Otomatik)
+      DegeriBagla(ozet, komut, ilk, kolon.tip);
+    ++ilk;
+  });
+  return ozet.Deger();
+}
+
+std::optional<std::int64_t> YeniKodunOzeti(const Komut& komut, int ozetYeri, int ilk, std::string_view kod) {
+  if (komut.Turu(ozetYeri) == Komut::Tur::Null) return std::nullopt;
+  const std::int64_t yazili = komut.Tam(ozetYeri);
+  return yazili == BrdSatirOzeti(komut, ilk) ? BrdSatirOzeti(komut, ilk, kod) : yazili;
+}
+
+BordroKoduYazici::BordroKoduYazici(Motor& motor)
+    : ozetler_(motor),
+      oku_(KayitKomutu(motor, " where b." + motor.KimlikKolonu() + " = ?")),
+      yaz_(motor.TetiksizHazirla("update brd set kod = ? where " + motor.KimlikKolonu() + " = ?")) {}
+
+void BordroKoduYazici::Yaz(std::int64_t oto, std::string_view kod) {
+  oku_->TamBagla(1, oto);
+  if (!oku_->Adim()) return;
+  const auto ozet = YeniKodunOzeti(*oku_, OzetYeri, IlkKolonYeri, kod);
+  oku_->Birak();
+  yaz_->MetinBagla(1, kod);
+  yaz_->TamBagla(2, oto);
+  yaz_->Calistir();
+  if (ozet) ozetler_.Degistir(oto, *ozet);
+}
+
 BrdOzetleri::BrdOzetleri(Motor& motor) : motor_(motor) {
   motor.Calistir(TabloyuKur);
   ekle_ = motor.Hazirla("insert into brdozet (oto, ozet) values (?, ?)");
@@ -119,7 +144,7 @@ void BrdOzetleri::Yenile(std::int64_t oto) {
   const auto kayit = KayitKomutu(motor_, " where b." + motor_.KimlikKolonu() + " = ?");
   kayit->TamBagla(1, oto);
   if (!kayit->Adim()) return;
-  const std::int64_t ozet = SatirOzeti(*kayit, IlkKolonYeri);
+  const std::int64_t ozet = BrdSatirOzeti(*kayit, IlkKolonYeri);
   kayit->Birak();
   Degistir(oto, ozet);
 }
@@ -135,7 +160,7 @@ bool BrdOzetleri::Tutuyor(std::int64_t oto) {
 std::size_t BrdOzetleri::EksikleriYaz() {
   std::vector<std::pair<std::int64_t, std::int64_t>> eksik;  // read to the end before anything is written
   const auto kayitlar = KayitKomutu(motor_, " where o.ozet is null");
-  while (kayitlar->Adim()) eksik.emplace_back(kayitlar->Tam(KimlikYeri), SatirOzeti(*kayitlar, IlkKolonYeri));
+  while (kayitlar->Adim()) eksik.emplace_back(kayitlar->Tam(KimlikYeri), BrdSatirOzeti(*kayitlar, IlkKolonYeri));
   for (const auto& [oto, ozet] : eksik) Degistir(oto, ozet);
   return eksik.size();
 }

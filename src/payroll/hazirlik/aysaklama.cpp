@@ -3,8 +3,11 @@
 #include <algorithm>
 
 #include "core/saat.h"
+#include "core/store/bordrokodu.h"
 #include "core/store/islem.h"
 #include "core/store/koru.h"
+#include "core/store/satirlar.h"
+#include "core/tables/brd.h"
 
 namespace belvani {
 namespace {
@@ -88,6 +91,35 @@ int YerineKoy(Motor& motor, int yil, int ay) {
   return int(gelen);
 }
 
+// By code within the month, so that one person is found among all that is kept.
+constexpr const char* IndeksiKur =
+    "create index if not exists brdonceki_kisi on brdonceki (yil, ay, kod collate turkce);"
+    "drop index if exists brdonceki_ay";  // of an earlier version
+
+// `al` is given each kept row of the person, with these columns.
+template <class Al>
+void HerSaklanan(Motor& motor, const std::string& kolonlar, std::string_view kod, Al&& al) {
+  if (!TabloVar(motor, "brdonceki")) return;
+  const auto sonraki = motor.Hazirla("select yil, ay from brdonceki where (yil, ay) > (?, ?) order by yil, ay limit 1");
+  const auto kisi =
+      motor.Hazirla("select " + kolonlar + " from brdonceki where yil = ? and ay = ? and kod = ? collate turkce");
+  std::int64_t yil = -1, ay = -1;
+  const auto ilerle = [&] {
+    sonraki->TamBagla(1, yil);
+    sonraki->TamBagla(2, ay);
+    const bool var = sonraki->Adim();
+    if (var) yil = sonraki->Tam(0), ay = sonraki->Tam(1);
+    sonraki->Birak();
+    return var;
+  };
+  while (ilerle()) {
+    kisi->TamBagla(1, yil);
+    kisi->TamBagla(2, ay);
+    kisi->MetinBagla(3, kod);
+    while (kisi->Adim()) al(*kisi);
+  }
+}
+
 std::string DonemMetni(int yil, int ay) {
   return std::string(AyAdi(ay)) + " " + std::to_string(yil);
 }
@@ -106,9 +138,10 @@ void AySaklamayaHazirla(Motor& motor) {
         "create table brdonceki (onc_an bigint, onc_neden varchar(40), onc_nesil smallint, onc_ozetoto bigint, "
         "onc_ozet bigint";
     for (const MotorKolonu& kolon : brd) sql += ", " + kolon.ad + " " + kolon.tip;
-    motor.Calistir(sql + "); create index brdonceki_ay on brdonceki (yil, ay)");
+    motor.Calistir(sql + ");" + IndeksiKur);
     return;
   }
+  motor.Calistir(IndeksiKur);
   // The store was upgraded since.
   for (const MotorKolonu& kolon : brd)
     if (std::ranges::find(var, kolon.ad, &MotorKolonu::ad) == var.end())
@@ -119,6 +152,29 @@ void AyiSakla(Motor& motor, int yil, int ay, std::string_view neden) {
   if (KayitSayisi(motor, yil, ay) == 0) return;
   Birak(motor, yil, ay);
   Sakla(motor, yil, ay, neden, Nesil::Saklanan);
+}
+
+std::vector<std::int64_t> SaklananlarinNumaralari(Motor& motor, std::string_view kod) {
+  std::vector<std::int64_t> numaralar;
+  HerSaklanan(motor, motor.KimlikKolonu(), kod, [&](const Komut& satir) { numaralar.push_back(satir.Tam(0)); });
+  return numaralar;
+}
+
+void SaklananlardaKodDegistir(Motor& motor, std::string_view eski, std::string_view yeni) {
+  if (!TabloVar(motor, "brdonceki")) return;
+  AySaklamayaHazirla(motor);
+  std::vector<std::pair<std::int64_t, Deger>> satirlar;  // number and new checksum, read to the end before any change
+  HerSaklanan(motor, motor.KimlikKolonu() + ", onc_ozet, " + SecimListesi<Brd>(motor), eski, [&](const Komut& satir) {
+    const auto ozet = YeniKodunOzeti(satir, 1, 2, yeni);
+    satirlar.emplace_back(satir.Tam(0), ozet ? Deger(*ozet) : Deger(Null{}));
+  });
+  const auto yaz = motor.Hazirla("update brdonceki set kod = ?, onc_ozet = ? where " + motor.KimlikKolonu() + " = ?");
+  for (const auto& [numara, ozet] : satirlar) {
+    yaz->MetinBagla(1, yeni);
+    yaz->Bagla(2, ozet);
+    yaz->TamBagla(3, numara);
+    yaz->Calistir();
+  }
 }
 
 Sonuc<std::vector<SaklananAy>> SaklananAylar(Oturum& o) {

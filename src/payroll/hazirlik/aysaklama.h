@@ -40,4 +40,10 @@ Sonuc<std::vector<SaklananAy>> SaklananAylar(Oturum& o);
 // that came back; nothing when the answer was no.
 Sonuc<std::optional<int>> AyiGeriAl(Oturum& o, int yil, int ay, Bildirim& bildirim);
 
+// Kept records that have this code; case is ignored.
+std::vector<std::int64_t> SaklananlarinNumaralari(Motor& motor, std::string_view kod);
+// What is kept of a person goes along with his code, so that a month that is brought back later finds him under the new
+// one; checksums as in core/store/bordrokodu.h. In the open transaction. Both throw MotorHatasi.
+void SaklananlardaKodDegistir(Motor& motor, std::string_view eski, std::string_view yeni);
+
 }  // namespace belvani

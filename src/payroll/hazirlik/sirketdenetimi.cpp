@@ -7,6 +7,7 @@
 #include "core/store/depodenetimi.h"
 #include "core/store/koru.h"
 #include "core/store/satirlar.h"
+#include "core/tables/kodtasiyanlar.h"
 #include "core/tables/tablolar.h"
 #include "core/turkce.h"
 #include "payroll/hesap/oranlitutar.h"
@@ -40,15 +41,13 @@ void KartiDenetle(const Oturum& o, Kusurlar& kusurlar) {
 
 // Records of a table whose person has no card, person by person.
 void SicilsizleriDenetle(Motor& motor, Kusurlar& kusurlar) {
-  const std::pair<const char*, const char*> tablolar[] = {{"kimlik", "kimlik"}, {"esco", "eş ve çocuk"},
-                                                          {"brd", "bordro"},    {"dvr", "devir"},
-                                                          {"foto", "fotoğraf"}, {"cari", "cari"}};
-  for (const auto& [tablo, ad] : tablolar) {
+  for (const auto& [tablo, ad] : KodTasiyanTablolar) {
     const auto komut = motor.Hazirla("select t.kod, count(*) from " + std::string(tablo) +
                                      " t where not exists (select 1 from sicil s where s.kod = t.kod) group by t.kod");
     while (komut->Adim())
-      kusurlar.push_back(Uyari("Kartı olmayan personelin " + std::to_string(komut->Tam(1)) + " " + ad + " kaydı var",
-                               sicil::kod, std::string(komut->Metin(0))));
+      kusurlar.push_back(
+          Uyari("Kartı olmayan personelin " + std::to_string(komut->Tam(1)) + " " + std::string(ad) + " kaydı var",
+                sicil::kod, std::string(komut->Metin(0))));
   }
 }
 
