@@ -114,6 +114,7 @@ void BelgeVer(Genel& genel, const BelgeIsi& is) {
                             .firma = oturum->firma,
                             .sirket = oturum->FirmaDizini};
   const auto secim = is.belge.secim();
+  secim->FirmaKoy(oturum->firma);
   if (is.belge.ayar.oku != nullptr) is.belge.ayar.oku(oturum->FirmaDizini, *secim);
   for (const auto& [alan, deger] : is.verilenler) alan->yaz(secim->Kayit(alan->kayitTuru), deger);
   if (const auto kusur = secim->Kusuru()) throw KomutHatasi{kusur->metin};

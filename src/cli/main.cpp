@@ -118,6 +118,7 @@ constexpr KomutEkle Komutlar[] = {
     BelgeKomutlari,      // papers of the registry
     KidemKomutu,         // severance and notice of one person
     BildirgeKomutu,      // the monthly declaration
+    BildirimKomutlari,   // notices of a person to the authorities
 };
 
 int Calistir(int argc, char** argv) {

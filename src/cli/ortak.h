@@ -62,6 +62,7 @@ void HesaplaKomutu(CLI::App& app, Genel& genel);
 void BelgeKomutlari(CLI::App& app, Genel& genel);
 void KidemKomutu(CLI::App& app, Genel& genel);
 void BildirgeKomutu(CLI::App& app, Genel& genel);
+void BildirimKomutlari(CLI::App& app, Genel& genel);
 
 struct Donem {
   int yil = 0;

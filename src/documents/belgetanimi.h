@@ -56,6 +56,7 @@ inline std::string AyMetni(int yil, int ay) {
 // The choices of one paper. Of its records, which are plain structs, one may know more:
 //
 //   void AyKoy(int yil, int ay);            // the company's working month, in the choices of a time
+//   void FirmaKoy(const Firma& firma);      // what the company's card says, before the user says otherwise
 //   BelgeZamani Zaman() const;              // the time that they stand for
 //   std::optional<Kusur> Kusuru() const;    // what is wrong with them together, at the field where it can be mended
 class BelgeSecimi {
@@ -67,6 +68,7 @@ class BelgeSecimi {
   virtual std::unique_ptr<Belge> BelgeYap(const BelgeKaynagi& kaynak) const = 0;
 
   virtual void AyKoy(int yil, int ay) = 0;
+  virtual void FirmaKoy(const Firma& firma) = 0;
   virtual std::optional<BelgeZamani> Zaman() const = 0;  // nothing for a paper of no time
   virtual std::optional<Kusur> Kusuru() const = 0;
 
@@ -90,6 +92,11 @@ class ParcaliSecim final : public BelgeSecimi {
   void AyKoy(int yil, int ay) override {
     Her(parcalar_, [&](auto& parca) {
       if constexpr (requires { parca.AyKoy(yil, ay); }) parca.AyKoy(yil, ay);
+    });
+  }
+  void FirmaKoy(const Firma& firma) override {
+    Her(parcalar_, [&](auto& parca) {
+      if constexpr (requires { parca.FirmaKoy(firma); }) parca.FirmaKoy(firma);
     });
   }
   std::optional<BelgeZamani> Zaman() const override {

@@ -2,6 +2,7 @@
 
 #include "documents/bordrobelgeleri.h"
 #include "severance/kidembelgeleri.h"
+#include "notices/bildirimbelgeleri.h"
 
 namespace belvani {
 namespace {
@@ -10,6 +11,8 @@ using OdaBelgeleri = std::span<const BelgeTanimi> (*)();
 constexpr OdaBelgeleri Odalar[] = {
     BordroBelgeleri,  // the month's payroll
     KidemBelgeleri,   // severance and notice
+    BordroBelgeleri,    // the month's payroll
+    BildirimBelgeleri,  // lists for the labour office and the insurance unit
 };
 
 const std::vector<BelgeTanimi>& Tablo() {

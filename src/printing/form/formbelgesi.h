@@ -14,7 +14,7 @@ namespace belvani {
 std::unique_ptr<CizilenBelge> FormCizimi(std::shared_ptr<const std::vector<FormSayfasi>> sayfalar);
 
 // A screen that lets its user move and edit the values gives the pages back by a new FormBelgesi.
-class FormBelgesi final : public Belge {
+class FormBelgesi : public Belge {
  public:
   // `sayfalar` or `metin` may be empty: such a paper has only the other form, and the dialog offers no more.
   FormBelgesi(YzcAyarlari ilk, std::vector<FormSayfasi> sayfalar, std::string metin);

@@ -25,6 +25,7 @@ BelgeEkrani::BelgeEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, co
   RehberleriBagla();
   KomutlariKur();
   secim_->AyKoy(Oturumu().firma.firmayil, Oturumu().firma.firmaay);
+  secim_->FirmaKoy(Oturumu().firma);
   if (tanim.ayar.oku != nullptr) tanim.ayar.oku(Oturumu().FirmaDizini, *secim_);
   AlanlariYukle();
 }

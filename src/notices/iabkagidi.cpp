@@ -1,0 +1,232 @@
+#include "notices/iabkagidi.h"
+
+#include "core/sayi.h"
+#include "core/turkce.h"
+#include "isyeri/firmaadresi.h"
+#include "isyeri/isyerinumarasi.h"
+#include "printing/form/satirliform.h"
+
+namespace belvani {
+namespace {
+
+// Millimetres of the page.
+constexpr double Sol = 10;
+constexpr double Ust = 10;
+constexpr double En = 190;
+constexpr double KutuBoyu = 9;
+constexpr double BolumBoyu = 5.5;
+constexpr double IsaretBoyu = 4;
+constexpr double HucreBoyu = 5.5;
+constexpr double KayitSatiri = 6;
+constexpr int SakatlikDerecesi = 3;
+constexpr int VergiDilimi = 4;
+
+double BolumBasligi(FormKurucu& f, double y, std::string_view metin) {
+  f.Bolum({Sol, y, En, BolumBoyu}, metin, 8.5, MetinHizasi::Sol);
+  return y + BolumBoyu;
+}
+
+double Satir(FormKurucu& f, double y, const std::vector<EtiketliKutu>& kutular) {
+  return f.EtiketliKutular({Sol, y}, KutuBoyu, kutular);
+}
+
+double Bas(FormKurucu& f, double y) {
+  constexpr double boy = 21;
+  f.Kutu({Sol, y, En, boy});
+  f.Baslik({Sol, y + 1, En, 6}, "TÜRKİYE İŞ KURUMU", 11);
+  f.Baslik({Sol, y + 7, En, 7}, "İŞTEN AYRILMA BİLDİRGESİ", 14);
+  f.Baslik({Sol, y + 14, En, 6}, "(İAB)", 11);
+  return y + boy;
+}
+
+// Boxes to tick, each with its words on the left.
+struct Secenek {
+  std::string ad;
+  std::string etiket;
+  bool secili = false;
+};
+double Secenekler(FormKurucu& f, const Dikdortgen& kutu, std::string_view etiket, double etiketEni,
+                  const std::vector<Secenek>& secenekler) {
+  f.Kutu(kutu);
+  f.Etiket({kutu.x + f.pay, kutu.y, etiketEni, kutu.boy}, etiket);
+  const double en = (kutu.en - etiketEni - 2 * f.pay) / double(secenekler.size());
+  double x = kutu.x + f.pay + etiketEni;
+  for (const Secenek& s : secenekler) {
+    f.Etiket({x, kutu.y, en - IsaretBoyu - 3, kutu.boy}, s.etiket, MetinHizasi::Sag);
+    f.Isaret(s.ad, {x + en - IsaretBoyu - 2, kutu.y + (kutu.boy - IsaretBoyu) / 2, IsaretBoyu, IsaretBoyu}, s.secili);
+    x += en;
+  }
+  return kutu.y + kutu.boy;
+}
+
+// A label, and the digits in cells at the right end of the box.
+void Numara(FormKurucu& f, const Dikdortgen& kutu, std::string_view etiket, const std::string& ad, int hane,
+            const std::string& deger) {
+  constexpr double haneEni = 5;
+  const double hucreler = hane * haneEni;
+  f.Kutu(kutu);
+  f.Etiket({kutu.x + f.pay, kutu.y, kutu.en - hucreler - 3 * f.pay, kutu.boy}, etiket);
+  f.Basamaklar(ad,
+               {.x = kutu.x + kutu.en - f.pay - hucreler,
+                .y = kutu.y + (kutu.boy - HucreBoyu) / 2,
+                .sayi = hane,
+                .en = haneEni,
+                .boy = HucreBoyu},
+               deger);
+}
+
+// ---- sections
+
+double IsyeriNo(FormKurucu& f, double y, const Firma& firma) {
+  const int satir = int(y / SatirMm) + 1;
+  const double alt = IsyeriNumarasi(f, Sol + 30, satir, firma, "") * SatirMm;
+  f.Kutu({Sol, y, En, alt - y});
+  f.Etiket({Sol + f.pay, y, 28, alt - y}, "İşyeri Sicil No");
+  return alt;
+}
+
+double IsverenBolumu(FormKurucu& f, double y, const Firma& firma) {
+  const auto adres = FirmaAdresi(firma);
+  y = BolumBasligi(f, y, "1 - İŞVEREN BİLGİLERİ");
+  y = Satir(f, y, {{En, "Ünvanı", EtiketUstte, "firma.unvan", firma.unvan}});
+  y = Satir(
+      f, y,
+      {{En / 2, "Adresi", EtiketUstte, "firma.adr1", adres[0]}, {En / 2, "", EtiketUstte, "firma.adr2", adres[1]}});
+  y = IsyeriNo(f, y, firma);
+  y = Satir(f, y,
+            {{55, "Ticaret Sicil No", EtiketUstte, "firma.ticsicil", firma.ticsicil},
+             {45, "Kuruluş Tarihi", EtiketUstte, "firma.kurtar", firma.kurtar.Metin()},
+             {En - 100, "Ana Faaliyet Konusu", EtiketUstte, "firma.isi", firma.isi}});
+  y = Satir(f, y,
+            {{40, "İli", EtiketUstte, "firma.adril", firma.adril},
+             {40, "İlçesi", EtiketUstte, "firma.adrilce", firma.adrilce},
+             {60, "Telefonları", EtiketUstte, "firma.tel", firma.tel},
+             {En - 140, "E-Posta", EtiketUstte, "firma.epos", firma.epos}});
+  return Secenekler(f, {Sol, y, En, 7}, "Kapsamı:", 30, {{"kapsam.kamu", "Kamu:"}, {"kapsam.ozel", "Özel:", true}});
+}
+
+double SigortaliBolumu(FormKurucu& f, double y, const IabFormu& form) {
+  constexpr double ucte = En / 3;
+  y = BolumBasligi(f, y, "2 - SİGORTALI BİLGİLERİ");
+  Numara(f, {Sol, y, En / 2 - 2, KutuBoyu}, "T.C. Kimlik No", "tcno", 11, form.tcno);
+  Numara(f, {Sol + En / 2 - 2, y, En / 2 + 2, KutuBoyu}, "SSK Sicil No", "sskno", 13, form.sskno);
+  y += KutuBoyu;
+  y = Satir(f, y,
+            {{ucte, "Adı Soyadı", EtiketUstte, "adsoyad", form.adsoyad},
+             {ucte, "Baba Adı", EtiketUstte, "baba", form.baba},
+             {ucte, "Ana Adı", EtiketUstte, "ana", form.ana}});
+  y = Satir(f, y,
+            {{ucte, "Doğum Yeri", EtiketUstte, "dogyer", form.dogyer},
+             {ucte, "Doğum Tarihi", EtiketUstte, "dogtar", form.dogtar.Metin()},
+             {ucte, "Telefon", EtiketUstte, "tel", form.tel}});
+  y = Satir(f, y,
+            {{En / 2, "Adresi", EtiketUstte, "adr1", form.adres[0]}, {En / 2, "", EtiketUstte, "adr2", form.adres[1]}});
+  std::vector<Secenek> dereceler, dilimler;
+  for (int i = 1; i <= SakatlikDerecesi; ++i)
+    dereceler.push_back({"sakatlik" + std::to_string(i), std::to_string(i) + ".", form.sakatdrc == i});
+  for (int i = 1; i <= VergiDilimi; ++i) dilimler.push_back({"dilim" + std::to_string(i), std::to_string(i) + "."});
+  Secenekler(f, {Sol, y, En / 2, 7}, "Sakatlık Derecesi", 30, dereceler);
+  return Secenekler(f, {Sol + En / 2, y, En / 2, 7}, "Vergi Dilimi", 25, dilimler);
+}
+
+// Of those who are with a fund of their own, which the program does not know: for the pen.
+double SandikBolumu(FormKurucu& f, double y) {
+  y = BolumBasligi(f, y, "3 - SANDIK BİLGİLERİ");
+  return Satir(f, y,
+               {{En / 2, "Sandığın Adı", EtiketUstte, "sandik.ad", ""},
+                {En / 4, "Sandık Sicil No", EtiketUstte, "sandik.no", ""},
+                {En / 4, "Üyelik Tarihi", EtiketUstte, "sandik.tarih", ""}});
+}
+
+double Kayitlar(FormKurucu& f, double y, const IabFormu& form, int paraonda) {
+  const std::vector<FormKolonu> kolonlar{{20, "Yıl", "", "yil", MetinHizasi::Orta},
+                                         {35, "Ay", "", "ay"},
+                                         {40, "Kazanç", "", "pek", MetinHizasi::Sag},
+                                         {20, "Gün", "", "gun", MetinHizasi::Orta},
+                                         {En - 115, "Eksik Gün Sebebi", "", "ekseb"}};
+  f.Kutu({Sol, y, En, KayitSatiri});
+  f.Etiket(f.Icerisi({Sol, y, En, KayitSatiri}),
+           "Son 120 gün içinde işyerindeki prime ilişkin kayıtlar (En son aydan başlayarak geriye doğru "
+           "doldurulacaktır.)");
+  y += KayitSatiri;
+  double x = Sol;
+  std::vector<double> enler;
+  for (const FormKolonu& k : kolonlar) {
+    f.Kutu({x, y, k.en, KayitSatiri});
+    f.Etiket(f.Icerisi({x, y, k.en, KayitSatiri}), k.ustBaslik, MetinHizasi::Orta);
+    enler.push_back(k.en);
+    x += k.en;
+  }
+  y += KayitSatiri;
+  f.Tablo({Sol, y}, enler, KayitSatiri, int(IabKayitSayisi));
+  for (std::size_t i = 0; i < IabKayitSayisi; ++i, y += KayitSatiri) {
+    std::vector<std::string> degerler(kolonlar.size());
+    if (i < form.kayitlar.size()) {
+      const IabKaydi& k = form.kayitlar[i];
+      degerler = {std::to_string(k.yil), k.ay, TutarMetni(k.pek, paraonda), std::to_string(k.gun), k.ekseb};
+    }
+    x = Sol;
+    for (std::size_t k = 0; k < kolonlar.size(); ++k) {
+      f.Alan("kayit" + std::to_string(i + 1) + "." + kolonlar[k].ad, f.Icerisi({x, y, kolonlar[k].en, KayitSatiri}),
+             degerler[k], kolonlar[k].hiza);
+      x += kolonlar[k].en;
+    }
+  }
+  return y;
+}
+
+double CalismaBolumu(FormKurucu& f, double y, const IabFormu& form, int paraonda) {
+  y = BolumBasligi(f, y, "4 - İŞTEN AYRILMA BİLGİLERİ");
+  y = Satir(f, y,
+            {{45, "Giriş Tarihi", EtiketUstte, "girtar", form.girtar.Metin()},
+             {45, "Çıkış Tarihi", EtiketUstte, "ciktar", form.ciktar.Metin()},
+             {En - 90, "Çıkış Nedeni", EtiketUstte, "cikissebebi", form.cikissebebi}});
+  y = Satir(f, y,
+            {{90, "Görevi", EtiketUstte, "gorevi", form.gorevi},
+             {40, "Son Net Ücret", EtiketUstte, "sonnet", TutarMetni(form.sonNet, paraonda), MetinHizasi::Sag},
+             {En - 130, "Son 3 Yıllık İşsizlik Sigortası Günü", EtiketUstte, "issizlikgunu",
+              std::to_string(form.issizlikGunu), MetinHizasi::Sag}});
+  return Kayitlar(f, y, form, paraonda);
+}
+
+double Imzalar(FormKurucu& f, double y, const IabFormu& form) {
+  constexpr double boy = 24;
+  y = Satir(f, y,
+            {{En / 2, "Düzenleme Tarihi", EtiketUstte, "duzenleme", form.duzenleme.Metin()},
+             {En / 2, "Sigortalıya Tebliğ Tarihi", EtiketUstte, "teblig", form.teblig.Metin()}});
+  double x = Sol;
+  for (const char* imza : {"İşveren veya Vekilinin Kaşesi ve İmzası", "Sigortalının İmzası"}) {
+    f.Kutu({x, y, En / 2, boy});
+    f.Etiket({x, y + 1, En / 2, 4}, imza, MetinHizasi::Orta);
+    x += En / 2;
+  }
+  return y + boy;
+}
+
+class IabBelge final : public FormBelgesi {
+ public:
+  using FormBelgesi::FormBelgesi;
+  std::string MetinYok() const override { return IabMetinYok; }
+};
+
+}  // namespace
+
+std::vector<FormSayfasi> IabCiz(const IabKagidi& kagit) {
+  FormKurucu f(A4(KagitYonu::Dikey));
+  double y = Bas(f, Ust);
+  y = IsverenBolumu(f, y, kagit.firma);
+  y = SigortaliBolumu(f, y, kagit.form);
+  y = SandikBolumu(f, y);
+  y = CalismaBolumu(f, y, kagit.form, kagit.firma.paraonda);
+  y = Imzalar(f, y, kagit.form);
+  f.Kutu({Sol, Ust, En, y - Ust}, KagitKalinCizgi);
+  return {f.Sayfa()};
+}
+
+std::unique_ptr<Belge> IabBelgesi(const IabKagidi& kagit) {
+  YzcAyarlari ayar;
+  ayar.YzcBaslik = "İŞTEN AYRILMA (İAB)";
+  return std::make_unique<IabBelge>(ayar, IabCiz(kagit), std::string());
+}
+
+}  // namespace belvani
