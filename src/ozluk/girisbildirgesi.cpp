@@ -4,6 +4,7 @@
 
 #include "isyeri/firmaadresi.h"
 #include "isyeri/isyerinumarasi.h"
+#include "printing/form/formparcalari.h"
 
 namespace belvani {
 namespace {
@@ -15,8 +16,6 @@ constexpr double En = 190;
 constexpr double SatirYuksekligi = 10;
 constexpr double BolumYuksekligi = 5;
 constexpr double EtiketYuksekligi = 3.6;
-constexpr double HucreEni = 5.5;
-constexpr double HucreBoyu = 6;
 constexpr double IsaretBoyu = 4;
 constexpr double Pay = 1.5;  // between a frame and what stands in it
 constexpr double KalinCizgi = 0.4;
@@ -37,21 +36,6 @@ double Satir(FormKurucu& f, double y, const std::vector<EtiketliKutu>& kutular) 
 double BolumBasligi(FormKurucu& f, double y, std::string_view metin) {
   f.Bolum({Sol, y, En, BolumYuksekligi}, metin, f.etiketYazisi.punto, MetinHizasi::Sol);
   return y + BolumYuksekligi;
-}
-
-// A label on the left and digits in cells that end at the right, in a frame.
-void BasamakliHucre(FormKurucu& f, const Dikdortgen& kutu, std::string_view etiket, const std::string& ad, int basamak,
-                    std::string_view deger) {
-  f.Kutu(kutu);
-  const double hucreler = basamak * HucreEni;
-  f.Etiket({kutu.x + Pay, kutu.y, kutu.en - hucreler - 3 * Pay, kutu.boy}, etiket);
-  f.Basamaklar(ad,
-               {.x = kutu.x + kutu.en - Pay - hucreler,
-                .y = kutu.y + (kutu.boy - HucreBoyu) / 2,
-                .sayi = basamak,
-                .en = HucreEni,
-                .boy = HucreBoyu},
-               deger);
 }
 
 void Secenekler(FormKurucu& f, Nokta yer, const std::vector<Secenek>& secenekler) {

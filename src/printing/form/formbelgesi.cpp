@@ -35,10 +35,12 @@ std::unique_ptr<CizilenBelge> FormCizimi(Sayfalar sayfalar) {
   return std::make_unique<Cizim>(std::move(sayfalar));
 }
 
-FormBelgesi::FormBelgesi(YzcAyarlari ilk, std::vector<FormSayfasi> sayfalar, std::string metin)
+FormBelgesi::FormBelgesi(YzcAyarlari ilk, std::vector<FormSayfasi> sayfalar, std::string metin,
+                         std::shared_ptr<const Rapor> veri)
     : Belge(VarOlanYollar(std::move(ilk), !sayfalar.empty(), !metin.empty())),
       sayfalar_(std::move(sayfalar)),
-      metin_(std::move(metin)) {}
+      metin_(std::move(metin)),
+      veri_(std::move(veri)) {}
 
 std::unique_ptr<CizilenBelge> FormBelgesi::CizimYap(Ilerleme*) const {
   if (sayfalar_.empty()) return nullptr;

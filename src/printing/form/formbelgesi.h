@@ -1,4 +1,5 @@
-// FormBelgesi: a paper of fixed forms: its drawn pages and its text, as they were made. It is no table.
+// FormBelgesi: a paper of fixed forms: its drawn pages and its text, as they were made. It is no table; what it says as
+// rows for other programs may be given with it.
 //
 //   FormBelgesi belge({.YzcBaslik = "Vizite Kağıdı"}, sayfalar, metin);
 #pragma once
@@ -17,10 +18,12 @@ std::unique_ptr<CizilenBelge> FormCizimi(std::shared_ptr<const std::vector<FormS
 class FormBelgesi : public Belge {
  public:
   // `sayfalar` or `metin` may be empty: such a paper has only the other form, and the dialog offers no more.
-  FormBelgesi(YzcAyarlari ilk, std::vector<FormSayfasi> sayfalar, std::string metin);
+  FormBelgesi(YzcAyarlari ilk, std::vector<FormSayfasi> sayfalar, std::string metin,
+              std::shared_ptr<const Rapor> veri = nullptr);
 
   std::string Baslik() const override { return Ayar().YzcBaslik; }
   bool Bos() const override { return sayfalar_.empty() && metin_.empty(); }
+  std::shared_ptr<const Rapor> Veri() const override { return veri_; }
 
   const std::vector<FormSayfasi>& Sayfalar() const { return sayfalar_; }
 
@@ -31,6 +34,7 @@ class FormBelgesi : public Belge {
 
   std::vector<FormSayfasi> sayfalar_;
   std::string metin_;
+  std::shared_ptr<const Rapor> veri_;
 };
 
 }  // namespace belvani

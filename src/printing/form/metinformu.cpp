@@ -67,6 +67,8 @@ void MetinFormu::IsaretAl(int satir, int kolon) {
     *harf = " ";
     if (harf == son) break;
   }
+  isaret.sagda = isaret.adim == 1 && isaret.ad.starts_with('.');
+  isaret.ad.erase(0, isaret.ad.find_first_not_of('.'));
   isaret.ad.erase(isaret.ad.find_last_not_of('.') + 1);
   isaretler_.push_back(std::move(isaret));
 }
@@ -74,6 +76,7 @@ void MetinFormu::IsaretAl(int satir, int kolon) {
 void MetinFormu::IsaretDoldur(Isaret& isaret, std::string_view deger) {
   isaret.dolu = true;
   const MetinYeri& yer = isaret.yer;
+  if (isaret.sagda) return KoySagda(yer, deger);
   if (isaret.adim == 1) return Koy(yer, deger);
   const auto harfler = DegerHarfleri(deger);
   const int harf = int(harfler.size());
@@ -124,6 +127,19 @@ std::string MetinFormu::Metin() const {
     metin += satir + '\n';
   }
   return metin;
+}
+
+std::vector<std::string> SatirlaraBol(std::string_view metin, std::size_t en) {
+  std::vector<std::string> satirlar;
+  while (HarfSayisi(metin) > en) {
+    const std::string_view sigan = IlkHarfler(metin, en + 1);
+    const auto bosluk = sigan.rfind(' ');
+    const auto kesim = bosluk == 0 || bosluk == sigan.npos ? IlkHarfler(metin, en).size() : bosluk;
+    satirlar.emplace_back(Kirp(metin.substr(0, kesim)));
+    metin = Kirp(metin.substr(kesim));
+  }
+  satirlar.emplace_back(metin);
+  return satirlar;
 }
 
 std::string SayfalariBirlestir(std::span<const std::string> sayfalar) {

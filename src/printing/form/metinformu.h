@@ -2,6 +2,7 @@
 // of letters, with marks where values go.
 //
 //   «soyadi.....»     a value from the left; the place is as wide as the mark, what does not fit is cut
+//   «......tutar»     a value that ends where the mark ends; what does not fit is cut at its end too
 //   │«│n│o│.│»│       one letter a cell, the last one in the last cell; with more letters than cells they stand close
 //                     together, over the lines between: a number that loses digits would be another
 //   ☐                 a place of one letter; the list of boxes names them in the order in which they are read
@@ -52,6 +53,7 @@ class MetinFormu {
     std::string ad = {};
     MetinYeri yer;  // `en` cells, where they are cells
     int adim = 1;   // from cell to cell
+    bool sagda = false;
     bool dolu = false;
   };
 
@@ -61,6 +63,9 @@ class MetinFormu {
   std::vector<std::vector<std::string>> satirlar_;  // letters of each line
   std::vector<Isaret> isaretler_;
 };
+
+// Lines of at most `en` letters, broken at blanks where there are any.
+std::vector<std::string> SatirlaraBol(std::string_view metin, std::size_t en);
 
 // Pages parted by a form feed.
 std::string SayfalariBirlestir(std::span<const std::string> sayfalar);

@@ -114,6 +114,13 @@ TEST(MetinFormu, MarksByName) {
   EXPECT_DEBUG_DEATH(MetinFormu("[☐]", {}), "kutu") << "a box without a name";
 }
 
+TEST(MetinFormu, AmountsEndWhereTheirMarkEnds) {
+  MetinFormu form("│«...tutar»│«.k»│");
+  form.Koy("tutar", "1,250.75");
+  form.Koy("k", "");
+  EXPECT_EQ(form.Metin(), "│  1,250.75│    │\n");
+}
+
 TEST(MetinFormu, ValuesByPlace) {
   MetinFormu form("│ş:   │ │ │");
   form.KoySagda({1, 4, 3}, " 42 ");
