@@ -119,6 +119,7 @@ constexpr KomutEkle Komutlar[] = {
     KidemKomutu,         // severance and notice of one person
     BildirgeKomutu,      // the monthly declaration
     BildirimKomutlari,   // notices of a person to the authorities
+    ViziteKomutu,        // medical papers of a person
 };
 
 int Calistir(int argc, char** argv) {

@@ -63,6 +63,7 @@ void BelgeKomutlari(CLI::App& app, Genel& genel);
 void KidemKomutu(CLI::App& app, Genel& genel);
 void BildirgeKomutu(CLI::App& app, Genel& genel);
 void BildirimKomutlari(CLI::App& app, Genel& genel);
+void ViziteKomutu(CLI::App& app, Genel& genel);
 
 struct Donem {
   int yil = 0;
@@ -71,6 +72,7 @@ struct Donem {
 Donem DonemOku(const std::string& metin);  // "2009-07"
 // A whole number of an option; a wrong one ends the command as a wrong call.
 int SayiOku(const char* secenek, const std::string& metin, int enAz, int enCok);
+CLI::Option* SayiSecenegi(CLI::App& komut, const char* ad, const char* aciklama, int& deger, int enAz, int enCok);
 CLI::Option* YilSecenegi(CLI::App& komut, int& yil, const char* aciklama);
 CLI::Option* AySecenegi(CLI::App& komut, int& ay, const char* aciklama);
 void DonemSecenekleri(CLI::App& komut, Donem& donem);  // --yil, --ay
