@@ -58,7 +58,15 @@ for tablo in firma muaf indir sendika kaztan; do
   belvani tanim-al ORNEK "$tablo" "$ornek/$tablo.csv"
 done
 belvani personel-al ORNEK "$ornek/personel.csv"
+belvani personel-al ORNEK "$ornek/ozel.csv"
 belvani aile-al ORNEK "$ornek/aile.csv"
+
+# The books, told from the company's directory, so that the data path can be moved as a whole.
+belvani muhasebe-ac "$veri/.muhasebe/ORNEK"
+belvani isletme-ac "$veri/.isletme/ORNEK"
+printf '[firma]\r\nentegrasyon=../.muhasebe/ORNEK\r\n' >"$veri/ORNEK/genel.dat"
+printf '[entegrasyon]\r\nislfirma=../.isletme/ORNEK\r\nucretgrup=UCR\r\nsskgrup=SSK\r\n' >>"$veri/ORNEK/genel.dat"
+belvani tanim-al ORNEK entpar "$ornek/entpar.csv"
 
 yiliHazirla 2004 04 05 06 07
 for y in 2006 2008 2009; do

@@ -1,7 +1,9 @@
 // personel-al, ucret-al, aile-al, tanim-al, and what all commands of their kind share
 #include "cli/aktarim.h"
 
+#include "accounting/entparaktarim.h"
 #include "cli/sorunlar.h"
+#include "core/tables/entpar.h"
 
 namespace belvani::cli {
 namespace {
@@ -61,12 +63,14 @@ void AktarimKomutlari(CLI::App& app, Genel& genel) {
                 AileAktar);
 
   auto t = std::make_shared<AktarimSecenekleri>();
-  auto* tanim = Komut(app, "tanim-al", "Şirketin tanımlarını alır: firma, muaf, indir, sendika veya kaztan", *t);
+  auto* tanim =
+      Komut(app, "tanim-al", "Şirketin tanımlarını alır: firma, muaf, indir, sendika, kaztan veya entpar", *t);
   tanim->add_option("TABLO", t->tablo, "tablonun adı")->required();
   Dosya(*tanim, *t);
   tanim->callback([&genel, t] {
-    Al(genel, *t,
-       [t](Oturum& o, const AktarilanCsv& csv, AktarimKipi kip) { return TanimAktar(o, t->tablo, csv, kip); });
+    Al(genel, *t, [t](Oturum& o, const AktarilanCsv& csv, AktarimKipi kip) {
+      return t->tablo == Entpar::TabloAdi ? EntparAktar(o, csv, kip) : TanimAktar(o, t->tablo, csv, kip);
+    });
   });
 }
 

@@ -107,9 +107,10 @@ std::string Pdf(const Belge& belge) {
   return std::move(pdf->baytlar);
 }
 
-// Whether a terminal can show it.
-bool EkranaYazilir(const std::string& bicim) {
-  return bicim == "metin" || bicim == "csv" || bicim == "json";
+// Whether a terminal can show it. Without a form the command writes no paper.
+bool EkranaYazilir(const BelgeCiktisi& cikti) {
+  const std::string& bicim = cikti.bicim;
+  return bicim.empty() || bicim == "metin" || bicim == "csv" || bicim == "json" || bicim == cikti.ekMetin;
 }
 
 void MetinYaz(const Belge& belge, const BelgeCiktisi& cikti) {
@@ -134,21 +135,27 @@ void BaytYaz(const Belge& belge, const BelgeCiktisi& cikti) {
 
 }  // namespace
 
-void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti, const std::vector<std::string>& bicimler) {
-  const std::vector<std::string> hepsi{"metin", "csv", "json", "xlsx", "pdf", "ham"};
-  komut
-      .add_option("--bicim", cikti.bicim,
-                  bicimler.empty() ? "metin, csv, json, xlsx, pdf veya ham (metin yazıcısının baytları)" : "biçim")
-      ->check(CLI::IsMember(bicimler.empty() ? hepsi : bicimler));
+void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti, std::vector<std::string> bicimler, const char* ekMetin) {
+  cikti.ekMetin = ekMetin;
+  std::string yardim = "biçim";
+  if (bicimler.empty()) {
+    bicimler = {"metin", "csv", "json", "xlsx", "pdf", "ham"};
+    yardim = "metin, csv, json, xlsx, pdf veya ham (metin yazıcısının baytları)";
+  }
+  if (!cikti.ekMetin.empty()) {
+    bicimler.push_back(cikti.ekMetin);
+    yardim += "; ya da " + cikti.ekMetin;
+  }
+  komut.add_option("--bicim", cikti.bicim, yardim)->check(CLI::IsMember(bicimler));
   komut.add_option("-o", cikti.dosya, "yazılacak dosya (metin, csv ve json verilmezse ekrana; - standart çıktı)");
   komut.parse_complete_callback([&cikti] {
-    if (cikti.dosya.empty() && !EkranaYazilir(cikti.bicim))
+    if (cikti.dosya.empty() && !EkranaYazilir(cikti))
       throw CLI::ValidationError("--bicim", cikti.bicim + " ekrana yazılmaz, dosyasını veriniz: -o DOSYA");
   });
 }
 
 void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti) {
-  EkranaYazilir(cikti.bicim) ? MetinYaz(belge, cikti) : BaytYaz(belge, cikti);
+  EkranaYazilir(cikti) ? MetinYaz(belge, cikti) : BaytYaz(belge, cikti);
 }
 
 }  // namespace belvani::cli

@@ -11,11 +11,13 @@ namespace belvani::cli {
 
 struct BelgeCiktisi {
   std::string bicim = "metin";
-  std::string dosya;  // empty: standard output, for the forms that are text
+  std::string dosya;         // empty: standard output, for the forms that are text
+  std::string ekMetin = {};  // one more form that is text, which its command writes itself
 };
 
-// --bicim, -o; `bicimler` where a paper has fewer of them.
-void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti, const std::vector<std::string>& bicimler = {});
+// --bicim, -o; `bicimler` where a paper has fewer of them, `ekMetin`: see BelgeCiktisi.
+void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti, std::vector<std::string> bicimler = {},
+                      const char* ekMetin = "");
 
 // A report too wide for its pages is told on standard error. Without records there is no PDF: KomutHatasi.
 void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti);

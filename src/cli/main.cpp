@@ -120,6 +120,7 @@ constexpr KomutEkle Komutlar[] = {
     BildirgeKomutu,      // the monthly declaration
     BildirimKomutlari,   // notices of a person to the authorities
     ViziteKomutu,        // medical papers of a person
+    MuhasebeKomutlari,   // the books: voucher, posting, stores to start with
 };
 
 int Calistir(int argc, char** argv) {

@@ -64,6 +64,7 @@ void KidemKomutu(CLI::App& app, Genel& genel);
 void BildirgeKomutu(CLI::App& app, Genel& genel);
 void BildirimKomutlari(CLI::App& app, Genel& genel);
 void ViziteKomutu(CLI::App& app, Genel& genel);
+void MuhasebeKomutlari(CLI::App& app, Genel& genel);
 
 struct Donem {
   int yil = 0;

@@ -1,0 +1,106 @@
+#include "accounting/entparaktarim.h"
+
+#include <map>
+#include <optional>
+#include <set>
+
+#include "accounting/entegrasyonayari.h"
+#include "accounting/entparkayit.h"
+#include "accounting/kardesdepo.h"
+#include "core/store/koru.h"
+#include "personnel/hucreler.h"
+
+namespace belvani {
+namespace {
+
+constexpr std::chrono::seconds KilitBekleme{60};
+
+struct AlanUstu {
+  std::string_view alan;
+  std::int64_t enCok;
+};
+constexpr AlanUstu Ustler[] = {{"no", EntparSatiri - 1}, {"yer", YerSayisi - 1}, {"ba", AlacakTarafi}};
+
+std::int64_t Sayi(const AktarimDosyasi& dosya, const AktarimSatiri& satir, std::string_view alan) {
+  const int sira = dosya.KolonSirasi(alan);
+  return sira < 0 ? 0 : TamDegeri(satir.degerler[std::size_t(sira)]);
+}
+
+Durum KolonlariDenetle(const AktarimDosyasi& dosya) {
+  if (dosya.KolonSirasi("grupno") >= 0) return Kusur{"grupno dosyada verilmez, grup ve no sütunlarından yapılır"};
+  if (dosya.KolonSirasi("no") < 0) return Kusur{"no sütunu yok"};
+  return Tamam();
+}
+
+void SatirlariDenetle(AktarimDosyasi& dosya) {
+  std::set<std::string> anahtarlar;
+  for (const AktarimSatiri& satir : dosya.satirlar) {
+    for (const auto& [alan, enCok] : Ustler)
+      if (!dosya.Soylendi(satir.satirNo, alan) && Sayi(dosya, satir, alan) > enCok)
+        dosya.SorunEkle(satir, alan, "0 ile " + std::to_string(enCok) + " arasında olmalı");
+    const auto no = std::size_t(Sayi(dosya, satir, "no"));
+    const std::string anahtar = BuyukHarf(EntparAnahtari(dosya.Metin(satir, "grup"), no));
+    if (!anahtarlar.insert(anahtar).second) dosya.SorunEkle(satir, "no", "dosyada iki kez var: " + anahtar);
+  }
+}
+
+Entpar DosyaSatiri(const AktarimDosyasi& dosya, const AktarimSatiri& satir, Entpar kayit) {
+  Entpar::HerKolon([&](const auto& kolon) {
+    if (const int sira = dosya.KolonSirasi(kolon.ad); sira >= 0)
+      UyeyeYaz(kayit.*kolon.uye, satir.degerler[std::size_t(sira)]);
+  });
+  kayit.grupno = EntparAnahtari(kayit.grup, kayit.no);
+  return kayit;
+}
+
+// The chart of the company's books; nothing, and a warning, while there are none.
+Sonuc<std::optional<HesapPlani>> PlanOku(const Oturum& o, AktarimSonucu& sonuc) {
+  const std::string dizin = KardesDizini(o, MuhasebeSirketi(o));
+  if (dizin.empty()) {
+    sonuc.uyarilar.push_back({.metin = "muhasebe şirketi seçilmemiş, hesap kodları denetlenmedi",
+                              .kod = "entpar",
+                              .satir = 1,
+                              .derece = Derece::Uyari});
+    return std::optional<HesapPlani>();
+  }
+  const auto motor = KardesAc(KardesTuru::Muhasebe, dizin, KardesErisimi::YalnizBakis);
+  if (!motor) return motor.Kusuru();
+  return Koru([&] { return std::optional(HesapPlani::Oku(**motor)); });
+}
+
+Durum SatirlariYaz(Motor& motor, AktarimDosyasi& dosya, const std::optional<HesapPlani>& plan, AktarimSonucu& sonuc) {
+  Tablo<Entpar> tablo(motor);
+  for (const AktarimSatiri& satir : dosya.satirlar) {
+    const std::string anahtar = EntparAnahtari(dosya.Metin(satir, "grup"), std::size_t(Sayi(dosya, satir, "no")));
+    const auto ilk = tablo.Bul(anahtar);
+    const Entpar kayit = DosyaSatiri(dosya, satir, ilk.value_or(Entpar{}));
+    if (plan && kayit.yer != YerYok && plan->Bul(kayit.hesap) == nullptr)
+      dosya.SorunEkle(satir, "hesap", kayit.hesap + " Hesabı Muhasebede Bulunamadı..");
+    if (!dosya.sorunlar.empty()) continue;
+    const auto yazilan = EntparYaz(motor, {.ilk = ilk, .simdi = kayit});
+    if (!yazilan) return Kusur{"satır " + std::to_string(satir.satirNo) + ": " + yazilan.Kusuru().metin};
+    ++(ilk ? sonuc.degisen : sonuc.eklenen);
+  }
+  return Tamam();
+}
+
+}  // namespace
+
+Sonuc<AktarimSonucu> EntparAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip) {
+  auto dosya = AktarimDosyasiOku(csv, {TabloBul(Entpar::TabloAdi)}, entpar::grup.ad, AnahtarKurali::TekrarEder);
+  if (!dosya) return dosya.Kusuru();
+  if (const Durum kolonlar = KolonlariDenetle(*dosya); !kolonlar) return kolonlar.Kusuru();
+  SatirlariDenetle(*dosya);
+  AktarimSonucu sonuc;
+  const auto plan = PlanOku(o, sonuc);
+  if (!plan) return plan.Kusuru();
+  return Koru([&]() -> Sonuc<AktarimSonucu> {
+    Islem islem(o.depo.db.IcMotor(), KilitBekleme);
+    if (const Durum d = SatirlariYaz(o.depo.db.IcMotor(), *dosya, *plan, sonuc); !d) return d.Kusuru();
+    sonuc.sorunlar = std::move(dosya->sorunlar);
+    if (sonuc.sorunlar.empty() && kip == AktarimKipi::Kaydet) islem.Onayla();
+    return sonuc;
+  });
+}
+
+}  // namespace belvani
