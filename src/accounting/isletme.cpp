@@ -29,6 +29,7 @@ bool GrupVar(Motor& isletme, const std::string& grup) {
 }
 
 Durum SatirYaz(Motor& isletme, const IsletmeKaydi& kayit, const IsletmeSatiri& satir) {
+  if (satir.tutar == Tutar()) return Tamam();
   return Koru(
       [&]() -> Durum {
         Islem islem(isletme);
@@ -84,20 +85,24 @@ Durum IsletmeDenetle(const IsletmeKaydi& kayit) {
   return Tamam();
 }
 
-Durum IsletmeyeIsle(Motor& isletme, const IsletmeKaydi& kayit) {
+Durum IsletmeyeIsle(Motor& isletme, IsletmeKaydi& kayit) {
   if (const Durum olur = IsletmeDenetle(kayit); !olur) return olur;
-  const Durum ucret = SatirYaz(isletme, kayit,
-                               {.grup = kayit.ucretgrup,
-                                .tutar = kayit.brut,
-                                .grupYok = "Ücretler Grubu Bulunamadı..",
-                                .yazilamadi = "Ücretler Kaydedilemedi.."});
-  if (!ucret) return ucret;
+  const bool ucretVar = kayit.brut != Tutar();
+  if (const Durum ucret = SatirYaz(isletme, kayit,
+                                   {.grup = kayit.ucretgrup,
+                                    .tutar = kayit.brut,
+                                    .grupYok = "Ücretler Grubu Bulunamadı..",
+                                    .yazilamadi = "Ücretler Kaydedilemedi.."});
+      !ucret)
+    return ucret;
+  kayit.brut = Tutar();
   const Durum prim = SatirYaz(isletme, kayit,
                               {.grup = kayit.sskgrup,
                                .tutar = kayit.prim,
                                .grupYok = "SSK Grubu Bulunamadı..",
                                .yazilamadi = "SSK Tutarı İşletme Defterine Yazılamadı.."});
-  if (prim) return prim;
+  if (prim) kayit.prim = Tutar();
+  if (prim || !ucretVar) return prim;
   Kusur kusur = prim.Kusuru();
   kusur.metin += UcretKaldi;
   return kusur;

@@ -34,8 +34,9 @@ std::string AyniHareketSorusu(int hareket, const std::string& ack);
 // What keeps it from being posted whatever the ledger is; asked again by the posting itself.
 Durum IsletmeDenetle(const IsletmeKaydi& kayit);
 
-// Each line stands for itself: where the premiums cannot be written, the wages stay, and the fault says so. Groups are
-// sought without regard to case.
-Durum IsletmeyeIsle(Motor& isletme, const IsletmeKaydi& kayit);
+// Each line stands for itself: where the premiums cannot be written, the wages stay, and the fault says so. A line
+// without an amount is none. What was written goes out of `kayit`, so that it can be tried again with what is left.
+// Groups are sought without regard to case.
+Durum IsletmeyeIsle(Motor& isletme, IsletmeKaydi& kayit);
 
 }  // namespace belvani

@@ -1,6 +1,9 @@
 #include "app/ekranlar.h"
 
 #include "registry/belgeler.h"
+#include "screens/accounting/entislyap.h"
+#include "screens/accounting/entpar.h"
+#include "screens/accounting/entyap.h"
 #include "screens/core/Dbupdate.h"
 #include "screens/core/araci.h"
 #include "screens/core/firbil.h"
@@ -100,9 +103,9 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Ek Moduller/P.D.K.S. Modülü", "PDKS'den Aktarımlar", "pdksaktar"},
       {"Ek Moduller/P.D.K.S. Modülü", "PDKS Ayarları", "pdksayar"},
 
-      {"Entegrasyon", "Entegre İşlemi", "entyap", "", "Entegrasyon"},
-      {"Entegrasyon", "İşletmeye Entegre", "entisl", "", "İşletmeye Entegrasyon"},
-      {"Entegrasyon", "Entegrasyon Parametreleri", "entparfrm"},
+      {"Entegrasyon", "Entegre İşlemi", "entyap", "indir", "Entegrasyon", Yap<entyap>},
+      {"Entegrasyon", "İşletmeye Entegre", "entislyap", "takvim", "İşletmeye Entegrasyon", Yap<entislyap>},
+      {"Entegrasyon", "Entegrasyon Parametreleri", "entpar", "ayar", "", Yap<entparfrm>},
 
       {"Ek İşlemler", "Personel Kod Değişikliği", "perkod"},
       {"Ek İşlemler", "Personel Kanun Değişikliği", "perkanun"},

@@ -175,10 +175,11 @@ void IsletmeIsle(Genel& genel, IsletmeIsi is) {
   Basarmali(IsletmeDenetle(kayit));
   const int ayni = Yapilan([&] { return AyniHareketler(isletme, kayit.ack); });
   is.onay.Al(genel, AyniHareketSorusu(ayni, kayit.ack));
+  const IsletmeKaydi islenen = kayit;
   Basarmali(IsletmeyeIsle(isletme, kayit));
   const int onda = std::clamp<int>(o->firma.paraonda, 0, 4);
-  Yaz("İşletme defterine işlendi: " + kayit.ucretgrup + " " + TutarMetni(kayit.brut, onda) + ", " + kayit.sskgrup +
-      " " + TutarMetni(kayit.prim, onda) + "\n");
+  Yaz("İşletme defterine işlendi: " + islenen.ucretgrup + " " + TutarMetni(islenen.brut, onda) + ", " +
+      islenen.sskgrup + " " + TutarMetni(islenen.prim, onda) + "\n");
 }
 
 void IsletmeKomutu(CLI::App& app, Genel& genel) {

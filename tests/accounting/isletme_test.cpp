@@ -21,7 +21,8 @@ struct Isletme : test::KardesTesti {
                      .sskgrup = "SSK"};
 
   std::string Kusur() {
-    const Durum d = IsletmeyeIsle(*isletme, kayit);
+    IsletmeKaydi islenen = kayit;
+    const Durum d = IsletmeyeIsle(*isletme, islenen);
     return d ? "" : d.KusurMetni();
   }
   std::vector<Isltra> Hareketler() { return KayitlariOku<Isltra>(*isletme, "order by rowid"); }
@@ -72,6 +73,18 @@ TEST_F(Isletme, Faults) {
   kayit.sskgrup = "";
   EXPECT_EQ(Kusur(), "SSK Grubu Bulunamadı..\nÜcretler deftere yazıldı, yerinde kaldı");
   EXPECT_EQ(Hareketler().size(), 3u) << "the wages of each try";
+}
+
+// After a failure only what is left is written.
+TEST_F(Isletme, TriedAgain) {
+  kayit.sskgrup = "yok";
+  EXPECT_FALSE(IsletmeyeIsle(*isletme, kayit));
+  EXPECT_EQ(kayit.brut, Tutar());
+  EXPECT_EQ(IsletmeyeIsle(*isletme, kayit).KusurMetni(), "SSK Grubu Bulunamadı..");
+  kayit.sskgrup = "SSK";
+  EXPECT_TRUE(IsletmeyeIsle(*isletme, kayit));
+  EXPECT_EQ(Hareketler().size(), 2u);
+  EXPECT_EQ(IsletmeyeIsle(*isletme, kayit).KusurMetni(), "Entegre Edilecek Tutar Yok");
 }
 
 TEST_F(Isletme, SumsOfTheMonth) {

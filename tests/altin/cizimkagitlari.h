@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "accounting/fisbelgesi.h"
+#include "accounting/fisoku.h"
 #include "altin/kagitlar.h"
 #include "altin/sayfametni.h"
 #include "bol.h"
@@ -104,6 +106,16 @@ inline std::unique_ptr<Belge> Ozet(OrnekSirket& o) {
   return IcmalBelgesi(o.Kaynak(), o.Secim("", "ZZZZ"));
 }
 
+inline std::unique_ptr<Belge> MahsupFisi(OrnekSirket& o) {
+  const Fis fis = FisOku(o.oturum.depo.db.IcMotor(), {.yil = o.donem.yil, .ay = o.donem.ay});
+  return FisBelgesi(fis,
+                    {.unvan = o.oturum.firma.unvan,
+                     .tarih = Tarih(o.donem.yil, o.donem.ay, 28),
+                     .fisno = "12",
+                     .paraonda = o.oturum.firma.paraonda},
+                    HesapPlani(*HazirHesapPlani()));
+}
+
 inline Kagitlar CizilenListeler() {
   const auto defter = [](const DefterSecenek& secenek, const BelgeYazisi& yazi, const char* ilk, const char* son) {
     return [=](OrnekSirket& o) { return DefterBelgesi(o.Kaynak(), o.Secim(ilk, son), secenek, yazi); };
@@ -122,7 +134,7 @@ inline Kagitlar CizilenListeler() {
                   return OzelBordroBelgesi(o.Kaynak(), o.Secim("009", "013"), {}, {.yaziTipi = "Courier New"});
                 }),
           Baski(SonAy, "agi", [](OrnekSirket& o) { return AgiBelgesi(o.Kaynak(), o.Secim("008", "013")); }),
-          Cizim(BirinciDonem, "icmal", Ozet),
+          Baski(SonAy, "muhasebe-fisi", MahsupFisi), Cizim(BirinciDonem, "icmal", Ozet),
           // Sideways the chart has no room below the figures.
           Baski(UcuncuDonem, "icmal-yatay", Ozet, [](YzcAyarlari& ayar) { ayar.YzcYon = KagitYonu::Yatay; }),
           Baski(SonAy, "icmal", Ozet), Pusulalar("pusula-1", SayfadaYaprak::Bir, "010", "010"),

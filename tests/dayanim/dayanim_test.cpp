@@ -56,7 +56,7 @@ int OrnekSayisi() {
 
 struct YazanKomut {
   const char* ad;
-  std::string degerler;     // @ stands for the directory of shared files
+  std::string degerler;     // @ stands for the directory of shared files, $ for the data path
   std::string okuyan;       // what a user would look at afterwards
   bool yalnizDepo = false;  // the small files of the company may not be there yet
 };
@@ -76,7 +76,10 @@ class Yer {
   int Calistir(const std::string& degerler, const std::function<Cevap(const Cagri&)>& karar = nullptr) const {
     std::vector<std::string> sozcukler{BELVANI_CLI, "--veri", Yol()};
     std::istringstream metin(degerler);
-    for (std::string sozcuk; metin >> sozcuk;) sozcukler.push_back(sozcuk);
+    for (std::string sozcuk; metin >> sozcuk;) {
+      if (const auto i = sozcuk.find('$'); i != sozcuk.npos) sozcuk.replace(i, 1, Yol());
+      sozcukler.push_back(sozcuk);
+    }
     std::vector<char*> arg;
     for (std::string& sozcuk : sozcukler) arg.push_back(sozcuk.data());
     arg.push_back(nullptr);
@@ -121,6 +124,8 @@ class Yer {
       if (!yalnizDepo) Dosyalar(ad + "/", hepsi);
     }
     if (!yalnizDepo) Dosyalar("", hepsi);
+    for (const char* ad : {".muhasebe/belmuh.dat", ".yeni/belmuh.dat"})
+      if (fs::exists(Yol() + ad)) hepsi[ad] = DepoIcerigi(Yol() + ad);
     return hepsi;
   }
 
@@ -157,7 +162,8 @@ class Yer {
         while (komut->Adim()) {
           icerik += "\n";
           for (int i = 0; i < komut->KolonSayisi(); ++i)
-            if (!komut->KolonAdi(i).ends_with("_an")) icerik.append(komut->Metin(i)).append("|");  // no clock
+            if (!komut->KolonAdi(i).ends_with("_an") && komut->KolonAdi(i) != "refer")
+              icerik.append(komut->Metin(i)).append("|");  // no clock, no chance
         }
       }
       return icerik;
@@ -184,6 +190,9 @@ class Ornek {
     for (const char* tablo : {"firma", "muaf", "indir", "sendika", "kaztan"})
       Komut(std::string("tanim-al ORNEK ") + tablo + " " + ornek + tablo + ".csv");
     Komut("personel-al ORNEK " + ornek + "personel.csv");
+    Komut("personel-al ORNEK " + ornek + "ozel.csv");
+    Komut("tanim-al ORNEK entpar " + ornek + "entpar.csv");
+    Komut("muhasebe-ac $.muhasebe");
     Komut("aile-al ORNEK " + ornek + "aile.csv");
     Komut("parametre-kur --donem 2009-11");
     Komut("yedekle ORNEK -o " + dosyalar_.Yol() + "yedek.zip");
@@ -354,6 +363,9 @@ const std::vector<YazanKomut>& YazanKomutlar() {
       {"kart_al", "kart-al ORNEK @kart.csv", defter + "11"},
       {"cari_al", "cari-al ORNEK @cari.csv", "cari ORNEK 001"},
       {"bordro_sil", "bordro-sil ORNEK --yil 2009 --ay 11", defter + "11"},
+      // Not the ledger's: its two lines stand each for itself.
+      {"muhasebe_ac", "muhasebe-ac $.yeni", "sirketler"},
+      {"muhasebe_isle", "muhasebe-isle ORNEK --ay 11 --muhasebe $.muhasebe", "muhasebe-fisi ORNEK --ay 11 --bicim csv"},
   };
   return komutlar;
 }
