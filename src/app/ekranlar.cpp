@@ -34,6 +34,9 @@
 #include "screens/personnel/percik.h"
 #include "screens/personnel/pergir.h"
 #include "screens/personnel/perkart.h"
+#include "screens/severance/ihbsure.h"
+#include "screens/severance/kidemhes.h"
+#include "screens/severance/kidempar.h"
 
 namespace belvani {
 namespace {
@@ -87,10 +90,10 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Raporlar", "Özlük Bilgileri", "ozlukrap", "", "Özlük Raporu"},
       {"Raporlar", "Bordro Raporlama", "bordrorap", "", "Bordro Raporu"},
 
-      {"Ek Moduller/Kıdem, İhbar Modülü", "Kıdem, İhbar Hesaplama", "kidihb"},
+      {"Ek Moduller/Kıdem, İhbar Modülü", "Kıdem, İhbar Hesaplama", "kidemhes", "bordro", "", Yap<kidemhes>},
       {"Ek Moduller/Kıdem, İhbar Modülü", "Kidem, İhbar İcmali", "kidicmal"},
-      {"Ek Moduller/Kıdem, İhbar Modülü", "Kıdem, İhbar Parametreleri", "kidpar"},
-      {"Ek Moduller/Kıdem, İhbar Modülü", "İhbar Süreleri Tablosu", "ihbsure"},
+      {"Ek Moduller/Kıdem, İhbar Modülü", "Kıdem, İhbar Parametreleri", "kidempar", "oran", "", Yap<kidempar>},
+      {"Ek Moduller/Kıdem, İhbar Modülü", "İhbar Süreleri Tablosu", "ihbsure", "takvim", "", Yap<ihbsure>},
       {"Ek Moduller/Personel Cari", "Avans Kaydı", "avans"},
       {"Ek Moduller/Personel Cari", "Genel Borç Alacak", "borcalacak"},
       {"Ek Moduller/Personel Cari", "Personel Cari", "percari"},

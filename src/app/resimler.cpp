@@ -51,6 +51,7 @@ constexpr Doldurma Doldurmalar[] = {
     {"pergir", "Ctrl+Home PgDown"},
     {"percik", "Ctrl+Home PgDown"},
     {"yaylik", "F5"},
+    {"kidemhes", "Ctrl+Home PgDown F4"},
     {"brdhazir", "Home PgDown PgDown PgDown Return F4"},
     {"sendtan", "F2 Return"},
     {"perbul", "Ay Return"},

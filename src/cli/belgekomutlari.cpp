@@ -38,7 +38,7 @@ Deger OkunanDeger(const Alan& alan, const std::string& metin) {
     return std::int64_t(std::ranges::find(sozcukler, metin) - sozcukler.begin() + alan.ek.listeTabani);
   if (SayiMi(alan)) return std::int64_t(SayiOku(alan.ek.komut, metin, Sinirlar(alan).first, Sinirlar(alan).second));
   std::string kusur;
-  const Deger deger = MetindenDeger(alan.tanim, metin, kusur);
+  const Deger deger = MetindenDeger(alan.tanim, alan.tanim.tip == AlanTipi::Tarih ? GunSecenegi(metin) : metin, kusur);
   if (kusur.empty()) kusur = AlanKusuru(alan, deger);
   if (!kusur.empty()) throw CLI::ValidationError(alan.ek.komut, kusur + ": " + metin);
   return deger;

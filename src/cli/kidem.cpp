@@ -26,7 +26,7 @@ struct KidemSecenekleri {
 template <class U>
 U DegerOku(const char* secenek, const Kolon<Sicil, U>& kolon, const std::string& metin) {
   std::string kusur;
-  const Deger deger = MetindenDeger(kolon, metin, kusur);
+  const Deger deger = MetindenDeger(kolon, std::is_same_v<U, Tarih> ? GunSecenegi(metin) : metin, kusur);
   if (kusur.empty()) kusur = AlanKusuru(Alan(kolon, secenek), deger);
   if (kusur.empty() && NullMu(deger)) kusur = "boş bırakılamaz";
   if (!kusur.empty()) throw CLI::ValidationError(secenek, kusur + ": " + metin);

@@ -67,6 +67,11 @@ Donem DonemOku(const std::string& metin) {
   return {gun.Yil(), gun.Ay()};
 }
 
+std::string GunSecenegi(const std::string& metin) {
+  const Tarih iso = Tarih::IsoOku(metin);
+  return iso.Bos() ? metin : iso.Metin();
+}
+
 int SayiOku(const char* secenek, const std::string& metin, int enAz, int enCok) {
   const auto sayi = TamSayiOku(metin);
   if (!sayi || *sayi < enAz || *sayi > enCok)

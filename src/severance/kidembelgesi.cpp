@@ -30,6 +30,12 @@ std::optional<Tutar> Vergisi(const Cizelge& c, Tutar KidemTutarlari::*uye, bool 
 }
 
 using T = KidemTutarlari;
+
+struct KidemTutari {
+  std::string_view ad;
+  std::optional<Tutar> (*deger)(const Cizelge&);
+};
+
 // clang-format off
 constexpr KidemTutari Tutarlar[] = {
     {"AylikUcret",        [](const Cizelge& c) { return std::optional(Gosterilen(c.form.AylikUcret.Sayi(), c.paraonda)); }},
@@ -147,6 +153,7 @@ std::string SatirMetni(const Satir& s, const Cizelge& c, Bicim bicim) {
 std::vector<std::string> GovdeSatirlari(const Cizelge& c, Bicim bicim) {
   std::vector<std::string> satirlar;
   for (const Satir& s : Satirlar) satirlar.push_back(SatirMetni(s, c, bicim));
+  if (!c.notlar.empty()) satirlar.emplace_back();
   for (const std::string& soz : c.notlar)
     for (std::string& satir : SatirlaraBol(soz, SatirHarfi)) satirlar.push_back(std::move(satir));
   for (std::string& satir : satirlar) satir.erase(satir.find_last_not_of(' ') + 1);
@@ -251,10 +258,6 @@ class KidemKagidi final : public Belge {
 };
 
 }  // namespace
-
-std::span<const KidemTutari> KidemTutarlariTablosu() {
-  return Tutarlar;
-}
 
 std::optional<Tutar> KidemTutariBul(const KidemCizelgesi& cizelge, std::string_view ad) {
   const auto yer = std::ranges::find(Tutarlar, ad, &KidemTutari::ad);

@@ -12,14 +12,7 @@ namespace belvani {
 
 inline constexpr std::string_view KidemBasligi = "TAZMİNAT HESAPLAMA TABLOSU";
 
-// An amount of a calculation by its name in the trace: "netKidem", "KidemTavan". `blank` where the sheet has nothing.
-struct KidemTutari {
-  std::string_view ad;
-  std::optional<Tutar> (*deger)(const KidemCizelgesi&);  // as it is shown
-};
-
-// All amounts in the order of the sheet, those that it has no line for too.
-std::span<const KidemTutari> KidemTutarlariTablosu();
+// An amount of the calculation as it is shown, by its name ("netKidem"); nothing where the sheet is blank.
 std::optional<Tutar> KidemTutariBul(const KidemCizelgesi& cizelge, std::string_view ad);
 
 std::string KidemMetni(const KidemCizelgesi& cizelge);

@@ -96,6 +96,7 @@ KidemGirdisi KidemHesabi::Girdi() const {
 
 void KidemHesabi::Hesapla() {
   if (!kisi_) return;
+  sonuc_ = {};  // nothing of another calculation stays where this one fails
   sonuc_ = KidemHesapla(kosullar_.Kurallar(), Girdi());
   form_.CalismaGunu = sonuc_.CalismaGunu;
   form_.IhbarGun = sonuc_.IhbarGun;

@@ -1,8 +1,11 @@
 #include "severance/kidemicmali.h"
 
+#include <map>
+
 #include "core/asama.h"
 #include "documents/listebelgesi.h"
 #include "documents/turetilen.h"
+#include "payroll/hesap/bordro.h"
 #include "printing/kolonlar.h"
 
 namespace belvani {
@@ -35,22 +38,38 @@ const Kolonlar<Satir> kolonlar{
     {"TOPLAM NET.", 11, [](auto& s) { return s.netKidem + s.netIhbar; }, Toplanir},
 };
 
-// What its reader must know: whom it leaves out though he may be owed something, and under which figures it stands.
-std::vector<std::string> Notlar(const KidemKosullari& kosullar, const KidemKisileri& kisiler, std::string tavanSozu) {
-  std::vector<std::string> notlar;
-  const auto ekle = [&](std::string soz) {
-    if (!soz.empty() && std::ranges::find(notlar, soz) == notlar.end()) notlar.push_back(std::move(soz));
-  };
-  const auto eksik = [&](int sayi, const char* olmayan) {
-    if (sayi > 0) ekle(std::to_string(sayi) + " kişi listede yok: " + olmayan + " yazılmamış.");
-  };
-  ekle(std::move(tavanSozu));
-  if (!kosullar.IsSaatiYazili) ekle(std::string(IsSaatiYazilmamis) + ": günde 8 saat alındı.");
-  for (const std::string& uyari : kosullar.uyarilar) ekle(uyari);
-  for (const KidemKisisi& kisi : kisiler.kisiler)
-    for (std::string& soz : AlinmayanVergiler(kosullar.Bayraklar(kisi.sicil))) ekle(std::move(soz));
-  eksik(kisiler.kimliksiz, "kimlik bilgileri");
-  eksik(kisiler.girissiz, "giriş tarihi");
+// Sentences that its reader must know, each once.
+class Notlar {
+ public:
+  void Ekle(std::string soz) {
+    if (!soz.empty()) sozler_.push_back(std::move(soz));
+  }
+  // What is so of some people, with their number.
+  void Say(const std::string& soz, int kisi = 1) {
+    if (kisi > 0) kisiler_[soz] += kisi;
+  }
+  std::vector<std::string> Hepsi() const {
+    std::vector<std::string> hepsi = sozler_;
+    for (const auto& [soz, kisi] : kisiler_) hepsi.push_back(std::to_string(kisi) + " kişi: " + soz);
+    return hepsi;
+  }
+
+ private:
+  std::vector<std::string> sozler_;
+  std::map<std::string, int> kisiler_;
+};
+
+constexpr const char* Kimliksiz = "listede yok, kimlik bilgileri yazılmamış.";
+constexpr const char* Girissiz = "listede yok, giriş tarihi yazılmamış.";
+constexpr const char* Tasan = "listede yok, tutarı sınırı aşıyor.";
+
+Notlar IlkNotlar(const KidemKosullari& kosullar, const KidemKisileri& kisiler, const std::string& tavanSozu) {
+  Notlar notlar;
+  notlar.Ekle(tavanSozu);
+  if (!kosullar.IsSaatiYazili) notlar.Ekle(std::string(IsSaatiYazilmamis) + ": günde 8 saat alındı.");
+  for (const std::string& uyari : kosullar.uyarilar) notlar.Ekle(uyari);
+  notlar.Say(Kimliksiz, kisiler.kimliksiz);
+  notlar.Say(Girissiz, kisiler.girissiz);
   return notlar;
 }
 
@@ -113,21 +132,28 @@ std::unique_ptr<Belge> KidemIcmalBelgesi(const BelgeKaynagi& kaynak, const Defte
   const KidemKosullari kosullar = KidemKosullariYukle(kaynak);
   const KidemTavaniGorusu tavan = KidemTavaninaBak(kosullar.yasal, icmal.baz);
   const KidemKisileri kisiler = KidemKisileriOku(kaynak.motor, secim, icmal.baz, kaynak.ilerleme);
+  Notlar notlar = IlkNotlar(kosullar, kisiler, tavan.Soz(icmal.tavan));
   std::vector<KidemIcmalSatiri> satirlar;
   satirlar.reserve(kisiler.kisiler.size());
   Asama asama(kaynak.ilerleme, kisiler.kisiler.size());
   for (const KidemKisisi& kisi : kisiler.kisiler) {
     asama.Adim();
-    satirlar.push_back(KidemIcmalSatiriYap(kisi, icmal.baz, kosullar, tavan.Secilen(icmal.tavan)));
+    const auto satir =
+        TasmaKoru([&] { return KidemIcmalSatiriYap(kisi, icmal.baz, kosullar, tavan.Secilen(icmal.tavan)); });
+    if (!satir) {
+      notlar.Say(Tasan);
+      continue;
+    }
+    satirlar.push_back(*satir);
+    for (const std::string& soz : AlinmayanVergiler(kosullar.Bayraklar(kisi.sicil))) notlar.Say(soz);
   }
   Rapor rapor = RaporYap(kolonlar, satirlar, kosullar.paraonda);
   rapor.baslik = rapor.ekranBasligi = KidemIcmalBasligi;
   rapor.toplamEtiketi = "TOPLAM";
   rapor.ustSatirlar = {{.sol = kaynak.firma.unvan, .sag = "Baz Tarihi : " + icmal.baz.Metin(), .sirket = true}};
-  const auto notlar = Notlar(kosullar, kisiler, tavan.Soz(icmal.tavan));
-  for (const std::string& soz : notlar) rapor.ustSatirlar.push_back({.sol = soz});
+  for (const std::string& soz : notlar.Hepsi()) rapor.ustSatirlar.push_back({.sol = soz});
   return std::make_unique<KidemIcmali>(std::move(rapor), BaskiAyari(KidemIcmalBasligi, KagitYonu::Yatay),
-                                       TekMetin(notlar));
+                                       TekMetin(notlar.Hepsi()));
 }
 
 }  // namespace belvani

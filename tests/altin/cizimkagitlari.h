@@ -18,6 +18,7 @@
 #include "documents/pusula.h"
 #include "ozluk/girisbildirgesi.h"
 #include "ozluk/ibraname.h"
+#include "severance/kidembelgesi.h"
 
 namespace belvani::test {
 
@@ -230,8 +231,16 @@ inline Ibraname CikisKagidi(OrnekSirket& o) {
   return kagit;
 }
 
+inline std::unique_ptr<Belge> KidemKagidi(OrnekSirket& o) {
+  KidemHesabi hesap(o.oturum.depo.db.IcMotor(), KidemKosullariYukle(o.Kaynak()));
+  if (!hesap.KisiBul("007")) throw std::runtime_error("007");
+  hesap.CikisKoy(Tarih(2009, 6, 30));
+  return KidemBelgesi(hesap.Cizelge());
+}
+
 inline Kagitlar KisiKagitlari() {
   return {
+      Cizim(SonAy, "kidem", KidemKagidi),
       {UcuncuDonem, "giris.cizim.txt",
        [](OrnekSirket& o) { return CizimMetni(GirisBildirgesiSayfalari(GirisKagidi(o))); }},
       {UcuncuDonem, "giris.metin", [](OrnekSirket& o) { return GirisBildirgesiMetni(GirisKagidi(o)); }},

@@ -45,6 +45,26 @@ inline Kagit BildirgeTablosuKagidi(const Ay& ay, const std::string& secenekler) 
           }};
 }
 
+// Severance of people who leave on a day: whole years and a few days, above the ceiling, from a net wage.
+inline Kagit Kidem(const Ay& ay, const char* ad, const std::string& secenekler) {
+  return {ay, ad, [=](OrnekSirket& o) { return o.GunKomutu("kidem", secenekler); }};
+}
+
+inline Kagitlar KidemKagitlari() {
+  return {Kidem(SonAy, "kidem-001.metin", "001 --cikis 31.12.2009 --iz"),
+          Kidem(SonAy, "kidem-001.json", "001 --cikis 31.12.2009 --bicim json"),
+          Kidem(SonAy, "kidem-tavan.metin", "004 --cikis 30.06.2009 --ucret 4000 --tavan yariyil --haric ihbar"),
+          Kidem(UcuncuDonem, "kidem-002.metin", "002 --cikis 15.07.2008"),
+          {SonAy, "kidem-001.xlsx.txt",
+           [](OrnekSirket& o) { return KitapMetni(o.GunDosyasi("kidem", "001 --cikis 31.12.2009 --bicim xlsx")); }},
+          {SonAy, "kidem-icmal.csv",
+           [](OrnekSirket& o) { return o.GunKomutu("kidem-icmal", "--baz 31.12.2009 --bicim csv"); }},
+          {SonAy, "kidem-icmal.json",
+           [](OrnekSirket& o) { return o.GunKomutu("kidem-icmal", "--baz 30.06.2009 --kod 001 006 --bicim json"); }},
+          {SonAy, "kidem-icmal.xlsx.txt",
+           [](OrnekSirket& o) { return KitapMetni(o.GunDosyasi("kidem-icmal", "--baz 31.12.2009 --bicim xlsx")); }}};
+}
+
 inline Kagitlar DonemKagitlari(const Ay& ay) {
   return {Liste(ay, "bordro", "csv"),
           Liste(ay, "bordro", "metin"),
@@ -99,6 +119,7 @@ inline Kagitlar KomutKagitlari() {
                              YaziciBaytlari(SonAy, "bordro", "--kod 001 003"),
                              YaziciBaytlari(SonAy, "pusula", "--kod 010 010")})
     hepsi.push_back(kagit);
+  for (const Kagit& kagit : KidemKagitlari()) hepsi.push_back(kagit);
   return hepsi;
 }
 

@@ -52,6 +52,15 @@ class OrnekSirket {
   std::string AylikKomut(const std::string& komut, const std::string& secenekler) const {
     return Komut(komut, "--ay " + std::to_string(donem.ay) + " " + secenekler);
   }
+  // The same of a command that is of days: without a year.
+  std::string GunKomutu(const std::string& komut, const std::string& secenekler) const {
+    return Calistir("'" BELVANI_CLI "' --veri '" + dizin_.Yol() + "' " + komut + " ORNEK " + secenekler);
+  }
+  std::string GunDosyasi(const std::string& komut, const std::string& secenekler) const {
+    const std::string yol = ciktilar_.Yol() + "cikti";
+    GunKomutu(komut, secenekler + " -o '" + yol + "'");
+    return DosyaOku(yol).value();
+  }
   // The bytes of the file that it writes.
   std::string AylikDosya(const std::string& komut, const std::string& secenekler) const {
     const std::string yol = ciktilar_.Yol() + "cikti";

@@ -53,6 +53,8 @@ const GidisDonusEkrani Ekranlari[] = {
     {"sendtan", "S1\n"},
     {"heskod"},
     {"sabpu"},
+    {"kidempar"},
+    {"ihbsure"},
 };
 
 // Values that a column may hold; the same for the same seed.

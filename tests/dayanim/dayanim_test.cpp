@@ -362,6 +362,7 @@ const std::vector<YazanKomut>& YazanKomutlar() {
       {"perdev_al", "perdev-al ORNEK @devir.csv", "denetle ORNEK"},
       {"kart_al", "kart-al ORNEK @kart.csv", defter + "11"},
       {"cari_al", "cari-al ORNEK @cari.csv", "cari ORNEK 001"},
+      {"kidem", "kidem ORNEK 001 --cikis 31.12.2009 --bicim json", "sirketler", true},
       {"bordro_sil", "bordro-sil ORNEK --yil 2009 --ay 11", defter + "11"},
       // Not the ledger's: its two lines stand each for itself.
       {"muhasebe_ac", "muhasebe-ac $.yeni", "sirketler"},

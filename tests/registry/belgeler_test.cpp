@@ -7,6 +7,7 @@
 
 #include "core/asama.h"
 #include "core/ortam.h"
+#include "core/saat.h"
 #include "documents/belgeyap.h"
 #include "documents/doludepo.h"
 #include "gecici.h"
@@ -20,6 +21,7 @@ using testing::StartsWith;
 
 // The papers of a company with people enough for two pages, its name and address filled in.
 struct Belgelik {
+  SabitGun bugun{Tarih(2008, 7, 20)};  // papers of a day are of this one
   test::DoluDepo depo{20080701, 30};
   YasalParametreler yasal;
   Firma firma;

@@ -3,6 +3,7 @@
 
 #include "core/saat.h"
 #include "core/tablo.h"
+#include "core/turkce.h"
 #include "printing/xlsxoku.h"
 #include "severance/kidembelgesi.h"
 #include "severance/sirket.h"
@@ -188,7 +189,7 @@ TEST_F(KidemTesti, TheSheetAsText) {
   KidemHesabi h = Hesap();
   ASSERT_TRUE(h.KisiBul("001"));
   const std::string cizgi(63, '-');
-  EXPECT_EQ(KidemMetni(h.Cizelge()), "\n                   TAZMİNAT HESAPLAMA TABLOSU\n" + cizgi +
+  EXPECT_EQ(KidemMetni(h.Cizelge()), "\n                  TAZMİNAT HESAPLAMA TABLOSU\n" + cizgi +
                                          "\n"
                                          "Personel Kodu :                                    001\n"
                                          "SSK Sicil No  :                          1234567890123\n"

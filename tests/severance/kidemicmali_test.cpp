@@ -33,7 +33,7 @@ TEST_F(IcmalTesti, WhoIsInTheList) {
   Ekle(Kisi("7GIRIS", 900, {}));
   EXPECT_THAT(Kodlar(), ElementsAre("2ONCE", "4AYNI", "5SONRA"));
   EXPECT_EQ(Belge_()->Eksikler(),
-            "1 kişi listede yok: kimlik bilgileri yazılmamış.\n1 kişi listede yok: giriş tarihi yazılmamış.");
+            "1 kişi: listede yok, giriş tarihi yazılmamış.\n1 kişi: listede yok, kimlik bilgileri yazılmamış.");
   secim.kod = {"4", "5"};
   EXPECT_THAT(Kodlar(), ElementsAre("4AYNI"));
   EXPECT_EQ(Belge_()->Eksikler(), "");
@@ -110,8 +110,9 @@ TEST_F(IcmalTesti, WhatTheListTells) {
     for (const UstSatir& s : Belge_()->Tablo()->ustSatirlar) sozler.push_back(s.sol);
     return sozler;
   };
-  EXPECT_THAT(notlar(), ElementsAre(testing::_, testing::HasSubstr("2,260.05"), testing::HasSubstr("gelir vergisi"),
-                                    testing::HasSubstr("damga vergisi")));
+  EXPECT_THAT(notlar(), ElementsAre(testing::_, testing::HasSubstr("2,260.05"),
+                                    testing::HasSubstr("2 kişi: Kıdemin puantaj yerinde damga"),
+                                    testing::HasSubstr("gelir vergisi")));
   const auto& satirlar = Belge_()->Tablo()->Satirlar();
   EXPECT_EQ(DuzMetin(satirlar[0].hucreler[7]), "304");
   EXPECT_EQ(DuzMetin(satirlar[0].hucreler[17]), "0");

@@ -92,6 +92,30 @@ void SureyiIzle(const KidemKurallari& k, const KidemGirdisi& g, const KidemSonuc
   });
 }
 
+// What the amounts rest on: the wage of a day, the ceiling, the taxes that the company takes, the year's base.
+void DayanaklariIzle(const KidemGirdisi& g, const KidemTutarlari& t, const Adimlar& izle) {
+  izle([&] {
+    return IzAdimi("gunlukUcret", "Günlük ücret = aylık ücret / 30", {{"Aylık ücret", g.AylikUcret}},
+                   Adimda(t.gunlukUcret));
+  });
+  izle([&] { return IzAdimi("kidemTavan", "Kıdem tavanı: kıdeme esas aylık ücretin sınırı", {}, g.KidemTavan); });
+  const auto alinir = [&](std::uint8_t isaret) {
+    return std::string((g.bayraklar & isaret) != 0 ? "alınır" : "alınmaz");
+  };
+  izle([&] {
+    return IzAdimi("bayraklar", "Kazanç tanımının işaretleri: hangi vergiler alınır",
+                   {{"Gelir vergisi", alinir(bayrak::Gv)}, {"Damga vergisi", alinir(bayrak::Dv)}}, int(g.bayraklar));
+  });
+  izle([&] {
+    return IzAdimi("dvgvmatrah", "Devreden matrah = yılın çıkış ayından önceki aylarının vergi matrahı", {},
+                   g.matrah.dvgvmatrah);
+  });
+  izle([&] {
+    return IzAdimi("dvgvtutar", "Devreden vergi = yılın çıkış ayından önceki aylarının gelir vergisi", {},
+                   g.matrah.dvgvtutar);
+  });
+}
+
 void KideminIzi(const KidemKurallari& k, const KidemGirdisi& g, const KidemSonucu& s, const Adimlar& izle) {
   const KidemTutarlari& t = *s.tutarlar;
   izle([&] {
@@ -213,6 +237,7 @@ KidemSonucu KidemHesapla(const KidemKurallari& k, const KidemGirdisi& g, Iz* iz)
   t.gunlukUcret = g.AylikUcret.Sayi() / AyGunu30;
   t.gunlukEsas = std::min(g.AylikUcret, g.KidemTavan).Sayi() / AyGunu30;
   t.gunlukKidem = t.gunlukEsas * 30 / k.kidem.YilGunu();
+  DayanaklariIzle(g, t, izle);
   t.brutKidem = s.CalismaGunu * t.gunlukKidem;
   KideminIzi(k, g, s, izle);
   t.kidemDamga = Damga(k, g, t.brutKidem, "kidemDamga", izle);
@@ -226,6 +251,7 @@ KidemSonucu KidemHesapla(const KidemKurallari& k, const KidemGirdisi& g, Iz* iz)
   t.netKidem = t.brutKidem - t.kidemDamga.Sayi();
   t.netIhbar = t.brutIhbar - (t.ihbarGelirVergisi + t.ihbarDamga).Sayi();
   t.netToplam = (g.ihbarHaric ? 0 : t.netIhbar) + (g.kidemHaric ? 0 : t.netKidem);
+  for (const double tutar : {t.brutKidem, t.brutIhbar, t.netToplam}) Adimda(tutar);  // or TutarTasmasi
   NetleriIzle(g, t, izle);
   return s;
 }

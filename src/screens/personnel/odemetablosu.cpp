@@ -90,6 +90,11 @@ void OdemeTablosu::Bosalt() {
   ToplamiGoster();
 }
 
+void OdemeTablosu::Koy(std::size_t satir, const OdemeSatiri& odeme) {
+  odemeler_.Goster(satir, odeme);
+  ToplamiGoster();
+}
+
 void OdemeTablosu::HucreyiBosalt(int satir) {
   const bool tutar = liste_->CurrentCol() > 0;  // the names stand in the first column
   if (tutar) liste_->Text(satir, liste_->CurrentCol(), {});

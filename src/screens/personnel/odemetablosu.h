@@ -15,6 +15,8 @@ class OdemeTablosu : public QWidget {
   bool Bitir() { return liste_->OkUpdateData(); }
   IbranameOdemeleri Oku() const;
   void Bosalt();
+  // Amounts of a kind of payment, in the place of what stands there.
+  void Koy(std::size_t satir, const OdemeSatiri& odeme);
 
  private:
   void HucreyiBosalt(int satir);

@@ -2,11 +2,13 @@
 
 #include <QGroupBox>
 
+#include "core/store/koru.h"
 #include "core/tables/kimlik.h"
 #include "core/tables/sicil.h"
 #include "ozluk/ibraname.h"
 #include "personnel/kart.h"
 #include "screens/personnel/odemetablosu.h"
+#include "severance/kidemodemesi.h"
 #include "ui/basim.h"
 #include "ui/cakisma.h"
 
@@ -45,10 +47,15 @@ struct BaskiSecimi {
 };
 
 AlanGrubu BaskiGrubu() {
-  return {"İbraname Baskısı",
-          {{Uye("duzcerceve", &BaskiSecimi::duzCerceve),
-            "Düz Çerçeve",
-            {.kayitDisi = true, .ipucu = "Metin baskıda çerçeve + - | ile çizilir: kutu harfi olmayan yazıcılar için"}}}};
+  return {
+      "İbraname Baskısı",
+      {{Uye("duzcerceve", &BaskiSecimi::duzCerceve),
+        "Düz Çerçeve",
+        {.kayitDisi = true, .ipucu = "Metin baskıda çerçeve + - | ile çizilir: kutu harfi olmayan yazıcılar için"}}}};
+}
+
+std::size_t OdemeSirasi(std::string_view satir) {
+  return std::size_t(std::ranges::find(OdemeSatirlari, satir) - std::begin(OdemeSatirlari));
 }
 
 std::string CikisDili(std::string_view alan, const Deger& deger) {
@@ -58,11 +65,14 @@ std::string CikisDili(std::string_view alan, const Deger& deger) {
 
 }  // namespace
 
-percik::percik(EkranBaglami& baglam) : PersonelFormu(baglam, "percik", QStringLiteral("Personel İşten Çıkış Formu")) {
+percik::percik(EkranBaglami& baglam, ParametreDeposu& parametreler)
+    : PersonelFormu(baglam, "percik", QStringLiteral("Personel İşten Çıkış Formu")), parametreler_(parametreler) {
   Yerlestir();
-  Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Çıkış Kaydet", .islev = [this] { Kaydet(); }},
-            {.dugme = "Çıkış Geri Al", .simge = "degistir", .islev = [this] { GeriAl(); }},
-            {.tus = Qt::Key_F8, .dugme = " Yazdır ", .simge = "yazici", .islev = [this] { Yazdir(); }}});
+  Komutlar(
+      {{.komut = FormKomutu::Kaydet, .dugme = "Çıkış Kaydet", .islev = [this] { Kaydet(); }},
+       {.dugme = "Çıkış Geri Al", .simge = "degistir", .islev = [this] { GeriAl(); }},
+       {.tus = Qt::Key_F6, .dugme = "Tazminatları Getir", .simge = "bordro", .islev = [this] { TazminatlariGetir(); }},
+       {.tus = Qt::Key_F8, .dugme = " Yazdır ", .simge = "yazici", .islev = [this] { Yazdir(); }}});
   PersonelKomutlari(cikisformu::kod);
   Goster({});
 }
@@ -139,6 +149,33 @@ void percik::GeriAl() {
   Goster({});
   KoddanBasla();
   ZoomEfekt(QStringLiteral("Çıkış geri alındı"));
+}
+
+void percik::TazminatlariGetir() {
+  if (!EkrandakiMi() || !odemeler_->Bitir()) return;
+  const CikisFormu form = Okunan();
+  if (form.ciktar.Bos()) return Bildir(KuralKusuru("Çıkış Tarihi Hatası", cikisformu::ciktar));
+  const auto cizelge = Koru([&]() -> Sonuc<KidemCizelgesi> {
+    KidemHesabi hesap(Oturumu().depo.db.IcMotor(), KidemKosullariYukle({.motor = Oturumu().depo.db.IcMotor(),
+                                                                        .yasal = parametreler_.yasal,
+                                                                        .firma = Oturumu().firma,
+                                                                        .sirket = Oturumu().FirmaDizini}));
+    if (!hesap.KisiBul(YazilanAnahtar())) return KuralKusuru("Giriş Tarihi Hatası", cikisformu::girtar);
+    hesap.GirisKoy(form.girtar);
+    hesap.CikisKoy(form.ciktar);
+    return hesap.Cizelge();
+  });
+  if (!Oldu(cizelge)) return;
+  const auto odemeler = KidemOdemeleriYap(*cizelge);
+  if (!odemeler) return Bildirimi().Bilgi("Ücreti olmadığı için tazminatı hesaplanamadı");
+  const auto koy = [&](std::size_t satir, const KidemOdemesi& o) {
+    odemeler_->Koy(satir, {o.brut, o.kesinti, o.net, {}, o.net});
+  };
+  koy(OdemeSirasi("İhbar Tazminatı"), odemeler->ihbar);
+  koy(OdemeSirasi("Kıdem Tazminatı"), odemeler->kidem);
+  std::string notlar;
+  for (const std::string& soz : cizelge->notlar) notlar += (notlar.empty() ? "" : "\n") + soz;
+  if (!notlar.empty()) Bildirimi().Bilgi(notlar);
 }
 
 void percik::Yazdir() {

@@ -162,8 +162,8 @@ TEST(UcretYukle, EveryKindOfWage) {
       {0, Aylik, 1000, 1000},  // a thirtieth and back
       {0, Gunluk, 40, 1200},     {0, Saatlik, 4, 900},       {0, 9, 1234.56, 1234.56},
       {2, Saatlik, 4, 693},     // the minimum wage, whatever stands on the card
-      {1, Aylik, 477, 665.36},  // below
-      {1, Gunluk, 15.9, 665.36}, {1, Saatlik, 2.12, 665.36}, {3, Aylik, 50, 50},
+      {1, Aylik, 477, 665.73},  
+      {1, Gunluk, 15.9, 665.73}, {1, Saatlik, 2.12, 665.73}, {3, Aylik, 50, 50},
   };
   for (const auto& [tip, esas, ucret, aylik] : durumlar) {
     Sicil s;

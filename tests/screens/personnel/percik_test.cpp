@@ -26,7 +26,7 @@ struct Percik : testing::Test {
       s.girtar = Tarih(2005, 1, 1);
       ASSERT_TRUE(KartKaydet(ortam.oturum, {.simdi = s}));
     }
-    form = &ortam.Ac<percik>();
+    form = &ortam.Ac<percik>(ortam.parametreler);
   }
   std::string Metin(std::string_view ad) { return AlanMetni(*form, ad); }
   Sicil Kart() { return KartBul(ortam.oturum, "001").value(); }
@@ -138,6 +138,34 @@ TEST_F(Percik, SumsFollowTheCellsAndGoOnThePaper) {
   AlanBul(*form, "kod").Odak()->setFocus();
   ortam.Yaz("002\n");
   EXPECT_EQ(Toplam("brut") + Toplam("odenen"), "0.000.00") << "payments are one person's";
+}
+
+// Severance and notice of the days on the screen stand in their lines, as their sheet has them, and add up.
+TEST_F(Percik, BringsSeveranceAndNotice) {
+  Sicil s = Kart();
+  s.ucret = Tutar(1800);
+  ASSERT_TRUE(KartKaydet(ortam.oturum, {.ilk = Kart(), .simdi = s}));
+  ortam.oturum.depo.db.IcMotor().Calistir("update kaztan set y10 = 12");
+  ortam.oturum.firma.issaati = Tek(8);
+  AlanBul(*form, "kod").Odak()->setFocus();
+  ortam.Yaz("001\n");
+  ortam.Bas(Qt::Key_F6);
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: Çıkış Tarihi Hatası"});
+  EXPECT_EQ(ortam.Odak(), "ciktar");
+  AlanBul(*form, "girtar").Odak()->setFocus();
+  ortam.Yaz("02082008\n01082009\n");
+  ortam.Bas(Qt::Key_F6);
+  const auto satir = [&](int no) {
+    std::string metin;
+    for (const char* kolon : {"brut", "kesinti", "net", "ozel", "odenen"})
+      metin += Utf8(Liste("odemeler").TextByName(no, kolon)) + "|";
+    return metin;
+  };
+  EXPECT_EQ(satir(3), "1,800.00|280.80|1,519.20||1,519.20|");
+  EXPECT_EQ(satir(4), "1,800.00|10.80|1,789.20||1,789.20|");
+  EXPECT_EQ(Toplam("odenen"), "3,308.40");
+  EXPECT_EQ(Kart().ciktar, Tarih()) << "nothing is stored";
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
 }
 
 }  // namespace
