@@ -7,13 +7,10 @@
 #include "accounting/entegrasyonayari.h"
 #include "accounting/entparkayit.h"
 #include "accounting/kardesdepo.h"
-#include "core/store/koru.h"
-#include "personnel/hucreler.h"
+#include "personnel/aktarimyaz.h"
 
 namespace belvani {
 namespace {
-
-constexpr std::chrono::seconds KilitBekleme{60};
 
 struct AlanUstu {
   std::string_view alan;
@@ -45,22 +42,19 @@ void SatirlariDenetle(AktarimDosyasi& dosya) {
 }
 
 Entpar DosyaSatiri(const AktarimDosyasi& dosya, const AktarimSatiri& satir, Entpar kayit) {
-  Entpar::HerKolon([&](const auto& kolon) {
-    if (const int sira = dosya.KolonSirasi(kolon.ad); sira >= 0)
-      UyeyeYaz(kayit.*kolon.uye, satir.degerler[std::size_t(sira)]);
-  });
+  HucreleriKoy(kayit, dosya, satir);
   kayit.grupno = EntparAnahtari(kayit.grup, kayit.no);
   return kayit;
 }
 
 // The chart of the company's books; nothing, and a warning, while there are none.
-Sonuc<std::optional<HesapPlani>> PlanOku(const Oturum& o, AktarimSonucu& sonuc) {
+Sonuc<std::optional<HesapPlani>> PlanOku(const Oturum& o, Kusurlar& uyarilar) {
   const std::string dizin = KardesDizini(o, MuhasebeSirketi(o));
   if (dizin.empty()) {
-    sonuc.uyarilar.push_back({.metin = "muhasebe şirketi seçilmemiş, hesap kodları denetlenmedi",
-                              .kod = "entpar",
-                              .satir = 1,
-                              .derece = Derece::Uyari});
+    uyarilar.push_back({.metin = "muhasebe şirketi seçilmemiş, hesap kodları denetlenmedi",
+                        .kod = "entpar",
+                        .satir = 1,
+                        .derece = Derece::Uyari});
     return std::optional<HesapPlani>();
   }
   const auto motor = KardesAc(KardesTuru::Muhasebe, dizin, KardesErisimi::YalnizBakis);
@@ -77,8 +71,7 @@ Durum SatirlariYaz(Motor& motor, AktarimDosyasi& dosya, const std::optional<Hesa
     if (plan && kayit.yer != YerYok && plan->Bul(kayit.hesap) == nullptr)
       dosya.SorunEkle(satir, "hesap", kayit.hesap + " Hesabı Muhasebede Bulunamadı..");
     if (!dosya.sorunlar.empty()) continue;
-    const auto yazilan = EntparYaz(motor, {.ilk = ilk, .simdi = kayit});
-    if (!yazilan) return Kusur{"satır " + std::to_string(satir.satirNo) + ": " + yazilan.Kusuru().metin};
+    if (const Durum d = SatirYaz<Entpar>(tablo, {.ilk = ilk, .simdi = kayit}, satir); !d) return d;
     ++(ilk ? sonuc.degisen : sonuc.eklenen);
   }
   return Tamam();
@@ -91,15 +84,12 @@ Sonuc<AktarimSonucu> EntparAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi
   if (!dosya) return dosya.Kusuru();
   if (const Durum kolonlar = KolonlariDenetle(*dosya); !kolonlar) return kolonlar.Kusuru();
   SatirlariDenetle(*dosya);
-  AktarimSonucu sonuc;
-  const auto plan = PlanOku(o, sonuc);
+  Kusurlar uyarilar;
+  const auto plan = PlanOku(o, uyarilar);
   if (!plan) return plan.Kusuru();
-  return Koru([&]() -> Sonuc<AktarimSonucu> {
-    Islem islem(o.depo.db.IcMotor(), KilitBekleme);
-    if (const Durum d = SatirlariYaz(o.depo.db.IcMotor(), *dosya, *plan, sonuc); !d) return d.Kusuru();
-    sonuc.sorunlar = std::move(dosya->sorunlar);
-    if (sonuc.sorunlar.empty() && kip == AktarimKipi::Kaydet) islem.Onayla();
-    return sonuc;
+  return AktarimiKaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) {
+    sonuc.uyarilar = uyarilar;
+    return SatirlariYaz(o.depo.db.IcMotor(), *dosya, *plan, sonuc);
   });
 }
 
