@@ -140,14 +140,15 @@ Sonuc<std::int32_t> FisNoSec(Motor& muhasebe, const Fis& fis, const FisIstegi& i
 }
 
 Sonuc<std::int32_t> IslemdeIsle(Motor& muhasebe, const Fis& fis, const FisIstegi& istek) {
-  Islem islem(muhasebe);
+  std::optional<Islem> islem;
+  Soyleyerek(BaslikYazilamadi, [&] { islem.emplace(muhasebe); });
   const auto fisno = FisNoSec(muhasebe, fis, istek);
   if (!fisno) return fisno;
   Isleyen isleyen(muhasebe, fis, *fisno, istek.tarih);
   Soyleyerek(BaslikYazilamadi, [&] { isleyen.BaslikYaz(); });
   Soyleyerek(HareketYazilamadi, [&] {
     for (const FisSatiri& satir : fis.satirlar) isleyen.SatirYaz(satir);
-    islem.Onayla();
+    islem->Onayla();
   });
   return fisno;
 }

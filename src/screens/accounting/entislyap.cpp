@@ -75,7 +75,7 @@ bool entislyap::Yaz() {
   if (!Oku(ayar)) return false;
   const auto isletme = KardesAc(KardesTuru::Isletme, KardesDizini(Oturumu(), ayar.islfirma));
   if (!Oldu(isletme)) return false;
-  if (YaziKutusu(alan::tarih).HataliTarih()) {
+  if (TarihDegeri(Denetim(alan::tarih).Oku()).Bos()) {
     Bildir(KuralKusuru(HataliTarih, alan::tarih));
     return false;
   }

@@ -47,7 +47,7 @@ entparfrm::entparfrm(EkranBaglami& baglam) : Form(baglam, "entpar", QStringLiter
     kodlar_ = std::move(*kodlar);
   SecenekleriKoy(Denetim(alan::ozel), kodlar_);
   gosterilen_.sirket = MuhasebeSirketi(Oturumu());
-  PlaniOku();
+  PlaniOku(KardesDizini(Oturumu(), gosterilen_.sirket));
   GrupGoster(0);
   AlanDegisti = [this](AlanDenetimi& d) { d.Satir().Tutamak() == alan::ozel ? GrubaGec() : AdlariGoster(); };
 }
@@ -103,9 +103,8 @@ std::string entparfrm::Dizin() const {
 }
 
 // Names and checks need it; without books there are none, which is told where it matters.
-void entparfrm::PlaniOku() {
+void entparfrm::PlaniOku(const std::string& dizin) {
   plan_.reset();
-  const std::string dizin = KardesDizini(Oturumu(), gosterilen_.sirket);
   if (dizin.empty()) return;
   const auto muhasebe = KardesAc(KardesTuru::Muhasebe, dizin, KardesErisimi::YalnizBakis);
   if (!Oldu(muhasebe)) return;
@@ -164,8 +163,8 @@ void entparfrm::SirketSec() {
   if (dizin) {
     kutu.DegerKoy(*dizin);
     Q_EMIT kutu.Change();  // as if it had been typed
-    const auto muhasebe = KardesAc(KardesTuru::Muhasebe, Dizin(), KardesErisimi::YalnizBakis);
-    Oldu(muhasebe);
+    PlaniOku(Dizin());
+    AdlariGoster();
   }
   kutu.setFocus();
 }

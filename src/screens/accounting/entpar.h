@@ -38,7 +38,7 @@ class entparfrm : public Form {
   void AdlariGoster();
   void Goster(const EntparFormu& form);
   EntparFormu Ekrandaki() const;
-  void PlaniOku();
+  void PlaniOku(const std::string& dizin);
   std::string Dizin() const;
   void SirketSec();
   void Rehber();

@@ -40,7 +40,10 @@ AlanGrubu Alanlar() {
 }  // namespace
 
 entyap::entyap(EkranBaglami& baglam)
-    : Form(baglam, "entyap", QStringLiteral("Entegrasyon İşlemleri")), liste_(new dclist(baglam.bildirim, this)) {
+    : Form(baglam, "entyap", QStringLiteral("Entegrasyon İşlemleri")),
+      yil_(baglam.oturum.firma.firmayil),
+      ay_(baglam.oturum.firma.firmaay),
+      liste_(new dclist(baglam.bildirim, this)) {
   Govde()->addWidget(GrupYap(Alanlar()));
   eksikler_ = YaziEkle({}, "hata");
   eksikler_->setObjectName("eksikler");
@@ -75,12 +78,17 @@ entyap::entyap(EkranBaglami& baglam)
     gruplar_ = std::move(*gruplar);
   gruplar_.insert(gruplar_.begin(), ButunGruplar);
   SecenekleriKoy(Denetim(alan::grup), gruplar_);
-  Yukle(FisFormu{.tarih = FisTarihi(Oturumu().firma.firmayil, Oturumu().firma.firmaay)});
+  Yukle(FisFormu{.tarih = FisTarihi(yil_, ay_)});
   MuhasebeyiOku();
   FisiYap(false);
   AlanDegisti = [this](AlanDenetimi& d) {
     if (d.Satir().Tutamak() == alan::grup) FisiYap(true);
   };
+}
+
+void entyap::FirmaDegisti() {
+  Form::FirmaDegisti();
+  Goster();
 }
 
 void entyap::ListeyiKur() {
@@ -131,9 +139,7 @@ void entyap::FisNoKoy(Motor& muhasebe) {
 // `beklet`: the user waits for it and may stop it; then the list stays empty.
 void entyap::FisiYap(bool beklet) {
   const auto sira = std::size_t(TamDegeri(Denetim(alan::grup).Oku()));
-  const FisDonemi donem{.yil = Oturumu().firma.firmayil,
-                        .ay = Oturumu().firma.firmaay,
-                        .grup = gruplar_[sira < gruplar_.size() ? sira : 0]};
+  const FisDonemi donem{.yil = yil_, .ay = ay_, .grup = gruplar_[sira < gruplar_.size() ? sira : 0]};
   const auto oku = [&](Ilerleme* ilerleme) {
     return Koru([&] { return FisOku(Oturumu().depo.db.IcMotor(), donem, ilerleme); });
   };
@@ -200,9 +206,9 @@ Sonuc<std::int32_t> entyap::Islenen(Motor& muhasebe) {
   if (!bilinenler) return bilinenler.Kusuru();
   const std::string soru = AyniFisSorusu(*bilinenler, fis_.ack);
   if (!soru.empty() && !Bildirimi().Soru(soru)) return std::int32_t(0);
-  return FisIsle(
-      muhasebe, fis_,
-      {.tarih = tarih, .fisno = std::int32_t(TamDegeri(Denetim(alan::fisno).Oku())), .bilinenler = *bilinenler});
+  FisIstegi istek{.tarih = tarih, .bilinenler = *bilinenler};
+  if (const auto fisno = std::int32_t(TamDegeri(Denetim(alan::fisno).Oku())); fisno > 0) istek.fisno = fisno;
+  return FisIsle(muhasebe, fis_, istek);
 }
 
 void entyap::Isle() {

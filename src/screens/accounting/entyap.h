@@ -19,6 +19,8 @@ class entyap : public Form {
  public:
   explicit entyap(EkranBaglami& baglam);
 
+  void FirmaDegisti() override;
+
  private:
   void ListeyiKur();
   QWidget* ToplamSatiri();
@@ -33,6 +35,7 @@ class entyap : public Form {
   void Isle();
   Sonuc<std::int32_t> Islenen(Motor& muhasebe);
 
+  const int yil_, ay_;  // that it was opened for
   std::vector<std::string> gruplar_;
   HesapPlani plan_;
   Fis fis_;
