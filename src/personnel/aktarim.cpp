@@ -158,7 +158,8 @@ Sonuc<AktarimSonucu> UcretAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi 
   auto dosya = AktarimDosyasiOku(csv, {TabloBul("sicil")}, "kod", AnahtarKurali::Tekil);
   if (!dosya) return dosya.Kusuru();
   UcretDosyasiniDenetle(*dosya, *CsvOku(csv.icerik));
-  return Kaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) { return UcretleriYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
+  return AktarimiKaydet(o, *dosya, kip,
+                        [&](AktarimSonucu& sonuc) { return UcretleriYaz(o.depo.db.IcMotor(), *dosya, sonuc); });
 }
 
 Sonuc<AktarimSonucu> AileAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip) {
@@ -172,7 +173,8 @@ Sonuc<AktarimSonucu> TanimAktar(Oturum& o, std::string_view tablo, const Aktaril
   const auto tanim = std::find_if(std::begin(TanimTablolari), std::end(TanimTablolari),
                                   [&](const TanimTablosu& t) { return t.ad == tablo; });
   if (tanim == std::end(TanimTablolari))
-    return Kusur{"bu tabloya dosyadan alınamaz: " + std::string(tablo) + " (firma, muaf, indir, sendika, kaztan, entpar)"};
+    return Kusur{"bu tabloya dosyadan alınamaz: " + std::string(tablo) +
+                 " (firma, muaf, indir, sendika, kaztan, entpar)"};
   auto dosya = AktarimDosyasiOku(csv, {TabloBul(tanim->ad)}, tanim->anahtar, AnahtarKurali::Tekil);
   if (!dosya) return dosya.Kusuru();
   if (tanim->anahtar.empty() && dosya->satirlar.size() != 1) return Kusur{"firma dosyasında tek bir satır olmalı"};
