@@ -24,7 +24,8 @@
 namespace belvani {
 namespace {
 
-constexpr int BasamakAdimi = 26;  // between windows that open one after the other
+constexpr const char* GirisOzelligi = "giris";  // of a screen: the name of the entry that opened it
+constexpr int BasamakAdimi = 26;                // between windows that open one after the other
 
 QWidget* IlkOdak(QWidget* ekran) {
   for (QWidget* parca = ekran->nextInFocusChain(); parca != ekran; parca = parca->nextInFocusChain()) {
@@ -113,7 +114,7 @@ QMenu* anamenu::AltMenu(std::string_view yol) {
 void anamenu::MenuYap() {
   for (const EkranKaydi& kayit : Ekranlar()) {
     QAction* giris = AltMenu(kayit.menu)->addAction(Yazi(kayit.baslik));
-    giris->setObjectName("mnu" + Yazi(kayit.kelime));
+    giris->setObjectName("mnu" + Yazi(GirisAdi(kayit)));
     giris->setVisible(Acilir(kayit));
     connect(giris, &QAction::triggered, this, [this, &kayit] { Ac(kayit); });
     girisler_.emplace_back(giris, &kayit);
@@ -148,9 +149,12 @@ void anamenu::keyPressEvent(QKeyEvent* olay) {
   QMainWindow::keyPressEvent(olay);
 }
 
-bool anamenu::OneGetir(const QString& kelime) {
+// A screen that several entries share may stand open for each of them.
+bool anamenu::OneGetir(std::string_view kelime, std::string_view giris) {
   for (QMdiSubWindow* pencere : alan_->subWindowList()) {
-    if (pencere->widget() == nullptr || pencere->widget()->objectName() != kelime) continue;
+    const QWidget* ekran = pencere->widget();
+    if (ekran == nullptr || ekran->objectName() != Yazi(kelime)) continue;
+    if (ekran->property(GirisOzelligi).toString() != Yazi(giris)) continue;
     masaustu_->lower();
     alan_->setActiveSubWindow(pencere);
     return true;
@@ -160,9 +164,11 @@ bool anamenu::OneGetir(const QString& kelime) {
 
 void anamenu::Ac(const EkranKaydi& kayit, std::string_view parametre) {
   if (kayit.islem != MenuIslemi::Yok) return Islem(kayit.islem);
-  if (kayit.yap == nullptr || OneGetir(Yazi(kayit.kelime))) return;
+  if (kayit.yap == nullptr || OneGetir(kayit.kelime, kayit.ad)) return;
   ekran_.oturum.PencereTip = parametre.empty() ? kayit.pencereTip : parametre;
-  FormGoster(ekran_, kayit.yap({ekran_, parametreler_}), kayit.mod);
+  auto ekran = kayit.yap({ekran_, parametreler_});
+  ekran->setProperty(GirisOzelligi, Yazi(kayit.ad));
+  FormGoster(ekran_, std::move(ekran), kayit.mod);
 }
 
 void anamenu::Calistir(const Kisayol& kisayol) {

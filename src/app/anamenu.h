@@ -65,7 +65,7 @@ class anamenu : public QMainWindow, public FormGosterici {
   QMenu* AltMenu(std::string_view yol);
   void SimgeleriKoy();
   void Yerlestir(QMdiSubWindow& pencere);
-  bool OneGetir(const QString& kelime);
+  bool OneGetir(std::string_view kelime, std::string_view giris = {});
   void GorunumAc();
 
   EkranBaglami& ekran_;

@@ -14,6 +14,8 @@
 #include "screens/core/yapifrm.h"
 #include "screens/core/yedekfrm.h"
 #include "screens/declarations/yaylik.h"
+#include "screens/deductions/ozgipar.h"
+#include "screens/deductions/ozgvharc.h"
 #include "screens/documents/belgeekrani.h"
 #include "screens/payroll/agifrm.h"
 #include "screens/payroll/brdhazir.h"
@@ -49,6 +51,8 @@ std::unique_ptr<Form> Yap(const UygulamaBaglami& b) {
   else
     return std::make_unique<Ekran>(b.ekran, b.parametreler);
 }
+
+constexpr std::string_view OgiMenusu = "Ek Moduller/Özel Gider İndirimi";
 
 std::vector<EkranKaydi> Kayitlar() {
   return {
@@ -98,6 +102,16 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Ek Moduller/Personel Cari", "Genel Borç Alacak", "borcalacak"},
       {"Ek Moduller/Personel Cari", "Personel Cari", "percari"},
       {"Ek Moduller/Personel Cari", "Otomatik Kesinti", "otokes"},
+      {OgiMenusu, "ÖGİ Harcama Girişi", "ozgvharc", "duzelt", "", Yap<ozgvharc>},
+      {OgiMenusu, "ÖGİ Çalışan Bordrosu", "ogibrd"},
+      {OgiMenusu, "ÖGİ Ölen,Emekli,Çıkan Bordrosu", "ogibrd2"},
+      {OgiMenusu, "ÖGİ Toplam Kalan İade Listesi", "topode"},
+      {OgiMenusu, "ÖGİ Aylık Mahsup Listesi", "ogiaymah"},
+      {OgiMenusu, "ÖGİ Çalışan Ödeme Listesi", "ogibrd"},
+      {OgiMenusu, "ÖGİ Ölen,Emekli,Çıkan Ödeme Listesi", "ogibrd2"},
+      {OgiMenusu, "ÖGİV Tablosu", "gvtablo", "tablo", "", Yap<gvtablo>, MenuIslemi::Yok, FormModu::Serbest, "OGI",
+       "ozgvtablo"},
+      {OgiMenusu, "ÖGİV Ayarları", "ozgipar", "ayar", "", Yap<ozgipar>},
       {"Ek Moduller/Banka Modülü", "Bankalar", "bankalar"},
       {"Ek Moduller/Banka Modülü", "Banka Hesap Kodları", "bankahesap"},
       {"Ek Moduller/Banka Modülü", "Banka Transfer İşlemleri", "bankatransfer"},
@@ -142,17 +156,27 @@ std::vector<EkranKaydi> Kayitlar() {
 }
 
 // Where the menu has its caption, else at the end of its menu.
-void BelgeEkle(std::vector<EkranKaydi>& tablo, const BelgeTanimi& belge) {
-  const auto yap = [&belge](const UygulamaBaglami& b) { return BelgeEkraniYap(b.ekran, b.parametreler, belge); };
-  const auto ayni = [&](const EkranKaydi& e) { return e.menu == belge.menu && e.baslik == belge.menuBasligi; };
-  EkranKaydi kayit{belge.menu, belge.menuBasligi, belge.ekran, belge.simge, "", yap};
+void YerineKoy(std::vector<EkranKaydi>& tablo, EkranKaydi kayit) {
+  const auto ayni = [&](const EkranKaydi& e) { return e.menu == kayit.menu && e.baslik == kayit.baslik; };
   if (const auto yeri = std::ranges::find_if(tablo, ayni); yeri != tablo.end()) {
     kayit.kisayol = yeri->kisayol;
     *yeri = std::move(kayit);
     return;
   }
-  const auto son = std::ranges::find(tablo.rbegin(), tablo.rend(), belge.menu, &EkranKaydi::menu);
+  const auto son = std::ranges::find(tablo.rbegin(), tablo.rend(), kayit.menu, &EkranKaydi::menu);
   tablo.insert(son.base(), std::move(kayit));
+}
+
+void BelgeEkle(std::vector<EkranKaydi>& tablo, const BelgeTanimi& belge) {
+  const auto yap = [&belge](const UygulamaBaglami& b) { return BelgeEkraniYap(b.ekran, b.parametreler, belge); };
+  EkranKaydi kayit{belge.menu, belge.menuBasligi, belge.ekran, belge.simge, "", yap};
+  YerineKoy(tablo, kayit);
+  for (const BelgeGirisi& giris : belge.girisler) {
+    kayit.baslik = giris.menuBasligi;
+    kayit.pencereTip = giris.pencereTip;
+    kayit.ad = giris.ad;
+    YerineKoy(tablo, kayit);
+  }
 }
 
 const std::vector<EkranKaydi>& EkranTablosu() {
@@ -180,6 +204,10 @@ constexpr MenuSimgesi MenuSimgeleri[] = {
 
 std::span<const EkranKaydi> Ekranlar() {
   return EkranTablosu();
+}
+
+std::string_view GirisAdi(const EkranKaydi& kayit) {
+  return kayit.ad.empty() ? kayit.kelime : kayit.ad;
 }
 
 bool Acilir(const EkranKaydi& kayit) {

@@ -32,10 +32,14 @@ struct EkranKaydi {
   MenuIslemi islem = MenuIslemi::Yok;
   FormModu mod = FormModu::Serbest;
   std::string_view pencereTip = {};  // mode word of a screen that several entries share
+  std::string_view ad = {};          // names the entry beside the screen's first one
 };
 
 // In the order of the menu.
 std::span<const EkranKaydi> Ekranlar();
+
+// What the entry is called where the screen's word would name several.
+std::string_view GirisAdi(const EkranKaydi& kayit);
 
 // The entry does something: its screen is built, or it opens none.
 bool Acilir(const EkranKaydi& kayit);

@@ -74,7 +74,7 @@ class Resimler : ProgramParcalari<MetinBildirimi, DialogYok> {
     pencere.show();
     if (Istenen("anamenu")) Kaydet(pencere, "anamenu");
     for (const EkranKaydi& kayit : Ekranlar())
-      if (kayit.yap != nullptr && Istenen(Yazi(kayit.kelime))) EkranResmi(pencere, kayit);
+      if (kayit.yap != nullptr && Istenen(Yazi(GirisAdi(kayit)))) EkranResmi(pencere, kayit);
     if (Istenen("pencere")) ModalResmi("pencere", [this] { PersonelSec(ekran, ""); });
     if (Istenen("brckes")) BorcResmi();
     if (Istenen("gorun")) {
@@ -142,8 +142,8 @@ class Resimler : ProgramParcalari<MetinBildirimi, DialogYok> {
     pencere.SerbestGoster(kayit.yap({ekran, parametreler}));
     OlaylariIsle(EkranSuresi);
     for (const Doldurma& d : Doldurmalar)
-      if (kayit.kelime == d.kelime) Bas(d.tuslar);
-    Kaydet(*pencere.findChild<QMdiArea*>()->activeSubWindow(), Yazi(kayit.kelime));
+      if (GirisAdi(kayit) == d.kelime) Bas(d.tuslar);
+    Kaydet(*pencere.findChild<QMdiArea*>()->activeSubWindow(), Yazi(GirisAdi(kayit)));
     pencere.EkranlariKapat();
   }
 

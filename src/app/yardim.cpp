@@ -102,7 +102,8 @@ std::vector<YardimSayfasi> YardimSayfalari() {
   };
   ekle(IlkSayfa, QStringLiteral("Kullanma Şekli"));
   ekle("baslangic", QStringLiteral("Başlangıç"));
-  for (const EkranKaydi& kayit : Ekranlar()) ekle(Yazi(kayit.kelime), Yazi(kayit.baslik));
+  for (const EkranKaydi& kayit : Ekranlar())
+    if (kayit.ad.empty()) ekle(Yazi(kayit.kelime), Yazi(kayit.baslik));
   std::vector<YardimSayfasi> digerleri;
   for (const QString& dosya : kalan) {
     const QString kelime = dosya.chopped(5);

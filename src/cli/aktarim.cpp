@@ -1,15 +1,17 @@
-// personel-al, ucret-al, aile-al, tanim-al, and what all commands of their kind share
+// personel-al, ucret-al, aile-al, tanim-al, ogi-harcama, and what all commands of their kind share
 #include "cli/aktarim.h"
 
 #include "accounting/entparaktarim.h"
 #include "cli/sorunlar.h"
 #include "core/tables/entpar.h"
+#include "deductions/ogiaktarim.h"
 
 namespace belvani::cli {
 namespace {
 
 struct AktarimSecenekleri {
   std::string kod, tablo, dosya;
+  int yil = 0;
   bool dene = false;
   OndalikImi ondalik = OndalikImi::Belirsiz;
   SorunListesi sorunlar;
@@ -25,7 +27,8 @@ void Al(Genel& genel, const AktarimSecenekleri& s, const DosyaAktaran& aktar) {
   s.sorunlar.SatirKusurlariylaBitir(s.dosya + ": hiçbir kayıt alınmadı", sonuc->sorunlar);
   std::vector<std::string> uyarilar;
   for (const Kusur& u : sonuc->uyarilar)
-    uyarilar.push_back("Uyarı: satır " + std::to_string(u.satir) + ", " + u.kod + ": " + u.metin);
+    uyarilar.push_back("Uyarı: " + (u.satir == 0 ? "" : "satır " + std::to_string(u.satir) + ", " + u.kod + ": ") +
+                       u.metin);
   s.sorunlar.Soyle(genel.bildirim, uyarilar);
   Yaz(std::to_string(sonuc->eklenen) + " kayıt eklendi, " + std::to_string(sonuc->degisen) + " kayıt değişti" +
       (s.dene ? " (deneme, kaydedilmedi)" : "") + "\n");
@@ -61,6 +64,16 @@ void AktarimKomutlari(CLI::App& app, Genel& genel) {
                 UcretAktar);
   AktarimKomutu(app, genel, "aile-al", "Eş ve çocukları (esco) alır; dosyadaki kişilerin eski kayıtları silinir",
                 AileAktar);
+
+  auto h = std::make_shared<AktarimSecenekleri>();
+  auto* harcama = Komut(app, "ogi-harcama",
+                        "Özel gider indirimi harcamalarını (kod, harcama, istenirse gvmatrah) dosyadan alır", *h);
+  Dosya(*harcama, *h);
+  YilSecenegi(*harcama, h->yil, "harcamaların yılı");
+  harcama->callback([&genel, h] {
+    Al(genel, *h,
+       [h](Oturum& o, const AktarilanCsv& csv, AktarimKipi kip) { return OgiHarcamaAktar(o, h->yil, csv, kip); });
+  });
 
   auto t = std::make_shared<AktarimSecenekleri>();
   auto* tanim =

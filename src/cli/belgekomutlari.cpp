@@ -84,6 +84,7 @@ void SecenekleriEkle(CLI::App& komut, const std::shared_ptr<BelgeIsi>& is) {
     for (const AlanGrubu& grup : sutun)
       for (const Alan& alan : grup.alanlar)
         if (*alan.ek.komut != '\0') alanlar.push_back(&alan);
+  for (const Alan& alan : is->belge.komutAlanlari) alanlar.push_back(&alan);
   for (auto ilk = alanlar.begin(); ilk != alanlar.end();) {
     const std::string_view ad = (*ilk)->ek.komut;
     const auto son = std::find_if(ilk, alanlar.end(), [&](const Alan* alan) { return alan->ek.komut != ad; });
@@ -123,6 +124,8 @@ void BelgeVer(Genel& genel, const BelgeIsi& is) {
   const auto bak = [&](MevzuatAyi ay) { return MevzuataBak(mevzuat, ay); };
   if (const std::string soz = BelgeMevzuatSozu(is.belge, *secim, kaynak.motor, bak); !soz.empty())
     genel.bildirim.Uyari("Uyarı: " + soz);
+  if (is.belge.soz != nullptr)
+    if (const std::string soz = is.belge.soz(kaynak, *secim); !soz.empty()) genel.bildirim.Uyari("Uyarı: " + soz);
   if (const std::string soz = belge->Eksikler(); !soz.empty()) genel.bildirim.Uyari("Uyarı: " + soz);
   if (belge->Kayitsiz() && !is.belge.kayitYok.empty()) genel.bildirim.Bilgi(is.belge.kayitYok);
   BelgeYaz(*belge, is.cikti);
@@ -132,6 +135,7 @@ void BelgeVer(Genel& genel, const BelgeIsi& is) {
 
 void BelgeKomutlari(CLI::App& app, Genel& genel) {
   for (const BelgeTanimi& belge : Belgeler()) {
+    if (belge.komut.empty()) continue;
     auto is = std::make_shared<BelgeIsi>(BelgeIsi{.belge = belge, .kod = {}, .verilenler = {}, .cikti = {}});
     auto* komut = app.add_subcommand(std::string(belge.komut), std::string(belge.komutYardimi));
     komut->add_option("KOD", is->kod, "şirket")->required();

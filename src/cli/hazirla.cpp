@@ -1,8 +1,10 @@
 // hazirla, bordro-sil, geri-al
 #include "cli/giris.h"
 #include "cli/ortak.h"
+#include "core/store/koru.h"
 #include "payroll/hazirlik/aysaklama.h"
 #include "payroll/hazirlik/hazirlik.h"
+#include "payroll/hazirlik/mahsupkaybi.h"
 
 namespace belvani::cli {
 namespace {
@@ -23,6 +25,9 @@ void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
   MevzuatUyarisi(genel, mevzuat, s.donem);
   const auto girisler =
       s.giris.ad.empty() ? std::vector<GirisSatiri>() : GirisListesiOku(DosyayiOku(s.giris.ad), s.giris, s.sorunlar);
+  // Told before it is gone; the month as it was can be brought back.
+  auto kayip = Koru([&] { return AyinMahsupKaybi(o->depo.db.IcMotor(), s.donem.yil, s.donem.ay, kosullar->paraonda); });
+  if (Degeri(kayip)) genel.bildirim.Uyari("Uyarı: " + (*kayip)->metin);
   TerminalIlerlemesi ilerleme;
   auto sonuc = TopluHazirla(*o, *kosullar, girisler, &ilerleme);
   std::vector<std::string> sorunlar;

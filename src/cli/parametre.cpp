@@ -3,6 +3,7 @@
 #include "cli/ortak.h"
 #include "core/dosya.h"
 #include "payroll/hazirlik/kosullar.h"
+#include "payroll/parametre/mevzuat.h"
 #include "payroll/parametre/uyeler.h"
 
 namespace belvani::cli {
@@ -13,7 +14,17 @@ struct KurSecenekleri {
   bool eskiLira = false;
   bool hazir = false;
   bool kabul = false;
+  bool ozelGider = false;
 };
+
+// The one table that no set of a month brings: it is of a year.
+void OzelGiderTablosuKur(const VeriYolu& veri, const Donem& donem, Lira lira) {
+  const auto tablo = OzelGvMevzuati(MevzuatDizini(), donem.yil, lira);
+  if (!tablo) throw KomutHatasi{tablo.KusurMetni()};
+  Basarmali(veri.Yarat());
+  Basarmali(OzelGvKaydet(veri, *tablo));
+  Yaz(std::to_string(donem.yil) + " özel gider indirimi tablosu kuruldu.\n");
+}
 
 void ParametreleriKur(Genel& genel, const KurSecenekleri& s) {
   const Donem donem = DonemOku(s.donem);
@@ -23,10 +34,12 @@ void ParametreleriKur(Genel& genel, const KurSecenekleri& s) {
     Basarmali(MevzuatiKabulEt(veri, ay));
     return Yaz("Kurulu rakamlar " + ay.Metin() + " için kabul edildi.\n");
   }
+  const Lira lira = s.eskiLira ? Lira::Eski : Lira::Yeni;
+  if (s.ozelGider) return OzelGiderTablosuKur(veri, donem, lira);
   Basarmali(veri.Yarat());
   std::string kaynak = s.kaynak;
   if (kaynak.empty()) {
-    auto adres = ParametreAdresi(donem.yil, donem.ay, s.eskiLira ? Lira::Eski : Lira::Yeni);
+    auto adres = ParametreAdresi(donem.yil, donem.ay, lira);
     kaynak = Degeri(adres);
   }
   auto kurulum = MevzuatKur(veri, ay, kaynak, {.saklanan = s.hazir ? Saklanan::Birakilir : Saklanan::GeriGelir});
@@ -137,6 +150,8 @@ void ParametreKomutlari(CLI::App& app, Genel& genel) {
   auto* hazir = kur->add_flag("--hazir", s->hazir, "bu dönem için saklanan kendi rakamlarınız yerine yayımlananlar");
   kur->add_flag("--kabul", s->kabul, "kurulu rakamlar bu dönem için kabul edilir, bir daha uyarılmaz; bir şey kurulmaz")
       ->excludes(hazir);
+  kur->add_flag("--ozel-gider", s->ozelGider,
+                "dönemin yılının özel gider indirimi tablosunu kurar (ozgvtbl.dat), başka bir şey kurmaz");
   kur->callback([&genel, s] { ParametreleriKur(genel, *s); });
 
   auto* goster = app.add_subcommand("parametre", "Kurulu yasal parametreleri gösterir");

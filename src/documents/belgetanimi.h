@@ -165,9 +165,18 @@ struct BelgeListesi {
   std::vector<ToplamSutunu> sutunlar = {};       // of these lines
 };
 
+// A further entry of the menu that opens the same screen for another product of it.
+struct BelgeGirisi {
+  std::string_view ad;  // names the entry beside the screen's word
+  std::string_view pencereTip;
+  std::string_view menuBasligi;
+  std::string_view pencereBasligi;
+  void (*sec)(BelgeSecimi& secim);  // makes the choices those of the product
+};
+
 struct BelgeTanimi {
   std::string_view ekran;  // the screen's word; also its page of the guide
-  std::string_view komut;  // of the command line
+  std::string_view komut;  // of the command line; "": another paper's command makes it
   std::string_view menu;   // "Bordro"; papers whose caption the menu does not place stand at its end, in this order
   std::string_view menuBasligi;     // caption of the entry
   std::string_view pencereBasligi;  // title of the screen
@@ -175,9 +184,13 @@ struct BelgeTanimi {
   std::string_view komutYardimi;    // what the command does
   AlanSutunlari alanlar;
   SecimYapan secim;
+  std::vector<Alan> komutAlanlari = {};    // options of the command alone: what the menu chooses for a screen
+  std::vector<BelgeGirisi> girisler = {};  // besides the one of `menuBasligi`
   MevzuatRakami mevzuat = {};
   BelgeAyari ayar = {};
   BelgeListesi liste = {};
+  // What its user must know besides the paper, told once beside it; "" where there is nothing. Throws MotorHatasi.
+  std::string (*soz)(const BelgeKaynagi& kaynak, BelgeSecimi& secim) = nullptr;
   // What screen and command line say of a paper that is made of no records; "" keeps them silent.
   std::string_view kayitYok = "Bu dönemde bordro kaydı yok";
   // For a paper whose JSON is not its table but the pay records with all their fields: gives them one by one.

@@ -12,9 +12,6 @@
 namespace belvani {
 namespace {
 
-constexpr std::string_view SatirArasiAdlari[] = {"Çizgi Çek", "Boş Satır", "Hiçbiri"};
-constexpr std::string_view KolonArasiAdlari[] = {"Boş Bırak", "Dik Çizgi"};
-
 // The custom payroll offers fewer lines, the usual one first.
 constexpr std::string_view OzelSatirArasiAdlari[] = {"Hiç Biri", "Çizgi Çek"};
 constexpr SatirArasi OzelSatirArasi[] = {SatirArasi::Hicbiri, SatirArasi::CizgiCek};

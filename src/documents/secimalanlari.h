@@ -16,6 +16,9 @@ inline constexpr auto SecimAyi = Uye("ay", &DefterSecim::ay);
 AlanEki YilEki(const char* komutYardimi = "bordro yılı");  // of a year in choices of another type
 Alan YilAlani(const char* etiket, const char* komutYardimi = "bordro yılı");
 AlanGrubu DonemAlanlari(const char* yilEtiketi, const char* ayEtiketi);
+// "Satırlar Arasında", "Kolonlar Arasında" of the lists.
+inline constexpr std::string_view SatirArasiAdlari[] = {"Çizgi Çek", "Boş Satır", "Hiçbiri"};
+inline constexpr std::string_view KolonArasiAdlari[] = {"Boş Bırak", "Dik Çizgi"};
 // People from and to, by code alone; by code, group, type and own code; `numarali`: by run number too.
 AlanGrubu KodAraligi(const char* kodEtiketi);
 AlanGrubu AralikAlanlari(bool numarali, const char* kodEtiketi);

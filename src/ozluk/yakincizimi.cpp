@@ -3,6 +3,7 @@
 #include "ozluk/vizitesozleri.h"
 #include "printing/form/formparcalari.h"
 #include "printing/form/metinformu.h"
+#include "printing/yzccnt.h"
 
 namespace belvani::vizite {
 namespace {

@@ -1,5 +1,6 @@
 #include "registry/belgeler.h"
 
+#include "deductions/ogibelgeleri.h"
 #include "documents/bordrobelgeleri.h"
 #include "severance/kidembelgeleri.h"
 #include "notices/bildirimbelgeleri.h"
@@ -13,6 +14,7 @@ constexpr OdaBelgeleri Odalar[] = {
     KidemBelgeleri,   // severance and notice
     BordroBelgeleri,    // the month's payroll
     BildirimBelgeleri,  // lists for the labour office and the insurance unit
+    OgiBelgeleri,     // the special-expense refund
 };
 
 const std::vector<BelgeTanimi>& Tablo() {

@@ -49,7 +49,7 @@ struct KisiliOrtam : AnaOrtam {
 std::vector<std::string> Kelimeler() {
   std::vector<std::string> kelimeler;
   for (const EkranKaydi& kayit : Ekranlar())
-    if (kayit.yap != nullptr) kelimeler.emplace_back(kayit.kelime);
+    if (kayit.yap != nullptr) kelimeler.emplace_back(GirisAdi(kayit));
   return kelimeler;
 }
 

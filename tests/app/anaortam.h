@@ -32,9 +32,7 @@ class AnaOrtam : public EkranOrtami {
     QMdiSubWindow* onde = Alan().activeSubWindow();
     return onde == nullptr ? nullptr : dynamic_cast<Ekran*>(onde->widget());
   }
-  static const EkranKaydi& Kayit(std::string_view kelime) {
-    return *std::ranges::find(Ekranlar(), kelime, &EkranKaydi::kelime);
-  }
+  static const EkranKaydi& Kayit(std::string_view kelime) { return *std::ranges::find(Ekranlar(), kelime, GirisAdi); }
   // As a window manager does when a dialog has closed.
   void OneAl() {
     QApplication::setActiveWindow(pencere.get());

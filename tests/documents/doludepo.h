@@ -24,12 +24,28 @@ struct DoluDepo : OrnekDepo {
       s.kod = "P" + std::to_string(100 + kisi);
       s.adi = "Ad" + std::to_string(kisi);
       s.sskdurum = std::uint8_t(kisi % 3);
+      if (kisi % 10 == 4) s.ciktar = Tarih(Yil, Ay - 1, 15);
       if (kisi != 7) kartlar.Ekle(s);
       for (int yil = Yil - 1; yil <= Yil + 1; ++yil)
         for (int ay = 1; ay <= 12; ++ay)
           for (int no = 1; no <= (kisi % 5 == 0 ? 2 : 1); ++no) kayitlar.Ekle(Kayit(s.kod, yil, ay, no));
     }
+    KayitYazici<Dvr> devirler(motor);
+    for (int kisi = 0; kisi < kisiSayisi; ++kisi) devirler.Ekle(Devir("P" + std::to_string(100 + kisi)));
     motor.IslemOnayla();
+  }
+
+  // Of the year before, with an expense that was declared; some have none.
+  Dvr Devir(const std::string& kod) {
+    Dvr d;
+    for (const auto tutar : {&Dvr::gvmatrah, &Dvr::gvtutar, &Dvr::ogimatrah, &Dvr::ogitutar, &Dvr::ogiodenen})
+      d.*tutar = Tutar::Hamdan(100 * Sayi(900'000));
+    if (Sayi(9) == 0) d.ogimatrah = Tutar();
+    if (Sayi(9) == 0) d.ogitutar = Tutar() - d.ogitutar;
+    d.yil = Yil - 1;
+    d.kod = kod;
+    d.yilkod = std::to_string(Yil - 1) + kod;
+    return d;
   }
 
   int Sayi(int enCok) { return std::uniform_int_distribution(0, enCok)(rastgele); }

@@ -52,7 +52,7 @@ inline std::vector<Sahne> Sahneler() {
   };
   const auto ekran = [](const EkranKaydi& kayit) { return [&kayit](MaymunOrtami& o) { o.pencere->Ac(kayit); }; };
   for (const EkranKaydi& kayit : Ekranlar())
-    if (kayit.yap != nullptr) sahneler.push_back({std::string(kayit.kelime), ekran(kayit)});
+    if (kayit.yap != nullptr) sahneler.push_back({std::string(GirisAdi(kayit)), ekran(kayit)});
   // Windows that stand behind a key of a screen, where random keys seldom come.
   const auto arkasinda = [&](const char* ad, const char* kelime, const char* tuslar) {
     sahneler.push_back({ad, ekran(AnaOrtam::Kayit(kelime)), tuslar});

@@ -66,7 +66,9 @@ TEST(RaporDosyasi, RefusesWhatCouldNotHaveBeenMadeHere) {
     std::string s = i % 2 == 0 ? saglam : b;
     for (int n = 1 + int(rastgele() % 6); n > 0; --n) s[rastgele() % s.size()] = char(rastgele());
     if (i % 2 == 0) {
-      if (const auto k = OzlukRaporuCoz(s); k) EXPECT_EQ(*OzlukRaporuCoz(OzlukRaporuBaytlari(*k)), *k);
+      if (const auto k = OzlukRaporuCoz(s); k) {
+        EXPECT_EQ(*OzlukRaporuCoz(OzlukRaporuBaytlari(*k)), *k);
+      }
     } else if (const auto k = BordroRaporuCoz(s); k) {
       EXPECT_EQ(*BordroRaporuCoz(BordroRaporuBaytlari(*k)), *k);
     }

@@ -5,6 +5,7 @@
 #include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/turkce.h"
+#include "payroll/hazirlik/mahsupkaybi.h"
 #include "payroll/hazirlik/uyarilar.h"
 #include "payroll/hesap/kayittoplami.h"
 #include "payroll/hesap/netbrut.h"
@@ -313,7 +314,12 @@ std::string BordroGirisi::KisiUyarisi() const {
   std::string metin = OranFarki(kosullar_, kisi_.sicil, g_.giris);
   for (const Kusur& uyari : TanimUyarilari(kosullar_, kisi_.sicil))
     metin = uyari.metin + (metin.empty() ? "" : "\n") + metin;
+  if (const std::string kayip = KaydinKaybi(); !kayip.empty()) metin = kayip + (metin.empty() ? "" : "\n") + metin;
   return metin;
+}
+
+std::string BordroGirisi::KaydinKaybi() const {
+  return KayitVar() && !kusur_ ? MahsupKaybi(*kisi_.kayit, sonuc_.brd, kosullar_.paraonda) : std::string();
 }
 
 bool BordroGirisi::AlanAcik(BordroAlani alan) const {

@@ -187,6 +187,8 @@ class BordroGirisi {
   bool AyinBordrosunuSil();
   // Ctrl+F8: the month as it was before it was deleted or prepared anew. True: it is back, and the screen is cleared.
   bool AyiGeriAl();
+  // Before the next: asks where it would take typed payments away. False: the month shall stay.
+  bool MahsupSilinsinMi();
   // The "Puantaj " button with the template: everybody's month, without a question or a message. The failure is that
   // there is no law to calculate with, or that the store did not take it.
   belvani::Sonuc<HazirlikSonucu> SablondanHazirla(Ilerleme* ilerleme = nullptr);
@@ -202,6 +204,8 @@ class BordroGirisi {
   // What the user should know of the person and his rates; "" when there is nothing.
   std::string KisiUyarisi() const;
   const std::optional<CalismaUyarisi>& CalismaPaneli() const { return uyari_; }
+  // What saving would take away of the person's record; "" when it takes nothing.
+  std::string KaydinKaybi() const;
   // The entry differs from what came up.
   bool Yazildi() const { return hal_ == Hal::KisiSecili && g_.giris != acilis_; }
   bool KayitVar() const { return kisi_.kayit.has_value(); }

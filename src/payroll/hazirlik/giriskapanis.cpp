@@ -5,6 +5,7 @@
 #include "core/turkce.h"
 #include "payroll/hazirlik/aysaklama.h"
 #include "payroll/hazirlik/giris.h"
+#include "payroll/hazirlik/mahsupkaybi.h"
 #include "payroll/hazirlik/uyarilar.h"
 
 namespace belvani {
@@ -76,7 +77,9 @@ KapanisSonucu BordroGirisi::Kapat() {
                     (KayitVar() ? "\nDaha önce kaydedilen bordrosu olduğu gibi duruyor" : ""));
     return KapanisSonucu::KaldiNetsiz;
   }
-  const bool kaydet = !KayitVar() || bildirim_.Soru("Puantaj Yeniden Kaydedilecek ?");
+  const std::string kayip = KaydinKaybi();
+  const bool kaydet =
+      !KayitVar() || bildirim_.Soru("Puantaj Yeniden Kaydedilecek ?" + (kayip.empty() ? "" : "\n" + kayip));
   if (kaydet)
     if (const auto kalan = Kaydet()) return *kalan;
   return SonrakineGec();
@@ -160,6 +163,14 @@ bool BordroGirisi::AyiGeriAl() {
   bildirim_.Bilgi("Ayın Bordrosu Geri Alındı: " + std::to_string(**gelen) + " kayıt");
   EkranTemizle();
   return true;
+}
+
+bool BordroGirisi::MahsupSilinsinMi() {
+  const BordroDonemi& donem = kosullar_.donem;
+  const auto kayip =
+      Koru([&] { return AyinMahsupKaybi(o_.depo.db.IcMotor(), donem.yil, donem.ay, kosullar_.paraonda); });
+  if (!kayip) bildirim_.KusuruGoster(kayip.Kusuru());
+  return kayip && (!*kayip || bildirim_.SilinsinMi((*kayip)->metin + "\nYine de hazırlansın mı ?", {}));
 }
 
 belvani::Sonuc<HazirlikSonucu> BordroGirisi::SablondanHazirla(Ilerleme* ilerleme) {

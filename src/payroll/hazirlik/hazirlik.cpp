@@ -8,6 +8,7 @@
 #include "core/tables/bordronosu.h"
 #include "core/turkce.h"
 #include "payroll/hazirlik/aysaklama.h"
+#include "payroll/hazirlik/mahsupkaybi.h"
 #include "payroll/hazirlik/uyarilar.h"
 #include "payroll/hesap/satirlar.h"
 
@@ -115,6 +116,9 @@ class TopluIs {
                  "Net sıfırın üstünde değil, bordrosu kaydedilmedi: " + NetsizNedeni(g, s) +
                      (kisi.kayit ? "; önceki kaydı duruyor" : ""));
     }
+    if (kisi.kayit)
+      if (const std::string kayip = MahsupKaybi(*kisi.kayit, s.brd, k_.paraonda); !kayip.empty())
+        Yaz(kisi, nullptr, kayip, brd::ogv);
     s.brd.gocindir = kisi.kayit ? kisi.kayit->gocindir : Tutar();  // kept, not calculated
     // A record that comes out as it stands is left alone: a month that is run again over itself writes nothing.
     if (!kisi.kayit || *kisi.kayit != s.brd) Kaydet(s.brd, kisi.kayit);

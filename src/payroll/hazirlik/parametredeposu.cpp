@@ -1,15 +1,11 @@
 #include "payroll/hazirlik/parametredeposu.h"
 
 namespace belvani {
-namespace {
 
-// Six zeros were dropped on 01.01.2005; books before that in the old lira have no decimals.
-Lira DefterLirasi(const Oturum& o, MevzuatAyi ay) {
+Lira DefterLirasi(const Oturum& o, int yil) {
   constexpr int YeniLiraYili = 2005;
-  return ay.yil < YeniLiraYili && o.firma.paraonda == 0 ? Lira::Eski : Lira::Yeni;
+  return yil < YeniLiraYili && o.firma.paraonda == 0 ? Lira::Eski : Lira::Yeni;
 }
-
-}  // namespace
 
 void ParametreDeposu::YasalYukle(const std::string& dataPath) {
   yasal = YasalDosyalariYukle(dataPath, yasal).deger;
@@ -23,7 +19,7 @@ MevzuatGorusu ParametreDeposu::MevzuataBak(const Oturum& o, MevzuatAyi ay) {
 }
 
 Sonuc<MevzuatKurulumu> ParametreDeposu::MevzuatiGetir(const Oturum& o, MevzuatAyi ay, const MevzuatIstegi& istek) {
-  const auto kaynak = ParametreAdresi(ay.yil, ay.ay, DefterLirasi(o, ay));
+  const auto kaynak = ParametreAdresi(ay.yil, ay.ay, DefterLirasi(o, ay.yil));
   if (!kaynak) return kaynak.Kusuru();
   auto kurulum = MevzuatKur(o.DataPath, ay, *kaynak, istek);
   if (kurulum) YasalYukle(o.DataPath);

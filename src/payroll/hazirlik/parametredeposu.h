@@ -3,9 +3,14 @@
 #pragma once
 
 #include "payroll/hazirlik/firmadurumu.h"
+#include "payroll/parametre/mevzuat.h"
 #include "payroll/parametre/mevzuatkumesi.h"
 
 namespace belvani {
+
+// The unit of the company's books of a year: six zeros were dropped on 01.01.2005; books before that in the old lira
+// have no decimals.
+Lira DefterLirasi(const Oturum& o, int yil);
 
 struct ParametreDeposu {
   explicit ParametreDeposu(Oturum& oturum) : firma(oturum) {}

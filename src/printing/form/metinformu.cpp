@@ -129,19 +129,6 @@ std::string MetinFormu::Metin() const {
   return metin;
 }
 
-std::vector<std::string> SatirlaraBol(std::string_view metin, std::size_t en) {
-  std::vector<std::string> satirlar;
-  while (HarfSayisi(metin) > en) {
-    const std::string_view sigan = IlkHarfler(metin, en + 1);
-    const auto bosluk = sigan.rfind(' ');
-    const auto kesim = bosluk == 0 || bosluk == sigan.npos ? IlkHarfler(metin, en).size() : bosluk;
-    satirlar.emplace_back(Kirp(metin.substr(0, kesim)));
-    metin = Kirp(metin.substr(kesim));
-  }
-  satirlar.emplace_back(metin);
-  return satirlar;
-}
-
 std::string SayfalariBirlestir(std::span<const std::string> sayfalar) {
   std::string metin;
   for (const auto& sayfa : sayfalar) {

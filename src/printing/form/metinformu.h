@@ -64,9 +64,6 @@ class MetinFormu {
   std::vector<Isaret> isaretler_;
 };
 
-// Lines of at most `en` letters, broken at blanks where there are any.
-std::vector<std::string> SatirlaraBol(std::string_view metin, std::size_t en);
-
 // Pages parted by a form feed.
 std::string SayfalariBirlestir(std::span<const std::string> sayfalar);
 

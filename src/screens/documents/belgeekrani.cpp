@@ -15,12 +15,24 @@
 #include "ui/xtext.h"
 
 namespace belvani {
+namespace {
+
+// Those of them that say something, apart from each other.
+std::string Birlestir(const std::vector<std::string>& sozler) {
+  std::string metin;
+  for (const std::string& soz : sozler)
+    if (!soz.empty()) metin += (metin.empty() ? "" : "\n\n") + soz;
+  return metin;
+}
+
+}  // namespace
 
 BelgeEkrani::BelgeEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, const BelgeTanimi& tanim)
     : Form(baglam, Yazi(tanim.ekran), Yazi(tanim.pencereBasligi)),
       parametreler_(parametreler),
       tanim_(tanim),
       secim_(tanim.secim()) {
+  GirisiSec();
   AlanlariDiz(tanim.alanlar);
   RehberleriBagla();
   KomutlariKur();
@@ -28,6 +40,16 @@ BelgeEkrani::BelgeEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, co
   secim_->FirmaKoy(Oturumu().firma);
   if (tanim.ayar.oku != nullptr) tanim.ayar.oku(Oturumu().FirmaDizini, *secim_);
   AlanlariYukle();
+}
+
+// The product of the menu's entry that was gone through.
+void BelgeEkrani::GirisiSec() {
+  if (tanim_.girisler.empty()) return;
+  const std::string tip = std::exchange(Oturumu().PencereTip, {});
+  const auto giris = std::ranges::find(tanim_.girisler, std::string_view(tip), &BelgeGirisi::pencereTip);
+  if (giris == tanim_.girisler.end()) return;
+  giris->sec(*secim_);
+  setWindowTitle(Yazi(giris->pencereBasligi));
 }
 
 void BelgeEkrani::AlanlariYukle() {
@@ -113,12 +135,13 @@ std::unique_ptr<Belge> BelgeEkrani::BelgeYap() {
   const auto bak = [this](MevzuatAyi ay) { return parametreler_.MevzuataBak(Oturumu(), ay); };
   const auto soz = Koru([&] { return BelgeMevzuatSozu(tanim_, *secim, Oturumu().depo.db.IcMotor(), bak); });
   if (!Oldu(soz)) return nullptr;
+  const auto ayrica = Koru([&] { return tanim_.soz == nullptr ? "" : tanim_.soz(Kaynak(), *secim); });
+  if (!Oldu(ayrica)) return nullptr;
   auto belge = UzunIs(Baglam(), QStringLiteral("Liste hazırlanıyor…"), [&](Ilerleme& ilerleme) {
     return Koru([&] { return belvani::BelgeYap(tanim_, *secim, Kaynak(&ilerleme)); });
   });
   if (!belge || !Oldu(*belge)) return nullptr;
-  const std::string eksikler = (**belge)->Eksikler();
-  BelgeSozu(*soz + (soz->empty() || eksikler.empty() ? "" : "\n\n") + eksikler);
+  BelgeSozu(Birlestir({*soz, *ayrica, (**belge)->Eksikler()}));
   return std::move(**belge);
 }
 

@@ -7,6 +7,8 @@
 // Choices that outlive a run are read when it opens and written when it closes.
 #pragma once
 
+#include <set>
+
 #include "documents/belgetanimi.h"
 #include "payroll/hazirlik/parametredeposu.h"
 #include "ui/form.h"
@@ -41,6 +43,7 @@ class BelgeEkrani : public Form {
   void hideEvent(QHideEvent* olay) override;
 
  private:
+  void GirisiSec();
   void AlanlariYukle();
   void AlanlariOku();
   void RehberleriBagla();

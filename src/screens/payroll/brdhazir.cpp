@@ -339,7 +339,8 @@ void brdhazir::BordroNoDoldur() {
 }
 
 void brdhazir::TopluHazirla() {
-  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan) || !YazilanBirakilir() || !giris_.MevzuatUygun())
+  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan) || !YazilanBirakilir() || !giris_.MevzuatUygun() ||
+      !giris_.MahsupSilinsinMi())
     return;
   const auto sonuc = UzunIs(Baglam(), QStringLiteral("Bordro hazırlanıyor…"),
                             [this](Ilerleme& ilerleme) { return giris_.SablondanHazirla(&ilerleme); });

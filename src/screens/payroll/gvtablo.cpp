@@ -1,10 +1,15 @@
 #include "screens/payroll/gvtablo.h"
 
 #include "payroll/parametre/ekrankurallari.h"
+#include "payroll/parametre/mevzuat.h"
 #include "screens/payroll/parametrealani.h"
 
 namespace belvani {
 namespace {
+
+struct TabloYili {
+  std::int16_t yil = 0;
+};
 
 std::vector<SatirKolonu<VergiDilimi>> Kolonlar(int paraonda) {
   constexpr auto oran = UyeTanimi<&GvTablosu::GvOran>();
@@ -36,7 +41,10 @@ gvtablo::gvtablo(EkranBaglami& baglam, ParametreDeposu& parametreler, Tur tur)
       tur_(tur),
       ozel_(OzelGvYukle(baglam.oturum.DataPath).deger) {
   Liste().HucreDegisti = [this](int, const QString&) { AltSinirlariGoster(); };
-  if (tur_ == Tur::GelirVergisi) IndirDugmesi(ParametreDosyasi::Gv, [this] { ListeyiGoster(); });
+  if (tur_ == Tur::GelirVergisi)
+    IndirDugmesi(ParametreDosyasi::Gv, [this] { ListeyiGoster(); });
+  else
+    YayimlananDugmesi();
   Ac(
       8, [this] { return Dilimler(); }, [this](const auto& satirlar) { return Sakla(Tablo(satirlar)); });
 }
@@ -54,6 +62,25 @@ bool gvtablo::Sakla(const GvTablosu& tablo) {
   if (!YasalYazildi(OzelGvKaydet(Oturumu().DataPath, tablo))) return false;
   ozel_ = tablo;
   return true;
+}
+
+// The shipped table of the year whose expenses are declared.
+void gvtablo::YayimlananDugmesi() {
+  AlanlariDiz(
+      {{{"Yayımlanan Tablo",
+         {{Uye("yil", &TabloYili::yil), "Yıl", {.enAz = 1990, .enCok = 2100, .harf = 6, .kayitDisi = true}}}}}});
+  Yukle(TabloYili{Oturumu().firma.firmayil});
+  Komutlar({{.dugme = "Yayımlanan Tabloyu Al", .simge = "indir", .islev = [this] { YayimlananiAl(); }}});
+}
+
+void gvtablo::YayimlananiAl() {
+  TabloYili secilen;
+  if (!Oku(secilen)) return;
+  const auto tablo = OzelGvMevzuati(MevzuatDizini(), secilen.yil, DefterLirasi(Oturumu(), secilen.yil));
+  if (!tablo) return Bildir(KuralKusuru(tablo.KusurMetni()));
+  const std::string soru = std::to_string(secilen.yil) + " yılının tablosu buradakinin yerine yazılsın mı ?";
+  const bool sorulur = Tablo(Okunan()) != GvTablosu() && Tablo(Okunan()) != *tablo;
+  if ((!sorulur || Bildirimi().Soru(soru)) && Sakla(*tablo)) ListeyiGoster();
 }
 
 // The bound of a row follows the limit typed above it.

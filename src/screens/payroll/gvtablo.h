@@ -23,6 +23,8 @@ class gvtablo : public ListeEkrani<VergiDilimi> {
   std::vector<VergiDilimi> Dilimler() const;
   bool Sakla(const GvTablosu& tablo);
   void AltSinirlariGoster();
+  void YayimlananDugmesi();
+  void YayimlananiAl();
 
   Tur tur_;
   GvTablosu ozel_;  // no part of the session's parameters

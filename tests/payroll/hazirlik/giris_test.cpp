@@ -9,6 +9,7 @@
 
 #include "core/csv.h"
 #include "core/tables/uye.h"
+#include "payroll/hazirlik/mahsupkaybi.h"
 #include "sirket.h"
 
 namespace belvani {
@@ -484,6 +485,37 @@ TEST(BordroGirisi, DeletesAndDoublesNothing) {
                                            "Soru: Bordro Tamamen Silinecek Eminmisiniz ?\nŞubat 2009, 1 kişi",
                                            "Bilgi: Bordro Tamamen Silindi"));
   EXPECT_TRUE(e.Kayitlar(2009, 2).empty());
+}
+
+// Until 2007 the payment of a refund is typed into the saved record: who would take it away is told first.
+TEST(BordroGirisi, TypedPaymentsOfTheRefundAreToldBeforeTheyGo) {
+  for (const auto& [yil, sorulur] : {std::pair(2005, true), {2008, false}}) {
+    Ekran e;
+    e.Kisi("A1", 1000);
+    ASSERT_TRUE(e.Hazirla(yil, 3).sorunlar.empty());
+    e.motor().Calistir("update brd set ogv = 123400");
+    e.Ac(yil, 3);
+    e.bildirim.Al();
+    ASSERT_EQ(e.giris.KodAl("A1"), KodSonucu::Yuklendi);
+    EXPECT_EQ(e.giris.KisiUyarisi().starts_with("Kayıttaki özel gider indirimi ödemesi (12.34)"), sorulur);
+    e.bildirim.Al();
+    e.bildirim.cevap = false;
+    EXPECT_EQ(e.giris.MahsupSilinsinMi(), !sorulur);
+    EXPECT_EQ(e.bildirim.Al().size(), sorulur ? 1u : 0u);
+    e.giris.AlanaGirildi(BordroAlani::NormalGun);
+    e.giris.Kapat();
+    const test::Iletiler sorulan = e.bildirim.Al();
+    ASSERT_FALSE(sorulan.empty());
+    EXPECT_EQ(sorulan[0].find("elle yazılmış") != std::string::npos, sorulur) << sorulan[0];
+    EXPECT_EQ(e.Kayitlar(yil, 3)[0].ogv, Tutar(12.34)) << "the answer was no";
+    const auto sonuc = e.Hazirla(yil, 3);
+    EXPECT_EQ(sonuc.sorunlar.size(), sorulur ? 1u : 0u);
+    if (sorulur) {
+      EXPECT_EQ(sonuc.sorunlar[0].derece, Derece::Uyari);
+      EXPECT_EQ(e.Kayitlar(yil, 3)[0].ogv, Tutar());
+    }
+    EXPECT_FALSE(AyinMahsupKaybi(e.motor(), yil, 4, 2));
+  }
 }
 
 }  // namespace
