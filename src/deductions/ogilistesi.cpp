@@ -3,6 +3,7 @@
 #include "core/yuvarlama.h"
 #include "documents/listebelgesi.h"
 #include "isyeri/isyerinumarasi.h"
+#include "payroll/hesap/agi.h"
 #include "payroll/hesap/ozelgider.h"
 #include "payroll/parametre/dosyalar.h"
 #include "printing/kolonlar.h"
@@ -13,7 +14,6 @@ namespace {
 using enum KolonNiteligi;
 
 constexpr int AdEni = 24, TutarEni = 12, AyEni = 10;
-constexpr int AgiIlkYili = 2008;
 constexpr int YilinAySayisi = 12;
 constexpr const char* AgiNotu =
     "2008'den beri bordrodaki ogv tutarı asgari geçim indirimidir, özel gider indirimi ödemesi değildir.";

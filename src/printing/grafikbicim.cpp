@@ -33,11 +33,9 @@ double SayiEni(const Rapor& rapor, std::size_t k, int gruplama, const YaziBicimi
   return MetinEni(std::string_view(metin).substr(metin.size() - harf), yazi);
 }
 
-// The labels of the sums, which stand in the first text column.
+// The labels of the sums, in their column.
 double EtiketEni(const Rapor& rapor, std::size_t k, const YaziBicimi& yazi) {
-  const auto& kolonlar = rapor.Kolonlar();
-  const auto ilk = std::find_if(kolonlar.begin(), kolonlar.end(), [](auto& o) { return o.tur == KolonTuru::Metin; });
-  if (ilk != kolonlar.begin() + std::ptrdiff_t(k)) return 0;
+  if (rapor.EtiketKolonu() != k) return 0;
   return std::max(MetinEni(rapor.toplamEtiketi, yazi), MetinEni(rapor.sayfaToplamEtiketi, yazi));
 }
 

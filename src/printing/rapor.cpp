@@ -119,9 +119,20 @@ std::vector<Hucre> Rapor::SayfaToplami(std::size_t ilk, std::size_t son) const {
 }
 
 std::vector<Hucre> Rapor::Etiketli(std::vector<Hucre> toplamlar, const std::string& etiket) const {
-  const auto metin = std::ranges::find(kolonlar_, KolonTuru::Metin, &RaporKolonu::tur);
-  if (!etiket.empty() && metin != kolonlar_.end()) toplamlar[std::size_t(metin - kolonlar_.begin())] = etiket;
+  if (const auto kolon = EtiketKolonu(); kolon && !etiket.empty()) toplamlar[*kolon] = etiket;
   return toplamlar;
+}
+
+std::optional<std::size_t> Rapor::EtiketKolonu() const {
+  const int harf = EtiketHarfi();
+  const auto metinli = [](const RaporKolonu& k) { return k.tur == KolonTuru::Metin; };
+  auto yer = std::ranges::find_if(kolonlar_, [&](const RaporKolonu& k) { return metinli(k) && k.en >= harf; });
+  if (yer == kolonlar_.end()) yer = std::ranges::find_if(kolonlar_, metinli);
+  return yer == kolonlar_.end() ? std::nullopt : std::optional(std::size_t(yer - kolonlar_.begin()));
+}
+
+int Rapor::EtiketHarfi() const {
+  return int(std::max(HarfSayisi(toplamEtiketi), HarfSayisi(sayfaToplamEtiketi)));
 }
 
 Rapor Rapor::Sirali(std::span<const int> sira) const {
@@ -142,7 +153,8 @@ bool Rapor::ToplamVar() const {
 int Rapor::GerekliEn(std::size_t kolon, int gruplama) const {
   const RaporKolonu& k = kolonlar_[kolon];
   const Sinir& sinir = sinirlar_[kolon];
-  if (!k.Sayisal()) return std::max(int(sinir.harf), TarihHarfi(k.tur));
+  const bool etiketli = !satirlar_.empty() && EtiketKolonu() == kolon;
+  if (!k.Sayisal()) return std::max({int(sinir.harf), TarihHarfi(k.tur), etiketli ? EtiketHarfi() : 0});
   const auto en = [&](std::int64_t ham) { return HarfSayisi(HucreMetni(Hamdan(ham, k.tur), k, gruplama)); };
   return int(std::max(en(sinir.enKucuk), en(sinir.enBuyuk)));
 }

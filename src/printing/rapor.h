@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <variant>
@@ -91,9 +92,10 @@ class Rapor {
  public:
   explicit Rapor(std::vector<RaporKolonu> kolonlar);
 
-  std::string baslik;         // on paper
-  std::string ekranBasligi;   // on the screen and in a spreadsheet
-  std::string toplamEtiketi;  // in the first text column of the sums; "" where sums have no label
+  std::string baslik;        // on paper
+  std::string ekranBasligi;  // on the screen and in a spreadsheet
+  // In the first text column of the sums that is declared wide enough for it; "" where sums have no label.
+  std::string toplamEtiketi;
   // The same of the sums of a page's own rows, which a paper of several pages has with such a label: at the foot of
   // each page, and on the last one above the sums of all. Without it each page shows the sums so far.
   std::string sayfaToplamEtiketi;
@@ -113,9 +115,10 @@ class Rapor {
   // Of the rows from `ilk` on to the one before `son`, as a page has them.
   std::vector<Hucre> SayfaToplami(std::size_t ilk, std::size_t son) const;
   bool ToplamVar() const;
+  std::optional<std::size_t> EtiketKolonu() const;  // in which the labels of the sums stand
 
-  // The most letters that a column needs for its cells and sums, numbers in groups of `gruplama` digits. The label of
-  // the sums is not among them.
+  // The most letters that a column needs for its cells, its sums and their label, numbers in groups of `gruplama`
+  // digits.
   int GerekliEn(std::size_t kolon, int gruplama) const;
 
   // The same with its rows in another order: `sira` names each of them once. Where pages start stays.
@@ -123,6 +126,7 @@ class Rapor {
 
  private:
   std::vector<Hucre> Etiketli(std::vector<Hucre> toplamlar, const std::string& etiket) const;
+  int EtiketHarfi() const;
 
   // The widest of a column: of texts by letters, of numbers one of the two ends.
   struct Sinir {

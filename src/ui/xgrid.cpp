@@ -46,9 +46,12 @@ double HarfEni(const QFontMetricsF& olcu) {
 
 }  // namespace
 
-xgrid::xgrid(QWidget* ust) : QTableView(ust), model_(new xgridModel(this)), toplamOrnegi_(new QLabel(this)) {
+xgrid::xgrid(QWidget* ust)
+    : QTableView(ust), model_(new xgridModel(this)), toplamOrnegi_(new QLabel(this)), eksiOrnegi_(new QLabel(this)) {
   toplamOrnegi_->setProperty("toplam", true);
   toplamOrnegi_->hide();
+  eksiOrnegi_->setProperty("hata", true);
+  eksiOrnegi_->hide();
   setModel(model_);
   setAlternatingRowColors(true);
   setSelectionBehavior(SelectRows);
@@ -107,10 +110,12 @@ void xgrid::StileUydur() {
     setColumnWidth(k, int(std::max(EnCokHarf(model_->Belgesi(), k) * harfEni + HucrePayi * dpi, baslikEni)));
   }
   BloguYerlestir();
-  toplamOrnegi_->ensurePolished();
-  const QPalette renkler = toplamOrnegi_->palette();
-  model_->ToplamRenkleri(renkler.color(toplamOrnegi_->backgroundRole()),
-                         renkler.color(toplamOrnegi_->foregroundRole()));
+  const auto renkler = [](QLabel& ornek) {
+    ornek.ensurePolished();
+    return std::pair(ornek.palette().color(ornek.backgroundRole()), ornek.palette().color(ornek.foregroundRole()));
+  };
+  std::apply([this](auto... renk) { model_->ToplamRenkleri(renk...); }, renkler(*toplamOrnegi_));
+  std::apply([this](auto... renk) { model_->EksiRenkleri(renk...); }, renkler(*eksiOrnegi_));
 }
 
 // Labels over as many columns as the longest needs, values over as many of the next ones.

@@ -165,6 +165,7 @@ class xgrid : public QTableView {
 
   xgridModel* model_;
   QLabel* toplamOrnegi_;                        // never shown: what the style gives to sums
+  QLabel* eksiOrnegi_;                          // and to warnings, for amounts below zero
   std::optional<Dolgu> dolgu_;                  // nothing when the report came as a whole
   mutable std::shared_ptr<const Rapor> rapor_;  // null while the filling is ahead of it
   bool dolduruluyor_ = true;                    // between the first change and Refresh, on the row and column below

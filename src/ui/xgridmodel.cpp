@@ -115,6 +115,18 @@ void xgridModel::ToplamRenkleri(const QColor& arka, const QColor& yazi) {
   toplamYazi_ = yazi;
 }
 
+void xgridModel::EksiRenkleri(const QColor& arka, const QColor& yazi) {
+  eksiArka_ = arka;
+  eksiYazi_ = yazi;
+}
+
+bool xgridModel::Eksi(int sira, int kolon) const {
+  if (Turu(sira) != SatirTuru::Kayit) return false;
+  const Hucre& hucre = rapor_->Satirlar()[std::size_t(Kayit(sira))].hucreler[std::size_t(kolon)];
+  const auto* tutar = std::get_if<Tutar>(&hucre);
+  return tutar != nullptr && *tutar < Tutar();
+}
+
 QString xgridModel::Metin(int sira, int kolon) const {
   const auto k = std::size_t(kolon);
   switch (Turu(sira)) {
@@ -142,6 +154,8 @@ Qt::Alignment xgridModel::Hiza(int sira, int kolon) const {
 QVariant xgridModel::data(const QModelIndex& yer, int rol) const {
   if (rol == Qt::DisplayRole) return Metin(yer.row(), yer.column());
   if (rol == Qt::TextAlignmentRole) return int(Hiza(yer.row(), yer.column()));
+  if ((rol == Qt::BackgroundRole || rol == Qt::ForegroundRole) && Eksi(yer.row(), yer.column()))
+    return rol == Qt::BackgroundRole ? eksiArka_ : eksiYazi_;
   if (Turu(yer.row()) != SatirTuru::Toplam) return {};
   if (rol == Qt::BackgroundRole) return toplamArka_;
   if (rol == Qt::ForegroundRole) return toplamYazi_;

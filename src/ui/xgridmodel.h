@@ -57,6 +57,8 @@ class xgridModel : public QAbstractTableModel {
 
   // Of the row of sums.
   void ToplamRenkleri(const QColor& arka, const QColor& yazi);
+  // Of an amount below zero.
+  void EksiRenkleri(const QColor& arka, const QColor& yazi);
 
   QString Metin(int sira, int kolon) const;
   QString Baslik(int kolon) const { return basliklar_[kolon]; }
@@ -71,6 +73,7 @@ class xgridModel : public QAbstractTableModel {
   int KayitAdedi() const { return SayfaSayisi() == 0 ? 0 : SayfaninSonu(sayfa_) - SayfaninIlki(sayfa_); }
   int ToplamSatiri() const;
   Qt::Alignment Hiza(int sira, int kolon) const;
+  bool Eksi(int sira, int kolon) const;
 
   std::shared_ptr<const Rapor> rapor_ = std::make_shared<Rapor>(std::vector<RaporKolonu>());
   QStringList basliklar_;
@@ -82,6 +85,7 @@ class xgridModel : public QAbstractTableModel {
   Qt::SortOrder siraYonu_ = Qt::AscendingOrder;
   int blokKolonu_ = 1;
   QColor toplamArka_, toplamYazi_;
+  QColor eksiArka_, eksiYazi_;
 };
 
 }  // namespace belvani

@@ -5,6 +5,7 @@
 
 #include "altin/kayit.h"
 #include "altin/komutkagitlari.h"
+#include "altin/ogikagitlari.h"
 #include "altin/yerlesimkagitlari.h"
 
 namespace belvani::test {
@@ -14,8 +15,8 @@ namespace {
 const Kagitlar& ButunKagitlar() {
   static const Kagitlar hepsi = [] {
     Kagitlar kagitlar;
-    for (const Kagitlar& grup :
-         {KomutKagitlari(), CizilenListeler(), BildirgeKagitlari(), KisiKagitlari(), YerlesimKagitlari()})
+    for (const Kagitlar& grup : {KomutKagitlari(), CizilenListeler(), BildirgeKagitlari(), KisiKagitlari(),
+                                 OgiKagitlari(), YerlesimKagitlari()})
       kagitlar.insert(kagitlar.end(), grup.begin(), grup.end());
     std::ranges::stable_sort(kagitlar, {}, [](const Kagit& k) { return k.ay.Metin(); });
     return kagitlar;

@@ -181,6 +181,7 @@ class Ornek {
   Ornek() {
     const std::string ornek = KaynakYolu("data/ornek/");
     Dosya("ucret.csv", "kod,ucret\n001,1234.5\n002,2345.6\n");
+    Dosya("harcama.csv", "kod,harcama,gvmatrah\n001,1500,12000\n002,9000,8000\n");
     Dosya("zam.csv", "kod,ucret\n001,3456.7\n");
     Dosya("firma.csv", "unvan,issaati\nBaşka Ünvan,7.5\n");
     Dosya("devir.csv", "kod,yil,gvmatrah\n001,2008,1000\n002,2009,2000\n");
@@ -195,6 +196,7 @@ class Ornek {
     Komut("muhasebe-ac $.muhasebe");
     Komut("aile-al ORNEK " + ornek + "aile.csv");
     Komut("parametre-kur --donem 2009-11");
+    Komut("parametre-kur --donem 2006-12 --ozel-gider");
     Komut("yedekle ORNEK -o " + dosyalar_.Yol() + "yedek.zip");
     for (const char* ucret : {"ucret.csv", "zam.csv"}) {
       Komut("personel-al ORNEK " + dosyalar_.Yol() + ucret);
@@ -346,6 +348,8 @@ const std::vector<YazanKomut>& YazanKomutlar() {
       {"sirket_sil", "sirket-sil ORNEK --onay", "sirketler"},
       {"paylas", "paylas ORNEK", defter + "11"},
       {"parametre_kur", "parametre-kur --donem 2008-07", "parametre"},
+      {"ozel_gider_kur", "parametre-kur --donem 2005-12 --ozel-gider", "parametre"},
+      {"ogi_harcama", "ogi-harcama ORNEK @harcama.csv --yil 2006", "ogi-kalan ORNEK --yil 2007 --bicim csv", true},
       {"tanim_al", "tanim-al ORNEK firma @firma.csv", "sirketler"},
       {"personel_al", "personel-al ORNEK @ucret.csv", "denetle ORNEK"},
       {"ucret_al", "ucret-al ORNEK @ucret.csv", "denetle ORNEK"},

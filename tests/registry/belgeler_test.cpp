@@ -175,13 +175,37 @@ TEST(KayitliBelgeler, NamesOfFiles) {
   }
 }
 
+// An entry of the menu makes the screen's paper another one, with a title of its own.
+TEST(KayitliBelgeler, EveryEntryHasItsProduct) {
+  Belgelik belgelik;
+  std::set<std::string> basliklar;
+  int girisler = 0;
+  for (const BelgeTanimi& tanim : Belgeler()) {
+    const auto baslik = [&](const std::function<void(BelgeSecimi&)>& sec) {
+      const auto secim = tanim.secim();
+      secim->Bul<DefterSecim>()->yil = test::Yil;
+      secim->Bul<DefterSecim>()->ay = test::Ay;
+      sec(*secim);
+      return secim->BelgeYap(belgelik.kaynak)->Baslik();
+    };
+    EXPECT_TRUE(basliklar.insert(baslik([](BelgeSecimi&) {})).second) << tanim.ekran;
+    for (const BelgeGirisi& giris : tanim.girisler) {
+      EXPECT_TRUE(basliklar.insert(baslik(giris.sec)).second) << giris.ad;
+      ++girisler;
+    }
+  }
+  EXPECT_GE(girisler, 2);
+}
+
 // What is entered in a field comes back out of it, and choices begin with values that a field can show.
 TEST(KayitliBelgeler, FieldsWriteIntoTheChoices) {
   for (const BelgeTanimi& tanim : Belgeler()) {
     SCOPED_TRACE(tanim.ekran);
     const auto secim = tanim.secim();
     std::set<std::string_view> adlar;
-    for (const auto& sutun : tanim.alanlar)
+    AlanSutunlari hepsi = tanim.alanlar;
+    hepsi.push_back({{"command line", tanim.komutAlanlari}});
+    for (const auto& sutun : hepsi)
       for (const AlanGrubu& grup : sutun)
         for (const Alan& alan : grup.alanlar) {
           SCOPED_TRACE(alan.tanim.ad);

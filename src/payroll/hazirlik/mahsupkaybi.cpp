@@ -3,13 +3,9 @@
 #include "core/sayi.h"
 #include "core/store/satirlar.h"
 #include "core/tarih.h"
+#include "payroll/hesap/agi.h"
 
 namespace belvani {
-namespace {
-
-constexpr int AgiIlkYili = 2008;
-
-}  // namespace
 
 std::string MahsupKaybi(const Brd& kayitli, const Brd& yeni, int paraonda) {
   if (kayitli.yil >= AgiIlkYili || kayitli.ogv == Tutar() || yeni.ogv == kayitli.ogv) return {};

@@ -10,6 +10,7 @@
 #include "core/tables/kodtasiyanlar.h"
 #include "core/tables/tablolar.h"
 #include "core/turkce.h"
+#include "payroll/hesap/agi.h"
 #include "payroll/hesap/oranlitutar.h"
 #include "payroll/hesap/satirlar.h"
 #include "payroll/parametre/mevzuat.h"
@@ -62,7 +63,7 @@ std::string Tutmayan(const Brd& b) {
   for (const auto& kolon : YardimKolonlari) yardim += b.*kolon.uye;
   if (b.topyardim != yardim) return "yardımlar toplamı";
   if (b.yuvarlama != b.sendika + b.borckes) return "özel kesintiler toplamı";
-  if (b.ogv > b.gvtutar) return "asgari geçim indirimi";
+  if (b.yil >= AgiIlkYili && b.ogv > b.gvtutar) return "asgari geçim indirimi";
   if (KesintisizKayit(b)) return {};
   for (const OranliTutar& t : IscininTutarlari)
     if (t.Farki(b) > EnCokFark) return t.ad;
@@ -82,7 +83,7 @@ std::string BaskaMevzuat(const Brd& b, const YasalParametreler& y) {
   if (b.sskmatrah > y.oranlar.SskTavan) return "SSK tavanı";
   if (!dalda(b.sskiscior, OranToplami)) return "SSK işçi oranı";
   if (!dalda(b.issiziscior, [](const OranSatiri& dal) { return dal.isz.Sayi(); })) return "işsizlik işçi oranı";
-  if (b.ogv != Tutar() && b.agimatrah != y.agi.AgiTaban) return "asgari geçim indirimi tabanı";
+  if (b.yil >= AgiIlkYili && b.ogv != Tutar() && b.agimatrah != y.agi.AgiTaban) return "asgari geçim indirimi tabanı";
   return {};
 }
 

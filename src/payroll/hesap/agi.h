@@ -12,6 +12,10 @@
 
 namespace belvani {
 
+// The first year of the allowance. Until then `ogv` of a pay record is a payment of the special-expense refund, typed
+// in.
+constexpr int AgiIlkYili = 2008;
+
 // Relatives as the rules count them.
 struct Aile {
   int agiEs = 0;     // spouses counted for the allowance

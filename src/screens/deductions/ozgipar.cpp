@@ -24,10 +24,11 @@ ozgipar::ozgipar(EkranBaglami& baglam, ParametreDeposu& parametreler)
   AlanlariDiz({Gruplar()});
   YaziEkle(QStringLiteral("İade, başlangıç ayından sonraki altı ayda ödenir. Damga vergisi binde, indirim yüzde olarak "
                           "yazılır."),
-           "soluk");
+           "soluk")
+      ->setWordWrap(true);
   const auto yukleme = OgiParametreleriYukle(Oturumu());
   kayitli_ = yukleme.deger;
-  for (const std::string& uyari : yukleme.uyarilar) YaziEkle(Yazi(uyari), "hata");
+  for (const std::string& uyari : yukleme.uyarilar) YaziEkle(Yazi(uyari), "hata")->setWordWrap(true);
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
   Goster(kayitli_);
 }

@@ -70,6 +70,7 @@ void gvtablo::YayimlananDugmesi() {
       {{{"Yayımlanan Tablo",
          {{Uye("yil", &TabloYili::yil), "Yıl", {.enAz = 1990, .enCok = 2100, .harf = 6, .kayitDisi = true}}}}}});
   Yukle(TabloYili{Oturumu().firma.firmayil});
+  IlkOdak(&Liste());
   Komutlar({{.dugme = "Yayımlanan Tabloyu Al", .simge = "indir", .islev = [this] { YayimlananiAl(); }}});
 }
 
