@@ -33,17 +33,21 @@ struct SatirKolonu {
   double enCok = 0;
   int ondalik = 0;
   std::span<const std::string_view> liste = {};
+  int grup = 3;
 };
 
 struct KolonEki {
   double enCok = 0;  // largest number, longest text
   int ondalik = 2;
+  int grup = 3;                                  // digits of a group; 0: none, as in a year
   std::span<const std::string_view> liste = {};  // choices of a whole number
 };
 
 // A number as a cell shows it.
-inline std::string SayiHucresi(double sayi, int ondalik) {
-  return sayi == 0 ? std::string() : TutarMetni(Tutar(sayi), ondalik);
+inline std::string SayiHucresi(double sayi, int ondalik, int grup = 3) {
+  std::string metin = sayi == 0 ? std::string() : TutarMetni(Tutar(sayi), ondalik);
+  if (grup == 0) std::erase(metin, ',');
+  return metin;
 }
 
 // A column of a member: a pointer to it, or a function of the row that gives a reference to it.
@@ -58,9 +62,9 @@ SatirKolonu<Satir> UyeKolonuYap(const char* ad, const char* baslik, int genislik
     else if constexpr (std::is_same_v<U, Tarih>)
       return deger.Metin();
     else if constexpr (!tam)
-      return SayiHucresi(deger.Sayi(), ek.ondalik);
+      return SayiHucresi(deger.Sayi(), ek.ondalik, ek.grup);
     else if (ek.liste.empty())
-      return SayiHucresi(double(deger), 0);
+      return SayiHucresi(double(deger), 0, ek.grup);
     else
       return std::size_t(deger) < ek.liste.size() ? std::string(ek.liste[std::size_t(deger)]) : std::to_string(deger);
   };
@@ -78,7 +82,7 @@ SatirKolonu<Satir> UyeKolonuYap(const char* ad, const char* baslik, int genislik
       hedef = U(yer - ek.liste.begin());
   };
   const char tip = std::is_same_v<U, std::string> ? 'a' : std::is_same_v<U, Tarih> ? 't' : ek.liste.empty() ? 'n' : 's';
-  return {tip, ad, baslik, genislik, metin, al, ek.enCok, tam ? 0 : ek.ondalik, ek.liste};
+  return {tip, ad, baslik, genislik, metin, al, ek.enCok, tam ? 0 : ek.ondalik, ek.liste, ek.grup};
 }
 
 template <class Satir, class U>
@@ -105,7 +109,7 @@ class SatirTablosu {
   SatirTablosu(dclist& liste, std::vector<SatirKolonu<Satir>> kolonlar)
       : liste_(liste), kolonlar_(std::move(kolonlar)) {
     for (const auto& k : kolonlar_) {
-      liste_.CreateNewCaption(k.tip, k.ad, k.baslik, k.genislik, k.enCok, k.ondalik);
+      liste_.CreateNewCaption(k.tip, k.ad, k.baslik, k.genislik, k.enCok, k.ondalik, k.grup);
       QStringList secenekler;
       for (const std::string_view secenek : k.liste) secenekler += Yazi(secenek);
       if (!secenekler.isEmpty()) liste_.SecenekKoy(k.ad, secenekler);

@@ -1,43 +1,11 @@
 #include "screens/personnel/escofrm.h"
 
-#include <QKeyEvent>
-
 #include "core/tckimlik.h"
 #include "personnel/aile.h"
 #include "personnel/kart.h"
-#include "ui/cakisma.h"
-#include "ui/metin.h"
-#include "ui/xtext.h"
 
 namespace belvani {
 namespace {
-
-struct KodluKolon {
-  const char* ad;
-  Liste secenekler;
-  std::uint8_t Esco::*uye;
-};
-
-const std::array<KodluKolon, 3> KodluKolonlar{{{"yakinlik", Yakinliklar, &Esco::yakinlik},
-                                               {"cins", KodluCinsiyetler, &Esco::cins},
-                                               {"agi", AgiDurumlari, &Esco::agiok}}};
-
-struct MetinKolonu {
-  const char* ad;
-  std::string Esco::*uye;
-};
-
-constexpr MetinKolonu MetinKolonlari[] = {{"tckimlik", &Esco::tcno},
-                                          {"adi", &Esco::adi},
-                                          {"soyadi", &Esco::soyadi},
-                                          {"dogyer", &Esco::dogyer},
-                                          {"adr", &Esco::adr}};
-
-QStringList Secenekler(Liste liste) {
-  QStringList metinler;
-  for (const std::string_view secenek : liste) metinler += Yazi(secenek);
-  return metinler;
-}
 
 std::string AileDili(std::string_view alan, const Deger& deger) {
   for (const auto& [kolon, liste] :
@@ -47,144 +15,69 @@ std::string AileDili(std::string_view alan, const Deger& deger) {
   return MetinDegeri(deger);
 }
 
+// A cell shows the choice with its number and stores the number. One that was never opened is empty and stores 0:
+// nobody becomes the spouse by his name alone.
+SatirKolonu<Esco> KodluKolon(const Kolon<Esco, std::uint8_t>& kolon, int genislik, Liste secenekler) {
+  const auto metin = [=](const Esco& esco, std::size_t) {
+    const std::uint8_t kod = esco.*kolon.uye;
+    const bool secilmemis = kod == 0 && KodSayisi(secenekler.front()) != 0;
+    return secilmemis ? std::string() : std::string(KodluMetin(secenekler, kod));
+  };
+  const auto al = [=](Esco& esco, const std::string& hucre) { esco.*kolon.uye = KodSayisi(hucre); };
+  const char* etiket = AlanEtiketi(Esco::TabloAdi, kolon.ad).data();
+  return {'s', kolon.ad.data(), etiket, genislik, metin, al, 0, 0, secenekler};
+}
+
+std::vector<SatirKolonu<Esco>> Kolonlar() {
+  std::vector<SatirKolonu<Esco>> kolonlar{EtiketliKolon(esco::tcno, 110),
+                                          EtiketliKolon(esco::adi, 120),
+                                          EtiketliKolon(esco::soyadi, 120),
+                                          KodluKolon(esco::yakinlik, 100, Yakinliklar),
+                                          KodluKolon(esco::cins, 90, KodluCinsiyetler),
+                                          EtiketliKolon(esco::dogtar, 100),
+                                          EtiketliKolon(esco::dogyer, 120),
+                                          EtiketliKolon(esco::adr, 230),
+                                          KodluKolon(esco::agiok, 90, AgiDurumlari)};
+  kolonlar.front().ad = "tckimlik";
+  kolonlar.back().ad = "agi";
+  return kolonlar;
+}
+
 }  // namespace
 
 escofrm::escofrm(EkranBaglami& baglam)
-    : PersonelFormu(baglam, "escofrm", QStringLiteral("Eş ve Çocuk Bilgileri")),
-      liste_(new dclist(baglam.bildirim, this)) {
+    : KisiSatirlari(baglam, "escofrm", QStringLiteral("Eş ve Çocuk Bilgileri"), Kolonlar()) {
   AlanlariDiz({{{"Personel", {EtiketliAlan(esco::kod, {.anahtar = true}), AdSoyAlani()}, 2}}});
-  ListeyiKur();
-  Govde()->addWidget(liste_, 1);
-  YaziEkle(QStringLiteral(
-               "Listede: Enter düzeltir · Insert yeni satır ekler · Delete siler. Satırdan ayrılınca kaydedilir."),
-           "soluk");
-  setTabOrder(&YaziKutusu(esco::kod), liste_);
-  Komutlar({{.komut = FormKomutu::Kaydet, .islev = [this] { liste_->OkUpdateData(); }}});
-  PersonelKomutlari(esco::kod);
+  Liste().GenisKolon("adr");
+  Liste().TercihBoyu(1080, 300);
+  ListeyiAc(esco::kod);
 }
 
-void escofrm::ListeyiKur() {
-  const auto ekle = [this](char tip, const char* ad, auto kolon, int genislik) {
-    liste_->CreateNewCaption(tip, ad, Yazi(AlanEtiketi(Esco::TabloAdi, kolon.ad)), genislik, kolon.boyut);
-  };
-  ekle('a', "tckimlik", esco::tcno, 110);
-  ekle('a', "adi", esco::adi, 120);
-  ekle('a', "soyadi", esco::soyadi, 120);
-  ekle('s', "yakinlik", esco::yakinlik, 100);
-  ekle('s', "cins", esco::cins, 90);
-  ekle('t', "dogtar", esco::dogtar, 100);
-  ekle('a', "dogyer", esco::dogyer, 120);
-  ekle('a', "adr", esco::adr, 230);
-  ekle('s', "agi", esco::agiok, 90);
-  ekle('b', "oto", esco::oto, 0);
-  for (const KodluKolon& k : KodluKolonlar) liste_->SecenekKoy(k.ad, Secenekler(k.secenekler));
-  liste_->Gizle("oto");
-  liste_->GenisKolon("adr");
-  liste_->TercihBoyu(1080, 300);
-  liste_->SatirGuncelle = [this](int satir) { return SatirKaydet(satir); };
-  liste_->SatirSil = [this](int satir) { return SatirSil(satir); };
-  liste_->Tus = [this](const QKeyEvent& olay) { return ListeTusu(olay); };
+std::vector<Esco> escofrm::SatirlariOku(const std::string& kod) {
+  return AileOku(Oturumu(), kod);
 }
 
-// A row that was not taken must not be lost: the list then stays with its person.
-bool escofrm::KendiligindenKaydet() {
-  if (liste_->OkUpdateData()) return true;
-  liste_->setFocus();
-  return false;
+Yazim<Esco> escofrm::Yaz(const Okunan<Esco>& satir) {
+  if (!KartBul(Oturumu(), Kisi())) return {KuralKusuru("Bu Kodda Personel Yok: " + Kisi(), esco::kod)};
+  return AileKaydet(Oturumu(), satir);
 }
 
-bool escofrm::Bul(const std::string& kod) {
-  if (KendiligindenKaydet()) {
-    Goster(kod);
-    return true;
-  }
-  AnahtarKoy(kod_);
-  return false;
+Sonuc<Silme> escofrm::Sil(const Esco& satir) {
+  return AileSil(Oturumu(), satir.oto, Bildirimi());
 }
 
-void escofrm::Git(Yon yon) {
-  if (!KendiligindenKaydet()) return;
-  if (const auto kart = KartGit(Oturumu(), yon, kod_)) Goster(kart->kod);
+Esco escofrm::YeniKayit() const {
+  Esco yeni;
+  yeni.kod = Kisi();
+  return yeni;
 }
 
-void escofrm::Goster(const std::string& kod) {
-  kod_ = kod;
-  AnahtarKoy(kod);
-  AdiGoster(kod);
-  liste_->Model().TopluBasla();
-  liste_->Clear();
-  okunan_.clear();
-  for (const Esco& esco : AileOku(Oturumu(), kod)) SatiriGoster(liste_->Add(), esco);
-  liste_->Model().TopluBitir();
-  liste_->Editable(true);
-  liste_->ChngSat(0);
-  AlaniSec();
+void escofrm::Yazildi(const Okunan<Esco>&, const Esco& yazilan) {
+  if (const std::string uyari = TcUyarisi(yazilan.tcno); !uyari.empty()) Bildirimi().Uyari(uyari);
 }
 
-void escofrm::SatiriGoster(int satir, const Esco& esco) {
-  okunan_[esco.oto] = esco;
-  for (const MetinKolonu& k : MetinKolonlari) liste_->TextByName(satir, k.ad, Yazi(esco.*k.uye));
-  for (const KodluKolon& k : KodluKolonlar) {
-    const std::uint8_t kod = esco.*k.uye;
-    const bool secilmemis = kod == 0 && KodSayisi(k.secenekler.front()) != 0;
-    liste_->TextByName(satir, k.ad, secilmemis ? QString() : Yazi(KodluMetin(k.secenekler, kod)));
-  }
-  liste_->TextByName(satir, "dogtar", Yazi(esco.dogtar.Metin()));
-  liste_->TextByName(satir, "oto", QString::number(esco.oto));
-}
-
-// A coded cell that was never opened stores 0: nobody becomes the spouse by his name alone.
-Esco escofrm::SatirdanOku(int satir) const {
-  Esco esco;
-  esco.kod = kod_;
-  for (const MetinKolonu& k : MetinKolonlari) esco.*k.uye = Utf8(liste_->TextByName(satir, k.ad));
-  for (const KodluKolon& k : KodluKolonlar) {
-    const std::string hucre = Utf8(liste_->TextByName(satir, k.ad));
-    esco.*k.uye = hucre.empty() ? std::uint8_t() : KodSayisi(hucre);
-  }
-  esco.dogtar = Tarih::MetinOku(Utf8(liste_->TextByName(satir, "dogtar")));
-  esco.oto = liste_->TextByName(satir, "oto").toInt();
-  return esco;
-}
-
-bool escofrm::SatirKaydet(int satir) {
-  if (!KartBul(Oturumu(), kod_)) {
-    Bildir(KuralKusuru("Bu Kodda Personel Yok: " + kod_, esco::kod));
-    return false;
-  }
-  Okunan<Esco> kayit{.ilk = {}, .simdi = SatirdanOku(satir)};
-  if (const auto ilk = okunan_.find(kayit.simdi.oto); ilk != okunan_.end()) kayit.ilk = ilk->second;
-  const auto yazilan = SorarakKaydet(
-      Baglam(), *this, kayit, [this](const Okunan<Esco>& k) { return AileKaydet(Oturumu(), k); }, AileDili);
-  if (!yazilan) return false;
-  SatiriGoster(satir, *yazilan);
-  ZoomEfekt();
-  if (const std::string uyari = TcUyarisi(yazilan->tcno); !uyari.empty()) Bildirimi().Uyari(uyari);
-  return true;
-}
-
-bool escofrm::SatirSil(int satir) {
-  const int oto = liste_->TextByName(satir, "oto").toInt();
-  const bool hicKaydedilmedi = oto == 0;
-  if (hicKaydedilmedi)
-    return Bildirimi().SilinsinMi("Kayıt Silinecek ?", Utf8(liste_->TextByName(satir, "adi")),
-                                  SoruDugmeleri::TamamIptal);
-  const auto silme = AileSil(Oturumu(), oto, Bildirimi());
-  // What another user has deleted goes from the list too.
-  const bool yokmus = !silme && silme.Kusuru().derece == Derece::Bilgi;
-  return Silindi(silme) || yokmus;
-}
-
-// Keys of the screen that the list would keep for its own rows.
-bool escofrm::ListeTusu(const QKeyEvent& olay) {
-  const bool kisiTusu =
-      olay.key() == Qt::Key_PageUp || olay.key() == Qt::Key_PageDown || olay.key() == Qt::Key_F2 ||
-      olay.key() == Qt::Key_F5 ||
-      (olay.modifiers() == Qt::ControlModifier && (olay.key() == Qt::Key_Home || olay.key() == Qt::Key_End));
-  if (!kisiTusu) return false;
-  QKeyEvent ekrana(QEvent::KeyPress, olay.key(), olay.modifiers());
-  keyPressEvent(&ekrana);
-  return true;
+DegerDili escofrm::Dil() const {
+  return AileDili;
 }
 
 }  // namespace belvani
