@@ -8,12 +8,14 @@
 #include <memory>
 #include <vector>
 
+#include "core/store/satirlar.h"
 #include "defteruret.h"
 #include "documents/belgeler.h"
 #include "screens/declarations/yaylik.h"
 #include "screens/documents/brdicmal.h"
 #include "screens/payroll/brdhazir.h"
 #include "screens/payroll/brdhaziralanlar.h"
+#include "screens/payroll/percari.h"
 #include "ui/dclist.h"
 #include "ui/dialogyok.h"
 #include "ui/metin.h"
@@ -170,6 +172,37 @@ void AlandanCikis(benchmark::State& durum) {
   }
 }
 BENCHMARK(AlandanCikis)->Unit(benchmark::kMillisecond);
+
+// An account of 10,000 movements, from the code to the painted list.
+void HesapGelisi(benchmark::State& durum) {
+  const std::string kod = BuyukSirket::Kod(1);
+  {
+    Motor& motor = Sirket().sirket.o.depo.db.IcMotor();
+    Islem islem(motor);
+    motor.Calistir("delete from cari");
+    KayitYazici<Cari> yazici(motor);
+    Cari c;
+    c.kod = kod;
+    c.islem = 'B';
+    for (int i = 0; i < 10'000; ++i) {
+      c.tarih = Tarih(2009, 1, 1).Ekle(i * 7919 % 3000);
+      c.tutar = Tutar(i % 977 + 0.25);
+      yazici.Ekle(c);
+    }
+    islem.Onayla();
+  }
+  percari form(Sirket().ekran);
+  form.show();
+  QApplication::setActiveWindow(&form);
+  for (auto _ : durum) {
+    durum.PauseTiming();
+    form.KisiyeGit(BuyukSirket::Kod(2), {});
+    durum.ResumeTiming();
+    form.KisiyeGit(kod, {});
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(HesapGelisi)->Unit(benchmark::kMillisecond);
 
 // One key in the lookup window.
 void RehberTusu(benchmark::State& durum) {

@@ -19,12 +19,18 @@
 #include "screens/documents/belgeekrani.h"
 #include "screens/payroll/agifrm.h"
 #include "screens/payroll/brdhazir.h"
+#include "screens/payroll/devir.h"
+#include "screens/payroll/devkon.h"
 #include "screens/payroll/fazmes.h"
 #include "screens/payroll/gvtablo.h"
 #include "screens/payroll/heskod.h"
 #include "screens/payroll/indfrm.h"
 #include "screens/payroll/kanun.h"
+#include "screens/payroll/kartxfrm.h"
 #include "screens/payroll/kykm.h"
+#include "screens/payroll/otokes.h"
+#include "screens/payroll/percari.h"
+#include "screens/payroll/perdev.h"
 #include "screens/payroll/sabpu.h"
 #include "screens/payroll/sendtan.h"
 #include "screens/payroll/yrdisim.h"
@@ -70,8 +76,8 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Özlük", "Eş ve Çocuk Bilgileri", "escofrm", "aile", "", Yap<escofrm>},
       {"Özlük", "Personel Girişi", "pergir", "yeni", "", Yap<pergir>},
       {"Özlük", "Personel Çıkışı", "percik", "cikis", "", Yap<percik>},
-      {"Özlük", "Personel Devir Bilgileri", "perdev"},
-      {"Özlük", "Personel Aylık Bilgileri", "kartxfrm", "", "Kartotex Raporu"},
+      {"Özlük", "Personel Devir Bilgileri", "perdev", "takvim", "", Yap<perdev>},
+      {"Özlük", "Personel Aylık Bilgileri", "kartxfrm", "bordro", "Kartotex Raporu", Yap<kartxfrm>},
       {"Özlük", "Ücretler", "ucrfrm", "", "Ücretlendirme"},
 
       {"Bordro", "Bordro Hazırlık", "brdhazir", "bordro", "", Yap<brdhazir>},
@@ -100,8 +106,8 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Ek Moduller/Kıdem, İhbar Modülü", "İhbar Süreleri Tablosu", "ihbsure", "takvim", "", Yap<ihbsure>},
       {"Ek Moduller/Personel Cari", "Avans Kaydı", "avans"},
       {"Ek Moduller/Personel Cari", "Genel Borç Alacak", "borcalacak"},
-      {"Ek Moduller/Personel Cari", "Personel Cari", "percari"},
-      {"Ek Moduller/Personel Cari", "Otomatik Kesinti", "otokes"},
+      {"Ek Moduller/Personel Cari", "Personel Cari", "percari", "borc", "", Yap<percari>},
+      {"Ek Moduller/Personel Cari", "Otomatik Kesinti", "otokes", "borc", "", Yap<otokes>},
       {OgiMenusu, "ÖGİ Harcama Girişi", "ozgvharc", "duzelt", "", Yap<ozgvharc>},
       {OgiMenusu, "ÖGİ Çalışan Bordrosu", "ogibrd"},
       {OgiMenusu, "ÖGİ Ölen,Emekli,Çıkan Bordrosu", "ogibrd2"},
@@ -127,8 +133,8 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Ek İşlemler", "Personel Kod Değişikliği", "perkod"},
       {"Ek İşlemler", "Personel Kanun Değişikliği", "perkanun"},
       {"Ek İşlemler", "Personel Transfer", "pertransfer"},
-      {"Ek İşlemler", "Devir İşlemleri", "devir"},
-      {"Ek İşlemler", "Yıllık Devir Bilgileri Kontrolu", "devkontrol"},
+      {"Ek İşlemler", "Devir İşlemleri", "devir", "sonraki", "", Yap<belvani::devir>},
+      {"Ek İşlemler", "Yıllık Devir Bilgileri Kontrolu", "devkon", "kontrol", "", Yap<devkon>},
       {"Ek İşlemler", "Kullanıcı İşlemleri", "kulfrm", "kullanici", "", Yap<kulfrm>},
       {"Ek İşlemler", "Kontrol İşlemleri", "kontfrm", "kontrol", "Kontrol İşlemi", Yap<kontfrm>},
       {"Ek İşlemler", "Database Update", "Dbupdate", "yukselt", "", Yap<Dbupdate>, MenuIslemi::Guncelle},

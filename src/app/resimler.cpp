@@ -55,6 +55,9 @@ constexpr Doldurma Doldurmalar[] = {
     {"brdhazir", "Home PgDown PgDown PgDown Return F4"},
     {"sendtan", "F2 Return"},
     {"perbul", "Ay Return"},
+    {"perdev", "Ctrl+Home"},
+    {"kartxfrm", "Ctrl+Home"},
+    {"percari", "Ctrl+Home"},
 };
 
 class Resimler : ProgramParcalari<MetinBildirimi, DialogYok> {

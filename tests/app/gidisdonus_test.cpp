@@ -55,6 +55,9 @@ const GidisDonusEkrani Ekranlari[] = {
     {"sabpu"},
     {"kidempar"},
     {"ihbsure"},
+    {"perdev", "001\n"},
+    {"percari", "001\n"},
+    {"kartxfrm", "001\n", {"kartyili"}},
 };
 
 // Values that a column may hold; the same for the same seed.
@@ -192,7 +195,8 @@ void GidisDonus::Doldur(unsigned tohum) {
   using I = std::int64_t;
   RasgeleDeger degerler(tohum);
   Motor& motor = ortam.oturum.depo.db.IcMotor();
-  for (const char* tablo : {"firma", "sicil", "kimlik", "esco", "arac", "sendika", "indir", "muaf"})
+  for (const char* tablo :
+       {"firma", "sicil", "kimlik", "esco", "arac", "sendika", "indir", "muaf", "dvr", "cari", "brd"})
     motor.Calistir(std::string("delete from ") + tablo);
   Satir(degerler, "firma",
         {{"firmayil", I(2009)},
@@ -212,6 +216,9 @@ void GidisDonus::Doldur(unsigned tohum) {
          {"tasno", std::string("S9")}});
   Satir(degerler, "kimlik", {{"kod", kod}});
   for (I yakinlik = 1; yakinlik <= 4; ++yakinlik) Satir(degerler, "esco", {{"kod", kod}, {"yakinlik", yakinlik}});
+  Satir(degerler, "dvr", {{"kod", kod}, {"yil", I(2009)}, {"yilkod", "2009" + kod}});
+  Satir(degerler, "cari", {{"kod", kod}, {"tarih", Tarih(2009, 5, 1)}, {"islem", I('B')}});
+  Satir(degerler, "brd", {{"kod", kod}, {"yil", I(2009)}, {"ay", I(3)}, {"no", I(1)}});
   Satir(degerler, "arac", {{"kod", std::string("000")}});
   for (const char* sendika : {"S1", "S2"}) Satir(degerler, "sendika", {{"kod", std::string(sendika)}});
   for (I no = 1; no <= 3; ++no) Satir(degerler, "indir", {{"no", no}});
@@ -313,6 +320,9 @@ TEST_P(GidisDonus, WhatIsTypedComesBack) {
 }
 
 std::string HucreTuslari(const dclistKolonu& kolon, RasgeleDeger& degerler) {
+  // What rules narrow further than the column does.
+  if (kolon.ad == "islem") return degerler.Sec(0, 1) == 0 ? "A" : "B";
+  if (kolon.ad == "yil") return std::to_string(degerler.Sec(1990, 2008));
   switch (kolon.tip) {
     case dclistKolonu::Tip::Sayi: {
       const double enCok = kolon.enCok > 0 ? std::min(kolon.enCok, 99'999.0) : 99'999;

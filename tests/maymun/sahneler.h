@@ -70,6 +70,9 @@ inline std::vector<Sahne> Sahneler() {
   arkasinda("bildirgede", "yaylik", "F5");
   arkasinda("yzckopy", "yaylik", "F5 F8");
   arkasinda("kullanıcıda", "kulfrm", "Ctrl+Home");
+  arkasinda("aylarda", "kartxfrm", "Ctrl+Home");
+  arkasinda("caride", "percari", "Ctrl+Home");
+  arkasinda("devirde", "perdev", "Ctrl+Home");
   return sahneler;
 }
 

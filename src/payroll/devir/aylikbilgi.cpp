@@ -3,7 +3,6 @@
 #include "core/sayi.h"
 #include "core/store/koru.h"
 #include "core/store/satirlar.h"
-#include "core/tarih.h"
 #include "core/yuvarlama.h"
 #include "payroll/devir/satirlar.h"
 #include "payroll/hazirlik/hazirlik.h"
@@ -37,9 +36,7 @@ std::optional<Kusur> SatirKusuru(Oturum& o, const Okunan<Brd>& satir) {
   if (b.ay < 1 || b.ay > 12) return KuralKusuru("Ay: 1 ile 12 arasında olmalı", brd::ay);
   if (const std::string kusur = YilKusuru(b.yil); !kusur.empty()) return KuralKusuru("Dönem Yıl: " + kusur, brd::yil);
   if (satir.ilk && satir.ilk->ay != b.ay && AyiVar(o, b))
-    return KuralKusuru("Bu Personelin " + std::string(AyAdi(b.ay)) + "." + std::to_string(b.yil) +
-                           " bordrosu zaten var, ayı değiştirilemez",
-                       brd::ay);
+    return KuralKusuru("Bu Personelin " + AyMetni(b.yil, b.ay) + " bordrosu zaten var, ayı değiştirilemez", brd::ay);
   return std::nullopt;
 }
 
@@ -77,7 +74,7 @@ Yazim<Brd> AylikBilgiKaydet(Oturum& o, const Okunan<Brd>& satir) {
 }
 
 Sonuc<Silme> AylikBilgiSil(Oturum& o, const Brd& satir, Bildirim& bildirim) {
-  const std::string giden = satir.kod + ", " + std::string(AyAdi(satir.ay)) + "." + std::to_string(satir.yil);
+  const std::string giden = satir.kod + ", " + AyMetni(satir.yil, satir.ay);
   return SatirSil<Brd>(o, std::int64_t(satir.oto), giden, BordroSozleri, bildirim);
 }
 

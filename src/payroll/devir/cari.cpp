@@ -21,11 +21,11 @@ struct CariSatiri {
 // Other programs know the columns by their names.
 const Kolonlar<CariSatiri>& CariKolonlari() {
   static const Kolonlar<CariSatiri> kolonlar{
-      {{"Tarih", "tarih"}, 10, [](auto& s) { return s.hareket.tarih; }},
-      {{"İş.", "islem"}, 3, [](auto& s) { return CariIslemMetni(s.hareket.islem); }},
-      {{"Açıklama", "ack"}, 20, [](auto& s) { return s.hareket.ack; }},
-      {{"Tutar", "tutar"}, 14, [](auto& s) { return s.hareket.tutar; }},
-      {{"Bakiye", "bak"}, 14, [](auto& s) { return s.bakiye; }},
+      {"tarih", "Tarih", 10, [](auto& s) { return s.hareket.tarih; }},
+      {"islem", "İş.", 3, [](auto& s) { return CariIslemMetni(s.hareket.islem); }},
+      {"ack", "Açıklama", 20, [](auto& s) { return s.hareket.ack; }},
+      {"tutar", "Tutar", 14, [](auto& s) { return s.hareket.tutar; }},
+      {"bak", "Bakiye", 14, [](auto& s) { return s.bakiye; }},
   };
   return kolonlar;
 }
@@ -97,8 +97,7 @@ Sonuc<std::unique_ptr<Belge>> CariBelgesi(Oturum& o, std::string_view kod) {
   Rapor rapor = RaporYap(CariKolonlari(), satirlar, o.firma.paraonda);
   rapor.baslik = "PERSONEL CARİ";
   rapor.ekranBasligi = "Personel Cari - " + kisi;
-  rapor.ustSatirlar = {{.sol = o.firma.unvan, .sag = "Shf : ", .sayfaNo = true, .sirket = true},
-                       {.sol = kisi}};
+  rapor.ustSatirlar = {{.sol = o.firma.unvan, .sag = "Shf : ", .sayfaNo = true, .sirket = true}, {.sol = kisi}};
   YzcAyarlari ayar;
   ayar.YzcBaslik = rapor.baslik;
   return std::unique_ptr<Belge>(std::make_unique<RaporBelgesi>(std::move(rapor), ayar));

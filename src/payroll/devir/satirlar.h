@@ -5,6 +5,7 @@
 
 #include "core/session/firmabilgi.h"
 #include "core/silme.h"
+#include "core/tarih.h"
 #include "personnel/aktarimyaz.h"
 #include "personnel/kayit.h"
 
@@ -26,6 +27,11 @@ Sonuc<Silme> SatirSil(Oturum& o, const Deger& anahtar, std::string_view giden, c
   if (!vardi) return vardi.Kusuru();
   if (!*vardi) return KuralKusuru(soz.bulunamadi);
   return Silme::Silindi;
+}
+
+// "Temmuz.2009"; a month that is none by its number.
+inline std::string AyMetni(int yil, int ay) {
+  return (ay < 1 || ay > 12 ? std::to_string(ay) : std::string(AyAdi(ay))) + "." + std::to_string(yil);
 }
 
 // A year that the company may have worked in; "" when it is one.
