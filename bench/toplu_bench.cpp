@@ -3,6 +3,8 @@
 #include <benchmark/benchmark.h>
 
 #include "core/store/kisibordrolari.h"
+#include "core/store/satirlar.h"
+#include "core/tables/sicil.h"
 #include "personnel/kanundegistir.h"
 #include "personnel/koddegistir.h"
 #include "sirketuret.h"
@@ -40,7 +42,7 @@ Sirket& DoluSirket() {
 
 void KodDegisimiSuresi(benchmark::State& durum) {
   Oturum& o = DoluSirket().o;
-  KodDegisikligi d{.eski = EskiKod, .yeni = "YENI", .bagli = true};
+  static KodDegisikligi d{.eski = EskiKod, .yeni = "YENI", .bagli = true};
   for (auto _ : durum) {
     const auto degisim = KodDegistir(o, d);
     if (!degisim || degisim->bordro != 120) durum.SkipWithError("not all records were changed");

@@ -28,6 +28,7 @@
 #include "screens/payroll/kanun.h"
 #include "screens/payroll/kartxfrm.h"
 #include "screens/payroll/kykm.h"
+#include "screens/payroll/meskod.h"
 #include "screens/payroll/otokes.h"
 #include "screens/payroll/percari.h"
 #include "screens/payroll/perdev.h"
@@ -36,12 +37,16 @@
 #include "screens/payroll/yrdisim.h"
 #include "screens/payroll/yyasor.h"
 #include "screens/personnel/escofrm.h"
+#include "screens/personnel/koddeg.h"
 #include "screens/personnel/kontfrm.h"
 #include "screens/personnel/nufus.h"
 #include "screens/personnel/perbul.h"
 #include "screens/personnel/percik.h"
 #include "screens/personnel/pergir.h"
 #include "screens/personnel/perkart.h"
+#include "screens/personnel/pertrans.h"
+#include "screens/personnel/tkanfrm.h"
+#include "screens/personnel/ucrdeg.h"
 #include "screens/severance/ihbsure.h"
 #include "screens/severance/kidemhes.h"
 #include "screens/severance/kidempar.h"
@@ -78,7 +83,7 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Özlük", "Personel Çıkışı", "percik", "cikis", "", Yap<percik>},
       {"Özlük", "Personel Devir Bilgileri", "perdev", "takvim", "", Yap<perdev>},
       {"Özlük", "Personel Aylık Bilgileri", "kartxfrm", "bordro", "Kartotex Raporu", Yap<kartxfrm>},
-      {"Özlük", "Ücretler", "ucrfrm", "", "Ücretlendirme"},
+      {"Özlük", "Ücretler", "ucrdeg", "oran", "Ücretlendirme", Yap<ucrdeg>},
 
       {"Bordro", "Bordro Hazırlık", "brdhazir", "bordro", "", Yap<brdhazir>},
 
@@ -130,9 +135,9 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Entegrasyon", "İşletmeye Entegre", "entislyap", "takvim", "İşletmeye Entegrasyon", Yap<entislyap>},
       {"Entegrasyon", "Entegrasyon Parametreleri", "entpar", "ayar", "", Yap<entparfrm>},
 
-      {"Ek İşlemler", "Personel Kod Değişikliği", "perkod"},
-      {"Ek İşlemler", "Personel Kanun Değişikliği", "perkanun"},
-      {"Ek İşlemler", "Personel Transfer", "pertransfer"},
+      {"Ek İşlemler", "Personel Kod Değişikliği", "koddeg", "duzelt", "", Yap<koddeg>},
+      {"Ek İşlemler", "Personel Kanun Değişikliği", "tkanfrm", "degistir", "", Yap<tkanfrm>},
+      {"Ek İşlemler", "Personel Transfer", "pertrans", "cikis", "", Yap<pertrans>},
       {"Ek İşlemler", "Devir İşlemleri", "devir", "sonraki", "", Yap<belvani::devir>},
       {"Ek İşlemler", "Yıllık Devir Bilgileri Kontrolu", "devkon", "kontrol", "", Yap<devkon>},
       {"Ek İşlemler", "Kullanıcı İşlemleri", "kulfrm", "kullanici", "", Yap<kulfrm>},
@@ -152,6 +157,7 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Parametreler", "Fazla Mesai Ayarları", "fazmes", "takvim", "", Yap<fazmes>},
       {"Parametreler", "Sendika Bilgileri", "sendtan", "aile", "", Yap<sendtan>},
       {"Parametreler", "Hesap Türleri", "heskod", "liste", "", Yap<heskod>, MenuIslemi::Yok, FormModu::Serbest, "edit"},
+      {"Parametreler", "Meslek Kodları", "meskod", "liste", "", Yap<meskod>},
       {"Parametreler", "A.G.İ. Parametresi", "agifrm", "oran", "", Yap<agifrm>},
       {"Parametreler", "Şablon Puantaj", "sabpu", "sablon", "", Yap<sabpu>},
       {"Parametreler", "Muhasebeci Bilgileri", "muhbil", "kisi", "", Yap<muhbil>},

@@ -16,7 +16,7 @@ Sonuc<std::vector<Sicil>> UcretliKisiler(Oturum& o, std::uint8_t ucretags) {
 
 Yazim<Sicil> UcretDuzenleme::Yaz(const Okunan<Sicil>& kart) {
   auto yazilan = KayitYaz(o_, kart, "Personel Kartı Kaydedilemiyor");
-  const Sicil& ilk = *kart.ilk;
+  const Sicil ilk = kart.ilk.value_or(kart.simdi);  // of one who was deleted meanwhile nothing is taken back
   const bool degisti = ilk.ucret != kart.simdi.ucret || ilk.ucrettipi != kart.simdi.ucrettipi;
   if (yazilan && degisti)
     yazilanlar_.push_back({ilk.kod, ilk.ucret, kart.simdi.ucret, ilk.ucrettipi, kart.simdi.ucrettipi});

@@ -52,6 +52,7 @@ const GidisDonusEkrani Ekranlari[] = {
     {"fazmes"},
     {"sendtan", "S1\n"},
     {"heskod"},
+    {"meskod"},
     {"sabpu"},
     {"kidempar"},
     {"ihbsure"},

@@ -209,10 +209,14 @@ Sonuc<AdliDosya> ParametreDosyasiAl(ParametreDosyasi dosya, const std::string& k
   return AdliDosya{std::string(p.yerel), std::move(*baytlar)};
 }
 
-Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira) {
+std::string ParametreSunucusu() {
   std::string ayar = MakineAyari("ParametreAdresi");
   while (!ayar.empty() && (ayar.back() == '/' || ayar.back() == ' ')) ayar.pop_back();
-  if (!ayar.empty()) return ayar;
+  return ayar;
+}
+
+Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira) {
+  if (std::string sunucu = ParametreSunucusu(); !sunucu.empty()) return sunucu;
 
   // What is not there is told now, and not as a failed transfer.
   if (const auto parametre = MevzuatYukle(MevzuatDizini(), yil, ay, lira); !parametre) return parametre.Kusuru();

@@ -29,6 +29,9 @@ struct IndirmeSiniri {
 Durum ParametreIndir(const std::string& url, const VeriYolu& veri, std::string_view ad,
                      const IndirmeSiniri& sinir = {});
 
+// The server of the setting `ParametreAdresi`, without a separator at the end; "" where none is set.
+std::string ParametreSunucusu();
+
 // The address to fetch the parameters of a month from: the setting `ParametreAdresi` where it is given, else one of our
 // own that stands for the shipped figures. No separator at the end.
 Sonuc<std::string> ParametreAdresi(int yil, int ay, Lira lira = Lira::Yeni);

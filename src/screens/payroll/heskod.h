@@ -1,12 +1,12 @@
 // heskod ("Hesap Türleri"): the fifty insurance branches. With the mode "edit" in the session's PencereTip they can be
-// changed; a row is saved when it is left, unless it takes another one's number.
+// changed.
 #pragma once
 
-#include "screens/payroll/listeekrani.h"
+#include "screens/payroll/hesapturuekrani.h"
 
 namespace belvani {
 
-class heskod : public ListeEkrani<HesapTuru> {
+class heskod : public HesapTuruEkrani {
  public:
   heskod(EkranBaglami& baglam, ParametreDeposu& parametreler);
 };

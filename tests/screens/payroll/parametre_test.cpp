@@ -1,12 +1,14 @@
 // Screens of the law's parameters, typed key by key.
 #include <gmock/gmock.h>
 
+#include "core/ayarlar.h"
 #include "core/dosya.h"
 #include "ekran/ortam.h"
 #include "screens/payroll/agifrm.h"
 #include "screens/payroll/gvtablo.h"
 #include "screens/payroll/heskod.h"
 #include "screens/payroll/kanun.h"
+#include "screens/payroll/meskod.h"
 #include "screens/payroll/yyasor.h"
 
 namespace belvani::test {
@@ -141,6 +143,49 @@ TEST(Heskod, ANumberIsGivenOnce) {
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: Hesap Türü No iki kez verilemez: 3 (3. ve 34. satır)"});
   EXPECT_EQ(ortam.parametreler.yasal.hesapTurleri, onceki);
   EXPECT_EQ(Liste(form).CurSat(), 33);
+}
+
+// Cards keep the place of their branch, and the premium flag is none of this screen's.
+TEST(Meskod, ADeletedRowLeavesTheOthersWhereTheyAre) {
+  EkranOrtami ortam;
+  const HesapTurleri onceki = ortam.parametreler.yasal.hesapTurleri;
+  auto& form = ortam.Ac<meskod>(ortam.parametreler);
+  Liste(form).HucreyeGit(2, "ack");
+  ortam.Yaz("\nBaşka Ad\n");
+  HesapTurleri beklenen = onceki;
+  beklenen[2].ack = "Başka Ad";
+  EXPECT_EQ(Dosyadan(ortam).hesapTurleri, beklenen);
+
+  Liste(form).HucreyeGit(1, "no");
+  ortam.Bas(Qt::Key_Escape);
+  ortam.bildirim.cevap = false;
+  ortam.Bas(Qt::Key_Delete);
+  EXPECT_EQ(Dosyadan(ortam).hesapTurleri, beklenen);
+  ortam.bildirim.cevap = true;
+  ortam.Bas(Qt::Key_Delete);
+  const std::string soru =
+      "Soru: Satır Silinecek..\nEminmisiniz ???\n" + std::to_string(onceki[1].no) + " " + onceki[1].ack;
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler({soru, soru}));
+  beklenen[1] = {};
+  EXPECT_EQ(Dosyadan(ortam).hesapTurleri, beklenen);
+  EXPECT_EQ(Liste(form).ListCount(), 50);
+}
+
+TEST(Meskod, TheListOfProfessionsIsFetchedFromTheServerAlone) {
+  EkranOrtami ortam;
+  auto& form = ortam.Ac<meskod>(ortam.parametreler);
+  const auto dosya = [&] { return DosyaOku(ortam.oturum.DataPath + "meskod.dat").value_or("yok"); };
+  DugmeyeBas(form, "Parametre İndir");
+  EXPECT_THAT(ortam.bildirim.Al(), testing::ElementsAre(testing::StartsWith("Uyarı: Parametre Bulunamadı..\n")));
+  EXPECT_EQ(dosya(), "yok");
+  const std::string sunucu = ortam.dizin.Yol() + "sunucu";
+  std::filesystem::create_directories(sunucu + "/download");
+  ASSERT_TRUE(DosyaYaz(sunucu + "/download/meskod.txt", "2411.01"));
+  ASSERT_TRUE(MakineAyariYaz("ParametreAdresi", "file://" + sunucu));
+  DugmeyeBas(form, "Parametre İndir");
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{"Bilgi: Parametre İndirildi.."});
+  EXPECT_EQ(dosya(), "2411.01");
+  ASSERT_TRUE(MakineAyariYaz("ParametreAdresi", ""));
 }
 
 TEST(Kanun, AWrongDateKeepsTheCursorAndRowsComeAndGo) {
