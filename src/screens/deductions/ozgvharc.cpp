@@ -1,6 +1,7 @@
 #include "screens/deductions/ozgvharc.h"
 
 #include <QKeyEvent>
+#include <QTimer>
 
 #include "core/session/renkler.h"
 #include "core/turkce.h"
@@ -204,7 +205,15 @@ bool ozgvharc::SatirKaydet(int satir) {
   SatiriKoy(satir, {yazilan.adSoyad, *sonuc});
   SatiriAnlat(satir);
   ZoomEfekt();
+  QTimer::singleShot(0, liste_, [this] { HarcamayaGec(); });
   return true;
+}
+
+// Enter behind the last cell goes to the next row's first one; expenses are typed one below the other.
+void ozgvharc::HarcamayaGec() {
+  const int satir = liste_->CurSat();
+  if (liste_->hasFocus() && satir >= 0 && liste_->CurrentCol() == 0 && Kayitli(Satiri(satir)))
+    liste_->HucreyeGit(satir, "harcama");
 }
 
 // The record stays in the list, with its refund; a row that was never saved goes.

@@ -30,6 +30,7 @@ class ozgvharc : public Form {
   int KisininSatiri(std::string_view kod, int haric) const;
   OgiHarcamasi& Satiri(int satir) { return satirlar_[liste_->Model().Kimlik(satir)]; }
   bool SatirKaydet(int satir);
+  void HarcamayaGec();
   bool SatirSil(int satir);
   bool ListeTusu(const QKeyEvent& olay);
 

@@ -67,6 +67,7 @@ TEST(Ozgvharc, ARowIsSavedWithItsRefundAndTheListMovesOn) {
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
   EXPECT_EQ(liste.TextByName(0, "hakedis"), "270.00");
   EXPECT_EQ(liste.CurSat(), 1);
+  EXPECT_EQ(liste.CurrentCol(), liste.Model().KolonBul(u"harcama")) << "expenses are typed one below the other";
   EXPECT_EQ(ortam.Kayit("2004001").ogitutar, Tutar(270));
 
   // A new row: the person's name comes up; unknown codes and people of the list are refused.
@@ -134,6 +135,7 @@ TEST(Gvtablo, ThePublishedTableOfAYearComesIntoItsFile) {
   auto& form = ortam.Ac<gvtablo>(ortam.parametreler);
   const auto al = [&](const char* yil) {
     form.findChild<QWidget*>("yil")->setFocus();
+    ortam.Bas(Qt::Key_A, Qt::ControlModifier);
     ortam.Yaz(yil);
     for (auto* dugme : form.findChildren<QPushButton*>())
       if (dugme->text() == "Yayımlanan Tabloyu Al") dugme->click();
