@@ -47,6 +47,8 @@
 #include "screens/personnel/pertrans.h"
 #include "screens/personnel/tkanfrm.h"
 #include "screens/personnel/ucrdeg.h"
+#include "screens/reports/rap1.h"
+#include "screens/reports/rap2.h"
 #include "screens/severance/ihbsure.h"
 #include "screens/severance/kidemhes.h"
 #include "screens/severance/kidempar.h"
@@ -102,8 +104,8 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Viziteler", "Eş ve Çocuklara Vizite", "esvizite", "", "Eş ve Çocuklar için Vizite"},
       {"Viziteler", "Altı Aylık Sağlık Belgesi", "altiay", "", "Altı Aylık Vizite"},
 
-      {"Raporlar", "Özlük Bilgileri", "ozlukrap", "", "Özlük Raporu"},
-      {"Raporlar", "Bordro Raporlama", "bordrorap", "", "Bordro Raporu"},
+      {"Raporlar", "Özlük Bilgileri", "rap1", "kisi", "Özlük Raporu", Yap<rap1>},
+      {"Raporlar", "Bordro Raporlama", "rap2", "tablo", "Bordro Raporu", Yap<rap2>},
 
       {"Ek Moduller/Kıdem, İhbar Modülü", "Kıdem, İhbar Hesaplama", "kidemhes", "bordro", "", Yap<kidemhes>},
       {"Ek Moduller/Kıdem, İhbar Modülü", "Kidem, İhbar İcmali", "kidicmal"},

@@ -121,6 +121,7 @@ constexpr KomutEkle Komutlar[] = {
     BildirimKomutlari,   // notices of a person to the authorities
     ViziteKomutu,        // medical papers of a person
     MuhasebeKomutlari,   // the books: voucher, posting, stores to start with
+    RaporKomutu,         // designed reports
 };
 
 int Calistir(int argc, char** argv) {

@@ -65,6 +65,7 @@ void BildirgeKomutu(CLI::App& app, Genel& genel);
 void BildirimKomutlari(CLI::App& app, Genel& genel);
 void ViziteKomutu(CLI::App& app, Genel& genel);
 void MuhasebeKomutlari(CLI::App& app, Genel& genel);
+void RaporKomutu(CLI::App& app, Genel& genel);
 
 struct Donem {
   int yil = 0;

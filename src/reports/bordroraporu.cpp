@@ -6,8 +6,8 @@
 
 #include "core/asama.h"
 #include "core/turkce.h"
-#include "documents/sorgumetni.h"
 #include "payroll/parametre/ikili.h"
+#include "reports/kisiaraligi.h"
 #include "reports/raporalani.h"
 
 namespace belvani {
@@ -51,6 +51,17 @@ struct CiktiKolonu {
   int kayit = -1;
 };
 
+// It stands in the first column of texts, and fits there.
+std::string ToplamEtiketi(const BordroKolonlari& kolonlar) {
+  for (const auto& kolon : kolonlar) {
+    if (RaporAlaniBul(BordroAlanlari(), kolon.alan)->Turu() != KolonTuru::Metin) continue;
+    for (const std::string_view etiket : {"T O P L A M", "TOPLAM", "TOP."})
+      if (etiket.size() <= kolon.en) return std::string(etiket);
+    return {};
+  }
+  return {};
+}
+
 bool KayittanMi(const RaporAlani& alan) {
   return alan.sql.starts_with("b.");
 }
@@ -81,12 +92,12 @@ class Uretim {
     }
   }
 
-  void Doldur(Rapor& rapor) {
+  void Doldur(Rapor& rapor, std::size_t enCok) {
     KisileriOku();
     KayitlariOku();
     std::ranges::sort(kayitlar_, {}, &Kayit::Sira);
     Asama asama(ilerleme_, kayitlar_.size());
-    for (auto ilk = kayitlar_.begin(); ilk != kayitlar_.end();) {
+    for (auto ilk = kayitlar_.begin(); ilk != kayitlar_.end() && rapor.Satirlar().size() < enCok;) {
       asama.Adim();
       auto son = ilk + 1;
       if (secim_.kisiBasina)
@@ -116,9 +127,7 @@ class Uretim {
     SorguMetni sorgu("select s.kod, s.adi, s.soyadi" + Secilenler(&CiktiKolonu::kisi) +
                          " from sicil s join kimlik k on k.kod = s.kod where 1 = 1",
                      {});
-    sorgu.Aralik("s.grup", secim_.grup);
-    sorgu.Aralik("s.tip", secim_.tip);
-    sorgu.Aralik("s.ozel", secim_.ozel);
+    KisileriSec(sorgu, secim_.kisiler);
     sorgu.Ekle(" order by s.kod");
     const auto komut = sorgu.Hazirla(motor_);
     for (Asama asama(ilerleme_); komut->Adim();) {
@@ -143,7 +152,6 @@ class Uretim {
                          " from brd b where b.yil between ? and ? and b.ay between ? and ?",
                      {std::int64_t(secim_.ilkYil), std::int64_t(secim_.sonYil), std::int64_t(secim_.ilkAy),
                       std::int64_t(secim_.sonAy)});
-    sorgu.Aralik("b.kod", secim_.kod);
     const auto komut = sorgu.Hazirla(motor_);
     for (Asama asama(ilerleme_); komut->Adim();) {
       asama.Adim();
@@ -236,8 +244,20 @@ Sonuc<BordroKolonlari> BordroRaporuCoz(std::string_view baytlar) {
   return kolonlar;
 }
 
+BordroRaporuSecimi SonAyi(Motor& motor, BordroRaporuSecimi secim) {
+  const SorguMetni sorgu(
+      "select yil, ay from brd where yil between ? and ? and ay between ? and ? "
+      "order by yil desc, ay desc limit 1",
+      {std::int64_t(secim.ilkYil), std::int64_t(secim.sonYil), std::int64_t(secim.ilkAy), std::int64_t(secim.sonAy)});
+  if (const auto komut = sorgu.Hazirla(motor); komut->Adim()) {
+    secim.ilkYil = secim.sonYil = int(komut->Tam(0));
+    secim.ilkAy = secim.sonAy = int(komut->Tam(1));
+  }
+  return secim;
+}
+
 Rapor BordroRaporu(Motor& motor, const BordroKolonlari& kolonlar, const BordroRaporuSecimi& secim,
-                   const RaporBasligi& baslik, Ilerleme* ilerleme) {
+                   const RaporBicimi& bicim, Ilerleme* ilerleme) {
   std::vector<RaporKolonu> raporunki;
   for (const auto& kolon : kolonlar) {
     const KolonTuru tur = RaporAlaniBul(BordroAlanlari(), kolon.alan)->Turu();
@@ -250,10 +270,10 @@ Rapor BordroRaporu(Motor& motor, const BordroKolonlari& kolonlar, const BordroRa
                          .toplanir = kolon.toplanir && sayisal});
   }
   Rapor rapor(std::move(raporunki));
-  rapor.baslik = rapor.ekranBasligi = baslik.baslik;
-  rapor.toplamEtiketi = "T O P L A M";
-  if (!baslik.aciklama.empty()) rapor.ustSatirlar.push_back({.orta = baslik.aciklama});
-  if (!kolonlar.empty()) Uretim(motor, kolonlar, secim, ilerleme).Doldur(rapor);
+  rapor.baslik = rapor.ekranBasligi = bicim.baslik;
+  rapor.toplamEtiketi = ToplamEtiketi(kolonlar);
+  if (!bicim.aciklama.empty()) rapor.ustSatirlar.push_back({.orta = bicim.aciklama});
+  if (!kolonlar.empty()) Uretim(motor, kolonlar, secim, ilerleme).Doldur(rapor, bicim.enCokSatir);
   return rapor;
 }
 

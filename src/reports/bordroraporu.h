@@ -17,7 +17,6 @@
 #include "core/bildirim.h"
 #include "core/sonuc.h"
 #include "core/store/motor.h"
-#include "documents/defter.h"
 #include "reports/ozlukraporu.h"
 
 namespace belvani {
@@ -49,14 +48,17 @@ Sonuc<BordroKolonlari> BordroRaporuCoz(std::string_view baytlar);
 struct BordroRaporuSecimi {
   int ilkYil = 0, sonYil = 0;
   int ilkAy = 1, sonAy = 12;
-  MetinAraligi kod{.bas = {}, .bit = "zzzz"};
-  MetinAraligi grup = {}, tip = {}, ozel = {};
+  KisiAraligi kisiler = {};
   bool kisiBasina = false;  // a line a person: summed columns are sums, the others those of the last record
 };
+
+// The last month of the choice that has records, alone; the choice itself when none has. For a look at a report that
+// need not read years. Throws MotorHatasi.
+BordroRaporuSecimi SonAyi(Motor& motor, BordroRaporuSecimi secim);
 
 // By code, year, month and run number. People without a card or an identity are not in it. Throws MotorHatasi,
 // TutarTasmasi, and Vazgecilmis when stopped.
 Rapor BordroRaporu(Motor& motor, const BordroKolonlari& kolonlar, const BordroRaporuSecimi& secim,
-                   const RaporBasligi& baslik, Ilerleme* ilerleme = nullptr);
+                   const RaporBicimi& bicim, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -35,8 +35,8 @@ BordroKolonlari Kolonlar(std::initializer_list<std::string_view> adlar) {
 
 }  // namespace
 
-std::vector<HazirRapor<OzlukKolonlari>> HazirOzlukRaporlari(int yil) {
-  const std::string ilk = "01.01." + std::to_string(yil), son = "31.12." + std::to_string(yil);
+std::vector<HazirRapor<OzlukKolonlari>> HazirOzlukRaporlari(Tarih ilkGun, Tarih sonGun) {
+  const std::string ilk = ilkGun.Metin(), son = sonGun.Metin();
   return {
       {"Personel Listesi",
        {K("sicil.kod"), K("sicil.adi"), K("sicil.soyadi"), K("sicil.sskno"), K("kimlik.tcno"), K("sicil.girtar"),

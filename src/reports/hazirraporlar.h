@@ -4,6 +4,7 @@
 #include <span>
 #include <string_view>
 
+#include "core/tarih.h"
 #include "reports/bordroraporu.h"
 #include "reports/ozlukraporu.h"
 
@@ -15,8 +16,8 @@ struct HazirRapor {
   Kolonlar kolonlar;
 };
 
-// Those of a period are of the year.
-std::vector<HazirRapor<OzlukKolonlari>> HazirOzlukRaporlari(int yil);
+// Those of a period are of these days; without both of them they have no bounds.
+std::vector<HazirRapor<OzlukKolonlari>> HazirOzlukRaporlari(Tarih ilkGun, Tarih sonGun);
 const std::vector<HazirRapor<BordroKolonlari>>& HazirBordroRaporlari();
 
 }  // namespace belvani

@@ -3,8 +3,8 @@
 #include "core/asama.h"
 #include "core/okunus.h"
 #include "core/turkce.h"
-#include "documents/sorgumetni.h"
 #include "payroll/parametre/ikili.h"
+#include "reports/kisiaraligi.h"
 #include "reports/raporalani.h"
 
 namespace belvani {
@@ -54,7 +54,7 @@ OzlukKolonu Oku(std::string_view kayit) {
   return kolon;
 }
 
-SorguMetni Sorgu(const OzlukKolonlari& kolonlar) {
+SorguMetni Sorgu(const OzlukKolonlari& kolonlar, const KisiAraligi& kisiler) {
   std::string secilen;
   for (const auto& kolon : kolonlar) {
     const auto& alan = *RaporAlaniBul(OzlukAlanlari(), kolon.alan);
@@ -70,11 +70,12 @@ SorguMetni Sorgu(const OzlukKolonlari& kolonlar) {
     ekle(kolon.baslangic, " >= ?");
     ekle(kolon.bitis, " <= ?");
   }
+  KisileriSec(sorgu, kisiler);
   sorgu.Ekle(" order by s.kod");
   return sorgu;
 }
 
-Rapor BosRapor(const OzlukKolonlari& kolonlar, const RaporBasligi& baslik, int paraOndaligi) {
+Rapor BosRapor(const OzlukKolonlari& kolonlar, const RaporBicimi& bicim, int paraOndaligi) {
   std::vector<RaporKolonu> raporunki;
   for (const auto& kolon : kolonlar) {
     const auto& alan = *RaporAlaniBul(OzlukAlanlari(), kolon.alan);
@@ -85,9 +86,9 @@ Rapor BosRapor(const OzlukKolonlari& kolonlar, const RaporBasligi& baslik, int p
                          .ondalik = alan.Tutardir() ? paraOndaligi : 0});
   }
   Rapor rapor(std::move(raporunki));
-  rapor.baslik = rapor.ekranBasligi = baslik.baslik;
+  rapor.baslik = rapor.ekranBasligi = bicim.baslik;
   rapor.paraOndaligi = paraOndaligi;
-  if (!baslik.aciklama.empty()) rapor.ustSatirlar.push_back({.orta = baslik.aciklama});
+  if (!bicim.aciklama.empty()) rapor.ustSatirlar.push_back({.orta = bicim.aciklama});
   return rapor;
 }
 
@@ -133,14 +134,14 @@ Sonuc<OzlukKolonlari> OzlukRaporuCoz(std::string_view baytlar) {
   return kolonlar;
 }
 
-Rapor OzlukRaporu(Motor& motor, const OzlukKolonlari& kolonlar, const RaporBasligi& baslik, int paraOndaligi,
-                  Ilerleme* ilerleme) {
-  Rapor rapor = BosRapor(kolonlar, baslik, paraOndaligi);
+Rapor OzlukRaporu(Motor& motor, const OzlukKolonlari& kolonlar, const KisiAraligi& kisiler, const RaporBicimi& bicim,
+                  int paraOndaligi, Ilerleme* ilerleme) {
+  Rapor rapor = BosRapor(kolonlar, bicim, paraOndaligi);
   if (kolonlar.empty()) return rapor;
   std::vector<const RaporAlani*> alanlar;
   for (const auto& kolon : kolonlar) alanlar.push_back(RaporAlaniBul(OzlukAlanlari(), kolon.alan));
-  const auto komut = Sorgu(kolonlar).Hazirla(motor);
-  for (Asama asama(ilerleme); komut->Adim();) {
+  const auto komut = Sorgu(kolonlar, kisiler).Hazirla(motor);
+  for (Asama asama(ilerleme); rapor.Satirlar().size() < bicim.enCokSatir && komut->Adim();) {
     asama.Adim();
     RaporSatiri satir;
     satir.hucreler.reserve(kolonlar.size());

@@ -9,6 +9,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,6 +18,7 @@
 #include "core/bildirim.h"
 #include "core/sonuc.h"
 #include "core/store/motor.h"
+#include "documents/defter.h"
 #include "printing/rapor.h"
 
 namespace belvani {
@@ -48,15 +50,22 @@ std::string OzlukRaporuBaytlari(const OzlukKolonlari& kolonlar);
 // Of the right length, with columns that could have been made here; else BozukRapor.
 Sonuc<OzlukKolonlari> OzlukRaporuCoz(std::string_view baytlar);
 
-// What stands above the columns.
-struct RaporBasligi {
-  std::string baslik;    // "": the report's name
-  std::string aciklama;  // a line below it
+// Whom a report takes; as it stands, everyone.
+struct KisiAraligi {
+  MetinAraligi kod{.bas = {}, .bit = "zzzz"};
+  MetinAraligi grup = {}, tip = {}, ozel = {};
 };
 
-// Everyone with a card and an identity who lies within all bounds, by code. A bound is of the column's kind: a day
-// dd.MM.yyyy, a number, else a text in the order of the alphabet. Throws MotorHatasi, and Vazgecilmis when stopped.
-Rapor OzlukRaporu(Motor& motor, const OzlukKolonlari& kolonlar, const RaporBasligi& baslik, int paraOndaligi,
-                  Ilerleme* ilerleme = nullptr);
+struct RaporBicimi {
+  std::string baslik = {};
+  std::string aciklama = {};                                         // a line below it
+  std::size_t enCokSatir = std::numeric_limits<std::size_t>::max();  // the first ones, for a look at them
+};
+
+// Of those people everyone with a card and an identity who lies within all bounds, by code. A bound is of the column's
+// kind: a day dd.MM.yyyy, a number, else a text in the order of the alphabet. Throws MotorHatasi, and Vazgecilmis when
+// stopped.
+Rapor OzlukRaporu(Motor& motor, const OzlukKolonlari& kolonlar, const KisiAraligi& kisiler, const RaporBicimi& bicim,
+                  int paraOndaligi, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -12,6 +12,7 @@
 namespace belvani {
 namespace {
 
+constexpr std::string_view YilAdi = "yil";
 constexpr int SayiEni = 5, TutarEni = 12, OranEni = 6, TarihEni = 10, AdSoyadEni = 30;
 
 struct Ad {
@@ -151,7 +152,9 @@ Tur Okunan(const Komut& komut, int i) {
 
 }  // namespace
 
+// A year is a name, not a quantity: no mark of thousands stands in it.
 KolonTuru RaporAlani::Turu() const {
+  if (ad == YilAdi) return KolonTuru::Metin;
   switch (kolon.tip) {
     case AlanTipi::Byte:
     case AlanTipi::Kisa:
@@ -171,6 +174,7 @@ KolonTuru RaporAlani::Turu() const {
 }
 
 int RaporAlani::TercihEni(int enCok) const {
+  if (ad == YilAdi) return SayiEni;
   switch (Turu()) {
     case KolonTuru::Tam:
       return SayiEni;

@@ -40,7 +40,7 @@ Sonuc<Kolonlar> Al(const VeriYolu& veri, const std::string& ad, std::string_view
 }  // namespace
 
 std::vector<std::string> OzlukRaporlari(const VeriYolu& veri) {
-  return Adlar(veri, OzlukUzantisi, HazirOzlukRaporlari(0));
+  return Adlar(veri, OzlukUzantisi, HazirOzlukRaporlari({}, {}));
 }
 
 std::vector<std::string> BordroRaporlari(const VeriYolu& veri) {
@@ -56,12 +56,18 @@ std::optional<Kusur> RaporAdiKusuru(std::string_view ad) {
   return {};
 }
 
-Sonuc<OzlukKolonlari> OzlukRaporuAl(const VeriYolu& veri, const std::string& ad, int yil) {
-  return Al(veri, ad, OzlukUzantisi, HazirOzlukRaporlari(yil), OzlukRaporuCoz);
+Sonuc<OzlukKolonlari> OzlukRaporuAl(const VeriYolu& veri, const std::string& ad, Tarih ilkGun, Tarih sonGun) {
+  return Al(veri, ad, OzlukUzantisi, HazirOzlukRaporlari(ilkGun, sonGun), OzlukRaporuCoz);
 }
 
 Sonuc<BordroKolonlari> BordroRaporuAl(const VeriYolu& veri, const std::string& ad) {
   return Al(veri, ad, BordroUzantisi, HazirBordroRaporlari(), BordroRaporuCoz);
+}
+
+std::optional<std::string> RaporAdiBul(const VeriYolu& veri, const std::string& ad, std::string_view uzanti) {
+  const auto adlar = uzanti == OzlukUzantisi ? OzlukRaporlari(veri) : BordroRaporlari(veri);
+  const auto yeri = std::ranges::find_if(adlar, [&](const std::string& a) { return TurkceEsit(a, ad); });
+  return yeri == adlar.end() ? std::nullopt : std::optional(*yeri);
 }
 
 bool RaporDosyasiVar(const VeriYolu& veri, const std::string& ad, std::string_view uzanti) {

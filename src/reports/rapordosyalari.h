@@ -22,10 +22,12 @@ std::vector<std::string> BordroRaporlari(const VeriYolu& veri);
 // What the product has to say against a name: "Rapor Adının Yazınız.", "Rapor İsminde Noktalama Kullanmayınız".
 std::optional<Kusur> RaporAdiKusuru(std::string_view ad);
 
-// Of the file, else the one that comes with the program. `yil`: a shipped report of a period is of this year's.
-Sonuc<OzlukKolonlari> OzlukRaporuAl(const VeriYolu& veri, const std::string& ad, int yil);
+// Of the file, else the one that comes with the program; one of a period of these days.
+Sonuc<OzlukKolonlari> OzlukRaporuAl(const VeriYolu& veri, const std::string& ad, Tarih ilkGun, Tarih sonGun);
 Sonuc<BordroKolonlari> BordroRaporuAl(const VeriYolu& veri, const std::string& ad);
 
+// The name as the list has it; nothing when it is not there.
+std::optional<std::string> RaporAdiBul(const VeriYolu& veri, const std::string& ad, std::string_view uzanti);
 // Is there a file, which a save would replace?
 bool RaporDosyasiVar(const VeriYolu& veri, const std::string& ad, std::string_view uzanti);
 

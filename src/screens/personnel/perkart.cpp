@@ -7,7 +7,7 @@
 
 #include "payroll/hazirlik/tanimlar.h"
 #include "personnel/kart.h"
-#include "screens/personnel/kodrehberi.h"
+#include "ui/kodrehberi.h"
 #include "screens/personnel/resimkutusu.h"
 #include "screens/personnel/sigortakollari.h"
 #include "ui/cakisma.h"

@@ -1,4 +1,4 @@
-// kodrehberi: the lookup window of a field whose codes the company defines: earning groups, unions.
+// kodrehberi: the lookup window of a field whose choices the user defines: earning groups, unions, reports.
 #pragma once
 
 #include "ui/dclist.h"

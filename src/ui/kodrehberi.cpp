@@ -1,4 +1,4 @@
-#include "screens/personnel/kodrehberi.h"
+#include "ui/kodrehberi.h"
 
 #include "ui/listedoldur.h"
 
