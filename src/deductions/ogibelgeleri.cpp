@@ -90,6 +90,7 @@ const std::vector<BelgeTanimi>& Tablo() {
        .komutYardimi = "Özel gider indiriminin kişi kişi iade, ödenen ve kalan tutarlarını verir",
        .alanlar = {{{"Liste", {YilAlani("ÖGİ Yılı", "iadenin ödendiği yıl; harcamalar bir önceki yılındır")}}}},
        .secim = Secenekleri(OgiKalanBelgesi),
+       .liste = {.komut = " Listele"},
        .soz = OgiAgiSozu,
        .kayitYok = KayitYok},
       {.ekran = "ogiaymah",

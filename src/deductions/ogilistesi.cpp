@@ -103,11 +103,11 @@ Kolonlar<OgiSatiri> MahsupKolonlari(int ilkAy) {
 }
 
 const Kolonlar<OgiKisisi> kalanKolonlari{
-    {"Sicil No", 8, [](auto& k) { return k.kod; }},
-    {"Adı Soyadı", 29, [](auto& k) { return k.adSoyad; }},
-    {{"Ödenecek", "Toplam İade"}, 13, [](auto& k) { return k.ogitutar; }, Toplanir},
-    {{"Ödenen", "Toplam Ödenen"}, 13, [](auto& k) { return k.ogiodenen; }, Toplanir},
-    {{"Kalan", "Toplam Kalan"}, 13, [](auto& k) { return k.ogitutar - k.ogiodenen; }, Toplanir},
+    {"sicilno", "Sicil No", 8, [](auto& k) { return k.kod; }},
+    {"adisoyadi", "Adı Soyadı", 29, [](auto& k) { return k.adSoyad; }},
+    {"topiade", {"Ödenecek", "Toplam İade"}, 13, [](auto& k) { return k.ogitutar; }, Toplanir},
+    {"topodenen", {"Ödenen", "Toplam Ödenen"}, 13, [](auto& k) { return k.ogiodenen; }, Toplanir},
+    {"topkalan", {"Kalan", "Toplam Kalan"}, 13, [](auto& k) { return k.ogitutar - k.ogiodenen; }, Toplanir},
 };
 
 std::string TurEki(OgiTuru tur) {

@@ -39,7 +39,7 @@ TEST(OzelGiderKomutlari, FromTheDeclaredExpensesToTheLists) {
   EXPECT_EQ(bordro["satirlar"][1]["H.Esas Tutar"], "800.00");
   EXPECT_EQ(bordro["satirlar"][1]["Ocak"], "0.00");
   EXPECT_EQ(s("ogi-mahsup a --yil 2005 --bicim json").Json()["satirlar"][1]["Ocak"], nullptr);
-  EXPECT_EQ(s("ogi-kalan a --yil 2005 --bicim json").Json()["toplam"]["Toplam Kalan"], "334.00");
+  EXPECT_EQ(s("ogi-kalan a --yil 2005 --bicim json").Json()["toplam"]["topkalan"], "334.00");
   EXPECT_EQ(s("ogi-bordro a --yil 2005 --ay 1 --urun odeme --bicim json").Json()["satirlar"][0]["Net Ödenen"], "0.00");
   EXPECT_THAT(s("ogi-bordro a --yil 2005 --ay 1 --tur ayrilan").mesaj, HasSubstr("Listelenecek Kayıt Bulunamadı"));
   EXPECT_EQ(s("ogi-bordro a --yil 2005 --ay 1 --tur baska").durum, 2);

@@ -7,8 +7,6 @@
 // Choices that outlive a run are read when it opens and written when it closes.
 #pragma once
 
-#include <set>
-
 #include "documents/belgetanimi.h"
 #include "payroll/hazirlik/parametredeposu.h"
 #include "ui/form.h"
