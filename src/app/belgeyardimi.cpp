@@ -16,6 +16,7 @@ constexpr const char* SayfaKalibi =
     "<h2>Nasıl yapılır</h2>\n"
     "<ol>\n"
     "<li>Alanları doldurunuz. Bitiş alanlarındaki ZZZZ herkes demektir.</li>\n"
+    "%5"
     "<li><b>F6</b> listeyi ekranda gösterir, <b>F8</b> <a href=\"yzcsetup.html\">Yazıcı Ayarları</a> ekranını açar, "
     "<b>F9</b> Excel dosyası hazırlayıp açar.</li>\n"
     "</ol>\n"
@@ -24,6 +25,11 @@ constexpr const char* SayfaKalibi =
     "alanında "
     "rehberi açar, <b>Enter</b> sonraki alana geçer, <b>Esc</b> kapatır.</p>\n"
     "</body></html>\n";
+
+constexpr const char* ListeSozu =
+    "<li><b>F5</b> listeyi alanların altında yeniler ve satırlara geçer; altında toplamlar durur. <b>Ctrl+F</b> "
+    "listede "
+    "arar.</li>\n";
 
 // What is said of a field: its hint, its choices, or the limits of its number.
 QString Aciklama(const Alan& alan) {
@@ -46,7 +52,7 @@ QString BelgeYardimi(const BelgeTanimi& belge) {
   const QString giris = Yazi(belge.menu).replace('/', " > ") + " > " + Yazi(belge.menuBasligi);
   return QString::fromUtf8(SayfaKalibi)
       .arg(Yazi(belge.pencereBasligi).toHtmlEscaped(), Yazi(belge.komutYardimi).toHtmlEscaped(), giris.toHtmlEscaped(),
-           satirlar);
+           satirlar, *belge.liste.komut == '\0' ? "" : ListeSozu);
 }
 
 }  // namespace belvani

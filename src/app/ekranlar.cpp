@@ -13,6 +13,7 @@
 #include "screens/core/muhbil.h"
 #include "screens/core/yapifrm.h"
 #include "screens/core/yedekfrm.h"
+#include "screens/declarations/eksikgun.h"
 #include "screens/declarations/yaylik.h"
 #include "screens/deductions/ozgipar.h"
 #include "screens/deductions/ozgvharc.h"
@@ -90,10 +91,12 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Bordro", "Bordro Hazırlık", "brdhazir", "bordro", "", Yap<brdhazir>},
 
       {"Bildirgeler", "Aylık Bildirge (ek 9-4a)", "yaylik", "tablo", "Aylık Bildirge EK-3", Yap<yaylik>},
-      {"Bildirgeler", "Eksik Gün Bildirim Formu EK-10", "ek10"},
-      {"Bildirgeler", "Aylık Bildirge", "aylik", "", "Aylık Bildirge Ek-1,Ek-2"},
-      {"Bildirgeler", "S.G.D.P. Bildirgesi", "sgdp"},
-      {"Bildirgeler", "Dört Aylık Bildirge", "dortaylik", "", "Dört Aylık Bordrosu"},
+      {"Bildirgeler", "Eksik Gün Bildirim Formu EK-10", "eksikgun", "takvim", "", Yap<eksikgun>},
+      {"Bildirgeler", "Aylık Bildirge", "yaylik", "tablo", "Aylık Bildirge Ek-1,Ek-2", Yap<yaylik>, MenuIslemi::Yok,
+       FormModu::Serbest, "", "aylik"},
+      {"Bildirgeler", "S.G.D.P. Bildirgesi", "yaylik", "tablo", "", Yap<yaylik>, MenuIslemi::Yok, FormModu::Serbest,
+       "sgdp", "sgdp"},
+      {"Bildirgeler", "Dört Aylık Bildirge", "dortay", "", "Dört Aylık Bordrosu"},
       {"Bildirgeler", "İşçi Giriş Bildirim Listesi (Ek-1)", "ek1"},
       {"Bildirgeler", "İşçi Çıkış Bildirim Listesi (Ek-2)", "ek2"},
       {"Bildirgeler", "Dizi Pusulası", "dizipus"},
@@ -169,11 +172,12 @@ std::vector<EkranKaydi> Kayitlar() {
   };
 }
 
-// Where the menu has its caption, else at the end of its menu.
+// Where the menu has its caption, with the screen that stands there already, else at the end of its menu.
 void YerineKoy(std::vector<EkranKaydi>& tablo, EkranKaydi kayit) {
   const auto ayni = [&](const EkranKaydi& e) { return e.menu == kayit.menu && e.baslik == kayit.baslik; };
   if (const auto yeri = std::ranges::find_if(tablo, ayni); yeri != tablo.end()) {
     kayit.kisayol = yeri->kisayol;
+    if (yeri->yap != nullptr) kayit.yap = yeri->yap;
     *yeri = std::move(kayit);
     return;
   }

@@ -67,6 +67,11 @@ int AylikBildirge::BelgeTuru() const {
   return BastakiSayi(std::string_view(belgeTurleri_[std::size_t(bildirge_.secim.belgeTuru)]).substr(0, KodHanesi));
 }
 
+void AylikBildirge::BelgeTuruSec(int no) {
+  const auto yer = std::ranges::find(belgeTurleri_, IkiHane(no), [](const auto& t) { return t.substr(0, KodHanesi); });
+  if (yer != belgeTurleri_.end()) bildirge_.secim.belgeTuru = int(yer - belgeTurleri_.begin());
+}
+
 Durum AylikBildirge::Hesapla(Ilerleme* ilerleme) {
   OranlariYukle();
   Durum hesaplandi = Koru([&] { AylikBildirgeHesapla(ilerleme); });

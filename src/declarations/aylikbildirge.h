@@ -23,6 +23,9 @@
 
 namespace belvani {
 
+// Document type of working pensioners, under the support premium.
+constexpr int DestekPrimiBelgesi = 2;
+
 class AylikBildirge {
  public:
   // `yasal` is read at each calculation and must outlive this.
@@ -42,6 +45,8 @@ class AylikBildirge {
   BildirgeSecimi& Secim() { return bildirge_.secim; }
   // The chosen document type; 0 for all.
   int BelgeTuru() const;
+  // Chooses a type by its number, where the lists have it.
+  void BelgeTuruSec(int no);
 
   // "Hesapla", F5, and every change of a list. After a fault, and when it was stopped (Vazgecilmis),
   // grid and totals are empty.

@@ -1,6 +1,7 @@
 #include "registry/belgeler.h"
 
 #include "deductions/ogibelgeleri.h"
+#include "declarations/bildirimbelgeleri.h"
 #include "documents/bordrobelgeleri.h"
 #include "severance/kidembelgeleri.h"
 #include "notices/bildirimbelgeleri.h"
@@ -15,6 +16,8 @@ constexpr OdaBelgeleri Odalar[] = {
     BordroBelgeleri,    // the month's payroll
     BildirimBelgeleri,  // lists for the labour office and the insurance unit
     OgiBelgeleri,     // the special-expense refund
+    BordroBelgeleri,    // the month's payroll
+    BildirimBelgeleri,  // for the social-security body
 };
 
 const std::vector<BelgeTanimi>& Tablo() {

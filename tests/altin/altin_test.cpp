@@ -15,8 +15,8 @@ namespace {
 const Kagitlar& ButunKagitlar() {
   static const Kagitlar hepsi = [] {
     Kagitlar kagitlar;
-    for (const Kagitlar& grup : {KomutKagitlari(), CizilenListeler(), BildirgeKagitlari(), KisiKagitlari(),
-                                 OgiKagitlari(), YerlesimKagitlari()})
+    for (const Kagitlar& grup : {KomutKagitlari(), CizilenListeler(), BildirgeKagitlari(), BildirimKagitlari(),
+                                 KisiKagitlari(), OgiKagitlari(), YerlesimKagitlari()})
       kagitlar.insert(kagitlar.end(), grup.begin(), grup.end());
     std::ranges::stable_sort(kagitlar, {}, [](const Kagit& k) { return k.ay.Metin(); });
     return kagitlar;

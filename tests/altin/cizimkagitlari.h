@@ -8,8 +8,11 @@
 #include "altin/kagitlar.h"
 #include "altin/sayfametni.h"
 #include "bol.h"
+#include "core/session/aracibilgi.h"
 #include "declarations/aylikbildirge.h"
 #include "declarations/bildirgeformu.h"
+#include "declarations/dortaylikkagidi.h"
+#include "declarations/eksikgun.h"
 #include "declarations/formresimleri.h"
 #include "documents/agilistesi.h"
 #include "documents/icmal.h"
@@ -188,6 +191,58 @@ inline std::vector<FormSayfasi> EksikGunSayfalari(OrnekSirket& o) {
                     .arac = kagit.arac,
                     .muhasebeci = kagit.muhasebeci,
                     .kisiler = EksikGunKisileri(kagit.satirlar)});
+}
+
+// ---- four months, and missing days
+
+inline DortAylikKagidi DortAylik(OrnekSirket& o) {
+  const DortAySecimi secim{o.donem.yil, (o.donem.ay - 1) / DonemAyi + 1};
+  DortAylikKagidi kagit{.secim = secim,
+                        .firma = o.oturum.firma,
+                        .arac = AraciOku(o.oturum),
+                        .muhasebeci = MuhasebeciOku(o.oturum),
+                        .satirlar = DortAyHesapla(o.oturum.depo.db.IcMotor(), secim),
+                        .paraonda = o.oturum.firma.paraonda};
+  kagit.arac.kod = "007";
+  kagit.arac.isim1 = "Çözgü Taşeronluk";
+  return kagit;
+}
+
+// The same people again and again until there are `kisi`.
+template <class Satir>
+std::vector<Satir> Yinelenen(std::vector<Satir> satirlar, std::size_t kisi) {
+  const std::size_t ilk = satirlar.size();
+  for (std::size_t i = 0; satirlar.size() < kisi; ++i) satirlar.push_back(satirlar[i % ilk]);
+  satirlar.resize(kisi);
+  return satirlar;
+}
+
+inline DortAylikKagidi DortAylik(OrnekSirket& o, std::size_t kisi) {
+  DortAylikKagidi kagit = DortAylik(o);
+  kagit.satirlar = Yinelenen(kagit.satirlar, kisi);
+  return kagit;
+}
+
+inline EksikGunKagidi EksikGun(OrnekSirket& o, std::size_t kisi) {
+  EksikGunKagidi kagit = EksikGunKagidiYap(o.Kaynak(), o.donem.yil, o.donem.ay);
+  kagit.form.kisiler = Yinelenen(kagit.form.kisiler, kisi);
+  kagit.primler = Yinelenen(kagit.primler, kisi);
+  return kagit;
+}
+
+inline Kagitlar BildirimKagitlari() {
+  return {{UcuncuDonem, "dort-aylik.cizim.txt",
+           [](OrnekSirket& o) { return CizimMetni(DortAylikSayfalari(DortAylik(o))); }},
+          {SonAy, "dort-aylik-25.txt", [](OrnekSirket& o) { return AlanMetni(DortAylikSayfalari(DortAylik(o, 25))); }},
+          {SonAy, "dort-aylik-26.txt", [](OrnekSirket& o) { return AlanMetni(DortAylikSayfalari(DortAylik(o, 26))); }},
+          {BirinciDonem, "dort-aylik-26.metin",
+           [](OrnekSirket& o) { return MetinSayfalari(DortAyYazdir(DortAylik(o, 26))); }},
+          {SonAy, "eksik-gun.cizim.txt",
+           [](OrnekSirket& o) {
+             return CizimMetni(EksikGunSayfalari(EksikGunKagidiYap(o.Kaynak(), o.donem.yil, o.donem.ay)));
+           }},
+          {SonAy, "eksik-gun-20.txt", [](OrnekSirket& o) { return AlanMetni(EksikGunSayfalari(EksikGun(o, 20))); }},
+          {SonAy, "eksik-gun-21.txt", [](OrnekSirket& o) { return AlanMetni(EksikGunSayfalari(EksikGun(o, 21))); }}};
 }
 
 inline Kagitlar BildirgeKagitlari() {

@@ -31,6 +31,12 @@ inline Kagit IzinListesi(const Ay& ay, const char* tip, const char* bicim, const
           }};
 }
 
+inline Kagit DortAylikListesi(const Ay& ay, const char* bicim) {
+  return {ay, std::string("dort-aylik.") + bicim, [=](OrnekSirket& o) {
+            return o.Komut("dort-aylik", "--donem " + std::to_string((ay.ay - 1) / 4 + 1) + " --bicim " + bicim);
+          }};
+}
+
 // Apprentices keep the file from being written; they are taken out, as its user would.
 inline Kagit EBildirge(const Ay& ay, const std::string& haric) {
   return {ay, "bildirge.xml", [=](OrnekSirket& o) {
@@ -111,6 +117,12 @@ inline Kagitlar KomutKagitlari() {
                              Liste(UcuncuDonem, "muhasebe-fisi", "csv"),
                              Liste(SonAy, "muhasebe-fisi", "journal"),
                              Kitap(SonAy, "muhasebe-fisi"),
+                             DortAylikListesi(BirinciDonem, "json"),
+                             DortAylikListesi(SonAy, "csv"),
+                             DortAylikListesi(SonAy, "metin"),
+                             Liste(SonAy, "eksik-gun", "json"),
+                             Liste(BirinciDonem, "eksik-gun", "metin"),
+                             Kitap(SonAy, "eksik-gun"),
                              Kitap(SonAy, "bordro", "--kod 001 004"),
                              Kitap(SonAy, "icmal"),
                              Kitap(SonAy, "agi", "--kod 009 011"),

@@ -4,13 +4,25 @@
 
 namespace belvani {
 
+namespace {
+
+Arac Simdiki(const std::optional<Arac>& kayit) {
+  if (kayit) return *kayit;
+  Arac bos;
+  bos.kod = "000";
+  return bos;
+}
+
+}  // namespace
+
 Okunan<Arac> AraciDuzenle(Oturum& o) {
   Veritabani& db = o.depo.db;
-  Okunan<Arac> araci{.ilk = db.Koru(std::optional<Arac>(), [&] { return Tablo<Arac>(db.IcMotor()).Bul(); }),
-                     .simdi = {}};
-  araci.simdi.kod = "000";
-  if (araci.ilk) araci.simdi = *araci.ilk;
-  return araci;
+  const auto kayit = db.Koru(std::optional<Arac>(), [&] { return Tablo<Arac>(db.IcMotor()).Bul(); });
+  return {.ilk = kayit, .simdi = Simdiki(kayit)};
+}
+
+Arac AraciOku(Motor& motor) {
+  return Simdiki(Tablo<Arac>(motor).Bul());
 }
 
 Yazim<Arac> AraciKaydet(Oturum& o, const Okunan<Arac>& araci) {

@@ -12,6 +12,7 @@ Okunan<Arac> AraciDuzenle(Oturum& o);
 inline Arac AraciOku(Oturum& o) {
   return AraciDuzenle(o).simdi;
 }
+Arac AraciOku(Motor& motor);  // of an open store, for papers; throws MotorHatasi
 
 // Fails with "Aracı Bilgileri Kaydedilemedi", or with another user's change.
 Yazim<Arac> AraciKaydet(Oturum& o, const Okunan<Arac>& araci);

@@ -9,21 +9,25 @@ constexpr std::string_view Bolum = "Muhasebe";
 constexpr std::pair<const char*, std::string Muhasebeci::*> Anahtarlar[] = {
     {"adsoyad", &Muhasebeci::adsoyad}, {"tcno", &Muhasebeci::tcno}, {"sicil", &Muhasebeci::sicil}};
 
-IniDosyasi Dosya(const Oturum& o) {
-  return {o.FirmaDizini, "bordro.ini"};
+IniDosyasi Dosya(const VeriYolu& sirket) {
+  return {sirket, "bordro.ini"};
 }
 
 }  // namespace
 
-Muhasebeci MuhasebeciOku(const Oturum& o) {
+Muhasebeci MuhasebeciOku(const VeriYolu& sirket) {
   Muhasebeci m;
-  for (const auto& [anahtar, uye] : Anahtarlar) m.*uye = IniOku(Bolum, anahtar, "", Dosya(o));
+  for (const auto& [anahtar, uye] : Anahtarlar) m.*uye = IniOku(Bolum, anahtar, "", Dosya(sirket));
   return m;
+}
+
+Muhasebeci MuhasebeciOku(const Oturum& o) {
+  return MuhasebeciOku(o.FirmaDizini);
 }
 
 Durum MuhasebeciKaydet(const Oturum& o, const Muhasebeci& m) {
   for (const auto& [anahtar, uye] : Anahtarlar)
-    if (Durum d = IniYaz(Bolum, anahtar, m.*uye, Dosya(o)); !d) return d;
+    if (Durum d = IniYaz(Bolum, anahtar, m.*uye, Dosya(o.FirmaDizini)); !d) return d;
   return Tamam();
 }
 

@@ -17,6 +17,7 @@ struct Muhasebeci {
 };
 
 // What is not recorded is empty.
+Muhasebeci MuhasebeciOku(const VeriYolu& sirket);
 Muhasebeci MuhasebeciOku(const Oturum& o);
 
 Durum MuhasebeciKaydet(const Oturum& o, const Muhasebeci& m);

@@ -28,7 +28,7 @@ class TabloluForm final : public Belge {
  public:
   TabloluForm(YzcAyarlari ilk, Rapor tablo, FormYapanlar yapanlar);
 
-  std::string Baslik() const override { return Ayar().YzcBaslik; }
+  std::string Baslik() const override { return tablo_->baslik; }
   bool Bos() const override { return false; }  // without rows it is the empty form
   bool Kayitsiz() const override { return tablo_->Satirlar().empty(); }
   std::shared_ptr<const Rapor> Tablo() const override { return tablo_; }

@@ -26,6 +26,8 @@ constexpr auto kanun = Uye("kanun", &SecimFormu::kanun);
 constexpr auto mahiyet = Uye("mahiyet", &SecimFormu::mahiyet);
 }  // namespace secim
 
+constexpr const char* EmekliModu = "sgdp";
+
 constexpr std::string_view MahiyetAdlari[] = {"İptal", "Ek", "Asıl"};
 
 AlanGrubu SecimAlanlari() {
@@ -101,7 +103,11 @@ std::vector<SatirKolonu<BildirgeSatiri>> Kolonlar(int paraonda) {
 }  // namespace
 
 yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
-    : Form(baglam, "yaylik", QStringLiteral("Aylık Bildirge (EK-9  (4a))")),
+    : yaylik(baglam, parametreler, std::exchange(baglam.oturum.PencereTip, {}) == EmekliModu) {}
+
+yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler, bool emekliler)
+    : Form(baglam, "yaylik",
+           emekliler ? QStringLiteral("S.G.D.P. Bildirgesi") : QStringLiteral("Aylık Bildirge (EK-9  (4a))")),
       parametreler_(parametreler),
       mevzuat_(baglam.oturum, parametreler, baglam.bildirim),
       bildirge_(baglam.oturum, parametreler.yasal, baglam.bildirim),
@@ -148,7 +154,9 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler)
   auto kanunlar = bildirge_.KanunSecenekleri();
   std::ranges::replace(kanunlar, std::string(), std::string("(boş)"));  // of people without a law
   SecenekleriKoy(Denetim(secim::kanun), kanunlar);
-  Yukle(SecimFormu{.yil = std::int16_t(bildirge_.Secim().yil), .ay = std::uint8_t(bildirge_.Secim().ay)});
+  if (emekliler) bildirge_.BelgeTuruSec(DestekPrimiBelgesi);
+  const BildirgeSecimi& ilk = bildirge_.Secim();
+  Yukle(SecimFormu{.yil = std::int16_t(ilk.yil), .ay = std::uint8_t(ilk.ay), .belgeTuru = std::uint8_t(ilk.belgeTuru)});
   AlanDegisti = [this](AlanDenetimi& alan) { AlanDegisince(alan); };
   ToplamlariGoster();
 }

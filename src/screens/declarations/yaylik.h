@@ -3,6 +3,8 @@
 // cell by cell, and every way out starts from there. A selection that the grid was not made for stands above it in red,
 // and totals that an edit has changed are marked, with what was calculated in their tool tip.
 //
+// With the mode "sgdp" in the session's PencereTip it is the declaration of working pensioners.
+//
 //   F5 Hesapla    F8 Yazıcıya Yazdır    F9 Excel'e gönderim    F11 E-Bildirge Hazırla
 #pragma once
 
@@ -26,6 +28,7 @@ class yaylik : public Form {
   bool KendiligindenKaydet() override { return bildirge_.BirakilsinMi(); }
 
  private:
+  yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler, bool emekliler);
   QLabel* HataSatiri(const char* ad);
   QWidget* PrimTablosu();
   void Hesapla();

@@ -24,6 +24,10 @@ struct BordroluOrtam : EkranOrtami {
       sicil.AlanYaz("adi", std::string(ad));
       sicil.AlanYaz("girtar", Tarih(2008, 1, 1));
       EXPECT_TRUE(sicil.KayitYaz());
+      Imlec& kimlik = oturum.depo.kimlik;
+      kimlik.KayitEkle();
+      kimlik.AlanYaz("kod", std::string(kod));
+      EXPECT_TRUE(kimlik.KayitYaz());
       Imlec& brd = oturum.depo.brd;
       brd.KayitEkle();
       brd.AlanYaz("kod", std::string(kod));
@@ -33,6 +37,7 @@ struct BordroluOrtam : EkranOrtami {
       brd.AlanYaz("ng", std::int64_t(30 - ui));
       brd.AlanYaz("ui", std::int64_t(ui));
       brd.AlanYaz("brutkaz", Tutar(1000.0));
+      brd.AlanYaz("eksiksebebi", std::int64_t(ui));
       EXPECT_TRUE(brd.KayitYaz());
     }
   }
@@ -93,8 +98,10 @@ TEST(BelgeEkranlari, EveryPaperByItsKeys) {
     EkranOrtami::ModaldaYap([&] {
       auto& ayar = *QApplication::activeModalWidget()->findChild<yzcsetup*>();
       EXPECT_FALSE(AlanMetni(ayar, "YzcBaslik").empty());
-      EXPECT_EQ(AlanBul(ayar, "mod").Odaklar()[1]->isEnabled(), tanim.ekran != "agibrd") << "the text way";
-      EXPECT_EQ(AlanBul(ayar, "YzcSayfaNoYaz").Odak()->isEnabled(), tanim.ekran != "brdzarf");
+      if (tanim.menu == "Bordro") {  // lists and slips; forms of the law honour nothing but their way
+        EXPECT_EQ(AlanBul(ayar, "mod").Odaklar()[1]->isEnabled(), tanim.ekran != "agibrd") << "the text way";
+        EXPECT_EQ(AlanBul(ayar, "YzcSayfaNoYaz").Odak()->isEnabled(), tanim.ekran != "brdzarf");
+      }
       ortam.Bas(Qt::Key_F8);
     });
     ortam.Bas(Qt::Key_F8);
