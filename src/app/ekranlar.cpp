@@ -18,6 +18,9 @@
 #include "screens/deductions/ozgipar.h"
 #include "screens/deductions/ozgvharc.h"
 #include "screens/documents/belgeekrani.h"
+#include "screens/notices/dizipusu.h"
+#include "screens/notices/iab.h"
+#include "screens/notices/isguc.h"
 #include "screens/payroll/agifrm.h"
 #include "screens/payroll/brdhazir.h"
 #include "screens/payroll/devir.h"
@@ -99,9 +102,9 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Bildirgeler", "Dört Aylık Bildirge", "dortay", "", "Dört Aylık Bordrosu"},
       {"Bildirgeler", "İşçi Giriş Bildirim Listesi (Ek-1)", "ek1"},
       {"Bildirgeler", "İşçi Çıkış Bildirim Listesi (Ek-2)", "ek2"},
-      {"Bildirgeler", "Dizi Pusulası", "dizipus"},
-      {"Bildirgeler", "İşten Ayrılma Bildirimi (İAB)", "iab"},
-      {"Bildirgeler", "İşgücü Çizelgesi", "isgucu"},
+      {"Bildirgeler", "Dizi Pusulası", "dizipusu", "tablo", "", Yap<dizipusu>},
+      {"Bildirgeler", "İşten Ayrılma Bildirimi (İAB)", "iab", "cikis", "", Yap<iab>},
+      {"Bildirgeler", "İşgücü Çizelgesi", "isguc", "aile", "", Yap<isguc>},
 
       {"Viziteler", "Sigortalıya Ait Vizite", "vizite", "", "Sigortalı Vizite Kağıdı"},
       {"Viziteler", "Eş ve Çocuklara Vizite", "esvizite", "", "Eş ve Çocuklar için Vizite"},
@@ -173,9 +176,11 @@ std::vector<EkranKaydi> Kayitlar() {
 }
 
 // Where the menu has its caption, with the screen that stands there already, else at the end of its menu.
+// Where the menu has its caption, else at the end of its menu. A screen of its own stays in its place.
 void YerineKoy(std::vector<EkranKaydi>& tablo, EkranKaydi kayit) {
   const auto ayni = [&](const EkranKaydi& e) { return e.menu == kayit.menu && e.baslik == kayit.baslik; };
   if (const auto yeri = std::ranges::find_if(tablo, ayni); yeri != tablo.end()) {
+    if (yeri->yap != nullptr) return;
     kayit.kisayol = yeri->kisayol;
     if (yeri->yap != nullptr) kayit.yap = yeri->yap;
     *yeri = std::move(kayit);

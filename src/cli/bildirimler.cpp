@@ -63,6 +63,7 @@ void IabVer(Genel& genel, const IabSecenekleri& s) {
   if (!Degeri(bulunan)) throw KomutHatasi{s.personel + ": bu kodda personel yok"};
   const IabFormu& form = **bulunan;
   for (const Kusur& uyari : IabUyarilari(form)) genel.bildirim.KusuruGoster(uyari);
+  if (s.cikti.bicim == "metin" || s.cikti.bicim == "ham") throw KomutHatasi{IabMetinYok};
   if (s.cikti.bicim == "json") return Yaz(FormJson(form).dump(2) + "\n", s.cikti.dosya);
   BelgeYaz(*IabBelgesi({.form = form, .firma = oturum->firma}), s.cikti);
 }
@@ -75,7 +76,7 @@ void BildirimKomutlari(CLI::App& app, Genel& genel) {
   komut->add_option("KOD", s->kod, "şirket")->required();
   komut->add_option("PERSONEL", s->personel, "personel kodu")->required();
   komut->add_option("--tarih", s->tarih, "düzenleme tarihi, gg.aa.yyyy (verilmezse bugün)")->type_name("TARİH");
-  komut->add_option("--bicim", s->cikti.bicim, "json veya pdf")->check(CLI::IsMember({"json", "pdf"}));
+  komut->add_option("--bicim", s->cikti.bicim, "json veya pdf")->check(CLI::IsMember({"json", "pdf", "metin", "ham"}));
   komut->add_option("-o", s->cikti.dosya, "yazılacak dosya (json verilmezse ekrana; - standart çıktı)");
   komut->parse_complete_callback([s] {
     if (s->cikti.bicim == "pdf" && s->cikti.dosya.empty())

@@ -12,10 +12,9 @@ constexpr double SatirBoyu = 4.9;
 constexpr double BaslikBoyu = 5;
 constexpr double KutuBoyu = 9;
 constexpr int NoHanesi = 13;
-constexpr double HaneEni = 3.3;
-constexpr double HucreBoyu = 4.2;
+constexpr double HaneEni = 3.45;
 constexpr double SiraEni = 9;
-constexpr double NoEni = NoHanesi * HaneEni + 2;
+constexpr double NoEni = NoHanesi * HaneEni;
 constexpr double AdEni = (En - SiraEni) / 2 - NoEni;
 
 double Bas(FormKurucu& f, double y, const DiziSayfasi& s) {
@@ -55,9 +54,7 @@ double TabloBasi(FormKurucu& f, double y) {
 }
 
 void Kisi(FormKurucu& f, double x, double y, const std::string& ad, const DiziSatiri& satir) {
-  f.Basamaklar(ad + ".sskno",
-               {.x = x + 1, .y = y + (SatirBoyu - HucreBoyu) / 2, .sayi = NoHanesi, .en = HaneEni, .boy = HucreBoyu},
-               satir.sskno);
+  f.Basamaklar(ad + ".sskno", {.x = x, .y = y, .sayi = NoHanesi, .en = HaneEni, .boy = SatirBoyu}, satir.sskno);
   f.Alan(ad + ".adsoy", f.Icerisi({x + NoEni, y, AdEni, SatirBoyu}), satir.adsoy);
 }
 

@@ -15,7 +15,7 @@ namespace belvani {
 namespace {
 
 constexpr EkKolonu SiraKolonu{8, 4, "SIRA", "NO", MetinHizasi::Sag};
-constexpr EkKolonu KurulusKolonu{21, 4, "SOS.GÜV.", "KUR.KODU", MetinHizasi::Orta};
+constexpr EkKolonu KurulusKolonu{21, 8, "SOS.GÜV.", "KUR.KODU", MetinHizasi::Orta};
 constexpr EkKolonu SicilKolonu{61, 25, "SOSYAL GÜVENLİK", "SİCİL NO", MetinHizasi::Sol, 13};
 constexpr EkAnahtari KurulusAnahtari{"(9) SOSYAL GÜVENLİK KURULUŞ KODU",
                                      {"SSK", "EMEKLİ SANDIĞI", "BANKA ve DİĞERLERİ", "BAĞ-KUR"}};
@@ -27,7 +27,7 @@ const EkTanimi Ek1{"EK - 1   İŞÇİ GİRİŞ  BİLDİRİM LİSTESİ",
                     {28, 15, "BABA ADI", ""},
                     {28, 15, "DOĞUM YERİ", ""},
                     {23, 10, "DOĞUM", "TARİHİ", MetinHizasi::Orta},
-                    {15, 3, "CİN-", "SİYETİ", MetinHizasi::Orta},
+                    {15, 6, "CİN-", "SİYETİ", MetinHizasi::Orta},
                     {15, 5, "GÖREV", "KODU", MetinHizasi::Orta},
                     {24, 10, "İŞE GİRİŞ", "TARİHİ", MetinHizasi::Orta},
                     KurulusKolonu,
@@ -41,7 +41,7 @@ const EkTanimi Ek2{"EK - 2   İŞÇİ ÇIKIŞ  BİLDİRİM LİSTESİ",
                     {28, 15, "BABA ADI", ""},
                     {22, 10, "DOĞUM", "TARİHİ", MetinHizasi::Orta},
                     {22, 10, "ÇIKIŞ", "TARİHİ", MetinHizasi::Orta},
-                    {13, 4, "ÇIKIŞ", "KODU", MetinHizasi::Orta, 2},
+                    {13, 5, "ÇIKIŞ", "KODU", MetinHizasi::Orta, 2},
                     {34, 20, "ÇIKIŞ NEDENİ", ""},
                     KurulusKolonu,
                     SicilKolonu},

@@ -3,6 +3,7 @@
 // them anew, and their diff is read before it is committed.
 #include <set>
 
+#include "altin/bildirimkagitlari.h"
 #include "altin/kayit.h"
 #include "altin/komutkagitlari.h"
 #include "altin/ogikagitlari.h"
@@ -15,8 +16,9 @@ namespace {
 const Kagitlar& ButunKagitlar() {
   static const Kagitlar hepsi = [] {
     Kagitlar kagitlar;
-    for (const Kagitlar& grup : {KomutKagitlari(), CizilenListeler(), BildirgeKagitlari(), BildirimKagitlari(),
-                                 KisiKagitlari(), OgiKagitlari(), YerlesimKagitlari()})
+    for (const Kagitlar& grup :
+         {KomutKagitlari(), CizilenListeler(), BildirgeKagitlari(), BildirimKagitlari(), KisiKagitlari(),
+          OgiKagitlari(), BildirimKomutlari(), CizilenBildirimler(), YerlesimKagitlari()})
       kagitlar.insert(kagitlar.end(), grup.begin(), grup.end());
     std::ranges::stable_sort(kagitlar, {}, [](const Kagit& k) { return k.ay.Metin(); });
     return kagitlar;

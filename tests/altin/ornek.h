@@ -44,10 +44,13 @@ class OrnekSirket {
     donem = ay;
   }
 
-  // What `belvani-cli` prints for the month; what it says on standard error stands below, behind "!".
+  // What `belvani-cli` prints of the company; what it says on standard error stands below, behind "!".
+  std::string SirketKomutu(const std::string& komut, const std::string& secenekler) const {
+    return Calistir("'" BELVANI_CLI "' --veri '" + dizin_.Yol() + "' " + komut + " ORNEK " + secenekler);
+  }
+  // The same for the month.
   std::string Komut(const std::string& komut, const std::string& secenekler) const {
-    return Calistir("'" BELVANI_CLI "' --veri '" + dizin_.Yol() + "' " + komut + " ORNEK --yil " +
-                    std::to_string(donem.yil) + " " + secenekler);
+    return SirketKomutu(komut, "--yil " + std::to_string(donem.yil) + " " + secenekler);
   }
   std::string AylikKomut(const std::string& komut, const std::string& secenekler) const {
     return Komut(komut, "--ay " + std::to_string(donem.ay) + " " + secenekler);

@@ -69,6 +69,8 @@ inline std::vector<Sahne> Sahneler() {
   arkasinda("puantajda", "brdhazir", "F8");
   arkasinda("bildirgede", "yaylik", "F5");
   arkasinda("yzckopy", "yaylik", "F5 F8");
+  arkasinda("pusulada", "dizipusu", "F5");
+  arkasinda("ayrılmada", "iab", "Ctrl+Home");
   arkasinda("kullanıcıda", "kulfrm", "Ctrl+Home");
   arkasinda("aylarda", "kartxfrm", "Ctrl+Home");
   arkasinda("caride", "percari", "Ctrl+Home");

@@ -14,7 +14,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-// Two people with a month of pay.
+// Two people with a month of pay, who come and leave in it.
 struct BordroluOrtam : EkranOrtami {
   BordroluOrtam() {
     for (const auto& [kod, ad, ui] : {std::tuple("001", "Işıl", 2), std::tuple("002", "Şükrü", 0)}) {
@@ -22,7 +22,8 @@ struct BordroluOrtam : EkranOrtami {
       sicil.KayitEkle();
       sicil.AlanYaz("kod", std::string(kod));
       sicil.AlanYaz("adi", std::string(ad));
-      sicil.AlanYaz("girtar", Tarih(2008, 1, 1));
+      sicil.AlanYaz("girtar", Tarih(2009, 7, 1));
+      sicil.AlanYaz("ciktar", Tarih(2009, 7, 31));
       EXPECT_TRUE(sicil.KayitYaz());
       Imlec& kimlik = oturum.depo.kimlik;
       kimlik.KayitEkle();

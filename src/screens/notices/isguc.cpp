@@ -1,0 +1,134 @@
+#include "screens/notices/isguc.h"
+
+#include <QGroupBox>
+
+#include "core/store/koru.h"
+#include "documents/secimalanlari.h"
+#include "notices/isgucukagidi.h"
+#include "screens/notices/grupbasligi.h"
+#include "ui/basim.h"
+
+namespace belvani {
+namespace {
+
+constexpr int AdEni = 190;
+constexpr int SayiEni = 58;
+constexpr double EnCokSayi = 999'999;
+constexpr int YerHarfi = 120;
+constexpr int IletisimHarfi = 40;
+
+AlanGrubu BaslikGrubu() {
+  const AlanEki genis{.harf = 40};
+  return {"İşyeri",
+          {{Uye("isyeriNo", &IsgucuBasligi::isyeriNo, 60), "İşyeri No", genis},
+           {Uye("yil", &IsgucuBasligi::yil), "Yıl", {.enAz = IlkBelgeYili, .enCok = SonBelgeYili, .harf = 6}},
+           {Uye("adres", &IsgucuBasligi::adres, YerHarfi), "Adres", genis},
+           {Uye("ay", &IsgucuBasligi::ay), "Ay", {.liste = AyAdlari, .listeTabani = 1}},
+           {Uye("telefon", &IsgucuBasligi::telefon, IletisimHarfi), "Telefon", genis},
+           {Uye("faks", &IsgucuBasligi::faks, IletisimHarfi), "Faks", {.harf = 24}},
+           {Uye("eposta", &IsgucuBasligi::eposta, IletisimHarfi), "E-Mail", genis},
+           {Uye("web", &IsgucuBasligi::web, IletisimHarfi), "Web", {.harf = 24}}},
+          2};
+}
+
+struct SayiKolonu {
+  const char* adlar[4];  // in each group
+  const char* baslik;
+  std::int32_t IsgucuSayisi::*uye;
+};
+constexpr SayiKolonu SayiKolonlari[] = {{{"e1", "e2", "e3", "e4"}, "E.", &IsgucuSayisi::erkek},
+                                        {{"k1", "k2", "k3", "k4"}, "K.", &IsgucuSayisi::kadin},
+                                        {{"t1", "t2", "t3", "t4"}, "T.", &IsgucuSayisi::toplam}};
+
+std::vector<SatirKolonu<IsgucuSatiri>> Kolonlar(std::span<const std::string_view> satirAdlari) {
+  std::vector<SatirKolonu<IsgucuSatiri>> kolonlar{AdKolonu<IsgucuSatiri>("Açıklama", AdEni, satirAdlari)};
+  kolonlar.front().ad = "ack";
+  for (std::size_t g = 0; g < IsgucuSatiri().size(); ++g)
+    for (const SayiKolonu& k : SayiKolonlari)
+      kolonlar.push_back(UyeKolonuYap<IsgucuSatiri>(k.adlar[g], k.baslik, SayiEni,
+                                                    [ g, uye = k.uye ](auto& satir) -> auto& { return satir[g].*uye; },
+                                                    {.enCok = EnCokSayi}));
+  return kolonlar;
+}
+
+}  // namespace
+
+isguc::isguc(EkranBaglami& baglam)
+    : Form(baglam, "isguc", QStringLiteral("İşgücü Çizelgesi")),
+      liste1_(new dclist(baglam.bildirim, this)),
+      liste2_(new dclist(baglam.bildirim, this)),
+      satirlar_(*liste1_, Kolonlar(IsgucuSatirlari)),
+      ayrimlar_(*liste2_, Kolonlar(IsgucuAyrimSatirlari)),
+      cizelge_(BosCizelge(baglam.oturum.firma)) {
+  liste1_->setObjectName("dclist1");
+  liste2_->setObjectName("dclist2");
+  Govde()->addWidget(GrupYap(BaslikGrubu()));
+  Govde()->addWidget(ListeKutusu(QStringLiteral("Çizelge"), *liste1_, IsgucuGruplari, int(IsgucuSatirlari.size())));
+  Govde()->addWidget(
+      ListeKutusu(Yazi(IsgucuAyrimBasligi), *liste2_, IsgucuAyrimGruplari, int(IsgucuAyrimSatirlari.size())));
+  Govde()->addStretch(1);
+  Komutlar({{.tus = Qt::Key_F5, .dugme = "Kayıtlardan Doldur", .simge = "calistir", .islev = [this] { Doldur(); }},
+            {.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır", .simge = "yazici", .islev = [this] { Yazdir(); }},
+            {.tus = Qt::Key_F9, .dugme = " Excel'e Gönder", .simge = "tablo", .islev = [this] { ExceleGonder(); }}});
+  Yukle(cizelge_.baslik);
+  Goster();
+}
+
+QWidget* isguc::ListeKutusu(const QString& baslik, dclist& liste, std::span<const std::string_view> gruplar,
+                            int satir) {
+  liste.Editable(true);
+  liste.YeniSatirli(false);
+  liste.horizontalHeader()->setSectionsClickable(false);
+  liste.HucreDegisti = [this](int, const QString&) { yazildi_ = true; };
+  auto* kutu = new QGroupBox(baslik.trimmed(), this);
+  auto* duzen = new QVBoxLayout(kutu);
+  duzen->setSpacing(0);
+  duzen->addWidget(new GrupBasligi(liste, 1, int(std::size(SayiKolonlari)), gruplar, kutu));
+  duzen->addWidget(&liste);
+  SatirlaraYerAc(liste, satir);
+  return kutu;
+}
+
+void isguc::Goster() {
+  satirlar_.Doldur({cizelge_.satirlar.begin(), cizelge_.satirlar.end()});
+  ayrimlar_.Doldur({cizelge_.ayrimlar.begin(), cizelge_.ayrimlar.end()});
+}
+
+bool isguc::KendiligindenKaydet() {
+  return !yazildi_ || Bildirimi().Soru("Çizelgeye yazılanlar saklanmaz.\nEkran Kapatılsın mı ?");
+}
+
+std::optional<IsgucuCizelgesi> isguc::Okunan() {
+  if (!liste1_->OkUpdateData() || !liste2_->OkUpdateData()) return std::nullopt;
+  IsgucuCizelgesi cizelge = cizelge_;
+  if (!Oku(cizelge.baslik)) return std::nullopt;
+  for (std::size_t i = 0; i < cizelge.satirlar.size(); ++i) cizelge.satirlar[i] = satirlar_.Oku(i, cizelge.satirlar[i]);
+  for (std::size_t i = 0; i < cizelge.ayrimlar.size(); ++i) cizelge.ayrimlar[i] = ayrimlar_.Oku(i, cizelge.ayrimlar[i]);
+  return cizelge;
+}
+
+// Rows that the store does not know stay as they are typed; the others are asked about when something stands in them.
+void isguc::Doldur() {
+  auto cizelge = Okunan();
+  if (!cizelge) return;
+  const IsgucuSatiri bos{};
+  const bool dolu = cizelge->satirlar[BelirsizSureliSirasi] != bos || cizelge->satirlar[OzurluSirasi] != bos;
+  if (yazildi_ && dolu &&
+      !Bildirimi().Soru("Belirsiz Süreli ve Özürlü satırları kayıtlardan doldurulacak.\nDevam Edilsin mi ?"))
+    return;
+  const auto uyarilar = Koru([&] { return CizelgeyiDoldur(Oturumu().depo.db.IcMotor(), *cizelge); });
+  if (!Oldu(uyarilar)) return;
+  cizelge_ = std::move(*cizelge);
+  Goster();
+  for (const Kusur& uyari : *uyarilar) Bildirimi().KusuruGoster(uyari);
+}
+
+void isguc::Yazdir() {
+  if (const auto cizelge = Okunan()) BelgeBas(Baglam(), *IsgucuBelgesi(*cizelge));
+}
+
+void isguc::ExceleGonder() {
+  if (const auto cizelge = Okunan()) BelgeExceleGonder(Baglam(), *IsgucuBelgesi(*cizelge));
+}
+
+}  // namespace belvani
