@@ -158,6 +158,14 @@ void YarimlariSupur(const std::string& dizin, const char* is) {
     if (YarimDizinAdi(ad, is)) (void)YarimDiziniSil(dizin, ad);
 }
 
+// Never over one that is there. Some network disks know no second name of a file.
+bool AdVer(const std::string& yeni, const std::string& yol) {
+  if (::link(yeni.c_str(), yol.c_str()) == 0) return true;
+  if (errno != EEXIST && ::access(yol.c_str(), F_OK) != 0) return ::rename(yeni.c_str(), yol.c_str()) == 0;
+  errno = EEXIST;
+  return false;
+}
+
 }  // namespace
 
 std::string KardesDosyasi(KardesTuru tur, const std::string& dizin) {
@@ -188,7 +196,7 @@ Durum KardesYarat(KardesTuru tur, const std::string& dizin) {
   if (!yarim) return yarim.Kusuru();
   const std::string yeni = yarim->Yol() + Tanimi(tur).dosya;
   if (Durum kuruldu = DepoyuKur(tur, yeni); !kuruldu) return kuruldu;
-  if (::link(yeni.c_str(), yol.c_str()) != 0)  // never over one that is there
+  if (!AdVer(yeni, yol))
     return errno == EEXIST ? Kusur{"Bu dizinde zaten var: " + yol} : DosyaHatasi(yol, "dosya kurulamadı", errno);
   DiziniDiskeIndir(ust);
   return Tamam();

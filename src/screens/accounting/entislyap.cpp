@@ -27,15 +27,11 @@ AlanGrubu Sirket() {
   return {"İşletme Defteri", {{alan::islfirma, "İşletme Şirketi", {.harf = 46}}}};
 }
 
-AlanGrubu Hareketler() {
-  return {"Hareketler",
-          {{alan::tarih, "Entegre Tarihi"},
-           {alan::ack, "Açıklama"},
-           {alan::brut, "Brüt Ücret"},
-           {alan::ucretgrup, "Grup"},
-           {alan::prim, "SSK Primi+İşsizlik"},
-           {alan::sskgrup, "Grup"}},
-          2};
+// Each amount with its group.
+std::vector<AlanGrubu> Hareketler() {
+  return {{"Hareketler", {{alan::tarih, "Entegre Tarihi"}, {alan::ack, "Açıklama"}}, 2},
+          {"Ücretler", {{alan::brut, "Brüt Ücret"}, {alan::ucretgrup, "Grup"}}, 2},
+          {"Primler", {{alan::prim, "SSK Primi+İşsizlik"}, {alan::sskgrup, "Grup"}}, 2}};
 }
 
 }  // namespace
@@ -46,7 +42,7 @@ entislyap::entislyap(EkranBaglami& baglam) : Form(baglam, "entislyap", QStringLi
   dugme->setObjectName("firmasec");
   static_cast<QGridLayout*>(sirket->layout())->addWidget(dugme, 0, 2, Qt::AlignLeft);
   Govde()->addWidget(sirket);
-  Govde()->addWidget(GrupYap(Hareketler()));
+  for (const AlanGrubu& grup : Hareketler()) Govde()->addWidget(GrupYap(grup));
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Tamam", .islev = [this] { Kaydet(); }},
             {.komut = FormKomutu::Kapat, .dugme = "Vazgeç"}});
   const Oturum& o = Oturumu();

@@ -124,7 +124,9 @@ QWidget* entyap::ToplamSatiri() {
 }
 
 // The next number and the names of accounts. Books that cannot be opened are told; the voucher is made all the same.
+// Whoever has chosen none keeps them elsewhere: a line says so, and no box at every opening.
 void entyap::MuhasebeyiOku() {
+  if (MuhasebeSirketi(Oturumu()).empty()) return;
   const auto muhasebe = MuhasebeyiAc(KardesDizini(Oturumu(), MuhasebeSirketi(Oturumu())));
   if (!Oldu(muhasebe)) return;
   if (auto plan = Koru([&] { return HesapPlani::Oku(**muhasebe); }); Oldu(plan)) plan_ = std::move(*plan);
@@ -170,6 +172,7 @@ void entyap::Goster() {
   bakiye_->style()->unpolish(bakiye_);
   bakiye_->style()->polish(bakiye_);
   QStringList eksikler;
+  if (MuhasebeSirketi(Oturumu()).empty()) eksikler += QStringLiteral("Muhasebe şirketi seçilmemiş, fiş işlenemez");
   for (const Kusur& kusur : fis_.uyarilar) eksikler += Yazi(kusur.metin);
   eksikler_->setText(eksikler.join('\n'));
   eksikler_->setVisible(!eksikler.isEmpty());
