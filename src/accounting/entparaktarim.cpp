@@ -23,12 +23,6 @@ std::int64_t Sayi(const AktarimDosyasi& dosya, const AktarimSatiri& satir, std::
   return sira < 0 ? 0 : TamDegeri(satir.degerler[std::size_t(sira)]);
 }
 
-Durum KolonlariDenetle(const AktarimDosyasi& dosya) {
-  if (dosya.KolonSirasi("grupno") >= 0) return Kusur{"grupno dosyada verilmez, grup ve no sütunlarından yapılır"};
-  if (dosya.KolonSirasi("no") < 0) return Kusur{"no sütunu yok"};
-  return Tamam();
-}
-
 void SatirlariDenetle(AktarimDosyasi& dosya) {
   std::set<std::string> anahtarlar;
   for (const AktarimSatiri& satir : dosya.satirlar) {
@@ -63,6 +57,7 @@ Sonuc<std::optional<HesapPlani>> PlanOku(const Oturum& o, Kusurlar& uyarilar) {
 }
 
 Durum SatirlariYaz(Motor& motor, AktarimDosyasi& dosya, const std::optional<HesapPlani>& plan, AktarimSonucu& sonuc) {
+  if (!dosya.sorunlar.empty()) return Tamam();
   Tablo<Entpar> tablo(motor);
   for (const AktarimSatiri& satir : dosya.satirlar) {
     const std::string anahtar = EntparAnahtari(dosya.Metin(satir, "grup"), std::size_t(Sayi(dosya, satir, "no")));
@@ -82,7 +77,8 @@ Durum SatirlariYaz(Motor& motor, AktarimDosyasi& dosya, const std::optional<Hesa
 Sonuc<AktarimSonucu> EntparAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi kip) {
   auto dosya = AktarimDosyasiOku(csv, {TabloBul(Entpar::TabloAdi)}, entpar::grup.ad, AnahtarKurali::TekrarEder);
   if (!dosya) return dosya.Kusuru();
-  if (const Durum kolonlar = KolonlariDenetle(*dosya); !kolonlar) return kolonlar.Kusuru();
+  dosya->KolonIste(entpar::no.ad);
+  dosya->KolonYasakla(entpar::grupno.ad, "dosyada verilmez, grup ve no sütunlarından yapılır");
   SatirlariDenetle(*dosya);
   Kusurlar uyarilar;
   const auto plan = PlanOku(o, uyarilar);

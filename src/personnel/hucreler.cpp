@@ -63,8 +63,8 @@ void AktarimDosyasi::SorunEkle(const AktarimSatiri& satir, std::string_view alan
   if (const int sira = KolonSirasi(alan); sira >= 0) {
     const AktarimKolonu& kolon = kolonlar[std::size_t(sira)];
     soylenenler.insert({satir.satirNo, kolon.alan->ad});
-    kusur.alan = Tutamak<Sicil, Kimlik, Esco, Firma, Muaf, Indir, Sendika, Kaztan, Brd, Dvr, Cari>(kolon.tablo->ad,
-                                                                                                   kolon.alan->ad);
+    kusur.alan = Tutamak<Sicil, Kimlik, Esco, Firma, Muaf, Indir, Sendika, Kaztan, Brd, Dvr, Cari, Entpar>(
+        kolon.tablo->ad, kolon.alan->ad);
   }
   sorunlar.push_back(std::move(kusur));
 }

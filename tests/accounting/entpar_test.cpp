@@ -102,8 +102,8 @@ TEST_F(EntparTesti, BroughtInFromAFile) {
 }
 
 TEST_F(EntparTesti, FaultsOfAFileWriteNothing) {
-  for (const auto& [csv, kusur] : {std::pair("grup,yer\nA,5\n", "no sütunu yok"),
-                                   {"grup,grupno,no\nA,A000,0\n", "grupno dosyada verilmez"},
+  for (const auto& [csv, kusur] : {std::pair("grup,yer\nA,5\n", "no: bu sütun dosyada olmalı"),
+                                   {"grup,grupno,no\nA,A000,0\n", "grupno: dosyada verilmez"},
                                    {"grup,no\nA,10\n", "no: 0 ile 9 arasında olmalı"},
                                    {"grup,no,yer\nA,1,22\n", "yer: 0 ile 21 arasında olmalı"},
                                    {"grup,no,ba\nA,1,2\n", "ba: 0 ile 1 arasında olmalı"},

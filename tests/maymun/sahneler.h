@@ -75,6 +75,7 @@ inline std::vector<Sahne> Sahneler() {
   arkasinda("aylarda", "kartxfrm", "Ctrl+Home");
   arkasinda("caride", "percari", "Ctrl+Home");
   arkasinda("devirde", "perdev", "Ctrl+Home");
+  arkasinda("Muhpen", "entpar", "Tab Tab Tab Tab Tab F2");
   return sahneler;
 }
 
