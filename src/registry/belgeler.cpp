@@ -1,23 +1,21 @@
 #include "registry/belgeler.h"
 
+#include "declarations/sigortabelgeleri.h"
 #include "deductions/ogibelgeleri.h"
-#include "declarations/bildirimbelgeleri.h"
 #include "documents/bordrobelgeleri.h"
-#include "severance/kidembelgeleri.h"
 #include "notices/bildirimbelgeleri.h"
+#include "severance/kidembelgeleri.h"
 
 namespace belvani {
 namespace {
 
 using OdaBelgeleri = std::span<const BelgeTanimi> (*)();
 constexpr OdaBelgeleri Odalar[] = {
-    BordroBelgeleri,  // the month's payroll
-    KidemBelgeleri,   // severance and notice
     BordroBelgeleri,    // the month's payroll
+    SigortaBelgeleri,   // premiums and missing days, for the social-security body
     BildirimBelgeleri,  // lists for the labour office and the insurance unit
-    OgiBelgeleri,     // the special-expense refund
-    BordroBelgeleri,    // the month's payroll
-    BildirimBelgeleri,  // for the social-security body
+    KidemBelgeleri,     // severance and notice
+    OgiBelgeleri,       // the special-expense refund
 };
 
 const std::vector<BelgeTanimi>& Tablo() {

@@ -1,8 +1,8 @@
 #include "screens/declarations/eksikgun.h"
 
 #include "core/store/koru.h"
-#include "declarations/bildirimbelgeleri.h"
 #include "declarations/eksikgun.h"
+#include "declarations/sigortabelgeleri.h"
 #include "printing/form/formbelgesi.h"
 #include "screens/declarations/yzckopy.h"
 #include "ui/basim.h"

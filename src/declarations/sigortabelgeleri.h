@@ -7,7 +7,7 @@
 
 namespace belvani {
 
-std::span<const BelgeTanimi> BildirimBelgeleri();
+std::span<const BelgeTanimi> SigortaBelgeleri();
 
 // The row of `eksikgun`, whose screen has more to it.
 const BelgeTanimi& EksikGunTanimi();

@@ -1,4 +1,4 @@
-#include "declarations/bildirimbelgeleri.h"
+#include "declarations/sigortabelgeleri.h"
 
 #include "declarations/dortaylik.h"
 #include "declarations/eksikgun.h"
@@ -53,7 +53,7 @@ const BelgeTanimi& EksikGunTanimi() {
   return tanim;
 }
 
-std::span<const BelgeTanimi> BildirimBelgeleri() {
+std::span<const BelgeTanimi> SigortaBelgeleri() {
   return Tablo();
 }
 
