@@ -17,8 +17,9 @@ Kusur Engel(std::string metin, AlanTutamagi alan = {}) {
   return {.metin = std::move(metin), .alan = alan};
 }
 
-std::optional<Kusur> CikisKusuru(const TransferFormu& form, const Sicil& kart) {
+std::optional<Kusur> CikisKusuru(const Oturum& o, const TransferFormu& form, const Sicil& kart) {
   if (!form.cikisYap) return std::nullopt;
+  if (o.SaltOkunur) return Engel(std::string("Personel Çıkışı Yapılamadı..\n") + SaltOkunurUyarisi);
   if (form.cikiskodu == 0 || CikisKoduMetni(form.cikiskodu).empty())
     return Engel("Çıkış Kodu Seçilmemiş..", transferformu::cikiskodu);
   if (form.ciktar.Bos()) return Engel("Çıkış Tarihi Hatalı..", transferformu::ciktar);
@@ -139,7 +140,7 @@ Sonuc<Transfer> PersonelTransfer(Oturum& o, const TransferFormu& yazilan) {
   const TransferFormu form = Temiz(yazilan);
   const auto kart = KartBul(o, form.kod);
   if (!kart) return Engel("Personel Bulunamadı...", transferformu::kod);
-  if (auto kusur = CikisKusuru(form, *kart)) return *std::move(kusur);
+  if (auto kusur = CikisKusuru(o, form, *kart)) return *std::move(kusur);
   const auto sirket = SirketBul(o.DataPath, form.hedef);
   if (sirket && AyniSirket(o, *sirket)) return Engel("Transfer Şirketi ile Şirketiniz Aynı..", transferformu::hedef);
   if (auto kusur = YeniKodKusuru(form.yeniKod)) return *std::move(kusur);
