@@ -60,6 +60,7 @@ done
 belvani personel-al ORNEK "$ornek/personel.csv"
 belvani personel-al ORNEK "$ornek/ozel.csv"
 belvani aile-al ORNEK "$ornek/aile.csv"
+belvani cari-al ORNEK "$ornek/cari.csv"
 
 # The books, told from the company's directory, so that the data path can be moved as a whole.
 belvani muhasebe-ac "$veri/.muhasebe/ORNEK"
@@ -72,6 +73,8 @@ yiliHazirla 2004 04 05 06 07
 for y in 2006 2008 2009; do
   yiliHazirla "$y" 01 02 03 04 05 06 07 08 09 10 11 12
 done
+
+belvani yillik-devir ORNEK --yil 2008
 
 "$cli" --veri "$veri" bordro ORNEK --yil 2009 --ay 12 || dur "bordro yazılamadı: 2009-12"
 echo "Örnek şirket: $veri/ORNEK (kullanıcı ornek, şifre ornek); silmek için: rm -r '$veri'"

@@ -21,6 +21,7 @@
 #include "documents/pusula.h"
 #include "ozluk/girisbildirgesi.h"
 #include "ozluk/ibraname.h"
+#include "payroll/devir/cari.h"
 #include "severance/kidembelgesi.h"
 
 namespace belvani::test {
@@ -304,7 +305,8 @@ inline Kagitlar KisiKagitlari() {
       {UcuncuDonem, "ibraname.cizim.txt", [](OrnekSirket& o) { return CizimMetni(IbranameSayfalari(CikisKagidi(o))); }},
       {UcuncuDonem, "ibraname.metin", [](OrnekSirket& o) { return IbranameMetni(CikisKagidi(o)); }},
       {UcuncuDonem, "ibraname-duz.metin",
-       [](OrnekSirket& o) { return IbranameMetni(CikisKagidi(o), CerceveTuru::Duz); }}};
+       [](OrnekSirket& o) { return IbranameMetni(CikisKagidi(o), CerceveTuru::Duz); }},
+      Cizim(SonAy, "cari", [](OrnekSirket& o) { return std::move(*CariBelgesi(o.oturum, "002")); })};
 }
 
 }  // namespace belvani::test

@@ -71,6 +71,12 @@ inline Kagitlar KidemKagitlari() {
            [](OrnekSirket& o) { return KitapMetni(o.GunDosyasi("kidem-icmal", "--baz 31.12.2009 --bicim xlsx")); }}};
 }
 
+// The account of a person.
+inline Kagit CariHesabi(const char* bicim, const std::string& kisi) {
+  return {SonAy, std::string("cari.") + bicim,
+          [=](OrnekSirket& o) { return o.GunKomutu("cari", kisi + " --bicim " + bicim); }};
+}
+
 inline Kagitlar DonemKagitlari(const Ay& ay) {
   return {Liste(ay, "bordro", "csv"),
           Liste(ay, "bordro", "metin"),
@@ -123,6 +129,9 @@ inline Kagitlar KomutKagitlari() {
                              Liste(SonAy, "eksik-gun", "json"),
                              Liste(BirinciDonem, "eksik-gun", "metin"),
                              Kitap(SonAy, "eksik-gun"),
+                             CariHesabi("metin", "002"),
+                             CariHesabi("csv", "004"),
+                             CariHesabi("json", "011"),
                              Kitap(SonAy, "bordro", "--kod 001 004"),
                              Kitap(SonAy, "icmal"),
                              Kitap(SonAy, "agi", "--kod 009 011"),

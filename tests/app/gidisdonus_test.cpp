@@ -203,11 +203,13 @@ void GidisDonus::Doldur(unsigned tohum) {
         {{"firmayil", I(2009)},
          {"firmaay", degerler.Sec(1, 12)},
          {"ondeger", std::string("Personel")},
+         {"tersfirma", false},
          {"versiyon", ProgramVersiyonu().Sayi()}});
   const std::string kod = "001";
   Satir(degerler, "sicil",
         {{"kod", kod},
          {"girtar", Tarih(2007, 3, 1)},
+         {"agi", true},
          {"ciktar", Tarih(2009, 6, 30)},
          {"tur", degerler.Sec(0, 1)},
          {"ucrettipi", degerler.Sec(0, 1)},
@@ -219,7 +221,13 @@ void GidisDonus::Doldur(unsigned tohum) {
   for (I yakinlik = 1; yakinlik <= 4; ++yakinlik) Satir(degerler, "esco", {{"kod", kod}, {"yakinlik", yakinlik}});
   Satir(degerler, "dvr", {{"kod", kod}, {"yil", I(2009)}, {"yilkod", "2009" + kod}});
   Satir(degerler, "cari", {{"kod", kod}, {"tarih", Tarih(2009, 5, 1)}, {"islem", I('B')}});
-  Satir(degerler, "brd", {{"kod", kod}, {"yil", I(2009)}, {"ay", I(3)}, {"no", I(1)}});
+  Satir(degerler, "brd",
+        {{"kod", kod},
+         {"yil", I(2009)},
+         {"ay", I(3)},
+         {"no", I(1)},
+         {"ogv", Tutar(1)},
+         {"katki", Tutar(1)}});  // what an upgrade would have filled
   Satir(degerler, "arac", {{"kod", std::string("000")}});
   for (const char* sendika : {"S1", "S2"}) Satir(degerler, "sendika", {{"kod", std::string(sendika)}});
   for (I no = 1; no <= 3; ++no) Satir(degerler, "indir", {{"no", no}});

@@ -45,7 +45,8 @@ kartxfrm::kartxfrm(EkranBaglami& baglam)
   setTabOrder(&YaziKutusu(brd::kod), &YaziKutusu(Yil));
   setTabOrder(&YaziKutusu(Yil), &Liste());
   Yukle(KartYili{std::int16_t(yil_)});
-  connect(&YaziKutusu(Yil), &xtext::Ayrildi, this, &kartxfrm::YilaGec);
+  // A message may come up, so it waits until the field is left.
+  connect(&YaziKutusu(Yil), &xtext::Ayrildi, this, &kartxfrm::YilaGec, Qt::QueuedConnection);
 }
 
 // A row that was refused stays with its year.
@@ -75,8 +76,8 @@ Brd kartxfrm::YeniKayit() const {
   yeni.kod = Kisi();
   yeni.yil = std::int16_t(yil_);
   yeni.no = 1;
-  const auto satirlar = KayitliSatirlar();
-  const int ay = satirlar.empty() ? 1 : satirlar.back().ay + 1;
+  const Brd* son = SonKayitli();
+  const int ay = son == nullptr ? 1 : son->ay + 1;
   yeni.ay = std::uint8_t(ay <= 12 ? ay : 0);
   return yeni;
 }

@@ -55,7 +55,7 @@ void percari::SatirlarGeliyor(const std::vector<Cari>& satirlar) {
 
 // Down the list as it stands; a movement finds its place among the days when the person comes up again.
 void percari::SatirlarDegisti() {
-  bakiyeler_ = Bakiyeler(KayitliSatirlar());
+  bakiyeler_ = Bakiyeler(Satirlar());
   for (int satir = 0; satir < Liste().ListCount(); ++satir)
     Liste().TextByName(satir, "bak", Yazi(BakiyeMetni(std::size_t(satir))));
 }

@@ -39,8 +39,8 @@ Sonuc<Silme> perdev::Sil(const Dvr& satir) {
 Dvr perdev::YeniKayit() const {
   Dvr yeni;
   yeni.kod = Kisi();
-  const auto satirlar = KayitliSatirlar();
-  yeni.yil = satirlar.empty() ? std::int16_t(Oturumu().firma.firmayil - 1) : std::int16_t(satirlar.back().yil + 1);
+  const Dvr* son = SonKayitli();
+  yeni.yil = std::int16_t(son == nullptr ? Oturumu().firma.firmayil - 1 : son->yil + 1);
   return yeni;
 }
 

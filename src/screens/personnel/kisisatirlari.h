@@ -42,13 +42,20 @@ class KisiSatirlari : public PersonelFormu {
   dclist& Liste() { return *liste_; }
   // Whose rows the list holds; "" for nobody's.
   const std::string& Kisi() const { return kod_; }
-  // The rows as they are stored, in the order of the list; those that were never saved are not among them.
-  std::vector<Kayit> KayitliSatirlar() const {
+  // The rows of the list as they are stored; one that was never saved is an empty record.
+  std::vector<Kayit> Satirlar() const {
     std::vector<Kayit> satirlar;
-    for (int satir = 0; satir < liste_->ListCount(); ++satir)
-      if (const auto yer = okunan_.find(liste_->Model().Kimlik(satir)); yer != okunan_.end())
-        satirlar.push_back(yer->second);
+    for (int satir = 0; satir < liste_->ListCount(); ++satir) {
+      const Kayit* kayit = Okunmus(satir);
+      satirlar.push_back(kayit == nullptr ? Kayit{} : *kayit);
+    }
     return satirlar;
+  }
+  // The last of them that was saved; null where there is none.
+  const Kayit* SonKayitli() const {
+    for (int satir = liste_->ListCount() - 1; satir >= 0; --satir)
+      if (const Kayit* kayit = Okunmus(satir)) return kayit;
+    return nullptr;
   }
   // All of the list anew.
   void Yenile() { Goster(kod_); }

@@ -165,6 +165,7 @@ TEST_F(DevirEkranlari, PastMonthsAreStoredAsTypedAndToldWhereTheyBreak) {
   YaziBul(form, "kartyili").setFocus();
   YaziBul(form, "kartyili").selectAll();
   ortam.Yaz("2008\n");
+  QCoreApplication::processEvents();
   ASSERT_EQ(liste.ListCount(), 1);
   EXPECT_EQ(Hucre(liste, 0, "gvmatrah"), "900.00");
   liste.setFocus();
