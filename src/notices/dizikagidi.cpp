@@ -1,6 +1,7 @@
 #include "notices/dizikagidi.h"
 
 #include "core/asama.h"
+#include "core/turkce.h"
 #include "documents/listebelgesi.h"
 #include "notices/dizikagidiicerik.h"
 #include "printing/form/metinformu.h"
@@ -73,6 +74,8 @@ std::string DiziAlindisi(const DiziPusulasi& pusula) {
 }
 
 std::unique_ptr<Belge> DiziPusulasiBelgesi(const Firma& firma, const TarihAraligi& aralik, DiziPusulasi pusula) {
+  for (auto* liste : {&pusula.ilk, &pusula.tekrar})
+    for (DiziSatiri& satir : *liste) satir = {DenetimsizMetin(satir.sskno), DenetimsizMetin(satir.adsoy)};
   Rapor rapor = DiziRaporu(firma, aralik, pusula);
   const std::string sinirUyarisi = DiziSinirUyarisi(pusula);
   const auto kagit = std::make_shared<const DiziKagidi>(DiziKagidi{firma, aralik, std::move(pusula)});

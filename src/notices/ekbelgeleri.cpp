@@ -5,6 +5,7 @@
 #include "core/asama.h"
 #include "core/store/tablo.h"
 #include "core/tables/arac.h"
+#include "core/turkce.h"
 #include "documents/listebelgesi.h"
 #include "notices/ekkagidi.h"
 #include "printing/form/metinformu.h"
@@ -117,10 +118,12 @@ std::unique_ptr<Belge> EkBelgesiYap(const BelgeKaynagi& kaynak, const EkTanimi& 
   rapor.baslik = rapor.ekranBasligi = baslik;
   rapor.ustSatirlar = {{.sol = kaynak.firma.unvan, .orta = AralikMetni(aralik), .sirket = true}};
   const auto arac = Tablo<Arac>(kaynak.motor).Bul();
-  const auto kagit = std::make_shared<EkKagidi>(
-      EkKagidi{tanim,
-               {.firma = kaynak.firma, .araciKodu = arac ? arac->kod : std::string(), .isi = is.isi, .aralik = aralik},
-               {}});
+  const auto kagit = std::make_shared<EkKagidi>(EkKagidi{tanim,
+                                                         {.firma = kaynak.firma,
+                                                          .araciKodu = arac ? arac->kod : std::string(),
+                                                          .isi = DenetimsizMetin(is.isi),
+                                                          .aralik = aralik},
+                                                         {}});
   kagit->satirlar.reserve(kisiler.size());
   for (const KisiSatiri& kisi : kisiler) kagit->satirlar.push_back(FormSatiri(kisi));
   return std::make_unique<TabloluForm>(

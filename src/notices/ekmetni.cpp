@@ -4,94 +4,89 @@
 #include "isyeri/firmaadresi.h"
 #include "isyeri/isyerinumarasi.h"
 #include "notices/ekkagidi.h"
-#include "notices/metintablosu.h"
+#include "printing/form/cerceveliform.h"
+#include "printing/yzccnt.h"
 
 namespace belvani {
 namespace {
 
-using Satirlar = std::vector<std::string>;
+using Hucreler = std::vector<std::string>;
 
-std::vector<int> KolonHarfleri(const EkTanimi& tanim) {
-  std::vector<int> harfler;
+CerceveliForm::Enler KolonHarfleri(const EkTanimi& tanim) {
+  CerceveliForm::Enler harfler;
   for (const EkKolonu& k : tanim.kolonlar) harfler.push_back(k.harf);
   return harfler;
 }
 
+// The columns with the rules between them, and the frame.
 int SatirEni(const EkTanimi& tanim) {
   int en = 1;
   for (const EkKolonu& k : tanim.kolonlar) en += k.harf + 1;
   return en;
 }
 
-void IsyeriKutusu(Satirlar& s, int en, const EkBasligi& b, const EkSayfasi& sayfa) {
+void IsyeriSatirlari(CerceveliForm& f, int en, const EkBasligi& b, const EkSayfasi& sayfa) {
   constexpr int kodEni = 20, bolgeEni = 41, sayfaEni = 20;
+  const CerceveliForm::Enler enler{kodEni, bolgeEni, en - kodEni - bolgeEni - sayfaEni - 5, sayfaEni};
   const Firma& firma = b.firma;
   const auto adres = FirmaAdresi(firma);
-  const MetinTablosu ust({kodEni, bolgeEni, en - kodEni - bolgeEni - sayfaEni - 5, sayfaEni});
-  const MetinTablosu kutu({en - 2});
-  s.push_back(ust.Ust());
-  s.push_back(ust.Satir({" İş Kodu : " + (firma.iskodu == 0 ? std::string() : std::to_string(firma.iskodu)),
-                         " Bölge Çalışma No : " + firma.bolcal, " Ait Olduğu Tarihler : " + AralikMetni(b.aralik),
-                         " Sayfa : " + std::to_string(sayfa.no) + " / " + std::to_string(sayfa.sayfaSayisi)}));
-  s.push_back(ust.Birlesme());
-  s.push_back(kutu.Satir({" İşyerinin Ünvanı           : " + firma.unvan}));
-  s.push_back(kutu.Satir({" İş Yerinde Yapılan Esas İş : " + b.isi}));
-  s.push_back(kutu.Satir({" Adresi                     : " + adres[0]}));
-  s.push_back(kutu.Satir({"                              " + adres[1]}));
-  s.push_back(kutu.Alt());
+  f.TabloBasi(enler);
+  f.TabloSatiri(enler, {" İş Kodu : " + (firma.iskodu == 0 ? std::string() : std::to_string(firma.iskodu)),
+                        " Bölge Çalışma No : " + firma.bolcal, " Ait Olduğu Tarihler : " + AralikMetni(b.aralik),
+                        " Sayfa : " + std::to_string(sayfa.no) + " / " + std::to_string(sayfa.sayfaSayisi)});
+  f.TabloSonu(enler);
+  f.Satirlar({" İşyerinin Ünvanı           : " + firma.unvan, " İş Yerinde Yapılan Esas İş : " + b.isi,
+              " Adresi                     : " + adres[0], "                              " + adres[1]});
 }
 
 // Each group of the number in a box of its own, wide enough for all that the store holds of it.
-void SicilKutulari(Satirlar& s, int en, const EkBasligi& b) {
+void SicilKutulari(CerceveliForm& f, int en, const EkBasligi& b) {
   constexpr int etiketEni = 26;
   constexpr std::array<std::pair<std::string_view, int>, 7> gruplar{
       {{"Sektör", 8}, {"Meslek", 8}, {"Şube", 4}, {"Dosya", 15}, {"İl", 4}, {"İlçe", 4}, {"Kont.", 5}}};
-  std::vector<int> enler{etiketEni};
-  std::vector<std::string> basliklar{"İşyerinin SSK Sicil No"}, degerler{""};
-  int dolu = etiketEni + 2;
+  CerceveliForm::Enler enler{etiketEni};
+  Hucreler basliklar{" İşyerinin SSK Sicil No"}, degerler{""};
+  int kalan = en - etiketEni - 3;
   const auto numara = NumaraGruplari(b.firma);
   for (std::size_t i = 0; i < gruplar.size(); ++i) {
     enler.push_back(gruplar[i].second);
     basliklar.emplace_back(gruplar[i].first);
     degerler.push_back(numara[i].deger);
-    dolu += gruplar[i].second + 1;
+    kalan -= gruplar[i].second + 1;
   }
-  enler.push_back(en - dolu - 1);
+  enler.push_back(kalan);
   basliklar.emplace_back("Aracı");
   degerler.push_back(b.araciKodu);
-  const MetinTablosu tablo(enler);
-  s.push_back(tablo.Ust());
-  s.push_back(tablo.Satir(basliklar));
-  s.push_back(tablo.Satir(degerler));
-  s.push_back(tablo.Alt());
+  f.TabloBasi(enler);
+  f.TabloSatiri(enler, basliklar);
+  f.TabloSatiri(enler, degerler);
+  f.TabloSonu(enler);
 }
 
-void Tablo(Satirlar& s, const EkTanimi& tanim, const EkSayfasi& sayfa) {
-  const MetinTablosu tablo(KolonHarfleri(tanim));
-  std::vector<std::string> ust, alt, numaralar;
+void Tablo(CerceveliForm& f, const EkTanimi& tanim, const EkSayfasi& sayfa) {
+  const auto enler = KolonHarfleri(tanim);
+  Hucreler ust, alt, numaralar;
   for (const EkKolonu& k : tanim.kolonlar) {
-    ust.emplace_back(k.baslik1);
-    alt.emplace_back(k.baslik2);
-    numaralar.push_back("(" + std::to_string(numaralar.size() + 1) + ")");
+    ust.push_back(OrtalaMetin(k.baslik1, k.harf));
+    alt.push_back(OrtalaMetin(k.baslik2, k.harf));
+    numaralar.push_back(OrtalaMetin("(" + std::to_string(numaralar.size() + 1) + ")", k.harf));
   }
-  s.push_back(tablo.Ust());
-  s.push_back(tablo.OrtaliSatir(ust));
-  s.push_back(tablo.OrtaliSatir(alt));
-  s.push_back(tablo.OrtaliSatir(numaralar));
+  f.TabloBasi(enler);
+  for (const Hucreler& baslik : {ust, alt, numaralar}) f.TabloSatiri(enler, baslik);
   for (std::size_t i = 0; i < EkSayfaKisisi; ++i) {
-    std::vector<std::string> hucreler;
+    Hucreler hucreler(enler.size());
     if (i < sayfa.satirlar.size()) {
-      hucreler.push_back(std::to_string(sayfa.ilk + i + 1));
-      hucreler.insert(hucreler.end(), sayfa.satirlar[i].begin(), sayfa.satirlar[i].end());
+      hucreler[0] = std::to_string(sayfa.ilk + i + 1);
+      std::ranges::copy(sayfa.satirlar[i], hucreler.begin() + 1);
     }
-    s.push_back(tablo.Ara());
-    s.push_back(tablo.Satir(hucreler));
+    f.TabloArasi(enler);
+    f.TabloSatiri(enler, hucreler);
   }
-  s.push_back(tablo.Alt());
+  f.TabloSonu(enler);
 }
 
 // The keys side by side, the signature on their right.
-void Ayak(Satirlar& s, const EkTanimi& tanim) {
+void Ayak(CerceveliForm& f, const EkTanimi& tanim) {
   constexpr int anahtarEni = 38;
   const std::array<std::string_view, 6> imza{"", EkBeyani, EkImzasi, EkImzaAciklamasi, "", EkTarihi};
   for (std::size_t satir = 0; satir < imza.size(); ++satir) {
@@ -101,9 +96,9 @@ void Ayak(Satirlar& s, const EkTanimi& tanim) {
       if (satir == 0) parca = anahtar.baslik;
       if (satir >= 1 && satir <= anahtar.kodlar.size())
         parca = "  " + std::to_string(satir) + " - " + std::string(anahtar.kodlar[satir - 1]);
-      metin += parca + std::string(anahtarEni - HarfSayisi(parca), ' ');
+      metin += SagBosluk(parca, anahtarEni);
     }
-    s.push_back(metin + std::string(imza[satir]));
+    f.Satir(metin + std::string(imza[satir]));
   }
 }
 
@@ -111,14 +106,17 @@ void Ayak(Satirlar& s, const EkTanimi& tanim) {
 
 std::string EkSayfasiMetni(const EkTanimi& tanim, const EkBasligi& baslik, const EkSayfasi& sayfa) {
   const int en = SatirEni(tanim);
-  Satirlar satirlar{Ortalanmis(tanim.baslik, en), ""};
-  IsyeriKutusu(satirlar, en, baslik, sayfa);
-  SicilKutulari(satirlar, en, baslik);
-  satirlar.emplace_back();
-  Tablo(satirlar, tanim, sayfa);
-  assert(satirlar.size() == std::size_t(EkSonSatiri));
-  Ayak(satirlar, tanim);
-  return SayfaMetni(satirlar);
+  CerceveliForm form(en);
+  form.Kenar();
+  form.Ortala(tanim.baslik);
+  IsyeriSatirlari(form, en, baslik, sayfa);
+  SicilKutulari(form, en, baslik);
+  form.Satirlar({"", ""});
+  Tablo(form, tanim, sayfa);
+  assert(std::ranges::count(form.Sablon(), '\n') + 1 == EkSonSatiri);
+  Ayak(form, tanim);
+  form.Son();
+  return form.Sablon() + "\n";
 }
 
 }  // namespace belvani

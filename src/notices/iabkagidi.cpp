@@ -4,6 +4,7 @@
 #include "core/turkce.h"
 #include "isyeri/firmaadresi.h"
 #include "isyeri/isyerinumarasi.h"
+#include "printing/form/formparcalari.h"
 #include "printing/form/satirliform.h"
 
 namespace belvani {
@@ -15,8 +16,6 @@ constexpr double Ust = 10;
 constexpr double En = 190;
 constexpr double KutuBoyu = 9;
 constexpr double BolumBoyu = 5.5;
-constexpr double IsaretBoyu = 4;
-constexpr double HucreBoyu = 5.5;
 constexpr double KayitSatiri = 6;
 constexpr int SakatlikDerecesi = 3;
 constexpr int VergiDilimi = 4;
@@ -37,42 +36,6 @@ double Bas(FormKurucu& f, double y) {
   f.Baslik({Sol, y + 7, En, 7}, "İŞTEN AYRILMA BİLDİRGESİ", 14);
   f.Baslik({Sol, y + 14, En, 6}, "(İAB)", 11);
   return y + boy;
-}
-
-// Boxes to tick, each with its words on the left.
-struct Secenek {
-  std::string ad;
-  std::string etiket;
-  bool secili = false;
-};
-double Secenekler(FormKurucu& f, const Dikdortgen& kutu, std::string_view etiket, double etiketEni,
-                  const std::vector<Secenek>& secenekler) {
-  f.Kutu(kutu);
-  f.Etiket({kutu.x + f.pay, kutu.y, etiketEni, kutu.boy}, etiket);
-  const double en = (kutu.en - etiketEni - 2 * f.pay) / double(secenekler.size());
-  double x = kutu.x + f.pay + etiketEni;
-  for (const Secenek& s : secenekler) {
-    f.Etiket({x, kutu.y, en - IsaretBoyu - 3, kutu.boy}, s.etiket, MetinHizasi::Sag);
-    f.Isaret(s.ad, {x + en - IsaretBoyu - 2, kutu.y + (kutu.boy - IsaretBoyu) / 2, IsaretBoyu, IsaretBoyu}, s.secili);
-    x += en;
-  }
-  return kutu.y + kutu.boy;
-}
-
-// A label, and the digits in cells at the right end of the box.
-void Numara(FormKurucu& f, const Dikdortgen& kutu, std::string_view etiket, const std::string& ad, int hane,
-            const std::string& deger) {
-  constexpr double haneEni = 5;
-  const double hucreler = hane * haneEni;
-  f.Kutu(kutu);
-  f.Etiket({kutu.x + f.pay, kutu.y, kutu.en - hucreler - 3 * f.pay, kutu.boy}, etiket);
-  f.Basamaklar(ad,
-               {.x = kutu.x + kutu.en - f.pay - hucreler,
-                .y = kutu.y + (kutu.boy - HucreBoyu) / 2,
-                .sayi = hane,
-                .en = haneEni,
-                .boy = HucreBoyu},
-               deger);
 }
 
 // ---- sections
@@ -102,14 +65,16 @@ double IsverenBolumu(FormKurucu& f, double y, const Firma& firma) {
              {40, "İlçesi", EtiketUstte, "firma.adrilce", firma.adrilce},
              {60, "Telefonları", EtiketUstte, "firma.tel", firma.tel},
              {En - 140, "E-Posta", EtiketUstte, "firma.epos", firma.epos}});
-  return Secenekler(f, {Sol, y, En, 7}, "Kapsamı:", 30, {{"kapsam.kamu", "Kamu:"}, {"kapsam.ozel", "Özel:", true}});
+  SoruKutusu(f, {Sol, y, En, KutuBoyu}, "Kapsamı:", {{24, "Kamu:", "kapsam.kamu"}, {24, "Özel:", "kapsam.ozel", true}});
+  return y + KutuBoyu;
 }
 
 double SigortaliBolumu(FormKurucu& f, double y, const IabFormu& form) {
   constexpr double ucte = En / 3;
   y = BolumBasligi(f, y, "2 - SİGORTALI BİLGİLERİ");
-  Numara(f, {Sol, y, En / 2 - 2, KutuBoyu}, "T.C. Kimlik No", "tcno", 11, form.tcno);
-  Numara(f, {Sol + En / 2 - 2, y, En / 2 + 2, KutuBoyu}, "SSK Sicil No", "sskno", 13, form.sskno);
+  constexpr double tcEni = 90;
+  BasamakliHucre(f, {Sol, y, tcEni, KutuBoyu}, "T.C. Kimlik No", "tcno", 11, form.tcno);
+  BasamakliHucre(f, {Sol + tcEni, y, En - tcEni, KutuBoyu}, "SSK Sicil No", "sskno", 13, form.sskno);
   y += KutuBoyu;
   y = Satir(f, y,
             {{ucte, "Adı Soyadı", EtiketUstte, "adsoyad", form.adsoyad},
@@ -121,12 +86,15 @@ double SigortaliBolumu(FormKurucu& f, double y, const IabFormu& form) {
              {ucte, "Telefon", EtiketUstte, "tel", form.tel}});
   y = Satir(f, y,
             {{En / 2, "Adresi", EtiketUstte, "adr1", form.adres[0]}, {En / 2, "", EtiketUstte, "adr2", form.adres[1]}});
-  std::vector<Secenek> dereceler, dilimler;
+  constexpr double secenekEni = 18;
+  std::vector<SoruSecenegi> dereceler, dilimler;
   for (int i = 1; i <= SakatlikDerecesi; ++i)
-    dereceler.push_back({"sakatlik" + std::to_string(i), std::to_string(i) + ".", form.sakatdrc == i});
-  for (int i = 1; i <= VergiDilimi; ++i) dilimler.push_back({"dilim" + std::to_string(i), std::to_string(i) + "."});
-  Secenekler(f, {Sol, y, En / 2, 7}, "Sakatlık Derecesi", 30, dereceler);
-  return Secenekler(f, {Sol + En / 2, y, En / 2, 7}, "Vergi Dilimi", 25, dilimler);
+    dereceler.push_back({secenekEni, std::to_string(i) + ".", "sakatlik" + std::to_string(i), form.sakatdrc == i});
+  for (int i = 1; i <= VergiDilimi; ++i)
+    dilimler.push_back({secenekEni, std::to_string(i) + ".", "dilim" + std::to_string(i)});
+  SoruKutusu(f, {Sol, y, En / 2, KutuBoyu}, "Sakatlık Derecesi", dereceler);
+  SoruKutusu(f, {Sol + En / 2, y, En / 2, KutuBoyu}, "Vergi Dilimi", dilimler);
+  return y + KutuBoyu;
 }
 
 // Of those who are with a fund of their own, which the program does not know: for the pen.
