@@ -51,6 +51,9 @@
 #include "screens/personnel/pertrans.h"
 #include "screens/personnel/tkanfrm.h"
 #include "screens/personnel/ucrdeg.h"
+#include "screens/personnel/vizite1.h"
+#include "screens/personnel/vizite2.h"
+#include "screens/personnel/vizite3.h"
 #include "screens/reports/rap1.h"
 #include "screens/reports/rap2.h"
 #include "screens/severance/ihbsure.h"
@@ -106,9 +109,9 @@ std::vector<EkranKaydi> Kayitlar() {
       {"Bildirgeler", "İşten Ayrılma Bildirimi (İAB)", "iab", "cikis", "", Yap<iab>},
       {"Bildirgeler", "İşgücü Çizelgesi", "isguc", "aile", "", Yap<isguc>},
 
-      {"Viziteler", "Sigortalıya Ait Vizite", "vizite", "", "Sigortalı Vizite Kağıdı"},
-      {"Viziteler", "Eş ve Çocuklara Vizite", "esvizite", "", "Eş ve Çocuklar için Vizite"},
-      {"Viziteler", "Altı Aylık Sağlık Belgesi", "altiay", "", "Altı Aylık Vizite"},
+      {"Viziteler", "Sigortalıya Ait Vizite", "vizite1", "kisi", "Sigortalı Vizite Kağıdı", Yap<vizite1>},
+      {"Viziteler", "Eş ve Çocuklara Vizite", "vizite2", "aile", "Eş ve Çocuklar için Vizite", Yap<vizite2>},
+      {"Viziteler", "Altı Aylık Sağlık Belgesi", "vizite3", "takvim", "Altı Aylık Vizite", Yap<vizite3>},
 
       {"Raporlar", "Özlük Bilgileri", "rap1", "kisi", "Özlük Raporu", Yap<rap1>},
       {"Raporlar", "Bordro Raporlama", "rap2", "tablo", "Bordro Raporu", Yap<rap2>},

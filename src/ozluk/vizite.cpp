@@ -15,6 +15,8 @@ namespace {
 constexpr std::string_view BuyukAyAdlari[] = {"OCAK",   "ŞUBAT",   "MART",  "NİSAN", "MAYIS", "HAZİRAN",
                                               "TEMMUZ", "AĞUSTOS", "EYLÜL", "EKİM",  "KASIM", "ARALIK"};
 constexpr int SonAy = 12;
+// Of a month: twelve of them, and what is typed beside, stay far inside of what an amount can be.
+constexpr double EnCokUcret = 9'999'999'999'999;
 constexpr int BelgeAyi = 6;  // months for which the certificate is good
 
 std::string IkiHaneli(int sayi) {
@@ -139,6 +141,8 @@ Sonuc<ViziteAylari> GunTablosuYap(Oturum& o, const ViziteFormu& form) {
   return o.depo.db.Koru(Sonuc<ViziteAylari>(Kusur{"Bordro Kayıtları Okunamadı"}), [&]() -> Sonuc<ViziteAylari> {
     ViziteAylari aylar = OnIkiAy(form.vizite);
     KayitlariTopla(o, TemizKod(form.kod), aylar);
+    const auto tasan = std::ranges::find_if(aylar, [](const ViziteAyi& ay) { return ay.ucret.Sayi() > EnCokUcret; });
+    if (tasan != aylar.end()) return Kusur{tasan->Adi() + " kaydının matrahı kağıda sığmayacak kadar büyük"};
     return aylar;
   });
 }

@@ -18,7 +18,7 @@ const Kagitlar& ButunKagitlar() {
     Kagitlar kagitlar;
     for (const Kagitlar& grup :
          {KomutKagitlari(), CizilenListeler(), BildirgeKagitlari(), BildirimKagitlari(), KisiKagitlari(),
-          OgiKagitlari(), BildirimKomutlari(), CizilenBildirimler(), YerlesimKagitlari()})
+          ViziteKagitlari(), OgiKagitlari(), BildirimKomutlari(), CizilenBildirimler(), YerlesimKagitlari()})
       kagitlar.insert(kagitlar.end(), grup.begin(), grup.end());
     std::ranges::stable_sort(kagitlar, {}, [](const Kagit& k) { return k.ay.Metin(); });
     return kagitlar;
