@@ -83,6 +83,8 @@ struct MaymunOrtami {
     parametreler.YasalYukle(oturum.DataPath);
     static_cast<void>(parametreler.firma.Yukle());
     SablonYukle(oturum.FirmaDizini);  // the payroll screen writes the built-in one when it is opened for the first time
+    KidemParOku(oturum.FirmaDizini);  // so do the screens of severance
+    IhbarSureOku(oturum.FirmaDizini);
     pencere = std::make_unique<anamenu>(baglam, parametreler);
     gosterici.pencere = pencere.get();
     QObject::connect(pencere.get(), &anamenu::Kapandi, pencere.get(), [this] { kapandi = true; });
