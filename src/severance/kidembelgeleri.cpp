@@ -17,7 +17,7 @@ AlanGrubu BazAlanlari() {
              .komut = "--tavan",
              .komutYardimi = "kurulu yasal oranların ya da baz tarihinin yarıyılının kıdem tavanı",
              .komutSozcukleri = KidemTavaniSozcukleri}}},
-          2};
+          1};
 }
 
 const std::vector<BelgeTanimi>& Tablo() {
@@ -29,7 +29,7 @@ const std::vector<BelgeTanimi>& Tablo() {
        .pencereBasligi = "Kidem, İhbar İcmali",
        .simge = "tablo",
        .komutYardimi = "Herkes baz tarihinde ayrılsa ödenecek kıdem ve ihbar tazminatlarının listesi (basılmaz)",
-       .alanlar = {{BazAlanlari(), AralikAlanlari(false, "Sicil No")}},
+       .alanlar = {{BazAlanlari()}, {AralikAlanlari(false, "Sicil No")}},
        .secim = Secenekleri(KidemIcmalBelgesi),
        .liste = {.komut = " Listele"},
        .kayitYok = "Baz tarihinde çalışan kişi yok"},

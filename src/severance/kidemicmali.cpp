@@ -19,8 +19,8 @@ using Satir = KidemIcmalSatiri;
 
 const Kolonlar<Satir> kolonlar{
     {"Sicil", 8, [](auto& s) { return s.kisi.sicil.kod; }},
-    {"SSK No", 13, [](auto& s) { return s.kisi.sicil.sskno; }},
-    {"TC No", 11, [](auto& s) { return s.kisi.tcno; }},
+    {"SSK No", 15, [](auto& s) { return s.kisi.sicil.sskno; }},
+    {"TC No", 12, [](auto& s) { return s.kisi.tcno; }},
     {"Adı Soyadı", 30, [](auto& s) { return AdSoyad(s.kisi.sicil); }},
     {"Giriş", 10, [](auto& s) { return s.kisi.sicil.girtar; }},
     {"Çıkış", 10, [](auto& s) { return s.baz; }},

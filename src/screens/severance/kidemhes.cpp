@@ -34,19 +34,19 @@ AlanGrubu PersonelGrubu() {
            {Uye("sskno", &KidemFormu::sskno, sicil::sskno.boyut), "SSK Sicil No", {.kapali = true}},
            {Uye("adi", &KidemFormu::adi, sicil::adi.boyut), "Adı", {.kapali = true}},
            {Uye("soyadi", &KidemFormu::soyadi, sicil::soyadi.boyut), "Soyadı", {.kapali = true}}},
-          2};
+          4};
 }
 
 AlanGrubu HesapGrubu() {
   return {
       "Hesap",
       {{Giris, "Giriş Tarihi"},
-       {Ucret, "Aylık Ücreti (Bürüt Aylık)", {.ondalik = ParaOndalik, .enCok = EnCokUcret, .harf = TutarHarfi}},
        {Cikis, "Çıkış Tarihi"},
-       {Tavan, "Kıdem Tavanı", {.liste = KidemTavaniAdlari}},
+       {Ucret, "Aylık Ücreti (Bürüt Aylık)", {.ondalik = ParaOndalik, .enCok = EnCokUcret, .harf = TutarHarfi}},
        {Uye("CalismaGunu", &KidemFormu::CalismaGunu), "Kıdem Gün", {.harf = 6, .kapali = true}},
-       {Ihbar, "İhbar Gün", {.enCok = EnCokIhbarGunu, .harf = 6, .ipucu = "Tarih değişince tablodan yeniden gelir"}}},
-      2};
+       {Ihbar, "İhbar Gün", {.enCok = EnCokIhbarGunu, .harf = 6, .ipucu = "Tarih değişince tablodan yeniden gelir"}},
+       {Tavan, "Kıdem Tavanı", {.liste = KidemTavaniAdlari}}},
+      3};
 }
 
 // An amount of the sheet, blank where the sheet is; it is shown and never typed.
@@ -64,7 +64,8 @@ AlanGrubu GunlukGrubu() {
   return {"Günlük",
           {TutarAlani("kidemTavan", "Kıdem Tazminat Tavanı"), TutarAlani("gunlukUcret", "Günlük Ücret"),
            TutarAlani("gunlukEsas", "Günlük Kıdem'e Esas Ücret"), TutarAlani("gunlukKidem", "Günlük Kıdem Tazminat"),
-           TutarAlani("dvgvmatrah", "Devreden GV Matrahı"), TutarAlani("dvgvtutar", "Devreden GV Tutarı")}};
+           TutarAlani("dvgvmatrah", "Devreden GV Matrahı"), TutarAlani("dvgvtutar", "Devreden GV Tutarı")},
+          2};
 }
 
 AlanGrubu KidemGrubu() {
@@ -130,10 +131,14 @@ kidemhes::kidemhes(EkranBaglami& baglam, ParametreDeposu& parametreler)
 }
 
 void kidemhes::Yerlestir() {
+  SikDiz();
   Govde()->addWidget(GrupYap(PersonelGrubu()));
   Govde()->addWidget(GrupYap(HesapGrubu()));
-  Govde()->addLayout(YanYana({{GrupYap(GunlukGrubu())}, {GrupYap(KidemGrubu())}, {GrupYap(IhbarGrubu())}}));
-  Govde()->addWidget(GrupYap(ToplamGrubu()), 0, Qt::AlignRight);
+  // The sum comes last in the walk through the results.
+  auto* gunluk = GrupYap(GunlukGrubu());
+  auto* kidem = GrupYap(KidemGrubu());
+  auto* ihbar = GrupYap(IhbarGrubu());
+  Govde()->addLayout(YanYana({{gunluk, GrupYap(ToplamGrubu())}, {kidem}, {ihbar}}));
   notlar_->setObjectName("notlar");
   notlar_->setProperty("hata", true);
   notlar_->setWordWrap(true);
@@ -171,7 +176,7 @@ void kidemhes::FirmaDegisti() {
 }
 
 void kidemhes::showEvent(QShowEvent* olay) {
-  const bool ilk = !isVisible() && !olay->spontaneous() && !std::exchange(soylendi_, true);
+  const bool ilk = !olay->spontaneous() && !std::exchange(soylendi_, true);
   PersonelFormu::showEvent(olay);
   // Over the screen, not before it.
   if (ilk)
