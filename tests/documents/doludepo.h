@@ -24,7 +24,6 @@ struct DoluDepo : OrnekDepo {
       s.kod = "P" + std::to_string(100 + kisi);
       s.adi = "Ad" + std::to_string(kisi);
       s.sskdurum = std::uint8_t(kisi % 3);
-      if (kisi % 10 == 4) s.ciktar = Tarih(Yil, Ay - 1, 15);
       if (kisi != 7) kartlar.Ekle(s);
       for (int yil = Yil - 1; yil <= Yil + 1; ++yil)
         for (int ay = 1; ay <= 12; ++ay)

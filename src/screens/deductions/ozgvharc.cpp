@@ -157,7 +157,7 @@ int ozgvharc::KisininSatiri(std::string_view kod, int haric) const {
 }
 
 bool ozgvharc::KisiyiKoy(int satir, const std::string& kod) {
-  if (Kayitli(Satiri(satir)) && TurkceEsit(Satiri(satir).dvr.kod, kod)) return true;
+  if (!kod.empty() && TurkceEsit(Satiri(satir).dvr.kod, kod)) return true;  // his row already
   if (!kod.empty() && KisininSatiri(kod, satir) >= 0) {
     Bildir(KuralKusuru("Bu personel listede var: " + kod));
     return false;

@@ -80,7 +80,12 @@ TEST(Ozgvharc, ARowIsSavedWithItsRefundAndTheListMovesOn) {
   ortam.Bas(Qt::Key_A, Qt::ControlModifier);
   ortam.Yaz("003\n");
   EXPECT_EQ(liste.TextByName(2, "adsoy"), "Işıl 003");
-  ortam.Yaz("1000\n250\n");
+  ortam.Yaz("1000\n");
+  ortam.Bas(Qt::Key_Escape);
+  liste.HucreyeGit(2, "kod");
+  ortam.Yaz("003\n");
+  EXPECT_EQ(liste.TextByName(2, "gvmatrah"), "1,000.00") << "the code typed again takes nothing away";
+  ortam.Yaz("\n250\n");
   EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
   EXPECT_EQ(ortam.Kayit("2004003").gvmatrah, Tutar(1000));
   EXPECT_EQ(ortam.Kayit("2004003").ogitutar, Tutar(20));
