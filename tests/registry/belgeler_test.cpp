@@ -54,6 +54,15 @@ bool DonemiSecilir(const BelgeTanimi& tanim) {
   return false;
 }
 
+// A room that is named twice would give each of its papers twice.
+TEST(KayitliBelgeler, EachHasItsOwnScreenAndCommand) {
+  std::set<std::string_view> ekranlar, komutlar;
+  for (const BelgeTanimi& tanim : Belgeler()) {
+    EXPECT_TRUE(ekranlar.insert(tanim.ekran).second) << tanim.ekran;
+    EXPECT_TRUE(tanim.komut.empty() || komutlar.insert(tanim.komut).second) << tanim.komut;
+  }
+}
+
 TEST(KayitliBelgeler, ComesOutInEveryForm) {
   Belgelik belgelik;
   for (const BelgeTanimi& tanim : Belgeler()) {
