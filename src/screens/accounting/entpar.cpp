@@ -39,7 +39,12 @@ AlanTutamagi HesapAlani(std::size_t satir) {
 entparfrm::entparfrm(EkranBaglami& baglam) : Form(baglam, "entpar", QStringLiteral("Entegrasyon Parametreleri")) {
   Govde()->addWidget(SirketSatiri());
   Govde()->addWidget(SatirlarKutusu(), 1);
-  Komutlar({{.komut = FormKomutu::Rehber, .islev = [this] { Rehber(); }},
+  Komutlar({{.komut = FormKomutu::Rehber,
+             .islev =
+                 [this] {
+                   if (const auto satir = OdaktakiHesap()) HesabiSec(*satir);
+                 },
+             .gecerli = [this] { return OdaktakiHesap().has_value(); }},
             {.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
             {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }},
             {.tus = Qt::Key_F9, .dugme = "Öneri", .simge = "degistir", .islev = [this] { OneriKoy(); }}});
@@ -87,7 +92,7 @@ QWidget* entparfrm::SatirlarKutusu() {
     AlanDenetimi* hesap = ekle(DiziAlani(SatirAdi("hesap", i), &EntparFormu::hesap, i, ("Muhasebe Kodu " + no).c_str(),
                                          {.rehber = true}, entpar::hesap.boyut),
                                3);
-    RehberBagla(*hesap->YaziKutusu());
+    connect(hesap->YaziKutusu(), &xtext::Lookup, this, [this, i] { HesabiSec(i); });
     adlar_[i] = new QLabel(kutu);
     adlar_[i]->setObjectName("ad" + QString::number(i));
     adlar_[i]->setMinimumWidth(220);
@@ -169,17 +174,19 @@ void entparfrm::SirketSec() {
   kutu.setFocus();
 }
 
-void entparfrm::Rehber() {
-  const auto* odak = dynamic_cast<xtext*>(focusWidget());
-  for (std::size_t i = 0; i < EntparSatiri; ++i) {
-    xtext& kutu = YaziKutusu(HesapAlani(i));
-    if (&kutu != odak) continue;
-    if (const auto kod = HesapSec(Baglam(), Dizin(), Utf8(kutu.text()))) {
-      kutu.DegerKoy(*kod);
-      Q_EMIT kutu.Change();
-    }
-    return kutu.setFocus();
+std::optional<std::size_t> entparfrm::OdaktakiHesap() const {
+  for (std::size_t i = 0; i < EntparSatiri; ++i)
+    if (YaziKutusu(HesapAlani(i)).hasFocus()) return i;
+  return std::nullopt;
+}
+
+void entparfrm::HesabiSec(std::size_t satir) {
+  xtext& kutu = YaziKutusu(HesapAlani(satir));
+  if (const auto kod = HesapSec(Baglam(), Dizin(), Utf8(kutu.text()))) {
+    kutu.DegerKoy(*kod);
+    Q_EMIT kutu.Change();  // as if it had been typed
   }
+  kutu.setFocus();
 }
 
 // Accounts of books that are not chosen cannot be checked; that is said once it is saved.

@@ -41,7 +41,8 @@ class entparfrm : public Form {
   void PlaniOku(const std::string& dizin);
   std::string Dizin() const;
   void SirketSec();
-  void Rehber();
+  std::optional<std::size_t> OdaktakiHesap() const;  // line whose account has the keyboard
+  void HesabiSec(std::size_t satir);
   bool HesaplarUygun(const EntparFormu& form);
   bool SatirlariYaz(const EntparFormu& form);
   bool Yaz();
