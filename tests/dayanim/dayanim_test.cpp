@@ -124,7 +124,7 @@ class Yer {
       if (!yalnizDepo) Dosyalar(ad + "/", hepsi);
     }
     if (!yalnizDepo) Dosyalar("", hepsi);
-    for (const char* ad : {".muhasebe/belmuh.dat", ".yeni/belmuh.dat"})
+    for (const char* ad : {".muhasebe/belmuh.dat", "ORNEK/defter/belmuh.dat"})
       if (fs::exists(Yol() + ad)) hepsi[ad] = DepoIcerigi(Yol() + ad);
     return hepsi;
   }
@@ -369,7 +369,7 @@ const std::vector<YazanKomut>& YazanKomutlar() {
       {"kidem", "kidem ORNEK 001 --cikis 31.12.2009 --bicim json", "sirketler", true},
       {"bordro_sil", "bordro-sil ORNEK --yil 2009 --ay 11", defter + "11"},
       // Not the ledger's: its two lines stand each for itself.
-      {"muhasebe_ac", "muhasebe-ac $.yeni", "sirketler"},
+      {"muhasebe_ac", "muhasebe-ac $ORNEK/defter", "sirketler"},
       {"muhasebe_isle", "muhasebe-isle ORNEK --ay 11 --muhasebe $.muhasebe", "muhasebe-fisi ORNEK --ay 11 --bicim csv"},
   };
   return komutlar;
