@@ -132,7 +132,7 @@ class Isleyen {
 
 // The number to post under, by what the books hold in this very transaction.
 Sonuc<std::int32_t> FisNoSec(Motor& muhasebe, const Fis& fis, const FisIstegi& istek) {
-  if (AyniFisler(muhasebe, fis.ack) != istek.bilinenler)
+  if (istek.bilinenler && AyniFisler(muhasebe, fis.ack) != *istek.bilinenler)
     return Kusur{"Bu ayın fişini bu arada başka bir kullanıcı işlemiş, fiş işlenmedi: " + fis.ack};
   if (!istek.fisno) return SiradakiFisNo(muhasebe);
   if (FisVar(muhasebe, *istek.fisno)) return KuralKusuru(FisKullanilmis, fisgen::fisno);
@@ -141,8 +141,11 @@ Sonuc<std::int32_t> FisNoSec(Motor& muhasebe, const Fis& fis, const FisIstegi& i
 
 Sonuc<std::int32_t> IslemdeIsle(Motor& muhasebe, const Fis& fis, const FisIstegi& istek) {
   std::optional<Islem> islem;
-  Soyleyerek(BaslikYazilamadi, [&] { islem.emplace(muhasebe); });
-  const auto fisno = FisNoSec(muhasebe, fis, istek);
+  Sonuc<std::int32_t> fisno(0);
+  Soyleyerek(BaslikYazilamadi, [&] {
+    islem.emplace(muhasebe);
+    fisno = FisNoSec(muhasebe, fis, istek);
+  });
   if (!fisno) return fisno;
   Isleyen isleyen(muhasebe, fis, *fisno, istek.tarih);
   Soyleyerek(BaslikYazilamadi, [&] { isleyen.BaslikYaz(); });

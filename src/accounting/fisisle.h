@@ -36,8 +36,10 @@ std::string AyniFisSorusu(const std::vector<std::int32_t>& fisler, const std::st
 struct FisIstegi {
   Tarih tarih;
   std::optional<std::int32_t> fisno = {};  // none: the next one, whatever others post at the same moment
-  // Vouchers of the same text that the user has been asked about; another one refuses the posting.
-  std::vector<std::int32_t> bilinenler = {};
+  // Vouchers of the same text that the user has been asked about; another one refuses the posting. None: he wants it
+  // posted whatever the books hold.
+  std::optional<std::vector<std::int32_t>> bilinenler = {};
+};
 };
 
 // What keeps the voucher from being posted whatever the books are; asked again by the posting itself.

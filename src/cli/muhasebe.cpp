@@ -61,10 +61,12 @@ struct FisIsi {
 };
 
 template <class Is>
-auto Yapilan(Is is) {
-  auto sonuc = Koru(is);
+auto Yapilan(Is is, const std::string& onek = {}) {
+  auto sonuc = Koru(is, onek);
   return std::move(Degeri(sonuc));
 }
+
+const std::string OkunamayanMuhasebe = std::string(MuhasebeAcilamadi) + "\n";
 
 std::string MuhasebeDizini(const FisIsi& is, const Oturum& o) {
   return is.muhasebe.empty() ? KardesDizini(o, MuhasebeSirketi(o)) : is.muhasebe;
@@ -100,7 +102,7 @@ HesapPlani PlanOku(Genel& genel, const std::string& dizin) {
     genel.bildirim.Uyari("Uyarı: hesap adları yazılamadı: " + muhasebe.KusurMetni());
     return {};
   }
-  return Yapilan([&] { return HesapPlani::Oku(**muhasebe); });
+  return Yapilan([&] { return HesapPlani::Oku(**muhasebe); }, OkunamayanMuhasebe);
 }
 
 void FisYaz(Genel& genel, const FisIsi& is, const Fis& fis, const FisBasligi& baslik, const HesapPlani& plan) {
@@ -123,9 +125,12 @@ void FisiIsle(Genel& genel, FisIsi& is) {
   auto ac = MuhasebeyiAc(MuhasebeDizini(is, *o));
   Motor& muhasebe = *Degeri(ac);
   Basarmali(FisDenetle(fis, baslik.tarih));
-  const auto bilinenler = Yapilan([&] { return AyniFisler(muhasebe, fis.ack); });
-  is.onay.Al(genel, AyniFisSorusu(bilinenler, fis.ack));
-  auto islenen = FisIsle(muhasebe, fis, {.tarih = baslik.tarih, .fisno = is.fisno, .bilinenler = bilinenler});
+  FisIstegi istek{.tarih = baslik.tarih, .fisno = is.fisno};
+  if (!is.onay.evet) {
+    istek.bilinenler = Yapilan([&] { return AyniFisler(muhasebe, fis.ack); }, OkunamayanMuhasebe);
+    is.onay.Al(genel, AyniFisSorusu(*istek.bilinenler, fis.ack));
+  }
+  auto islenen = FisIsle(muhasebe, fis, istek);
   const std::int32_t fisno = Degeri(islenen);
   if (fis.Bakiye() != Tutar())
     genel.bildirim.Uyari("Uyarı: borç ve alacak eşit değil, bakiye " +
@@ -133,7 +138,7 @@ void FisiIsle(Genel& genel, FisIsi& is) {
   genel.bildirim.Bilgi("Fiş işlendi, fiş no " + std::to_string(fisno));
   if (is.cikti.bicim.empty()) return Yaz(std::to_string(fisno) + "\n");
   baslik.fisno = std::to_string(fisno);
-  FisYaz(genel, is, fis, baslik, Yapilan([&] { return HesapPlani::Oku(muhasebe); }));
+  FisYaz(genel, is, fis, baslik, Yapilan([&] { return HesapPlani::Oku(muhasebe); }, OkunamayanMuhasebe));
 }
 
 void FisSecenekleri(CLI::App& komut, FisIsi& is) {

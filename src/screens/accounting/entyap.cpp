@@ -29,6 +29,8 @@ constexpr auto tarih = Uye("tarih", &FisFormu::tarih);
 constexpr auto fisno = Uye("fisno", &FisFormu::fisno);
 }  // namespace alan
 
+const std::string OkunamayanMuhasebe = std::string(MuhasebeAcilamadi) + "\n";
+
 AlanGrubu Alanlar() {
   return {"Fiş",
           {{alan::grup, "Grup Kodu", {.liste = SonraDolar, .harf = 10, .kayitDisi = true}},
@@ -129,12 +131,13 @@ void entyap::MuhasebeyiOku() {
   if (MuhasebeSirketi(Oturumu()).empty()) return;
   const auto muhasebe = MuhasebeyiAc(KardesDizini(Oturumu(), MuhasebeSirketi(Oturumu())));
   if (!Oldu(muhasebe)) return;
-  if (auto plan = Koru([&] { return HesapPlani::Oku(**muhasebe); }); Oldu(plan)) plan_ = std::move(*plan);
+  if (auto plan = Koru([&] { return HesapPlani::Oku(**muhasebe); }, OkunamayanMuhasebe); Oldu(plan))
+    plan_ = std::move(*plan);
   FisNoKoy(**muhasebe);
 }
 
 void entyap::FisNoKoy(Motor& muhasebe) {
-  const auto no = Koru([&] { return SiradakiFisNo(muhasebe); });
+  const auto no = Koru([&] { return SiradakiFisNo(muhasebe); }, OkunamayanMuhasebe);
   if (Oldu(no)) Denetim(alan::fisno).Koy(std::int64_t(*no));
 }
 
@@ -205,7 +208,7 @@ void entyap::YevmiyeYaz() {
 Sonuc<std::int32_t> entyap::Islenen(Motor& muhasebe) {
   const Tarih tarih = TarihDegeri(Denetim(alan::tarih).Oku());
   if (const Durum olur = FisDenetle(fis_, tarih); !olur) return olur.Kusuru();
-  const auto bilinenler = Koru([&] { return AyniFisler(muhasebe, fis_.ack); });
+  const auto bilinenler = Koru([&] { return AyniFisler(muhasebe, fis_.ack); }, OkunamayanMuhasebe);
   if (!bilinenler) return bilinenler.Kusuru();
   const std::string soru = AyniFisSorusu(*bilinenler, fis_.ack);
   if (!soru.empty() && !Bildirimi().Soru(soru)) return std::int32_t(0);
