@@ -1,7 +1,6 @@
 #include "registry/belgeler.h"
 
 #include "declarations/sigortabelgeleri.h"
-#include "declarations/bildirimbelgeleri.h"
 #include "deductions/ogibelgeleri.h"
 #include "documents/bordrobelgeleri.h"
 #include "notices/bildirimbelgeleri.h"
@@ -14,7 +13,6 @@ using OdaBelgeleri = std::span<const BelgeTanimi> (*)();
 constexpr OdaBelgeleri Odalar[] = {
     BordroBelgeleri,    // the month's payroll
     SigortaBelgeleri,   // premiums and missing days, for the social-security body
-    SigortaBelgeleri,   // for the social-security body
     BildirimBelgeleri,  // lists for the labour office and the insurance unit
     KidemBelgeleri,     // severance and notice
     OgiBelgeleri,       // the special-expense refund
