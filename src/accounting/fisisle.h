@@ -40,7 +40,6 @@ struct FisIstegi {
   // posted whatever the books hold.
   std::optional<std::vector<std::int32_t>> bilinenler = {};
 };
-};
 
 // What keeps the voucher from being posted whatever the books are; asked again by the posting itself.
 Durum FisDenetle(const Fis& fis, Tarih tarih);
