@@ -5,6 +5,11 @@
 #include "ui/uzunis.h"
 
 namespace belvani {
+namespace {
+
+constexpr int ListeEni = 600;  // of names as long as "Tümüne Dahil Olup İşsizlik Sigortası Haricindekiler"
+
+}  // namespace
 
 meskod::meskod(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : HesapTuruEkrani(baglam, parametreler, "meskod", QStringLiteral("Meslek Kodları"),
@@ -15,6 +20,7 @@ meskod::meskod(EkranBaglami& baglam, ParametreDeposu& parametreler)
     return false;
   };
   TurleriAc(true);
+  Liste().setMinimumWidth(ListeEni);
 }
 
 // Cards keep the place of their branch in the list, so the rows behind a deleted one stay where they are.

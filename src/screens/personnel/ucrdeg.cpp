@@ -57,7 +57,7 @@ std::string UcretDili(std::string_view alan, const Deger& deger) {
 }  // namespace
 
 ucrdeg::ucrdeg(EkranBaglami& baglam)
-    : Form(baglam, "ucrdeg", QStringLiteral("Ücretleri Düzenleme")), duzenleme_(baglam.oturum) {
+    : Form(baglam, "ucrdeg", QStringLiteral("Ucretleri Düzenleme")), duzenleme_(baglam.oturum) {
   Govde()->addWidget(GrupYap({"", {{TurAlani, "Ücret Türü", {.liste = UcretTurleri, .kayitDisi = true}}}}));
   Yerlestir();
   YaziEkle(QStringLiteral("Alandan çıkılınca kaydedilir."), "soluk");

@@ -1,4 +1,4 @@
-// ucrdeg ("Ücretleri Düzenleme"): the wages of all people employed on one basis, twelve lines at a time. A field is
+// ucrdeg ("Ucretleri Düzenleme"): the wages of all people employed on one basis, twelve lines at a time. A field is
 // written when it is left; Ctrl+Z takes the last writes back.
 #pragma once
 
