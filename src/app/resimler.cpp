@@ -57,7 +57,7 @@ constexpr Doldurma Doldurmalar[] = {
     {"perbul", "Ay Return"},
     {"perdev", "Ctrl+Home"},
     {"kartxfrm", "Ctrl+Home"},
-    {"percari", "Ctrl+Home"},
+    {"percari", "Ctrl+Home PgDown"},
 };
 
 class Resimler : ProgramParcalari<MetinBildirimi, DialogYok> {

@@ -78,7 +78,7 @@ constexpr Etiket Etiketler[] = {
     {"brd", "ht", "H.T."},
     {"brd", "ui", "U.İ."},
     {"brd", "rt", "R.T."},
-    {"brd", "eksiksebebi", "E.G.Sebebi"},
+    {"brd", "eksiksebebi", "E.G."},
     {"brd", "sskmatrah", "SSK Matrah"},
     {"brd", "sskkesinti", "SSK Kesintisi"},
     {"brd", "sskmatrahisveren", "SSK.İşvr.Matrah"},

@@ -15,10 +15,10 @@ constexpr auto Yil = Uye("kartyili", &KartYili::yil);
 std::vector<SatirKolonu<Brd>> Kolonlar(int paraonda) {
   std::vector<SatirKolonu<Brd>> kolonlar;
   for (const Kolon<Brd, std::uint8_t>& gun : {brd::ay, brd::ng, brd::ht, brd::ui, brd::rt, brd::eksiksebebi})
-    kolonlar.push_back(EtiketliKolon(gun, 46));
+    kolonlar.push_back(EtiketliKolon(gun, 42));
   kolonlar.front().enCok = 12;
   const auto tutar = [&](const Kolon<Brd, Tutar>& kolon, const char* ad = nullptr) {
-    kolonlar.push_back(EtiketliKolon(kolon, 100, {.ondalik = paraonda}));
+    kolonlar.push_back(EtiketliKolon(kolon, 80, {.ondalik = paraonda}));
     if (ad != nullptr) kolonlar.back().ad = ad;
   };
   tutar(brd::sskmatrah);

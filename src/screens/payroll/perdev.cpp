@@ -19,7 +19,7 @@ perdev::perdev(EkranBaglami& baglam)
     : KisiSatirlari(baglam, "perdev", QStringLiteral("Personel Devir Bilgileri"),
                     Kolonlar(baglam.oturum.firma.paraonda)) {
   AlanlariDiz({{{"Personel", {EtiketliAlan(dvr::kod, {.anahtar = true}), AdSoyAlani()}, 2}}});
-  Liste().TercihBoyu(840, 280);
+  Liste().TercihBoyu(816, 280);
   ListeyiAc(dvr::kod);
 }
 
