@@ -70,6 +70,7 @@ int AylikBildirge::BelgeTuru() const {
 void AylikBildirge::BelgeTuruSec(int no) {
   const auto yer = std::ranges::find(belgeTurleri_, IkiHane(no), [](const auto& t) { return t.substr(0, KodHanesi); });
   if (yer != belgeTurleri_.end()) bildirge_.secim.belgeTuru = int(yer - belgeTurleri_.begin());
+  OranlariYukle();
 }
 
 Durum AylikBildirge::Hesapla(Ilerleme* ilerleme) {

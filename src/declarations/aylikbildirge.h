@@ -45,7 +45,7 @@ class AylikBildirge {
   BildirgeSecimi& Secim() { return bildirge_.secim; }
   // The chosen document type; 0 for all.
   int BelgeTuru() const;
-  // Chooses a type by its number, where the lists have it.
+  // Chooses a type by its number, where the lists have it, with its rates.
   void BelgeTuruSec(int no);
 
   // "Hesapla", F5, and every change of a list. After a fault, and when it was stopped (Vazgecilmis),

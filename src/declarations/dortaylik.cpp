@@ -50,7 +50,7 @@ GunVeKazanc AyinDilimi(const Brd& brd, int yil) {
 
 Kolonlar<DortAylikSatir> ListeKolonlari() {
   constexpr int gunEni = 5;
-  constexpr int kazancEni = 12;
+  constexpr int kazancEni = 10;
   Kolonlar<DortAylikSatir> kolonlar{
       {"sskno", "SİCİL NO", 13, [](auto& s) { return s.sskno; }},
       {"adi", "ADI", 16, [](auto& s) { return s.adi; }},

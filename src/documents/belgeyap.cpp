@@ -6,11 +6,11 @@
 namespace belvani {
 namespace {
 
-bool Secilir(const BelgeTanimi& tanim, const AlanTanimi& aranan) {
+bool Secilir(const BelgeTanimi& tanim, const AlanTutamagi& aranan) {
   for (const auto& sutun : tanim.alanlar)
     for (const AlanGrubu& grup : sutun)
       for (const Alan& alan : grup.alanlar)
-        if (alan.tanim.ad == aranan.ad) return true;
+        if (alan.Tutamak() == aranan) return true;
   return false;
 }
 

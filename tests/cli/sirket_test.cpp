@@ -117,6 +117,7 @@ TEST(Sirket, PapersComeInEveryForm) {
   const Sirket s;
   s.Tamam("hazirla deneme --yil 2009 --ay 7");
   for (const BelgeTanimi& belge : Belgeler()) {
+    if (belge.komut.empty()) continue;
     const std::string komut = BelgeKomutu(belge);
     SCOPED_TRACE(komut);
     EXPECT_FALSE(s.Tamam(komut).empty());
@@ -124,9 +125,12 @@ TEST(Sirket, PapersComeInEveryForm) {
     EXPECT_FALSE(s(komut + " --bicim json").Json().empty());
     s.Tamam(komut + " --bicim xlsx -o @b.xlsx");
     EXPECT_THAT(s.Oku("b.xlsx"), AllOf(testing::StartsWith("PK\x03\x04"), HasSubstr("xl/worksheets/sheet1.xml")));
-    belge.menu == "Bordro" ? PdfVeHamAyni(s, komut) : HamAyni(s, komut);
-    s.Tamam(komut + " --bicim pdf -o @b.pdf");
-    EXPECT_THAT(s.Oku("b.pdf"), testing::StartsWith("%PDF"));
+    if (belge.menu == "Bordro") PdfVeHamAyni(s, komut);
+    if (belge.menu == "Bildirgeler") {
+      HamAyni(s, komut);
+      s.Tamam(komut + " --bicim pdf -o @b.pdf");
+      EXPECT_THAT(s.Oku("b.pdf"), testing::StartsWith("%PDF"));
+    }
     EXPECT_THAT(s.Tamam(std::string(belge.komut) + " --help"),
                 HasSubstr(std::string(belge.komutYardimi).substr(0, 20)));
   }

@@ -19,9 +19,13 @@ char KolonTipi(const RaporKolonu& kolon) {
   return kolon.Sayisal() ? 'b' : 'm';
 }
 
-int KolonGenisligi(const RaporKolonu& kolon) {
-  constexpr int harfGenisligi = 7;
-  return std::clamp(std::max(kolon.en, TarihHarfi(kolon.tur)) * harfGenisligi + 16, 46, 240);
+// In letters: a text takes what it needs, up to what it has on paper, a number at least what it has there.
+int KolonHarfi(const Rapor& rapor, std::size_t kolon) {
+  const RaporKolonu& k = rapor.Kolonlar()[kolon];
+  if (TarihMi(k.tur)) return TarihHarfi(k.tur);
+  const int gereken = rapor.GerekliEn(int(kolon), BinlikGruplama);
+  if (k.Sayisal()) return std::max(k.en, gereken);
+  return rapor.Satirlar().empty() ? k.en : std::min(k.en, gereken);
 }
 
 }  // namespace
@@ -88,8 +92,20 @@ void ListeliBelgeEkrani::KolonlariKur(const Rapor& rapor) {
   const auto ayni = [](const dclistKolonu& k, const RaporKolonu& r) { return k.ad == Yazi(r.Adi()); };
   if (std::ranges::equal(liste_->Model().Kolonlar(), rapor.Kolonlar(), ayni)) return;
   liste_->Reset();
-  for (const RaporKolonu& k : rapor.Kolonlar())
-    liste_->CreateNewCaption(KolonTipi(k), Yazi(k.Adi()), Yazi(k.kisaBaslik), KolonGenisligi(k), 0, k.ondalik);
+  constexpr int kenar = 16;
+  const int harf = liste_->fontMetrics().horizontalAdvance('0');
+  QString genis;  // the widest text takes what the list has left
+  int genisHarfi = 0;
+  int toplam = 0;
+  for (std::size_t i = 0; i < rapor.Kolonlar().size(); ++i) {
+    const RaporKolonu& k = rapor.Kolonlar()[i];
+    const int harfler = KolonHarfi(rapor, i);
+    liste_->CreateNewCaption(KolonTipi(k), Yazi(k.Adi()), Yazi(k.kisaBaslik), harfler * harf + kenar, 0, k.ondalik);
+    toplam += liste_->columnWidth(int(i));
+    if (k.tur == KolonTuru::Metin && k.en > std::exchange(genisHarfi, std::max(genisHarfi, k.en)))
+      genis = Yazi(k.Adi());
+  }
+  if (toplam < EnGenisListe && !genis.isEmpty()) liste_->GenisKolon(genis);
 }
 
 void ListeliBelgeEkrani::SecimDegisti() {

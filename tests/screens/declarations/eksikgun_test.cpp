@@ -86,6 +86,7 @@ TEST(Yaylik, OpensForPensioners) {
   auto& emekliler = o.Ac<yaylik>(o.parametreler);
   EXPECT_EQ(Utf8(emekliler.windowTitle()), "S.G.D.P. Bildirgesi");
   EXPECT_EQ(emekliler.Bildirge().BelgeTuru(), DestekPrimiBelgesi);
+  EXPECT_EQ(Utf8(emekliler.findChild<QLabel*>("oran4")->text()), "30") << "the support premium";
   EXPECT_EQ(o.oturum.PencereTip, "");
   EXPECT_EQ(o.Ac<yaylik>(o.parametreler).Bildirge().BelgeTuru(), 0);
 }

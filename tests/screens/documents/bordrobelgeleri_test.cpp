@@ -79,11 +79,12 @@ TEST(Brdbas, ChoicesColumnsAndSettingsFile) {
   EXPECT_THAT(DosyaOku(ayar).value_or(""), HasSubstr("Brdfsize=9"));
 }
 
-// Every paper of the registry by its keys: on the screen, on the printer with the settings that it honours, and as a
-// workbook.
+// Papers of the registry by their keys, but for those of modules with records of their own: on the screen, on the
+// printer with the settings that it honours, and as a workbook.
 TEST(BelgeEkranlari, EveryPaperByItsKeys) {
   BordroluOrtam ortam;
   for (const BelgeTanimi& tanim : Belgeler()) {
+    if (tanim.menu.starts_with("Ek Moduller")) continue;
     SCOPED_TRACE(tanim.ekran);
     const Form& form = ortam.BelgeAc(tanim.ekran);
     EXPECT_EQ(Utf8(form.windowTitle()), tanim.pencereBasligi);
