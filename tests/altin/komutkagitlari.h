@@ -77,6 +77,12 @@ inline Kagit CariHesabi(const char* bicim, const std::string& kisi) {
           [=](OrnekSirket& o) { return o.GunKomutu("cari", kisi + " --bicim " + bicim); }};
 }
 
+// Of one person, whose visit is no month of the calendar's choice.
+inline Kagit Vizite(const char* ad, const char* bicim, const std::string& secenekler) {
+  return {SonAy, std::string(ad) + "." + bicim,
+          [=](OrnekSirket& o) { return o.SirketKomutu("vizite", secenekler + " --bicim " + bicim); }};
+}
+
 inline Kagitlar DonemKagitlari(const Ay& ay) {
   return {Liste(ay, "bordro", "csv"),
           Liste(ay, "bordro", "metin"),
@@ -129,6 +135,8 @@ inline Kagitlar KomutKagitlari() {
                              Liste(SonAy, "eksik-gun", "json"),
                              Liste(BirinciDonem, "eksik-gun", "metin"),
                              Kitap(SonAy, "eksik-gun"),
+                             Vizite("vizite1-cikan", "json", "008 --tur 1 --tarih 15.12.2009 --saat 09:15"),
+                             Vizite("vizite3-yakinsiz", "metin", "008 --tur 3 --tarih 31.08.2009 --yakin 1"),
                              CariHesabi("metin", "002"),
                              CariHesabi("csv", "004"),
                              CariHesabi("json", "011"),
@@ -143,76 +151,5 @@ inline Kagitlar KomutKagitlari() {
   for (const Kagit& kagit : KidemKagitlari()) hepsi.push_back(kagit);
   return hepsi;
 }
-  // Of one person, whose visit is no month of the calendar's choice.
-  inline Kagit Vizite(const char* ad, const char* bicim, const std::string& secenekler) {
-    return {SonAy, std::string(ad) + "." + bicim,
-            [=](OrnekSirket& o) { return o.SirketKomutu("vizite", secenekler + " --bicim " + bicim); }};
-  }
-
-  inline Kagitlar DonemKagitlari(const Ay& ay) {
-    return {Liste(ay, "bordro", "csv"),
-            Liste(ay, "bordro", "metin"),
-            Liste(ay, "icmal", "metin"),
-            Liste(ay, "icmal", "csv"),
-            Liste(ay, "ozel-bordro", "metin"),
-            Liste(ay, "pusula", "csv"),
-            Liste(ay, "bildirge", "json", "--belge 01 --kanun 05510")};
-  }
-
-  inline Kagitlar KomutKagitlari() {
-    Kagitlar hepsi;
-    for (const Ay& ay : Donemler) {
-      auto kagitlar = DonemKagitlari(ay);
-      std::move(kagitlar.begin(), kagitlar.end(), std::back_inserter(hepsi));
-    }
-    const std::string cirak2008 = "1603200727814", cirak2009 = "81706234494";
-    for (const Kagit& kagit : {EBildirge(BirinciDonem, ""),
-                               EBildirge(IkinciDonem, ""),
-                               EBildirge(UcuncuDonem, cirak2008),
-                               EBildirge(DorduncuDonem, cirak2008),
-                               EBildirge(SonAy, cirak2009),
-                               Liste(BirinciDonem, "bildirge", "metin", "--belge 01 --kanun 05510"),
-                               Liste(IkinciDonem, "bildirge", "metin", "--belge 01 --kanun 05510"),
-                               BildirgeTablosuKagidi(SonAy, "--belge 01 --kanun 14447"),
-                               BildirgeTablosuKagidi(IkinciDonem, "--belge 01 --kanun 05510"),
-                               Liste(SonAy, "pusula", "metin", "--kod 001 006"),
-                               Liste(UcuncuDonem, "pusula", "metin", "--kod 011 014"),
-                               Liste(UcuncuDonem, "bordro", "json", "--kod 011 012"),
-                               Liste(UcuncuDonem, "icmal", "json"),
-                               Liste(SonAy, "ozel-bordro", "csv"),
-                               Liste(SonAy, "agi", "csv"),
-                               Liste(SonAy, "agi", "metin", "--kod 001 014"),
-                               Liste(SonAy, "ozel-bordro", "metin", "--kod 032 032", "-cirak"),
-                               Liste(SonAy, "agi", "metin", "--kod 032 032", "-cirak"),
-                               Liste(UcuncuDonem, "agi", "json", "--kod 009 010"),
-                               IzinListesi(SonAy, "icmal", "metin"),
-                               IzinListesi(SonAy, "personel", "metin"),
-                               IzinListesi(SonAy, "donem", "metin"),
-                               IzinListesi(SonAy, "personel", "csv", "--kod 004 011"),
-                               IzinListesi(SonAy, "donem", "csv"),
-                               Liste(SonAy, "muhasebe-fisi", "metin"),
-                               Liste(SonAy, "muhasebe-fisi", "json", "--grup YÖN"),
-                               Liste(UcuncuDonem, "muhasebe-fisi", "csv"),
-                               Liste(SonAy, "muhasebe-fisi", "journal"),
-                               Kitap(SonAy, "muhasebe-fisi"),
-                               DortAylikListesi(BirinciDonem, "json"),
-                               DortAylikListesi(SonAy, "csv"),
-                               DortAylikListesi(SonAy, "metin"),
-                               Liste(SonAy, "eksik-gun", "json"),
-                               Liste(BirinciDonem, "eksik-gun", "metin"),
-                               Kitap(SonAy, "eksik-gun"),
-                               Vizite("vizite1-cikan", "json", "008 --tur 1 --tarih 15.12.2009 --saat 09:15"),
-                               Vizite("vizite3-yakinsiz", "metin", "008 --tur 3 --tarih 31.08.2009 --yakin 1"),
-                               Kitap(SonAy, "bordro", "--kod 001 004"),
-                               Kitap(SonAy, "icmal"),
-                               Kitap(SonAy, "agi", "--kod 009 011"),
-                               Kitap(UcuncuDonem, "pusula", "--kod 011 012"),
-                               Kitap(SonAy, "ozel-bordro", "--kod 009 011"),
-                               YaziciBaytlari(SonAy, "bordro", "--kod 001 003"),
-                               YaziciBaytlari(SonAy, "pusula", "--kod 010 010")})
-      hepsi.push_back(kagit);
-    for (const Kagit& kagit : KidemKagitlari()) hepsi.push_back(kagit);
-    return hepsi;
-  }
 
 }  // namespace belvani::test
