@@ -7,6 +7,7 @@
 #include "altin/kayit.h"
 #include "altin/komutkagitlari.h"
 #include "altin/ogikagitlari.h"
+#include "altin/vizitekagitlari.h"
 #include "altin/yerlesimkagitlari.h"
 
 namespace belvani::test {
