@@ -1,4 +1,5 @@
 // The screens of severance, by keys.
+#include <QComboBox>
 #include <QTextBrowser>
 #include <gmock/gmock.h>
 
@@ -128,8 +129,11 @@ TEST_F(KidemEkrani, ParametersAreKeptInTheirFiles) {
   ortam.Yaz("001\n");
   auto& kidem = ortam.Ac<kidempar>(ortam.parametreler);
   EXPECT_EQ(Metin(kidem, "KidemYilGun"), "360");
-  EXPECT_EQ(Metin(kidem, "KidemPuantajYeri"), "İhbar/Kasa Taz.");
-  EXPECT_EQ(Metin(kidem, "IhbarPuantajYeri"), "Kıdem Tazminatı");
+  const auto secilen = [&](const char* ad) {
+    return Utf8(qobject_cast<QComboBox*>(AlanBul(kidem, ad).Odak())->currentText());
+  };
+  EXPECT_EQ(secilen("KidemPuantajYeri"), "İhbar/Kasa Taz.");
+  EXPECT_EQ(secilen("IhbarPuantajYeri"), "Kıdem Tazminatı");
   AlanBul(kidem, "KidemYilGun").Odak()->setFocus();
   ortam.Yaz("365\n");
   ortam.Bas(Qt::Key_F5);
