@@ -26,12 +26,12 @@ TEST(OzelGiderKomutlari, FromTheDeclaredExpensesToTheLists) {
 
   s.Yaz("bozuk.csv", "kod;harcama\n001;1\nyok;2\n");
   EXPECT_EQ(s("ogi-harcama a @bozuk.csv --yil 2004").durum, 1);
-  s.Yaz("veri/a/ozgvpar.dat", "kısa");
+  s.Yaz("veri/A/ozgvpar.dat", "kısa");
   const auto alindi = s("ogi-harcama a @h.csv --yil 2004");
   EXPECT_EQ(alindi.durum, 0) << alindi.mesaj;
   EXPECT_EQ(alindi.cikti, "2 kayıt eklendi, 0 kayıt değişti\n");
   EXPECT_THAT(alindi.mesaj, HasSubstr("Uyarı: ozgvpar.dat 5 bayt, 12 bayt olmalıydı: hazır değerler yazıldı."));
-  EXPECT_EQ(s.Oku("veri/a/ozgvpar.dat"), std::string("\0\0\x0c\x42\x01\0\xd5\x07\0\0\xc0\x40", 12)) << "35, 1/2005, 6";
+  EXPECT_EQ(s.Oku("veri/A/ozgvpar.dat"), std::string("\0\0\x0c\x42\x01\0\xd5\x07\0\0\xc0\x40", 12)) << "35, 1/2005, 6";
 
   const auto bordro = s("ogi-bordro a --yil 2005 --ay 1 --tur calisan --urun bordro --bicim json").Json();
   EXPECT_EQ(bordro["baslik"], "Özel Gider İndirim Bordrosu (Çalışan)");
