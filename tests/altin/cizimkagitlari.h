@@ -295,22 +295,6 @@ inline std::unique_ptr<Belge> KidemKagidi(OrnekSirket& o) {
   return KidemBelgesi(hesap.Cizelge());
 }
 
-// A visit in May and one in December; the relative is a child, of the certificate the mother.
-inline ViziteKagidi ViziteYap(OrnekSirket& o, ViziteTuru tur, const char* kod, Tarih gun) {
-  ViziteKagidi kagit = BosViziteKagidi(o.oturum, tur);
-  auto kisi = KisiDoldur(o.oturum, kod, gun).value();
-  kagit.form = kisi.form;
-  kagit.form.saat = "09:15";
-  kagit.kimlik = kisi.kimlik;
-  kagit.yakin = YakinBul(o.oturum, kod, tur == ViziteTuru::AltiAylik ? AnneYakinligi : 5);
-  kagit.aylar = *GunTablosuYap(o.oturum, kagit.form);
-  for (std::size_t i = 0; i < kagit.aylar.size(); ++i) {
-    kagit.aylar[i].ekodeme = Tutar(double(i) * 11.25);
-    kagit.aylar[i].prim = Tutar(double(i % 3) * 250);
-  }
-  return kagit;
-}
-
 inline Kagitlar KisiKagitlari() {
   return {
       Cizim(SonAy, "kidem", KidemKagidi),
@@ -324,29 +308,6 @@ inline Kagitlar KisiKagitlari() {
       {UcuncuDonem, "ibraname-duz.metin",
        [](OrnekSirket& o) { return IbranameMetni(CikisKagidi(o), CerceveTuru::Duz); }},
       Cizim(SonAy, "cari", [](OrnekSirket& o) { return std::move(*CariBelgesi(o.oturum, "002")); })};
-}
-
-inline Kagitlar ViziteKagitlari() {
-  constexpr struct {
-    const char* ad;
-    ViziteTuru tur;
-  } turler[] = {
-      {"vizite1", ViziteTuru::Sigortali}, {"vizite2", ViziteTuru::EsVeCocuk}, {"vizite3", ViziteTuru::AltiAylik}};
-  const struct {
-    const char* ek;
-    Tarih gun;
-  } gunler[] = {{"mayis", Tarih(2009, 5, 15)}, {"aralik", Tarih(2008, 12, 31)}};
-  Kagitlar kagitlar;
-  for (const auto& [ad, tur] : turler)
-    for (const auto& [ek, gun] : gunler) {
-      const std::string kayit = std::string(ad) + "-" + ek;
-      const auto yap = [tur = tur, gun = gun](OrnekSirket& o) { return ViziteYap(o, tur, "010", gun); };
-      kagitlar.push_back(
-          {SonAy, kayit + ".cizim.txt", [yap](OrnekSirket& o) { return CizimMetni(*ViziteCiz(yap(o))); }});
-      kagitlar.push_back(
-          {SonAy, kayit + ".metin", [yap](OrnekSirket& o) { return MetinSayfalari(ViziteYazdir(yap(o))); }});
-    }
-  return kagitlar;
 }
 
 }  // namespace belvani::test

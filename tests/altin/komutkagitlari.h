@@ -77,12 +77,6 @@ inline Kagit CariHesabi(const char* bicim, const std::string& kisi) {
           [=](OrnekSirket& o) { return o.GunKomutu("cari", kisi + " --bicim " + bicim); }};
 }
 
-// Of one person, whose visit is no month of the calendar's choice.
-inline Kagit Vizite(const char* ad, const char* bicim, const std::string& secenekler) {
-  return {SonAy, std::string(ad) + "." + bicim,
-          [=](OrnekSirket& o) { return o.SirketKomutu("vizite", secenekler + " --bicim " + bicim); }};
-}
-
 inline Kagitlar DonemKagitlari(const Ay& ay) {
   return {Liste(ay, "bordro", "csv"),
           Liste(ay, "bordro", "metin"),
@@ -135,8 +129,6 @@ inline Kagitlar KomutKagitlari() {
                              Liste(SonAy, "eksik-gun", "json"),
                              Liste(BirinciDonem, "eksik-gun", "metin"),
                              Kitap(SonAy, "eksik-gun"),
-                             Vizite("vizite1-cikan", "json", "008 --tur 1 --tarih 15.12.2009 --saat 09:15"),
-                             Vizite("vizite3-yakinsiz", "metin", "008 --tur 3 --tarih 31.08.2009 --yakin 1"),
                              CariHesabi("metin", "002"),
                              CariHesabi("csv", "004"),
                              CariHesabi("json", "011"),
