@@ -17,8 +17,9 @@ constexpr double En = 190;
 constexpr double KutuBoyu = 9;
 constexpr double BolumBoyu = 5.5;
 constexpr double KayitSatiri = 6;
-constexpr int SakatlikDerecesi = 3;
-constexpr int VergiDilimi = 4;
+constexpr std::string_view SiraNolari[] = {"1.", "2.", "3.", "4."};
+constexpr std::size_t SakatlikDerecesi = 3;
+constexpr std::size_t VergiDilimi = std::size(SiraNolari);
 
 double BolumBasligi(FormKurucu& f, double y, std::string_view metin) {
   f.Bolum({Sol, y, En, BolumBoyu}, metin, 8.5, MetinHizasi::Sol);
@@ -88,10 +89,11 @@ double SigortaliBolumu(FormKurucu& f, double y, const IabFormu& form) {
             {{En / 2, "Adresi", EtiketUstte, "adr1", form.adres[0]}, {En / 2, "", EtiketUstte, "adr2", form.adres[1]}});
   constexpr double secenekEni = 18;
   std::vector<SoruSecenegi> dereceler, dilimler;
-  for (int i = 1; i <= SakatlikDerecesi; ++i)
-    dereceler.push_back({secenekEni, std::to_string(i) + ".", "sakatlik" + std::to_string(i), form.sakatdrc == i});
-  for (int i = 1; i <= VergiDilimi; ++i)
-    dilimler.push_back({secenekEni, std::to_string(i) + ".", "dilim" + std::to_string(i)});
+  for (std::size_t i = 0; i < VergiDilimi; ++i) {
+    const std::string no = std::to_string(i + 1);
+    if (i < SakatlikDerecesi) dereceler.push_back({secenekEni, SiraNolari[i], "sakatlik" + no, form.sakatdrc == i + 1});
+    dilimler.push_back({secenekEni, SiraNolari[i], "dilim" + no});
+  }
   SoruKutusu(f, {Sol, y, En / 2, KutuBoyu}, "Sakatlık Derecesi", dereceler);
   SoruKutusu(f, {Sol + En / 2, y, En / 2, KutuBoyu}, "Vergi Dilimi", dilimler);
   return y + KutuBoyu;

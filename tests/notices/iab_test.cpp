@@ -140,6 +140,8 @@ TEST_F(Iab, ThePageSaysAllAndStaysOnIt) {
   const auto yazi = [&](std::string_view metin) {
     return std::ranges::find(sayfa.yazilar, metin, &FormYazisi::metin) != sayfa.yazilar.end();
   };
+  for (const char* no : {"1.", "2.", "3.", "4."})
+    EXPECT_EQ(std::ranges::count(sayfa.yazilar, no, &FormYazisi::metin), *no == '4' ? 1 : 2) << no;
   for (const char* metin :
        {"TÜRKİYE İŞ KURUMU", "İŞTEN AYRILMA BİLDİRGESİ", "(İAB)", "1 - İŞVEREN BİLGİLERİ", "2 - SİGORTALI BİLGİLERİ",
         "3 - SANDIK BİLGİLERİ", "Kapsamı:", "Özel:",
