@@ -18,7 +18,7 @@ AlanGrubu EsasIsAlani() {
 }
 
 BelgeListesi Listesi() {
-  return {.komut = "Listele", .degisince = false};
+  return {.komut = "Listele"};
 }
 
 // Days without anyone give an empty list, and nothing is said of it.

@@ -67,13 +67,18 @@ iab::iab(EkranBaglami& baglam)
 }
 
 void iab::Yerlestir() {
+  SikDiz();
   Govde()->addWidget(GrupYap(PersonelGrubu()));
   Govde()->addWidget(GrupYap(AyrilmaGrubu()));
   uyarilar_ = YaziEkle({}, "hata");
   uyarilar_->setObjectName("uyarilar");
+  QSizePolicy yeri = uyarilar_->sizePolicy();
+  yeri.setRetainSizeWhenHidden(true);  // the person who has something to be told comes up later
+  uyarilar_->setSizePolicy(yeri);
   auto* kutu = new QGroupBox(QStringLiteral("Son 120 Gün Kayıtları"), this);
   auto* duzen = new QVBoxLayout(kutu);
   liste_->setObjectName("dclist1");
+  duzen->setContentsMargins(8, 4, 8, 4);
   duzen->addWidget(liste_);
   SatirlaraYerAc(*liste_, int(IabKayitSayisi));
   Govde()->addWidget(kutu, 1);

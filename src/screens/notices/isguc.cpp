@@ -1,7 +1,5 @@
 #include "screens/notices/isguc.h"
 
-#include <QGroupBox>
-
 #include "core/store/koru.h"
 #include "documents/secimalanlari.h"
 #include "notices/isgucukagidi.h"
@@ -12,40 +10,40 @@ namespace belvani {
 namespace {
 
 constexpr int AdEni = 190;
-constexpr int SayiEni = 58;
+constexpr int SayiEni = 65;
 constexpr double EnCokSayi = 999'999;
 constexpr int YerHarfi = 120;
 constexpr int IletisimHarfi = 40;
 
 AlanGrubu BaslikGrubu() {
-  const AlanEki genis{.harf = 40};
+  const AlanEki genis{.harf = 36}, dar{.harf = 20};
   return {"İşyeri",
           {{Uye("isyeriNo", &IsgucuBasligi::isyeriNo, 60), "İşyeri No", genis},
            {Uye("yil", &IsgucuBasligi::yil), "Yıl", {.enAz = IlkBelgeYili, .enCok = SonBelgeYili, .harf = 6}},
-           {Uye("adres", &IsgucuBasligi::adres, YerHarfi), "Adres", genis},
            {Uye("ay", &IsgucuBasligi::ay), "Ay", {.liste = AyAdlari, .listeTabani = 1}},
-           {Uye("telefon", &IsgucuBasligi::telefon, IletisimHarfi), "Telefon", genis},
-           {Uye("faks", &IsgucuBasligi::faks, IletisimHarfi), "Faks", {.harf = 24}},
+           {Uye("adres", &IsgucuBasligi::adres, YerHarfi), "Adres", genis},
+           {Uye("telefon", &IsgucuBasligi::telefon, IletisimHarfi), "Telefon", dar},
+           {Uye("faks", &IsgucuBasligi::faks, IletisimHarfi), "Faks", dar},
            {Uye("eposta", &IsgucuBasligi::eposta, IletisimHarfi), "E-Mail", genis},
-           {Uye("web", &IsgucuBasligi::web, IletisimHarfi), "Web", {.harf = 24}}},
-          2};
+           {Uye("web", &IsgucuBasligi::web, IletisimHarfi), "Web", dar}},
+          3};
 }
 
 struct SayiKolonu {
-  const char* adlar[4];  // in each group
-  const char* baslik;
+  const char* adlar[4];      // in each group
+  const char* basliklar[2];  // in each block
   std::int32_t IsgucuSayisi::*uye;
 };
-constexpr SayiKolonu SayiKolonlari[] = {{{"e1", "e2", "e3", "e4"}, "E.", &IsgucuSayisi::erkek},
-                                        {{"k1", "k2", "k3", "k4"}, "K.", &IsgucuSayisi::kadin},
-                                        {{"t1", "t2", "t3", "t4"}, "T.", &IsgucuSayisi::toplam}};
+constexpr SayiKolonu SayiKolonlari[] = {{{"e1", "e2", "e3", "e4"}, {"E.", "Erkek"}, &IsgucuSayisi::erkek},
+                                        {{"k1", "k2", "k3", "k4"}, {"K.", "Kadın"}, &IsgucuSayisi::kadin},
+                                        {{"t1", "t2", "t3", "t4"}, {"T.", "Toplam"}, &IsgucuSayisi::toplam}};
 
-std::vector<SatirKolonu<IsgucuSatiri>> Kolonlar(std::span<const std::string_view> satirAdlari) {
+std::vector<SatirKolonu<IsgucuSatiri>> Kolonlar(std::span<const std::string_view> satirAdlari, int blok) {
   std::vector<SatirKolonu<IsgucuSatiri>> kolonlar{AdKolonu<IsgucuSatiri>("Açıklama", AdEni, satirAdlari)};
   kolonlar.front().ad = "ack";
   for (std::size_t g = 0; g < IsgucuSatiri().size(); ++g)
     for (const SayiKolonu& k : SayiKolonlari)
-      kolonlar.push_back(UyeKolonuYap<IsgucuSatiri>(k.adlar[g], k.baslik, SayiEni,
+      kolonlar.push_back(UyeKolonuYap<IsgucuSatiri>(k.adlar[g], k.basliklar[blok], SayiEni,
                                                     [ g, uye = k.uye ](auto& satir) -> auto& { return satir[g].*uye; },
                                                     {.enCok = EnCokSayi}));
   return kolonlar;
@@ -57,13 +55,14 @@ isguc::isguc(EkranBaglami& baglam)
     : Form(baglam, "isguc", QStringLiteral("İşgücü Çizelgesi")),
       liste1_(new dclist(baglam.bildirim, this)),
       liste2_(new dclist(baglam.bildirim, this)),
-      satirlar_(*liste1_, Kolonlar(IsgucuSatirlari)),
-      ayrimlar_(*liste2_, Kolonlar(IsgucuAyrimSatirlari)),
+      satirlar_(*liste1_, Kolonlar(IsgucuSatirlari, 0)),
+      ayrimlar_(*liste2_, Kolonlar(IsgucuAyrimSatirlari, 1)),
       cizelge_(BosCizelge(baglam.oturum.firma)) {
   liste1_->setObjectName("dclist1");
   liste2_->setObjectName("dclist2");
+  SikDiz();
   Govde()->addWidget(GrupYap(BaslikGrubu()));
-  Govde()->addWidget(ListeKutusu(QStringLiteral("Çizelge"), *liste1_, IsgucuGruplari, int(IsgucuSatirlari.size())));
+  Govde()->addWidget(ListeKutusu({}, *liste1_, IsgucuGruplari, int(IsgucuSatirlari.size())));
   Govde()->addWidget(
       ListeKutusu(Yazi(IsgucuAyrimBasligi), *liste2_, IsgucuAyrimGruplari, int(IsgucuAyrimSatirlari.size())));
   Govde()->addStretch(1);
@@ -80,12 +79,15 @@ QWidget* isguc::ListeKutusu(const QString& baslik, dclist& liste, std::span<cons
   liste.YeniSatirli(false);
   liste.horizontalHeader()->setSectionsClickable(false);
   liste.HucreDegisti = [this](int, const QString&) { yazildi_ = true; };
-  auto* kutu = new QGroupBox(baslik.trimmed(), this);
+  auto* kutu = new QWidget(this);
   auto* duzen = new QVBoxLayout(kutu);
+  duzen->setContentsMargins(0, 0, 0, 0);
   duzen->setSpacing(0);
+  if (!baslik.isEmpty()) duzen->addWidget(new QLabel(baslik.trimmed(), kutu));
   duzen->addWidget(new GrupBasligi(liste, 1, int(std::size(SayiKolonlari)), gruplar, kutu));
   duzen->addWidget(&liste);
   SatirlaraYerAc(liste, satir);
+  liste.setFixedHeight(liste.minimumHeight());
   return kutu;
 }
 
