@@ -1,6 +1,7 @@
 // rap2 ("Bordro Raporlama"): designs reports over pay records, for a range of months and people.
 #pragma once
 
+#include "reports/raporalani.h"
 #include "screens/reports/raporekrani.h"
 
 namespace belvani {
@@ -14,6 +15,7 @@ class rap2 : public RaporEkrani<BordroKolonu> {
   Sonuc<BordroKolonlari> Al(const std::string& ad) const override { return BordroRaporuAl(Oturumu().DataPath, ad); }
   Durum Yaz(const std::string& ad, const BordroKolonlari& kolonlar) const override;
   std::string_view Uzanti() const override { return BordroUzantisi; }
+  std::string IlkAlan() const override { return BordroAlanlari().front().dosyadaki; }
   std::size_t EnCokKolon() const override { return EnCokBordroKolonu; }
   BordroKolonu Baslayan(const BordroKolonu& secilen) const override;
   std::optional<Rapor> RaporYap(const RaporBicimi& bicim, bool onizleme, Ilerleme* ilerleme) override;

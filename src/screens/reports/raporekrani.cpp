@@ -66,6 +66,7 @@ void RaporEkrani<Kolon>::Ac(const AlanSutunlari& alanlar) {
         return std::ranges::any_of(Raporlar(), [&](const auto& r) { return TurkceEsit(r, ad); });
       });
   AlanDegisti = [this](AlanDenetimi& alan) { AlanSecildi(alan); };
+  Yukle(Baslayan(Kolon{.alan = IlkAlan()}));
 }
 
 template <class Kolon>

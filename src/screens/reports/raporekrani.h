@@ -47,6 +47,7 @@ class RaporEkrani : public Form {
   virtual Durum Yaz(const std::string& ad, const Kolonlar& kolonlar) const = 0;
   virtual std::string_view Uzanti() const = 0;
   virtual std::size_t EnCokKolon() const = 0;
+  virtual std::string IlkAlan() const = 0;  // of the list of fields
   // A column of this field to begin with: its head and width.
   virtual Kolon Baslayan(const Kolon& secilen) const = 0;
   // The report; `onizleme`: its first rows, made without reading much. Nothing when a field cannot be read, which is
