@@ -144,13 +144,23 @@ Durum IsletmeIlkKayitlari(Motor& motor) {
   });
 }
 
+// From the log into the one file. Closing would do it too, and say nothing when it fails.
+Durum TekDosyayaTopla(Motor& motor) {
+  return Koru([&] {
+    const DepoYeri yer = motor.Yeri();
+    motor.YerKoy(DepoYeri::Paylasilan);
+    if (yer != DepoYeri::Paylasilan) motor.YerKoy(yer);
+  });
+}
+
 // All of the store into a new file, which nobody else knows yet.
 Durum DepoyuKur(KardesTuru tur, const std::string& yol) {
   Veritabani db;
   if (!db.DbYarat(yol)) return Kusur{db.SonHata()};
   for (const KardesTablosu& tablo : Tanimi(tur).tablolar)
     if (!db.TabloEkle(tablo.tanim)) return Kusur{db.SonHata()};
-  return Tanimi(tur).ilkKayitlar(db.IcMotor());
+  if (Durum d = Tanimi(tur).ilkKayitlar(db.IcMotor()); !d) return d;
+  return TekDosyayaTopla(db.IcMotor());
 }
 
 void YarimlariSupur(const std::string& dizin, const char* is) {
