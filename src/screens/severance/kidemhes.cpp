@@ -142,6 +142,11 @@ void kidemhes::Yerlestir() {
   notlar_->setObjectName("notlar");
   notlar_->setProperty("hata", true);
   notlar_->setWordWrap(true);
+  // Room for two lines from the beginning: the screen does not have to scroll when there is something to tell.
+  notlar_->setMinimumHeight(2 * fontMetrics().height() + 8);
+  QSizePolicy yer = notlar_->sizePolicy();
+  yer.setRetainSizeWhenHidden(true);
+  notlar_->setSizePolicy(yer);
   Alt()->addWidget(notlar_);
   Alt()->addWidget(neden_);
   for (const auto& d : Denetimler())
