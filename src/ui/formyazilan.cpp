@@ -78,7 +78,8 @@ bool Form::YazilaniKaydet() {
 }
 
 bool Form::YazilanBirakilir() {
-  if (soruyor_ || !KendiligindenKaydet()) return false;
+  // A row that was refused is asked about like anything else that was typed.
+  if (soruyor_ || (!KendiligindenKaydet() && !Kaydedilmemis())) return false;
   if (!Oturumu().YazilanSorulsun || !Kaydedilmemis()) return true;
   soruyor_ = true;
   const std::string kimin = sonAnahtar_.empty() ? Utf8(windowTitle()) : Utf8(windowTitle()) + ", " + sonAnahtar_;

@@ -18,7 +18,8 @@ struct IcmalTesti : test::KidemSirketi {
   std::unique_ptr<Belge> Belge_() { return KidemIcmalBelgesi(Kaynak(), secim, icmal); }
   std::vector<std::string> Kodlar() {
     std::vector<std::string> kodlar;
-    for (const auto& satir : Belge_()->Tablo()->Satirlar()) kodlar.push_back(DuzMetin(satir.hucreler[0]));
+    const auto tablo = Belge_()->Tablo();
+    for (const auto& satir : tablo->Satirlar()) kodlar.push_back(DuzMetin(satir.hucreler[0]));
     return kodlar;
   }
 };
@@ -107,13 +108,15 @@ TEST_F(IcmalTesti, WhatTheListTells) {
   ASSERT_TRUE(KidemParKaydet(o.FirmaDizini, {365, 0, 0}));
   const auto notlar = [&] {
     std::vector<std::string> sozler;
-    for (const UstSatir& s : Belge_()->Tablo()->ustSatirlar) sozler.push_back(s.sol);
+    const auto tablo = Belge_()->Tablo();
+    for (const UstSatir& s : tablo->ustSatirlar) sozler.push_back(s.sol);
     return sozler;
   };
   EXPECT_THAT(notlar(), ElementsAre(testing::_, testing::HasSubstr("2,260.05"),
                                     testing::HasSubstr("2 kişi: Kıdemin puantaj yerinde damga"),
                                     testing::HasSubstr("gelir vergisi")));
-  const auto& satirlar = Belge_()->Tablo()->Satirlar();
+  const auto tablo = Belge_()->Tablo();
+  const auto& satirlar = tablo->Satirlar();
   EXPECT_EQ(DuzMetin(satirlar[0].hucreler[7]), "304");
   EXPECT_EQ(DuzMetin(satirlar[0].hucreler[17]), "0");
   icmal.tavan = KidemTavaniSecimi::Yariyil;
