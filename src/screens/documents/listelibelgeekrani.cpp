@@ -12,7 +12,7 @@ namespace {
 
 constexpr int Bekleme = 200;  // milliseconds after the last change: what is typed goes on meanwhile
 constexpr int EnGenisListe = 1200;
-constexpr int ListeBoyu = 300;
+constexpr int ListeBoyu = 230;
 
 char KolonTipi(const RaporKolonu& kolon) {
   if (TarihMi(kolon.tur)) return 't';

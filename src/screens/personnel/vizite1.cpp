@@ -10,6 +10,7 @@ namespace {
 constexpr double EnCokTutar = 999'999'999.99;
 constexpr int EnCokYil = 9999;
 constexpr int EnCokAy = 12;
+constexpr int GorunenAy = 11;  // a small display has no room for the twelfth
 constexpr int EnCokGun = 30;
 constexpr int EnCokIzin = 99;
 
@@ -45,13 +46,13 @@ vizite1::vizite1(EkranBaglami& baglam)
       tablo_(*liste_, Kolonlar(baglam.oturum.firma.paraonda)) {
   AlanGrubu vizite = TarihGrubu("Düzenleme Tarihi", "Vizite Tarihi", false);
   vizite.alanlar.push_back({Uye("saati", &ViziteFormu::saat, ViziteFormu::SaatHarfi), "Saati"});
-  AlanlariDiz({{KisiGrubu()}, {vizite, KimlikGrubu()}});
+  AlanlariDiz({{KisiGrubu()}, {vizite}, {KimlikGrubu()}});
   liste_->setObjectName("dclist1");
   liste_->Model().KolonAyari(0).grup = 0;
   liste_->Editable(true);
   liste_->YeniSatirli(false);
   liste_->horizontalHeader()->setSectionsClickable(false);  // the months stay in their order
-  SatirlaraYerAc(*liste_, int(aylar_.size()));
+  SatirlaraYerAc(*liste_, GorunenAy);
   liste_->HucreDegisti = [this](int, const QString&) { ToplamlariGoster(); };
   liste_->SatirSil = [this](int satir) {
     HucreyiBosalt(satir);

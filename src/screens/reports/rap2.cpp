@@ -14,9 +14,9 @@ AlanGrubu DonemGrubu() {
   const AlanEki ay{.enAz = 1, .enCok = 12, .harf = 4, .kayitDisi = true};
   return {"Dönem",
           {{Uye("ilkYil", &BordroRaporuSecimi::ilkYil), "Bordro Yıl Başlangıç", yil},
-           {Uye("sonYil", &BordroRaporuSecimi::sonYil), "Bitiş", yil},
+           {Uye("sonYil", &BordroRaporuSecimi::sonYil), "Bordro Yıl Bitiş", yil},
            {Uye("ilkAy", &BordroRaporuSecimi::ilkAy), "Bordro Ay Başlangıç", ay},
-           {Uye("sonAy", &BordroRaporuSecimi::sonAy), "Bitiş", ay},
+           {Uye("sonAy", &BordroRaporuSecimi::sonAy), "Bordro Ay Bitiş", ay},
            {Uye("kisiBasina", &BordroRaporuSecimi::kisiBasina), "Her kişiye bir satır", {.kayitDisi = true}}},
           2};
 }

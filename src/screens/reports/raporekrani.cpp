@@ -17,7 +17,7 @@ namespace {
 
 constexpr int OnizlemeGecikmesi = 250;  // milliseconds after the last change
 constexpr std::size_t OnizlemeSatiri = 20;
-constexpr int ListeEni = 420, ListeBoyu = 240, OnizlemeBoyu = 200;
+constexpr int ListeEni = 420, ListeBoyu = 200, EnAzOnizleme = 60;
 constexpr auto AdAlani = Uye("ad", &RaporAdi::ad, 60);
 
 }  // namespace
@@ -52,11 +52,12 @@ void RaporEkrani<Kolon>::ListeyiKur(std::vector<ListeKolonu> kolonlar) {
 template <class Kolon>
 void RaporEkrani<Kolon>::Ac(const AlanSutunlari& alanlar) {
   AlanlariDiz(alanlar);
+  KolonDugmeleri();
   Govde()->addWidget(liste_, 1);
   Izle(liste_);
   YaziEkle(QStringLiteral("Önizleme: raporun ilk satırları"), "soluk");
   onizleme_->setObjectName("onizleme");
-  onizleme_->setMinimumHeight(OnizlemeBoyu / 2);
+  onizleme_->setMinimumHeight(EnAzOnizleme);
   Govde()->addWidget(onizleme_, 1);
   Izle(onizleme_);
   KomutlariKur();
@@ -67,6 +68,24 @@ void RaporEkrani<Kolon>::Ac(const AlanSutunlari& alanlar) {
       });
   AlanDegisti = [this](AlanDenetimi& alan) { AlanSecildi(alan); };
   Yukle(Baslayan(Kolon{.alan = IlkAlan()}));
+}
+
+// Beside the list, not in the row of commands: they are about its columns.
+template <class Kolon>
+void RaporEkrani<Kolon>::KolonDugmeleri() {
+  auto* satir = new QHBoxLayout;
+  const auto dugme = [&](const char* metin, const char* simge, const char* ipucu, auto islev) {
+    xButton* yeni = DugmeYap(QString::fromUtf8(metin), simge, islev);
+    yeni->setToolTip(QString::fromUtf8(ipucu));
+    satir->addWidget(yeni);
+  };
+  dugme(" Yeni Kolon Ekle ", "yeni", "Insert", [this] { KolonEkle(); });
+  dugme("Kolonu Değiştir", "duzelt", "F4", [this] { KolonDegistir(); });
+  dugme(" Kolonu Sil ", "sil", "Listede Delete", [this] { KolonSil(); });
+  dugme("Yukarı", "onceki", "Ctrl+Yukarı", [this] { KolonTasi(-1); });
+  dugme("Aşağı", "sonraki", "Ctrl+Aşağı", [this] { KolonTasi(1); });
+  satir->addStretch(1);
+  Govde()->addLayout(satir);
 }
 
 template <class Kolon>

@@ -61,6 +61,7 @@ class RaporEkrani : public Form {
   bool YazilaniKaydet() override;
 
  private:
+  void KolonDugmeleri();
   void KomutlariKur();
   void ListeyiKur(std::vector<ListeKolonu> kolonlar);
   void Listele(int simdiki);
