@@ -101,15 +101,14 @@ void ozgvharc::ListeyiKur() {
   };
 }
 
-// A row that was not taken must not be lost: the list then stays with its year.
+// What was refused, and told, is asked about like anything else that was typed.
 bool ozgvharc::KendiligindenKaydet() {
-  if (liste_->OkUpdateData()) return true;
-  liste_->setFocus();
-  return false;
+  liste_->OkUpdateData();
+  return true;
 }
 
 void ozgvharc::YilaGec(const std::string& yil) {
-  if (!KendiligindenKaydet() || !AlanlarSaglam(typeid(HarcamaYili))) return AnahtarKoy(std::to_string(kosullar_.yil));
+  if (!AlanlarSaglam(typeid(HarcamaYili))) return AnahtarKoy(std::to_string(kosullar_.yil));
   kosullar_.yil = BastakiSayi(yil);
   Doldur();
 }
@@ -176,7 +175,7 @@ bool ozgvharc::KisiyiKoy(int satir, const std::string& kod) {
 
 // F2: the person's row, a new one where he has none.
 void ozgvharc::KisiBul() {
-  if (!KendiligindenKaydet()) return;
+  if (!liste_->OkUpdateData()) return;
   const int simdiki = liste_->CurSat();
   const auto kod = PersonelSec(Baglam(), simdiki < 0 ? "" : Utf8(liste_->TextByName(simdiki, "kod")));
   liste_->setFocus();
