@@ -17,7 +17,7 @@ namespace {
 
 constexpr int OnizlemeGecikmesi = 250;  // milliseconds after the last change
 constexpr std::size_t OnizlemeSatiri = 20;
-constexpr int ListeEni = 420, ListeBoyu = 200, EnAzOnizleme = 60;
+constexpr int ListeEni = 420, ListeBoyu = 120, EnAzOnizleme = 60;
 constexpr auto AdAlani = Uye("ad", &RaporAdi::ad, 60);
 
 }  // namespace
@@ -70,7 +70,7 @@ void RaporEkrani<Kolon>::Ac(const AlanSutunlari& alanlar) {
   Yukle(Baslayan(Kolon{.alan = IlkAlan()}));
 }
 
-// Beside the list, not in the row of commands: they are about its columns.
+// Above the list, not in the row of commands: they are about the design.
 template <class Kolon>
 void RaporEkrani<Kolon>::KolonDugmeleri() {
   auto* satir = new QHBoxLayout;
@@ -85,34 +85,29 @@ void RaporEkrani<Kolon>::KolonDugmeleri() {
   dugme("Yukarı", "onceki", "Ctrl+Yukarı", [this] { KolonTasi(-1); });
   dugme("Aşağı", "sonraki", "Ctrl+Aşağı", [this] { KolonTasi(1); });
   satir->addStretch(1);
+  dugme(" Raporu Sil ", "sil", "F7", [this] { RaporKaldir(); });
   Govde()->addLayout(satir);
 }
 
 template <class Kolon>
 void RaporEkrani<Kolon>::KomutlariKur() {
-  const auto ver = [this](auto islev) {
+  const auto ver = [this](void (RaporEkrani::*islev)(const std::shared_ptr<Belge>&)) {
     return [this, islev] {
-      if (std::shared_ptr<Belge> belge = BelgeYap()) islev(belge);
+      if (const std::shared_ptr<Belge> belge = BelgeYap()) (this->*islev)(belge);
     };
   };
-  Komutlar(
-      {{.tus = Qt::Key_Insert, .dugme = " Yeni Kolon Ekle ", .simge = "yeni", .islev = [this] { KolonEkle(); }},
-       {.tus = Qt::Key_F4, .dugme = "Kolonu Değiştir", .simge = "duzelt", .islev = [this] { KolonDegistir(); }},
-       {.dugme = " Kolonu Sil ", .simge = "sil", .ipucu = "Delete", .islev = [this] { KolonSil(); }},
-       {.tus = Qt::CTRL | Qt::Key_Up, .ipucu = "Kolon yukarı", .islev = [this] { KolonTasi(-1); }},
-       {.tus = Qt::CTRL | Qt::Key_Down, .ipucu = "Kolon aşağı", .islev = [this] { KolonTasi(1); }},
-       {.komut = FormKomutu::Rehber, .islev = [this] { RaporSec(); }},
-       {.komut = FormKomutu::Kaydet, .dugme = " Raporu Kaydet ", .islev = [this] { RaporKaydet(); }},
-       {.komut = FormKomutu::Sil, .dugme = " Raporu Sil ", .islev = [this] { RaporKaldir(); }},
-       {.tus = Qt::Key_F6, .dugme = " Ekrana Listele ", .simge = "liste", .islev = ver([this](const auto& belge) {
-                                                                            BelgeEkranaListele(Baglam(), belge);
-                                                                          })},
-       {.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır ", .simge = "yazici", .islev = ver([this](const auto& belge) {
-                                                                              BelgeBas(Baglam(), *belge);
-                                                                            })},
-       {.tus = Qt::Key_F9, .dugme = " Excel'e Gönder ", .simge = "tablo", .islev = ver([this](const auto& belge) {
-                                                                            BelgeExceleGonder(Baglam(), *belge);
-                                                                          })}});
+  const auto listele = ver(&RaporEkrani::EkranaListele), yazdir = ver(&RaporEkrani::Yazdir),
+             gonder = ver(&RaporEkrani::ExceleGonder);
+  Komutlar({{.tus = Qt::Key_Insert, .islev = [this] { KolonEkle(); }},
+            {.tus = Qt::Key_F4, .islev = [this] { KolonDegistir(); }},
+            {.tus = Qt::CTRL | Qt::Key_Up, .islev = [this] { KolonTasi(-1); }},
+            {.tus = Qt::CTRL | Qt::Key_Down, .islev = [this] { KolonTasi(1); }},
+            {.komut = FormKomutu::Rehber, .islev = [this] { RaporSec(); }},
+            {.komut = FormKomutu::Kaydet, .dugme = " Raporu Kaydet ", .islev = [this] { RaporKaydet(); }},
+            {.komut = FormKomutu::Sil, .islev = [this] { RaporKaldir(); }},
+            {.tus = Qt::Key_F6, .dugme = " Ekrana Listele ", .simge = "liste", .islev = listele},
+            {.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır ", .simge = "yazici", .islev = yazdir},
+            {.tus = Qt::Key_F9, .dugme = " Excel'e Gönder ", .simge = "tablo", .islev = gonder}});
   connect(&YaziKutusu(AdAlani), &xtext::Lookup, this, [this] { RaporSec(); });
 }
 
@@ -275,6 +270,21 @@ std::unique_ptr<Belge> RaporEkrani<Kolon>::BelgeYap() {
   auto belge = ListeBelgesi(std::move(***rapor), KagitYonu::Yatay, {}, {}, Oturumu().firma.unvan);
   if (belge->Kayitsiz()) Bildirimi().Bilgi("Rapora giren kayıt yok");
   return belge;
+}
+
+template <class Kolon>
+void RaporEkrani<Kolon>::EkranaListele(const std::shared_ptr<Belge>& belge) {
+  BelgeEkranaListele(Baglam(), belge);
+}
+
+template <class Kolon>
+void RaporEkrani<Kolon>::Yazdir(const std::shared_ptr<Belge>& belge) {
+  BelgeBas(Baglam(), *belge);
+}
+
+template <class Kolon>
+void RaporEkrani<Kolon>::ExceleGonder(const std::shared_ptr<Belge>& belge) {
+  BelgeExceleGonder(Baglam(), *belge);
 }
 
 template class RaporEkrani<OzlukKolonu>;

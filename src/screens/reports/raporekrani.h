@@ -77,9 +77,12 @@ class RaporEkrani : public Form {
   void RaporKaldir();
   void Onizle();
   std::unique_ptr<Belge> BelgeYap();
+  void EkranaListele(const std::shared_ptr<Belge>& belge);
+  void Yazdir(const std::shared_ptr<Belge>& belge);
+  void ExceleGonder(const std::shared_ptr<Belge>& belge);
 
   dclist* liste_;
-  xgrid* onizleme_;
+  xgrid* onizleme_;  // how it begins
   QTimer onizlemeSaati_;
   std::vector<ListeKolonu> listeKolonlari_;
   Kolonlar kolonlar_;
