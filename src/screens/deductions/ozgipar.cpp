@@ -22,9 +22,10 @@ std::vector<AlanGrubu> Gruplar() {
 ozgipar::ozgipar(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ParametreEkrani(baglam, parametreler, "ozgipar", QStringLiteral("Özel Gider İndirimi Ayarları")) {
   AlanlariDiz({Gruplar()});
-  YaziEkle(QStringLiteral("İade, başlangıç ayından sonraki altı ayda ödenir. Damga vergisi binde, indirim yüzde olarak "
-                          "yazılır."),
-           "soluk")
+  YaziEkle(
+      QStringLiteral("İade, başlangıç ayından başlayarak altı ayda ödenir. Damga vergisi binde, indirim yüzde olarak "
+                     "yazılır."),
+      "soluk")
       ->setWordWrap(true);
   const auto yukleme = OgiParametreleriYukle(Oturumu());
   kayitli_ = yukleme.deger;

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QTimer>
 
+#include "core/sayi.h"
 #include "core/session/renkler.h"
 #include "core/turkce.h"
 #include "ui/cakisma.h"
@@ -16,15 +17,14 @@ namespace {
 
 constexpr int IlkYil = 1990, SonYil = 2100;
 
+// As it is typed; leaving the field brings the year's list up.
 struct HarcamaYili {
-  std::int16_t yil = 0;
+  std::string yil;
 };
-constexpr auto YilAlani = Uye("yil", &HarcamaYili::yil);
+constexpr auto YilAlani = Uye("yil", &HarcamaYili::yil, 4);
 
 std::vector<AlanGrubu> Gruplar() {
-  return {
-      {"Dönem",
-       {{YilAlani, "Dönem Yıl", {.anahtar = true, .enAz = IlkYil, .enCok = SonYil, .harf = 6, .kayitDisi = true}}}}};
+  return {{"Dönem", {{YilAlani, "Dönem Yıl", {.harf = 6, .kayitDisi = true}}}}};
 }
 
 std::vector<SatirKolonu<OgiHarcamasi>> Kolonlar(int paraonda) {
@@ -108,8 +108,13 @@ bool ozgvharc::KendiligindenKaydet() {
 }
 
 void ozgvharc::YilaGec(const std::string& yil) {
-  if (!AlanlarSaglam(typeid(HarcamaYili))) return AnahtarKoy(std::to_string(kosullar_.yil));
-  kosullar_.yil = BastakiSayi(yil);
+  const auto okunan = TamSayiOku(yil);
+  if (!okunan || *okunan < IlkYil || *okunan > SonYil) {
+    AnahtarKoy(std::to_string(kosullar_.yil));
+    return Bildir(KuralKusuru(
+        "Dönem Yıl " + std::to_string(IlkYil) + " ile " + std::to_string(SonYil) + " arasında olmalı", YilAlani));
+  }
+  kosullar_.yil = int(*okunan);
   Doldur();
 }
 

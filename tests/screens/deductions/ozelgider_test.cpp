@@ -105,7 +105,13 @@ TEST(Ozgvharc, AnotherYearsListComesWithItsRule) {
   auto& form = ortam.Ac<ozgvharc>();
   dclist& liste = ortam.Liste(form);
   EXPECT_EQ(ortam.Odak(), "yil");
+  EXPECT_EQ(AlanMetni(form, "yil"), "2004");
+  ortam.Yaz("203\n");
+  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre(HasSubstr("1990 ile 2100 arasında olmalı")));
+  EXPECT_EQ(AlanMetni(form, "yil"), "2004") << "the list is still of this year";
+  ortam.Bas(Qt::Key_A, Qt::ControlModifier);
   ortam.Yaz("2003\n");
+  EXPECT_EQ(AlanMetni(form, "yil"), "2003");
   ASSERT_EQ(liste.ListCount(), 2);
   ortam.ListeyeGec(form, 0, "harcama");
   ortam.Yaz("300\n");
