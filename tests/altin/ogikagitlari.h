@@ -14,7 +14,7 @@ namespace belvani::test {
 
 inline void HarcamalariYaz(OrnekSirket& o) {
   Motor& motor = o.oturum.depo.db.IcMotor();
-  if (!KayitlariOku<Dvr>(motor, "limit 1").empty()) return;
+  if (!KayitlariOku<Dvr>(motor, "where yil = 2005 limit 1").empty()) return;
   if (!OzelGiderKaydet(o.oturum.FirmaDizini, {Tek(35), 5, 2006, Tek(6)})) throw std::runtime_error("ozgvpar.dat");
   KayitYazici<Dvr> yazici(motor);
   int sira = 0;

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int OnizlemeGecikmesi = 250;  // milliseconds after the last change
 constexpr std::size_t OnizlemeSatiri = 20;
-constexpr int ListeEni = 420, ListeBoyu = 120, EnAzOnizleme = 60;
+constexpr int ListeEni = 420, ListeBoyu = 120, EnAzOnizleme = 42;
 constexpr auto AdAlani = Uye("ad", &RaporAdi::ad, 60);
 
 }  // namespace
