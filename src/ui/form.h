@@ -56,7 +56,7 @@ class Form : public QWidget {
   // The screen's work is done; nothing is asked any more.
   void Kapat();
   // False: something was typed, and its user stays.
-  bool KapanabilirMi() { return kapaniyor_ || YazilanBirakilir(); }
+  bool KapanabilirMi() { return kapaniyor_ || YazilanBirakilir(true); }
 
   // Editors in the order of their rows.
   const std::vector<std::unique_ptr<AlanDenetimi>>& Denetimler() const { return denetimler_; }
@@ -131,7 +131,8 @@ class Form : public QWidget {
   // Saves it as the save command does, its checks included; false when it could not be saved.
   virtual bool YazilaniKaydet();
   // Asks before typed work is lost. False: the user stays; what the fields hold is as it was.
-  bool YazilanBirakilir();
+  // `kapanirken`: over a row that was refused too, which otherwise keeps the screen where it is.
+  bool YazilanBirakilir(bool kapanirken = false);
   // What stands in the fields now is what came up.
   void YazilaniUnut();
 

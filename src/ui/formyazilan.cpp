@@ -77,9 +77,8 @@ bool Form::YazilaniKaydet() {
   return !Kaydedilmemis();
 }
 
-bool Form::YazilanBirakilir() {
-  // A row that was refused is asked about like anything else that was typed.
-  if (soruyor_ || (!KendiligindenKaydet() && !Kaydedilmemis())) return false;
+bool Form::YazilanBirakilir(bool kapanirken) {
+  if (soruyor_ || (!KendiligindenKaydet() && !(kapanirken && Kaydedilmemis()))) return false;
   if (!Oturumu().YazilanSorulsun || !Kaydedilmemis()) return true;
   soruyor_ = true;
   const std::string kimin = sonAnahtar_.empty() ? Utf8(windowTitle()) : Utf8(windowTitle()) + ", " + sonAnahtar_;

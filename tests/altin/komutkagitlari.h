@@ -77,6 +77,12 @@ inline Kagit CariHesabi(const char* bicim, const std::string& kisi) {
           [=](OrnekSirket& o) { return o.GunKomutu("cari", kisi + " --bicim " + bicim); }};
 }
 
+// A report that comes with the program, which has its period of its own.
+inline Kagit HazirRapor(const char* ad, const char* bicim, const std::string& secenekler) {
+  return {SonAy, std::string(ad) + "." + bicim,
+          [=](OrnekSirket& o) { return o.SirketKomutu("rapor", secenekler + " --bicim " + bicim); }};
+}
+
 inline Kagitlar DonemKagitlari(const Ay& ay) {
   return {Liste(ay, "bordro", "csv"),
           Liste(ay, "bordro", "metin"),
@@ -129,6 +135,10 @@ inline Kagitlar KomutKagitlari() {
                              Liste(SonAy, "eksik-gun", "json"),
                              Liste(BirinciDonem, "eksik-gun", "metin"),
                              Kitap(SonAy, "eksik-gun"),
+                             HazirRapor("rapor-personel", "metin", "'Personel Listesi'"),
+                             HazirRapor("rapor-girenler", "csv", "'Dönemde Girenler' --yil 2006 2008"),
+                             HazirRapor("rapor-ucret", "metin", "'Ücret Kartı' --kod 001 004 --ay 1 3"),
+                             HazirRapor("rapor-vergi", "json", "'Vergi Matrahları' --kisi-basina --kod 001 003"),
                              CariHesabi("metin", "002"),
                              CariHesabi("csv", "004"),
                              CariHesabi("json", "011"),

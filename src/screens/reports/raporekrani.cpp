@@ -59,7 +59,7 @@ void RaporEkrani<Kolon>::Ac(const AlanSutunlari& alanlar) {
   onizleme_->setObjectName("onizleme");
   onizleme_->setMinimumHeight(EnAzOnizleme);
   Govde()->addWidget(onizleme_, 1);
-  Izle(onizleme_);
+  onizleme_->setFocusPolicy(Qt::ClickFocus);  // to look at
   KomutlariKur();
   AnahtarBagla(
       AdAlani, [this](const std::string& ad) { RaporGetir(ad); },
