@@ -13,7 +13,7 @@ constexpr int Kisi = 10'000;
 
 // Everybody has declared an expense of the year before, and has pay records of all months.
 struct OgiSirketi {
-  Sirket sirket{Kisi, 2010, 1, 13};
+  Sirket sirket{Kisi, 2009, 12, 13};
 
   OgiSirketi() {
     Motor& motor = sirket.o.depo.db.IcMotor();
