@@ -10,7 +10,7 @@
 
 #include "core/store/satirlar.h"
 #include "defteruret.h"
-#include "documents/belgeler.h"
+#include "registry/belgeler.h"
 #include "screens/declarations/yaylik.h"
 #include "screens/documents/brdicmal.h"
 #include "screens/payroll/brdhazir.h"

@@ -3,7 +3,7 @@
 #   bench/olc.sh BUILD_DIRECTORY
 set -eu
 cd "$(dirname "$0")/.."
-for olcum in hesap depo hazirlik yedek ekran baski bildirge bildirim ozelgider devir toplu rapor tazminat muhasebe; do
+for olcum in hesap depo hazirlik yedek ekran baski bildirge bildirim ozelgider devir toplu rapor tazminat muhasebe isgucu ozluk; do
   echo "== $olcum"
   "$1/bench/bench_$olcum" --benchmark_repetitions=3 --benchmark_report_aggregates_only=true 2>/dev/null |
     grep -E 'Benchmark|_median'
