@@ -45,6 +45,14 @@ inline std::unique_ptr<Belge> KalabalikPusula(OrnekSirket& o, std::size_t ilk, s
   return DiziPusulasiBelgesi(o.oturum.firma, BirYilinGunleri, pusula);
 }
 
+// The days in which so many people of the sample company were hired.
+inline TarihAraligi GirisAraligi(OrnekSirket& o, std::size_t kisi) {
+  const auto girenler = GirenleriOku(o.oturum.depo.db.IcMotor(), ButunGunler);
+  if (girenler.size() <= kisi || girenler[kisi - 1].girtar == girenler[kisi].girtar)
+    throw std::runtime_error("no day on which the " + std::to_string(kisi) + "th person was the last");
+  return {ButunGunler.bas, girenler[kisi - 1].girtar};
+}
+
 inline std::unique_ptr<Belge> IabKagidiYap(OrnekSirket& o, const char* kod) {
   Motor& motor = o.oturum.depo.db.IcMotor();
   IabFormu form = KisiDoldur(motor, kod).value();
@@ -70,11 +78,17 @@ inline Kagitlar CizilenBildirimler() {
   const EsasIs is{.isi = "Dokuma"};
   return {
       Baski(SonAy, "giris-listesi", [=](OrnekSirket& o) { return GirisListesiBelgesi(o.Kaynak(), ButunGunler, is); }),
+      Cizim(SonAy, "giris-listesi-14",
+            [=](OrnekSirket& o) { return GirisListesiBelgesi(o.Kaynak(), GirisAraligi(o, 14), is); }),
+      Cizim(SonAy, "giris-listesi-15",
+            [=](OrnekSirket& o) { return GirisListesiBelgesi(o.Kaynak(), GirisAraligi(o, 15), is); }),
       Cizim(SonAy, "cikis-listesi", [=](OrnekSirket& o) { return CikisListesiBelgesi(o.Kaynak(), ButunGunler, is); }),
       Baski(SonAy, "dizi-pusulasi", [](OrnekSirket& o) { return DiziPusulasiBelgesi(o.Kaynak(), ButunGunler); }),
       Cizim(SonAy, "dizi-pusulasi-32", [](OrnekSirket& o) { return KalabalikPusula(o, 32, 3); }),
       {SonAy, "dizi-pusulasi-39.metin",
        [](OrnekSirket& o) { return MetinSayfalari(KalabalikPusula(o, 39, 38)->Metin()); }},
+      {SonAy, "dizi-pusulasi-500.metin",
+       [](OrnekSirket& o) { return MetinSayfalari(KalabalikPusula(o, 500, 501)->Metin()); }},
       Baski(SonAy, "iab", [](OrnekSirket& o) { return IabKagidiYap(o, "005"); }),
       Cizim(SonAy, "isgucu", CizelgeYap),
       {SonAy, "isgucu.xlsx.txt", [](OrnekSirket& o) { return KitapMetni(*CizelgeYap(o)->Xlsx()); }}};
