@@ -40,13 +40,26 @@ Kutu KutuYap(QMessageBox::Icon simge, std::string_view metin, QMessageBox::Stand
   return kutu;
 }
 
+// A message may come while one window gives the keyboard to another. The one that should have it then has it
+// afterwards.
+void OneGetir(QWidget* ust) {
+  if (QApplication::activeWindow() != nullptr) return;
+  QWidget* pencere = QApplication::activeModalWidget();
+  if (pencere == nullptr) pencere = ust;
+  for (QWidget* acik : QApplication::topLevelWidgets())
+    if (pencere == nullptr && acik->isVisible() && acik->windowType() == Qt::Window) pencere = acik;
+  if (pencere != nullptr && pencere->isVisible()) pencere->activateWindow();
+}
+
 int Goster(QMessageBox::Icon simge, std::string_view metin, QMessageBox::StandardButtons dugmeler,
            QMessageBox::StandardButton varsayilan = QMessageBox::NoButton) {
+  const QPointer<QWidget> ust = OndekiPencere();
   const Kutu kutu = KutuYap(simge, metin, dugmeler);
   kutu->setDefaultButton(varsayilan);
   const OlaganImlec imlec;
   const int secilen = kutu->exec();
   delete kutu;
+  OneGetir(ust);
   return secilen;
 }
 

@@ -30,11 +30,12 @@ std::string Form::YazilanAnahtar() const {
   return std::string(Kirp(Utf8(YaziKutusu(anahtarAlani_).text())));
 }
 
-// The field is being left: a question would come in the middle of that, so it comes right after.
+// The field is being left: a question would come in the middle of that, so it comes right after. The same holds for
+// whatever the lookup has to say where the keyboard goes to another window.
 void Form::AnahtarDenetle() {
   const std::string anahtar = YazilanAnahtar();
   if (soruyor_ || kapaniyor_ || anahtar.empty() || anahtar == sonAnahtar_) return;
-  if (!Kaydedilmemis()) return void(AnahtaraGec(anahtar));
+  if (!Kaydedilmemis() && isActiveWindow()) return void(AnahtaraGec(anahtar));
   QMetaObject::invokeMethod(
       this,
       [this, anahtar] {
