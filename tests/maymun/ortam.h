@@ -6,6 +6,7 @@
 
 #include "app/anaortam.h"
 #include "core/saat.h"
+#include "deductions/ogikosullari.h"
 #include "maymun/hamleler.h"
 #include "ui/bildirimkutusu.h"
 
@@ -85,6 +86,7 @@ struct MaymunOrtami {
     SablonYukle(oturum.FirmaDizini);  // the payroll screen writes the built-in one when it is opened for the first time
     KidemParOku(oturum.FirmaDizini);  // so do the screens of severance
     IhbarSureOku(oturum.FirmaDizini);
+    OgiKosullariYukle(oturum, oturum.firma.firmayil);  // and those of the special-expense refund
     pencere = std::make_unique<anamenu>(baglam, parametreler);
     gosterici.pencere = pencere.get();
     QObject::connect(pencere.get(), &anamenu::Kapandi, pencere.get(), [this] { kapandi = true; });
