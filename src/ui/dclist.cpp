@@ -289,7 +289,7 @@ void dclist::keyPressEvent(QKeyEvent* olay) {
   if (olay->matches(QKeySequence::Find) && arama_ != nullptr) return arama_->setFocus(Qt::ShortcutFocusReason);
   if (olay->key() == Qt::Key_Escape && mod_ == Mod::Ekleme && !model_->DegistiMi(CurSat())) {
     bosSatir_ = QPersistentModelIndex();
-    model_->SatirSil(CurSat());  // a fresh row into which nothing was typed
+    SatiriCikar(CurSat());  // a fresh row into which nothing was typed
     mod_ = Mod::Gezinme;
     return;
   }

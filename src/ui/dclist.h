@@ -116,7 +116,7 @@ class dclist : public QTableView {
   void YaziyaUydur();
   void YeniSatirAc();
   void SimdikiSatiriSil();
-  void YazilanSatirlariKaydir(int silinen);
+  void SatiriCikar(int satir);
   void Kopyala() const;
   void DuzenlemeyeBasla();
   void BosSatiriBirak();

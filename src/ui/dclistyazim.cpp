@@ -153,7 +153,7 @@ void dclist::BosSatiriSil() {
   bosSatir_ = QPersistentModelIndex();
   if (sira < 0) return;
   const int satir = model_->GosterilenSatir(sira);
-  if (!model_->DegistiMi(satir)) model_->SatirSil(satir);
+  if (!model_->DegistiMi(satir)) SatiriCikar(satir);
   mod_ = Mod::Gezinme;
 }
 
@@ -183,18 +183,16 @@ void dclist::SimdikiSatiriSil() {
   bitiriliyor_ = true;
   const bool silindi = SatirSil(satir);
   bitiriliyor_ = false;
-  if (silindi && satir < ListCount()) {
-    model_->SatirSil(satir);
-    YazilanSatirlariKaydir(satir);
-  }
+  if (silindi && satir < ListCount()) SatiriCikar(satir);
   mod_ = Mod::Gezinme;
 }
 
-// Behind a row that is gone.
-void dclist::YazilanSatirlariKaydir(int silinen) {
+// What was typed into it goes with it, and is asked about no more; what stands below moves up.
+void dclist::SatiriCikar(int satir) {
+  model_->SatirSil(satir);
   std::map<std::pair<int, int>, QString> kalan;
   for (const auto& [yer, metin] : gelen_)
-    if (yer.first != silinen) kalan[{yer.first - (yer.first > silinen ? 1 : 0), yer.second}] = metin;
+    if (yer.first != satir) kalan[{yer.first - (yer.first > satir ? 1 : 0), yer.second}] = metin;
   gelen_ = std::move(kalan);
 }
 
