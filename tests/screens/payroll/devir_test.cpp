@@ -217,5 +217,18 @@ TEST_F(DevirEkranlari, AutomaticDeductionsPointToWhereTheyAreEntered) {
   EXPECT_FALSE(form.isVisible());
 }
 
+// A cell taken back and its fresh row gone leave nothing to ask about.
+TEST_F(DevirEkranlari, ARowThatIsGoneIsAskedAboutNoMore) {
+  auto& form = ortam.Ac<perdev>();
+  ortam.Yaz("a\n");
+  ortam.Bas(Qt::Key_Return);
+  ortam.Yaz("7");
+  ortam.Bas(Qt::Key_Escape);
+  ortam.Bas(Qt::Key_Escape);
+  ASSERT_EQ(form.findChild<dclist*>()->ListCount(), 0);
+  EXPECT_TRUE(form.KapanabilirMi());
+  EXPECT_EQ(ortam.bildirim.Al(), Iletiler{});
+}
+
 }  // namespace
 }  // namespace belvani::test
