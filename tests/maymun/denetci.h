@@ -104,10 +104,11 @@ class Denetci {
     return {};
   }
 
-  // The month's entry of a person is closed and saved when the keyboard goes back to his code, by whatever key.
+  // The month's entry of a person is closed and saved when the keyboard goes back to his code, by whatever key; a wage
+  // is saved when its field is left.
   static bool GirisAlaninda(const QWidget* odak) {
     for (const QWidget* parca = odak; parca != nullptr; parca = parca->parentWidget())
-      if (parca->objectName() == "brdhazir") return odak->objectName() != "kod";
+      if (parca->objectName() == "brdhazir" || parca->objectName() == "ucrdeg") return odak->objectName() != "kod";
     return false;
   }
 

@@ -190,9 +190,9 @@ inline Hamle Oyuncu::CikisHamlesi() {
   if (++cikis_ > EnCokCikis) Dur("Esc does not leave " + Durum());
   const auto* soru = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   const bool soruldu = soru != nullptr;
-  // Typed work goes only when its user says so.
+  // Typed work goes only when its user says so: sooner or later, however many keys lie between two questions.
   for (QAbstractButton* dugme : soruldu ? soru->buttons() : QList<QAbstractButton*>())
-    if (soru->buttonRole(dugme) == QMessageBox::DestructiveRole && cikis_ % 2 == 0)
+    if (soru->buttonRole(dugme) == QMessageBox::DestructiveRole && cikis_ % 5 < 2)
       return {"drops what was typed", Yazma::Yazar, [dugme] { dugme->click(); }};
   return soruldu && cikis_ % 3 == 0 ? TusHamlesi("Return", Yazma::Yazar) : TusHamlesi("Esc");
 }
