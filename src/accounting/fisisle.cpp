@@ -103,7 +103,7 @@ class Isleyen {
   void ToplamaEkle(const FisSatiri& satir) {
     const auto& kolon = (satir.ba == BorcTarafi ? BorcAylari : AlacakAylari)[std::size_t(tarih_.Ay() - 1)];
     const std::string ad(kolon.ad);
-    const std::string kimlik = muhasebe_.KimlikKolonu();
+    const std::string kimlik = muhasebe_.KimlikKolonu("hestoplam");
     const auto bul = muhasebe_.Hazirla("select " + kimlik + ", " + ad + " from hestoplam where kod = ?");
     bul->MetinBagla(1, satir.kod);
     if (!bul->Adim()) {

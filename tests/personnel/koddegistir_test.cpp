@@ -3,6 +3,7 @@
 
 #include "core/store/bordrokodu.h"
 #include "core/store/islem.h"
+#include "core/store/yantablolar.h"
 #include "payroll/hazirlik/aysaklama.h"
 #include "sirket.h"
 
@@ -150,7 +151,7 @@ TEST_F(KodDegisikligiTesti, DamageStaysDamage) {
 TEST_F(KodDegisikligiTesti, AKeptMonthComesBackUnderTheNewCode) {
   {
     Islem islem(motor());
-    AySaklamayaHazirla(motor());
+    OncekileriHazirla(motor());
     AyiSakla(motor(), 2008, 1, SilinmedenOnce);
     motor().Calistir("delete from brd where yil = 2008 and ay = 1");
     islem.Onayla();

@@ -116,7 +116,7 @@ Tek Depo::Versiyon() {
   const Tek okunamayan(1);
   return db.Koru(okunamayan, [&] {
     Motor& motor = db.IcMotor();
-    const auto komut = motor.Hazirla("select versiyon from firma order by " + motor.KimlikKolonu() + " limit 1");
+    const auto komut = motor.Hazirla("select versiyon from firma order by " + motor.KimlikKolonu("firma") + " limit 1");
     return komut->Adim() ? Tek(komut->Sayi(0)) : okunamayan;
   });
 }

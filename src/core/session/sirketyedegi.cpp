@@ -67,14 +67,6 @@ void KunyeyeYaz(Motor& motor, YedekKunyesi& kunye) {
   (void)okundu;  // they are told for the user's eyes alone
 }
 
-// Damage that the copy takes over.
-std::string SayfaKusuru(Motor& motor) {
-  const auto komut = motor.Hazirla("pragma quick_check(1)");
-  const std::string sonuc = komut->Adim() ? std::string(komut->Metin(0)) : "denetim yapılamadı";
-  komut->Birak();
-  return sonuc == "ok" ? std::string() : sonuc;
-}
-
 // One backup while it is being made.
 class Yedekleme {
  public:
@@ -154,7 +146,7 @@ class Yedekleme {
       if (istek_.depo == nullptr) kendi = MotorBak(DepoAdresi(sirket_));
       Motor& motor = kendi ? *kendi : *istek_.depo;
       KunyeyeYaz(motor, kunye_);
-      if (const std::string kusur = SayfaKusuru(motor); !kusur.empty())
+      if (const std::string kusur = motor.SayfaKusuru(); !kusur.empty())
         Uyar("Veritabanı bozuk, yedekteki de öyle (denetleyiniz): " + kusur);
       if (ilerleme_ != nullptr) ilerleme_->Asama("Veritabanı kopyalanıyor…");
       motor.Kopyala(dizin + DepoDosyasi, [&](std::size_t biten, std::size_t toplam) {

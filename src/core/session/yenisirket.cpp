@@ -7,6 +7,7 @@
 #include "core/session/sinifbakimi.h"
 #include "core/session/sirket.h"
 #include "core/store/tablo.h"
+#include "core/store/yantablolar.h"
 #include "core/tables/peruser.h"
 #include "core/turkce.h"
 #include "core/yarimdizin.h"
@@ -33,6 +34,12 @@ Durum Doldur(Oturum& o, const std::string& yol, DepoYeri yer, const YeniSirket& 
   const auto kusur = [&](const std::string& metin) { return Kusur{metin + ": " + depo.db.SonHata()}; };
   if (Durum yaratildi = depo.VeritabaniYarat(yol); !yaratildi) return kusur(yaratildi.KusurMetni());
   if (!depo.VeritabaniAc(yol, bildirim)) return kusur("Database Açılamadı");
+  const bool yanlarinda = depo.db.Koru(false, [&] {
+    OncekileriHazirla(depo.db.IcMotor());
+    AyrilanlariHazirla(depo.db.IcMotor());
+    return true;
+  });
+  if (!yanlarinda) return kusur("Tablolar Yaratılamadı");
   if (!IlkKullaniciYaz(depo.db, yeni)) return kusur("Kullanıcı Eklenemedi");
   if (const Durum yazildi = KartYaz(o, yeni); !yazildi) return kusur(yazildi.KusurMetni());
   depo.TablolariKapat(KapatmaKapsami::YalnizImlecler);

@@ -44,7 +44,8 @@ std::string BekleyenKayit::YazmaMetni(Motor& motor, const TabloGezgini& kayit) c
     atamalar += ayrac + ad + " = ?";
   }
   const std::string tablo(kayit.Tanim().ad);
-  if (tur_ == Tur::Duzeltme) return "update " + tablo + " set " + atamalar + " where " + motor.KimlikKolonu() + " = ?";
+  if (tur_ == Tur::Duzeltme)
+    return "update " + tablo + " set " + atamalar + " where " + motor.KimlikKolonu(tablo) + " = ?";
   if (adlar.empty()) return "insert into " + tablo + " default values";
   return "insert into " + tablo + " (" + adlar + ") values (" + sorular + ")";
 }

@@ -8,15 +8,6 @@
 namespace belvani {
 namespace {
 
-// An earlier version has no names of this table, but its engine runs the triggers. A column that is added later is Null
-// in old records, as a column is that is not there: neither changes a checksum.
-const char* const TabloyuKur =
-    "create table if not exists brdozet (oto integer primary key, ozet bigint);"
-    "create trigger if not exists brdozet_degisti after update on brd begin "
-    "update brdozet set ozet = null where oto = old.oto; end;"
-    "create trigger if not exists brdozet_silindi after delete on brd begin "
-    "delete from brdozet where oto = old.oto; end";
-
 bool TabloVar(Motor& motor) {
   return !motor.Kolonlar("brdozet").empty();
 }
@@ -39,7 +30,7 @@ void DegeriBagla(KayitOzeti& ozet, const Komut& komut, int i, AlanTipi tip) {
 
 // Number, columns, checksum and its number of the records that meet `kosul`.
 std::unique_ptr<Komut> KayitKomutu(Motor& motor, const std::string& kosul = {}) {
-  const std::string kimlik = "b." + motor.KimlikKolonu();
+  const std::string kimlik = "b." + motor.KimlikKolonu(Brd::TabloAdi);
   return motor.Hazirla("select " + kimlik + ", o.ozet, o.oto, " + SecimListesi<Brd>(motor, "b") +
                        " from brd b left join brdozet o on o.oto = " + kimlik + kosul);
 }
@@ -76,15 +67,9 @@ struct Sayim {
   }
 };
 
-void Yaz(Komut& komut, std::int64_t oto, std::int64_t ozet) {
-  komut.TamBagla(1, oto);
-  komut.TamBagla(2, ozet);
-  komut.Calistir();
-}
-
 void KayiplariYaz(Motor& motor, Kusurlar& kusurlar) {
   const auto komut = motor.Hazirla("select o.oto from brdozet o where not exists (select 1 from brd b where b." +
-                                   motor.KimlikKolonu() + " = o.oto)");
+                                   motor.KimlikKolonu(Brd::TabloAdi) + " = o.oto)");
   while (komut->Adim())
     kusurlar.push_back({.metin = "brd: " + std::to_string(komut->Tam(0)) + " numaralı kayıt kaybolmuş"});
 }
@@ -111,8 +96,8 @@ std::optional<std::int64_t> YeniKodunOzeti(const Komut& komut, int ozetYeri, int
 
 BordroKoduYazici::BordroKoduYazici(Motor& motor)
     : ozetler_(motor),
-      oku_(KayitKomutu(motor, " where b." + motor.KimlikKolonu() + " = ?")),
-      yaz_(motor.TetiksizHazirla("update brd set kod = ? where " + motor.KimlikKolonu() + " = ?")) {}
+      oku_(KayitKomutu(motor, " where b." + motor.KimlikKolonu(Brd::TabloAdi) + " = ?")),
+      yaz_(motor.TetiksizHazirla("update brd set kod = ? where " + motor.KimlikKolonu(Brd::TabloAdi) + " = ?")) {}
 
 void BordroKoduYazici::Yaz(std::int64_t oto, std::string_view kod) {
   oku_->TamBagla(1, oto);
@@ -122,35 +107,30 @@ void BordroKoduYazici::Yaz(std::int64_t oto, std::string_view kod) {
   yaz_->MetinBagla(1, kod);
   yaz_->TamBagla(2, oto);
   yaz_->Calistir();
-  if (ozet) ozetler_.Degistir(oto, *ozet);
+  if (ozet) ozetler_.Yaz(oto, *ozet);
 }
 
 BrdOzetleri::BrdOzetleri(Motor& motor) : motor_(motor) {
-  motor.Calistir(TabloyuKur);
-  ekle_ = motor.Hazirla("insert into brdozet (oto, ozet) values (?, ?)");
-  degistir_ = motor.Hazirla(
-      "insert into brdozet (oto, ozet) values (?, ?) on conflict (oto) do update set ozet = excluded.ozet");
+  motor.OzetleriKur();
 }
 
-void BrdOzetleri::Ekle(std::int64_t oto, std::int64_t ozet) {
-  Yaz(*ekle_, oto, ozet);
-}
-
-void BrdOzetleri::Degistir(std::int64_t oto, std::int64_t ozet) {
-  Yaz(*degistir_, oto, ozet);
+void BrdOzetleri::Yaz(std::int64_t oto, std::int64_t ozet) {
+  if (yazici_ == nullptr) yazici_ = motor_.SatirYaziciAc({"brdozet", {"oto", "ozet"}}, YazmaTuru::Koy);
+  yazici_->TamBagla(2, ozet);
+  yazici_->Yaz(oto);
 }
 
 void BrdOzetleri::Yenile(std::int64_t oto) {
-  const auto kayit = KayitKomutu(motor_, " where b." + motor_.KimlikKolonu() + " = ?");
+  const auto kayit = KayitKomutu(motor_, " where b." + motor_.KimlikKolonu(Brd::TabloAdi) + " = ?");
   kayit->TamBagla(1, oto);
   if (!kayit->Adim()) return;
   const std::int64_t ozet = BrdSatirOzeti(*kayit, IlkKolonYeri);
   kayit->Birak();
-  Degistir(oto, ozet);
+  Yaz(oto, ozet);
 }
 
 bool BrdOzetleri::Tutuyor(std::int64_t oto) {
-  const auto kayit = KayitKomutu(motor_, " where b." + motor_.KimlikKolonu() + " = ?");
+  const auto kayit = KayitKomutu(motor_, " where b." + motor_.KimlikKolonu(Brd::TabloAdi) + " = ?");
   kayit->TamBagla(1, oto);
   const bool tutuyor = !kayit->Adim() || OzetTutuyor(*kayit);
   kayit->Birak();
@@ -161,7 +141,7 @@ std::size_t BrdOzetleri::EksikleriYaz() {
   std::vector<std::pair<std::int64_t, std::int64_t>> eksik;  // read to the end before anything is written
   const auto kayitlar = KayitKomutu(motor_, " where o.ozet is null");
   while (kayitlar->Adim()) eksik.emplace_back(kayitlar->Tam(KimlikYeri), BrdSatirOzeti(*kayitlar, IlkKolonYeri));
-  for (const auto& [oto, ozet] : eksik) Degistir(oto, ozet);
+  for (const auto& [oto, ozet] : eksik) Yaz(oto, ozet);
   return eksik.size();
 }
 

@@ -34,8 +34,7 @@ class BrdOzetleri {
   // Makes table and triggers in a store that has none.
   explicit BrdOzetleri(Motor& motor);
 
-  void Ekle(std::int64_t oto, std::int64_t ozet);  // of a record that is new
-  void Degistir(std::int64_t oto, std::int64_t ozet);
+  void Yaz(std::int64_t oto, std::int64_t ozet);
   // Of the record as it stands in the store.
   void Yenile(std::int64_t oto);
   // Whether the record agrees with its checksum, or has none.
@@ -45,8 +44,7 @@ class BrdOzetleri {
 
  private:
   Motor& motor_;
-  std::unique_ptr<Komut> ekle_;
-  std::unique_ptr<Komut> degistir_;
+  std::unique_ptr<SatirYazici> yazici_;
 };
 
 // Records that do not agree with their checksum and records that are lost are faults, person by person; records without

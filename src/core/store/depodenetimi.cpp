@@ -11,40 +11,6 @@
 namespace belvani {
 namespace {
 
-// Of a value that its column cannot hold, as this engine keeps them; {0} is the column.
-std::string TipKosulu(const AlanTanimi& alan) {
-  const auto tam = [](const std::string& enAz, const std::string& enCok) {
-    return "typeof({0}) <> 'integer' or {0} < " + enAz + " or {0} > " + enCok;
-  };
-  switch (alan.tip) {
-    case AlanTipi::Metin:
-      return "typeof({0}) <> 'text'";
-    case AlanTipi::Byte:
-      return tam("0", "255");
-    case AlanTipi::Kisa:
-      return tam("-32768", "32767");
-    case AlanTipi::Uzun:
-      return tam("-2147483648", "2147483647");
-    case AlanTipi::Tutar:
-      return "typeof({0}) <> 'integer'";
-    case AlanTipi::Tek:
-      return "typeof({0}) not in ('real', 'integer')";
-    case AlanTipi::Tarih:
-      return "typeof({0}) <> 'text' or date({0}, '+0 days') is null or date({0}, '+0 days') <> {0}";
-    case AlanTipi::Mantik:
-      return tam("0", "1");
-    case AlanTipi::Ikili:
-      return "typeof({0}) <> 'blob'";
-  }
-  return "0";
-}
-
-std::string Yerine(std::string metin, std::string_view yer, std::string_view ad) {
-  for (std::size_t i = 0; (i = metin.find(yer, i)) != std::string::npos; i += ad.size())
-    metin.replace(i, yer.size(), ad);
-  return metin;
-}
-
 bool KisiliMi(const TabloTanimi& tablo) {
   return tablo.ad != "peruser" && tablo.ad != "arac" && tablo.ad != "sendika" && tablo.AlanBul("kod") != nullptr;
 }
@@ -85,8 +51,9 @@ class DepoDenetimi {
 
   void TipiDenetle(const TabloTanimi& tablo, const AlanTanimi& alan) {
     const std::string sql = "select count(*), " + std::string(KisiliMi(tablo) ? "min(kod)" : "''") + " from " +
-                            std::string(tablo.ad) + " where {0} is not null and (" + TipKosulu(alan) + ")";
-    const auto komut = motor_.Hazirla(Yerine(sql, "{0}", alan.ad));
+                            std::string(tablo.ad) + " where " + std::string(alan.ad) + " is not null and (" +
+                            motor_.UymayanKosulu(alan.ad, alan.tip) + ")";
+    const auto komut = motor_.Hazirla(sql);
     if (!komut->Adim() || komut->Tam(0) == 0) return;
     Ekle(std::string(tablo.ad) + "." + std::string(alan.ad) + ": " + std::to_string(komut->Tam(0)) +
              " kayıtta alanın türünden olmayan bir değer var",
@@ -94,7 +61,7 @@ class DepoDenetimi {
   }
 
   void IndeksleriDenetle(const TabloTanimi& tablo) {
-    const Indeksler olan = IndeksleriOku(motor_, tablo.ad);
+    const Indeksler olan = motor_.TabloIndeksleri(tablo.ad);
     for (const auto* indeksler : {&tablo.indeksler, &tablo.sorguIndeksleri})
       for (const IndeksTanimi& indeks : *indeksler) {
         const std::string ad = IndeksAdi(tablo, indeks);

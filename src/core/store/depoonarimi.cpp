@@ -6,6 +6,7 @@
 #include "core/store/islem.h"
 #include "core/store/koru.h"
 #include "core/store/satirlar.h"
+#include "core/store/yantablolar.h"
 #include "core/tables/bordronosu.h"
 #include "core/turkce.h"
 
@@ -15,15 +16,6 @@ namespace {
 bool AyniAnahtar(const Brd& a, const Brd& b) {
   const auto no = [](const Brd& x) { return std::max<int>(x.no, 1); };
   return a.yil == b.yil && a.ay == b.ay && no(a) == no(b) && TurkceEsit(a.kod, b.kod);
-}
-
-// The table of what was filed has the columns of `brd`, those too that came after it was made.
-void AyrilanlariHazirla(Motor& motor) {
-  motor.Calistir("create table if not exists brdayrilan as select *, date('now') as ayrildi from brd where 0");
-  const auto var = motor.Kolonlar("brdayrilan");
-  for (const MotorKolonu& kolon : motor.Kolonlar("brd"))
-    if (std::ranges::find(var, kolon.ad, &MotorKolonu::ad) == var.end())
-      motor.Calistir("alter table brdayrilan add column " + kolon.ad + " " + kolon.tip);
 }
 
 void Ayir(Motor& motor, std::int64_t oto) {

@@ -143,8 +143,8 @@ void Imlec::KayitSil() {
   if (!AcikMi() || tablo_ == nullptr || Konum() != Gezgin::Konum::Kayitta) return;
   db_->Koru(false, [&] {
     Motor& motor = db_->IcMotor();
-    const auto komut =
-        motor.Hazirla("delete from " + std::string(tablo_->Tanim().ad) + " where " + motor.KimlikKolonu() + " = ?");
+    const auto komut = motor.Hazirla("delete from " + std::string(tablo_->Tanim().ad) + " where " +
+                                     motor.KimlikKolonu(tablo_->Tanim().ad) + " = ?");
     komut->TamBagla(1, tablo_->Kimlik());
     komut->Calistir();
     bekleyen_.Birak();

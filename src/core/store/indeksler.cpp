@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/store/islem.h"
 #include "core/tables/bordronosu.h"
 #include "core/tables/tablolar.h"
 
@@ -19,7 +20,9 @@ void IndeksiTamamla(Motor& motor, const TabloTanimi& tablo, const IndeksTanimi& 
   if (ad.empty() || (bu != olan.end() && (bu->second || !indeks.tekil))) return;
   if (bu != olan.end()) motor.Calistir("drop index " + ad);
   try {
+    AraNokta nokta(motor);
     motor.Calistir(IndeksMetni(tablo, indeks, indeks.tekil));
+    nokta.Birak();
   } catch (const MotorHatasi& hata) {
     if (hata.tur != MotorKusuru::Kisit) throw;
     motor.Calistir(IndeksMetni(tablo, indeks, false));
@@ -27,14 +30,6 @@ void IndeksiTamamla(Motor& motor, const TabloTanimi& tablo, const IndeksTanimi& 
 }
 
 }  // namespace
-
-Indeksler IndeksleriOku(Motor& motor, std::string_view tablo) {
-  Indeksler indeksler;
-  const auto komut = motor.Hazirla("select name, \"unique\" from pragma_index_list(?)");
-  komut->MetinBagla(1, tablo);
-  while (komut->Adim()) indeksler.emplace(komut->Metin(0), komut->Tam(1) != 0);
-  return indeksler;
-}
 
 std::string IndeksAdi(const TabloTanimi& tablo, const IndeksTanimi& indeks) {
   for (const IndeksTanimi& sorgu : tablo.sorguIndeksleri)
@@ -55,7 +50,7 @@ void IndeksleriTamamla(Motor& motor) {
   for (const TabloTanimi& tablo : Tablolar()) {
     const auto kolonlar = motor.Kolonlar(tablo.ad);
     if (kolonlar.empty()) continue;
-    const Indeksler olan = IndeksleriOku(motor, tablo.ad);
+    const Indeksler olan = motor.TabloIndeksleri(tablo.ad);
     for (const auto* indeksler : {&tablo.indeksler, &tablo.sorguIndeksleri})
       for (const IndeksTanimi& indeks : *indeksler) IndeksiTamamla(motor, tablo, indeks, olan, kolonlar);
   }

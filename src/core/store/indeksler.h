@@ -1,19 +1,12 @@
 // The indexes of a store, beside those that the schema asks for.
 #pragma once
 
-#include <map>
 #include <string>
 
 #include "core/store/motor.h"
 #include "core/tables/alan.h"
 
 namespace belvani {
-
-// Whether each index of a table lets a key stand once only, by its name.
-using Indeksler = std::map<std::string, bool, std::less<>>;
-
-// Throws MotorHatasi.
-Indeksler IndeksleriOku(Motor& motor, std::string_view tablo);
 
 // What an index of the schema is called in the store; empty where the table's automatic number is one by itself.
 std::string IndeksAdi(const TabloTanimi& tablo, const IndeksTanimi& indeks);
@@ -22,7 +15,8 @@ std::string IndeksAdi(const TabloTanimi& tablo, const IndeksTanimi& indeks);
 std::string IndeksMetni(const TabloTanimi& tablo, const IndeksTanimi& indeks, bool tekil);
 
 // Makes the indexes that are missing, and anew those that let a key stand twice and should not; where keys do stand
-// twice, an index lets them. Tables and columns that are not there are passed over. In an open transaction. Throws MotorHatasi.
+// twice, an index lets them. Tables and columns that are not there are passed over. In an open transaction. Throws
+// MotorHatasi.
 void IndeksleriTamamla(Motor& motor);
 
 }  // namespace belvani

@@ -41,4 +41,26 @@ class KatilanIslem {
   std::optional<Islem> kendi_;
 };
 
+// A part of the open transaction that may fail while the rest goes on. Not released by its end, it is taken back;
+// outside a transaction there is nothing to hold.
+class AraNokta {
+ public:
+  explicit AraNokta(Motor& motor) : motor_(motor.IslemdeMi() ? &motor : nullptr) {
+    if (motor_ != nullptr) motor_->AraNoktaKoy();
+  }
+  ~AraNokta() {
+    if (motor_ != nullptr) motor_->AraNoktayaDon();
+  }
+  AraNokta(const AraNokta&) = delete;
+  AraNokta& operator=(const AraNokta&) = delete;
+
+  void Birak() {
+    if (motor_ != nullptr) motor_->AraNoktaBirak();
+    motor_ = nullptr;
+  }
+
+ private:
+  Motor* motor_;
+};
+
 }  // namespace belvani

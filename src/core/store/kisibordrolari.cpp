@@ -49,7 +49,8 @@ std::vector<Brd> KisininBordrolari(Motor& motor, std::string_view kod, const AyA
 
 std::vector<std::int64_t> KisininBordroNumaralari(Motor& motor, std::string_view kod, const AyAraligi& aylar) {
   std::vector<std::int64_t> numaralar;
-  HerBordro(motor, motor.KimlikKolonu(), kod, aylar, [&](const Komut& komut) { numaralar.push_back(komut.Tam(0)); });
+  HerBordro(motor, motor.KimlikKolonu(Brd::TabloAdi), kod, aylar,
+            [&](const Komut& komut) { numaralar.push_back(komut.Tam(0)); });
   return numaralar;
 }
 

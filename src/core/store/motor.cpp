@@ -2,9 +2,9 @@
 
 namespace belvani {
 
-void Komut::Bagla(int no, const Deger& deger) {
+void Baglanan::Bagla(int no, const Deger& deger) {
   struct {
-    Komut& k;
+    Baglanan& k;
     int no;
     void operator()(Null) const { k.NullBagla(no); }
     void operator()(const std::string& d) const { k.MetinBagla(no, d); }

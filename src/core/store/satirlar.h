@@ -112,45 +112,35 @@ class KayitYazici {
  public:
   // `duran`: columns that Degistir leaves alone, for they hold in the store what they hold in the record; an index on
   // them is spared. Such a writer adds no records.
-  explicit KayitYazici(Motor& motor, const std::set<std::string_view>& duran = {})
-      : motor_(motor), var_(motor), yazilan_(var_), yalnizDegistirir_(!duran.empty()) {
-    yazilan_.Cikar(
-        [&](const AlanTanimi& alan) { return alan.nitelik == AlanNiteligi::Otomatik || duran.contains(alan.ad); });
-    std::string adlar, sorular, atamalar;
+  explicit KayitYazici(Motor& motor, const std::set<std::string_view>& duran = {}) : var_(motor), yazilan_(var_) {
+    yazilan_.Cikar([&](const AlanTanimi& alan) { return alan.nitelik == AlanNiteligi::Otomatik; });
+    YazilanKolonlar kolonlar{.tablo = Kayit::TabloAdi, .adlar = {}, .tetiksiz = Ozetli<Kayit>};
     yazilan_.Her([&](const auto& kolon, bool yazilir) {
       if (!yazilir) return;
-      const std::string ayrac = adlar.empty() ? "" : ", ";
-      adlar += ayrac + std::string(kolon.ad);
-      sorular += ayrac + "?";
-      atamalar += ayrac + std::string(kolon.ad) + " = ?";
+      kolonlar.adlar.emplace_back(kolon.ad);
+      kolonlar.duran.push_back(duran.contains(kolon.ad));
     });
-    const std::string tablo(Kayit::TabloAdi);
-    const std::string degistir = "update " + tablo + " set " + atamalar + " where " + motor.KimlikKolonu() + " = ?";
     if constexpr (Ozetli<Kayit>) ozetler_.emplace(motor);
-    ekle_ = motor.Hazirla("insert into " + tablo + " (" + adlar + ") values (" + sorular + ")");
-    degistir_ = Ozetli<Kayit> ? motor.TetiksizHazirla(degistir) : motor.Hazirla(degistir);
+    if (duran.empty()) ekle_ = motor.SatirYaziciAc(kolonlar, YazmaTuru::Ekle);
+    degistir_ = motor.SatirYaziciAc(kolonlar, YazmaTuru::Degistir);
   }
 
-  void Ekle(const Kayit& kayit) {
-    assert(!yalnizDegistirir_);
-    Bagla(*ekle_, kayit);
-    ekle_->Calistir();
-    if constexpr (Ozetli<Kayit>) ozetler_->Ekle(motor_.SonKimlik(), Ozeti(kayit));
+  // Gives the new record's number.
+  std::int64_t Ekle(const Kayit& kayit) {
+    assert(ekle_ != nullptr);
+    return Yaz(*ekle_, kayit, 0);
   }
-  void Degistir(const Kayit& kayit, std::int64_t kimlik) {
-    degistir_->TamBagla(Bagla(*degistir_, kayit), kimlik);
-    degistir_->Calistir();
-    if constexpr (Ozetli<Kayit>) ozetler_->Degistir(kimlik, Ozeti(kayit));
-  }
+  void Degistir(const Kayit& kayit, std::int64_t kimlik) { Yaz(*degistir_, kayit, kimlik); }
 
  private:
-  // Returns the number of the next parameter.
-  int Bagla(Komut& komut, const Kayit& kayit) {
+  std::int64_t Yaz(SatirYazici& yazici, const Kayit& kayit, std::int64_t kimlik) {
     int no = 0;
     yazilan_.Her([&](const auto& kolon, bool yazilir) {
-      if (yazilir) KolonBagla(komut, ++no, kayit.*kolon.uye);
+      if (yazilir) KolonBagla(yazici, ++no, kayit.*kolon.uye);
     });
-    return no + 1;
+    const std::int64_t yazilan = yazici.Yaz(kimlik);
+    if constexpr (Ozetli<Kayit>) ozetler_->Yaz(yazilan, Ozeti(kayit));
+    return yazilan;
   }
 
   // A column that the store lacks reads as Null.
@@ -163,12 +153,10 @@ class KayitYazici {
     return ozet_.Deger();
   }
 
-  Motor& motor_;
   VarolanKolonlar<Kayit> var_;
   VarolanKolonlar<Kayit> yazilan_;
-  bool yalnizDegistirir_;
-  std::unique_ptr<Komut> ekle_;
-  std::unique_ptr<Komut> degistir_;
+  std::unique_ptr<SatirYazici> ekle_;  // null: it only changes
+  std::unique_ptr<SatirYazici> degistir_;
   KayitOzeti ozet_;
   std::optional<BrdOzetleri> ozetler_;  // of records that carry a checksum
 };

@@ -21,12 +21,13 @@ std::optional<AlanTipi> KolonTipi(const Komut& komut, int kolon, const std::vect
 }  // namespace
 
 SorguGezgini::SorguGezgini(Komut& komut, const std::vector<SonucTipi>& tipler) {
+  bool var = komut.Adim();  // the columns are known from now on
   std::vector<std::optional<AlanTipi>> kolonTipleri;
   for (int i = 0; i < komut.KolonSayisi(); ++i) {
     kolonTipleri.push_back(KolonTipi(komut, i, tipler));
     alanlar_.push_back({std::string(komut.KolonAdi(i)), kolonTipleri.back().value_or(AlanTipi::Tek), {}});
   }
-  while (komut.Adim()) {
+  for (; var; var = komut.Adim()) {
     auto& satir = satirlar_.emplace_back();
     for (int i = 0; i < int(kolonTipleri.size()); ++i) {
       const auto& tip = kolonTipleri[std::size_t(i)];

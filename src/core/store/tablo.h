@@ -108,14 +108,14 @@ class Tablo {
   }
 
   std::optional<Satir> SatirBul(const Deger& anahtar) {
-    if constexpr (TekKayitli<Kayit>) return TekSatir(" order by " + motor_.KimlikKolonu(), Null{});
+    if constexpr (TekKayitli<Kayit>) return TekSatir(" order by " + motor_.KimlikKolonu(tablo_), Null{});
     return TekSatir(" where " + anahtar_ + " = ?", anahtar);
   }
 
   // The first row; a value that is not Null is bound.
   std::optional<Satir> TekSatir(const std::string& kosul, const Deger& deger) {
-    const auto komut = motor_.Hazirla("select " + motor_.KimlikKolonu() + ", " + SecimListesi(kolonlar_) + " from " +
-                                      tablo_ + kosul + " limit 1");
+    const auto komut = motor_.Hazirla("select " + motor_.KimlikKolonu(tablo_) + ", " + SecimListesi(kolonlar_) +
+                                      " from " + tablo_ + kosul + " limit 1");
     if (!NullMu(deger)) komut->Bagla(1, deger);
     if (!komut->Adim()) return std::nullopt;
     Satir satir{komut->Tam(0), {}};
@@ -133,9 +133,9 @@ class Tablo {
   }
 
   Yazim<Kayit> Ekle(Kayit kayit) {
-    KayitYazici<Kayit>(motor_).Ekle(kayit);
+    const std::int64_t kimlik = KayitYazici<Kayit>(motor_).Ekle(kayit);
     Kayit::HerKolon([&](const auto& kolon) {
-      if (kolon.nitelik == AlanNiteligi::Otomatik) UyeyeYaz(kayit.*kolon.uye, Deger(motor_.SonKimlik()));
+      if (kolon.nitelik == AlanNiteligi::Otomatik) UyeyeYaz(kayit.*kolon.uye, Deger(kimlik));
     });
     return kayit;
   }
@@ -154,7 +154,7 @@ class Tablo {
     });
     if (atamalar.empty()) return sonuc;
     const auto komut =
-        motor_.Hazirla("update " + tablo_ + " set " + atamalar + " where " + motor_.KimlikKolonu() + " = ?");
+        motor_.Hazirla("update " + tablo_ + " set " + atamalar + " where " + motor_.KimlikKolonu(tablo_) + " = ?");
     int no = 0;
     yazilan.Her([&](const auto& kolon, bool yazilir) {
       if (yazilir) KolonBagla(*komut, ++no, sonuc.*kolon.uye);

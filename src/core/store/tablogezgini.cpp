@@ -30,14 +30,14 @@ int TabloGezgini::KayitSayisi() {
 }
 
 std::string TabloGezgini::SecimMetni() const {
-  std::string sql = "select " + motor_.KimlikKolonu();
+  std::string sql = "select " + motor_.KimlikKolonu(tanim_.ad);
   for (const auto& alan : alanlar_) sql += ", " + alan.ad;
   return sql + " from " + std::string(tanim_.ad);
 }
 
 std::string TabloGezgini::SiraMetni(Yon yon) const {
   const std::string yonu = GeriyeMi(yon) ? " desc" : "";
-  const std::string kimlik = motor_.KimlikKolonu() + yonu;
+  const std::string kimlik = motor_.KimlikKolonu(tanim_.ad) + yonu;
   if (indeks_ == nullptr) return " order by " + kimlik;
   const std::string anahtar = std::string(indeks_->alanlar.front()) + yonu;
   return " order by " + anahtar + (indeks_->tekil ? "" : ", " + kimlik);
@@ -120,7 +120,7 @@ Komut& TabloGezgini::YuruKomutu(Yon yon) {
   auto& komut = yuru_[GeriyeMi(yon) ? 1 : 0];
   if (komut != nullptr) return *komut;
   const std::string sonra = GeriyeMi(yon) ? " < " : " > ";
-  const std::string kimlik = motor_.KimlikKolonu();
+  const std::string kimlik = motor_.KimlikKolonu(tanim_.ad);
   std::string kosul = " where " + kimlik + sonra + "?2";
   if (indeks_ != nullptr) {
     const std::string anahtar(indeks_->alanlar.front());
@@ -183,7 +183,7 @@ void TabloGezgini::SonrakiDenetle(const Satir& once, const Satir& sonra, Yon yon
 
 void TabloGezgini::YenidenOku() {
   okunanBoy_ = 0;
-  const auto komut = motor_.Hazirla(SecimMetni() + " where " + motor_.KimlikKolonu() + " = ?");
+  const auto komut = motor_.Hazirla(SecimMetni() + " where " + motor_.KimlikKolonu(tanim_.ad) + " = ?");
   komut->TamBagla(1, satir_.kimlik);
   if (komut->Adim()) SatirAl(*komut, satir_);
 }

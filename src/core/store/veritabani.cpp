@@ -109,14 +109,11 @@ bool Veritabani::AlanEkle(std::string_view tablo, const AlanTanimi& alan) {
 bool Veritabani::TabloEkle(const TabloTanimi& tanim) {
   return Koru(false, [&] {
     Islem islem(*motor_);
-    std::string sql = "create table " + std::string(tanim.ad) + " (";
-    const char* ayrac = "";
-    for (const AlanTanimi& alan : tanim.alanlar) {
-      if (alan.nitelik == AlanNiteligi::Sonradan) continue;
-      sql += ayrac + motor_->KolonTanimi(alan, BirincilMi(tanim, alan.ad));
-      ayrac = ", ";
-    }
-    motor_->Calistir(sql + ")");
+    std::string kolonlar;
+    for (const AlanTanimi& alan : tanim.alanlar)
+      if (alan.nitelik != AlanNiteligi::Sonradan)
+        kolonlar += (kolonlar.empty() ? "" : ", ") + motor_->KolonTanimi(alan, BirincilMi(tanim, alan.ad));
+    motor_->Calistir(motor_->TabloMetni(tanim.ad, kolonlar));
     for (const auto* indeksler : {&tanim.indeksler, &tanim.sorguIndeksleri})
       for (const IndeksTanimi& indeks : *indeksler)
         if (!IndeksAdi(tanim, indeks).empty()) motor_->Calistir(IndeksMetni(tanim, indeks, indeks.tekil));

@@ -68,7 +68,10 @@ class Veritabani {
   T Koru(T basarisiz, Is&& is) noexcept {
     try {
       if (!AcikMi()) throw MotorHatasi(MotorKusuru::Acilamadi, "Veritabanı açık değil");
-      return is();
+      AraNokta nokta(*motor_);  // in an open transaction the caller may go on after a failure
+      T sonuc = is();
+      nokta.Birak();
+      return sonuc;
     } catch (const std::exception& h) {
       HataYaz(h.what());
       return basarisiz;

@@ -3,6 +3,7 @@
 
 #include "core/session/yukseltmeadimlari.h"
 #include "core/store/satirlar.h"
+#include "core/store/yantablolar.h"
 #include "core/tables/bordronosu.h"
 #include "payroll/devir/aylikbilgi.h"
 #include "payroll/devir/satirlar.h"
@@ -95,7 +96,7 @@ Sonuc<AktarimSonucu> KartAktar(Oturum& o, const AktarilanCsv& csv, AktarimKipi k
   return AktarimiKaydet(o, *dosya, kip, [&](AktarimSonucu& sonuc) -> Durum {
     Motor& motor = o.depo.db.IcMotor();
     if (auto yarim = YarimYukseltmeKusuru(motor)) return *std::move(yarim);
-    AySaklamayaHazirla(motor);
+    OncekileriHazirla(motor);
     KartYazici yazici(o, *dosya, sonuc);
     for (const AktarimSatiri& satir : dosya->satirlar) yazici.Yaz(satir);
     return Tamam();

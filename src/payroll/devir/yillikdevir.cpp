@@ -35,7 +35,7 @@ YilToplami ToplamAl(const Komut& komut, int ilk) {
 // All people of the year with the rows that they have, by one query.
 std::vector<DevredenKisi> KisileriOku(Motor& motor, int yil, Yuvarlayici yuvarla, Ilerleme* ilerleme) {
   const auto komut = motor.Hazirla(
-      "select t.kod, t.tgvm, t.tgvt, t.tisci, d." + motor.KimlikKolonu() +
+      "select t.kod, t.tgvm, t.tgvt, t.tisci, d." + motor.KimlikKolonu("dvr") +
       ", d.gvmatrah, d.gvtutar, d.issizlik from (select kod, sum(gvmatrah) as tgvm, sum(gvtutar) as tgvt, "
       "sum(issizisci + issizisveren) as tisci from brd where yil = ? group by kod) t "
       "left join dvr d on d.yilkod = ? || t.kod order by t.kod");
@@ -60,7 +60,7 @@ class DevirYazici {
   DevirYazici(Motor& motor, int yil)
       : yil_(yil),
         yazici_(motor),
-        degistir_(motor.Hazirla("update dvr set gvmatrah = ?, gvtutar = ?, issizlik = ? where " + motor.KimlikKolonu() +
+        degistir_(motor.Hazirla("update dvr set gvmatrah = ?, gvtutar = ?, issizlik = ? where " + motor.KimlikKolonu("dvr") +
                                 " = ?")) {}
 
   // A row that says the same already is left alone.

@@ -7,6 +7,7 @@
 #include "core/store/islem.h"
 #include "core/store/koru.h"
 #include "core/store/satirlar.h"
+#include "core/store/yantablolar.h"
 #include "core/tables/brd.h"
 
 namespace belvani {
@@ -91,11 +92,6 @@ int YerineKoy(Motor& motor, int yil, int ay) {
   return int(gelen);
 }
 
-// By code within the month, so that one person is found among all that is kept.
-constexpr const char* IndeksiKur =
-    "create index if not exists brdonceki_kisi on brdonceki (yil, ay, kod collate turkce);"
-    "drop index if exists brdonceki_ay";  // of an earlier version
-
 // `al` is given each kept row of the person, with these columns.
 template <class Al>
 void HerSaklanan(Motor& motor, const std::string& kolonlar, std::string_view kod, Al&& al) {
@@ -131,23 +127,6 @@ std::string Soru(const SaklananAy& saklanan) {
 
 }  // namespace
 
-void AySaklamayaHazirla(Motor& motor) {
-  const auto brd = motor.Kolonlar("brd"), var = motor.Kolonlar("brdonceki");
-  if (var.empty()) {
-    std::string sql =
-        "create table brdonceki (onc_an bigint, onc_neden varchar(40), onc_nesil smallint, onc_ozetoto bigint, "
-        "onc_ozet bigint";
-    for (const MotorKolonu& kolon : brd) sql += ", " + kolon.ad + " " + kolon.tip;
-    motor.Calistir(sql + ");" + IndeksiKur);
-    return;
-  }
-  motor.Calistir(IndeksiKur);
-  // The store was upgraded since.
-  for (const MotorKolonu& kolon : brd)
-    if (std::ranges::find(var, kolon.ad, &MotorKolonu::ad) == var.end())
-      motor.Calistir("alter table brdonceki add column " + kolon.ad + " " + kolon.tip);
-}
-
 void AyiSakla(Motor& motor, int yil, int ay, std::string_view neden) {
   if (KayitSayisi(motor, yil, ay) == 0) return;
   Birak(motor, yil, ay);
@@ -156,19 +135,22 @@ void AyiSakla(Motor& motor, int yil, int ay, std::string_view neden) {
 
 std::vector<std::int64_t> SaklananlarinNumaralari(Motor& motor, std::string_view kod) {
   std::vector<std::int64_t> numaralar;
-  HerSaklanan(motor, motor.KimlikKolonu(), kod, [&](const Komut& satir) { numaralar.push_back(satir.Tam(0)); });
+  HerSaklanan(motor, motor.KimlikKolonu("brdonceki"), kod,
+              [&](const Komut& satir) { numaralar.push_back(satir.Tam(0)); });
   return numaralar;
 }
 
 void SaklananlardaKodDegistir(Motor& motor, std::string_view eski, std::string_view yeni) {
   if (!TabloVar(motor, "brdonceki")) return;
-  AySaklamayaHazirla(motor);
+  OncekileriHazirla(motor);
   std::vector<std::pair<std::int64_t, Deger>> satirlar;  // number and new checksum, read to the end before any change
-  HerSaklanan(motor, motor.KimlikKolonu() + ", onc_ozet, " + SecimListesi<Brd>(motor), eski, [&](const Komut& satir) {
-    const auto ozet = YeniKodunOzeti(satir, 1, 2, yeni);
-    satirlar.emplace_back(satir.Tam(0), ozet ? Deger(*ozet) : Deger(Null{}));
-  });
-  const auto yaz = motor.Hazirla("update brdonceki set kod = ?, onc_ozet = ? where " + motor.KimlikKolonu() + " = ?");
+  HerSaklanan(motor, motor.KimlikKolonu("brdonceki") + ", onc_ozet, " + SecimListesi<Brd>(motor), eski,
+              [&](const Komut& satir) {
+                const auto ozet = YeniKodunOzeti(satir, 1, 2, yeni);
+                satirlar.emplace_back(satir.Tam(0), ozet ? Deger(*ozet) : Deger(Null{}));
+              });
+  const auto yaz =
+      motor.Hazirla("update brdonceki set kod = ?, onc_ozet = ? where " + motor.KimlikKolonu("brdonceki") + " = ?");
   for (const auto& [numara, ozet] : satirlar) {
     yaz->MetinBagla(1, yeni);
     yaz->Bagla(2, ozet);
@@ -198,7 +180,7 @@ Sonuc<std::optional<int>> AyiGeriAl(Oturum& o, int yil, int ay, Bildirim& bildir
     const auto yeni = std::ranges::find_if(simdi, ayi);
     if (yeni == simdi.end() || yeni->an != saklanan->an || yeni->kayit != saklanan->kayit)
       return Kusur{"Saklanan bordro bu arada değişti, hiçbir kayıt geri gelmedi"};
-    AySaklamayaHazirla(motor);
+    OncekileriHazirla(motor);
     const int gelen = YerineKoy(motor, yil, ay);
     islem.Onayla();
     return std::optional(gelen);

@@ -27,10 +27,8 @@ struct SaklananAy {
   int kayit = 0;
 };
 
-// The table of what is kept, with every column that pay records have; to be made before their table is read. Throws
-// MotorHatasi, as AyiSakla does.
-void AySaklamayaHazirla(Motor& motor);
-// Keeps the month's records in the transaction that is open; a month without any keeps what was kept before.
+// Keeps the month's records in the transaction that is open; a month without any keeps what was kept before. The table
+// for it (core/store/yantablolar.h) is to be made before theirs is read. Throws MotorHatasi.
 void AyiSakla(Motor& motor, int yil, int ay, std::string_view neden);
 
 // The months that have a kept state, the latest month first.

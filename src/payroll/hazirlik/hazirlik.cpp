@@ -5,6 +5,7 @@
 #include "core/session/yukseltmeadimlari.h"
 #include "core/store/koru.h"
 #include "core/store/tablo.h"
+#include "core/store/yantablolar.h"
 #include "core/tables/bordronosu.h"
 #include "core/turkce.h"
 #include "payroll/hazirlik/aysaklama.h"
@@ -211,7 +212,7 @@ Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const st
     Motor& motor = o.depo.db.IcMotor();
     Islem islem(motor, KilitBekleme);
     if (const auto yarim = YarimYukseltmeKusuru(motor)) return *yarim;
-    AySaklamayaHazirla(motor);
+    OncekileriHazirla(motor);
     const std::size_t toplam = KisiSayisi(motor);
     std::size_t biten = 0;
     bool suruyor = true;
@@ -255,7 +256,7 @@ Sonuc<int> BordroSil(Oturum& o, int yil, int ay) {
   const auto sil = [&] {
     Motor& motor = o.depo.db.IcMotor();
     Islem islem(motor, KilitBekleme);
-    AySaklamayaHazirla(motor);
+    OncekileriHazirla(motor);
     AyiSakla(motor, yil, ay, SilinmedenOnce);
     const auto komut = motor.Hazirla("delete from brd where yil = ? and ay = ?");
     komut->TamBagla(1, yil);
