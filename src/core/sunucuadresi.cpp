@@ -37,6 +37,11 @@ constexpr const char* SifreliAdres =
     "Adreste şifre bulunamaz: adres ekranda görünür ve ayarlarda saklanır. Şifre girişte sorulur ya da kullanıcının "
     "parola dosyasından (.pgpass) okunur";
 
+SifreSorucu& Sorucu() {
+  static SifreSorucu sorucu;
+  return sorucu;
+}
+
 }  // namespace
 
 std::string SunucuAdresi::Yer() const {
@@ -75,6 +80,14 @@ Sonuc<SunucuAdresi> SunucuAdresiCoz(std::string_view adres) {
   while (baglanti.ends_with('/')) baglanti.remove_suffix(1);
   const std::string_view yol = ayrac == metin.size() ? std::string_view() : metin.substr(ayrac + 1);
   return SunucuAdresi{std::string(baglanti), std::string(Soyun(yol))};
+}
+
+void SifreSorucuKoy(SifreSorucu sorucu) {
+  Sorucu() = std::move(sorucu);
+}
+
+std::optional<std::string> SifreSor(const std::string& sunucu, const std::string& kullanici) {
+  return Sorucu() ? Sorucu()(sunucu, kullanici) : std::nullopt;
 }
 
 }  // namespace belvani

@@ -10,6 +10,8 @@
 // address is shown, logged and kept.
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,5 +34,11 @@ bool SunucuAdresiMi(std::string_view adres);
 
 // Refused are an address without a database, one that cannot be read, and one with a password in it.
 Sonuc<SunucuAdresi> SunucuAdresiCoz(std::string_view adres);
+
+// Who asks for the password when the server wants one that stands nowhere: a box of the desktop, the terminal of the
+// command line. Nothing: its user would not say it, or there is nobody to be asked. It is kept by the connection alone.
+using SifreSorucu = std::function<std::optional<std::string>(const std::string& sunucu, const std::string& kullanici)>;
+void SifreSorucuKoy(SifreSorucu sorucu);
+std::optional<std::string> SifreSor(const std::string& sunucu, const std::string& kullanici);
 
 }  // namespace belvani

@@ -2,138 +2,13 @@
 
 #include <algorithm>
 #include <cassert>
-#include <cerrno>
-#include <fcntl.h>
-#include <filesystem>
-#include <sys/stat.h>
-#include <unistd.h>
 
-#include "core/dizinkilidi.h"
-#include "core/dosya.h"
-#include "core/gecici.h"
-#include "core/yarimdizin.h"
+#include "core/dizinmakinesi.h"
+#include "core/erisilmezyer.h"
+#include "core/sunucuadresi.h"
 
 namespace belvani {
 namespace {
-
-namespace fs = std::filesystem;
-
-constexpr std::string_view IsaretOnEki = ".isaret-";
-constexpr std::size_t EnCokIsaret = 4096;
-
-// Whole for its readers, but not brought to the disk: a power cut takes the programs along that have laid it.
-bool IsaretYaz(const std::string& yol, std::string_view baytlar) {
-  const std::string gecici = yol + "~";
-  const int no = ::open(gecici.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, 0660);
-  if (no < 0) return false;
-  const bool yazildi = ::write(no, baytlar.data(), baytlar.size()) == ssize_t(baytlar.size());
-  if (::close(no) == 0 && yazildi && ::rename(gecici.c_str(), yol.c_str()) == 0) return true;
-  ::unlink(gecici.c_str());
-  return false;
-}
-
-class DizinMakinesi final : public VeriMakinesi {
- public:
-  explicit DizinMakinesi(const std::string& dizin) : dizin_(DizinSonu(dizin)) {}
-
-  // A file whose set waits to be moved is read where it waits; when it moves meanwhile, in its place.
-  DosyaHali Bak(std::string_view ad, std::size_t enCok) const override {
-    const DosyaHali bekleyen = Bul(BekleyenDosya(dizin_, ad), enCok);
-    return bekleyen.var && !bekleyen.okunamadi ? bekleyen : Bul(Adres(ad), enCok);
-  }
-  std::optional<DosyaIzi> Iz(std::string_view ad) const override {
-    struct stat hal {};
-    if (::stat(Adres(ad).c_str(), &hal) != 0 || !S_ISREG(hal.st_mode)) return std::nullopt;
-    constexpr std::int64_t nano = 1'000'000'000;
-    return DosyaIzi{std::uintmax_t(hal.st_size), hal.st_mtim.tv_sec * nano + hal.st_mtim.tv_nsec};
-  }
-  Durum Yaz(std::string_view ad, std::string_view baytlar) const override {
-    if (auto durum = BekleyenleriYerlestir(dizin_); !durum) return durum;
-    GecicileriSupur(dizin_);
-    return DosyaYaz(Adres(ad), baytlar);
-  }
-  Durum YazHepsi(const std::vector<AdliDosya>& dosyalar) const override {
-    GecicileriSupur(dizin_);
-    return DosyalariYaz(dizin_, dosyalar);
-  }
-  Durum Sil(std::string_view ad) const override {
-    if (auto durum = BekleyenleriYerlestir(dizin_); !durum) return durum;
-    return Kaldir(Adres(ad));
-  }
-  std::vector<std::string> Dosyalar() const override {
-    return Adlar([](const fs::directory_entry& g, std::error_code& hata) { return g.is_regular_file(hata); });
-  }
-  Durum IsaretKoy(std::string_view ad, std::string_view baytlar) const override {
-    return IsaretYaz(IsaretYolu(ad), baytlar) ? Tamam() : Durum(Kusur{dizin_ + ": işaret yazılamadı"});
-  }
-  Durum IsaretKaldir(std::string_view ad) const override { return Kaldir(IsaretYolu(ad)); }
-  std::vector<AdliDosya> Isaretler() const override {
-    std::vector<AdliDosya> isaretler;
-    std::error_code hata;
-    for (fs::directory_iterator i(dizin_, hata), son; !hata && i != son; i.increment(hata)) {
-      const std::string dosya = i->path().filename();
-      if (!dosya.starts_with(IsaretOnEki)) continue;
-      if (auto baytlar = DosyaOku(i->path(), EnCokIsaret))
-        isaretler.push_back({dosya.substr(IsaretOnEki.size()), std::move(*baytlar)});
-    }
-    return isaretler;
-  }
-  Sonuc<std::unique_ptr<YolKilidi>> Kilitle(std::chrono::milliseconds enCok) const override {
-    return DiziniKilitle(dizin_, enCok);
-  }
-  std::string Adres(std::string_view ad) const override { return dizin_ + std::string(ad); }
-  std::shared_ptr<const VeriMakinesi> Alt(std::string_view ad) const override {
-    return std::make_shared<DizinMakinesi>(Adres(ad));
-  }
-  std::vector<std::string> Altlar() const override {
-    return Adlar([](const fs::directory_entry& g, std::error_code& hata) { return g.is_directory(hata); });
-  }
-  bool AltVar(std::string_view ad) const override { return DizinVar(Adres(ad)); }
-  Durum Yarat() const override { return DizinYarat(dizin_); }
-  std::string Kimlik() const override {
-    struct stat hal {};
-    if (::stat(dizin_.c_str(), &hal) != 0) return {};
-    return std::to_string(hal.st_dev) + ":" + std::to_string(hal.st_ino);
-  }
-  bool BagMi() const override {
-    std::error_code hata;
-    return fs::is_symlink(Yol(), hata);
-  }
-
- private:
-  static DosyaHali Bul(const std::string& yol, std::size_t enCok) {
-    std::error_code hata;
-    if (!fs::exists(yol, hata)) return {.okunamadi = bool(hata)};
-    if (auto baytlar = DosyaOku(yol, enCok)) return {*baytlar, baytlar->size(), true, false};
-    const std::uintmax_t boy = fs::is_regular_file(yol, hata) ? fs::file_size(yol, hata) : 0;
-    return {.boy = hata ? 0 : boy, .var = true, .okunamadi = hata || boy <= enCok};
-  }
-
-  std::string IsaretYolu(std::string_view ad) const { return Adres(std::string(IsaretOnEki) + std::string(ad)); }
-
-  // Without the separator, which would lead through a link.
-  fs::path Yol() const { return fs::path(dizin_).parent_path(); }
-
-  static Durum Kaldir(const fs::path& yol) {
-    std::error_code hata;
-    fs::remove(yol, hata);
-    return hata ? Durum(Kusur{"silinemedi: " + yol.string()}) : Tamam();
-  }
-
-  template <class Uyar>
-  std::vector<std::string> Adlar(Uyar uyar) const {
-    std::vector<std::string> adlar;
-    std::error_code hata;
-    for (fs::directory_iterator i(dizin_, hata), son; !hata && i != son; i.increment(hata)) {
-      std::error_code tur;
-      std::string ad = i->path().filename();
-      if (ad.front() != '.' && uyar(*i, tur)) adlar.push_back(std::move(ad));
-    }
-    return adlar;
-  }
-
-  std::string dizin_;
-};
 
 // A name that stays in its place.
 bool Ad(std::string_view ad) {
@@ -141,9 +16,27 @@ bool Ad(std::string_view ad) {
          ad.find('\0') == std::string_view::npos;
 }
 
+bool YarimAd(std::string_view ad) {
+  return ad.starts_with('.') && Ad(ad.substr(1));
+}
+
+VeriMakinesiYapici sunucuYapicisi = nullptr;
+
+std::shared_ptr<const VeriMakinesi> SunucuYeri(const std::string& metin) {
+  const auto adres = SunucuAdresiCoz(metin);
+  if (!adres) return ErisilmezYer("postgresql://#", adres.Kusuru());  // it may hold a password, which nobody shall see
+  if (sunucuYapicisi == nullptr)
+    return ErisilmezYer(adres->Yer(), Kusur{adres->Ad() + ": bu program sunucudaki veriyle çalışmaz"});
+  return sunucuYapicisi(*adres);
+}
+
 }  // namespace
 
-VeriYolu::VeriYolu(const std::string& adres) : makine_(std::make_shared<DizinMakinesi>(adres)) {}
+void SunucuYapicisiKoy(VeriMakinesiYapici yapici) {
+  sunucuYapicisi = yapici;
+}
+
+VeriYolu::VeriYolu(const std::string& adres) : makine_(SunucuAdresiMi(adres) ? SunucuYeri(adres) : DizinYeri(adres)) {}
 
 std::optional<std::string> VeriYolu::Oku(std::string_view ad, std::size_t enCok) const {
   DosyaHali hal = Bak(ad, enCok);
@@ -172,20 +65,18 @@ Durum VeriYolu::YazHepsi(const std::vector<AdliDosya>& dosyalar) const {
 }
 
 std::vector<DosyaHali> VeriYolu::BakHepsi(const std::vector<std::string_view>& adlar, std::size_t enCok) const {
-  const auto bak = [&] {
-    std::vector<DosyaHali> haller;
-    for (const std::string_view ad : adlar) haller.push_back(Bak(ad, enCok));
-    return haller;
-  };
-  // A set that comes into force between two reads shows in the second look.
-  constexpr int enCokBakis = 20;
-  std::vector<DosyaHali> once = bak();
-  for (int i = 0; i < enCokBakis; ++i) {
-    std::vector<DosyaHali> simdi = bak();
-    if (simdi == once) break;
-    once = std::move(simdi);
-  }
-  return once;
+  assert(std::all_of(adlar.begin(), adlar.end(), Ad));
+  return makine_->BakHepsi(adlar, enCok);
+}
+
+Durum VeriYolu::DosyayaAl(std::string_view ad, const std::string& yol) const {
+  assert(Ad(ad));
+  return makine_->DosyayaAl(ad, yol);
+}
+
+Durum VeriYolu::DosyadanKoy(std::string_view ad, const std::string& yol) const {
+  assert(Ad(ad));
+  return makine_->DosyadanKoy(ad, yol);
 }
 
 Durum VeriYolu::Sil(std::string_view ad) const {
@@ -210,6 +101,21 @@ Sonuc<std::unique_ptr<YolKilidi>> VeriYolu::Kilitle(std::chrono::milliseconds en
 VeriYolu VeriYolu::Alt(std::string_view ad) const {
   assert(Ad(ad));
   return VeriYolu(makine_->Alt(ad));
+}
+
+Sonuc<std::unique_ptr<YarimYer>> VeriYolu::YarimAlt(std::string_view ad, YarimTuru tur) const {
+  assert(Ad(ad));
+  return makine_->YarimAlt(ad, tur);
+}
+
+Sonuc<std::string> VeriYolu::YarimaCevir(std::string_view ad) const {
+  assert(Ad(ad));
+  return makine_->YarimaCevir(ad);
+}
+
+Durum VeriYolu::YarimSil(std::string_view ad) const {
+  assert(YarimAd(ad));
+  return makine_->YarimSil(ad);
 }
 
 bool VeriYolu::AltVar(std::string_view ad) const {

@@ -8,14 +8,9 @@
 #include <vector>
 
 #include "core/sonuc.h"
+#include "core/veriyolu.h"
 
 namespace belvani {
-
-// What becomes of one that a killed program has left.
-enum class YarimTuru {
-  Kurulan,  // it stays, and its user is told of it
-  Donen,    // the next start removes it: all that is in it is kept elsewhere
-};
 
 class YarimDizin {
  public:

@@ -9,7 +9,6 @@
 
 #include "core/ini.h"
 #include "core/tutamak.h"
-#include "core/yarimdizin.h"
 #include "gecici.h"
 
 namespace belvani {
@@ -53,15 +52,91 @@ TEST(VeriYolu, RemovedWhole) {
   EXPECT_EQ(bag.Kimlik(), sile.Kimlik());
   EXPECT_NE(sile.Kimlik(), veri.Kimlik());
   EXPECT_EQ(veri.Alt("YOK").Kimlik(), "");
-  EXPECT_FALSE(YarimDizineCevir(dizin.Yol(), "ŞİLE")) << "it has a directory in it";
+  EXPECT_FALSE(veri.YarimaCevir("ŞİLE")) << "it has a directory in it";
   std::filesystem::remove(dizin.Yol() + "ŞİLE/yedek");
-  EXPECT_FALSE(YarimDizineCevir(dizin.Yol(), "BAĞ") || YarimDizineCevir(dizin.Yol(), "YOK"));
-  EXPECT_TRUE(sile.Var("tolu.dat") && YarimDizinler(dizin.Yol()).empty());
+  EXPECT_FALSE(veri.YarimaCevir("BAĞ") || veri.YarimaCevir("YOK"));
+  EXPECT_TRUE(sile.Var("tolu.dat") && veri.YarimAltlar().empty());
   std::ofstream(dizin.Yol() + "ŞİLE/.gizli") << "x";
-  const auto ad = YarimDizineCevir(dizin.Yol(), "ŞİLE");
+  const auto ad = veri.YarimaCevir("ŞİLE");
   ASSERT_TRUE(ad && !veri.AltVar("ŞİLE"));
-  EXPECT_EQ(YarimDizinler(dizin.Yol()), std::vector<std::string>{*ad});
-  EXPECT_TRUE(YarimDiziniSil(dizin.Yol(), *ad) && YarimDizinler(dizin.Yol()).empty());
+  EXPECT_EQ(veri.YarimAltlar(), std::vector<std::string>{*ad});
+  EXPECT_TRUE(ad->starts_with('.')) << "what every maker's half places are known by";
+  EXPECT_TRUE(veri.YarimSil(*ad) && veri.YarimAltlar().empty());
+}
+
+// A new place is in no list until it has its name, takes nobody's, and replaces one only where that is wanted.
+TEST(VeriYolu, MadeWhole) {
+  const test::GeciciDizin dizin;
+  const VeriYolu veri = dizin.Yol();
+  const auto doldur = [&](const YarimYer& yer, const char* bayt) {
+    return bool(VeriYolu(yer.Adres()).Yaz("sablon.dat", bayt));
+  };
+  {
+    auto birakilan = veri.YarimAlt("ŞİLE");
+    ASSERT_TRUE(birakilan && doldur(**birakilan, "1"));
+    EXPECT_TRUE(veri.Altlar().empty() && veri.YarimAltlar().empty()) << "someone is at it";
+  }
+  EXPECT_TRUE(std::filesystem::is_empty(dizin.Yol()));
+  auto bir = veri.YarimAlt("ŞİLE"), iki = veri.YarimAlt("ŞİLE"), donen = veri.YarimAlt("ŞİLE", YarimTuru::Donen);
+  ASSERT_TRUE(bir && iki && donen && doldur(**bir, "1") && doldur(**iki, "2") && doldur(**donen, "3"));
+  EXPECT_TRUE((*bir)->Adlandir());
+  EXPECT_FALSE((*iki)->Adlandir());
+  EXPECT_EQ(veri.Alt("ŞİLE").Oku("sablon.dat"), "1");
+  EXPECT_TRUE((*donen)->YerineGec());
+  EXPECT_EQ(veri.Alt("ŞİLE").Oku("sablon.dat"), "3");
+  EXPECT_EQ(VeriYolu((*donen)->Adres()).Oku("sablon.dat"), "1") << "until the object goes";
+  iki->reset();
+  donen->reset();
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dizin.Yol()), {}), 1);
+}
+
+TEST(VeriYolu, FilesOfAnySizeComeAndGo) {
+  const test::GeciciDizin dizin;
+  const VeriYolu veri = VeriYolu(dizin.Yol()).Alt("ŞİLE");
+  ASSERT_TRUE(veri.Yarat());
+  const std::string buyuk = std::string(100'000, 'b') + '\0', disarida = dizin.Yol() + "disari";
+  std::ofstream(disarida) << buyuk;
+  ASSERT_TRUE(veri.Yaz("a.dat", "eski") && veri.DosyadanKoy("a.dat", disarida));
+  EXPECT_EQ(veri.Oku("a.dat"), buyuk);
+  EXPECT_FALSE(veri.DosyadanKoy("a.dat", dizin.Yol() + "yok") || veri.DosyadanKoy("a.dat", dizin.Yol()));
+  EXPECT_TRUE(veri.Oku("a.dat") == buyuk && veri.Dosyalar().size() == 1);
+  EXPECT_FALSE(veri.DosyayaAl("a.dat", disarida)) << "what is there is nobody's to replace";
+  EXPECT_FALSE(veri.DosyayaAl("yok.dat", dizin.Yol() + "yok"));
+  std::filesystem::create_directory(veri.Adres(".bekleyen"));
+  std::ofstream(veri.Adres(".bekleyen/a.dat")) << "yeni";
+  ASSERT_TRUE(veri.DosyayaAl("a.dat", dizin.Yol() + "alinan"));
+  EXPECT_EQ(VeriYolu(dizin.Yol()).Oku("alinan"), "yeni") << "a set that waits holds already";
+}
+
+TEST(VeriYolu, MarksOfAllPlacesAtOnce) {
+  const test::GeciciDizin dizin;
+  const VeriYolu veri = dizin.Yol();
+  for (const char* ad : {"A", "B", "BOS"}) ASSERT_TRUE(veri.Alt(ad).Yarat());
+  ASSERT_TRUE(veri.IsaretKoy("kendi", "0") && veri.Alt("A").IsaretKoy("x", "1") && veri.Alt("B").IsaretKoy("y", "2"));
+  std::string hepsi;
+  for (const AltIsareti& i : veri.AltIsaretleri()) hepsi += i.alt + i.isaret.ad + i.isaret.baytlar + " ";
+  EXPECT_TRUE(hepsi == "Ax1 By2 " || hepsi == "By2 Ax1 ") << hepsi;
+}
+
+// An address that no maker takes is an empty place in which everything fails with the reason, and no directory.
+TEST(VeriYolu, AServerOutOfReachIsToldAndTouchesNoDisk) {
+  const test::GeciciDizin dizin;
+  const std::filesystem::path onceki = std::filesystem::current_path();
+  std::filesystem::current_path(dizin.Yol());
+  for (const auto& [adres, neden] : {std::pair("postgresql://s/b", "s/b: bu program"),
+                                     std::pair("postgresql://ayse:gizli@s/b", "şifre bulunamaz")}) {
+    const VeriYolu veri = adres, sirket = veri.Alt("ŞİLE");
+    ASSERT_FALSE(veri.Erisim());
+    EXPECT_NE(sirket.Erisim().KusurMetni().find(neden), std::string::npos) << sirket.Erisim().KusurMetni();
+    EXPECT_TRUE(veri.Sunucuda() && veri.Altlar().empty() && !veri.AltVar("ŞİLE"));
+    EXPECT_FALSE(veri.Yarat() || veri.YarimAlt("ŞİLE") || sirket.Yaz("a.dat", "1") || sirket.Kilitle());
+    EXPECT_EQ(sirket.Adres("a.dat").find("gizli"), std::string::npos);
+    EXPECT_TRUE(sirket.Bak("a.dat").okunamadi) << "it must not be written over";
+  }
+  EXPECT_EQ(VeriYolu("postgresql://s/b/").Alt("ŞİLE").Adres("tolu.dat"), "postgresql://s/b#ŞİLE/tolu.dat");
+  EXPECT_TRUE(VeriYolu(dizin.Yol()).Erisim() && !VeriYolu(dizin.Yol()).Sunucuda());
+  EXPECT_TRUE(std::filesystem::is_empty(dizin.Yol()));
+  std::filesystem::current_path(onceki);
 }
 
 TEST(VeriYolu, OneWriterWaitsForTheOther) {
