@@ -10,6 +10,9 @@
 #include <unistd.h>
 #include <utility>
 
+#include "core/store/pgmotor.h"
+#include "core/sunucuadresi.h"
+
 namespace belvani {
 namespace {
 
@@ -61,6 +64,10 @@ Durum Kopyala(const std::string& kaynak, const std::string& hedef) {
 }  // namespace
 
 bool DepoYazilir(const std::string& yol) {
+  if (SunucuAdresiMi(yol)) {
+    const auto adres = SunucuAdresiCoz(yol);
+    return !adres || PgYazilir(*adres);
+  }
   const std::string ust = fs::path(yol).parent_path();
   const auto yazilmaz = [](const std::string& ne) {
     return ::faccessat(AT_FDCWD, ne.c_str(), F_OK, AT_EACCESS) == 0 &&
@@ -110,7 +117,7 @@ std::unique_ptr<Motor> MotorBak(const std::string& yol) {
     motor->SaltOkunurYap();
     return motor;
   } catch (const MotorHatasi&) {
-    if (DepoYazilir(yol)) throw;
+    if (SunucuAdresiMi(yol) || DepoYazilir(yol)) throw;
   }
   auto kopya = DepoKopyasi::Al(yol);
   if (!kopya) throw MotorHatasi(MotorKusuru::Acilamadi, kopya.KusurMetni());

@@ -94,7 +94,8 @@ AlanTipi BildirilenTip(std::string_view tip) {
   static constexpr std::pair<std::string_view, AlanTipi> tipler[] = {
       {"tinyint", AlanTipi::Byte},   {"smallint", AlanTipi::Kisa}, {"integer", AlanTipi::Uzun},
       {"bigint", AlanTipi::Tutar},   {"real", AlanTipi::Tek},      {"date", AlanTipi::Tarih},
-      {"boolean", AlanTipi::Mantik}, {"blob", AlanTipi::Ikili},
+      {"boolean", AlanTipi::Mantik}, {"blob", AlanTipi::Ikili},    {"double precision", AlanTipi::Tek},
+      {"tarih", AlanTipi::Tarih},    {"mantik", AlanTipi::Mantik}, {"bytea", AlanTipi::Ikili},
   };
   for (const auto& [ad, alanTipi] : tipler)
     if (tip == ad) return alanTipi;

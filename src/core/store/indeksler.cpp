@@ -39,6 +39,11 @@ std::string IndeksAdi(const TabloTanimi& tablo, const IndeksTanimi& indeks) {
   return std::string(tablo.ad) + "_" + std::string(indeks.ad);
 }
 
+bool BirincilMi(const TabloTanimi& tablo, std::string_view alan) {
+  return std::ranges::any_of(tablo.indeksler,
+                             [&](const IndeksTanimi& i) { return i.birincil && i.alanlar.front() == alan; });
+}
+
 std::string IndeksMetni(const TabloTanimi& tablo, const IndeksTanimi& indeks, bool tekil) {
   std::string sql = tekil ? "create unique index " : "create index ";
   sql += IndeksAdi(tablo, indeks) + " on " + std::string(tablo.ad) + " (";

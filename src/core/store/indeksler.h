@@ -11,6 +11,9 @@ namespace belvani {
 // What an index of the schema is called in the store; empty where the table's automatic number is one by itself.
 std::string IndeksAdi(const TabloTanimi& tablo, const IndeksTanimi& indeks);
 
+// Is the column the first key of its table?
+bool BirincilMi(const TabloTanimi& tablo, std::string_view alan);
+
 // "create unique index brd_ay on brd (yil, …)".
 std::string IndeksMetni(const TabloTanimi& tablo, const IndeksTanimi& indeks, bool tekil);
 

@@ -160,6 +160,9 @@ class Motor {
   virtual std::int64_t SonKimlik() = 0;                          // of the row inserted last
   virtual std::int64_t DegisenSatir() = 0;                       // by the last write
   virtual std::uint64_t YazmaSayaci() const = 0;                 // grows with every write of this process
+  // The last number that the table has given, also to rows that are gone; for a store that takes another one's place.
+  virtual std::int64_t SonNumara(std::string_view tablo) = 0;
+  virtual void SonNumarayiKoy(std::string_view tablo, std::int64_t numara) = 0;
 
   virtual DepoYeri Yeri() = 0;
   // Lays the store out anew, and brings all of it into the one file; it must be this motor's alone.
@@ -177,12 +180,13 @@ class Motor {
   virtual void Kopyala(const std::string& yol, const KopyaAdimi& adim) = 0;
 };
 
-// Opens the store file at `yol`, or makes it anew where there is none, for reading and writing. A store that is laid
-// out for one computer is not opened from another one. A new one is laid out as its file system asks for.
-std::unique_ptr<Motor> MotorAc(const std::string& yol, AcilisKipi kip = AcilisKipi::Ortak);
-std::unique_ptr<Motor> MotorYarat(const std::string& yol);
+// Opens the store at an address, the path of a file or a place on a server ("postgresql://…#ORNEK/tolu.dat"), or makes
+// it anew where there is none, for reading and writing. A file that is laid out for one computer is not opened from
+// another one. A new one is laid out as its file system asks for.
+std::unique_ptr<Motor> MotorAc(const std::string& adres, AcilisKipi kip = AcilisKipi::Ortak);
+std::unique_ptr<Motor> MotorYarat(const std::string& adres);
 
 // Removes a closed store, with what the engine has laid beside it.
-void MotorDosyasiniSil(const std::string& yol);
+void MotorDosyasiniSil(const std::string& adres);
 
 }  // namespace belvani

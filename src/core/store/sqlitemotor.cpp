@@ -5,6 +5,8 @@
 // Text columns carry the collation `turkce`. Its order belongs to the Unicode library's version, which the store
 // remembers in user_version: under another version the indexes are rebuilt before anything is searched.
 
+#include "core/store/sqlitemotor.h"
+
 #include <cerrno>
 #include <fcntl.h>
 #include <sqlite3.h>
@@ -13,7 +15,6 @@
 #include <unistd.h>
 
 #include "core/store/dosyasistemi.h"
-#include "core/store/motor.h"
 #include "core/store/sqlitekopya.h"
 #include "core/turkce.h"
 
@@ -401,6 +402,24 @@ class SqliteMotor final : public Motor {
   std::int64_t SonKimlik() override { return sqlite3_last_insert_rowid(db_); }
   std::int64_t DegisenSatir() override { return sqlite3_changes64(db_); }
   std::uint64_t YazmaSayaci() const override { return hal_.yazmaSayaci; }
+  std::int64_t SonNumara(std::string_view tablo) override {
+    const std::string ad(tablo);
+    return std::max(TekDeger("select max(rowid) from " + ad),
+                    TekDeger("select seq from sqlite_sequence where name = '" + ad + "'"));
+  }
+  void SonNumarayiKoy(std::string_view tablo, std::int64_t numara) override {
+    const auto komut = Hazirla("update sqlite_sequence set seq = max(seq, ?1) where name = ?2");
+    komut->TamBagla(1, numara);
+    komut->MetinBagla(2, tablo);
+    komut->Calistir();
+    if (DegisenSatir() != 0 || TekDeger("select count(*) from sqlite_master where name = '" + std::string(tablo) +
+                                        "' and sql like '%autoincrement%'") == 0)
+      return;
+    const auto ekle = Hazirla("insert into sqlite_sequence (name, seq) values (?2, ?1)");
+    ekle->TamBagla(1, numara);
+    ekle->MetinBagla(2, tablo);
+    ekle->Calistir();
+  }
 
   DepoYeri Yeri() override { return WalBasligi() ? DepoYeri::BuBilgisayar : DepoYeri::Paylasilan; }
   void YerKoy(DepoYeri yer) override {
@@ -487,17 +506,17 @@ class SqliteMotor final : public Motor {
 
 }  // namespace
 
-std::unique_ptr<Motor> MotorAc(const std::string& yol, AcilisKipi kip) {
+std::unique_ptr<Motor> SqliteAc(const std::string& yol, AcilisKipi kip) {
   auto motor = std::make_unique<SqliteMotor>(yol, kip);
   motor->SirayiDenetle();
   return motor;
 }
 
-void MotorDosyasiniSil(const std::string& yol) {
+void SqliteSil(const std::string& yol) {
   for (const char* ek : {"", "-wal", "-shm", "-journal"}) ::unlink((yol + ek).c_str());
 }
 
-std::unique_ptr<Motor> MotorYarat(const std::string& yol) {
+std::unique_ptr<Motor> SqliteYarat(const std::string& yol) {
   // Made empty first, so that the file and all that the engine lays beside it are open to owner and group only.
   const int dosya = ::open(yol.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0660);
   if (dosya < 0) throw MotorHatasi(MotorKusuru::Acilamadi, KusurMetni(MotorKusuru::Acilamadi) + " [" + yol + "]");
@@ -509,7 +528,7 @@ std::unique_ptr<Motor> MotorYarat(const std::string& yol) {
     motor->YeniDosyayiImzala();
     return motor;
   } catch (...) {
-    MotorDosyasiniSil(yol);
+    SqliteSil(yol);
     throw;
   }
 }

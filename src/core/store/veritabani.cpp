@@ -12,11 +12,6 @@
 namespace belvani {
 namespace {
 
-bool BirincilMi(const TabloTanimi& tanim, std::string_view alan) {
-  return std::any_of(tanim.indeksler.begin(), tanim.indeksler.end(),
-                     [&](const auto& i) { return i.birincil && i.alanlar.front() == alan; });
-}
-
 void Gunluge(const std::string& metin) {
   const char* yol = std::getenv("BELVANI_GUNLUK");
   if (yol == nullptr || *yol == '\0') return;

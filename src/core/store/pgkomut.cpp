@@ -1,0 +1,103 @@
+#include "core/store/pgkomut.h"
+
+#include "core/store/pgdeger.h"
+
+namespace belvani {
+
+PgKomut::PgKomut(PgMotor& motor, std::string_view sql, bool tetiksiz)
+    : motor_(motor), sql_(PgSorgusu(sql)), tur_(SqlTuruBul(sql)), tetiksiz_(tetiksiz) {
+  doner_ = tur_ != SqlTuru::Okur && sql_.find(" returning ") != sql_.npos;
+}
+
+PgParametre& PgKomut::Yer(int no) {
+  if (parametreler_.size() < std::size_t(no)) parametreler_.resize(std::size_t(no));
+  return parametreler_[std::size_t(no) - 1];
+}
+
+void PgKomut::SayiBagla(int no, double d) {
+  Yer(no) = PgParametre::Metin(PgSayiMetni(d));
+}
+
+void PgKomut::MetinBagla(int no, std::string_view d) {
+  Yer(no) = PgParametre::Metin(PgMetni(d));
+}
+
+void PgKomut::BaytBagla(int no, const Baytlar& d) {
+  Yer(no) = PgParametre::Bayt({reinterpret_cast<const char*>(d.data()), d.size()});
+}
+
+void PgKomut::Gonder() {
+  if (tur_ == SqlTuru::Okur) giden_ = motor_.Sirala(sql_, parametreler_);
+}
+
+bool PgKomut::Adim() {
+  if (satir_ < 0) {
+    if (tur_ != SqlTuru::Okur) {
+      const auto yanit = motor_.Yaz(sql_, parametreler_, tetiksiz_);
+      if (!doner_) return false;
+      motor_.Bitir();
+      sonuc_ = yanit->sonuc;
+    } else if (giden_ != nullptr) {
+      if (!giden_->geldi) motor_.Bitir();
+      sonuc_ = std::move(giden_->sonuc);
+      giden_.reset();
+    } else {
+      sonuc_ = motor_.Oku(sql_, parametreler_);
+    }
+  }
+  if (++satir_ < sonuc_.Satir()) return true;
+  satir_ = -1;
+  return false;
+}
+
+void PgKomut::Birak() {
+  satir_ = -1;
+  giden_.reset();
+}
+
+std::string_view PgKomut::KaynakTablo(int i) const {
+  const PgTablosu* tablo = motor_.Katalog().Bul(sonuc_.KaynakTablo(i));
+  return tablo == nullptr ? std::string_view() : tablo->ad;
+}
+
+std::string_view PgKomut::KaynakKolon(int i) const {
+  const PgKolonu* kolon = motor_.Katalog().Bul(sonuc_.KaynakTablo(i), sonuc_.KaynakKolon(i));
+  return kolon == nullptr ? std::string_view() : kolon->ad;
+}
+
+Komut::Tur PgKomut::Turu(int i) const {
+  return Null(i) ? Tur::Null : PgTuru(sonuc_.Tip(i), sonuc_.Ham(satir_, i));
+}
+
+std::int64_t PgKomut::Tam(int i) const {
+  return Null(i) ? 0 : PgTam(sonuc_.Tip(i), sonuc_.Ham(satir_, i));
+}
+
+double PgKomut::Sayi(int i) const {
+  return Null(i) ? 0 : PgSayi(sonuc_.Tip(i), sonuc_.Ham(satir_, i));
+}
+
+std::string_view PgKomut::Metin(int i) const {
+  switch (Turu(i)) {
+    case Tur::Null:
+      return {};
+    case Tur::Metin:
+    case Tur::Bayt:
+      return sonuc_.Ham(satir_, i);
+    case Tur::Tam:
+      metin_ = std::to_string(Tam(i));
+      break;
+    case Tur::Sayi:
+      metin_ = PgSayiMetni(Sayi(i));
+      break;
+  }
+  return metin_;
+}
+
+Baytlar PgKomut::Bayt(int i) const {
+  if (Null(i)) return {};
+  const std::string_view ham = sonuc_.Ham(satir_, i);
+  return {ham.begin(), ham.end()};
+}
+
+}  // namespace belvani
