@@ -24,6 +24,7 @@ IsletmeAyari IsletmeAyariOku(const Oturum& o);
 Durum IsletmeAyariYaz(const Oturum& o, const IsletmeAyari& ayar);
 
 // The directory of a sibling store, as it is opened: one that is no whole path is meant from the company's directory.
+// Of a company on a server it is none, and refused where it is opened.
 std::string KardesDizini(const Oturum& o, const std::string& kayitli);
 
 }  // namespace belvani

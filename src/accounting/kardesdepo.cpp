@@ -13,6 +13,7 @@
 #include "core/store/koru.h"
 #include "core/store/satirlar.h"
 #include "core/store/veritabani.h"
+#include "core/sunucuadresi.h"
 #include "core/tutamak.h"
 #include "core/yarimdizin.h"
 
@@ -176,6 +177,12 @@ bool AdVer(const std::string& yeni, const std::string& yol) {
   return false;
 }
 
+// A relative path that was meant from a company on a server, or a server itself.
+Durum DizinMi(const std::string& dizin) {
+  if (!SunucuAdresiMi(dizin)) return Tamam();
+  return Kusur{"Defterler sunucuda değil bir dizinde durur, dizinin tam yolunu veriniz: " + dizin};
+}
+
 }  // namespace
 
 std::string KardesDosyasi(KardesTuru tur, const std::string& dizin) {
@@ -184,6 +191,7 @@ std::string KardesDosyasi(KardesTuru tur, const std::string& dizin) {
 
 Sonuc<std::shared_ptr<Motor>> KardesAc(KardesTuru tur, const std::string& dizin, KardesErisimi erisim) {
   const KardesTanimi& tanim = Tanimi(tur);
+  if (Durum d = DizinMi(dizin); !d) return Kusur{std::string(tanim.bulunamadi) + "\n" + d.KusurMetni()};
   const std::string yol = KardesDosyasi(tur, dizin);
   std::error_code hata;
   if (dizin.empty() || !std::filesystem::is_regular_file(yol, hata))
@@ -198,6 +206,7 @@ Sonuc<std::shared_ptr<Motor>> KardesAc(KardesTuru tur, const std::string& dizin,
 }
 
 Durum KardesYarat(KardesTuru tur, const std::string& dizin) {
+  if (Durum d = DizinMi(dizin); !d) return d;
   const std::string yol = KardesDosyasi(tur, dizin);
   const std::string ust = DizinSonu(dizin);
   if (Durum yaratildi = DizinYarat(ust); !yaratildi) return yaratildi;

@@ -7,6 +7,7 @@
 #include <sqlite3.h>
 #include <unicode/uversion.h>
 
+#include "core/session/datayolu.h"
 #include "ui/metin.h"
 #include "ui/simge.h"
 
@@ -34,7 +35,7 @@ std::vector<Satir> Satirlar(const Oturum& o) {
           {"SQLite", QString::fromLatin1(sqlite3_libversion())},
           {"ICU", IcuSurumu()},
           {"curl", QString::fromLatin1(curl_version_info(CURLVERSION_NOW)->version)},
-          {"Veri dizini", Yazi(o.DataPath)},
+          {"Veri dizini", Yazi(DataYoluMetni(o.DataPath))},
           {"Program dizini", Yazi(o.PrgPath)},
           {"Bilgisayar", Yazi(o.BilgisayarAdi)},
           {"Lisans", "Apache License 2.0"}};

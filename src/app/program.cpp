@@ -5,7 +5,9 @@
 
 #include "app/cikisyedegi.h"
 #include "app/gosterici.h"
+#include "app/sifrekutusu.h"
 #include "app/yardim.h"
+#include "core/sunucuadresi.h"
 #include "screens/core/Dbupdate.h"
 #include "screens/core/startfrm.h"
 #include "ui/bildirimkutusu.h"
@@ -88,6 +90,7 @@ int ProgramiYurut(MasaustuUygulamasi& uygulama) {
   CeviriYukle(uygulama);
   YardimTusuKur(uygulama);
   StilKur(uygulama, AcikRenkler());
+  SifreSorucuKoy(SifreKutusu);
   return Program(uygulama).Yurut();
 }
 

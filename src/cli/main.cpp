@@ -6,9 +6,11 @@
 #include <sstream>
 
 #include "cli/ortak.h"
+#include "cli/sifresor.h"
 #include "core/adlar.h"
 #include "core/sayi.h"
 #include "core/session/oturum.h"
+#include "core/sunucuadresi.h"
 
 namespace belvani::cli {
 namespace {
@@ -126,10 +128,12 @@ constexpr KomutEkle Komutlar[] = {
 
 int Calistir(int argc, char** argv) {
   Genel genel;
+  SifreSorucuKoy(TerminaldeSifreSor);
   CLI::App app("Belvani: personel ve bordro programı, toplu işler için komutlar", "belvani-cli");
   TurkceYap(app);
   app.set_help_flag("-h,--help", "bu yardımı gösterir");
-  app.add_option("--veri", genel.veri, "data dizini (verilmezse kurulumun data dizini)");
+  app.add_option("--veri", genel.veri,
+                 "data dizini ya da sunucu adresi: postgresql://sunucu/belvani (verilmezse kurulumunki)");
   app.require_subcommand(0, 1);
   app.set_version_flag("--version", "Belvani " + VersiyonMetni(ProgramVersiyonu()), "programın sürümünü gösterir");
   for (const KomutEkle ekle : Komutlar) ekle(app, genel);

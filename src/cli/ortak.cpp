@@ -5,12 +5,10 @@
 
 #include "core/adlar.h"
 #include "core/ayarlar.h"
-#include "core/dosya.h"
-#include "core/gecici.h"
 #include "core/kaynak.h"
 #include "core/sayi.h"
+#include "core/session/datayolu.h"
 #include "core/session/yukseltme.h"
-#include "core/yarimdizin.h"
 #include "documents/secimalanlari.h"
 
 namespace belvani::cli {
@@ -28,9 +26,11 @@ bool StandartHata::Soru(std::string_view metin) {
 std::string Genel::DataPath() {
   const std::string yol = veri.empty() ? MakineAyari("DataPath") : veri;
   if (yol.empty()) throw KomutHatasi{"Data Dizini belli değil: --veri DIZIN veriniz"};
-  GecicileriSupur(yol);
-  YarimDegisimleriBitir(yol);
-  return DizinSonu(yol);
+  auto dataPath = DataYolu(yol);
+  const VeriYolu yer = Degeri(dataPath);
+  Basarmali(yer.Erisim());
+  yer.Toparla();
+  return *dataPath;
 }
 
 std::unique_ptr<Oturum> Genel::SirketAc(const std::string& kod, SirketErisimi erisim) {

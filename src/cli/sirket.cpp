@@ -1,6 +1,7 @@
 // sirket-ac, sirket-sil, sirketler
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
+#include "core/saat.h"
 #include "core/session/sirketlistesi.h"
 #include "core/session/yenisirket.h"
 
@@ -33,15 +34,23 @@ void SirketiAc(Genel& genel, const SirketAcSecenekleri& s) {
   Yaz("Şirket açıldı: " + o.FirmaKod + "\n");
 }
 
+Json IcerdekiDizisi(const std::vector<Icerdeki>& icerdekiler) {
+  Json dizi = Json::array();
+  for (const Icerdeki& i : icerdekiler)
+    dizi.push_back({{"kullanici", i.kullanici}, {"bilgisayar", i.bilgisayar}, {"giris", AnMetni(i.giris)}});
+  return dizi;
+}
+
 void SirketleriYaz(Genel& genel, bool json) {
+  const VeriYolu veri = genel.DataPath();
   Json dizi = Json::array();
   std::string metin;
-  for (const SirketSatiri& s : SirketListesi(genel.DataPath())) {
-    dizi.push_back({{"kod", s.ad}, {"unvan", s.unvan}, {"donem", s.donem}});
-    metin += s.ad + "\t" + s.unvan + "\t" + s.donem + "\n";
+  for (const SirketSatiri& s : SirketListesi(veri)) {
+    dizi.push_back({{"kod", s.ad}, {"unvan", s.unvan}, {"donem", s.donem}, {"icerde", IcerdekiDizisi(s.icerde)}});
+    metin += s.ad + "\t" + s.unvan + "\t" + s.donem + (s.icerde.empty() ? "" : "\t" + IcerdekiMetni(s.icerde)) + "\n";
   }
   // They are no companies, so programs that read the list do not see them.
-  for (const std::string& ad : YarimSirketler(genel.DataPath()))
+  for (const std::string& ad : YarimSirketler(veri))
     genel.bildirim.Uyari("Yarım kalmış şirket: " + ad + " (silmek için: sirket-sil " + ad + " --onay)");
   Yaz(json ? dizi.dump(2) + "\n" : metin);
 }
@@ -68,7 +77,7 @@ void SirketKomutlari(CLI::App& app, Genel& genel) {
   AySecenegi(*ac, s->ay, "çalışma ayı (verilmezse bu ay)");
   ac->callback([&genel, s] { SirketiAc(genel, *s); });
 
-  auto* liste = app.add_subcommand("sirketler", "Data dizinindeki şirketleri dönemleriyle listeler");
+  auto* liste = app.add_subcommand("sirketler", "Şirketleri dönemleriyle ve içeride olanlarla listeler");
   auto json = std::make_shared<bool>(false);
   liste->add_flag("--json", *json, "JSON olarak");
   liste->callback([&genel, json] { SirketleriYaz(genel, *json); });

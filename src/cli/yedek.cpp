@@ -71,7 +71,9 @@ void YedekKomutlari(CLI::App& app, Genel& genel) {
       "yedekle", "Şirketi bütün dosyalarıyla tek bir sıkıştırılmış dosyaya yedekler; başkaları çalışırken de alınır");
   auto* kod = yedekle->add_option("KOD", s->kod, "şirket");
   yedekle->add_flag("--hepsi", s->hepsi, "data dizinindeki bütün şirketler, her biri kendi dosyasına")->excludes(kod);
-  yedekle->add_option("-o", s->cikti, "yazılacak dosya ya da dizin (verilmezse data dizininde .yedek/KOD)");
+  yedekle->add_option("-o", s->cikti,
+                      "yazılacak dosya ya da dizin (verilmezse data dizininde .yedek/KOD; sunucudaki "
+                      "şirketin yedeği bu bilgisayarda kullanıcının veri dizininde durur)");
   yedekle->callback([&genel, s] { Yedekle(genel, *s); });
 
   auto* liste =

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <utility>
 
 #include "core/dizinmakinesi.h"
 #include "core/erisilmezyer.h"
@@ -32,8 +33,8 @@ std::shared_ptr<const VeriMakinesi> SunucuYeri(const std::string& metin) {
 
 }  // namespace
 
-void SunucuYapicisiKoy(VeriMakinesiYapici yapici) {
-  sunucuYapicisi = yapici;
+VeriMakinesiYapici SunucuYapicisiKoy(VeriMakinesiYapici yapici) {
+  return std::exchange(sunucuYapicisi, yapici);
 }
 
 VeriYolu::VeriYolu(const std::string& adres) : makine_(SunucuAdresiMi(adres) ? SunucuYeri(adres) : DizinYeri(adres)) {}

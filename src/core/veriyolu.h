@@ -114,7 +114,7 @@ class VeriMakinesi {
 // Who makes the places of a server. The store's room, which knows the server's language, says so when it is linked;
 // without it a server's address is a place where everything fails with the reason.
 using VeriMakinesiYapici = std::shared_ptr<const VeriMakinesi> (*)(const SunucuAdresi& adres);
-void SunucuYapicisiKoy(VeriMakinesiYapici yapici);
+VeriMakinesiYapici SunucuYapicisiKoy(VeriMakinesiYapici yapici);  // gives the one before
 
 class VeriYolu {
  public:

@@ -276,7 +276,7 @@ Durum AylikBildirge::XmlKosullari() const {
 }
 
 std::string AylikBildirge::XmlYolu() const {
-  return VeriYolu(o_.FirmaDizini).Adres(XmlDosyaAdi(bildirge_.secim));
+  return VeriYolu(o_.FirmaDizini).YerelDizin() + XmlDosyaAdi(bildirge_.secim);
 }
 
 Sonuc<std::optional<std::string>> AylikBildirge::XmlHazirla(const Yurutucu& yurut) {

@@ -307,7 +307,7 @@ Sonuc<std::string> TabloSablonu(const std::vector<std::string>& dizinler, const 
 }
 
 Sonuc<std::string> TabloSablonu(const Oturum& oturum) {
-  std::vector dizinler{oturum.DataPath};
+  std::vector dizinler{VeriYolu(oturum.DataPath).YerelDizin()};
   if (!oturum.PrgPath.empty()) dizinler.push_back(oturum.PrgPath);
   dizinler.push_back(VeriDizini("sablon"));
   return TabloSablonu(dizinler);

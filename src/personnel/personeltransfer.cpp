@@ -59,7 +59,7 @@ Kusur Acilamiyor(const std::string& neden) {
 Sonuc<HedefSirket> HedefAc(Oturum& o, const std::string& ad) {
   const VeriYolu yer = VeriYolu(o.DataPath).Alt(ad);
   const std::string adres = DepoAdresi(yer);
-  if (!yer.Var(DepoDosyasi)) return Acilamiyor("Şirket yok: " + ad);
+  if (!DepoVar(yer)) return Acilamiyor("Şirket yok: " + ad);
   if (!DepoYazilir(adres)) return Acilamiyor("Şirketin dosyaları yazılamıyor");
   auto motor = Koru([&] { return MotorAc(adres); });
   if (!motor) return Acilamiyor(motor.KusurMetni());

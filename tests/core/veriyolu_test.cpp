@@ -122,6 +122,7 @@ TEST(VeriYolu, MarksOfAllPlacesAtOnce) {
 TEST(VeriYolu, AServerOutOfReachIsToldAndTouchesNoDisk) {
   const test::GeciciDizin dizin;
   const std::filesystem::path onceki = std::filesystem::current_path();
+  const VeriMakinesiYapici yapici = SunucuYapicisiKoy(nullptr);
   std::filesystem::current_path(dizin.Yol());
   for (const auto& [adres, neden] : {std::pair("postgresql://s/b", "s/b: bu program"),
                                      std::pair("postgresql://ayse:gizli@s/b", "şifre bulunamaz")}) {
@@ -137,6 +138,7 @@ TEST(VeriYolu, AServerOutOfReachIsToldAndTouchesNoDisk) {
   EXPECT_TRUE(VeriYolu(dizin.Yol()).Erisim() && !VeriYolu(dizin.Yol()).Sunucuda());
   EXPECT_TRUE(std::filesystem::is_empty(dizin.Yol()));
   std::filesystem::current_path(onceki);
+  SunucuYapicisiKoy(yapici);
 }
 
 TEST(VeriYolu, OneWriterWaitsForTheOther) {

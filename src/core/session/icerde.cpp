@@ -96,6 +96,20 @@ bool Gecersiz(const Isaret& i) {
   return i.makine == BuMakine() && SurecBasi(i.surec) != i.surecBasi;
 }
 
+// What is no mark of ours is passed over, and a void one swept.
+void Al(const AdliDosya& dosya, const VeriYolu& sirket, std::vector<Icerdeki>& icerdekiler) {
+  const auto isaret = Coz(dosya.baytlar);
+  if (!isaret) return;
+  if (Gecersiz(*isaret))
+    (void)sirket.IsaretKaldir(dosya.ad);
+  else
+    icerdekiler.push_back(isaret->kim);
+}
+
+std::string Kim(const Icerdeki& i) {
+  return i.kullanici + " (" + i.bilgisayar + ", " + AnMetni(i.giris) + ")";
+}
+
 }  // namespace
 
 IcerdeIsareti::IcerdeIsareti(VeriYolu sirket, Icerdeki kim, std::string ad)
@@ -118,22 +132,29 @@ Durum IcerdeIsareti::Yenile() const {
 
 std::vector<Icerdeki> Icerdekiler(const VeriYolu& sirket, const IcerdeIsareti* kendim) {
   std::vector<Icerdeki> icerdekiler;
-  for (const AdliDosya& dosya : sirket.Isaretler()) {
-    const auto isaret = Coz(dosya.baytlar);
-    if (!isaret || (kendim != nullptr && dosya.ad == kendim->Ad())) continue;
-    if (Gecersiz(*isaret))
-      (void)sirket.IsaretKaldir(dosya.ad);
-    else
-      icerdekiler.push_back(isaret->kim);
-  }
+  for (const AdliDosya& isaret : sirket.Isaretler())
+    if (kendim == nullptr || isaret.ad != kendim->Ad()) Al(isaret, sirket, icerdekiler);
   std::ranges::sort(icerdekiler, {}, &Icerdeki::giris);
   return icerdekiler;
 }
 
+std::map<std::string, std::vector<Icerdeki>> AltIcerdekiler(const VeriYolu& veri) {
+  std::map<std::string, std::vector<Icerdeki>> yerler;
+  for (const AltIsareti& alt : veri.AltIsaretleri()) Al(alt.isaret, veri.Alt(alt.alt), yerler[alt.alt]);
+  std::erase_if(yerler, [](const auto& yer) { return yer.second.empty(); });
+  for (auto& [ad, icerdekiler] : yerler) std::ranges::sort(icerdekiler, {}, &Icerdeki::giris);
+  return yerler;
+}
+
+std::string IcerdekiMetni(const std::vector<Icerdeki>& icerdekiler) {
+  std::string metin;
+  for (const Icerdeki& i : icerdekiler) metin += (metin.empty() ? "" : "; ") + Kim(i);
+  return metin;
+}
+
 std::string IcerdekiSatirlari(const std::vector<Icerdeki>& icerdekiler) {
   std::string metin;
-  for (const Icerdeki& i : icerdekiler)
-    metin += "\n" + i.kullanici + " (" + i.bilgisayar + ", " + AnMetni(i.giris) + ")";
+  for (const Icerdeki& i : icerdekiler) metin += "\n" + Kim(i);
   return metin;
 }
 

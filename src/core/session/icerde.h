@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,6 +19,8 @@ namespace belvani {
 struct Icerdeki {
   std::string kullanici, bilgisayar;
   std::int64_t giris = 0;  // seconds since 1970
+
+  bool operator==(const Icerdeki&) const = default;
 };
 
 // This program's own mark; taken away with the object.
@@ -46,6 +49,11 @@ inline constexpr int IcerdeYenilemeSaniyesi = 60;
 // Everybody but the one whose mark `kendim` is.
 std::vector<Icerdeki> Icerdekiler(const VeriYolu& sirket, const IcerdeIsareti* kendim = nullptr);
 
+// Everybody in the places below, by the places' names; those where nobody is are not there.
+std::map<std::string, std::vector<Icerdeki>> AltIcerdekiler(const VeriYolu& veri);
+
+// In one line: "Ayşe (MASA3, 22.11.2026 09:15); Can (MASA4, 22.11.2026 09:40)".
+std::string IcerdekiMetni(const std::vector<Icerdeki>& icerdekiler);
 // A line each, the first one begun too: "\nAyşe (MASA3, 22.11.2026 09:15)".
 std::string IcerdekiSatirlari(const std::vector<Icerdeki>& icerdekiler);
 

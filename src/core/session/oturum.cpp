@@ -5,8 +5,8 @@
 
 #include "core/ayarlar.h"
 #include "core/dosya.h"
-#include "core/gecici.h"
 #include "core/sayi.h"
+#include "core/session/datayolu.h"
 #include "core/session/firmabilgi.h"
 #include "core/session/kullanicilar.h"
 #include "core/session/renkler.h"
@@ -14,9 +14,9 @@
 #include "core/store/depokopyasi.h"
 #include "core/store/koru.h"
 #include "core/store/tablo.h"
+#include "core/sunucuadresi.h"
 #include "core/tables/peruser.h"
 #include "core/turkce.h"
-#include "core/yarimdizin.h"
 
 namespace belvani {
 namespace {
@@ -34,6 +34,30 @@ bool DataDiziniYarat(const std::string& dataPath, Bildirim& bildirim) {
   }
   bildirim.Bilgi("Yeni Data Dizini Yaratıldı\n" + dataPath);
   return true;
+}
+
+// The first run of an installation of its own: both paths are recorded.
+bool IlkKurulum(Oturum& o, Bildirim& bildirim) {
+  o.DataPath = IlkDataPath(o.PrgPath);
+  if (!DataDiziniYarat(o.DataPath, bildirim)) return false;
+  for (const auto& [anahtar, deger] : {std::pair("PrgPath", o.PrgPath), std::pair("DataPath", o.DataPath)})
+    if (const auto d = MakineAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.KusurMetni());
+  return true;
+}
+
+// A server that is away may come back while its user looks at the message.
+bool KurulanaGec(Oturum& o, const std::string& istenen, Bildirim& bildirim) {
+  const auto yol = DataYolu(istenen);
+  if (!yol) {
+    bildirim.Uyari(yol.KusurMetni());
+    return false;
+  }
+  o.DataPath = *yol;
+  while (true) {
+    const Durum erisim = VeriYolu(o.DataPath).Erisim();
+    if (erisim) return true;
+    if (!bildirim.TamamMi(erisim.KusurMetni() + "\nYeniden Denensin mi ?")) return false;
+  }
 }
 
 // A copy may grow as the store of an earlier version that it is of. Once open it needs no names: what a killed program
@@ -63,15 +87,13 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
   o.KurusBirimi = "KR";
   o.ResimYolu = "image/soft/";
   o.PrgPath = MakineAyari("PrgPath");
-  o.DataPath = DizinSonu(komutSatiri.empty() ? MakineAyari("DataPath") : komutSatiri);
-  if (o.PrgPath.empty()) {
-    o.PrgPath = DizinSonu(programDizini);
-    o.DataPath = IlkDataPath(o.PrgPath);
-    if (!DataDiziniYarat(o.DataPath, bildirim)) return false;
-    for (const auto& [anahtar, deger] : {std::pair("PrgPath", o.PrgPath), std::pair("DataPath", o.DataPath)})
-      if (const auto d = MakineAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.KusurMetni());
-  }
-  YarimDegisimleriBitir(o.DataPath);
+  const std::string istenen = komutSatiri.empty() ? MakineAyari("DataPath") : komutSatiri;
+  const bool ilkCalisma = o.PrgPath.empty();
+  if (ilkCalisma) o.PrgPath = DizinSonu(programDizini);
+  // The address of a server is that of a whole installation: nothing is made or recorded for it.
+  const bool kurulur = ilkCalisma && !SunucuAdresiMi(istenen);
+  if (!(kurulur ? IlkKurulum(o, bildirim) : KurulanaGec(o, istenen, bildirim))) return false;
+  VeriYolu(o.DataPath).Toparla();
   o.Kullanici = "BELVANI";
   o.ListeSirasi = Oturum().ListeSirasi;
   o.ResimKullan = true;
@@ -90,7 +112,7 @@ Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim, SirketEri
   }
   o.FirmaKod = *ad;
   o.FirmaDizini = yer.Adres();
-  for (const std::string& dizin : {o.DataPath, o.FirmaDizini}) GecicileriSupur(dizin);
+  yer.Toparla();
   o.SonKisi.clear();
   return Tamam();
 }

@@ -28,18 +28,18 @@ struct Oturum {
   std::string ResimYolu = "image/soft/";    // of the skin, below PrgPath
   bool ResimKullan = true;
   bool YazilanSorulsun = true;  // before a screen loses what was typed into it
-  std::string DataPath;         // root of the company directories; ends in a separator
-  std::string FirmaKod;         // name of the company's directory, as it is spelled
-  std::string PrgPath;          // installed files; ends in a separator
-  int ListeSirasi = 5;          // last search column of the lookup window; code and names at once to begin with
-  std::string SonKisi;          // code of the person shown last; screens of one person begin with him
+  std::string DataPath;  // address of the place of the companies: a path with a separator at its end, or a server
+  std::string FirmaKod;  // name of the company's directory, as it is spelled
+  std::string PrgPath;   // installed files; ends in a separator
+  int ListeSirasi = 5;   // last search column of the lookup window; code and names at once to begin with
+  std::string SonKisi;   // code of the person shown last; screens of one person begin with him
   Tek Versiyon = ProgramVersiyonu();
   std::string Kullanici = "BELVANI";
   std::string BilgisayarAdi;
   std::string ParaBirimi = "TL";
   std::string KurusBirimi = "KR";
 
-  std::string FirmaDizini;  // directory of the open company; ends in a separator
+  std::string FirmaDizini;  // address of the open company's place; files in it by VeriYolu alone
   Depo depo;
   // The open store is a private copy: nothing is saved, and every save is refused by the engine.
   bool SaltOkunur = false;
@@ -54,7 +54,9 @@ struct Oturum {
 
 // Start, up to the login: version and computer name, `PrgPath` and `DataPath` from the machine's settings, a command
 // line in place of `DataPath`. The first run (no `PrgPath` recorded) makes the data directory and records both paths; a
-// command line is then dropped. False: the data directory cannot be made, and the program must end.
+// command line is then dropped. The address of a server is kept instead, given or recorded, and nothing is made or
+// recorded for it. False: the data directory cannot be made, the address is refused, or its server is away and its user
+// waits no longer; the program must end.
 bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komutSatiri, Bildirim& bildirim);
 
 enum class SirketErisimi {

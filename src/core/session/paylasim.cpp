@@ -16,19 +16,28 @@ constexpr const char* Anahtar = "Yer";
 constexpr const char* Paylasilan = "paylasilan";
 constexpr const char* BuBilgisayar = "bubilgisayar";
 
+// A server's stores are open to all computers in one way.
+Durum DuzenVar(const VeriYolu& veri) {
+  if (!veri.Sunucuda()) return Tamam();
+  return Kusur{"Sunucudaki şirketler bütün bilgisayarlara açıktır, paylaşılması gerekmez:\n" + veri.Adres()};
+}
+
 }  // namespace
 
 DepoYeri YeniDepoYeri(const VeriYolu& veri) {
+  if (veri.Sunucuda()) return DepoYeri::Paylasilan;
   if (PaylasilanDiskte(veri.Adres())) return DepoYeri::Paylasilan;
   const std::string ayar = IniOku(Bolum, Anahtar, BuBilgisayar, {veri, AyarDosyasi});
   return ayar == Paylasilan ? DepoYeri::Paylasilan : DepoYeri::BuBilgisayar;
 }
 
 Durum YeniDepoYeriYaz(const VeriYolu& veri, DepoYeri yer) {
+  if (Durum var = DuzenVar(veri); !var) return var;
   return IniYaz(Bolum, Anahtar, yer == DepoYeri::Paylasilan ? Paylasilan : BuBilgisayar, {veri, AyarDosyasi});
 }
 
 Durum DepoYeriDegistir(const VeriYolu& veri, std::string_view ad, DepoYeri yer) {
+  if (Durum var = DuzenVar(veri); !var) return var;
   const VeriYolu sirket = veri.Alt(ad);
   const std::string yol = DepoAdresi(sirket);
   if (yer == DepoYeri::BuBilgisayar && PaylasilanDiskte(sirket.Adres()))

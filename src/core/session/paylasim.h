@@ -1,5 +1,6 @@
 // For whom the stores of a data path are laid out: "bu bilgisayar" (its programs alone work on them) or "paylaşılan"
-// (other computers too). Each store remembers it itself; the data path remembers it for the companies to come.
+// (other computers too). Each store remembers it itself; the data path remembers it for the companies to come. A server
+// knows no such thing: all its companies are open to all computers, and a change is refused.
 #pragma once
 
 #include <string_view>

@@ -60,6 +60,7 @@ Sonuc<std::string> SirketBul(const VeriYolu& veri, std::string_view metin) {
   auto uyanlar = UyanSirketler(veri, metin);
   if (uyanlar.size() == 1) return std::move(uyanlar.front());
   if (uyanlar.empty()) {
+    if (Durum erisim = veri.Erisim(); !erisim) return erisim.Kusuru();  // nobody can tell what is there
     const auto aranan = SirketAdi(metin);
     return aranan ? Kusur{"Şirket Bulunamadı: " + *aranan} : aranan.Kusuru();
   }
@@ -85,6 +86,10 @@ std::vector<std::string> Sirketler(const VeriYolu& veri) {
 
 std::string DepoAdresi(const VeriYolu& sirket) {
   return sirket.Adres(DepoDosyasi);
+}
+
+bool DepoVar(const VeriYolu& sirket) {
+  return sirket.Sunucuda() || sirket.Iz(DepoDosyasi).has_value();
 }
 
 }  // namespace belvani

@@ -1,4 +1,5 @@
-// Companies on the disk: each is a directory below the data path, named after the company, with its store `tolu.dat`.
+// Companies: each is a place below the data path (a directory, or one on a server), named after the company, with its
+// store `tolu.dat`.
 #pragma once
 
 #include <string>
@@ -31,5 +32,7 @@ std::vector<std::string> Sirketler(const VeriYolu& veri);
 
 // The address of a company's store.
 std::string DepoAdresi(const VeriYolu& sirket);
+// False for a directory that holds none. A place on a server is never without.
+bool DepoVar(const VeriYolu& sirket);
 
 }  // namespace belvani

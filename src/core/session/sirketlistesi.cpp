@@ -5,22 +5,17 @@
 
 #include "core/asama.h"
 #include "core/session/sirket.h"
+#include "core/session/sirketkartlari.h"
 #include "core/session/sirketyedegi.h"
 #include "core/session/tekbasina.h"
-#include "core/store/depokopyasi.h"
-#include "core/store/koru.h"
-#include "core/store/tablo.h"
-#include "core/yarimdizin.h"
 
 namespace belvani {
 namespace {
 
-SirketSatiri SatirOku(const VeriYolu& veri, const std::string& ad) {
-  const auto kart = Koru([&] { return Tablo<Firma>(*MotorBak(DepoAdresi(veri.Alt(ad)))).Bul(); });
-  if (!kart || !*kart) return {ad, "Database'e Ulaşılamadı", ""};
-  const Firma& firma = **kart;
-  const std::string ay = std::to_string(firma.firmaay);
-  return {ad, firma.unvan, (ay.size() < 2 ? "0" + ay : ay) + "-" + std::to_string(firma.firmayil)};
+SirketSatiri SatirYap(const std::string& ad, const std::optional<Firma>& kart) {
+  if (!kart) return {ad, "Database'e Ulaşılamadı", ""};
+  const std::string ay = std::to_string(kart->firmaay);
+  return {ad, kart->unvan, (ay.size() < 2 ? "0" + ay : ay) + "-" + std::to_string(kart->firmayil)};
 }
 
 constexpr const char* Silinmedi = "hiçbir dosya silinmedi";
@@ -28,36 +23,37 @@ constexpr const char* Silinmedi = "hiçbir dosya silinmedi";
 // Nobody else may have the store open while it is backed up and goes out of sight; then it is closed, for a network
 // file system keeps the name of an open file.
 Sonuc<std::string> Ayir(const VeriYolu& veri, const std::string& ad, Ilerleme* ilerleme) {
-  if (YarimDizinAdi(ad)) return ad;
+  if (ad.starts_with('.')) return ad;  // a half one
   const auto depo = TekBasinaAc(veri.Alt(ad), Silinmedi);
   if (!depo) return depo.Kusuru();
   const auto yedek = YedekAl(veri, ad, {.tur = YedekTuru::Silme, .depo = depo->get()}, ilerleme);
   if (!yedek) return Kusur{std::string("Silmeden önce yedek alınamadı, ") + Silinmedi + ":\n" + yedek.KusurMetni()};
   if (ilerleme != nullptr && !ilerleme->Kesin()) throw Vazgecilmis{};
-  return YarimDizineCevir(veri.Adres(), ad);
+  return veri.YarimaCevir(ad);
 }
 
 Durum Kaldir(const VeriYolu& veri, const std::string& ad, Ilerleme* ilerleme) {
   const auto ayrilan = Ayir(veri, ad, ilerleme);
   if (!ayrilan) return ayrilan.Kusuru();
-  return YarimDiziniSil(veri.Adres(), *ayrilan);
+  return veri.YarimSil(*ayrilan);
 }
 
 }  // namespace
 
 std::vector<SirketSatiri> SirketListesi(const VeriYolu& veri, Ilerleme* ilerleme) {
-  std::vector<SirketSatiri> satirlar;
   const auto adlar = Sirketler(veri);
-  Asama asama(ilerleme, adlar.size());
-  for (const auto& ad : adlar) {
-    asama.Adim();
-    satirlar.push_back(SatirOku(veri, ad));
+  const auto kartlar = SirketKartlari(veri, adlar, ilerleme);
+  auto icerde = AltIcerdekiler(veri);
+  std::vector<SirketSatiri> satirlar;
+  for (std::size_t i = 0; i < adlar.size(); ++i) {
+    satirlar.push_back(SatirYap(adlar[i], kartlar[i]));
+    if (const auto olan = icerde.find(adlar[i]); olan != icerde.end()) satirlar.back().icerde = std::move(olan->second);
   }
   return satirlar;
 }
 
 std::vector<std::string> YarimSirketler(const VeriYolu& veri) {
-  return YarimDizinler(veri.Adres());
+  return veri.YarimAltlar();
 }
 
 std::vector<std::string> SilinebilirSirketler(const VeriYolu& veri, const Oturum& o) {

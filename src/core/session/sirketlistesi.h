@@ -15,9 +15,10 @@
 namespace belvani {
 
 struct SirketSatiri {
-  std::string ad;     // of the directory, the company's code
-  std::string unvan;  // title, or "Database'e Ulaşılamadı"
-  std::string donem;  // working month, "07-2009"; empty when the store could not be read
+  std::string ad;                     // of the directory, the company's code
+  std::string unvan;                  // title, or "Database'e Ulaşılamadı"
+  std::string donem;                  // working month, "07-2009"; empty when the store could not be read
+  std::vector<Icerdeki> icerde = {};  // who is in, this program too
 
   bool operator==(const SirketSatiri&) const = default;
 };
@@ -25,7 +26,8 @@ struct SirketSatiri {
 // Every company below the data path, in Turkish order of the names. Throws Vazgecilmis when `ilerleme` stops it.
 std::vector<SirketSatiri> SirketListesi(const VeriYolu& veri, Ilerleme* ilerleme = nullptr);
 
-// Names of directories in which a company was being made when its program ended, and which nobody is at.
+// Names of places in which a company was being made when its program ended, and which nobody is at. They begin with a
+// point.
 std::vector<std::string> YarimSirketler(const VeriYolu& veri);
 
 // Names of the directories that may be deleted: all real ones (no links) but that of the session's company, then the

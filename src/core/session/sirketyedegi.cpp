@@ -131,16 +131,14 @@ class Yedekleme {
   }
 
   Durum Kopyala(const std::string& ad, const std::string& dizin) {
-    std::error_code hata;
-    fs::copy_file(sirket_.Adres(ad), dizin + ad, hata);
+    const Durum alindi = sirket_.DosyayaAl(ad, dizin + ad);
     // Gone since it was listed: a file that is replaced has a second name for a moment.
-    if (!hata || hata == std::errc::no_such_file_or_directory) return Tamam();
-    return Kusur{sirket_.Adres(ad) + ": yedeğe alınamadı" +
-                 (hata == std::errc::no_space_on_device ? " (disk dolu)" : "")};
+    if (alindi || (sirket_.Erisim() && !sirket_.Iz(ad))) return Tamam();
+    return Kusur{"Yedeğe alınamadı: " + alindi.KusurMetni()};
   }
 
   Durum DepoyuTopla(const std::string& dizin) {
-    if (!sirket_.Iz(DepoDosyasi)) return Uyar("Şirketin veritabanı yok, yalnızca öteki dosyaları yedeklendi"), Tamam();
+    if (!DepoVar(sirket_)) return Uyar("Şirketin veritabanı yok, yalnızca öteki dosyaları yedeklendi"), Tamam();
     try {
       std::unique_ptr<Motor> kendi;
       if (istek_.depo == nullptr) kendi = MotorBak(DepoAdresi(sirket_));
@@ -154,7 +152,8 @@ class Yedekleme {
       });
       return Tamam();
     } catch (const MotorHatasi& h) {
-      if (h.tur != MotorKusuru::Bozuk) return Kusur{std::string("Veritabanı yedeklenemedi: ") + h.what()};
+      if (h.tur != MotorKusuru::Bozuk || sirket_.Sunucuda())
+        return Kusur{std::string("Veritabanı yedeklenemedi: ") + h.what()};
       return DosyaOlarakTopla(dizin);
     }
   }
@@ -220,6 +219,7 @@ Sonuc<AlinanYedek> YedekAl(const VeriYolu& veri, const std::string& ad, const Ye
 }
 
 Sonuc<std::optional<AlinanYedek>> GunlukYedekAl(const VeriYolu& veri, const std::string& ad, Ilerleme* ilerleme) {
+  if (veri.Sunucuda()) return std::optional<AlinanYedek>();
   if (SonYedekGibi(veri, ad)) return std::optional<AlinanYedek>();
   auto alinan = YedekAl(veri, ad, {.tur = YedekTuru::Gunluk}, ilerleme);
   if (!alinan) return alinan.Kusuru();

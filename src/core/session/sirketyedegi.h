@@ -3,6 +3,9 @@
 //
 //   .yedek/DENEME/2026-11-22-061011-gunluk.zip    below the data path, or a file that the user has chosen
 //
+// Of a company on a server they lie on the computer that made them (VeriYolu::Yedekler), and there are no daily ones:
+// those of ten clerks would be ten copies of one day, and the server's administrator has better means.
+//
 // The program makes one at leaving when something has changed, and before it upgrades, deletes or replaces a company;
 // of those it keeps what SuresiDolanlar leaves.
 #pragma once
@@ -35,7 +38,8 @@ struct AlinanYedek {
 Sonuc<AlinanYedek> YedekAl(const VeriYolu& veri, const std::string& ad, const YedekIstegi& istek = {},
                            Ilerleme* ilerleme = nullptr);
 
-// The day's backup, in the place of an earlier one of that day; nothing when the company is as the last backup has it.
+// The day's backup, in the place of an earlier one of that day; nothing when the company is as the last backup has it,
+// and on a server.
 Sonuc<std::optional<AlinanYedek>> GunlukYedekAl(const VeriYolu& veri, const std::string& ad,
                                                 Ilerleme* ilerleme = nullptr);
 

@@ -16,6 +16,8 @@ Sonuc<std::unique_ptr<Motor>> TekBasinaAc(const VeriYolu& sirket, std::string_vi
     return MotorAc(yol, AcilisKipi::Tek);
   } catch (const MotorHatasi& h) {
     if (h.tur == MotorKusuru::Kilitli) return kullaniliyor({});
+    // Of a server it only means that nobody can tell who has it open.
+    if (sirket.Sunucuda()) return Kusur{std::string(h.what()) + ", " + std::string(yapilmayan) + ":\n" + yol};
     return std::unique_ptr<Motor>();
   }
 }

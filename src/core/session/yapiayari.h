@@ -1,5 +1,5 @@
-// The paths of the installation: where the program's files lie, and where the companies are. They are settings of the
-// machine; a running session keeps its old ones.
+// The paths of the installation: where the program's files lie, and where the companies are, which may be the address
+// of a server. They are settings of the machine; a running session keeps its old ones.
 #pragma once
 
 #include <string>
@@ -22,7 +22,8 @@ inline constexpr Kolon<YapiAyari, std::string> data{{"DataPath", AlanTipi::Metin
 // clang-format on
 }  // namespace yapiayari
 
-// Records both paths, each with a separator at its end, for the program's next start. An empty one is a fault.
+// Records both paths, each with a separator at its end, for the program's next start. An empty one is a fault; so is an
+// address that is broken or has a password in it.
 Durum YapiAyariKaydet(const YapiAyari& ayar);
 
 }  // namespace belvani

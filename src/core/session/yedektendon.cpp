@@ -3,7 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "core/dosya.h"
+#include "core/session/depoyukle.h"
 #include "core/session/paylasim.h"
 #include "core/session/sirket.h"
 #include "core/session/sirketyedegi.h"
@@ -60,6 +60,25 @@ Durum DepoyuHazirla(const std::string& dizin, DepoYeri yer) {
       "Yedekteki veritabanı açılamadı: ");
 }
 
+// On a server the files go in one by one, out of a directory of this computer that goes afterwards.
+Durum SunucuyaCikar(const YedekArsivi& arsiv, const VeriYolu& yeni, Ilerleme* ilerleme) {
+  auto is = YarimDizin::Ac(yeni.YerelDizin(), "yedekten", YarimTuru::Donen);
+  if (!is) return is.Kusuru();
+  if (Durum cikti = arsiv.Cikar(is->Yol(), ilerleme); !cikti) return cikti;
+  if (Durum hazir = DepoyuHazirla(is->Yol(), DepoYeri::Paylasilan); !hazir) return hazir;
+  for (const YedekDosyasi& dosya : arsiv.Kunye().dosyalar) {
+    if (dosya.ad.starts_with(DepoDosyasi)) continue;
+    if (Durum kondu = yeni.DosyadanKoy(dosya.ad, is->Yol() + dosya.ad); !kondu) return kondu;
+  }
+  return DepoYukle(is->Yol() + DepoDosyasi, yeni, ilerleme);
+}
+
+Durum Cikar(const YedekArsivi& arsiv, const VeriYolu& yeni, DepoYeri depoYeri, Ilerleme* ilerleme) {
+  if (yeni.Sunucuda()) return SunucuyaCikar(arsiv, yeni, ilerleme);
+  if (Durum cikti = arsiv.Cikar(yeni.Adres(), ilerleme); !cikti) return cikti;
+  return DepoyuHazirla(yeni.Adres(), depoYeri);
+}
+
 // A program that has opened the replaced store but not yet read from it must not go on in a file that is nobody's: it
 // finds that this is no store.
 void DepoyuGecersizKil(const std::string& yol) {
@@ -78,11 +97,10 @@ Sonuc<Donus> Don(const VeriYolu& veri, const YedekArsivi& arsiv, const DonusYeri
     if (!motor) return motor.Kusuru();
     simdiki = std::move(*motor);
   }
-  auto yarim = YarimDizin::Ac(veri.Adres(), yer.ad, YarimTuru::Donen);
+  const auto yarim = veri.YarimAlt(yer.ad, YarimTuru::Donen);
   if (!yarim) return yarim.Kusuru();
-  if (Durum cikti = arsiv.Cikar(yarim->Yol(), ilerleme); !cikti) return cikti.Kusuru();
   const DepoYeri depoYeri = simdiki ? simdiki->Yeri() : YeniDepoYeri(veri);
-  if (Durum hazir = DepoyuHazirla(yarim->Yol(), depoYeri); !hazir) return hazir.Kusuru();
+  if (Durum cikti = Cikar(arsiv, (*yarim)->Adres(), depoYeri, ilerleme); !cikti) return cikti.Kusuru();
   if (yer.dolu) {
     auto onceki = YedekAl(veri, yer.ad, {.tur = YedekTuru::Donus, .depo = simdiki.get()}, ilerleme);
     if (!onceki) return Kusur{"Şimdiki hali yedeklenemedi, yedek geri yüklenmedi:\n" + onceki.KusurMetni()};
@@ -90,8 +108,8 @@ Sonuc<Donus> Don(const VeriYolu& veri, const YedekArsivi& arsiv, const DonusYeri
     donus.uyarilar = std::move(onceki->uyarilar);
   }
   if (ilerleme != nullptr && !ilerleme->Kesin()) throw Vazgecilmis{};
-  if (Durum kondu = yer.dolu ? yarim->YerineGec() : yarim->Adlandir(); !kondu) return kondu.Kusuru();
-  if (simdiki) DepoyuGecersizKil(yarim->Yol() + DepoDosyasi);
+  if (Durum kondu = yer.dolu ? (*yarim)->YerineGec() : (*yarim)->Adlandir(); !kondu) return kondu.Kusuru();
+  if (simdiki && !veri.Sunucuda()) DepoyuGecersizKil(DepoAdresi((*yarim)->Adres()));
   return donus;
 }
 
@@ -101,7 +119,7 @@ Sonuc<std::optional<Donus>> YedektenDon(const VeriYolu& veri, const DonusIstegi&
                                         const Yurutucu& yurut) {
   const auto arsiv = YedekArsivi::Ac(istek.dosya);
   if (!arsiv) return arsiv.Kusuru();
-  YarimDegisimleriBitir(veri.Adres());
+  veri.Toparla();
   const auto yer = YeriBul(veri, istek, arsiv->Kunye());
   if (!yer) return yer.Kusuru();
   if (yer->dolu && !Sor(veri, *yer, arsiv->Kunye(), bildirim)) return std::optional<Donus>();

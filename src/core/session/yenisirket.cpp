@@ -1,6 +1,5 @@
 #include "core/session/yenisirket.h"
 
-#include "core/dosya.h"
 #include "core/session/firmabilgi.h"
 #include "core/session/kullanicilar.h"
 #include "core/session/paylasim.h"
@@ -10,7 +9,6 @@
 #include "core/store/yantablolar.h"
 #include "core/tables/peruser.h"
 #include "core/turkce.h"
-#include "core/yarimdizin.h"
 
 namespace belvani {
 namespace {
@@ -51,11 +49,11 @@ Durum Doldur(Oturum& o, const std::string& yol, DepoYeri yer, const YeniSirket& 
   return tekDosya ? Tamam() : Durum(kusur("Database Kapatılamadı"));
 }
 
-Durum AdinaKoy(YarimDizin& yarim, const VeriYolu& yer, const std::string& ad) {
+Durum AdinaKoy(YarimYer& yarim, const VeriYolu& veri, const std::string& ad) {
   const Durum konuldu = yarim.Adlandir();
   if (konuldu) return Tamam();
-  if (DizinVar(yer.Adres())) return Kusur{"Bu adda bir şirket var: " + ad};
-  return Kusur{"Şirket Dizini Yaratılamıyor: " + yer.Adres() + "\n" + konuldu.KusurMetni()};
+  if (veri.AltVar(ad)) return Kusur{"Bu adda bir şirket var: " + ad};
+  return Kusur{"Şirket Dizini Yaratılamıyor: " + veri.Alt(ad).Adres() + "\n" + konuldu.KusurMetni()};
 }
 
 }  // namespace
@@ -66,14 +64,14 @@ Durum SirketKur(Oturum& o, const YeniSirket& yeni, Bildirim& bildirim) {
   if (!UyanSirketler(o.DataPath, *ad).empty()) return Kusur{"Bu adda bir şirket var: " + *ad};
   if (auto kusur = KullaniciKusuru(yeni.kullanici, yeni.sifre)) return *std::move(kusur);
 
-  const VeriYolu yer = VeriYolu(o.DataPath).Alt(*ad);
-  auto yarim = YarimDizin::Ac(o.DataPath, *ad);
+  const VeriYolu veri = o.DataPath, yer = veri.Alt(*ad);
+  const auto yarim = veri.YarimAlt(*ad);
   if (!yarim) return Kusur{"Şirket Dizini Yaratılamıyor: " + yer.Adres() + "\n" + yarim.KusurMetni()};
   const Firma oncekiKart = o.firma;
   const bool kartVardi = o.firmaVar;
-  Durum kuruldu = Doldur(o, DepoAdresi(yarim->Yol()), YeniDepoYeri(o.DataPath), yeni, bildirim);
+  Durum kuruldu = Doldur(o, DepoAdresi((*yarim)->Adres()), YeniDepoYeri(veri), yeni, bildirim);
   SirketKapat(o);
-  if (kuruldu) kuruldu = AdinaKoy(*yarim, yer, *ad);
+  if (kuruldu) kuruldu = AdinaKoy(**yarim, veri, *ad);
   if (!kuruldu) {
     o.firma = oncekiKart;
     o.firmaVar = kartVardi;

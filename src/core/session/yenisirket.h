@@ -1,6 +1,6 @@
-// A new company, whole or not at all: store, first user and card are made in a directory whose name begins with a
-// point, closed without a journal beside the store, and get the company's name in one step. A fault, a kill or a power
-// cut before that leaves no company; what a killed program has left is named by YarimSirketler (sirketlistesi.h).
+// A new company, whole or not at all: store, first user and card are made in a half place, closed without a journal
+// beside the store, and get the company's name in one step. A fault, a kill or a power cut before that leaves no
+// company; what a killed program has left is named by YarimSirketler (sirketlistesi.h).
 #pragma once
 
 #include <functional>

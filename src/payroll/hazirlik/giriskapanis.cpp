@@ -1,5 +1,6 @@
 // What ends the entry of a person or of the month: checking and saving, the walk to the next person, deleting, the mass
 // run.
+#include "core/session/kilitnotu.h"
 #include "core/store/koru.h"
 #include "core/store/tablo.h"
 #include "core/turkce.h"
@@ -89,9 +90,16 @@ std::optional<KapanisSonucu> BordroGirisi::Kaydet() {
   Brd brd = sonuc_.brd;
   brd.eksiksebebi = g_.giris.eksiksebebi;
   brd.ucretsizizin = g_.giris.ucretsizizin;
-  const Yazim<Brd> yazilamadi{YazmaEngeli<Brd>(Kusur{"Bordro Kayıtları Güncellenemiyor"})};
-  const auto yazilan = o_.depo.db.Koru(
-      yazilamadi, [&] { return BordroKaydet(o_.depo.db.IcMotor(), {.ilk = kisi_.kayit, .simdi = brd}); });
+  const std::string yazilamadi = "Bordro Kayıtları Güncellenemiyor";
+  const auto yaz = [&]() -> Yazim<Brd> {
+    try {
+      return BordroKaydet(o_.depo.db.IcMotor(), {.ilk = kisi_.kayit, .simdi = brd});
+    } catch (const MotorHatasi& hata) {
+      if (hata.tur != MotorKusuru::Kilitli) throw;
+      return YazmaEngeli<Brd>(Kusur{yazilamadi + ": " + KilitliMetin(o_, hata)});
+    }
+  };
+  const auto yazilan = o_.depo.db.Koru(Yazim<Brd>(YazmaEngeli<Brd>(Kusur{yazilamadi})), yaz);
   if (yazilan) return std::nullopt;
   if (!yazilan.Kusuru().cakisma) {
     bildirim_.KusuruGoster(yazilan.Kusuru());

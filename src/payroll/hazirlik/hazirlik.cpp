@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/session/kilitnotu.h"
 #include "core/session/yukseltmeadimlari.h"
 #include "core/store/koru.h"
 #include "core/store/tablo.h"
@@ -231,7 +232,7 @@ Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const st
     islem.Onayla();
     return sonuc;
   };
-  return Koru(hazirla, "Bordro Kayıtları Güncellenemiyor: ");
+  return Koru([&] { return KilitliyseSoyle(o, hazirla); }, "Bordro Kayıtları Güncellenemiyor: ");
 }
 
 Yazim<Brd> BordroKaydet(Motor& motor, const Okunan<Brd>& kayit) {
@@ -266,7 +267,7 @@ Sonuc<int> BordroSil(Oturum& o, int yil, int ay) {
     islem.Onayla();
     return silinen;
   };
-  return Koru(sil, "Bordro silinemedi: ");
+  return Koru([&] { return KilitliyseSoyle(o, sil); }, "Bordro silinemedi: ");
 }
 
 bool BordroTamamMi(int, int, int) {

@@ -27,6 +27,9 @@ std::optional<std::vector<SirketSatiri>> ListeyiOku(EkranBaglami& baglam) {
   auto liste = UzunIs(baglam, QStringLiteral("Firmalar okunuyor…"),
                       [&](Ilerleme& ilerleme) { return SirketListesi(baglam.oturum.DataPath, &ilerleme); });
   if (!liste) baglam.bildirim.Bilgi("Firma listesinin okunması yarıda kesildi.");
+  if (!liste || !liste->empty()) return liste;
+  if (const Durum erisim = VeriYolu(baglam.oturum.DataPath).Erisim(); !erisim)
+    baglam.bildirim.KusuruGoster(erisim.Kusuru());
   return liste;
 }
 
@@ -54,9 +57,10 @@ firlist::firlist(EkranBaglami& baglam)
   liste_->CreateNewCaption('m', "kod", "Firma", 160);
   liste_->CreateNewCaption('m', "unvan", "Ünvan", 240);
   liste_->CreateNewCaption('m', "donem", "Dönem", 80);
+  liste_->CreateNewCaption('m', "icerde", "İçeride", 220);
   liste_->setObjectName("dclist1");
   liste_->GenisKolon("unvan");
-  liste_->TercihBoyu(secici_ ? 520 : 680, 360);
+  liste_->TercihBoyu(secici_ ? 740 : 900, 360);
   Govde()->addWidget(aranan_);
   Govde()->addWidget(liste_, 1);
   Izle(aranan_);
@@ -89,7 +93,9 @@ void firlist::ListeyiDoldur() {
   const std::string simdiki = Oturumu().SeciliKod;
   const auto sirketler = ListeyiOku(Baglam());
   if (!sirketler) return;
-  ListeDoldur(*liste_, *sirketler, [](const SirketSatiri& s) { return std::array{s.ad, s.unvan, s.donem}; });
+  ListeDoldur(*liste_, *sirketler, [](const SirketSatiri& s) {
+    return std::array{s.ad, s.unvan, s.donem, IcerdekiMetni(s.icerde)};
+  });
   const auto yer = std::ranges::find(*sirketler, simdiki, &SirketSatiri::ad);  // case told apart: another is another
   if (yer != sirketler->end()) liste_->ChngSat(int(yer - sirketler->begin()));
 }

@@ -237,6 +237,7 @@ bool startfrm::SirketiAc() {
     return SirketSectir(uyanlar.front()) && Acildi(SirketAc(o, Sirket(), baglam_.bildirim));
   }
   if (!uyanlar.empty()) return Acildi(SirketAc(o, uyanlar.front(), baglam_.bildirim));
+  if (const Durum erisim = VeriYolu(o.DataPath).Erisim(); !erisim) return Acildi(erisim);
   if (const auto ad = SirketAdi(Sirket()); !ad) {
     baglam_.bildirim.Bilgi(ad.KusurMetni());
     return false;

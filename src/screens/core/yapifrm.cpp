@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 
+#include "core/session/datayolu.h"
 #include "core/session/yapiayari.h"
 #include "ui/metin.h"
 #include "ui/xtext.h"
@@ -30,7 +31,10 @@ yapifrm::yapifrm(EkranBaglami& baglam) : Form(baglam, "yapifrm", QStringLiteral(
   };
   Komutlar({{.tus = Qt::Key_F2, .ipucu = "Dizin Seç", .islev = dizinSec},
             {.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
-  Yukle(YapiAyari{Oturumu().PrgPath, Oturumu().DataPath});
+  YaziKutusu(yapiayari::data)
+      .setToolTip(QStringLiteral("Bir dizin ya da sunucu adresi: postgresql://sunucu/belvani (şifre adreste bulunmaz, "
+                                 "girişte sorulur)"));
+  Yukle(YapiAyari{Oturumu().PrgPath, DataYoluMetni(Oturumu().DataPath)});
 }
 
 void yapifrm::DizinSec(xtext& alan) {

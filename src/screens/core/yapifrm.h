@@ -1,4 +1,4 @@
-// yapifrm ("Yapı Ayarları"): where the program's files and the companies lie.
+// yapifrm ("Yapı Ayarları"): where the program's files and the companies lie, the latter also on a server.
 #pragma once
 
 #include "ui/form.h"

@@ -43,6 +43,7 @@ yedekfrm::yedekfrm(EkranBaglami& baglam)
   Izle(kod_);
 
   Govde()->addWidget(liste_, 1);
+  SunucuNotuKoy();
   auto* satir = new QHBoxLayout;
   auto* etiket = new QLabel(QStringLiteral("Yeni Şirket Kodu"), this);
   etiket->setBuddy(kod_);
@@ -61,6 +62,21 @@ yedekfrm::yedekfrm(EkranBaglami& baglam)
        {.tus = Qt::Key_F4, .dugme = "Dosyadan", .simge = "klasor", .islev = [this] { DosyadanYukle(); }}});
   ListeyiDoldur();
   IlkOdak(liste_);
+}
+
+// Whose backups these are not, and where they lie.
+void yedekfrm::SunucuNotuKoy() {
+  const VeriYolu veri = Oturumu().DataPath;
+  if (!veri.Sunucuda()) return;
+  auto* yazi = new QLabel(this);
+  yazi->setObjectName("sunucuNotu");
+  yazi->setTextFormat(Qt::PlainText);
+  yazi->setWordWrap(true);
+  yazi->setText(
+      Yazi("Şirketin verileri sunucuda: çıkışta günlük yedek alınmaz, sunucuyu yöneticisi yedekler. Burada "
+           "alınan yedekler bu bilgisayarda durur: " +
+           veri.Yedekler().Alt(Oturumu().FirmaKod).Adres()));
+  Govde()->addWidget(yazi);
 }
 
 void yedekfrm::ListeyiDoldur() {

@@ -21,6 +21,7 @@ class yedekfrm : public Form {
   const std::optional<std::string>& Secilen() const { return secilen_; }
 
  private:
+  void SunucuNotuKoy();
   void ListeyiDoldur();
   void Yedekle(const std::string& hedef);
   void DosyayaYedekle();

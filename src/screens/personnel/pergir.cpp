@@ -35,7 +35,7 @@ std::optional<std::string> PngYap(const std::string& baytlar) {
 // The company's own picture, `logo` in its directory, else the emblem of all companies. "": there is none.
 std::string AmblemOku(const Oturum& oturum, Bildirim& bildirim) {
   const VeriYolu firma(oturum.FirmaDizini);
-  const VeriYolu genel = VeriYolu(oturum.DataPath).Alt(AmblemYeri);
+  const VeriYolu genel = VeriYolu(VeriYolu(oturum.DataPath).YerelDizin()).Alt(AmblemYeri);  // pictures stay here
   for (const auto& [yer, ad] : {std::pair(&firma, "logo"), std::pair(&genel, "ssklogo")})
     for (const char* uzanti : AmblemUzantilari) {
       const std::string dosya = std::string(ad) + uzanti;

@@ -98,6 +98,14 @@ TEST_F(FirmaBilgi, PathsOfTheInstallation) {
   EXPECT_TRUE(YapiAyariKaydet({"/a", " "}).Kusuru().alan == yapiayari::data);
   EXPECT_TRUE(YapiAyariKaydet({"/opt/belvani", " /veri/ "}));
   EXPECT_EQ(MakineAyari("PrgPath") + MakineAyari("DataPath"), "/opt/belvani//veri/");
+  EXPECT_TRUE(YapiAyariKaydet({"/opt/belvani", "postgresql://s/belvani/"}));
+  EXPECT_EQ(MakineAyari("DataPath"), "postgresql://s/belvani");
+  for (const char* adres : {"postgresql://ayse:gizli@s/b", "postgresql://s", "postgresql://s/b#ORNEK"}) {
+    const auto kusur = YapiAyariKaydet({"/opt/baska", adres});
+    ASSERT_FALSE(kusur) << adres;
+    EXPECT_TRUE(kusur.Kusuru().alan == yapiayari::data && kusur.KusurMetni().find("gizli") == std::string::npos);
+  }
+  EXPECT_EQ(MakineAyari("PrgPath") + MakineAyari("DataPath"), "/opt/belvani/postgresql://s/belvani");
 }
 
 }  // namespace

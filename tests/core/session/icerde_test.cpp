@@ -5,6 +5,7 @@
 #include <ctime>
 
 #include "core/saat.h"
+#include "core/session/kilitnotu.h"
 #include "core/session/ornekoturum.h"
 #include "core/session/paylasim.h"
 #include "core/session/sirketlistesi.h"
@@ -61,6 +62,29 @@ TEST_F(IcerdeTest, AMarkIsThereUntilItIsVoid) {
   EXPECT_EQ(Icerdekiler(yer).size(), 1u);
   EXPECT_TRUE(yer.Dosyalar().empty()) << "no file of the company";
   EXPECT_EQ(IcerdeIsareti::Koy(VeriYolu(o.DataPath).Alt("YOK"), {}), nullptr);
+}
+
+// The list of companies tells it of all places at once, a locked store of one's own.
+TEST_F(IcerdeTest, ListAndLockNameWhoIsIn) {
+  SabitAn an(1'000'000'000);
+  Kur("bos");
+  Kur();
+  o.BilgisayarAdi = "MASA1";
+  ASSERT_TRUE(OturumAc(o, "deneme", "Ayşe", "gizli'"));
+  an.Gec(60);
+  BaskaBilgisayarinki("oteki");
+  ASSERT_TRUE(VeriYolu(o.DataPath).IsaretKoy("kok", "x") && VeriYolu(o.DataPath).Alt("BOS").IsaretKoy("bozuk", "x"));
+  const auto liste = SirketListesi(o.DataPath);
+  ASSERT_EQ(liste.size(), 2u);
+  EXPECT_TRUE(liste[0].icerde.empty());
+  const std::string ben = "Ayşe (MASA1, 09.09.2001 01:46)", oteki = "Çağrı (MASA2, 09.09.2001 01:47)";
+  EXPECT_EQ(IcerdekiMetni(liste[1].icerde), ben + "; " + oteki);
+  const auto metin = [&](MotorKusuru tur) { return KilitliMetin(o, MotorHatasi(tur, "Olmadı")); };
+  EXPECT_EQ(metin(MotorKusuru::Kilitli), "Olmadı\nŞirkette çalışanlar:\n" + oteki) << "but for oneself";
+  EXPECT_EQ(metin(MotorKusuru::DiskDolu), "Olmadı");
+  an.Gec(301);
+  EXPECT_EQ(metin(MotorKusuru::Kilitli), "Olmadı");
+  EXPECT_TRUE(AltIcerdekiler(o.DataPath).empty() && yer.Isaretler().empty()) << "what is void is swept here too";
 }
 
 TEST_F(IcerdeTest, AKilledProgramIsOutAtOnce) {

@@ -1,15 +1,17 @@
 // From the start of the program to a login, with settings in a directory of the test.
 #include "core/session/oturum.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <sys/stat.h>
 
 #include "core/ayarlar.h"
+#include "core/dizinmakinesi.h"
 #include "core/dosya.h"
 #include "core/saat.h"
 #include "core/session/ornekoturum.h"
 #include "core/session/sirket.h"
 #include "core/store/satirlar.h"
+#include "core/sunucuadresi.h"
 #include "core/tables/firma.h"
 #include "core/tables/peruser.h"
 #include "core/tablo.h"
@@ -18,6 +20,7 @@
 namespace belvani {
 namespace {
 
+using namespace testing;
 using test::Iletiler;
 using test::OrtamKoy;
 using test::Tablo;
@@ -67,6 +70,51 @@ TEST_F(OturumTest, FirstRunUnderDifficulties) {
   ASSERT_EQ(iletiler.size(), 3u);
   EXPECT_EQ(iletiler[0], "Bilgi: Yeni Data Dizini Yaratıldı\n" + o.DataPath);
   EXPECT_TRUE(iletiler[1].starts_with("Uyarı: ") && iletiler[2].starts_with("Uyarı: "));
+}
+
+struct Sunuculu {
+  explicit Sunuculu(VeriMakinesiYapici yapici) : onceki(SunucuYapicisiKoy(yapici)) {}
+  ~Sunuculu() { SunucuYapicisiKoy(onceki); }
+  VeriMakinesiYapici onceki;
+};
+
+std::string sunucuDizini;  // stands for the server of the test
+
+// The address of a server is kept from the first run on; nothing is made, and nothing recorded, for it.
+TEST_F(OturumTest, AnAddressIsAWholeInstallation) {
+  sunucuDizini = d.Yol() + "sunucu/";
+  const Sunuculu sunucu([](const SunucuAdresi& adres) { return DizinYeri(sunucuDizini + adres.yol); });
+  ASSERT_TRUE(Baslat(o, d.Yol(), " postgresql://s/belvani/ ", b));
+  EXPECT_EQ(o.PrgPath + "|" + o.DataPath, d.Yol() + "|postgresql://s/belvani#");
+  EXPECT_EQ(MakineAyari("PrgPath") + MakineAyari("DataPath"), "");
+  EXPECT_FALSE(DizinVar(d.Yol() + "PerData") || DizinVar(d.Yol() + "postgresql:"));
+  Kur("izmir");
+  EXPECT_EQ(Sirketler(o.DataPath), std::vector<std::string>{"İZMİR"});
+  EXPECT_TRUE(VeriYolu(sunucuDizini).Alt("İZMİR").Var(DepoDosyasi)) << "all of it goes through the place's maker";
+  EXPECT_EQ(b.Al(), Iletiler{});
+  // Recorded for all its computers, it is no first run's to overwrite.
+  ASSERT_TRUE(MakineAyariYaz("DataPath", "postgresql://s/belvani"));
+  ASSERT_TRUE(Baslat(o, d.Yol(), "", b));
+  EXPECT_EQ(o.DataPath + MakineAyari("PrgPath"), "postgresql://s/belvani#");
+}
+
+TEST_F(OturumTest, AnAddressThatLeadsNowhereEndsTheStart) {
+  const Sunuculu sunucusuz(nullptr);
+  b.cevap = false;
+  EXPECT_FALSE(Baslat(o, d.Yol(), "postgresql://s/belvani", b));
+  EXPECT_THAT(b.Al(), ElementsAre(AllOf(StartsWith("Soru: s/belvani: "), HasSubstr("\nYeniden Denensin mi ?"))));
+  for (const auto& [adres, neden] :
+       Tablo<const char*, const char*>{{"postgresql://ayse:gizli@s/b", "şifre bulunamaz"},
+                                       {"postgresql://s/b?password=gizli", "şifre bulunamaz"},
+                                       {"postgresql://s", "veritabanının adı"},
+                                       {"postgresql://s/b#ORNEK", "bir şirketin adresi"}}) {
+    EXPECT_FALSE(Baslat(o, d.Yol(), adres, b)) << adres;
+    EXPECT_THAT(b.Al(), ElementsAre(AllOf(StartsWith("Uyarı: "), HasSubstr(neden), Not(HasSubstr("gizli"))))) << adres;
+  }
+  EXPECT_EQ(MakineAyari("PrgPath") + MakineAyari("DataPath"), "");
+  o.DataPath = "postgresql://s/belvani#";
+  EXPECT_THAT(SirketAc(o, "deneme", b).KusurMetni(), StartsWith("s/belvani: ")) << "nobody can tell what is there";
+  EXPECT_THAT(SirketOlustur(o, "deneme", "Ayşe", "", b).KusurMetni(), HasSubstr("s/belvani: "));
 }
 
 TEST_F(OturumTest, NewCompanyIsOpenAndComplete) {

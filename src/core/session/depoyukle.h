@@ -1,0 +1,15 @@
+// A store file of a backup into a place that is no directory.
+#pragma once
+
+#include <string>
+
+#include "core/bildirim.h"
+#include "core/sonuc.h"
+#include "core/veriyolu.h"
+
+namespace belvani {
+
+// `dosya` is a whole store of this computer, nobody's; the place has none yet.
+Durum DepoYukle(const std::string& dosya, const VeriYolu& sirket, Ilerleme* ilerleme);
+
+}  // namespace belvani
