@@ -58,9 +58,10 @@ std::vector<std::string> YarimSirketler(const VeriYolu& veri) {
 
 std::vector<std::string> SilinebilirSirketler(const VeriYolu& veri, const Oturum& o) {
   std::vector<std::string> adlar = Sirketler(veri);
-  const std::string acik = o.FirmaDizini.empty() ? std::string() : VeriYolu(o.FirmaDizini).Kimlik();
+  const std::string acik = o.FirmaDizini.empty() || veri.Sunucuda() ? std::string() : VeriYolu(o.FirmaDizini).Kimlik();
   std::erase_if(adlar, [&](const std::string& ad) {
     const VeriYolu sirket = veri.Alt(ad);
+    if (veri.Sunucuda()) return sirket.Adres() == o.FirmaDizini;  // a place there has one name
     return sirket.BagMi() || sirket.Kimlik() == acik;
   });
   std::ranges::move(YarimSirketler(veri), std::back_inserter(adlar));
