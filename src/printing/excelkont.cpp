@@ -17,7 +17,7 @@ namespace {
 constexpr std::size_t EnUzunAd = 80;  // letters; with Turkish ones well below what a file system takes
 
 std::string Bicim(const Hucre& deger, int paraOndaligi) {
-  if (std::holds_alternative<Tutar>(deger)) return XlsxSifirliBicim(paraOndaligi);
+  if (std::holds_alternative<Tutar>(deger)) return XlsxTutarBicimi(paraOndaligi);
   return std::holds_alternative<Tarih>(deger) ? XlsxTarihBicimi : "";
 }
 
@@ -41,6 +41,7 @@ std::string DosyaAdi(std::string_view baslik) {
 
 void excelkont::Birak() {
   hucreler_.clear();
+  enler_.clear();
   sablon_.reset();
   sayfa_.clear();
   hazir_.reset();
@@ -107,7 +108,7 @@ bool excelkont::SetExcel(std::string_view adres, const Hucre& deger, ExcelYazisi
   return SetExcell(yer->satir, yer->kolon, deger, yazi);
 }
 
-Sonuc<std::string> excelkont::YeniKitap() const {
+Sonuc<std::string> excelkont::YeniKitap(Ilerleme* ilerleme) const {
   XlsxKitap kitap(Baslik);
   const int ondalik = std::clamp(ParaOndaligi, 0, 4);
   std::map<int, int> enler;
@@ -115,23 +116,25 @@ Sonuc<std::string> excelkont::YeniKitap() const {
   for (const auto& [yer, hucre] : hucreler_)
     if (hucre.yazi == ExcelYazisi::Normal)
       enler[yer.second] = std::max(enler[yer.second], HucreHarfi(hucre.deger, ondalik));
+  for (auto& [kolon, en] : enler) en = XlsxKolonEni(en);
+  for (const auto& [kolon, en] : enler_) enler[kolon] = en;
   double toplamEn = 0;
-  for (const auto& [kolon, harf] : enler) {
-    kitap.KolonEni(kolon - 1, XlsxKolonEni(harf));
-    toplamEn += XlsxKolonEni(harf);
+  for (const auto& [kolon, en] : enler) {
+    kitap.KolonEni(kolon - 1, en);
+    toplamEn += en;
   }
   kitap.A4Yazdir(XlsxYonu(toplamEn));
   for (const auto& [yer, hucre] : hucreler_)
     kitap.Yaz(yer.first - 1, yer.second - 1, hucre.deger,
               kitap.StilEkle({.sayiBicimi = Bicim(hucre.deger, ondalik), .koyu = hucre.yazi == ExcelYazisi::Koyu}));
-  return kitap.Bitir();
+  return kitap.Bitir(ilerleme);
 }
 
-Sonuc<std::string> excelkont::Kitap() {
+Sonuc<std::string> excelkont::Kitap(Ilerleme* ilerleme) {
   if (hazir_) return *hazir_;
   if (!acik_) return Kusur{"Açık bir çalışma kitabı yok"};
   if (kusur_) return *kusur_;
-  return sablon_ ? sablon_->Bitir() : YeniKitap();
+  return sablon_ ? sablon_->Bitir() : YeniKitap(ilerleme);
 }
 
 Durum excelkont::KitapYaz(const std::string& yol, const std::string& baytlar) {

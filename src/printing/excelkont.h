@@ -9,8 +9,9 @@
 //   Durum durum = excel.CloseExcell();
 //
 // Rows and columns count from 1, as a spreadsheet counts them: SetExcell(40, 213, …) is the cell "he40". Numbers and
-// days go in as such. A form keeps its own looks, so bold letters are for new workbooks only; one of the old form
-// (.xls) is first turned into .xlsx by the office program of this computer.
+// days go in as such, and look as on paper: amounts grouped, zero empty. A form keeps its own looks, so bold letters
+// are for new workbooks only; one of the old form (.xls) is first turned into .xlsx by the office program of this
+// computer.
 //
 // The first failure of a cell is kept and comes back from CloseExcell, so a writer of two hundred cells asks once.
 #pragma once
@@ -21,6 +22,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/bildirim.h"
 #include "printing/xlsxsablon.h"
 
 namespace belvani {
@@ -57,6 +59,8 @@ class excelkont {
 
   bool SetExcell(int satir, int kolon, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
   bool SetExcel(std::string_view adres, const Hucre& deger, ExcelYazisi yazi = ExcelYazisi::Normal);
+  // Of a new workbook, in letters; a column without it is as wide as its cells need.
+  void KolonEni(int kolon, int harf) { enler_[kolon] = harf; }
 
   // Forms alone. A further sheet, as the first one is in the file; and the sheet that is filled from now on, "" the
   // first.
@@ -65,7 +69,7 @@ class excelkont {
   bool AdVar(std::string_view ad) const { return sablon_ && sablon_->AdVar(ad); }
 
   // The finished workbook, for one that is not handed over here; or the first failure.
-  Sonuc<std::string> Kitap();
+  Sonuc<std::string> Kitap(Ilerleme* ilerleme = nullptr);
   // Writes the file into a new directory among the temporary ones and opens it in the user's program; without such a
   // program it goes where the user wants it.
   Durum CloseExcell();
@@ -82,12 +86,13 @@ class excelkont {
   void Birak();
   Sonuc<std::string> KitapOku(const std::string& dosya) const;
   bool KusuruTut(const Durum& durum);
-  Sonuc<std::string> YeniKitap() const;
+  Sonuc<std::string> YeniKitap(Ilerleme* ilerleme) const;
   Durum KitapYaz(const std::string& yol, const std::string& baytlar);
   bool GeciciYaz(const std::string& baytlar);
 
   ExcelIslevleri islevler_;
   std::map<std::pair<int, int>, YeniHucre> hucreler_;  // by row and column, from 1
+  std::map<int, int> enler_;                           // of columns, as they were asked for
   std::optional<XlsxSablon> sablon_;
   std::optional<std::string> hazir_;
   std::string sablonAdi_;

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "core/turkce.h"
+#include "printing/excelkont.h"
 #include "printing/prnx.h"
-#include "printing/xlsxkitap.h"
 #include "printing/yzccnt.h"
 
 namespace belvani {
@@ -195,44 +195,25 @@ class KidemCizimi final : public CizilenBelge {
 
 // ---- spreadsheet
 
-class KidemTablosu {
- public:
-  explicit KidemTablosu(const Cizelge& c)
-      : c_(c),
-        duz_(kitap_.StilEkle({})),
-        koyu_(kitap_.StilEkle({.koyu = true})),
-        tutar_(kitap_.StilEkle({.sayiBicimi = XlsxTutarBicimi(std::clamp(c.paraonda, 0, 4))})),
-        tarih_(kitap_.StilEkle({.sayiBicimi = XlsxTarihBicimi})) {
-    constexpr double etiketEni = 32, degerEni = 20;
-    kitap_.KolonEni(0, etiketEni);
-    kitap_.KolonEni(1, degerEni);
-    kitap_.A4Yazdir(KagitYonu::Dikey);
+Sonuc<std::string> KidemTablosu(const Cizelge& c, Ilerleme* ilerleme) {
+  constexpr int etiketEni = 32, degerEni = 20;
+  excelkont excel;
+  excel.Baslik = "Tazminat";
+  excel.ParaOndaligi = c.paraonda;
+  if (const Durum acildi = excel.OpenExcell(); !acildi) return acildi.Kusuru();
+  excel.KolonEni(1, etiketEni);
+  excel.KolonEni(2, degerEni);
+  int satir = 1;
+  excel.SetExcell(satir, 1, std::string(KidemBasligi), ExcelYazisi::Koyu);
+  for (const Satir& s : Satirlar) {
+    if (*s.tablo == '\0') continue;
+    const bool baslik = s.tur == SatirTuru::Baslik;
+    excel.SetExcell(++satir, 1, std::string(s.tablo), baslik ? ExcelYazisi::Koyu : ExcelYazisi::Normal);
+    if (s.tur == SatirTuru::Deger) excel.SetExcell(satir, 2, Degeri(s, c));
   }
-
-  Sonuc<std::string> Yap(Ilerleme* ilerleme) {
-    kitap_.Yaz(satir_++, 0, std::string(KidemBasligi), koyu_);
-    for (const Satir& s : Satirlar)
-      if (*s.tablo != '\0') SatirYaz(s);
-    for (const std::string& soz : c_.notlar) kitap_.Yaz(satir_++, 0, soz, duz_);
-    return kitap_.Bitir(ilerleme);
-  }
-
- private:
-  void SatirYaz(const Satir& s) {
-    kitap_.Yaz(satir_, 0, std::string(s.tablo), s.tur == SatirTuru::Baslik ? koyu_ : duz_);
-    if (s.tur == SatirTuru::Deger) {
-      const Hucre deger = Degeri(s, c_);
-      const bool tutar = std::holds_alternative<Tutar>(deger);
-      kitap_.Yaz(satir_, 1, deger, tutar ? tutar_ : std::holds_alternative<Tarih>(deger) ? tarih_ : duz_);
-    }
-    ++satir_;
-  }
-
-  const Cizelge& c_;
-  XlsxKitap kitap_{"Tazminat"};
-  XlsxKitap::Stil duz_, koyu_, tutar_, tarih_;
-  int satir_ = 0;
-};
+  for (const std::string& soz : c.notlar) excel.SetExcell(++satir, 1, soz);
+  return excel.Kitap(ilerleme);
+}
 
 YzcAyarlari BaskiAyari() {
   YzcAyarlari ayar;
@@ -252,7 +233,7 @@ class KidemKagidi final : public Belge {
  private:
   std::unique_ptr<CizilenBelge> CizimYap(Ilerleme*) const override { return std::make_unique<KidemCizimi>(c_); }
   std::string MetinYap(Ilerleme*) const override { return KidemMetni(c_); }
-  Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const override { return KidemTablosu(c_).Yap(ilerleme); }
+  Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const override { return KidemTablosu(c_, ilerleme); }
 
   Cizelge c_;
 };

@@ -59,6 +59,7 @@ TEST(Excelkont, ANewWorkbookFillsCellByCell) {
   EXPECT_TRUE(e.excel.SetExcel("B3", Tutar(-0.25), ExcelYazisi::Koyu)) << "written over";
   EXPECT_TRUE(e.excel.SetExcell(40, 213, Tarih(2008, 2, 29)));
   EXPECT_TRUE(e.excel.SetExcel("C1", std::string("=1+1")));
+  e.excel.KolonEni(3, 41);
   ASSERT_TRUE(e.excel.CloseExcell());
   EXPECT_EQ(e.acilan, std::vector{e.excel.Dosya()});
   EXPECT_EQ(std::filesystem::path(e.excel.Dosya()).filename(), "TAZMİNAT_TABLO.xlsx");
@@ -72,6 +73,10 @@ TEST(Excelkont, ANewWorkbookFillsCellByCell) {
   EXPECT_TRUE(hucreler["C1"].metin) << "a text is no formula";
   const std::string stiller = test::XlsxParcasi(*DosyaOku(e.excel.Dosya()), "xl/styles.xml");
   EXPECT_NE(stiller.find("dd.mm.yyyy"), std::string::npos);
+  EXPECT_NE(stiller.find("#,##0.00;-#,##0.00;"), std::string::npos) << "zero stays empty, as on paper";
+  EXPECT_THAT(test::XlsxParcasi(*DosyaOku(e.excel.Dosya()), "xl/worksheets/sheet1.xml"),
+              testing::ContainsRegex("<col min=\"3\" max=\"3\" width=\"41"))
+      << "as asked for";
   EXPECT_NE(hucreler["A1"].stil, hucreler["C1"].stil) << "bold and plain";
 }
 
