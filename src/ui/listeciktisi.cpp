@@ -2,8 +2,8 @@
 
 #include <QAction>
 
-#include "core/sayi.h"
 #include "printing/belge.h"
+#include "printing/rapordolgusu.h"
 #include "ui/basim.h"
 #include "ui/dclist.h"
 #include "ui/metin.h"
@@ -12,29 +12,19 @@ namespace belvani {
 namespace {
 
 constexpr const char* YazdirAdi = "listeYazdir";
-constexpr int EnCokOndalik = 4;
+constexpr int TamTarih = 1;  // the form "dd.MM.yyyy" of the report's date columns
 
-KolonTuru RaporTuru(dclistKolonu::Tip tip) {
+DolguTuru Turu(dclistKolonu::Tip tip) {
   switch (tip) {
     case dclistKolonu::Tip::Sayi:
-      return KolonTuru::Tutar;
+      return DolguTuru::Sayi;
     case dclistKolonu::Tip::Tarih:
-      return KolonTuru::Tarih;
+      return DolguTuru::Tarih;
     case dclistKolonu::Tip::Metin:
     case dclistKolonu::Tip::Secim:
-      return KolonTuru::Metin;
+      return DolguTuru::Metin;
   }
-  return KolonTuru::Metin;
-}
-
-Hucre HucreYap(KolonTuru tur, const std::string& metin) {
-  if (metin.empty()) return Null{};
-  if (tur == KolonTuru::Tutar) {
-    const auto tutar = TutarOku(metin);
-    return tutar ? Hucre(*tutar) : Hucre(Null{});
-  }
-  if (tur == KolonTuru::Tarih) return Tarih::MetinOku(metin);
-  return metin;
+  return DolguTuru::Metin;
 }
 
 std::shared_ptr<Belge> ListeBelgesi(dclist& liste, const QString& baslik) {
@@ -54,28 +44,22 @@ void Ver(dclist& liste, const std::function<void()>& ver) {
 
 Rapor ListeRaporu(dclist& liste, const QString& baslik) {
   const dclistModel& model = liste.Model();
-  std::vector<RaporKolonu> kolonlar;
+  RaporDolgusu dolgu;
+  dolgu.Basliklar(Utf8(baslik));
   std::vector<int> yerler;
   for (int k = 0; k < model.columnCount(); ++k) {
     const dclistKolonu& kolon = model.Kolonlar()[std::size_t(k)];
     if (kolon.gizli) continue;
-    const std::string ad = Utf8(kolon.baslik);
     yerler.push_back(k);
-    kolonlar.push_back({.baslik = ad,
-                        .kisaBaslik = ad,
-                        .en = int(kolon.baslik.size()),
-                        .tur = RaporTuru(kolon.tip),
-                        .ondalik = std::clamp(kolon.ondalik, 0, EnCokOndalik)});
+    const int bicim = kolon.tip == dclistKolonu::Tip::Tarih ? TamTarih : kolon.ondalik;
+    dolgu.AddColons(Utf8(kolon.baslik), Turu(kolon.tip), {}, bicim, int(kolon.baslik.size()));
   }
-  Rapor rapor(kolonlar);
-  rapor.baslik = rapor.ekranBasligi = Utf8(baslik);
   for (int sira = 0; sira < model.rowCount(); ++sira) {
-    RaporSatiri satir;
+    dolgu.CreateRow(GridSatiri::Normal);
     for (std::size_t k = 0; k < yerler.size(); ++k)
-      satir.hucreler.push_back(HucreYap(kolonlar[k].tur, Utf8(liste.Text(model.GosterilenSatir(sira), yerler[k]))));
-    rapor.Ekle(std::move(satir));
+      dolgu.Add(int(k), Utf8(liste.Text(model.GosterilenSatir(sira), yerler[k])));
   }
-  return rapor;
+  return dolgu.Yap();
 }
 
 void ListeCiktisiBagla(EkranBaglami& baglam, dclist& liste, std::function<QString()> baslik) {

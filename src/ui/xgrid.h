@@ -3,15 +3,8 @@
 //
 //   grid.RaporKoy(rapor);
 //
-// or, by a writer that knows its columns at run time only:
-//
-//   grid.Reset();
-//   grid.AddColons("Adı", DolguTuru::Metin);
-//   grid.AddColons("Tutar", DolguTuru::ToplananSayi, {}, 2);
-//   grid.NewPage();
-//   grid.CreateRow(GridSatiri::Normal);
-//   grid.AddbyName("Tutar", Tutar(1250.5));
-//   grid.Refresh();
+// or, by a writer that knows its columns at run time only, Reset, AddColons for each column, NewPage, then CreateRow
+// and Add for each line, at last Refresh (printing/rapordolgusu.h, behind operations of the same names).
 //
 // Keys: Page Up and Page Down go on to the neighbouring page, Ctrl+Page Up and Ctrl+Page Down jump to it. Ctrl+S sorts
 // by the current column, then the other way round, then puts the report's order back; so does a click on a caption.
@@ -25,7 +18,7 @@
 #include <functional>
 
 #include "core/session/gorunum.h"
-#include "printing/rapor.h"
+#include "printing/rapordolgusu.h"
 #include "ui/xgridmodel.h"
 
 class QComboBox;
@@ -33,11 +26,6 @@ class QLabel;
 class QLineEdit;
 
 namespace belvani {
-
-enum class GridSatiri { Normal = 0, SayfaBasi = 1 };
-
-// The numbers are those of the lists' declarations.
-enum class DolguTuru : std::int16_t { Metin = 0, Sayi = 1, Tarih = 2, ToplananSayi = 3 };
 
 class xgrid : public QTableView {
   Q_OBJECT
@@ -51,15 +39,12 @@ class xgrid : public QTableView {
   // The document, with what was filled since the last Refresh. Throws TutarTasmasi when a sum of that leaves the range.
   const Rapor& Belgesi() const;
 
-  // Filling. The captions stand one above the other, `ikinci` on top; `bicim` are the decimals of a number (0 to 4) or
-  // the form of a date (0 "dd MMMM yyyy", 1 "dd.MM.yyyy", 2 "dd.MM.yy", 3 "dd.MM", 4 "dd", 5 "MM"; any other is 1);
-  // `en` letters on paper, 0 for what is needed. A cell takes what its column can show: a number column amounts, whole
-  // numbers and their texts, a date column days and their texts. Anything else leaves it empty.
+  // Filling, as RaporDolgusu has it.
   void Reset();
   void AddColons(const QString& baslik, DolguTuru tur, const QString& ikinci = {}, int bicim = 0, int en = 0);
   void NewPage();
-  void CreateRow(GridSatiri tur, int adet = 1);  // `adet` rows, of which the last is the current one
-  void Add(int kolon, const Hucre& deger);       // in the current row
+  void CreateRow(GridSatiri tur, int adet = 1);
+  void Add(int kolon, const Hucre& deger);
   void AddbyName(const QString& baslik, const Hucre& deger);
   void data(int sayfa, int satir, int kolon, const Hucre& deger);
   void Basliklar(const QString& baslik, const QStringList& ustSatirlar);  // title, heading lines
@@ -69,7 +54,7 @@ class xgrid : public QTableView {
   // The row being filled; on the screen the cursor. Rows count in the page, in the report's order.
   int CurrentPage() const;
   int CurrentRow() const;
-  int CurrentColon() const { return dolduruluyor_ ? kolon_ : currentIndex().column(); }
+  int CurrentColon() const { return dolduruluyor_ ? dolgu_->Kolon() : currentIndex().column(); }
   void CurrentPage(int sayfa) { KonumaGit(sayfa, 0, CurrentColon()); }
   void CurrentRow(int satir) { KonumaGit(CurrentPage(), satir, CurrentColon()); }
   void CurrentColon(int kolon) { KonumaGit(CurrentPage(), CurrentRow(), kolon); }
@@ -132,21 +117,9 @@ class xgrid : public QTableView {
   bool eventFilter(QObject* nesne, QEvent* olay) override;
 
  private:
-  // Filling: a report on its way.
-  struct Dolgu {
-    std::vector<RaporKolonu> kolonlar;
-    std::vector<RaporSatiri> satirlar;
-    std::string baslik;
-    std::vector<UstSatir> ustSatirlar;
-    bool yeniSayfa = false;  // the next row starts a page; a page without rows does not come about
-
-    Rapor Yap() const;
-  };
-  Dolgu* Doldurulan();
-  void Koy(Dolgu& dolgu, int satir, int kolon, const Hucre& deger) const;
+  template <class Is>
+  void Doldur(Is is);
   const std::vector<RaporSatiri>& Satirlar() const;
-  std::vector<int> SayfaBaslari() const;  // first row of each page
-  int SatirNo(int sayfa, int satir) const;
   int SimdikiSatir() const;
   void KonumaGit(int sayfa, int satir, int kolon);
   // Showing.
@@ -166,11 +139,9 @@ class xgrid : public QTableView {
   xgridModel* model_;
   QLabel* toplamOrnegi_;                        // never shown: what the style gives to sums
   QLabel* eksiOrnegi_;                          // and to warnings, for amounts below zero
-  std::optional<Dolgu> dolgu_;                  // nothing when the report came as a whole
+  std::optional<RaporDolgusu> dolgu_;           // nothing when the report came as a whole
   mutable std::shared_ptr<const Rapor> rapor_;  // null while the filling is ahead of it
-  bool dolduruluyor_ = true;                    // between the first change and Refresh, on the row and column below
-  int satir_ = -1;                              // of the whole list
-  int kolon_ = 0;
+  bool dolduruluyor_ = true;                    // between the first change and Refresh
   std::array<QColor, 5> renkler_;
   int aralik_ = 10;
   QLineEdit* arama_ = nullptr;

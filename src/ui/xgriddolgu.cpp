@@ -1,62 +1,17 @@
 // What an xgrid shows: a report that came as a whole, or one that is filled step by step.
 #include <algorithm>
-#include <array>
 
-#include "core/sayi.h"
-#include "core/turkce.h"
 #include "ui/metin.h"
 #include "ui/xgrid.h"
 
 namespace belvani {
 namespace {
 
-constexpr int EnCokOndalik = 4;
-
 bool Var(std::size_t adet, int sira) {
   return sira >= 0 && std::size_t(sira) < adet;
 }
 
-KolonTuru Turu(DolguTuru tur, int bicim) {
-  static constexpr std::array tarihler{KolonTuru::UzunTarih, KolonTuru::Tarih, KolonTuru::KisaTarih,
-                                       KolonTuru::GunAy,     KolonTuru::Gun,   KolonTuru::Ay};
-  switch (tur) {
-    case DolguTuru::Metin:
-      return KolonTuru::Metin;
-    case DolguTuru::Sayi:
-    case DolguTuru::ToplananSayi:
-      return KolonTuru::Tutar;
-    case DolguTuru::Tarih:
-      return Var(tarihler.size(), bicim) ? tarihler[std::size_t(bicim)] : KolonTuru::Tarih;
-  }
-  return KolonTuru::Metin;
-}
-
-Hucre Uydur(const Hucre& deger, const RaporKolonu& kolon) {
-  std::string metin = DuzMetin(deger);
-  if (kolon.tur == KolonTuru::Metin) return metin;
-  if (TarihMi(kolon.tur)) {
-    const Tarih tarih = Tarih::MetinOku(metin);
-    return tarih.Bos() ? Hucre(Null{}) : Hucre(tarih);
-  }
-  const auto tutar = TutarOku(metin);
-  return tutar ? Hucre(*tutar) : Hucre(Null{});
-}
-
 }  // namespace
-
-// Paper cuts no text.
-Rapor xgrid::Dolgu::Yap() const {
-  std::vector<RaporKolonu> kagit = kolonlar;
-  for (const RaporSatiri& satir : satirlar)
-    for (std::size_t k = 0; k < kagit.size(); ++k)
-      if (const auto* metin = std::get_if<std::string>(&satir.hucreler[k]))
-        kagit[k].en = std::max(kagit[k].en, int(HarfSayisi(*metin)));
-  Rapor rapor(std::move(kagit));
-  rapor.baslik = rapor.ekranBasligi = baslik;
-  rapor.ustSatirlar = ustSatirlar;
-  for (const RaporSatiri& satir : satirlar) rapor.Ekle(satir);
-  return rapor;
-}
 
 void xgrid::RaporKoy(std::shared_ptr<const Rapor> rapor) {
   dolgu_.reset();
@@ -73,78 +28,46 @@ void xgrid::Reset() {
   dolgu_.emplace();
   rapor_ = nullptr;
   dolduruluyor_ = true;
-  satir_ = -1;
-  kolon_ = 0;
 }
 
-// Null for a report that came as a whole: that stays as it is.
-xgrid::Dolgu* xgrid::Doldurulan() {
-  if (!dolgu_) return nullptr;
-  if (!dolduruluyor_) {
-    satir_ = SimdikiSatir();
-    kolon_ = std::max(CurrentColon(), 0);
-  }
+// A report that came as a whole stays as it is. The first change goes on from where the cursor stands.
+template <class Is>
+void xgrid::Doldur(Is is) {
+  if (!dolgu_) return;
+  if (!dolduruluyor_) dolgu_->Konum(SimdikiSatir(), std::max(CurrentColon(), 0));
   dolduruluyor_ = true;
   rapor_ = nullptr;
-  return &*dolgu_;
+  is(*dolgu_);
 }
 
 void xgrid::AddColons(const QString& baslik, DolguTuru tur, const QString& ikinci, int bicim, int en) {
-  auto* dolgu = Doldurulan();
-  if (dolgu == nullptr) return;
-  dolgu->kolonlar.push_back({.baslik = Utf8(ikinci.isEmpty() ? baslik : ikinci + ' ' + baslik),
-                             .kisaBaslik = Utf8(baslik),
-                             .en = std::max(en, int(HarfSayisi(Utf8(baslik)))),
-                             .tur = Turu(tur, bicim),
-                             .ondalik = std::clamp(bicim, 0, EnCokOndalik),
-                             .toplanir = tur == DolguTuru::ToplananSayi});
-  for (RaporSatiri& satir : dolgu->satirlar) satir.hucreler.emplace_back();
+  Doldur([&](RaporDolgusu& d) { d.AddColons(Utf8(baslik), tur, Utf8(ikinci), bicim, en); });
 }
 
 void xgrid::NewPage() {
-  if (auto* dolgu = Doldurulan()) dolgu->yeniSayfa = !dolgu->satirlar.empty();
+  Doldur([](RaporDolgusu& d) { d.NewPage(); });
 }
 
 void xgrid::CreateRow(GridSatiri tur, int adet) {
-  if (tur == GridSatiri::SayfaBasi) NewPage();
-  auto* dolgu = Doldurulan();
-  if (dolgu == nullptr || adet < 1) return;
-  for (int i = 0; i < adet; ++i)
-    dolgu->satirlar.push_back(
-        {.hucreler = std::vector<Hucre>(dolgu->kolonlar.size()), .yeniSayfa = std::exchange(dolgu->yeniSayfa, false)});
-  satir_ = int(dolgu->satirlar.size()) - 1;
-  kolon_ = 0;
-}
-
-void xgrid::Koy(Dolgu& dolgu, int satir, int kolon, const Hucre& deger) const {
-  if (Var(dolgu.satirlar.size(), satir) && Var(dolgu.kolonlar.size(), kolon))
-    dolgu.satirlar[std::size_t(satir)].hucreler[std::size_t(kolon)] = Uydur(deger, dolgu.kolonlar[std::size_t(kolon)]);
+  Doldur([&](RaporDolgusu& d) { d.CreateRow(tur, adet); });
 }
 
 void xgrid::Add(int kolon, const Hucre& deger) {
-  auto* dolgu = Doldurulan();
-  if (dolgu == nullptr || satir_ < 0 || !Var(dolgu->kolonlar.size(), kolon)) return;
-  Koy(*dolgu, satir_, kolon, deger);
-  kolon_ = kolon;
+  Doldur([&](RaporDolgusu& d) { d.Add(kolon, deger); });
 }
 
 void xgrid::AddbyName(const QString& baslik, const Hucre& deger) {
-  if (!dolgu_) return;
-  const auto k = std::ranges::find(dolgu_->kolonlar, Utf8(baslik), &RaporKolonu::kisaBaslik);
-  if (k != dolgu_->kolonlar.end()) Add(int(k - dolgu_->kolonlar.begin()), deger);
+  Doldur([&](RaporDolgusu& d) { d.AddbyName(Utf8(baslik), deger); });
 }
 
 void xgrid::data(int sayfa, int satir, int kolon, const Hucre& deger) {
-  const int no = SatirNo(sayfa, satir);
-  if (auto* dolgu = no >= 0 ? Doldurulan() : nullptr) Koy(*dolgu, no, kolon, deger);
+  Doldur([&](RaporDolgusu& d) { d.data(sayfa, satir, kolon, deger); });
 }
 
 void xgrid::Basliklar(const QString& baslik, const QStringList& ustSatirlar) {
-  auto* dolgu = Doldurulan();
-  if (dolgu == nullptr) return;
-  dolgu->baslik = Utf8(baslik);
-  dolgu->ustSatirlar.clear();
-  for (const QString& satir : ustSatirlar) dolgu->ustSatirlar.push_back({.sol = Utf8(satir)});
+  std::vector<std::string> satirlar;
+  for (const QString& satir : ustSatirlar) satirlar.push_back(Utf8(satir));
+  Doldur([&](RaporDolgusu& d) { d.Basliklar(Utf8(baslik), satirlar); });
 }
 
 void xgrid::Refresh() {
@@ -153,52 +76,34 @@ void xgrid::Refresh() {
 }
 
 const std::vector<RaporSatiri>& xgrid::Satirlar() const {
-  return dolgu_ ? dolgu_->satirlar : rapor_->Satirlar();
-}
-
-std::vector<int> xgrid::SayfaBaslari() const {
-  if (!dolgu_) return model_->SayfaBaslari();
-  std::vector<int> baslar;
-  for (int i = 0; i < int(dolgu_->satirlar.size()); ++i)
-    if (i == 0 || dolgu_->satirlar[std::size_t(i)].yeniSayfa) baslar.push_back(i);
-  return baslar;
-}
-
-int xgrid::SatirNo(int sayfa, int satir) const {
-  const auto baslar = SayfaBaslari();
-  if (!Var(baslar.size(), sayfa) || satir < 0) return -1;
-  const int son = Var(baslar.size(), sayfa + 1) ? baslar[std::size_t(sayfa) + 1] : int(Satirlar().size());
-  const int no = baslar[std::size_t(sayfa)] + satir;
-  return no < son ? no : -1;
+  return dolgu_ ? dolgu_->Satirlar() : rapor_->Satirlar();
 }
 
 Hucre xgrid::data(int sayfa, int satir, int kolon) const {
-  const int no = SatirNo(sayfa, satir);
+  const int no = SayfadakiSatir(Satirlar(), sayfa, satir);
   if (no < 0 || !Var(Satirlar()[std::size_t(no)].hucreler.size(), kolon)) return Null{};
   return Satirlar()[std::size_t(no)].hucreler[std::size_t(kolon)];
 }
 
 int xgrid::SimdikiSatir() const {
-  return dolduruluyor_ ? satir_ : model_->Kayit(currentIndex().row());
+  return dolduruluyor_ ? dolgu_->Satir() : model_->Kayit(currentIndex().row());
 }
 
 int xgrid::CurrentPage() const {
   if (!dolduruluyor_) return model_->Sayfa();
-  const auto baslar = SayfaBaslari();
-  return std::max(int(std::ranges::upper_bound(baslar, satir_) - baslar.begin()) - 1, 0);
+  const auto baslar = SayfaBaslari(Satirlar());
+  return std::max(int(std::ranges::upper_bound(baslar, dolgu_->Satir()) - baslar.begin()) - 1, 0);
 }
 
 int xgrid::CurrentRow() const {
   const int satir = SimdikiSatir();
-  return satir < 0 ? -1 : satir - SayfaBaslari()[std::size_t(CurrentPage())];
+  return satir < 0 ? -1 : satir - SayfaBaslari(Satirlar())[std::size_t(CurrentPage())];
 }
 
 void xgrid::KonumaGit(int sayfa, int satir, int kolon) {
-  const int no = SatirNo(sayfa, satir);
+  const int no = SayfadakiSatir(Satirlar(), sayfa, satir);
   if (no < 0 || !Var(Satirlar()[std::size_t(no)].hucreler.size(), kolon)) return;
-  if (!dolduruluyor_) return KaydaGit(no, kolon);
-  satir_ = no;
-  kolon_ = kolon;
+  dolduruluyor_ ? dolgu_->Konum(no, kolon) : KaydaGit(no, kolon);
 }
 
 QString xgrid::GetBaslikPrint(int kolon) const {

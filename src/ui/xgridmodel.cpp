@@ -5,6 +5,7 @@
 #include <numeric>
 
 #include "core/turkce.h"
+#include "printing/rapordolgusu.h"
 #include "ui/metin.h"
 
 namespace belvani {
@@ -35,10 +36,7 @@ void xgridModel::RaporKoy(std::shared_ptr<const Rapor> rapor, QStringList baslik
   siralanan_.clear();
   siraKolonu_ = -1;
   sayfa_ = 0;
-  sayfaBaslari_.clear();
-  const auto& satirlar = rapor_->Satirlar();
-  for (std::size_t i = 0; i < satirlar.size(); ++i)
-    if (i == 0 || satirlar[i].yeniSayfa) sayfaBaslari_.push_back(int(i));
+  sayfaBaslari_ = SayfaBaslari(rapor_->Satirlar());
   endResetModel();
 }
 

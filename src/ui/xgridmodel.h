@@ -33,7 +33,6 @@ class xgridModel : public QAbstractTableModel {
   int SayfaSayisi() const { return int(sayfaBaslari_.size()); }
   int Sayfa() const { return sayfa_; }
   void SayfaKoy(int sayfa);
-  const std::vector<int>& SayfaBaslari() const { return sayfaBaslari_; }
   int SayfaninIlki(int sayfa) const { return sayfaBaslari_[std::size_t(sayfa)]; }
   int SayfaninSonu(int sayfa) const;  // one behind its last record
   int KayittakiSayfa(int kayit) const;
