@@ -32,6 +32,21 @@ inline constexpr DosKodu prnxUcuncu{"\x1B\x01", std::string_view("\x1B\x00", 2)}
 inline constexpr std::string_view DosSayfaAt = "\x0C";
 inline constexpr std::string_view DosSatirSonu = "\r\n";
 
+// Styles of a piece, and of a column. They can be joined.
+enum class DosBicem : unsigned {
+  Duz = 0,
+  Kalin = 1,  // double strike
+  Ikinci = 2,
+  Ucuncu = 4,
+  TireDizisi = 128,  // a column prints as a row of "-" instead of its value
+};
+constexpr DosBicem operator|(DosBicem a, DosBicem b) {
+  return DosBicem(unsigned(a) | unsigned(b));
+}
+constexpr bool BicemVar(DosBicem hepsi, DosBicem biri) {
+  return (unsigned(hepsi) & unsigned(biri)) != 0;
+}
+
 std::string DosSar(std::string_view baytlar, const DosKodu& kod);
 
 // UTF-8 to bytes of the printer. ASCII, control codes too, stays as it is; a letter that the page lacks becomes "?".

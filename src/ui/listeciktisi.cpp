@@ -3,6 +3,7 @@
 #include <QAction>
 
 #include "printing/belge.h"
+#include "printing/kolonmetni.h"
 #include "printing/rapordolgusu.h"
 #include "ui/basim.h"
 #include "ui/dclist.h"
@@ -27,12 +28,23 @@ DolguTuru Turu(dclistKolonu::Tip tip) {
   return DolguTuru::Metin;
 }
 
+// On the plain printer it is written column by column.
+class ListeKagidi final : public RaporBelgesi {
+ public:
+  using RaporBelgesi::RaporBelgesi;
+
+ private:
+  std::string MetinYap(Ilerleme* ilerleme) const override {
+    return KolonMetni(*Tablo(), Ayar(), Tarih::Bugun(), ilerleme);
+  }
+};
+
 std::shared_ptr<Belge> ListeBelgesi(dclist& liste, const QString& baslik) {
   YzcAyarlari ayar;
   ayar.YzcBaslik = Utf8(baslik);
   GrafikDuzeni grafik;
   grafik.punto = 9;
-  return std::make_shared<RaporBelgesi>(ListeRaporu(liste, baslik), ayar, grafik);
+  return std::make_shared<ListeKagidi>(ListeRaporu(liste, baslik), ayar, grafik);
 }
 
 // What is being typed belongs to the row; where it cannot stand, that is told and nothing goes out.

@@ -7,6 +7,7 @@
 #include "gecici.h"
 #include "printing/doskod.h"
 #include "printing/kayittuvali.h"
+#include "printing/kolonmetni.h"
 #include "printing/ornek.h"
 #include "printing/prnx.h"
 #include "printing/sahtekuyruk.h"
@@ -205,6 +206,26 @@ TEST(Xprn, ColumnMode) {
                               "\x9Eubat            Sayfa No : 00002     \r\n" + kolonlar + std::string(20, '\xC4') +
                               " " + std::string(9, '\xC4') + " " + std::string(8, '\xC4') + "\r\n\x12\f");
   EXPECT_FALSE(yazici.LPrn());
+}
+
+// The pages of a list: the settings choose what stands above the heads, a head that is too long breaks.
+TEST(KolonMetni, PagesOfAList) {
+  Rapor rapor({{.baslik = "Adı", .kisaBaslik = "Adı", .en = 6},
+               {.baslik = "Net Ücret", .kisaBaslik = "Net", .en = 6, .tur = KolonTuru::Tutar, .ondalik = 2},
+               {.baslik = "Gün", .kisaBaslik = "Gün", .en = 5, .tur = KolonTuru::GunAy}});
+  YzcAyarlari ayar;
+  ayar.YzcBaslik = "ÜCRETLER";
+  ayar.YzcSatir = 11;
+  const Tarih bugun(2008, 2, 29);
+  const std::string bas = "\n    ÜCRETLER\nTarih    : 29.02.2008\nSayfa No : 0000";
+  const std::string tablo = "\n     Net\nAdı  Ücret  Gün\n---- ------ -----\n\n";
+  EXPECT_EQ(KolonMetni(rapor, ayar, bugun), bas + "1\n    Net\nAdı Ücret  Gün\n--- ------ -----\n\n") << "heads alone";
+  for (int i = 0; i < 4; ++i) rapor.Ekle({{"Işıl"s, Tutar(10.5 + i), Tarih(2008, 3, 1 + i)}});
+  EXPECT_EQ(KolonMetni(rapor, ayar, bugun), bas + "1" + tablo + "Işıl  10.50 01.03\nIşıl  11.50 02.03\n" +
+                                                "Işıl  12.50 03.03\n\f" + bas + "2" + tablo + "Işıl  13.50 04.03\n");
+  ayar.YzcBaslikYaz = ayar.YzcTarihYaz = ayar.YzcSayfaNoYaz = false;
+  ayar.YzcSatir = 66;
+  EXPECT_THAT(KolonMetni(rapor, ayar, bugun), testing::StartsWith("\n\n\n" + tablo));
 }
 
 TEST(LpPortu, WithoutTheDeviceAFault) {

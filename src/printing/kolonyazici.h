@@ -1,0 +1,85 @@
+// KolonYazici: a table as a plain printer writes it: columns of fixed width, line by line. The heads, the lines and the
+// free lines at the foot of a page are counted here, and the owner is asked for head and foot by two events. It is the
+// column mode of the text printer (xprn.h), and writes the text form of the screen's lists (kolonmetni.h).
+//
+//   yazici.AddKolon({xprnTuru::Metin, "Adı", "", 20});
+//   yazici.SayfaBasi = [&](int&) { yazici.xPrnNewPage("Şubat"); };
+//   yazici.Bilgi(0, adi);
+//   yazici.LPrn();
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/tarih.h"
+#include "printing/doskod.h"
+#include "printing/rapor.h"
+#include "printing/yzcayar.h"
+
+namespace belvani {
+
+enum class xprnTuru { Metin = 0, Sayi = 1, Tarih = 2, Bos = 3, KisaTarih = 4 };
+
+// What a column starts with.
+struct xprnKolonu {
+  xprnTuru tur = xprnTuru::Metin;
+  std::string baslik1;  // second line of the heads
+  std::string baslik2;  // first line; when any column has one, the heads have two lines
+  int en = 0;           // letters
+  int ondalik = 0;
+};
+
+class KolonYazici {
+ public:
+  virtual ~KolonYazici() = default;
+
+  void AddKolon(xprnKolonu kolon);     // at most 255
+  void Bilgi(int kolon, Hucre deger);  // columns from 0; one that is not there is ignored
+  void Bilgi(int kolon, DosBicem bicem, Hucre deger);
+  Hucre Bilgi(int kolon) const;
+  void xprnOnda(int kolon, int ondalik);
+  bool LPrn();                       // the values of the columns
+  bool LPrn(std::string_view harf);  // a rule of that letter
+  void xPrnNewPage(const std::string& baslik);
+  void xPrnEndPage();
+
+  int SonSat = 0;                                   // lines kept free at the foot
+  int xprnYzcEn = 132;                              // letters of a line
+  std::function<void(int& sayfaNo)> SayfaBasi;      // must print the head, by xPrnNewPage
+  std::function<void(int& satirSayisi)> SayfaSonu;  // once a page, when only the free lines are left
+
+  int SatirSayaci() const { return satir_; }
+
+ protected:
+  KolonYazici(const YzcAyarlari& ayar, std::string unvan, std::function<Tarih()> bugun);
+  KolonYazici(const KolonYazici&) = default;
+
+  void TabloyuBirak();  // no columns, no page
+  void TabloyaBasla();  // at the first line of a page, as wide as the columns
+
+ private:
+  struct Kolon {
+    xprnKolonu tanim;
+    Hucre deger = {};
+    DosBicem bicem = DosBicem::Duz;
+  };
+
+  virtual bool SatirAlir() const = 0;                   // lines go out
+  virtual bool SatirVer(const std::string& satir) = 0;  // false: this one did not
+
+  bool SatirYaz(const std::string& satir);
+  std::string Cizgi(std::string_view harf) const;
+  void SayfaBasligi(const std::string& baslik);
+
+  const YzcAyarlari& ayar_;
+  std::string unvan_;
+  std::function<Tarih()> bugun_;
+  std::vector<Kolon> kolonlar_;
+  bool ikiSatirBaslik_ = false;
+  int sayfaNo_ = 0;
+  int satir_ = 0;
+  bool sonuSoylendi_ = false;
+};
+
+}  // namespace belvani
