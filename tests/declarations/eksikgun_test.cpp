@@ -93,6 +93,16 @@ TEST(EksikGun, WhoIsLeftOutIsNamed) {
   EXPECT_EQ(belge->Tablo()->Kolonlar()[0].Adi(), "sskno");
   d.kaynak.motor.Calistir("insert into kimlik (kod, tcno) values ('P103', '11'), ('P109', '12')");
   EXPECT_EQ(EksikGunBelgesi(d.kaynak, secim)->Eksikler(), "");
+  const std::string ayinki =
+      " from brd where yil = " + std::to_string(test::Yil) + " and ay = " + std::to_string(test::Ay);
+  for (const int kisi : {8, 9}) {
+    const std::string kodlar = "(select kod" + ayinki + " order by kod limit " + std::to_string(kisi) + ")";
+    d.kaynak.motor.Calistir("update brd set eksiksebebi = 13 where kod in " + kodlar);
+    d.kaynak.motor.Calistir("delete from kimlik where kod in " + kodlar);
+    const std::string soz = EksikGunBelgesi(d.kaynak, secim)->Eksikler();
+    EXPECT_THAT(soz, HasSubstr(" " + std::to_string(kisi) + " kişi: "));
+    EXPECT_EQ(soz.ends_with(", …"), kisi == 9) << soz;
+  }
 }
 
 TEST(EksikGun, TwentyPeopleAPage) {

@@ -87,6 +87,8 @@ void AyiGir(BordroGirisi& giris, const std::vector<GirisSatiri>& girisler) {
       if (g.deger.eksiksebebi != 0) giris.SebepSec(EksikSebepSec(g.deger.eksiksebebi));
       test::Al(giris.BorcAyarla(g.deger.borckes));
     }
+    const auto& panel = giris.Toplamlar().panel;
+    EXPECT_EQ(panel.toplam, panel.muaf + panel.indirim) << giris.Kod();
     giris.AlanaGirildi(BordroAlani::NormalGun);
     sonuc = giris.Kapat();
   }
@@ -232,6 +234,24 @@ TEST(BordroGirisi, ClosesOnlyOverCompleteDays) {
     EXPECT_EQ(e.Kayitlar(2009, 1).size(), d.sonuc == Bitti ? 1u : 0u) << d.ng;
     EXPECT_EQ(e.giris.Giris().ng, d.ng) << "what was typed stays";
     test::Al(BordroSil(e.o, 2009, 1));
+  }
+}
+
+// What tells of the days worked makes room for the missing days, and stays beside who is giving them.
+TEST(BordroGirisi, ThePanelOfTheDaysGoesWhereTheyAreMissing) {
+  Ekran e;
+  e.Kisi("1", 900, Tarih(2009, 1, 11));
+  for (const auto& [alan, kalir] : {std::pair(BordroAlani::NormalGun, false),
+                                    {BordroAlani::Yardim11, false},
+                                    {BordroAlani::EksikSebep, true},
+                                    {BordroAlani::UcretsizIzin, true}}) {
+    e.Ac(2009, 1);
+    e.giris.KodAl("1");
+    EXPECT_TRUE(e.giris.CalismaPaneli().has_value());
+    e.giris.Giris().ng = 10;
+    e.giris.AlanaGirildi(alan);
+    EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::KaldiEksikGun);
+    EXPECT_EQ(e.giris.CalismaPaneli().has_value(), kalir) << int(alan);
   }
 }
 
