@@ -110,7 +110,8 @@ class Isleyen {
       Hestoplam yeni;
       yeni.kod = satir.kod;
       yeni.*kolon.uye = satir.tutar;
-      return toplamlar_.Ekle(yeni);
+      toplamlar_.Ekle(yeni);
+      return;
     }
     const auto yaz = muhasebe_.Hazirla("update hestoplam set " + ad + " = ? where " + kimlik + " = ?");
     yaz->TamBagla(1, (Tutar::Hamdan(bul->Tam(1)) + satir.tutar).Ham());

@@ -111,6 +111,7 @@ constexpr KomutEkle Komutlar[] = {
     YedekKomutlari,      // backups, the earlier state of a month
     DenetleKomutu,       // what a store holds, mended
     PaylasKomutu,        // for whom a store is laid out
+    SunucuKomutlari,     // data on a server: lay out, grant, move
     ParametreKomutlari,  // the law's figures
     AktarimKomutlari,    // cards and lists out of files
     KisiKomutlari,       // people in bulk, and into other companies

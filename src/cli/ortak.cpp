@@ -23,10 +23,14 @@ bool StandartHata::Soru(std::string_view metin) {
   return false;
 }
 
-std::string Genel::DataPath() {
-  const std::string yol = veri.empty() ? MakineAyari("DataPath") : veri;
+std::string Genel::DataPathMetni() const {
+  std::string yol = veri.empty() ? MakineAyari("DataPath") : veri;
   if (yol.empty()) throw KomutHatasi{"Data Dizini belli değil: --veri DIZIN veriniz"};
-  auto dataPath = DataYolu(yol);
+  return yol;
+}
+
+std::string Genel::DataPath() {
+  auto dataPath = DataYolu(DataPathMetni());
   const VeriYolu yer = Degeri(dataPath);
   Basarmali(yer.Erisim());
   yer.Toparla();

@@ -40,6 +40,8 @@ struct Genel {
 
   // The data path: --veri, else the machine's setting.
   std::string DataPath();
+  // The same as it was given, before anything there is looked for.
+  std::string DataPathMetni() const;
   // The company's store, opened without login: who may read the files may work on them. One that cannot be written is
   // told and opened for reading.
   std::unique_ptr<Oturum> SirketAc(const std::string& kod, SirketErisimi erisim = SirketErisimi::Yazilir);
@@ -52,6 +54,7 @@ using KomutEkle = void (*)(CLI::App&, Genel&);
 void SirketKomutlari(CLI::App& app, Genel& genel);
 void DenetleKomutu(CLI::App& app, Genel& genel);
 void PaylasKomutu(CLI::App& app, Genel& genel);
+void SunucuKomutlari(CLI::App& app, Genel& genel);
 void YedekKomutlari(CLI::App& app, Genel& genel);
 void ParametreKomutlari(CLI::App& app, Genel& genel);
 void AktarimKomutlari(CLI::App& app, Genel& genel);

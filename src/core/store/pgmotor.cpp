@@ -95,13 +95,18 @@ std::unique_ptr<Komut> PgMotor::TetiksizHazirla(std::string_view sql) {
 }
 
 std::unique_ptr<SatirYazici> PgMotor::SatirYaziciAc(const YazilanKolonlar& kolonlar, YazmaTuru tur) {
-  auto yazici = std::make_unique<PgYazici>(*this, kolonlar, tur);
-  yazicilar_.insert(yazici.get());
-  return yazici;
+  tamponlar_.push_back(std::make_shared<PgTampon>(*this, kolonlar, tur));
+  return std::make_unique<PgYazici>(tamponlar_.back());
 }
 
 void PgMotor::Bosalt() {
-  for (PgYazici* yazici : yazicilar_) yazici->Bosalt();
+  for (const auto& tampon : tamponlar_) tampon->Bosalt();
+  std::erase_if(tamponlar_, [](const auto& tampon) { return tampon.use_count() == 1; });
+}
+
+void PgMotor::TamponlariBirak() {
+  for (const auto& tampon : tamponlar_) tampon->Birak();
+  std::erase_if(tamponlar_, [](const auto& tampon) { return tampon.use_count() == 1; });
 }
 
 void PgMotor::Bitir() {
@@ -212,7 +217,7 @@ void PgMotor::IslemOnayla() {
 }
 
 void PgMotor::IslemGeriAl() noexcept {
-  for (PgYazici* yazici : yazicilar_) yazici->Birak();
+  TamponlariBirak();
   b_->SirayiBirak();
   for (auto& [tablo, n] : numaralar_) n.istenen.reset();
   if (islemde_ && !b_->KoptuMu()) {
@@ -237,7 +242,7 @@ void PgMotor::AraNoktaBirak() {
 
 // What stood in the row before the place has to happen all the same.
 void PgMotor::AraNoktayaDon() noexcept {
-  for (PgYazici* yazici : yazicilar_) yazici->Birak();
+  TamponlariBirak();
   try {
     b_->Bitir();
   } catch (const MotorHatasi&) {

@@ -8,14 +8,13 @@
 #include <deque>
 #include <functional>
 #include <map>
-#include <set>
 
 #include "core/store/pgkatalog.h"
 #include "core/sunucuadresi.h"
 
 namespace belvani {
 
-class PgYazici;
+class PgTampon;
 
 class PgMotor final : public Motor {
  public:
@@ -74,7 +73,6 @@ class PgMotor final : public Motor {
     ++yazma_;
     degisti_ = true;
   }
-  void YaziciBitti(PgYazici* yazici) { yazicilar_.erase(yazici); }
   bool Yazilabilir();
 
  private:
@@ -88,6 +86,7 @@ class PgMotor final : public Motor {
   void KapiyiTut();
   void BaglantiyiSagla();
   void Bosalt();
+  void TamponlariBirak();
   void Kur(const std::vector<std::string>& komutlar);
   std::vector<std::string> OzetKomutlari() const;
   void NumaraIste(const std::string& tablo, Numaralar& n);
@@ -100,7 +99,7 @@ class PgMotor final : public Motor {
   std::unique_ptr<PgBaglanti> b_;
   std::int64_t sirketNo_ = 0;
   std::unique_ptr<PgKatalog> katalog_;
-  std::set<PgYazici*> yazicilar_;
+  std::vector<std::shared_ptr<PgTampon>> tamponlar_;
   std::map<std::string, Numaralar> numaralar_;
   std::shared_ptr<PgYanit> sonYazma_;   // of the last write
   std::shared_ptr<PgYanit> sonEkleme_;  // of the last insert, with the number in its row

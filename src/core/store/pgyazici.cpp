@@ -48,7 +48,7 @@ std::string Virgullu(const std::vector<std::string>& adlar) {
 
 }  // namespace
 
-PgYazici::PgYazici(PgMotor& motor, const YazilanKolonlar& kolonlar, YazmaTuru tur)
+PgTampon::PgTampon(PgMotor& motor, const YazilanKolonlar& kolonlar, YazmaTuru tur)
     : motor_(motor), tablo_(kolonlar.tablo), duran_(kolonlar.duran), tur_(tur), tetiksiz_(kolonlar.tetiksiz) {
   const PgTablosu* tablo = motor.Katalog().Bul(tablo_);
   if (tablo == nullptr) throw MotorHatasi(MotorKusuru::Diger, "Tablo yok: " + tablo_);
@@ -69,7 +69,7 @@ PgYazici::PgYazici(PgMotor& motor, const YazilanKolonlar& kolonlar, YazmaTuru tu
   degerler_.resize(adlar_.size());
 }
 
-void PgYazici::MetinBagla(int no, std::string_view d) {
+void PgTampon::MetinKoy(int no, std::string_view d) {
   Deger& yer = Yer(no);
   const std::string_view metin = PgMetni(d);
   if (auto* eski = std::get_if<std::string>(&yer))
@@ -78,7 +78,7 @@ void PgYazici::MetinBagla(int no, std::string_view d) {
     yer = std::string(metin);
 }
 
-std::int64_t PgYazici::Yaz(std::int64_t kimlik) {
+std::int64_t PgTampon::Yaz(std::int64_t kimlik) {
   if (!motor_.IslemdeMi()) {
     Islem islem(motor_);
     const std::int64_t yazilan = Yaz(kimlik);
@@ -108,7 +108,7 @@ std::int64_t PgYazici::Yaz(std::int64_t kimlik) {
   return no;
 }
 
-void PgYazici::KopyayaEkle(const Satir& satir) {
+void PgTampon::KopyayaEkle(const Satir& satir) {
   if (kopya_.back().size() > KopyaParcasi) kopya_.emplace_back();
   PgKopyaSatiri yazan(kopya_.back());
   const bool numarali = tur_ != YazmaTuru::Koy;
@@ -117,13 +117,13 @@ void PgYazici::KopyayaEkle(const Satir& satir) {
   for (std::size_t i = 0; i < adlar_.size(); ++i) Alan(yazan, tipler_[i], satir.degerler[i]);
 }
 
-void PgYazici::Birak() {
+void PgTampon::Birak() {
   azlar_.clear();
   kopya_.clear();
   kimlikler_.clear();
 }
 
-void PgYazici::Bosalt() {
+void PgTampon::Bosalt() {
   if (kimlikler_.empty()) return;
   PgBaglanti& b = motor_.Baglanti();
   if (tetiksiz_) b.Sirala(TetikleriKapat);
@@ -133,7 +133,7 @@ void PgYazici::Bosalt() {
 }
 
 // $1 is the row's number, or the first column that is it; the others follow in their order.
-std::string PgYazici::TekMetni() const {
+std::string PgTampon::TekMetni() const {
   std::string sorular, atamalar;
   const bool numarali = tur_ != YazmaTuru::Koy;
   if (numarali) sorular = "$1";
@@ -155,20 +155,20 @@ std::string PgYazici::TekMetni() const {
   return {};
 }
 
-std::vector<PgParametre> PgYazici::Parametreler(const Satir& satir) const {
+std::vector<PgParametre> PgTampon::Parametreler(const Satir& satir) const {
   std::vector<PgParametre> parametreler;
   if (tur_ != YazmaTuru::Koy) parametreler.push_back(PgParametre::Tam(satir.kimlik));
   for (const Deger& d : satir.degerler) parametreler.push_back(Parametre(d));
   return parametreler;
 }
 
-void PgYazici::TekTekGonder() {
+void PgTampon::TekTekGonder() {
   const std::string sql = TekMetni();
   for (const Satir& satir : azlar_) motor_.Baglanti().Sirala(sql, Parametreler(satir));
 }
 
 // A row that is changed goes and comes anew with its number, all of it: that is many times faster than changing it.
-void PgYazici::TopluGonder() {
+void PgTampon::TopluGonder() {
   PgBaglanti& b = motor_.Baglanti();
   if (tur_ != YazmaTuru::Ekle) {
     std::string liste;

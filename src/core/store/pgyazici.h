@@ -8,20 +8,14 @@
 
 namespace belvani {
 
-class PgYazici final : public SatirYazici {
+// What is gathered; the engine has it too, so that it outlives the writer.
+class PgTampon {
  public:
-  PgYazici(PgMotor& motor, const YazilanKolonlar& kolonlar, YazmaTuru tur);
-  ~PgYazici() override { motor_.YaziciBitti(this); }
-  PgYazici(const PgYazici&) = delete;
-  PgYazici& operator=(const PgYazici&) = delete;
+  PgTampon(PgMotor& motor, const YazilanKolonlar& kolonlar, YazmaTuru tur);
 
-  void NullBagla(int no) override { Yer(no) = Null{}; }
-  void TamBagla(int no, std::int64_t d) override { Yer(no) = d; }
-  void SayiBagla(int no, double d) override { Yer(no) = d; }
-  void MetinBagla(int no, std::string_view d) override;
-  void BaytBagla(int no, const Baytlar& d) override { Yer(no) = d; }
-
-  std::int64_t Yaz(std::int64_t kimlik) override;
+  Deger& Yer(int no) { return degerler_[std::size_t(no) - 1]; }
+  void MetinKoy(int no, std::string_view d);
+  std::int64_t Yaz(std::int64_t kimlik);
 
   // Into the row of the connection, or as a copy.
   void Bosalt();
@@ -33,7 +27,6 @@ class PgYazici final : public SatirYazici {
     std::vector<Deger> degerler;
   };
 
-  Deger& Yer(int no) { return degerler_[std::size_t(no) - 1]; }
   void KopyayaEkle(const Satir& satir);
   void TekTekGonder();
   void TopluGonder();
@@ -53,6 +46,21 @@ class PgYazici final : public SatirYazici {
   std::vector<Satir> azlar_;        // as long as they are few
   std::vector<std::string> kopya_;  // pieces of the copy
   std::unordered_set<std::int64_t> kimlikler_;
+};
+
+class PgYazici final : public SatirYazici {
+ public:
+  explicit PgYazici(std::shared_ptr<PgTampon> tampon) : tampon_(std::move(tampon)) {}
+
+  void NullBagla(int no) override { tampon_->Yer(no) = Null{}; }
+  void TamBagla(int no, std::int64_t d) override { tampon_->Yer(no) = d; }
+  void SayiBagla(int no, double d) override { tampon_->Yer(no) = d; }
+  void MetinBagla(int no, std::string_view d) override { tampon_->MetinKoy(no, d); }
+  void BaytBagla(int no, const Baytlar& d) override { tampon_->Yer(no) = d; }
+  std::int64_t Yaz(std::int64_t kimlik) override { return tampon_->Yaz(kimlik); }
+
+ private:
+  std::shared_ptr<PgTampon> tampon_;
 };
 
 }  // namespace belvani

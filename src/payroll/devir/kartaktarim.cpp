@@ -73,7 +73,10 @@ class KartYazici {
 
   void Kaydet(const std::optional<Brd>& eski, const Brd& b) {
     if (saklanan_.insert({b.yil, b.ay}).second) AyiSakla(motor_, b.yil, b.ay, AlinmadanOnce);
-    eski ? yazici_.Degistir(b, b.oto) : yazici_.Ekle(b);
+    if (eski)
+      yazici_.Degistir(b, b.oto);
+    else
+      yazici_.Ekle(b);
   }
 
   Motor& motor_;

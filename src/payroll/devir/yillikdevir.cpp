@@ -65,7 +65,10 @@ class DevirYazici {
 
   // A row that says the same already is left alone.
   void Yaz(const DevredenKisi& kisi) {
-    if (!kisi.satir) return yazici_.Ekle(YeniSatir(kisi));
+    if (!kisi.satir) {
+      yazici_.Ekle(YeniSatir(kisi));
+      return;
+    }
     if (kisi.eski == kisi.toplam) return;
     int no = 0;
     for (const Tutar tutar : {kisi.toplam.gvmatrah, kisi.toplam.gvtutar, kisi.toplam.issizlik})
