@@ -4,7 +4,7 @@
 set -eu
 
 paketler="g++ make cmake ninja-build ccache pkg-config libsqlite3-dev libicu-dev libcurl4-openssl-dev
-  libxlsxwriter-dev libzip-dev libpugixml-dev libxxhash-dev
+  libxlsxwriter-dev libzip-dev libpugixml-dev libxxhash-dev libpq-dev postgresql
   nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev librapidcheck-dev
   libcairo2-dev libcups2-dev cups-daemon poppler-utils
   qt6-base-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n fonts-dejavu-core xvfb xdotool sqlite3 locales"
@@ -23,5 +23,15 @@ onde=""
 [ "$(id -u)" = 0 ] || onde="sudo"
 echo "Installing:$eksik"
 $onde env DEBIAN_FRONTEND=noninteractive apt-get update -qq
+
+# The tests start a server of their own: installing its programs shall not set up and start one of the computer's.
+ayar=/etc/postgresql-common/createcluster.d/belvani-deps.conf
+case " $eksik " in
+  *" postgresql "*)
+    trap '$onde rm -f "$ayar"' EXIT
+    $onde mkdir -p "${ayar%/*}"
+    echo 'create_main_cluster = false' | $onde tee "$ayar" >/dev/null
+    ;;
+esac
 # shellcheck disable=SC2086
 $onde env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $eksik
