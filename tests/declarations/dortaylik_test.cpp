@@ -134,7 +134,7 @@ TEST(DortAylik, SumsAreThoseOfTheRecords) {
       firma.paraonda = 2;
       const YasalParametreler yasal;
       const auto belge =
-          DortAylikBelgesi({.motor = s.motor, .yasal = yasal, .firma = firma, .sirket = s.dizin.Yol()}, secim);
+          DortAylikBelgesi({.motor = s.motor, .yasal = yasal, .firma = firma, .sirket = s.sirket}, secim);
       const auto toplam = belge->Tablo()->Toplam();
       const auto sayfalar = DortAylikSayfalari(kagit);
       const DonemAylari dahil = DortAylikBol(kagit.satirlar).back().dahil;

@@ -41,7 +41,7 @@ TEST(EksikGun, DailyEarnings) {
 struct EksikDepo : test::DoluDepo {
   YasalParametreler yasal;
   Firma firma;
-  BelgeKaynagi kaynak{.motor = db.IcMotor(), .yasal = yasal, .firma = firma, .sirket = dizin.Yol()};
+  BelgeKaynagi kaynak{.motor = db.IcMotor(), .yasal = yasal, .firma = firma, .sirket = sirket};
 
   explicit EksikDepo(unsigned tohum) : DoluDepo(tohum, 60) {
     yasal.oranlar.SskTaban = Tutar(693.0);

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "core/dosya.h"
-#include "gecici.h"
+#include "core/veriyolu.h"
+#include "veriyeri.h"
 
 namespace belvani {
 namespace {
@@ -26,13 +26,14 @@ TEST(DefterAyari, ReadsTheFile) {
       {"sizes that are none", "[Bordro]\nBrdfont=\nBrdfsize=büyük\n", "1110011011111101100101", "tahoma", 7},
       {"a size beyond reason", "[Bordro]\nBrdfsize=99999999999\n", "1110011011111101100101", "tahoma", 7},
   };
-  const test::GeciciDizin dizin;
-  const std::string dosya = dizin.Yol() + "bordro.ini";
-  EXPECT_EQ(DefterAyariOku(dizin.Yol()), DefterAyari{});
+  const test::VeriYeri yer;
+  const VeriYolu sirket(yer.Yer() + "DENEME/");
+  ASSERT_TRUE(sirket.Yarat());
+  EXPECT_EQ(DefterAyariOku(sirket), DefterAyari{});
   for (const auto& o : ornekler) {
     SCOPED_TRACE(o.ad);
-    ASSERT_TRUE(DosyaYaz(dosya, o.icerik));
-    const DefterAyari ayar = DefterAyariOku(dizin.Yol());
+    ASSERT_TRUE(sirket.Yaz("bordro.ini", o.icerik));
+    const DefterAyari ayar = DefterAyariOku(sirket);
     EXPECT_EQ(DefterAnahtarMetni(ayar.kolonlar), o.kolonlar);
     EXPECT_EQ(ayar.yaziTipi, o.yaziTipi);
     EXPECT_EQ(ayar.punto, o.punto);
@@ -40,14 +41,14 @@ TEST(DefterAyari, ReadsTheFile) {
 }
 
 TEST(DefterAyari, WhatIsWrittenIsReadBack) {
-  const test::GeciciDizin dizin;
-  const std::string dosya = dizin.Yol() + "bordro.ini";
-  ASSERT_TRUE(DosyaYaz(dosya, "[Ozel]\nKalan=1\n"));
+  const test::VeriYeri yer;
+  const VeriYolu sirket(yer.Yer() + "DENEME/");
+  ASSERT_TRUE(sirket.Yarat() && sirket.Yaz("bordro.ini", "[Ozel]\nKalan=1\n"));
   const DefterAyari ayar{.kolonlar = DefterAnahtarlariOku("0110"), .yaziTipi = "Çizgi Sans", .punto = 12};
-  ASSERT_TRUE(DefterAyariYaz(ayar, dizin.Yol()));
-  EXPECT_EQ(DefterAyariOku(dizin.Yol()), ayar);
-  EXPECT_NE(DosyaOku(dosya)->find("Kalan=1"), std::string::npos);
-  EXPECT_FALSE(DefterAyariYaz(ayar, dizin.Yol() + "yok"));
+  ASSERT_TRUE(DefterAyariYaz(ayar, sirket));
+  EXPECT_EQ(DefterAyariOku(sirket), ayar);
+  EXPECT_NE(sirket.Oku("bordro.ini")->find("Kalan=1"), std::string::npos);
+  EXPECT_FALSE(DefterAyariYaz(ayar, yer.Yer() + "YOK/"));
 }
 
 }  // namespace

@@ -119,7 +119,7 @@ TEST(Hedefler, EveryPaperHasTheSameAmountsOnEveryRoad) {
     yasal.oranlar.AsgariUcret = Tutar(638.7);
     Firma firma;
     firma.paraonda = 2;
-    const BelgeKaynagi kaynak{.motor = depo.db.IcMotor(), .yasal = yasal, .firma = firma, .sirket = depo.dizin.Yol()};
+    const BelgeKaynagi kaynak{.motor = depo.db.IcMotor(), .yasal = yasal, .firma = firma, .sirket = depo.sirket};
     DefterSecim secim;
     secim.yil = Yil;
     secim.ay = Ay;

@@ -15,7 +15,7 @@ namespace belvani::test {
 struct BildirimTesti : testing::Test, OrnekDepo {
   YasalParametreler yasal;
   Firma firma;
-  BelgeKaynagi kaynak{.motor = db.IcMotor(), .yasal = yasal, .firma = firma, .sirket = dizin.Yol()};
+  BelgeKaynagi kaynak{.motor = db.IcMotor(), .yasal = yasal, .firma = firma, .sirket = sirket};
 
   BildirimTesti() {
     firma.unvan = "Şık Örgü Ltd. Şti.";

@@ -25,7 +25,7 @@ struct Belgelik {
   test::DoluDepo depo{20080701, 30};
   YasalParametreler yasal;
   Firma firma;
-  BelgeKaynagi kaynak{.motor = depo.db.IcMotor(), .yasal = yasal, .firma = firma, .sirket = depo.dizin.Yol()};
+  BelgeKaynagi kaynak{.motor = depo.db.IcMotor(), .yasal = yasal, .firma = firma, .sirket = depo.sirket};
 
   Belgelik() {
     firma.unvan = "Çınar Tekstil";

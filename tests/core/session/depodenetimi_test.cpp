@@ -29,6 +29,7 @@ TEST_F(DepoDenetimi, NewAndFullStoresAreSound) {
 }
 
 TEST_F(DepoDenetimi, EveryDamageIsNamedOnce) {
+  YALNIZ_DIZINDE("a server's columns take values of their type alone");
   Sql("insert into sicil (kod, ucret, girtar, agi) values ('1', 'çok', '2009-02-29', 2), ('2', 1.5, 'dün', 0),"
       "('3', 5, '2009-1-1', null)");
   Sql("insert into kimlik (kod, cins) values ('1', 256)");

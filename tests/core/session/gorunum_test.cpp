@@ -91,7 +91,9 @@ TEST_F(GorunumTest, ColourTableIsWrittenWhereItCanBe) {
 }
 
 TEST_F(GorunumTest, WorkstationFile) {
-  o.FirmaDizini = d.Yol();
+  const VeriYolu sirket(veriYeri.Yer() + "DENEME/");
+  ASSERT_TRUE(sirket.Yarat());
+  o.FirmaDizini = sirket.Adres();
   o.PrgPath = "/prg/";
   o.BilgisayarAdi = "masa.ofis";
   GorunumAyari a;
@@ -100,8 +102,7 @@ TEST_F(GorunumTest, WorkstationFile) {
   a = {"&H00112233&", false, "/ev/şık.jpg", "&H00FFFFFF&", "image/yeni/", false, false, "&H1&", "&H2&", "Arial", 14};
   ASSERT_TRUE(GorunumYaz(o, a));
   EXPECT_EQ(GorunumOku(o), a);
-  EXPECT_TRUE(
-      DosyaOku(d.Yol() + "masa.ofis.dat")->starts_with("[gorunum]\r\nbackcolor=&H00112233&\r\nbackresimvarmi=0"));
+  EXPECT_TRUE(sirket.Oku("masa.ofis.dat")->starts_with("[gorunum]\r\nbackcolor=&H00112233&\r\nbackresimvarmi=0"));
   // What cannot be reads as the default.
   for (const auto& [anahtar, deger] : Tablo<const char*, const char*>{
            {"imagepath", "image/../../etc"}, {"labelfontsize", "-3"}, {"backcolor", "mavi"}})
@@ -109,7 +110,7 @@ TEST_F(GorunumTest, WorkstationFile) {
   EXPECT_EQ(GorunumOku(o).imagepath + GorunumOku(o).backcolor, "image/soft/&H00ECFAE4&");
   EXPECT_EQ(GorunumOku(o).labelfontsize, 10);
   o.BilgisayarAdi = "TOLU";  // a computer named like the store must not write into it
-  EXPECT_EQ(IstasyonDosyasi(o).Adres(), d.Yol() + "bilgisayar-TOLU.dat");
+  EXPECT_EQ(IstasyonDosyasi(o).Adres(), sirket.Adres("bilgisayar-TOLU.dat"));
 }
 
 TEST_F(GorunumTest, FontsAndColourTexts) {

@@ -2,6 +2,7 @@
 #include "core/session/kullanicilar.h"
 
 #include "core/session/ornekoturum.h"
+#include "core/store/engel.h"
 #include "core/tablo.h"
 
 namespace belvani {
@@ -42,7 +43,7 @@ TEST_F(KullanicilarTest, Saving) {
       EXPECT_EQ(std::string(kaydedilen.Kusuru().alan.ad) + ": " + kaydedilen.KusurMetni(), sonuc);
   }
   EXPECT_EQ(Kullanicilar(o), (std::vector<Peruser>{{"' or 1=1", "x", true}, {"Ali", "x", true}, {"Ayşe", "", true}}));
-  Sql("create trigger t before update on peruser begin select raise(abort, 'x'); end");
+  test::Engelle(o.depo.db.IcMotor(), "update", "peruser");
   const auto yazilamayan = KullaniciKaydet(o, {"ali", "x", "y", "y"});
   ASSERT_FALSE(yazilamayan);
   EXPECT_EQ(yazilamayan.KusurMetni(), "Kullanıcı Tanımları Yazılamıyor");

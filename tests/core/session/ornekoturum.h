@@ -1,4 +1,4 @@
-// A session with settings and companies in a directory of the test.
+// A session with settings in a directory of the test, and companies in its data path.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,17 +7,19 @@
 #include "core/ortam.h"
 #include "core/session/oturum.h"
 #include "gecici.h"
+#include "veriyeri.h"
 
 namespace belvani::test {
 
 struct OrnekOturum : testing::Test {
   GeciciDizin d;
+  VeriYeri veriYeri{d.Yol() + "veri/"};
   Sonunda makine = OrtamKoy("BELVANI_MAKINE_AYAR", (d.Yol() + "makine.ini").c_str());
   Sonunda kullanici = OrtamKoy("BELVANI_KULLANICI_DIZIN", (d.Yol() + "ayar").c_str());
   ToplayanBildirim b;
   Oturum o;
 
-  OrnekOturum() { o.DataPath = d.Yol() + "veri/"; }
+  OrnekOturum() { o.DataPath = veriYeri.Yer(); }
 
   // A new company, open, with the administrator Ayşe.
   void Kur(const char* ad = "deneme") {

@@ -1,6 +1,6 @@
 // Damaged store files: data or a refusal in words, never a crash and never a run without end.
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
+#include <rapidcheck.h>
 
 #include "core/dosya.h"
 #include "core/store/ornekdepo.h"
@@ -105,27 +105,41 @@ std::string Boz(std::string icerik) {
   return icerik;
 }
 
-RC_GTEST_PROP(BozukDepo, BytesOverwritten, ()) {
-  for (int i = 0; i < 4; ++i) YazVeKullan(Boz(SaglamDepo()));
+constexpr const char* DosyaninBaytlari = "the bytes of its file";
+
+TEST(BozukDepo, BytesOverwritten) {
+  YALNIZ_DIZINDE(DosyaninBaytlari);
+  EXPECT_TRUE(rc::check([] {
+    for (int i = 0; i < 4; ++i) YazVeKullan(Boz(SaglamDepo()));
+  }));
 }
 
-RC_GTEST_PROP(BozukDepo, CutAnywhere, ()) {
-  YazVeKullan(SaglamDepo().substr(0, *rc::gen::inRange<std::size_t>(0, SaglamDepo().size())));
+TEST(BozukDepo, CutAnywhere) {
+  YALNIZ_DIZINDE(DosyaninBaytlari);
+  EXPECT_TRUE(
+      rc::check([] { YazVeKullan(SaglamDepo().substr(0, *rc::gen::inRange<std::size_t>(0, SaglamDepo().size()))); }));
 }
 
-RC_GTEST_PROP(BozukDepo, NoStoreAtAll, (const std::string& cop)) {
-  YazVeKullan(cop);
-  YazVeKullan("SQLite format 3" + std::string(1, '\0') + cop);
+TEST(BozukDepo, NoStoreAtAll) {
+  YALNIZ_DIZINDE(DosyaninBaytlari);
+  EXPECT_TRUE(rc::check([](const std::string& cop) {
+    YazVeKullan(cop);
+    YazVeKullan("SQLite format 3" + std::string(1, '\0') + cop);
+  }));
 }
 
-RC_GTEST_PROP(BozukDepo, GarbageBesideAGoodStore, (const std::string& cop)) {
-  const std::string wal = *rc::gen::oneOf(rc::gen::just(cop + "x"), rc::gen::just("\x37\x7f\x06\x82" + cop),
-                                          rc::gen::just(std::string(8192, '\xFF') + cop));
-  YazVeKullan(SaglamDepo(), wal);
+TEST(BozukDepo, GarbageBesideAGoodStore) {
+  YALNIZ_DIZINDE(DosyaninBaytlari);
+  EXPECT_TRUE(rc::check([](const std::string& cop) {
+    const std::string wal = *rc::gen::oneOf(rc::gen::just(cop + "x"), rc::gen::just("\x37\x7f\x06\x82" + cop),
+                                            rc::gen::just(std::string(8192, '\xFF') + cop));
+    YazVeKullan(SaglamDepo(), wal);
+  }));
 }
 
 // A key changed in the index, so that its order is broken: a run could turn back there and never end.
 TEST(BozukDepo, IndexThatLeadsBackEndsTheRun) {
+  YALNIZ_DIZINDE(DosyaninBaytlari);
   const GeciciDizin d;
   const std::string yol = d.Yol() + "tolu.dat";
   int geriDonen = 0;

@@ -110,7 +110,8 @@ TYPED_TEST(Kolonlar, WrittenAndReadBothWays) {
     ASSERT_TRUE(d.db.DbAc(d.yol));
     TabloImleci rs(d.db, TypeParam::TabloAdi);
     ASSERT_EQ(rs.KayitSayisi(), int(std::size(Ornekler)));
-    const auto kayitlar = KayitlariOku<TypeParam>(d.db.IcMotor(), "order by rowid");
+    const auto kayitlar =
+        KayitlariOku<TypeParam>(d.db.IcMotor(), "order by " + d.db.IcMotor().KimlikKolonu(TypeParam::TabloAdi));
     for (const Ornek o : Ornekler) {
       EXPECT_EQ(kayitlar.at(std::size_t(o)), KayitYap<TypeParam>(o)) << int(o);
       auto deger = [d2 = Degerler<TypeParam>(o), i = std::size_t(0)]() mutable { return d2[i++]; };
@@ -223,6 +224,7 @@ TEST(KayitYazici, LeavesTheAutomaticNumberToTheStore) {
 
 // A hand has been in the file: what is no value of its field's type reads as nothing, both ways alike.
 TEST(AlanOku, StrayValuesOfABrokenStore) {
+  YALNIZ_DIZINDE("a server's columns take values of their type alone");
   OrnekDepo d;
   d.db.IcMotor().Calistir(
       "insert into brd (ay, yil, brdkanun, kod, fm1) values (300, -99999, 1 << 40, x'4142', 'on');"

@@ -1,20 +1,22 @@
-// A store with all tables of the schema, in a directory of its own.
+// A store with all tables of the schema, in a data path of its own.
 #pragma once
 
 #include "core/store/imlec.h"
 #include "core/store/satirlar.h"
 #include "core/tables/tablolar.h"
-#include "gecici.h"
+#include "core/veriyolu.h"
+#include "veriyeri.h"
 
 namespace belvani::test {
 
 struct OrnekDepo {
-  GeciciDizin dizin;
-  std::string yol = dizin.Yol() + "tolu.dat";
+  VeriYeri veriYeri;
+  std::string sirket = veriYeri.Yer() + "DENEME/";
+  std::string yol = sirket + "tolu.dat";
   Veritabani db;
 
   OrnekDepo() {
-    bool tamam = db.DbYarat(yol);
+    bool tamam = VeriYolu(sirket).Yarat() && db.DbYarat(yol);
     for (const auto& tablo : Tablolar()) {
       tamam = tamam && db.TabloEkle(tablo);
       for (const auto& alan : tablo.alanlar)

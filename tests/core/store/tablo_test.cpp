@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/store/engel.h"
 #include "core/store/ornekdepo.h"
 
 namespace belvani {
@@ -22,7 +23,7 @@ std::string_view Buyuk(std::string_view, std::string_view alan) {
   return alan == "adi" ? "Adı" : alan == "ucret" ? "Ücreti" : alan;
 }
 
-// Two handles on one file, as two computers have them.
+// Two handles on one store, as two computers have them.
 struct IkiMotor : testing::Test {
   OrnekDepo d;
   std::unique_ptr<Motor> obur = MotorAc(d.yol);
@@ -196,7 +197,7 @@ TEST(Tablo, NeighboursInTurkishOrder) {
 TEST(Tablo, ARefusedEngineRaisesAndLeavesNoTransactionOpen) {
   OrnekDepo d;
   Tablo<Sicil> kartlar(d.db.IcMotor());
-  d.db.IcMotor().Calistir("create trigger t before insert on sicil begin select raise(abort, 'x'); end");
+  test::Engelle(d.db.IcMotor(), "insert", "sicil");
   EXPECT_THROW((void)kartlar.Yaz({.simdi = Kart("1")}), MotorHatasi);
   EXPECT_FALSE(d.db.IcMotor().IslemdeMi());
 }

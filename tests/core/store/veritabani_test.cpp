@@ -28,6 +28,7 @@ mode_t Izin(const std::string& yol) {
 }
 
 TEST(Veritabani, OpenToOwnerAndGroupWhateverTheUmask) {
+  YALNIZ_DIZINDE("permissions of files");
   for (const mode_t maske : {0, 022, 0777}) {
     const GeciciDizin d;
     const mode_t eski = ::umask(maske);
@@ -40,6 +41,7 @@ TEST(Veritabani, OpenToOwnerAndGroupWhateverTheUmask) {
 }
 
 TEST(Veritabani, WhatCannotBeOpenedOrMade) {
+  YALNIZ_DIZINDE("what else may stand under a store's name");
   const GeciciDizin d;
   ASSERT_TRUE(DosyaYaz(d.Yol() + "cop", std::string(5000, 'x')) && DizinYarat(d.Yol() + "dizin"));
   const std::string acilamadi = "Veritabanı dosyası açılamadı [";
@@ -64,6 +66,7 @@ TEST(Veritabani, WhatCannotBeOpenedOrMade) {
 
 // Data can still be read; every write is refused in words. Permissions do not bind root, so another user tries.
 TEST(Veritabani, StoreThatMayNotBeWritten) {
+  YALNIZ_DIZINDE("permissions of files");
   OrnekDepo d;
   d.db.IcMotor().Calistir("insert into sicil (kod) values ('1')");
   d.db.DbKapat();
@@ -75,19 +78,21 @@ TEST(Veritabani, StoreThatMayNotBeWritten) {
     if (Ileri(rs, "kod") != Metinler{"1"} || Ekle(rs, {{"kod", std::string("2")}})) return 2;
     return db.SonHata().starts_with("Veritabanına yazma izni yok [") ? 0 : 3;
   };
+  ::chmod(d.veriYeri.Yer().c_str(), 0755);
   for (const mode_t dizinIzni : {0777, 0555}) {
-    ASSERT_EQ(::chmod(d.yol.c_str(), 0444) | ::chmod(d.dizin.Yol().c_str(), dizinIzni), 0);
+    ASSERT_EQ(::chmod(d.yol.c_str(), 0444) | ::chmod(d.sirket.c_str(), dizinIzni), 0);
     EXPECT_EQ(test::Surec(dene).Bekle(), 0) << dizinIzni;
   }
-  ::chmod(d.dizin.Yol().c_str(), 0700);
+  ::chmod(d.sirket.c_str(), 0700);
 }
 
 // A field that only a later store has: not there to read, passed over when written.
 TEST(Veritabani, TablesAndFields) {
-  const GeciciDizin d;
+  const test::VeriYeri yer;
+  const VeriYolu sirket(yer.Yer() + "DENEME/");
   const TabloTanimi& sicil = *TabloBul("sicil");
   Veritabani db;
-  ASSERT_TRUE(db.DbYarat(d.Yol() + "tolu.dat") && db.TabloEkle(sicil));
+  ASSERT_TRUE(sirket.Yarat() && db.DbYarat(sirket.Adres("tolu.dat")) && db.TabloEkle(sicil));
   TabloImleci rs(db, "sicil");
   EXPECT_TRUE(Ekle(rs, {{"kod", std::string("1")}, {"meslekkod", std::string("2341.01")}}) && rs.IlkKayit());
   EXPECT_EQ(rs.AlanOku("meslekkod"), Deger(I(1)));
@@ -198,6 +203,7 @@ void BaskaSiraylaYaz(const std::string& yol, const std::string& surum) {
 }
 
 TEST(Veritabani, IndexesFollowTheAlphabetsVersion) {
+  YALNIZ_DIZINDE("the version a file is stamped with");
   for (const auto& [surum, yenilenir] : Tablo<const char*, bool>{
            {"", false}, {"pragma user_version=7", true}, {"pragma user_version=7; pragma application_id=1", false}}) {
     SCOPED_TRACE(surum);

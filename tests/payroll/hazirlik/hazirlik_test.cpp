@@ -251,7 +251,7 @@ TEST(Surecler, TwoPreparingTheSameMonthNeitherFailNorDoubleARow) {
   sirket.o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
   for (int kez = 0; kez < 3; ++kez) {
     std::vector<test::Surec> surecler;
-    for (int i = 0; i < 3; ++i) surecler.emplace_back([&] { return AyriHazirla(sirket.dizin.Yol(), 1); });
+    for (int i = 0; i < 3; ++i) surecler.emplace_back([&] { return AyriHazirla(sirket.o.DataPath, 1); });
     for (auto& s : surecler) EXPECT_EQ(s.Bekle(), 0);
   }
   ASSERT_TRUE(SirketAc(sirket.o, "DENEME", sirket.bildirim));
@@ -266,7 +266,7 @@ TEST(Surecler, KilledAtAnyMomentTheMonthIsThereWholeOrNotAtAll) {
   int butun = 0;
   for (int ay = 1; ay <= 12; ++ay) {
     sirket.o.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
-    test::Surec surec([&] { return AyriHazirla(sirket.dizin.Yol(), ay); });
+    test::Surec surec([&] { return AyriHazirla(sirket.o.DataPath, ay); });
     std::this_thread::sleep_for(std::chrono::milliseconds(rastgele() % 90));
     surec.Oldur();
     ASSERT_TRUE(SirketAc(sirket.o, "DENEME", sirket.bildirim));

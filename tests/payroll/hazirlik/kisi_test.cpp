@@ -143,7 +143,7 @@ TEST(KazancGruplari, SeedTheDefaultOnceAndThenLiveInTheStore) {
 
 TEST(Kosullar, TellWhatIsMissing) {
   Sirket sirket;
-  EXPECT_THAT(YasalParametreleriAl(sirket.dizin.Yol()).KusurMetni(), testing::HasSubstr("yasal2.dat yok ya da boş"));
+  EXPECT_THAT(YasalParametreleriAl(sirket.o.DataPath).KusurMetni(), testing::HasSubstr("yasal2.dat yok ya da boş"));
   const YasalParametreler yasal = test::Yasal(2009, 1);
   sirket.motor().Calistir("update firma set issaati = 0, tehlike = 2, sinif = 6, tersfirma = 1");
   const Kosullar k = test::Al(KosullariYukle(sirket.o, yasal, 2009, 1));

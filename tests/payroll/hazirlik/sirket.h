@@ -9,6 +9,7 @@
 #include "gecici.h"
 #include "payroll/hazirlik/hazirlik.h"
 #include "payroll/parametre/mevzuat.h"
+#include "veriyeri.h"
 
 namespace belvani::test {
 
@@ -24,11 +25,12 @@ inline YasalParametreler Yasal(int yil, int ay) {
 
 struct Sirket {
   GeciciDizin dizin;
+  VeriYeri veriYeri{dizin.Yol()};
   ToplayanBildirim bildirim;
   Oturum o;
 
   Sirket() {
-    o.DataPath = dizin.Yol();
+    o.DataPath = veriYeri.Yer();
     Al(SirketOlustur(o, "DENEME", "a", "", bildirim));
     FirmaYukle(o);
   }
