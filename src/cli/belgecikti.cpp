@@ -6,6 +6,7 @@
 
 #include "cli/jsonakisi.h"
 #include "printing/csvyazici.h"
+#include "printing/excelkont.h"
 
 namespace belvani::cli {
 namespace {
@@ -152,6 +153,10 @@ void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti, std::vector<std::str
     if (cikti.dosya.empty() && !EkranaYazilir(cikti))
       throw CLI::ValidationError("--bicim", cikti.bicim + " ekrana yazılmaz, dosyasını veriniz: -o DOSYA");
   });
+}
+
+std::string BelgeDosyaAdi(const std::string& ad, const std::string& bicim) {
+  return DosyaAdi(ad) + (bicim == "metin" ? ".txt" : bicim == "ham" ? ".prn" : "." + bicim);
 }
 
 void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti) {

@@ -19,6 +19,9 @@ struct BelgeCiktisi {
 void CiktiSecenekleri(CLI::App& komut, BelgeCiktisi& cikti, std::vector<std::string> bicimler = {},
                       const char* ekMetin = "");
 
+// A file's name by its form: "bordro-2009-07" as text ends in ".txt".
+std::string BelgeDosyaAdi(const std::string& ad, const std::string& bicim);
+
 // A report too wide for its pages is told on standard error. Without records there is no PDF: KomutHatasi.
 void BelgeYaz(const Belge& belge, const BelgeCiktisi& cikti);
 

@@ -3,6 +3,7 @@
 
 #include "cli/belgecikti.h"
 #include "cli/jsonakisi.h"
+#include "cli/sirketsecimi.h"
 #include "core/sayi.h"
 #include "documents/belgeyap.h"
 #include "payroll/hazirlik/kosullar.h"
@@ -15,7 +16,7 @@ using AlanListesi = std::vector<const Alan*>;
 
 struct BelgeIsi {
   const BelgeTanimi& belge;
-  std::string kod;
+  SirketSecimi sirketler;
   std::vector<std::pair<const Alan*, Deger>> verilenler;  // written over what the company has saved
   BelgeCiktisi cikti;
 };
@@ -93,21 +94,40 @@ void SecenekleriEkle(CLI::App& komut, const std::shared_ptr<BelgeIsi>& is) {
   }
 }
 
-void KayitlariYaz(const BelgeIsi& is, const BelgeKaynagi& kaynak, BelgeSecimi& secim) {
-  MetinCikisi cikis(is.cikti.dosya);
-  JsonDizisi dizi(cikis);
-  is.belge.kayitlar(kaynak, secim, [&](const Brd& kayit) {
-    Json nesne = Json::object();
-    KayitJson(kayit, nesne);
-    dizi.Ekle(nesne);
-  });
-  dizi.Bitir();
-  cikis.Yaz("\n");
-  cikis.Bitir();
+// "bordro-2009-07.pdf", in the folder of a company.
+std::string CiktiAdi(const BelgeIsi& is, BelgeSecimi& secim) {
+  const std::string donem = BelgeDonemi(is.belge, secim);
+  return BelgeDosyaAdi(std::string(is.belge.komut) + (donem.empty() ? "" : "-" + donem), is.cikti.bicim);
 }
 
-void BelgeVer(Genel& genel, const BelgeIsi& is) {
-  const auto oturum = genel.SirketAc(is.kod);
+std::string KayitYokSozu(const BelgeTanimi& belge) {
+  return belge.kayitYok.empty() ? "Bu dönemde bordro kaydı yok" : std::string(belge.kayitYok);
+}
+
+// Opened with the first record: of many companies, one without records gets no file.
+void KayitlariYaz(const BelgeIsi& is, const SirketIsi& isi, const BelgeKaynagi& kaynak, BelgeSecimi& secim) {
+  std::optional<MetinCikisi> cikis;
+  std::optional<JsonDizisi> dizi;
+  const auto ac = [&] {
+    if (cikis) return;
+    cikis.emplace(isi.Dosya(is.cikti.dosya, CiktiAdi(is, secim)));
+    dizi.emplace(*cikis);
+  };
+  is.belge.kayitlar(kaynak, secim, [&](const Brd& kayit) {
+    ac();
+    Json nesne = Json::object();
+    KayitJson(kayit, nesne);
+    dizi->Ekle(nesne);
+  });
+  if (!cikis) isi.Atla(KayitYokSozu(is.belge));
+  ac();
+  dizi->Bitir();
+  cikis->Yaz("\n");
+  cikis->Bitir();
+}
+
+void BelgeVer(Genel& genel, const SirketIsi& isi, const BelgeIsi& is) {
+  const auto oturum = genel.SirketAc(isi.kod);
   const KuruluMevzuat mevzuat = KuruluMevzuatOku(oturum->DataPath);
   auto yasal = YasalParametreleriAl(mevzuat);
   const BelgeKaynagi kaynak{.motor = oturum->depo.db.IcMotor(),
@@ -119,7 +139,7 @@ void BelgeVer(Genel& genel, const BelgeIsi& is) {
   if (is.belge.ayar.oku != nullptr) is.belge.ayar.oku(oturum->FirmaDizini, *secim);
   for (const auto& [alan, deger] : is.verilenler) alan->yaz(secim->Kayit(alan->kayitTuru), deger);
   if (const auto kusur = secim->Kusuru()) throw KomutHatasi{kusur->metin};
-  if (is.belge.kayitlar != nullptr && is.cikti.bicim == "json") return KayitlariYaz(is, kaynak, *secim);
+  if (is.belge.kayitlar != nullptr && is.cikti.bicim == "json") return KayitlariYaz(is, isi, kaynak, *secim);
   const auto belge = BelgeYap(is.belge, *secim, kaynak);
   const auto bak = [&](MevzuatAyi ay) { return MevzuataBak(mevzuat, ay); };
   if (const std::string soz = BelgeMevzuatSozu(is.belge, *secim, kaynak.motor, bak); !soz.empty())
@@ -127,8 +147,11 @@ void BelgeVer(Genel& genel, const BelgeIsi& is) {
   if (is.belge.soz != nullptr)
     if (const std::string soz = is.belge.soz(kaynak, *secim); !soz.empty()) genel.bildirim.Uyari("Uyarı: " + soz);
   if (const std::string soz = belge->Eksikler(); !soz.empty()) genel.bildirim.Uyari("Uyarı: " + soz);
+  if (belge->Kayitsiz()) isi.Atla(KayitYokSozu(is.belge));
   if (belge->Kayitsiz() && !is.belge.kayitYok.empty()) genel.bildirim.Bilgi(is.belge.kayitYok);
-  BelgeYaz(*belge, is.cikti);
+  BelgeCiktisi cikti = is.cikti;
+  cikti.dosya = isi.Dosya(is.cikti.dosya, CiktiAdi(is, *secim));
+  BelgeYaz(*belge, cikti);
 }
 
 }  // namespace
@@ -136,12 +159,15 @@ void BelgeVer(Genel& genel, const BelgeIsi& is) {
 void BelgeKomutlari(CLI::App& app, Genel& genel) {
   for (const BelgeTanimi& belge : Belgeler()) {
     if (belge.komut.empty()) continue;
-    auto is = std::make_shared<BelgeIsi>(BelgeIsi{.belge = belge, .kod = {}, .verilenler = {}, .cikti = {}});
+    auto is = std::make_shared<BelgeIsi>(BelgeIsi{.belge = belge, .sirketler = {}, .verilenler = {}, .cikti = {}});
     auto* komut = app.add_subcommand(std::string(belge.komut), std::string(belge.komutYardimi));
-    komut->add_option("KOD", is->kod, "şirket")->required();
+    is->sirketler.SecenekEkle(*komut);
     SecenekleriEkle(*komut, is);
     CiktiSecenekleri(*komut, is->cikti);
-    komut->callback([&genel, is] { BelgeVer(genel, *is); });
+    komut->callback([&genel, is] {
+      is->sirketler.CiktiyiDenetle(is->cikti.bicim, is->cikti.dosya);
+      is->sirketler.Calistir(genel, [&](const SirketIsi& isi) { BelgeVer(genel, isi, *is); });
+    });
   }
 }
 

@@ -2,14 +2,17 @@
 #include <algorithm>
 #include <iostream>
 
+#include "cli/belgecikti.h"
 #include "cli/jsonkayit.h"
 #include "cli/ortak.h"
+#include "cli/sirketsecimi.h"
 #include "core/adlar.h"
 #include "core/session/firmabilgi.h"
 #include "core/turkce.h"
 #include "declarations/aylikbildirge.h"
 #include "declarations/bildirgeformu.h"
 #include "declarations/bildirgetablosu.h"
+#include "declarations/bildirgexml.h"
 #include "payroll/hazirlik/kosullar.h"
 
 namespace belvani::cli {
@@ -18,7 +21,7 @@ namespace {
 constexpr std::array<std::string_view, 3> Mahiyetler{"I", "E", "A"};  // in the order of BelgeMahiyeti
 
 struct BildirgeSecenekleri {
-  std::string kod;
+  SirketSecimi sirketler;
   Donem donem;
   std::string belge = "00";
   std::optional<std::string> kanun;
@@ -249,8 +252,15 @@ void KimliksizleriSoyle(const Kusurlar& uyarilar, Bildirim& bildirim) {
   bildirim.Uyari(metin);
 }
 
-void BildirgeYap(Genel& genel, const BildirgeSecenekleri& s) {
-  const auto o = genel.SirketAc(s.kod);
+// The electronic file has a name of its own.
+std::string CiktiAdi(const BildirgeSecenekleri& s, const BildirgeSecimi& secim) {
+  if (s.bicim == "xml") return XmlDosyaAdi(secim);
+  const std::string ay = std::to_string(s.donem.ay);
+  return BelgeDosyaAdi("bildirge-" + std::to_string(s.donem.yil) + (ay.size() < 2 ? "-0" : "-") + ay, s.bicim);
+}
+
+void BildirgeYap(Genel& genel, const SirketIsi& isi, const BildirgeSecenekleri& s) {
+  const auto o = genel.SirketAc(isi.kod);
   const KuruluMevzuat mevzuat = KuruluMevzuatOku(o->DataPath);
   auto yasal = YasalParametreleriAl(mevzuat);
   MevzuatUyarisi(genel, mevzuat, s.donem);
@@ -261,8 +271,10 @@ void BildirgeYap(Genel& genel, const BildirgeSecenekleri& s) {
   Olmali(bildirge.Hesapla(), Hesaplanamadi);
   KimliksizleriSoyle(bildirge.Uyarilar(), bildirim);
   Cikar(bildirge, s.haric);
+  if (bildirge.Tamami().satirlar.empty()) isi.Atla("Bildirgeye giren kişi yok");
+  const std::string dosya = isi.Dosya(s.dosya, CiktiAdi(s, bildirge.Tamami().secim));
   for (const Bicim& bicim : bicimler)
-    if (s.bicim == bicim.ad) bicim.yaz({bildirge, *o, bildirim, s.dosya});
+    if (s.bicim == bicim.ad) bicim.yaz({bildirge, *o, bildirim, dosya});
 }
 
 }  // namespace
@@ -270,7 +282,7 @@ void BildirgeYap(Genel& genel, const BildirgeSecenekleri& s) {
 void BildirgeKomutu(CLI::App& app, Genel& genel) {
   auto s = std::make_shared<BildirgeSecenekleri>();
   auto* komut = app.add_subcommand("bildirge", "Ayın SGK aylık prim ve hizmet bildirgesini verir");
-  komut->add_option("KOD", s->kod, "şirket")->required();
+  s->sirketler.SecenekEkle(*komut);
   DonemSecenekleri(*komut, s->donem);
   komut->add_option("--belge", s->belge, "belge türünün numarası (verilmezse hepsi)")->type_name("NN");
   komut->add_option("--kanun", s->kanun, "yalnız bu kanuna bağlı kişiler");
@@ -280,10 +292,15 @@ void BildirgeKomutu(CLI::App& app, Genel& genel) {
   komut->add_option("--bicim", s->bicim, "json, xml (e-bildirge dosyası), pdf, xlsx veya metin (matbu evrak)")
       ->check(CLI::IsMember(adlar));
   komut->add_option("-o", s->dosya, "yazılacak dosya (pdf ve xlsx dışında verilmezse ekrana; - standart çıktı)");
-  komut->add_option("--haric", s->haric, "bu SSK sicil numaralı kişiyi bildirgeden çıkarır")->type_name("NO");
+  auto* haric = komut->add_option("--haric", s->haric, "bu SSK sicil numaralı kişiyi bildirgeden çıkarır");
+  haric->type_name("NO");
+  s->sirketler.YalnizTekSirkette(haric);
   komut->add_flag("--evet", s->evet, "sorulan sorulara evet der");
   komut->parse_complete_callback([s] { DosyayiIste(*s); });
-  komut->callback([&genel, s] { BildirgeYap(genel, *s); });
+  komut->callback([&genel, s] {
+    s->sirketler.CiktiyiDenetle(s->bicim, s->dosya);
+    s->sirketler.Calistir(genel, [&](const SirketIsi& isi) { BildirgeYap(genel, isi, *s); });
+  });
 }
 
 }  // namespace belvani::cli

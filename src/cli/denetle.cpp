@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "cli/ortak.h"
+#include "cli/sirketsecimi.h"
 #include "core/deger.h"
 #include "core/store/depoonarimi.h"
 #include "core/store/koru.h"
@@ -13,7 +14,7 @@ namespace belvani::cli {
 namespace {
 
 struct DenetleSecenekleri {
-  std::string kod;
+  SirketSecimi sirketler;
   bool onar = false;
   std::vector<std::int64_t> kalan;
 };
@@ -59,9 +60,8 @@ std::string OnarimMetni(const Onarim& onarim) {
   return metin + "\n";
 }
 
-void Denetle(Genel& genel, const DenetleSecenekleri& s) {
-  if (!s.kalan.empty() && !s.onar) throw CLI::ValidationError("--kalan", "--onar ile birlikte verilir");
-  const auto o = s.onar ? genel.YazmayaAc(s.kod) : genel.SirketAc(s.kod, SirketErisimi::YalnizBakis);
+void Denetle(Genel& genel, const SirketIsi& isi, const DenetleSecenekleri& s) {
+  const auto o = s.onar ? genel.YazmayaAc(isi.kod) : genel.SirketAc(isi.kod, SirketErisimi::YalnizBakis);
   Motor& motor = o->depo.db.IcMotor();
   if (s.onar) {
     auto onarim = DepoyuOnar(motor, s.kalan);
@@ -83,15 +83,19 @@ void DenetleKomutu(CLI::App& app, Genel& genel) {
   auto* denetle =
       app.add_subcommand("denetle", "Şirketin veritabanını baştan sona okuyup denetler; kusur varsa 1 ile biter");
   auto s = std::make_shared<DenetleSecenekleri>();
-  denetle->add_option("KOD", s->kod, "şirket")->required();
+  s->sirketler.SecenekEkle(*denetle);
   denetle->add_flag("--onar", s->onar,
                     "önce eksik indeksleri ve bordro özetlerini tamamlar; iki kez duran bordro kayıtlarını gösterir");
-  denetle
-      ->add_option("--kalan", s->kalan,
-                   "--onar ile: aynı kayıtlardan kalacak olanın, ya da özetini tutmadığı halde olduğu gibi kalacak "
-                   "kaydın numarası; ötekiler brdayrilan tablosuna ayrılır")
-      ->type_name("NO");
-  denetle->callback([&genel, s] { Denetle(genel, *s); });
+  auto* kalan = denetle->add_option(
+      "--kalan", s->kalan,
+      "--onar ile: aynı kayıtlardan kalacak olanın, ya da özetini tutmadığı halde olduğu gibi kalacak "
+      "kaydın numarası; ötekiler brdayrilan tablosuna ayrılır");
+  kalan->type_name("NO");
+  s->sirketler.YalnizTekSirkette(kalan);
+  denetle->callback([&genel, s] {
+    if (!s->kalan.empty() && !s->onar) throw CLI::ValidationError("--kalan", "--onar ile birlikte verilir");
+    s->sirketler.Calistir(genel, [&](const SirketIsi& isi) { Denetle(genel, isi, *s); });
+  });
 }
 
 }  // namespace belvani::cli

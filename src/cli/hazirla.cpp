@@ -1,6 +1,7 @@
 // hazirla, bordro-sil, geri-al
 #include "cli/giris.h"
 #include "cli/ortak.h"
+#include "cli/sirketsecimi.h"
 #include "core/store/koru.h"
 #include "payroll/hazirlik/aysaklama.h"
 #include "payroll/hazirlik/hazirlik.h"
@@ -10,14 +11,14 @@ namespace belvani::cli {
 namespace {
 
 struct HazirlaSecenekleri {
-  std::string kod;
+  SirketSecimi sirketler;
   GirisDosyasi giris;
   Donem donem;
   SorunListesi sorunlar;
 };
 
-void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
-  const auto o = genel.YazmayaAc(s.kod);
+void Hazirla(Genel& genel, const SirketIsi& isi, const HazirlaSecenekleri& s) {
+  const auto o = genel.YazmayaAc(isi.kod);
   const KuruluMevzuat mevzuat = KuruluMevzuatOku(o->DataPath);
   auto yasal = YasalParametreleriAl(mevzuat);
   auto kosullar = KosullariYukle(*o, Degeri(yasal), s.donem.yil, s.donem.ay);
@@ -35,12 +36,18 @@ void Hazirla(Genel& genel, const HazirlaSecenekleri& s) {
     sorunlar.push_back((sorun.derece == Derece::Hata ? "Hata: " : "Uyarı: ") +
                        (sorun.kod.empty() ? "" : sorun.kod + ": ") +
                        (sorun.satir == 0 ? "" : "satır " + std::to_string(sorun.satir) + ": ") + sorun.metin);
-  s.sorunlar.Soyle(genel.bildirim, sorunlar);
+  s.sorunlar.Sirketinki(isi).Soyle(genel.bildirim, sorunlar);
+  if (sonuc->KimseYok()) isi.Atla("Bu ayda çalışan personel yok: " + sonuc->Ozet());
   if (!sonuc->kaydedildi) throw KomutHatasi{"Bordro kaydedilmedi: girişlerde hata var"};
   Yaz("Bordro Hazırlık Tamamlandı: " + sonuc->Ozet() + "\n");
 }
 
-void BordroyuSil(Genel& genel, const HazirlaSecenekleri& s) {
+struct SilSecenekleri {
+  std::string kod;
+  Donem donem;
+};
+
+void BordroyuSil(Genel& genel, const SilSecenekleri& s) {
   const auto o = genel.YazmayaAc(s.kod);
   auto silinen = BordroSil(*o, s.donem.yil, s.donem.ay);
   Yaz("Bordro Tamamen Silindi: " + std::to_string(Degeri(silinen)) + " kayıt\n");
@@ -66,18 +73,22 @@ void HazirlaKomutlari(CLI::App& app, Genel& genel) {
   auto h = std::make_shared<HazirlaSecenekleri>();
   auto* hazirla = app.add_subcommand(
       "hazirla", "Ayın bordrosunu bütün personel için şablondan, varsa giriş listesinden hazırlar ve kaydeder");
-  hazirla->add_option("KOD", h->kod, "şirket")->required();
+  h->sirketler.SecenekEkle(*hazirla);
   DonemSecenekleri(*hazirla, h->donem);
-  hazirla->add_option(
+  auto* giris = hazirla->add_option(
       "--giris", h->giris.ad,
       "giriş listesi (CSV): kod, gün ve saat alanları, yrd01…yrd11, eksiksebebi, ucretsizizin, "
       "rapcalismadi, borckes, sskiscior, sskisverenor, issiziscior, issizisverenor, damgaveror; listede "
       "olmayan kişi ve sütun şablondan");
   OndalikSecenegi(*hazirla, h->giris.ondalik);
+  h->sirketler.YalnizTekSirkette(giris);
   h->sorunlar.SecenekEkle(*hazirla);
-  hazirla->callback([&genel, h] { Hazirla(genel, *h); });
+  hazirla->callback([&genel, h] {
+    h->sirketler.DizinHazirla(h->sorunlar.Dosya());
+    h->sirketler.Calistir(genel, [&](const SirketIsi& isi) { Hazirla(genel, isi, *h); });
+  });
 
-  auto s = std::make_shared<HazirlaSecenekleri>();
+  auto s = std::make_shared<SilSecenekleri>();
   auto* sil = app.add_subcommand("bordro-sil", "Ayın bordrosunu bütün personel için siler");
   sil->add_option("KOD", s->kod, "şirket")->required();
   DonemSecenekleri(*sil, s->donem);

@@ -2,7 +2,6 @@
 // error; 2 when it was called wrongly.
 #include <csignal>
 #include <iostream>
-#include <new>
 #include <sstream>
 
 #include "cli/ortak.h"
@@ -142,16 +141,9 @@ int Calistir(int argc, char** argv) {
     komut->group("Komutlar");
     komut->get_help_ptr()->group("Seçenekler");
   }
-  try {
-    return Yurut(app, argc, argv);
-  } catch (const KomutHatasi& h) {
-    std::cerr << TerminalMetni(h.metin) << '\n';
-  } catch (const std::bad_alloc&) {
-    std::cerr << "Bellek yetmedi\n";
-  } catch (const std::exception& h) {
-    std::cerr << TerminalMetni(std::string("Beklenmeyen hata: ") + h.what()) << '\n';
-  }
-  return Basarisiz;
+  int durum = 0;
+  if (!HatayiSoyleyerek([&] { durum = Yurut(app, argc, argv); })) return Basarisiz;
+  return durum;
 }
 
 }  // namespace

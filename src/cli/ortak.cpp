@@ -1,6 +1,7 @@
 #include "cli/ortak.h"
 
 #include <iostream>
+#include <new>
 #include <unistd.h>
 
 #include "core/adlar.h"
@@ -32,6 +33,7 @@ std::string Genel::DataPathMetni() const {
 std::string Genel::DataPath() {
   auto dataPath = DataYolu(DataPathMetni());
   const VeriYolu yer = Degeri(dataPath);
+  if (adlarTam) return *dataPath;
   Basarmali(yer.Erisim());
   yer.Toparla();
   return *dataPath;
@@ -40,7 +42,7 @@ std::string Genel::DataPath() {
 std::unique_ptr<Oturum> Genel::SirketAc(const std::string& kod, SirketErisimi erisim) {
   auto o = std::make_unique<Oturum>();
   o->DataPath = DataPath();
-  Basarmali(belvani::SirketAc(*o, kod, bildirim, erisim));
+  Basarmali((adlarTam ? AdiylaSirketAc : belvani::SirketAc)(*o, kod, bildirim, erisim));
   if (o->SaltOkunur && erisim == SirketErisimi::Yazilir) bildirim.Uyari(std::string("Uyarı: ") + SaltOkunurUyarisi);
   if (!FirmaYukle(*o)) throw KomutHatasi{"İşyeri Tanımlamaları Yapılmamış"};
   if (const Durum ayni = VersiyonKontrol(*o); !ayni)
@@ -105,6 +107,20 @@ void DonemSecenekleri(CLI::App& komut, Donem& donem) {
 void MevzuatUyarisi(Genel& genel, const KuruluMevzuat& mevzuat, const Donem& donem) {
   const MevzuatGorusu gorus = MevzuataBak(mevzuat, {donem.yil, donem.ay});
   if (gorus.hal != MevzuatHali::Uygun) genel.bildirim.Uyari("Uyarı: " + gorus.Metin());
+}
+
+bool HatayiSoyleyerek(const std::function<void()>& is) try {
+  is();
+  return true;
+} catch (const KomutHatasi& h) {
+  std::cerr << TerminalMetni(h.metin) << '\n';
+  return false;
+} catch (const std::bad_alloc&) {
+  std::cerr << "Bellek yetmedi\n";
+  return false;
+} catch (const std::exception& h) {
+  std::cerr << TerminalMetni(std::string("Beklenmeyen hata: ") + h.what()) << '\n';
+  return false;
 }
 
 void Basarmali(const Durum& durum) {

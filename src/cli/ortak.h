@@ -2,6 +2,7 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -35,7 +36,8 @@ class OnayliBildirim final : public StandartHata {
 
 // Options of the program itself.
 struct Genel {
-  std::string veri;  // --veri
+  std::string veri;       // --veri
+  bool adlarTam = false;  // codes are names as their places are spelled, what was left behind has been tidied up
   StandartHata bildirim;
 
   // The data path: --veri, else the machine's setting.
@@ -87,6 +89,9 @@ void DonemSecenekleri(CLI::App& komut, Donem& donem);  // --yil, --ay
 // Tells on standard error when the installed law is not that of the month; the command goes on.
 void MevzuatUyarisi(Genel& genel, const KuruluMevzuat& mevzuat, const Donem& donem);
 
+// Runs it; what it ends with goes to standard error. False: it has failed.
+bool HatayiSoyleyerek(const std::function<void()>& is);
+
 template <class T>
 T& Degeri(Sonuc<T>& sonuc) {
   if (!sonuc) throw KomutHatasi{sonuc.KusurMetni()};
@@ -118,11 +123,10 @@ class MetinCikisi {
   explicit MetinCikisi(const std::string& dosya = {}) : hedef_(HedefAc(dosya)), terminal_(hedef_.Terminal()) {}
 
   void Yaz(std::string_view metin);  // or KomutHatasi
+  void Bosalt();                     // what was gathered
   void Bitir();
 
  private:
-  void Bosalt();
-
   HedefDosya hedef_;
   bool terminal_;
   std::string bekleyen_;

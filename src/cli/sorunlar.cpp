@@ -12,6 +12,12 @@ void SorunListesi::SecenekEkle(CLI::App& komut) {
       ->type_name("DOSYA");
 }
 
+SorunListesi SorunListesi::Sirketinki(const SirketIsi& isi) const {
+  SorunListesi liste;
+  liste.dosya_ = isi.Dosya(dosya_, "sorunlar.txt");
+  return liste;
+}
+
 std::string SorunListesi::Metin(const std::vector<std::string>& satirlar) const {
   if (!dosya_.empty()) {
     HedefDosya hedef = HedefAc(dosya_);

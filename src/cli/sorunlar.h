@@ -5,13 +5,16 @@
 #include <string>
 #include <vector>
 
-#include "cli/ortak.h"
+#include "cli/sirketsecimi.h"
 
 namespace belvani::cli {
 
 class SorunListesi {
  public:
   void SecenekEkle(CLI::App& komut);  // --sorunlar
+  const std::string& Dosya() const { return dosya_; }
+  // The list of one company; of several each has its file in its folder.
+  SorunListesi Sirketinki(const SirketIsi& isi) const;
 
   // The lines that are shown, each behind a line end; all of them go into the user's file.
   std::string Metin(const std::vector<std::string>& satirlar) const;

@@ -30,13 +30,16 @@ std::string BaskaAySozu(const MevzuatGorusu& gorus, const MevzuatRakami& rakam) 
 
 }  // namespace
 
+std::string BelgeDonemi(const BelgeTanimi& tanim, BelgeSecimi& secim) {
+  const auto zaman = secim.Zaman();
+  if (!zaman) return {};
+  const bool yilin = Secilir(tanim, SecimYili) && !Secilir(tanim, SecimAyi);
+  return yilin ? std::to_string(zaman->yil) : zaman->metin;
+}
+
 std::unique_ptr<Belge> BelgeYap(const BelgeTanimi& tanim, BelgeSecimi& secim, const BelgeKaynagi& kaynak) {
   auto belge = secim.BelgeYap(kaynak);
-  // A paper of a year is named by that; one of a day by its day.
-  if (const auto zaman = secim.Zaman()) {
-    const bool yilin = Secilir(tanim, SecimYili) && !Secilir(tanim, SecimAyi);
-    belge->Donem(yilin ? std::to_string(zaman->yil) : zaman->metin);
-  }
+  if (std::string donem = BelgeDonemi(tanim, secim); !donem.empty()) belge->Donem(std::move(donem));
   return belge;
 }
 

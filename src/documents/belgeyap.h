@@ -10,6 +10,9 @@ namespace belvani {
 // Named by what it is of. Throws as BelgeSecimi::BelgeYap.
 std::unique_ptr<Belge> BelgeYap(const BelgeTanimi& tanim, BelgeSecimi& secim, const BelgeKaynagi& kaynak);
 
+// What a paper of these choices is of: "2009-07", "2009" of a whole year, a day; "" of no time.
+std::string BelgeDonemi(const BelgeTanimi& tanim, BelgeSecimi& secim);
+
 // What the installed law is to a month.
 using MevzuataBakan = std::function<MevzuatGorusu(MevzuatAyi)>;
 

@@ -104,13 +104,17 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
 Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim, SirketErisimi erisim) {
   const auto ad = SirketBul(o.DataPath, sirket);
   if (!ad) return ad.Kusuru();
-  const VeriYolu yer = VeriYolu(o.DataPath).Alt(*ad);
+  return AdiylaSirketAc(o, *ad, bildirim, erisim);
+}
+
+Durum AdiylaSirketAc(Oturum& o, std::string_view ad, Bildirim& bildirim, SirketErisimi erisim) {
+  const VeriYolu yer = VeriYolu(o.DataPath).Alt(ad);
   SirketKapat(o);
   if (const Durum acildi = DepoAc(o, DepoAdresi(yer), bildirim, erisim); !acildi) {
     SirketKapat(o);
     return Kusur{"Database Açılamadı: " + DepoAdresi(yer) + "\n" + acildi.KusurMetni()};
   }
-  o.FirmaKod = *ad;
+  o.FirmaKod = ad;
   o.FirmaDizini = yer.Adres();
   yer.Toparla();
   o.SonKisi.clear();

@@ -67,6 +67,8 @@ enum class SirketErisimi {
 // Opens the company's store; "Database Açılamadı" or the name's fault otherwise, and then no store is open. One that
 // cannot be written is opened all the same, as a copy (`SaltOkunur`).
 Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim, SirketErisimi erisim = SirketErisimi::Yazilir);
+// The same by the name as SirketBul gives it, for work over many companies: they are not listed again for each.
+Durum AdiylaSirketAc(Oturum& o, std::string_view ad, Bildirim& bildirim, SirketErisimi erisim);
 
 // Leaves the company.
 void SirketKapat(Oturum& o);

@@ -32,6 +32,8 @@ struct HazirlikSonucu {
   Kusurlar sorunlar;        // by person; a Hata keeps the month from being saved
   bool kaydedildi = false;  // false: some Hata, nothing was saved
 
+  // Nobody works in the month, and there is nothing to tell of anybody.
+  bool KimseYok() const { return kaydedilen == 0 && netsiz == 0 && sorunlar.empty(); }
   std::string Ozet() const;  // "31 kişi kaydedildi, 2 kişi dönem dışı, 0 kişi netsiz"
 };
 

@@ -1,0 +1,158 @@
+#include "cli/isci.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdint>
+#include <cstring>
+#include <iostream>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+#include "cli/ortak.h"
+
+namespace belvani::cli {
+namespace {
+
+constexpr std::array KesenSinyaller{SIGINT, SIGTERM, SIGHUP};
+
+std::vector<int> sahipUclari;  // of all processes that live; a new one must not hold those of the others open
+
+volatile std::sig_atomic_t kesmeSayisi = 0, sonKesme = 0;
+
+void KesmeGeldi(int sinyal) {
+  sonKesme = sinyal;
+  kesmeSayisi = kesmeSayisi + 1;
+}
+
+sigset_t KesenKume() {
+  sigset_t kume;
+  sigemptyset(&kume);
+  for (const int sinyal : KesenSinyaller) sigaddset(&kume, sinyal);
+  return kume;
+}
+
+std::array<struct sigaction, KesenSinyaller.size()> eskiDavranis;
+sigset_t eskiMaske;
+
+bool Oku(int soket, void* yer, std::size_t boy) {
+  ssize_t n = 0;
+  do n = ::recv(soket, yer, boy, MSG_WAITALL);
+  while (n < 0 && errno == EINTR);
+  return n == ssize_t(boy);
+}
+
+// Nobody there is no reason to die of.
+void Yaz(int soket, const void* yer, std::size_t boy) {
+  while (::send(soket, yer, boy, MSG_NOSIGNAL) < 0 && errno == EINTR) {
+  }
+}
+
+}  // namespace
+
+Isci::Isci(const std::function<Bitis(std::size_t)>& is) {
+  int uclar[2];
+  if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, uclar) != 0)
+    throw KomutHatasi{"Süreç başlatılamadı: " + SistemHatasi(errno)};
+  soket_ = DosyaTutamagi(uclar[0]);
+  DosyaTutamagi iscininki(uclar[1]);
+  std::cout.flush();
+  no_ = ::fork();
+  if (no_ < 0) throw KomutHatasi{"Süreç başlatılamadı: " + SistemHatasi(errno)};
+  if (no_ == 0) Calis(iscininki.No(), is);
+  sahipUclari.push_back(soket_.No());
+}
+
+Isci::~Isci() {
+  std::erase(sahipUclari, soket_.No());
+  soket_.Kapat();
+  if (no_ > 0) OlumSozu();
+}
+
+void Isci::Calis(int soket, const std::function<Bitis(std::size_t)>& is) const {
+  for (const int sinyal : KesenSinyaller) std::signal(sinyal, SIG_IGN);
+  ::close(soket_.No());
+  for (const int uc : sahipUclari) ::close(uc);
+  if (::dup2(cikti_->No(), STDOUT_FILENO) < 0 || ::dup2(mesaj_->No(), STDERR_FILENO) < 0) ::_exit(1);
+  for (std::uint32_t sira = 0; Oku(soket, &sira, sizeof sira);) {
+    const Bitis bitis = is(sira);
+    std::cout.flush();
+    Yaz(soket, &bitis, 1);
+  }
+  ::_exit(0);
+}
+
+void Isci::Ver(std::size_t sira) {
+  if (cikti_.use_count() == 1) cikti_->Bosalt();
+  if (mesaj_.use_count() == 1) mesaj_->Bosalt();
+  ciktiBasi_ = cikti_->Boy();
+  mesajBasi_ = mesaj_->Boy();
+  isi_ = sira;
+  const auto no = std::uint32_t(sira);
+  Yaz(soket_.No(), &no, sizeof no);
+}
+
+Isci::Sonuc Isci::SonucuAl() {
+  Sonuc sonuc;
+  if (!Oku(soket_.No(), &sonuc.bitis, 1)) {
+    sonuc.bitis = Bitis::Yapilamadi;
+    sonuc.olum = OlumSozu();
+  }
+  isi_.reset();
+  const auto parca = [](const std::shared_ptr<Tampon>& tampon, std::size_t bas) {
+    const std::size_t son = tampon->Boy();
+    return son > bas ? TamponParcasi{tampon, bas, son} : TamponParcasi();
+  };
+  sonuc.cikti = parca(cikti_, ciktiBasi_);
+  sonuc.mesaj = parca(mesaj_, mesajBasi_);
+  return sonuc;
+}
+
+void Isci::Oldur() const {
+  if (no_ > 0) ::kill(no_, SIGKILL);
+}
+
+std::string Isci::OlumSozu() {
+  int durum = 0;
+  while (::waitpid(no_, &durum, 0) < 0 && errno == EINTR) {
+  }
+  no_ = -1;
+  if (WIFSIGNALED(durum)) return "Bu şirkette çalışan süreç sonlandı (sinyal " + std::to_string(WTERMSIG(durum)) + ")";
+  return "Bu şirkette çalışan süreç sonlandı (durum " + std::to_string(WEXITSTATUS(durum)) + ")";
+}
+
+KesmeNobeti::KesmeNobeti() {
+  kesmeSayisi = 0;
+  const sigset_t kume = KesenKume();
+  ::sigprocmask(SIG_BLOCK, &kume, &eskiMaske);
+  struct sigaction davranis {};
+  davranis.sa_handler = KesmeGeldi;
+  for (std::size_t i = 0; i < KesenSinyaller.size(); ++i) {
+    ::sigaction(KesenSinyaller[i], nullptr, &eskiDavranis[i]);
+    if (eskiDavranis[i].sa_handler != SIG_IGN) ::sigaction(KesenSinyaller[i], &davranis, nullptr);
+  }
+}
+
+KesmeNobeti::~KesmeNobeti() {
+  for (std::size_t i = 0; i < KesenSinyaller.size(); ++i) ::sigaction(KesenSinyaller[i], &eskiDavranis[i], nullptr);
+  ::sigprocmask(SIG_SETMASK, &eskiMaske, nullptr);
+}
+
+int KesmeNobeti::Sayi() {
+  return kesmeSayisi;
+}
+int KesmeNobeti::Sinyal() {
+  return sonKesme;
+}
+
+void IscileriBekle(const std::vector<std::unique_ptr<Isci>>& isciler) {
+  std::vector<pollfd> beklenen;
+  for (const auto& isci : isciler) beklenen.push_back({.fd = isci->Soket(), .events = POLLIN, .revents = 0});
+  ::ppoll(beklenen.data(), beklenen.size(), nullptr, &eskiMaske);
+}
+
+}  // namespace belvani::cli

@@ -1,0 +1,87 @@
+#include "cli/toplurapor.h"
+
+#include <algorithm>
+#include <iostream>
+#include <map>
+
+#include "core/adlar.h"
+
+namespace belvani::cli {
+namespace {
+
+using Hal = TopluSatir::Hal;
+using Sirketler = std::vector<const TopluSatir*>;
+
+// Its own words, then those about it; without the line end.
+std::string Soz(const TopluSatir& satir) {
+  std::string soz = satir.mesaj.Metin();
+  if (!satir.kusur.empty() && !soz.empty() && soz.back() != '\n') soz += '\n';
+  soz += satir.kusur;
+  soz.erase(soz.find_last_not_of('\n') + 1);
+  return soz;
+}
+
+std::vector<Sirketler> SozeGoreTopla(const Sirketler& sirketler) {
+  std::vector<Sirketler> gruplar;
+  std::map<std::size_t, std::vector<std::size_t>> ozetler;  // of the words, to the groups: no words stay in memory
+  for (const TopluSatir* satir : sirketler) {
+    const std::string soz = Soz(*satir);
+    auto& adaylar = ozetler[std::hash<std::string>()(soz)];
+    const auto grup = std::ranges::find_if(adaylar, [&](std::size_t i) { return Soz(*gruplar[i].front()) == soz; });
+    if (grup != adaylar.end()) {
+      gruplar[*grup].push_back(satir);
+    } else {
+      adaylar.push_back(gruplar.size());
+      gruplar.push_back({satir});
+    }
+  }
+  return gruplar;
+}
+
+std::string Kodlar(const Sirketler& sirketler) {
+  std::string metin;
+  for (const TopluSatir* satir : sirketler) metin += (metin.empty() ? "" : ", ") + satir->kod;
+  return metin;
+}
+
+// "A, B: words", lines below the first one indented.
+std::string GrupMetni(const Sirketler& grup) {
+  std::string metin = "  " + Kodlar(grup);
+  const std::string soz = Soz(*grup.front());
+  if (!soz.empty()) metin += ": ";
+  for (const char c : soz) {
+    metin += c;
+    if (c == '\n') metin += "    ";
+  }
+  return metin + "\n";
+}
+
+void BolumYaz(const char* baslik, const Sirketler& sirketler) {
+  if (sirketler.empty()) return;
+  std::cerr << baslik << "\n";
+  for (const Sirketler& grup : SozeGoreTopla(sirketler)) std::cerr << TerminalMetni(GrupMetni(grup));
+}
+
+}  // namespace
+
+std::string RaporuYaz(const std::vector<TopluSatir>& satirlar) {
+  const auto olanlar = [&](auto uyar) {
+    Sirketler olan;
+    for (const TopluSatir& satir : satirlar)
+      if (uyar(satir)) olan.push_back(&satir);
+    return olan;
+  };
+  const auto halinde = [&](Hal hal) { return olanlar([hal](const TopluSatir& s) { return s.hal == hal; }); };
+  const auto yapilmayan = halinde(Hal::Yapilamadi), atlanan = halinde(Hal::Atlandi), kalan = halinde(Hal::Baslanmadi);
+  BolumYaz("Söylenenler:", olanlar([](const TopluSatir& s) { return s.hal == Hal::Yapildi && s.mesaj.Boy() != 0; }));
+  BolumYaz("Atlananlar:", atlanan);
+  BolumYaz("Başlanmayanlar:", kalan);
+  BolumYaz("Yapılamayanlar:", yapilmayan);
+  std::string ozet = std::to_string(satirlar.size()) + " şirket: " + std::to_string(halinde(Hal::Yapildi).size()) +
+                     " yapıldı, " + std::to_string(atlanan.size()) + " atlandı, " + std::to_string(yapilmayan.size()) +
+                     " yapılamadı";
+  if (!kalan.empty()) ozet += ", " + std::to_string(kalan.size()) + " başlanmadı";
+  return ozet;
+}
+
+}  // namespace belvani::cli
