@@ -203,6 +203,19 @@ int dclist::CurSat() const {
   return currentIndex().isValid() ? model_->GosterilenSatir(currentIndex().row()) : -1;
 }
 
+std::vector<int> dclist::SeciliSatirlar() const {
+  std::vector<int> satirlar;
+  for (int sira = 0; sira < model_->rowCount(); ++sira)
+    if (selectionModel()->isRowSelected(sira)) satirlar.push_back(model_->GosterilenSatir(sira));
+  return satirlar;
+}
+
+std::vector<int> dclist::GorunenSatirlar() const {
+  std::vector<int> satirlar;
+  for (int sira = 0; sira < model_->rowCount(); ++sira) satirlar.push_back(model_->GosterilenSatir(sira));
+  return satirlar;
+}
+
 int dclist::CurrentCol() const {
   return currentIndex().isValid() ? currentIndex().column() : -1;
 }

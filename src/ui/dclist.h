@@ -14,6 +14,7 @@
 #include <QTableView>
 #include <functional>
 #include <map>
+#include <vector>
 
 #include "core/bildirim.h"
 #include "ui/dclistmodel.h"
@@ -56,6 +57,10 @@ class dclist : public QTableView {
   dclistModel& Model() { return *model_; }
 
   int CurSat() const;  // current row, -1 without one
+  // Several rows can be chosen at once, by Shift, Ctrl and Ctrl+A; of a list to read.
+  void CokSecimli() { setSelectionMode(ExtendedSelection); }
+  std::vector<int> SeciliSatirlar() const;  // in the order in which they stand
+  std::vector<int> GorunenSatirlar() const;
   int CurrentCol() const;
   Mod CurrentMode() const { return mod_; }
   void ChngSat(int satir);

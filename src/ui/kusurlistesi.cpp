@@ -39,13 +39,16 @@ std::string_view Etiket(AlanTutamagi alan) {
 
 class KusurListesi final : public Form {
  public:
-  KusurListesi(EkranBaglami& baglam, Kusurlar kusurlar, const QString& ozet)
+  KusurListesi(EkranBaglami& baglam, std::vector<SirketKusuru> kusurlar, const QString& ozet)
       : Form(baglam, "kusurlar", QStringLiteral("Uyarılar ve Hatalar")),
         kusurlar_(std::move(kusurlar)),
         liste_(new dclist(baglam.bildirim, this)) {
     QStringList parcalar = ozet.isEmpty() ? QStringList() : QStringList(ozet);
-    const auto hata = std::ranges::count(kusurlar_, Derece::Hata, &Kusur::derece);
-    const auto uyari = std::ssize(kusurlar_) - hata;
+    const auto sayi = [this](auto uyar) { return std::ranges::count_if(kusurlar_, uyar); };
+    const auto hata = sayi([](const SirketKusuru& k) { return k.kusur.derece == Derece::Hata; });
+    // What a company has to say of itself when all went well is no warning.
+    const auto iyi = sayi([](const SirketKusuru& k) { return k.kusur.derece == Derece::Bilgi && !k.sirket.empty(); });
+    const auto uyari = std::ssize(kusurlar_) - hata - iyi;
     if (hata > 0) parcalar += QStringLiteral("%1 hata").arg(hata);
     if (uyari > 0) parcalar += QStringLiteral("%1 uyarı").arg(uyari);
     YaziEkle(parcalar.join(", "), "baslik");
@@ -63,6 +66,7 @@ class KusurListesi final : public Form {
  private:
   void KolonlariYap() {
     liste_->CreateNewCaption('m', "derece", "Derece", 70);
+    liste_->CreateNewCaption('m', "sirket", "Firma", 110);
     liste_->CreateNewCaption('m', "kod", "Sicil No", 110);
     liste_->CreateNewCaption('b', "satir", "Satır", 60);
     liste_->CreateNewCaption('m', "alan", "Alan", 150);
@@ -72,31 +76,44 @@ class KusurListesi final : public Form {
     liste_->Model().Renk = [this](int satir, int kolon) -> std::optional<HucreRengi> {
       if (kolon != 0) return std::nullopt;
       const RenkTablosu renkler = GecerliRenkler(Oturumu());
-      const DereceGorunumu g = Gorunum(kusurlar_[std::size_t(satir)].derece);
+      const DereceGorunumu g = Gorunum(kusurlar_[std::size_t(satir)].kusur.derece);
       return HucreRengi{RenkYap(RenkAl(renkler, g.zemin)), RenkYap(RenkAl(renkler, g.yazi))};
     };
-    if (std::ranges::all_of(kusurlar_, [](const Kusur& k) { return k.satir == 0; })) liste_->Gizle("satir");
+    const auto hepsinde = [this](auto uyar) { return std::ranges::all_of(kusurlar_, uyar); };
+    if (hepsinde([](const SirketKusuru& k) { return k.kusur.satir == 0; })) liste_->Gizle("satir");
+    if (hepsinde([](const SirketKusuru& k) { return k.sirket.empty(); })) liste_->Gizle("sirket");
   }
 
   void Doldur() {
-    ListeDoldur(*liste_, kusurlar_, [](const Kusur& k) {
-      return std::array{std::string(Gorunum(k.derece).ad), k.kod, k.satir == 0 ? "" : std::to_string(k.satir),
-                        std::string(Etiket<Sicil, Kimlik, Esco>(k.alan)), k.metin};
+    ListeDoldur(*liste_, kusurlar_, [](const SirketKusuru& k) {
+      return std::array{std::string(Gorunum(k.kusur.derece).ad),
+                        k.sirket,
+                        k.kusur.kod,
+                        k.kusur.satir == 0 ? "" : std::to_string(k.kusur.satir),
+                        std::string(Etiket<Sicil, Kimlik, Esco>(k.kusur.alan)),
+                        k.kusur.metin};
     });
   }
 
-  void Git(const Kusur& kusur) {
-    if (!kusur.kod.empty()) Baglam().gosterici.KisiyeGit(kusur.kod, kusur.alan);
+  void Git(const SirketKusuru& k) {
+    const bool buradaki = k.sirket.empty() || k.sirket == Oturumu().FirmaKod;
+    if (buradaki && !k.kusur.kod.empty()) Baglam().gosterici.KisiyeGit(k.kusur.kod, k.kusur.alan);
   }
 
-  const Kusurlar kusurlar_;
+  const std::vector<SirketKusuru> kusurlar_;
   dclist* liste_;
 };
 
 }  // namespace
 
 void KusurlariGoster(EkranBaglami& baglam, const Kusurlar& kusurlar, const QString& ozet) {
-  if (!kusurlar.empty()) FormGoster(baglam, std::make_unique<KusurListesi>(baglam, kusurlar, ozet));
+  std::vector<SirketKusuru> satirlar;
+  for (const Kusur& kusur : kusurlar) satirlar.push_back({{}, kusur});
+  KusurlariGoster(baglam, std::move(satirlar), ozet);
+}
+
+void KusurlariGoster(EkranBaglami& baglam, std::vector<SirketKusuru> kusurlar, const QString& ozet) {
+  if (!kusurlar.empty()) FormGoster(baglam, std::make_unique<KusurListesi>(baglam, std::move(kusurlar), ozet));
 }
 
 }  // namespace belvani

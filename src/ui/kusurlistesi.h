@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <vector>
 
 #include "ui/ekran.h"
 
@@ -12,5 +13,12 @@ namespace belvani {
 // A window beside the others, so that the user can go to and fro; without faults there is none. `ozet`: how the work
 // has ended, above the list.
 void KusurlariGoster(EkranBaglami& baglam, const Kusurlar& kusurlar, const QString& ozet = {});
+
+// The same of work over many companies, with a column of theirs. Enter goes to people of the open company alone.
+struct SirketKusuru {
+  std::string sirket;
+  Kusur kusur;
+};
+void KusurlariGoster(EkranBaglami& baglam, std::vector<SirketKusuru> kusurlar, const QString& ozet);
 
 }  // namespace belvani

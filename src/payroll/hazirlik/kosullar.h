@@ -59,6 +59,9 @@ Sonuc<YasalParametreler> YasalParametreleriAl(const VeriYolu& veri);
 // company lacks or which of its files is broken.
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay);
 
+// The same with the card as the session has it.
+Sonuc<Kosullar> KosullariOku(Oturum& o, const YasalParametreler& yasal, int yil, int ay);
+
 // The same out of parameters that are already loaded, and the session's card.
 Sonuc<Kosullar> KosullariKur(const Oturum& o, const YasalParametreler& yasal, const FirmaParametreleri& firma, int yil,
                              int ay);

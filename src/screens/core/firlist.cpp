@@ -4,10 +4,11 @@
 #include <QLineEdit>
 #include <algorithm>
 
-#include "core/session/sirketlistesi.h"
+#include "payroll/hazirlik/topluhazirlik.h"
 #include "printing/belge.h"
 #include "printing/kolonlar.h"
 #include "ui/basim.h"
+#include "ui/kusurlistesi.h"
 #include "ui/listedoldur.h"
 #include "ui/uzunis.h"
 
@@ -44,6 +45,37 @@ std::optional<RaporBelgesi> ListeBelgesi(EkranBaglami& baglam) {
   GrafikDuzeni grafik;
   grafik.punto = 9;
   return RaporBelgesi(std::move(rapor), ayar, grafik);
+}
+
+// What became of the company, then what there is to say of its people.
+void SatirlariEkle(std::vector<SirketKusuru>& satirlar, const SirketHazirligi& olan) {
+  const auto ekle = [&](const char* hal, Derece derece) {
+    satirlar.push_back(
+        {olan.sirket.ad, {.metin = hal + std::string(olan.soz.empty() ? "" : ": ") + olan.soz, .derece = derece}});
+  };
+  switch (olan.hal) {
+    case SirketHali::Hazirlandi:
+      ekle("Hazırlandı", Derece::Bilgi);
+      break;
+    case SirketHali::Atlandi:
+      ekle("Atlandı", Derece::Uyari);
+      break;
+    case SirketHali::Yapilamadi:
+      ekle("Yapılamadı", Derece::Hata);
+      break;
+    case SirketHali::Baslanmadi:
+      ekle("Başlanmadı, bordrosu değişmedi", Derece::Uyari);
+      break;
+  }
+  for (const Kusur& sorun : olan.sorunlar) satirlar.push_back({olan.sirket.ad, sorun});
+}
+
+// Those that are not done come first.
+void SonucuGoster(EkranBaglami& baglam, std::vector<SirketHazirligi> olanlar) {
+  std::ranges::stable_sort(olanlar, {}, &SirketHazirligi::hal);
+  std::vector<SirketKusuru> satirlar;
+  for (const SirketHazirligi& olan : olanlar) SatirlariEkle(satirlar, olan);
+  KusurlariGoster(baglam, std::move(satirlar), Yazi(TopluHazirlikOzeti(olanlar)));
 }
 
 }  // namespace
@@ -85,19 +117,46 @@ void firlist::CiktiKomutlari() {
   const auto gonder = [this] {
     if (const auto belge = ListeBelgesi(Baglam())) BelgeExceleGonder(Baglam(), *belge);
   };
-  Komutlar({{.tus = Qt::Key_F8, .dugme = "Yazdır", .simge = "yazici", .islev = yazdir},
+  liste_->CokSecimli();
+  Komutlar({{.tus = Qt::Key_F6,
+             .dugme = "Seçilenleri Hazırla",
+             .simge = "bordro",
+             .ipucu = "Seçili şirketlerin çalışma ayı bordrosunu şablondan hazırlar",
+             .islev = [this] { Hazirla(liste_->SeciliSatirlar()); },
+             .ad = "secilenler"},
+            {.tus = QKeySequence(Qt::SHIFT | Qt::Key_F6),
+             .dugme = "Hepsini Hazırla",
+             .simge = "calistir",
+             .ipucu = "Listede görünen bütün şirketlerin çalışma ayı bordrosunu şablondan hazırlar",
+             .islev = [this] { Hazirla(liste_->GorunenSatirlar()); },
+             .ad = "hepsi"},
+            {.tus = Qt::Key_F8, .dugme = "Yazdır", .simge = "yazici", .islev = yazdir},
             {.tus = Qt::Key_F9, .dugme = "Excel'e Gönder", .simge = "tablo", .islev = gonder}});
 }
 
 void firlist::ListeyiDoldur() {
   const std::string simdiki = Oturumu().SeciliKod;
-  const auto sirketler = ListeyiOku(Baglam());
+  auto sirketler = ListeyiOku(Baglam());
   if (!sirketler) return;
-  ListeDoldur(*liste_, *sirketler, [](const SirketSatiri& s) {
+  sirketler_ = std::move(*sirketler);
+  ListeDoldur(*liste_, sirketler_, [](const SirketSatiri& s) {
     return std::array{s.ad, s.unvan, s.donem, IcerdekiMetni(s.icerde)};
   });
-  const auto yer = std::ranges::find(*sirketler, simdiki, &SirketSatiri::ad);  // case told apart: another is another
-  if (yer != sirketler->end()) liste_->ChngSat(int(yer - sirketler->begin()));
+  const auto yer = std::ranges::find(sirketler_, simdiki, &SirketSatiri::ad);  // case told apart: another is another
+  if (yer != sirketler_.end()) liste_->ChngSat(int(yer - sirketler_.begin()));
+}
+
+// Everything is asked before the first company.
+void firlist::Hazirla(const std::vector<int>& satirlar) {
+  if (satirlar.empty()) return Bildirimi().Bilgi("Listeden şirket seçiniz");
+  std::vector<SirketSatiri> secilen;
+  for (const int satir : satirlar) secilen.push_back(sirketler_[std::size_t(satir)]);
+  const auto sirketler = CalismaAylari(Oturumu(), secilen);
+  const auto soru = TopluHazirlikSorusu(Oturumu(), sirketler);
+  if (!Oldu(soru) || !Bildirimi().Soru(*soru)) return;
+  auto olanlar = UzunIs(Baglam(), QStringLiteral("Bordrolar hazırlanıyor…"),
+                        [&](Ilerleme& ilerleme) { return SirketleriHazirla(Oturumu(), sirketler, &ilerleme); });
+  if (olanlar) SonucuGoster(Baglam(), std::move(*olanlar));
 }
 
 void firlist::Sec() {

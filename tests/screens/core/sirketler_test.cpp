@@ -1,4 +1,6 @@
 // The list of companies, the deletion of one, the installation's paths and the upgrade of a store.
+#include <gmock/gmock.h>
+
 #include "altin/kayit.h"
 #include "altin/kitapmetni.h"
 #include "altin/sayfametni.h"
@@ -8,6 +10,9 @@
 #include "core/session/muhasebecibilgi.h"
 #include "core/session/sirket.h"
 #include "core/session/sirketyedegi.h"
+#include "core/store/satirlar.h"
+#include "core/tables/brd.h"
+#include "core/tables/sicil.h"
 #include "ekran/sirayla.h"
 #include "screens/core/Dbupdate.h"
 #include "screens/core/firlist.h"
@@ -50,6 +55,53 @@ TEST(Firlist, WalksItsRowsFromTheSearchBoxToBothEnds) {
   ortam.Yaz("yok");
   for (const auto tus : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}) ortam.Bas(tus);
   EXPECT_EQ(ortam.Odak(), "aranan");
+}
+
+// The month of the chosen companies, and one window that says what became of each.
+TEST(Firlist, PreparesTheMonthOfCompanies) {
+  EkranOrtami ortam;
+  std::filesystem::create_directories(ortam.oturum.DataPath + "BOZUK");
+  Sicil kisi;
+  kisi.kod = "001";
+  kisi.ucret = Tutar(1000.0);
+  kisi.girtar = Tarih(2009, 1, 1);
+  KayitYazici<Sicil>(ortam.oturum.depo.db.IcMotor()).Ekle(kisi);
+  auto& form = ortam.Ac<firlist>();
+  const auto sonuc = [&] {
+    const Form& pencere = *ortam.gosterici.formlar.back();
+    EXPECT_EQ(Utf8(pencere.Kelime()), "kusurlar");
+    const auto& liste = *pencere.findChild<dclist*>();
+    std::vector<std::string> satirlar;
+    for (int i = 0; i < liste.ListCount(); ++i)
+      satirlar.push_back(Utf8(liste.TextByName(i, "derece") + "|" + liste.TextByName(i, "sirket") + "|" +
+                              liste.TextByName(i, "metin").section(u'\n', 0, 0)));
+    return satirlar;
+  };
+  ortam.bildirim.cevap = false;
+  ortam.Bas(Qt::Key_F6, Qt::ShiftModifier);
+  EXPECT_THAT(ortam.bildirim.Al().at(0), testing::HasSubstr("Soru: 2 şirketin bordrosu"));
+  EXPECT_EQ(ortam.gosterici.formlar.size(), 1u);
+
+  ortam.bildirim.cevap = true;
+  ortam.Bas(Qt::Key_F6, Qt::ShiftModifier);
+  EXPECT_THAT(sonuc(), testing::ElementsAre(testing::StartsWith("Hata|BOZUK|Yapılamadı: Database Açılamadı"),
+                                            testing::StartsWith("Bilgi|TEST|Hazırlandı: 1 kişi kaydedildi")));
+  EXPECT_EQ(KayitlariOku<Brd>(ortam.oturum.depo.db.IcMotor()).size(), 1u);
+  ortam.Bas(Qt::Key_Escape);
+
+  QApplication::setActiveWindow(&form);
+  form.findChild<dclist*>()->setFocus();
+  ortam.bildirim.Al();
+  ortam.Bas(Qt::Key_Down);
+  ortam.Bas(Qt::Key_F6);
+  EXPECT_THAT(ortam.bildirim.Al().at(0), testing::HasSubstr("Soru: 1 şirketin bordrosu"));
+  EXPECT_THAT(sonuc(), testing::ElementsAre(testing::StartsWith("Bilgi|TEST|")));
+  ortam.Bas(Qt::Key_Escape);
+  QApplication::setActiveWindow(&form);
+  form.findChild<dclist*>()->setFocus();
+  ortam.Bas(Qt::Key_A, Qt::ControlModifier);
+  ortam.Bas(Qt::Key_F6);
+  EXPECT_EQ(sonuc().size(), 2u);
 }
 
 // On paper and in a spreadsheet.
