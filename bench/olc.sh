@@ -9,3 +9,4 @@ for olcum in hesap depo hazirlik yedek ekran baski bildirge bildirim ozelgider d
     grep -E 'Benchmark|_median'
 done
 bench/oldur.sh "$1"
+bench/hepsi.sh "$1"
