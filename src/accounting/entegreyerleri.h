@@ -1,7 +1,7 @@
 // The places of the accounting integration: what of a month's payroll a posting line takes. The order is part of the
 // data, `entpar.yer` holds the position.
 //
-//   EntegreYerleri[12].ad == "DV Tutarı", and its sum over a group is that of brd.dvtutar
+//   YerAdlari[12] == "DV Tutarı", and its sum over a group is that of brd.dvtutar
 #pragma once
 
 #include <array>

@@ -26,7 +26,6 @@ class HesapPlani {
   explicit HesapPlani(std::vector<Hesplan> hesaplar);
   static HesapPlani Oku(Motor& motor);  // throws MotorHatasi
 
-  const std::vector<Hesplan>& Hesaplar() const { return hesaplar_; }
   // By its code, case ignored; null when there is none.
   const Hesplan* Bul(std::string_view kod) const;
   std::string Adi(std::string_view kod) const;  // "" for an unknown account

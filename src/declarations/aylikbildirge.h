@@ -52,8 +52,6 @@ class AylikBildirge {
   // grid and totals are empty.
   Durum Hesapla(Ilerleme* ilerleme = nullptr);
 
-  // The user has edited rows or totals since then; another calculation drops that.
-  bool Duzeltildi() const { return duzeltildi_; }
   // The totals as they were calculated; what stands in Tamami() differs after an edit.
   const BildirgeToplamlari& HesaplananToplamlar() const { return hesaplananToplamlar_; }
   // Why the grid is not what a calculation would give now: "Liste Temmuz 2009, 00-Tümü, Tümü için hesaplandı"; the

@@ -86,18 +86,4 @@ std::vector<FormSayfasi> Ek10Resmi(const EksikGunFormu& form) {
   return sayfalar;
 }
 
-std::vector<EksikGunKisisi> EksikGunKisileri(const std::vector<BildirgeSatiri>& satirlar) {
-  std::vector<EksikGunKisisi> kisiler;
-  for (const auto& s : satirlar)
-    if (s.eksik.value_or(0) > 0)
-      kisiler.push_back({.sskno = s.sskno,
-                         .tcno = s.tcno,
-                         .adi = s.adi,
-                         .soyadi = s.soyadi,
-                         .gun = s.gun.value_or(0),
-                         .eksikGun = s.eksikgunsayisi.value_or(0),
-                         .sebep = *s.eksik});
-  return kisiler;
-}
-
 }  // namespace belvani

@@ -36,7 +36,4 @@ constexpr std::size_t EksikGunSayfaKisisi = 20;
 // Twenty people a page, at least one page.
 std::vector<FormSayfasi> Ek10Resmi(const EksikGunFormu& form);
 
-// The people of a declaration who have a reason for missing days, in its order.
-std::vector<EksikGunKisisi> EksikGunKisileri(const std::vector<BildirgeSatiri>& satirlar);
-
 }  // namespace belvani

@@ -42,9 +42,10 @@ struct AktarimDosyasi {
 // Reads a cell that is written otherwise than its column is stored; nothing: as any other.
 using HucreOkuyan = std::optional<Deger> (*)(const AlanTanimi& alan, std::string_view metin, std::string& kusur);
 
-// `tablolar`: whose fields the header may name. `anahtar` must be a column, filled and different in every row unless
-// `tekrarEder`.
 enum class AnahtarKurali { Tekil, TekrarEder };
+
+// `tablolar`: whose fields the header may name. `anahtar` must be a column and filled, and different in every row
+// unless the rule lets it repeat.
 Sonuc<AktarimDosyasi> AktarimDosyasiOku(const AktarilanCsv& csv, const std::vector<const TabloTanimi*>& tablolar,
                                         std::string_view anahtar, AnahtarKurali kural, HucreOkuyan okuyan = nullptr);
 

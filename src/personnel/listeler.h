@@ -34,11 +34,6 @@ inline constexpr std::string_view Yakinliklar[] = {"1-Eş",      "2-Anne",    "3
 inline constexpr std::string_view KodluCinsiyetler[] = {"0-Erkek", "1-Kadın"};
 inline constexpr std::string_view AgiDurumlari[] = {"0-Hariç", "1-Dahil"};
 
-// The last position of a list that starts at 0.
-constexpr int SonSira(Liste liste) {
-  return int(liste.size()) - 1;
-}
-
 // The number that a coded cell stores: its first character. 0 when that is no digit.
 constexpr std::uint8_t KodSayisi(std::string_view hucre) {
   return hucre.empty() || hucre.front() < '0' || hucre.front() > '9' ? std::uint8_t(0)

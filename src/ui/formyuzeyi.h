@@ -22,9 +22,7 @@ class FormYuzeyi : public QWidget {
   int Sayfa() const { return sayfa_; }  // from 0
   void SayfayaGit(int sayfa);
   void Buyut(int adim);
-  // The value under the cursor, -1 without one.
-  int Secili() const { return secili_; }
-  void Sec(int alan);
+  void Sec(int alan);  // puts the cursor on a value; -1: on none
 
   // Another value, or another place of it: whoever scrolls brings it into sight.
   std::function<void(const QRect& yer)> Gorunsun = [](const QRect&) {};

@@ -187,12 +187,16 @@ inline BildirgeKagidi Kalabalik(BildirgeKagidi kagit, std::size_t kisi) {
 
 inline std::vector<FormSayfasi> EksikGunSayfalari(OrnekSirket& o) {
   const BildirgeKagidi kagit = BildirgeKagidiYap(o, nullptr);
+  std::vector<EksikGunKisisi> kisiler;
+  for (const BildirgeSatiri& s : kagit.satirlar)
+    if (s.eksik.value_or(0) > 0)
+      kisiler.push_back({s.sskno, s.tcno, s.adi, s.soyadi, s.gun.value_or(0), s.eksikgunsayisi.value_or(0), *s.eksik});
   return Ek10Resmi({.yil = kagit.yil,
                     .ay = kagit.ay,
                     .firma = kagit.firma,
                     .arac = kagit.arac,
                     .muhasebeci = kagit.muhasebeci,
-                    .kisiler = EksikGunKisileri(kagit.satirlar)});
+                    .kisiler = kisiler});
 }
 
 // ---- four months, and missing days

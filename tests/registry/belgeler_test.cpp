@@ -99,7 +99,7 @@ TEST(KayitliBelgeler, SettingsChangeWhatThePaperSays) {
 
 // Stopped at any step of any form, a paper is thrown out of and leaves nothing behind; watched to its end it is the
 // same.
-TEST(KayitliBelgeler, HerAdimdaBirakilabilir) {
+TEST(KayitliBelgeler, EachOneCanBeStoppedAtEveryStep) {
   struct Sayan final : Ilerleme {
     int kalan = 0;
     bool Adim(std::size_t, std::size_t) override { return --kalan != 0; }

@@ -2,7 +2,7 @@
 // other programs; its pages are drawn as the law prints them, when they are asked for.
 //
 //   TabloluForm belge(ayar, rapor, {.sayfalar = [kagit](Ilerleme* i) { return DortAylikSayfalari(kagit, i); },
-//                                   .metin = [kagit](Ilerleme* i) { return DortAylikMetni(kagit, i); }});
+//                                   .metin = [kagit](Ilerleme* i) { return DortAyYazdir(*kagit, i); }});
 #pragma once
 
 #include <functional>
