@@ -111,6 +111,7 @@ Sirket::Sirket(int kisi, int yil, int ay, int aySayisi) {
   TamKurallar(kosullar);
   Motor& motor = o.depo.db.IcMotor();
   TanimlariYaz(motor, kosullar);
+  FirmaYukle(o);
   KisileriYaz(motor, kisi);
   const YasalParametreler yasal = Al(YasalParametreleriAl(dizin_));
   for (int geri = aySayisi; geri >= 0; --geri) {

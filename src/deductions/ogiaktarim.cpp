@@ -97,7 +97,6 @@ class OgiAktarimi {
 }  // namespace
 
 Sonuc<AktarimSonucu> OgiHarcamaAktar(Oturum& o, int yil, const AktarilanCsv& csv, AktarimKipi kip) {
-  FirmaYukle(o);  // its decimals
   const bool kaydet = kip == AktarimKipi::Kaydet;
   const OgiKosullari kosullar = OgiKosullariYukle(o, yil, kaydet ? BozukDosya::Onarilir : BozukDosya::Dokunulmaz);
   if (const auto engel = kosullar.Engel()) return *engel;

@@ -117,13 +117,6 @@ Sonuc<YasalParametreler> YasalParametreleriAl(const VeriYolu& veri) {
 }
 
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay) {
-  return Koru([&] {
-    FirmaYukle(o);
-    return KosullariOku(o, yasal, yil, ay);
-  });
-}
-
-Sonuc<Kosullar> KosullariOku(Oturum& o, const YasalParametreler& yasal, int yil, int ay) {
   return Koru([&]() -> Sonuc<Kosullar> {
     const FirmaParametreleri parametreler = FirmaDosyalariYukle(o);
     if (!parametreler.uyarilar.empty())

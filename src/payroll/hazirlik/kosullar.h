@@ -55,12 +55,9 @@ FirmaParametreleri KazancGruplariOku(Motor& motor, const Firma& firma, const Ver
 Sonuc<YasalParametreler> YasalParametreleriAl(const KuruluMevzuat& kurulu);
 Sonuc<YasalParametreler> YasalParametreleriAl(const VeriYolu& veri);
 
-// All conditions of a month of the open company under those parameters; reads its card anew. The failure says what the
-// company lacks or which of its files is broken.
+// All conditions of a month of the open company under those parameters, by the session's card. The failure says what
+// the company lacks or which of its files is broken.
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay);
-
-// The same with the card as the session has it.
-Sonuc<Kosullar> KosullariOku(Oturum& o, const YasalParametreler& yasal, int yil, int ay);
 
 // The same out of parameters that are already loaded, and the session's card.
 Sonuc<Kosullar> KosullariKur(const Oturum& o, const YasalParametreler& yasal, const FirmaParametreleri& firma, int yil,

@@ -70,7 +70,7 @@ class TekSirket {
   void Yap(Ilerleme* ilerleme) {
     const Durum yapildi = Koru([&]() -> Durum {
       if (AcikSirket(oturum_, olan_.sirket.ad))
-        return Hazirla(oturum_, KosullariOku(oturum_, mevzuat_.parametreler, olan_.sirket.yil, olan_.sirket.ay),
+        return Hazirla(oturum_, KosullariYukle(oturum_, mevzuat_.parametreler, olan_.sirket.yil, olan_.sirket.ay),
                        ilerleme);
       Oturum o;
       if (const Durum acildi = Ac(o); !acildi) return acildi;

@@ -146,12 +146,14 @@ TEST(Kosullar, TellWhatIsMissing) {
   EXPECT_THAT(YasalParametreleriAl(sirket.o.DataPath).KusurMetni(), testing::HasSubstr("yasal2.dat yok ya da boş"));
   const YasalParametreler yasal = test::Yasal(2009, 1);
   sirket.motor().Calistir("update firma set issaati = 0, tehlike = 2, sinif = 6, tersfirma = 1");
-  const Kosullar k = test::Al(KosullariYukle(sirket.o, yasal, 2009, 1));
+  const Kosullar k = sirket.Kosul(2009, 1);
   EXPECT_EQ(k.IsSaati, Tek(8)) << "a company without daily hours works eight";
   EXPECT_EQ(k.TehlikeOran, Tek(4.2));
   EXPECT_EQ(k.donem.Son(), Tarih(2009, 2, 14));
   EXPECT_EQ(k.uygulama, 4);
   sirket.motor().Calistir("delete from firma");
+  EXPECT_TRUE(KosullariYukle(sirket.o, yasal, 2009, 1)) << "the session's card stays until it is read again";
+  FirmaYukle(sirket.o);
   EXPECT_EQ(KosullariYukle(sirket.o, yasal, 2009, 1).KusurMetni(), "İşyeri Tanımlamaları Yapılmamış");
 }
 

@@ -52,7 +52,11 @@ struct Sirket {
     Yaz(s);
   }
 
-  Kosullar Kosul(int yil, int ay) { return Al(KosullariYukle(o, Yasal(yil, ay), yil, ay)); }
+  // As a session that has just come: a test writes the card behind its back.
+  Kosullar Kosul(int yil, int ay) {
+    FirmaYukle(o);
+    return Al(KosullariYukle(o, Yasal(yil, ay), yil, ay));
+  }
 
   HazirlikSonucu Hazirla(int yil, int ay, const std::vector<GirisSatiri>& girisler = {}) {
     return Al(TopluHazirla(o, Kosul(yil, ay), girisler));
