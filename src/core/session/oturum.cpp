@@ -71,7 +71,18 @@ Durum KopyaAc(Depo& depo, const std::string& yol, Bildirim& bildirim) {
   return Koru([&] { depo.db.IcMotor().SaltOkunurYap(); });
 }
 
+// Nobody's look changes anything there: the server itself refuses to write.
+Durum SunucudaAc(Oturum& o, const std::string& adres, Bildirim& bildirim, SirketErisimi erisim) {
+  if (!o.depo.VeritabaniAc(adres, bildirim)) return Kusur{o.depo.db.SonHata()};
+  return Koru([&] {
+    Motor& motor = o.depo.db.IcMotor();
+    o.SaltOkunur = erisim == SirketErisimi::YalnizBakis || !motor.Yazilabilir();
+    if (o.SaltOkunur) motor.SaltOkunurYap();
+  });
+}
+
 Durum DepoAc(Oturum& o, const std::string& yol, Bildirim& bildirim, SirketErisimi erisim) {
+  if (SunucuAdresiMi(yol)) return SunucudaAc(o, yol, bildirim, erisim);
   o.SaltOkunur = erisim == SirketErisimi::YalnizBakis || !DepoYazilir(yol);
   if (o.SaltOkunur) return KopyaAc(o.depo, yol, bildirim);
   if (!o.depo.VeritabaniAc(yol, bildirim)) return Kusur{o.depo.db.SonHata()};

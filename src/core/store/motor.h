@@ -167,6 +167,8 @@ class Motor {
   virtual DepoYeri Yeri() = 0;
   // Lays the store out anew, and brings all of it into the one file; it must be this motor's alone.
   virtual void YerKoy(DepoYeri yer) = 0;
+  // May this motor's user write here, as far as the engine itself knows?
+  virtual bool Yazilabilir() { return true; }
   // From now on nothing is written: a write is refused as MotorKusuru::SaltOkunur.
   virtual void SaltOkunurYap() = 0;
 

@@ -52,6 +52,7 @@ class PgMotor final : public Motor {
 
   DepoYeri Yeri() override { return DepoYeri::Paylasilan; }
   void YerKoy(DepoYeri) override {}
+  bool Yazilabilir() override;
   void SaltOkunurYap() override;
   std::string ButunlukKusuru() override;
   std::string SayfaKusuru() override { return {}; }
@@ -73,7 +74,6 @@ class PgMotor final : public Motor {
     ++yazma_;
     degisti_ = true;
   }
-  bool Yazilabilir();
 
  private:
   struct Numaralar {
