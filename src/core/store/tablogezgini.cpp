@@ -115,21 +115,24 @@ bool TabloGezgini::OnOkumadanAl(Yon yon) {
   return true;
 }
 
-// ?1 the key of the record it stands on, ?2 its row number, ?3 how many records to read.
+// The values in order: the key of the record it stands on, its row number, each where the order asks for it, and how
+// many records to read. Not every engine takes a value that stands nowhere in the statement.
 Komut& TabloGezgini::YuruKomutu(Yon yon) {
   auto& komut = yuru_[GeriyeMi(yon) ? 1 : 0];
   if (komut != nullptr) return *komut;
   const std::string sonra = GeriyeMi(yon) ? " < " : " > ";
   const std::string kimlik = motor_.KimlikKolonu(tanim_.ad);
-  std::string kosul = " where " + kimlik + sonra + "?2";
+  std::string kosul = " where " + kimlik + sonra + "?1", boy = "?2";
   if (indeks_ != nullptr) {
     const std::string anahtar(indeks_->alanlar.front());
     kosul = " where " + anahtar + sonra + "?1";
-    if (!indeks_->tekil)
+    if (!indeks_->tekil) {
       kosul = " where " + anahtar + (GeriyeMi(yon) ? " <= ?1" : " >= ?1") + " and (" + anahtar + sonra + "?1 or " +
               kimlik + sonra + "?2)";
+      boy = "?3";
+    }
   }
-  komut = motor_.Hazirla(SecimMetni() + kosul + SiraMetni(yon) + " limit ?3");
+  komut = motor_.Hazirla(SecimMetni() + kosul + SiraMetni(yon) + " limit " + boy);
   return *komut;
 }
 
@@ -138,9 +141,10 @@ void TabloGezgini::OnOku(Yon yon) {
   ardisik_ = okunanYon_ == yon ? ardisik_ + 1 : 0;
   const int boy = ardisik_ > ArdisikEsigi ? OnOkumaBoyu : 1;
   Komut& komut = YuruKomutu(yon);
-  if (indeksAlani_ >= 0) komut.Bagla(1, satir_.alanlar[std::size_t(indeksAlani_)]);
-  komut.TamBagla(2, satir_.kimlik);
-  komut.TamBagla(3, boy);
+  int no = 0;
+  if (indeksAlani_ >= 0) komut.Bagla(++no, satir_.alanlar[std::size_t(indeksAlani_)]);
+  if (indeks_ == nullptr || !indeks_->tekil) komut.TamBagla(++no, satir_.kimlik);
+  komut.TamBagla(++no, boy);
   okunan_.resize(std::max(okunan_.size(), std::size_t(boy)));
   okunanBoy_ = okunanSira_ = 0;
   okunanYon_ = yon;
