@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "gecici.h"
 
@@ -43,5 +44,8 @@ class VeriYeri {
   std::string veritabani_;
   std::string adres_, yer_;
 };
+
+// The address of a new company's place, with nothing in it; throws when it cannot be made.
+std::string BosSirket(const std::string& veriYolu, std::string_view ad);
 
 }  // namespace belvani::test

@@ -27,8 +27,7 @@ TEST(DefterAyari, ReadsTheFile) {
       {"a size beyond reason", "[Bordro]\nBrdfsize=99999999999\n", "1110011011111101100101", "tahoma", 7},
   };
   const test::VeriYeri yer;
-  const VeriYolu sirket(yer.Yer() + "DENEME/");
-  ASSERT_TRUE(sirket.Yarat());
+  const VeriYolu sirket(test::BosSirket(yer.Yer(), "DENEME"));
   EXPECT_EQ(DefterAyariOku(sirket), DefterAyari{});
   for (const auto& o : ornekler) {
     SCOPED_TRACE(o.ad);
@@ -42,8 +41,8 @@ TEST(DefterAyari, ReadsTheFile) {
 
 TEST(DefterAyari, WhatIsWrittenIsReadBack) {
   const test::VeriYeri yer;
-  const VeriYolu sirket(yer.Yer() + "DENEME/");
-  ASSERT_TRUE(sirket.Yarat() && sirket.Yaz("bordro.ini", "[Ozel]\nKalan=1\n"));
+  const VeriYolu sirket(test::BosSirket(yer.Yer(), "DENEME"));
+  ASSERT_TRUE(sirket.Yaz("bordro.ini", "[Ozel]\nKalan=1\n"));
   const DefterAyari ayar{.kolonlar = DefterAnahtarlariOku("0110"), .yaziTipi = "Çizgi Sans", .punto = 12};
   ASSERT_TRUE(DefterAyariYaz(ayar, sirket));
   EXPECT_EQ(DefterAyariOku(sirket), ayar);

@@ -10,12 +10,14 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <iostream>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
+#include "core/store/sunucukurulumu.h"
 #include "sunucu/sablon.h"
 
 namespace belvani::test {
@@ -24,10 +26,12 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-void VeriYoluKur(const std::string& /*adres*/) {}
+void VeriYoluKur(const std::string& adres) {
+  if (const Durum kurulan = SunucuyuKur(adres); !kurulan) throw std::runtime_error(kurulan.KusurMetni());
+}
 
 struct HazirSunucu : OzelSunucu {
-  HazirSunucu() { SablonHazirla(*this, VeriYoluKur); }
+  HazirSunucu() { SablonHazirla(*this, VeriYoluKur, "belvani_sahip"); }
 };
 
 int Birlikte(char** komut) {

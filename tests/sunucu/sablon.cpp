@@ -35,12 +35,14 @@ void YoneticiSql(const std::string& sunucuDizini, const std::string& veritabani,
     throw std::runtime_error(sql + "\n" + PQerrorMessage(bag.get()));
 }
 
-void SablonHazirla(const OzelSunucu& sunucu, const std::function<void(const std::string& adres)>& kur) {
-  const std::string kullanici = BuKullanici();
-  if (kullanici != SunucuYoneticisi)
-    YoneticiSql(sunucu.Dizin(), "postgres", "create role " + Adi(kullanici) + " login");
+void SablonHazirla(const OzelSunucu& sunucu, const std::function<void(const std::string& adres)>& kur,
+                   const std::string& sahip) {
   YoneticiSql(sunucu.Dizin(), "postgres", std::string("create database ") + Sablon + " template template0");
   kur("postgresql://" + std::string(SunucuYoneticisi) + "@/" + Sablon + "?host=" + sunucu.Dizin());
+  const std::string kullanici = BuKullanici();
+  if (kullanici == SunucuYoneticisi) return;
+  YoneticiSql(sunucu.Dizin(), "postgres",
+              "create role " + Adi(kullanici) + " login; grant " + Adi(sahip) + " to " + Adi(kullanici));
 }
 
 // A copy has the template's tables, but neither its owner nor its rights and settings, which the catalogue keeps.

@@ -23,12 +23,15 @@ using Saat = std::chrono::steady_clock;
 OzelSunucu& Sunucu() {
   static const auto sunucu = [] {
     auto yeni = std::make_unique<OzelSunucu>();
-    test::SablonHazirla(*yeni, [&](const std::string&) {
-      test::YoneticiSql(
-          yeni->Dizin(), "belvani_bos",
-          "create table t (a int); create role sahip; alter database belvani_bos owner to sahip;"
-          "grant create on database belvani_bos to sahip; alter database belvani_bos set work_mem = '5MB'");
-    });
+    test::SablonHazirla(
+        *yeni,
+        [&](const std::string&) {
+          test::YoneticiSql(
+              yeni->Dizin(), "belvani_bos",
+              "create table t (a int); create role sahip; alter database belvani_bos owner to sahip;"
+              "grant create on database belvani_bos to sahip; alter database belvani_bos set work_mem = '5MB'");
+        },
+        "sahip");
     return yeni;
   }();
   return *sunucu;

@@ -1,11 +1,12 @@
 #include "veriyeri.h"
 
 #include <cstdlib>
-#include <exception>
 #include <filesystem>
 #include <iostream>
+#include <stdexcept>
 #include <unistd.h>
 
+#include "core/veriyolu.h"
 #include "sunucu/sablon.h"
 
 namespace belvani::test {
@@ -67,6 +68,15 @@ VeriYeri::~VeriYeri() {
   } catch (const std::exception& h) {
     std::cerr << "a test's database stays: " << h.what() << "\n";
   }
+}
+
+std::string BosSirket(const std::string& veriYolu, std::string_view ad) {
+  const VeriYolu veri(veriYolu);
+  if (const Durum var = veri.Yarat(); !var) throw std::runtime_error(var.KusurMetni());
+  const auto yarim = veri.YarimAlt(ad);
+  if (!yarim) throw std::runtime_error(yarim.KusurMetni());
+  if (const Durum adli = (*yarim)->Adlandir(); !adli) throw std::runtime_error(adli.KusurMetni());
+  return veri.Alt(ad).Adres();
 }
 
 }  // namespace belvani::test

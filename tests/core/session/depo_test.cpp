@@ -9,7 +9,6 @@
 #include "core/tables/tablolar.h"
 #include "core/tablo.h"
 #include "core/turkce.h"
-#include "core/veriyolu.h"
 #include "gecici.h"
 #include "surec.h"
 #include "veriyeri.h"
@@ -25,14 +24,13 @@ using test::Tablo;
 // A store that was made, opened once, and closed.
 struct YeniDepo {
   test::VeriYeri veri;
-  std::string sirket = veri.Yer() + "DENEME/";
+  std::string sirket = test::BosSirket(veri.Yer(), "DENEME");
   std::string yol = sirket + "tolu.dat";
   test::ToplayanBildirim b;
   Depo depo;
 
   YeniDepo() {
-    if (!VeriYolu(sirket).Yarat() || !depo.VeritabaniYarat(yol) || !Ac() || !b.iletiler.empty())
-      throw std::runtime_error(depo.db.SonHata());
+    if (!depo.VeritabaniYarat(yol) || !Ac() || !b.iletiler.empty()) throw std::runtime_error(depo.db.SonHata());
     Kapat();
   }
   bool Ac() { return depo.VeritabaniAc(yol, b); }
@@ -56,11 +54,10 @@ struct YeniDepo {
 
 TEST(Depo, MadeThenGrownByTheFirstOpening) {
   const test::VeriYeri veri;
-  const VeriYolu sirket(veri.Yer() + "DENEME/");
-  const std::string yol = sirket.Adres("tolu.dat");
+  const std::string yol = test::BosSirket(veri.Yer(), "DENEME") + "tolu.dat";
   test::ToplayanBildirim b;
   Depo depo;
-  ASSERT_TRUE(sirket.Yarat() && depo.VeritabaniYarat(yol));
+  ASSERT_TRUE(depo.VeritabaniYarat(yol));
   for (const auto& t : Tablolar()) EXPECT_EQ(depo.db.TabloVarMi(t.ad), t.ad != "kaztan" && t.ad != "entpar") << t.ad;
   EXPECT_FALSE(depo.db.AlanVarMi("sicil", "meslekkod") || depo.db.AlanVarMi("brd", "rapcalismadi"));
   ASSERT_TRUE(depo.VeritabaniAc(yol, b));

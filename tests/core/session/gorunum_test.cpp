@@ -91,8 +91,7 @@ TEST_F(GorunumTest, ColourTableIsWrittenWhereItCanBe) {
 }
 
 TEST_F(GorunumTest, WorkstationFile) {
-  const VeriYolu sirket(veriYeri.Yer() + "DENEME/");
-  ASSERT_TRUE(sirket.Yarat());
+  const VeriYolu sirket(test::BosSirket(veriYeri.Yer(), "DENEME"));
   o.FirmaDizini = sirket.Adres();
   o.PrgPath = "/prg/";
   o.BilgisayarAdi = "masa.ofis";

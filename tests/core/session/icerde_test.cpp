@@ -39,7 +39,7 @@ struct IcerdeTest : test::OrnekOturum {
 };
 
 TEST_F(IcerdeTest, AMarkIsThereUntilItIsVoid) {
-  ASSERT_TRUE(yer.Yarat());
+  test::BosSirket(o.DataPath, "DENEME");
   SabitAn an(1'000'000'000);
   const auto ben = IcerdeIsareti::Koy(yer, {.kullanici = "Ayşe\n", .bilgisayar = "MASA1"});
   ASSERT_NE(ben, nullptr);
@@ -88,7 +88,7 @@ TEST_F(IcerdeTest, ListAndLockNameWhoIsIn) {
 }
 
 TEST_F(IcerdeTest, AKilledProgramIsOutAtOnce) {
-  ASSERT_TRUE(yer.Yarat());
+  test::BosSirket(o.DataPath, "DENEME");
   const test::Kapi kondu;
   test::Surec oteki([&] {
     const auto isaret = IcerdeIsareti::Koy(yer, {.kullanici = "Ayşe", .bilgisayar = "MASA1"});

@@ -103,7 +103,7 @@ TEST_F(SirketListesiTest, DeletedWholeOrNotAtAll) {
   EXPECT_EQ(diger.depo.peruser.KayitSayisi(), 1);
   diger.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
   EXPECT_TRUE(SirketSil(o.DataPath, "ESKİ", o, b));
-  ASSERT_TRUE(VeriYolu(o.DataPath).Alt("ESKİ").Yarat());
+  test::BosSirket(o.DataPath, "ESKİ");
   if (!test::SunucudaMi()) Dosya("ESKİ/tolu.dat");  // no store at all
   EXPECT_TRUE(SirketSil(o.DataPath, "ESKİ", o, b));
 }

@@ -67,7 +67,7 @@ TEST_F(YeniSirketTest, RefusedLeavesNothing) {
   EXPECT_FALSE(SirketKur(o, {.ad = "yeni", .kullanici = "çokuzunad", .sifre = ""}, b));
   // Another one takes the name while the store is made.
   const VeriYolu veriYolu(o.DataPath);
-  const auto araya = [&](Firma&) { ASSERT_TRUE(veriYolu.Alt("YENİ").Yarat()); };
+  const auto araya = [&](Firma&) { test::BosSirket(o.DataPath, "YENİ"); };
   EXPECT_EQ(SirketKur(o, {.ad = "yeni", .kullanici = "a", .sifre = "", .kart = araya}, b).KusurMetni(),
             "Bu adda bir şirket var: YENİ");
   EXPECT_TRUE(veriYolu.Alt("YENİ").Dosyalar().empty());

@@ -4,19 +4,18 @@
 #include "core/store/imlec.h"
 #include "core/store/satirlar.h"
 #include "core/tables/tablolar.h"
-#include "core/veriyolu.h"
 #include "veriyeri.h"
 
 namespace belvani::test {
 
 struct OrnekDepo {
   VeriYeri veriYeri;
-  std::string sirket = veriYeri.Yer() + "DENEME/";
+  std::string sirket = BosSirket(veriYeri.Yer(), "DENEME");
   std::string yol = sirket + "tolu.dat";
   Veritabani db;
 
   OrnekDepo() {
-    bool tamam = VeriYolu(sirket).Yarat() && db.DbYarat(yol);
+    bool tamam = db.DbYarat(yol);
     for (const auto& tablo : Tablolar()) {
       tamam = tamam && db.TabloEkle(tablo);
       for (const auto& alan : tablo.alanlar)
