@@ -52,9 +52,35 @@ void Yaz(int soket, const void* yer, std::size_t boy) {
   }
 }
 
+// In the place of a result: what follows is a question for a password.
+constexpr char SifreSorusu = 'S';
+
+void MetinYaz(int soket, const std::string& metin) {
+  const auto boy = std::uint32_t(metin.size());
+  Yaz(soket, &boy, sizeof boy);
+  Yaz(soket, metin.data(), metin.size());
+}
+
+std::optional<std::string> MetinOku(int soket) {
+  std::uint32_t boy = 0;
+  if (!Oku(soket, &boy, sizeof boy)) return std::nullopt;
+  std::string metin(boy, '\0');
+  if (boy != 0 && !Oku(soket, metin.data(), boy)) return std::nullopt;
+  return metin;
+}
+
+// From inside the process. An empty answer is none.
+std::optional<std::string> SahibeSor(int soket, const std::string& sunucu, const std::string& kullanici) {
+  Yaz(soket, &SifreSorusu, 1);
+  MetinYaz(soket, sunucu);
+  MetinYaz(soket, kullanici);
+  auto cevap = MetinOku(soket);
+  return cevap && !cevap->empty() ? cevap : std::nullopt;
+}
+
 }  // namespace
 
-Isci::Isci(const std::function<Bitis(std::size_t)>& is) {
+Isci::Isci(const std::function<Bitis(std::size_t)>& is, SifreSorucu sifre) : sifre_(std::move(sifre)) {
   int uclar[2];
   if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, uclar) != 0)
     throw KomutHatasi{"Süreç başlatılamadı: " + SistemHatasi(errno)};
@@ -78,6 +104,8 @@ void Isci::Calis(int soket, const std::function<Bitis(std::size_t)>& is) const {
   ::close(soket_.No());
   for (const int uc : sahipUclari) ::close(uc);
   if (::dup2(cikti_->No(), STDOUT_FILENO) < 0 || ::dup2(mesaj_->No(), STDERR_FILENO) < 0) ::_exit(1);
+  SifreSorucuKoy(
+      [soket](const std::string& sunucu, const std::string& kullanici) { return SahibeSor(soket, sunucu, kullanici); });
   for (std::uint32_t sira = 0; Oku(soket, &sira, sizeof sira);) {
     const Bitis bitis = is(sira);
     std::cout.flush();
@@ -96,11 +124,22 @@ void Isci::Ver(std::size_t sira) {
   Yaz(soket_.No(), &no, sizeof no);
 }
 
-Isci::Sonuc Isci::SonucuAl() {
+void Isci::SifreyiSoyle() const {
+  const auto sunucu = MetinOku(soket_.No());
+  const auto kullanici = MetinOku(soket_.No());
+  if (sunucu && kullanici) MetinYaz(soket_.No(), sifre_(*sunucu, *kullanici).value_or(""));
+}
+
+std::optional<Isci::Sonuc> Isci::SonucuAl() {
   Sonuc sonuc;
-  if (!Oku(soket_.No(), &sonuc.bitis, 1)) {
-    sonuc.bitis = Bitis::Yapilamadi;
+  char soz = 0;
+  if (!Oku(soket_.No(), &soz, 1)) {
     sonuc.olum = OlumSozu();
+  } else if (soz == SifreSorusu) {
+    SifreyiSoyle();
+    return std::nullopt;
+  } else {
+    sonuc.bitis = Bitis(soz);
   }
   isi_.reset();
   const auto parca = [](const std::shared_ptr<Tampon>& tampon, std::size_t bas) {

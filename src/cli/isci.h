@@ -2,6 +2,8 @@
 // caught. It is forked before any store or connection is opened, so it shares none with anybody; when it dies, the
 // piece it was at is lost and nothing else. Without its owner it ends behind the piece that it is at.
 //
+// Where a server wants a password of it, it asks its owner, who asks his user once for all.
+//
 //   idle --Ver--> at work --Sonuc--> idle          at work --it dies--> ended
 #pragma once
 
@@ -13,6 +15,7 @@
 #include <vector>
 
 #include "cli/tampon.h"
+#include "core/sunucuadresi.h"
 
 namespace belvani::cli {
 
@@ -24,8 +27,8 @@ enum class Bitis : char {
 
 class Isci {
  public:
-  // KomutHatasi when there can be no process.
-  explicit Isci(const std::function<Bitis(std::size_t)>& is);
+  // `sifre` answers in this process. KomutHatasi when there can be no process.
+  Isci(const std::function<Bitis(std::size_t)>& is, SifreSorucu sifre);
   // Waits for the piece that it is at.
   ~Isci();
   Isci(const Isci&) = delete;
@@ -41,18 +44,20 @@ class Isci {
     std::string olum;  // how it died; empty while it lives
     TamponParcasi cikti, mesaj;
   };
-  // Of the piece that it was at; waits for it.
-  Sonuc SonucuAl();
+  // Of the piece that it was at; waits until it says something. Nothing: it has asked, and was answered.
+  std::optional<Sonuc> SonucuAl();
 
   // At once, in the middle of its piece.
   void Oldur() const;
 
  private:
   [[noreturn]] void Calis(int soket, const std::function<Bitis(std::size_t)>& is) const;
+  void SifreyiSoyle() const;
   std::string OlumSozu();
 
   std::shared_ptr<Tampon> cikti_ = std::make_shared<Tampon>();
   std::shared_ptr<Tampon> mesaj_ = std::make_shared<Tampon>();
+  SifreSorucu sifre_;
   DosyaTutamagi soket_;
   pid_t no_ = -1;  // -1: gone
   std::optional<std::size_t> isi_;

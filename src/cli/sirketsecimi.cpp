@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <csignal>
 #include <iostream>
+#include <map>
 #include <unistd.h>
 
 #include "cli/toplurapor.h"
@@ -66,10 +67,33 @@ std::vector<TopluSatir> SatirlariCoz(const std::string& metin) {
   return satirlar;
 }
 
-std::vector<TopluSatir> Secilenler(Genel& genel, const std::vector<std::string>& kodlar) {
-  Isci isci([&](std::size_t) { return Yap([&] { SirketleriYaz(genel.DataPath(), kodlar); }); });
+// Of a server: asked while the companies are listed, then known to the processes that work on them.
+class SifreBellegi {
+ public:
+  SifreSorucu Soran() {
+    return [this](const std::string& sunucu, const std::string& kullanici) {
+      auto sifre = SifreSor(sunucu, kullanici);
+      if (sifre) bilinen_[{sunucu, kullanici}] = *sifre;
+      return sifre;
+    };
+  }
+  SifreSorucu Bilen() const {
+    return [this](const std::string& sunucu, const std::string& kullanici) {
+      const auto yer = bilinen_.find({sunucu, kullanici});
+      return yer == bilinen_.end() ? std::nullopt : std::optional(yer->second);
+    };
+  }
+
+ private:
+  std::map<std::pair<std::string, std::string>, std::string> bilinen_;
+};
+
+std::vector<TopluSatir> Secilenler(Genel& genel, const std::vector<std::string>& kodlar, const SifreSorucu& sifre) {
+  Isci isci([&](std::size_t) { return Yap([&] { SirketleriYaz(genel.DataPath(), kodlar); }); }, sifre);
   isci.Ver(0);
-  const Isci::Sonuc sonuc = isci.SonucuAl();
+  std::optional<Isci::Sonuc> olan;
+  while (!olan) olan = isci.SonucuAl();
+  const Isci::Sonuc& sonuc = *olan;
   if (sonuc.bitis != Bitis::Yapildi) {
     std::string neden = sonuc.mesaj.Metin() + sonuc.olum;
     neden.erase(neden.find_last_not_of('\n') + 1);
@@ -140,12 +164,14 @@ void SirketSecimi::TekSirketlikleriDenetle() const {
 }
 
 void SirketSecimi::TopluCalistir(Genel& genel, const std::function<void(const SirketIsi&)>& is) const {
-  auto satirlar = Secilenler(genel, kodlar_);
+  SifreBellegi sifreler;
+  auto satirlar = Secilenler(genel, kodlar_, sifreler.Soran());
   genel.adlarTam = true;
   const auto sirketinki = [&](std::size_t sira) {
     return Yap([&] { is({.kod = satirlar[sira].kod, .toplu = true}); });
   };
   TopluIs(satirlar, {.is = sirketinki,
+                     .sifre = sifreler.Bilen(),
                      .surec = std::size_t(surec_ != 0 ? surec_ : std::max(1L, ::sysconf(_SC_NPROCESSORS_ONLN))),
                      .duzen = json_ ? TopluDuzen::Json : TopluDuzen::Metin,
                      .dizin = dizin_})

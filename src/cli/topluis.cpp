@@ -71,7 +71,7 @@ void TopluIs::IsVer() {
 
 // Where the system gives no further process, those that are there do it all.
 bool TopluIs::IsciEkle() try {
-  isciler_.push_back(std::make_unique<Isci>(istek_.is));
+  isciler_.push_back(std::make_unique<Isci>(istek_.is, istek_.sifre));
   return true;
 } catch (const KomutHatasi&) {
   if (isciler_.empty()) throw;
@@ -99,11 +99,12 @@ void TopluIs::SonuclariAl() {
 
 void TopluIs::Bitir(Isci& isci) {
   TopluSatir& satir = satirlar_[*isci.Isi()];
-  Isci::Sonuc sonuc = isci.SonucuAl();
-  satir.hal = HaliBul(sonuc.bitis);
-  satir.cikti = std::move(sonuc.cikti);
-  satir.mesaj = std::move(sonuc.mesaj);
-  if (!isci.Yasiyor()) Oldu(satir, sonuc.olum);
+  auto sonuc = isci.SonucuAl();
+  if (!sonuc) return;
+  satir.hal = HaliBul(sonuc->bitis);
+  satir.cikti = std::move(sonuc->cikti);
+  satir.mesaj = std::move(sonuc->mesaj);
+  if (!isci.Yasiyor()) Oldu(satir, sonuc->olum);
   if (satir.hal != Hal::Yapildi) DiziniToparla(satir.kod);
   ++biten_;
   IlerlemeyiGoster();

@@ -31,6 +31,7 @@ enum class TopluDuzen {
 
 struct TopluIstek {
   std::function<Bitis(std::size_t sira)> is;
+  SifreSorucu sifre;  // of a server
   std::size_t surec = 1;
   TopluDuzen duzen = TopluDuzen::Metin;
   std::string dizin;  // where the companies have their folders; "": they write none
