@@ -5,6 +5,7 @@
 #include <set>
 #include <sys/stat.h>
 
+#include "accounting/entegrasyonayari.h"
 #include "accounting/hesapplani.h"
 #include "accounting/kardestablolar.h"
 #include "core/saat.h"
@@ -178,6 +179,18 @@ TEST_F(KardesDepo, OneThatIsNoneIsTold) {
   EXPECT_THAT(Kusur(KardesTuru::Isletme), StartsWith("İşletme Defteri Dosyası Açılamıyor..\n"));
   std::ofstream(dizin.Yol() + "belmuh.dat") << std::string(5000, 'x');
   EXPECT_THAT(Kusur(KardesTuru::Muhasebe), StartsWith("Muhasebe Dosyaları Açılamıyor..\n"));
+}
+
+// A relative path is meant from the company's place, which is no directory on a server.
+TEST_F(KardesDepo, BooksBesideAServerNeedAWholePath) {
+  Oturum o;
+  o.FirmaDizini = "postgresql://s/b#ORNEK/";
+  const std::string yer = KardesDizini(o, "defter");
+  for (const auto& kusur : {KardesAc(KardesTuru::Isletme, yer).KusurMetni(),
+                            KardesAc(KardesTuru::Muhasebe, yer, KardesErisimi::YalnizBakis).KusurMetni(),
+                            KardesYarat(KardesTuru::Muhasebe, yer).KusurMetni()})
+    EXPECT_THAT(kusur, HasSubstr("dizinin tam yolunu veriniz: postgresql://s/b#ORNEK/defter"));
+  EXPECT_FALSE(std::filesystem::exists("postgresql:"));
 }
 
 TEST_F(KardesDepo, AnotherShapeIsNotOpened) {

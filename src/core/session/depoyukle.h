@@ -9,7 +9,8 @@
 
 namespace belvani {
 
-// `dosya` is a whole store of this computer, nobody's; the place has none yet.
+// `dosya` is a whole store of this computer, nobody's; the place has none yet. All its rows are there afterwards, and
+// were compared. Throws Vazgecilmis when `ilerleme` stops it.
 Durum DepoYukle(const std::string& dosya, const VeriYolu& sirket, Ilerleme* ilerleme);
 
 }  // namespace belvani

@@ -89,7 +89,7 @@ std::string DepoAdresi(const VeriYolu& sirket) {
 }
 
 bool DepoVar(const VeriYolu& sirket) {
-  return sirket.Sunucuda() || sirket.Iz(DepoDosyasi).has_value();
+  return sirket.Iz(DepoDosyasi).has_value();
 }
 
 }  // namespace belvani

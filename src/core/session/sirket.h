@@ -32,7 +32,7 @@ std::vector<std::string> Sirketler(const VeriYolu& veri);
 
 // The address of a company's store.
 std::string DepoAdresi(const VeriYolu& sirket);
-// False for a directory that holds none. A place on a server is never without.
+// A directory made by hand may hold none.
 bool DepoVar(const VeriYolu& sirket);
 
 }  // namespace belvani

@@ -35,6 +35,7 @@ bool DepoYani(std::string_view ad) {
 template <class Islev>
 void HerIz(const VeriYolu& sirket, Islev islev) {
   std::vector<std::string> adlar = sirket.Dosyalar();
+  if (sirket.Sunucuda()) adlar.push_back(DepoDosyasi);  // there it is no file
   std::ranges::sort(adlar);
   for (const std::string& ad : adlar) {
     const auto iz = sirket.Iz(ad);

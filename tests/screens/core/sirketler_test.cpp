@@ -27,9 +27,11 @@ namespace {
 TEST(Firlist, ReadsOnAndChoosesNothing) {
   EkranOrtami ortam;
   std::filesystem::create_directories(ortam.oturum.DataPath + "BOZUK");
+  IcerdeYaz(ortam.oturum, "Ayşe");
   auto& form = ortam.Ac<firlist>();
   const auto& liste = *form.findChild<dclist*>();
   ASSERT_EQ(liste.ListCount(), 2);
+  EXPECT_TRUE(liste.Text(0, 3).isEmpty() && Utf8(liste.Text(1, 3)).starts_with("Ayşe (")) << Utf8(liste.Text(1, 3));
   EXPECT_EQ(Utf8(liste.Text(0, 0) + "|" + liste.Text(0, 1) + "|" + liste.Text(0, 2)), "BOZUK|Database'e Ulaşılamadı|");
   EXPECT_EQ(Utf8(liste.Text(1, 2)), "07-2009");
   ortam.Yaz("\n");  // to the rows
@@ -178,6 +180,17 @@ TEST(MuhbilYapifrm, AreKept) {
             Iletiler{"Bilgi: Yeni Ayarlar Kaydedildi\nGeçerli Olabilmesi İçin Programdan Çıkıp Girmelisiniz.."});
   EXPECT_EQ(MakineAyari("DataPath"), "/srv/belvani/");
   EXPECT_EQ(ortam.oturum.DataPath, eski) << "until the next start";
+  const auto adresVer = [&](const char* adres) {
+    AlanBul(yapi, "DataPath").YaziKutusu()->DegerKoy(std::string(adres));
+    Q_EMIT AlanBul(yapi, "DataPath").YaziKutusu()->Change();
+    ortam.Bas(Qt::Key_F5);
+    return ortam.bildirim.Al().at(0);
+  };
+  EXPECT_TRUE(adresVer("postgresql://ayse:gizli@s/b").starts_with("Uyarı: Adreste şifre bulunamaz"));
+  EXPECT_EQ(EkranOrtami::Odak(), "DataPath");
+  EXPECT_EQ(MakineAyari("DataPath"), "/srv/belvani/");
+  EXPECT_TRUE(adresVer("postgresql://s/b/").starts_with("Bilgi: Yeni Ayarlar Kaydedildi"));
+  EXPECT_EQ(MakineAyari("DataPath"), "postgresql://s/b");
 }
 
 TEST(DbupdateEkrani, BringsAnOldStoreUp) {
