@@ -99,21 +99,21 @@ void TamKurallar(Kosullar& k) {
   k.firma.sendikalar = {sendika};
 }
 
-Sirket::Sirket(int kisi, int yil, int ay, int aySayisi) {
+Sirket::Sirket(int kisi, int yil, int ay, int aySayisi, const std::string& veri) {
   std::string kalip = std::filesystem::temp_directory_path() / "belvani-bench-XXXXXX";
   if (mkdtemp(kalip.data()) == nullptr) std::exit(1);
   dizin_ = kalip + "/";
   setenv("BELVANI_KULLANICI_DIZIN", (dizin_ + "ayar").c_str(), 1);
-  o.DataPath = dizin_;
+  o.DataPath = veri.empty() ? dizin_ : veri;
   Sessiz bildirim;
   Al(SirketOlustur(o, "BENCH", "a", "", bildirim));
-  Al(MevzuatKur(dizin_, {yil, ay}, Al(ParametreAdresi(yil, ay))));
+  Al(MevzuatKur(o.DataPath, {yil, ay}, Al(ParametreAdresi(yil, ay))));
   TamKurallar(kosullar);
   Motor& motor = o.depo.db.IcMotor();
   TanimlariYaz(motor, kosullar);
   FirmaYukle(o);
   KisileriYaz(motor, kisi);
-  const YasalParametreler yasal = Al(YasalParametreleriAl(dizin_));
+  const YasalParametreler yasal = Al(YasalParametreleriAl(o.DataPath));
   for (int geri = aySayisi; geri >= 0; --geri) {
     const int ayNo = yil * 12 + ay - 1 - geri;
     kosullar = Al(KosullariYukle(o, yasal, ayNo / 12, ayNo % 12 + 1));

@@ -23,7 +23,8 @@ T Al(Sonuc<T> sonuc) {
 class Sirket {
  public:
   // `kisi` people, and pay records of the `aySayisi` months before `yil`/`ay`.
-  Sirket(int kisi, int yil, int ay, int aySayisi);
+  // `veri`: where it lies, else in a directory of its own.
+  Sirket(int kisi, int yil, int ay, int aySayisi, const std::string& veri = {});
   ~Sirket();
   Sirket(const Sirket&) = delete;
   Sirket& operator=(const Sirket&) = delete;

@@ -17,6 +17,8 @@
 namespace belvani::test {
 
 bool SunucudaMi();
+// Of the server's socket.
+std::string SunucuDizini();
 
 // For a test of what the engine of files alone has: journals, links, permissions, torn pages.
 #define YALNIZ_DIZINDE(neden) \
@@ -35,6 +37,8 @@ class VeriYeri {
   const std::string& Adres() const { return adres_; }
   // What the names of companies and their files are put behind.
   const std::string& Yer() const { return yer_; }
+  // On the server: the database's name.
+  const std::string& Veritabani() const { return veritabani_; }
 
  private:
   void DizindeAc(const std::string& dizin);

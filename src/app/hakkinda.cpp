@@ -4,10 +4,10 @@
 #include <QClipboard>
 #include <QGridLayout>
 #include <curl/curl.h>
-#include <sqlite3.h>
 #include <unicode/uversion.h>
 
 #include "core/session/datayolu.h"
+#include "core/store/motor.h"
 #include "ui/metin.h"
 #include "ui/simge.h"
 
@@ -32,7 +32,8 @@ QString IcuSurumu() {
 std::vector<Satir> Satirlar(const Oturum& o) {
   return {{"Sürüm", Yazi(VersiyonMetni(o.Versiyon))},
           {"Qt", QString::fromLatin1(qVersion())},
-          {"SQLite", QString::fromLatin1(sqlite3_libversion())},
+          {"SQLite", Yazi(MotorSurumleri().dosya)},
+          {"libpq", Yazi(MotorSurumleri().sunucu)},
           {"ICU", IcuSurumu()},
           {"curl", QString::fromLatin1(curl_version_info(CURLVERSION_NOW)->version)},
           {"Veri dizini", Yazi(DataYoluMetni(o.DataPath))},

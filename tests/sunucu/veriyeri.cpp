@@ -14,11 +14,6 @@ namespace {
 
 constexpr const char* Degisken = "BELVANI_TEST_SUNUCU";
 
-// What is named may be a link that leads there: a socket's path must be short.
-std::string SunucuDizini() {
-  return std::filesystem::canonical(std::getenv(Degisken));
-}
-
 // Of this process and no other one's: several run at once.
 std::string YeniAd() {
   static int sayac = 0;
@@ -33,6 +28,11 @@ void OrtamiTemizle() {
 }
 
 }  // namespace
+
+// What is named may be a link that leads there: a socket's path must be short.
+std::string SunucuDizini() {
+  return std::filesystem::canonical(std::getenv(Degisken));
+}
 
 bool SunucudaMi() {
   const char* deger = std::getenv(Degisken);

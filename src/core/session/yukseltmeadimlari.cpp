@@ -127,8 +127,13 @@ std::vector<EksikAdim> EksikAdimlar(Motor& motor) {
 }
 
 std::optional<Kusur> YarimYukseltmeKusuru(Motor& motor) {
+  constexpr std::string_view butun = "yükseltmesi bütün";
+  if (motor.Biliniyor(butun)) return std::nullopt;
   const auto eksik = EksikAdimlar(motor);
-  if (eksik.empty()) return std::nullopt;
+  if (eksik.empty()) {
+    motor.Bilindi(butun);
+    return std::nullopt;
+  }
   std::string metin = "Database yarım yükseltilmiş, yapılmayan geçişler:";
   for (const auto& [adim, alanlar] : eksik) {
     metin += "\n" + std::string(YukseltmeAdimlari()[adim].baslik) + " (";

@@ -14,6 +14,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -130,6 +131,10 @@ class Motor {
  public:
   virtual ~Motor() = default;
 
+  // What was once found to hold of the store's make-up holds until something is run that may change it (Calistir).
+  bool Biliniyor(std::string_view ne) const { return bilinenler_.contains(ne); }
+  void Bilindi(std::string_view ne) { bilinenler_.emplace(ne); }
+
   virtual std::unique_ptr<Komut> Hazirla(std::string_view sql) = 0;
   // For a statement that does itself what the store's triggers do for other programs: it runs without them.
   virtual std::unique_ptr<Komut> TetiksizHazirla(std::string_view sql) = 0;
@@ -180,6 +185,12 @@ class Motor {
   // or rows that are done and all there are; what it throws ends the copying.
   using KopyaAdimi = std::function<void(std::size_t biten, std::size_t toplam)>;
   virtual void Kopyala(const std::string& yol, const KopyaAdimi& adim) = 0;
+
+ protected:
+  void BilinenleriUnut() { bilinenler_.clear(); }
+
+ private:
+  std::set<std::string, std::less<>> bilinenler_;
 };
 
 // Opens the store at an address, the path of a file or a place on a server ("postgresql://…#ORNEK/tolu.dat"), or makes
@@ -190,5 +201,11 @@ std::unique_ptr<Motor> MotorYarat(const std::string& adres);
 
 // Removes a closed store, with what the engine has laid beside it.
 void MotorDosyasiniSil(const std::string& adres);
+
+// Versions of the libraries behind both engines, for the user's eyes.
+struct MotorSurumu {
+  std::string dosya, sunucu;
+};
+MotorSurumu MotorSurumleri();
 
 }  // namespace belvani

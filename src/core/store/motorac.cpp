@@ -31,4 +31,8 @@ void MotorDosyasiniSil(const std::string& adres) {
   SunucuAdresiMi(adres) ? PgMotorSil(Coz(adres)) : SqliteSil(adres);
 }
 
+MotorSurumu MotorSurumleri() {
+  return {SqliteSurumu(), PgKitapligiSurumu()};
+}
+
 }  // namespace belvani

@@ -66,6 +66,11 @@ std::uint64_t PgToplamBekleme() {
   return toplamBekleme;
 }
 
+std::string PgKitapligiSurumu() {
+  const int surum = PQlibVersion();
+  return std::to_string(surum / 10000) + "." + std::to_string(surum % 10000);
+}
+
 PgSonuc::PgSonuc(PGresult* sonuc) : sonuc_(sonuc, &PQclear) {}
 
 int PgSonuc::Satir() const {
@@ -119,7 +124,11 @@ void PgBaglanti::Baglan(const std::string& baglanti) {
   std::string sifre = Sifreler()[baglanti];
   for (int soru = 0;; ++soru) {
     b_ = Ac(baglanti, sifre);
-    if (PQstatus(b_) == CONNECTION_OK) break;
+    if (PQstatus(b_) == CONNECTION_OK) {
+      PQsetNoticeProcessor(
+          b_, [](void*, const char*) {}, nullptr);  // its remarks are no user's
+      break;
+    }
     const bool sifreIster = PQconnectionNeedsPassword(b_) != 0 || (!sifre.empty() && PQconnectionUsedPassword(b_) != 0);
     const MotorHatasi hata = PgBaglantiHatasi(b_);
     const char* kullanici = PQuser(b_);
@@ -154,7 +163,13 @@ void PgBaglanti::OturumuKur() {
 
 std::shared_ptr<PgYanit> PgBaglanti::Sirala(std::string sql, std::vector<PgParametre> parametreler) {
   auto yanit = std::make_shared<PgYanit>();
-  sira_.push_back({std::move(sql), std::move(parametreler), yanit});
+  sira_.push_back({std::move(sql), std::move(parametreler), yanit, false});
+  return yanit;
+}
+
+std::shared_ptr<PgYanit> PgBaglanti::BirKezSirala(std::string sql) {
+  auto yanit = Sirala(std::move(sql));
+  sira_.back().birKez = true;
   return yanit;
 }
 
@@ -179,13 +194,28 @@ bool PgBaglanti::Acik() {
   return !koptu_;
 }
 
+bool PgBaglanti::DuyuruGeldi() {
+  if (!Acik()) return true;
+  bool geldi = false;
+  while (PGnotify* duyuru = PQnotifies(b_)) {
+    geldi = true;
+    PQfreemem(duyuru);
+  }
+  return geldi;
+}
+
 void PgBaglanti::HazirlariBirak() {
   if (hazirlar_.empty()) return;
   hazirlar_.clear();
-  Sirala("deallocate all");
+  BirKezSirala("deallocate all");
 }
 
 void PgBaglanti::Gonder(const Istek& istek, std::vector<Beklenen>& beklenenler) {
+  if (istek.birKez) {
+    if (PQsendQueryParams(b_, istek.sql.c_str(), 0, nullptr, nullptr, nullptr, nullptr, 1) == 0) KopusFirlat();
+    beklenenler.push_back({istek.yanit.get(), {}});
+    return;
+  }
   std::string ad;
   if (const auto hazir = hazirlar_.find(istek.sql); hazir != hazirlar_.end()) {
     ad = hazir->second;
@@ -244,7 +274,7 @@ void PgBaglanti::Bitir() {
   if (sira_.empty()) return;
   if (hazirlar_.size() > EnCokHazir) {
     hazirlar_.clear();
-    sira_.insert(sira_.begin(), {"deallocate all", {}, std::make_shared<PgYanit>()});
+    sira_.insert(sira_.begin(), {"deallocate all", {}, std::make_shared<PgYanit>(), true});
   }
   const std::vector<Istek> sira = std::move(sira_);
   sira_.clear();

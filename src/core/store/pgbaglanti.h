@@ -71,6 +71,8 @@ class PgBaglanti {
   PgBaglanti& operator=(const PgBaglanti&) = delete;
 
   std::shared_ptr<PgYanit> Sirala(std::string sql, std::vector<PgParametre> parametreler = {});
+  // For a text that will not come again.
+  std::shared_ptr<PgYanit> BirKezSirala(std::string sql);
   // Sends what is in the row, waits for all answers. The first failure is thrown; what stood behind it is not done.
   void Bitir();
   // Forgets what has not been sent.
@@ -80,6 +82,8 @@ class PgBaglanti {
   // "copy t (…) from stdin (format binary)" with the rows; all that stood in the row comes first.
   void Kopyala(const std::string& sql, const std::vector<std::string>& parcalar);
 
+  // Has the server told of anything that this session listens to, since it was asked last? It does not wait.
+  bool DuyuruGeldi();
   // The connection is gone; an object of this kind does not come back.
   bool KoptuMu() const { return koptu_; }
   // Asks the operating system alone whether the other end has gone.
@@ -94,6 +98,7 @@ class PgBaglanti {
     std::string sql;
     std::vector<PgParametre> parametreler;
     std::shared_ptr<PgYanit> yanit;
+    bool birKez = false;
   };
   struct Beklenen {
     PgYanit* yanit = nullptr;  // null: of a preparation
@@ -116,5 +121,7 @@ class PgBaglanti {
 
 // Waits of all connections of this program; for tests of how many an operation costs.
 std::uint64_t PgToplamBekleme();
+
+std::string PgKitapligiSurumu();
 
 }  // namespace belvani

@@ -38,16 +38,12 @@ bool PgKomut::Adim() {
       motor_.Bitir();
       sonuc_ = yanit->sonuc;
     } else if (giden_ != nullptr) {
-      if (!giden_->geldi) motor_.Bitir();
-      sonuc_ = std::move(giden_->sonuc);
-      giden_.reset();
+      sonuc_ = motor_.Bekle(std::exchange(giden_, nullptr), sql_, parametreler_);
     } else {
       sonuc_ = motor_.Oku(sql_, parametreler_);
     }
   }
-  if (++satir_ < sonuc_.Satir()) return true;
-  satir_ = -1;
-  return false;
+  return SonrakiSatir();
 }
 
 void PgKomut::Birak() {
@@ -65,19 +61,25 @@ std::string_view PgKomut::KaynakKolon(int i) const {
   return kolon == nullptr ? std::string_view() : kolon->ad;
 }
 
-Komut::Tur PgKomut::Turu(int i) const {
+bool PgOkuyan::SonrakiSatir() {
+  if (++satir_ < sonuc_.Satir()) return true;
+  satir_ = -1;
+  return false;
+}
+
+Komut::Tur PgOkuyan::Turu(int i) const {
   return Null(i) ? Tur::Null : PgTuru(sonuc_.Tip(i), sonuc_.Ham(satir_, i));
 }
 
-std::int64_t PgKomut::Tam(int i) const {
+std::int64_t PgOkuyan::Tam(int i) const {
   return Null(i) ? 0 : PgTam(sonuc_.Tip(i), sonuc_.Ham(satir_, i));
 }
 
-double PgKomut::Sayi(int i) const {
+double PgOkuyan::Sayi(int i) const {
   return Null(i) ? 0 : PgSayi(sonuc_.Tip(i), sonuc_.Ham(satir_, i));
 }
 
-std::string_view PgKomut::Metin(int i) const {
+std::string_view PgOkuyan::Metin(int i) const {
   switch (Turu(i)) {
     case Tur::Null:
       return {};
@@ -94,7 +96,7 @@ std::string_view PgKomut::Metin(int i) const {
   return metin_;
 }
 
-Baytlar PgKomut::Bayt(int i) const {
+Baytlar PgOkuyan::Bayt(int i) const {
   if (Null(i)) return {};
   const std::string_view ham = sonuc_.Ham(satir_, i);
   return {ham.begin(), ham.end()};

@@ -1,4 +1,4 @@
-// A statement of the PostgreSQL engine.
+// Statements of the PostgreSQL engine, and the rows that they answer with.
 #pragma once
 
 #include "core/store/pgmotor.h"
@@ -6,7 +6,46 @@
 
 namespace belvani {
 
-class PgKomut final : public Komut {
+// The rows of an answer.
+class PgOkuyan : public Komut {
+ public:
+  int KolonSayisi() const override { return sonuc_.Var() ? sonuc_.Kolon() : 0; }
+  std::string_view KolonAdi(int i) const override { return sonuc_.KolonAdi(i); }
+  std::string_view KaynakTablo(int) const override { return {}; }
+  std::string_view KaynakKolon(int) const override { return {}; }
+  Tur Turu(int i) const override;
+  std::int64_t Tam(int i) const override;
+  double Sayi(int i) const override;
+  std::string_view Metin(int i) const override;
+  Baytlar Bayt(int i) const override;
+
+ protected:
+  bool SonrakiSatir();
+
+  PgSonuc sonuc_;
+  int satir_ = -1;  // -1: not run
+
+ private:
+  bool Null(int i) const { return sonuc_.NullMu(satir_, i); }
+
+  mutable std::string metin_;  // of a value that is no text
+};
+
+// An answer that has come already; it is given nothing and run no more.
+class PgSatirlar final : public PgOkuyan {
+ public:
+  explicit PgSatirlar(PgSonuc sonuc) { sonuc_ = std::move(sonuc); }
+
+  void NullBagla(int) override {}
+  void TamBagla(int, std::int64_t) override {}
+  void SayiBagla(int, double) override {}
+  void MetinBagla(int, std::string_view) override {}
+  void BaytBagla(int, const Baytlar&) override {}
+  bool Adim() override { return SonrakiSatir(); }
+  void Birak() override { satir_ = -1; }
+};
+
+class PgKomut final : public PgOkuyan {
  public:
   PgKomut(PgMotor& motor, std::string_view sql, bool tetiksiz);
 
@@ -20,19 +59,11 @@ class PgKomut final : public Komut {
   bool Adim() override;
   void Birak() override;
 
-  int KolonSayisi() const override { return sonuc_.Var() ? sonuc_.Kolon() : 0; }
-  std::string_view KolonAdi(int i) const override { return sonuc_.KolonAdi(i); }
   std::string_view KaynakTablo(int i) const override;
   std::string_view KaynakKolon(int i) const override;
-  Tur Turu(int i) const override;
-  std::int64_t Tam(int i) const override;
-  double Sayi(int i) const override;
-  std::string_view Metin(int i) const override;
-  Baytlar Bayt(int i) const override;
 
  private:
   PgParametre& Yer(int no);
-  bool Null(int i) const { return sonuc_.NullMu(satir_, i); }
 
   PgMotor& motor_;
   std::string sql_;
@@ -41,9 +72,6 @@ class PgKomut final : public Komut {
   bool tetiksiz_;
   std::vector<PgParametre> parametreler_;
   std::shared_ptr<PgYanit> giden_;
-  PgSonuc sonuc_;
-  int satir_ = -1;             // -1: not run
-  mutable std::string metin_;  // of a value that is no text
 };
 
 }  // namespace belvani

@@ -37,6 +37,10 @@ constexpr const char* OrtakTablolar[] = {
     "kuran text not null default session_user, an timestamptz not null default clock_timestamp())",
     "create table belvani.dosya (ad text collate \"C\" primary key, baytlar bytea not null, "
     "degisti timestamptz not null default clock_timestamp())",
+    "create function belvani.duyur() returns trigger language plpgsql as "
+    "$$ begin notify belvani_dosya; return null; end $$",
+    "create trigger degisti after insert or update or delete on belvani.dosya "
+    "for each statement execute function belvani.duyur()",
     "create table belvani.isaret (sirket bigint not null references belvani.sirket on delete cascade, "
     "ad text collate \"C\" not null, baytlar bytea not null, primary key (sirket, ad))",
     "create function belvani.gorulur(sirketno bigint) returns boolean language sql stable as "

@@ -73,7 +73,7 @@ void PgMotor::KapiyiTut() {
 }
 
 void PgMotor::BaglantiyiSagla() {
-  if (islemde_ || b_->Acik()) return;
+  if (islemde_ || b_->SiradaVar() || b_->Acik()) return;
   if (kip_ == AcilisKipi::Tek) throw PgKopusHatasi();  // others may have been in since
   Baglan();
 }
@@ -82,6 +82,7 @@ const PgKatalog& PgMotor::Katalog() {
   if (katalog_ == nullptr) {
     BaglantiyiSagla();
     katalog_ = std::make_unique<PgKatalog>(*b_, PgSema(sirketNo_));
+    if (katalog_->Bul("brd") != nullptr && !saltOkunur_) numaralar_["brd"];  // fetched along with the first transaction
   }
   return *katalog_;
 }
@@ -115,6 +116,7 @@ void PgMotor::Bitir() {
 }
 
 std::shared_ptr<PgYanit> PgMotor::Sirala(const std::string& sql, std::vector<PgParametre> parametreler) {
+  BaglantiyiSagla();
   Bosalt();
   return b_->Sirala(sql, std::move(parametreler));
 }
@@ -122,7 +124,6 @@ std::shared_ptr<PgYanit> PgMotor::Sirala(const std::string& sql, std::vector<PgP
 PgSonuc PgMotor::Oku(const std::string& sql, const std::vector<PgParametre>& parametreler) {
   for (bool yeniden = !islemde_;; yeniden = false) {
     try {
-      BaglantiyiSagla();
       const auto yanit = Sirala(sql, parametreler);
       Bitir();
       return yanit->sonuc;
@@ -130,6 +131,17 @@ PgSonuc PgMotor::Oku(const std::string& sql, const std::vector<PgParametre>& par
       if (!yeniden || h.tur != MotorKusuru::Koptu) throw;
     }
   }
+}
+
+PgSonuc PgMotor::Bekle(const std::shared_ptr<PgYanit>& giden, const std::string& sql,
+                       const std::vector<PgParametre>& p) {
+  const bool islemde = islemde_;
+  try {
+    if (!giden->geldi) Bitir();
+  } catch (const MotorHatasi& h) {
+    if (islemde || h.tur != MotorKusuru::Koptu) throw;
+  }
+  return giden->geldi ? giden->sonuc : Oku(sql, p);
 }
 
 template <class Is>
@@ -173,6 +185,7 @@ void PgMotor::Kur(const std::vector<std::string>& komutlar) {
 }
 
 void PgMotor::Calistir(std::string_view sql) {
+  BilinenleriUnut();
   KendiIsleminde([&] {
     for (const std::string& komut : PgKomutlari(sql)) {
       if (SqlTuruBul(komut) == SqlTuru::Kurar)

@@ -65,6 +65,8 @@ class PgMotor final : public Motor {
   std::shared_ptr<PgYanit> Sirala(const std::string& sql, std::vector<PgParametre> parametreler);
   // The answer of what reads; outside a transaction a connection that is gone is made anew once.
   PgSonuc Oku(const std::string& sql, const std::vector<PgParametre>& parametreler);
+  // The answer of what was sent before.
+  PgSonuc Bekle(const std::shared_ptr<PgYanit>& giden, const std::string& sql, const std::vector<PgParametre>& p);
   // A write: in the row of the open transaction, else in one of its own.
   std::shared_ptr<PgYanit> Yaz(const std::string& sql, std::vector<PgParametre> parametreler, bool tetiksiz);
   void Bitir();

@@ -8,6 +8,13 @@ namespace belvani {
 
 PgOrtak::PgOrtak(const std::string& baglanti) : b(baglanti) {
   PgSunucuyuDenetle(b);
+  b.Yurut("listen belvani_dosya");
+}
+
+const DosyaHali* PgOrtak::Bilinen(const std::string& ad) {
+  if (b.DuyuruGeldi()) dosyalar_.clear();
+  const auto bilinen = dosyalar_.find(ad);
+  return bilinen == dosyalar_.end() ? nullptr : &bilinen->second;
 }
 
 std::shared_ptr<PgOrtak> PgOrtakAl(const std::string& baglanti) {

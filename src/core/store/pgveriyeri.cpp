@@ -57,21 +57,17 @@ class PgYer final : public VeriMakinesi {
 
   DosyaHali Bak(std::string_view ad, std::size_t enCok) const override { return BakHepsi({ad}, enCok).front(); }
 
-  // One look at all of them.
+  // One look at all of them. Small files of the data path are remembered until the server tells of a change.
   std::vector<DosyaHali> BakHepsi(const std::vector<std::string_view>& adlar, std::size_t enCok) const override {
     std::vector<DosyaHali> haller(adlar.size());
     const Durum okundu = Yap([&](PgOrtak& o) {
-      std::string dizi = "{";
-      for (const std::string_view ad : adlar) dizi += (dizi.size() == 1 ? "" : ",") + DiziOgesi(ad);
-      const PgSonuc s = o.b.Yurut(
-          "select ad, octet_length(baytlar), case when octet_length(baytlar) <= $2::bigint then baytlar end from " +
-              Sema(o) + ".dosya where ad = any($1::text[])",
-          {PgParametre::Metin(dizi + "}"), PgParametre::Tam(std::int64_t(enCok))});
-      for (int i = 0; i < s.Satir(); ++i)
-        for (std::size_t k = 0; k < adlar.size(); ++k)
-          if (adlar[k] == s.Ham(i, 0))
-            haller[k] = {s.NullMu(i, 2) ? std::string() : std::string(s.Ham(i, 2)), std::uintmax_t(Tam(s, i, 1)), true,
-                         false};
+      if (Bilinenler(o, adlar, enCok, haller)) return;
+      haller.assign(adlar.size(), {});
+      DosyalariOku(o, adlar, enCok, haller);
+      if (adres_.yol.empty())
+        for (std::size_t i = 0; i < adlar.size(); ++i)
+          if (haller[i].boy == haller[i].baytlar.size() && haller[i].boy <= EnCokBilinen)
+            o.Bilindi(std::string(adlar[i]), haller[i]);
     });
     if (!okundu)
       for (DosyaHali& hal : haller) hal = {.okunamadi = true};
@@ -113,6 +109,7 @@ class PgYer final : public VeriMakinesi {
 
   Durum Sil(std::string_view ad) const override {
     return Yap([&](PgOrtak& o) {
+      o.DosyalariUnut();
       o.b.Yurut("delete from " + Sema(o) + ".dosya where ad = $1", {PgParametre::Metin(PgMetni(ad))});
     });
   }
@@ -251,7 +248,8 @@ class PgYer final : public VeriMakinesi {
   bool Sunucuda() const override { return true; }
 
  private:
-  static constexpr std::size_t EnCokDosya = 1u << 30;  // what the server takes in one piece
+  static constexpr std::size_t EnCokBilinen = 1u << 20;  // bytes of a file that is remembered
+  static constexpr std::size_t EnCokDosya = 1u << 30;    // what the server takes in one piece
 
   // A connection that broke while nobody used it is made anew once.
   template <class Is>
@@ -298,6 +296,33 @@ class PgYer final : public VeriMakinesi {
   PgParametre No(PgOrtak& o) const { return PgParametre::Tam(SirketNo(o)); }
   std::string Sema(PgOrtak& o) const { return adres_.yol.empty() ? std::string(PgOrtakSema) : PgSema(SirketNo(o)); }
 
+  bool Bilinenler(PgOrtak& o, const std::vector<std::string_view>& adlar, std::size_t enCok,
+                  std::vector<DosyaHali>& haller) const {
+    if (!adres_.yol.empty()) return false;
+    for (std::size_t i = 0; i < adlar.size(); ++i) {
+      const DosyaHali* bilinen = o.Bilinen(std::string(adlar[i]));
+      if (bilinen == nullptr) return false;
+      haller[i] = *bilinen;
+      if (haller[i].boy > enCok) haller[i].baytlar.clear();
+    }
+    return true;
+  }
+
+  void DosyalariOku(PgOrtak& o, const std::vector<std::string_view>& adlar, std::size_t enCok,
+                    std::vector<DosyaHali>& haller) const {
+    std::string dizi = "{";
+    for (const std::string_view ad : adlar) dizi += (dizi.size() == 1 ? "" : ",") + DiziOgesi(ad);
+    const PgSonuc s = o.b.Yurut(
+        "select ad, octet_length(baytlar), case when octet_length(baytlar) <= $2::bigint then baytlar end from " +
+            Sema(o) + ".dosya where ad = any($1::text[])",
+        {PgParametre::Metin(dizi + "}"), PgParametre::Tam(std::int64_t(enCok))});
+    for (int i = 0; i < s.Satir(); ++i)
+      for (std::size_t k = 0; k < adlar.size(); ++k)
+        if (adlar[k] == s.Ham(i, 0))
+          haller[k] = {s.NullMu(i, 2) ? std::string() : std::string(s.Ham(i, 2)), std::uintmax_t(Tam(s, i, 1)), true,
+                       false};
+  }
+
   static bool Kilitlendi(PgOrtak& o, const std::pair<std::int32_t, std::int64_t>& ad) {
     const PgSonuc s = o.b.Yurut("select pg_try_advisory_lock($1::int, $2::int)",
                                 {PgParametre::Tam(ad.first), PgParametre::Tam(ad.second)});
@@ -305,6 +330,7 @@ class PgYer final : public VeriMakinesi {
   }
 
   static void YazimiSirala(PgOrtak& o, const std::string& sema, std::string_view ad, std::string_view baytlar) {
+    o.DosyalariUnut();
     o.b.Sirala("insert into " + sema +
                    ".dosya (ad, baytlar) values ($1, $2) on conflict (ad) do update set "
                    "baytlar = excluded.baytlar, degisti = clock_timestamp()",

@@ -313,10 +313,9 @@ class SqliteMotor final : public Motor {
   }
 
   void Calistir(std::string_view sql) override {
+    BilinenleriUnut();
     const std::string metin(sql);
-    const int kod = sqlite3_exec(db_, metin.c_str(), nullptr, nullptr, nullptr);
-    ++hal_.yazmaSayaci;
-    if (kod != SQLITE_OK) throw Hata(db_, kod, hal_);
+    Sina(sqlite3_exec(db_, metin.c_str(), nullptr, nullptr, nullptr));
   }
 
   std::unique_ptr<SatirYazici> SatirYaziciAc(const YazilanKolonlar& kolonlar, YazmaTuru tur) override {
@@ -334,7 +333,7 @@ class SqliteMotor final : public Motor {
     sqlite3_busy_timeout(db_, int(KilitBekleme.count()));
     if (kod != SQLITE_OK) throw Hata(db_, kod, hal_);
   }
-  void IslemOnayla() override { Calistir("commit"); }
+  void IslemOnayla() override { Sina(sqlite3_exec(db_, "commit", nullptr, nullptr, nullptr)); }
   void IslemGeriAl() noexcept override {
     if (IslemdeMi()) sqlite3_exec(db_, "rollback", nullptr, nullptr, nullptr);
     ++hal_.yazmaSayaci;
@@ -367,7 +366,7 @@ class SqliteMotor final : public Motor {
   std::string TabloMetni(std::string_view tablo, const std::string& kolonlar) const override {
     return "create table " + std::string(tablo) + " (" + kolonlar + ")";
   }
-  void OzetleriKur() override { Calistir(OzetTablosu); }
+  void OzetleriKur() override { Sina(sqlite3_exec(db_, OzetTablosu, nullptr, nullptr, nullptr)); }
 
   std::string UymayanKosulu(std::string_view ad, AlanTipi tip) const override {
     const std::string a(ad);
@@ -439,6 +438,11 @@ class SqliteMotor final : public Motor {
   }
 
  private:
+  void Sina(int kod) {
+    ++hal_.yazmaSayaci;
+    if (kod != SQLITE_OK) throw Hata(db_, kod, hal_);
+  }
+
   // Asked for before anything is read: then a write-ahead log needs no memory shared with others, so the store opens
   // on any file system, and the hold of everybody else who has it open, even idly, is met.
   void TekBasinaKal() {
@@ -510,6 +514,10 @@ std::unique_ptr<Motor> SqliteAc(const std::string& yol, AcilisKipi kip) {
   auto motor = std::make_unique<SqliteMotor>(yol, kip);
   motor->SirayiDenetle();
   return motor;
+}
+
+std::string SqliteSurumu() {
+  return sqlite3_libversion();
 }
 
 void SqliteSil(const std::string& yol) {

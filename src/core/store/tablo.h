@@ -99,6 +99,11 @@ class Tablo {
     return {};
   }
 
+  bool AnahtarOtomatik() const {
+    const AlanTanimi* alan = TabloBul(Kayit::TabloAdi)->AlanBul(anahtar_);
+    return alan != nullptr && alan->nitelik == AlanNiteligi::Otomatik;
+  }
+
   Deger Anahtari(const Kayit& kayit) const {
     Deger deger;
     Kayit::HerKolon([&](const auto& kolon) {
@@ -124,6 +129,7 @@ class Tablo {
   }
 
   Yazim<Kayit> IslemdeYaz(const Okunan<Kayit>& kayit) {
+    if (!kayit.ilk && anahtarOtomatik_) return Ekle(kayit.simdi);  // its key is yet to be given
     const auto simdiki = SatirBul(Anahtari(kayit.ilk ? *kayit.ilk : kayit.simdi));
     if (!kayit.ilk) return simdiki ? Engel(CakismaTuru::Eklenmis, kayit, simdiki->kayit) : Ekle(kayit.simdi);
     if (!simdiki) return Engel(CakismaTuru::Silinmis, kayit, {});
@@ -141,6 +147,7 @@ class Tablo {
   }
 
   // What differs from what was read goes into the row, column by column.
+  // Records that are written whole go as such, with their checksum.
   Yazim<Kayit> Degistir(const Okunan<Kayit>& kayit, const Satir& simdiki) {
     const Kayit& ilk = *kayit.ilk;
     Kayit sonuc = simdiki.kayit;
@@ -153,6 +160,10 @@ class Tablo {
       sonuc.*kolon.uye = kayit.simdi.*kolon.uye;
     });
     if (atamalar.empty()) return sonuc;
+    if constexpr (ButunYazilir<Kayit>) {
+      KayitYazici<Kayit>(motor_).Degistir(sonuc, simdiki.kimlik);
+      return sonuc;
+    }
     const auto komut =
         motor_.Hazirla("update " + tablo_ + " set " + atamalar + " where " + motor_.KimlikKolonu(tablo_) + " = ?");
     int no = 0;
@@ -161,7 +172,6 @@ class Tablo {
     });
     komut->TamBagla(no + 1, simdiki.kimlik);
     komut->Calistir();
-    if constexpr (Ozetli<Kayit>) BrdOzetleri(motor_).Yenile(simdiki.kimlik);
     return sonuc;
   }
 
@@ -189,6 +199,7 @@ class Tablo {
   EtiketIslevi etiket_;
   VarolanKolonlar<Kayit> kolonlar_;
   std::string anahtar_;  // "": the table has none
+  bool anahtarOtomatik_ = AnahtarOtomatik();
   std::string tablo_ = std::string(Kayit::TabloAdi);
 };
 

@@ -236,7 +236,8 @@ class BordroGirisi {
   void SablonuYukle();
   // Saved, or why the entry goes on.
   std::optional<KapanisSonucu> Kaydet();
-  KapanisSonucu SonrakineGec();
+  // `sonrakiler`: the cards behind the person, which were sent for.
+  KapanisSonucu SonrakineGec(belvani::Sonuc<std::unique_ptr<Komut>> sonrakiler);
   std::int64_t KayitSayisi();  // of the month
 
   Oturum& o_;

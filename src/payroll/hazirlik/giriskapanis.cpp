@@ -17,22 +17,38 @@ struct Aranan {
   bool tarihHatali = false;
 };
 
-Aranan SonrakiUygun(Motor& motor, const BordroDonemi& donem, const std::string& kod) {
-  Aranan aranan;
-  const auto komut = motor.Hazirla("select kod, girtar, ciktar from sicil where kod > ? order by kod");
+constexpr int AramaAdimi = 32;  // cards; the next person is mostly among the first
+
+// The cards behind a code, sent for along with what is asked next.
+std::unique_ptr<Komut> SonrakileriIste(Motor& motor, std::string_view kod) {
+  auto komut = motor.Hazirla("select kod, girtar, ciktar from sicil where kod > ? order by kod limit ?");
   komut->MetinBagla(1, kod);
-  while (komut->Adim()) {
-    Tarih girtar, ciktar;
-    KolonAl(*komut, 1, girtar);
-    KolonAl(*komut, 2, ciktar);
-    const DonemUygunlugu uygunluk = GunSayisiBul(donem, girtar, ciktar).uygunluk;
-    if (uygunluk == DonemUygunlugu::GirisTarihiHatali) aranan.tarihHatali = true;
-    if (uygunluk != DonemUygunlugu::Uygun) continue;
-    aranan.kod = komut->Metin(0);
-    komut->Birak();
-    break;
+  komut->TamBagla(2, AramaAdimi);
+  komut->Gonder();
+  return komut;
+}
+
+Aranan SonrakiUygun(Motor& motor, const BordroDonemi& donem, std::unique_ptr<Komut> komut) {
+  Aranan aranan;
+  while (true) {
+    int okunan = 0;
+    std::string son;
+    while (komut->Adim()) {
+      ++okunan;
+      son = komut->Metin(0);
+      Tarih girtar, ciktar;
+      KolonAl(*komut, 1, girtar);
+      KolonAl(*komut, 2, ciktar);
+      const DonemUygunlugu uygunluk = GunSayisiBul(donem, girtar, ciktar).uygunluk;
+      if (uygunluk == DonemUygunlugu::GirisTarihiHatali) aranan.tarihHatali = true;
+      if (uygunluk != DonemUygunlugu::Uygun) continue;
+      aranan.kod = son;
+      komut->Birak();
+      return aranan;
+    }
+    if (okunan < AramaAdimi) return aranan;
+    komut = SonrakileriIste(motor, son);
   }
-  return aranan;
 }
 
 // "Temmuz 2009"
@@ -81,9 +97,10 @@ KapanisSonucu BordroGirisi::Kapat() {
   const std::string kayip = KaydinKaybi();
   const bool kaydet =
       !KayitVar() || bildirim_.Soru("Puantaj Yeniden Kaydedilecek ?" + (kayip.empty() ? "" : "\n" + kayip));
+  auto sonrakiler = Koru([&] { return SonrakileriIste(o_.depo.db.IcMotor(), kisi_.sicil.kod); });
   if (kaydet)
     if (const auto kalan = Kaydet()) return *kalan;
-  return SonrakineGec();
+  return SonrakineGec(std::move(sonrakiler));
 }
 
 std::optional<KapanisSonucu> BordroGirisi::Kaydet() {
@@ -112,9 +129,13 @@ std::optional<KapanisSonucu> BordroGirisi::Kaydet() {
   return KapanisSonucu::YenidenGeldi;
 }
 
-KapanisSonucu BordroGirisi::SonrakineGec() {
+KapanisSonucu BordroGirisi::SonrakineGec(belvani::Sonuc<std::unique_ptr<Komut>> sonrakiler) {
   hal_ = Hal::Kaydedildi;
-  const auto sonraki = Koru([&] { return SonrakiUygun(o_.depo.db.IcMotor(), kosullar_.donem, kisi_.sicil.kod); });
+  const auto ara = [&]() -> belvani::Sonuc<Aranan> {
+    if (!sonrakiler) return sonrakiler.Kusuru();
+    return SonrakiUygun(o_.depo.db.IcMotor(), kosullar_.donem, std::move(*sonrakiler));
+  };
+  const auto sonraki = Koru(ara);
   if (!sonraki) {
     bildirim_.KusuruGoster(sonraki.Kusuru());
     return KapanisSonucu::OkumaHatasi;

@@ -34,20 +34,30 @@ class KisiSuzgeci {
   const std::string* kod_;
 };
 
-std::vector<Kodlu<Aile>> AileleriOku(Motor& motor, const KisiSuzgeci& kisi) {
-  const auto komut = motor.Hazirla("select kod, yakinlik, agiok from esco" + kisi.Kosul("where") + " order by kod");
+// Statements that are bound and sent; their rows are taken afterwards, so that all of them cost one wait on a server.
+std::unique_ptr<Komut> Gonder(std::unique_ptr<Komut> komut) {
+  komut->Gonder();
+  return komut;
+}
+
+std::unique_ptr<Komut> AileKomutu(Motor& motor, const KisiSuzgeci& kisi) {
+  auto komut = motor.Hazirla("select kod, yakinlik, agiok from esco" + kisi.Kosul("where") + " order by kod");
   kisi.Bagla(*komut, 1);
+  return Gonder(std::move(komut));
+}
+
+std::vector<Kodlu<Aile>> AileleriAl(Komut& komut) {
   std::vector<Kodlu<Aile>> aileler;
-  while (komut->Adim()) {
-    const std::string_view kod = komut->Metin(0);
+  while (komut.Adim()) {
+    const std::string_view kod = komut.Metin(0);
     if (aileler.empty() || !TurkceEsit(aileler.back().kod, kod)) aileler.push_back({std::string(kod), {}});
-    aileler.back().deger.Ekle(int(komut->Tam(1)), int(komut->Tam(2)));
+    aileler.back().deger.Ekle(int(komut.Tam(1)), int(komut.Tam(2)));
   }
   return aileler;
 }
 
-std::vector<Kodlu<YilToplamlari>> YilToplamlariniOku(Motor& motor, const BordroDonemi& donem, const KisiSuzgeci& kisi) {
-  const auto komut = motor.Hazirla(
+std::unique_ptr<Komut> YilKomutu(Motor& motor, const BordroDonemi& donem, const KisiSuzgeci& kisi) {
+  auto komut = motor.Hazirla(
       "select kod, sum(case when ay < ? then gvmatrah end), sum(case when ay < ? then gvtutar end), sum(indirim1), "
       "sum(indirim2), sum(indirim3) from brd where yil = ?" +
       kisi.Kosul("and") + " group by kod order by kod");
@@ -55,21 +65,39 @@ std::vector<Kodlu<YilToplamlari>> YilToplamlariniOku(Motor& motor, const BordroD
   komut->TamBagla(2, donem.ay);
   komut->TamBagla(3, donem.yil);
   kisi.Bagla(*komut, 4);
+  return Gonder(std::move(komut));
+}
+
+std::vector<Kodlu<YilToplamlari>> YilToplamlariniAl(Komut& komut) {
   std::vector<Kodlu<YilToplamlari>> toplamlar;
-  const auto tutar = [&](int i) { return Tutar::Hamdan(komut->Tam(i)); };
-  while (komut->Adim())
-    toplamlar.push_back({std::string(komut->Metin(0)), {tutar(1), tutar(2), {tutar(3), tutar(4), tutar(5)}}});
+  const auto tutar = [&](int i) { return Tutar::Hamdan(komut.Tam(i)); };
+  while (komut.Adim())
+    toplamlar.push_back({std::string(komut.Metin(0)), {tutar(1), tutar(2), {tutar(3), tutar(4), tutar(5)}}});
   return toplamlar;
 }
 
-std::vector<Brd> AyinKayitlariniOku(Motor& motor, const BordroDonemi& donem, const std::string* kod) {
-  std::vector<Deger> degerler{std::int64_t(donem.yil), std::int64_t(donem.ay)};
-  if (kod != nullptr) degerler.emplace_back(*kod);
+std::unique_ptr<Komut> AyKomutu(Motor& motor, const BordroDonemi& donem, const KisiSuzgeci& kisi) {
   // Ordered as the index of the month is, which spares the sorting of a company.
   const std::string no(BordroNosu);
-  const std::string kisi = KisiSuzgeci(kod).Kosul("and");
-  return KayitlariOku<Brd>(
-      motor, "where yil = ? and ay = ?" + kisi + " and " + no + " = 1 order by kod, " + no + ", oto", degerler);
+  auto komut = motor.Hazirla("select " + SecimListesi<Brd>(motor) + " from brd where yil = ? and ay = ?" +
+                             kisi.Kosul("and") + " and " + no + " = 1 order by kod, " + no + ", oto");
+  komut->TamBagla(1, donem.yil);
+  komut->TamBagla(2, donem.ay);
+  kisi.Bagla(*komut, 3);
+  return Gonder(std::move(komut));
+}
+
+std::vector<Brd> KayitlariAl(Komut& komut) {
+  std::vector<Brd> kayitlar;
+  while (komut.Adim()) KayitAl(komut, 0, kayitlar.emplace_back());
+  return kayitlar;
+}
+
+std::unique_ptr<Komut> KartKomutu(Motor& motor, const KisiSuzgeci& kisi) {
+  auto komut =
+      motor.Hazirla("select " + SecimListesi<Sicil>(motor) + " from sicil" + kisi.Kosul("where") + " order by kod");
+  kisi.Bagla(*komut, 1);
+  return Gonder(std::move(komut));
 }
 
 // Walks a list in code order beside the people, who come in code order too.
@@ -93,17 +121,16 @@ void KisileriOku(Motor& motor, const BordroDonemi& donem, const std::string* kod
                  const std::function<bool(KisiVerisi&)>& her) {
   const KisiSuzgeci kisi(kod);
   const auto koduAl = [](const auto& satir) -> const std::string& { return satir.kod; };
-  Eslesen aileler(AileleriOku(motor, kisi), koduAl);
-  Eslesen yillar(YilToplamlariniOku(motor, donem, kisi), koduAl);
-  Eslesen kayitlar(AyinKayitlariniOku(motor, donem, kod), koduAl);
-  const auto komut =
-      motor.Hazirla("select " + SecimListesi<Sicil>(motor) + " from sicil" + kisi.Kosul("where") + " order by kod");
-  kisi.Bagla(*komut, 1);
+  const auto aile = AileKomutu(motor, kisi), yil = YilKomutu(motor, donem, kisi), ay = AyKomutu(motor, donem, kisi),
+             komut = KartKomutu(motor, kisi);
+  Eslesen aileler(AileleriAl(*aile), koduAl);
+  Eslesen yillar(YilToplamlariniAl(*yil), koduAl);
+  Eslesen kayitlar(KayitlariAl(*ay), koduAl);
   while (komut->Adim()) {
     KisiVerisi veri;
     KayitAl(*komut, 0, veri.sicil);
-    if (const auto* aile = aileler.Bul(veri.sicil.kod)) veri.aile = aile->deger;
-    if (const auto* yil = yillar.Bul(veri.sicil.kod)) veri.yil = yil->deger;
+    if (const auto* ailesi = aileler.Bul(veri.sicil.kod)) veri.aile = ailesi->deger;
+    if (const auto* toplam = yillar.Bul(veri.sicil.kod)) veri.yil = toplam->deger;
     if (Brd* kayit = kayitlar.Bul(veri.sicil.kod)) veri.kayit = std::move(*kayit);
     if (!her(veri)) return;
   }
