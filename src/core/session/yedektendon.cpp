@@ -61,8 +61,10 @@ Durum DepoyuHazirla(const std::string& dizin, DepoYeri yer) {
 }
 
 // On a server the files go in one by one, out of a directory of this computer that goes afterwards.
-Durum SunucuyaCikar(const YedekArsivi& arsiv, const VeriYolu& yeni, Ilerleme* ilerleme) {
-  auto is = YarimDizin::Ac(yeni.YerelDizin(), "yedekten", YarimTuru::Donen);
+Durum SunucuyaCikar(const YedekArsivi& arsiv, const VeriYolu& veri, const VeriYolu& yeni, Ilerleme* ilerleme) {
+  const std::string yerel = veri.YerelDizin();
+  VeriYolu(yerel).Toparla();
+  auto is = YarimDizin::Ac(yerel, "yedekten", YarimTuru::Donen);
   if (!is) return is.Kusuru();
   if (Durum cikti = arsiv.Cikar(is->Yol(), ilerleme); !cikti) return cikti;
   if (Durum hazir = DepoyuHazirla(is->Yol(), DepoYeri::Paylasilan); !hazir) return hazir;
@@ -73,8 +75,9 @@ Durum SunucuyaCikar(const YedekArsivi& arsiv, const VeriYolu& yeni, Ilerleme* il
   return DepoYukle(is->Yol() + DepoDosyasi, yeni, ilerleme);
 }
 
-Durum Cikar(const YedekArsivi& arsiv, const VeriYolu& yeni, DepoYeri depoYeri, Ilerleme* ilerleme) {
-  if (yeni.Sunucuda()) return SunucuyaCikar(arsiv, yeni, ilerleme);
+Durum Cikar(const YedekArsivi& arsiv, const VeriYolu& veri, const VeriYolu& yeni, DepoYeri depoYeri,
+            Ilerleme* ilerleme) {
+  if (yeni.Sunucuda()) return SunucuyaCikar(arsiv, veri, yeni, ilerleme);
   if (Durum cikti = arsiv.Cikar(yeni.Adres(), ilerleme); !cikti) return cikti;
   return DepoyuHazirla(yeni.Adres(), depoYeri);
 }
@@ -100,7 +103,7 @@ Sonuc<Donus> Don(const VeriYolu& veri, const YedekArsivi& arsiv, const DonusYeri
   const auto yarim = veri.YarimAlt(yer.ad, YarimTuru::Donen);
   if (!yarim) return yarim.Kusuru();
   const DepoYeri depoYeri = simdiki ? simdiki->Yeri() : YeniDepoYeri(veri);
-  if (Durum cikti = Cikar(arsiv, (*yarim)->Adres(), depoYeri, ilerleme); !cikti) return cikti.Kusuru();
+  if (Durum cikti = Cikar(arsiv, veri, (*yarim)->Adres(), depoYeri, ilerleme); !cikti) return cikti.Kusuru();
   if (yer.dolu) {
     auto onceki = YedekAl(veri, yer.ad, {.tur = YedekTuru::Donus, .depo = simdiki.get()}, ilerleme);
     if (!onceki) return Kusur{"Şimdiki hali yedeklenemedi, yedek geri yüklenmedi:\n" + onceki.KusurMetni()};

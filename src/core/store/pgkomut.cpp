@@ -6,6 +6,7 @@ namespace belvani {
 
 PgKomut::PgKomut(PgMotor& motor, std::string_view sql, bool tetiksiz)
     : motor_(motor), sql_(PgSorgusu(sql)), tur_(SqlTuruBul(sql)), tetiksiz_(tetiksiz) {
+  if (PgBosMu(sql)) throw MotorHatasi(MotorKusuru::Diger, "Veritabanı işlemi yapılamadı [42601]");
   doner_ = tur_ != SqlTuru::Okur && sql_.find(" returning ") != sql_.npos;
 }
 

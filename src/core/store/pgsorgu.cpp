@@ -116,6 +116,12 @@ std::string Parametreler(std::string_view sql) {
 
 }  // namespace
 
+bool PgBosMu(std::string_view sql) {
+  for (sql = Kirpik(sql); sql.starts_with("--"); sql = Kirpik(sql))
+    sql.remove_prefix(std::min(sql.find('\n'), sql.size()));
+  return sql.empty();
+}
+
 std::string PgSorgusu(std::string_view sql) {
   return Parametreler(Siralar(sql));
 }

@@ -11,6 +11,9 @@
 
 namespace belvani {
 
+// Nothing but blanks and comments, which the server would take for a request without an answer.
+bool PgBosMu(std::string_view sql);
+
 std::string PgSorgusu(std::string_view sql);
 
 // "create index i on t (a, b)" with the empty values first, so that it serves the orders above.

@@ -1,5 +1,6 @@
 // The tables of a company as a PostgreSQL server has them: types, numbers of rows, what their values may be.
 
+#include "core/store/islem.h"
 #include "core/store/pgmotor.h"
 #include "core/store/pgsunucu.h"
 
@@ -97,7 +98,12 @@ std::vector<std::string> PgMotor::OzetKomutlari() const {
 }
 
 void PgMotor::OzetleriKur() {
+  if (Katalog().Bul("brdozet") != nullptr) return;
+  std::optional<Islem> islem;
+  if (!islemde_) islem.emplace(*this);
+  katalog_.reset();  // another program may have laid them since the tables were read
   if (Katalog().Bul("brdozet") == nullptr) Kur(OzetKomutlari());
+  if (islem) islem->Onayla();
 }
 
 }  // namespace belvani

@@ -23,8 +23,13 @@ std::vector<PgParametre> KilitAdi(std::int64_t no) {
   return {PgParametre::Tam(std::int32_t(PgKilit::Yarim)), PgParametre::Tam(no)};
 }
 
+// The server would give this program twice what it holds already.
 bool Tut(PgBaglanti& b, std::int64_t no) {
-  return Tam(b.Yurut("select pg_try_advisory_lock($1::int, $2::int)", KilitAdi(no)), 0, 0) != 0;
+  return Tam(b.Yurut("select case when exists (select 1 from pg_locks where locktype = 'advisory' and "
+                     "pid = pg_backend_pid() and classid = $1::int::oid and objid = $2::int::oid) then false "
+                     "else pg_try_advisory_lock($1::int, $2::int) end",
+                     KilitAdi(no)),
+             0, 0) != 0;
 }
 
 void Birak(PgBaglanti& b, std::int64_t no) {

@@ -407,13 +407,15 @@ class SqliteMotor final : public Motor {
                     TekDeger("select seq from sqlite_sequence where name = '" + ad + "'"));
   }
   void SonNumarayiKoy(std::string_view tablo, std::int64_t numara) override {
+    // The engine's own table of numbers is there with the first table that asks for it.
+    if (TekDeger("select count(*) from sqlite_master where name = '" + std::string(tablo) +
+                 "' and sql like '%autoincrement%'") == 0)
+      return;
     const auto komut = Hazirla("update sqlite_sequence set seq = max(seq, ?1) where name = ?2");
     komut->TamBagla(1, numara);
     komut->MetinBagla(2, tablo);
     komut->Calistir();
-    if (DegisenSatir() != 0 || TekDeger("select count(*) from sqlite_master where name = '" + std::string(tablo) +
-                                        "' and sql like '%autoincrement%'") == 0)
-      return;
+    if (DegisenSatir() != 0) return;
     const auto ekle = Hazirla("insert into sqlite_sequence (name, seq) values (?2, ?1)");
     ekle->TamBagla(1, numara);
     ekle->MetinBagla(2, tablo);
