@@ -73,7 +73,8 @@ TEST_F(IcerdeTest, ListAndLockNameWhoIsIn) {
   ASSERT_TRUE(OturumAc(o, "deneme", "Ayşe", "gizli'"));
   an.Gec(60);
   BaskaBilgisayarinki("oteki");
-  ASSERT_TRUE(VeriYolu(o.DataPath).IsaretKoy("kok", "x") && VeriYolu(o.DataPath).Alt("BOS").IsaretKoy("bozuk", "x"));
+  const VeriYolu veri(o.DataPath);
+  ASSERT_TRUE((test::SunucudaMi() || veri.IsaretKoy("kok", "x")) && veri.Alt("BOS").IsaretKoy("bozuk", "x"));
   const auto liste = SirketListesi(o.DataPath);
   ASSERT_EQ(liste.size(), 2u);
   EXPECT_TRUE(liste[0].icerde.empty());

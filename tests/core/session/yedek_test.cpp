@@ -31,8 +31,13 @@ std::string Icerik(const std::string& sirket) {
   for (const TabloTanimi& tanim : Tablolar()) {
     const std::string tablo(tanim.ad);
     icerik += "== " + tablo + "\n";
-    if (motor->Kolonlar(tablo).empty()) continue;
-    const auto satir = motor->Hazirla("select * from " + tablo + " order by " + motor->KimlikKolonu(tablo));
+    const std::string kimlik = motor->KimlikKolonu(tablo);
+    const std::vector<MotorKolonu> olan = motor->Kolonlar(tablo);
+    std::string kolonlar = kimlik;
+    for (const AlanTanimi& alan : tanim.alanlar)
+      if (std::ranges::find(olan, alan.ad, &MotorKolonu::ad) != olan.end()) kolonlar += ", " + std::string(alan.ad);
+    if (kolonlar == kimlik) continue;
+    const auto satir = motor->Hazirla("select " + kolonlar + " from " + tablo + " order by " + kimlik);
     while (satir->Adim())
       for (int i = 0; i < satir->KolonSayisi(); ++i) icerik += std::string(satir->Metin(i)) + "|";
   }

@@ -92,8 +92,8 @@ void ImlecleYaz(Veritabani& db, Ornek o) {
 template <class Kayit>
 void KayitlaYaz(Veritabani& db, Ornek o) {
   KayitYazici<Kayit> yazici(db.IcMotor());
-  yazici.Ekle(Kayit{});
-  yazici.Degistir(KayitYap<Kayit>(o), db.IcMotor().SonKimlik());
+  const std::int64_t no = yazici.Ekle(Kayit{});
+  yazici.Degistir(KayitYap<Kayit>(o), no);
 }
 
 template <class Kayit>

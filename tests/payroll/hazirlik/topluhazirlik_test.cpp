@@ -76,7 +76,7 @@ TEST(TopluHazirlik, EachCompanyHasItsWorkingMonth) {
         KayitYazici<Brd>(motor).Ekle(b);
       },
       2006, 12);
-  std::filesystem::create_directory(s.o.DataPath + "YABANCI");
+  test::BosSirket(s.o.DataPath, "YABANCI");
 
   const auto sirketler = s.Hepsi();
   EXPECT_THAT(sirketler,
@@ -114,7 +114,7 @@ TEST(TopluHazirlik, AnotherMonthsLawIsToldAndBrokenLawStopsAll) {
   ASSERT_EQ(olanlar.at(0).sorunlar.size(), 1u);
   EXPECT_THAT(olanlar[0].sorunlar[0].metin, AllOf(HasSubstr("Haziran 2009 döneminin değil"), Not(HasSubstr(":"))))
       << "the figures were asked about";
-  std::filesystem::remove(s.o.DataPath + "yasal2.dat");
+  ASSERT_TRUE(VeriYolu(s.o.DataPath).Sil("yasal2.dat"));
   EXPECT_FALSE(TopluHazirlikSorusu(s.o, s.Hepsi()));
   EXPECT_EQ(SirketleriHazirla(s.o, s.Hepsi()).at(0).hal, SirketHali::Yapilamadi);
 }
