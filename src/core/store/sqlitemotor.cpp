@@ -403,14 +403,12 @@ class SqliteMotor final : public Motor {
   std::uint64_t YazmaSayaci() const override { return hal_.yazmaSayaci; }
   std::int64_t SonNumara(std::string_view tablo) override {
     const std::string ad(tablo);
-    return std::max(TekDeger("select max(rowid) from " + ad),
-                    TekDeger("select seq from sqlite_sequence where name = '" + ad + "'"));
+    const std::int64_t enBuyuk = TekDeger("select max(rowid) from " + ad);
+    return Numarali(ad) ? std::max(enBuyuk, TekDeger("select seq from sqlite_sequence where name = '" + ad + "'"))
+                        : enBuyuk;
   }
   void SonNumarayiKoy(std::string_view tablo, std::int64_t numara) override {
-    // The engine's own table of numbers is there with the first table that asks for it.
-    if (TekDeger("select count(*) from sqlite_master where name = '" + std::string(tablo) +
-                 "' and sql like '%autoincrement%'") == 0)
-      return;
+    if (!Numarali(tablo)) return;
     const auto komut = Hazirla("update sqlite_sequence set seq = max(seq, ?1) where name = ?2");
     komut->TamBagla(1, numara);
     komut->MetinBagla(2, tablo);
@@ -497,6 +495,12 @@ class SqliteMotor final : public Motor {
     const std::string sonuc = komut->Adim() ? std::string(komut->Metin(0)) : "denetim yapılamadı";
     komut->Birak();
     return sonuc == "ok" ? std::string() : sonuc;
+  }
+
+  // Whether the numbers of the table's rows are never given twice. A store has their list once it has such a table.
+  bool Numarali(std::string_view tablo) {
+    return TekDeger("select count(*) from sqlite_master where name = '" + std::string(tablo) +
+                    "' and sql like '%autoincrement%'") != 0;
   }
 
   std::int64_t TekDeger(std::string_view sql) {
