@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "core/sayi.h"
 #include "documents/listebelgesi.h"
 #include "printing/kolonlar.h"
 

@@ -1,7 +1,6 @@
 #include <algorithm>
 
 #include "core/asama.h"
-#include "core/sayi.h"
 #include "core/turkce.h"
 #include "declarations/bildirgekagidi.h"
 #include "declarations/dortaylikkagidi.h"

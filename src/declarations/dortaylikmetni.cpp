@@ -1,5 +1,4 @@
 #include "core/asama.h"
-#include "core/sayi.h"
 #include "core/turkce.h"
 #include "declarations/bildirgekagidi.h"
 #include "declarations/dortaylikkagidi.h"

@@ -1,7 +1,6 @@
 #include "declarations/ebildirgeadresi.h"
 
 #include "core/ini.h"
-#include "core/turkce.h"
 
 namespace belvani {
 namespace {

@@ -1,7 +1,6 @@
 #include <algorithm>
 
 #include "core/asama.h"
-#include "core/sayi.h"
 #include "declarations/bildirgekagidi.h"
 #include "declarations/eksikgun.h"
 #include "isyeri/isyerinumarasi.h"

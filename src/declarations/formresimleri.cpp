@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "core/tarih.h"
-#include "declarations/bildirgeformu.h"
 #include "isyeri/isyerinumarasi.h"
 #include "isyeri/taraflar.h"
 #include "printing/form/satirliform.h"

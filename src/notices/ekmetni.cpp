@@ -1,6 +1,5 @@
 #include <cassert>
 
-#include "core/turkce.h"
 #include "isyeri/firmaadresi.h"
 #include "isyeri/isyerinumarasi.h"
 #include "notices/ekkagidi.h"

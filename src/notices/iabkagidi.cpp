@@ -1,7 +1,6 @@
 #include "notices/iabkagidi.h"
 
 #include "core/sayi.h"
-#include "core/turkce.h"
 #include "isyeri/firmaadresi.h"
 #include "isyeri/isyerinumarasi.h"
 #include "printing/form/formparcalari.h"

@@ -1,5 +1,4 @@
 // The text form of the insured person's paper.
-#include "core/turkce.h"
 #include "isyeri/isyerinumarasimetni.h"
 #include "ozluk/viziteparcalari.h"
 #include "printing/form/cerceveliform.h"

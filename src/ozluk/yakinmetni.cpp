@@ -1,5 +1,4 @@
 // The text forms of a relative's papers: the visit's is one page, the certificate's are two.
-#include "core/turkce.h"
 #include "isyeri/isyerinumarasimetni.h"
 #include "ozluk/viziteparcalari.h"
 #include "ozluk/vizitesozleri.h"

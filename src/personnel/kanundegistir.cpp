@@ -5,7 +5,6 @@
 #include "core/session/firmabilgi.h"
 #include "core/store/koru.h"
 #include "core/store/satirlar.h"
-#include "core/turkce.h"
 
 namespace belvani {
 namespace {

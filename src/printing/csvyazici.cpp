@@ -4,7 +4,6 @@
 
 #include "core/csv.h"
 #include "core/sayi.h"
-#include "core/turkce.h"
 
 namespace belvani {
 namespace {

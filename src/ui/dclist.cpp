@@ -13,7 +13,6 @@
 #include "core/tables/alan.h"
 #include "ui/dclistdenetim.h"
 #include "ui/dclisthucre.h"
-#include "ui/metin.h"
 #include "ui/tus.h"
 #include "ui/xtext.h"
 

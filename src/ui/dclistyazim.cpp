@@ -7,7 +7,6 @@
 #include "ui/dclist.h"
 #include "ui/dclistdenetim.h"
 #include "ui/dclisthucre.h"
-#include "ui/metin.h"
 #include "ui/xtext.h"
 
 namespace belvani {

@@ -9,7 +9,6 @@
 #include <QMdiSubWindow>
 #include <QTimer>
 
-#include "core/turkce.h"
 #include "ui/dclist.h"
 #include "ui/ipucusatiri.h"
 #include "ui/kayangovde.h"

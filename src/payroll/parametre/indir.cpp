@@ -8,7 +8,6 @@
 
 #include "core/ayarlar.h"
 #include "core/dosya.h"
-#include "core/turkce.h"
 #include "payroll/parametre/kayitlar.h"
 
 namespace belvani {

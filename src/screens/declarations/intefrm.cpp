@@ -3,7 +3,6 @@
 #include "core/turkce.h"
 #include "declarations/ebildirgeadresi.h"
 #include "printing/yazdir.h"
-#include "ui/metin.h"
 
 namespace belvani {
 namespace {

@@ -1,8 +1,6 @@
 #include "screens/payroll/parametreekrani.h"
 
-#include "core/turkce.h"
 #include "screens/payroll/parametreindirme.h"
-#include "ui/metin.h"
 #include "ui/xtext.h"
 
 namespace belvani {

@@ -1,6 +1,5 @@
 #include "screens/payroll/sendtan.h"
 
-#include "core/turkce.h"
 #include "payroll/hesap/sendikaaidati.h"
 #include "ui/listedoldur.h"
 #include "ui/metin.h"

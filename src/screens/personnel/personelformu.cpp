@@ -5,7 +5,6 @@
 #include "core/tables/sicil.h"
 #include "core/turkce.h"
 #include "personnel/kimlik.h"
-#include "ui/metin.h"
 #include "ui/pencere.h"
 #include "ui/xtext.h"
 

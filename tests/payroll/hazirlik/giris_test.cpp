@@ -494,8 +494,12 @@ TEST(BordroGirisi, DeletesAndDoublesNothing) {
   EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::Bitti);
   EXPECT_EQ(e.Kayit("2", 2009, 2).fm1, Tek(5));
 
-  e.bildirim.Al();
   e.giris.KodAl("2");
+  e.bildirim.cevap = false;
+  EXPECT_FALSE(e.giris.KayitSil() || e.giris.AyinBordrosunuSil() || e.giris.AyiGeriAl()) << "refused";
+  EXPECT_EQ(e.Kayitlar(2009, 2).size(), 2u);
+  e.bildirim.cevap = true;
+  e.bildirim.Al();
   EXPECT_TRUE(e.giris.KayitSil());
   e.giris.KodAl("2");
   EXPECT_FALSE(e.giris.KayitSil()) << "no record, no question";
