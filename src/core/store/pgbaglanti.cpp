@@ -15,8 +15,6 @@ namespace {
 constexpr int EnEskiSunucu = 150000;
 constexpr std::size_t EnCokHazir = 400;  // statements that the server keeps for this connection
 
-std::uint64_t toplamBekleme = 0;
-
 // Passwords that users have typed, by connection; never written anywhere.
 std::map<std::string, std::string>& Sifreler() {
   static std::map<std::string, std::string> sifreler;
@@ -61,10 +59,6 @@ constexpr const char* OturumAyarlari =
     "set_config('jit', 'off', false)";
 
 }  // namespace
-
-std::uint64_t PgToplamBekleme() {
-  return toplamBekleme;
-}
 
 std::string PgKitapligiSurumu() {
   const int surum = PQlibVersion();
@@ -186,11 +180,11 @@ void PgBaglanti::KopusFirlat() {
 
 bool PgBaglanti::Acik() {
   if (koptu_ || PQstatus(b_) != CONNECTION_OK) return false;
-  pollfd p{PQsocket(b_), POLLIN, 0};
+  pollfd p{PQsocket(b_), POLLIN | POLLRDHUP, 0};
   if (::poll(&p, 1, 0) <= 0) return true;
   if (PQconsumeInput(b_) == 0 || PQstatus(b_) != CONNECTION_OK) koptu_ = true;
   // A server that ends says so before it closes.
-  if ((p.revents & (POLLHUP | POLLERR)) != 0) koptu_ = true;
+  if ((p.revents & (POLLHUP | POLLRDHUP | POLLERR)) != 0) koptu_ = true;
   return !koptu_;
 }
 
@@ -278,8 +272,6 @@ void PgBaglanti::Bitir() {
   }
   const std::vector<Istek> sira = std::move(sira_);
   sira_.clear();
-  ++bekleme_;
-  ++toplamBekleme;
   if (PQenterPipelineMode(b_) == 0) KopusFirlat();
   std::vector<Beklenen> beklenenler;
   beklenenler.reserve(sira.size() * 2);
@@ -291,8 +283,6 @@ void PgBaglanti::Bitir() {
 void PgBaglanti::Kopyala(const std::string& sql, const std::vector<std::string>& parcalar) {
   Bitir();
   if (koptu_) throw PgKopusHatasi();
-  ++bekleme_;
-  ++toplamBekleme;
   std::optional<MotorHatasi> hata;
   const auto al = [&](PGresult* ham, ExecStatusType beklenen) {
     const PgSonuc sonuc(ham);

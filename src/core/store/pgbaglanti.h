@@ -88,8 +88,6 @@ class PgBaglanti {
   bool KoptuMu() const { return koptu_; }
   // Asks the operating system alone whether the other end has gone.
   bool Acik();
-  // How often an answer was waited for.
-  std::uint64_t BeklemeSayisi() const { return bekleme_; }
   // After changes of the schema: plans that were made before it may not hold.
   void HazirlariBirak();
 
@@ -115,12 +113,8 @@ class PgBaglanti {
   std::vector<Istek> sira_;
   std::unordered_map<std::string, std::string> hazirlar_;  // text -> its name on the server
   std::uint64_t hazirNo_ = 0;
-  std::uint64_t bekleme_ = 0;
   bool koptu_ = false;
 };
-
-// Waits of all connections of this program; for tests of how many an operation costs.
-std::uint64_t PgToplamBekleme();
 
 std::string PgKitapligiSurumu();
 

@@ -8,6 +8,7 @@
 #include "core/store/pgdeger.h"
 #include "core/store/pghata.h"
 #include "core/store/pgkomut.h"
+#include "core/store/pgortak.h"
 #include "core/store/pgsorgu.h"
 #include "core/store/pgsunucu.h"
 #include "core/store/pgyazici.h"
@@ -44,8 +45,8 @@ PgMotor::~PgMotor() = default;
 
 void PgMotor::Baglan() {
   katalog_.reset();
+  (void)PgOrtakAl(adres_.baglanti);  // the server has been looked at then
   b_ = std::make_unique<PgBaglanti>(adres_.baglanti);
-  PgSunucuyuDenetle(*b_);
   const std::string ad = SirketAdi(adres_);
   const auto no = PgSirketNo(*b_, ad);
   if (!no) throw MotorHatasi(MotorKusuru::Acilamadi, "Sunucuda böyle bir şirket yok ya da yetkiniz yok: " + ad);
