@@ -15,6 +15,11 @@ namespace {
 
 constexpr int EnCokSurec = 64;
 
+// While one waits for its disk or its server, another one calculates.
+long OnerilenSurec() {
+  return std::clamp(2 * ::sysconf(_SC_NPROCESSORS_ONLN), 1L, long(EnCokSurec));
+}
+
 // Ends one company's part of many.
 struct Atlandi {
   std::string neden;
@@ -130,8 +135,8 @@ void SirketSecimi::SecenekEkle(CLI::App& komut) {
           "data dizinindeki bütün şirketler; -o DİZİN verilirse her birinin dosyası DİZİN/KOD içine")
       ->trigger_on_parse()
       ->excludes(kod);
-  SayiSecenegi(komut, "-j", "birden çok şirkette: aynı anda çalışan süreç (verilmezse işlemci sayısı)", surec_, 1,
-               EnCokSurec);
+  SayiSecenegi(komut, "-j", "birden çok şirkette: aynı anda çalışan süreç (verilmezse işlemci sayısının iki katı)",
+               surec_, 1, EnCokSurec);
 }
 
 void SirketSecimi::CiktiyiDenetle(const std::string& bicim, const std::string& dosya) {
@@ -172,7 +177,7 @@ void SirketSecimi::TopluCalistir(Genel& genel, const std::function<void(const Si
   };
   TopluIs(satirlar, {.is = sirketinki,
                      .sifre = sifreler.Bilen(),
-                     .surec = std::size_t(surec_ != 0 ? surec_ : std::max(1L, ::sysconf(_SC_NPROCESSORS_ONLN))),
+                     .surec = std::size_t(surec_ != 0 ? surec_ : OnerilenSurec()),
                      .duzen = json_ ? TopluDuzen::Json : TopluDuzen::Metin,
                      .dizin = dizin_})
       .Yurut();

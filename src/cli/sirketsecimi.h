@@ -49,7 +49,7 @@ class SirketSecimi {
 
   std::vector<std::string> kodlar_;
   bool hepsi_ = false;
-  int surec_ = 0;  // 0: as many as the computer has processors
+  int surec_ = 0;  // 0: as the computer has processors
   bool json_ = false;
   std::string dizin_;
   std::vector<CLI::Option*> tekSirketlikler_;

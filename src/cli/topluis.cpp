@@ -41,14 +41,17 @@ bool SozuVar(const Isci& isci) {
 
 void TopluIs::Yurut() {
   const KesmeNobeti nobet;
+  biten_ = std::size_t(std::ranges::count_if(satirlar_, Bitti));
   while (true) {
     IsVer();
     SiradakileriYaz();
     if (isciler_.empty()) break;
+    IlerlemeyiGoster();
     IscileriBekle(isciler_);
     SonuclariAl();
     KesmeyeBak();
   }
+  IlerlemeyiSil();
   SonuYaz();
 }
 
@@ -82,6 +85,7 @@ bool TopluIs::IsciEkle() try {
 void TopluIs::KesmeyeBak() {
   const int istenen = KesmeNobeti::Sayi();
   if (istenen == kesme_) return;
+  IlerlemeyiSil();
   if (kesme_ == 0)
     std::cerr << "Durduruluyor: başlanmış şirketler bitiriliyor (yeniden Ctrl+C: onlar da yarıda kesilir)\n";
   if (istenen > 1)
@@ -107,7 +111,6 @@ void TopluIs::Bitir(Isci& isci) {
   if (!isci.Yasiyor()) Oldu(satir, sonuc->olum);
   if (satir.hal != Hal::Yapildi) DiziniToparla(satir.kod);
   ++biten_;
-  IlerlemeyiGoster();
 }
 
 // Its words are kept without its file, so that however many die, none is missing for those after them.
@@ -135,6 +138,7 @@ void TopluIs::SiradakileriYaz() {
 
 void TopluIs::CiktiyiYaz(const TopluSatir& satir) {
   if (satir.cikti.Boy() == 0) return;
+  IlerlemeyiSil();
   const bool yarim = satir.hal != Hal::Yapildi;
   if (istek_.duzen == TopluDuzen::Json) {
     if (yarim) return;
@@ -168,9 +172,16 @@ void TopluIs::SonuYaz() {
   cikis_.Bitir();
 }
 
-void TopluIs::IlerlemeyiGoster() const {
-  if (::isatty(STDERR_FILENO) != 1) return;
-  std::cerr << "\r" << biten_ << " / " << satirlar_.size() << (biten_ == satirlar_.size() ? "\n" : "") << std::flush;
+// On a terminal alone, in a line that gives way to whatever else is said.
+void TopluIs::IlerlemeyiGoster() {
+  if (!terminal_) return;
+  std::cerr << "\r" << biten_ << " / " << satirlar_.size() << std::flush;
+  ilerlemede_ = true;
+}
+
+void TopluIs::IlerlemeyiSil() {
+  constexpr std::size_t enUzun = 20;
+  if (std::exchange(ilerlemede_, false)) std::cerr << "\r" << std::string(enUzun, ' ') << "\r" << std::flush;
 }
 
 }  // namespace belvani::cli

@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 #include "cli/isci.h"
@@ -57,7 +58,8 @@ class TopluIs {
   void CiktiyiYaz(const TopluSatir& satir);
   void GovdeyiYaz(const TamponParcasi& cikti);
   void SonuYaz();
-  void IlerlemeyiGoster() const;
+  void IlerlemeyiGoster();
+  void IlerlemeyiSil();
 
   std::vector<TopluSatir>& satirlar_;
   TopluIstek istek_;
@@ -65,6 +67,8 @@ class TopluIs {
   std::size_t verilecek_ = 0, yazilacak_ = 0, biten_ = 0;
   int kesme_ = 0;  // that have been answered
   bool ilkUye_ = true;
+  bool terminal_ = ::isatty(STDERR_FILENO) == 1;
+  bool ilerlemede_ = false;  // the progress stands on the terminal's line
   MetinCikisi cikis_;
 };
 

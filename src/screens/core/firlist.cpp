@@ -119,7 +119,7 @@ void firlist::CiktiKomutlari() {
   };
   liste_->CokSecimli();
   Komutlar({{.tus = Qt::Key_F6,
-             .dugme = "Seçilenleri Hazırla",
+             .dugme = "Bordro Hazırla",
              .simge = "bordro",
              .ipucu = "Seçili şirketlerin çalışma ayı bordrosunu şablondan hazırlar",
              .islev = [this] { Hazirla(liste_->SeciliSatirlar()); },
