@@ -44,7 +44,11 @@ PGconn* Ac(const std::string& baglanti, const std::string& sifre) {
                             "UTF8",
                             sifre.c_str(),
                             static_cast<const char*>(nullptr)};
-  return PQconnectdbParams(adlar.data(), degerler.data(), 1);
+  PGconn* b = PQconnectdbParams(adlar.data(), degerler.data(), 1);
+  // "It is there already, skipping" is for no user's eyes; what went wrong comes back with its request.
+  PQsetNoticeProcessor(
+      b, [](void*, const char*) {}, nullptr);
+  return b;
 }
 
 // Every answer reads alike whatever the server, the role or the environment say.
