@@ -51,6 +51,8 @@ void OlenlerinkiniSupur(const fs::path& ust) {
     const std::string yol = i->path();
     if (!i->path().filename().string().starts_with(OnEk) || ::lstat(yol.c_str(), &hal) != 0 || !S_ISDIR(hal.st_mode))
       continue;
+    // What the server itself does in its directory does not make that younger.
+    (void)::stat(KilitYolu(yol).c_str(), &hal);
     if (::time(nullptr) - hal.st_mtime < 60 || !KilidiAl(yol).Acik()) continue;
     std::error_code silme;
     fs::remove_all(yol, silme);

@@ -123,7 +123,7 @@ TEST(OzelSunucu, EndsWithTheProcessThatIsKilledAndIsSwept) {
   const auto son = Saat::now() + 20s;
   while (Istemci(adres).Bagli() && Saat::now() < son) std::this_thread::sleep_for(20ms);
   EXPECT_FALSE(Istemci(adres).Bagli());
-  fs::last_write_time(dizin, fs::file_time_type::clock::now() - 2min);
+  fs::last_write_time(dizin + "/sahip", fs::file_time_type::clock::now() - 2min);
   ASSERT_TRUE(fs::exists(Sunucu().Dizin()));
   const OzelSunucu sonraki;
   EXPECT_FALSE(fs::exists(dizin));

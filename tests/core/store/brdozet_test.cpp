@@ -91,10 +91,14 @@ TEST_F(BrdOzetTest, OtherProgramsAreToldApartFromDamage) {
   const std::string ekle = "insert into brd (yil, kod, ay) values (2009, 'eski', ";
   Sql(ekle + "1)");
   EXPECT_EQ(Bulunan(), "? |brd: 1 kayıt özetsiz (önceki sürümden), bozulsa anlaşılmaz\n") << "no table yet";
-  for (int i = 1; i <= 4; ++i) KayitYazici<Brd>(motor()).Ekle(OrnekBordro(i));
-  // The records 2 to 5 are ours. An earlier version adds, changes and deletes.
+  std::vector<std::string> bizim;
+  for (int i = 1; i <= 4; ++i) bizim.push_back(std::to_string(KayitYazici<Brd>(motor()).Ekle(OrnekBordro(i))));
+  // An earlier version adds, changes and deletes.
   Sql(ekle + "2)");
-  Sql("update brd set brutkaz = brutkaz + 1 where oto = 2; delete from brd where oto = 3");
+  const auto bozVeSil = [&](const std::string& bozulan, const std::string& silinen) {
+    Sql("update brd set brutkaz = brutkaz + 1 where oto = " + bozulan + "; delete from brd where oto = " + silinen);
+  };
+  bozVeSil(bizim[0], bizim[1]);
   EXPECT_EQ(Bulunan(),
             "? eski|brd: 2 kayıt özetsiz (önceki sürümden), bozulsa anlaşılmaz\n"
             "? Şğ1|brd: 1 kayıt son özetinden sonra önceki bir sürümle veya program dışında değiştirilmiş\n");
@@ -102,9 +106,9 @@ TEST_F(BrdOzetTest, OtherProgramsAreToldApartFromDamage) {
   EXPECT_EQ(Bulunan(), "");
   // Past the engine: what no program has done.
   for (const char* tetik : {"brdozet_degisti", "brdozet_silindi"}) test::TetigiKaldir(motor(), tetik, "brd");
-  Sql("update brd set brutkaz = brutkaz + 1 where oto = 4; delete from brd where oto = 5");
-  EXPECT_EQ(Bulunan(),
-            "Şğ3|brd: 2005/4 kaydı (4) bozulmuş, değerleri özetini tutmuyor\n|brd: 5 numaralı kayıt kaybolmuş\n");
+  bozVeSil(bizim[2], bizim[3]);
+  EXPECT_EQ(Bulunan(), "Şğ3|brd: 2005/4 kaydı (" + bizim[2] +
+                           ") bozulmuş, değerleri özetini tutmuyor\n|brd: " + bizim[3] + " numaralı kayıt kaybolmuş\n");
 }
 
 constexpr std::size_t SayfaBoyu = 4096;
