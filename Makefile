@@ -8,7 +8,7 @@ RESIMLER = build/$(PRESET)/src/app/belvani-resimler
 
 PREFIX ?= /usr/local
 
-.PHONY: screenshots run test altin maymun dayanim bench lint fuzz deps asan install clean
+.PHONY: sunucu-dene screenshots run test altin maymun dayanim bench lint fuzz deps asan install clean
 
 # The main job on the sample company. With a display: the desktop opens on it. Without one: it is made in a scratch data
 # path, all its months are prepared, and the last ledger is printed.
@@ -17,6 +17,12 @@ run: deps
 	@cmake --build --preset $(PRESET) --target belvani-cli belvani -j $(JOBS)
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then tools/masaustu.sh $(CLI) $(MASAUSTU) build/ornek; \
 	else tools/ornek.sh $(CLI); fi
+
+# An office's database server for trial, on this computer alone; tells how to use and remove it.
+sunucu-dene: deps
+	@cmake --preset $(PRESET) >/dev/null
+	@cmake --build --preset $(PRESET) --target belvani-cli belvani -j $(JOBS)
+	@tools/sunucu-dene.sh $(CLI)
 
 # Pictures of every screen, filled from the sample company, for the documentation.
 screenshots: deps
