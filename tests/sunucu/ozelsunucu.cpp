@@ -43,6 +43,13 @@ DosyaTutamagi KilidiAl(const std::string& dizin) {
   return kilit;
 }
 
+// The last processes of a server that is ending still write there.
+void Kaldir(const std::string& dizin) {
+  std::error_code hata;
+  for (int kez = 0; kez < 100; ++kez, std::this_thread::sleep_for(20ms))
+    if (fs::remove_all(dizin, hata); !hata) return;
+}
+
 // Directories whose owner has been killed: nobody holds their lock. A young one may be about to take it.
 void OlenlerinkiniSupur(const fs::path& ust) {
   std::error_code hata;
@@ -54,8 +61,7 @@ void OlenlerinkiniSupur(const fs::path& ust) {
     // What the server itself does in its directory does not make that younger.
     (void)::stat(KilitYolu(yol).c_str(), &hal);
     if (::time(nullptr) - hal.st_mtime < 60 || !KilidiAl(yol).Acik()) continue;
-    std::error_code silme;
-    fs::remove_all(yol, silme);
+    Kaldir(yol);
   }
 }
 
@@ -129,8 +135,7 @@ OzelSunucu::OzelSunucu() {
 
 OzelSunucu::~OzelSunucu() {
   Durdur(Durus::Ani);
-  std::error_code hata;
-  fs::remove_all(dizin_, hata);
+  Kaldir(dizin_);
 }
 
 std::string OzelSunucu::Gunluk() const {
