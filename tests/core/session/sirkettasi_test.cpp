@@ -8,6 +8,8 @@
 #include "core/session/sirket.h"
 #include "core/store/depoaktarimi.h"
 #include "core/store/satirlar.h"
+#include "core/tables/brd.h"
+#include "core/tables/sicil.h"
 
 namespace belvani {
 namespace {
@@ -29,12 +31,12 @@ struct SirketTasima : test::OrnekOturum {
       s.ucret = Tutar(1234.5678);
       s.girtar = Tarih(2005, 2, 28);
       KayitYazici<Sicil>(motor).Ekle(s);
-      Brd b;
-      b.kod = kod;
-      b.yil = 2009;
-      b.ay = 7;
-      b.fm1 = Tek(0.1);
-      KayitYazici<Brd>(motor).Ekle(b);
+      Brd bordro;
+      bordro.kod = kod;
+      bordro.yil = 2009;
+      bordro.ay = 7;
+      bordro.fm1 = Tek(0.1);
+      KayitYazici<Brd>(motor).Ekle(bordro);
     }
     motor.Calistir("delete from brd where kod = 'A1'");
     ASSERT_TRUE(VeriYolu(o.FirmaDizini).Yaz("sablon.dat", std::string("\0\xFF şablon", 10)));
