@@ -127,7 +127,7 @@ void PgBaglanti::Baglan(const std::string& baglanti) {
           b_, [](void*, const char*) {}, nullptr);  // its remarks are no user's
       break;
     }
-    const bool sifreIster = PQconnectionNeedsPassword(b_) != 0 || (!sifre.empty() && PQconnectionUsedPassword(b_) != 0);
+    const bool sifreIster = PgSifreReddi(b_);
     const MotorHatasi hata = PgBaglantiHatasi(b_);
     const char* kullanici = PQuser(b_);
     std::optional<std::string> yeni;

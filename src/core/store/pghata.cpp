@@ -19,6 +19,7 @@ constexpr KodKusuru KodKusurlari[] = {
     {"53", MotorKusuru::Acilamadi, "Sunucu şu anda yeni bağlantı kabul etmiyor, biraz sonra yeniden deneyiniz"},
     {"25006", MotorKusuru::SaltOkunur, "Şirket salt okunur açıldı, değişiklikler kaydedilemez"},
     {"42501", MotorKusuru::SaltOkunur, "Bu işlem için sunucuda yetkiniz yok"},
+    {"42P01", MotorKusuru::Diger, "Şirketin tabloları sunucuda bulunamadı; şirketteki yetkiniz kaldırılmış olabilir"},
     {"57P", MotorKusuru::Koptu, "Sunucu kapandı ya da yeniden başlıyor; yazdıklarınız duruyor, yeniden deneyiniz"},
     {"08", MotorKusuru::Koptu, "Sunucu bağlantısı koptu; yazdıklarınız duruyor, yeniden deneyiniz"},
     {"XX001", MotorKusuru::Bozuk, "Sunucudaki veriler bozuk, sunucunun yöneticisine haber veriniz"},
@@ -40,6 +41,47 @@ std::string TekSatir(std::string metin) {
   return metin;
 }
 
+// The library tells why there is no connection only in its text, which is English unless the desktop speaks otherwise;
+// the text comes along in any case.
+struct NedenKusuru {
+  std::string_view iz;
+  MotorKusuru tur;
+  const char* metin;
+};
+
+constexpr NedenKusuru NedenKusurlari[] = {
+    {"certificate verify failed", MotorKusuru::Acilamadi,
+     "Sunucunun sertifikası tanınmadı, bağlanılmadı: sunucu ofisin sunucusu olmayabilir ya da sertifika makamının "
+     "dosyası (sslrootcert) onun değil"},
+    {"does not match host name", MotorKusuru::Acilamadi,
+     "Sunucunun sertifikası bu ada verilmemiş, bağlanılmadı: adrese sertifikadaki ad yazılmalı"},
+    {"root certificate file", MotorKusuru::Acilamadi, "Sertifika makamının dosyası (sslrootcert) bu bilgisayarda yok"},
+    {"certificate", MotorKusuru::Acilamadi, "Sertifikayla bağlanılamadı"},
+    {"does not support SSL", MotorKusuru::Acilamadi, "Sunucu şifreli (TLS) bağlantı vermiyor"},
+    {"pg_hba.conf", MotorKusuru::Acilamadi,
+     "Sunucu bu kullanıcıyı bu bilgisayardan ya da bu bağlantı türüyle (TLS) içeri almıyor"},
+    {"permission denied for database", MotorKusuru::Acilamadi,
+     "Bu kullanıcıya sunucuda henüz yetki verilmemiş: belvani-cli yetki KOD KULLANICI"},
+    {"is not permitted to log in", MotorKusuru::Acilamadi, "Bu kullanıcının sunucuya girişi kapatılmış"},
+    {"database \"", MotorKusuru::Acilamadi, "Sunucuda bu adda bir veritabanı yok"},
+    {"definition of service", MotorKusuru::Acilamadi,
+     "Adresteki servis bu bilgisayarda tanımlı değil (pg_service.conf)"},
+    {"too many clients", MotorKusuru::Acilamadi,
+     "Sunucu şu anda yeni bağlantı kabul etmiyor, biraz sonra yeniden deneyiniz"},
+    {"connection slots", MotorKusuru::Acilamadi,
+     "Sunucu şu anda yeni bağlantı kabul etmiyor, biraz sonra yeniden deneyiniz"},
+    {"could not translate host name", MotorKusuru::Koptu, "Sunucuya bağlanılamadı, adı ağda bulunamadı"},
+    {"Connection refused", MotorKusuru::Koptu, "Sunucuya bağlanılamadı, çalışmıyor olabilir"},
+    {"timeout expired", MotorKusuru::Koptu, "Sunucuya bağlanılamadı, yanıt vermiyor"},
+    {"the database system is", MotorKusuru::Koptu, "Sunucuya bağlanılamadı, kapanıyor ya da yeniden başlıyor"},
+};
+
+const NedenKusuru* NedenBul(std::string_view metin) {
+  for (const NedenKusuru& n : NedenKusurlari)
+    if (metin.find(n.iz) != metin.npos) return &n;
+  return nullptr;
+}
+
 }  // namespace
 
 MotorHatasi PgKopusHatasi() {
@@ -52,11 +94,16 @@ MotorHatasi PgIstekHatasi(const PGresult* sonuc) {
   return KodHatasi(kod);
 }
 
-// The library tells the server's letters of a refused connection only in its text.
+bool PgSifreReddi(PGconn* baglanti) {
+  if (PQconnectionNeedsPassword(baglanti) != 0) return true;
+  return PQconnectionUsedPassword(baglanti) != 0 && NedenBul(PQerrorMessage(baglanti)) == nullptr;
+}
+
 MotorHatasi PgBaglantiHatasi(PGconn* baglanti) {
   const std::string metin = baglanti == nullptr ? std::string() : TekSatir(PQerrorMessage(baglanti));
   const std::string neden = metin.empty() ? std::string() : "\n" + metin;
-  if (baglanti != nullptr && (PQconnectionNeedsPassword(baglanti) != 0 || PQconnectionUsedPassword(baglanti) != 0))
+  if (const NedenKusuru* n = NedenBul(metin)) return {n->tur, n->metin + neden};
+  if (baglanti != nullptr && PgSifreReddi(baglanti))
     return {MotorKusuru::Acilamadi, "Sunucu bu kullanıcıyı ya da şifresini kabul etmedi" + neden};
   return {MotorKusuru::Koptu, "Sunucuya bağlanılamadı" + neden};
 }

@@ -15,6 +15,8 @@ namespace belvani {
 MotorHatasi PgIstekHatasi(const pg_result* sonuc);
 // Of a connection that could not be made.
 MotorHatasi PgBaglantiHatasi(pg_conn* baglanti);
+// Whether another password may help: none was there, or the server has refused the one that it got.
+bool PgSifreReddi(pg_conn* baglanti);
 MotorHatasi PgKopusHatasi();
 
 }  // namespace belvani

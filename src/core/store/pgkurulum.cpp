@@ -16,7 +16,7 @@ constexpr const char* Roller[] = {
     "create role belvani_kullanici nologin; end if; end $$",
     "grant belvani_kullanici to belvani_sahip with admin option",
     // Whoever lays the server out is its first administrator.
-    "do $$ begin if not pg_has_role(current_user, 'belvani_sahip', 'member') then "
+    "do $$ begin if not pg_has_role(current_user, 'belvani_sahip', 'usage') then "
     "execute format('grant belvani_sahip to %I', current_user); end if; end $$",
     "do $$ begin execute format('grant create, connect on database %I to belvani_sahip', current_database()); "
     "execute format('grant connect on database %I to belvani_kullanici', current_database()); end $$",
@@ -24,7 +24,9 @@ constexpr const char* Roller[] = {
 };
 
 // By the owner. A company is seen by those who may use its schema; a half one by the owner's members alone, who may use
-// every schema. Files and marks of the data path belong to all who use it.
+// every schema. Marks belong to all who are in; the files of the data path, by which all companies are calculated, are
+// read by all and written by who may write a company. What the functions call is fixed here, whatever the search path
+// of who asks.
 constexpr const char* OrtakTablolar[] = {
     "create collation belvani.turkce (provider = icu, locale = 'tr-u-ks-level2', deterministic = false)",
     "create domain belvani.tinyint as smallint",
@@ -43,12 +45,17 @@ constexpr const char* OrtakTablolar[] = {
     "for each statement execute function belvani.duyur()",
     "create table belvani.isaret (sirket bigint not null references belvani.sirket on delete cascade, "
     "ad text collate \"C\" not null, baytlar bytea not null, primary key (sirket, ad))",
-    "create function belvani.gorulur(sirketno bigint) returns boolean language sql stable as "
-    "$$ select coalesce(has_schema_privilege(to_regnamespace('s' || sirketno)::oid, 'usage'), false) $$",
+    "create function belvani.gorulur(sirketno bigint) returns boolean language sql stable "
+    "return coalesce(has_schema_privilege(to_regnamespace('s' || sirketno)::oid, 'usage'), false)",
+    "create function belvani.yazar() returns boolean language sql stable return exists (select from belvani.sirket "
+    "where has_table_privilege(to_regclass('s' || no || '.brd')::oid, 'insert'))",
     "alter table belvani.sirket enable row level security",
     "create policy gorulen on belvani.sirket for select using (belvani.gorulur(no))",
     "alter table belvani.isaret enable row level security",
     "create policy gorulen on belvani.isaret using (belvani.gorulur(sirket)) with check (belvani.gorulur(sirket))",
+    "alter table belvani.dosya enable row level security",
+    "create policy okunan on belvani.dosya for select using (true)",
+    "create policy yazilan on belvani.dosya using (belvani.yazar()) with check (belvani.yazar())",
     "grant usage on schema belvani to belvani_kullanici",
     "grant select on belvani.kurulum, belvani.sirket to belvani_kullanici",
     "grant select, insert, update, delete on belvani.dosya, belvani.isaret to belvani_kullanici",
@@ -101,9 +108,9 @@ void YetkileriKoy(PgBaglanti& b, const std::string& sema, const std::string& rol
   b.Sirala("grant usage on schema " + sema + " to " + rol);
   b.Sirala("grant " + tablolar + " on all tables in schema " + sema + " to " + rol);
   b.Sirala(sonrakiler + " grant " + tablolar + " on tables to " + rol);
-  if (!yazar) return;
-  b.Sirala("grant usage, select on all sequences in schema " + sema + " to " + rol);
-  b.Sirala(sonrakiler + " grant usage, select on sequences to " + rol);
+  const std::string numaralar = yazar ? "usage, select" : "select";  // a backup has the last number given
+  b.Sirala("grant " + numaralar + " on all sequences in schema " + sema + " to " + rol);
+  b.Sirala(sonrakiler + " grant " + numaralar + " on sequences to " + rol);
 }
 
 }  // namespace

@@ -85,11 +85,14 @@ std::string PgSema(std::int64_t sirketNo) {
 
 void PgSunucuyuDenetle(PgBaglanti& b) {
   const auto kurulu = b.Yurut(
-      "select to_regclass('belvani.kurulum') is not null, "
-      "coalesce(has_schema_privilege(to_regnamespace('belvani')::oid, 'usage'), true)");
-  const auto dogru = [&](int kolon) { return PgTam(kurulu.Tip(kolon), kurulu.Ham(0, kolon)) != 0; };
-  if (!dogru(1)) throw Reddet("Bu kullanıcıya sunucuda henüz yetki verilmemiş: belvani-cli yetki KOD KULLANICI");
-  if (!dogru(0)) throw Reddet("Bu veritabanı programa hazırlanmamış: belvani-cli sunucu-kur");
+      "select s.no is null or s.gorulur, case when s.gorulur then to_regclass('belvani.kurulum') is not null end "
+      "from (select to_regnamespace('belvani')::oid as no, "
+      "has_schema_privilege(to_regnamespace('belvani')::oid, 'usage') as gorulur) s");
+  const auto dogru = [&](int kolon) {
+    return !kurulu.NullMu(0, kolon) && PgTam(kurulu.Tip(kolon), kurulu.Ham(0, kolon)) != 0;
+  };
+  if (!dogru(0)) throw Reddet("Bu kullanıcıya sunucuda henüz yetki verilmemiş: belvani-cli yetki KOD KULLANICI");
+  if (!dogru(1)) throw Reddet("Bu veritabanı programa hazırlanmamış: belvani-cli sunucu-kur");
   const auto surum = b.Yurut("select surum from belvani.kurulum");
   if (surum.Satir() == 0 || PgTam(surum.Tip(0), surum.Ham(0, 0)) > PgKurulumSurumu)
     throw Reddet("Sunucu programın daha yeni bir sürümüyle hazırlanmış, programı yenileyiniz");

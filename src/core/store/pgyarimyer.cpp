@@ -58,10 +58,10 @@ constexpr const char* YetkileriAktar =
     "case when y.yazar then 'select, insert, update, delete' else 'select' end, y.rol); "
     "execute format('alter default privileges for role belvani_sahip in schema {yeni} grant %s on tables to %s', "
     "case when y.yazar then 'select, insert, update, delete' else 'select' end, y.rol); "
-    "if y.yazar then "
-    "execute format('grant usage, select on all sequences in schema {yeni} to %s', y.rol); "
-    "execute format('alter default privileges for role belvani_sahip in schema {yeni} grant usage, select on sequences "
-    "to %s', y.rol); end if; "
+    "execute format('grant %s on all sequences in schema {yeni} to %s', "
+    "case when y.yazar then 'usage, select' else 'select' end, y.rol); "
+    "execute format('alter default privileges for role belvani_sahip in schema {yeni} grant %s on sequences to %s', "
+    "case when y.yazar then 'usage, select' else 'select' end, y.rol); "
     "end loop; end $$";
 
 std::string Yerine(std::string metin, std::string_view yer, std::string_view ad) {
