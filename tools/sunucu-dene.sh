@@ -65,6 +65,7 @@ durdur() {
 case $1 in
   --durdur | --sil)
     [ -f "$dizin/$isaret" ] || dur "burada deneme sunucusu yok: $dizin"
+    dizin=$(CDPATH='' cd -- "$dizin" && pwd)
     durdur
     [ "$1" = --sil ] && rm -rf -- "$dizin" && echo "Silindi: $dizin" || echo "Durdu: $dizin"
     exit 0

@@ -11,12 +11,14 @@ struct KodKusuru {
   const char* metin;
 };
 
+constexpr const char* Dolu = "Sunucu şu anda yeni bağlantı kabul etmiyor, biraz sonra yeniden deneyiniz";
+
 constexpr KodKusuru KodKusurlari[] = {
     {"55P03", MotorKusuru::Kilitli, "Veritabanı başka bir kullanıcı tarafından kilitli, biraz sonra yeniden deneyiniz"},
     {"40", MotorKusuru::Kilitli, "Başka bir kullanıcı aynı anda yazdı, yeniden deneyiniz"},
     {"53100", MotorKusuru::DiskDolu, "Sunucunun diski dolu, kayıt yazılamadı"},
     {"53200", MotorKusuru::Diger, "Sunucunun belleği yetmedi"},
-    {"53", MotorKusuru::Acilamadi, "Sunucu şu anda yeni bağlantı kabul etmiyor, biraz sonra yeniden deneyiniz"},
+    {"53", MotorKusuru::Acilamadi, Dolu},
     {"25006", MotorKusuru::SaltOkunur, "Şirket salt okunur açıldı, değişiklikler kaydedilemez"},
     {"42501", MotorKusuru::SaltOkunur, "Bu işlem için sunucuda yetkiniz yok"},
     {"42P01", MotorKusuru::Diger, "Şirketin tabloları sunucuda bulunamadı; şirketteki yetkiniz kaldırılmış olabilir"},
@@ -63,13 +65,14 @@ constexpr NedenKusuru NedenKusurlari[] = {
     {"permission denied for database", MotorKusuru::Acilamadi,
      "Bu kullanıcıya sunucuda henüz yetki verilmemiş: belvani-cli yetki KOD KULLANICI"},
     {"is not permitted to log in", MotorKusuru::Acilamadi, "Bu kullanıcının sunucuya girişi kapatılmış"},
+    {"too many connections", MotorKusuru::Acilamadi, Dolu},
+    {"too many clients", MotorKusuru::Acilamadi, Dolu},
+    {"connection slots", MotorKusuru::Acilamadi, Dolu},
+    {"not currently accepting", MotorKusuru::Acilamadi, "Sunucunun yöneticisi bu veritabanını girişe kapatmış"},
+    {"role \"", MotorKusuru::Acilamadi, "Sunucuda böyle bir kullanıcı yok"},
     {"database \"", MotorKusuru::Acilamadi, "Sunucuda bu adda bir veritabanı yok"},
     {"definition of service", MotorKusuru::Acilamadi,
      "Adresteki servis bu bilgisayarda tanımlı değil (pg_service.conf)"},
-    {"too many clients", MotorKusuru::Acilamadi,
-     "Sunucu şu anda yeni bağlantı kabul etmiyor, biraz sonra yeniden deneyiniz"},
-    {"connection slots", MotorKusuru::Acilamadi,
-     "Sunucu şu anda yeni bağlantı kabul etmiyor, biraz sonra yeniden deneyiniz"},
     {"could not translate host name", MotorKusuru::Koptu, "Sunucuya bağlanılamadı, adı ağda bulunamadı"},
     {"Connection refused", MotorKusuru::Koptu, "Sunucuya bağlanılamadı, çalışmıyor olabilir"},
     {"timeout expired", MotorKusuru::Koptu, "Sunucuya bağlanılamadı, yanıt vermiyor"},

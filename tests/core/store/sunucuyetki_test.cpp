@@ -212,10 +212,13 @@ TEST_F(SunucuYetkisi, ARefusedConnectionTellsWhy) {
     return adres.replace(adres.find(eski), eski.size(), yeni);
   };
   EXPECT_THAT(neden(yerine(Veritabanim(), "yokboyle")), HasSubstr("bu adda bir veritabanı yok"));
+  EXPECT_THAT(neden(yerine(rol_.ad, "yokboyle")), HasSubstr("böyle bir kullanıcı yok"));
   EXPECT_THAT(neden(rolAdresi_ + "&service=yokboyle"), HasSubstr("tanımlı değil"));
   EXPECT_THAT(neden("postgresql://127.0.0.1:1/belvani"), HasSubstr("çalışmıyor olabilir"));
   test::YoneticiSql(rol_.dizin, Veritabanim(), "revoke connect on database " + Veritabanim() + " from public");
   EXPECT_THAT(neden(rolAdresi_), HasSubstr("henüz yetki verilmemiş"));
+  test::YoneticiSql(rol_.dizin, Veritabanim(), "alter role " + rol_.ad + " connection limit 0");
+  EXPECT_THAT(neden(rolAdresi_), HasSubstr("yeni bağlantı kabul etmiyor"));
   test::YoneticiSql(rol_.dizin, Veritabanim(), "alter role " + rol_.ad + " nologin");
   EXPECT_THAT(neden(rolAdresi_), HasSubstr("girişi kapatılmış"));
 }
