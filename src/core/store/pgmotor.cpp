@@ -20,7 +20,7 @@ using Milisaniye = std::chrono::milliseconds;
 
 constexpr Milisaniye KilitBekleme{5000};
 constexpr Milisaniye KapiBekleme{1000};  // for those who are about to go
-constexpr std::int64_t EnCokNumara = 4096;
+constexpr std::int64_t NumaraArtisi = 64, EnCokNumara = 4096;
 
 std::vector<PgParametre> KilitAdi(PgKilit kilit, std::int64_t sirketNo) {
   return {PgParametre::Tam(std::int32_t(kilit)), PgParametre::Tam(sirketNo)};
@@ -57,7 +57,7 @@ void PgMotor::Baglan() {
             {PgParametre::Metin(PgSema(sirketNo_) + ", " + std::string(PgOrtakSema))});
   KapiyiTut();
   if (saltOkunur_) b_->Yurut("set default_transaction_read_only = on");
-  for (auto& [tablo, n] : numaralar_) n.istenen.reset();
+  NumaralariBirak();
 }
 
 // Everybody who has the store open holds it, so that one who wants it alone meets all of them.
@@ -83,7 +83,6 @@ const PgKatalog& PgMotor::Katalog() {
   if (katalog_ == nullptr) {
     BaglantiyiSagla();
     katalog_ = std::make_unique<PgKatalog>(*b_, PgSema(sirketNo_));
-    if (katalog_->Bul("brd") != nullptr && !saltOkunur_) numaralar_["brd"];  // fetched along with the first transaction
   }
   return *katalog_;
 }
@@ -162,6 +161,8 @@ std::shared_ptr<PgYanit> PgMotor::Yaz(const std::string& sql, std::vector<PgPara
   if (const PgTablosu* tablo = ekler ? Katalog().Bul(YazilanTablo(sql)) : nullptr;
       tablo != nullptr && !tablo->kimlik.empty())
     metin += " returning " + tablo->kimlik;
+  if (SqlTuruBul(sql) == SqlTuru::Ekler)
+    if (const auto n = numaralar_.find(std::string(YazilanTablo(sql))); n != numaralar_.end()) n->second = {};
   std::shared_ptr<PgYanit> yanit;
   KendiIsleminde([&] {
     if (tetiksiz) Sirala("select set_config('belvani.tetiksiz', 'on', true)", {});
@@ -210,8 +211,7 @@ void PgMotor::IslemBaslat(Milisaniye enCok) {
   sure(enCok);
   b_->Sirala("select pg_advisory_xact_lock($1::int, $2::int)", KilitAdi(PgKilit::Yazan, sirketNo_));
   sure(KilitBekleme);
-  for (auto& [tablo, n] : numaralar_)
-    if (n.hazir.empty() && n.istenen == nullptr) NumaraIste(tablo, n);
+  for (auto& [tablo, n] : numaralar_) NumaraIste(tablo, n);  // where one was needed before
 }
 
 void PgMotor::IslemOnayla() {
@@ -227,13 +227,14 @@ void PgMotor::IslemOnayla() {
                       "Sunucu bağlantısı kayıt onaylanırken koptu; kaydın yapılıp yapılmadığına bakınız");
   }
   islemde_ = false;
+  NumaralariBirak();
   if (onay->sonuc.Komut() != "COMMIT") throw MotorHatasi(MotorKusuru::Diger, "Veritabanı işlemi yapılamadı [25P02]");
 }
 
 void PgMotor::IslemGeriAl() noexcept {
   TamponlariBirak();
   b_->SirayiBirak();
-  for (auto& [tablo, n] : numaralar_) n.istenen.reset();
+  NumaralariBirak();
   if (islemde_ && !b_->KoptuMu()) {
     try {
       b_->Yurut("rollback");
@@ -294,7 +295,7 @@ void PgMotor::NumaraIste(const std::string& tablo, Numaralar& n) {
   if (t == nullptr) throw MotorHatasi(MotorKusuru::Diger, "Tablo yok: " + tablo);
   n.istenen = b_->Sirala("select nextval(pg_get_serial_sequence($1, $2)) from generate_series(1, $3::int)",
                          {PgParametre::Metin(tablo), PgParametre::Metin(t->kimlik), PgParametre::Tam(n.sonraki)});
-  n.sonraki = std::min(n.sonraki * 4, EnCokNumara);
+  n.sonraki = std::min(n.sonraki * NumaraArtisi, EnCokNumara);
 }
 
 void PgMotor::NumaralariAl(Numaralar& n) {
@@ -302,6 +303,11 @@ void PgMotor::NumaralariAl(Numaralar& n) {
   const PgSonuc& sonuc = n.istenen->sonuc;
   for (int i = 0; i < sonuc.Satir(); ++i) n.hazir.push_back(PgTam(sonuc.Tip(0), sonuc.Ham(i, 0)));
   n.istenen.reset();
+}
+
+// Numbers are given in the order in which records come, whoever writes them: what one turn has left over is lost.
+void PgMotor::NumaralariBirak() {
+  for (auto& [tablo, n] : numaralar_) n = {};
 }
 
 std::int64_t PgMotor::Numara(const std::string& tablo) {

@@ -81,7 +81,7 @@ class PgMotor final : public Motor {
   struct Numaralar {
     std::deque<std::int64_t> hazir;
     std::shared_ptr<PgYanit> istenen;  // on their way
-    std::int64_t sonraki = 8;          // how many are fetched next
+    std::int64_t sonraki = 1;          // how many are fetched next
   };
 
   void Baglan();
@@ -93,6 +93,7 @@ class PgMotor final : public Motor {
   std::vector<std::string> OzetKomutlari() const;
   void NumaraIste(const std::string& tablo, Numaralar& n);
   void NumaralariAl(Numaralar& n);
+  void NumaralariBirak();
   template <class Is>
   void KendiIsleminde(Is&& is);
 

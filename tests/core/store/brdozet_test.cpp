@@ -51,29 +51,30 @@ struct BrdOzetTest : testing::Test, test::OrnekDepo {
 
 TEST_F(BrdOzetTest, EveryWriterKeepsThem) {
   KayitYazici<Brd> yazici(motor());
-  for (int i = 0; i < 30; ++i) yazici.Ekle(OrnekBordro(i));
+  std::vector<std::int64_t> nolar;
+  for (int i = 0; i < 30; ++i) nolar.push_back(yazici.Ekle(OrnekBordro(i)));
   EXPECT_EQ(Bulunan(), "") << "records in numbers";
-  yazici.Degistir(OrnekBordro(99), 3);
+  yazici.Degistir(OrnekBordro(99), nolar[2]);
   EXPECT_EQ(Bulunan(), "") << "a record over another";
   Brd yerinde = OrnekBordro(98);
   yerinde.kod = OrnekBordro(7).kod;
-  KayitYazici<Brd>(motor(), {"kod"}).Degistir(yerinde, 8);
+  KayitYazici<Brd>(motor(), {"kod"}).Degistir(yerinde, nolar[7]);
   EXPECT_EQ(Bulunan(), "") << "a record whose key stays";
 
   Tablo<Brd> tablo(motor());
-  Okunan<Brd> okunan{.ilk = tablo.Bul(std::int64_t(4)), .simdi = *tablo.Bul(std::int64_t(4))};
+  Okunan<Brd> okunan{.ilk = tablo.Bul(nolar[3]), .simdi = *tablo.Bul(nolar[3])};
   okunan.simdi.fm1 = Tek(7.3);
   ASSERT_TRUE(tablo.Yaz(okunan) && tablo.Yaz({.simdi = OrnekBordro(40)}));
-  ASSERT_TRUE(tablo.Sil(std::int64_t(5)));
+  ASSERT_TRUE(tablo.Sil(nolar[4]));
   EXPECT_EQ(Bulunan(), "") << "one record";
 
   test::TabloImleci rs(db, "brd");
   ASSERT_TRUE(Ekle(rs, {{"kod", std::string("x")}, {"brutkaz", Tutar(5)}, {"fm1", 0.5}}));  // all else is Null
-  ASSERT_TRUE(rs.KayitBul("oto", std::int64_t(6)));
+  ASSERT_TRUE(rs.KayitBul("oto", nolar[5]));
   rs.KayitDuzelt();
   rs.AlanYaz("borckes", Tutar(12));
   ASSERT_TRUE(rs.KayitYaz());
-  ASSERT_TRUE(rs.KayitBul("oto", std::int64_t(7)));
+  ASSERT_TRUE(rs.KayitBul("oto", nolar[6]));
   rs.KayitSil();
   EXPECT_EQ(Bulunan(), "") << "the named operations";
 }
