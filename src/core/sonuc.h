@@ -26,6 +26,7 @@ class [[nodiscard]] Sonuc {
 
   // The fault and its text; only when there is no value.
   const K& Kusuru() const { return std::get<1>(icerik_); }
+  K& Kusuru() { return std::get<1>(icerik_); }
   const std::string& KusurMetni() const { return std::get<1>(icerik_).metin; }
 
  private:

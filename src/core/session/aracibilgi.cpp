@@ -28,8 +28,10 @@ Arac AraciOku(Motor& motor) {
 Yazim<Arac> AraciKaydet(Oturum& o, const Okunan<Arac>& araci) {
   const Yazim<Arac> yazilamadi{YazmaEngeli<Arac>(Kusur{"Aracı Bilgileri Kaydedilemedi"})};
   Veritabani& db = o.depo.db;
-  auto sonuc = db.Koru(yazilamadi, [&] { return Tablo<Arac>(db.IcMotor()).Yaz(araci); });
-  return sonuc || sonuc.Kusuru().cakisma ? std::move(sonuc) : yazilamadi;
+  return db.Koru(yazilamadi, [&] {
+    auto yazim = Tablo<Arac>(db.IcMotor()).Yaz(araci);
+    return yazim || yazim.Kusuru().cakisma ? std::move(yazim) : yazilamadi;
+  });
 }
 
 }  // namespace belvani

@@ -47,12 +47,12 @@ Yazim<Firma> FirmaKaydet(Oturum& o, const Okunan<Firma>& firma) {
   auto sonuc = db.Koru(yazilamadi, [&] {
     auto yazim = Tablo<Firma>(db.IcMotor()).Yaz(yazilan);
     if (!yazim) db.HataYaz(yazim.KusurMetni());
-    return yazim;
+    return yazim || yazim.Kusuru().cakisma ? std::move(yazim) : yazilamadi;
   });
   if (!sonuc && sonuc.Kusuru().cakisma) return sonuc;
   o.firma = sonuc ? *sonuc : yazilan.simdi;
   if (sonuc) o.firmaVar = true;
-  return sonuc ? std::move(sonuc) : yazilamadi;
+  return sonuc;
 }
 
 std::string KanunMetni(std::string_view metin) {

@@ -63,7 +63,8 @@ class Veritabani {
   // Below the guard; the store must be open.
   Motor& IcMotor() { return *motor_; }
 
-  // Runs `is`; any failure is kept in SonHata() and gives `basarisiz`.
+  // Runs `is`; any failure is kept in SonHata() and gives `basarisiz`. A fault in that also says when it was the way to
+  // the server that broke: its user would look for the reason in what he has typed.
   template <class Is, class T>
   T Koru(T basarisiz, Is&& is) noexcept {
     try {
@@ -72,6 +73,12 @@ class Veritabani {
       T sonuc = is();
       nokta.Birak();
       return sonuc;
+    } catch (const MotorHatasi& h) {
+      HataYaz(h.what());
+      if constexpr (requires { basarisiz.Kusuru().metin; })
+        if (h.tur == MotorKusuru::Koptu || (AcikMi() && h.tur == MotorKusuru::Acilamadi))
+          basarisiz.Kusuru().metin += std::string("\n") + h.what();
+      return basarisiz;
     } catch (const std::exception& h) {
       HataYaz(h.what());
       return basarisiz;

@@ -5,6 +5,7 @@
 #include "payroll/hazirlik/giris.h"
 #include "sirket.h"
 #include "sunucu/aktarici.h"
+#include "sunucu/sablon.h"
 
 namespace belvani {
 namespace {
@@ -90,6 +91,27 @@ TEST(SunucuTurlari, ABrokenNetworkIsToldAndWhatWasTypedIsSavedByTheNextAttempt) 
   EXPECT_EQ(sirket.Kayit(Kod(3), 2009, 7).ng, 25);
   EXPECT_EQ(sirket.giris.KodAl(Kod(4)), KodSonucu::Yuklendi);
   EXPECT_TRUE(sirket.bildirim.Al().empty());
+}
+
+TEST(SunucuTurlari, ASaveThatFailsOnTheWaySaysSoAndTheNextOneSaves) {
+  if (!test::SunucudaMi()) GTEST_SKIP() << "of a server alone";
+  AgdakiSirket sirket;
+  EXPECT_EQ(sirket.giris.KodAl(Kod(5)), KodSonucu::Yuklendi);
+  sirket.giris.Giris().ng = 24;
+  sirket.giris.Giris().ht = 6;
+  test::YoneticiSql(test::SunucuDizini(), "postgres",
+                    "alter database " + sirket.veriYeri.Veritabani() + " allow_connections false");
+  sirket.ag.Kes();
+  sirket.bildirim.Al();
+  EXPECT_EQ(sirket.Kaydet(), KapanisSonucu::KaydetmeHatasi);
+  EXPECT_EQ(sirket.giris.Giris().ng, 24) << "what was typed is kept";
+  const auto soylenen = sirket.bildirim.Al();
+  ASSERT_FALSE(soylenen.empty());
+  EXPECT_NE(soylenen.back().find("unucu"), std::string::npos) << soylenen.back();
+  test::YoneticiSql(test::SunucuDizini(), "postgres",
+                    "alter database " + sirket.veriYeri.Veritabani() + " allow_connections true");
+  EXPECT_EQ(sirket.Kaydet(), KapanisSonucu::SonrakiVar);
+  EXPECT_EQ(sirket.Kayit(Kod(5), 2009, 7).ng, 24);
 }
 
 }  // namespace
