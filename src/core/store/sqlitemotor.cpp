@@ -7,7 +7,6 @@
 
 #include "core/store/sqlitemotor.h"
 
-#include <cerrno>
 #include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
@@ -15,6 +14,7 @@
 #include <unistd.h>
 
 #include "core/store/dosyasistemi.h"
+#include "core/store/sqlitekomut.h"
 #include "core/store/sqlitekopya.h"
 #include "core/turkce.h"
 
@@ -35,204 +35,14 @@ const char* const OturumAyarlari =
     "pragma trusted_schema=off;"
     "pragma cell_size_check=on;";
 
-MotorKusuru KusurTuru(int kod) {
-  switch (kod & 0xFF) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-      return MotorKusuru::Kilitli;
-    case SQLITE_FULL:
-      return MotorKusuru::DiskDolu;
-    case SQLITE_READONLY:
-    case SQLITE_PERM:
-      return MotorKusuru::SaltOkunur;
-    case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-      return MotorKusuru::Bozuk;
-    case SQLITE_CANTOPEN:
-      return MotorKusuru::Acilamadi;
-    case SQLITE_CONSTRAINT:
-    case SQLITE_TOOBIG:
-    case SQLITE_MISMATCH:
-      return MotorKusuru::Kisit;
-    default:
-      return MotorKusuru::Diger;
-  }
-}
-
-// A reader too needs room, for what all processes of a store share: the system's own reason tells a full disk.
-MotorKusuru KusurTuru(sqlite3* db, int kod) {
-  const int neden = db == nullptr ? 0 : sqlite3_system_errno(db);
-  const bool sistemin = (kod & 0xFF) == SQLITE_IOERR || (kod & 0xFF) == SQLITE_CANTOPEN;
-  return sistemin && (neden == ENOSPC || neden == EDQUOT) ? MotorKusuru::DiskDolu : KusurTuru(kod);
-}
-
-std::string KusurMetni(MotorKusuru tur) {
-  switch (tur) {
-    case MotorKusuru::Kilitli:
-      return "Veritabanı başka bir kullanıcı tarafından kilitli, biraz sonra yeniden deneyiniz";
-    case MotorKusuru::DiskDolu:
-      return "Disk dolu, kayıt yazılamadı";
-    case MotorKusuru::SaltOkunur:
-      return "Veritabanına yazma izni yok";
-    case MotorKusuru::Bozuk:
-      return "Dosya bozuk veya bir şirket veritabanı değil";
-    case MotorKusuru::Acilamadi:
-      return "Veritabanı dosyası açılamadı";
-    case MotorKusuru::Kisit:
-      return "Kayıt veritabanının kurallarına uymuyor";
-    case MotorKusuru::Koptu:
-    case MotorKusuru::Diger:
-      return "Veritabanı işlemi yapılamadı";
-  }
-  return {};
-}
-
 constexpr const char* PaylasilanDegil =
     "Şirketin veritabanı yalnız kendi bilgisayarı için kurulmuş, paylaşılan diskten açılamaz. Kimse içeride değilken "
     "çalıştırınız: belvani-cli paylas KOD (bütün şirketler için: belvani-cli paylas --hepsi)";
-constexpr const char* SaltOkunurAcildi = "Şirket salt okunur açıldı, değişiklikler kaydedilemez";
-
-struct MotorHali {
-  std::uint64_t yazmaSayaci = 0;
-  bool saltOkunur = false;
-};
-
-MotorHatasi Hata(sqlite3* db, int kod, const MotorHali& hal) {
-  const MotorKusuru tur = KusurTuru(db, kod);
-  if (tur == MotorKusuru::SaltOkunur && hal.saltOkunur) return MotorHatasi(tur, SaltOkunurAcildi);
-  // With the engine's number; its own words are no user's.
-  const int no = db == nullptr ? kod : sqlite3_extended_errcode(db);
-  return MotorHatasi(tur, KusurMetni(tur) + " [" + std::to_string(no) + "]");
-}
 
 int TurkceSirala(void*, int na, const void* a, int nb, const void* b) {
   return TurkceKarsilastir({static_cast<const char*>(a), std::size_t(na)},
                            {static_cast<const char*>(b), std::size_t(nb)});
 }
-
-class SqliteKomut final : public Komut {
- public:
-  SqliteKomut(sqlite3* db, std::string_view sql, MotorHali& hal) : db_(db), hal_(hal) {
-    const int kod = sqlite3_prepare_v3(db, sql.data(), int(sql.size()), SQLITE_PREPARE_PERSISTENT, &komut_, nullptr);
-    if (kod != SQLITE_OK) throw Hata(db, kod, hal);
-    yazan_ = sqlite3_stmt_readonly(komut_) == 0;
-  }
-  ~SqliteKomut() override { sqlite3_finalize(komut_); }
-
-  void NullBagla(int no) override { Sina(sqlite3_bind_null(komut_, no)); }
-  void TamBagla(int no, std::int64_t d) override { Sina(sqlite3_bind_int64(komut_, no, d)); }
-  void SayiBagla(int no, double d) override { Sina(sqlite3_bind_double(komut_, no, d)); }
-  void MetinBagla(int no, std::string_view d) override {
-    Sina(sqlite3_bind_text64(komut_, no, d.data() == nullptr ? "" : d.data(), d.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
-  }
-  void BaytBagla(int no, const Baytlar& d) override {
-    Sina(sqlite3_bind_blob64(komut_, no, d.empty() ? static_cast<const void*>("") : d.data(), d.size(),
-                             SQLITE_TRANSIENT));
-  }
-
-  bool Adim() override {
-    const int kod = sqlite3_step(komut_);
-    if (kod == SQLITE_ROW) return true;
-    if (yazan_) ++hal_.yazmaSayaci;
-    if (kod != SQLITE_DONE) {
-      const MotorHatasi hata = Hata(db_, kod, hal_);
-      sqlite3_reset(komut_);
-      throw hata;
-    }
-    sqlite3_reset(komut_);
-    return false;
-  }
-  void Birak() override { sqlite3_reset(komut_); }
-
-  int KolonSayisi() const override { return sqlite3_column_count(komut_); }
-  std::string_view KolonAdi(int i) const override { return MetinYa(sqlite3_column_name(komut_, i)); }
-  std::string_view KaynakTablo(int i) const override { return MetinYa(sqlite3_column_table_name(komut_, i)); }
-  std::string_view KaynakKolon(int i) const override { return MetinYa(sqlite3_column_origin_name(komut_, i)); }
-
-  Tur Turu(int i) const override {
-    switch (sqlite3_column_type(komut_, i)) {
-      case SQLITE_INTEGER:
-        return Tur::Tam;
-      case SQLITE_FLOAT:
-        return Tur::Sayi;
-      case SQLITE_TEXT:
-        return Tur::Metin;
-      case SQLITE_BLOB:
-        return Tur::Bayt;
-      default:
-        return Tur::Null;
-    }
-  }
-  std::int64_t Tam(int i) const override { return sqlite3_column_int64(komut_, i); }
-  double Sayi(int i) const override { return sqlite3_column_double(komut_, i); }
-  std::string_view Metin(int i) const override {
-    const auto* m = reinterpret_cast<const char*>(sqlite3_column_text(komut_, i));
-    return m == nullptr ? std::string_view() : std::string_view(m, std::size_t(sqlite3_column_bytes(komut_, i)));
-  }
-  Baytlar Bayt(int i) const override {
-    const auto* b = static_cast<const std::uint8_t*>(sqlite3_column_blob(komut_, i));
-    return b == nullptr ? Baytlar() : Baytlar(b, b + sqlite3_column_bytes(komut_, i));
-  }
-
- private:
-  static std::string_view MetinYa(const char* m) { return m == nullptr ? std::string_view() : std::string_view(m); }
-  void Sina(int kod) const {
-    if (kod != SQLITE_OK) throw Hata(db_, kod, hal_);
-  }
-
-  sqlite3* db_;
-  MotorHali& hal_;
-  sqlite3_stmt* komut_ = nullptr;
-  bool yazan_ = false;
-};
-
-// "insert into t (a, b) values (?1, ?2)". Parameters have the numbers of their columns, the row's own follows.
-std::string YazmaMetni(const YazilanKolonlar& kolonlar, YazmaTuru tur) {
-  std::string adlar, sorular, atamalar;
-  for (std::size_t i = 0; i < kolonlar.adlar.size(); ++i) {
-    const std::string& ad = kolonlar.adlar[i];
-    const std::string no = "?" + std::to_string(i + 1), ayrac = i == 0 ? "" : ", ";
-    adlar += ayrac + ad;
-    sorular += ayrac + no;
-    if (i < kolonlar.duran.size() && kolonlar.duran[i]) continue;
-    atamalar += (atamalar.empty() ? "" : ", ") + ad + " = " + no;
-  }
-  const std::string tablo(kolonlar.tablo), ekle = "insert into " + tablo + " (" + adlar + ") values (" + sorular + ")";
-  switch (tur) {
-    case YazmaTuru::Ekle:
-      return ekle;
-    case YazmaTuru::Degistir:
-      return "update " + tablo + " set " + atamalar + " where rowid = ?" + std::to_string(kolonlar.adlar.size() + 1);
-    case YazmaTuru::Koy:
-      return ekle + " on conflict (" + kolonlar.adlar.front() + ") do update set " + atamalar;
-  }
-  return {};
-}
-
-class SqliteSatirYazici final : public SatirYazici {
- public:
-  SqliteSatirYazici(sqlite3* db, std::unique_ptr<Komut> komut, YazmaTuru tur, int kolonSayisi)
-      : db_(db), komut_(std::move(komut)), tur_(tur), kolonSayisi_(kolonSayisi) {}
-
-  void NullBagla(int no) override { komut_->NullBagla(no); }
-  void TamBagla(int no, std::int64_t d) override { komut_->TamBagla(no, d); }
-  void SayiBagla(int no, double d) override { komut_->SayiBagla(no, d); }
-  void MetinBagla(int no, std::string_view d) override { komut_->MetinBagla(no, d); }
-  void BaytBagla(int no, const Baytlar& d) override { komut_->BaytBagla(no, d); }
-
-  std::int64_t Yaz(std::int64_t kimlik) override {
-    if (tur_ == YazmaTuru::Degistir) komut_->TamBagla(kolonSayisi_ + 1, kimlik);
-    if (tur_ == YazmaTuru::Koy) komut_->TamBagla(1, kimlik);
-    komut_->Calistir();
-    return tur_ == YazmaTuru::Ekle ? sqlite3_last_insert_rowid(db_) : kimlik;
-  }
-
- private:
-  sqlite3* db_;
-  std::unique_ptr<Komut> komut_;
-  YazmaTuru tur_;
-  int kolonSayisi_;
-};
 
 // The checksums and what keeps them true. An earlier version has no names of this table, but its engine runs the
 // triggers.
@@ -260,7 +70,7 @@ class SqliteMotor final : public Motor {
     KitapligiHazirla();
     const int kod = sqlite3_open_v2(yol.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     try {
-      if (kod != SQLITE_OK) throw Hata(db_, kod, hal_);
+      if (kod != SQLITE_OK) throw SqliteHatasi(db_, kod, hal_);
       sqlite3_extended_result_codes(db_, 1);
       sqlite3_busy_timeout(db_, int(KilitBekleme.count()));
       sqlite3_create_collation_v2(db_, "turkce", SQLITE_UTF8, nullptr, &TurkceSirala, nullptr);
@@ -319,7 +129,7 @@ class SqliteMotor final : public Motor {
   }
 
   std::unique_ptr<SatirYazici> SatirYaziciAc(const YazilanKolonlar& kolonlar, YazmaTuru tur) override {
-    const std::string sql = YazmaMetni(kolonlar, tur);
+    const std::string sql = SqliteYazmaMetni(kolonlar, tur);
     return std::make_unique<SqliteSatirYazici>(db_, kolonlar.tetiksiz ? TetiksizHazirla(sql) : Hazirla(sql), tur,
                                                int(kolonlar.adlar.size()));
   }
@@ -331,7 +141,7 @@ class SqliteMotor final : public Motor {
     do kod = sqlite3_exec(db_, "begin immediate", nullptr, nullptr, nullptr);
     while ((kod & 0xFF) == SQLITE_BUSY && std::chrono::steady_clock::now() < son);
     sqlite3_busy_timeout(db_, int(KilitBekleme.count()));
-    if (kod != SQLITE_OK) throw Hata(db_, kod, hal_);
+    if (kod != SQLITE_OK) throw SqliteHatasi(db_, kod, hal_);
   }
   void IslemOnayla() override { Sina(sqlite3_exec(db_, "commit", nullptr, nullptr, nullptr)); }
   void IslemGeriAl() noexcept override {
@@ -434,13 +244,13 @@ class SqliteMotor final : public Motor {
   std::string SayfaKusuru() override { return DenetimSonucu("pragma quick_check(1)"); }
 
   void Kopyala(const std::string& yol, const KopyaAdimi& adim) override {
-    if (const int kod = SqliteKopyala(db_, yol, adim); kod != SQLITE_OK) throw Hata(nullptr, kod, hal_);
+    if (const int kod = SqliteKopyala(db_, yol, adim); kod != SQLITE_OK) throw SqliteHatasi(nullptr, kod, hal_);
   }
 
  private:
   void Sina(int kod) {
     ++hal_.yazmaSayaci;
-    if (kod != SQLITE_OK) throw Hata(db_, kod, hal_);
+    if (kod != SQLITE_OK) throw SqliteHatasi(db_, kod, hal_);
   }
 
   // Asked for before anything is read: then a write-ahead log needs no memory shared with others, so the store opens
@@ -533,7 +343,7 @@ void SqliteSil(const std::string& yol) {
 std::unique_ptr<Motor> SqliteYarat(const std::string& yol) {
   // Made empty first, so that the file and all that the engine lays beside it are open to owner and group only.
   const int dosya = ::open(yol.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0660);
-  if (dosya < 0) throw MotorHatasi(MotorKusuru::Acilamadi, KusurMetni(MotorKusuru::Acilamadi) + " [" + yol + "]");
+  if (dosya < 0) throw MotorHatasi(MotorKusuru::Acilamadi, SqliteKusurMetni(MotorKusuru::Acilamadi) + " [" + yol + "]");
   ::fchmod(dosya, 0660);
   ::close(dosya);
   try {
