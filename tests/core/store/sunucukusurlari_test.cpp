@@ -65,8 +65,8 @@ TEST_F(SunucuKusuru, AConnectionThatEndsIsMadeAnewAndAnOpenTransactionIsLostWhol
   KayitYazici<Sicil>(motor).Ekle(s);
   const auto kes = [&] {
     test::YoneticiSql(test::SunucuDizini(), "postgres",
-                      "select pg_terminate_backend(pid) from pg_stat_activity where datname like 't%' and usename <> "
-                      "'postgres'");
+                      "select pg_terminate_backend(pid) from pg_stat_activity where datname = '" +
+                          d.veriYeri.Veritabani() + "' and pid <> pg_backend_pid()");
   };
   const auto sayi = [&] { return KayitlariOku<Sicil>(motor).size(); };
   kes();
