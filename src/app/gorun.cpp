@@ -18,7 +18,6 @@ namespace {
 
 constexpr int RenkSutunu = 3;
 constexpr QSize SwatchBoyu(30, 18);
-constexpr std::uint32_t EnBuyukRenk = 0xFFFFFF;
 
 QIcon RenkSimgesi(const QColor& renk) {
   QPixmap resim(SwatchBoyu * 2);  // sharp on high-density screens
@@ -34,11 +33,6 @@ QIcon RenkSimgesi(const QColor& renk) {
 }
 
 // A colour of the workstation file; no colour: what the look in force gives.
-QColor AyarRengi(const std::string& metin) {
-  const auto renk = RenkOku(metin);
-  return renk && *renk <= EnBuyukRenk ? RenkYap(*renk) : QColor(Qt::transparent);
-}
-
 QGroupBox* Kutu(const char* baslik, QWidget* ust, QLayout* duzen) {
   auto* kutu = new QGroupBox(QString::fromUtf8(baslik), ust);
   kutu->setLayout(duzen);

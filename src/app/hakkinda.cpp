@@ -29,7 +29,7 @@ QString IcuSurumu() {
   return QString::fromLatin1(metin);
 }
 
-std::vector<Satir> Satirlar(const Oturum& o) {
+std::vector<Satir> HakkindaSatirlari(const Oturum& o) {
   return {{"Sürüm", Yazi(VersiyonMetni(o.Versiyon))},
           {"Qt", QString::fromLatin1(qVersion())},
           {"SQLite", Yazi(MotorSurumleri().dosya)},
@@ -63,7 +63,7 @@ frmAbout::frmAbout(EkranBaglami& baglam) : Form(baglam, "frmAbout", QStringLiter
   izgara->setHorizontalSpacing(18);
   izgara->setColumnStretch(1, 1);
   QString kopya = "Belvani\n";
-  for (const Satir& satir : Satirlar(Oturumu())) {
+  for (const Satir& satir : HakkindaSatirlari(Oturumu())) {
     const int sira = izgara->rowCount();
     auto* etiket = new QLabel(QString::fromUtf8(satir.ad), this);
     etiket->setProperty("soluk", true);

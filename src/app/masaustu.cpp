@@ -22,14 +22,8 @@ namespace {
 constexpr int Kenar = 18;
 constexpr int EtiketSeridi = 64;
 constexpr double ResimPayi = 0.8;  // of the desktop; around the picture stays empty desktop
-constexpr std::uint32_t EnBuyukRenk = 0xFFFFFF;
 
 // A colour of the workstation file; one of the desktop's own, or none, is that of the look in force.
-QColor AyarRengi(const std::string& metin, const QColor& yoksa) {
-  const auto renk = RenkOku(metin);
-  return renk && *renk <= EnBuyukRenk ? RenkYap(*renk) : yoksa;
-}
-
 // The user's icon, else that of the program.
 QIcon KisayolSimgesi(const Oturum& o, const Kisayol& k, const EkranKaydi* ekran) {
   if (o.ResimKullan && !k.ikon.empty()) {

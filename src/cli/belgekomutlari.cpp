@@ -95,7 +95,7 @@ void SecenekleriEkle(CLI::App& komut, const std::shared_ptr<BelgeIsi>& is) {
 }
 
 // "bordro-2009-07.pdf", in the folder of a company.
-std::string CiktiAdi(const BelgeIsi& is, BelgeSecimi& secim) {
+std::string BelgeCiktiAdi(const BelgeIsi& is, BelgeSecimi& secim) {
   const std::string donem = BelgeDonemi(is.belge, secim);
   return BelgeDosyaAdi(std::string(is.belge.komut) + (donem.empty() ? "" : "-" + donem), is.cikti.bicim);
 }
@@ -110,7 +110,7 @@ void KayitlariYaz(const BelgeIsi& is, const SirketIsi& isi, const BelgeKaynagi& 
   std::optional<JsonDizisi> dizi;
   const auto ac = [&] {
     if (cikis) return;
-    cikis.emplace(isi.Dosya(is.cikti.dosya, CiktiAdi(is, secim)));
+    cikis.emplace(isi.Dosya(is.cikti.dosya, BelgeCiktiAdi(is, secim)));
     dizi.emplace(*cikis);
   };
   is.belge.kayitlar(kaynak, secim, [&](const Brd& kayit) {
@@ -150,7 +150,7 @@ void BelgeVer(Genel& genel, const SirketIsi& isi, const BelgeIsi& is) {
   if (belge->Kayitsiz()) isi.Atla(KayitYokSozu(is.belge));
   if (belge->Kayitsiz() && !is.belge.kayitYok.empty()) genel.bildirim.Bilgi(is.belge.kayitYok);
   BelgeCiktisi cikti = is.cikti;
-  cikti.dosya = isi.Dosya(is.cikti.dosya, CiktiAdi(is, *secim));
+  cikti.dosya = isi.Dosya(is.cikti.dosya, BelgeCiktiAdi(is, *secim));
   BelgeYaz(*belge, cikti);
 }
 

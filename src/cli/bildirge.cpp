@@ -80,7 +80,7 @@ int KanunSirasi(const std::vector<std::string>& kanunlar, const std::string& kan
   Tanimsiz(" kanununa bağlı kişi yok, kişilerin kanunları:", kanun, kanunlar);
 }
 
-void Sec(AylikBildirge& bildirge, const BildirgeSecenekleri& s) {
+void SecimiKoy(AylikBildirge& bildirge, const BildirgeSecenekleri& s) {
   BildirgeSecimi& secim = bildirge.Secim();
   secim.yil = s.donem.yil;
   secim.ay = s.donem.ay;
@@ -104,16 +104,16 @@ void Cikar(AylikBildirge& bildirge, const std::vector<std::string>& sskNolar) {
 
 // ---- JSON: rows by the names of the columns, then what stands below the grid
 
-Json HucreJson(const std::string& metin) {
+Json SutunJson(const std::string& metin) {
   return metin;
 }
-Json HucreJson(Tarih gun) {
+Json SutunJson(Tarih gun) {
   return gun.Bos() ? Json() : Json(gun.Metin());
 }
-Json HucreJson(std::optional<int> sayi) {
+Json SutunJson(std::optional<int> sayi) {
   return sayi ? Json(*sayi) : Json();
 }
-Json HucreJson(std::optional<Tutar> tutar) {
+Json SutunJson(std::optional<Tutar> tutar) {
   return tutar ? DegerJson(*tutar) : Json();
 }
 
@@ -123,7 +123,7 @@ Json SatirJson(const BildirgeSatiri& satir) {
   for (const auto& kolon : BildirgeKolonlari)
     json[std::string(kolon.ad)] = kolon.hane > 0
                                       ? Json(HucreMetni(satir, kolon, 0))
-                                      : std::visit([&](auto hucre) { return HucreJson(satir.*hucre); }, kolon.hucre);
+                                      : std::visit([&](auto hucre) { return SutunJson(satir.*hucre); }, kolon.hucre);
   return json;
 }
 
@@ -188,7 +188,7 @@ struct Is {
   }
 };
 
-void JsonYaz(const Is& is) {
+void BildirgeJsonu(const Is& is) {
   Yaz(JsonMetni(is.bildirge), is.dosya);
 }
 
@@ -232,7 +232,7 @@ struct Bicim {
   Ekran ekran = Ekran::Olur;
 };
 
-constexpr Bicim bicimler[] = {{"json", JsonYaz},
+constexpr Bicim bicimler[] = {{"json", BildirgeJsonu},
                               {"xml", XmlDosyasi},
                               {"pdf", PdfDosyasi, Ekran::Olmaz},
                               {"xlsx", ExcelDosyasi, Ekran::Olmaz},
@@ -253,7 +253,7 @@ void KimliksizleriSoyle(const Kusurlar& uyarilar, Bildirim& bildirim) {
 }
 
 // The electronic file has a name of its own.
-std::string CiktiAdi(const BildirgeSecenekleri& s, const BildirgeSecimi& secim) {
+std::string BildirgeCiktiAdi(const BildirgeSecenekleri& s, const BildirgeSecimi& secim) {
   if (s.bicim == "xml") return XmlDosyaAdi(secim);
   const std::string ay = std::to_string(s.donem.ay);
   return BelgeDosyaAdi("bildirge-" + std::to_string(s.donem.yil) + (ay.size() < 2 ? "-0" : "-") + ay, s.bicim);
@@ -267,12 +267,12 @@ void BildirgeYap(Genel& genel, const SirketIsi& isi, const BildirgeSecenekleri& 
   Cevaplayan bildirim(s.evet);
   AylikBildirge bildirge(*o, Degeri(yasal), bildirim);
   for (const Kusur& kusur : Olmali(bildirge.Ac(), "Şirketin kayıtları okunamadı")) bildirim.KusuruGoster(kusur);
-  Sec(bildirge, s);
+  SecimiKoy(bildirge, s);
   Olmali(bildirge.Hesapla(), Hesaplanamadi);
   KimliksizleriSoyle(bildirge.Uyarilar(), bildirim);
   Cikar(bildirge, s.haric);
   if (bildirge.Tamami().satirlar.empty()) isi.Atla("Bildirgeye giren kişi yok");
-  const std::string dosya = isi.Dosya(s.dosya, CiktiAdi(s, bildirge.Tamami().secim));
+  const std::string dosya = isi.Dosya(s.dosya, BildirgeCiktiAdi(s, bildirge.Tamami().secim));
   for (const Bicim& bicim : bicimler)
     if (s.bicim == bicim.ad) bicim.yaz({bildirge, *o, bildirim, dosya});
 }

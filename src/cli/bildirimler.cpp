@@ -18,14 +18,14 @@ Json TarihJson(Tarih gun) {
   return gun.Bos() ? Json() : Json(gun.Metin());
 }
 
-Json KayitJson(const IabKaydi& kayit) {
+Json IabKaydiJson(const IabKaydi& kayit) {
   return {
       {"yil", kayit.yil}, {"ay", kayit.ay}, {"pek", DegerJson(kayit.pek)}, {"gun", kayit.gun}, {"ekseb", kayit.ekseb}};
 }
 
 Json FormJson(const IabFormu& form) {
   Json kayitlar = Json::array();
-  for (const IabKaydi& kayit : form.kayitlar) kayitlar.push_back(KayitJson(kayit));
+  for (const IabKaydi& kayit : form.kayitlar) kayitlar.push_back(IabKaydiJson(kayit));
   return {{"kod", form.kod},
           {"adsoyad", form.adsoyad},
           {"sskno", form.sskno},

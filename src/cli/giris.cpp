@@ -13,7 +13,7 @@ namespace belvani::cli {
 namespace {
 
 template <class Liste>
-const AlanTanimi* Ara(const Liste& kolonlar, std::string_view ad) {
+const AlanTanimi* KolonAra(const Liste& kolonlar, std::string_view ad) {
   for (const auto& kolon : kolonlar)
     if (kolon.ad == ad) return &kolon;
   return nullptr;
@@ -48,9 +48,9 @@ void HucreIsle(const AlanTanimi& alan, const std::string& metin, OndalikImi onda
 const AlanTanimi* GirisAlani(std::string_view ad) {
   static constexpr AlanTanimi digerleri[] = {brd::eksiksebebi, brd::ucretsizizin, brd::rapcalismadi, brd::borckes};
   for (const AlanTanimi* alan :
-       {Ara(GunKolonlari, ad), Ara(MesaiKolonlari, ad), Ara(YardimKolonlari, ad), OranTanimi(ad)})
+       {KolonAra(GunKolonlari, ad), KolonAra(MesaiKolonlari, ad), KolonAra(YardimKolonlari, ad), OranTanimi(ad)})
     if (alan != nullptr) return alan;
-  return Ara(digerleri, ad);
+  return KolonAra(digerleri, ad);
 }
 
 std::vector<GirisSatiri> GirisListesiOku(const std::string& csv, const GirisDosyasi& dosya,

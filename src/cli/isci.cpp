@@ -39,7 +39,7 @@ sigset_t KesenKume() {
 std::array<struct sigaction, KesenSinyaller.size()> eskiDavranis;
 sigset_t eskiMaske;
 
-bool Oku(int soket, void* yer, std::size_t boy) {
+bool SokettenOku(int soket, void* yer, std::size_t boy) {
   ssize_t n = 0;
   do n = ::recv(soket, yer, boy, MSG_WAITALL);
   while (n < 0 && errno == EINTR);
@@ -47,7 +47,7 @@ bool Oku(int soket, void* yer, std::size_t boy) {
 }
 
 // Nobody there is no reason to die of.
-void Yaz(int soket, const void* yer, std::size_t boy) {
+void SoketeYaz(int soket, const void* yer, std::size_t boy) {
   while (::send(soket, yer, boy, MSG_NOSIGNAL) < 0 && errno == EINTR) {
   }
 }
@@ -55,25 +55,25 @@ void Yaz(int soket, const void* yer, std::size_t boy) {
 // In the place of a result: what follows is a question for a password.
 constexpr char SifreSorusu = 'S';
 
-void MetinYaz(int soket, const std::string& metin) {
+void MetinGonder(int soket, const std::string& metin) {
   const auto boy = std::uint32_t(metin.size());
-  Yaz(soket, &boy, sizeof boy);
-  Yaz(soket, metin.data(), metin.size());
+  SoketeYaz(soket, &boy, sizeof boy);
+  SoketeYaz(soket, metin.data(), metin.size());
 }
 
 std::optional<std::string> MetinOku(int soket) {
   std::uint32_t boy = 0;
-  if (!Oku(soket, &boy, sizeof boy)) return std::nullopt;
+  if (!SokettenOku(soket, &boy, sizeof boy)) return std::nullopt;
   std::string metin(boy, '\0');
-  if (boy != 0 && !Oku(soket, metin.data(), boy)) return std::nullopt;
+  if (boy != 0 && !SokettenOku(soket, metin.data(), boy)) return std::nullopt;
   return metin;
 }
 
 // From inside the process. An empty answer is none.
 std::optional<std::string> SahibeSor(int soket, const std::string& sunucu, const std::string& kullanici) {
-  Yaz(soket, &SifreSorusu, 1);
-  MetinYaz(soket, sunucu);
-  MetinYaz(soket, kullanici);
+  SoketeYaz(soket, &SifreSorusu, 1);
+  MetinGonder(soket, sunucu);
+  MetinGonder(soket, kullanici);
   auto cevap = MetinOku(soket);
   return cevap && !cevap->empty() ? cevap : std::nullopt;
 }
@@ -106,10 +106,10 @@ void Isci::Calis(int soket, const std::function<Bitis(std::size_t)>& is) const {
   if (::dup2(cikti_->No(), STDOUT_FILENO) < 0 || ::dup2(mesaj_->No(), STDERR_FILENO) < 0) ::_exit(1);
   SifreSorucuKoy(
       [soket](const std::string& sunucu, const std::string& kullanici) { return SahibeSor(soket, sunucu, kullanici); });
-  for (std::uint32_t sira = 0; Oku(soket, &sira, sizeof sira);) {
+  for (std::uint32_t sira = 0; SokettenOku(soket, &sira, sizeof sira);) {
     const Bitis bitis = is(sira);
     std::cout.flush();
-    Yaz(soket, &bitis, 1);
+    SoketeYaz(soket, &bitis, 1);
   }
   ::_exit(0);
 }
@@ -121,19 +121,19 @@ void Isci::Ver(std::size_t sira) {
   mesajBasi_ = mesaj_->Boy();
   isi_ = sira;
   const auto no = std::uint32_t(sira);
-  Yaz(soket_.No(), &no, sizeof no);
+  SoketeYaz(soket_.No(), &no, sizeof no);
 }
 
 void Isci::SifreyiSoyle() const {
   const auto sunucu = MetinOku(soket_.No());
   const auto kullanici = MetinOku(soket_.No());
-  if (sunucu && kullanici) MetinYaz(soket_.No(), sifre_(*sunucu, *kullanici).value_or(""));
+  if (sunucu && kullanici) MetinGonder(soket_.No(), sifre_(*sunucu, *kullanici).value_or(""));
 }
 
 std::optional<Isci::Sonuc> Isci::SonucuAl() {
   Sonuc sonuc;
   char soz = 0;
-  if (!Oku(soket_.No(), &soz, 1)) {
+  if (!SokettenOku(soket_.No(), &soz, 1)) {
     sonuc.olum = OlumSozu();
   } else if (soz == SifreSorusu) {
     SifreyiSoyle();

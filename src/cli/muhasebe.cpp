@@ -25,18 +25,6 @@ struct DonemSecenegi {
   Donem Sec(const Oturum& o) const { return {yil ? yil : o.firma.firmayil, ay ? ay : o.firma.firmaay}; }
 };
 
-struct TarihSecenegi {
-  Tarih tarih;
-
-  void Ekle(CLI::App& komut, const char* aciklama) {
-    const auto oku = [this](const std::string& metin) {
-      tarih = Tarih::MetinOku(metin);
-      if (tarih.Bos()) throw CLI::ValidationError("--tarih", std::string(HataliTarih) + ": " + metin);
-    };
-    komut.add_option_function<std::string>("--tarih", oku, aciklama)->type_name("TARİH");
-  }
-};
-
 // --evet: what would be asked is agreed to.
 struct Onay {
   bool evet = false;
@@ -54,7 +42,7 @@ struct FisIsi {
   DonemSecenegi donem;
   std::string grup = ButunGruplar;
   std::string muhasebe;
-  TarihSecenegi tarih;
+  Tarih tarih;
   BelgeCiktisi cikti;
   Onay onay;
   std::optional<std::int32_t> fisno;
@@ -89,7 +77,7 @@ Fis FisHazirla(Genel& genel, const FisIsi& is, Oturum& o) {
 
 FisBasligi Baslik(const FisIsi& is, const Oturum& o, const Fis& fis) {
   return {.unvan = o.firma.unvan,
-          .tarih = is.tarih.tarih.Bos() ? FisTarihi(fis.donem.yil, fis.donem.ay) : is.tarih.tarih,
+          .tarih = is.tarih.Bos() ? FisTarihi(fis.donem.yil, fis.donem.ay) : is.tarih,
           .fisno = is.fisno ? std::to_string(*is.fisno) : "",
           .paraonda = o.firma.paraonda};
 }
@@ -147,20 +135,20 @@ void FisSecenekleri(CLI::App& komut, FisIsi& is) {
   komut.add_option("--grup", is.grup, "yalnız bu özel kodun personeli (verilmezse Tümü)");
   komut.add_option("--muhasebe", is.muhasebe, "muhasebe şirketinin dizini (verilmezse şirketin ayarındaki)")
       ->type_name("DİZİN");
-  is.tarih.Ekle(komut, "fiş tarihi, gg.aa.yyyy (verilmezse ayın son günü)");
+  TarihSecenegi(komut, "--tarih", "fiş tarihi, gg.aa.yyyy (verilmezse ayın son günü)", is.tarih);
   CiktiSecenekleri(komut, is.cikti, {}, "journal");
 }
 
 struct IsletmeIsi {
   std::string kod;
   DonemSecenegi donem;
-  TarihSecenegi tarih;
+  Tarih tarih;
   std::string aciklama;
   IsletmeAyari ayar;
   Onay onay;
 };
 
-void Sec(std::string& deger, const std::string& kayitli) {
+void KayitliyiSec(std::string& deger, const std::string& kayitli) {
   if (deger.empty()) deger = kayitli;
 }
 
@@ -168,12 +156,12 @@ void IsletmeIsle(Genel& genel, IsletmeIsi is) {
   const auto o = genel.SirketAc(is.kod);
   const Donem donem = is.donem.Sec(*o);
   const IsletmeAyari kayitli = IsletmeAyariOku(*o);
-  Sec(is.ayar.islfirma, KardesDizini(*o, kayitli.islfirma));
+  KayitliyiSec(is.ayar.islfirma, KardesDizini(*o, kayitli.islfirma));
   IsletmeKaydi kayit =
       Yapilan([&] { return IsletmeKaydiYap(o->depo.db.IcMotor(), donem.yil, donem.ay, Tarih::Bugun()); });
   kayit.ucretgrup = is.ayar.ucretgrup.empty() ? kayitli.ucretgrup : is.ayar.ucretgrup;
   kayit.sskgrup = is.ayar.sskgrup.empty() ? kayitli.sskgrup : is.ayar.sskgrup;
-  if (!is.tarih.tarih.Bos()) kayit.tarih = is.tarih.tarih;
+  if (!is.tarih.Bos()) kayit.tarih = is.tarih;
   if (!is.aciklama.empty()) kayit.ack = is.aciklama;
   auto ac = KardesAc(KardesTuru::Isletme, is.ayar.islfirma);
   Motor& isletme = *Degeri(ac);
@@ -194,7 +182,7 @@ void IsletmeKomutu(CLI::App& app, Genel& genel) {
   is->donem.Ekle(*komut);
   komut->add_option("--isletme", is->ayar.islfirma, "işletme şirketinin dizini (verilmezse şirketin ayarındaki)")
       ->type_name("DİZİN");
-  is->tarih.Ekle(*komut, "entegre tarihi, gg.aa.yyyy (verilmezse bugün)");
+  TarihSecenegi(*komut, "--tarih", "entegre tarihi, gg.aa.yyyy (verilmezse bugün)", is->tarih);
   komut->add_option("--aciklama", is->aciklama, "hareketlerin açıklaması (verilmezse ayın adıyla)");
   komut->add_option("--ucret-grup", is->ayar.ucretgrup, "brüt ücretin grubu (verilmezse şirketin ayarındaki)");
   komut->add_option("--ssk-grup", is->ayar.sskgrup, "primlerin grubu (verilmezse şirketin ayarındaki)");

@@ -78,6 +78,14 @@ std::string GunSecenegi(const std::string& metin) {
   return iso.Bos() ? metin : iso.Metin();
 }
 
+CLI::Option* TarihSecenegi(CLI::App& komut, const char* ad, const char* aciklama, Tarih& tarih) {
+  const auto oku = [&tarih, ad](const std::string& metin) {
+    tarih = Tarih::MetinOku(GunSecenegi(metin));
+    if (tarih.Bos()) throw CLI::ValidationError(ad, "gg.aa.yyyy biçiminde bir tarih olmalı: " + metin);
+  };
+  return komut.add_option_function<std::string>(ad, oku, aciklama)->type_name("TARİH");
+}
+
 int SayiOku(const char* secenek, const std::string& metin, int enAz, int enCok) {
   const auto sayi = TamSayiOku(metin);
   if (!sayi || *sayi < enAz || *sayi > enCok)

@@ -79,6 +79,8 @@ struct Donem {
 Donem DonemOku(const std::string& metin);  // "2009-07"
 // A day of an option as fields read it: also "2009-07-31" is one.
 std::string GunSecenegi(const std::string& metin);
+// An option that is a day, gg.aa.yyyy or ISO; any other text ends the command as a wrong call.
+CLI::Option* TarihSecenegi(CLI::App& komut, const char* ad, const char* aciklama, Tarih& tarih);
 // A whole number of an option; a wrong one ends the command as a wrong call.
 int SayiOku(const char* secenek, const std::string& metin, int enAz, int enCok);
 CLI::Option* SayiSecenegi(CLI::App& komut, const char* ad, const char* aciklama, int& deger, int enAz, int enCok);

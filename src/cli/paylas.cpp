@@ -14,7 +14,7 @@ struct PaylasSecenekleri {
   DepoYeri Yer() const { return yerel ? DepoYeri::BuBilgisayar : DepoYeri::Paylasilan; }
 };
 
-void Degistir(const VeriYolu& veri, const std::string& ad, const PaylasSecenekleri& s) {
+void YeriDegistir(const VeriYolu& veri, const std::string& ad, const PaylasSecenekleri& s) {
   Basarmali(DepoYeriDegistir(veri, ad, s.Yer()));
   Yaz((s.yerel ? "Bu bilgisayar: " : "Paylaşılan: ") + ad + "\n");
 }
@@ -26,7 +26,7 @@ void HepsiniDegistir(const VeriYolu& veri, const PaylasSecenekleri& s) {
   for (const std::string& ad : Sirketler(veri)) {
     if (!veri.Alt(ad).Var(DepoDosyasi)) continue;
     try {
-      Degistir(veri, ad, s);
+      YeriDegistir(veri, ad, s);
     } catch (const KomutHatasi& h) {
       kusurlar += (kusurlar.empty() ? "" : "\n") + h.metin;
     }
@@ -39,7 +39,7 @@ void Paylas(Genel& genel, const PaylasSecenekleri& s) {
   const VeriYolu veri = genel.DataPath();
   if (s.hepsi) return HepsiniDegistir(veri, s);
   auto ad = SirketBul(veri, s.kod);
-  Degistir(veri, Degeri(ad), s);
+  YeriDegistir(veri, Degeri(ad), s);
 }
 
 }  // namespace

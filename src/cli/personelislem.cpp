@@ -56,15 +56,6 @@ void KanunDegistirKomutu(CLI::App& app, Genel& genel) {
 }
 
 // A date of an option; a wrong one ends the command as a wrong call.
-void TarihSecenegi(CLI::App& komut, const char* ad, Tarih& tarih, const char* aciklama, bool gerekli = false) {
-  const auto oku = [&tarih, ad](const std::string& metin) {
-    tarih = Tarih::MetinOku(metin);
-    if (tarih.Bos()) tarih = Tarih::IsoOku(metin);
-    if (tarih.Bos()) throw CLI::ValidationError(ad, "gg.aa.yyyy biçiminde bir tarih olmalı: " + metin);
-  };
-  komut.add_option_function<std::string>(ad, oku, aciklama)->type_name("TARİH")->required(gerekli);
-}
-
 void TransferKomutu(CLI::App& app, Genel& genel) {
   auto* komut = app.add_subcommand("transfer", "Personelin kartını ve kimliğini başka bir şirkete kopyalar");
   auto sirket = std::make_shared<std::string>();
@@ -73,8 +64,8 @@ void TransferKomutu(CLI::App& app, Genel& genel) {
   komut->add_option("PERSONEL", form->kod, "personelin buradaki kodu")->required();
   komut->add_option("HEDEF", form->hedef, "giriş yapılacak şirket")->required();
   komut->add_option("YENIKOD", form->yeniKod, "oradaki kodu")->required();
-  TarihSecenegi(*komut, "--giris", form->yeniGiris, "yeni şirkete giriş tarihi", true);
-  TarihSecenegi(*komut, "--cikis", form->ciktar, "buradan çıkış tarihi; verilmezse çıkışı yapılmaz");
+  TarihSecenegi(*komut, "--giris", "yeni şirkete giriş tarihi", form->yeniGiris)->required();
+  TarihSecenegi(*komut, "--cikis", "buradan çıkış tarihi; verilmezse çıkışı yapılmaz", form->ciktar);
   const auto kodOku = [form](const std::string& metin) {
     form->cikiskodu = std::uint8_t(SayiOku("--cikis-kodu", metin, 1, int(std::size(CikisKodlari)) - 1));
   };

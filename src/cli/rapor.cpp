@@ -28,7 +28,7 @@ struct Aranan {
   bool ozluk = false;
 };
 
-Aranan Ara(const std::string& ad, const VeriYolu& veri) {
+Aranan RaporAra(const std::string& ad, const VeriYolu& veri) {
   for (const auto uzanti : {OzlukUzantisi, BordroUzantisi}) {
     if (!Bitiyor(ad, uzanti)) continue;
     const bool ozluk = uzanti == OzlukUzantisi;
@@ -81,7 +81,7 @@ void RaporVer(Genel& genel, RaporIsi is) {
   const int yil = oturum->firma.firmayil;
   const Aylar aylar{.yil = Uclar("--yil", is.yil, IlkBelgeYili, SonBelgeYili, {yil, yil}),
                     .ay = Uclar("--ay", is.ay, 1, 12, {1, 12})};
-  const Aranan aranan = Ara(is.ad, oturum->DataPath);
+  const Aranan aranan = RaporAra(is.ad, oturum->DataPath);
   if (is.baslik.empty()) is.baslik = aranan.ad;
   Rapor rapor = (aranan.ozluk ? OzlukRaporuYap : BordroRaporuYap)(is, aranan, aylar, *oturum);
   if (rapor.Satirlar().empty()) genel.bildirim.Bilgi("Rapora giren kayıt yok");

@@ -40,7 +40,7 @@ Bitis Yap(const std::function<void()>& is) {
 
 // Two texts for each company that is meant: its name as its place is spelled, and the fault of a code that means none.
 // Listed in a process of its own, so that this one holds no connection when it makes others.
-void SirketleriYaz(const VeriYolu& veri, const std::vector<std::string>& kodlar) {
+void BulunanlariYaz(const VeriYolu& veri, const std::vector<std::string>& kodlar) {
   std::string metin;
   const auto ekle = [&](const std::string& ad, const std::string& kusur) {
     metin.append(ad).append(1, '\0').append(kusur).append(1, '\0');
@@ -94,7 +94,7 @@ class SifreBellegi {
 };
 
 std::vector<TopluSatir> Secilenler(Genel& genel, const std::vector<std::string>& kodlar, const SifreSorucu& sifre) {
-  Isci isci([&](std::size_t) { return Yap([&] { SirketleriYaz(genel.DataPath(), kodlar); }); }, sifre);
+  Isci isci([&](std::size_t) { return Yap([&] { BulunanlariYaz(genel.DataPath(), kodlar); }); }, sifre);
   isci.Ver(0);
   std::optional<Isci::Sonuc> olan;
   while (!olan) olan = isci.SonucuAl();
@@ -178,7 +178,7 @@ void SirketSecimi::TopluCalistir(Genel& genel, const std::function<void(const Si
   TopluIs(satirlar, {.is = sirketinki,
                      .sifre = sifreler.Bilen(),
                      .surec = std::size_t(surec_ != 0 ? surec_ : OnerilenSurec()),
-                     .duzen = json_ ? TopluDuzen::Json : TopluDuzen::Metin,
+                     .duzen = json_ ? TopluDuzen::Nesne : TopluDuzen::Metin,
                      .dizin = dizin_})
       .Yurut();
   const std::string ozet = RaporuYaz(satirlar);

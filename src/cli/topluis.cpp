@@ -140,7 +140,7 @@ void TopluIs::CiktiyiYaz(const TopluSatir& satir) {
   if (satir.cikti.Boy() == 0) return;
   IlerlemeyiSil();
   const bool yarim = satir.hal != Hal::Yapildi;
-  if (istek_.duzen == TopluDuzen::Json) {
+  if (istek_.duzen == TopluDuzen::Nesne) {
     if (yarim) return;
     cikis_.Yaz((ilkUye_ ? "{\n" : ",\n") + JsonMetni(satir.kod) + ": ");
     ilkUye_ = false;
@@ -156,7 +156,7 @@ void TopluIs::CiktiyiYaz(const TopluSatir& satir) {
 
 // A member of an object ends without a line end, a text with one.
 void TopluIs::GovdeyiYaz(const TamponParcasi& cikti) {
-  const bool json = istek_.duzen == TopluDuzen::Json;
+  const bool json = istek_.duzen == TopluDuzen::Nesne;
   char son = '\0';
   cikti.Ver([&](std::string_view parca) {
     if (json && son == '\n') cikis_.Yaz("\n");
@@ -168,7 +168,7 @@ void TopluIs::GovdeyiYaz(const TamponParcasi& cikti) {
 }
 
 void TopluIs::SonuYaz() {
-  if (istek_.duzen == TopluDuzen::Json) cikis_.Yaz(ilkUye_ ? "{}\n" : "\n}\n");
+  if (istek_.duzen == TopluDuzen::Nesne) cikis_.Yaz(ilkUye_ ? "{}\n" : "\n}\n");
   cikis_.Bitir();
 }
 

@@ -27,7 +27,7 @@ struct TopluSatir {
 
 enum class TopluDuzen {
   Metin,  // below a heading, or behind it where it is one line
-  Json,   // members of one object, by the companies' codes; of those that failed there is none
+  Nesne,  // JSON: members of one object, by the companies' codes; of those that failed there is none
 };
 
 struct TopluIstek {

@@ -9,8 +9,7 @@
 namespace belvani::cli {
 namespace {
 
-using Hal = TopluSatir::Hal;
-using Sirketler = std::vector<const TopluSatir*>;
+using SirketSatirlari = std::vector<const TopluSatir*>;
 
 // Its own words, then those about it; without the line end.
 std::string Soz(const TopluSatir& satir) {
@@ -21,8 +20,8 @@ std::string Soz(const TopluSatir& satir) {
   return soz;
 }
 
-std::vector<Sirketler> SozeGoreTopla(const Sirketler& sirketler) {
-  std::vector<Sirketler> gruplar;
+std::vector<SirketSatirlari> SozeGoreTopla(const SirketSatirlari& sirketler) {
+  std::vector<SirketSatirlari> gruplar;
   std::map<std::size_t, std::vector<std::size_t>> ozetler;  // of the words, to the groups: no words stay in memory
   for (const TopluSatir* satir : sirketler) {
     const std::string soz = Soz(*satir);
@@ -38,14 +37,14 @@ std::vector<Sirketler> SozeGoreTopla(const Sirketler& sirketler) {
   return gruplar;
 }
 
-std::string Kodlar(const Sirketler& sirketler) {
+std::string Kodlar(const SirketSatirlari& sirketler) {
   std::string metin;
   for (const TopluSatir* satir : sirketler) metin += (metin.empty() ? "" : ", ") + satir->kod;
   return metin;
 }
 
 // "A, B: words", lines below the first one indented.
-std::string GrupMetni(const Sirketler& grup) {
+std::string GrupMetni(const SirketSatirlari& grup) {
   std::string metin = "  " + Kodlar(grup);
   const std::string soz = Soz(*grup.front());
   if (!soz.empty()) metin += ": ";
@@ -56,30 +55,34 @@ std::string GrupMetni(const Sirketler& grup) {
   return metin + "\n";
 }
 
-void BolumYaz(const char* baslik, const Sirketler& sirketler) {
+void BolumYaz(const char* baslik, const SirketSatirlari& sirketler) {
   if (sirketler.empty()) return;
   std::cerr << baslik << "\n";
-  for (const Sirketler& grup : SozeGoreTopla(sirketler)) std::cerr << TerminalMetni(GrupMetni(grup));
+  for (const SirketSatirlari& grup : SozeGoreTopla(sirketler)) std::cerr << TerminalMetni(GrupMetni(grup));
 }
 
 }  // namespace
 
 std::string RaporuYaz(const std::vector<TopluSatir>& satirlar) {
   const auto olanlar = [&](auto uyar) {
-    Sirketler olan;
+    SirketSatirlari olan;
     for (const TopluSatir& satir : satirlar)
       if (uyar(satir)) olan.push_back(&satir);
     return olan;
   };
-  const auto halinde = [&](Hal hal) { return olanlar([hal](const TopluSatir& s) { return s.hal == hal; }); };
-  const auto yapilmayan = halinde(Hal::Yapilamadi), atlanan = halinde(Hal::Atlandi), kalan = halinde(Hal::Baslanmadi);
-  BolumYaz("Söylenenler:", olanlar([](const TopluSatir& s) { return s.hal == Hal::Yapildi && s.mesaj.Boy() != 0; }));
+  const auto halinde = [&](TopluSatir::Hal hal) {
+    return olanlar([hal](const TopluSatir& s) { return s.hal == hal; });
+  };
+  const auto yapilmayan = halinde(TopluSatir::Hal::Yapilamadi), atlanan = halinde(TopluSatir::Hal::Atlandi),
+             kalan = halinde(TopluSatir::Hal::Baslanmadi);
+  BolumYaz("Söylenenler:",
+           olanlar([](const TopluSatir& s) { return s.hal == TopluSatir::Hal::Yapildi && s.mesaj.Boy() != 0; }));
   BolumYaz("Atlananlar:", atlanan);
   BolumYaz("Başlanmayanlar:", kalan);
   BolumYaz("Yapılamayanlar:", yapilmayan);
-  std::string ozet = std::to_string(satirlar.size()) + " şirket: " + std::to_string(halinde(Hal::Yapildi).size()) +
-                     " yapıldı, " + std::to_string(atlanan.size()) + " atlandı, " + std::to_string(yapilmayan.size()) +
-                     " yapılamadı";
+  std::string ozet = std::to_string(satirlar.size()) +
+                     " şirket: " + std::to_string(halinde(TopluSatir::Hal::Yapildi).size()) + " yapıldı, " +
+                     std::to_string(atlanan.size()) + " atlandı, " + std::to_string(yapilmayan.size()) + " yapılamadı";
   if (!kalan.empty()) ozet += ", " + std::to_string(kalan.size()) + " başlanmadı";
   return ozet;
 }

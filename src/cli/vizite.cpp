@@ -17,13 +17,6 @@ struct ViziteSecenekleri {
 };
 
 // "15.05.2009" or "2009-05-15".
-Tarih TarihSecenegi(const std::string& metin) {
-  const Tarih iso = Tarih::IsoOku(metin);
-  const Tarih gun = iso.Bos() ? Tarih::MetinOku(metin) : iso;
-  if (gun.Bos()) throw CLI::ValidationError("--tarih", "gün değil: " + metin + " (örnek: 15.05.2009)");
-  return gun;
-}
-
 std::string SaatSecenegi(const std::string& metin) {
   const auto basamak = [&](std::size_t i) { return metin[i] >= '0' && metin[i] <= '9'; };
   const bool saat = metin.size() == 5 && metin[2] == ':' && basamak(0) && basamak(1) && basamak(3) && basamak(4) &&
@@ -67,11 +60,7 @@ void ViziteKomutu(CLI::App& app, Genel& genel) {
   komut->add_option("PERSONEL", s->personel, "kişinin sicil kodu")->required();
   SayiSecenegi(*komut, "--tur", "1 sigortalının kendisi, 2 eşi ve çocukları, 3 altı aylık sağlık belgesi", s->tur, 1, 3)
       ->required();
-  komut
-      ->add_option_function<std::string>(
-          "--tarih", [s](const std::string& metin) { s->tarih = TarihSecenegi(metin); }, "vizite günü")
-      ->type_name("GG.AA.YYYY")
-      ->required();
+  TarihSecenegi(*komut, "--tarih", "vizite günü", s->tarih)->required();
   SayiSecenegi(*komut, "--yakin", "hasta: 1 eşi, 2 annesi, 3 babası, 4-9 çocukları (verilmezse elle doldurulur)",
                s->yakinlik, 0, int(std::size(ViziteYakinliklari)) - 1);
   komut

@@ -13,15 +13,15 @@ namespace belvani {
 namespace {
 
 constexpr double IncMm = 25.4;
-constexpr double Buyuklukler[] = {70, 95, 120, 150, 190};  // dots per inch
-constexpr int VarsayilanBuyukluk = 1;
+constexpr double YuzeyBuyuklukleri[] = {70, 95, 120, 150, 190};  // dots per inch
+constexpr int IlkYuzeyBuyuklugu = 1;
 constexpr double KucukAdim = 0.5;  // millimetres
 constexpr double BuyukAdim = 5;
 
 }  // namespace
 
 FormYuzeyi::FormYuzeyi(std::vector<FormSayfasi> sayfalar, QWidget* ust)
-    : QWidget(ust), sayfalar_(std::move(sayfalar)), buyukluk_(VarsayilanBuyukluk), duzenleyici_(new QLineEdit(this)) {
+    : QWidget(ust), sayfalar_(std::move(sayfalar)), buyukluk_(IlkYuzeyBuyuklugu), duzenleyici_(new QLineEdit(this)) {
   if (sayfalar_.empty()) sayfalar_.emplace_back().boy = A4(KagitYonu::Dikey);
   setObjectName("yuzey");
   setFocusPolicy(Qt::StrongFocus);
@@ -33,7 +33,7 @@ FormYuzeyi::FormYuzeyi(std::vector<FormSayfasi> sayfalar, QWidget* ust)
 }
 
 double FormYuzeyi::Olcek() const {
-  return Buyuklukler[buyukluk_] / IncMm;
+  return YuzeyBuyuklukleri[buyukluk_] / IncMm;
 }
 
 QRectF FormYuzeyi::Yer(const FormAlani& alan) const {
@@ -57,7 +57,7 @@ void FormYuzeyi::SayfayaGit(int sayfa) {
 }
 
 void FormYuzeyi::Buyut(int adim) {
-  buyukluk_ = std::clamp(buyukluk_ + adim, 0, int(std::size(Buyuklukler)) - 1);
+  buyukluk_ = std::clamp(buyukluk_ + adim, 0, int(std::size(YuzeyBuyuklukleri)) - 1);
   Yenile();
 }
 
@@ -69,7 +69,7 @@ void FormYuzeyi::Sec(int alan) {
 
 void FormYuzeyi::paintEvent(QPaintEvent*) {
   if (resim_.isNull()) {
-    ResimTuvali tuval(Buyuklukler[buyukluk_] * devicePixelRatioF(), 1);
+    ResimTuvali tuval(YuzeyBuyuklukleri[buyukluk_] * devicePixelRatioF(), 1);
     FormCiz(sayfalar_[std::size_t(sayfa_)], tuval);
     resim_ = NoktaResmi(tuval);
     resim_.setDevicePixelRatio(devicePixelRatioF());

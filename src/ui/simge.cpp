@@ -60,7 +60,7 @@ void Ciz(QIcon& simge, const QString& ad, const QColor& renk, QIcon::Mode hal) {
   }
 }
 
-QIcon Yap(const QString& ad) {
+QIcon ResimdenYap(const QString& ad) {
   QIcon simge = SettenOku(ad);
   if (simge.isNull()) Ciz(simge, ad, Simdiki().Renk(), QIcon::Normal);
   return simge;
@@ -71,7 +71,7 @@ QIcon Yap(const QString& ad) {
 QIcon Simge(const QString& ad) {
   static std::map<std::tuple<QString, QString, QRgb>, QIcon> cizilen;
   const auto [yer, yeni] = cizilen.try_emplace({Simdiki().dizin, ad, Simdiki().Renk().rgb()});
-  if (yeni) yer->second = Yap(ad);
+  if (yeni) yer->second = ResimdenYap(ad);
   return yer->second;
 }
 

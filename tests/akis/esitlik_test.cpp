@@ -18,7 +18,7 @@ namespace belvani::test {
 namespace {
 
 struct KusurluSirket : EkranParcalari {
-  Komut komut;
+  CliKomutu komut;
 
   KusurluSirket() {
     Tamam("sirket-ac KUSUR --kullanici ayse --sifre gizli --unvan 'Şık Örgü' --yil 2009 --ay 7");

@@ -7,13 +7,13 @@
 namespace belvani {
 namespace {
 
-using test::Komut;
+using test::CliKomutu;
 using testing::HasSubstr;
 using testing::StartsWith;
 
 // Two people in July 2009, the second without a national number.
-struct Sirket : Komut {
-  Sirket() {
+struct BildirgeSirketi : CliKomutu {
+  BildirgeSirketi() {
     Tamam("sirket-ac deneme --kullanici a --yil 2009 --ay 7");
     Tamam("parametre-kur --donem 2009-07");
     Yaz("f.csv",
@@ -35,7 +35,7 @@ struct Sirket : Komut {
 };
 
 TEST(Bildirge, CalculationAndFile) {
-  const Sirket s;
+  const BildirgeSirketi s;
   const std::string komut = "bildirge deneme --yil 2009 --ay 7";
   const auto json = s(komut).Json();
   ASSERT_EQ(json["satirlar"].size(), 2u);
@@ -76,7 +76,7 @@ TEST(Bildirge, CalculationAndFile) {
 }
 
 TEST(Bildirge, PaperAndSpreadsheet) {
-  const Sirket s;
+  const BildirgeSirketi s;
   const std::string ay = "bildirge deneme --yil 2009 --ay 7";
   const struct {
     std::string komut;

@@ -7,10 +7,10 @@
 namespace belvani {
 namespace {
 
-using test::Komut;
+using test::CliKomutu;
 using testing::HasSubstr;
 
-struct BildirimSirketi : Komut {
+struct BildirimSirketi : CliKomutu {
   BildirimSirketi() {
     EXPECT_EQ((*this)("sirket-ac deneme --kullanici a --yil 2009 --ay 7").durum, 0);
     EXPECT_EQ((*this)("parametre-kur --donem 2009-07").durum, 0);

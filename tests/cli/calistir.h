@@ -20,7 +20,7 @@ struct Cikti {
   nlohmann::json Json() const { return nlohmann::json::parse(cikti); }
 };
 
-class Komut {
+class CliKomutu {
  public:
   GeciciDizin dizin;
 

@@ -11,11 +11,11 @@ namespace belvani {
 namespace {
 
 namespace fs = std::filesystem;
-using test::Komut;
+using test::CliKomutu;
 using testing::AllOf;
 using testing::HasSubstr;
 
-struct Kurulum : Komut {
+struct Kurulum : CliKomutu {
   Kurulum() {
     EXPECT_EQ((*this)("sirket-ac deneme --kullanici a --yil 2009 --ay 7").durum, 0);
     EXPECT_EQ((*this)("parametre-kur --donem 2009-07").durum, 0);

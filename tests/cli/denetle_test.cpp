@@ -13,7 +13,7 @@ using testing::AllOf;
 using testing::HasSubstr;
 
 // Two people and the payroll of July 2009.
-struct DenetleKomutu : testing::Test, test::Komut {
+struct DenetleKomutu : testing::Test, test::CliKomutu {
   DenetleKomutu() {
     Yaz("p.csv", "kod;adi;ucret;girtar;agi\n001;Işıl;1000;01.01.2009;1\n002;Gökçe;2500.50;01.01.2009;1\n");
     for (const char* komut : {"sirket-ac deneme --kullanici a --yil 2009 --ay 7", "parametre-kur --donem 2009-07",

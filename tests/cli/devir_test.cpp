@@ -10,7 +10,7 @@ namespace {
 using test::Cikti;
 using testing::HasSubstr;
 
-struct DevirKomutlari : testing::Test, test::Komut {
+struct DevirKomutlari : testing::Test, test::CliKomutu {
   DevirKomutlari() {
     Yaz("p.csv", "kod;adi;ucret;girtar;agi\n001;Işıl;1000;01.01.2008;1\n002;Gökçe;2500.50;01.01.2008;1\n");
     for (const char* komut : {"sirket-ac deneme --kullanici a --yil 2008 --ay 12", "parametre-kur --donem 2008-12",

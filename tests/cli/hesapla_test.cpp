@@ -8,14 +8,14 @@ namespace belvani {
 namespace {
 
 using test::Cikti;
-using test::Komut;
+using test::CliKomutu;
 using testing::HasSubstr;
 
 constexpr const char* TamAy =
     R"({"donem":{"yil":2009,"ay":7},"sicil":{"ucret":1000,"agi":true},"giris":{"ng":26,"ht":4}})";
 
 TEST(Hesapla, GivesEveryAmountByItsStoredName) {
-  const Komut komut;
+  const CliKomutu komut;
   const Cikti c = komut("hesapla", TamAy);
   EXPECT_EQ(c.durum, 0) << c.mesaj;
   const auto j = c.Json();
@@ -32,7 +32,7 @@ TEST(Hesapla, GivesEveryAmountByItsStoredName) {
 }
 
 TEST(Hesapla, ReadsAllThatMayBeGiven) {
-  const Komut komut;
+  const CliKomutu komut;
   struct Durum {
     const char* ad;
     const char* girdi;
@@ -79,7 +79,7 @@ TEST(Hesapla, ReadsAllThatMayBeGiven) {
 }
 
 TEST(Hesapla, ExplainsEachAmount) {
-  const Komut komut;
+  const CliKomutu komut;
   const auto j = komut("hesapla --iz", TamAy).Json();
   for (const char* alan : {"brutkaz", "sskkesinti", "gvmatrah", "gvtutar", "dvtutar", "ogv", "NetOdenen"}) {
     nlohmann::json son;
@@ -91,7 +91,7 @@ TEST(Hesapla, ExplainsEachAmount) {
 }
 
 TEST(Hesapla, TellsWhatIsWrong) {
-  const Komut komut;
+  const CliKomutu komut;
   const std::pair<const char*, const char*> durumlar[] = {
       {"{", "Girdi JSON değil"},
       {R"({"donem":1e999})", "sınırı aşan bir sayı"},
@@ -123,7 +123,7 @@ TEST(Hesapla, TellsWhatIsWrong) {
 }
 
 TEST(Hesapla, OfAListGivesAResultForEach) {
-  const Komut komut;
+  const CliKomutu komut;
   const Cikti c = komut("hesapla", std::string("[") + TamAy + R"(,{"donem":3},)" + TamAy + "]");
   EXPECT_EQ(c.durum, 1);
   EXPECT_THAT(c.mesaj, HasSubstr("2. hesap: donem"));
@@ -136,7 +136,7 @@ TEST(Hesapla, OfAListGivesAResultForEach) {
 
 // A list is looked at as a whole before any of it is calculated, and nests no deeper than people do.
 TEST(Hesapla, HostileListsAreRefusedBeforeAnythingIsWritten) {
-  const Komut komut;
+  const CliKomutu komut;
   const std::string derin = std::string(200'000, '[') + std::string(200'000, ']');
   std::string nesneler;
   for (int i = 0; i < 100'000; ++i) nesneler += R"({"a":)";

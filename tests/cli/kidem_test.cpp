@@ -11,8 +11,8 @@ namespace {
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
-struct Kurulum : Komut {
-  Kurulum() {
+struct KidemKurulumu : CliKomutu {
+  KidemKurulumu() {
     (*this)("sirket-ac deneme --kullanici a --sifre - --yil 2009 --ay 8", "a\n");
     (*this)("parametre-kur --donem 2009-07");
     Yaz("f.csv", "issaati,paraonda,ondeger\n7.5,2,Personel\n");
@@ -25,7 +25,7 @@ struct Kurulum : Komut {
 };
 
 TEST(Kidem, OnePersonAsJson) {
-  const Kurulum k;
+  const KidemKurulumu k;
   const auto c = k("kidem deneme 001 --cikis 01.08.2009 --bicim json");
   ASSERT_EQ(c.durum, 0) << c.mesaj;
   const auto j = c.Json();
@@ -47,7 +47,7 @@ TEST(Kidem, OnePersonAsJson) {
 }
 
 TEST(Kidem, OptionsTakeThePlaceOfTheCard) {
-  const Kurulum k;
+  const KidemKurulumu k;
   const auto j = k("kidem deneme 001 --giris 02.08.2007 --cikis 2009-08-01 --ucret 5000 --ihbar-gun 10 --haric kidem "
                    "--bicim json --iz")
                      .Json();
@@ -68,7 +68,7 @@ TEST(Kidem, OptionsTakeThePlaceOfTheCard) {
 }
 
 TEST(Kidem, EveryFormAndEveryFault) {
-  const Kurulum k;
+  const KidemKurulumu k;
   const auto metin = k("kidem deneme 001 --cikis 30.06.2009 --iz");
   EXPECT_THAT(metin.cikti, HasSubstr("\nNET ÖDENECEK              :"));
   EXPECT_THAT(metin.cikti, HasSubstr("Neden bu tutar?"));
@@ -91,7 +91,7 @@ TEST(Kidem, EveryFormAndEveryFault) {
 }
 
 TEST(KidemIcmal, GivesItsFormsAndIsNotPrinted) {
-  const Kurulum k;
+  const KidemKurulumu k;
   const auto j = k("kidem-icmal deneme --baz 2009-08-01 --kod 001 001 --bicim json").Json();
   ASSERT_EQ(j["satirlar"].size(), 1u);
   EXPECT_EQ(j["satirlar"][0]["NET Kıdem"], "1789.20");

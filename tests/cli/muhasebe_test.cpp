@@ -7,12 +7,12 @@
 namespace belvani {
 namespace {
 
-using test::Komut;
+using test::CliKomutu;
 using testing::HasSubstr;
 using testing::StartsWith;
 
 struct MuhasebeKomutlari : testing::Test {
-  Komut k;
+  CliKomutu k;
 
   std::string Tamam(const std::string& komut) {
     const auto c = k(komut);

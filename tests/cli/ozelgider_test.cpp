@@ -10,7 +10,7 @@ namespace {
 using testing::HasSubstr;
 
 TEST(OzelGiderKomutlari, FromTheDeclaredExpensesToTheLists) {
-  const test::Komut s;
+  const test::CliKomutu s;
   ASSERT_EQ(s("sirket-ac a --kullanici k --yil 2004 --ay 12").durum, 0);
   ASSERT_EQ(s("parametre-kur --donem 2005-01").durum, 0);
   s.Yaz("p.csv", "kod;adi;soyadi;girtar\n001;Işıl;Çağlar;01.01.2003\n002;Ömer;Ünal;01.01.2003\n");

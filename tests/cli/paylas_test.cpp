@@ -10,15 +10,15 @@ namespace belvani {
 namespace {
 
 using test::Cikti;
-using test::Komut;
+using test::CliKomutu;
 using testing::HasSubstr;
 
-DepoYeri Yeri(const Komut& komut, const std::string& ad) {
+DepoYeri Yeri(const CliKomutu& komut, const std::string& ad) {
   return MotorAc(komut.dizin.Yol() + "veri/" + ad + "/tolu.dat")->Yeri();
 }
 
 TEST(Paylas, OpensAStoreToOtherComputers) {
-  const Komut komut;
+  const CliKomutu komut;
   const std::string ortam = "BELVANI_BAGLAMALAR=" + komut.dizin.Yol() + "baglamalar";
   komut.Yaz("baglamalar", "22 1 0:9 / / rw - cifs //sunucu/veri rw\n");
   for (const char* ad : {"bir", "iki"}) ASSERT_EQ(komut(std::string("sirket-ac ") + ad + " --kullanici a").durum, 0);

@@ -11,7 +11,7 @@ using test::Cikti;
 using testing::HasSubstr;
 
 struct PersonelIslem : testing::Test {
-  test::Komut komut;
+  test::CliKomutu komut;
 
   void SetUp() override {
     for (const char* kod : {"BIR", "IKI"})

@@ -10,7 +10,7 @@ namespace {
 using testing::HasSubstr;
 
 TEST(RaporKomutu, GivesReportsByNameAndOutOfFiles) {
-  test::Komut k;
+  test::CliKomutu k;
   ASSERT_EQ(k("sirket-ac d --kullanici a --yil 2009 --ay 7").durum, 0);
   ASSERT_EQ(k("parametre-kur --donem 2009-07").durum, 0);
   k.Yaz("p.csv",

@@ -14,12 +14,12 @@ namespace belvani {
 namespace {
 
 using test::Cikti;
-using test::Komut;
+using test::CliKomutu;
 using testing::AllOf;
 using testing::HasSubstr;
 
 // A company with three people and the parameters of July 2009.
-struct Sirket : Komut {
+struct Sirket : CliKomutu {
   Sirket() {
     Tamam("sirket-ac deneme --kullanici ayşe --unvan 'Şık Örgü' --yil 2009 --ay 7");
     Tamam("parametre-kur --donem 2009-07");
@@ -244,7 +244,7 @@ TEST(Sirket, DefinitionsAreTakenByTheirKey) {
 }
 
 TEST(Kullanim, IsToldInTurkishWithStatusTwo) {
-  const Komut komut;
+  const CliKomutu komut;
   for (const char* degerler : {"", "yok", "hazirla", "hazirla a --yil 2009", "hazirla a --yil 2009 --ay 13",
                                "bordro a --yil 2009 --ay 1 --bicim ods", "sirketler --olmaz"}) {
     const Cikti c = komut(degerler);
@@ -306,7 +306,7 @@ TEST(Sirket, TheCheckTellsFaultsFromRemarks) {
 
 // No word of the library's language in any help.
 TEST(Sirket, HelpIsTurkish) {
-  const Komut komut;
+  const CliKomutu komut;
   for (const char* ad : {"", "sirket-ac", "sirket-sil", "yedekle", "yedekten", "bordro", "bildirge", "hesapla",
                          "parametre-kur", "personel-al"}) {
     const std::string yardim = komut(std::string(ad) + " --help").cikti;

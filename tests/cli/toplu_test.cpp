@@ -19,8 +19,8 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::Cikti;
+using test::CliKomutu;
 using test::Kapi;
-using test::Komut;
 using test::Surec;
 using testing::AllOf;
 using testing::ElementsAre;
@@ -31,7 +31,7 @@ using testing::StartsWith;
 constexpr const char* Temmuz = " --yil 2009 --ay 7";
 
 // AK, KARA and ZEYTİN with a person each, and the law of July 2009.
-struct Sirketler : Komut {
+struct Sirketler : CliKomutu {
   Sirketler() {
     Yaz("p.csv", "kod;adi;soyadi;ucret;girtar;tcno;sskno\n001;Işıl;Çağlar;1000;01.01.2009;10000000146;34-1\n");
     Tamam("sirket-ac AK --kullanici a --yil 2009 --ay 7");
@@ -101,8 +101,7 @@ TEST(TopluKomut, EachCompanyHasItsFolder) {
   const Sirketler s;
   s.Tamam("sirket-ac BOŞ --kullanici a --yil 2009 --ay 7");
   s.Tamam(std::string("hazirla --hepsi --sorunlar @sorun") + Temmuz);
-  for (const char* komut :
-       {"bordro --bicim json", "pusula --bicim pdf", "agi --bicim csv", "bildirge --bicim json"})
+  for (const char* komut : {"bordro --bicim json", "pusula --bicim pdf", "agi --bicim csv", "bildirge --bicim json"})
     EXPECT_EQ(s.Tamam(std::string(komut) + " --hepsi -o @dosyalar" + Temmuz), "");
   EXPECT_THAT(s.Dosyalar("dosyalar"),
               ElementsAre("AK/agi-2009-07.csv", "AK/bildirge-2009-07.json", "AK/bordro-2009-07.json",

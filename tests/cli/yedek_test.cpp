@@ -9,12 +9,12 @@
 namespace belvani {
 namespace {
 
-using test::Komut;
+using test::CliKomutu;
 using testing::HasSubstr;
 using testing::MatchesRegex;
 
 TEST(Yedek, MadeListedAndBroughtBack) {
-  const Komut k;
+  const CliKomutu k;
   const auto tamam = [&](const std::string& komut) {
     const auto c = k(komut);
     EXPECT_EQ(c.durum, 0) << komut << ": " << c.mesaj;

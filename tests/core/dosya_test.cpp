@@ -9,7 +9,7 @@
 #include "core/ayarlar.h"
 #include "core/ini.h"
 #include "core/ortam.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "gecici.h"
 
 namespace belvani {
@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 using test::GeciciDizin;
 using test::Maske;
 using test::OrtamKoy;
-using test::Tablo;
+using test::Sinamalar;
 
 mode_t Izinler(const std::string& yol) {
   struct stat s {};
@@ -49,10 +49,10 @@ TEST(DosyaYaz, AFailureLeavesTheOldContentAndNothingElse) {
   const std::string dosya = d.Yol() + "a.dat";
   fs::create_directory(d.Yol() + "dizin");
   ASSERT_TRUE(DosyaYaz(dosya, "eski"));
-  for (const auto& [yol, neden] : Tablo<std::string, const char*>{{d.Yol() + "dizin", "bu adda bir dizin var"},
-                                                                  {dosya + "/b.dat", "yoldaki bir ad dizin değil"},
-                                                                  {d.Yol() + "yok/b.dat", "dizin bulunamadı"},
-                                                                  {d.Yol() + std::string(300, 'x'), "ad çok uzun"}})
+  for (const auto& [yol, neden] : Sinamalar<std::string, const char*>{{d.Yol() + "dizin", "bu adda bir dizin var"},
+                                                                      {dosya + "/b.dat", "yoldaki bir ad dizin değil"},
+                                                                      {d.Yol() + "yok/b.dat", "dizin bulunamadı"},
+                                                                      {d.Yol() + std::string(300, 'x'), "ad çok uzun"}})
     EXPECT_EQ(DosyaYaz(yol, "yeni").KusurMetni(), yol + ": dosya yazılamadı (" + neden + ")");
   const auto geri = test::DarDisk(1000);
   EXPECT_FALSE(DosyaYaz(dosya, std::string(5000, 'y')));
@@ -74,7 +74,7 @@ TEST(DosyaOku, NothingForWhatIsNoFileOrTooLarge) {
 TEST(Dizin, MakingAndFinding) {
   const GeciciDizin d;
   ASSERT_EQ(::chmod(d.Yol().c_str(), 02770), 0);
-  for (const auto& [ad, maske] : Tablo<const char*, mode_t>{{"bir/iki/üç/", 077}, {"bir/iki/üç", 0}, {"dört", 0}}) {
+  for (const auto& [ad, maske] : Sinamalar<const char*, mode_t>{{"bir/iki/üç/", 077}, {"bir/iki/üç", 0}, {"dört", 0}}) {
     const auto geri = Maske(maske);
     ASSERT_TRUE(DizinYarat(d.Yol() + ad));
   }
@@ -86,7 +86,7 @@ TEST(Dizin, MakingAndFinding) {
   for (const char* ad : {"dosya", "yok", "dosya/alt"}) EXPECT_FALSE(DizinVar(d.Yol() + ad));
   EXPECT_EQ(DizinYarat(d.Yol() + "dosya/alt").KusurMetni(),
             d.Yol() + "dosya: dizin yaratılamadı (bu adda bir dosya var)");
-  for (const auto& [yol, sonu] : Tablo<const char*, const char*>{
+  for (const auto& [yol, sonu] : Sinamalar<const char*, const char*>{
            {"/veri", "/veri/"}, {"/veri//", "/veri/"}, {"a/", "a/"}, {"/", "/"}, {"", "./"}})
     EXPECT_EQ(DizinSonu(yol), sonu);
 }

@@ -18,7 +18,7 @@
 #include "core/gecici.h"
 #include "core/kaynak.h"
 #include "core/ortam.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "gecici.h"
 
 namespace belvani {
@@ -26,7 +26,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::GeciciDizin;
-using test::Tablo;
+using test::Sinamalar;
 using testing::HasSubstr;
 
 struct stat Hal(const std::string& yol) {
@@ -78,13 +78,13 @@ TEST(HedefDosya, WhatCannotBeWrittenStaysAsItWas) {
   ASSERT_TRUE(DosyaYaz(dosya, "eski"));
   fs::create_symlink("b", d.Yol() + "a");
   fs::create_symlink("a", d.Yol() + "b");
-  for (const auto& [yol, neden] : Tablo<std::string, const char*>{{d.Yol(), "bu adda bir dizin var"},
-                                                                  {dosya + "/", "yoldaki bir ad dizin değil"},
-                                                                  {dosya + "/x", "yoldaki bir ad dizin değil"},
-                                                                  {d.Yol() + "yok/x", "dizin bulunamadı"},
-                                                                  {d.Yol() + "a", "bağlar birbirini gösteriyor"},
-                                                                  {d.Yol() + std::string(300, 'x'), "ad çok uzun"},
-                                                                  {"/dev/full", "disk dolu"}})
+  for (const auto& [yol, neden] : Sinamalar<std::string, const char*>{{d.Yol(), "bu adda bir dizin var"},
+                                                                      {dosya + "/", "yoldaki bir ad dizin değil"},
+                                                                      {dosya + "/x", "yoldaki bir ad dizin değil"},
+                                                                      {d.Yol() + "yok/x", "dizin bulunamadı"},
+                                                                      {d.Yol() + "a", "bağlar birbirini gösteriyor"},
+                                                                      {d.Yol() + std::string(300, 'x'), "ad çok uzun"},
+                                                                      {"/dev/full", "disk dolu"}})
     EXPECT_EQ(HedefeYaz(yol, "yeni").KusurMetni(), yol + ": dosya yazılamadı (" + neden + ")");
   const auto geri = test::DarDisk(1000);
   EXPECT_THAT(HedefeYaz(dosya, std::string(5000, 'y')).KusurMetni(), HasSubstr("dosya çok büyük"));
@@ -178,10 +178,10 @@ TEST(KaynakOku, TheReasonWhenAFileCannotBeHad) {
   const GeciciDizin d;
   ASSERT_TRUE(DosyaYaz(d.Yol() + "a", "12345"));
   EXPECT_EQ(*KaynakOku(d.Yol() + "a", 5), "12345");
-  for (const auto& [yol, neden] : Tablo<std::string, const char*>{{d.Yol() + "a", "4 bayt sınırından büyük"},
-                                                                  {"/dev/zero", "4 bayt sınırından büyük"},
-                                                                  {d.Yol(), "bu bir dizin"},
-                                                                  {d.Yol() + "yok", "dosya bulunamadı"}})
+  for (const auto& [yol, neden] : Sinamalar<std::string, const char*>{{d.Yol() + "a", "4 bayt sınırından büyük"},
+                                                                      {"/dev/zero", "4 bayt sınırından büyük"},
+                                                                      {d.Yol(), "bu bir dizin"},
+                                                                      {d.Yol() + "yok", "dosya bulunamadı"}})
     EXPECT_EQ(KaynakOku(yol, 4).KusurMetni(), "Dosya okunamadı: " + yol + " (" + neden + ")");
 }
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "core/dosya.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "core/turkce.h"
 #include "gecici.h"
 
@@ -17,7 +17,7 @@ namespace belvani {
 namespace {
 
 using test::GeciciDizin;
-using test::Tablo;
+using test::Sinamalar;
 using Parcalar = std::vector<std::string>;
 
 std::string Birlesik(const Parcalar& parcalar) {
@@ -25,7 +25,7 @@ std::string Birlesik(const Parcalar& parcalar) {
 }
 
 TEST(IniOku, FilesOfManyHands) {
-  const Tablo<const char*, std::string, std::string> durumlar{
+  const Sinamalar<const char*, std::string, std::string> durumlar{
       {"blanks, comments, case", "; k=0\r\n\r\n  [ B ]  \r\n;k=2\r\n#k=3\r\n \t K \t =  iki söz;2 \t\r\n", "iki söz;2"},
       {"no last line end", "[b]\nk=1", "1"},
       {"section and key told twice", "[b]\nx=1\n[a]\nk=2\n[b]\nk=1\nk=3\n", "1"},
@@ -48,7 +48,7 @@ TEST(IniOku, FilesOfManyHands) {
 }
 
 TEST(IniYaz, ChangesOneLineAndNoOtherByte) {
-  const Tablo<const char*, std::string, std::string, std::string> durumlar{
+  const Sinamalar<const char*, std::string, std::string, std::string> durumlar{
       {"new file", "", "Ş", "[b]\r\nk=\xDE\r\n"},
       {"mixed line ends", "[a]\r\n\tx = 1 \n; \n[b]\n K = 1\r\nz=1\n", "5", "[a]\r\n\tx = 1 \n; \n[b]\nk=5\r\nz=1\n"},
       {"replaced at the end", "[b]\nk=1", "5", "[b]\nk=5"},

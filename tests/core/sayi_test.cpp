@@ -8,21 +8,21 @@
 #include <rapidcheck/gtest.h>
 
 #include "core/dosya.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "core/tarih.h"
 #include "core/turkce.h"
 
 namespace belvani {
 namespace {
 
-using test::Tablo;
+using test::Sinamalar;
 
 constexpr auto EnBuyuk = std::numeric_limits<std::int64_t>::max();
 constexpr auto EnKucuk = std::numeric_limits<std::int64_t>::min();
 
 // clang-format off
 TEST(TutarOku, WhatIsANumberAndWhatIsNone) {
-  const Tablo<const char*, std::int64_t> durumlar{
+  const Sinamalar<const char*, std::int64_t> durumlar{
       {" 12,345,678 ", 123'456'780'000}, {"1,234.5", 12'345'000}, {"-7", -70'000}, {"+7.", 70'000}, {"-.5", -5'000},
       {"000012", 120'000}, {"1.00004", 10'000}, {"1.00005", 10'001}, {"-1.00005", -10'001}, {"0.99995", 10'000},
       {"-0", 0}, {"922337203685477.5807", EnBuyuk}, {"-922337203685477.5808", EnKucuk}};
@@ -38,15 +38,15 @@ TEST(TutarOku, WhatIsANumberAndWhatIsNone) {
 TEST(SayiOku, PlainAndWhole) {
   EXPECT_EQ(SayiOku("-.125"), -0.125);
   EXPECT_EQ(SayiOku(std::string(400, '9')), std::nullopt);
-  const Tablo<const char*, long long> tamlar{{"1,234", 1234}, {" -05 ", -5}, {"9223372036854775807", EnBuyuk}};
+  const Sinamalar<const char*, long long> tamlar{{"1,234", 1234}, {" -05 ", -5}, {"9223372036854775807", EnBuyuk}};
   for (const auto& [metin, sayi] : tamlar) EXPECT_EQ(TamSayiOku(metin), sayi);
   for (const char* metin : {"", "5.0", ".", "9223372036854775808", "5 5"}) EXPECT_FALSE(TamSayiOku(metin)) << metin;
-  const Tablo<const char*, int> bastakiler{{"05510", 5510}, {"07-Puantaj", 7}, {" 12", 12}, {"", 0}, {"Puantaj", 0}};
+  const Sinamalar<const char*, int> bastakiler{{"05510", 5510}, {"07-Puantaj", 7}, {" 12", 12}, {"", 0}, {"Puantaj", 0}};
   for (const auto& [metin, sayi] : bastakiler) EXPECT_EQ(BastakiSayi(metin), sayi) << metin;
 }
 
 TEST(TutarMetni, DecimalsAndGroups) {
-  const Tablo<std::int64_t, int, const char*, const char*> durumlar{
+  const Sinamalar<std::int64_t, int, const char*, const char*> durumlar{
       {0, 2, "0.00", "0.00"}, {12'345'678, 2, "1,234.57", "1234.5678"}, {-9'999'950, 2, "-1,000.00", "-999.995"},
       {-5'000, 0, "-1", "-0.50"}, {-40, 2, "0.00", "-0.004"}, {9'990'000, 0, "999", "999.00"},
       {10'000, 9, "1.0000", "1.00"}, {EnKucuk, 4, "-922,337,203,685,477.5808", "-922337203685477.5808"}};
@@ -57,7 +57,7 @@ TEST(TutarMetni, DecimalsAndGroups) {
 }
 
 TEST(SayiFormat, PrintedForms) {
-  const Tablo<const char*, int, int, const char*> durumlar{
+  const Sinamalar<const char*, int, int, const char*> durumlar{
       {"-0.00", 2, 3, ""}, {"", 2, 3, ""}, {"12,5", 2, 3, ""}, {"1,234.5", 2, 3, "1,234.50"}, {"-0.5", 2, 3, "-.50"},
       {"-1234567.891", 2, 3, "-1,234,567.89"}, {"1234567", 0, 0, "1234567"}, {"1234567", 0, 2, "1,23,45,67"},
       {"999.995", 2, 3, "1,000.00"}, {"-0.004", 2, 3, ".00"}, {"-0.4", 0, 3, ""}, {"007", 0, 3, "7"}};
@@ -66,7 +66,7 @@ TEST(SayiFormat, PrintedForms) {
 }
 
 TEST(SayiMetni, ShortestAndNeverWithAnExponent) {
-  const Tablo<double, const char*> durumlar{
+  const Sinamalar<double, const char*> durumlar{
       {7.5, "7.5"}, {30, "30"}, {0.1, "0.1"}, {-0.0, "0"}, {0.00001, "0.00001"}, {1e22, "10000000000000000000000"}};
   for (const auto& [sayi, metin] : durumlar) EXPECT_EQ(SayiMetni(sayi), metin);
 }

@@ -9,17 +9,17 @@
 #include <new>
 #include <set>
 
+#include "core/sinamalar.h"
 #include "core/tables/bordronosu.h"
-#include "core/tablo.h"
 
 namespace belvani {
 namespace {
 
-using test::Tablo;
+using test::Sinamalar;
 
 // Counts of the columns by type, in the order of AlanTipi, and the letters of all texts together.
 TEST(Tablolar, ColumnsTypesSizesKeys) {
-  const Tablo<std::string_view, std::vector<int>, int, std::string_view> durumlar{
+  const Sinamalar<std::string_view, std::vector<int>, int, std::string_view> durumlar{
       {"peruser", {2, 0, 0, 0, 0, 0, 0, 1, 0}, 16, "kod"},   {"firma", {29, 3, 2, 0, 0, 4, 1, 1, 0}, 520, ""},
       {"sicil", {17, 6, 0, 0, 4, 0, 2, 4, 0}, 235, "kod"},   {"foto", {1, 0, 0, 0, 0, 0, 0, 0, 1}, 8, "kod"},
       {"kimlik", {19, 5, 0, 0, 0, 0, 2, 0, 0}, 299, "kod"},  {"brd", {1, 11, 1, 2, 39, 12, 0, 0, 0}, 8, "oto"},
@@ -105,7 +105,7 @@ using I = std::int64_t;
 // clang-format off
 // Values that fit, values that do not, and what is said of these.
 TEST(DegerKusuru, LimitsOfEachType) {
-  const Tablo<AlanTipi, std::vector<Deger>, std::vector<Deger>, std::string> durumlar{
+  const Sinamalar<AlanTipi, std::vector<Deger>, std::vector<Deger>, std::string> durumlar{
       {A::Metin, {std::string("ŞİĞÜ"), std::string(), Null{}}, {std::string("ŞİĞÜÇ")}, "en çok 4 harf olabilir"},
       {A::Metin, {}, {std::string("\xDE")}, "okunamayan harf var"},
       {A::Metin, {}, {I(5), Tarih()}, "metin olmalı"},
@@ -129,7 +129,7 @@ TEST(DegerKusuru, LimitsOfEachType) {
 
 // What may be entered is less than what the column holds.
 TEST(DegerKusuru, LimitsOfColumns) {
-  const Tablo<AlanTanimi, std::vector<Deger>, std::vector<Deger>, std::string> durumlar{
+  const Sinamalar<AlanTanimi, std::vector<Deger>, std::vector<Deger>, std::string> durumlar{
       {sicil::ucrettipi, {I(0), I(2), Null{}}, {I(3), I(255)}, "0 ile 2 arasında olmalı"},
       {muaf::no, {I(1), I(11)}, {I(0), I(12)}, "1 ile 11 arasında olmalı"},
       {brd::ng, {I(0), I(30)}, {I(31)}, "en çok 30 olabilir"},
@@ -150,12 +150,12 @@ TEST(DegerKusuru, LimitsOfColumns) {
 }
 
 TEST(MetindenDeger, ValuesAndFaults) {
-  const Tablo<AlanTipi, const char*, Deger> degerler{
+  const Sinamalar<AlanTipi, const char*, Deger> degerler{
       {A::Metin, "\t Aş e \r", std::string("Aş e")}, {A::Metin, "", std::string()}, {A::Byte, " 255 ", I(255)},
       {A::Byte, "", I(0)}, {A::Kisa, "2,008", I(2008)}, {A::Uzun, "05510\r", I(5510)}, {A::Mantik, "1", true},
       {A::Mantik, "", false}, {A::Tutar, "1,234.56", Tutar(1234.56)}, {A::Tutar, "", Tutar()}, {A::Tek, "0.1", 0.1},
       {A::Tek, "-0", 0.0}, {A::Tarih, " ", Null{}}, {A::Tarih, "29.02.2008", Tarih(2008, 2, 29)}};
-  const Tablo<AlanTipi, std::vector<const char*>, std::string> kusurlar{
+  const Sinamalar<AlanTipi, std::vector<const char*>, std::string> kusurlar{
       {A::Metin, {"Ayşegül"}, "en çok 4 harf olabilir"},
       {A::Byte, {"256", "-1", "5.5", "beş"}, "0 ile 255 arasında bir tam sayı olmalı"},
       {A::Uzun, {"2147483648", "99999999999999999999"}, "-2147483648 ile 2147483647 arasında bir tam sayı olmalı"},
@@ -177,7 +177,7 @@ TEST(MetindenDeger, ValuesAndFaults) {
 }
 
 TEST(Deger, InEveryForm) {
-  const Tablo<Deger, const char*, I, double> durumlar{
+  const Sinamalar<Deger, const char*, I, double> durumlar{
       {Null{}, "", 0, 0}, {std::string("7"), "7", 0, 0}, {I(-7), "-7", -7, -7}, {0.25, "0.25", 0, 0.25},
       {Tutar(1234.5), "1234.50", 0, 1234.5}, {Tarih(2008, 2, 29), "29.02.2008", 0, 0}, {true, "1", 1, 1},
       {false, "0", 0, 0}, {Baytlar{1, 2}, "", 0, 0}};

@@ -4,14 +4,14 @@
 #include <gtest/gtest.h>
 
 #include "core/saat.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 
 namespace belvani {
 namespace {
 
 TEST(Tarih, SerialNumbers) {
   // clang-format off
-  const test::Tablo<Tarih, int> durumlar{
+  const test::Sinamalar<Tarih, int> durumlar{
       {Tarih(1899, 12, 30), 0}, {Tarih(1900, 3, 1), 61}, {Tarih(100, 1, 1), -657434}, {Tarih(2005, 1, 1), 38353},
       {Tarih(2008, 2, 29), 39507}, {Tarih(9999, 12, 31), 2958465}};
   // clang-format on

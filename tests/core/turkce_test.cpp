@@ -8,7 +8,7 @@
 #include <unicode/ucol.h>
 #include <vector>
 
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 
 namespace belvani {
 namespace {
@@ -72,7 +72,7 @@ RC_GTEST_PROP(Sira, OfPlainCodesIsThatOfTheLibrary, ()) {
 }
 
 TEST(Sira, EqualityIgnoresCaseOnly) {
-  for (const auto& [a, b] : test::Tablo<const char*, const char*>{
+  for (const auto& [a, b] : test::Sinamalar<const char*, const char*>{
            {"ISPARTA", "isparta"}, {"Şule", "Sule"}, {"kâr", "kar"}, {"a b", "ab"}, {"a-b", "ab"}, {"", " "}})
     EXPECT_FALSE(TurkceEsit(a, b)) << a;
 }
@@ -117,7 +117,7 @@ TEST(KodSayfasi, BytesOfTheTurkishLetters) {
   const std::string harfler = "ÇĞÖÜİŞçğöüış" + ascii;
   const std::string latin5 = "\xC7\xD0\xD6\xDC\xDD\xDE\xE7\xF0\xF6\xFC\xFD\xFE" + ascii;
   const std::string dos = "\x80\xA6\x99\x9A\x98\x9E\x87\xA7\x94\x81\x8D\x9F" + ascii;
-  for (const auto& [sayfa, baytlar] : test::Tablo<KodSayfasi, std::string>{
+  for (const auto& [sayfa, baytlar] : test::Sinamalar<KodSayfasi, std::string>{
            {KodSayfasi::Windows1254, latin5}, {KodSayfasi::Iso8859_9, latin5}, {KodSayfasi::Dos857, dos}}) {
     EXPECT_EQ(KodSayfasina(harfler, sayfa), baytlar);
     EXPECT_EQ(KodSayfasindan(baytlar, sayfa), harfler);

@@ -5,7 +5,7 @@
 #include <limits>
 #include <rapidcheck/gtest.h>
 
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "core/tek.h"
 #include "core/yaziile.h"
 #include "core/yuvarlama.h"
@@ -13,21 +13,21 @@
 namespace belvani {
 namespace {
 
-using test::Tablo;
+using test::Sinamalar;
 
 constexpr double Sonsuz = std::numeric_limits<double>::infinity();
 constexpr double Belirsiz = std::numeric_limits<double>::quiet_NaN();
 
 // clang-format off
 TEST(Tutar, FromADoubleRoundsToFourDecimalsTiesToEven) {
-  const Tablo<double, std::int64_t> durumlar{
+  const Sinamalar<double, std::int64_t> durumlar{
       {4.158, 41580}, {0.00004, 0}, {0.00006, 1}, {0.03125, 312}, {0.09375, 938}, {-0.03125, -312}, {-0.09375, -938},
       {9.1e14, 9'100'000'000'000'000'000}};
   for (const auto& [sayi, ham] : durumlar) EXPECT_EQ(Tutar(sayi).Ham(), ham) << sayi;
 }
 
 TEST(Yuvarla, BiasAndDecimals) {
-  const Tablo<double, int, double> durumlar{
+  const Sinamalar<double, int, double> durumlar{
       {0, 2, 0}, {0, 4, 0}, {1.005, 2, 1.01}, {2.345, 2, 2.35}, {1.00494, 2, 1.00}, {1.00496, 2, 1.01},
       {-1.005, 2, -1.00}, {-1.0051, 2, -1.01}, {2.5, 0, 3}, {-2.5, 0, -2}, {2.4999, 0, 2}, {2.49996, 0, 3},
       {1.25, 1, 1.3}, {0.0625, 3, 0.063}, {0.12343, 4, 0.1235}, {1.005, 9, 1.005}, {2.5, -3, 3}, {9.1e14, 0, 9.1e14}};
@@ -36,7 +36,7 @@ TEST(Yuvarla, BiasAndDecimals) {
 }
 
 TEST(TutarCevir, DropsSixZerosAboveAMillionFrom2004On) {
-  const Tablo<double, int, double> durumlar{
+  const Sinamalar<double, int, double> durumlar{
       {1'000'000.01, 2004, 1}, {1'000'000, 2004, 1'000'000}, {5'000'000, 2003, 5'000'000}, {693.005, 2009, 693.01},
       {1'234'567'000, 2005, 1234.57}, {-5'000'000, 2004, -5'000'000}};
   for (const auto& [tutar, yil, beklenen] : durumlar)
@@ -45,7 +45,7 @@ TEST(TutarCevir, DropsSixZerosAboveAMillionFrom2004On) {
 
 // The two long ones hold every word.
 TEST(YaziIleTutar, Examples) {
-  const Tablo<double, int, const char*> durumlar{
+  const Sinamalar<double, int, const char*> durumlar{
       {1250.75, 2, "binikiyüzelli TL yetmişbeş KR"}, {1001, 2, "binbir TL"}, {101000, 2, "yüzbirbin TL"},
       {1'001'000, 2, "birmilyonbin TL"}, {2'000'000, 2, "ikimilyon TL"}, {0.05, 2, " TL beş KR"}, {0, 2, " TL"},
       {0.999, 2, "bir TL"}, {12.5, 0, "onüç TL"}, {12.3456, 4, "oniki TL otuzdört KR"}, {-21, 2, "yirmibir TL"},
@@ -56,7 +56,7 @@ TEST(YaziIleTutar, Examples) {
 }
 
 TEST(Tek, IsTheShortestDecimalOfASingle) {
-  const Tablo<double, double> durumlar{
+  const Sinamalar<double, double> durumlar{
       {double(0.1f), 0.1}, {double(33.6f), 33.6}, {7.5, 7.5}, {0.1 + 0.2, 0.3}, {1e10, 1e10}, {16777217.0, 16777216.0},
       {1e-50, 0}, {1e39, 0}, {Sonsuz, 0}, {Belirsiz, 0}};
   for (const auto& [sayi, beklenen] : durumlar) EXPECT_EQ(Tek(sayi).Sayi(), beklenen) << sayi;

@@ -16,7 +16,7 @@ using test::Sigortali;
 using testing::ElementsAre;
 
 // Value of a field, "-" when the page has none of that name.
-std::string Deger(const FormSayfasi& sayfa, const std::string& ad) {
+std::string FormDegeri(const FormSayfasi& sayfa, const std::string& ad) {
   const auto alan = std::ranges::find(sayfa.alanlar, ad, &FormAlani::ad);
   return alan == sayfa.alanlar.end() ? "-" : alan->deger;
 }
@@ -42,11 +42,11 @@ TEST(BildirgeFormu, PagesAndTheirTotals) {
       EXPECT_EQ(bolumler[s].son, o.sonlar[s]);
       EXPECT_EQ(bolumler[s].devir, onceki) << "carried as the page before ended";
       onceki = bolumler[s].dahil;
-      EXPECT_EQ(Deger(sayfalar[s], "sayfano"), std::to_string(s + 1));
-      EXPECT_EQ(Deger(sayfalar[s], "sayfasayisi"), std::to_string(sayfalar.size()));
+      EXPECT_EQ(FormDegeri(sayfalar[s], "sayfano"), std::to_string(s + 1));
+      EXPECT_EQ(FormDegeri(sayfalar[s], "sayfasayisi"), std::to_string(sayfalar.size()));
       if (const std::size_t son = o.sonlar[s]; son > 0) {
-        EXPECT_EQ(Deger(sayfalar[s], "satir" + std::to_string(son) + ".sira"), std::to_string(son));
-        EXPECT_EQ(Deger(sayfalar[s], "satir" + std::to_string(son + 1) + ".sira"), "-");
+        EXPECT_EQ(FormDegeri(sayfalar[s], "satir" + std::to_string(son) + ".sira"), std::to_string(son));
+        EXPECT_EQ(FormDegeri(sayfalar[s], "satir" + std::to_string(son + 1) + ".sira"), "-");
       }
     }
     // The n-th person has 1000.25 + n, and 2 days of paid leave for 50.5.
@@ -83,7 +83,7 @@ TEST(BildirgeFormu, ValuesStandInTheirPlaces) {
                                                      {"sayfa.kazanc", "7,029.75"},
                                                      {"devreden.gun", "-"},
                                                      {"muhasebeci.sicil", "34-77"}};
-  for (const auto& [ad, deger] : ilk) EXPECT_EQ(Deger(sayfalar[0], ad), deger) << ad;
+  for (const auto& [ad, deger] : ilk) EXPECT_EQ(FormDegeri(sayfalar[0], ad), deger) << ad;
   const std::pair<const char*, const char*> devam[] = {
       {"isveren.adr", "Sanayi Cad. Kat 2"}, {"devreden.gun", "210"},
       {"devreden.kazanc", "7,029.75"},      {"sayfa.gun", "15"},
@@ -93,15 +93,15 @@ TEST(BildirgeFormu, ValuesStandInTheirPlaces) {
       {"satir8.ilksoyadi", "Öz"},           {"satir8.girtar", "05 - 07"},
       {"satir8.ciktar", "20 - 07"},         {"satir8.eksik", "6"},
       {"satir8.izinucreti", "83.37"},       {"brans3.prim", "-"}};
-  for (const auto& [ad, deger] : devam) EXPECT_EQ(Deger(sayfalar[1], ad), deger) << ad;
+  for (const auto& [ad, deger] : devam) EXPECT_EQ(FormDegeri(sayfalar[1], ad), deger) << ad;
 }
 
 TEST(BildirgeFormu, AnEmptyFormHasTheCompanyAlone) {
   const auto sayfalar = BildirgeSayfalari(Kagit(0));
   ASSERT_EQ(sayfalar.size(), 1u);
   for (const char* ad : {"sayfa.gun", "sayfa.kazanc", "toplam.sigortali", "brans0.oran", "geneltoplam"})
-    EXPECT_EQ(Deger(sayfalar[0], ad), "") << ad;
-  EXPECT_EQ(Deger(sayfalar[0], "isveren.unvan"), "Şık Örgü");
+    EXPECT_EQ(FormDegeri(sayfalar[0], ad), "") << ad;
+  EXPECT_EQ(FormDegeri(sayfalar[0], "isveren.unvan"), "Şık Örgü");
 }
 
 // Boxes of values lie on the sheet and apart from each other, and each value stands whole on the line and at the letter
@@ -165,8 +165,8 @@ TEST(BildirgeKagidi, FollowsTheScreenAndPremiumsGiveTheTotal) {
 
 TEST(FormResimleri, PagesOfMissingDays) {
   EksikGunFormu form{.yil = 2009, .ay = 7, .kisiler = {{.adi = "Işıl", .gun = 15, .eksikGun = 15, .sebep = 6}}};
-  EXPECT_EQ(Deger(Ek10Resmi(form).at(0), "kisi1.adi"), "Işıl");
-  EXPECT_EQ(Deger(Ek10Resmi(form).at(0), "kisi1.eksikgun"), "15");
+  EXPECT_EQ(FormDegeri(Ek10Resmi(form).at(0), "kisi1.adi"), "Işıl");
+  EXPECT_EQ(FormDegeri(Ek10Resmi(form).at(0), "kisi1.eksikgun"), "15");
   for (const auto& [kisi, sayfa] : {std::pair{0, 1}, {20, 1}, {21, 2}}) {
     form.kisiler.resize(std::size_t(kisi));
     EXPECT_EQ(Ek10Resmi(form).size(), std::size_t(sayfa)) << kisi;

@@ -15,7 +15,7 @@ namespace {
 using test::Bol;
 using testing::ElementsAre;
 
-std::string Deger(const FormSayfasi& sayfa, const std::string& ad) {
+std::string DortAylikDegeri(const FormSayfasi& sayfa, const std::string& ad) {
   const auto alan = std::ranges::find(sayfa.alanlar, ad, &FormAlani::ad);
   return alan == sayfa.alanlar.end() ? "-" : alan->deger;
 }
@@ -147,7 +147,8 @@ TEST(DortAylik, SumsAreThoseOfTheRecords) {
         EXPECT_EQ(dahil[std::size_t(i)], (GunVeKazanc{int(gun), Tutar::Hamdan(kazanc)}));
         EXPECT_EQ(toplam[std::size_t(7 + 2 * i)], Hucre(gun));
         EXPECT_EQ(toplam[std::size_t(8 + 2 * i)], Hucre(Tutar::Hamdan(kazanc)));
-        EXPECT_EQ(Deger(sayfalar.back(), "toplam.gun" + std::to_string(i + 1)), gun == 0 ? "" : std::to_string(gun));
+        EXPECT_EQ(DortAylikDegeri(sayfalar.back(), "toplam.gun" + std::to_string(i + 1)),
+                  gun == 0 ? "" : std::to_string(gun));
       }
       EXPECT_EQ(std::int64_t(kagit.satirlar.size()),
                 s.Sayi("select count(distinct kod) from brd where yil = " + std::to_string(yil) + " and ay between " +
@@ -156,7 +157,7 @@ TEST(DortAylik, SumsAreThoseOfTheRecords) {
 }
 
 // The n-th person has 30 days and 1000 + n in the first month, 10 days and 2.50 in the fourth.
-DortAylikKagidi Kagit(int kisi) {
+DortAylikKagidi DortAylikKagidiYap(int kisi) {
   DortAylikKagidi k{.secim = {2009, 3}};
   k.firma.unvan = "Şık Örgü Ltd. Şti.";
   k.firma.il = "34";
@@ -183,7 +184,7 @@ TEST(DortAylik, PagesAndTheRecapitulation) {
   } ornekler[] = {{0, 1, 0}, {1, 1, 1}, {25, 1, 1}, {26, 2, 1}, {50, 2, 1}, {51, 3, 1}, {500, 20, 1}, {501, 21, 2}};
   for (const auto& o : ornekler) {
     SCOPED_TRACE(o.kisi);
-    const DortAylikKagidi kagit = Kagit(o.kisi);
+    const DortAylikKagidi kagit = DortAylikKagidiYap(o.kisi);
     const auto sayfalar = DortAylikSayfalari(kagit);
     const std::string metin = DortAyYazdir(kagit);
     ASSERT_EQ(int(sayfalar.size()), o.sayfa + o.icmal);
@@ -200,22 +201,22 @@ TEST(DortAylik, PagesAndTheRecapitulation) {
     EXPECT_EQ(onceki[0].kazanc, Tutar(1000.0 * o.kisi + o.kisi * (o.kisi + 1) / 2));
     EXPECT_EQ(onceki.Toplam().gun, 40 * o.kisi);
   }
-  const auto sayfalar = DortAylikSayfalari(Kagit(26));
-  EXPECT_EQ(Deger(sayfalar[0], "satir25.sira") + Deger(sayfalar[0], "satir26.sira"), "25-");
-  EXPECT_EQ(Deger(sayfalar[1], "satir26.gun1"), "30");
-  EXPECT_EQ(Deger(sayfalar[1], "satir26.gun2"), "") << "a month without records";
-  EXPECT_EQ(Deger(sayfalar[1], "satir26.girtar"), "05 - 09");
-  EXPECT_EQ(Deger(sayfalar[1], "sayfa.kazanc1"), "1,026.00");
-  EXPECT_EQ(Deger(sayfalar[1], "devir.kazanc1"), "25,325.00");
-  EXPECT_EQ(Deger(sayfalar[1], "dahil.kazanc1"), "26,351.00");
-  EXPECT_EQ(Deger(sayfalar[2], "icmal1.gun4"), "250");
-  EXPECT_EQ(Deger(sayfalar[2], "icmal2.topkazanc"), "1,028.50");
-  EXPECT_EQ(Deger(sayfalar[2], "toplam.topkazanc"), "26,416.00");
-  EXPECT_EQ(Deger(sayfalar[2], "muhasebeci.adsoyad"), "Ömer Güneş");
+  const auto sayfalar = DortAylikSayfalari(DortAylikKagidiYap(26));
+  EXPECT_EQ(DortAylikDegeri(sayfalar[0], "satir25.sira") + DortAylikDegeri(sayfalar[0], "satir26.sira"), "25-");
+  EXPECT_EQ(DortAylikDegeri(sayfalar[1], "satir26.gun1"), "30");
+  EXPECT_EQ(DortAylikDegeri(sayfalar[1], "satir26.gun2"), "") << "a month without records";
+  EXPECT_EQ(DortAylikDegeri(sayfalar[1], "satir26.girtar"), "05 - 09");
+  EXPECT_EQ(DortAylikDegeri(sayfalar[1], "sayfa.kazanc1"), "1,026.00");
+  EXPECT_EQ(DortAylikDegeri(sayfalar[1], "devir.kazanc1"), "25,325.00");
+  EXPECT_EQ(DortAylikDegeri(sayfalar[1], "dahil.kazanc1"), "26,351.00");
+  EXPECT_EQ(DortAylikDegeri(sayfalar[2], "icmal1.gun4"), "250");
+  EXPECT_EQ(DortAylikDegeri(sayfalar[2], "icmal2.topkazanc"), "1,028.50");
+  EXPECT_EQ(DortAylikDegeri(sayfalar[2], "toplam.topkazanc"), "26,416.00");
+  EXPECT_EQ(DortAylikDegeri(sayfalar[2], "muhasebeci.adsoyad"), "Ömer Güneş");
 }
 
 TEST(DortAylik, TextOfPrinters) {
-  DortAylikKagidi kagit = Kagit(26);
+  DortAylikKagidi kagit = DortAylikKagidiYap(26);
   kagit.satirlar[0].aylar[1] = {31, Tutar(123'456'789.5)};
   kagit.satirlar[1].aylar[1] = {31, Tutar(999'999'999'999.0)};
   const std::string metin = DortAyYazdir(kagit);

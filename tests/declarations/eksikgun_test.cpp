@@ -10,9 +10,9 @@ namespace {
 
 using testing::HasSubstr;
 
-const Yuvarlayici kurus(2);
+const Yuvarlayici kurusYuvarla(2);
 
-std::string Deger(const FormSayfasi& sayfa, const std::string& ad) {
+std::string EksikGunDegeri(const FormSayfasi& sayfa, const std::string& ad) {
   const auto alan = std::ranges::find(sayfa.alanlar, ad, &FormAlani::ad);
   return alan == sayfa.alanlar.end() ? "-" : alan->deger;
 }
@@ -33,7 +33,7 @@ TEST(EksikGun, DailyEarnings) {
     brd.ng = std::uint8_t(o.ng);
     brd.ui = std::uint8_t(o.ui);
     brd.sskmatrah = Tutar(o.matrah);
-    EXPECT_EQ(GunlukKazanc(brd, Tutar(o.taban), kurus), Tutar(o.beklenen)) << o.ad;
+    EXPECT_EQ(GunlukKazanc(brd, Tutar(o.taban), kurusYuvarla), Tutar(o.beklenen)) << o.ad;
   }
 }
 
@@ -114,15 +114,15 @@ TEST(EksikGun, TwentyPeopleAPage) {
     }
     const auto sayfalar = EksikGunSayfalari(kagit);
     ASSERT_EQ(int(sayfalar.size()), sayfa) << kisi;
-    EXPECT_EQ(Deger(sayfalar.back(), "sayfasayisi"), std::to_string(sayfa));
+    EXPECT_EQ(EksikGunDegeri(sayfalar.back(), "sayfasayisi"), std::to_string(sayfa));
     if (kisi == 0) {
-      EXPECT_EQ(Deger(sayfalar[0], "toplam.prim"), "");
+      EXPECT_EQ(EksikGunDegeri(sayfalar[0], "toplam.prim"), "");
     }
     if (kisi != 21) continue;
-    EXPECT_EQ(Deger(sayfalar[0], "toplam.prim"), "610.00");
-    EXPECT_EQ(Deger(sayfalar[1], "toplam.prim"), "41.00") << "of its page alone";
-    EXPECT_EQ(Deger(sayfalar[1], "kisi21.adsoyad"), "Işıl Çağ");
-    EXPECT_EQ(Deger(sayfalar[1], "kisi21.sebep"), "12");
+    EXPECT_EQ(EksikGunDegeri(sayfalar[0], "toplam.prim"), "610.00");
+    EXPECT_EQ(EksikGunDegeri(sayfalar[1], "toplam.prim"), "41.00") << "of its page alone";
+    EXPECT_EQ(EksikGunDegeri(sayfalar[1], "kisi21.adsoyad"), "Işıl Çağ");
+    EXPECT_EQ(EksikGunDegeri(sayfalar[1], "kisi21.sebep"), "12");
   }
 }
 

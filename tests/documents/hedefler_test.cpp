@@ -22,7 +22,7 @@ using test::Ay;
 using test::Bol;
 using test::Yil;
 
-Tutar Deger(const Hucre& hucre) {
+Tutar HucreTutari(const Hucre& hucre) {
   if (const auto* tutar = std::get_if<Tutar>(&hucre)) return *tutar;
   if (const auto* tam = std::get_if<std::int64_t>(&hucre)) return Tutar(double(*tam));
   return Tutar();
@@ -34,13 +34,13 @@ std::vector<std::pair<std::size_t, Tutar>> Toplamlar(const Rapor& rapor) {
   for (std::size_t k = 0; k < rapor.Kolonlar().size(); ++k) {
     if (!rapor.Kolonlar()[k].toplanir) continue;
     Tutar toplam;
-    for (const auto& satir : rapor.Satirlar()) toplam += Deger(satir.hucreler[k]);
+    for (const auto& satir : rapor.Satirlar()) toplam += HucreTutari(satir.hucreler[k]);
     toplamlar.emplace_back(k, toplam);
   }
   return toplamlar;
 }
 
-Tutar Okunan(std::string_view metin) {
+Tutar OkunanTutar(std::string_view metin) {
   return Kirp(metin).empty() ? Tutar() : TutarOku(metin).value();
 }
 
@@ -93,19 +93,19 @@ void HedefleriDenetle(const Belge& belge) {
   ASSERT_EQ(metin.size(), rapor.Kolonlar().size());
   for (const auto& [k, beklenen] : Toplamlar(rapor)) {
     SCOPED_TRACE(rapor.Kolonlar()[k].baslik);
-    EXPECT_EQ(Deger(rapor.Toplam()[k]), beklenen);
-    EXPECT_EQ(Okunan(metin[k]), beklenen);
+    EXPECT_EQ(HucreTutari(rapor.Toplam()[k]), beklenen);
+    EXPECT_EQ(OkunanTutar(metin[k]), beklenen);
     EXPECT_EQ(XlsxTutari(xlsx, k, xlsxSatiri), beklenen);
     Tutar csvde;
-    for (std::size_t i = 1; i + 1 < csv.size(); ++i) csvde += Okunan(Bol(csv[i], ",")[k]);
+    for (std::size_t i = 1; i + 1 < csv.size(); ++i) csvde += OkunanTutar(Bol(csv[i], ",")[k]);
     EXPECT_EQ(csvde, beklenen);
   }
   EXPECT_THAT(CizilenToplam(rapor), testing::Not(testing::StartsWith("on no page")));
 }
 
-Tutar Toplam(const Rapor& rapor, std::string_view baslik) {
+Tutar HedefToplami(const Rapor& rapor, std::string_view baslik) {
   for (std::size_t k = 0; k < rapor.Kolonlar().size(); ++k)
-    if (rapor.Kolonlar()[k].kisaBaslik == baslik) return Deger(rapor.Toplam()[k]);
+    if (rapor.Kolonlar()[k].kisaBaslik == baslik) return HucreTutari(rapor.Toplam()[k]);
   ADD_FAILURE() << "no column " << baslik;
   return {};
 }
@@ -139,12 +139,12 @@ TEST(Hedefler, EveryPaperHasTheSameAmountsOnEveryRoad) {
                                        {"SSK Kesinti", "sskkesinti"},
                                        {"GV Tutar", "gvtutar"},
                                        {"A.G.İ.", "ogv"}})
-      EXPECT_EQ(Toplam(*defter->Tablo(), baslik).Ham(), depo.Topla(alan)) << baslik;
-    EXPECT_EQ(Toplam(*agi->Tablo(), "İnd.Tutarı").Ham(), depo.Topla("ogv", "yil = 2008 and ay <= 7"));
+      EXPECT_EQ(HedefToplami(*defter->Tablo(), baslik).Ham(), depo.Topla(alan)) << baslik;
+    EXPECT_EQ(HedefToplami(*agi->Tablo(), "İnd.Tutarı").Ham(), depo.Topla("ogv", "yil = 2008 and ay <= 7"));
     const auto pusulalar = UcretPusulalari(kaynak, secim, {})->Veri();
     const Rapor& pusula = *pusulalar;
-    EXPECT_EQ(Toplam(pusula, "Net Ödenen"), Toplam(*defter->Tablo(), "Net Ödenen"));
-    EXPECT_EQ(Toplam(pusula, "Net Ödenen"), Toplam(*ozel->Tablo(), "Agi+Net Ödeme"));
+    EXPECT_EQ(HedefToplami(pusula, "Net Ödenen"), HedefToplami(*defter->Tablo(), "Net Ödenen"));
+    EXPECT_EQ(HedefToplami(pusula, "Net Ödenen"), HedefToplami(*ozel->Tablo(), "Agi+Net Ödeme"));
   }
 }
 

@@ -9,7 +9,7 @@
 namespace belvani {
 namespace {
 
-const Yuvarlayici kurus(2);
+const Yuvarlayici kurusYuvarla(2);
 
 TEST(Turetilen, StampDutyAndNet) {
   const struct {
@@ -50,8 +50,8 @@ RC_GTEST_PROP(Turetilen, OdenenVeKesilenBrutuTutar, ()) {
                      &brd.borckes})
     *alan = Tutar::Hamdan(100 * *rc::gen::inRange<std::int64_t>(0, 10'000'000));
   const Tek oran(*rc::gen::element(0.0, 6.0, 7.59));
-  RC_ASSERT(NetOdenen(brd, oran, kurus) + Kesintiler(brd, oran, kurus) == brd.brutkaz + brd.ogv);
-  const Tutar ekDamga = AgiDahilDamga(brd, oran, kurus) - brd.dvtutar;
+  RC_ASSERT(NetOdenen(brd, oran, kurusYuvarla) + Kesintiler(brd, oran, kurusYuvarla) == brd.brutkaz + brd.ogv);
+  const Tutar ekDamga = AgiDahilDamga(brd, oran, kurusYuvarla) - brd.dvtutar;
   RC_ASSERT(std::abs(ekDamga.Sayi() - brd.ogv.Sayi() * oran.Sayi() / 1000) <= 0.0051);
 }
 

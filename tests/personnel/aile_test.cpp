@@ -6,7 +6,7 @@ namespace belvani {
 namespace {
 
 using test::Iletiler;
-using Aile = test::SirketTesti;
+using AileTesti = test::SirketTesti;
 
 Esco Satir(std::string_view yakinlik) {
   Esco e;
@@ -15,7 +15,7 @@ Esco Satir(std::string_view yakinlik) {
   return e;
 }
 
-TEST_F(Aile, ANewRowGetsItsNumberAndChangingItEditsTheSameRecord) {
+TEST_F(AileTesti, ANewRowGetsItsNumberAndChangingItEditsTheSameRecord) {
   Esco cocuk = Satir("4-1.Çocuk");
   cocuk = *AileKaydet(o, {.simdi = cocuk});
   const auto es = AileKaydet(o, {.simdi = Satir("1")});
@@ -32,7 +32,7 @@ TEST_F(Aile, ANewRowGetsItsNumberAndChangingItEditsTheSameRecord) {
   EXPECT_EQ(aile[1], cocuk) << "no date leaves the date";
 }
 
-TEST_F(Aile, RowsAreDeletedOnceAndADeletedOneIsNotAddedUnseen) {
+TEST_F(AileTesti, RowsAreDeletedOnceAndADeletedOneIsNotAddedUnseen) {
   Esco satir = Satir("");
   satir.adi = "Can";
   satir = *AileKaydet(o, {.simdi = satir});

@@ -2,7 +2,7 @@
 #include "severance/kidemhesabi.h"
 
 #include "core/saat.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "core/turkce.h"
 #include "printing/xlsxoku.h"
 #include "severance/kidembelgesi.h"
@@ -40,7 +40,7 @@ TEST_F(KidemTesti, ThePersonComesWithHisDaysWageAndTheYearsBase) {
   EXPECT_EQ(h.Form().AylikUcret, Tutar(1800));
   EXPECT_EQ(h.Form().CalismaGunu, 360);
   EXPECT_EQ(h.Form().IhbarGun, 30);
-  const test::Tablo<std::string_view, std::string> durumlar{
+  const test::Sinamalar<std::string_view, std::string> durumlar{
       {"dvgvmatrah", "12600.00"}, {"dvgvtutar", "2085.00"},        {"kidemTavan", "2365.16"}, {"gunlukEsas", "60.00"},
       {"netKidem", "1789.20"},    {"ihbarGelirVergisi", "360.00"}, {"netIhbar", "1429.20"},   {"netToplam", "3218.40"}};
   for (const auto& [ad, tutar] : durumlar) EXPECT_EQ(Tutar_(h, ad), tutar) << ad;
@@ -148,7 +148,7 @@ TEST_F(KidemTesti, CompanyWithoutHoursCountsEight) {
   s.ucretags = 2;
   Ekle(s);
   for (const auto& [saat, ucret, yazili] :
-       test::Tablo<double, double, bool>{{7.5, 900, true}, {1, 120, true}, {0.5, 960, false}, {0, 960, false}}) {
+       test::Sinamalar<double, double, bool>{{7.5, 900, true}, {1, 120, true}, {0.5, 960, false}, {0, 960, false}}) {
     o.firma.issaati = Tek(saat);
     KidemHesabi h = Hesap();
     ASSERT_TRUE(h.KisiBul("005"));

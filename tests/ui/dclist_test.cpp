@@ -12,7 +12,7 @@
 namespace belvani::test {
 namespace {
 
-struct Liste {
+struct ListeOrtami {
   ToplayanBildirim bildirim;
   QWidget pencere;
   dclist liste{bildirim, &pencere};
@@ -20,7 +20,7 @@ struct Liste {
   std::vector<std::string> kaydedilen;
   bool alinir = true;
 
-  Liste() {
+  ListeOrtami() {
     liste.setGeometry(0, 0, 600, 300);
     liste.CreateNewCaption('a', "kod", "Kod", 80, 5, 0, 3, HucreDenetimi::MetinGerek);
     liste.CreateNewCaption('t', "tarih", "Tarih", 90, 0, 0, 3, HucreDenetimi::TarihGerekTatilUyar);
@@ -44,7 +44,7 @@ struct Liste {
 };
 
 TEST(Dclist, ARowIsTypedCheckedAndHandedOverOnce) {
-  Liste l;
+  ListeOrtami l;
   EXPECT_EQ(l.liste.Model().columnCount(), 5) << "an unknown kind adds no column";
   EkranOrtami::Bas(Qt::Key_Insert);
   EXPECT_EQ(l.liste.CurrentMode(), dclist::Mod::Ekleme);
@@ -65,14 +65,14 @@ TEST(Dclist, ARowIsTypedCheckedAndHandedOverOnce) {
 
 TEST(Dclist, TheTailOfADateComesFromToday) {
   const SabitGun gun(Tarih(2007, 5, 31));
-  Liste l;
+  ListeOrtami l;
   EkranOrtami::Bas(Qt::Key_Insert);
   EkranOrtami::Yaz("K\n0203\n");
   EXPECT_EQ(Utf8(l.liste.TextByName(0, "tarih")), "02.03.2007");
 }
 
 TEST(Dclist, ARefusedRowStaysAsTypedAndIsOfferedAgain) {
-  Liste l;
+  ListeOrtami l;
   for (const char* kod : {"A", "B"}) {
     const int satir = l.liste.Add();
     l.liste.TextByName(satir, "kod", kod);
@@ -100,7 +100,7 @@ TEST(Dclist, ARefusedRowStaysAsTypedAndIsOfferedAgain) {
 }
 
 TEST(Dclist, SortsAndFiltersByTheTurkishAlphabet) {
-  Liste l;
+  ListeOrtami l;
   for (const char* kod : {"IŞIK", "ilk", "Çan", "Can", "Dal", "İLKE"}) l.liste.Text(l.liste.Add(), 0, kod);
   l.liste.Model().Sirala(0, Qt::AscendingOrder);
   std::string sira;
@@ -120,7 +120,7 @@ TEST(Dclist, SortsAndFiltersByTheTurkishAlphabet) {
 // A list goes out as it stands: its order, its filter, its visible columns, values as values.
 TEST(Dclist, GoesToTheSpreadsheetAsItStands) {
   EkranOrtami ortam;
-  Liste l;
+  ListeOrtami l;
   for (const auto& [kod, tutar] : {std::pair("b", "1,234.50"), {"a", "2.00"}, {"x", "9.00"}}) {
     const int satir = l.liste.Add();
     l.liste.TextByName(satir, "kod", kod);

@@ -38,7 +38,8 @@ struct Pencere {
     dugme.setFocusPolicy(Qt::NoFocus);
     pencere.resize(600, 400);
     QObject::connect(&dugme, &QPushButton::clicked, [this] { ++basilan; });
-    QObject::connect(new QShortcut(Qt::CTRL | Qt::Key_K, &pencere), &QShortcut::activated, [this] { ++kisayol; });
+    QObject::connect(new QShortcut(QKeyCombination(Qt::CTRL, Qt::Key_K), &pencere), &QShortcut::activated,
+                     [this] { ++kisayol; });
     pencere.show();
     QApplication::setActiveWindow(&pencere);
     alan.setFocus();

@@ -11,10 +11,10 @@
 namespace belvani {
 namespace {
 
-constexpr int EnUzunDizin = 254;
+constexpr int EnUzunIslDizini = 254;
 
 namespace alan {
-constexpr auto islfirma = Uye("islfirma", &IsletmeAyari::islfirma, EnUzunDizin);
+constexpr auto islfirma = Uye("islfirma", &IsletmeAyari::islfirma, EnUzunIslDizini);
 constexpr auto tarih = Uye("tarih", &IsletmeKaydi::tarih);
 constexpr auto ack = Uye("ack", &IsletmeKaydi::ack, isltra::ack.boyut);
 constexpr auto brut = Uye("brut", &IsletmeKaydi::brut);

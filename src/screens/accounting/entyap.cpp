@@ -23,19 +23,19 @@ struct FisFormu {
   std::int32_t fisno = 0;
 };
 
-namespace alan {
+namespace fisalani {
 constexpr auto grup = Uye("grup", &FisFormu::grup);
 constexpr auto tarih = Uye("tarih", &FisFormu::tarih);
 constexpr auto fisno = Uye("fisno", &FisFormu::fisno);
-}  // namespace alan
+}  // namespace fisalani
 
 const std::string OkunamayanMuhasebe = std::string(MuhasebeAcilamadi) + "\n";
 
 AlanGrubu Alanlar() {
   return {"Fiş",
-          {{alan::grup, "Grup Kodu", {.liste = SonraDolar, .harf = 10, .kayitDisi = true}},
-           {alan::tarih, "Fiş Tarihi", {.kayitDisi = true}},
-           {alan::fisno, "Fiş No", {.kayitDisi = true}}},
+          {{fisalani::grup, "Grup Kodu", {.liste = SonraDolar, .harf = 10, .kayitDisi = true}},
+           {fisalani::tarih, "Fiş Tarihi", {.kayitDisi = true}},
+           {fisalani::fisno, "Fiş No", {.kayitDisi = true}}},
           3};
 }
 
@@ -79,12 +79,12 @@ entyap::entyap(EkranBaglami& baglam)
   if (auto gruplar = Koru([&] { return EntegreGruplari(Oturumu().depo.db.IcMotor()); }); Oldu(gruplar))
     gruplar_ = std::move(*gruplar);
   gruplar_.insert(gruplar_.begin(), ButunGruplar);
-  SecenekleriKoy(Denetim(alan::grup), gruplar_);
+  SecenekleriKoy(Denetim(fisalani::grup), gruplar_);
   Yukle(FisFormu{.tarih = FisTarihi(yil_, ay_)});
   MuhasebeyiOku();
   FisiYap(false);
   AlanDegisti = [this](AlanDenetimi& d) {
-    if (d.Satir().Tutamak() == alan::grup) FisiYap(true);
+    if (d.Satir().Tutamak() == fisalani::grup) FisiYap(true);
   };
 }
 
@@ -138,12 +138,12 @@ void entyap::MuhasebeyiOku() {
 
 void entyap::FisNoKoy(Motor& muhasebe) {
   const auto no = Koru([&] { return SiradakiFisNo(muhasebe); }, OkunamayanMuhasebe);
-  if (Oldu(no)) Denetim(alan::fisno).Koy(std::int64_t(*no));
+  if (Oldu(no)) Denetim(fisalani::fisno).Koy(std::int64_t(*no));
 }
 
 // `beklet`: the user waits for it and may stop it; then the list stays empty.
 void entyap::FisiYap(bool beklet) {
-  const auto sira = std::size_t(TamDegeri(Denetim(alan::grup).Oku()));
+  const auto sira = std::size_t(TamDegeri(Denetim(fisalani::grup).Oku()));
   const FisDonemi donem{.yil = yil_, .ay = ay_, .grup = gruplar_[sira < gruplar_.size() ? sira : 0]};
   const auto oku = [&](Ilerleme* ilerleme) {
     return Koru([&] { return FisOku(Oturumu().depo.db.IcMotor(), donem, ilerleme); });
@@ -182,9 +182,9 @@ void entyap::Goster() {
 }
 
 FisBasligi entyap::Baslik() const {
-  const auto fisno = TamDegeri(Denetim(alan::fisno).Oku());
+  const auto fisno = TamDegeri(Denetim(fisalani::fisno).Oku());
   return {.unvan = Oturumu().firma.unvan,
-          .tarih = TarihDegeri(Denetim(alan::tarih).Oku()),
+          .tarih = TarihDegeri(Denetim(fisalani::tarih).Oku()),
           .fisno = fisno == 0 ? "" : std::to_string(fisno),
           .paraonda = Oturumu().firma.paraonda};
 }
@@ -206,14 +206,14 @@ void entyap::YevmiyeYaz() {
 
 // The voucher in the books under the number of the screen.
 Sonuc<std::int32_t> entyap::Islenen(Motor& muhasebe) {
-  const Tarih tarih = TarihDegeri(Denetim(alan::tarih).Oku());
+  const Tarih tarih = TarihDegeri(Denetim(fisalani::tarih).Oku());
   if (const Durum olur = FisDenetle(fis_, tarih); !olur) return olur.Kusuru();
   const auto bilinenler = Koru([&] { return AyniFisler(muhasebe, fis_.ack); }, OkunamayanMuhasebe);
   if (!bilinenler) return bilinenler.Kusuru();
   const std::string soru = AyniFisSorusu(*bilinenler, fis_.ack);
   if (!soru.empty() && !Bildirimi().Soru(soru)) return std::int32_t(0);
   FisIstegi istek{.tarih = tarih, .bilinenler = *bilinenler};
-  if (const auto fisno = std::int32_t(TamDegeri(Denetim(alan::fisno).Oku())); fisno > 0) istek.fisno = fisno;
+  if (const auto fisno = std::int32_t(TamDegeri(Denetim(fisalani::fisno).Oku())); fisno > 0) istek.fisno = fisno;
   return FisIsle(muhasebe, fis_, istek);
 }
 
@@ -225,7 +225,7 @@ void entyap::Isle() {
     const AlanTutamagi yer = islenen.Kusuru().alan;
     Bildir(islenen.Kusuru());
     if (yer == fisgen::fisno) FisNoKoy(**muhasebe);
-    if (yer) OdakVer(yer == fisgen::fisno ? AlanTutamagi(alan::fisno) : AlanTutamagi(alan::tarih));
+    if (yer) OdakVer(yer == fisgen::fisno ? AlanTutamagi(fisalani::fisno) : AlanTutamagi(fisalani::tarih));
     return;
   }
   if (*islenen == 0) return;
@@ -233,7 +233,7 @@ void entyap::Isle() {
   Goster();
   FisNoKoy(**muhasebe);
   ZoomEfekt(QStringLiteral("Fiş %1 işlendi").arg(*islenen));
-  OdakVer(alan::grup);
+  OdakVer(fisalani::grup);
 }
 
 }  // namespace belvani

@@ -24,7 +24,7 @@ struct PrimOrani {
 };
 constexpr auto TehlikeOranAlani = Uye("tehlikeoran", &PrimOrani::oran);
 
-std::vector<std::vector<AlanGrubu>> Gruplar() {
+std::vector<std::vector<AlanGrubu>> FirmaGruplari() {
   return {{{"Ünvan", {{firma::unvan, "Ünvan", {.harf = 40}}}},
            {"S.S.K Sicil No",
             {{firma::sektor, "Sektör"},
@@ -84,7 +84,7 @@ firbil::firbil(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : Form(baglam, "firbil", QStringLiteral("Firma Bilgileri")),
       durum_(parametreler.firma),
       firma_(FirmaDuzenle(baglam.oturum)) {
-  AlanlariDiz(Gruplar());
+  AlanlariDiz(FirmaGruplari());
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});
   Yukle(firma_.simdi);
   OraniGoster();

@@ -5,11 +5,11 @@
 namespace belvani {
 namespace {
 
-const std::vector<AlanGrubu> Gruplar{{"Kullanıcı",
-                                      {{kullanicigirisi::ad, "Kullanıcı Adı", {.harf = 14}},
-                                       {kullanicigirisi::eski, "Eski Şifre", {.harf = 14, .sifre = true}},
-                                       {kullanicigirisi::yeni, "Yeni Şifre", {.harf = 14, .sifre = true}},
-                                       {kullanicigirisi::onay, "Onay Şifre", {.harf = 14, .sifre = true}}}}};
+const std::vector<AlanGrubu> KullaniciGruplari{{"Kullanıcı",
+                                                {{kullanicigirisi::ad, "Kullanıcı Adı", {.harf = 14}},
+                                                 {kullanicigirisi::eski, "Eski Şifre", {.harf = 14, .sifre = true}},
+                                                 {kullanicigirisi::yeni, "Yeni Şifre", {.harf = 14, .sifre = true}},
+                                                 {kullanicigirisi::onay, "Onay Şifre", {.harf = 14, .sifre = true}}}}};
 
 }  // namespace
 
@@ -26,7 +26,7 @@ kulfrm::kulfrm(EkranBaglami& baglam)
   connect(liste_, &QTableView::clicked, this, [this] {
     if (!Kaydedilmemis()) Goster(liste_->CurSat());
   });
-  AlanlariDiz({Gruplar});
+  AlanlariDiz({KullaniciGruplari});
   Govde()->addWidget(liste_, 1);
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
             {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }}});

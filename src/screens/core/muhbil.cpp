@@ -6,15 +6,15 @@
 namespace belvani {
 namespace {
 
-const AlanGrubu Grup{"Muhasebeci",
-                     {{Uye("adsoyad", &Muhasebeci::adsoyad, 50), "Adı Soyadı"},
-                      {Uye("tcno", &Muhasebeci::tcno, 15), "T.C. No"},
-                      {Uye("sicil", &Muhasebeci::sicil, 30), "Sicil"}}};
+const AlanGrubu MuhasebeciGrubu{"Muhasebeci",
+                                {{Uye("adsoyad", &Muhasebeci::adsoyad, 50), "Adı Soyadı"},
+                                 {Uye("tcno", &Muhasebeci::tcno, 15), "T.C. No"},
+                                 {Uye("sicil", &Muhasebeci::sicil, 30), "Sicil"}}};
 
 }  // namespace
 
 muhbil::muhbil(EkranBaglami& baglam) : Form(baglam, "muhbil", QStringLiteral("Muhasebeci Bilgileri")) {
-  AlanlariDiz({{Grup}});
+  AlanlariDiz({{MuhasebeciGrubu}});
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
             {.komut = FormKomutu::Kapat, .dugme = "Vazgeç"}});
   Yukle(MuhasebeciOku(baglam.oturum));

@@ -10,13 +10,13 @@
 namespace belvani {
 namespace {
 
-const AlanGrubu Grup{
+const AlanGrubu DizinGrubu{
     "Dizinler", {{yapiayari::prg, "Program Dizini", {.harf = 52}}, {yapiayari::data, "Data Dizini", {.harf = 52}}}};
 
 }  // namespace
 
 yapifrm::yapifrm(EkranBaglami& baglam) : Form(baglam, "yapifrm", QStringLiteral("Yapı Ayarları")) {
-  QWidget* kutu = GrupYap(Grup);
+  QWidget* kutu = GrupYap(DizinGrubu);
   auto* izgara = static_cast<QGridLayout*>(kutu->layout());
   for (int satir = 0; satir < int(Denetimler().size()); ++satir) {
     xtext& alan = *Denetimler()[std::size_t(satir)]->YaziKutusu();

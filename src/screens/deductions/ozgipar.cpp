@@ -8,7 +8,7 @@ namespace belvani {
 namespace {
 
 // The month by its name; its number is what is stored.
-std::vector<AlanGrubu> Gruplar() {
+std::vector<AlanGrubu> ParametreGruplari() {
   AlanGrubu grup{"Özel Gider İndirimi", {}};
   HerUye<OzelGiderParametreleri>([&](const auto& uye) { grup.alanlar.push_back(ParametreAlani(uye)); });
   for (Alan& alan : grup.alanlar)
@@ -21,7 +21,7 @@ std::vector<AlanGrubu> Gruplar() {
 
 ozgipar::ozgipar(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ParametreEkrani(baglam, parametreler, "ozgipar", QStringLiteral("Özel Gider İndirimi Ayarları")) {
-  AlanlariDiz({Gruplar()});
+  AlanlariDiz({ParametreGruplari()});
   YaziEkle(
       QStringLiteral("İade, başlangıç ayından başlayarak altı ayda ödenir. Damga vergisi binde, indirim yüzde olarak "
                      "yazılır."),

@@ -23,7 +23,7 @@ struct HarcamaYili {
 };
 constexpr auto YilAlani = Uye("yil", &HarcamaYili::yil, 4);
 
-std::vector<AlanGrubu> Gruplar() {
+std::vector<AlanGrubu> HarcamaGruplari() {
   return {{"Dönem", {{YilAlani, "Dönem Yıl", {.harf = 6, .kayitDisi = true}}}}};
 }
 
@@ -57,7 +57,7 @@ ozgvharc::ozgvharc(EkranBaglami& baglam)
     : Form(baglam, "ozgvharc", QStringLiteral("Özel Gider İndirimi Harcama Girişi")),
       liste_(new dclist(baglam.bildirim, this)),
       tablo_(*liste_, Kolonlar(baglam.oturum.firma.paraonda)) {
-  AlanlariDiz({Gruplar()});
+  AlanlariDiz({HarcamaGruplari()});
   AnahtarBagla(YilAlani, [this](const std::string& yil) { YilaGec(yil); });
   uyari_ = YaziEkle({}, "hata");
   uyari_->setWordWrap(true);

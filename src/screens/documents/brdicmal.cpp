@@ -21,7 +21,7 @@ constexpr double GrafikDpi = 96;
 constexpr int CerceveNoktasi = 10;  // pixels that the label itself needs
 constexpr double KenarPayi = 2;
 
-QString Hucre(const std::string& metin, const char* hiza) {
+QString HucreHtml(const std::string& metin, const char* hiza) {
   return QStringLiteral("<td align='%1' style='padding:2px 10px'>%2</td>").arg(hiza, Yazi(metin).toHtmlEscaped());
 }
 
@@ -31,12 +31,12 @@ QString SatirTablosu(const Rapor& rapor) {
   const auto& kolonlar = rapor.Kolonlar();
   const auto hiza = [&](std::size_t k) { return kolonlar[k].Sayisal() ? "right" : "left"; };
   for (std::size_t k = 0; k < kolonlar.size(); ++k)
-    html += Hucre(kolonlar[k].kisaBaslik, hiza(k)).replace("<td", "<th").replace("</td", "</th");
+    html += HucreHtml(kolonlar[k].kisaBaslik, hiza(k)).replace("<td", "<th").replace("</td", "</th");
   html += "</tr>";
   for (const auto& satir : rapor.Satirlar()) {
     html += "<tr>";
     for (std::size_t k = 0; k < kolonlar.size(); ++k)
-      html += Hucre(HucreMetni(satir.hucreler[k], kolonlar[k]), hiza(k));
+      html += HucreHtml(HucreMetni(satir.hucreler[k], kolonlar[k]), hiza(k));
     html += "</tr>";
   }
   return html + "</table>";
@@ -45,7 +45,7 @@ QString SatirTablosu(const Rapor& rapor) {
 QString BlokTablosu(const Rapor& rapor) {
   QString html = QStringLiteral("<table cellspacing='0'>");
   for (const auto& satir : rapor.sonBlok)
-    html += "<tr>" + Hucre(satir.etiket, "left") + Hucre(BlokMetni(satir, rapor), "right") + "</tr>";
+    html += "<tr>" + HucreHtml(satir.etiket, "left") + HucreHtml(BlokMetni(satir, rapor), "right") + "</tr>";
   return html + "</table>";
 }
 

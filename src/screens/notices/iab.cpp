@@ -42,7 +42,7 @@ AlanGrubu AyrilmaGrubu() {
 }
 
 // To be read, not typed.
-std::vector<SatirKolonu<IabKaydi>> Kolonlar(int paraonda) {
+std::vector<SatirKolonu<IabKaydi>> BelgeKolonlari(int paraonda) {
   auto kolonlar = std::vector{UyeKolonu("yil", "Yıl", 70, &IabKaydi::yil), UyeKolonu("ay", "Ay", 110, &IabKaydi::ay),
                               UyeKolonu("pek", "Kazanç", 130, &IabKaydi::pek, {.ondalik = paraonda}),
                               UyeKolonu("gun", "Gün", 60, &IabKaydi::gun),
@@ -56,7 +56,7 @@ std::vector<SatirKolonu<IabKaydi>> Kolonlar(int paraonda) {
 iab::iab(EkranBaglami& baglam)
     : PersonelFormu(baglam, "iab", QStringLiteral("İşten Ayrılma Bildirgesi (İAB)")),
       liste_(new dclist(baglam.bildirim, this)),
-      tablo_(*liste_, Kolonlar(baglam.oturum.firma.paraonda)) {
+      tablo_(*liste_, BelgeKolonlari(baglam.oturum.firma.paraonda)) {
   Yerlestir();
   Komutlar({{.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır", .simge = "yazici", .islev = [this] { Yazdir(); }}});
   PersonelKomutlari(iabformu::kod);

@@ -38,7 +38,7 @@ constexpr SayiKolonu SayiKolonlari[] = {{{"e1", "e2", "e3", "e4"}, {"E.", "Erkek
                                         {{"k1", "k2", "k3", "k4"}, {"K.", "Kadın"}, &IsgucuSayisi::kadin},
                                         {{"t1", "t2", "t3", "t4"}, {"T.", "Toplam"}, &IsgucuSayisi::toplam}};
 
-std::vector<SatirKolonu<IsgucuSatiri>> Kolonlar(std::span<const std::string_view> satirAdlari, int blok) {
+std::vector<SatirKolonu<IsgucuSatiri>> IsgucuKolonlari(std::span<const std::string_view> satirAdlari, int blok) {
   std::vector<SatirKolonu<IsgucuSatiri>> kolonlar{AdKolonu<IsgucuSatiri>("Açıklama", AdEni, satirAdlari)};
   kolonlar.front().ad = "ack";
   for (std::size_t g = 0; g < IsgucuSatiri().size(); ++g)
@@ -55,8 +55,8 @@ isguc::isguc(EkranBaglami& baglam)
     : Form(baglam, "isguc", QStringLiteral("İşgücü Çizelgesi")),
       liste1_(new dclist(baglam.bildirim, this)),
       liste2_(new dclist(baglam.bildirim, this)),
-      satirlar_(*liste1_, Kolonlar(IsgucuSatirlari, 0)),
-      ayrimlar_(*liste2_, Kolonlar(IsgucuAyrimSatirlari, 1)),
+      satirlar_(*liste1_, IsgucuKolonlari(IsgucuSatirlari, 0)),
+      ayrimlar_(*liste2_, IsgucuKolonlari(IsgucuAyrimSatirlari, 1)),
       cizelge_(BosCizelge(baglam.oturum.firma)) {
   liste1_->setObjectName("dclist1");
   liste2_->setObjectName("dclist2");

@@ -11,14 +11,14 @@ struct TabloYili {
   std::int16_t yil = 0;
 };
 
-std::vector<SatirKolonu<VergiDilimi>> Kolonlar(int paraonda) {
+std::vector<SatirKolonu<VergiDilimi>> DilimKolonlari(int paraonda) {
   constexpr auto oran = UyeTanimi<&GvTablosu::GvOran>();
   return {{'b', "alt", "Matrah Aralığı", 150, [](const VergiDilimi& d, std::size_t) { return d.alt; }},
           UyeKolonu("limit", UyeTanimi<&GvTablosu::GvLimit>().etiket, 170, &VergiDilimi::limit, {.ondalik = paraonda}),
           UyeKolonu("oran", oran.etiket, 90, &VergiDilimi::oran, {.enCok = oran.enCok})};
 }
 
-GvTablosu Tablo(const std::vector<VergiDilimi>& satirlar) {
+GvTablosu TabloYap(const std::vector<VergiDilimi>& satirlar) {
   GvTablosu tablo;
   for (std::size_t i = 0; i < satirlar.size(); ++i) {
     tablo.GvLimit[i] = satirlar[i].limit;
@@ -37,7 +37,7 @@ gvtablo::gvtablo(EkranBaglami& baglam, ParametreDeposu& parametreler, Tur tur)
     : ListeEkrani(baglam, parametreler, "gvtablo",
                   tur == Tur::GelirVergisi ? QStringLiteral("Gelir Vergisi Tablosu")
                                            : QStringLiteral("Özel Gider İndirimi GV Tablosu"),
-                  Kolonlar(baglam.oturum.firma.paraonda)),
+                  DilimKolonlari(baglam.oturum.firma.paraonda)),
       tur_(tur),
       ozel_(OzelGvYukle(baglam.oturum.DataPath).deger) {
   Liste().HucreDegisti = [this](int, const QString&) { AltSinirlariGoster(); };
@@ -46,7 +46,7 @@ gvtablo::gvtablo(EkranBaglami& baglam, ParametreDeposu& parametreler, Tur tur)
   else
     YayimlananDugmesi();
   Ac(
-      8, [this] { return Dilimler(); }, [this](const auto& satirlar) { return Sakla(Tablo(satirlar)); });
+      8, [this] { return Dilimler(); }, [this](const auto& satirlar) { return Sakla(TabloYap(satirlar)); });
 }
 
 std::vector<VergiDilimi> gvtablo::Dilimler() const {
@@ -80,13 +80,13 @@ void gvtablo::YayimlananiAl() {
   const auto tablo = OzelGvMevzuati(MevzuatDizini(), secilen.yil, DefterLirasi(Oturumu(), secilen.yil));
   if (!tablo) return Bildir(KuralKusuru(tablo.KusurMetni()));
   const std::string soru = std::to_string(secilen.yil) + " yılının tablosu buradakinin yerine yazılsın mı ?";
-  const bool sorulur = Tablo(Okunan()) != GvTablosu() && Tablo(Okunan()) != *tablo;
+  const bool sorulur = TabloYap(Okunan()) != GvTablosu() && TabloYap(Okunan()) != *tablo;
   if ((!sorulur || Bildirimi().Soru(soru)) && Sakla(*tablo)) ListeyiGoster();
 }
 
 // The bound of a row follows the limit typed above it.
 void gvtablo::AltSinirlariGoster() {
-  const GvTablosu tablo = Tablo(Okunan());
+  const GvTablosu tablo = TabloYap(Okunan());
   for (int satir = 0; satir < Liste().ListCount(); ++satir)
     Liste().TextByName(satir, "alt", Yazi(GvAltSinirMetni(tablo, satir)));
 }

@@ -12,7 +12,7 @@ struct KartYili {
 
 constexpr auto Yil = Uye("kartyili", &KartYili::yil);
 
-std::vector<SatirKolonu<Brd>> Kolonlar(int paraonda) {
+std::vector<SatirKolonu<Brd>> KartKolonlari(int paraonda) {
   std::vector<SatirKolonu<Brd>> kolonlar;
   for (const Kolon<Brd, std::uint8_t>& gun : {brd::ay, brd::ng, brd::ht, brd::ui, brd::rt, brd::eksiksebebi})
     kolonlar.push_back(EtiketliKolon(gun, 42));
@@ -33,7 +33,7 @@ std::vector<SatirKolonu<Brd>> Kolonlar(int paraonda) {
 
 kartxfrm::kartxfrm(EkranBaglami& baglam)
     : KisiSatirlari(baglam, "kartxfrm", QStringLiteral("Personel Aylık Bilgileri"),
-                    Kolonlar(baglam.oturum.firma.paraonda)),
+                    KartKolonlari(baglam.oturum.firma.paraonda)),
       yil_(baglam.oturum.firma.firmayil) {
   AlanlariDiz({{{"Personel",
                  {Alan(brd::kod, "Sicil No", {.anahtar = true}), AdSoyAlani(),

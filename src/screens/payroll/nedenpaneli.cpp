@@ -37,7 +37,7 @@ std::vector<std::string_view> Parcalari(std::string_view alan) {
 }
 
 // An amount as the screens show it, with marks between thousands; whatever else it is stays as it is.
-QString Deger(const std::string& metin) {
+QString DegerYazisi(const std::string& metin) {
   const std::size_t nokta = metin.find('.');
   const auto tutar = nokta == std::string::npos ? std::nullopt : TutarOku(metin);
   return Yazi(tutar ? TutarMetni(*tutar, int(metin.size() - nokta - 1)) : metin).toHtmlEscaped();
@@ -45,9 +45,11 @@ QString Deger(const std::string& metin) {
 
 QString AdimMetni(const IzAdimi& adim) {
   QStringList girdiler;
-  for (const IzGirdi& g : adim.girdiler) girdiler += Yazi(g.ad).toHtmlEscaped() + "&nbsp;<b>" + Deger(g.deger) + "</b>";
+  for (const IzGirdi& g : adim.girdiler)
+    girdiler += Yazi(g.ad).toHtmlEscaped() + "&nbsp;<b>" + DegerYazisi(g.deger) + "</b>";
   return "<p style='margin:2px 0'>" + Yazi(adim.kural).toHtmlEscaped() +
-         (girdiler.isEmpty() ? QString() : "<br>" + girdiler.join(" · ")) + " → <b>" + Deger(adim.sonuc) + "</b></p>";
+         (girdiler.isEmpty() ? QString() : "<br>" + girdiler.join(" · ")) + " → <b>" + DegerYazisi(adim.sonuc) +
+         "</b></p>";
 }
 
 }  // namespace

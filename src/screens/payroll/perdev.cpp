@@ -5,7 +5,7 @@
 namespace belvani {
 namespace {
 
-std::vector<SatirKolonu<Dvr>> Kolonlar(int paraonda) {
+std::vector<SatirKolonu<Dvr>> DevirKolonlari(int paraonda) {
   std::vector<SatirKolonu<Dvr>> kolonlar{EtiketliKolon(dvr::yil, 60, {.grup = 0})};
   for (const Kolon<Dvr, Tutar>& tutar :
        {dvr::gvmatrah, dvr::gvtutar, dvr::issizlik, dvr::ogimatrah, dvr::ogitutar, dvr::ogiodenen})
@@ -17,7 +17,7 @@ std::vector<SatirKolonu<Dvr>> Kolonlar(int paraonda) {
 
 perdev::perdev(EkranBaglami& baglam)
     : KisiSatirlari(baglam, "perdev", QStringLiteral("Personel Devir Bilgileri"),
-                    Kolonlar(baglam.oturum.firma.paraonda)) {
+                    DevirKolonlari(baglam.oturum.firma.paraonda)) {
   AlanlariDiz({{{"Personel", {EtiketliAlan(dvr::kod, {.anahtar = true}), AdSoyAlani()}, 2}}});
   Liste().TercihBoyu(816, 280);
   ListeyiAc(dvr::kod);

@@ -10,13 +10,13 @@ struct Donem {
   std::int16_t yil;
 };
 
-struct Sutun {
+struct PuantajSutunu {
   char tip;
   const char* ad;
   const char* baslik;
   int genislik;
 };
-constexpr Sutun Sutunlar[] = {
+constexpr PuantajSutunu PuantajSutunlari[] = {
     {'a', "kod", "Kod", 90},   {'m', "adsoy", "Adı Soyadı", 220}, {'b', "ucr", "ÜCRETİ", 110},
     {'n', "ng", "N.G.", 56},   {'n', "ht", "H.T.", 56},           {'n', "rt", "R.T.", 56},
     {'n', "ui", "Ü.İ.", 56},   {'n', "ig", "Ü.İ.G.", 60},         {'n', "is", "Ü.İ.S.", 60},
@@ -31,7 +31,7 @@ puantaj::puantaj(EkranBaglami& baglam) : Form(baglam, "puantaj", QStringLiteral(
                   {Uye("yil", &Donem::yil), "Dönem Yıl", {.enCok = 9999}}},
                  2}}});
   auto* liste = new dclist(baglam.bildirim, this);
-  for (const Sutun& s : Sutunlar) liste->CreateNewCaption(s.tip, s.ad, s.baslik, s.genislik);
+  for (const PuantajSutunu& s : PuantajSutunlari) liste->CreateNewCaption(s.tip, s.ad, s.baslik, s.genislik);
   liste->GenisKolon("adsoy");
   liste->setMinimumSize(980, 320);
   Govde()->addWidget(liste, 1);

@@ -20,7 +20,7 @@ const char* KalanAd(const std::string& ad) {
   return adlar.insert(ad).first->c_str();
 }
 
-std::vector<SatirKolonu<DalSatiri>> Kolonlar() {
+std::vector<SatirKolonu<DalSatiri>> AyKolonlari() {
   std::vector<SatirKolonu<DalSatiri>> kolonlar{
       {'b', "no", "No", 36, [](const DalSatiri& d, std::size_t) { return std::to_string(d.no); }},
       {'m', "ack", "Hesap Türü", AdGenisligi, [](const DalSatiri& d, std::size_t) { return d.ack; }}};
@@ -63,7 +63,7 @@ std::vector<DalSatiri> Dallar(const YasalParametreler& yasal) {
 yyasor::yyasor(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ParametreEkrani(baglam, parametreler, "yyasor", QStringLiteral("Yasal Oranlar")),
       liste_(new dclist(baglam.bildirim, this)),
-      tablo_(*liste_, Kolonlar()),
+      tablo_(*liste_, AyKolonlari()),
       uyari_(YaziEkle({}, "hata")) {
   uyari_->setObjectName("donemuyari");
   liste_->setObjectName("liste");

@@ -28,7 +28,7 @@ SatirKolonu<Esco> KodluKolon(const Kolon<Esco, std::uint8_t>& kolon, int genisli
   return {'s', kolon.ad.data(), etiket, genislik, metin, al, 0, 0, secenekler};
 }
 
-std::vector<SatirKolonu<Esco>> Kolonlar() {
+std::vector<SatirKolonu<Esco>> EscoKolonlari() {
   std::vector<SatirKolonu<Esco>> kolonlar{EtiketliKolon(esco::tcno, 110),
                                           EtiketliKolon(esco::adi, 120),
                                           EtiketliKolon(esco::soyadi, 120),
@@ -46,7 +46,7 @@ std::vector<SatirKolonu<Esco>> Kolonlar() {
 }  // namespace
 
 escofrm::escofrm(EkranBaglami& baglam)
-    : KisiSatirlari(baglam, "escofrm", QStringLiteral("Eş ve Çocuk Bilgileri"), Kolonlar()) {
+    : KisiSatirlari(baglam, "escofrm", QStringLiteral("Eş ve Çocuk Bilgileri"), EscoKolonlari()) {
   AlanlariDiz({{{"Personel", {EtiketliAlan(esco::kod, {.anahtar = true}), AdSoyAlani()}, 2}}});
   Liste().GenisKolon("adr");
   Liste().TercihBoyu(1080, 300);

@@ -10,7 +10,7 @@ struct KodunSahibi {
   std::string sskno, adsoyad;
 };
 
-std::vector<AlanGrubu> Gruplar() {
+std::vector<AlanGrubu> KodGruplari() {
   constexpr int adSoyadHarfi = sicil::adi.boyut + 1 + sicil::soyadi.boyut;
   return {{"Personel",
            {{koddegisikligi::eski, "Eski Kod", {.anahtar = true}},
@@ -26,7 +26,7 @@ std::vector<AlanGrubu> Gruplar() {
 }  // namespace
 
 koddeg::koddeg(EkranBaglami& baglam) : PersonelFormu(baglam, "koddeg", QStringLiteral("Personel Kod Değişikliği")) {
-  AlanlariDiz({Gruplar()});
+  AlanlariDiz({KodGruplari()});
   YaziEkle(QStringLiteral("Kart, kimlik, resim ve bordrolar yeni koda geçer."), "soluk");
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Değiştir", .islev = [this] { Degistir(); }}});
   PersonelKomutlari(koddegisikligi::eski);

@@ -7,7 +7,7 @@
 namespace belvani {
 namespace {
 
-std::vector<std::vector<AlanGrubu>> Gruplar() {
+std::vector<std::vector<AlanGrubu>> NufusGruplari() {
   return {{{"Personel", {EtiketliAlan(kimlik::kod, {.anahtar = true}), AdSoyAlani()}, 2},
            {"Kimlik",
             {EtiketliAlan(kimlik::serino), EtiketliAlan(kimlik::tcno, {.harf = 15}),
@@ -32,7 +32,7 @@ std::vector<std::vector<AlanGrubu>> Gruplar() {
 }  // namespace
 
 nufus::nufus(EkranBaglami& baglam) : PersonelFormu(baglam, "nufus", QStringLiteral("Personel Kimlik Bilgileri")) {
-  AlanlariDiz(Gruplar());
+  AlanlariDiz(NufusGruplari());
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }},
             {.komut = FormKomutu::Sil, .dugme = "Sil", .islev = [this] { Sil(); }}});
   PersonelKomutlari(kimlik::kod);

@@ -12,22 +12,23 @@ constexpr double EnCokOdeme = 99'999'999'999.9999;  // five of them stay far ins
 constexpr std::array<const char*, std::size(OdemeKolonlari)> KolonAdlari{"brut", "kesinti", "net", "ozel", "odenen"};
 constexpr std::string_view ToplamAdlari[] = {OdemeToplamEtiketi};
 
-using Kolon = SatirKolonu<OdemeSatiri>;
+using TabloKolonu = SatirKolonu<OdemeSatiri>;
 
-Kolon OdemeKolonu(std::size_t k, int paraonda) {
+TabloKolonu OdemeKolonu(std::size_t k, int paraonda) {
   return UyeKolonuYap<OdemeSatiri>(KolonAdlari[k], OdemeKolonlari[k].data(),
                                    TutarEni, [k](auto& satir) -> auto& { return satir[k]; },
                                    {.enCok = EnCokOdeme, .ondalik = paraonda});
 }
 
 // Not typed, and shown even when it is zero.
-Kolon ToplamKolonu(std::size_t k, int paraonda) {
+TabloKolonu ToplamKolonu(std::size_t k, int paraonda) {
   return {'b', KolonAdlari[k], OdemeKolonlari[k].data(), TutarEni,
           [=](const OdemeSatiri& satir, std::size_t) { return TutarMetni(satir[k], paraonda); }};
 }
 
-std::vector<Kolon> Kolonlar(std::span<const std::string_view> adlar, Kolon (*yap)(std::size_t, int), int paraonda) {
-  std::vector<Kolon> kolonlar{AdKolonu<OdemeSatiri>("Ödemeler", AdEni, adlar)};
+std::vector<TabloKolonu> OdemeTablosuKolonlari(std::span<const std::string_view> adlar,
+                                               TabloKolonu (*yap)(std::size_t, int), int paraonda) {
+  std::vector<TabloKolonu> kolonlar{AdKolonu<OdemeSatiri>("Ödemeler", AdEni, adlar)};
   for (std::size_t k = 0; k < KolonAdlari.size(); ++k) kolonlar.push_back(yap(k, paraonda));
   return kolonlar;
 }
@@ -38,8 +39,8 @@ OdemeTablosu::OdemeTablosu(Bildirim& bildirim, int paraonda, QWidget* ust)
     : QWidget(ust),
       liste_(new dclist(bildirim, this)),
       toplam_(new dclist(bildirim, this)),
-      odemeler_(*liste_, Kolonlar(OdemeSatirlari, OdemeKolonu, paraonda)),
-      toplamlar_(*toplam_, Kolonlar(ToplamAdlari, ToplamKolonu, paraonda)) {
+      odemeler_(*liste_, OdemeTablosuKolonlari(OdemeSatirlari, OdemeKolonu, paraonda)),
+      toplamlar_(*toplam_, OdemeTablosuKolonlari(ToplamAdlari, ToplamKolonu, paraonda)) {
   liste_->setObjectName("odemeler");
   toplam_->setObjectName("toplam");
   liste_->Editable(true);

@@ -18,7 +18,7 @@ struct SirketSecimi {
 };
 constexpr auto SirketAlani = Uye("hedef", &SirketSecimi::sira);
 
-AlanGrubu PersonelGrubu() {
+AlanGrubu GidenPersonelGrubu() {
   return {"Personel",
           {{transferformu::kod, "Personel Kodu", {.anahtar = true}},
            {Uye("sskno", &Kopyalanan::sskno, sicil::sskno.boyut), "S.S.K. Sicil No", {.kapali = true}},
@@ -34,7 +34,7 @@ AlanGrubu HedefGrubu() {
            {transferformu::yeniGiris, "(Yeni Şirkete Giriş Tarihi)", {.kayitDisi = true}}}};
 }
 
-AlanGrubu CikisGrubu() {
+AlanGrubu BuradanCikisGrubu() {
   return {"Buradan Çıkış",
           {{transferformu::cikisYap, "Bu Şirketten Çıkışı Yapılsın", {.kayitDisi = true}},
            {transferformu::ciktar, "Çıkış Tarihi", {.kayitDisi = true}},
@@ -47,7 +47,7 @@ AlanGrubu CikisGrubu() {
 pertrans::pertrans(EkranBaglami& baglam)
     : PersonelFormu(baglam, "pertrans", QStringLiteral("Şirketler Arası Personel Kopyalama")),
       sirketler_(Sirketler(baglam.oturum.DataPath)) {
-  AlanlariDiz({{PersonelGrubu(), HedefGrubu(), CikisGrubu()}});
+  AlanlariDiz({{GidenPersonelGrubu(), HedefGrubu(), BuradanCikisGrubu()}});
   YaziEkle(QStringLiteral("Bordro, aile kayıtları ve resim kopyalanmaz."), "soluk");
   SecenekleriKoy(Denetim(SirketAlani), sirketler_);
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kopyala", .islev = [this] { Kopyala(); }, .ad = "CommandButton1"}});

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int KanunHarfi = 8;
 
-std::vector<AlanGrubu> Gruplar() {
+std::vector<AlanGrubu> KanunGruplari() {
   return {{"Değişecekler",
            {{kanunsecimi::eskiyeGore, "Eski Tabi Olduğu Kanun", {.kayitDisi = true}},
             {kanunsecimi::eski,
@@ -25,7 +25,7 @@ std::vector<AlanGrubu> Gruplar() {
 
 tkanfrm::tkanfrm(EkranBaglami& baglam)
     : Form(baglam, "tkanfrm", QStringLiteral("Toplu Kanun değiştirme")), liste_(new dclist(baglam.bildirim, this)) {
-  AlanlariDiz({Gruplar()});
+  AlanlariDiz({KanunGruplari()});
   ListeyiKur();
   sayilar_ = YaziEkle({}, "soluk");
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Değiştir", .islev = [this] { Degistir(); }},

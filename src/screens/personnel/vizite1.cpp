@@ -21,7 +21,7 @@ SatirKolonu<ViziteAyi> YilKolonu() {
   return kolon;
 }
 
-std::vector<SatirKolonu<ViziteAyi>> Kolonlar(int paraonda) {
+std::vector<SatirKolonu<ViziteAyi>> AyKolonlari(int paraonda) {
   const KolonEki tutar{.enCok = EnCokTutar, .ondalik = paraonda};
   return {YilKolonu(),
           UyeKolonu("ay", "Ay", 50, &ViziteAyi::ay, {.enCok = EnCokAy}),
@@ -32,7 +32,7 @@ std::vector<SatirKolonu<ViziteAyi>> Kolonlar(int paraonda) {
           UyeKolonu("izin", "Ü.İ.G.", 70, &ViziteAyi::izin, {.enCok = EnCokIzin})};
 }
 
-AlanGrubu KimlikGrubu() {
+AlanGrubu ViziteKimligi() {
   return {"Kimlik",
           {{Uye("dogtar", &ViziteFormu::dogtar), "Doğum Tarihi"},
            {Uye("tcno", &ViziteFormu::tcno, kimlik::tcno.boyut), "T.C. Kimlik No"}}};
@@ -43,10 +43,10 @@ AlanGrubu KimlikGrubu() {
 vizite1::vizite1(EkranBaglami& baglam)
     : ViziteEkrani(baglam, "vizite1", QStringLiteral("Sigortalıya Ait Vizite Kağıdı"), ViziteTuru::Sigortali),
       liste_(new dclist(baglam.bildirim, this)),
-      tablo_(*liste_, Kolonlar(baglam.oturum.firma.paraonda)) {
+      tablo_(*liste_, AyKolonlari(baglam.oturum.firma.paraonda)) {
   AlanGrubu vizite = TarihGrubu("Düzenleme Tarihi", "Vizite Tarihi", false);
   vizite.alanlar.push_back({Uye("saati", &ViziteFormu::saat, ViziteFormu::SaatHarfi), "Saati"});
-  AlanlariDiz({{KisiGrubu()}, {vizite}, {KimlikGrubu()}});
+  AlanlariDiz({{KisiGrubu()}, {vizite}, {ViziteKimligi()}});
   liste_->setObjectName("dclist1");
   liste_->Model().KolonAyari(0).grup = 0;
   liste_->Editable(true);

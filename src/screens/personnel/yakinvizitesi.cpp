@@ -17,7 +17,7 @@ struct GunAlanlari {
 
 constexpr const char* GunAdlari[] = {"gun1", "gun2", "gun3", "gun4",  "gun5",  "gun6",
                                      "gun7", "gun8", "gun9", "gun10", "gun11", "gun12"};
-constexpr int EnCokGun = 999;  // of several records of a month together
+constexpr int EnCokToplamGun = 999;  // of several records of a month together
 constexpr auto Yakinlik = Uye("yakinlik", &ViziteYakini::yakinlik);
 constexpr auto ToplamAlani = Uye("toplam", &GunAlanlari::toplam);
 
@@ -62,10 +62,10 @@ QWidget* YakinVizitesi::GunleriYap() {
   izgara->setVerticalSpacing(6);
   for (int i = 0; i < int(ayAdlari_.size()); ++i) {
     const auto sira = std::size_t(i);
-    AlanDenetimi& gun =
-        DenetimEkle(DiziAlani<GunAlanlari>(GunAdlari[i], &GunAlanlari::gunler, sira,
-                                           (std::to_string(i + 1) + ". Ay").c_str(), {.enCok = EnCokGun, .harf = 5}),
-                    kutu);
+    AlanDenetimi& gun = DenetimEkle(
+        DiziAlani<GunAlanlari>(GunAdlari[i], &GunAlanlari::gunler, sira, (std::to_string(i + 1) + ". Ay").c_str(),
+                               {.enCok = EnCokToplamGun, .harf = 5}),
+        kutu);
     ayAdlari_[sira] = new QLabel(kutu);
     ayAdlari_[sira]->setBuddy(gun.Odak());
     ayAdlari_[sira]->setMinimumWidth(ayAdlari_[sira]->fontMetrics().horizontalAdvance("2009/AĞUSTOS "));
@@ -83,7 +83,7 @@ void YakinVizitesi::AylariGoster(const ViziteAylari& aylar, bool) {
   aylar_ = aylar;
   GunAlanlari alanlar{.toplam = Topla(aylar).gun};
   for (std::size_t i = 0; i < aylar.size(); ++i) {
-    alanlar.gunler[i] = std::int16_t(std::min(aylar[i].gun, EnCokGun));
+    alanlar.gunler[i] = std::int16_t(std::min(aylar[i].gun, EnCokToplamGun));
     ayAdlari_[i]->setText(Yazi(aylar[i].Adi()));
   }
   Yukle(alanlar);

@@ -5,7 +5,7 @@
 namespace belvani {
 namespace {
 
-AlanSutunlari Alanlar() {
+AlanSutunlari OzlukRaporuAlanlari() {
   static const auto adlar = SunulanAdlar(OzlukAlanlari());
   return {
       {{"Rapor",
@@ -33,7 +33,7 @@ rap1::rap1(EkranBaglami& baglam)
                    {"uzunluk", "Uzunluk", 70, 'b', [](const OzlukKolonu& k) { return std::to_string(k.en); }},
                    {"baslangic", "Başlangıç", 110, 'm', [](const OzlukKolonu& k) { return k.baslangic; }},
                    {"bitis", "Bitiş", 110, 'm', [](const OzlukKolonu& k) { return k.bitis; }}}) {
-  Ac(Alanlar());
+  Ac(OzlukRaporuAlanlari());
 }
 
 std::vector<std::string> rap1::Raporlar() const {

@@ -28,7 +28,7 @@ AlanGrubu KisiGrubu() {
   return grup;
 }
 
-AlanSutunlari Alanlar() {
+AlanSutunlari BordroRaporuAlanlari() {
   static const auto adlar = SunulanAdlar(BordroAlanlari());
   return {
       {{"Rapor",
@@ -52,7 +52,7 @@ rap2::rap2(EkranBaglami& baglam)
                    {"en", "En", 50, 'b', [](const BordroKolonu& k) { return std::to_string(k.en); }},
                    {"onda", "O.", 40, 'b', [](const BordroKolonu& k) { return std::to_string(k.ondalik); }},
                    {"topal", "T.", 40, 'm', [](const BordroKolonu& k) { return k.toplanir ? "E" : ""; }}}) {
-  Ac(Alanlar());
+  Ac(BordroRaporuAlanlari());
   const int yil = Oturumu().firma.firmayil;
   Yukle(BordroRaporuSecimi{.ilkYil = yil, .sonYil = yil});
   Yukle(DefterSecim{});

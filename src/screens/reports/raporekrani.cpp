@@ -67,7 +67,9 @@ void RaporEkrani<Kolon>::Ac(const AlanSutunlari& alanlar) {
         return std::ranges::any_of(Raporlar(), [&](const auto& r) { return TurkceEsit(r, ad); });
       });
   AlanDegisti = [this](AlanDenetimi& alan) { AlanSecildi(alan); };
-  Yukle(Baslayan(Kolon{.alan = IlkAlan()}));
+  Kolon ilk;
+  ilk.alan = IlkAlan();
+  Yukle(Baslayan(ilk));
 }
 
 // Above the list, not in the row of commands: they are about the design.

@@ -5,9 +5,9 @@
 
 #include "bildirim.h"
 #include "core/dosya.h"
+#include "core/sinamalar.h"
 #include "core/store/depodenetimi.h"
 #include "core/tables/tablolar.h"
-#include "core/tablo.h"
 #include "core/turkce.h"
 #include "gecici.h"
 #include "surec.h"
@@ -18,8 +18,8 @@ namespace {
 
 using test::GeciciDizin;
 using test::Iletiler;
+using test::Sinamalar;
 using test::Surec;
-using test::Tablo;
 
 // A store that was made, opened once, and closed.
 struct YeniDepo {
@@ -88,10 +88,11 @@ TEST(Depo, SecondOpeningAddsNothing) {
 }
 
 TEST(Depo, LawFieldOnlyInAStoreOfThisVersion) {
-  for (const auto& [firma, gelir] : Tablo<std::string, bool>{{"insert into firma (versiyon) values (2003.7)", true},
-                                                             {"insert into firma (versiyon) values (2003.6)", false},
-                                                             {"insert into firma (versiyon) values (null)", false},
-                                                             {"", false}}) {
+  for (const auto& [firma, gelir] :
+       Sinamalar<std::string, bool>{{"insert into firma (versiyon) values (2003.7)", true},
+                                    {"insert into firma (versiyon) values (2003.6)", false},
+                                    {"insert into firma (versiyon) values (null)", false},
+                                    {"", false}}) {
     YeniDepo d;
     d.Sql("alter table brd drop column brdkanun;" + firma);
     ASSERT_TRUE(d.Ac()) << d.depo.db.SonHata();
@@ -101,12 +102,13 @@ TEST(Depo, LawFieldOnlyInAStoreOfThisVersion) {
 
 TEST(Depo, LostTables) {
   const std::string sicil = "Uyarı: Sicil SQL Tablosu Açılamadı";
-  for (const auto& [tablo, ileti] : Tablo<std::string, std::string>{{"peruser", "Uyarı: PErUser SQL Tablosu Açılamadı"},
-                                                                    {"firma", "Uyarı: Firma SQL Tablosu Açılamadı"},
-                                                                    {"sicil", sicil},
-                                                                    {"foto", sicil},
-                                                                    {"kimlik", sicil},
-                                                                    {"brd", sicil}}) {
+  for (const auto& [tablo, ileti] :
+       Sinamalar<std::string, std::string>{{"peruser", "Uyarı: PErUser SQL Tablosu Açılamadı"},
+                                           {"firma", "Uyarı: Firma SQL Tablosu Açılamadı"},
+                                           {"sicil", sicil},
+                                           {"foto", sicil},
+                                           {"kimlik", sicil},
+                                           {"brd", sicil}}) {
     YeniDepo d;
     d.Sql("drop table " + tablo);
     EXPECT_FALSE(d.Ac());
@@ -117,15 +119,15 @@ TEST(Depo, LostTables) {
 TEST(Depo, LateTablesGrowBackOrTellWhyNot) {
   YeniDepo d;
   for (const auto& [tablo, indeks, ad] :
-       Tablo<std::string, std::string, std::string>{{"dvr", "dvr_yilkod", "Devir SQL"},
-                                                    {"esco", "esco_kod", "Eş ve Çocuk SQL"},
-                                                    {"muaf", "muaf_no", "Muafiyetler"},
-                                                    {"arac", "arac_kod", "Aracı Bilgileri"},
-                                                    {"indir", "indir_no", "İndirimler"},
-                                                    {"kaztan", "kaztan_grup", "Kazançlar"},
-                                                    {"entpar", "entpar_grupno", "Entegrasyon Parametreleri"},
-                                                    {"sendika", "sendika_kod", "Sendika Parametreleri"},
-                                                    {"cari", "cari_kod", "Cari Modul"}}) {
+       Sinamalar<std::string, std::string, std::string>{{"dvr", "dvr_yilkod", "Devir SQL"},
+                                                        {"esco", "esco_kod", "Eş ve Çocuk SQL"},
+                                                        {"muaf", "muaf_no", "Muafiyetler"},
+                                                        {"arac", "arac_kod", "Aracı Bilgileri"},
+                                                        {"indir", "indir_no", "İndirimler"},
+                                                        {"kaztan", "kaztan_grup", "Kazançlar"},
+                                                        {"entpar", "entpar_grupno", "Entegrasyon Parametreleri"},
+                                                        {"sendika", "sendika_kod", "Sendika Parametreleri"},
+                                                        {"cari", "cari_kod", "Cari Modul"}}) {
     d.Sql("drop table " + tablo);
     EXPECT_TRUE(d.Ac() && d.depo.db.TabloVarMi(tablo)) << tablo;
     EXPECT_EQ(d.b.Al(), Iletiler{}) << tablo;

@@ -6,13 +6,13 @@
 #include "core/session/muhasebecibilgi.h"
 #include "core/session/ornekoturum.h"
 #include "core/session/yapiayari.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 
 namespace belvani {
 namespace {
 
 using test::Iletiler;
-using test::Tablo;
+using test::Sinamalar;
 
 struct FirmaBilgi : test::OrnekOturum {
   Yazim<Firma> Kaydet(const Firma& f) { return FirmaKaydet(o, {.ilk = FirmaDuzenle(o).ilk, .simdi = f}); }
@@ -20,7 +20,7 @@ struct FirmaBilgi : test::OrnekOturum {
 
 TEST(KanunMetni, LastFiveDigits) {
   // clang-format off
-  for (const auto& [metin, kanun] : Tablo<const char*, const char*>{
+  for (const auto& [metin, kanun] : Sinamalar<const char*, const char*>{
            {"5510", "05510"}, {"506", "00506"}, {"05084", "05084"}, {" 5510 ", "05510"}, {"1234567", "34567"}, {"", "00000"},
            {"-5510", "00000"}, {"55.5", "00000"}, {"5510a", "00000"}})
     // clang-format on

@@ -7,12 +7,12 @@
 #include "core/dosya.h"
 #include "core/ini.h"
 #include "core/session/ornekoturum.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 
 namespace belvani {
 namespace {
 
-using test::Tablo;
+using test::Sinamalar;
 using GorunumTest = test::OrnekOturum;
 
 // Relative luminance and contrast as WCAG 2.1 defines them.
@@ -55,8 +55,8 @@ TEST_F(GorunumTest, ColourTable) {
   const std::string kayit =
       "\x01\x02\x03\xF4\xFF\xFF\xFF\xFF" + std::string(156, '\0') + std::string("\x05\0\0\x80", 4);
   const Uc tam{0xF4030201, 0xFFFFFFFF, 0x80000005};
-  for (const auto& [icerik, renkler] :
-       Tablo<std::string, Uc>{{kayit, tam}, {kayit + "fazla", tam}, {kayit.substr(0, 6), {0xF4030201, 0xFFFF, 0}}}) {
+  for (const auto& [icerik, renkler] : Sinamalar<std::string, Uc>{
+           {kayit, tam}, {kayit + "fazla", tam}, {kayit.substr(0, 6), {0xF4030201, 0xFFFF, 0}}}) {
     ASSERT_TRUE(DosyaYaz(yol, icerik));
     EXPECT_EQ(ilkIkiSon(), renkler);
     EXPECT_EQ(DosyaOku(yol), icerik);
@@ -103,7 +103,7 @@ TEST_F(GorunumTest, WorkstationFile) {
   EXPECT_EQ(GorunumOku(o), a);
   EXPECT_TRUE(sirket.Oku("masa.ofis.dat")->starts_with("[gorunum]\r\nbackcolor=&H00112233&\r\nbackresimvarmi=0"));
   // What cannot be reads as the default.
-  for (const auto& [anahtar, deger] : Tablo<const char*, const char*>{
+  for (const auto& [anahtar, deger] : Sinamalar<const char*, const char*>{
            {"imagepath", "image/../../etc"}, {"labelfontsize", "-3"}, {"backcolor", "mavi"}})
     ASSERT_TRUE(IniYaz("gorunum", anahtar, deger, IstasyonDosyasi(o)));
   EXPECT_EQ(GorunumOku(o).imagepath + GorunumOku(o).backcolor, "image/soft/&H00ECFAE4&");

@@ -3,12 +3,12 @@
 
 #include "core/dosya.h"
 #include "core/session/ornekoturum.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 
 namespace belvani {
 namespace {
 
-using test::Tablo;
+using test::Sinamalar;
 using Liste = std::vector<Kisayol>;
 
 struct KisayolTest : test::OrnekOturum {
@@ -16,7 +16,7 @@ struct KisayolTest : test::OrnekOturum {
   Liste Oku() { return *KisayollariOku(o); }
 };
 
-std::string Kez(int kez, const char* harf) {
+std::string KezGecer(int kez, const char* harf) {
   std::string s;
   for (; kez > 0; --kez) s += harf;
   return s;
@@ -26,7 +26,7 @@ TEST_F(KisayolTest, FirstRunThenKeptInOrder) {
   for (const auto& k : Oku()) EXPECT_EQ(KisayolProgramlari.at(k.program), k.ad);
   EXPECT_EQ(Oku(), IlkKisayollar());
   const Liste liste{{"İşe Davet ğüşıöç", 40, "ikon/davet.svg", "--ay 7"},
-                    {Kez(40, "Ş"), 0, Kez(48, "ı"), Kez(40, "İ")},
+                    {KezGecer(40, "Ş"), 0, KezGecer(48, "ı"), KezGecer(40, "İ")},
                     {"Bordro", 50, "", ""}};
   ASSERT_TRUE(KisayollariYaz(o, liste));
   EXPECT_EQ(std::filesystem::file_size(d.Yol() + "tolu.icn"), 3 * 129u);
@@ -44,9 +44,9 @@ TEST_F(KisayolTest, WhatDoesNotFitIsRefusedWhole) {
   const Kisayol iyi{"İyi", 1, "", ""};
   ASSERT_TRUE(KisayollariYaz(o, {iyi}));
   // clang-format off
-  for (const auto& [k, kusur] : Tablo<Kisayol, std::string>{
+  for (const auto& [k, kusur] : Sinamalar<Kisayol, std::string>{
            {{" ", 1, "", ""}, "Kısa yolun adı boş olamaz"}, {{"x", 51, "", ""}, "Kısa yolun programı seçilmemiş: x"},
-           {{Kez(41, "ş"), 1, "", ""}, "Kısa Yol Adı: en çok 40 harf olabilir"},
+           {{KezGecer(41, "ş"), 1, "", ""}, "Kısa Yol Adı: en çok 40 harf olabilir"},
            {{"x\ny", 1, "", "日本"}, "Kısa Yol Adı: kullanılamayan bir harf var"},
            {{"x", 1, "", "日本"}, "Parametre: kullanılamayan bir harf var"}})
     // clang-format on
@@ -64,7 +64,7 @@ TEST_F(KisayolTest, BrokenFile) {
     return s;
   };
   for (const auto& icerik : {saglam.substr(1), saglam + "x", boz(40, 51), boz(0, '\n'), boz(129 + 39, 'x'),
-                             Kez(51, saglam.c_str()) + std::string(20'000, '\0')}) {
+                             KezGecer(51, saglam.c_str()) + std::string(20'000, '\0')}) {
     ASSERT_TRUE(DosyaYaz(d.Yol() + "tolu.icn", icerik));
     EXPECT_FALSE(KisayollariOku(o) || KisayolSil(o, 0));
     EXPECT_EQ(DosyaOku(d.Yol() + "tolu.icn"), icerik);

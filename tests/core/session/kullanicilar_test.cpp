@@ -2,14 +2,14 @@
 #include "core/session/kullanicilar.h"
 
 #include "core/session/ornekoturum.h"
+#include "core/sinamalar.h"
 #include "core/store/engel.h"
-#include "core/tablo.h"
 
 namespace belvani {
 namespace {
 
 using test::Iletiler;
-using test::Tablo;
+using test::Sinamalar;
 using KullanicilarTest = test::OrnekOturum;
 
 TEST_F(KullanicilarTest, Saving) {
@@ -18,7 +18,7 @@ TEST_F(KullanicilarTest, Saving) {
   const std::string kayit = "KAYIT";
   // {name, old, new, confirmation, the fault at its field; KAYIT: saved, empty: passed over in silence}
   // clang-format off
-  for (const auto& [ad, eski, yeni, onay, sonuc] : Tablo<M, M, M, M, std::string>{
+  for (const auto& [ad, eski, yeni, onay, sonuc] : Sinamalar<M, M, M, M, std::string>{
            {"", "gizli'", "a", "a", "ad: Kullanıcı Adı Yok"},
            {"  ", "", "a", "a", "ad: Kullanıcı Adı Yok"},
            {"ayşe", "Gizli'", "a", "a", "eski: Eski Şifre Hatalı"},

@@ -10,11 +10,11 @@
 #include "core/saat.h"
 #include "core/session/ornekoturum.h"
 #include "core/session/sirket.h"
+#include "core/sinamalar.h"
 #include "core/store/satirlar.h"
 #include "core/sunucuadresi.h"
 #include "core/tables/firma.h"
 #include "core/tables/peruser.h"
-#include "core/tablo.h"
 #include "surec.h"
 
 namespace belvani {
@@ -23,7 +23,7 @@ namespace {
 using namespace testing;
 using test::Iletiler;
 using test::OrtamKoy;
-using test::Tablo;
+using test::Sinamalar;
 using I = std::int64_t;
 
 using OturumTest = test::OrnekOturum;
@@ -48,7 +48,7 @@ TEST_F(OturumTest, FirstRunThenRecordedPaths) {
   EXPECT_TRUE(o.ResimKullan && o.ListeSirasi == 5);
   // {command line, data path of this run}; the record does not change.
   for (const auto& [komut, yol] :
-       Tablo<std::string, std::string>{{"", data}, {"/baska yer", "/baska yer/"}, {"/x/", "/x/"}}) {
+       Sinamalar<std::string, std::string>{{"", data}, {"/baska yer", "/baska yer/"}, {"/x/", "/x/"}}) {
     ASSERT_TRUE(Baslat(o, "/hic/onemli/degil", komut, b));
     EXPECT_EQ(o.PrgPath + "|" + o.DataPath, prg + "/|" + yol);
     EXPECT_EQ(MakineAyari("DataPath"), data);
@@ -106,10 +106,10 @@ TEST_F(OturumTest, AnAddressThatLeadsNowhereEndsTheStart) {
   EXPECT_FALSE(Baslat(o, d.Yol(), "postgresql://s/belvani", b));
   EXPECT_THAT(b.Al(), ElementsAre(AllOf(StartsWith("Soru: s/belvani: "), HasSubstr("\nYeniden Denensin mi ?"))));
   for (const auto& [adres, neden] :
-       Tablo<const char*, const char*>{{"postgresql://ayse:gizli@s/b", "şifre bulunamaz"},
-                                       {"postgresql://s/b?password=gizli", "şifre bulunamaz"},
-                                       {"postgresql://s", "veritabanının adı"},
-                                       {"postgresql://s/b#ORNEK", "bir şirketin adresi"}}) {
+       Sinamalar<const char*, const char*>{{"postgresql://ayse:gizli@s/b", "şifre bulunamaz"},
+                                           {"postgresql://s/b?password=gizli", "şifre bulunamaz"},
+                                           {"postgresql://s", "veritabanının adı"},
+                                           {"postgresql://s/b#ORNEK", "bir şirketin adresi"}}) {
     EXPECT_FALSE(Baslat(o, d.Yol(), adres, b)) << adres;
     EXPECT_THAT(b.Al(), ElementsAre(AllOf(StartsWith("Uyarı: "), HasSubstr(neden), Not(HasSubstr("gizli"))))) << adres;
   }
@@ -165,12 +165,12 @@ TEST_F(OturumTest, FirstCompanyRecordFieldByField) {
 TEST_F(OturumTest, NewCompanyRefusedLeavesNoTrace) {
   using Metin = const char*;
   for (const auto& [ad, kod, sifre, metin] :
-       Tablo<Metin, Metin, Metin, Metin>{{"..", "a", "b", "Şirket adında kullanılamayan bir harf var"},
-                                         {"yeni", "", "b", "Kullanıcı adı boş olamaz"},
-                                         {"yeni", " \t", "b", "Kullanıcı adı boş olamaz"},
-                                         {"yeni", "çokuzunad", "b", "Kullanıcı adı: en çok 8 harf olabilir"},
-                                         {"yeni", "\xFF", "b", "Kullanıcı adı: okunamayan harf var"},
-                                         {"yeni", "a", "123456789", "Şifre: en çok 8 harf olabilir"}}) {
+       Sinamalar<Metin, Metin, Metin, Metin>{{"..", "a", "b", "Şirket adında kullanılamayan bir harf var"},
+                                             {"yeni", "", "b", "Kullanıcı adı boş olamaz"},
+                                             {"yeni", " \t", "b", "Kullanıcı adı boş olamaz"},
+                                             {"yeni", "çokuzunad", "b", "Kullanıcı adı: en çok 8 harf olabilir"},
+                                             {"yeni", "\xFF", "b", "Kullanıcı adı: okunamayan harf var"},
+                                             {"yeni", "a", "123456789", "Şifre: en çok 8 harf olabilir"}}) {
     const auto sonuc = SirketOlustur(o, ad, kod, sifre, b);
     ASSERT_FALSE(sonuc) << metin;
     EXPECT_TRUE(sonuc.KusurMetni().starts_with(metin)) << sonuc.KusurMetni();
@@ -232,9 +232,9 @@ TEST_F(OturumTest, CompanyThatCannotBeOpened) {
   Kur();
   Sql("drop table peruser");
   const std::string acilamadi = "Database Açılamadı: " + o.DataPath;
-  Tablo<const char*, std::string> durumlar{{"yok", "Şirket Bulunamadı: YOK"},
-                                           {"../deneme", "Şirket adında kullanılamayan bir harf var"},
-                                           {"deneme", acilamadi + "DENEME/tolu.dat\nTablo yok: peruser"}};
+  Sinamalar<const char*, std::string> durumlar{{"yok", "Şirket Bulunamadı: YOK"},
+                                               {"../deneme", "Şirket adında kullanılamayan bir harf var"},
+                                               {"deneme", acilamadi + "DENEME/tolu.dat\nTablo yok: peruser"}};
   if (!test::SunucudaMi()) {
     ASSERT_TRUE(DizinYarat(o.DataPath + "BOS") && DizinYarat(o.DataPath + "COP/tolu.dat"));
     for (const char* ad : {"BOS", "COP"})
@@ -259,7 +259,7 @@ TEST_F(OturumTest, Login) {
   Sql("update firma set unvan = 'Ünvan', firmayil = 2008, firmaay = 10, paraonda = 0, ondeger = 'Memur'");
   // {company, user, password, true: lets in}
   // clang-format off
-  const Tablo<const char*, const char*, const char*, bool> durumlar{
+  const Sinamalar<const char*, const char*, const char*, bool> durumlar{
       {"deneme", "Ayşe", "gizli'", true}, {" Deneme ", "AYŞE", "gizli'", true}, {"deneme", "Ayşe", "Gizli'", false},
       {"deneme", "Ayşe", "", false}, {"deneme", "Ayse", "gizli'", false}, {"deneme", "", "", false}, {"deneme", "bos", "", true},
       {"deneme", "null", "", true}, {"deneme", "null", "0", false}, {"deneme", "bir", "1", false}, {"deneme", "bır", "1", true},

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/dosya.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "gecici.h"
 #include "veriyeri.h"
 
@@ -12,7 +12,7 @@ namespace belvani {
 namespace {
 
 using test::GeciciDizin;
-using test::Tablo;
+using test::Sinamalar;
 
 std::string Kez(const char* harf, int kez) {
   std::string s;
@@ -21,14 +21,14 @@ std::string Kez(const char* harf, int kez) {
 }
 
 TEST(SirketAdi, KeptInUpperCase) {
-  for (const auto& [metin, ad] : Tablo<std::string, std::string>{{"izmir", "İZMİR"},
-                                                                 {"ISPARTA", "ISPARTA"},
-                                                                 {"  Şişli ğüçö ", "ŞİŞLİ ĞÜÇÖ"},
-                                                                 {"a.b", "A.B"},
-                                                                 {"S\u0327I\u0307R\u0049\u0307N", "ŞİRİN"},
-                                                                 {"concept", "CONCEPT"},
-                                                                 {"O'Neil; --", "O'NEİL; --"},
-                                                                 {Kez("ş", 64), Kez("Ş", 64)}}) {
+  for (const auto& [metin, ad] : Sinamalar<std::string, std::string>{{"izmir", "İZMİR"},
+                                                                     {"ISPARTA", "ISPARTA"},
+                                                                     {"  Şişli ğüçö ", "ŞİŞLİ ĞÜÇÖ"},
+                                                                     {"a.b", "A.B"},
+                                                                     {"S\u0327I\u0307R\u0049\u0307N", "ŞİRİN"},
+                                                                     {"concept", "CONCEPT"},
+                                                                     {"O'Neil; --", "O'NEİL; --"},
+                                                                     {Kez("ş", 64), Kez("Ş", 64)}}) {
     const auto sonuc = SirketAdi(metin);
     ASSERT_TRUE(sonuc) << metin << sonuc.KusurMetni();
     EXPECT_EQ(*sonuc, ad);
@@ -42,7 +42,7 @@ TEST(SirketAdi, Refused) {
                     harf =
                         "Şirket adında kullanılamayan bir harf var: nokta ile başlayamaz, / \\ : * ? \" < > | içeremez";
   // clang-format off
-  const Tablo<std::string, std::vector<std::string>> durumlar{
+  const Sinamalar<std::string, std::vector<std::string>> durumlar{
       {bos, {"", "  "}}, {nokta, {"A.", "A.. ", "A. ."}},
       {gorunmez, {"A\u200BB", "\uFEFFA", "A\u202E", "A\u00ADB", "A\u00A0B", "A\u2028", "A\u0085", "\u3164"}}, {uzun, {std::string(65, 'a'), Kez("ş", 65), Kez("😀", 51), std::string(100'000, 'a')}},
       {harf, {".", "..", "../A", "A/B", "/", "/etc", "A\\B", "..\\A", "C:", "A*", "A?", "\"A\"", "<A>", "A|B", ".gizli", "A\nB",
@@ -69,14 +69,14 @@ TEST(SirketDizini, FoundInAnyTurkishCase) {
   ASSERT_TRUE(test::SunucudaMi() || DizinYarat(d.Yer() + ".gizli"));
   EXPECT_EQ(Sirketler(d.Yer()), (std::vector<std::string>{"ÇORUM", "Isparta", "izmir", "Samsun", "Şile"}));
   EXPECT_TRUE(Sirketler(d.Yer() + "yok/").empty() && Sirketler(d.Yer() + "DOSYA").empty());
-  for (const auto& [ad, dizin] : Tablo<const char*, const char*>{
+  for (const auto& [ad, dizin] : Sinamalar<const char*, const char*>{
            {"İZMİR", "izmir"}, {" İzmir ", "izmir"}, {"ısparta", "Isparta"}, {"çorum", "ÇORUM"}}) {
     const auto sonuc = SirketDizini(d.Yer(), ad);
     ASSERT_TRUE(sonuc) << ad;
     EXPECT_EQ(*sonuc, d.Yer() + dizin + "/");
   }
   for (const auto& [ad, buyuk] :
-       Tablo<const char*, std::string>{{"isparta", "İSPARTA"}, {"IZMIR", "IZMIR"}, {"dosya", "DOSYA"}})
+       Sinamalar<const char*, std::string>{{"isparta", "İSPARTA"}, {"IZMIR", "IZMIR"}, {"dosya", "DOSYA"}})
     EXPECT_EQ(SirketDizini(d.Yer(), ad).KusurMetni(), "Şirket Bulunamadı: " + buyuk);
 }
 

@@ -3,7 +3,7 @@
 
 #include "core/dosya.h"
 #include "core/session/ornekoturum.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "surec.h"
 
 namespace belvani {
@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::Iletiler;
-using test::Tablo;
+using test::Sinamalar;
 using Adlar = std::vector<std::string>;
 
 struct SirketListesiTest : test::OrnekOturum {

@@ -63,9 +63,9 @@ TEST_F(SirketTasima, ThereAndBackNothingIsLost) {
     EXPECT_EQ(DepoFarki(*once, *sonra), "");
     EXPECT_EQ(DepoFarki(*sonra, *once), "");
     // A number that was given to a record that is gone is not given again.
-    Brd b;
-    b.kod = "A1";
-    EXPECT_GT(KayitYazici<Brd>(*sonra).Ekle(b), 3);
+    Brd yeni;
+    yeni.kod = "A1";
+    EXPECT_GT(KayitYazici<Brd>(*sonra).Ekle(yeni), 3);
   }
   EXPECT_EQ(VeriYolu(ikinci).Alt("DENEME").Oku("sablon.dat"), Veri().Alt("DENEME").Oku("sablon.dat"));
   ASSERT_TRUE(SirketAc(o, "DENEME", b));

@@ -8,17 +8,17 @@
 #include "core/session/sirket.h"
 #include "core/session/sirketyedegi.h"
 #include "core/session/yedektendon.h"
+#include "core/sinamalar.h"
 #include "core/store/depodenetimi.h"
 #include "core/store/engel.h"
 #include "core/store/satirlar.h"
 #include "core/tables/tablolar.h"
-#include "core/tablo.h"
 
 namespace belvani {
 namespace {
 
 using test::Iletiler;
-using test::Tablo;
+using test::Sinamalar;
 
 const AdimIsaretleri Hepsi{true, true, true, true, true, true, true};
 const Tutar Taban(444.15);
@@ -52,7 +52,7 @@ struct Yukseltme : test::OrnekOturum {
 
 TEST(AcikAdimlar, ThoseTheStoreHasNotReached) {
   // {version of the store, first open step}
-  for (const auto& [versiyon, ilk] : Tablo<double, std::size_t>{
+  for (const auto& [versiyon, ilk] : Sinamalar<double, std::size_t>{
            {0, 0}, {1, 0}, {2003, 0}, {2003.1, 1}, {2003.15, 1}, {2003.4, 4}, {2003.6, 6}, {2003.7, 7}, {2004, 7}}) {
     const auto acik = AcikAdimlar(Tek(versiyon));
     for (std::size_t i = 0; i < AdimSayisi; ++i) EXPECT_EQ(acik[i], i >= ilk) << versiyon << " " << i;
@@ -130,10 +130,10 @@ TEST_F(Yukseltme, HalfStoresNameTheStepThatIsMissing) {
     Sql("update firma set versiyon = 2003.7");
   }
   // Added, and never filled.
-  for (const auto& [sql, adim] : Tablo<std::string, std::size_t>{{"update brd set ogv = null", 0},
-                                                                 {"update brd set katki = null", 1},
-                                                                 {"update firma set tersfirma = null", 2},
-                                                                 {"update sicil set agi = null", 6}}) {
+  for (const auto& [sql, adim] : Sinamalar<std::string, std::size_t>{{"update brd set ogv = null", 0},
+                                                                     {"update brd set katki = null", 1},
+                                                                     {"update firma set tersfirma = null", 2},
+                                                                     {"update sicil set agi = null", 6}}) {
     Sql(sql);
     EXPECT_EQ(Eksik(), std::vector<std::size_t>{adim}) << sql;
     EXPECT_THAT(YapiKontrol(o).KusurMetni(), testing::HasSubstr("alanları doldurulmamış")) << sql;

@@ -5,13 +5,13 @@
 
 #include "core/dosya.h"
 #include "core/ortam.h"
+#include "core/sinamalar.h"
 #include "core/store/ornekdepo.h"
-#include "core/tablo.h"
 
 namespace belvani {
 namespace {
 
-using test::Tablo;
+using test::Sinamalar;
 
 TEST(DosyaSistemi, TheDeepestMountHolds) {
   const std::string tablo =
@@ -22,13 +22,13 @@ TEST(DosyaSistemi, TheDeepestMountHolds) {
       "33 22 0:43 / /mnt/ust rw - ext4 /dev/sdb1 rw\n"
       "34 22 0:44 / /mnt/ust rw - nfs4 sunucu:/ rw\n"
       "bozuk satır\n";
-  for (const auto& [yol, tur] : Tablo<const char*, const char*>{{"/home/a/tolu.dat", "ext4"},
-                                                                {"/srv/veri", "cifs"},
-                                                                {"/srv/veri/ŞİLE/tolu.dat", "cifs"},
-                                                                {"/srv/veriler/tolu.dat", "ext4"},
-                                                                {"/srv/veri/yerel/tolu.dat", "tmpfs"},
-                                                                {"/mnt/iki ayr\\i/x", "fuse.sshfs"},
-                                                                {"/mnt/ust/x", "nfs4"}})
+  for (const auto& [yol, tur] : Sinamalar<const char*, const char*>{{"/home/a/tolu.dat", "ext4"},
+                                                                    {"/srv/veri", "cifs"},
+                                                                    {"/srv/veri/ŞİLE/tolu.dat", "cifs"},
+                                                                    {"/srv/veriler/tolu.dat", "ext4"},
+                                                                    {"/srv/veri/yerel/tolu.dat", "tmpfs"},
+                                                                    {"/mnt/iki ayr\\i/x", "fuse.sshfs"},
+                                                                    {"/mnt/ust/x", "nfs4"}})
     EXPECT_EQ(DosyaSistemiTuru(tablo, yol), tur) << yol;
   EXPECT_EQ(DosyaSistemiTuru("", "/x"), "");
   for (const char* tur : {"nfs4", "smb3", "9p", "ceph", "fuse.sshfs", "fuse.rclone", "vboxsf", "virtiofs"})

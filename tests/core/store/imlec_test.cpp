@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "core/sinamalar.h"
 #include "core/store/ornekdepo.h"
-#include "core/tablo.h"
 
 namespace belvani {
 namespace {
@@ -13,7 +13,7 @@ using test::Ekle;
 using test::Geri;
 using test::Ileri;
 using test::OrnekDepo;
-using test::Tablo;
+using test::Sinamalar;
 using test::TabloImleci;
 using I = std::int64_t;
 using Metinler = std::vector<std::string>;
@@ -97,7 +97,7 @@ TEST(Imlec, TurkishOrder) {
   EXPECT_EQ(Ileri(rs, "kod"), alfabe);
   EXPECT_EQ(Geri(rs, "kod"), alfabe);
   for (const auto& [aranan, bulunan] :
-       Tablo<const char*, const char*>{{"ç", "Ç"}, {"İ", "i"}, {"ı", "I"}, {"i1", "İ1"}, {"ı1", "I1"}, {"", ""}}) {
+       Sinamalar<const char*, const char*>{{"ç", "Ç"}, {"İ", "i"}, {"ı", "I"}, {"i1", "İ1"}, {"ı1", "I1"}, {"", ""}}) {
     EXPECT_TRUE(Bul(rs, aranan)) << aranan;
     EXPECT_EQ(rs.MetinOku("kod"), bulunan) << aranan;
     EXPECT_FALSE(Ekle(rs, {{"kod", std::string(aranan)}})) << aranan;

@@ -2,15 +2,15 @@
 #include <gtest/gtest.h>
 #include <limits>
 
+#include "core/sinamalar.h"
 #include "core/store/ornekdepo.h"
 #include "core/tables/uye.h"
-#include "core/tablo.h"
 
 namespace belvani {
 namespace {
 
 using test::OrnekDepo;
-using test::Tablo;
+using test::Sinamalar;
 using test::TabloImleci;
 using A = AlanTipi;
 using I = std::int64_t;
@@ -200,7 +200,7 @@ TYPED_TEST(Kolonlar, WhatDoesNotFitIsNotSaved) {
 
 TEST(AlanYaz, FitsTheValueToTheField) {
   // clang-format off
-  const Tablo<std::string_view, Deger, Deger> durumlar{
+  const Sinamalar<std::string_view, Deger, Deger> durumlar{
       {"adi", std::string("A\x01\x7F\r\nli") + '\0', std::string("Ali")}, {"adi", std::string(" İ "), std::string(" İ ")},
       {"adi", I(-7), std::string("-7")}, {"adi", Tarih(2008, 2, 1), std::string("01.02.2008")}, {"adi", Null{}, std::string()},
       {"SSKDURUM", std::string(" 12\n"), I(12)}, {"sskdurum", 2.5, I(2)}, {"sskdurum", true, I(1)}, {"sskdurum", std::string(), I(0)},

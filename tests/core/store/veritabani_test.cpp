@@ -6,8 +6,8 @@
 #include <sys/stat.h>
 
 #include "core/dosya.h"
+#include "core/sinamalar.h"
 #include "core/store/ornekdepo.h"
-#include "core/tablo.h"
 #include "surec.h"
 
 namespace belvani {
@@ -17,7 +17,7 @@ using test::Ekle;
 using test::GeciciDizin;
 using test::Ileri;
 using test::OrnekDepo;
-using test::Tablo;
+using test::Sinamalar;
 using test::TabloImleci;
 using I = std::int64_t;
 using Metinler = std::vector<std::string>;
@@ -47,10 +47,10 @@ TEST(Veritabani, WhatCannotBeOpenedOrMade) {
   const std::string acilamadi = "Veritabanı dosyası açılamadı [";
   Veritabani db;
   for (const auto& [ad, metin] :
-       Tablo<const char*, std::string>{{"cop", "Dosya bozuk veya bir şirket veritabanı değil ["},
-                                       {"yok", acilamadi},
-                                       {"dizin", acilamadi},
-                                       {"", acilamadi}}) {
+       Sinamalar<const char*, std::string>{{"cop", "Dosya bozuk veya bir şirket veritabanı değil ["},
+                                           {"yok", acilamadi},
+                                           {"dizin", acilamadi},
+                                           {"", acilamadi}}) {
     EXPECT_FALSE(db.DbAc(d.Yol() + ad)) << ad;
     EXPECT_TRUE(db.SonHata().starts_with(metin)) << ad << ": " << db.SonHata();
     EXPECT_FALSE(db.AcikMi());
@@ -123,18 +123,19 @@ TEST(SqlAc, ResultTypes) {
                  "adet, null as bos, null as bostarih, ucret as tam, 2.5 as oran from sicil s order by s.kod",
                  {}, {{"CIFTUCRET", AlanTipi::Tutar}, {"bostarih", AlanTipi::Tarih}, {"tam", AlanTipi::Uzun}}));
   EXPECT_EQ(s.KayitSayisi(), 2);
-  for (const auto& [alan, ilk, ikinci] : Tablo<const char*, Deger, Deger>{{"no", std::string("1"), std::string("2")},
-                                                                          {"ucret", Tutar(100.5), Tutar(200.0)},
-                                                                          {"agi", true, I(0)},
-                                                                          {"girtar", Tarih(2008, 2, 29), std::string()},
-                                                                          {"sskdurum", I(0), I(3)},
-                                                                          {"ciftucret", Tutar(201.0), Tutar(400.0)},
-                                                                          {"adet", I(2), I(2)},
-                                                                          {"bos", I(0), I(0)},
-                                                                          {"bostarih", std::string(), std::string()},
-                                                                          {"tam", I(1'005'000), I(2'000'000)},
-                                                                          {"oran", 2.5, 2.5},
-                                                                          {"yok", I(1), I(1)}}) {
+  for (const auto& [alan, ilk, ikinci] :
+       Sinamalar<const char*, Deger, Deger>{{"no", std::string("1"), std::string("2")},
+                                            {"ucret", Tutar(100.5), Tutar(200.0)},
+                                            {"agi", true, I(0)},
+                                            {"girtar", Tarih(2008, 2, 29), std::string()},
+                                            {"sskdurum", I(0), I(3)},
+                                            {"ciftucret", Tutar(201.0), Tutar(400.0)},
+                                            {"adet", I(2), I(2)},
+                                            {"bos", I(0), I(0)},
+                                            {"bostarih", std::string(), std::string()},
+                                            {"tam", I(1'005'000), I(2'000'000)},
+                                            {"oran", 2.5, 2.5},
+                                            {"yok", I(1), I(1)}}) {
     ASSERT_TRUE(s.IlkKayit());
     EXPECT_EQ(s.AlanOku(alan), ilk) << alan;
     ASSERT_TRUE(s.SonrakiKayit());
@@ -151,13 +152,14 @@ TEST(SqlAc, BoundValuesNoRowsFailures) {
   for (const char* kod : {"Ş1", "i"})
     ASSERT_TRUE(Ekle(rs, {{"kod", std::string(kod)}, {"ucret", 0.1}, {"agi", false}, {"girtar", Tarih(2008, 1, 31)}}));
   Imlec s;
-  for (const auto& [kosul, deger, adet] : Tablo<std::string, Deger, int>{{"kod = ?", std::string("ş1"), 1},
-                                                                         {"kod > ?", std::string("İ"), 1},
-                                                                         {"ucret = ?", Tutar(0.1), 2},
-                                                                         {"agi = ?", false, 2},
-                                                                         {"girtar < ?", Tarih(2008, 2, 1), 2},
-                                                                         {"girtar = ?", Tarih(), 0},
-                                                                         {"kod = ?", std::string("' or '1'='1"), 0}}) {
+  for (const auto& [kosul, deger, adet] :
+       Sinamalar<std::string, Deger, int>{{"kod = ?", std::string("ş1"), 1},
+                                          {"kod > ?", std::string("İ"), 1},
+                                          {"ucret = ?", Tutar(0.1), 2},
+                                          {"agi = ?", false, 2},
+                                          {"girtar < ?", Tarih(2008, 2, 1), 2},
+                                          {"girtar = ?", Tarih(), 0},
+                                          {"kod = ?", std::string("' or '1'='1"), 0}}) {
     EXPECT_EQ(d.db.SqlAc(s, "select kod from sicil where " + kosul, {deger}), adet > 0) << kosul;
     EXPECT_TRUE(s.AcikMi() && s.KayitSayisi() == adet && s.SonMu() == (adet == 0)) << kosul;
   }
@@ -203,7 +205,7 @@ void BaskaSiraylaYaz(const std::string& yol, const std::string& surum) {
 
 TEST(Veritabani, IndexesFollowTheAlphabetsVersion) {
   YALNIZ_DIZINDE("the version a file is stamped with");
-  for (const auto& [surum, yenilenir] : Tablo<const char*, bool>{
+  for (const auto& [surum, yenilenir] : Sinamalar<const char*, bool>{
            {"", false}, {"pragma user_version=7", true}, {"pragma user_version=7; pragma application_id=1", false}}) {
     SCOPED_TRACE(surum);
     OrnekDepo d;

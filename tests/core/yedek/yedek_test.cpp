@@ -8,7 +8,7 @@
 
 #include "core/asama.h"
 #include "core/dosya.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "core/yedek/arsiv.h"
 #include "core/yedek/ozet.h"
 #include "core/yedek/yedekadi.h"
@@ -19,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::GeciciDizin;
-using test::Tablo;
+using test::Sinamalar;
 
 std::string Ozet(std::string_view baytlar) {
   Ozetci ozet;
@@ -98,7 +98,7 @@ TEST_F(Arsiv, HostileOnesAreRefused) {
   };
   using Girdiler = std::vector<std::pair<std::string, std::string>>;
   const std::string kunyeBozuk = "Yedeğin künyesi bozuk";
-  for (const auto& [girdiler, kusur] : Tablo<Girdiler, std::string>{
+  for (const auto& [girdiler, kusur] : Sinamalar<Girdiler, std::string>{
            {{{"tolu.dat", "a"}}, "Dosya bir şirket yedeği değil"},
            {{{".kunye", ""}, {"tolu.dat", "a"}}, kunyeBozuk},
            {{{".kunye", "belvani-yedek: 2\nsirket: X\n"}}, "Yedek programın başka bir sürümünün biçiminde"},

@@ -8,7 +8,7 @@
 #include <map>
 
 #include "core/sayi.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "gecici.h"
 #include "ornek.h"
 #include "payroll/parametre/mevzuat.h"
@@ -17,8 +17,8 @@ namespace belvani {
 namespace {
 
 using test::Ornek;
-using test::Tablo;
-using Durumlar = Tablo<const char*, std::string_view, std::string_view>;
+using test::Sinamalar;
+using Durumlar = Sinamalar<const char*, std::string_view, std::string_view>;
 
 // "ucret 40, ucretags 1"
 std::vector<std::pair<std::string_view, double>> Ciftler(std::string_view metin) {
@@ -242,7 +242,7 @@ TEST(BordroHesapla, CountsTheDaysBeforeItCalculates) {
 
 TEST(GirdiKusuru, RefusesWhatHasNoRule) {
   const char* const saatKusuru = "Günlük iş saati sıfırdan büyük olmalı";
-  const Tablo<int, int, double, const char*, AlanTutamagi> durumlar{
+  const Sinamalar<int, int, double, const char*, AlanTutamagi> durumlar{
       {3, 31, 0.5, "", {}},
       {4, 0, 8, "Sakatlık derecesi 0 ile 3 arasında olmalı", sicil::sakatdrc},
       {0, 32, 8, "SSK durumu 32 için prim oranı yok (0 ile 31 arasında olmalı)", sicil::sskdurum},

@@ -5,12 +5,12 @@
 #include <rapidcheck/gtest.h>
 
 #include "core/sayi.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 
 namespace belvani {
 namespace {
 
-using test::Tablo;
+using test::Sinamalar;
 constexpr auto Takvim = DonemTuru::Takvim;
 constexpr auto Ters = DonemTuru::Ters;
 constexpr auto Uygun = DonemUygunlugu::Uygun;
@@ -18,7 +18,7 @@ constexpr auto Disi = DonemUygunlugu::DonemDisi;
 constexpr auto Hatali = DonemUygunlugu::GirisTarihiHatali;
 
 TEST(BordroDonemi, Bounds) {
-  const Tablo<BordroDonemi, const char*, const char*> durumlar{
+  const Sinamalar<BordroDonemi, const char*, const char*> durumlar{
       {{2008, 1, Takvim}, "2008-01-01", "2008-01-31"}, {{2008, 2, Takvim}, "2008-02-01", "2008-02-29"},
       {{2009, 2, Takvim}, "2009-02-01", "2009-02-28"}, {{2008, 12, Takvim}, "2008-12-01", "2008-12-31"},
       {{2008, 11, Ters}, "2008-11-15", "2008-12-14"},  {{2008, 12, Ters}, "2008-12-15", "2009-01-14"},
@@ -33,7 +33,7 @@ TEST(BordroDonemi, Bounds) {
 TEST(GunSayisiBul, DaysOfThePerson) {
   const BordroDonemi ocak{2009, 1, Takvim}, subat{2009, 2, Takvim}, artikSubat{2008, 2, Takvim};
   const BordroDonemi nisan{2009, 4, Takvim}, tersAralik{2008, 12, Ters}, tersSubat{2009, 2, Ters};
-  const Tablo<const char*, BordroDonemi, const char*, const char*, int, DonemUygunlugu> durumlar{
+  const Sinamalar<const char*, BordroDonemi, const char*, const char*, int, DonemUygunlugu> durumlar{
       {"whole month of 31 days", ocak, "2000-05-05", "", 30, Uygun},
       {"hired on the 2nd of 31 days", ocak, "2009-01-02", "", 30, Uygun},
       {"hired on the 3rd of 31 days", ocak, "2009-01-03", "", 29, Uygun},
@@ -84,15 +84,16 @@ RC_GTEST_PROP(GunSayisiBul, AgreesDayByDayAndStaysWithinThirty, ()) {
 }
 
 TEST(AyGunuBul, LengthForTheMissingDays) {
-  const Tablo<int, int, int, int> durumlar{{1, 2009, 30, 31}, {4, 2009, 30, 30},  {2, 2009, 30, 28},  {2, 2008, 30, 29},
-                                           {2, 2100, 30, 29}, {12, 2009, 30, 31}, {11, 2009, 30, 30}, {1, 2009, 29, 29},
-                                           {2, 2008, 28, 28}, {7, 2009, 0, 0},    {1, 2009, 31, 31}};
+  const Sinamalar<int, int, int, int> durumlar{{1, 2009, 30, 31},  {4, 2009, 30, 30}, {2, 2009, 30, 28},
+                                               {2, 2008, 30, 29},  {2, 2100, 30, 29}, {12, 2009, 30, 31},
+                                               {11, 2009, 30, 30}, {1, 2009, 29, 29}, {2, 2008, 28, 28},
+                                               {7, 2009, 0, 0},    {1, 2009, 31, 31}};
   for (const auto& [ay, yil, CalismaGun, gun] : durumlar)
     EXPECT_EQ(AyGunuBul(ay, yil, CalismaGun), gun) << ay << "/" << yil << ", " << CalismaGun;
 }
 
 TEST(EksikGunDenetle, CompleteOnlyWithAReasonAndAFullMonth) {
-  const Tablo<const char*, std::array<int, 5>, EksikGun> durumlar{
+  const Sinamalar<const char*, std::array<int, 5>, EksikGun> durumlar{
       // SskGun, CalismaGun, AyGunu, reason, unpaid days
       {"all days", {30, 30, 31, 7, 5}, {0, 0, true}},
       {"all days of a part month", {12, 12, 12, 0, 0}, {0, 0, true}},
@@ -112,10 +113,10 @@ TEST(EksikGunDenetle, CompleteOnlyWithAReasonAndAFullMonth) {
 }
 
 TEST(EksikGun, SuggestionAndReasonList) {
-  const Tablo<int, int, int> oneriler{{20, 31, 11}, {30, 31, 0}, {29, 31, 2}, {0, 28, 28}};
+  const Sinamalar<int, int, int> oneriler{{20, 31, 11}, {30, 31, 0}, {29, 31, 2}, {0, 28, 28}};
   for (const auto& [SskGun, AyGunu, oneri] : oneriler) EXPECT_EQ(UcretsizIzinOnerisi(SskGun, AyGunu), oneri);
-  const Tablo<int, int> kodlar{{0, 0},   {1, 1},   {2, -1},  {3, 2},   {13, 12},
-                               {14, -1}, {15, 13}, {21, 19}, {22, -1}, {-1, -1}};
+  const Sinamalar<int, int> kodlar{{0, 0},   {1, 1},   {2, -1},  {3, 2},   {13, 12},
+                                   {14, -1}, {15, 13}, {21, 19}, {22, -1}, {-1, -1}};
   for (const auto& [kod, sira] : kodlar) EXPECT_EQ(EksikSebepSec(kod), sira) << kod;
 }
 

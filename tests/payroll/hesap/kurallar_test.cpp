@@ -1,5 +1,5 @@
 // Single rules: exemption, deductions, allowance, union dues, template, the employer's side.
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "ornek.h"
 #include "payroll/hesap/indirim.h"
 #include "payroll/hesap/isveren.h"
@@ -10,7 +10,7 @@
 namespace belvani {
 namespace {
 
-using test::Tablo;
+using test::Sinamalar;
 const Yuvarlayici yuvarla(2);
 
 // Daily floor 600 / 30 = 20; 10 % of it is 2 a day. Law 506, article 77.
@@ -102,14 +102,14 @@ TEST(IndirimHesapla, AmountsLimitsAndYearlyCeiling) {
 // Income tax law, article 32.
 TEST(Agi, PercentOfTheFamilyAndTheTaxAsLimit) {
   const AgiTablosu tablo{Tek(50), Tek(10), Tek(7.5), Tek(5), Tek(4), Tutar(666)};
-  const Tablo<int, int, double> oranlar{{0, 0, 50}, {1, 0, 60}, {2, 0, 60}, {0, 1, 57.5}, {1, 2, 75},
-                                        {1, 3, 80}, {0, 3, 70}, {1, 4, 84}, {1, 5, 84},   {0, 9, 74}};
+  const Sinamalar<int, int, double> oranlar{{0, 0, 50}, {1, 0, 60}, {2, 0, 60}, {0, 1, 57.5}, {1, 2, 75},
+                                            {1, 3, 80}, {0, 3, 70}, {1, 4, 84}, {1, 5, 84},   {0, 9, 74}};
   for (const auto& [es, cocuk, oran] : oranlar)
     EXPECT_EQ(AgiOrani(tablo, {.agiEs = es, .agiCocuk = cocuk, .cocuk = 9}), Tek(oran)) << es << "+" << cocuk;
-  const Tablo<double, double, double, double> tutarlar{{50, 15, 500, 49.95},  // 666 × 50 % × 15 %
-                                                       {75, 15, 500, 74.93},  // 74.925
-                                                       {50, 15, 49.95, 49.95}, {50, 15, 49.94, 49.94},
-                                                       {50, 15, 0, 0},         {50, 20, 500, 66.6}};
+  const Sinamalar<double, double, double, double> tutarlar{{50, 15, 500, 49.95},  // 666 × 50 % × 15 %
+                                                           {75, 15, 500, 74.93},  // 74.925
+                                                           {50, 15, 49.95, 49.95}, {50, 15, 49.94, 49.94},
+                                                           {50, 15, 0, 0},         {50, 20, 500, 66.6}};
   for (const auto& [oran, dilim, vergi, ogv] : tutarlar)
     EXPECT_EQ(AgiHesapla(tablo, Tek(oran), Tek(dilim), Tutar(vergi), yuvarla), Tutar(ogv)) << oran << ", " << vergi;
   Aile aile;  // spouse that counts, spouse that does not, a parent, children

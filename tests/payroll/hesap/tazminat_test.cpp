@@ -4,13 +4,13 @@
 #include <gmock/gmock.h>
 #include <random>
 
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "kahin.h"
 
 namespace belvani {
 namespace {
 
-using test::Tablo;
+using test::Sinamalar;
 
 constexpr std::uint8_t IkiVergi = bayrak::Gv | bayrak::Dv;
 
@@ -42,7 +42,7 @@ struct Hesap1 {
 };
 
 TEST(KidemHesapla, DaysOfService) {
-  const Tablo<int, Tarih, Tarih, int> durumlar{
+  const Sinamalar<int, Tarih, Tarih, int> durumlar{
       {360, Tarih(2008, 8, 2), Tarih(2009, 8, 1), 360},  // 365 days are a whole year
       {365, Tarih(2008, 8, 2), Tarih(2009, 8, 1), 365},
       {364, Tarih(2008, 8, 2), Tarih(2009, 8, 1), 360},  // whatever is not 365 is 360
@@ -61,7 +61,7 @@ TEST(KidemHesapla, DaysOfService) {
 TEST(KidemHesapla, NoticeTableCountsAMonthAhead) {
   const IhbarSureleri bosluklu{{{0, 99}, {6, 15}, {0, 98}, {18, 30}, {-3, 97}, {0, 0}, {36, 45}, {32767, 60}}};
   const IhbarSureleri bos{};
-  const Tablo<IhbarSureleri, int, int> durumlar{
+  const Sinamalar<IhbarSureleri, int, int> durumlar{
       {VarsayilanIhbarSureleri, 0, 15},
       {VarsayilanIhbarSureleri, 179, 15},
       {VarsayilanIhbarSureleri, 180, 30},
@@ -103,7 +103,7 @@ TEST(KidemHesapla, AYearAtAnOrdinaryWage) {
 }
 
 TEST(KidemHesapla, CeilingCutsSeveranceAndNotNotice) {
-  const Tablo<double, double, double> durumlar{
+  const Sinamalar<double, double, double> durumlar{
       {2365.15, 2365.15, 2365.15}, {2365.16, 2365.16, 2365.16}, {2365.17, 2365.16, 2365.17}, {9000, 2365.16, 9000}};
   for (const auto& [ucret, kidem, ihbar] : durumlar) {
     Hesap1 h;
@@ -114,7 +114,7 @@ TEST(KidemHesapla, CeilingCutsSeveranceAndNotNotice) {
 }
 
 TEST(KidemHesapla, FlagsDecideTaxOfNoticeAndDutyOfBoth) {
-  const Tablo<int, double, double, double> durumlar{
+  const Sinamalar<int, double, double, double> durumlar{
       {0, 0, 0, 0}, {bayrak::Gv, 0, 270, 0}, {bayrak::Dv, 10.8, 0, 10.8}, {255, 10.8, 270, 10.8}};
   for (const auto& [bayraklar, kidemDamga, vergi, ihbarDamga] : durumlar) {
     Hesap1 h;
@@ -158,12 +158,12 @@ TEST(UcretYukle, EveryKindOfWage) {
   const YasalParametreler yasal = Yasal();
   const KidemKurallari kurallar{.yasal = &yasal, .kidem = {}, .IsSaati = Tek(7.5)};
   enum { Aylik, Gunluk, Saatlik };
-  const Tablo<int, int, double, double> durumlar{
+  const Sinamalar<int, int, double, double> durumlar{
       {0, Aylik, 1000, 1000},  // a thirtieth and back
-      {0, Gunluk, 40, 1200},     {0, Saatlik, 4, 900},       {0, 9, 1234.56, 1234.56},
-      {2, Saatlik, 4, 693},     // the minimum wage, whatever stands on the card
-      {1, Aylik, 477, 665.73},  
-      {1, Gunluk, 15.9, 665.73}, {1, Saatlik, 2.12, 665.73}, {3, Aylik, 50, 50},
+      {0, Gunluk, 40, 1200},      {0, Saatlik, 4, 900},
+      {0, 9, 1234.56, 1234.56},   {2, Saatlik, 4, 693},  // the minimum wage, whatever stands on the card
+      {1, Aylik, 477, 665.73},    {1, Gunluk, 15.9, 665.73},
+      {1, Saatlik, 2.12, 665.73}, {3, Aylik, 50, 50},
   };
   for (const auto& [tip, esas, ucret, aylik] : durumlar) {
     Sicil s;
@@ -258,7 +258,7 @@ double AnlatilanUcret(const Kisi& k) {
 Anlatilan Anlat(const Kisi& k) {
   Anlatilan a;
   const bool yil365 = k.kurallar.kidem.KidemYilGun == 365;
-  const auto yuvarla = [&](double d) { return double(test::Para(test::ParaYuvarla(d, k.kurallar.paraonda))); };
+  const auto paraya = [&](double d) { return double(test::Para(test::ParaYuvarla(d, k.kurallar.paraonda))); };
   a.ucret = AnlatilanUcret(k);
   const int D = k.girdi.ciktar.SeriNo() - k.girdi.girtar.SeriNo() + 1;
   a.gun = yil365 ? D : int(std::trunc(D / 365.0 * 360.0));
@@ -276,8 +276,8 @@ Anlatilan Anlat(const Kisi& k) {
   const double B = a.ucret > k.girdi.KidemTavan.Sayi() ? k.girdi.KidemTavan.Sayi() / 30 : a.ucret / 30;
   a.S = a.gun * (yil365 ? B * 30 / 365 : B * 30 / 360);
   a.N = a.ihbar * (a.ucret / 30);
-  if (k.girdi.bayraklar & 8) a.T = yuvarla(6.0 * a.S / 1000);
-  if (k.girdi.bayraklar & 8) a.U = yuvarla(6.0 * a.N / 1000);
+  if (k.girdi.bayraklar & 8) a.T = paraya(6.0 * a.S / 1000);
+  if (k.girdi.bayraklar & 8) a.U = paraya(6.0 * a.N / 1000);
   if (k.girdi.bayraklar & 4) a.V = test::KahinAylikVergi(k.yasal.gv, k.girdi.matrah.dvgvmatrah, test::Para(a.N));
   if (!k.girdi.ihbarHaric) a.toplam += a.N - (a.V + a.U);
   if (!k.girdi.kidemHaric) a.toplam += a.S - a.T;
@@ -325,19 +325,19 @@ TEST(KidemHesapla, TraceExplainsEveryAmount) {
       if (adim.alan == alan) son = adim.sonuc;
     return son;
   };
-  const Tablo<std::string_view, std::string> durumlar{{"CalismaGunu", "360"},
-                                                      {"KidemYil", "1.00"},
-                                                      {"IhbarGun", "30"},
-                                                      {"gunlukEsas", "60.00"},
-                                                      {"gunlukKidem", "5.00"},
-                                                      {"brutKidem", "1800.00"},
-                                                      {"kidemDamga", "10.80"},
-                                                      {"netKidem", "1789.20"},
-                                                      {"brutIhbar", "1800.00"},
-                                                      {"ihbarDamga", "10.80"},
-                                                      {"ihbarGelirVergisi", "325.00"},
-                                                      {"netIhbar", "1464.20"},
-                                                      {"netToplam", "3253.40"}};
+  const Sinamalar<std::string_view, std::string> durumlar{{"CalismaGunu", "360"},
+                                                          {"KidemYil", "1.00"},
+                                                          {"IhbarGun", "30"},
+                                                          {"gunlukEsas", "60.00"},
+                                                          {"gunlukKidem", "5.00"},
+                                                          {"brutKidem", "1800.00"},
+                                                          {"kidemDamga", "10.80"},
+                                                          {"netKidem", "1789.20"},
+                                                          {"brutIhbar", "1800.00"},
+                                                          {"ihbarDamga", "10.80"},
+                                                          {"ihbarGelirVergisi", "325.00"},
+                                                          {"netIhbar", "1464.20"},
+                                                          {"netToplam", "3253.40"}};
   for (const auto& [alan, beklenen] : durumlar) EXPECT_EQ(sonuc(alan), beklenen) << alan;
   std::vector<std::string> dilimler;
   for (const IzAdimi& adim : iz)
@@ -346,9 +346,9 @@ TEST(KidemHesapla, TraceExplainsEveryAmount) {
 }
 
 TEST(Gosterilen, RoundsHalfAwayFromZero) {
-  const Tablo<double, int, double> durumlar{{59.178082, 2, 59.18}, {1.005, 2, 1.01},  {-1.005, 2, -1.01},
-                                            {0.004, 2, 0},         {2.5, 0, 3},       {1.23456, 9, 1.2346},
-                                            {0.5, 2, 0.5},         {1000000, 2, 1e6}, {-0.001, 2, 0}};
+  const Sinamalar<double, int, double> durumlar{{59.178082, 2, 59.18}, {1.005, 2, 1.01},  {-1.005, 2, -1.01},
+                                                {0.004, 2, 0},         {2.5, 0, 3},       {1.23456, 9, 1.2346},
+                                                {0.5, 2, 0.5},         {1000000, 2, 1e6}, {-0.001, 2, 0}};
   for (const auto& [tutar, ondalik, gorunen] : durumlar) EXPECT_EQ(Gosterilen(tutar, ondalik), Tutar(gorunen)) << tutar;
   EXPECT_THROW(Gosterilen(1e16, 2), TutarTasmasi);
 }

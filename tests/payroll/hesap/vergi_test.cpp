@@ -1,7 +1,7 @@
 // Income tax over brackets, and the gross of an agreed net.
 #include "payroll/hesap/vergi.h"
 
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "kahin.h"
 #include "ornek.h"
 #include "payroll/hesap/damga.h"
@@ -12,7 +12,7 @@ namespace {
 
 using test::CokDene;
 using test::KahinNet;
-using test::Tablo;
+using test::Sinamalar;
 
 GvTablosu Dilimler(std::initializer_list<std::pair<double, double>> satirlar) {
   GvTablosu t;
@@ -27,7 +27,7 @@ GvTablosu Dilimler(std::initializer_list<std::pair<double, double>> satirlar) {
 TEST(GvHesapla, BracketsOfTheYear) {
   const GvTablosu iki = Dilimler({{10000, 15}, {25000, 20}});
   const GvTablosu bosluklu = Dilimler({{0, 90}, {10000, 15}, {0, 90}, {-5, 90}, {25000, 20}, {0, 90}, {50000, 27}});
-  const Tablo<GvTablosu, double, double, double> durumlar{
+  const Sinamalar<GvTablosu, double, double, double> durumlar{
       {iki, 9000, 2000, 350},        // 1,000 × 15 % + 1,000 × 20 %
       {iki, 9000, 1000, 150},        // up to the limit: only the lower rate
       {iki, 9999.99, 0.02, 0.0035},  // 0.01 × 15 % + 0.01 × 20 %
@@ -62,9 +62,9 @@ TEST(GvHesapla, AgreesKurusByKurus) {
     const int devreden = *rc::gen::inRange(0, 4000);
     const int matrah = *rc::gen::inRange(0, 4000);
     std::int64_t vergi = 0;
-    for (int kurus = devreden; kurus < devreden + matrah; ++kurus)
+    for (int para = devreden; para < devreden + matrah; ++para)
       for (std::size_t i = 0; i < 8; ++i)
-        if (limitler[i] > kurus) {
+        if (limitler[i] > para) {
           vergi += std::int64_t(tablo.GvOran[i].Sayi());
           break;
         }
@@ -73,8 +73,8 @@ TEST(GvHesapla, AgreesKurusByKurus) {
 }
 
 TEST(DamgaVergisi, PerThousandNeverNegative) {
-  const Tablo<double, double, double> durumlar{{693, 6, 4.16},  {0, 6, 0},        {-693, 6, 0}, {0.82, 6, 0},
-                                               {0.83, 6, 0.01}, {1000, 7.5, 7.5}, {1000, 0, 0}};
+  const Sinamalar<double, double, double> durumlar{{693, 6, 4.16},  {0, 6, 0},        {-693, 6, 0}, {0.82, 6, 0},
+                                                   {0.83, 6, 0.01}, {1000, 7.5, 7.5}, {1000, 0, 0}};
   for (const auto& [matrah, binde, vergi] : durumlar)
     EXPECT_EQ(DamgaVergisi(Tutar(matrah), Tek(binde), Yuvarlayici(2)), Tutar(vergi)) << matrah;
 }
@@ -83,7 +83,7 @@ const GvTablosu yil2009 = Dilimler({{8700, 15}, {22000, 20}, {50000, 27}, {1e12,
 
 TEST(NettenBrut, Cases) {
   const NettenBrutKosullari k{15, 6, Tutar(), Tutar(4329), 2};
-  const Tablo<const char*, double, NettenBrutKosullari, double> durumlar{
+  const Sinamalar<const char*, double, NettenBrutKosullari, double> durumlar{
       // 665.73 - 99.86 = 565.87; - 84.88 = 480.99; - 3.99 = 477.00
       {"first bracket", 477, k, 665.73},
       {"nothing", 0, k, 0},

@@ -3,14 +3,14 @@
 
 #include <gmock/gmock.h>
 
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "dizinli.h"
 #include "payroll/parametre/kayitlar.h"
 
 namespace belvani {
 namespace {
 
-using test::Tablo;
+using test::Sinamalar;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::SizeIs;
@@ -124,7 +124,7 @@ TEST_F(Dosyalar, WrongSizesOfStatutoryFiles) {
   for (const int fark : {-1, 1}) {
     const auto boyda = [&](int boy) { return std::string(std::size_t(boy + fark), '\x11'); };
     for (const auto& [ad, boy] :
-         Tablo<const char*, int>{{"yasal2.dat", 1368}, {"gvtbl.dat", 96}, {"agitbl.dat", 28}, {"hestur.dat", 4050}})
+         Sinamalar<const char*, int>{{"yasal2.dat", 1368}, {"gvtbl.dat", 96}, {"agitbl.dat", 28}, {"hestur.dat", 4050}})
       Yaz(ad, boyda(boy));
     const auto y = YasalDosyalariYukle(Dizin(), simdiki);
     EXPECT_EQ(y.deger.oranlar, YasalOranlar()) << "not what memory held";
@@ -142,7 +142,7 @@ TEST_F(Dosyalar, WrongSizesOfStatutoryFiles) {
 
 TEST_F(Dosyalar, ABaseOfTheAllowanceBelowAHundredIsTheMinimumWageInMemory) {
   ASSERT_TRUE(YasalOranlarKaydet(Dizin(), Ornek().oranlar));
-  for (const auto& [diskte, bellekte] : Tablo<double, double>{{99.9999, 693}, {100, 100}, {-5, 693}}) {
+  for (const auto& [diskte, bellekte] : Sinamalar<double, double>{{99.9999, 693}, {100, 100}, {-5, 693}}) {
     ASSERT_TRUE(AgiTablosuKaydet(Dizin(), OrnekAgi(diskte)));
     EXPECT_EQ(YasalDosyalariYukle(Dizin(), {}).deger.agi, OrnekAgi(bellekte)) << diskte;
     EXPECT_EQ(Oku("agitbl.dat"), KayitBaytlari<AgiKaydi>(OrnekAgi(diskte))) << diskte;
@@ -156,7 +156,7 @@ TEST_F(Dosyalar, ErasShorterThanFourRowsBecomeTheBuiltInOnes) {
   const std::string satir = KayitBaytlari<KanunKaydi>({Tarih(2003, 1, 1), Tarih(2010, 1, 1), 9});
   const std::string dort = satir + satir + satir + satir;
   // Rows that are read; 0: the built-in ones, written.
-  for (const auto& [baytlar, okunan, uyari] : Tablo<std::string, std::size_t, std::size_t>{
+  for (const auto& [baytlar, okunan, uyari] : Sinamalar<std::string, std::size_t, std::size_t>{
            {dort.substr(1), 0, 1}, {dort, 4, 0}, {dort + satir + "yarım", 5, 1}, {dort + dort, 8, 0}}) {
     YasalDosyalariYukle(Dizin(), {});  // settles the other files
     Yaz("kanun.dat", baytlar);
@@ -196,7 +196,7 @@ TEST_F(Dosyalar, OvertimeLinesThatTheFileHoldsWhole) {
   const std::string satir = KayitBaytlari<FazlaMesaiKaydi>(baska);
   const std::string uc = satir + satir + satir;
   // 8 bytes are no line yet.
-  for (const auto& [baytlar, okunan] : Tablo<std::string, std::size_t>{
+  for (const auto& [baytlar, okunan] : Sinamalar<std::string, std::size_t>{
            {"", 0}, {satir, 0}, {satir + "x", 1}, {satir + satir, 2}, {uc, 3}, {uc + satir, 3}}) {
     Yaz("fmesai.dat", baytlar);
     const auto y = FazlaMesaiYukle(Dizin());
@@ -223,7 +223,8 @@ TEST_F(Dosyalar, OnlyThePayrollScreenWritesTheBuiltInTemplate) {
 TEST_F(Dosyalar, SeveranceFilesOfAnotherSizeBecomeTheBuiltInOnes) {
   const std::string kidem("\x68\x01\x09\x0a", 4);
   const std::string ihbar = std::string("\6\0\x0f\0\x12\0\x1e\0\x24\0\x2d\0\x0f\x27\x3c\0", 16) + std::string(16, '\0');
-  for (const auto& [kidemBoyu, ihbarBoyu] : Tablo<std::size_t, std::size_t>{{0, 0}, {3, 31}, {5, 33}, {400, 4000}}) {
+  for (const auto& [kidemBoyu, ihbarBoyu] :
+       Sinamalar<std::size_t, std::size_t>{{0, 0}, {3, 31}, {5, 33}, {400, 4000}}) {
     if (kidemBoyu > 0) Yaz("kidpar.dat", std::string(kidemBoyu, 'x'));
     if (ihbarBoyu > 0) Yaz("ihbsure.dat", std::string(ihbarBoyu, 'x'));
     const auto k = KidemParOku(Dizin());

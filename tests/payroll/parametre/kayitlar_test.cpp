@@ -7,7 +7,7 @@
 #include <limits>
 #include <rapidcheck/gtest.h>
 
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 
 namespace belvani {
 namespace {
@@ -124,7 +124,7 @@ TEST(Kayitlar, WhatIsNoNumberIsCountedAndReadsAsNothing) {
   const auto agi = KayitCoz<AgiKaydi>(El(belirsiz, -sonsuz, 7.5f, 0.0f, 0.0f, I(0)));
   EXPECT_EQ(agi.gecersiz, 2);
   EXPECT_EQ(agi.deger, (AgiTablosu{Tek(0), Tek(0), Tek(7.5), Tek(0), Tek(0), Tutar()}));
-  for (const auto& [seri, gun] : test::Tablo<double, Tarih>{
+  for (const auto& [seri, gun] : test::Sinamalar<double, Tarih>{
            {double(belirsiz), {}}, {1e18, {}}, {0.0, Tarih(1899, 12, 30)}, {39722.75, Tarih(2008, 10, 1)}}) {
     const auto satir = KayitCoz<KanunKaydi>(El(seri, 1.0, "\1\0"s));
     EXPECT_EQ(satir.deger.bastar, gun) << seri;

@@ -9,14 +9,14 @@
 
 #include "core/dosya.h"
 #include "core/ortam.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "gecici.h"
 
 namespace belvani {
 namespace {
 
 using Json = nlohmann::json;
-using test::Tablo;
+using test::Sinamalar;
 using testing::HasSubstr;
 
 const std::string mevzuat = test::KaynakYolu("data/mevzuat/");
@@ -73,7 +73,7 @@ TEST(Mevzuat, EveryMonthIsSane) {
 
 TEST(Mevzuat, PublishedAmounts) {
   // clang-format off
-  const Tablo<int, int, double, double, double, double> durumlar{  // wage, floor, ceiling, severance ceiling
+  const Sinamalar<int, int, double, double, double, double> durumlar{  // wage, floor, ceiling, severance ceiling
       {2003, 7, 306, 458.0158, 2290.0791, 1389.95}, {2004, 1, 423, 549.63, 2748.15, 1485.43},
       {2004, 12, 444.15, 444.15, 2886.975, 1574.74}, {2005, 6, 488.7, 488.7, 3176.7, 1648.9},
       {2005, 7, 488.7, 488.7, 3176.7, 1727.15}, {2006, 1, 531, 531, 3451.5, 1770.62},
@@ -99,16 +99,16 @@ TEST(Mevzuat, PublishedAmounts) {
 
 // Law 1475, article 14: the ceiling changes with each half year, and holds in all of its months.
 TEST(Mevzuat, SeveranceCeilingOfEveryHalfYear) {
-  const Tablo<int, double, double> yillar{{2003, 1323.95, 1389.95}, {2004, 1485.43, 1574.74}, {2005, 1648.90, 1727.15},
-                                          {2006, 1770.62, 1857.44}, {2007, 1960.69, 2030.19}, {2008, 2087.92, 2173.18},
-                                          {2009, 2260.05, 2365.16}};
+  const Sinamalar<int, double, double> yillar{
+      {2003, 1323.95, 1389.95}, {2004, 1485.43, 1574.74}, {2005, 1648.90, 1727.15}, {2006, 1770.62, 1857.44},
+      {2007, 1960.69, 2030.19}, {2008, 2087.92, 2173.18}, {2009, 2260.05, 2365.16}};
   for (const auto& [yil, ilk, ikinci] : yillar)
     for (int ay = 1; ay <= 12; ++ay)
       EXPECT_EQ(Yukle(yil, ay).oranlar.KidemTavan, Tutar(ay <= 6 ? ilk : ikinci)) << yil << "/" << ay;
 }
 
 TEST(Mevzuat, OldLiraIsThePublishedAmountToTheLastLira) {
-  for (const auto& [yil, ay, ucret, taban, tavan] : Tablo<int, int, std::int64_t, std::int64_t, std::int64_t>{
+  for (const auto& [yil, ay, ucret, taban, tavan] : Sinamalar<int, int, std::int64_t, std::int64_t, std::int64_t>{
            {2003, 3, 306'000'000, 327'583'290, 1'637'916'450}, {2004, 7, 444'150'000, 444'150'000, 2'886'975'000}}) {
     const YasalOranlar o = Yukle(yil, ay, Lira::Eski).oranlar;
     EXPECT_EQ(o.AsgariUcret.Ham(), ucret * Tutar::Olcek);
@@ -128,7 +128,7 @@ TEST(Mevzuat, PremiumRatesOfTheBranches) {
   const OranSatiri issizsiz = satir(0, 5, 9, 0, 0);
   // Employee and employer until 01.10.2008, then both from that day on.
   // clang-format off
-  const Tablo<std::size_t, OranSatiri, OranSatiri, OranSatiri, OranSatiri> durumlar{
+  const Sinamalar<std::size_t, OranSatiri, OranSatiri, OranSatiri, OranSatiri> durumlar{
       {1, isci, satir(1, 6, 11, 0, 2), isci, satir(0, 7.5, 11, 0, 2)},
       {2, satir(0, 0, 0, 7.5, 0), satir(0, 0, 0, 22.5, 0), satir(0, 0, 0, 7.5, 0), satir(0, 0, 0, 22.5, 0)},
       {3, yok, yok, yok, yok}, {6, yok, yok, yok, yok},
@@ -178,7 +178,7 @@ TEST(Mevzuat, EveryFigureTellsCertaintyAndSources) {
 
 TEST(Mevzuat, TablesOfTheSpecialExpenseRefund) {
   for (const auto& [yil, ilk, ikinci] :
-       Tablo<int, double, double>{{2004, 3000, 6000}, {2005, 3300, 6600}, {2006, 3600, 7200}}) {
+       Sinamalar<int, double, double>{{2004, 3000, 6000}, {2005, 3300, 6600}, {2006, 3600, 7200}}) {
     const auto tablo = OzelGvMevzuati(mevzuat, yil, Lira::Eski);
     ASSERT_TRUE(tablo) << tablo.KusurMetni();
     EXPECT_EQ((std::array{tablo->GvLimit[0], tablo->GvLimit[1], tablo->GvLimit[2], tablo->GvLimit[3]}),
@@ -206,19 +206,19 @@ TEST(Mevzuat, WhatIsMissingOrBrokenIsToldInTurkish) {
     return bozuk.dump();
   };
   for (const auto& [metin, ileti] :
-       Tablo<std::string, const char*>{{"{\"donemler\": [", "bozuk"},
-                                       {"[]", "donemler bilgisi yok"},
-                                       {"{\"donemler\": 5}", "donemler bir liste değil"},
-                                       {boz("/bit", "2009-07-31"), "01.08.2009 gününü kapsayan bir dönem yok"},
-                                       {boz("/bas", "2009-02-30"), "bas bir tarih değil"},
-                                       {boz("/asgariUcret", nullptr), "deger bilgisi yok"},
-                                       {boz("/sskTavan/deger", 4504.5), "deger bir metin değil"},
-                                       {boz("/sskTavan/deger", "4.504,50"), "deger bir tutar değil: \"4.504,50\""},
-                                       {boz("/damgaBinde/deger", "altı"), "deger bir oran değil"},
-                                       {boz("/gelirVergisi/dilimler", Json::array()), "1 ile 8 dilim"},
-                                       {boz("/gelirVergisi/dilimler", Json(std::vector<int>(9))), "1 ile 8 dilim"},
-                                       {boz("/primOranlari/0/dal", 33), "dal 1 ile 32 arasında olmalı"},
-                                       {boz("/primOranlari/0/dal", 0), "dal 1 ile 32 arasında olmalı"}}) {
+       Sinamalar<std::string, const char*>{{"{\"donemler\": [", "bozuk"},
+                                           {"[]", "donemler bilgisi yok"},
+                                           {"{\"donemler\": 5}", "donemler bir liste değil"},
+                                           {boz("/bit", "2009-07-31"), "01.08.2009 gününü kapsayan bir dönem yok"},
+                                           {boz("/bas", "2009-02-30"), "bas bir tarih değil"},
+                                           {boz("/asgariUcret", nullptr), "deger bilgisi yok"},
+                                           {boz("/sskTavan/deger", 4504.5), "deger bir metin değil"},
+                                           {boz("/sskTavan/deger", "4.504,50"), "deger bir tutar değil: \"4.504,50\""},
+                                           {boz("/damgaBinde/deger", "altı"), "deger bir oran değil"},
+                                           {boz("/gelirVergisi/dilimler", Json::array()), "1 ile 8 dilim"},
+                                           {boz("/gelirVergisi/dilimler", Json(std::vector<int>(9))), "1 ile 8 dilim"},
+                                           {boz("/primOranlari/0/dal", 33), "dal 1 ile 32 arasında olmalı"},
+                                           {boz("/primOranlari/0/dal", 0), "dal 1 ile 32 arasında olmalı"}}) {
     ASSERT_TRUE(DosyaYaz(dizin.Yol() + "2009-2.json", metin));
     for (const Lira lira : {Lira::Yeni, Lira::Eski})
       EXPECT_THAT(MevzuatYukle(dizin.Yol(), 2009, 8, lira).KusurMetni(), HasSubstr(ileti));

@@ -9,7 +9,7 @@
 
 #include "core/ayarlar.h"
 #include "core/ortam.h"
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 #include "dizinli.h"
 #include "payroll/parametre/kayitlar.h"
 #include "sunucu.h"
@@ -19,7 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 using test::OrtamKoy;
-using test::Tablo;
+using test::Sinamalar;
 using test::Yanit;
 using testing::Contains;
 using testing::HasSubstr;
@@ -47,7 +47,7 @@ class MevzuatKumesi : public test::Dizinli {
 
 TEST_F(MevzuatKumesi, ShippedFiguresInstallAndLoad) {
   for (const auto& [yil, ay, lira] :
-       Tablo<int, int, Lira>{{2009, 7, Lira::Yeni}, {2003, 1, Lira::Eski}, {2003, 1, Lira::Yeni}}) {
+       Sinamalar<int, int, Lira>{{2009, 7, Lira::Yeni}, {2003, 1, Lira::Eski}, {2003, 1, Lira::Yeni}}) {
     const auto kuruldu = MevzuatKur(Dizin(), {yil, ay}, *ParametreAdresi(yil, ay, lira));
     ASSERT_TRUE(kuruldu) << kuruldu.KusurMetni();
     YasalParametreler okunan = YasalDosyalariYukle(Dizin(), {}).deger;
@@ -62,7 +62,7 @@ TEST_F(MevzuatKumesi, AllFourFilesAreReplacedOrNone) {
   std::string sayisiz = gercek(ParametreDosyasi::Yasal), ucretsiz = sayisiz;
   sayisiz.replace(0, 4, "\xff\xff\xff\x7f");  // no number
   ucretsiz.replace(1280, 8, std::string(8, '\x11'));
-  for (const auto& [yol, yanit, neden] : Tablo<const char*, std::string, const char*>{
+  for (const auto& [yol, yanit, neden] : Sinamalar<const char*, std::string, const char*>{
            {"/ek", "x", ""},
            {"/download/hestur.txt", Yanit("", "404 Not Found"), "404"},
            {"/download/hestur.txt", Yanit(std::string(4049, 'y')), "4049 bayt, 4050 bayt olmalıydı"},

@@ -4,12 +4,12 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "core/tablo.h"
+#include "core/sinamalar.h"
 
 namespace belvani {
 namespace {
 
-using test::Tablo;
+using test::Sinamalar;
 
 // clang-format off
 TEST(UygulamaBul, AMonthIsJudgedByItsFirstDayInTheFirstRowThatCoversIt) {
@@ -20,7 +20,7 @@ TEST(UygulamaBul, AMonthIsJudgedByItsFirstDayInTheFirstRowThatCoversIt) {
       {Tarih(), Tarih(2100, 1, 1), 10},           // no first day: holds for no month
       {Tarih(2007, 1, 1), Tarih(), 11},           // no last day: neither
       {Tarih(2006, 6, 1), Tarih(2006, 8, 1), -12}};
-  const Tablo<Kanunlar, int, int, int> durumlar{
+  const Sinamalar<Kanunlar, int, int, int> durumlar{
       {kanunlar, 2005, 1, 7}, {kanunlar, 2005, 3, 0}, {kanunlar, 2005, 4, 8}, {kanunlar, 2005, 6, 8},
       {kanunlar, 2006, 1, 0}, {kanunlar, 2006, 7, -12}, {kanunlar, 2007, 2, 0}, {kanunlar, 2006, 13, 0},
       {VarsayilanKanunlar(), 2003, 12, 0}, {VarsayilanKanunlar(), 2004, 1, 1}, {VarsayilanKanunlar(), 2004, 6, 1},
@@ -33,7 +33,7 @@ TEST(UygulamaBul, AMonthIsJudgedByItsFirstDayInTheFirstRowThatCoversIt) {
 
 TEST(TehlikeOrani, FollowsClassAndDegreeWithinItsRange) {
   constexpr double sonsuz = std::numeric_limits<double>::infinity();
-  const Tablo<int, double, double> durumlar{
+  const Sinamalar<int, double, double> durumlar{
       {0, 1, 1.5}, {1, 1, 1.3}, {2, 1, 1.7}, {0, 4, 3}, {2, 10, 6.2}, {0, 11, 6.5}, {1, 11, 6.3}, {2, 11, 6.5},
       {0, 12, 6.5}, {1, 0, 1}, {0, 0, 1}, {2, 0, 1.2}, {0, -7, 1}, {3, 12, 1}, {-1, 12, 1}, {0, 2.5, 2.25},
       {0, sonsuz, 6.5}, {0, -sonsuz, 1}, {2, std::numeric_limits<double>::quiet_NaN(), 1}};
