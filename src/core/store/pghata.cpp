@@ -91,6 +91,10 @@ MotorHatasi PgKopusHatasi() {
   return KodHatasi("08006");
 }
 
+MotorHatasi PgSaltOkunurHatasi() {
+  return KodHatasi("25006");
+}
+
 MotorHatasi PgIstekHatasi(const PGresult* sonuc) {
   const char* kod = PQresultErrorField(sonuc, PG_DIAG_SQLSTATE);
   if (kod == nullptr || *kod == '\0') return PgKopusHatasi();

@@ -18,5 +18,7 @@ MotorHatasi PgBaglantiHatasi(pg_conn* baglanti);
 // Whether another password may help: none was there, or the server has refused the one that it got.
 bool PgSifreReddi(pg_conn* baglanti);
 MotorHatasi PgKopusHatasi();
+// Of a write into a store that was opened for looking alone.
+MotorHatasi PgSaltOkunurHatasi();
 
 }  // namespace belvani

@@ -198,8 +198,10 @@ void PgMotor::Calistir(std::string_view sql) {
   });
 }
 
-// The lock is asked for on the way: whether it was given shows at the first answer that is waited for.
+// The lock is asked for on the way: whether it was given shows at the first answer that is waited for. The server would
+// refuse the first change of a looker, and let him say that all is saved where nothing was to be changed.
 void PgMotor::IslemBaslat(Milisaniye enCok) {
+  if (saltOkunur_) throw PgSaltOkunurHatasi();
   if (islemde_) throw MotorHatasi(MotorKusuru::Diger, "Veritabanı işlemi yapılamadı [25001]");
   BaglantiyiSagla();
   b_->Sirala("begin");

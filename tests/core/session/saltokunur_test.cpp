@@ -122,6 +122,21 @@ TEST_F(SaltOkunurTest, ALookChangesNothing) {
   Sql("delete from firma");
 }
 
+// Nothing is said to be saved where there was nothing to change.
+TEST_F(SaltOkunurTest, WhoLooksCannotBeginToWrite) {
+  Kur();
+  SirketKapat(o);
+  ASSERT_TRUE(SirketAc(o, "deneme", b, SirketErisimi::YalnizBakis));
+  const auto islem = o.depo.db.Koru(false, [&] {
+    Islem(o.depo.db.IcMotor()).Onayla();
+    return true;
+  });
+  EXPECT_FALSE(islem);
+  EXPECT_EQ(o.depo.db.SonHata().find("Şirket salt okunur açıldı, değişiklikler kaydedilemez"), 0u)
+      << o.depo.db.SonHata();
+  EXPECT_EQ(o.depo.db.Koru(0, [&] { return int(Tablo<Firma>(o.depo.db.IcMotor()).KayitSayisi()); }), 1);
+}
+
 // A store that others write without a pause has no moment; one with pauses is caught in one.
 TEST_F(SaltOkunurTest, ACopyIsOfOneMoment) {
   YALNIZ_DIZINDE(Kopyalanan);
