@@ -46,8 +46,8 @@ void SirketleriYaz(Genel& genel, bool json) {
   Json dizi = Json::array();
   std::string metin;
   for (const SirketSatiri& s : SirketListesi(veri)) {
-    dizi.push_back({{"kod", s.ad}, {"unvan", s.unvan}, {"donem", s.donem}, {"icerde", IcerdekiDizisi(s.icerde)}});
-    metin += s.ad + "\t" + s.unvan + "\t" + s.donem + (s.icerde.empty() ? "" : "\t" + IcerdekiMetni(s.icerde)) + "\n";
+    dizi.push_back({{"kod", s.ad}, {"unvan", s.unvan}, {"donem", s.Donem()}, {"icerde", IcerdekiDizisi(s.icerde)}});
+    metin += s.ad + "\t" + s.unvan + "\t" + s.Donem() + (s.icerde.empty() ? "" : "\t" + IcerdekiMetni(s.icerde)) + "\n";
   }
   // They are no companies, so programs that read the list do not see them.
   for (const std::string& ad : YarimSirketler(veri))

@@ -1,33 +1,20 @@
 #include "personnel/firmalardaara.h"
 
+#include "core/session/firmabilgi.h"
 #include "core/session/sirket.h"
 #include "core/store/depokopyasi.h"
 #include "core/store/koru.h"
-#include "core/store/satirlar.h"
+#include "core/store/tablo.h"
 #include "core/turkce.h"
 
 namespace belvani {
 namespace {
 
-struct FirmaSatiri {
-  std::string unvan;
-  std::string donem;
-};
-
-FirmaSatiri FirmaSatiriOku(Motor& motor) {
-  FirmaSatiri satir;
-  const auto komut = motor.Hazirla("select unvan, firmaay, firmayil from firma limit 1");
-  if (!komut->Adim()) return satir;
-  KolonAl(*komut, 0, satir.unvan);
-  const std::string ay = std::to_string(komut->Tam(1));
-  satir.donem = (ay.size() < 2 ? "0" + ay : ay) + "-" + std::to_string(komut->Tam(2));
-  return satir;
-}
-
 std::vector<BulunanKisi> SirketteAra(const VeriYolu& veri, const std::string& ad, const std::string& aranan) {
   std::vector<BulunanKisi> bulunanlar;
   const auto motor = MotorBak(DepoAdresi(veri.Alt(ad)));
-  const FirmaSatiri firma = FirmaSatiriOku(*motor);
+  const Firma firma = Tablo<Firma>(*motor).Bul().value_or(Firma());
+  const std::string donem = CalismaAyiMetni(firma.firmayil, firma.firmaay);
   const std::string firmaAdi = firma.unvan.empty() ? ad : ad + " - " + firma.unvan;
   const auto komut = motor->Hazirla("select adi, soyadi from sicil order by kod");
   while (komut->Adim()) {
@@ -36,7 +23,7 @@ std::vector<BulunanKisi> SirketteAra(const VeriYolu& veri, const std::string& ad
     KolonAl(*komut, 1, soyadi);
     std::string adsoy = adi;
     adsoy.append(" ").append(soyadi);
-    if (KucukHarf(adsoy).find(aranan) != std::string::npos) bulunanlar.push_back({adsoy, firmaAdi, firma.donem});
+    if (KucukHarf(adsoy).find(aranan) != std::string::npos) bulunanlar.push_back({adsoy, firmaAdi, donem});
   }
   return bulunanlar;
 }

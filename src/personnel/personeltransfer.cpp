@@ -3,6 +3,7 @@
 #include "core/saat.h"
 #include "core/session/icerde.h"
 #include "core/session/sirket.h"
+#include "core/session/sirketlistesi.h"
 #include "core/store/depokopyasi.h"
 #include "core/store/koru.h"
 #include "personnel/kart.h"
@@ -45,12 +46,6 @@ struct HedefSirket {
   std::unique_ptr<Motor> motor;
   std::unique_ptr<IcerdeIsareti> isaret;
 };
-
-// Also where the one directory only leads to the other.
-bool AyniSirket(const Oturum& o, const std::string& ad) {
-  const std::string kimlik = VeriYolu(o.DataPath).Alt(ad).Kimlik();
-  return ad == o.FirmaKod || (!kimlik.empty() && kimlik == VeriYolu(o.FirmaDizini).Kimlik());
-}
 
 Kusur Acilamiyor(const std::string& neden) {
   return Engel("Transfer Şirketi Açılamıyor." + (neden.empty() ? "" : "\n" + neden), transferformu::hedef);
@@ -142,7 +137,8 @@ Sonuc<Transfer> PersonelTransfer(Oturum& o, const TransferFormu& yazilan) {
   if (!kart) return Engel("Personel Bulunamadı...", transferformu::kod);
   if (auto kusur = CikisKusuru(o, form, *kart)) return *std::move(kusur);
   const auto sirket = SirketBul(o.DataPath, form.hedef);
-  if (sirket && AyniSirket(o, *sirket)) return Engel("Transfer Şirketi ile Şirketiniz Aynı..", transferformu::hedef);
+  if (sirket && AcikSirketMi(o, VeriYolu(o.DataPath).Alt(*sirket)))
+    return Engel("Transfer Şirketi ile Şirketiniz Aynı..", transferformu::hedef);
   if (auto kusur = YeniKodKusuru(form.yeniKod)) return *std::move(kusur);
   if (form.yeniGiris.Bos()) return Engel("Giriş Tarihi Hatalı", transferformu::yeniGiris);
   if (!sirket) return Acilamiyor(sirket.KusurMetni());

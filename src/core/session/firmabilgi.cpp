@@ -60,6 +60,10 @@ std::string KanunMetni(std::string_view metin) {
   return SonHaneler(sayi && *sayi > 0 ? std::to_string(*sayi) : "", KanunHanesi);
 }
 
+std::string CalismaAyiMetni(int yil, int ay) {
+  return yil == 0 ? std::string() : (ay < 10 ? "0" : "") + std::to_string(ay) + "-" + std::to_string(yil);
+}
+
 std::string AnaPencereBasligi(const Oturum& o) {
   const std::string hal = o.SaltOkunur ? " (salt okunur)" : "";
   if (o.firma.firmaay < 1 || o.firma.firmaay > 12) return o.firma.unvan + hal;

@@ -30,6 +30,9 @@ Yazim<Firma> FirmaKaydet(Oturum& o, const Okunan<Firma>& firma);
 // A law number as the store keeps it, in five digits: "5510" -> "05510", "506" -> "00506", "yok" -> "00000".
 std::string KanunMetni(std::string_view metin);
 
+// A working month as lists of companies tell it: "07-2009"; nothing without a year.
+std::string CalismaAyiMetni(int yil, int ay);
+
 // "Örgü Ltd. (Temmuz.2009)"; the title alone while the session has no month.
 std::string AnaPencereBasligi(const Oturum& o);
 

@@ -13,9 +13,8 @@ namespace belvani {
 namespace {
 
 SirketSatiri SatirYap(const std::string& ad, const std::optional<Firma>& kart) {
-  if (!kart) return {ad, "Database'e Ulaşılamadı", ""};
-  const std::string ay = std::to_string(kart->firmaay);
-  return {ad, kart->unvan, (ay.size() < 2 ? "0" + ay : ay) + "-" + std::to_string(kart->firmayil)};
+  if (!kart) return {ad, "Database'e Ulaşılamadı"};
+  return {ad, kart->unvan, kart->firmayil, kart->firmaay};
 }
 
 constexpr const char* Silinmedi = "hiçbir dosya silinmedi";
@@ -52,17 +51,22 @@ std::vector<SirketSatiri> SirketListesi(const VeriYolu& veri, Ilerleme* ilerleme
   return satirlar;
 }
 
+bool AcikSirketMi(const Oturum& o, const VeriYolu& sirket) {
+  if (o.FirmaDizini.empty()) return false;
+  if (sirket.Sunucuda()) return sirket.Adres() == o.FirmaDizini;  // a place there has one name
+  const std::string acik = VeriYolu(o.FirmaDizini).Kimlik();
+  return !acik.empty() && sirket.Kimlik() == acik;
+}
+
 std::vector<std::string> YarimSirketler(const VeriYolu& veri) {
   return veri.YarimAltlar();
 }
 
 std::vector<std::string> SilinebilirSirketler(const VeriYolu& veri, const Oturum& o) {
   std::vector<std::string> adlar = Sirketler(veri);
-  const std::string acik = o.FirmaDizini.empty() || veri.Sunucuda() ? std::string() : VeriYolu(o.FirmaDizini).Kimlik();
   std::erase_if(adlar, [&](const std::string& ad) {
     const VeriYolu sirket = veri.Alt(ad);
-    if (veri.Sunucuda()) return sirket.Adres() == o.FirmaDizini;  // a place there has one name
-    return sirket.BagMi() || sirket.Kimlik() == acik;
+    return sirket.BagMi() || AcikSirketMi(o, sirket);
   });
   std::ranges::move(YarimSirketler(veri), std::back_inserter(adlar));
   return adlar;

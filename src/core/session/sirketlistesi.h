@@ -8,23 +8,28 @@
 #include <vector>
 
 #include "core/asama.h"
-#include "core/session/oturum.h"
+#include "core/session/firmabilgi.h"
 #include "core/silme.h"
 #include "core/veriyolu.h"
 
 namespace belvani {
 
 struct SirketSatiri {
-  std::string ad;                     // of the directory, the company's code
-  std::string unvan;                  // title, or "Database'e Ulaşılamadı"
-  std::string donem;                  // working month, "07-2009"; empty when the store could not be read
+  std::string ad;     // of the directory, the company's code
+  std::string unvan;  // title, or "Database'e Ulaşılamadı"
+  int yil = 0;        // working month; without a year where the store could not be read
+  int ay = 0;
   std::vector<Icerdeki> icerde = {};  // who is in, this program too
 
+  std::string Donem() const { return CalismaAyiMetni(yil, ay); }
   bool operator==(const SirketSatiri&) const = default;
 };
 
 // Every company below the data path, in Turkish order of the names. Throws Vazgecilmis when `ilerleme` stops it.
 std::vector<SirketSatiri> SirketListesi(const VeriYolu& veri, Ilerleme* ilerleme = nullptr);
+
+// Whether that place is the open company's, also where a link or another spelling leads to it.
+bool AcikSirketMi(const Oturum& o, const VeriYolu& sirket);
 
 // Names of places in which a company was being made when its program ended, and which nobody is at. They begin with a
 // point.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 
-#include "core/sayi.h"
 #include "core/session/sirket.h"
 #include "core/session/yukseltme.h"
 #include "core/store/koru.h"
@@ -49,14 +48,6 @@ class SirketIlerlemesi final : public Ilerleme {
   std::size_t sira_ = 0;
 };
 
-bool AcikSirket(const Oturum& o, const std::string& ad) {
-  if (o.FirmaDizini.empty()) return false;
-  const VeriYolu veri(o.DataPath);
-  if (veri.Sunucuda()) return veri.Alt(ad).Adres() == o.FirmaDizini;  // a place there has one name
-  const std::string acik = VeriYolu(o.FirmaDizini).Kimlik();
-  return !acik.empty() && veri.Alt(ad).Kimlik() == acik;
-}
-
 std::string AyMetni(int yil, int ay) {
   return MevzuatAyi{yil, ay}.Metin();
 }
@@ -69,7 +60,7 @@ class TekSirket {
 
   void Yap(Ilerleme* ilerleme) {
     const Durum yapildi = Koru([&]() -> Durum {
-      if (AcikSirket(oturum_, olan_.sirket.ad))
+      if (AcikSirketMi(oturum_, VeriYolu(oturum_.DataPath).Alt(olan_.sirket.ad)))
         return Hazirla(oturum_, KosullariYukle(oturum_, mevzuat_.parametreler, olan_.sirket.yil, olan_.sirket.ay),
                        ilerleme);
       Oturum o;
@@ -142,16 +133,10 @@ class TekSirket {
 
 std::vector<SirketAyi> CalismaAylari(const Oturum& oturum, const std::vector<SirketSatiri>& satirlar) {
   std::vector<SirketAyi> sirketler;
+  const VeriYolu veri(oturum.DataPath);
   for (const SirketSatiri& satir : satirlar) {
-    SirketAyi sirket{.ad = satir.ad};
-    if (AcikSirket(oturum, satir.ad)) {
-      sirket.yil = oturum.firma.firmayil;
-      sirket.ay = oturum.firma.firmaay;
-    } else if (const std::size_t ayrac = satir.donem.find('-'); ayrac != std::string::npos) {
-      sirket.ay = BastakiSayi(satir.donem);
-      sirket.yil = BastakiSayi(std::string_view(satir.donem).substr(ayrac + 1));
-    }
-    sirketler.push_back(std::move(sirket));
+    const bool acik = AcikSirketMi(oturum, veri.Alt(satir.ad));
+    sirketler.push_back({satir.ad, acik ? oturum.firma.firmayil : satir.yil, acik ? oturum.firma.firmaay : satir.ay});
   }
   return sirketler;
 }

@@ -20,7 +20,7 @@ constexpr const char* ListeBasligi = "Firmalar Listesi";
 const Kolonlar<SirketSatiri> kolonlar{
     {"Firma", 24, [](auto& s) { return s.ad; }},
     {"Ünvan", 60, [](auto& s) { return s.unvan; }},
-    {"Dönem", 8, [](auto& s) { return s.donem; }},
+    {"Dönem", 8, [](auto& s) { return s.Donem(); }},
 };
 
 // Empty: stopped, which was told, for half a list would pass for the whole.
@@ -140,7 +140,7 @@ void firlist::ListeyiDoldur() {
   if (!sirketler) return;
   sirketler_ = std::move(*sirketler);
   ListeDoldur(*liste_, sirketler_, [](const SirketSatiri& s) {
-    return std::array{s.ad, s.unvan, s.donem, IcerdekiMetni(s.icerde)};
+    return std::array{s.ad, s.unvan, s.Donem(), IcerdekiMetni(s.icerde)};
   });
   const auto yer = std::ranges::find(sirketler_, simdiki, &SirketSatiri::ad);  // case told apart: another is another
   if (yer != sirketler_.end()) liste_->ChngSat(int(yer - sirketler_.begin()));

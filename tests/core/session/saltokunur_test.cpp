@@ -79,7 +79,7 @@ TEST_F(SaltOkunurTest, WhatCannotBeWrittenIsShown) {
   EXPECT_EQ(acilan->at(0).metin, SaltOkunurUyarisi);
   EXPECT_EQ(AnaPencereBasligi(o), "Arşiv (Temmuz.2009) (salt okunur)");
   EXPECT_TRUE(o.depo.kaztan.AcikMi()) << "the store of an earlier version, as it grows";
-  EXPECT_EQ(SirketListesi(o.DataPath), (std::vector<SirketSatiri>{{"DENEME", "Arşiv", "07-2009"}}));
+  EXPECT_EQ(SirketListesi(o.DataPath), (std::vector<SirketSatiri>{{"DENEME", "Arşiv", 2009, 7}}));
 
   Okunan<Firma> kart = FirmaDuzenle(o);
   kart.simdi.unvan = "Başka";
