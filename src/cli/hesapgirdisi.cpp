@@ -61,10 +61,7 @@ void FirmayiOku(const Json& json, HesapGirdisi& h) {
   firma.issaati = Tek(8);
   firma.paraonda = 2;
   if (const Json& f = Uye(json, "firma"); !f.is_null()) JsondanKayit(f, "firma", firma, h.kusurlar);
-  h.kosullar.IsSaati = firma.issaati.Sayi() > 0 ? firma.issaati : Tek(8);
-  h.kosullar.paraonda = firma.paraonda;
-  h.kosullar.TehlikeOran = TehlikeOrani(firma.tehlike, firma.sinif.Sayi());
-  h.kosullar.donem.tur = firma.tersfirma ? DonemTuru::Ters : DonemTuru::Takvim;
+  KartKosullariniKoy(h.kosullar, firma);
 }
 
 template <class U>
@@ -148,17 +145,9 @@ void YasaliOku(const Json& json, HesapGirdisi& h) {
 }
 
 void BayraklariOku(const Json& json, KazancBayraklari& bayraklar, Kusurlar& kusurlar) {
-  bayraklar = VarsayilanKazancBayraklari();
-  const Json& kaztan = Uye(json, "kaztan");
-  if (kaztan.is_null()) return;
-  if (!kaztan.is_object()) return kusurlar.push_back("kaztan: nesne olmalı");
-  const auto oku = [&](auto& dizi, const std::string& harf) {
-    for (std::size_t i = 0; i < dizi.size(); ++i)
-      if (const std::string ad = harf + std::to_string(i + 1); kaztan.contains(ad))
-        dizi[i] = std::uint8_t(TamDegeri(Tekli(kaztan, ad.c_str(), AlanTipi::Byte, kusurlar)));
-  };
-  oku(bayraklar.k, "k");
-  oku(bayraklar.y, "y");
+  Kaztan grup = GrupSatiri("", VarsayilanKazancBayraklari());
+  if (const Json& kaztan = Uye(json, "kaztan"); !kaztan.is_null()) JsondanKayit(kaztan, "kaztan", grup, kusurlar);
+  bayraklar = GrupBayraklari(grup);
 }
 
 // Rows that say their place by `no`, which counts from 1.

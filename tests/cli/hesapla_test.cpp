@@ -112,6 +112,8 @@ TEST(Hesapla, TellsWhatIsWrong) {
       {R"({"donem":{"yil":2009,"ay":7},"esco":{}})", "esco: dizi olmalı"},
       {R"({"donem":{"yil":2009,"ay":7},"muaf":[{"no":12}]})", "muaf[1].no: 1 ile 11 arasında olmalı"},
       {R"({"donem":{"yil":2009,"ay":7},"indir":[{"adi":"x"}]})", "indir.no: 1 ile 3 arasında olmalı"},
+      {R"({"donem":{"yil":2009,"ay":7},"kaztan":{"y3":32}})", "kaztan.y3: en çok 31 olabilir"},
+      {R"({"donem":{"yil":2009,"ay":7},"kaztan":{"y12":1}})", "kaztan.y12: böyle bir alan yok"},
       {R"({"donem":{"yil":2009,"ay":7},"sicil":{"girtar":"01.08.2009"}})", "Döneme Uygun Değil"},
   };
   for (const auto& [girdi, mesaj] : durumlar) {

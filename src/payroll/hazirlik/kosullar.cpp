@@ -63,20 +63,6 @@ std::string Satirlar(const char* baslik, const std::vector<std::string>& uyarila
   return metin;
 }
 
-Kosullar Kur(const Firma& firma, const YasalParametreler& yasal, const FirmaParametreleri& parametreler, int yil,
-             int ay) {
-  Kosullar k;
-  k.yasal = yasal;
-  k.firma = parametreler;
-  k.donem = {yil, ay, firma.tersfirma ? DonemTuru::Ters : DonemTuru::Takvim};
-  k.uygulama = UygulamaBul(yasal.kanunlar, ay, yil);
-  k.IsSaatiYazili = firma.issaati.Sayi() > 0;
-  k.IsSaati = k.IsSaatiYazili ? firma.issaati : Tek(VarsayilanIsSaati);
-  k.TehlikeOran = TehlikeOrani(firma.tehlike, firma.sinif.Sayi());
-  k.paraonda = firma.paraonda;
-  return k;
-}
-
 }  // namespace
 
 FirmaParametreleri KazancGruplariOku(Motor& motor, const Firma& firma, const VeriYolu& sirket) {
@@ -116,6 +102,14 @@ Sonuc<YasalParametreler> YasalParametreleriAl(const VeriYolu& veri) {
   return YasalParametreleriAl(KuruluMevzuatOku(veri));
 }
 
+void KartKosullariniKoy(Kosullar& k, const Firma& firma) {
+  k.donem.tur = firma.tersfirma ? DonemTuru::Ters : DonemTuru::Takvim;
+  k.IsSaatiYazili = firma.issaati.Sayi() > 0;
+  k.IsSaati = k.IsSaatiYazili ? firma.issaati : Tek(VarsayilanIsSaati);
+  k.TehlikeOran = TehlikeOrani(firma.tehlike, firma.sinif.Sayi());
+  k.paraonda = firma.paraonda;
+}
+
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay) {
   return Koru([&]() -> Sonuc<Kosullar> {
     const FirmaParametreleri parametreler = FirmaDosyalariYukle(o);
@@ -128,7 +122,14 @@ Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yi
 Sonuc<Kosullar> KosullariKur(const Oturum& o, const YasalParametreler& yasal, const FirmaParametreleri& parametreler,
                              int yil, int ay) {
   if (!o.firmaVar) return KuralKusuru("İşyeri Tanımlamaları Yapılmamış");
-  return Kur(o.firma, yasal, parametreler, yil, ay);
+  Kosullar k;
+  k.yasal = yasal;
+  k.firma = parametreler;
+  k.donem.yil = yil;
+  k.donem.ay = ay;
+  k.uygulama = UygulamaBul(yasal.kanunlar, ay, yil);
+  KartKosullariniKoy(k, o.firma);
+  return k;
 }
 
 KazancBayraklari GrupBayraklari(const Kaztan& satir) {

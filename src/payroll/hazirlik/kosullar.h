@@ -55,6 +55,9 @@ FirmaParametreleri KazancGruplariOku(Motor& motor, const Firma& firma, const Ver
 Sonuc<YasalParametreler> YasalParametreleriAl(const KuruluMevzuat& kurulu);
 Sonuc<YasalParametreler> YasalParametreleriAl(const VeriYolu& veri);
 
+// What the card says of them: daily hours, hazard rate, decimals, kind of the period.
+void KartKosullariniKoy(Kosullar& kosullar, const Firma& firma);
+
 // All conditions of a month of the open company under those parameters, by the session's card. The failure says what
 // the company lacks or which of its files is broken.
 Sonuc<Kosullar> KosullariYukle(Oturum& o, const YasalParametreler& yasal, int yil, int ay);
