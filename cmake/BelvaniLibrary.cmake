@@ -3,8 +3,8 @@
 # One folder below src/ is one library, made of all its .cpp files but those of EXCEPT. USES names the rooms whose
 # headers this room may include, each by itself: what a used room uses in its turn is not seen. Configuration fails when
 # a file of the room includes a header of any other, when a library of the logic layer uses one of the screen layer, and
-# when the table of rooms in docs/architecture.md says something else. Qt's include directories are given to the screen
-# layer alone, so a logic library cannot reach Qt by accident.
+# when the picture or the table of rooms in docs/architecture.md says something else. Qt's include directories are given
+# to the screen layer alone, so a logic library cannot reach Qt by accident.
 
 function(belvani_library)
   cmake_parse_arguments(L "TOPLU" "NAME;LAYER;FOLDER" "USES;LIBS;EXCEPT" ${ARGN})
@@ -36,6 +36,7 @@ function(belvani_library)
   endforeach()
   belvani_include_denetimi(${L_NAME} ${L_FOLDER} "${gorunen}")
   belvani_belge_denetimi(${L_FOLDER} "${gorunen}")
+  belvani_cizim_denetimi(${L_FOLDER} "${gorunen}")
   # Each layer's first room compiles the headers that the others of the layer reuse.
   if(L_LAYER STREQUAL "screen")
     set_target_properties(belvani_${L_NAME} PROPERTIES AUTOMOC ON)
@@ -96,6 +97,33 @@ function(belvani_belge_denetimi klasor gorunen)
   if(NOT satirlar STREQUAL beklenen)
     message(FATAL_ERROR "docs/architecture.md, the table of rooms: the row of ${klasor} must read\n${beklenen}")
   endif()
+endfunction()
+
+# In the picture of docs/architecture.md, its first block, a room stands above all that it sees.
+function(belvani_cizim_denetimi klasor gorunen)
+  file(STRINGS ${CMAKE_SOURCE_DIR}/docs/architecture.md satirlar)
+  set(citler 0)
+  set(no 0)
+  foreach(satir ${satirlar})
+    if(satir STREQUAL "```")
+      math(EXPR citler "${citler} + 1")
+    endif()
+    if(citler EQUAL 2)
+      break()
+    endif()
+    math(EXPR no "${no} + 1")
+    foreach(oda ${gorunen})
+      if(citler EQUAL 1 AND NOT DEFINED yer_${oda} AND "${satir} " MATCHES " ${oda} ")
+        set(yer_${oda} ${no})
+      endif()
+    endforeach()
+  endforeach()
+  list(REMOVE_ITEM gorunen ${klasor})
+  foreach(oda ${gorunen})
+    if(NOT DEFINED yer_${klasor} OR NOT DEFINED yer_${oda} OR NOT yer_${klasor} LESS yer_${oda})
+      message(FATAL_ERROR "docs/architecture.md, the picture: ${klasor} must stand above ${oda}")
+    endif()
+  endforeach()
 endfunction()
 
 # One meaning for a name: two types of one name in the house's single namespace compile, and then quietly share each
