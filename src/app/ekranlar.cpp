@@ -178,14 +178,12 @@ std::vector<EkranKaydi> Kayitlar() {
   };
 }
 
-// Where the menu has its caption, with the screen that stands there already, else at the end of its menu.
 // Where the menu has its caption, else at the end of its menu. A screen of its own stays in its place.
 void YerineKoy(std::vector<EkranKaydi>& tablo, EkranKaydi kayit) {
   const auto ayni = [&](const EkranKaydi& e) { return e.menu == kayit.menu && e.baslik == kayit.baslik; };
   if (const auto yeri = std::ranges::find_if(tablo, ayni); yeri != tablo.end()) {
     if (yeri->yap != nullptr) return;
     kayit.kisayol = yeri->kisayol;
-    if (yeri->yap != nullptr) kayit.yap = yeri->yap;
     *yeri = std::move(kayit);
     return;
   }
