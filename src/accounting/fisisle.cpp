@@ -1,7 +1,6 @@
 #include "accounting/fisisle.h"
 
 #include <algorithm>
-#include <ctime>
 #include <limits>
 #include <random>
 
@@ -206,9 +205,7 @@ Sonuc<std::int32_t> FisIsle(Motor& muhasebe, const Fis& fis, const FisIstegi& is
 Baytlar ReferansYap(std::int64_t an, const std::function<int(int)>& rastgele) {
   constexpr int rastgeleSayisi = 3;
   constexpr int enBuyuk = 254;
-  const std::time_t zaman = an;
-  std::tm gun{};
-  ::localtime_r(&zaman, &gun);
+  const std::tm gun = YerelZaman(an);
   Baytlar refer;
   for (const int sayi : {gun.tm_mday, gun.tm_mon + 1, gun.tm_hour, gun.tm_min, gun.tm_sec})
     refer.push_back(std::uint8_t(sayi + 1));

@@ -1,6 +1,5 @@
 #include "core/saat.h"
 
-#include <ctime>
 #include <utility>
 
 namespace belvani {
@@ -10,9 +9,7 @@ Tarih ayarliGun;             // Null: the clock's
 std::int64_t ayarliAn = -1;  // -1: the clock's
 
 Tarih SaatinGunu() {
-  const std::time_t simdi = std::time(nullptr);
-  std::tm yerel{};
-  localtime_r(&simdi, &yerel);
+  const std::tm yerel = YerelZaman(SimdikiAn());
   return Tarih(yerel.tm_year + 1900, yerel.tm_mon + 1, yerel.tm_mday);
 }
 
@@ -42,11 +39,16 @@ void SabitAn::Gec(std::int64_t saniye) {
   ayarliAn += saniye;
 }
 
-std::string AnMetni(std::int64_t an) {
+std::tm YerelZaman(std::int64_t an) {
   const std::time_t zaman = an;
   std::tm yerel{};
-  char metin[32] = {};
   localtime_r(&zaman, &yerel);
+  return yerel;
+}
+
+std::string AnMetni(std::int64_t an) {
+  const std::tm yerel = YerelZaman(an);
+  char metin[32] = {};
   std::strftime(metin, sizeof metin, "%d.%m.%Y %H:%M", &yerel);
   return metin;
 }

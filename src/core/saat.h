@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <ctime>
 #include <string>
 
 #include "core/tarih.h"
@@ -27,7 +28,7 @@ class SabitGun {
 // Seconds since 1970.
 std::int64_t SimdikiAn();
 
-// While it lives, it is this moment.
+// While it lives, it is this moment, and today its day.
 class SabitAn {
  public:
   explicit SabitAn(std::int64_t an);
@@ -40,6 +41,9 @@ class SabitAn {
  private:
   std::int64_t onceki_;
 };
+
+// The moment on the computer's own calendar and clock.
+std::tm YerelZaman(std::int64_t an);
 
 // As a user reads it, in the computer's time: "22.11.2026 09:15".
 std::string AnMetni(std::int64_t an);

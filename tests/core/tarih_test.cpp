@@ -82,6 +82,13 @@ TEST(Tarih, TodayIsTheDayThatWasSetWhileItIsSet) {
     }
     EXPECT_EQ(Tarih::Bugun(), ilk);
   }
+  {
+    SabitAn an(1'250'000'000);
+    EXPECT_EQ(Tarih::Bugun().Metin(), AnMetni(SimdikiAn()).substr(0, 10)) << "a moment has its day";
+    const Tarih gun = Tarih::Bugun();
+    an.Gec(10 * 86'400);
+    EXPECT_EQ(Tarih::Bugun(), gun.Ekle(10));
+  }
   EXPECT_GT(Tarih::Bugun(), Tarih(2020, 1, 1)) << "the clock's again";
 }
 

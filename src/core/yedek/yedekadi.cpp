@@ -1,10 +1,10 @@
 #include "core/yedek/yedekadi.h"
 
 #include <algorithm>
-#include <ctime>
 #include <set>
 #include <tuple>
 
+#include "core/saat.h"
 #include "core/sayi.h"
 
 namespace belvani {
@@ -80,9 +80,7 @@ bool DahaEski(const YedekAdi& a, const YedekAdi& b) {
 }
 
 YedekAdi SimdikiYedekAdi(YedekTuru tur) {
-  const std::time_t simdi = std::time(nullptr);
-  std::tm saat{};
-  ::localtime_r(&simdi, &saat);
+  const std::tm saat = YerelZaman(SimdikiAn());
   char metin[SaatBoyu + 1];
   std::strftime(metin, sizeof metin, "%H%M%S", &saat);
   return {.gun = Tarih::Bugun(), .saat = metin, .tur = tur};

@@ -8,6 +8,7 @@
 
 #include "core/asama.h"
 #include "core/dosya.h"
+#include "core/saat.h"
 #include "core/sinamalar.h"
 #include "core/yedek/arsiv.h"
 #include "core/yedek/ozet.h"
@@ -168,6 +169,8 @@ TEST(YedekAdi, SaysWhenAndWhy) {
         "2026-11-02-06101-elle.zip", "2026-11-02-06101x-elle.zip", "2026-11-02-061011-baska.zip",
         "2026-11-02-061011-elle-2.zip", "2026-11-02-061011-elle.zip.part", "x2026-11-02-061011-elle.zip"})
     EXPECT_FALSE(YedekAdi::Oku(ad)) << ad;
+  const SabitAn an(1'250'000'000);
+  EXPECT_EQ(SimdikiYedekAdi(YedekTuru::Elle).Zaman(), AnMetni(SimdikiAn())) << "of the moment that the program goes by";
 }
 
 // A year and a half of daily backups, two on some days, and others between them.
