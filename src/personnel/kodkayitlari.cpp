@@ -1,7 +1,5 @@
 #include "personnel/kodkayitlari.h"
 
-#include <algorithm>
-
 #include "core/store/kisibordrolari.h"
 #include "core/tables/kodtasiyanlar.h"
 #include "core/tables/tablolar.h"
@@ -9,8 +7,6 @@
 
 namespace belvani {
 namespace {
-
-constexpr std::string_view BagliTablolar[] = {Esco::TabloAdi, Dvr::TabloAdi, Cari::TabloAdi};
 
 std::size_t KayitSayisi(Motor& motor, std::string_view tablo, std::string_view kod) {
   if (motor.Kolonlar(tablo).empty()) return 0;  // a store of an earlier version
@@ -28,10 +24,6 @@ std::vector<KodKaydi> KodunKayitlari(Motor& motor, std::string_view kod) {
   kayitlar.push_back({"brdonceki", "saklanan bordro", SaklananlarinNumaralari(motor, kod).size()});
   std::erase_if(kayitlar, [](const KodKaydi& k) { return k.sayi == 0; });
   return kayitlar;
-}
-
-bool BagliMi(const KodKaydi& kayit) {
-  return std::ranges::find(BagliTablolar, kayit.tablo) != std::end(BagliTablolar);
 }
 
 std::string KayitSayilari(const std::vector<KodKaydi>& kayitlar) {

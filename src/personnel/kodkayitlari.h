@@ -19,9 +19,6 @@ struct KodKaydi {
 // The tables that hold records of the code, with their number. Throws MotorHatasi.
 std::vector<KodKaydi> KodunKayitlari(Motor& motor, std::string_view kod);
 
-// Those of the family, of closed years and of the account, which a change of a code leaves behind unless it is told.
-bool BagliMi(const KodKaydi& kayit);
-
 // "eş ve çocuk 3, devir 1".
 std::string KayitSayilari(const std::vector<KodKaydi>& kayitlar);
 

@@ -20,7 +20,6 @@ class UcretDuzenleme {
   // Writes what differs from what was read in `ucret` and `ucrettipi`; gives the card as it is stored now.
   Yazim<Sicil> Yaz(const Okunan<Sicil>& kart);
 
-  bool GeriAlinirMi() const { return !yazilanlar_.empty(); }
   // Takes the last write back that is not taken back yet, and gives the card. Where somebody has changed the same field
   // since, his value stays: that is the fault, and the write before comes next.
   Sonuc<Sicil> GeriAl();

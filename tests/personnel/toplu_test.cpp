@@ -123,7 +123,7 @@ TEST_F(TopluTest, WagesAreWrittenAndTakenBack) {
   EXPECT_EQ(duzenleme.GeriAl()->ucret, Tutar());
   EXPECT_EQ(KartBul(o, "1")->verda, "Konak");
   EXPECT_EQ(KartBul(o, "1")->ucrettipi, 2);
-  EXPECT_FALSE(duzenleme.GeriAlinirMi());
+  EXPECT_EQ(duzenleme.GeriAl().KusurMetni(), "Geri alınacak değişiklik yok");
 }
 
 TEST_F(TopluTest, WagesOutOfAFile) {

@@ -8,7 +8,6 @@
 #include <array>
 #include <cstdint>
 #include <string_view>
-#include <utility>
 
 #include "core/session/oturum.h"
 
@@ -94,30 +93,6 @@ inline constexpr RenkSecimi RenkSecimleri[] = {
     {Renk::IpucuText, "İpucu Text"},
     {Renk::ToplamArka, "Toplam Arka Plan"},
     {Renk::ToplamText, "Toplam Text"},
-};
-
-// Text and the background that it may stand on.
-inline constexpr std::pair<Renk, Renk> YaziZeminleri[] = {
-    {Renk::GridBaslikText, Renk::GridBaslik},
-    {Renk::GridZebraText, Renk::GridZebra},
-    {Renk::GridSeciliText, Renk::GridSecili},
-    {Renk::GridAktifText, Renk::GridAktif},
-    {Renk::SorguBaslikText, Renk::SorguBaslik},
-    {Renk::SorguText, Renk::Sorgu},
-    {Renk::Yazi, Renk::FormArka},
-    {Renk::Yazi, Renk::TextArka},
-    {Renk::Yazi, Renk::TextOdakArka},
-    {Renk::Yazi, Renk::PencereArka},
-    {Renk::SolukYazi, Renk::FormArka},
-    {Renk::SolukYazi, Renk::TextArka},
-    {Renk::SolukYazi, Renk::PencereArka},
-    {Renk::VurguText, Renk::Vurgu},
-    {Renk::GridText, Renk::GridArka},
-    {Renk::PasifText, Renk::PasifArka},
-    {Renk::HataText, Renk::HataArka},
-    {Renk::MenuText, Renk::MenuArka},
-    {Renk::IpucuText, Renk::IpucuArka},
-    {Renk::ToplamText, Renk::ToplamArka},
 };
 
 // Near-white warm grey surfaces, and dark slate ones; both with a blue-green accent.

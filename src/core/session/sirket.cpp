@@ -69,12 +69,6 @@ Sonuc<std::string> SirketBul(const VeriYolu& veri, std::string_view metin) {
   return Kusur{std::move(kusur)};
 }
 
-Sonuc<std::string> SirketDizini(const VeriYolu& veri, std::string_view metin) {
-  const auto ad = SirketBul(veri, metin);
-  if (!ad) return ad.Kusuru();
-  return veri.Alt(*ad).Adres();
-}
-
 std::vector<std::string> Sirketler(const VeriYolu& veri) {
   std::vector<std::string> adlar = veri.Altlar();
   std::sort(adlar.begin(), adlar.end(), [](const auto& a, const auto& b) {

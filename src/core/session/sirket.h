@@ -24,9 +24,6 @@ std::vector<std::string> UyanSirketler(const VeriYolu& veri, std::string_view me
 // The one directory that the text means, as it is spelled. None and several are faults; the latter names them.
 Sonuc<std::string> SirketBul(const VeriYolu& veri, std::string_view metin);
 
-// Its place, with a separator at the end.
-Sonuc<std::string> SirketDizini(const VeriYolu& veri, std::string_view metin);
-
 // Names of all company directories, in Turkish order.
 std::vector<std::string> Sirketler(const VeriYolu& veri);
 

@@ -36,10 +36,6 @@ void HerBordro(Motor& motor, const std::string& kolonlar, std::string_view kod, 
 
 }  // namespace
 
-std::vector<int> BordroYillari(Motor& motor) {
-  return Yillar(motor, 0, 9999);
-}
-
 std::vector<Brd> KisininBordrolari(Motor& motor, std::string_view kod, const AyAraligi& aylar) {
   std::vector<Brd> kayitlar;
   HerBordro(motor, SecimListesi<Brd>(motor), kod, aylar,

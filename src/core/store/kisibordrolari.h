@@ -24,9 +24,6 @@ struct AyAraligi {
   int sonAy = 12;
 };
 
-// The years of which the company has pay records, in order.
-std::vector<int> BordroYillari(Motor& motor);
-
 // The records in the order of their months and numbers. The code ignores case.
 std::vector<Brd> KisininBordrolari(Motor& motor, std::string_view kod, const AyAraligi& aylar = {});
 

@@ -29,6 +29,30 @@ double Karsitlik(std::uint32_t a, std::uint32_t b) {
   return (cok + 0.05) / (az + 0.05);
 }
 
+// Text and the background that it may stand on.
+constexpr std::pair<Renk, Renk> YaziZeminleri[] = {
+    {Renk::GridBaslikText, Renk::GridBaslik},
+    {Renk::GridZebraText, Renk::GridZebra},
+    {Renk::GridSeciliText, Renk::GridSecili},
+    {Renk::GridAktifText, Renk::GridAktif},
+    {Renk::SorguBaslikText, Renk::SorguBaslik},
+    {Renk::SorguText, Renk::Sorgu},
+    {Renk::Yazi, Renk::FormArka},
+    {Renk::Yazi, Renk::TextArka},
+    {Renk::Yazi, Renk::TextOdakArka},
+    {Renk::Yazi, Renk::PencereArka},
+    {Renk::SolukYazi, Renk::FormArka},
+    {Renk::SolukYazi, Renk::TextArka},
+    {Renk::SolukYazi, Renk::PencereArka},
+    {Renk::VurguText, Renk::Vurgu},
+    {Renk::GridText, Renk::GridArka},
+    {Renk::PasifText, Renk::PasifArka},
+    {Renk::HataText, Renk::HataArka},
+    {Renk::MenuText, Renk::MenuArka},
+    {Renk::IpucuText, Renk::IpucuArka},
+    {Renk::ToplamText, Renk::ToplamArka},
+};
+
 TEST(Renkler, EveryTextIsReadable) {
   EXPECT_NEAR(Karsitlik(0, 0xFFFFFF), 21, 0.01);
   for (const auto& tablo : {AcikRenkler(), KoyuRenkler()}) {

@@ -156,7 +156,7 @@ TEST_F(SirketYedegi, MadeWhileOthersWrite) {
   for (const YedekSatiri& y : SirketYedekleri(o.DataPath, "DENEME")) {
     const std::string kod = "k" + std::to_string(y.ad.sira) + y.ad.saat;
     ASSERT_TRUE(*YedektenDon(o.DataPath, {.dosya = y.yol, .yeniKod = kod}, b));
-    const auto motor = MotorAc(*SirketDizini(o.DataPath, kod) + "tolu.dat");
+    const auto motor = MotorAc(DepoAdresi(VeriYolu(o.DataPath).Alt(*SirketBul(o.DataPath, kod))));
     EXPECT_EQ(motor->ButunlukKusuru(), "");
     const auto toplam = motor->Hazirla("select sum(ucret) from sicil");
     ASSERT_TRUE(toplam->Adim());
