@@ -32,7 +32,8 @@ std::vector<Alan> KomutAlanlari() {
 AlanGrubu Bicim() {
   return {"Biçim",
           {{Uye("satirArasi", &SayfaDuzeni::satirArasi), "Satırlar Arasında", {.liste = SatirArasiAdlari}},
-           {Uye("kolonArasi", &SayfaDuzeni::kolonArasi), "Kolonlar Arasında", {.liste = KolonArasiAdlari}}}};
+           {Uye("kolonArasi", &SayfaDuzeni::kolonArasi), "Kolonlar Arasında", {.liste = KolonArasiAdlari}},
+           SskSirasiAlani()}};
 }
 
 AlanSutunlari BordroAlanlari() {

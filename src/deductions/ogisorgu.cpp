@@ -1,5 +1,7 @@
 #include "deductions/ogisorgu.h"
 
+#include <algorithm>
+
 #include "core/asama.h"
 #include "core/store/satirlar.h"
 #include "core/tables/bordronosu.h"
@@ -15,8 +17,8 @@ constexpr int IlkNo = 1, SonNo = 99;
 std::vector<OgiKisisi> DevirleriOku(Motor& motor, const DefterSecim& secim, int yil, OgiKosulu kosul,
                                     Ilerleme* ilerleme) {
   SorguMetni sorgu(
-      "select d.kod, s.adi, s.soyadi, s.ciktar, d.gvmatrah, d.ogimatrah, d.ogitutar, d.ogiodenen from dvr d join sicil "
-      "s on s.kod = d.kod where d.yil = ?",
+      "select d.kod, s.adi, s.soyadi, s.ciktar, s.sskno, d.gvmatrah, d.ogimatrah, d.ogitutar, d.ogiodenen from dvr d "
+      "join sicil s on s.kod = d.kod where d.yil = ?",
       {std::int64_t(yil)});
   sorgu.Ekle(kosul == OgiKosulu::HarcamaliOlanlar ? " and d.ogimatrah > 0" : " and d.ogitutar > 0");
   sorgu.Aralik("d.kod", secim.kod);
@@ -34,7 +36,8 @@ std::vector<OgiKisisi> DevirleriOku(Motor& motor, const DefterSecim& secim, int 
     KolonAl(*komut, 1, sicil.adi);
     KolonAl(*komut, 2, sicil.soyadi);
     KolonAl(*komut, 3, k.ciktar);
-    int sonraki = 4;
+    KolonAl(*komut, 4, k.sskno);
+    int sonraki = 5;
     for (Tutar* tutar : {&k.gvmatrah, &k.ogimatrah, &k.ogitutar, &k.ogiodenen}) KolonAl(*komut, sonraki++, *tutar);
     k.adSoyad = AdSoyad(sicil);
   }
@@ -74,6 +77,7 @@ std::vector<OgiKisisi> OgiKisileriOku(Motor& motor, const DefterSecim& secim, co
   auto kisiler = DevirleriOku(motor, secim, aylar.yil - 1, kosul, ilerleme);
   for (OgiKisisi& k : kisiler) k.aylar.resize(std::size_t(aylar.sayi));
   if (aylar.sayi > 0 && !kisiler.empty()) OdenenleriOku(motor, secim, aylar, kisiler, ilerleme);
+  if (secim.sira == DefterSirasi::SskNo) std::ranges::stable_sort(kisiler, {}, &OgiKisisi::sskno);
   return kisiler;
 }
 

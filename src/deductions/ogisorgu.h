@@ -15,6 +15,7 @@ namespace belvani {
 struct OgiKisisi {
   std::string kod;
   std::string adSoyad;
+  std::string sskno;
   Tarih ciktar;
   Tutar gvmatrah, ogimatrah, ogitutar, ogiodenen;
   std::vector<std::optional<Tutar>> aylar;  // of the months asked for; none: no pay record
@@ -29,7 +30,7 @@ struct OgiAyAraligi {
 
 enum class OgiKosulu { HarcamaliOlanlar, HakEdenler };  // an expense above zero, a refund above zero
 
-// Of the selection's ranges, in the order of codes, from the year before `aylar.yil`. Throws MotorHatasi.
+// Of the selection's ranges, in its order, from the year before `aylar.yil`. Throws MotorHatasi.
 std::vector<OgiKisisi> OgiKisileriOku(Motor& motor, const DefterSecim& secim, const OgiAyAraligi& aylar,
                                       OgiKosulu kosul, Ilerleme* ilerleme = nullptr);
 

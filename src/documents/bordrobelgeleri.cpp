@@ -23,17 +23,6 @@ constexpr std::string_view IzinSozcukleri[] = {"icmal", "personel", "donem"};
 
 constexpr MevzuatRakami AgiDamgasi{.ad = "A.G.İ. damga vergisi", .agiOdenmisse = true};
 
-// Stored as an order of the rows, chosen as a check box.
-Alan SskSirasiAlani() {
-  return Alan(
-      AlanTanimi{"sskSirasi", AlanTipi::Mantik, 0, AlanNiteligi::Serbest}, typeid(DefterSecim),
-      [](const void* secim) { return Deger(static_cast<const DefterSecim*>(secim)->sira == DefterSirasi::SskNo); },
-      [](void* secim, const Deger& d) {
-        static_cast<DefterSecim*>(secim)->sira = MantikDegeri(d) ? DefterSirasi::SskNo : DefterSirasi::Kod;
-      },
-      "SSK No Sırasına Göre");
-}
-
 AlanGrubu DefterBicimi() {
   const auto satirArasi = [](auto& s) -> auto& {
     return s.duzen.satirArasi;

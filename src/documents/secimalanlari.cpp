@@ -58,6 +58,16 @@ AlanGrubu DonemAlanlari(const char* yilEtiketi, const char* ayEtiketi) {
           2};
 }
 
+Alan SskSirasiAlani() {
+  return Alan(
+      AlanTanimi{"sskSirasi", AlanTipi::Mantik, 0, AlanNiteligi::Serbest}, typeid(DefterSecim),
+      [](const void* secim) { return Deger(static_cast<const DefterSecim*>(secim)->sira == DefterSirasi::SskNo); },
+      [](void* secim, const Deger& d) {
+        static_cast<DefterSecim*>(secim)->sira = MantikDegeri(d) ? DefterSirasi::SskNo : DefterSirasi::Kod;
+      },
+      "SSK No Sırasına Göre");
+}
+
 AlanGrubu KodAraligi(const char* kodEtiketi) {
   AlanGrubu grup{BaslangicBitis, {}, 2};
   AralikEkle(grup, kodlar, kodEtiketi, true);

@@ -19,6 +19,8 @@ AlanGrubu DonemAlanlari(const char* yilEtiketi, const char* ayEtiketi);
 // "Satırlar Arasında", "Kolonlar Arasında" of the lists.
 inline constexpr std::string_view SatirArasiAdlari[] = {"Çizgi Çek", "Boş Satır", "Hiçbiri"};
 inline constexpr std::string_view KolonArasiAdlari[] = {"Boş Bırak", "Dik Çizgi"};
+// Order of the rows: stored as one, chosen as a check box.
+Alan SskSirasiAlani();
 // People from and to, by code alone; by code, group, type and own code; `numarali`: by run number too.
 AlanGrubu KodAraligi(const char* kodEtiketi);
 AlanGrubu AralikAlanlari(bool numarali, const char* kodEtiketi);

@@ -73,6 +73,24 @@ TEST_F(OgiListesi, WhoLeavesWithinTheMonthIsStillInWork) {
   EXPECT_TRUE(OgiBordroBelgesi(Kaynak(), secim, {}, {}, {})->Kayitsiz());
 }
 
+// With the people go their payments.
+TEST_F(OgiListesi, StandsInTheOrderOfSskNumbersWhereThatIsChosen) {
+  for (const char* kod : {"1", "2", "3"}) {
+    s.Kisi(kod);
+    s.Devir(kod, 2004, 5000, 1000, 80);
+    s.Odeme(kod, 2005, 2, double(*kod - '0'));
+  }
+  s.motor().Calistir("update sicil set sskno = case kod when '1' then '9' when '2' then '7' else '8' end");
+  const auto kolon = [&](const char* baslik) {
+    return Kolon(*Bordro(OgiTuru::Calisan, OgiUrunu::OdemeListesi), baslik);
+  };
+  const auto odenen = kolon("Mahsup Edilen");
+  secim.sira = DefterSirasi::SskNo;
+  EXPECT_THAT(kolon("Sicil No"), ElementsAre("2", "3", "1"));
+  EXPECT_THAT(kolon("Mahsup Edilen"), ElementsAre(odenen.at(1), odenen.at(2), odenen.at(0)));
+  EXPECT_NE(odenen.at(0), odenen.at(1));
+}
+
 TEST_F(OgiListesi, ColumnsAndTheirSums) {
   s.Kisi("1", {}, "A");
   s.Kisi("2", {}, "B");
