@@ -9,7 +9,6 @@
 #include "core/dosya.h"
 #include "declarations/bildirgekagidi.h"
 #include "ekran/ortam.h"
-#include "screens/declarations/intefrm.h"
 #include "screens/declarations/yzckopy.h"
 
 namespace belvani::test {
@@ -398,19 +397,6 @@ TEST(Yaylik, APaperNeedsAChoice) {
   ortam.Bas(Qt::Key_F8);  // the dialog has been answered: nothing asks again
   ASSERT_EQ(ortam.kuyruk.isler.size(), 1u);
   EXPECT_EQ(ortam.kuyruk.isler[0].ad, "AYLIK BİLDİRGE EK-3");
-}
-
-TEST(Intefrm, TheAddressIsSavedAndOpened) {
-  EkranOrtami ortam;
-  auto& form = ortam.Ac<intefrm>("/tmp/a/bildirge.xml");
-  ortam.Yaz("ftp://a");
-  ortam.Bas(Qt::Key_F5);
-  EXPECT_THAT(ortam.bildirim.Al(), ElementsAre(HasSubstr("http:// veya https://")));
-  YaziBul(form, "adres").selectAll();
-  ortam.Yaz("https://ornek.gov.tr/b");
-  ortam.Bas(Qt::Key_F5);
-  EXPECT_THAT(ortam.acilanlar, ElementsAre("https://ornek.gov.tr/b"));
-  EXPECT_EQ(AlanMetni(ortam.Ac<intefrm>("x"), "adres"), "https://ornek.gov.tr/b");
 }
 
 }  // namespace

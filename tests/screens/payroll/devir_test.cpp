@@ -2,12 +2,12 @@
 // months.
 #include "screens/payroll/devir.h"
 
+#include "ekran/kisiler.h"
 #include "ekran/ortam.h"
 #include "payroll/devir/aylikbilgi.h"
 #include "payroll/devir/cari.h"
 #include "payroll/devir/devirkaydi.h"
 #include "payroll/hazirlik/hazirlik.h"
-#include "personnel/kart.h"
 #include "screens/payroll/devkon.h"
 #include "screens/payroll/kartxfrm.h"
 #include "screens/payroll/otokes.h"
@@ -21,16 +21,7 @@ struct DevirEkranlari : testing::Test {
   EkranOrtami ortam;
   Oturum& o = ortam.oturum;
 
-  void SetUp() override {
-    for (const char* kod : {"001", "002"}) {
-      Sicil s;
-      s.kod = kod;
-      s.adi = kod[2] == '1' ? "Işıl" : "Can";
-      s.soyadi = "Öz";
-      s.girtar = Tarih(2005, 1, 1);
-      ASSERT_TRUE(KartKaydet(o, {.simdi = s}));
-    }
-  }
+  void SetUp() override { IkiKisiKaydet(o); }
   void Ay(const char* kod, int yil, int ay, double matrah) {
     Brd b;
     b.kod = kod;

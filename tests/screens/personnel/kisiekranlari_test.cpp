@@ -1,5 +1,6 @@
 #include <fstream>
 
+#include "ekran/kisiler.h"
 #include "ekran/ortam.h"
 #include "personnel/aile.h"
 #include "personnel/kart.h"
@@ -15,16 +16,7 @@ namespace {
 struct KisiEkranlari : testing::Test {
   EkranOrtami ortam;
 
-  void SetUp() override {
-    for (const char* kod : {"001", "002"}) {
-      Sicil s;
-      s.kod = kod;
-      s.adi = kod[2] == '1' ? "Işıl" : "Can";
-      s.soyadi = "Öz";
-      s.girtar = Tarih(2005, 1, 1);
-      ASSERT_TRUE(KartKaydet(ortam.oturum, {.simdi = s}));
-    }
-  }
+  void SetUp() override { IkiKisiKaydet(ortam.oturum); }
   std::vector<Esco> Aile(const char* kod) { return AileOku(ortam.oturum, kod); }
 };
 

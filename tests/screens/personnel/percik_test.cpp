@@ -3,6 +3,7 @@
 
 #include "core/saat.h"
 #include "core/session/sirket.h"
+#include "ekran/kisiler.h"
 #include "ekran/ortam.h"
 #include "personnel/kart.h"
 #include "screens/personnel/kaydetve.h"
@@ -18,14 +19,7 @@ struct Percik : testing::Test {
   percik* form = nullptr;
 
   void SetUp() override {
-    for (const char* kod : {"001", "002"}) {
-      Sicil s;
-      s.kod = kod;
-      s.adi = kod[2] == '1' ? "Ali" : "Can";
-      s.soyadi = "Veli";
-      s.girtar = Tarih(2005, 1, 1);
-      ASSERT_TRUE(KartKaydet(ortam.oturum, {.simdi = s}));
-    }
+    IkiKisiKaydet(ortam.oturum, "Ali", "Veli");
     form = &ortam.Ac<percik>(ortam.parametreler);
   }
   std::string Metin(std::string_view ad) { return AlanMetni(*form, ad); }
