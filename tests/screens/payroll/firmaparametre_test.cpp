@@ -5,6 +5,7 @@
 #include "screens/payroll/fazmes.h"
 #include "screens/payroll/indfrm.h"
 #include "screens/payroll/kykm.h"
+#include "screens/payroll/puantaj.h"
 #include "screens/payroll/sabpu.h"
 #include "screens/payroll/sendtan.h"
 #include "screens/payroll/yrdisim.h"
@@ -88,6 +89,17 @@ TEST(Sabpu, WritesTheWholeRecordAndCloses) {
   EXPECT_EQ(sablon.SablonGun[1], Tek(5));
   EXPECT_EQ(sablon.SablonYardim[1], Tutar(110.5));
   EXPECT_EQ(sablon.SablonYardimTip[1], 2);
+}
+
+TEST(Puantaj, StandsInTheWorkingMonthWithItsColumns) {
+  EkranOrtami ortam;
+  auto& form = ortam.Ac<puantaj>();
+  EXPECT_EQ(TamDegeri(AlanBul(form, "ay").Oku()), 7);
+  EXPECT_EQ(TamDegeri(AlanBul(form, "yil").Oku()), 2009);
+  std::string kolonlar;
+  for (const auto& kolon : form.findChild<dclist*>()->Model().Kolonlar()) kolonlar += Utf8(kolon.ad) + " ";
+  EXPECT_EQ(kolonlar, "kod adsoy ucr ng ht rt ui ig is fm1 fm2 fm3 ");
+  EXPECT_EQ(form.findChild<dclist*>()->ListCount(), 0);
 }
 
 TEST(Sendtan, AddsChangesAndDeletesAUnion) {
