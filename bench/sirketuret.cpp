@@ -7,6 +7,7 @@
 #include "core/tables/muaf.h"
 #include "payroll/parametre/indir.h"
 #include "payroll/parametre/mevzuat.h"
+#include "payroll/parametre/mevzuatkumesi.h"
 
 namespace belvani::bench {
 namespace {

@@ -6,6 +6,7 @@
 
 #include "cli/jsonkayit.h"
 #include "payroll/hazirlik/kisi.h"
+#include "payroll/hesap/bordro.h"
 
 namespace belvani::cli {
 

@@ -13,6 +13,7 @@
 #include <optional>
 
 #include "core/store/motor.h"
+#include "payroll/parametre/mevzuatdenetimi.h"
 #include "severance/kidemkosullari.h"
 #include "severance/kidemtavani.h"
 

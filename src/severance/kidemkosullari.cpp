@@ -1,5 +1,7 @@
 #include "severance/kidemkosullari.h"
 
+#include "payroll/parametre/dosyalar.h"
+
 namespace belvani {
 namespace {
 

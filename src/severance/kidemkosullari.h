@@ -2,7 +2,7 @@
 #pragma once
 
 #include "documents/belgetanimi.h"
-#include "payroll/hazirlik/kosullar.h"
+#include "payroll/hazirlik/firmaparametreleri.h"
 #include "payroll/hesap/tazminat.h"
 
 namespace belvani {

@@ -2,10 +2,11 @@
 // but the first its user makes the printer ready.
 #pragma once
 
-#include "printing/belge.h"
 #include "ui/ekran.h"
 
 namespace belvani {
+
+class Belge;
 
 struct MetinBasimi {
   // Told where the file of the job cannot be opened.

@@ -9,6 +9,7 @@
 #include "core/store/satirlar.h"
 #include "core/tables/tablolar.h"
 #include "deductions/ogilistesi.h"
+#include "payroll/parametre/dosyalar.h"
 
 namespace belvani::test {
 

@@ -13,6 +13,7 @@
 #include "gecici.h"
 #include "payroll/hazirlik/kosullar.h"
 #include "payroll/parametre/indir.h"
+#include "payroll/parametre/mevzuatkumesi.h"
 
 namespace belvani::test {
 

@@ -8,6 +8,7 @@
 #include "app/anaortam.h"
 #include "core/dosya.h"
 #include "core/saat.h"
+#include "core/sayi.h"
 #include "core/surum.h"
 #include "core/tables/tablolar.h"
 #include "ui/dclist.h"

@@ -17,6 +17,7 @@
 #include "bildirim.h"
 #include "gecici.h"
 #include "payroll/hazirlik/parametredeposu.h"
+#include "payroll/parametre/dosyalar.h"
 #include "payroll/parametre/mevzuat.h"
 #include "printing/sahtekuyruk.h"
 #include "printing/sahteport.h"

@@ -4,6 +4,7 @@
 #include "core/saat.h"
 #include "core/sinamalar.h"
 #include "core/turkce.h"
+#include "payroll/parametre/dosyalar.h"
 #include "printing/xlsxoku.h"
 #include "severance/kidembelgesi.h"
 #include "severance/sirket.h"

@@ -3,6 +3,7 @@
 
 #include <random>
 
+#include "payroll/parametre/dosyalar.h"
 #include "severance/kidembelgesi.h"
 #include "severance/sirket.h"
 

@@ -12,9 +12,10 @@
 #include <cstdint>
 #include <functional>
 
+#include "core/session/oturum.h"
 #include "core/store/cakisma.h"
 #include "core/store/yon.h"
-#include "payroll/hazirlik/kosullar.h"
+#include "payroll/hazirlik/firmaparametreleri.h"
 
 namespace belvani {
 

@@ -20,6 +20,7 @@
 #include "core/store/yon.h"
 #include "payroll/hazirlik/hazirlik.h"
 #include "payroll/hazirlik/mevzuatsorusu.h"
+#include "payroll/hesap/bordro.h"
 
 namespace belvani {
 

@@ -13,6 +13,7 @@
 #include "core/bildirim.h"
 #include "core/sonuc.h"
 #include "core/store/cakisma.h"
+#include "core/tables/brd.h"
 #include "payroll/hazirlik/kisi.h"
 
 namespace belvani {

@@ -7,6 +7,7 @@
 
 #include "core/tables/sicil.h"
 #include "payroll/hazirlik/kosullar.h"
+#include "payroll/hesap/bordro.h"
 
 namespace belvani {
 

@@ -1,61 +1,12 @@
 #include "payroll/hazirlik/kosullar.h"
 
-#include <algorithm>
-
 #include "core/store/koru.h"
-#include "core/store/satirlar.h"
-#include "core/tables/firma.h"
-#include "core/tables/muaf.h"
-#include "core/turkce.h"
+#include "payroll/parametre/mevzuatkumesi.h"
 
 namespace belvani {
 namespace {
 
 constexpr double VarsayilanIsSaati = 8;
-
-constexpr std::array<Kolon<Kaztan, std::uint8_t>, KazancSayisi> GrupKazanclari{
-    kaztan::k1, kaztan::k2, kaztan::k3, kaztan::k4, kaztan::k5, kaztan::k6, kaztan::k7, kaztan::k8, kaztan::k9};
-constexpr std::array<Kolon<Kaztan, std::uint8_t>, YardimSayisi> GrupYardimlari{
-    kaztan::y1, kaztan::y2, kaztan::y3, kaztan::y4,  kaztan::y5, kaztan::y6,
-    kaztan::y7, kaztan::y8, kaztan::y9, kaztan::y10, kaztan::y11};
-
-const Kaztan* GrupBul(const std::vector<Kaztan>& gruplar, std::string_view grup) {
-  const auto i =
-      std::find_if(gruplar.begin(), gruplar.end(), [&](const Kaztan& g) { return TurkceEsit(g.grup, grup); });
-  return i == gruplar.end() ? nullptr : &*i;
-}
-
-void VarsayilanGrubuSec(FirmaParametreleri& f, const Firma& firma) {
-  f.ondegerYazili = !Kirp(firma.ondeger).empty();
-  f.varsayilanGrup = Kirp(f.ondegerYazili ? firma.ondeger : KartsizFirma().ondeger);
-}
-
-void VarsayilanGrubuEkle(Motor& motor, FirmaParametreleri& firma, const std::string& grup,
-                         const KazancBayraklari& dosyadan) {
-  if (GrupBul(firma.gruplar, grup) != nullptr) return;
-  Islem islem(motor);
-  // Another computer may have been quicker.
-  firma.gruplar = KayitlariOku<Kaztan>(motor);
-  if (GrupBul(firma.gruplar, grup) == nullptr) {
-    firma.gruplar.push_back(GrupSatiri(grup, dosyadan));
-    KayitYazici<Kaztan>(motor).Ekle(firma.gruplar.back());
-  }
-  islem.Onayla();
-}
-
-void YardimlariOku(Motor& motor, YardimTanimlari& yardimlar) {
-  yardimlar = VarsayilanYardimlar();
-  for (const Muaf& satir : KayitlariOku<Muaf>(motor)) {
-    if (satir.no < 1 || satir.no > YardimSayisi) continue;
-    yardimlar[satir.no - 1u] = {satir.adi, satir.indtip, satir.oran, satir.sabit};
-  }
-}
-
-template <class T>
-T Al(FirmaParametreleri& firma, Yukleme<T> yukleme) {
-  for (auto& uyari : yukleme.uyarilar) firma.uyarilar.push_back(std::move(uyari));
-  return std::move(yukleme.deger);
-}
 
 std::string Satirlar(const char* baslik, const std::vector<std::string>& uyarilar) {
   std::string metin = baslik;
@@ -64,33 +15,6 @@ std::string Satirlar(const char* baslik, const std::vector<std::string>& uyarila
 }
 
 }  // namespace
-
-FirmaParametreleri KazancGruplariOku(Motor& motor, const Firma& firma, const VeriYolu& sirket) {
-  FirmaParametreleri f;
-  f.gruplar = KayitlariOku<Kaztan>(motor);
-  VarsayilanGrubuSec(f, firma);
-  if (GrupBul(f.gruplar, f.varsayilanGrup) == nullptr)
-    f.gruplar.push_back(GrupSatiri(f.varsayilanGrup, Al(f, KazancBayraklariYukle(sirket))));
-  f.varsayilan = KazancGrupYukle(f, f.varsayilanGrup);
-  return f;
-}
-
-FirmaParametreleri FirmaDosyalariYukle(Oturum& o) {
-  Motor& motor = o.depo.db.IcMotor();
-  FirmaParametreleri f;
-  f.gruplar = KayitlariOku<Kaztan>(motor);
-  const auto dosyadan = Al(f, KazancBayraklariYukle(o.FirmaDizini));
-  VarsayilanGrubuSec(f, o.firma);
-  VarsayilanGrubuEkle(motor, f, f.varsayilanGrup, dosyadan);
-  f.varsayilan = KazancGrupYukle(f, f.varsayilanGrup);
-  f.mesailer = Al(f, FazlaMesaiYukle(o.FirmaDizini));
-  f.sablon = Al(f, SablonOku(o.FirmaDizini));
-  YardimlariOku(motor, f.yardimlar);
-  for (Indir& satir : KayitlariOku<Indir>(motor))
-    if (satir.no >= 1 && satir.no <= f.indirimler.size()) f.indirimler[satir.no - 1u] = std::move(satir);
-  f.sendikalar = KayitlariOku<Sendika>(motor);
-  return f;
-}
 
 Sonuc<YasalParametreler> YasalParametreleriAl(const KuruluMevzuat& kurulu) {
   const MevzuatGorusu gorus = KullanilabilirMi(kurulu);
@@ -130,40 +54,6 @@ Sonuc<Kosullar> KosullariKur(const Oturum& o, const YasalParametreler& yasal, co
   k.uygulama = UygulamaBul(yasal.kanunlar, ay, yil);
   KartKosullariniKoy(k, o.firma);
   return k;
-}
-
-KazancBayraklari GrupBayraklari(const Kaztan& satir) {
-  KazancBayraklari b;
-  for (std::size_t i = 0; i < b.k.size(); ++i) b.k[i] = satir.*GrupKazanclari[i].uye;
-  for (std::size_t i = 0; i < b.y.size(); ++i) b.y[i] = satir.*GrupYardimlari[i].uye;
-  return b;
-}
-
-Kaztan GrupSatiri(std::string_view grup, const KazancBayraklari& b) {
-  Kaztan satir;
-  satir.grup = grup;
-  for (std::size_t i = 0; i < b.k.size(); ++i) satir.*GrupKazanclari[i].uye = b.k[i];
-  for (std::size_t i = 0; i < b.y.size(); ++i) satir.*GrupYardimlari[i].uye = b.y[i];
-  return satir;
-}
-
-KazancBayraklari KazancGrupYukle(const FirmaParametreleri& firma, std::string_view grup) {
-  const std::string_view ad = Kirp(grup);
-  if (ad.empty()) return firma.varsayilan;
-  const Kaztan* satir = GrupBul(firma.gruplar, ad);
-  return satir == nullptr ? KazancBayraklari{} : GrupBayraklari(*satir);
-}
-
-bool KazancGrubuVar(const FirmaParametreleri& firma, std::string_view grup) {
-  return Kirp(grup).empty() || GrupBul(firma.gruplar, Kirp(grup)) != nullptr;
-}
-
-const Sendika* SendikaBul(const FirmaParametreleri& firma, std::string_view tasno) {
-  const std::string_view kod = Kirp(tasno);
-  if (kod.empty()) return nullptr;
-  for (const Sendika& s : firma.sendikalar)
-    if (TurkceEsit(s.kod, kod)) return &s;
-  return nullptr;
 }
 
 }  // namespace belvani

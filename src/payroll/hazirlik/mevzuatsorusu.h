@@ -13,6 +13,7 @@
 #include <set>
 
 #include "payroll/hazirlik/parametredeposu.h"
+#include "payroll/parametre/mevzuatkumesi.h"
 
 namespace belvani {
 

@@ -1,5 +1,7 @@
 #include "payroll/hazirlik/parametredeposu.h"
 
+#include "payroll/parametre/mevzuatkumesi.h"
+
 namespace belvani {
 
 Lira DefterLirasi(const Oturum& o, int yil) {

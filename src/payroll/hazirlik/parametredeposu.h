@@ -4,9 +4,13 @@
 
 #include "payroll/hazirlik/firmadurumu.h"
 #include "payroll/parametre/mevzuat.h"
-#include "payroll/parametre/mevzuatkumesi.h"
 
 namespace belvani {
+
+struct MevzuatAyi;  // payroll/parametre/mevzuatkumesi.h
+struct MevzuatGorusu;
+struct MevzuatIstegi;
+struct MevzuatKurulumu;
 
 // The unit of the company's books of a year: six zeros were dropped on 01.01.2005; books before that in the old lira
 // have no decimals.
@@ -31,7 +35,7 @@ struct ParametreDeposu {
 
   // Fetches the law of a month in the lira of the company's books, all of it or one file, and loads it. On failure
   // nothing has changed.
-  Sonuc<MevzuatKurulumu> MevzuatiGetir(const Oturum& o, MevzuatAyi ay, const MevzuatIstegi& istek = {});
+  Sonuc<MevzuatKurulumu> MevzuatiGetir(const Oturum& o, MevzuatAyi ay, const MevzuatIstegi& istek);
 
   std::uint64_t yasalSurumu = 0;
 };

@@ -7,6 +7,7 @@
 #include "core/session/yukseltme.h"
 #include "core/store/koru.h"
 #include "payroll/hazirlik/mahsupkaybi.h"
+#include "payroll/parametre/mevzuatkumesi.h"
 
 namespace belvani {
 namespace {

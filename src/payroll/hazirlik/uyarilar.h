@@ -5,6 +5,7 @@
 #include <string>
 
 #include "payroll/hazirlik/kisi.h"
+#include "payroll/hesap/bordro.h"
 
 namespace belvani {
 

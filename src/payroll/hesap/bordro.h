@@ -19,16 +19,14 @@
 
 #include "core/koru.h"
 #include "core/tables/brd.h"
-#include "core/tables/indir.h"
 #include "core/tables/sendika.h"
 #include "core/tables/sicil.h"
 #include "payroll/hesap/agi.h"
+#include "payroll/hesap/indirim.h"
 #include "payroll/hesap/iz.h"
 #include "payroll/parametre/parametreler.h"
 
 namespace belvani {
-
-using IndirimTanimlari = std::array<std::optional<Indir>, 3>;
 
 // Values that one calculation reads. What it points to must outlive the call.
 struct BordroGirdi {

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string_view>
 
 #include "core/tables/indir.h"
@@ -26,6 +27,9 @@ enum class IndirimYeri : std::uint8_t {
 inline constexpr std::array<std::string_view, 5> IndirimYerleri{"Hiçbiri", "Özel Emeklilik", "Özel Sigorta",
                                                                 "Özel Emeklilik+Sigorta", "Askerlik"};
 static_assert(ListeyeUyar(indir::indtip, IndirimYerleri.size()));
+
+// Rows of the three lines; none: not defined.
+using IndirimTanimlari = std::array<std::optional<Indir>, 3>;
 
 struct IndirimGirdisi {
   const Indir& tanim;  // the deduction's row

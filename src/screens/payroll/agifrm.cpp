@@ -1,5 +1,7 @@
 #include "screens/payroll/agifrm.h"
 
+#include "payroll/parametre/dosyalar.h"
+#include "payroll/parametre/indir.h"
 #include "screens/payroll/parametrealani.h"
 
 namespace belvani {

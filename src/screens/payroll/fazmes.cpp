@@ -1,5 +1,6 @@
 #include "screens/payroll/fazmes.h"
 
+#include "payroll/parametre/dosyalar.h"
 #include "screens/payroll/parametrealani.h"
 
 namespace belvani {

@@ -1,7 +1,8 @@
 #include "screens/payroll/gvtablo.h"
 
+#include "payroll/parametre/dosyalar.h"
 #include "payroll/parametre/ekrankurallari.h"
-#include "payroll/parametre/mevzuat.h"
+#include "payroll/parametre/indir.h"
 #include "screens/payroll/parametrealani.h"
 
 namespace belvani {

@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "core/turkce.h"
+#include "payroll/parametre/dosyalar.h"
 #include "payroll/parametre/ekrankurallari.h"
 
 namespace belvani {

@@ -1,5 +1,6 @@
 #include "screens/payroll/heskod.h"
 
+#include "payroll/parametre/indir.h"
 #include "screens/payroll/parametrealani.h"
 
 namespace belvani {

@@ -2,6 +2,7 @@
 
 #include <QTimer>
 
+#include "payroll/parametre/dosyalar.h"
 #include "payroll/parametre/ekrankurallari.h"
 #include "screens/payroll/parametrealani.h"
 #include "ui/metin.h"

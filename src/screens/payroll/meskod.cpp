@@ -1,5 +1,6 @@
 #include "screens/payroll/meskod.h"
 
+#include "payroll/parametre/dosyalar.h"
 #include "payroll/parametre/meslekdosyasi.h"
 #include "screens/payroll/parametrealani.h"
 #include "ui/uzunis.h"

@@ -11,6 +11,8 @@
 
 namespace belvani {
 
+enum class ParametreDosyasi;  // payroll/parametre/indir.h
+
 class ParametreEkrani : public Form {
  protected:
   ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametreler, const QString& kelime, const QString& baslik);

@@ -1,6 +1,7 @@
 #include "screens/payroll/sabpu.h"
 
 #include "payroll/hesap/satirlar.h"
+#include "payroll/parametre/dosyalar.h"
 
 namespace belvani {
 namespace {

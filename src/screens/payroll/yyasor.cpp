@@ -3,7 +3,7 @@
 #include <set>
 
 #include "payroll/parametre/ekrankurallari.h"
-#include "payroll/parametre/mevzuat.h"
+#include "payroll/parametre/mevzuatkumesi.h"
 #include "screens/payroll/kolonbasliklari.h"
 #include "screens/payroll/parametrealani.h"
 

@@ -2,7 +2,7 @@
 
 #include <QGroupBox>
 
-#include "core/tables/kimlik.h"
+#include "ozluk/vizitekagidi.h"
 
 namespace belvani {
 namespace {

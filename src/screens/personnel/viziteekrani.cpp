@@ -1,7 +1,7 @@
 #include "screens/personnel/viziteekrani.h"
 
-#include "core/tables/kimlik.h"
 #include "core/turkce.h"
+#include "ozluk/vizitekagidi.h"
 #include "personnel/kart.h"
 #include "ui/xtext.h"
 

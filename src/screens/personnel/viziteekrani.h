@@ -6,11 +6,14 @@
 // What stands in the fields goes on the paper; nothing is saved. A code that nobody has leaves the fields as they are.
 #pragma once
 
-#include "ozluk/vizitekagidi.h"
+#include "core/tables/kimlik.h"
+#include "ozluk/vizite.h"
 #include "screens/personnel/personelformu.h"
 #include "ui/sayfabasimi.h"
 
 namespace belvani {
+
+struct ViziteKagidi;
 
 class ViziteEkrani : public PersonelFormu {
  protected:

@@ -4,6 +4,7 @@
 #include <QGroupBox>
 
 #include "core/tables/esco.h"
+#include "ozluk/vizitekagidi.h"
 #include "ui/metin.h"
 
 namespace belvani {

@@ -1,6 +1,7 @@
 // kidempar ("Kıdem Parametreleri"): the year of service of the company, and the allowance lines of both pays.
 #pragma once
 
+#include "payroll/parametre/tazminatparametreleri.h"
 #include "screens/payroll/parametreekrani.h"
 
 namespace belvani {

@@ -27,7 +27,7 @@ struct AgdakiSirket : test::Sirket {
     for (int i = 0; i < KisiSayisi; ++i) Kisi(Kod(i), 1000 + i);
     uzak.DataPath = VeriYolu(ag.Adres(veriYeri.Veritabani())).Adres();
     if (const Durum acildi = SirketAc(uzak, "DENEME", bildirim); !acildi) throw std::runtime_error(acildi.KusurMetni());
-    test::Al(depo.MevzuatiGetir(uzak, {2009, 7}));
+    test::Al(depo.MevzuatiGetir(uzak, {2009, 7}, {}));
     FirmaYukle(uzak);
     test::Al(depo.firma.Yukle());
     uzak.firma.firmayil = 2009;

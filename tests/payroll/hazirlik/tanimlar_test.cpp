@@ -6,6 +6,7 @@
 
 #include "core/ortam.h"
 #include "core/store/engel.h"
+#include "payroll/parametre/mevzuatkumesi.h"
 #include "sirket.h"
 
 namespace belvani {

@@ -8,6 +8,7 @@
 
 #include "core/session/sirket.h"
 #include "payroll/parametre/indir.h"
+#include "payroll/parametre/mevzuatkumesi.h"
 #include "sirket.h"
 
 namespace belvani::test {
