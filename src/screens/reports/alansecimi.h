@@ -6,11 +6,13 @@
 
 namespace belvani {
 
+inline constexpr std::string_view AlanSecimiAdi = "alan";
+
 // `alanlar` names the choices, in their order. A column whose field is not among them shows none, and keeps it.
 template <class Kolon>
 Alan AlanSecimi(std::span<const RaporAlani> alanlar, std::span<const std::string_view> adlar) {
   return Alan(
-      AlanTanimi{"alan", AlanTipi::Uzun, 0, AlanNiteligi::Serbest}, typeid(Kolon),
+      AlanTanimi{AlanSecimiAdi, AlanTipi::Uzun, 0, AlanNiteligi::Serbest}, typeid(Kolon),
       [alanlar, adlar](const void* kolon) -> Deger {
         const RaporAlani* alan = RaporAlaniBul(alanlar, static_cast<const Kolon*>(kolon)->alan);
         const auto yeri = alan == nullptr ? adlar.end() : std::ranges::find(adlar, alan->ad);

@@ -6,6 +6,7 @@
 #include "core/store/koru.h"
 #include "core/turkce.h"
 #include "documents/listebelgesi.h"
+#include "screens/reports/alansecimi.h"
 #include "ui/basim.h"
 #include "ui/kodrehberi.h"
 #include "ui/listedoldur.h"
@@ -131,7 +132,7 @@ void RaporEkrani<Kolon>::AlanSecildi(AlanDenetimi& alan) {
     if (alan.Satir().kayitTuru != typeid(RaporAdi)) OnizlemeYenile();
     return;
   }
-  if (alan.Satir().tanim.ad != "alan") return;
+  if (alan.Satir().tanim.ad != AlanSecimiAdi) return;
   Kolon secilen;
   alan.Satir().yaz(&secilen, alan.Oku());
   const Kolon baslayan = Baslayan(secilen);
