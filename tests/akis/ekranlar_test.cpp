@@ -271,6 +271,25 @@ TEST(Ekranlar, ACellOpenWhileItsScreenClosesIsTaken) {
   EXPECT_EQ(AileOku(ortam.oturum, "001")[0].tcno, "10000000146");
 }
 
+// With all lines that come and go in sight, the payroll screen stands whole in the window of a small display.
+TEST(Ekranlar, ThePayrollScreenHasRoomForItsWarnings) {
+  KisiliOrtam ortam;
+  ortam.oturum.depo.db.IcMotor().Calistir("update sicil set sakatdrc = 1, tasno = 'YOK' where kod = '001'");
+  const Form* form = ortam.EkranAc("brdhazir");
+  ASSERT_NE(form, nullptr);
+  ortam.Yaz("001\n");
+  QStringList metinler;
+  for (const QWidget* parca : Gorunenler(*form))
+    if (const auto* etiket = qobject_cast<const QLabel*>(parca)) {
+      metinler += etiket->text();
+      EXPECT_TRUE(YaziSigar(*etiket)) << Tanit(*etiket);
+    }
+  for (const char* soz : {"SSK'dan muaf", "Sendika tanımlı değil"})
+    EXPECT_EQ(metinler.filter(QString::fromUtf8(soz)).size(), 1) << soz;
+  const auto* govde = form->findChild<QScrollArea*>("govde");
+  EXPECT_EQ(govde->horizontalScrollBar()->maximum() + govde->verticalScrollBar()->maximum(), 0) << "it must scroll";
+}
+
 TEST(Ekranlar, TitlesAreUnique) {
   KisiliOrtam ortam;
   QMap<QString, QString> basliklar;  // whose each is; two entries of the menu may open one screen

@@ -34,6 +34,7 @@ brdhazir::brdhazir(EkranBaglami& baglam, ParametreDeposu& parametreler)
       kaynak_(Liste(this)),
       kisi_(new QLabel(this)),
       uyari_(new QLabel(this)),
+      girisler_(new QHBoxLayout),
       kusur_(new QLabel(this)),
       muafiyet_(new QLabel(this)),
       neden_(new NedenPaneli(this)) {
@@ -297,12 +298,10 @@ void brdhazir::Goster() {
                         : Yazi(giris_.CalismaSatiri()));
   UyariRengi(panel.has_value());
   const auto& kusur = giris_.HesapKusuru();
-  const std::string uyari = giris_.KisiUyarisi();
-  kusur_->setText(Yazi(kusur ? kusur->metin : uyari));
-  kusur_->setVisible(kusur || !uyari.empty());
+  KusurYaz(Yazi(kusur ? kusur->metin : giris_.KisiUyarisi()));
   const MuafiyetPaneli& muafiyet = giris_.Toplamlar().panel;
-  muafiyet_->setText("SSK'dan muaf " + Para(muafiyet.muaf) + "   Vergi indirimleri " + Para(muafiyet.indirim) +
-                     "   Toplam " + Para(muafiyet.toplam));
+  muafiyet_->setText("SSK'dan muaf " + Para(muafiyet.muaf) + "\nVergi indirimleri " + Para(muafiyet.indirim) +
+                     "\nToplam " + Para(muafiyet.toplam));
   muafiyet_->setVisible(muafiyet.toplam > Tutar());
   AcikAlanlariKur();
 }

@@ -34,6 +34,7 @@ class brdhazir : public Form {
   void UstSatirYap();
   void KodAlaniYap(QHBoxLayout* satir);
   void GovdeYap();
+  void KusurYaz(const QString& metin);
   void TuslariBagla();
 
   void AlanaGirildi(AlanDenetimi* yeni);
@@ -70,6 +71,7 @@ class brdhazir : public Form {
   QComboBox* kaynak_;
   QLabel* kisi_;
   QLabel* uyari_;
+  QHBoxLayout* girisler_;  // the columns that are typed into
   QLabel* kusur_;
   QLabel* muafiyet_;
   NedenPaneli* neden_;

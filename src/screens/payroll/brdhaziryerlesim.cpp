@@ -11,6 +11,24 @@ namespace belvani {
 namespace {
 
 constexpr int UyariAraligi = 600;  // ms, of the blinking warning
+constexpr int KusurPayi = 20;      // dots, around the words of the line of faults
+
+// Broken between words into lines of at most that width.
+QString Katla(const QString& metin, const QFontMetrics& harfler, int en) {
+  QStringList satirlar;
+  for (const QString& satir : metin.split('\n')) {
+    QString dolan;
+    for (const QString& kelime : satir.split(' ')) {
+      const QString uzun = dolan.isEmpty() ? kelime : dolan + ' ' + kelime;
+      if (!dolan.isEmpty() && harfler.horizontalAdvance(uzun) > en)
+        satirlar += std::exchange(dolan, kelime);
+      else
+        dolan = uzun;
+    }
+    satirlar += dolan;
+  }
+  return satirlar.join('\n');
+}
 
 }  // namespace
 
@@ -64,28 +82,41 @@ void brdhazir::KodAlaniYap(QHBoxLayout* satir) {
   satir->addStretch(1);
 }
 
+// As wide as the fields above it; a label that breaks its lines itself would make the screen ask for more room than
+// that.
+void brdhazir::KusurYaz(const QString& metin) {
+  kusur_->setText(Katla(metin, kusur_->fontMetrics(), girisler_->sizeHint().width() - KusurPayi));
+  kusur_->setVisible(!metin.isEmpty());
+}
+
 void brdhazir::GovdeYap() {
   SikDiz();
   auto* orta = new QHBoxLayout;
   orta->setSpacing(5);  // all four columns stand in a window of 1280
-  const auto sutun = [&](const std::vector<AlanGrubu>& gruplar) {
+  girisler_->setSpacing(5);
+  const auto sutun = [&](QHBoxLayout* yeri, const std::vector<AlanGrubu>& gruplar) {
     auto* dikey = new QVBoxLayout;
     for (const AlanGrubu& grup : gruplar) dikey->addWidget(GrupYap(grup));
     dikey->addStretch(1);
-    orta->addLayout(dikey);
+    yeri->addLayout(dikey);
     return dikey;
   };
-  sutun({GunGrubu()});
-  sutun({YardimGrubu(giris_.Kosul().firma.yardimlar)});
-  sutun(OzetGruplari());
+  // Lines that come and go stand below what is typed, where the columns beside it are longer: nothing scrolls for them.
+  sutun(girisler_, {GunGrubu()})->insertWidget(1, muafiyet_);
+  sutun(girisler_, {YardimGrubu(giris_.Kosul().firma.yardimlar)});
+  auto* sol = new QVBoxLayout;
+  sol->setSpacing(3);
+  sol->addLayout(girisler_);
+  sol->addWidget(kusur_);
+  sol->addStretch(1);
+  orta->addLayout(sol);
+  kusur_->setProperty("hata", true);
+  muafiyet_->setProperty("soluk", true);
+  sutun(orta, OzetGruplari());
   // What is typed comes before what follows from it, in the order of Tab too.
   auto* eksikGun = GrupYap(EksikGunGrubu());
-  sutun(AyrintiGruplari())->insertWidget(0, eksikGun);
+  sutun(orta, AyrintiGruplari())->insertWidget(0, eksikGun);
   Govde()->addLayout(orta);
-  kusur_->setProperty("hata", true);
-  Alt()->addWidget(kusur_);
-  muafiyet_->setProperty("soluk", true);
-  Alt()->addWidget(muafiyet_);
   Alt()->addWidget(neden_);
   YaziKutusu(bordroalani::net).setProperty("toplam", true);
   YaziKutusu(bordroalani::brut).setProperty("toplam", true);
