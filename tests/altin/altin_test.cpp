@@ -9,9 +9,26 @@
 #include "altin/ogikagitlari.h"
 #include "altin/vizitekagitlari.h"
 #include "altin/yerlesimkagitlari.h"
+#include "registry/belgeler.h"
 
 namespace belvani::test {
 namespace {
+
+// A paper of the registry that has no records of its own yet, drawn as its screen would in the last month.
+Kagitlar KayitsizBelgeler(const Kagitlar& kayitlilar) {
+  Kagitlar kagitlar;
+  for (const BelgeTanimi& tanim : Belgeler()) {
+    const auto onun = [&](const Kagit& k) { return k.ad.starts_with(tanim.komut); };
+    if (tanim.komut.empty() || std::ranges::any_of(kayitlilar, onun)) continue;
+    kagitlar.push_back(Cizim(SonAy, std::string(tanim.komut).c_str(), [&tanim](OrnekSirket& o) {
+      const auto secim = tanim.secim();
+      secim->AyKoy(o.donem.yil, o.donem.ay);
+      secim->FirmaKoy(o.oturum.firma);
+      return secim->BelgeYap(o.Kaynak());
+    }));
+  }
+  return kagitlar;
+}
 
 // By month: each one's law is installed once.
 const Kagitlar& ButunKagitlar() {
@@ -21,6 +38,7 @@ const Kagitlar& ButunKagitlar() {
          {KomutKagitlari(), CizilenListeler(), BildirgeKagitlari(), BildirimKagitlari(), KisiKagitlari(),
           ViziteKagitlari(), OgiKagitlari(), BildirimKomutlari(), CizilenBildirimler(), YerlesimKagitlari()})
       kagitlar.insert(kagitlar.end(), grup.begin(), grup.end());
+    std::ranges::copy(KayitsizBelgeler(kagitlar), std::back_inserter(kagitlar));
     std::ranges::stable_sort(kagitlar, {}, [](const Kagit& k) { return k.ay.Metin(); });
     return kagitlar;
   }();
