@@ -4,6 +4,7 @@
 
 #include "core/sayi.h"
 #include "core/yuvarlama.h"
+#include "printing/yzccnt.h"
 
 namespace belvani {
 namespace {
@@ -81,15 +82,15 @@ std::string YevmiyeMaddesi(const Fis& fis, const FisBasligi& baslik, const Hesap
                       (donem.grup == ButunGruplar ? "" : ", " + Yorum(donem.grup) + " grubu") + "\n";
   if (fis.satirlar.empty()) return metin;
   const auto satirlar = MaddeSatirlari(fis, plan);
-  std::size_t hesapEni = 0, tutarEni = 0;
+  int hesapEni = 0, tutarEni = 0;
   for (const MaddeSatiri& s : satirlar) {
-    hesapEni = std::max(hesapEni, HarfSayisi(s.hesap));
-    tutarEni = std::max(tutarEni, s.tutar.size());
+    hesapEni = std::max(hesapEni, int(HarfSayisi(s.hesap)));
+    tutarEni = std::max(tutarEni, int(HarfSayisi(s.tutar)));
   }
   metin += baslik.tarih.Iso() + " " + fis.ack + "\n";
   for (const MaddeSatiri& s : satirlar)
-    metin += "    " + s.hesap + std::string(hesapEni - HarfSayisi(s.hesap) + 2 + tutarEni - s.tutar.size(), ' ') +
-             s.tutar + ParaBirimi + (s.ad.empty() ? "" : "  ; " + s.ad) + "\n";
+    metin += "    " + Solda(s.hesap, hesapEni) + "  " + Sagda(s.tutar, tutarEni) + ParaBirimi +
+             (s.ad.empty() ? "" : "  ; " + s.ad) + "\n";
   return metin;
 }
 

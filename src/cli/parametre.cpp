@@ -5,6 +5,7 @@
 #include "payroll/hazirlik/kosullar.h"
 #include "payroll/parametre/mevzuat.h"
 #include "payroll/parametre/uyeler.h"
+#include "printing/yzccnt.h"
 
 namespace belvani::cli {
 namespace {
@@ -107,7 +108,7 @@ std::string ParametreMetni(const Json& j) {
   std::string metin;
   for (const auto& [ad, deger] : j.items()) {
     if (ad == "dallar" || ad == "kanun") continue;
-    metin += ad + std::string(ad.size() < 14 ? 14 - ad.size() : 1, ' ');
+    metin += Solda(ad, 13) + " ";
     if (!deger.is_array())
       metin += (deger.is_string() ? deger.get<std::string>() : deger.dump());
     else

@@ -88,7 +88,7 @@ std::vector<std::string> DonemDegerleri(const DonemAylari& aylar, int paraonda) 
 void BelgeKutusu(FormKurucu& f, int satir, const Duzen& d, const std::string& sayfaAdi) {
   constexpr double yari = BelgeEni / 2;
   const DortAylikKagidi& kagit = d.kagit;
-  f.Bolum(SatirYeri(BelgeX, satir, BelgeEni, 3), sayfaAdi, 12);
+  f.SayfaAdi(SatirYeri(BelgeX, satir, BelgeEni, 3), sayfaAdi, 12);
   satir = Kutucuklar(f, BelgeX, satir + 3,
                      {{yari, "Yıl", 14, "yil", std::to_string(kagit.secim.yil)},
                       {yari, "Dönem", 14, "donem", std::to_string(kagit.secim.donem)}});

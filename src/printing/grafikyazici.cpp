@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "printing/sayfalayici.h"
+#include "printing/yzccnt.h"
 
 namespace belvani {
 namespace {
@@ -22,6 +23,7 @@ class RaporKalemi {
       : rapor_(rapor),
         duzen_(duzen),
         tuval_(tuval),
+        bas_(tuval.Kalip("baş")),
         bicim_(bicim),
         kalin_(bicim.yazi),
         sayfaSayisi_(std::size_t(sayfaSayisi)) {
@@ -53,7 +55,7 @@ class RaporKalemi {
         return KolonBasliklari(satir.sira);
       case SayfaSatirTuru::Cizgi: {
         const double orta = y_ + bicim_.satirBoyu / 2;
-        return tuval_.Cizgi({KenarMm, orta}, {KenarMm + TabloEni(), orta}, InceCizgi);
+        return yzccnt(tuval_).YzcCizgi(KenarMm, orta, KenarMm + TabloEni(), orta);
       }
       case SayfaSatirTuru::Bos:
         return;
@@ -82,7 +84,7 @@ class RaporKalemi {
   void BaslikCiz() {
     YaziBicimi yazi = kalin_;
     yazi.punto *= BaslikOrani;
-    MetinKutuya(tuval_, Yer(0, bicim_.en), rapor_.baslik, yazi, MetinHizasi::Orta);
+    MetinKutuya(bas_, Yer(0, bicim_.en), rapor_.baslik, yazi, MetinHizasi::Orta);
   }
 
   // Left, middle and right part. Where they would touch, all are printed narrower and the middle one moves.
@@ -96,16 +98,20 @@ class RaporKalemi {
     const double enSol = ust.sol.empty() ? 0 : en(ust.sol) + ara;
     const double enSag = bicim_.en - en(sag) - ara - en(ust.orta);
     const double orta = std::max(enSol, std::min((bicim_.en - en(ust.orta)) / 2, enSag));
-    MetinKutuya(tuval_, Yer(0, bicim_.en), ust.sol, yazi, MetinHizasi::Sol);
-    MetinKutuya(tuval_, Yer(orta, bicim_.en), ust.orta, yazi, MetinHizasi::Sol);
-    MetinKutuya(tuval_, Yer(0, bicim_.en), sag, yazi, MetinHizasi::Sag);
+    yzccnt kalem(ust.sayfaNo || ust.sayfaSayisi ? tuval_ : bas_, yazi);
+    const double y = y_ + (boy_ - SatirBoyu(yazi)) / 2;
+    const auto yaz = [&](const std::string& metin, double x, MetinHizasi hiza) {
+      if (!metin.empty()) kalem.YzcHizali(metin, KenarMm + x, y, bicim_.en, 0, yazi.kalinlik, hiza);
+    };
+    yaz(ust.sol, 0, MetinHizasi::Sol);
+    yaz(ust.orta, orta, MetinHizasi::Sol);
+    yaz(sag, bicim_.en, MetinHizasi::Sag);
   }
 
   void KolonBasliklari(std::size_t sira) {
-    Tuval& kalip = tuval_.Kalip("başlık " + std::to_string(sira) + " " + std::to_string(y_));
-    kalip.DoluKutu({KenarMm, y_, TabloEni(), bicim_.satirBoyu}, AcikGri);
+    bas_.DoluKutu({KenarMm, y_, TabloEni(), bicim_.satirBoyu}, AcikGri);
     for (std::size_t k = 0; k < bicim_.kolonlar.size(); ++k)
-      MetinKutuya(kalip, Yer(bicim_.kolonlar[k].x, bicim_.kolonlar[k].en), bicim_.kagit.basliklar[k][sira], kalin_,
+      MetinKutuya(bas_, Yer(bicim_.kolonlar[k].x, bicim_.kolonlar[k].en), bicim_.kagit.basliklar[k][sira], kalin_,
                   Hiza(rapor_.Kolonlar()[k]));
   }
 
@@ -154,6 +160,7 @@ class RaporKalemi {
   const Rapor& rapor_;
   const GrafikDuzeni& duzen_;
   Tuval& tuval_;
+  Tuval& bas_;  // what stands above the rows of every page, at one place
   const GrafikBicimi& bicim_;
   YaziBicimi kalin_;
   std::size_t sayfaSayisi_;

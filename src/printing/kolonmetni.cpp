@@ -16,10 +16,7 @@ class MetinKolonlari final : public KolonYazici {
 
   std::string metin;
 
-  using KolonYazici::TabloyaBasla;
-
  private:
-  bool SatirAlir() const override { return true; }
   bool SatirVer(const std::string& satir) override {
     metin += satir;
     metin.erase(metin.find_last_not_of(' ') + 1);
@@ -45,13 +42,15 @@ std::string KolonMetni(const Rapor& rapor, const YzcAyarlari& ayar, Tarih bugun,
   assert(!rapor.ToplamVar());
   YzcAyarlari basliginki = ayar;
   if (!ayar.YzcBaslikYaz) basliginki.YzcBaslik.clear();
+  basliginki.YzcDosMod = true;  // also where the text is asked for beside the drawing
   MetinKolonlari yazici(basliginki, bugun);
   const KagitBicimi bicim = KagitBicimle(rapor, {});
   const auto& kolonlar = rapor.Kolonlar();
+  yazici.xprnReset();
   for (std::size_t k = 0; k < kolonlar.size(); ++k)
     yazici.AddKolon(
         {Turu(kolonlar[k]), bicim.basliklar[k][1], bicim.basliklar[k][0], bicim.enler[k], kolonlar[k].ondalik});
-  yazici.TabloyaBasla();
+  yazici.xprnOpen(KolonYazici::MetinModu);
   bool sayfaDoldu = false;
   yazici.SayfaSonu = [&](int& satir) {
     sayfaDoldu = true;
@@ -65,7 +64,7 @@ std::string KolonMetni(const Rapor& rapor, const YzcAyarlari& ayar, Tarih bugun,
     for (std::size_t k = 0; k < kolonlar.size(); ++k) yazici.Bilgi(int(k), Degeri(satir.hucreler[k], kolonlar[k]));
     yazici.LPrn();
   }
-  return std::move(yazici.metin);
+  return yazici.xprnClose() ? std::move(yazici.metin) : std::string();
 }
 
 }  // namespace belvani

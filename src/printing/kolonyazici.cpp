@@ -46,19 +46,29 @@ void KolonYazici::AddKolon(xprnKolonu kolon) {
   kolonlar_.push_back({std::move(kolon)});
 }
 
-void KolonYazici::TabloyuBirak() {
+void KolonYazici::xprnReset() {
   kolonlar_.clear();
   ikiSatirBaslik_ = false;
   sayfaNo_ = 0;
   satir_ = 0;
   sonuSoylendi_ = false;
+  acik_ = true;
 }
 
-void KolonYazici::TabloyaBasla() {
+bool KolonYazici::xprnOpen(int mod) {
+  mod_ = mod == 1 || mod == MetinModu ? prnxTuru(ayar_) : mod;
+  if (mod_ == MetinModu) YoluAc();
   satir_ = 0;
   int en = int(kolonlar_.size()) - 2;
   for (const auto& kolon : kolonlar_) en += kolon.tanim.en;
   xprnYzcEn = std::max(en, 0);
+  return acik_;
+}
+
+Durum KolonYazici::xprnClose() {
+  const Durum durum = mod_ == MetinModu ? YoluKapat() : Tamam();
+  acik_ = false;
+  return durum;
 }
 
 void KolonYazici::Bilgi(int kolon, Hucre deger) {

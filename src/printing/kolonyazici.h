@@ -2,16 +2,20 @@
 // free lines at the foot of a page are counted here, and the owner is asked for head and foot by two events. It is the
 // column mode of the text printer (xprn.h), and writes the text form of the screen's lists (kolonmetni.h).
 //
+//   yazici.xprnReset();
 //   yazici.AddKolon({xprnTuru::Metin, "Adı", "", 20});
 //   yazici.SayfaBasi = [&](int&) { yazici.xPrnNewPage("Şubat"); };
+//   if (!yazici.xprnOpen(KolonYazici::MetinModu)) return;
 //   yazici.Bilgi(0, adi);
 //   yazici.LPrn();
+//   Durum durum = yazici.xprnClose();
 #pragma once
 
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "core/sonuc.h"
 #include "core/tarih.h"
 #include "printing/doskod.h"
 #include "printing/rapor.h"
@@ -34,6 +38,12 @@ class KolonYazici {
  public:
   virtual ~KolonYazici() = default;
 
+  static constexpr int MetinModu = 2;
+
+  void xprnReset();        // no columns, no page; takes lines again
+  bool xprnOpen(int mod);  // 0 none, 1 graphic, 2 text; the print settings correct 1 and 2
+  Durum xprnClose();
+
   void AddKolon(xprnKolonu kolon);     // at most 255
   void Bilgi(int kolon, Hucre deger);  // columns from 0; one that is not there is ignored
   void Bilgi(int kolon, DosBicem bicem, Hucre deger);
@@ -55,8 +65,7 @@ class KolonYazici {
   KolonYazici(const YzcAyarlari& ayar, std::string unvan, std::function<Tarih()> bugun);
   KolonYazici(const KolonYazici&) = default;
 
-  void TabloyuBirak();  // no columns, no page
-  void TabloyaBasla();  // at the first line of a page, as wide as the columns
+  bool acik_ = true;  // false: closed, or stopped by its user
 
  private:
   struct Kolon {
@@ -65,9 +74,12 @@ class KolonYazici {
     DosBicem bicem = DosBicem::Duz;
   };
 
-  virtual bool SatirAlir() const = 0;                   // lines go out
-  virtual bool SatirVer(const std::string& satir) = 0;  // false: this one did not
+  // The way of the lines; a failed one leaves `acik_` false.
+  virtual void YoluAc() { acik_ = true; }
+  virtual Durum YoluKapat() { return Tamam(); }
+  virtual bool SatirVer(const std::string& satir) = 0;  // false: this one did not go out
 
+  bool SatirAlir() const { return acik_ && mod_ == MetinModu; }
   bool SatirYaz(const std::string& satir);
   std::string Cizgi(std::string_view harf) const;
   void SayfaBasligi(const std::string& baslik);
@@ -77,6 +89,7 @@ class KolonYazici {
   std::function<Tarih()> bugun_;
   std::vector<Kolon> kolonlar_;
   bool ikiSatirBaslik_ = false;
+  int mod_ = 0;
   int sayfaNo_ = 0;
   int satir_ = 0;
   bool sonuSoylendi_ = false;

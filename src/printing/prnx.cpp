@@ -43,6 +43,7 @@ bool prnx::OpenPrinter(int tur, const std::string& baslik, prnxAcilis acilis) {
   sayfa_ = 0;
   satir_ = 0;
   sayfaAcik_ = false;
+  harfIzgarasi_ = false;
   sonHata_.clear();
   if (tur == 1) return GrafikAc(acilis);
   if (tur == 2) return HamAc(baslik, acilis);
@@ -65,8 +66,9 @@ prnxIzgara prnx::AyarinIzgarasi(const prnxAcilis& acilis) const {
 bool prnx::GrafikAc(const prnxAcilis& acilis) {
   if (tuval_ == nullptr) return false;
   tur_ = Tur::Grafik;
+  harfIzgarasi_ = acilis.izgara.has_value();
   izgara_ = acilis.izgara ? *acilis.izgara : AyarinIzgarasi(acilis);
-  if (!acilis.izgara) ayar_.YzcSatir = std::min(int((izgara_.kagit.boy - 2 * KenarMm) / izgara_.satirBoyu), EnCokSatir);
+  if (!harfIzgarasi_) ayar_.YzcSatir = std::min(int((izgara_.kagit.boy - 2 * KenarMm) / izgara_.satirBoyu), EnCokSatir);
   return true;
 }
 
@@ -151,7 +153,7 @@ void prnx::HamHucre(std::string_view metin, int en, SatirSonu sonu, MetinHizasi 
 }
 
 void prnx::LinePrint(int en, SatirSonu sonu) {
-  if (tur_ == Tur::Ham) return HamHucre(Yinele("_", en), 0, sonu, MetinHizasi::Sol, {});
+  if (tur_ == Tur::Ham || harfIzgarasi_) return Lprint(Yinele("_", en), 0, sonu);
   if (tur_ != Tur::Grafik) return;
   const double sag = x_ + izgara_.harfEni * en;
   const double orta = y_ + izgara_.satirBoyu / 2;

@@ -35,7 +35,7 @@ struct prnxFont {
   int fontchar = 162;  // Turkish letters
 };
 
-// The cells of letters that a drawn page is divided into.
+// The cells of letters that a drawn page is divided into, for papers that look as a text printer prints them.
 struct prnxIzgara {
   KagitBoyu kagit;
   Nokta bas;  // upper left corner of the first cell
@@ -73,6 +73,7 @@ class prnx {
   // A cell of `en` columns; below 1, as wide as its text. On a drawn page a text that is wider is made narrower.
   void Lprint(std::string_view metin, int en, SatirSonu sonu, MetinHizasi hiza = MetinHizasi::Sol,
               HucreBicem bicem = HucreBicem::Duz);
+  // A rule of as many columns: "_" letters on a raw page and on a grid of letters, else a line.
   void LinePrint(int en, SatirSonu sonu);
 
   const std::string& SonHata() const { return sonHata_; }  // why OpenPrinter gave False
@@ -95,6 +96,7 @@ class prnx {
   int satir_ = 0;
   bool sayfaAcik_ = false;
   prnxIzgara izgara_;
+  bool harfIzgarasi_ = false;  // the caller's own
   double x_ = 0;
   double y_ = 0;
   std::string tampon_;  // the raw line

@@ -18,13 +18,12 @@ std::string Bicemle(std::string baytlar, DosBicem bicem) {
   return baytlar;
 }
 
-constexpr int MetinModu = 2;
 constexpr int AdliPort = 4;  // the fifth port is chosen by its number only
 
 }  // namespace
 
 xprn::xprn(YzcAyarlari& ayar, xprnOrtami ortam)
-    : KolonYazici(ayar, ortam.unvan, ortam.bugun), ayar_(ayar), ortam_(std::move(ortam)) {}
+    : KolonYazici(ayar, ortam.unvan, ortam.bugun), ortam_(std::move(ortam)) {}
 
 bool xprn::OpenDosPrint() {
   dosya_ = GeciciDosya();
@@ -98,34 +97,15 @@ bool xprn::DosDirectPrint2(std::string_view metin, SatirSonu sonu, DosBicem bice
 
 // ---- columns
 
-void xprn::xprnReset() {
-  TabloyuBirak();
-  acik_ = true;
+void xprn::YoluAc() {
+  if (const int no = PortNo(ortam_.portAdi); no >= 0 && no < AdliPort) portNo_ = no;
+  acik_ = CheckDosPrint() && (!dosya_.empty() || OpenDosPrint());
+  if (acik_ && xprnCondencePrint) DosDirectPrint(DosSikisik.ac, SatirSonu::Yok);
 }
 
-bool xprn::SatirAlir() const {
-  return acik_ && mod_ == MetinModu;
-}
-
-bool xprn::xprnOpen(int mod) {
-  mod_ = mod == 1 || mod == 2 ? prnxTuru(ayar_) : mod;
-  if (mod_ == MetinModu) {
-    if (const int no = PortNo(ortam_.portAdi); no >= 0 && no < AdliPort) portNo_ = no;
-    acik_ = CheckDosPrint() && (!dosya_.empty() || OpenDosPrint());
-    if (acik_ && xprnCondencePrint) DosDirectPrint(DosSikisik.ac, SatirSonu::Yok);
-  }
-  TabloyaBasla();
-  return acik_;
-}
-
-Durum xprn::xprnClose() {
-  Durum durum = Tamam();
-  if (mod_ == MetinModu) {
-    if (acik_ && xprnCondencePrint) DosDirectPrint(std::string(DosSikisik.kapat).append(DosSayfaAt), SatirSonu::Yok);
-    durum = CloseDosPrint();
-  }
-  acik_ = false;
-  return durum;
+Durum xprn::YoluKapat() {
+  if (acik_ && xprnCondencePrint) DosDirectPrint(std::string(DosSikisik.kapat).append(DosSayfaAt), SatirSonu::Yok);
+  return CloseDosPrint();
 }
 
 }  // namespace belvani

@@ -2,7 +2,7 @@
 // sends to the printer.
 //
 // Direct use: OpenDosPrint, DosDirectPrint for each piece, CloseDosPrint; paging is the document's own business.
-// Column mode: AddKolon for each column, xprnOpen, then Bilgi and LPrn for each line (kolonyazici.h).
+// Column mode: AddKolon for each column, xprnOpen, then Bilgi and LPrn for each line, xprnClose (kolonyazici.h).
 //
 // The Esc key stops a print at any letter: the rest of the piece goes out unconverted, and every later call returns
 // False, without a message, until xprnReset.
@@ -56,26 +56,18 @@ class xprn : public KolonYazici {
   int DosPrintPort() const { return portNo_; }
   void DosPrintPort(int no);  // 0 to 4; any other is ignored
 
-  // --- columns ---
-
-  void xprnReset();
-  bool xprnOpen(int mod);  // 0 none, 1 graphic, 2 text; the print settings correct 1 and 2
-  Durum xprnClose();
-
-  bool xprnCondencePrint = true;
+  bool xprnCondencePrint = true;  // of the column mode
 
  private:
-  bool SatirAlir() const override;
+  void YoluAc() override;
+  Durum YoluKapat() override;
   bool SatirVer(const std::string& satir) override { return DosDirectPrint(satir, SatirSonu::Var); }
   bool Kes();
   bool BaytGonder(std::uint8_t bayt);
 
-  YzcAyarlari& ayar_;
   xprnOrtami ortam_;
   std::string dosya_;  // where the stream goes; empty: none is open
   std::string akis_;
-  bool acik_ = true;
-  int mod_ = 0;
   int portNo_ = 0;
   std::uint8_t portDurumu_ = 0;
 };

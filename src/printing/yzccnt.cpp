@@ -31,10 +31,13 @@ std::string SolBosluk(std::string_view metin, int n) {
   return Sagda(metin, n);
 }
 
-std::string TutarAlan(Tutar deger, int n, int ondalik, int gruplama) {
+std::string TutarFormat(Tutar deger, int n, int ondalik, int gruplama) {
   std::string metin = SayiFormat(OndalikMetin(deger), ondalik, gruplama);
-  if (int(metin.size()) > n) metin = SayiFormat(OndalikMetin(deger), ondalik, 0);
-  return SolBosluk(metin, n);
+  return int(metin.size()) > n ? SayiFormat(OndalikMetin(deger), ondalik, 0) : metin;
+}
+
+std::string TutarAlan(Tutar deger, int n, int ondalik, int gruplama) {
+  return SolBosluk(TutarFormat(deger, n, ondalik, gruplama), n);
 }
 
 int OrtaYeri(std::string_view metin, int n) {
@@ -58,14 +61,14 @@ std::vector<std::string> SatirlaraBol(std::string_view metin, std::size_t n) {
   return satirlar;
 }
 
-void yzccnt::YzcKutu(double x1, double y1, double x2, double y2) {
+void yzccnt::YzcKutu(double x1, double y1, double x2, double y2, double kalinlik) {
   const auto [sol, sag] = std::minmax(x1, x2);
   const auto [ust, alt] = std::minmax(y1, y2);
-  tuval_.Kutu({sol, ust, sag - sol, alt - ust});
+  tuval_.Kutu({sol, ust, sag - sol, alt - ust}, kalinlik);
 }
 
-void yzccnt::YzcCizgi(double x1, double y1, double x2, double y2) {
-  tuval_.Cizgi({x1, y1}, {x2, y2});
+void yzccnt::YzcCizgi(double x1, double y1, double x2, double y2, double kalinlik) {
+  tuval_.Cizgi({x1, y1}, {x2, y2}, kalinlik);
 }
 
 void yzccnt::YzcYaz(std::string_view metin, double x, double y, double punto, YaziKalinligi kalinlik) {

@@ -26,7 +26,9 @@ std::string SagBosluk(std::string_view metin, int n);
 // Right in n letters: filled up, or cut at its front.
 std::string SolBosluk(std::string_view metin, int n);
 
-// An amount right in n letters. One that is too long loses its thousands marks before it loses digits.
+// An amount by SayiFormat. One with more than n letters gives its thousands marks up.
+std::string TutarFormat(Tutar deger, int n, int ondalik, int gruplama);
+// The same right in n letters, cut at its front where it still is too long.
 std::string TutarAlan(Tutar deger, int n, int ondalik, int gruplama);
 
 // A field of a record (anything with AlanOku), right in n letters.
@@ -47,10 +49,10 @@ std::vector<std::string> SatirlaraBol(std::string_view metin, std::size_t n);
 // Draws on an open page, in its millimetres. The size of letters stays until another one is given.
 class yzccnt {
  public:
-  explicit yzccnt(Tuval& tuval) : tuval_(tuval) {}
+  explicit yzccnt(Tuval& tuval, const YaziBicimi& yazi = {}) : tuval_(tuval), yazi_(yazi) {}
 
-  void YzcKutu(double x1, double y1, double x2, double y2);
-  void YzcCizgi(double x1, double y1, double x2, double y2);
+  void YzcKutu(double x1, double y1, double x2, double y2, double kalinlik = InceCizgi);
+  void YzcCizgi(double x1, double y1, double x2, double y2, double kalinlik = InceCizgi);
 
   // `punto` 0: as before.
   void YzcYaz(std::string_view metin, double x, double y, double punto, YaziKalinligi kalinlik = YaziKalinligi::Normal);

@@ -1,6 +1,7 @@
 #include "severance/kidembelgesi.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "core/turkce.h"
 #include "printing/excelkont.h"
@@ -135,10 +136,12 @@ std::string DegerMetni(const Satir& s, const Cizelge& c, int en) {
 
 enum class Bicim { Metin, Cizim };
 
-std::string SatirMetni(const Satir& s, const Cizelge& c, Bicim bicim) {
+using KagitSatiri = std::optional<std::string>;  // nothing: a rule
+
+KagitSatiri SatirMetni(const Satir& s, const Cizelge& c, Bicim bicim) {
   switch (s.tur) {
     case SatirTuru::Cizgi:
-      return Yinele(bicim == Bicim::Cizim ? "_" : "-", SatirHarfi);
+      return std::nullopt;
     case SatirTuru::Baslik:
       return OrtalaMetin(s.metin, SatirHarfi);
     case SatirTuru::Deger:
@@ -150,13 +153,14 @@ std::string SatirMetni(const Satir& s, const Cizelge& c, Bicim bicim) {
 }
 
 // What follows the empty line and the title.
-std::vector<std::string> GovdeSatirlari(const Cizelge& c, Bicim bicim) {
-  std::vector<std::string> satirlar;
+std::vector<KagitSatiri> GovdeSatirlari(const Cizelge& c, Bicim bicim) {
+  std::vector<KagitSatiri> satirlar;
   for (const Satir& s : Satirlar) satirlar.push_back(SatirMetni(s, c, bicim));
-  if (!c.notlar.empty()) satirlar.emplace_back();
+  if (!c.notlar.empty()) satirlar.emplace_back("");
   for (const std::string& soz : c.notlar)
-    for (std::string& satir : SatirlaraBol(soz, SatirHarfi)) satirlar.push_back(std::move(satir));
-  for (std::string& satir : satirlar) satir.erase(satir.find_last_not_of(' ') + 1);
+    for (std::string& satir : SatirlaraBol(soz, SatirHarfi)) satirlar.emplace_back(std::move(satir));
+  for (KagitSatiri& satir : satirlar)
+    if (satir) satir->erase(satir->find_last_not_of(' ') + 1);
   return satirlar;
 }
 
@@ -173,7 +177,8 @@ class KidemCizimi final : public CizilenBelge {
     yazici.YeniSayfa();
     yazici.Lprint("", 0, SatirSonu::Var);
     yazici.Lprint(OrtalaMetin(KidemBasligi, SatirHarfi), 0, SatirSonu::Var, MetinHizasi::Sol, HucreBicem::Kalin);
-    for (const std::string& satir : satirlar_) yazici.Lprint(satir, 0, SatirSonu::Var);
+    for (const KagitSatiri& satir : satirlar_)
+      satir ? yazici.Lprint(*satir, 0, SatirSonu::Var) : yazici.LinePrint(SatirHarfi, SatirSonu::Var);
     yazici.SayfaBitti(SayfaDibi::Birak);
   }
 
@@ -190,7 +195,7 @@ class KidemCizimi final : public CizilenBelge {
             .yazi = yazi};
   }
 
-  std::vector<std::string> satirlar_;
+  std::vector<KagitSatiri> satirlar_;
 };
 
 // ---- spreadsheet
@@ -247,7 +252,8 @@ std::optional<Tutar> KidemTutariBul(const KidemCizelgesi& cizelge, std::string_v
 
 std::string KidemMetni(const KidemCizelgesi& cizelge) {
   std::string metin = "\n" + OrtalaMetin(KidemBasligi, SatirHarfi) + "\n";
-  for (const std::string& satir : GovdeSatirlari(cizelge, Bicim::Metin)) metin += satir + "\n";
+  for (const KagitSatiri& satir : GovdeSatirlari(cizelge, Bicim::Metin))
+    metin += satir.value_or(Yinele("-", SatirHarfi)) + "\n";
   return metin;
 }
 

@@ -296,5 +296,22 @@ TEST(Prnx, DrawnGrid) {
   EXPECT_GT(o[3].kutu.y, o[1].Alt());
 }
 
+// A grid of letters looks as a text printer prints: a rule is letters too, and the settings keep their lines.
+TEST(Prnx, RulesOnAGridOfLetters) {
+  test::KayitTuvali tuval;
+  YzcAyarlari ayar;
+  prnx yazici(ayar, &tuval, nullptr);
+  ASSERT_TRUE(yazici.OpenPrinter(
+      1, "",
+      {.izgara =
+           prnxIzgara{.kagit = A4(KagitYonu::Dikey), .bas = {10, 10}, .harfEni = 2, .satirBoyu = 5, .yazi = {}}}));
+  yazici.YeniSayfa();
+  yazici.LinePrint(3, SatirSonu::Yok);
+  yazici.Lprint("ab", 2, SatirSonu::Var);
+  ASSERT_TRUE(yazici.ClosePrinter());
+  EXPECT_THAT(tuval.sayfalar.at(0).Satirlar(), ElementsAre("___|ab"));
+  EXPECT_EQ(ayar.YzcSatir, 66);
+}
+
 }  // namespace
 }  // namespace belvani

@@ -143,11 +143,15 @@ TEST(Grafik, DoesNotMixUpForms) {
     FormKurucu form(A4(KagitYonu::Dikey));
     form.Etiket({10, 10, 30, 8}, etiket);
     form.Alan("deger", {40, 10, 30, 8}, "Işıl " + std::to_string(sayfalar.size()));
+    form.SayfaAdi({10, 30, 40, 8}, std::to_string(sayfalar.size() + 1) + ". SAYFA", 12);
     sayfalar.push_back(form.Sayfa());
   }
   const std::string form = yaz(*FormBelgesi({}, sayfalar, "").Cizim());
-  EXPECT_THAT(SayfaMetni(form, 2), AllOf(HasSubstr("Sicil No"), HasSubstr("Işıl 1")));
+  EXPECT_THAT(SayfaMetni(form, 2), AllOf(HasSubstr("Sicil No"), HasSubstr("Işıl 1"), HasSubstr("2. SAYFA")));
   EXPECT_THAT(SayfaMetni(form, 3), AllOf(HasSubstr("Adı Soyadı"), HasSubstr("Işıl 2"), Not(HasSubstr("Sicil"))));
+  KayitTuvali tuval;
+  SayfalariCiz(*FormBelgesi({}, sayfalar, "").Cizim(), tuval);
+  EXPECT_EQ(tuval.kaliplar.size(), 2u) << "pages that differ in values and name alone share their frame";
 
   const Rapor rapor = KalemRaporu(Kalemler(150));
   const std::string liste = yaz(GrafikRapor(rapor, {.yon = {}, .kolonArasi = KolonArasi::DikCizgi}));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -48,6 +49,7 @@ struct KayitSayfasi {
 
 struct KayitTuvali final : Tuval {
   std::vector<KayitSayfasi> sayfalar;
+  std::set<std::string, std::less<>> kaliplar;  // that were asked for
   bool sayfaAcik = false;
 
   void SayfaBasla(KagitBoyu boy) override {
@@ -55,6 +57,10 @@ struct KayitTuvali final : Tuval {
     sayfaAcik = true;
   }
   void SayfaBitir() override { sayfaAcik = false; }
+  Tuval& Kalip(std::string_view anahtar) override {
+    kaliplar.emplace(anahtar);
+    return *this;
+  }
   void Metin(Nokta yer, std::string_view metin, const YaziBicimi& yazi) override {
     Ekle({OgeTuru::Metin, {yer.x, yer.y, MetinEni(metin, yazi), SatirBoyu(yazi)}, std::string(metin), yazi});
   }

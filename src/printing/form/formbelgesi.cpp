@@ -1,7 +1,5 @@
 #include "printing/form/formbelgesi.h"
 
-#include <algorithm>
-
 namespace belvani {
 namespace {
 
@@ -12,11 +10,7 @@ class Cizim final : public CizilenBelge {
   explicit Cizim(Sayfalar sayfalar) : sayfalar_(std::move(sayfalar)) {}
 
   int SayfaSayisi() const override { return int(sayfalar_->size()); }
-  void SayfaCiz(int no, Tuval& tuval) const override {
-    const FormSayfasi& sayfa = sayfalar_->at(std::size_t(no) - 1);
-    const auto ilk = std::ranges::find_if(*sayfalar_, [&](const FormSayfasi& s) { return AyniForm(s, sayfa); });
-    FormCiz(sayfa, tuval, "form " + std::to_string(ilk - sayfalar_->begin()));
-  }
+  void SayfaCiz(int no, Tuval& tuval) const override { FormCiz(sayfalar_->at(std::size_t(no) - 1), tuval); }
 
  private:
   Sayfalar sayfalar_;

@@ -4,6 +4,7 @@
 #include <cassert>
 
 #include "core/turkce.h"
+#include "printing/yzccnt.h"
 
 namespace belvani {
 namespace {
@@ -29,6 +30,33 @@ void AlanCiz(const FormAlani& alan, Tuval& tuval) {
   MetinKutuya(tuval, alan.yer, alan.deger, alan.yazi, alan.hiza);
 }
 
+// All that pages of one frame have in common, as bytes: forms of many thousand pages are not compared with each other.
+std::string CerceveAnahtari(const FormSayfasi& sayfa) {
+  std::string anahtar;
+  const auto ekle = [&](std::initializer_list<double> sayilar) {
+    for (const double sayi : sayilar) anahtar.append(reinterpret_cast<const char*>(&sayi), sizeof sayi);
+  };
+  const auto yer = [&](const Dikdortgen& d) { ekle({d.x, d.y, d.en, d.boy}); };
+  const auto metin = [&](const std::string& m) {
+    ekle({double(m.size())});
+    anahtar += m;
+  };
+  for (const auto& k : sayfa.kutular) yer(k.yer), ekle({k.kalinlik});
+  anahtar += 'c';
+  for (const auto& c : sayfa.cizgiler) ekle({c.bas.x, c.bas.y, c.son.x, c.son.y, c.kalinlik});
+  anahtar += 'r';
+  for (const auto& r : sayfa.resimler) yer(r.yer), metin(r.png);
+  anahtar += 'y';
+  for (const auto& y : sayfa.yazilar) {
+    if (y.sayfanin) continue;
+    yer(y.yer);
+    ekle({y.yazi.punto, double(y.yazi.kalinlik), double(y.yazi.aile), double(y.yazi.durus), y.yazi.genislik,
+          double(y.hiza)});
+    metin(y.metin);
+  }
+  return anahtar;
+}
+
 // Letters without the control characters; a value has no blanks at its ends.
 std::string TemizDeger(std::string_view deger) {
   return std::string(Kirp(DenetimsizMetin(deger)));
@@ -36,20 +64,17 @@ std::string TemizDeger(std::string_view deger) {
 
 }  // namespace
 
-void FormCiz(const FormSayfasi& sayfa, Tuval& tuval, std::string_view kalipAdi) {
+void FormCiz(const FormSayfasi& sayfa, Tuval& tuval) {
   tuval.SayfaBasla(sayfa.boy);
-  Tuval& kalip = kalipAdi.empty() ? tuval : tuval.Kalip(kalipAdi);
-  for (const auto& k : sayfa.kutular) kalip.Kutu(k.yer, k.kalinlik);
-  for (const auto& c : sayfa.cizgiler) kalip.Cizgi(c.bas, c.son, c.kalinlik);
+  Tuval& kalip = tuval.Kalip(CerceveAnahtari(sayfa));
+  yzccnt kalem(kalip);
+  for (const auto& [yer, kalinlik] : sayfa.kutular)
+    kalem.YzcKutu(yer.x, yer.y, yer.x + yer.en, yer.y + yer.boy, kalinlik);
+  for (const auto& c : sayfa.cizgiler) kalem.YzcCizgi(c.bas.x, c.bas.y, c.son.x, c.son.y, c.kalinlik);
   for (const auto& r : sayfa.resimler) kalip.Resim(r.yer, r.png);
-  for (const auto& y : sayfa.yazilar) MetinKutuya(kalip, y.yer, y.metin, y.yazi, y.hiza);
+  for (const auto& y : sayfa.yazilar) MetinKutuya(y.sayfanin ? tuval : kalip, y.yer, y.metin, y.yazi, y.hiza);
   for (const auto& a : sayfa.alanlar) AlanCiz(a, tuval);
   tuval.SayfaBitir();
-}
-
-bool AyniForm(const FormSayfasi& a, const FormSayfasi& b) {
-  return a.boy == b.boy && a.kutular == b.kutular && a.cizgiler == b.cizgiler && a.resimler == b.resimler &&
-         a.yazilar == b.yazilar;
 }
 
 void FormKurucu::Kutu(const Dikdortgen& yer, double kalinlik) {
@@ -81,6 +106,11 @@ void FormKurucu::Baslik(const Dikdortgen& kutu, std::string_view metin, double p
 void FormKurucu::Bolum(const Dikdortgen& kutu, std::string_view metin, double punto, MetinHizasi hiza) {
   Kutu(kutu);
   Baslik(kutu, metin, punto, hiza);
+}
+
+void FormKurucu::SayfaAdi(const Dikdortgen& kutu, std::string_view metin, double punto) {
+  Bolum(kutu, metin, punto);
+  sayfa_.yazilar.back().sayfanin = true;
 }
 
 void FormKurucu::EtiketliCerceve(const Dikdortgen& kutu, std::string_view etiket) {

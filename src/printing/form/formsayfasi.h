@@ -23,30 +23,23 @@ struct FormYazisi {
   std::string metin;
   YaziBicimi yazi;
   MetinHizasi hiza = MetinHizasi::Sol;
-
-  bool operator==(const FormYazisi&) const = default;
+  bool sayfanin = false;  // of this page alone: "3. SAYFA"
 };
 
 struct FormCizgisi {
   Nokta bas;
   Nokta son;
   double kalinlik = InceCizgi;
-
-  bool operator==(const FormCizgisi&) const = default;
 };
 
 struct FormKutusu {
   Dikdortgen yer;
   double kalinlik = InceCizgi;
-
-  bool operator==(const FormKutusu&) const = default;
 };
 
 struct FormResmi {
   Dikdortgen yer;
   std::string png;
-
-  bool operator==(const FormResmi&) const = default;
 };
 
 struct FormAlani {
@@ -69,11 +62,8 @@ struct FormSayfasi {
 
 // One page, from SayfaBasla to SayfaBitir. Words and values stand in the middle of the height of their boxes; what is
 // wider than its box is made narrower, never cut. A value with more letters than cells is written as one text over all
-// of them, narrow enough. Pages given the same `kalip` have the same frame and words, which are kept once (see Tuval).
-void FormCiz(const FormSayfasi& sayfa, Tuval& tuval, std::string_view kalip = {});
-
-// Whether they differ in their values alone.
-bool AyniForm(const FormSayfasi& a, const FormSayfasi& b);
+// of them, narrow enough. The frame and the words that pages have in common are kept once (see Tuval).
+void FormCiz(const FormSayfasi& sayfa, Tuval& tuval);
 
 // Cells of equal size, side by side, for one digit each.
 struct HucreDizisi {
@@ -115,6 +105,8 @@ class FormKurucu {
   // Bold words in a box, without and with its frame.
   void Baslik(const Dikdortgen& kutu, std::string_view metin, double punto, MetinHizasi hiza = MetinHizasi::Orta);
   void Bolum(const Dikdortgen& kutu, std::string_view metin, double punto, MetinHizasi hiza = MetinHizasi::Orta);
+  // The same with words that the form's other pages do not have.
+  void SayfaAdi(const Dikdortgen& kutu, std::string_view metin, double punto);
 
   // A frame with its caption in the upper line.
   void EtiketliCerceve(const Dikdortgen& kutu, std::string_view etiket);

@@ -2,14 +2,12 @@
 
 #include <set>
 
-#include "core/sayi.h"
 #include "core/turkce.h"
+#include "printing/rapor.h"
 #include "printing/yzccnt.h"
 
 namespace belvani {
 namespace {
-
-constexpr int Gruplama = 3;
 
 // Where the upright lines of a row of cells stand, from 0.
 std::set<int> Dikler(const HucreEnleri& enler) {
@@ -54,8 +52,7 @@ std::string SagHucre(std::string_view sayi, int n) {
 }
 
 std::string TutarHucresi(Tutar tutar, int n, int ondalik) {
-  const std::string metin = SayiFormat(OndalikMetin(tutar), ondalik, Gruplama);
-  return SagHucre(int(metin.size()) > n ? SayiFormat(OndalikMetin(tutar), ondalik, 0) : metin, n);
+  return SagHucre(TutarFormat(tutar, n, ondalik, BinlikGruplama), n);
 }
 
 }  // namespace belvani
