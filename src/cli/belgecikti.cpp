@@ -87,7 +87,7 @@ void CsvYaz(const Belge& belge, MetinCikisi& cikis) {
   bool basladi = false;
   belge.VeriyiVer([&](const Rapor& parca) {
     if (!std::exchange(basladi, true)) cikis.Yaz(CsvBasligi(parca));
-    cikis.Yaz(CsvSatirlari(parca));
+    CsvSatirlariniVer(parca, [&](std::string_view satir) { cikis.Yaz(satir); });
   });
   if (!basladi) throw KomutHatasi{SatirsizForm};
 }

@@ -54,6 +54,21 @@ std::shared_ptr<const Rapor> Veri(const ViziteKagidi& kagit) {
   return rapor;
 }
 
+// The printer is made ready for each page of the certificate but the first.
+FormBasimi MetinBasimi(ViziteTuru tur) {
+  switch (tur) {
+    case ViziteTuru::Sigortali:
+      return {.acilamadi = "Yazıcı Dosyası Yaratılamıyor"};
+    case ViziteTuru::EsVeCocuk:
+      return {};
+    case ViziteTuru::AltiAylik:
+      return {.sayfaSozu = [](int sayfa) {
+        return sayfa == 1 ? std::string() : std::to_string(sayfa) + ". Sayfa İçin Yazıcınızı Hazırlayınız";
+      }};
+  }
+  return {};
+}
+
 }  // namespace
 
 ViziteKagidi BosViziteKagidi(Oturum& o, ViziteTuru tur) {
@@ -93,7 +108,7 @@ std::unique_ptr<Belge> ViziteBelgesi(const ViziteKagidi& kagit) {
   ayar.YzcBaslik = ViziteBaskiAdi(kagit.tur);
   const auto sayfalar = ViziteCiz(kagit);
   auto belge = std::make_unique<FormBelgesi>(ayar, sayfalar ? *sayfalar : std::vector<FormSayfasi>(),
-                                             ViziteYazdir(kagit), Veri(kagit));
+                                             ViziteYazdir(kagit), Veri(kagit), MetinBasimi(kagit.tur));
   belge->Donem(kagit.form.kod + " " + kagit.form.vizite.Iso());
   return belge;
 }

@@ -7,6 +7,7 @@
 #include "printing/metincizimi.h"
 #include "printing/metinyazici.h"
 #include "printing/xlsxyazici.h"
+#include "printing/xprn.h"
 
 namespace belvani {
 namespace {
@@ -69,6 +70,14 @@ void Belge::Ayarla(const YzcAyarlari& ayar) {
   AyarDegisti();
 }
 
+std::string Belge::Metin(Ilerleme* ilerleme) const {
+  return MetinTopla([&](const MetinAlici& al) { MetinYap(al, ilerleme); });
+}
+
+std::string Belge::MetinAcilamadi() const {
+  return DosDosyasiAcilamiyor;
+}
+
 std::string Belge::DosyaBasligi() const {
   const std::string baslik = Baslik().empty() ? ayar_.YzcBaslik : Baslik();
   return donem_.empty() ? baslik : baslik + " " + donem_;
@@ -108,8 +117,8 @@ std::unique_ptr<CizilenBelge> RaporBelgesi::CizimYap(Ilerleme* ilerleme) const {
   return std::make_unique<GrafikRapor>(*kagit_, grafik_, ilerleme);
 }
 
-std::string RaporBelgesi::MetinYap(Ilerleme* ilerleme) const {
-  return MetinRaporu(*kagit_, sayfa_, ilerleme);
+void RaporBelgesi::MetinYap(const MetinAlici& al, Ilerleme* ilerleme) const {
+  MetinRaporunuVer(*kagit_, sayfa_, al, ilerleme);
 }
 
 std::string RaporBelgesi::MetinUyarisi() const {
@@ -134,12 +143,8 @@ std::unique_ptr<CizilenBelge> YaprakliBelge::CizimYap(Ilerleme* ilerleme) const 
   return std::make_unique<GrafikYapraklar>(yapraklar_, sayfada_, ilerleme);
 }
 
-std::string YaprakliBelge::MetinYap(Ilerleme* ilerleme) const {
-  return MetinYapraklari(yapraklar_, {.satirSayisi = Ayar().YzcSatir}, ilerleme);
-}
-
-void YaprakliBelge::MetniVerYap(const MetinAlici& al) const {
-  MetinYapraklariniVer(yapraklar_, {.satirSayisi = Ayar().YzcSatir}, al);
+void YaprakliBelge::MetinYap(const MetinAlici& al, Ilerleme* ilerleme) const {
+  MetinYapraklariniVer(yapraklar_, {.satirSayisi = Ayar().YzcSatir}, al, ilerleme);
 }
 
 void YaprakliBelge::VeriyiVer(const RaporAlici& al) const {

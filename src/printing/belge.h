@@ -15,6 +15,7 @@
 #include "core/tarih.h"
 #include "printing/grafikyaprak.h"
 #include "printing/grafikyazici.h"
+#include "printing/metinalici.h"
 #include "printing/yaprak.h"
 #include "printing/yzcayar.h"
 
@@ -45,9 +46,9 @@ class Belge {
   // The drawn one, as long as this document lives; null for one that has none.
   std::unique_ptr<CizilenBelge> Cizim(Ilerleme* ilerleme = nullptr) const { return CizimYap(ilerleme); }
   // The text, UTF-8; empty for one that has none, or nothing to print.
-  std::string Metin(Ilerleme* ilerleme = nullptr) const { return MetinYap(ilerleme); }
-  // The text in pieces, that together are Metin: of a paper that is made person by person it never stands as a whole.
-  void MetniVer(const MetinAlici& al) const { MetniVerYap(al); }
+  std::string Metin(Ilerleme* ilerleme = nullptr) const;
+  // The same in pieces, as they are made.
+  void MetniVer(const MetinAlici& al) const { MetinYap(al, nullptr); }
   // The spreadsheet file.
   Sonuc<std::string> Xlsx(Ilerleme* ilerleme = nullptr) const { return XlsxYap(ilerleme); }
   // Asked before a text page goes to the printer, of papers for sheets that are put in by hand: where it is not empty,
@@ -55,6 +56,8 @@ class Belge {
   virtual std::string SayfaSozu(int) const { return {}; }
   // Who or what should be on it and is not, in the user's words; told beside the paper. Else empty.
   virtual std::string Eksikler() const { return {}; }
+  // Told where the file of a text print cannot be opened.
+  virtual std::string MetinAcilamadi() const;
   // Told in place of a text print that does not exist.
   virtual std::string MetinYok() const { return "Bu belge yalnız grafik yazıcıdan alınabilir."; }
   // Told in the place of any print, of a paper that only the screen and other programs have; else empty.
@@ -74,8 +77,7 @@ class Belge {
 
  private:
   virtual std::unique_ptr<CizilenBelge> CizimYap(Ilerleme* ilerleme) const = 0;
-  virtual std::string MetinYap(Ilerleme* ilerleme) const = 0;
-  virtual void MetniVerYap(const MetinAlici& al) const { al(MetinYap(nullptr)); }
+  virtual void MetinYap(const MetinAlici& al, Ilerleme* ilerleme) const = 0;
   virtual Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const = 0;
   virtual void AyarDegisti() {}
 
@@ -100,7 +102,7 @@ class RaporBelgesi : public Belge {
 
  private:
   std::unique_ptr<CizilenBelge> CizimYap(Ilerleme* ilerleme) const override;
-  std::string MetinYap(Ilerleme* ilerleme) const override;
+  void MetinYap(const MetinAlici& al, Ilerleme* ilerleme) const override;
   Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const override;
   void AyarDegisti() override;
 
@@ -127,8 +129,7 @@ class YaprakliBelge final : public Belge {
 
  private:
   std::unique_ptr<CizilenBelge> CizimYap(Ilerleme* ilerleme) const override;
-  std::string MetinYap(Ilerleme* ilerleme) const override;
-  void MetniVerYap(const MetinAlici& al) const override;
+  void MetinYap(const MetinAlici& al, Ilerleme* ilerleme) const override;
   Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const override;
   void AyarDegisti() override;
 

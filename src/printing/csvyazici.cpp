@@ -49,14 +49,17 @@ std::string CsvBasligi(const Rapor& rapor) {
   return csv;
 }
 
-std::string CsvSatirlari(const Rapor& rapor) {
+void CsvSatirlariniVer(const Rapor& rapor, const MetinAlici& al) {
   std::string csv;
-  for (const auto& satir : rapor.Satirlar()) SatirEkle(csv, satir.hucreler, Alan);
-  return csv;
+  for (const auto& satir : rapor.Satirlar()) {
+    csv.clear();
+    SatirEkle(csv, satir.hucreler, Alan);
+    al(csv);
+  }
 }
 
 std::string CsvRaporu(const Rapor& rapor) {
-  return CsvBasligi(rapor) + CsvSatirlari(rapor);
+  return CsvBasligi(rapor) + MetinTopla([&](const MetinAlici& al) { CsvSatirlariniVer(rapor, al); });
 }
 
 }  // namespace belvani

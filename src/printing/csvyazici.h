@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "printing/metinalici.h"
 #include "printing/rapor.h"
 
 namespace belvani {
@@ -15,8 +16,8 @@ namespace belvani {
 // the accountant's computer: such a text gets an apostrophe in front, also where blanks precede the sign. A text that
 // reads as a plain number ("-5") cannot run and stays as it is; "+90 312" has a blank inside and gets one.
 std::string CsvRaporu(const Rapor& rapor);
-// Its parts: the line of heads, and the rows.
+// Its parts: the line of heads, and the rows, one by one.
 std::string CsvBasligi(const Rapor& rapor);
-std::string CsvSatirlari(const Rapor& rapor);
+void CsvSatirlariniVer(const Rapor& rapor, const MetinAlici& al);
 
 }  // namespace belvani

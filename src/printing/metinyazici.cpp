@@ -33,21 +33,20 @@ class MetinYazici {
   MetinYazici(const Rapor& rapor, const SayfaDuzeni& duzen)
       : rapor_(rapor), duzen_(duzen), bicim_(KagitBicimle(rapor, duzen)), kolonSayisi_(bicim_.enler.size()) {}
 
-  std::string Yaz(Ilerleme* ilerleme) {
-    std::string metin;
+  void Yaz(const MetinAlici& al, Ilerleme* ilerleme) {
     const auto sayfalar = SayfalaraBol(rapor_, bicim_, duzen_);
     sayfaSayisi_ = sayfalar.size();
     Asama asama(ilerleme, sayfaSayisi_);
     for (const auto& sayfa : sayfalar) {
       asama.Adim();
-      if (sayfa.no > 1) metin += '\f';
+      std::string metin = sayfa.no > 1 ? "\f" : "";
       for (std::size_t i = 0; i < sayfa.satirlar.size(); ++i) {
         std::string satir = DenetimsizMetin(Satir(sayfa, i));
         satir.erase(satir.find_last_not_of(' ') + 1);
         metin += satir + '\n';
       }
+      al(metin);
     }
-    return metin;
   }
 
  private:
@@ -148,7 +147,11 @@ class MetinYazici {
 }  // namespace
 
 std::string MetinRaporu(const Rapor& rapor, const SayfaDuzeni& duzen, Ilerleme* ilerleme) {
-  return MetinYazici(rapor, duzen).Yaz(ilerleme);
+  return MetinTopla([&](const MetinAlici& al) { MetinRaporunuVer(rapor, duzen, al, ilerleme); });
+}
+
+void MetinRaporunuVer(const Rapor& rapor, const SayfaDuzeni& duzen, const MetinAlici& al, Ilerleme* ilerleme) {
+  MetinYazici(rapor, duzen).Yaz(al, ilerleme);
 }
 
 }  // namespace belvani

@@ -5,6 +5,7 @@
 
 #include "core/bildirim.h"
 #include "printing/kagit.h"
+#include "printing/metinalici.h"
 #include "printing/rapor.h"
 
 namespace belvani {
@@ -15,5 +16,7 @@ namespace belvani {
 // full. Control characters in texts are left out, for they would command the printer. Without rows the heads stand
 // alone.
 std::string MetinRaporu(const Rapor& rapor, const SayfaDuzeni& duzen, Ilerleme* ilerleme = nullptr);
+// The same page by page.
+void MetinRaporunuVer(const Rapor& rapor, const SayfaDuzeni& duzen, const MetinAlici& al, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

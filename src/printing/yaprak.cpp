@@ -106,10 +106,7 @@ void MetinYapraklariniVer(const YaprakBelgesi& belge, const SayfaDuzeni& duzen, 
 }
 
 std::string MetinYapraklari(const YaprakBelgesi& belge, const SayfaDuzeni& duzen, Ilerleme* ilerleme) {
-  std::string metin;
-  MetinYapraklariniVer(
-      belge, duzen, [&](std::string_view parca) { metin += parca; }, ilerleme);
-  return metin;
+  return MetinTopla([&](const MetinAlici& al) { MetinYapraklariniVer(belge, duzen, al, ilerleme); });
 }
 
 }  // namespace belvani

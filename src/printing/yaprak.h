@@ -17,6 +17,7 @@
 
 #include "core/bildirim.h"
 #include "printing/kagit.h"
+#include "printing/metinalici.h"
 #include "printing/rapor.h"
 
 namespace belvani {
@@ -75,7 +76,6 @@ std::string YaprakMetni(const Hucre& hucre, int paraOndaligi);
 // last line of a page is free. `ek` is left out. No slips, no text.
 std::string MetinYapraklari(const YaprakBelgesi& belge, const SayfaDuzeni& duzen, Ilerleme* ilerleme = nullptr);
 // The same slip by slip.
-using MetinAlici = std::function<void(std::string_view parca)>;
 void MetinYapraklariniVer(const YaprakBelgesi& belge, const SayfaDuzeni& duzen, const MetinAlici& al,
                           Ilerleme* ilerleme = nullptr);
 

@@ -79,7 +79,7 @@ Sonuc<YazdirmaSonucu> MetinYazdir(const MetinIsi& is) {
                         is.ortam.kuyruk);
   };
   xprn akis(ayar, xprnOrtami);
-  if (!akis.OpenDosPrint()) return Kusur{DosDosyasiAcilamiyor};
+  if (!akis.OpenDosPrint()) return Kusur{is.belge.MetinAcilamadi()};
   const bool tamam = MetniYaz(is.metin, ayar.YzcKopya,
                               [&](std::string_view parca, SatirSonu sonu) { return akis.DosDirectPrint(parca, sonu); });
   if (const Durum gitti = akis.CloseDosPrint(); !gitti) return gitti.Kusuru();

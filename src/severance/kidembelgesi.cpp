@@ -237,7 +237,7 @@ class KidemKagidi final : public Belge {
 
  private:
   std::unique_ptr<CizilenBelge> CizimYap(Ilerleme*) const override { return std::make_unique<KidemCizimi>(c_); }
-  std::string MetinYap(Ilerleme*) const override { return KidemMetni(c_); }
+  void MetinYap(const MetinAlici& al, Ilerleme*) const override { al(KidemMetni(c_)); }
   Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const override { return KidemTablosu(c_, ilerleme); }
 
   Cizelge c_;

@@ -34,8 +34,8 @@ class ListeKagidi final : public RaporBelgesi {
   using RaporBelgesi::RaporBelgesi;
 
  private:
-  std::string MetinYap(Ilerleme* ilerleme) const override {
-    return KolonMetni(*Tablo(), Ayar(), Tarih::Bugun(), ilerleme);
+  void MetinYap(const MetinAlici& al, Ilerleme* ilerleme) const override {
+    al(KolonMetni(*Tablo(), Ayar(), Tarih::Bugun(), ilerleme));
   }
 };
 

@@ -184,6 +184,9 @@ TEST(BelgeYazdir, OnAFullDiskTheOldFileStays) {
   EXPECT_EQ(DosyaOku(dosya), "eski");
   const auto gecici = test::OrtamKoy("TMPDIR", "/yok");
   EXPECT_EQ(o.Yazdir(ayar).KusurMetni(), "Dos Yazıcı Dosyası Açılamıyor");
+  FormBelgesi form({}, {}, "Işıl\n", nullptr, {.acilamadi = "Yazıcı Dosyası Yaratılamıyor"});
+  form.Ayarla(ayar);
+  EXPECT_EQ(BelgeYazdir(form, o.baski, o.bildirim).KusurMetni(), "Yazıcı Dosyası Yaratılamıyor");
 }
 
 TEST(BelgeYazdir, ToAPort) {

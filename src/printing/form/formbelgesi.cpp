@@ -30,11 +30,20 @@ std::unique_ptr<CizilenBelge> FormCizimi(Sayfalar sayfalar) {
 }
 
 FormBelgesi::FormBelgesi(YzcAyarlari ilk, std::vector<FormSayfasi> sayfalar, std::string metin,
-                         std::shared_ptr<const Rapor> veri)
+                         std::shared_ptr<const Rapor> veri, FormBasimi basim)
     : Belge(VarOlanYollar(std::move(ilk), !sayfalar.empty(), !metin.empty())),
       sayfalar_(std::move(sayfalar)),
       metin_(std::move(metin)),
-      veri_(std::move(veri)) {}
+      veri_(std::move(veri)),
+      basim_(std::move(basim)) {}
+
+std::string FormBelgesi::SayfaSozu(int sayfa) const {
+  return basim_.sayfaSozu ? basim_.sayfaSozu(sayfa) : std::string();
+}
+
+std::string FormBelgesi::MetinAcilamadi() const {
+  return basim_.acilamadi.empty() ? Belge::MetinAcilamadi() : basim_.acilamadi;
+}
 
 std::unique_ptr<CizilenBelge> FormBelgesi::CizimYap(Ilerleme*) const {
   if (sayfalar_.empty()) return nullptr;

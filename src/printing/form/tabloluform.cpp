@@ -33,8 +33,8 @@ std::unique_ptr<CizilenBelge> TabloluForm::CizimYap(Ilerleme* ilerleme) const {
   return FormCizimi(std::make_shared<const std::vector<FormSayfasi>>(yapanlar_.sayfalar(ilerleme)));
 }
 
-std::string TabloluForm::MetinYap(Ilerleme* ilerleme) const {
-  return yapanlar_.metin ? yapanlar_.metin(ilerleme) : MetinRaporu(*tablo_, {}, ilerleme);
+void TabloluForm::MetinYap(const MetinAlici& al, Ilerleme* ilerleme) const {
+  yapanlar_.metin ? al(yapanlar_.metin(ilerleme)) : MetinRaporunuVer(*tablo_, {}, al, ilerleme);
 }
 
 Sonuc<std::string> TabloluForm::XlsxYap(Ilerleme* ilerleme) const {

@@ -38,7 +38,7 @@ class TabloluForm final : public Belge {
 
  private:
   std::unique_ptr<CizilenBelge> CizimYap(Ilerleme* ilerleme) const override;
-  std::string MetinYap(Ilerleme* ilerleme) const override;
+  void MetinYap(const MetinAlici& al, Ilerleme* ilerleme) const override;
   Sonuc<std::string> XlsxYap(Ilerleme* ilerleme) const override;
 
   std::shared_ptr<const Rapor> ilk_;    // in the order of the form

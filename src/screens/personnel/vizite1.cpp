@@ -60,7 +60,7 @@ vizite1::vizite1(EkranBaglami& baglam)
   };
   Govde()->addWidget(liste_, 1);
   toplamlar_ = YaziEkle({}, "baslik");
-  Baslat({.acilamadi = "Yazıcı Dosyası Yaratılamıyor"});
+  Baslat();
   AylariGoster({}, false);
 }
 

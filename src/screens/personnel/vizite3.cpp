@@ -5,10 +5,8 @@
 namespace belvani {
 
 vizite3::vizite3(EkranBaglami& baglam)
-    : YakinVizitesi(
-          baglam, "vizite3", QStringLiteral("Altı Aylık Sağlık Belgesi"), ViziteTuru::AltiAylik,
-          {{Uye("soyadi", &ViziteYakini::soyadi, esco::soyadi.boyut), "Soyadı"},
-           {Uye("adi", &ViziteYakini::adi, esco::adi.boyut), "Adı"}},
-          {.acilamadi = "Dos Yazıcı Dosyası Açılamıyor", .hazirlik = "%. Sayfa İçin Yazıcınızı Hazırlayınız"}) {}
+    : YakinVizitesi(baglam, "vizite3", QStringLiteral("Altı Aylık Sağlık Belgesi"), ViziteTuru::AltiAylik,
+                    {{Uye("soyadi", &ViziteYakini::soyadi, esco::soyadi.boyut), "Soyadı"},
+                     {Uye("adi", &ViziteYakini::adi, esco::adi.boyut), "Adı"}}) {}
 
 }  // namespace belvani

@@ -3,6 +3,7 @@
 #include "core/turkce.h"
 #include "ozluk/vizitekagidi.h"
 #include "personnel/kart.h"
+#include "ui/basim.h"
 #include "ui/xtext.h"
 
 namespace belvani {
@@ -24,8 +25,7 @@ AlanGrubu ViziteEkrani::TarihGrubu(const char* bugun, const char* vizite, bool b
           {{Uye("bugun", &ViziteFormu::bugun), bugun, {.kapali = bugunKapali}}, {viziteformu::vizite, vizite}}};
 }
 
-void ViziteEkrani::Baslat(const MetinBasimi& basim) {
-  basim_ = basim;
+void ViziteEkrani::Baslat() {
   Komutlar({{.tus = Qt::Key_F8, .dugme = " Yazıcıya Yazdır ", .simge = "yazici", .islev = [this] { Yazdir(); }}});
   PersonelKomutlari(viziteformu::kod);
   // The field is being left: a message would come in the middle of that, so it comes right after.
@@ -92,7 +92,7 @@ void ViziteEkrani::Yazdir() {
   if (!KagidaYaz(kagit)) return;
   if (const auto cizim = ViziteCiz(kagit); !cizim) Bildirimi().Uyari(cizim.KusurMetni());
   const auto belge = ViziteBelgesi(kagit);
-  BelgeBasSayfaSayfa(Baglam(), *belge, basim_);
+  BelgeBas(Baglam(), *belge);
 }
 
 }  // namespace belvani

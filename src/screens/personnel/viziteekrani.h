@@ -9,7 +9,6 @@
 #include "core/tables/kimlik.h"
 #include "ozluk/vizite.h"
 #include "screens/personnel/personelformu.h"
-#include "ui/sayfabasimi.h"
 
 namespace belvani {
 
@@ -24,7 +23,7 @@ class ViziteEkrani : public PersonelFormu {
   static AlanGrubu TarihGrubu(const char* bugun, const char* vizite, bool bugunKapali);
 
   // When all fields stand.
-  void Baslat(const MetinBasimi& basim);
+  void Baslat();
 
   // The months come up, of the same person as before or of another one.
   virtual void AylariGoster(const ViziteAylari& aylar, bool ayniKisi) = 0;
@@ -43,7 +42,6 @@ class ViziteEkrani : public PersonelFormu {
   void Yazdir();
 
   ViziteTuru tur_;
-  MetinBasimi basim_{};
   std::optional<Kimlik> kimlik_;  // of the person on the screen
   Tarih tablodaki_;               // the visit whose months were asked for last
 };

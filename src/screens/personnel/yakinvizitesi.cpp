@@ -38,7 +38,7 @@ AlanGrubu YakinGrubu(std::vector<Alan> adlar) {
 }  // namespace
 
 YakinVizitesi::YakinVizitesi(EkranBaglami& baglam, const QString& kelime, const QString& baslik, ViziteTuru tur,
-                             std::vector<belvani::Alan> adlar, const MetinBasimi& basim)
+                             std::vector<belvani::Alan> adlar)
     : ViziteEkrani(baglam, kelime, baslik, tur) {
   QWidget* kisi = GrupYap(KisiGrubu());
   QWidget* tarihler = GrupYap(TarihGrubu("Bugünün Tarihi", "Bu Gün", true));
@@ -50,7 +50,7 @@ YakinVizitesi::YakinVizitesi(EkranBaglami& baglam, const QString& kelime, const 
     else if (alan.Satir().kayitTuru == typeid(GunAlanlari))
       ToplamiGoster();
   };
-  Baslat(basim);
+  Baslat();
   AylariGoster({}, false);
 }
 

@@ -12,7 +12,7 @@ class YakinVizitesi : public ViziteEkrani {
  protected:
   // `adlar`: the fields of the relative's name.
   YakinVizitesi(EkranBaglami& baglam, const QString& kelime, const QString& baslik, ViziteTuru tur,
-                std::vector<belvani::Alan> adlar, const MetinBasimi& basim);
+                std::vector<belvani::Alan> adlar);
 
  private:
   QWidget* GunleriYap();
