@@ -4,7 +4,7 @@
 set -eu
 
 paketler="g++ make cmake ninja-build ccache pkg-config libsqlite3-dev libicu-dev libcurl4-openssl-dev
-  libxlsxwriter-dev libzip-dev libpugixml-dev libxxhash-dev libpq-dev postgresql
+  libxlsxwriter-dev libzip-dev zlib1g-dev libpugixml-dev libxxhash-dev libpq-dev postgresql
   nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev librapidcheck-dev
   libcairo2-dev libcups2-dev cups-daemon poppler-utils
   qt6-base-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n fonts-dejavu-core xvfb xdotool sqlite3 locales"

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <fcntl.h>
 #include <filesystem>
-#include <future>
 #include <locale.h>
+#include <optional>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -12,7 +12,9 @@
 
 #include "core/asama.h"
 #include "core/dosya.h"
+#include "core/sayi.h"
 #include "core/turkce.h"
+#include "printing/xlsxsatirlari.h"
 #include "printing/zipdosya.h"
 
 namespace belvani {
@@ -20,12 +22,13 @@ namespace {
 
 constexpr std::size_t SayfaAdiHarfi = 31;
 constexpr std::int32_t IlkGun = 61;  // 01.03.1900: from here on both calendars count alike
-constexpr std::size_t EnBuyukDosya = std::size_t(2) << 30;
-constexpr std::chrono::milliseconds AdimSuresi{20};
+constexpr std::size_t EnBuyukIskelet = std::size_t(1) << 24;
 constexpr double YanKenar = 0.4;  // inches
 constexpr double UstKenar = 0.6;
 constexpr double DikeyHarf = 100;  // letters that an upright page takes at the size of the screen
 constexpr const char* SayfaParcasi = "xl/worksheets/sheet1.xml";
+constexpr std::string_view BosSatirlar = "<sheetData/>";
+constexpr std::string_view BosAlan = "<dimension ref=\"A1\"/>";
 
 // The library prints numbers by the locale of the thread: a decimal comma would spoil the file.
 class NoktaliSayilar {
@@ -116,29 +119,36 @@ struct XlsxKitap::Ic {
   explicit Ic(std::string_view sayfaAdi) : yol(GeciciDosya()) {
     if (yol.empty()) return;
     const NoktaliSayilar nokta;
-    lxw_workbook_options secenekler = {.constant_memory = LXW_TRUE, .tmpdir = nullptr, .use_zip64 = LXW_FALSE};
-    kitap = workbook_new_opt(yol.c_str(), &secenekler);
+    kitap = workbook_new(yol.c_str());
     if (kitap != nullptr) sayfa = workbook_add_worksheet(kitap, SayfaAdi(sayfaAdi).c_str());
   }
   ~Ic() {
-    Kapat(nullptr);
+    Kapat();
     std::error_code hata;
     if (!yol.empty()) std::filesystem::remove(yol, hata);
   }
 
-  // The library packs the whole file in one go, on a thread of its own, so that the watcher is asked meanwhile;
-  // stopped, the work ends when that does.
-  lxw_error Kapat(Ilerleme* ilerleme) {
-    if (kitap == nullptr) return LXW_ERROR_CREATING_TMPFILE;
+  bool Kapat() {
+    if (kitap == nullptr) return false;
     const SessizHata sessiz;
-    const auto kapat = [son = std::exchange(kitap, nullptr)] {
-      const NoktaliSayilar nokta;
-      return workbook_close(son);
-    };
-    if (ilerleme == nullptr) return kapat();
-    auto kapanis = std::async(kapat);
-    for (Asama asama(ilerleme); kapanis.wait_for(AdimSuresi) == std::future_status::timeout;) asama.Adim();
-    return kapanis.get();
+    const NoktaliSayilar nokta;
+    return workbook_close(std::exchange(kitap, nullptr)) == LXW_NO_ERROR;
+  }
+
+  // The library's file has no rows yet: they go between the head of its sheet and what follows them.
+  std::optional<std::string> Doldur(ZipDosyasi& dosya) {
+    std::string xml = dosya.Oku(SayfaParcasi).value_or("");
+    const auto yer = xml.find(BosSatirlar);
+    if (yer == xml.npos) return std::nullopt;
+    std::string bas = xml.substr(0, yer);
+    if (const auto alan = bas.find(BosAlan); alan != bas.npos)
+      bas.replace(alan, BosAlan.size(), "<dimension ref=\"" + satirlar.Alan() + "\"/>");
+    SikisikParca parca = Sikistir(bas, ParcaSonu::Suren);
+    parca += satirlar.Bitir();
+    parca += Sikistir(std::string_view(xml).substr(yer + BosSatirlar.size()), ParcaSonu::Son);
+    dosya.Degistir(SayfaParcasi, std::move(parca));
+    auto baytlar = dosya.Bitir();
+    return baytlar ? std::optional(std::move(*baytlar)) : std::nullopt;
   }
 
   // The library does not look whether its own temporary files were written to the end, so the file is read back: every
@@ -155,15 +165,14 @@ struct XlsxKitap::Ic {
       if (!dosya.Aktar(ad, al) || !okur.Tam()) return false;
       if (ad == SayfaParcasi) hucreler = okur.Hucreler();
     }
-    return hucreler == hucreSayisi;
+    return hucreler == satirlar.Hucreler();
   }
 
   std::string yol;
   lxw_workbook* kitap = nullptr;
   lxw_worksheet* sayfa = nullptr;
-  std::vector<std::pair<XlsxStili, lxw_format*>> stiller;
-  lxw_error kusur = LXW_NO_ERROR;
-  std::size_t hucreSayisi = 0;
+  std::vector<std::pair<XlsxStili, int>> stiller;  // with the number of the look in the file
+  XlsxSatirlari satirlar;
   std::vector<lxw_row_t> sayfaBaslari;
 };
 
@@ -171,11 +180,12 @@ XlsxKitap::XlsxKitap(std::string_view sayfaAdi) : ic_(std::make_unique<Ic>(sayfa
 XlsxKitap::~XlsxKitap() = default;
 
 XlsxKitap::Stil XlsxKitap::StilEkle(const XlsxStili& stil) {
-  // One format for each look, and none for the plain one: the library searches for the twin of a format at every cell.
+  // One format for each look, and none for the plain one.
   auto& stiller = ic_->stiller;
   const auto ayni = std::find_if(stiller.begin(), stiller.end(), [&](const auto& s) { return s.first == stil; });
   if (ayni != stiller.end()) return Stil(ayni - stiller.begin());
-  stiller.emplace_back(stil, stil == XlsxStili{} || ic_->kitap == nullptr ? nullptr : BicimYap(ic_->kitap, stil));
+  const bool duz = stil == XlsxStili{} || ic_->kitap == nullptr;
+  stiller.emplace_back(stil, duz ? 0 : lxw_format_get_xf_index(BicimYap(ic_->kitap, stil)));
   return Stil(stiller.size()) - 1;
 }
 
@@ -204,45 +214,41 @@ void XlsxKitap::SayfaBasi(int satir) {
 }
 
 void XlsxKitap::Yaz(int satir, int kolon, const Hucre& hucre, Stil stil) {
-  if (ic_->sayfa == nullptr || ic_->kusur != LXW_NO_ERROR) return;
-  const NoktaliSayilar nokta;
-  lxw_format* bicim = ic_->stiller[std::size_t(stil)].second;
-  const auto metin = [&](const std::string& m) {
-    if (m.empty()) return;
-    ic_->kusur = worksheet_write_string(ic_->sayfa, lxw_row_t(satir), lxw_col_t(kolon), m.c_str(), bicim);
-    ++ic_->hucreSayisi;
-  };
-  const auto sayi = [&](double s) {
-    ic_->kusur = worksheet_write_number(ic_->sayfa, lxw_row_t(satir), lxw_col_t(kolon), s, bicim);
-    ++ic_->hucreSayisi;
-  };
-  if (const auto* m = std::get_if<std::string>(&hucre)) metin(SaglamMetin(*m));
-  if (const auto* tam = std::get_if<std::int64_t>(&hucre)) sayi(double(*tam));
-  if (const auto* tutar = std::get_if<Tutar>(&hucre)) sayi(tutar->Sayi());
-  if (const auto* tarih = std::get_if<Tarih>(&hucre); tarih != nullptr && !tarih->Bos()) {
+  const XlsxYeri yer{satir + 1, kolon + 1};
+  const int no = ic_->stiller[std::size_t(stil)].second;
+  if (const auto* m = std::get_if<std::string>(&hucre)) {
+    if (const std::string metin = SaglamMetin(*m); !metin.empty()) ic_->satirlar.Metin(yer, metin, no);
+  } else if (const auto* tam = std::get_if<std::int64_t>(&hucre)) {
+    ic_->satirlar.Sayi(yer, std::to_string(*tam), no);
+  } else if (const auto* tutar = std::get_if<Tutar>(&hucre)) {
+    ic_->satirlar.Sayi(yer, SayiMetni(tutar->Sayi()), no);
+  } else if (const auto* tarih = std::get_if<Tarih>(&hucre); tarih != nullptr && !tarih->Bos()) {
     if (tarih->SeriNo() >= IlkGun)
-      sayi(tarih->SeriNo());
+      ic_->satirlar.Sayi(yer, std::to_string(tarih->SeriNo()), no);
     else
-      metin(tarih->Metin());
+      ic_->satirlar.Metin(yer, tarih->Metin(), no);
   }
 }
 
 Sonuc<std::string> XlsxKitap::Bitir(Ilerleme* ilerleme) {
   if (ic_->sayfa == nullptr) return Kusur{"Tablo dosyası yazılamadı: geçici dosya açılamıyor"};
-  if (ic_->kusur == LXW_ERROR_WORKSHEET_INDEX_OUT_OF_RANGE)
-    return Kusur{"Tablo dosyası yazılamadı: bir sayfa en çok 1,048,576 satır alır"};
-  if (ic_->kusur != LXW_NO_ERROR) return Kusur{"Tablo dosyası yazılamadı: bir hücre en çok 32,767 harf alır"};
+  if (const auto kusur = ic_->satirlar.Kusuru(); !kusur.empty())
+    return Kusur{"Tablo dosyası yazılamadı: " + std::string(kusur)};
   if (!ic_->sayfaBaslari.empty()) {
     ic_->sayfaBaslari.push_back(0);  // ends the library's list
     worksheet_set_h_pagebreaks(ic_->sayfa, ic_->sayfaBaslari.data());
   }
   const Kusur yazilamadi{"Tablo dosyası yazılamadı: geçici dosyaların dizini dolu ya da yazılamıyor"};
-  if (ic_->Kapat(ilerleme) != LXW_NO_ERROR) return yazilamadi;
-  auto baytlar = DosyaOku(ic_->yol, EnBuyukDosya);
+  if (!ic_->Kapat()) return yazilamadi;
+  auto baytlar = DosyaOku(ic_->yol, EnBuyukIskelet);
   if (!baytlar) return yazilamadi;
-  const auto dosya = ZipDosyasi::Ac(*baytlar);
+  auto iskelet = ZipDosyasi::Ac(std::move(*baytlar));
+  if (!iskelet) return yazilamadi;
+  auto dolu = ic_->Doldur(*iskelet);
+  if (!dolu) return yazilamadi;
+  const auto dosya = ZipDosyasi::Ac(*dolu);
   if (!dosya || !ic_->Saglam(*dosya, ilerleme)) return yazilamadi;
-  return std::move(*baytlar);
+  return std::move(*dolu);
 }
 
 std::string XlsxTutarBicimi(int ondalik) {

@@ -1,5 +1,5 @@
-// XlsxKitap: a spreadsheet file (.xlsx) of one sheet that is written row by row, top to bottom. Memory does not grow
-// with the rows. The bytes are the same under every locale of the process.
+// XlsxKitap: a spreadsheet file (.xlsx) of one sheet that is written row by row, top to bottom, and packed as it is
+// written: in memory stands what its file will be. The bytes are the same under every locale of the process.
 //
 //   XlsxKitap kitap("Ücret Bordrosu");
 //   const auto tutar = kitap.StilEkle({.sayiBicimi = XlsxTutarBicimi(2)});
@@ -53,8 +53,8 @@ class XlsxKitap {
   // On paper a page begins with this row, and with each next one that is told; a sheet takes 1023 of them.
   void SayfaBasi(int satir);
 
-  // Rows and columns count from 0; a row may not be written once a later one is. Null writes nothing. A day before
-  // March 1900, which a spreadsheet cannot count, is written as text.
+  // Rows and columns count from 0; cells come row by row, from left to right. Null writes nothing. A day before March
+  // 1900, which a spreadsheet cannot count, is written as text.
   void Yaz(int satir, int kolon, const Hucre& hucre, Stil stil);
 
   // The file, once; stopped it throws Vazgecilmis. Fails when a row or a text is beyond what a sheet holds, or the

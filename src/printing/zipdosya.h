@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/sonuc.h"
+#include "printing/sikistirici.h"
 
 namespace belvani {
 
@@ -28,6 +29,8 @@ class ZipDosyasi {
   bool Aktar(const std::string& ad, const std::function<void(std::string_view)>& al) const;
 
   void Degistir(const std::string& ad, std::string icerik) { degisen_[ad] = std::move(icerik); }
+  // By what is packed already. Such a part is read from the finished archive only.
+  void Degistir(const std::string& ad, SikisikParca icerik) { sikisik_[ad] = std::move(icerik); }
   void Sil(const std::string& ad) { degisen_[ad] = std::nullopt; }
 
   // The archive with its changes. The dates of changed parts stay, so equal changes give equal bytes.
@@ -44,6 +47,7 @@ class ZipDosyasi {
   std::string baytlar_;
   std::vector<std::string> adlar_;
   std::map<std::string, std::optional<std::string>> degisen_;  // nothing: deleted
+  std::map<std::string, SikisikParca> sikisik_;
 };
 
 }  // namespace belvani
