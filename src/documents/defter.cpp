@@ -53,18 +53,6 @@ std::vector<UstSatir> UstSatirlar(const DefterBaslik& baslik) {
   };
 }
 
-// The employer's side of the month.
-std::vector<BlokSatiri> Icmal(const std::vector<BordroSatiri>& satirlar) {
-  return {
-      {"Toplam Personel : ", std::int64_t(satirlar.size())},
-      Toplami(IsverenMatrahi, satirlar),
-      Toplami(IsverenKesintisi, satirlar),
-      Toplami(IsverenKatkisi, satirlar),
-      Toplami(IsverenIssizligi, satirlar),
-      Toplami(OdenecekPrim, satirlar),
-  };
-}
-
 struct NetTerimi {
   const char* kolon;  // by its head
   const char* yon;
@@ -89,23 +77,65 @@ const NetTerimi kesintiler[] = {
 };
 
 // What of the net stands in columns that are switched off: without it the rows would not add up before their reader.
-std::vector<BlokSatiri> NetinGizlileri(const std::vector<TuretilmisSatir>& satirlar, const Rapor& rapor) {
-  const auto acik = [&](std::string_view baslik) {
-    return std::ranges::find(rapor.Kolonlar(), baslik, &RaporKolonu::baslik) != rapor.Kolonlar().end();
-  };
-  std::vector<BlokSatiri> blok;
-  const auto ekle = [&](const NetTerimi& terim) {
-    if (acik(terim.kolon)) return;
-    Tutar toplam;
-    for (const TuretilmisSatir& satir : satirlar) toplam += terim.deger(satir);
-    if (toplam != Tutar()) blok.push_back({std::string(terim.yon) + terim.kolon + " :", toplam});
-  };
-  if (!acik("Net Ödenen")) return blok;
-  for (const NetTerimi& terim : netTerimleri) ekle(terim);
-  if (!acik(KesintilerKolonu))
-    for (const NetTerimi& terim : kesintiler) ekle(terim);
-  return blok;
-}
+class NetinGizlileri {
+ public:
+  explicit NetinGizlileri(const Rapor& rapor) {
+    const auto acik = [&](std::string_view baslik) {
+      return std::ranges::find(rapor.Kolonlar(), baslik, &RaporKolonu::baslik) != rapor.Kolonlar().end();
+    };
+    if (!acik("Net Ödenen")) return;
+    for (const NetTerimi& terim : netTerimleri)
+      if (!acik(terim.kolon)) gizliler_.push_back({&terim, {}});
+    for (const NetTerimi& terim : kesintiler)
+      if (!acik(KesintilerKolonu) && !acik(terim.kolon)) gizliler_.push_back({&terim, {}});
+  }
+
+  void Ekle(const TuretilmisSatir& satir) {
+    for (auto& [terim, toplam] : gizliler_) toplam += terim->deger(satir);
+  }
+  void Yaz(std::vector<BlokSatiri>& blok) const {
+    for (const auto& [terim, toplam] : gizliler_)
+      if (toplam != Tutar()) blok.push_back({std::string(terim->yon) + terim->kolon + " :", toplam});
+  }
+
+ private:
+  std::vector<std::pair<const NetTerimi*, Tutar>> gizliler_;
+};
+
+// The ledger of records that come one after the other.
+class DefterYapan {
+ public:
+  DefterYapan(const DefterBaslik& baslik, const DefterSecenek& secenek)
+      : secenek_(secenek), liste_(kolonlar.Secilen(secenek.kolonlar), baslik), gizliler_(liste_.rapor) {
+    liste_.rapor.baslik = "HİZMET ERBABI ÜCRET BORDROSU";
+    liste_.rapor.ekranBasligi = "Ücret Bordrosu";
+    liste_.rapor.ustSatirlar = UstSatirlar(baslik);
+  }
+
+  void Ekle(const BordroSatiri& kayit) {
+    const bool yeniBordro = !liste_.rapor.Satirlar().empty() && kayit.brd.no != sonNo_;
+    gizliler_.Ekle(liste_.Ekle(kayit, secenek_.herBordroYeni && yeniBordro));
+    isveren_.Ekle(kayit.brd);
+    sonNo_ = kayit.brd.no;
+  }
+
+  Rapor Bitir() {
+    auto& blok = liste_.rapor.sonBlok;
+    if (const std::size_t kisi = liste_.rapor.Satirlar().size(); secenek_.icmal && kisi > 0) {
+      blok = isveren_.Satirlar();
+      blok.insert(blok.begin(), {"Toplam Personel : ", std::int64_t(kisi)});
+    }
+    gizliler_.Yaz(blok);
+    return std::move(liste_.rapor);
+  }
+
+ private:
+  const DefterSecenek& secenek_;
+  TuretilmisListe liste_;
+  NetinGizlileri gizliler_;
+  BlokToplayan isveren_{{IsverenMatrahi, IsverenKesintisi, IsverenKatkisi, IsverenIssizligi, OdenecekPrim}};
+  decltype(Brd::no) sonNo_{};
+};
 
 }  // namespace
 
@@ -127,23 +157,17 @@ std::vector<std::string> DefterAnahtarAdlari() {
 
 Rapor DefterRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBaslik& baslik,
                    const DefterSecenek& secenek) {
-  const auto yeniBordro = [&](const TuretilmisSatir& onceki, const TuretilmisSatir& satir) {
-    return secenek.herBordroYeni && onceki.brd.no != satir.brd.no;
-  };
-  const auto turetilen = TuretilmisSatirlar(satirlar, baslik);
-  Rapor rapor = RaporYap(kolonlar.Secilen(secenek.kolonlar), turetilen, baslik.paraonda, yeniBordro);
-  rapor.baslik = "HİZMET ERBABI ÜCRET BORDROSU";
-  rapor.ekranBasligi = "Ücret Bordrosu";
-  rapor.ustSatirlar = UstSatirlar(baslik);
-  if (secenek.icmal && !satirlar.empty()) rapor.sonBlok = Icmal(satirlar);
-  std::ranges::move(NetinGizlileri(turetilen, rapor), std::back_inserter(rapor.sonBlok));
-  return rapor;
+  DefterYapan yapan(baslik, secenek);
+  for (const BordroSatiri& satir : satirlar) yapan.Ekle(satir);
+  return yapan.Bitir();
 }
 
 std::unique_ptr<Belge> DefterBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim, const DefterSecenek& secenek,
                                      const BelgeYazisi& yazi) {
-  const auto satirlar = DefterSatirlariOku(kaynak.motor, secim, kaynak.ilerleme);
-  return ListeBelgesi(DefterRaporu(satirlar, BaslikYap(kaynak, secim), secenek), KagitYonu::Yatay, yazi, secenek.duzen);
+  DefterYapan yapan(BaslikYap(kaynak, secim), secenek);
+  DefterSatirlariniGez(
+      kaynak.motor, secim, [&](const BordroSatiri& satir) { yapan.Ekle(satir); }, kaynak.ilerleme);
+  return ListeBelgesi(yapan.Bitir(), KagitYonu::Yatay, yazi, secenek.duzen);
 }
 
 UstSatir UnvanSatiri(const Firma& firma) {
@@ -158,10 +182,14 @@ UstSatir VergiDairesiSatiri(const Firma& firma) {
   return {.sol = "VERGİ DAİRESİ HESAP No : " + firma.verda + " - " + firma.verno, .sag = "Sayfa : ", .sayfaNo = true};
 }
 
-BlokSatiri Toplami(const BlokToplami& tanim, const std::vector<BordroSatiri>& satirlar) {
-  Tutar toplam;
-  for (const auto& satir : satirlar) toplam += Degeri(tanim.ifade, satir.brd);
-  return {tanim.etiket, toplam};
+void BlokToplayan::Ekle(const Brd& brd) {
+  for (std::size_t i = 0; i < tanimlar_.size(); ++i) tutarlar_[i] += Degeri(tanimlar_[i].ifade, brd);
+}
+
+std::vector<BlokSatiri> BlokToplayan::Satirlar() const {
+  std::vector<BlokSatiri> satirlar;
+  for (std::size_t i = 0; i < tanimlar_.size(); ++i) satirlar.push_back({tanimlar_[i].etiket, tutarlar_[i]});
+  return satirlar;
 }
 
 BordroDonemi BelgeDonemi(const DefterBaslik& baslik) {

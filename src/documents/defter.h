@@ -111,7 +111,19 @@ inline constexpr BlokToplami IsverenKatkisi{"Toplam İşveren Devlet Katkısı:"
 inline constexpr BlokToplami IsverenIssizligi{"Toplam İşsizliik İşveren Kesintisi :", brd::issizisveren};
 inline constexpr BlokToplami OdenecekPrim{"Toplam Ödenecek SSK Primi :", toplam::odenecekPrim};
 
-BlokSatiri Toplami(const BlokToplami& tanim, const std::vector<BordroSatiri>& satirlar);
+// Adds them up, record by record.
+class BlokToplayan {
+ public:
+  explicit BlokToplayan(std::vector<BlokToplami> tanimlar)
+      : tanimlar_(std::move(tanimlar)), tutarlar_(tanimlar_.size()) {}
+
+  void Ekle(const Brd& brd);
+  std::vector<BlokSatiri> Satirlar() const;
+
+ private:
+  std::vector<BlokToplami> tanimlar_;
+  std::vector<Tutar> tutarlar_;
+};
 
 // The period of the papers of a month.
 BordroDonemi BelgeDonemi(const DefterBaslik& baslik);

@@ -39,11 +39,4 @@ void DefterSatirlariniGez(Motor& motor, const DefterSecim& secim, const std::fun
   }
 }
 
-std::vector<BordroSatiri> DefterSatirlariOku(Motor& motor, const DefterSecim& secim, Ilerleme* ilerleme) {
-  std::vector<BordroSatiri> satirlar;
-  DefterSatirlariniGez(
-      motor, secim, [&](BordroSatiri& satir) { satirlar.push_back(std::move(satir)); }, ilerleme);
-  return satirlar;
-}
-
 }  // namespace belvani

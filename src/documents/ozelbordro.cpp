@@ -38,28 +38,49 @@ const Kolonlar<TuretilmisSatir> kolonlar{
     {"Agi+Net Ödeme", 8, [](auto& s) { return s.net; }, Toplanir},
 };
 
+// Of records that come one after the other.
+class OzelBordroYapan {
+ public:
+  explicit OzelBordroYapan(const DefterBaslik& baslik) : liste_(kolonlar, baslik) {
+    const Firma& firma = baslik.firma;
+    liste_.rapor.baslik = "HİZMET ERBABI ÜCRET BORDROSU";
+    liste_.rapor.ekranBasligi = "Hizmet Erbabı Ücret Bordrosu";
+    liste_.rapor.ustSatirlar = {{.orta = DonemMetni(BelgeDonemi(baslik))},
+                                UnvanSatiri(firma),
+                                IsyeriSatiri(firma),
+                                {.sol = "BÖLGE ÇALIŞMA DOSYA No : " + firma.bolcal},
+                                VergiDairesiSatiri(firma)};
+  }
+
+  void Ekle(const BordroSatiri& kayit) {
+    liste_.Ekle(kayit);
+    isveren_.Ekle(kayit.brd);
+  }
+  Rapor Bitir() {
+    if (!liste_.rapor.Satirlar().empty()) liste_.rapor.sonBlok = isveren_.Satirlar();
+    return std::move(liste_.rapor);
+  }
+
+ private:
+  TuretilmisListe liste_;
+  BlokToplayan isveren_{{IsverenMatrahi, IsverenKesintisi, IsverenIssizligi}};
+};
+
 }  // namespace
 
 Rapor OzelBordroRaporu(const std::vector<BordroSatiri>& satirlar, const DefterBaslik& baslik) {
-  const Firma& firma = baslik.firma;
-  Rapor rapor = RaporYap(kolonlar, TuretilmisSatirlar(satirlar, baslik), baslik.paraonda);
-  rapor.baslik = "HİZMET ERBABI ÜCRET BORDROSU";
-  rapor.ekranBasligi = "Hizmet Erbabı Ücret Bordrosu";
-  rapor.ustSatirlar = {{.orta = DonemMetni(BelgeDonemi(baslik))},
-                       UnvanSatiri(firma),
-                       IsyeriSatiri(firma),
-                       {.sol = "BÖLGE ÇALIŞMA DOSYA No : " + firma.bolcal},
-                       VergiDairesiSatiri(firma)};
-  if (!satirlar.empty())
-    for (const auto& tanim : {IsverenMatrahi, IsverenKesintisi, IsverenIssizligi})
-      rapor.sonBlok.push_back(Toplami(tanim, satirlar));
-  return rapor;
+  OzelBordroYapan yapan(baslik);
+  for (const BordroSatiri& satir : satirlar) yapan.Ekle(satir);
+  return yapan.Bitir();
 }
 
 std::unique_ptr<Belge> OzelBordroBelgesi(const BelgeKaynagi& kaynak, const DefterSecim& secim, const SayfaDuzeni& duzen,
                                          const BelgeYazisi& yazi) {
-  const auto satirlar = DefterSatirlariOku(kaynak.motor, Sirali(secim, DefterSirasi::SskNo), kaynak.ilerleme);
-  return ListeBelgesi(OzelBordroRaporu(satirlar, BaslikYap(kaynak, secim)), KagitYonu::Yatay, yazi, duzen);
+  OzelBordroYapan yapan(BaslikYap(kaynak, secim));
+  DefterSatirlariniGez(
+      kaynak.motor, Sirali(secim, DefterSirasi::SskNo), [&](const BordroSatiri& satir) { yapan.Ekle(satir); },
+      kaynak.ilerleme);
+  return ListeBelgesi(yapan.Bitir(), KagitYonu::Yatay, yazi, duzen);
 }
 
 }  // namespace belvani

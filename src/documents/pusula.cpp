@@ -228,8 +228,9 @@ YaprakBelgesi PusulaBelgesi(const std::vector<BordroSatiri>& satirlar, const Pus
 }
 
 Rapor PusulaRaporu(const std::vector<BordroSatiri>& satirlar, const PusulaBaslik& baslik) {
-  Rapor rapor = RaporYap(kimlik + kazanclar + kesilenler + EkAlanlar(baslik),
-                         TuretilmisSatirlar(satirlar, baslik.defter), baslik.defter.paraonda);
+  TuretilmisListe liste(kimlik + kazanclar + kesilenler + EkAlanlar(baslik), baslik.defter);
+  for (const BordroSatiri& satir : satirlar) liste.Ekle(satir);
+  Rapor rapor = std::move(liste.rapor);
   rapor.baslik = pusulaBasligi;
   rapor.ekranBasligi = "Ücret Pusulası";
   rapor.ustSatirlar = {{.orta = PusulaDonemi(BelgeDonemi(baslik.defter))}, UnvanSatiri(baslik.defter.firma)};

@@ -1,10 +1,9 @@
 // A pay record with the values that depend on the rate of stamp duty, worked out once for all columns of a paper.
 #pragma once
 
-#include <vector>
-
 #include "documents/defter.h"
 #include "documents/turetilen.h"
+#include "printing/kolonlar.h"
 
 namespace belvani {
 
@@ -30,13 +29,28 @@ struct TuretilmisSatir {
   Tutar net;
 };
 
-inline std::vector<TuretilmisSatir> TuretilmisSatirlar(const std::vector<BordroSatiri>& satirlar,
-                                                       const DefterBaslik& baslik) {
-  const Yuvarlayici yuvarla(baslik.paraonda);
-  std::vector<TuretilmisSatir> sonuc;
-  sonuc.reserve(satirlar.size());
-  for (const auto& satir : satirlar) sonuc.emplace_back(satir, baslik.damgaOran, yuvarla, int(sonuc.size()) + 1);
-  return sonuc;
-}
+// A list of pay records, made record by record.
+class TuretilmisListe {
+ public:
+  TuretilmisListe(Kolonlar<TuretilmisSatir> kolonlar, const DefterBaslik& baslik)
+      : rapor(kolonlar.BosRapor(baslik.paraonda)),
+        kolonlar_(std::move(kolonlar)),
+        damgaOran_(baslik.damgaOran),
+        yuvarla_(baslik.paraonda) {}
+
+  Rapor rapor;
+
+  // Throws TutarTasmasi when an amount leaves its range.
+  TuretilmisSatir Ekle(const BordroSatiri& kayit, bool yeniSayfa = false) {
+    const TuretilmisSatir satir(kayit, damgaOran_, yuvarla_, int(rapor.Satirlar().size()) + 1);
+    rapor.Ekle({kolonlar_.Hucreler(satir), yeniSayfa});
+    return satir;
+  }
+
+ private:
+  Kolonlar<TuretilmisSatir> kolonlar_;
+  Tek damgaOran_;
+  Yuvarlayici yuvarla_;
+};
 
 }  // namespace belvani

@@ -157,7 +157,7 @@ std::shared_ptr<const Rapor> YaprakliBelge::Veri() const {
     if (hepsi == nullptr)
       hepsi = std::make_shared<Rapor>(parca);
     else
-      for (const RaporSatiri& satir : parca.Satirlar()) hepsi->Ekle(satir);
+      for (RaporSatiri satir : parca.Satirlar()) hepsi->Ekle(std::move(satir));
   });
   return hepsi;
 }

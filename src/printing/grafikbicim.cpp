@@ -50,9 +50,10 @@ double ImzaPayi(const Rapor& rapor) {
 
 double MetinKolonuEni(const Rapor& rapor, std::size_t k, const YaziBicimi& yazi) {
   double enUzun = EtiketEni(rapor, k, yazi);
-  for (const auto& satir : rapor.Satirlar())
-    if (const auto* metin = std::get_if<std::string>(&satir.hucreler[k]))
-      enUzun = std::max(enUzun, MetinEni(*metin, yazi));
+  for (std::size_t i = 0; i < rapor.Satirlar().size(); ++i) {
+    const Hucre hucre = rapor.Satirlar().Hucresi(i, k);
+    if (const auto* metin = std::get_if<std::string>(&hucre)) enUzun = std::max(enUzun, MetinEni(*metin, yazi));
+  }
   const double bildirilen = rapor.Kolonlar()[k].en * OrtalamaHarf * PuntoMm;
   return std::min(enUzun, std::max(bildirilen, DarHucre * enUzun));
 }

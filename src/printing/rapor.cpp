@@ -79,11 +79,16 @@ std::string UstEkranMetni(const UstSatir& satir) {
 }
 
 Rapor::Rapor(std::vector<RaporKolonu> kolonlar)
-    : kolonlar_(std::move(kolonlar)), birikim_(kolonlar_.size()), sinirlar_(kolonlar_.size()) {}
+    : kolonlar_(std::move(kolonlar)),
+      satirlar_(std::make_shared<RaporSatirlari>(kolonlar_.size())),
+      toplam_(kolonlar_.size()),
+      sinirlar_(kolonlar_.size()) {}
 
 void Rapor::Ekle(RaporSatiri satir) {
   assert(satir.hucreler.size() == kolonlar_.size());
-  const std::size_t onceki = birikim_.size() - kolonlar_.size();
+  if (satirlar_.use_count() > 1) satirlar_ = std::make_shared<RaporSatirlari>(*satirlar_);
+  if (satirlar_->size() % RaporSatirlari::BlokBoyu == 0)
+    birikim_.insert(birikim_.end(), toplam_.begin(), toplam_.end());
   for (std::size_t k = 0; k < kolonlar_.size(); ++k) {
     Hucre& hucre = satir.hucreler[k];
     Sinir& sinir = sinirlar_[k];
@@ -92,35 +97,43 @@ void Rapor::Ekle(RaporSatiri satir) {
       sinir.harf = std::max(sinir.harf, HarfSayisi(*metin));
     }
     const std::int64_t deger = Ham(hucre);
-    const std::int64_t toplam = kolonlar_[k].toplanir ? Topla(birikim_[onceki + k], deger) : 0;
-    birikim_.push_back(toplam);
-    sinir.enKucuk = std::min({sinir.enKucuk, deger, toplam});
-    sinir.enBuyuk = std::max({sinir.enBuyuk, deger, toplam});
+    if (kolonlar_[k].toplanir) toplam_[k] = Topla(toplam_[k], deger);
+    sinir.enKucuk = std::min({sinir.enKucuk, deger, toplam_[k]});
+    sinir.enBuyuk = std::max({sinir.enBuyuk, deger, toplam_[k]});
   }
-  satirlar_.push_back(std::move(satir));
+  satirlar_->Ekle(satir);
+}
+
+// Sums of the first rows.
+std::vector<std::int64_t> Rapor::Birikim(std::size_t satirSayisi) const {
+  assert(satirSayisi <= satirlar_->size());
+  if (satirSayisi == satirlar_->size()) return toplam_;
+  const std::size_t blok = satirSayisi / RaporSatirlari::BlokBoyu;
+  const auto bas = birikim_.begin() + std::ptrdiff_t(blok * kolonlar_.size());
+  std::vector<std::int64_t> toplamlar(bas, bas + std::ptrdiff_t(kolonlar_.size()));
+  for (std::size_t sira = blok * RaporSatirlari::BlokBoyu; sira < satirSayisi; ++sira)
+    for (std::size_t k = 0; k < kolonlar_.size(); ++k)
+      if (kolonlar_[k].toplanir) toplamlar[k] += Ham(satirlar_->Hucresi(sira, k));
+  return toplamlar;
+}
+
+std::vector<Hucre> Rapor::Toplamlar(std::size_t ilk, std::size_t son, const std::string& etiket) const {
+  assert(ilk <= son);
+  const auto once = Birikim(ilk);
+  const auto hepsi = Birikim(son);
+  std::vector<Hucre> toplamlar(kolonlar_.size());
+  for (std::size_t k = 0; k < kolonlar_.size(); ++k)
+    if (kolonlar_[k].toplanir) toplamlar[k] = Hamdan(hepsi[k] - once[k], kolonlar_[k].tur);
+  if (const auto kolon = EtiketKolonu(); kolon && !etiket.empty()) toplamlar[*kolon] = etiket;
+  return toplamlar;
 }
 
 std::vector<Hucre> Rapor::AraToplam(std::size_t satirSayisi) const {
-  assert(satirSayisi <= satirlar_.size());
-  std::vector<Hucre> toplamlar(kolonlar_.size());
-  for (std::size_t k = 0; k < kolonlar_.size(); ++k)
-    if (kolonlar_[k].toplanir) toplamlar[k] = Hamdan(birikim_[satirSayisi * kolonlar_.size() + k], kolonlar_[k].tur);
-  return Etiketli(std::move(toplamlar), toplamEtiketi);
+  return Toplamlar(0, satirSayisi, toplamEtiketi);
 }
 
 std::vector<Hucre> Rapor::SayfaToplami(std::size_t ilk, std::size_t son) const {
-  assert(ilk <= son && son <= satirlar_.size());
-  std::vector<Hucre> toplamlar(kolonlar_.size());
-  for (std::size_t k = 0; k < kolonlar_.size(); ++k)
-    if (kolonlar_[k].toplanir)
-      toplamlar[k] =
-          Hamdan(birikim_[son * kolonlar_.size() + k] - birikim_[ilk * kolonlar_.size() + k], kolonlar_[k].tur);
-  return Etiketli(std::move(toplamlar), sayfaToplamEtiketi);
-}
-
-std::vector<Hucre> Rapor::Etiketli(std::vector<Hucre> toplamlar, const std::string& etiket) const {
-  if (const auto kolon = EtiketKolonu(); kolon && !etiket.empty()) toplamlar[*kolon] = etiket;
-  return toplamlar;
+  return Toplamlar(ilk, son, sayfaToplamEtiketi);
 }
 
 std::optional<std::size_t> Rapor::EtiketKolonu() const {
@@ -136,13 +149,14 @@ int Rapor::EtiketHarfi() const {
 }
 
 Rapor Rapor::Sirali(std::span<const int> sira) const {
-  assert(sira.size() == satirlar_.size());
+  assert(sira.size() == satirlar_->size());
   Rapor sirali = *this;
-  sirali.satirlar_.clear();
-  sirali.birikim_.assign(kolonlar_.size(), 0);
+  sirali.satirlar_ = std::make_shared<RaporSatirlari>(kolonlar_.size());
+  sirali.toplam_.assign(kolonlar_.size(), 0);
+  sirali.birikim_.clear();
   sirali.sinirlar_.assign(kolonlar_.size(), {});
   for (std::size_t i = 0; i < sira.size(); ++i)
-    sirali.Ekle({satirlar_[std::size_t(sira[i])].hucreler, satirlar_[i].yeniSayfa});
+    sirali.Ekle({(*satirlar_)[std::size_t(sira[i])].hucreler, satirlar_->YeniSayfalar()[i]});
   return sirali;
 }
 
@@ -153,7 +167,7 @@ bool Rapor::ToplamVar() const {
 int Rapor::GerekliEn(std::size_t kolon, int gruplama) const {
   const RaporKolonu& k = kolonlar_[kolon];
   const Sinir& sinir = sinirlar_[kolon];
-  const bool etiketli = !satirlar_.empty() && EtiketKolonu() == kolon;
+  const bool etiketli = !satirlar_->empty() && EtiketKolonu() == kolon;
   if (!k.Sayisal()) return std::max({int(sinir.harf), TarihHarfi(k.tur), etiketli ? EtiketHarfi() : 0});
   const auto en = [&](std::int64_t ham) { return HarfSayisi(HucreMetni(Hamdan(ham, k.tur), k, gruplama)); };
   return int(std::max(en(sinir.enKucuk), en(sinir.enBuyuk)));

@@ -8,19 +8,15 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
-#include <variant>
 #include <vector>
 
-#include "core/deger.h"
-#include "core/tarih.h"
-#include "core/tutar.h"
+#include "printing/raporsatirlari.h"
 
 namespace belvani {
-
-using Hucre = std::variant<Null, std::string, std::int64_t, Tutar, Tarih>;
 
 // The value as a text of no column: "Işıl", "26", "1234.5", "15.03.2004"; "" for Null.
 std::string DuzMetin(const Hucre& hucre);
@@ -59,11 +55,6 @@ struct RaporKolonu {
 
   const std::string& Adi() const { return ad.empty() ? kisaBaslik : ad; }
   bool Sayisal() const { return tur == KolonTuru::Tam || tur == KolonTuru::Tutar; }
-};
-
-struct RaporSatiri {
-  std::vector<Hucre> hucreler;  // one for each column
-  bool yeniSayfa = false;       // starts a page on paper
 };
 
 // A line above the column heads of each page; any part may be empty.
@@ -107,11 +98,11 @@ class Rapor {
   void Ekle(RaporSatiri satir);
 
   const std::vector<RaporKolonu>& Kolonlar() const { return kolonlar_; }
-  const std::vector<RaporSatiri>& Satirlar() const { return satirlar_; }
+  const RaporSatirlari& Satirlar() const { return *satirlar_; }
 
   // Sums of the first `satirSayisi` rows, with their label; Null in the other columns that are not summed.
   std::vector<Hucre> AraToplam(std::size_t satirSayisi) const;
-  std::vector<Hucre> Toplam() const { return AraToplam(satirlar_.size()); }
+  std::vector<Hucre> Toplam() const { return AraToplam(satirlar_->size()); }
   // Of the rows from `ilk` on to the one before `son`, as a page has them.
   std::vector<Hucre> SayfaToplami(std::size_t ilk, std::size_t son) const;
   bool ToplamVar() const;
@@ -125,7 +116,8 @@ class Rapor {
   Rapor Sirali(std::span<const int> sira) const;
 
  private:
-  std::vector<Hucre> Etiketli(std::vector<Hucre> toplamlar, const std::string& etiket) const;
+  std::vector<std::int64_t> Birikim(std::size_t satirSayisi) const;
+  std::vector<Hucre> Toplamlar(std::size_t ilk, std::size_t son, const std::string& etiket) const;
   int EtiketHarfi() const;
 
   // The widest of a column: of texts by letters, of numbers one of the two ends.
@@ -136,8 +128,9 @@ class Rapor {
   };
 
   std::vector<RaporKolonu> kolonlar_;
-  std::vector<RaporSatiri> satirlar_;
-  std::vector<std::int64_t> birikim_;  // a row of running sums for each count of rows from 0, scaled like the cells
+  std::shared_ptr<RaporSatirlari> satirlar_;  // of copies too, until one of them gets a row
+  std::vector<std::int64_t> toplam_;          // of each column, scaled like the cells; 0 of those that are not summed
+  std::vector<std::int64_t> birikim_;         // the same before each block of rows
   std::vector<Sinir> sinirlar_;
 };
 

@@ -94,7 +94,13 @@ void RaporDolgusu::AddbyName(std::string_view baslik, const Hucre& deger) {
 }
 
 void RaporDolgusu::data(int sayfa, int satir, int kolon, const Hucre& deger) {
-  Koy(SayfadakiSatir(satirlar_, sayfa, satir), kolon, deger);
+  Koy(SayfadakiSatir(YeniSayfalar(), sayfa, satir), kolon, deger);
+}
+
+std::vector<bool> RaporDolgusu::YeniSayfalar() const {
+  std::vector<bool> sayfalar;
+  for (const RaporSatiri& satir : satirlar_) sayfalar.push_back(satir.yeniSayfa);
+  return sayfalar;
 }
 
 void RaporDolgusu::Konum(int satir, int kolon) {
@@ -118,17 +124,17 @@ Rapor RaporDolgusu::Yap() const {
   return rapor;
 }
 
-std::vector<int> SayfaBaslari(const std::vector<RaporSatiri>& satirlar) {
+std::vector<int> SayfaBaslari(const std::vector<bool>& yeniSayfalar) {
   std::vector<int> baslar;
-  for (std::size_t i = 0; i < satirlar.size(); ++i)
-    if (i == 0 || satirlar[i].yeniSayfa) baslar.push_back(int(i));
+  for (std::size_t i = 0; i < yeniSayfalar.size(); ++i)
+    if (i == 0 || yeniSayfalar[i]) baslar.push_back(int(i));
   return baslar;
 }
 
-int SayfadakiSatir(const std::vector<RaporSatiri>& satirlar, int sayfa, int satir) {
-  const auto baslar = SayfaBaslari(satirlar);
+int SayfadakiSatir(const std::vector<bool>& yeniSayfalar, int sayfa, int satir) {
+  const auto baslar = SayfaBaslari(yeniSayfalar);
   if (!Var(baslar.size(), sayfa) || satir < 0) return -1;
-  const int son = Var(baslar.size(), sayfa + 1) ? baslar[std::size_t(sayfa) + 1] : int(satirlar.size());
+  const int son = Var(baslar.size(), sayfa + 1) ? baslar[std::size_t(sayfa) + 1] : int(yeniSayfalar.size());
   const int no = baslar[std::size_t(sayfa)] + satir;
   return no < son ? no : -1;
 }

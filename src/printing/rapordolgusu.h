@@ -42,7 +42,7 @@ class RaporDolgusu {
   void AddbyName(std::string_view baslik, const Hucre& deger);
   void data(int sayfa, int satir, int kolon, const Hucre& deger);
 
-  const std::vector<RaporSatiri>& Satirlar() const { return satirlar_; }
+  std::vector<bool> YeniSayfalar() const;  // of each row
   // Where the next cell goes; the row of the whole report, -1 before the first.
   int Satir() const { return satir_; }
   int Kolon() const { return kolon_; }
@@ -67,10 +67,10 @@ class RaporDolgusu {
   int kolon_ = 0;
 };
 
-// The first row of each page.
-std::vector<int> SayfaBaslari(const std::vector<RaporSatiri>& satirlar);
+// The first row of each page, from what says of each row whether it starts one.
+std::vector<int> SayfaBaslari(const std::vector<bool>& yeniSayfalar);
 
 // A row of a page as one of all rows; -1 where the page has none such.
-int SayfadakiSatir(const std::vector<RaporSatiri>& satirlar, int sayfa, int satir);
+int SayfadakiSatir(const std::vector<bool>& yeniSayfalar, int sayfa, int satir);
 
 }  // namespace belvani

@@ -11,7 +11,7 @@ class Sayfalayici {
       : rapor_(rapor), bicim_(bicim), duzen_(duzen) {}
 
   std::vector<Sayfa> Bol() {
-    const auto& satirlar = rapor_.Satirlar();
+    const RaporSatirlari& satirlar = rapor_.Satirlar();
     if (satirlar.empty() && !rapor_.Kolonlar().empty()) Basla(0);
     for (std::size_t i = 0; i < satirlar.size(); ++i) {
       if (satirSayaci_ == 0)
@@ -21,7 +21,7 @@ class Sayfalayici {
       Koy(Tur::Govde, i);
       SatiriSay();
       const bool son = i + 1 == satirlar.size();
-      if (!son && (Dolu() || satirlar[i + 1].yeniSayfa)) Bitir(Tur::Nakil, i + 1);
+      if (!son && (Dolu() || satirlar.YeniSayfalar()[i + 1])) Bitir(Tur::Nakil, i + 1);
     }
     if (!satirlar.empty()) {
       Bitir(Tur::Toplam, satirlar.size());

@@ -59,7 +59,7 @@ class xgrid : public QTableView {
   void CurrentRow(int satir) { KonumaGit(CurrentPage(), satir, CurrentColon()); }
   void CurrentColon(int kolon) { KonumaGit(CurrentPage(), CurrentRow(), kolon); }
   int GetColonCount() const { return int(Belgesi().Kolonlar().size()); }
-  int GetListCount() const { return int(Satirlar().size()); }  // of all pages
+  int GetListCount() const { return int(YeniSayfalar().size()); }  // of all pages
   QString GetAck1() const { return UstSatirMetni(0); }
   QString GetAck2() const { return UstSatirMetni(1); }
   QString GetBaslikPrint(int kolon) const;
@@ -119,7 +119,7 @@ class xgrid : public QTableView {
  private:
   template <class Is>
   void Doldur(Is is);
-  const std::vector<RaporSatiri>& Satirlar() const;
+  std::vector<bool> YeniSayfalar() const;  // of each row, also while they are filled in
   int SimdikiSatir() const;
   void KonumaGit(int sayfa, int satir, int kolon);
   // Showing.

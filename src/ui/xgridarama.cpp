@@ -23,7 +23,7 @@ bool xgridArama::Uyar(int kayit, int kolon) const {
   const auto k = std::size_t(kolon);
   if (!bakilir_[k]) return false;
   const std::string metin =
-      HucreMetni(rapor_.Satirlar()[std::size_t(kayit)].hucreler[k], rapor_.Kolonlar()[k], gruplama_);
+      HucreMetni(rapor_.Satirlar().Hucresi(std::size_t(kayit), k), rapor_.Kolonlar()[k], gruplama_);
   return metin.size() >= aranan_.size() && (harfli_ ? KucukHarf(metin) : metin).find(aranan_) != std::string::npos;
 }
 

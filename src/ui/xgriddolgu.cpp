@@ -75,14 +75,14 @@ void xgrid::Refresh() {
   Goster();
 }
 
-const std::vector<RaporSatiri>& xgrid::Satirlar() const {
-  return dolgu_ ? dolgu_->Satirlar() : rapor_->Satirlar();
+std::vector<bool> xgrid::YeniSayfalar() const {
+  return dolgu_ ? dolgu_->YeniSayfalar() : rapor_->Satirlar().YeniSayfalar();
 }
 
 Hucre xgrid::data(int sayfa, int satir, int kolon) const {
-  const int no = SayfadakiSatir(Satirlar(), sayfa, satir);
-  if (no < 0 || !Var(Satirlar()[std::size_t(no)].hucreler.size(), kolon)) return Null{};
-  return Satirlar()[std::size_t(no)].hucreler[std::size_t(kolon)];
+  const int no = SayfadakiSatir(YeniSayfalar(), sayfa, satir);
+  if (no < 0 || !Var(Belgesi().Kolonlar().size(), kolon)) return Null{};
+  return Belgesi().Satirlar().Hucresi(std::size_t(no), std::size_t(kolon));
 }
 
 int xgrid::SimdikiSatir() const {
@@ -91,18 +91,18 @@ int xgrid::SimdikiSatir() const {
 
 int xgrid::CurrentPage() const {
   if (!dolduruluyor_) return model_->Sayfa();
-  const auto baslar = SayfaBaslari(Satirlar());
+  const auto baslar = SayfaBaslari(YeniSayfalar());
   return std::max(int(std::ranges::upper_bound(baslar, dolgu_->Satir()) - baslar.begin()) - 1, 0);
 }
 
 int xgrid::CurrentRow() const {
   const int satir = SimdikiSatir();
-  return satir < 0 ? -1 : satir - SayfaBaslari(Satirlar())[std::size_t(CurrentPage())];
+  return satir < 0 ? -1 : satir - SayfaBaslari(YeniSayfalar())[std::size_t(CurrentPage())];
 }
 
 void xgrid::KonumaGit(int sayfa, int satir, int kolon) {
-  const int no = SayfadakiSatir(Satirlar(), sayfa, satir);
-  if (no < 0 || !Var(Satirlar()[std::size_t(no)].hucreler.size(), kolon)) return;
+  const int no = SayfadakiSatir(YeniSayfalar(), sayfa, satir);
+  if (no < 0 || !Var(Belgesi().Kolonlar().size(), kolon)) return;
   dolduruluyor_ ? dolgu_->Konum(no, kolon) : KaydaGit(no, kolon);
 }
 
@@ -114,7 +114,7 @@ QString xgrid::GetBaslikPrint(int kolon) const {
 QString xgrid::GetFormatData(int satir, int kolon) const {
   const Rapor& rapor = Belgesi();
   if (!Var(rapor.Satirlar().size(), satir) || !Var(rapor.Kolonlar().size(), kolon)) return {};
-  return Yazi(HucreMetni(rapor.Satirlar()[std::size_t(satir)].hucreler[std::size_t(kolon)],
+  return Yazi(HucreMetni(rapor.Satirlar().Hucresi(std::size_t(satir), std::size_t(kolon)),
                          rapor.Kolonlar()[std::size_t(kolon)]));
 }
 

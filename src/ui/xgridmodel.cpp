@@ -36,7 +36,7 @@ void xgridModel::RaporKoy(std::shared_ptr<const Rapor> rapor, QStringList baslik
   siralanan_.clear();
   siraKolonu_ = -1;
   sayfa_ = 0;
-  sayfaBaslari_ = SayfaBaslari(rapor_->Satirlar());
+  sayfaBaslari_ = SayfaBaslari(rapor_->Satirlar().YeniSayfalar());
   endResetModel();
 }
 
@@ -57,13 +57,13 @@ int xgridModel::KayittakiSayfa(int kayit) const {
 
 void xgridModel::Sirala(int kolon, std::optional<Qt::SortOrder> yon) {
   Q_EMIT layoutAboutToBeChanged();
-  const auto& satirlar = rapor_->Satirlar();
+  const RaporSatirlari& satirlar = rapor_->Satirlar();
   siraKolonu_ = yon ? kolon : -1;
   siralanan_.resize(yon ? satirlar.size() : 0);
   std::iota(siralanan_.begin(), siralanan_.end(), 0);
-  const auto once = [&, k = std::size_t(kolon)](int a, int b) {
-    return Once(satirlar[std::size_t(a)].hucreler[k], satirlar[std::size_t(b)].hucreler[k]);
-  };
+  std::vector<Hucre> degerler;
+  for (const int sira : siralanan_) degerler.push_back(satirlar.Hucresi(std::size_t(sira), std::size_t(kolon)));
+  const auto once = [&](int a, int b) { return Once(degerler[std::size_t(a)], degerler[std::size_t(b)]); };
   for (int s = 0; yon && s < SayfaSayisi(); ++s) {
     const auto ilk = siralanan_.begin() + SayfaninIlki(s);
     const auto son = siralanan_.begin() + SayfaninSonu(s);
@@ -120,7 +120,7 @@ void xgridModel::EksiRenkleri(const QColor& arka, const QColor& yazi) {
 
 bool xgridModel::Eksi(int sira, int kolon) const {
   if (Turu(sira) != SatirTuru::Kayit) return false;
-  const Hucre& hucre = rapor_->Satirlar()[std::size_t(Kayit(sira))].hucreler[std::size_t(kolon)];
+  const Hucre hucre = rapor_->Satirlar().Hucresi(std::size_t(Kayit(sira)), std::size_t(kolon));
   const auto* tutar = std::get_if<Tutar>(&hucre);
   return tutar != nullptr && *tutar < Tutar();
 }
@@ -129,7 +129,7 @@ QString xgridModel::Metin(int sira, int kolon) const {
   const auto k = std::size_t(kolon);
   switch (Turu(sira)) {
     case SatirTuru::Kayit:
-      return Yazi(HucreMetni(rapor_->Satirlar()[std::size_t(Kayit(sira))].hucreler[k], rapor_->Kolonlar()[k]));
+      return Yazi(HucreMetni(rapor_->Satirlar().Hucresi(std::size_t(Kayit(sira)), k), rapor_->Kolonlar()[k]));
     case SatirTuru::Toplam:
       return Yazi(HucreMetni(toplam_[k], rapor_->Kolonlar()[k]));
     case SatirTuru::Blok: {

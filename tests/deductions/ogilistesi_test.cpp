@@ -34,7 +34,7 @@ struct OgiListesi : testing::Test {
     return std::size_t(yer - rapor.Kolonlar().begin());
   }
   static Hucre Hucresi(const Rapor& rapor, std::size_t satir, std::string_view baslik) {
-    return rapor.Satirlar().at(satir).hucreler.at(Yeri(rapor, baslik));
+    return rapor.Satirlar().Hucresi(satir, Yeri(rapor, baslik));
   }
   static std::vector<std::string> Kolon(const Rapor& rapor, std::string_view baslik) {
     std::vector<std::string> metinler;

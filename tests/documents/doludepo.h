@@ -72,8 +72,11 @@ struct DoluDepo : OrnekDepo {
     return komut->Adim() ? komut->Tam(0) : -1;
   }
   std::vector<BordroSatiri> Satirlar(DefterSirasi sira) {
-    return DefterSatirlariOku(db.IcMotor(),
-                              {.yil = Yil, .ay = Ay, .kod = {}, .grup = {}, .tip = {}, .ozel = {}, .sira = sira});
+    std::vector<BordroSatiri> satirlar;
+    DefterSatirlariniGez(db.IcMotor(),
+                         {.yil = Yil, .ay = Ay, .kod = {}, .grup = {}, .tip = {}, .ozel = {}, .sira = sira},
+                         [&](BordroSatiri& satir) { satirlar.push_back(std::move(satir)); });
+    return satirlar;
   }
 };
 

@@ -86,7 +86,7 @@ TEST_F(Isgucu, HeadingAndForms) {
   EXPECT_EQ(rapor.Kolonlar().size(), 13u);
   EXPECT_EQ(rapor.Satirlar().size(), 6u + 1 + 8);
   EXPECT_EQ(HucreMetni(rapor.Satirlar()[0].hucreler[3], rapor.Kolonlar()[3]), "7");
-  EXPECT_EQ(HucreMetni(rapor.Satirlar().back().hucreler[11], rapor.Kolonlar()[11]), "2");
+  EXPECT_EQ(HucreMetni(rapor.Satirlar().Hucresi(rapor.Satirlar().size() - 1, 11), rapor.Kolonlar()[11]), "2");
   const FormSayfasi sayfa = IsgucuCiz(c);
   const auto deger = [&](std::string_view ad) { return std::ranges::find(sayfa.alanlar, ad, &FormAlani::ad)->deger; };
   EXPECT_EQ(deger("satir1.t1") + "," + deger("ayrim2.k4") + "," + deger("ay"), "7,2,Temmuz");

@@ -33,6 +33,39 @@ TEST(Rapor, KindsOfColumnsFollowTheirValues) {
   EXPECT_THAT(kolonlar.AnahtarAdlari(), testing::ElementsAre("a", "b", "c", "e", "f"));
 }
 
+// Rows of every kind come back as they were put in, and sums of any stretch are those of its rows, also where rows are
+// packed together.
+TEST(Rapor, RowsAndSumsOfManyRows) {
+  std::vector<Kalem> kalemler;
+  for (int i = 0; i < 2 * int(RaporSatirlari::BlokBoyu) + 3; ++i)
+    kalemler.push_back({.ad = "Işıl " + std::to_string(i),
+                        .gun = i % 3 == 0 ? Tarih() : Tarih(1899, 12, 1 + i % 31),
+                        .adet = i % 7,
+                        .tutar = Tutar::Hamdan(i % 5 == 0 ? -7 * i : 13 * i),
+                        .grup = i / 100});
+  Rapor rapor = KalemRaporu(kalemler);
+  ASSERT_EQ(rapor.Satirlar().size(), kalemler.size());
+  Tutar toplam;
+  std::vector<Tutar> once{toplam};
+  std::size_t sira = 0;
+  for (const auto& [hucreler, yeniSayfa] : rapor.Satirlar()) {
+    const Kalem& k = kalemler[sira];
+    EXPECT_THAT(hucreler, testing::ElementsAre(k.ad, k.gun, std::int64_t(k.adet), k.tutar, k.birikmis, Null{})) << sira;
+    EXPECT_EQ(yeniSayfa, sira > 0 && k.grup != kalemler[sira - 1].grup) << sira;
+    once.push_back(toplam += k.tutar);
+    ++sira;
+  }
+  for (std::size_t son = 0; son < once.size(); son += 51) {
+    EXPECT_EQ(rapor.AraToplam(son)[3], Hucre(once[son])) << son;
+    EXPECT_EQ(rapor.SayfaToplami(son / 2, son)[3], Hucre(once[son] - once[son / 2])) << son;
+  }
+  EXPECT_EQ(rapor.Toplam()[3], Hucre(toplam));
+  const Rapor kopya = rapor;
+  rapor.Ekle(rapor.Satirlar()[1]);
+  EXPECT_EQ(kopya.Satirlar().size(), kalemler.size()) << "a copy has rows of its own";
+  EXPECT_EQ(kopya.Toplam()[3], Hucre(toplam));
+}
+
 TEST(Rapor, Subtotals) {
   const Rapor rapor = KalemRaporu({{.ad = "a", .adet = 2, .tutar = Tutar(10.25), .birikmis = Tutar(5.0)},
                                    {.ad = "b", .adet = 3, .tutar = Tutar(-0.25), .grup = 1}});
