@@ -1,6 +1,6 @@
 #include "accounting/fisoku.h"
 
-#include "core/asama.h"
+#include "core/store/izlenenokuma.h"
 #include "core/store/satirlar.h"
 #include "documents/sorgumetni.h"
 
@@ -35,8 +35,7 @@ Fis FisOku(Motor& motor, const FisDonemi& donem, Ilerleme* ilerleme) {
   FisKurucu kurucu(KayitlariOku<Entpar>(motor, "order by grup, no"));
   const auto komut = KayitSorgusu(donem).Hazirla(motor);
   Brd kayit;
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     KolonlariAl(*komut, 1, YerKolonlari, kayit);
     kurucu.Ekle(komut->Metin(0), kayit);
   }

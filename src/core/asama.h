@@ -25,7 +25,12 @@ class Asama {
   explicit Asama(Ilerleme* ilerleme, std::size_t toplam = 0) : ilerleme_(ilerleme), toplam_(toplam) {}
 
   void Adim() {
-    if (ilerleme_ != nullptr && !ilerleme_->Adim(biten_++, toplam_)) throw Vazgecilmis{};
+    Sor();
+    ++biten_;
+  }
+  // In the middle of a step.
+  void Sor() const {
+    if (ilerleme_ != nullptr && !ilerleme_->Adim(biten_, toplam_)) throw Vazgecilmis{};
   }
 
  private:

@@ -1,6 +1,6 @@
 #include "declarations/bildirgesorgu.h"
 
-#include "core/asama.h"
+#include "core/store/izlenenokuma.h"
 #include "documents/sorgumetni.h"
 #include "documents/turetilen.h"
 
@@ -51,8 +51,7 @@ OncekiAyKayitlari::OncekiAyKayitlari(Motor& motor, int yil, int ay, Ilerleme* il
   komut->TamBagla(1, ay == 1 ? yil - 1 : yil);
   komut->TamBagla(2, ay == 1 ? AralikAyi : ay - 1);
   Brd brd;
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     KolonlariAl(*komut, 0, GunKolonlari, brd);
     kayitlar_.try_emplace(brd.kod, Kayit{GunToplami(brd), brd.ui, brd.sskmatrahisveren});
   }
@@ -70,8 +69,7 @@ void BildirgeKayitlariOku(Motor& motor, const BildirgeSuzgeci& suzgec,
   const OncekiAyKayitlari onceki(motor, suzgec.yil, suzgec.ay, ilerleme);
   const auto komut = Sorgu(suzgec).Hazirla(motor);
   BildirgeKaydi kayit;
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     const int sicilIlk = KolonlariAl(*komut, 0, BrdKolonlari, kayit.brd);
     const int kimlikIlk = KolonlariAl(*komut, sicilIlk, SicilKolonlari, kayit.sicil);
     KolonAl(*komut, kimlikIlk, kayit.tcno);

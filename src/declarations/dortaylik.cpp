@@ -1,7 +1,7 @@
 #include "declarations/dortaylik.h"
 
-#include "core/asama.h"
 #include "core/session/aracibilgi.h"
+#include "core/store/izlenenokuma.h"
 #include "core/turkce.h"
 #include "declarations/dortaylikkagidi.h"
 #include "documents/listebelgesi.h"
@@ -115,8 +115,7 @@ std::vector<DortAylikSatir> DortAyHesapla(Motor& motor, const DortAySecimi& seci
   std::string kod;
   Brd brd;
   Sicil sicil;
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     const int sicilIlk = KolonlariAl(*komut, 0, BrdKolonlari, brd);
     if (satirlar.empty() || brd.kod != kod) {
       KolonlariAl(*komut, sicilIlk, SicilKolonlari, sicil);

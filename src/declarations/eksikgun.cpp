@@ -1,7 +1,7 @@
 #include "declarations/eksikgun.h"
 
-#include "core/asama.h"
 #include "core/session/aracibilgi.h"
+#include "core/store/izlenenokuma.h"
 #include "documents/listebelgesi.h"
 #include "documents/sorgumetni.h"
 #include "documents/turetilen.h"
@@ -79,8 +79,7 @@ EksikGunListesi EksikGunHesapla(const BelgeKaynagi& kaynak, int yil, int ay) {
   Brd brd;
   Sicil sicil;
   std::string tcno;
-  for (Asama asama(kaynak.ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, kaynak.ilerleme); okuma.Adim();) {
     const int sicilIlk = KolonlariAl(*komut, 0, BrdKolonlari, brd);
     const int kimlikIlk = KolonlariAl(*komut, sicilIlk, SicilKolonlari, sicil);
     KolonAl(*komut, kimlikIlk, tcno);

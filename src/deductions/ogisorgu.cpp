@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/asama.h"
+#include "core/store/izlenenokuma.h"
 #include "core/store/satirlar.h"
 #include "core/tables/bordronosu.h"
 #include "core/turkce.h"
@@ -28,8 +28,7 @@ std::vector<OgiKisisi> DevirleriOku(Motor& motor, const DefterSecim& secim, int 
   sorgu.Ekle(" order by d.kod");
   const auto komut = sorgu.Hazirla(motor);
   std::vector<OgiKisisi> kisiler;
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     OgiKisisi& k = kisiler.emplace_back();
     Sicil sicil;
     KolonAl(*komut, 0, k.kod);
@@ -57,8 +56,7 @@ void OdenenleriOku(Motor& motor, const DefterSecim& secim, const OgiAyAraligi& a
   const auto komut = sorgu.Hazirla(motor);
   std::int64_t sonAy = 0;
   auto kisi = kisiler.begin();
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     if (std::exchange(sonAy, komut->Tam(0)) != komut->Tam(0)) kisi = kisiler.begin();
     const std::string_view kod = komut->Metin(1);
     while (kisi != kisiler.end() && kisi->kod != kod && TurkceKarsilastir(kisi->kod, kod) < 0) ++kisi;

@@ -1,7 +1,7 @@
 #include "documents/agilistesi.h"
 
-#include "core/asama.h"
 #include "core/sayi.h"
+#include "core/store/izlenenokuma.h"
 #include "core/store/satirlar.h"
 #include "documents/listebelgesi.h"
 #include "documents/sorgumetni.h"
@@ -61,8 +61,7 @@ std::vector<AgiKisisi> AgiKisileriOku(Motor& motor, const DefterSecim& secim, Il
   sorgu.Ekle(" order by s.kod, b.ay, b.no");
   const auto komut = sorgu.Hazirla(motor);
   std::vector<AgiKisisi> kisiler;
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     if (kisiler.empty() || kisiler.back().kod != komut->Metin(0)) {
       Sicil sicil;
       KolonAl(*komut, 1, sicil.adi);

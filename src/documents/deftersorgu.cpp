@@ -1,6 +1,6 @@
 #include "documents/deftersorgu.h"
 
-#include "core/asama.h"
+#include "core/store/izlenenokuma.h"
 #include "core/store/satirlar.h"
 #include "documents/sorgumetni.h"
 
@@ -30,8 +30,7 @@ void DefterSatirlariniGez(Motor& motor, const DefterSecim& secim, const std::fun
   sorgu.Secim(secim);
   sorgu.Ekle(Sira(secim.sira));
   const auto komut = sorgu.Hazirla(motor);
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     BordroSatiri satir;
     const int sonraki = KayitAl(*komut, KayitAl(*komut, 0, satir.brd), satir.sicil);
     KolonAl(*komut, sonraki, satir.tcno);

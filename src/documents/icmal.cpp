@@ -1,6 +1,6 @@
 #include "documents/icmal.h"
 
-#include "core/asama.h"
+#include "core/store/izlenenokuma.h"
 #include "documents/icmalgrafigi.h"
 #include "documents/listebelgesi.h"
 #include "documents/sorgumetni.h"
@@ -150,8 +150,7 @@ std::vector<IcmalGirdisi> IcmalGirdileriOku(Motor& motor, int yil, int ay, Ilerl
                    {std::int64_t(yil), std::int64_t(ay)});
   const auto komut = sorgu.Hazirla(motor);
   std::vector<IcmalGirdisi> girdiler;
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     IcmalGirdisi& girdi = girdiler.emplace_back();
     KolonAl(*komut, KolonlariAl(*komut, 0, BrdKolonlari, girdi.brd), girdi.sskdurum);
   }

@@ -1,6 +1,6 @@
 #include "documents/izin.h"
 
-#include "core/asama.h"
+#include "core/store/izlenenokuma.h"
 #include "core/store/satirlar.h"
 #include "documents/listebelgesi.h"
 #include "documents/sorgumetni.h"
@@ -118,8 +118,7 @@ std::vector<IzinKisisi> IzinleriOku(Motor& motor, int yil, const MetinAraligi& k
   sorgu.Ekle(" order by s.kod, u.yil, u.ay");
   const auto komut = sorgu.Hazirla(motor);
   std::vector<IzinKisisi> kisiler;
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     if (kisiler.empty() || kisiler.back().kod != komut->Metin(0)) {
       IzinKisisi& kisi = kisiler.emplace_back();
       Sicil sicil;

@@ -1,6 +1,6 @@
 #include "notices/dizipusulasi.h"
 
-#include "core/asama.h"
+#include "core/store/izlenenokuma.h"
 #include "core/store/satirlar.h"
 #include "core/turkce.h"
 #include "documents/turetilen.h"
@@ -29,8 +29,7 @@ DiziPusulasi DiziPusulasiOku(Motor& motor, const TarihAraligi& aralik, Ilerleme*
   komut->Bagla(2, aralik.bit);
   DiziPusulasi pusula;
   Sicil kisi;
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     KolonAl(*komut, 1, kisi.adi);
     KolonAl(*komut, 2, kisi.soyadi);
     DiziyeEkle(pusula, {.sskno = std::string(Kirp(komut->Metin(0))), .adsoy = AdSoyad(kisi)});

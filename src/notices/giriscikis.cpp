@@ -1,6 +1,6 @@
 #include "notices/giriscikis.h"
 
-#include "core/asama.h"
+#include "core/store/izlenenokuma.h"
 #include "core/store/satirlar.h"
 #include "core/turkce.h"
 #include "documents/turetilen.h"
@@ -16,8 +16,7 @@ void AraliktakileriGez(Motor& motor, const char* sql, const TarihAraligi& aralik
   const auto komut = motor.Hazirla(sql);
   komut->Bagla(1, aralik.bas);
   komut->Bagla(2, aralik.bit);
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     al(*komut);
   }
 }

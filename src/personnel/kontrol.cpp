@@ -1,6 +1,8 @@
 #include "personnel/kontrol.h"
 
+#include "core/asama.h"
 #include "core/sayi.h"
+#include "core/store/koru.h"
 #include "core/store/satirlar.h"
 #include "core/tables/kimlik.h"
 #include "core/tables/sicil.h"
@@ -12,7 +14,6 @@
 namespace belvani {
 namespace {
 
-constexpr const char* YaridaKesildi = "Kontrol yarıda kesildi.";
 constexpr std::size_t TcKimlikHanesi = 11;
 constexpr std::uint8_t Emekli = 1;  // `sicil.sskdurum`
 
@@ -39,7 +40,8 @@ const Kural<Sicil> SicilKurallari[] = {
     {[](const Sicil& s) { return !s.ciktar.Bos() && s.cikiskodu == 0; }, "Çıkış Nedeni Kodu Yok", sicil::cikiskodu},
     {[](const Sicil& s) { return s.ciktar.Bos() && s.ucrettipi != AsgariUcretSirasi && s.ucret <= Tutar(); },
      "Personelin Maaşı Yok", sicil::ucret},
-    {[](const Sicil& s) { return s.sskdurum == Emekli && HarfSayisi(s.tahsisno) <= 1; }, "Emekli için Tahsis No Yok", sicil::tahsisno},
+    {[](const Sicil& s) { return s.sskdurum == Emekli && HarfSayisi(s.tahsisno) <= 1; }, "Emekli için Tahsis No Yok",
+     sicil::tahsisno},
 };
 
 const Kural<Kimlik> KimlikKurallari[] = {
@@ -79,13 +81,14 @@ bool KimligeIlerle(Akis<Kimlik>& kimlik, const std::string& kod) {
   return kimlik.Var() && TurkceEsit(kimlik->kod, kod);
 }
 
-Sonuc<std::vector<KontrolSatiri>> Denetle(Oturum& o, Ilerleme* ilerleme) {
+std::vector<KontrolSatiri> Denetle(Oturum& o, Ilerleme* ilerleme) {
   Motor& motor = o.depo.db.IcMotor();
   std::vector<KontrolSatiri> rapor;
   Akis<Sicil> sicil(motor);
   Akis<Kimlik> kimlik(motor);
+  Asama asama(ilerleme);
   for (kimlik.Ilerle(); sicil.Ilerle();) {
-    if (ilerleme != nullptr && !ilerleme->Adim(0, 0)) return Kusur{.metin = YaridaKesildi, .derece = Derece::Bilgi};
+    asama.Adim();
     const auto bildir = [&](const std::string& sonuc, AlanTutamagi alan) {
       rapor.push_back({sicil->kod, sicil->adi + " " + sicil->soyadi, sonuc, alan});
     };
@@ -106,11 +109,8 @@ Sonuc<std::vector<KontrolSatiri>> Denetle(Oturum& o, Ilerleme* ilerleme) {
 }  // namespace
 
 Sonuc<std::vector<KontrolSatiri>> KontrolRaporu(Oturum& o, Ilerleme* ilerleme) {
-  using Rapor = Sonuc<std::vector<KontrolSatiri>>;
-  const Rapor basarisiz = Kusur{"Personel kayıtları okunamadı"};
-  Rapor rapor = o.depo.db.Koru(basarisiz, [&]() -> Rapor { return Denetle(o, ilerleme); });
-  if (rapor || rapor.Kusuru().derece == Derece::Bilgi) return rapor;
-  return Kusur{basarisiz.KusurMetni() + ": " + o.depo.db.SonHata()};
+  if (!o.depo.db.AcikMi()) return Kusur{"Veritabanı açık değil"};
+  return Koru([&] { return Denetle(o, ilerleme); }, "Personel kayıtları okunamadı: ");
 }
 
 }  // namespace belvani

@@ -24,8 +24,7 @@ struct KontrolSatiri {
   bool operator==(const KontrolSatiri& o) const { return kod == o.kod && adsoy == o.adsoy && sonuc == o.sonuc; }
 };
 
-// Never empty: without any fault its one row says "Hata Bulunamadı". A report that was stopped is a fault of the degree
-// Bilgi.
+// Never empty: without any fault its one row says "Hata Bulunamadı".
 Sonuc<std::vector<KontrolSatiri>> KontrolRaporu(Oturum& o, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "core/asama.h"
+#include "core/store/izlenenokuma.h"
 #include "core/turkce.h"
 #include "payroll/parametre/ikili.h"
 #include "reports/kisiaraligi.h"
@@ -130,8 +131,7 @@ class Uretim {
     KisileriSec(sorgu, secim_.kisiler);
     sorgu.Ekle(" order by s.kod");
     const auto komut = sorgu.Hazirla(motor_);
-    for (Asama asama(ilerleme_); komut->Adim();) {
-      asama.Adim();
+    for (IzlenenOkuma okuma(*komut, ilerleme_); okuma.Adim();) {
       yerler_.emplace(BuyukHarf(komut->Metin(0)), int(kisiler_.size()));
       kisiler_.push_back(
           {.hucreler = Oku(*komut, 3, &CiktiKolonu::kisi),
@@ -153,8 +153,7 @@ class Uretim {
                      {std::int64_t(secim_.ilkYil), std::int64_t(secim_.sonYil), std::int64_t(secim_.ilkAy),
                       std::int64_t(secim_.sonAy)});
     const auto komut = sorgu.Hazirla(motor_);
-    for (Asama asama(ilerleme_); komut->Adim();) {
-      asama.Adim();
+    for (IzlenenOkuma okuma(*komut, ilerleme_); okuma.Adim();) {
       const int kisi = KisiYeri(komut->Metin(0));
       if (kisi < 0) continue;
       kayitlar_.push_back({.kisi = kisi,

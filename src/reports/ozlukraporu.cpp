@@ -1,7 +1,7 @@
 #include "reports/ozlukraporu.h"
 
-#include "core/asama.h"
 #include "core/okunus.h"
+#include "core/store/izlenenokuma.h"
 #include "core/turkce.h"
 #include "payroll/parametre/ikili.h"
 #include "reports/kisiaraligi.h"
@@ -141,8 +141,7 @@ Rapor OzlukRaporu(Motor& motor, const OzlukKolonlari& kolonlar, const KisiAralig
   std::vector<const RaporAlani*> alanlar;
   for (const auto& kolon : kolonlar) alanlar.push_back(RaporAlaniBul(OzlukAlanlari(), kolon.alan));
   const auto komut = Sorgu(kolonlar, kisiler).Hazirla(motor);
-  for (Asama asama(ilerleme); rapor.Satirlar().size() < bicim.enCokSatir && komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); rapor.Satirlar().size() < bicim.enCokSatir && okuma.Adim();) {
     RaporSatiri satir;
     satir.hucreler.reserve(kolonlar.size());
     for (std::size_t i = 0; i < kolonlar.size(); ++i)

@@ -1,6 +1,6 @@
 #include "severance/kidemkisileri.h"
 
-#include "core/asama.h"
+#include "core/store/izlenenokuma.h"
 #include "core/store/satirlar.h"
 #include "documents/sorgumetni.h"
 
@@ -48,8 +48,7 @@ KidemKisileri KidemKisileriOku(Motor& motor, const DefterSecim& secim, Tarih baz
   sorgu.Ekle(" order by s.kod");
   const auto komut = sorgu.Hazirla(motor);
   KidemKisileri hepsi;
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     KidemKisisi kisi;
     KolonlariAl(*komut, 4, KartKolonlari, kisi.sicil);
     if (komut->Turu(0) == Komut::Tur::Null) {

@@ -8,10 +8,10 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QStyleOption>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 
-#include "core/asama.h"
 #include "ui/ilerlemekarti.h"
 #include "ui/metin.h"
 #include "ui/ondeki.h"
@@ -231,6 +231,17 @@ bool uzunis::Yurut(EkranBaglami& baglam, const QString& ad, const std::function<
   }
   nobet.Bosalt();
   return true;
+}
+
+Yurutucu UzunYurutucu(EkranBaglami& baglam, const QString& ad) {
+  return [&baglam, ad](const std::function<void(Ilerleme*)>& is) {
+    return uzunis::Yurut(baglam, ad, [&](Ilerleme& ilerleme) { is(&ilerleme); });
+  };
+}
+
+void IsBitince(QObject* sahip, std::function<void()> is) {
+  QTimer::singleShot(Nobet::Var() ? TurAraligi : 0, sahip,
+                     [sahip, is = std::move(is)] { Nobet::Var() ? IsBitince(sahip, is) : is(); });
 }
 
 void OlaylariIsle(int milisaniye) {

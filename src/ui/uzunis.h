@@ -16,6 +16,7 @@
 #include <optional>
 #include <type_traits>
 
+#include "core/asama.h"
 #include "ui/ekran.h"
 
 namespace belvani {
@@ -32,6 +33,13 @@ std::optional<std::invoke_result_t<Is, Ilerleme&>> UzunIs(EkranBaglami& baglam, 
   uzunis::Yurut(baglam, ad, [&](Ilerleme& ilerleme) { deger.emplace(is(ilerleme)); });
   return deger;
 }
+
+// The same for logic that asks its user before and after its slow part.
+Yurutucu UzunYurutucu(EkranBaglami& baglam, const QString& ad);
+
+// Calls `is` from the event loop when no work is running: what a screen does with the store by itself must not fall
+// into the middle of another one's transaction. Not at all once `sahip` is gone.
+void IsBitince(QObject* sahip, std::function<void()> is);
 
 // Does what waits to be painted or called, at most for so long. For tools that look at the screen without a user.
 void OlaylariIsle(int milisaniye);

@@ -220,6 +220,21 @@ TEST(UzunIs, AMessageInTheMiddleIsAnswered) {
 }
 
 // The window may be destroyed while it still bears the card.
+// What a screen does with the store by itself never falls into another one's work.
+TEST(UzunIs, WhatWaitsForTheEndIsDoneThen) {
+  Pencere p;
+  int olan = 0;
+  IsBitince(&p.pencere, [&] { ++olan; });
+  const auto is = [&](Ilerleme& ilerleme) {
+    auto giden = std::make_unique<QObject>();
+    for (QObject* sahip : {static_cast<QObject*>(&p.pencere), giden.get()}) IsBitince(sahip, [&] { ++olan; });
+    Sur(ilerleme, 100);
+    return olan == 0;
+  };
+  EXPECT_EQ(p.Calistir(is), true);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return olan == 2; })) << "whose owner has gone is not done";
+}
+
 TEST(UzunIs, TheWindowMayGo) {
   EkranOrtami ortam;
   auto pencere = std::make_unique<QWidget>();

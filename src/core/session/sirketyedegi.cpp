@@ -145,7 +145,7 @@ class Yedekleme {
       if (istek_.depo == nullptr) kendi = MotorBak(DepoAdresi(sirket_));
       Motor& motor = kendi ? *kendi : *istek_.depo;
       KunyeyeYaz(motor, kunye_);
-      if (const std::string kusur = motor.SayfaKusuru(); !kusur.empty())
+      if (const std::string kusur = motor.SayfaKusuru([this] { Asama(ilerleme_).Sor(); }); !kusur.empty())
         Uyar("Veritabanı bozuk, yedekteki de öyle (denetleyiniz): " + kusur);
       if (ilerleme_ != nullptr) ilerleme_->Asama("Veritabanı kopyalanıyor…");
       motor.Kopyala(dizin + DepoDosyasi, [&](std::size_t biten, std::size_t toplam) {

@@ -1,6 +1,7 @@
 #include "core/store/brdozet.h"
 
 #include "core/store/bordrokodu.h"
+#include "core/store/izlenenokuma.h"
 #include "core/store/satirlar.h"
 #include "core/tables/brd.h"
 #include "core/turkce.h"
@@ -145,7 +146,7 @@ std::size_t BrdOzetleri::EksikleriYaz() {
   return eksik.size();
 }
 
-Kusurlar BrdOzetKusurlari(Motor& motor) {
+Kusurlar BrdOzetKusurlari(Motor& motor, Ilerleme* ilerleme) {
   Kusurlar kusurlar;
   Sayim ozetsiz, disaridan;
   if (!TabloVar(motor)) {
@@ -153,7 +154,7 @@ Kusurlar BrdOzetKusurlari(Motor& motor) {
     if (komut->Adim()) ozetsiz.sayi = std::size_t(komut->Tam(0));
   } else {
     const auto komut = KayitKomutu(motor);
-    while (komut->Adim()) {
+    for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
       if (komut->Turu(OzetKimligiYeri) == Komut::Tur::Null)
         ozetsiz.Ekle(*komut);
       else if (komut->Turu(OzetYeri) == Komut::Tur::Null)

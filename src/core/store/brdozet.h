@@ -16,6 +16,7 @@
 #include <memory>
 #include <type_traits>
 
+#include "core/bildirim.h"
 #include "core/kusur.h"
 #include "core/store/kayitozeti.h"
 #include "core/store/motor.h"
@@ -48,7 +49,7 @@ class BrdOzetleri {
 };
 
 // Records that do not agree with their checksum and records that are lost are faults, person by person; records without
-// one are remarks. Reads all records. Throws MotorHatasi.
-Kusurlar BrdOzetKusurlari(Motor& motor);
+// one are remarks. Reads all records, and can be given up (Vazgecilmis). Throws MotorHatasi.
+Kusurlar BrdOzetKusurlari(Motor& motor, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

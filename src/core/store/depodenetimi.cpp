@@ -5,6 +5,7 @@
 
 #include "core/store/brdozet.h"
 #include "core/store/indeksler.h"
+#include "core/store/izlenenokuma.h"
 #include "core/tables/bordronosu.h"
 #include "core/tables/tablolar.h"
 
@@ -17,10 +18,11 @@ bool KisiliMi(const TabloTanimi& tablo) {
 
 class DepoDenetimi {
  public:
-  explicit DepoDenetimi(Motor& motor) : motor_(motor) {}
+  DepoDenetimi(Motor& motor, Ilerleme* ilerleme) : motor_(motor), ilerleme_(ilerleme) {}
 
   Kusurlar Denetle() {
-    if (std::string kusur = motor_.ButunlukKusuru(); !kusur.empty()) Ekle("veritabanı bozuk: " + kusur);
+    if (std::string kusur = motor_.ButunlukKusuru([this] { Asama(ilerleme_).Sor(); }); !kusur.empty())
+      Ekle("veritabanı bozuk: " + kusur);
     for (const TabloTanimi& tablo : Tablolar()) {
       kolonlar_.clear();
       for (const MotorKolonu& kolon : motor_.Kolonlar(tablo.ad)) kolonlar_.insert(kolon.ad);
@@ -46,7 +48,8 @@ class DepoDenetimi {
     for (const auto* indeksler : {&tablo.indeksler, &tablo.sorguIndeksleri})
       for (const IndeksTanimi& indeks : *indeksler)
         if (indeks.tekil) TekilligiDenetle(tablo, indeks.alanlar);
-    if (tablo.ad == Brd::TabloAdi) std::ranges::move(BrdOzetKusurlari(motor_), std::back_inserter(kusurlar_));
+    if (tablo.ad == Brd::TabloAdi)
+      std::ranges::move(BrdOzetKusurlari(motor_, ilerleme_), std::back_inserter(kusurlar_));
   }
 
   void TipiDenetle(const TabloTanimi& tablo, const AlanTanimi& alan) {
@@ -54,7 +57,8 @@ class DepoDenetimi {
                             std::string(tablo.ad) + " where " + std::string(alan.ad) + " is not null and (" +
                             motor_.UymayanKosulu(alan.ad, alan.tip) + ")";
     const auto komut = motor_.Hazirla(sql);
-    if (!komut->Adim() || komut->Tam(0) == 0) return;
+    IzlenenOkuma okuma(*komut, ilerleme_);
+    if (!okuma.Adim() || komut->Tam(0) == 0) return;
     Ekle(std::string(tablo.ad) + "." + std::string(alan.ad) + ": " + std::to_string(komut->Tam(0)) +
              " kayıtta alanın türünden olmayan bir değer var",
          std::string(komut->Metin(1)));
@@ -87,21 +91,22 @@ class DepoDenetimi {
         "select count(*), " + std::string(KisiliMi(tablo) && !liste.empty() ? "min(kod)" : "''") + " as kisi from " +
         std::string(tablo.ad) + (liste.empty() ? "" : " group by " + liste) + " having count(*) > 1";
     const auto komut = motor_.Hazirla(tekrar);
-    while (komut->Adim())
+    for (IzlenenOkuma okuma(*komut, ilerleme_); okuma.Adim();)
       Ekle(std::string(tablo.ad) + ": aynı kayıt " + std::to_string(komut->Tam(0)) + " kez var" +
                (adlar.empty() ? "" : " (" + adlar + ")"),
            std::string(komut->Metin(1)));
   }
 
   Motor& motor_;
+  Ilerleme* ilerleme_;
   std::set<std::string, std::less<>> kolonlar_;  // of the table that is looked at
   Kusurlar kusurlar_;
 };
 
 }  // namespace
 
-Kusurlar DepoKusurlari(Motor& motor) {
-  return DepoDenetimi(motor).Denetle();
+Kusurlar DepoKusurlari(Motor& motor, Ilerleme* ilerleme) {
+  return DepoDenetimi(motor, ilerleme).Denetle();
 }
 
 }  // namespace belvani

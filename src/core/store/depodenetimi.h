@@ -4,13 +4,15 @@
 // pay records that do not agree with their checksum.
 #pragma once
 
+#include "core/bildirim.h"
 #include "core/kusur.h"
 #include "core/store/motor.h"
 
 namespace belvani {
 
 // A fault for each kind and column, at the column, with the number of records and the first person where the table
-// has one; what an earlier version has left undone is a remark. Reads everything. Throws MotorHatasi.
-Kusurlar DepoKusurlari(Motor& motor);
+// has one; what an earlier version has left undone is a remark. Reads everything, and can be given up (Vazgecilmis).
+// Throws MotorHatasi.
+Kusurlar DepoKusurlari(Motor& motor, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -50,6 +50,10 @@ class Baglanan {
   void Bagla(int no, const Deger& deger);
 };
 
+// Called in the middle of long work of the engine, now and then; must leave the motor alone. What it throws ends the
+// work.
+using AradaSoran = std::function<void()>;
+
 // A prepared statement. Columns count from 0, and are known once the first step was made. Texts and bytes of a row hold
 // until the next step.
 class Komut : public Baglanan {
@@ -59,6 +63,8 @@ class Komut : public Baglanan {
   virtual void Gonder() {}
   // True: a row stands ready. False: done; the statement may then be bound and run again.
   virtual bool Adim() = 0;
+  // From now on asked in the middle of steps, where the engine can; an empty one no more.
+  virtual void AradaSor(AradaSoran) {}
   // Ends a run before its last row, which frees what it locks.
   virtual void Birak() = 0;
 
@@ -178,8 +184,8 @@ class Motor {
   virtual void SaltOkunurYap() = 0;
 
   // "" when the store is sound, else what is wrong with it. Reads everything; the second only what a copy takes over.
-  virtual std::string ButunlukKusuru() = 0;
-  virtual std::string SayfaKusuru() = 0;
+  virtual std::string ButunlukKusuru(const AradaSoran& arada = {}) = 0;
+  virtual std::string SayfaKusuru(const AradaSoran& arada = {}) = 0;
 
   // The store as it stands at one moment into the new file `yol`, while others go on working. `adim` is told the pages
   // or rows that are done and all there are; what it throws ends the copying.

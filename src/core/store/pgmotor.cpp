@@ -360,7 +360,7 @@ bool PgMotor::Yazilabilir() {
                    {PgParametre::Metin(PgSema(sirketNo_) + ".brd")}));
 }
 
-std::string PgMotor::ButunlukKusuru() {
+std::string PgMotor::ButunlukKusuru(const AradaSoran&) {
   const PgSonuc bozuk =
       Oku("select c.relname::text from pg_index i join pg_class c on c.oid = i.indexrelid "
           "where c.relnamespace = $1::text::regnamespace and not i.indisvalid limit 1",

@@ -54,8 +54,8 @@ class PgMotor final : public Motor {
   void YerKoy(DepoYeri) override {}
   bool Yazilabilir() override;
   void SaltOkunurYap() override;
-  std::string ButunlukKusuru() override;
-  std::string SayfaKusuru() override { return {}; }
+  std::string ButunlukKusuru(const AradaSoran&) override;
+  std::string SayfaKusuru(const AradaSoran&) override { return {}; }
   void Kopyala(const std::string& yol, const KopyaAdimi& adim) override;
 
   // For its statements and writers.

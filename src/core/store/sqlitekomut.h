@@ -1,6 +1,7 @@
 // Statements and writers of the SQLite engine, and its failures as faults.
 #pragma once
 
+#include <exception>
 #include <sqlite3.h>
 
 #include "core/store/motor.h"
@@ -19,6 +20,40 @@ std::string SqliteKusurMetni(MotorKusuru tur);
 
 // The statement that a writer of these columns runs.
 std::string SqliteYazmaMetni(const YazilanKolonlar& kolonlar, YazmaTuru tur);
+
+// Has `arada` called in the middle of a step. The library knows no exceptions: what comes out of the call breaks the
+// step off, and goes on behind it.
+class AradakiSoru {
+ public:
+  AradakiSoru(sqlite3* db, const AradaSoran& arada) : db_(arada ? db : nullptr), arada_(arada) {
+    if (db_ != nullptr) sqlite3_progress_handler(db_, KitaplikAdimi, &AradakiSoru::Cagir, this);
+  }
+  ~AradakiSoru() {
+    if (db_ != nullptr) sqlite3_progress_handler(db_, 0, nullptr, nullptr);
+  }
+  AradakiSoru(const AradakiSoru&) = delete;
+  AradakiSoru& operator=(const AradakiSoru&) = delete;
+
+  const std::exception_ptr& Gelen() const { return gelen_; }
+
+ private:
+  static constexpr int KitaplikAdimi = 1000;  // of the library's own steps between two calls
+
+  static int Cagir(void* bu) noexcept {
+    auto& soru = *static_cast<AradakiSoru*>(bu);
+    try {
+      soru.arada_();
+      return 0;
+    } catch (...) {
+      soru.gelen_ = std::current_exception();
+      return 1;
+    }
+  }
+
+  sqlite3* db_;
+  const AradaSoran& arada_;
+  std::exception_ptr gelen_;
+};
 
 class SqliteKomut final : public Komut {
  public:
@@ -41,7 +76,12 @@ class SqliteKomut final : public Komut {
   }
 
   bool Adim() override {
+    const AradakiSoru soru(db_, arada_);
     const int kod = sqlite3_step(komut_);
+    if (soru.Gelen()) {
+      sqlite3_reset(komut_);
+      std::rethrow_exception(soru.Gelen());
+    }
     if (kod == SQLITE_ROW) return true;
     if (yazan_) ++hal_.yazmaSayaci;
     if (kod != SQLITE_DONE) {
@@ -52,6 +92,7 @@ class SqliteKomut final : public Komut {
     sqlite3_reset(komut_);
     return false;
   }
+  void AradaSor(AradaSoran arada) override { arada_ = std::move(arada); }
   void Birak() override { sqlite3_reset(komut_); }
 
   int KolonSayisi() const override { return sqlite3_column_count(komut_); }
@@ -93,6 +134,7 @@ class SqliteKomut final : public Komut {
   sqlite3* db_;
   MotorHali& hal_;
   sqlite3_stmt* komut_ = nullptr;
+  AradaSoran arada_;
   bool yazan_ = false;
 };
 

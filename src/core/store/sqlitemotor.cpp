@@ -240,8 +240,10 @@ class SqliteMotor final : public Motor {
     hal_.saltOkunur = true;
   }
 
-  std::string ButunlukKusuru() override { return DenetimSonucu("pragma integrity_check(1)"); }
-  std::string SayfaKusuru() override { return DenetimSonucu("pragma quick_check(1)"); }
+  std::string ButunlukKusuru(const AradaSoran& arada) override {
+    return DenetimSonucu("pragma integrity_check(1)", arada);
+  }
+  std::string SayfaKusuru(const AradaSoran& arada) override { return DenetimSonucu("pragma quick_check(1)", arada); }
 
   void Kopyala(const std::string& yol, const KopyaAdimi& adim) override {
     if (const int kod = SqliteKopyala(db_, yol, adim); kod != SQLITE_OK) throw SqliteHatasi(nullptr, kod, hal_);
@@ -300,8 +302,9 @@ class SqliteMotor final : public Motor {
   static std::int64_t SiraSurumu() { return std::int32_t(TurkceSiraSurumu()); }
   void SiraSurumunuYaz() { Calistir("pragma user_version=" + std::to_string(SiraSurumu())); }
 
-  std::string DenetimSonucu(const char* sql) {
+  std::string DenetimSonucu(const char* sql, const AradaSoran& arada) {
     auto komut = Hazirla(sql);
+    komut->AradaSor(arada);
     const std::string sonuc = komut->Adim() ? std::string(komut->Metin(0)) : "denetim yapılamadı";
     komut->Birak();
     return sonuc == "ok" ? std::string() : sonuc;

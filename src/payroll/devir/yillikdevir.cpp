@@ -2,6 +2,7 @@
 
 #include "core/asama.h"
 #include "core/store/islem.h"
+#include "core/store/izlenenokuma.h"
 #include "core/store/koru.h"
 #include "core/store/satirlar.h"
 #include "core/tables/dvr.h"
@@ -42,8 +43,7 @@ std::vector<DevredenKisi> KisileriOku(Motor& motor, int yil, Yuvarlayici yuvarla
   komut->TamBagla(1, yil);
   komut->MetinBagla(2, YilKod(yil, {}));
   std::vector<DevredenKisi> kisiler;
-  for (Asama asama(ilerleme); komut->Adim();) {
-    asama.Adim();
+  for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();) {
     DevredenKisi& kisi = kisiler.emplace_back();
     KolonAl(*komut, 0, kisi.kod);
     kisi.toplam = ToplamAl(*komut, 1);
@@ -60,8 +60,8 @@ class DevirYazici {
   DevirYazici(Motor& motor, int yil)
       : yil_(yil),
         yazici_(motor),
-        degistir_(motor.Hazirla("update dvr set gvmatrah = ?, gvtutar = ?, issizlik = ? where " + motor.KimlikKolonu("dvr") +
-                                " = ?")) {}
+        degistir_(motor.Hazirla("update dvr set gvmatrah = ?, gvtutar = ?, issizlik = ? where " +
+                                motor.KimlikKolonu("dvr") + " = ?")) {}
 
   // A row that says the same already is left alone.
   void Yaz(const DevredenKisi& kisi) {

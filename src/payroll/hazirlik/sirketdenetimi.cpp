@@ -2,9 +2,9 @@
 
 #include <map>
 
-#include "core/asama.h"
 #include "core/session/sinifbakimi.h"
 #include "core/store/depodenetimi.h"
+#include "core/store/izlenenokuma.h"
 #include "core/store/koru.h"
 #include "core/store/satirlar.h"
 #include "core/tables/kodtasiyanlar.h"
@@ -41,11 +41,11 @@ void KartiDenetle(const Oturum& o, Kusurlar& kusurlar) {
 }
 
 // Records of a table whose person has no card, person by person.
-void SicilsizleriDenetle(Motor& motor, Kusurlar& kusurlar) {
+void SicilsizleriDenetle(Motor& motor, Kusurlar& kusurlar, Ilerleme* ilerleme) {
   for (const auto& [tablo, ad] : KodTasiyanTablolar) {
     const auto komut = motor.Hazirla("select t.kod, count(*) from " + std::string(tablo) +
                                      " t where not exists (select 1 from sicil s where s.kod = t.kod) group by t.kod");
-    while (komut->Adim())
+    for (IzlenenOkuma okuma(*komut, ilerleme); okuma.Adim();)
       kusurlar.push_back(
           Uyari("Kartı olmayan personelin " + std::to_string(komut->Tam(1)) + " " + std::string(ad) + " kaydı var",
                 sicil::kod, std::string(komut->Metin(0))));
@@ -136,11 +136,10 @@ class BordroDenetimi {
 };
 
 void BordrolariDenetle(Motor& motor, Kusurlar& kusurlar, Ilerleme* ilerleme) {
-  Asama asama(ilerleme);
   BordroDenetimi denetim(kusurlar);
   const auto komut = motor.Hazirla("select " + SecimListesi<Brd>(motor) + " from brd order by yil, ay, kod");
-  for (Brd b; komut->Adim();) {
-    asama.Adim();
+  IzlenenOkuma okuma(*komut, ilerleme);
+  for (Brd b; okuma.Adim();) {
     KayitAl(*komut, 0, b);
     denetim.Kayit(b);
   }
@@ -156,16 +155,16 @@ Sonuc<Kusurlar> SirketDenetle(Oturum& o, Ilerleme* ilerleme) {
         Motor& motor = o.depo.db.IcMotor();
         Kusurlar kusurlar;
         KartiDenetle(o, kusurlar);
-        SicilsizleriDenetle(motor, kusurlar);
+        SicilsizleriDenetle(motor, kusurlar, ilerleme);
         BordrolariDenetle(motor, kusurlar, ilerleme);
         return kusurlar;
       },
       "Şirket kayıtları okunamadı: ");
 }
 
-Sonuc<Kusurlar> DepoDenetle(Oturum& o) {
+Sonuc<Kusurlar> DepoDenetle(Oturum& o, Ilerleme* ilerleme) {
   if (!o.depo.db.AcikMi()) return Kusur{"Veritabanı açık değil"};
-  return Koru([&] { return DepoKusurlari(o.depo.db.IcMotor()); }, "Veritabanı okunamadı: ");
+  return Koru([&] { return DepoKusurlari(o.depo.db.IcMotor(), ilerleme); }, "Veritabanı okunamadı: ");
 }
 
 }  // namespace belvani

@@ -20,6 +20,6 @@ namespace belvani {
 Sonuc<Kusurlar> SirketDenetle(Oturum& o, Ilerleme* ilerleme = nullptr);
 
 // What is wrong with the store itself (core/store/depodenetimi.h); its faults come before those of its records.
-Sonuc<Kusurlar> DepoDenetle(Oturum& o);
+Sonuc<Kusurlar> DepoDenetle(Oturum& o, Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

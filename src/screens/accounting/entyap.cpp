@@ -82,9 +82,9 @@ entyap::entyap(EkranBaglami& baglam)
   SecenekleriKoy(Denetim(fisalani::grup), gruplar_);
   Yukle(FisFormu{.tarih = FisTarihi(yil_, ay_)});
   MuhasebeyiOku();
-  FisiYap(false);
+  FisiYap();
   AlanDegisti = [this](AlanDenetimi& d) {
-    if (d.Satir().Tutamak() == fisalani::grup) FisiYap(true);
+    if (d.Satir().Tutamak() == fisalani::grup) FisiYap();
   };
 }
 
@@ -141,19 +141,14 @@ void entyap::FisNoKoy(Motor& muhasebe) {
   if (Oldu(no)) Denetim(fisalani::fisno).Koy(std::int64_t(*no));
 }
 
-// `beklet`: the user waits for it and may stop it; then the list stays empty.
-void entyap::FisiYap(bool beklet) {
+// Stopped, the list stays empty.
+void entyap::FisiYap() {
   const auto sira = std::size_t(TamDegeri(Denetim(fisalani::grup).Oku()));
   const FisDonemi donem{.yil = yil_, .ay = ay_, .grup = gruplar_[sira < gruplar_.size() ? sira : 0]};
-  const auto oku = [&](Ilerleme* ilerleme) {
-    return Koru([&] { return FisOku(Oturumu().depo.db.IcMotor(), donem, ilerleme); });
-  };
   fis_ = {};
-  std::optional<Sonuc<Fis>> fis;
-  if (beklet)
-    fis = UzunIs(Baglam(), QStringLiteral("Fiş hazırlanıyor…"), [&](Ilerleme& ilerleme) { return oku(&ilerleme); });
-  else
-    fis = oku(nullptr);
+  auto fis = UzunIs(Baglam(), QStringLiteral("Fiş hazırlanıyor…"), [&](Ilerleme& ilerleme) {
+    return Koru([&] { return FisOku(Oturumu().depo.db.IcMotor(), donem, &ilerleme); });
+  });
   if (fis && Oldu(*fis)) fis_ = std::move(**fis);
   fis_.donem = donem;
   Goster();

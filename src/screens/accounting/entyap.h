@@ -26,7 +26,7 @@ class entyap : public Form {
   QWidget* ToplamSatiri();
   void MuhasebeyiOku();
   void FisNoKoy(Motor& muhasebe);
-  void FisiYap(bool beklet);
+  void FisiYap();
   void Goster();
   QString TutarYaz(Tutar tutar) const;
   FisBasligi Baslik() const;

@@ -68,10 +68,8 @@ void firsil::Sec(int satir) {
 
 void firsil::Sil() {
   if (secilen_.empty()) return;
-  const auto yurut = [this](const std::function<void(Ilerleme*)>& is) {
-    return uzunis::Yurut(Baglam(), QStringLiteral("Firma yedeklenip siliniyor…"), [&](Ilerleme& i) { is(&i); });
-  };
-  Oldu(SirketSil(Oturumu().DataPath, secilen_, Oturumu(), Bildirimi(), yurut));
+  Oldu(SirketSil(Oturumu().DataPath, secilen_, Oturumu(), Bildirimi(),
+                 UzunYurutucu(Baglam(), QStringLiteral("Firma yedeklenip siliniyor…"))));
   liste_->setFocus();
   ListeyiDoldur();
 }

@@ -11,10 +11,8 @@ namespace {
 
 constexpr const char* DosyaTuru = "Şirket Yedeği (*.zip)|*.zip";
 
-Yurutucu UzunYurutucu(EkranBaglami& baglam) {
-  return [&baglam](const std::function<void(Ilerleme*)>& is) {
-    return uzunis::Yurut(baglam, QStringLiteral("Yedek geri yükleniyor…"), [&](Ilerleme& i) { is(&i); });
-  };
+Yurutucu DonusYurutucu(EkranBaglami& baglam) {
+  return UzunYurutucu(baglam, QStringLiteral("Yedek geri yükleniyor…"));
 }
 
 void SonucuBildir(Bildirim& bildirim, const Donus& donus) {
@@ -135,7 +133,7 @@ void yedekfrm::BaskaKoda() {
 }
 
 void yedekfrm::Getir(const DonusIstegi& istek) {
-  const auto donus = YedektenDon(Oturumu().DataPath, istek, Bildirimi(), UzunYurutucu(Baglam()));
+  const auto donus = YedektenDon(Oturumu().DataPath, istek, Bildirimi(), DonusYurutucu(Baglam()));
   if (!Oldu(donus) || !*donus) return;
   kod_->clear();
   SonucuBildir(Bildirimi(), **donus);
@@ -151,7 +149,7 @@ bool AcikSirketeGetir(EkranBaglami& baglam, const std::string& dosya, const std:
     if (!birak()) return false;
     birakildi = true;
     SirketKapat(baglam.oturum);
-    return UzunYurutucu(baglam)(is);
+    return DonusYurutucu(baglam)(is);
   };
   const auto donus = YedektenDon(baglam.oturum.DataPath, {.dosya = dosya}, baglam.bildirim, yurut);
   if (!donus)

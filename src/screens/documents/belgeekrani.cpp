@@ -133,15 +133,16 @@ std::unique_ptr<Belge> BelgeEkrani::BelgeYap() {
   if (secim == nullptr) return nullptr;
   // First: where the files have changed, the paper is made with the law that they hold now.
   const auto bak = [this](MevzuatAyi ay) { return parametreler_.MevzuataBak(Oturumu(), ay); };
-  const auto soz = Koru([&] { return BelgeMevzuatSozu(tanim_, *secim, Oturumu().depo.db.IcMotor(), bak); });
-  if (!Oldu(soz)) return nullptr;
-  const auto ayrica = Koru([&] { return tanim_.soz == nullptr ? "" : tanim_.soz(Kaynak(), *secim); });
-  if (!Oldu(ayrica)) return nullptr;
+  std::string soz, ayrica;
   auto belge = UzunIs(Baglam(), QStringLiteral("Liste hazırlanıyor…"), [&](Ilerleme& ilerleme) {
-    return Koru([&] { return belvani::BelgeYap(tanim_, *secim, Kaynak(&ilerleme)); });
+    return Koru([&] {
+      soz = BelgeMevzuatSozu(tanim_, *secim, Oturumu().depo.db.IcMotor(), bak);
+      if (tanim_.soz != nullptr) ayrica = tanim_.soz(Kaynak(&ilerleme), *secim);
+      return belvani::BelgeYap(tanim_, *secim, Kaynak(&ilerleme));
+    });
   });
   if (!belge || !Oldu(*belge)) return nullptr;
-  BelgeSozu(Birlestir({*soz, *ayrica, (**belge)->Eksikler()}));
+  BelgeSozu(Birlestir({soz, ayrica, (**belge)->Eksikler()}));
   return std::move(**belge);
 }
 

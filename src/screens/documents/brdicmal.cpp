@@ -1,7 +1,6 @@
 #include "screens/documents/brdicmal.h"
 
 #include <QLabel>
-#include <QTimer>
 
 #include "core/store/koru.h"
 #include "documents/defter.h"
@@ -11,6 +10,7 @@
 #include "printing/cairotuval.h"
 #include "ui/metin.h"
 #include "ui/onizleme.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 namespace {
@@ -97,7 +97,7 @@ void brdicmal::Goster() {
   }
   const DefterSecim& secim = *secilen->Bul<DefterSecim>();
   seri_ = BosIcmalSerisi(secim.yil, secim.ay);
-  QTimer::singleShot(0, this, [this, surum = ++seriSurumu_] { AyiOku(surum, 0); });
+  IsBitince(this, [this, surum = ++seriSurumu_] { AyiOku(surum, 0); });
 }
 
 // Beside the figures, which change with every choice of a month.
@@ -113,7 +113,7 @@ void brdicmal::AyiOku(int surum, std::size_t sira) {
       Koru([&] { return IcmalAyiOku(Kaynak().motor, seri_[sira].yil, seri_[sira].ay, GrafikKosulu(Kaynak())); });
   if (!Oldu(ay)) return;
   seri_[sira] = *ay;
-  QTimer::singleShot(0, this, [this, surum, sira] { AyiOku(surum, sira + 1); });
+  IsBitince(this, [this, surum, sira] { AyiOku(surum, sira + 1); });
 }
 
 void brdicmal::GrafikCiz() {

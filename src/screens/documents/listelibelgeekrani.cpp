@@ -6,6 +6,7 @@
 #include "ui/dclist.h"
 #include "ui/listedoldur.h"
 #include "ui/metin.h"
+#include "ui/uzunis.h"
 
 namespace belvani {
 namespace {
@@ -47,7 +48,9 @@ ListeliBelgeEkrani::ListeliBelgeEkrani(EkranBaglami& baglam, ParametreDeposu& pa
   Govde()->addWidget(toplam_);
   bekleyen_->setSingleShot(true);
   connect(bekleyen_, &QTimer::timeout, this, [this] {
-    if (isVisible() && Secilebilir()) Listele();
+    IsBitince(this, [this] {
+      if (isVisible() && Secilebilir()) Listele();
+    });
   });
   AlanDegisti = [this](AlanDenetimi&) { SecimDegisti(); };
   liste_->TercihBoyu(EnGenisListe, ListeBoyu);

@@ -3,9 +3,9 @@
 #include <QGroupBox>
 #include <QLineEdit>
 
+#include "core/asama.h"
 #include "payroll/hazirlik/sirketdenetimi.h"
 #include "personnel/kimlik.h"
-#include "personnel/kontrol.h"
 #include "ui/listedoldur.h"
 #include "ui/uzunis.h"
 
@@ -31,28 +31,40 @@ kontfrm::kontfrm(EkranBaglami& baglam)
 }
 
 // What the whole company has comes before what its people have.
-void kontfrm::Doldur() {
-  struct Kontrol {
-    Sonuc<Kusurlar> depo, sirket;
-    Sonuc<std::vector<KontrolSatiri>> kisiler;
-  };
-  const auto kontrol = UzunIs(Baglam(), QStringLiteral("Personel kayıtları kontrol ediliyor…"), [this](Ilerleme& i) {
-    i.Asama("Veritabanı okunuyor…");
-    auto depo = DepoDenetle(Oturumu());
-    return Kontrol{std::move(depo), SirketDenetle(Oturumu(), &i), KontrolRaporu(Oturumu(), &i)};
-  });
-  if (!kontrol || !Oldu(kontrol->depo) || !Oldu(kontrol->sirket) || !Oldu(kontrol->kisiler)) return;
-  bulgular_ = *kontrol->depo;
-  bulgular_.insert(bulgular_.end(), kontrol->sirket->begin(), kontrol->sirket->end());
-  std::vector<KontrolSatiri> satirlar;
-  for (const Kusur& k : bulgular_)
-    satirlar.push_back({k.kod, k.kod.empty() ? "Firma" : KisiAdi(Oturumu(), k.kod), k.metin});
-  for (const KontrolSatiri& k : *kontrol->kisiler) {
-    if (k.kod.empty() && !bulgular_.empty()) continue;  // says that nothing was found
-    satirlar.push_back(k);
-    bulgular_.push_back({.metin = k.sonuc, .alan = k.alan, .kod = k.kod});
+Sonuc<kontfrm::Bulunanlar> kontfrm::KontrolEt(Ilerleme& ilerleme) {
+  Oturum& o = Oturumu();
+  ilerleme.Asama("Veritabanı okunuyor…");
+  const auto depo = DepoDenetle(o, &ilerleme);
+  if (!depo) return depo.Kusuru();
+  ilerleme.Asama("Kayıtlar okunuyor…");
+  const auto sirket = SirketDenetle(o, &ilerleme);
+  if (!sirket) return sirket.Kusuru();
+  const auto kisiler = KontrolRaporu(o, &ilerleme);
+  if (!kisiler) return kisiler.Kusuru();
+  Bulunanlar bulunan{.bulgular = *depo, .satirlar = {}};
+  bulunan.bulgular.insert(bulunan.bulgular.end(), sirket->begin(), sirket->end());
+  Asama asama(&ilerleme, bulunan.bulgular.size());
+  for (const Kusur& k : bulunan.bulgular) {
+    asama.Adim();
+    bulunan.satirlar.push_back({k.kod, k.kod.empty() ? "Firma" : KisiAdi(o, k.kod), k.metin});
   }
-  ListeDoldur(*liste_, satirlar, [](const KontrolSatiri& k) { return std::array{k.kod, k.adsoy, k.sonuc}; });
+  for (const KontrolSatiri& k : *kisiler) {
+    if (k.kod.empty() && !bulunan.bulgular.empty()) continue;  // says that nothing was found
+    bulunan.satirlar.push_back(k);
+    bulunan.bulgular.push_back({.metin = k.sonuc, .alan = k.alan, .kod = k.kod});
+  }
+  return bulunan;
+}
+
+void kontfrm::Doldur() {
+  auto kontrol = UzunIs(Baglam(), QStringLiteral("Personel kayıtları kontrol ediliyor…"),
+                        [this](Ilerleme& ilerleme) { return KontrolEt(ilerleme); });
+  if (!kontrol) return Bildirimi().Bilgi("Kontrol yarıda kesildi.");
+  if (!Oldu(*kontrol)) return;
+  bulgular_ = std::move((*kontrol)->bulgular);
+  ListeDoldur(*liste_, (*kontrol)->satirlar, [](const KontrolSatiri& k) {
+    return std::array{k.kod, k.adsoy, k.sonuc};
+  });
 }
 
 void kontfrm::Git(const Kusur& bulgu) {

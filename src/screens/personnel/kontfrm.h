@@ -2,6 +2,7 @@
 // as a whole, to read. Enter opens the screen on which it is mended.
 #pragma once
 
+#include "personnel/kontrol.h"
 #include "ui/dclist.h"
 #include "ui/form.h"
 
@@ -12,11 +13,17 @@ class kontfrm : public Form {
   explicit kontfrm(EkranBaglami& baglam);
 
  private:
+  struct Bulunanlar {
+    Kusurlar bulgular;  // a row each
+    std::vector<KontrolSatiri> satirlar;
+  };
+
+  Sonuc<Bulunanlar> KontrolEt(Ilerleme& ilerleme);
   void Doldur();
   void Git(const Kusur& bulgu);
 
   dclist* liste_;
-  Kusurlar bulgular_;  // a row of the list each
+  Kusurlar bulgular_;  // of the list's rows
 };
 
 }  // namespace belvani

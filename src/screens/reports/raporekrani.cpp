@@ -30,7 +30,7 @@ RaporEkrani<Kolon>::RaporEkrani(EkranBaglami& baglam, const char* kelime, const 
   ListeyiKur(std::move(kolonlar));
   onizlemeSaati_.setSingleShot(true);
   onizlemeSaati_.setInterval(OnizlemeGecikmesi);
-  connect(&onizlemeSaati_, &QTimer::timeout, this, [this] { Onizle(); });
+  connect(&onizlemeSaati_, &QTimer::timeout, this, [this] { IsBitince(this, [this] { Onizle(); }); });
 }
 
 template <class Kolon>
