@@ -20,6 +20,9 @@ struct IniDosyasi {
   std::string ad;
 };
 
+// A company's own settings: several rooms keep theirs in it, each in a section.
+inline constexpr const char* SirketAyarDosyasi = "bordro.ini";
+
 // The value of a key, quotes around it cut, at most 254 letters; `varsayilan` where file, section or key is absent.
 // Section and key compare without regard to case (ASCII).
 std::string IniOku(std::string_view bolum, std::string_view anahtar, std::string_view varsayilan,

@@ -6,7 +6,6 @@
 namespace belvani {
 namespace {
 
-constexpr const char* Dosya = "bordro.ini";
 constexpr std::string_view Bolum = "Bordro";
 constexpr std::string_view KolonlarAnahtari = "Brdizin";
 constexpr std::string_view YaziTipiAnahtari = "Brdfont";
@@ -24,7 +23,7 @@ int PuntoOku(const std::string& metin, int varsayilan) {
 
 DefterAyari DefterAyariOku(const VeriYolu& sirket) {
   const DefterAyari ilk;
-  const IniDosyasi dosya(sirket, Dosya);
+  const IniDosyasi dosya(sirket, SirketAyarDosyasi);
   const std::string yaziTipi = IniOku(Bolum, YaziTipiAnahtari, ilk.yaziTipi, dosya);
   return {
       .kolonlar = DefterAnahtarlariOku(IniOku(Bolum, KolonlarAnahtari, VarsayilanDefterAnahtarlari, dosya)),
@@ -35,7 +34,7 @@ DefterAyari DefterAyariOku(const VeriYolu& sirket) {
 
 Durum DefterAyariYaz(const DefterAyari& ayar, const VeriYolu& sirket) {
   if (ayar == DefterAyariOku(sirket)) return Tamam();
-  const IniDosyasi dosya(sirket, Dosya);
+  const IniDosyasi dosya(sirket, SirketAyarDosyasi);
   if (auto durum = IniYaz(Bolum, KolonlarAnahtari, DefterAnahtarMetni(ayar.kolonlar), dosya); !durum) return durum;
   if (auto durum = IniYaz(Bolum, YaziTipiAnahtari, ayar.yaziTipi, dosya); !durum) return durum;
   return IniYaz(Bolum, PuntoAnahtari, std::to_string(ayar.punto), dosya);

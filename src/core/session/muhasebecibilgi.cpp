@@ -10,7 +10,7 @@ constexpr std::pair<const char*, std::string Muhasebeci::*> Anahtarlar[] = {
     {"adsoyad", &Muhasebeci::adsoyad}, {"tcno", &Muhasebeci::tcno}, {"sicil", &Muhasebeci::sicil}};
 
 IniDosyasi Dosya(const VeriYolu& sirket) {
-  return {sirket, "bordro.ini"};
+  return {sirket, SirketAyarDosyasi};
 }
 
 }  // namespace

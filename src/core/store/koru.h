@@ -2,7 +2,7 @@
 // become values; rooms below it throw.
 //
 //   const Durum yazildi = Koru([&] { …; islem.Onayla(); });
-//   Sonuc<int> silinen = Koru([&] { return AySil(motor); }, "Bordro silinemedi: ");
+//   Sonuc<int> silinen = Koru([&] { return EntparSil(motor, grup); }, "Kayıtlar silinemedi: ");
 #pragma once
 
 #include <string>
