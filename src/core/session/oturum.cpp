@@ -65,7 +65,7 @@ bool KurulanaGec(Oturum& o, const std::string& istenen, Bildirim& bildirim) {
 Durum KopyaAc(Depo& depo, const std::string& yol, Bildirim& bildirim) {
   const auto kopya = DepoKopyasi::Al(yol);
   if (!kopya) return kopya.Kusuru();
-  auto duzenlendi = Koru([&] { MotorAc(kopya->Yol(), AcilisKipi::Tek)->YerKoy(DepoYeri::Paylasilan); });
+  auto duzenlendi = Koru([&] { kopya->Ac().reset(); });
   if (!duzenlendi) return duzenlendi;
   if (!depo.VeritabaniAc(kopya->Yol(), bildirim)) return Kusur{depo.db.SonHata()};
   return Koru([&] { depo.db.IcMotor().SaltOkunurYap(); });

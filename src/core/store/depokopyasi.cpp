@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "core/store/pgmotor.h"
+#include "core/store/sqlitemotor.h"
 #include "core/sunucuadresi.h"
 
 namespace belvani {
@@ -87,6 +88,10 @@ std::string DepoKopyasi::Yol() const {
   return dizin_ + "/" + KopyaAdi;
 }
 
+std::unique_ptr<Motor> DepoKopyasi::Ac() const {
+  return SqliteKopyasiAc(Yol());
+}
+
 // The files are looked at before and after; a pause in front lets a clock pass that counts in steps, so that a write
 // between two reads cannot bear the time of one before them.
 Sonuc<DepoKopyasi> DepoKopyasi::Al(const std::string& yol) {
@@ -121,8 +126,7 @@ std::unique_ptr<Motor> MotorBak(const std::string& yol) {
   }
   auto kopya = DepoKopyasi::Al(yol);
   if (!kopya) throw MotorHatasi(MotorKusuru::Acilamadi, kopya.KusurMetni());
-  auto motor = MotorAc(kopya->Yol(), AcilisKipi::Tek);
-  motor->YerKoy(DepoYeri::Paylasilan);
+  auto motor = kopya->Ac();
   motor->SaltOkunurYap();
   return motor;
 }

@@ -25,6 +25,8 @@ class DepoKopyasi {
   DepoKopyasi& operator=(DepoKopyasi&&) = delete;
   ~DepoKopyasi();
 
+  // Its store, all in the one file; closed again, the file can be opened by its path. Throws MotorHatasi.
+  std::unique_ptr<Motor> Ac() const;
   std::string Yol() const;
 
  private:

@@ -335,6 +335,14 @@ std::unique_ptr<Motor> SqliteAc(const std::string& yol, AcilisKipi kip) {
   return motor;
 }
 
+std::unique_ptr<Motor> SqliteKopyasiAc(const std::string& yol) {
+  auto motor = std::make_unique<SqliteMotor>(yol, AcilisKipi::Tek);
+  motor->Calistir("pragma synchronous=off");
+  motor->SirayiDenetle();
+  motor->YerKoy(DepoYeri::Paylasilan);
+  return motor;
+}
+
 std::string SqliteSurumu() {
   return sqlite3_libversion();
 }
