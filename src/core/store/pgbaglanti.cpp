@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdlib>
 #include <libpq-fe.h>
+#include <locale.h>
 #include <map>
 #include <poll.h>
 
@@ -20,6 +21,31 @@ std::map<std::string, std::string>& Sifreler() {
   static std::map<std::string, std::string> sifreler;
   return sifreler;
 }
+
+// The library's words are all that tells why there is no connection (pghata.cpp): they are English while one is made,
+// whatever the desktop speaks. Of this thread alone.
+class IngilizceSozler {
+ public:
+  IngilizceSozler() {
+    const locale_t simdiki = ::duplocale(::uselocale(locale_t(0)));
+    if (simdiki == locale_t(0)) return;
+    yerel_ = ::newlocale(LC_MESSAGES_MASK, "C", simdiki);
+    if (yerel_ == locale_t(0))
+      ::freelocale(simdiki);
+    else
+      onceki_ = ::uselocale(yerel_);
+  }
+  ~IngilizceSozler() {
+    if (yerel_ == locale_t(0)) return;
+    ::uselocale(onceki_);
+    ::freelocale(yerel_);
+  }
+  IngilizceSozler(const IngilizceSozler&) = delete;
+  IngilizceSozler& operator=(const IngilizceSozler&) = delete;
+
+ private:
+  locale_t yerel_{}, onceki_{};
+};
 
 // What stands before the address is overruled by it, what stands behind it is not. A network that is gone is noticed
 // in half a minute, not in the hours that the system would wait.
@@ -44,6 +70,7 @@ PGconn* Ac(const std::string& baglanti, const std::string& sifre) {
                             "UTF8",
                             sifre.c_str(),
                             static_cast<const char*>(nullptr)};
+  const IngilizceSozler ingilizce;
   PGconn* b = PQconnectdbParams(adlar.data(), degerler.data(), 1);
   // "It is there already, skipping" is for no user's eyes; what went wrong comes back with its request.
   PQsetNoticeProcessor(

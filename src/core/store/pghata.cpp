@@ -43,8 +43,7 @@ std::string TekSatir(std::string metin) {
   return metin;
 }
 
-// The library tells why there is no connection only in its text, which is English unless the desktop speaks otherwise;
-// the text comes along in any case.
+// The library tells why there is no connection only in its text; the text comes along in any case.
 struct NedenKusuru {
   std::string_view iz;
   MotorKusuru tur;

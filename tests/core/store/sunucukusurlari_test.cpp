@@ -1,9 +1,12 @@
 // Servers on which nothing may be done, told in words; connections that end under a store. On a server alone.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <locale.h>
 
+#include "core/ortam.h"
 #include "core/store/ornekdepo.h"
 #include "core/store/satirlar.h"
+#include "core/veriyolu.h"
 #include "sunucu/sablon.h"
 #include "veriyeri.h"
 
@@ -47,6 +50,16 @@ TEST_F(SunucuKusuru, ServersThatDoNotServeAreRefusedWithTheReason) {
   Yonet("update belvani.kurulum set surum = 1");
   Yonet("update pg_collation set collversion = '1.2' where collname = 'turkce'");
   EXPECT_THAT(Acilis(), HasSubstr("harf sırası kitaplığı değişmiş"));
+}
+
+// The library speaks the desktop's language; what it says is understood all the same.
+TEST_F(SunucuKusuru, TheReasonIsUnderstoodInEveryLanguage) {
+  const auto dil = test::OrtamKoy("LANGUAGE", "de");
+  const std::string once = ::setlocale(LC_MESSAGES, nullptr);
+  ASSERT_NE(::setlocale(LC_MESSAGES, "C.UTF-8"), nullptr);
+  const std::string neden = VeriYolu("postgresql:///belvani?service=yokboyle").Erisim().KusurMetni();
+  ::setlocale(LC_MESSAGES, once.c_str());
+  EXPECT_THAT(neden, HasSubstr("tanımlı değil"));
 }
 
 // The letters of another alphabet: what a merge of lists would lose in silence.
