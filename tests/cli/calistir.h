@@ -23,13 +23,14 @@ struct Cikti {
 class CliKomutu {
  public:
   GeciciDizin dizin;
+  std::string veri = dizin.Yol() + "veri";  // the data path
 
   // `degerler` is shell text; @ stands for the directory of this test.
   Cikti operator()(std::string degerler, const std::string& girdi = "", const std::string& ortam = "") const {
     for (std::size_t i; (i = degerler.find('@')) != std::string::npos;) degerler.replace(i, 1, dizin.Yol());
     Yaz("girdi", girdi);
     const std::string komut = ortam + " " BELVANI_CLI " <" + dizin.Yol() + "girdi >" + dizin.Yol() + "cikti 2>" +
-                              dizin.Yol() + "mesaj --veri " + dizin.Yol() + "veri " + degerler;
+                              dizin.Yol() + "mesaj --veri '" + veri + "' " + degerler;
     const int durum = std::system(komut.c_str());
     return {WIFEXITED(durum) ? WEXITSTATUS(durum) : -1, Oku("cikti"), Oku("mesaj")};
   }

@@ -49,11 +49,16 @@ Durum Doldur(Oturum& o, const std::string& yol, DepoYeri yer, const YeniSirket& 
   return tekDosya ? Tamam() : Durum(kusur("Database Kapatılamadı"));
 }
 
+Kusur Yaratilamadi(const VeriYolu& yer, const Durum& neden) {
+  return Kusur{(yer.Sunucuda() ? "Şirket Sunucuda Yaratılamıyor: " : "Şirket Dizini Yaratılamıyor: ") + yer.Adres() +
+               "\n" + neden.KusurMetni()};
+}
+
 Durum AdinaKoy(YarimYer& yarim, const VeriYolu& veri, const std::string& ad) {
   const Durum konuldu = yarim.Adlandir();
   if (konuldu) return Tamam();
   if (veri.AltVar(ad)) return Kusur{"Bu adda bir şirket var: " + ad};
-  return Kusur{"Şirket Dizini Yaratılamıyor: " + veri.Alt(ad).Adres() + "\n" + konuldu.KusurMetni()};
+  return Yaratilamadi(veri.Alt(ad), konuldu);
 }
 
 }  // namespace
@@ -66,7 +71,7 @@ Durum SirketKur(Oturum& o, const YeniSirket& yeni, Bildirim& bildirim) {
 
   const VeriYolu veri = o.DataPath, yer = veri.Alt(*ad);
   const auto yarim = veri.YarimAlt(*ad);
-  if (!yarim) return Kusur{"Şirket Dizini Yaratılamıyor: " + yer.Adres() + "\n" + yarim.KusurMetni()};
+  if (!yarim) return Yaratilamadi(yer, yarim.Kusuru());
   const Firma oncekiKart = o.firma;
   const bool kartVardi = o.firmaVar;
   Durum kuruldu = Doldur(o, DepoAdresi((*yarim)->Adres()), YeniDepoYeri(veri), yeni, bildirim);
