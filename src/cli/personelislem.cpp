@@ -36,7 +36,7 @@ void KanunuDegistir(Genel& genel, const std::string& sirket, const KanunSecimi& 
   const auto o = genel.YazmayaAc(sirket);
   auto liste = KanunluKisiler(*o, secim);
   auto degisim = KanunDegistir(*o, Degeri(liste).kisiler, kanun);
-  for (const Kusur& k : Degeri(degisim).bulunamayan) genel.bildirim.Uyari("Uyarı: " + k.metin + ": " + k.kod);
+  for (const Kusur& k : Degeri(degisim).yazilmayan) genel.bildirim.Uyari("Uyarı: " + k.metin + ": " + k.kod);
   if (liste->kimliksiz != 0)
     genel.bildirim.Uyari("Uyarı: kimlik kaydı olmayan " + std::to_string(liste->kimliksiz) + " kişi değişmedi");
   Yaz("Değiştirme Tamamlandı: " + std::to_string(degisim->degisen) + " kişi, " + kanun + "\n");

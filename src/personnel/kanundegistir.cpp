@@ -4,7 +4,8 @@
 #include "core/sayi.h"
 #include "core/session/firmabilgi.h"
 #include "core/store/koru.h"
-#include "core/store/satirlar.h"
+#include "core/store/tablo.h"
+#include "personnel/etiket.h"
 
 namespace belvani {
 namespace {
@@ -28,6 +29,15 @@ KanunListesi Oku(Motor& motor, const std::optional<std::string>& eski) {
       liste.kisiler.push_back({metin(0), metin(1), metin(2), metin(3) + " " + metin(4), metin(5)});
   }
   return liste;
+}
+
+// Why the person's law was left as it is.
+Kusur Yazilmadi(Motor& motor, const KanunluKisi& kisi) {
+  const bool var = Tablo<Sicil>(motor).Bul(kisi.kod).has_value();
+  return {.metin = var ? CakismaMetni(CakismaTuru::Degismis, {}, {std::string(AlanEtiketi("sicil", sicil::kanun.ad))})
+                       : "Personel Bulunamadı",
+          .kod = kisi.kod,
+          .derece = Derece::Uyari};
 }
 
 Kusur Yazilamadi(const KanunluKisi& kisi) {
@@ -67,16 +77,17 @@ Sonuc<KanunDegisimi> KanunDegistir(Oturum& o, const std::vector<KanunluKisi>& ki
     KanunDegisimi degisim;
     Asama asama(ilerleme, kisiler.size());
     Islem islem(motor);
-    const auto yaz = motor.Hazirla("update sicil set kanun = ? where kod = ?");
+    const auto yaz = motor.Hazirla("update sicil set kanun = ? where kod = ? and coalesce(kanun, '') = ?");
     for (const KanunluKisi& kisi : kisiler) {
       asama.Adim();
       yaz->MetinBagla(1, kanun);
       yaz->MetinBagla(2, kisi.kod);
+      yaz->MetinBagla(3, kisi.kanun);
       if (!Koru([&] { yaz->Calistir(); })) return Yazilamadi(kisi);
       if (motor.DegisenSatir() != 0)
         ++degisim.degisen;
       else
-        degisim.bulunamayan.push_back({.metin = "Personel Bulunamadı", .kod = kisi.kod, .derece = Derece::Uyari});
+        degisim.yazilmayan.push_back(Yazilmadi(motor, kisi));
     }
     if (ilerleme != nullptr && !ilerleme->Kesin()) throw Vazgecilmis{};
     islem.Onayla();

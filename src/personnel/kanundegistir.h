@@ -50,7 +50,7 @@ std::vector<KanunluKisi> KanunuDegisecekler(const std::vector<KanunluKisi>& kisi
 
 struct KanunDegisimi {
   std::size_t degisen = 0;
-  Kusurlar bulunamayan{};  // who has been deleted meanwhile
+  Kusurlar yazilmayan{};  // who has been deleted meanwhile, or given another law than the one of the list
 };
 
 // Writes the law (five digits) of these people in one transaction; the person whose record cannot be written is the

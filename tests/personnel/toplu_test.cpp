@@ -1,6 +1,7 @@
 // Law codes and wages of many people, and a person into another company.
 #include "core/asama.h"
 #include "personnel/aktarim.h"
+#include "personnel/etiket.h"
 #include "personnel/kanundegistir.h"
 #include "personnel/kart.h"
 #include "personnel/personeltransfer.h"
@@ -58,7 +59,7 @@ TEST_F(TopluTest, ListsOfALaw) {
 
 TEST_F(TopluTest, LawsAreWrittenAllOrNone) {
   for (const char* kod : {"1", "2", "3"}) Kisi(kod);
-  const auto kisiler = KanunluKisiler(o, {})->kisiler;
+  auto kisiler = KanunluKisiler(o, {})->kisiler;
   struct Soran : Bildirim {
     std::string sorular;
     void Bilgi(std::string_view) override {}
@@ -75,6 +76,8 @@ TEST_F(TopluTest, LawsAreWrittenAllOrNone) {
   EXPECT_EQ(KanunDegistir(o, secilen, "05084")->degisen, 2u);
   EXPECT_EQ(Kanunlar(), "1:05084 2:00000 3:05084 ");
 
+  const auto eskiler = kisiler;
+  kisiler = KanunluKisiler(o, {})->kisiler;
   struct Duran : Ilerleme {
     bool Adim(std::size_t biten, std::size_t) override { return biten < 2; }
   } duran;
@@ -87,8 +90,16 @@ TEST_F(TopluTest, LawsAreWrittenAllOrNone) {
   o.depo.db.IcMotor().Calistir("drop trigger engel; delete from sicil where kod = '2'");
   const auto degisim = KanunDegistir(o, kisiler, "05921");
   EXPECT_EQ(degisim->degisen, 2u);
-  ASSERT_EQ(degisim->bulunamayan.size(), 1u);
-  EXPECT_EQ(degisim->bulunamayan[0].kod, "2");
+  ASSERT_EQ(degisim->yazilmayan.size(), 1u);
+  EXPECT_EQ(degisim->yazilmayan[0].kod, "2");
+
+  // By a list of before: laws that were given since stay.
+  const auto gec = KanunDegistir(o, eskiler, "05084");
+  EXPECT_EQ(gec->degisen, 0u);
+  ASSERT_EQ(gec->yazilmayan.size(), 3u);
+  EXPECT_EQ(gec->yazilmayan[0].metin, "Kayıt bu arada başka bir kullanıcı tarafından değiştirilmiş (" +
+                                          std::string(AlanEtiketi("sicil", sicil::kanun.ad)) + ")");
+  EXPECT_EQ(Kanunlar(), "1:05921 3:05921 ");
 }
 
 TEST_F(TopluTest, WagesAreWrittenAndTakenBack) {

@@ -87,7 +87,7 @@ void tkanfrm::Degistir() {
     return KanunDegistir(Oturumu(), degisecekler, *kanun, &ilerleme);
   });
   if (!degisim || !Oldu(*degisim)) return;
-  for (const Kusur& kusur : (*degisim)->bulunamayan) Bildirimi().Uyari(kusur.metin + "\n Kod:" + kusur.kod);
+  for (const Kusur& kusur : (*degisim)->yazilmayan) Bildirimi().Uyari(kusur.metin + "\n Kod:" + kusur.kod);
   Listele();
   Bildirimi().Bilgi("Değiştirme Tamamlandı");
 }
