@@ -12,12 +12,6 @@
 namespace belvani {
 namespace {
 
-struct AlanUstu {
-  std::string_view alan;
-  std::int64_t enCok;
-};
-constexpr AlanUstu Ustler[] = {{"no", EntparSatiri - 1}, {"yer", YerSayisi - 1}, {"ba", AlacakTarafi}};
-
 std::int64_t Sayi(const AktarimDosyasi& dosya, const AktarimSatiri& satir, std::string_view alan) {
   const int sira = dosya.KolonSirasi(alan);
   return sira < 0 ? 0 : TamDegeri(satir.degerler[std::size_t(sira)]);
@@ -26,9 +20,6 @@ std::int64_t Sayi(const AktarimDosyasi& dosya, const AktarimSatiri& satir, std::
 void SatirlariDenetle(AktarimDosyasi& dosya) {
   std::set<std::string> anahtarlar;
   for (const AktarimSatiri& satir : dosya.satirlar) {
-    for (const auto& [alan, enCok] : Ustler)
-      if (!dosya.Soylendi(satir.satirNo, alan) && Sayi(dosya, satir, alan) > enCok)
-        dosya.SorunEkle(satir, alan, "0 ile " + std::to_string(enCok) + " arasında olmalı");
     const auto no = std::size_t(Sayi(dosya, satir, "no"));
     const std::string anahtar = BuyukHarf(EntparAnahtari(dosya.Metin(satir, "grup"), no));
     if (!anahtarlar.insert(anahtar).second) dosya.SorunEkle(satir, "no", "dosyada iki kez var: " + anahtar);

@@ -12,6 +12,7 @@
 namespace belvani {
 
 inline constexpr std::size_t EntparSatiri = 10;
+static_assert(ListeyeUyar(entpar::no, EntparSatiri) && ListeyeUyar(entpar::yer, YerSayisi));
 
 // Key of a line: the group, then the number in three digits: "A" and 3 -> "A003".
 std::string EntparAnahtari(const std::string& grup, std::size_t no);

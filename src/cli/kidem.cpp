@@ -22,6 +22,12 @@ struct KidemSecenekleri {
   bool izli = false;
 };
 
+constexpr Kolon<Sicil, Tutar> KidemUcreti = [] {
+  auto kolon = sicil::ucret;
+  kolon.sinir = sinir::EnCok(EnCokKidemUcreti);
+  return kolon;
+}();
+
 // The text of an option as a value of its column; a wrong one ends the command as a wrong call.
 template <class U>
 U DegerOku(const char* secenek, const Kolon<Sicil, U>& kolon, const std::string& metin) {
@@ -128,11 +134,11 @@ void DegerSecenekleri(CLI::App& komut, const std::shared_ptr<KidemSecenekleri>& 
       ->type_name("TARİH")
       ->required();
   ekle(
-      "--ucret", [s](const std::string& m) { s->ucret = DegerOku("--ucret", sicil::ucret, m); },
+      "--ucret", [s](const std::string& m) { s->ucret = DegerOku("--ucret", KidemUcreti, m); },
       "aylık brüt ücret; verilmezse karttaki ücretten bulunur")
       ->type_name("TUTAR");
   ekle(
-      "--ihbar-gun", [s](const std::string& m) { s->ihbarGun = SayiOku("--ihbar-gun", m, 0, 999); },
+      "--ihbar-gun", [s](const std::string& m) { s->ihbarGun = SayiOku("--ihbar-gun", m, 0, EnCokIhbarGunu); },
       "ihbar günü; verilmezse ihbar süreleri tablosundan")
       ->type_name("SAYI");
   komut.add_option("--haric", s->haric, "hesaptan çıkarılan taraf: kidem, ihbar; ikisi için iki kez verilir")

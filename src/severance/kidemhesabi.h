@@ -19,6 +19,10 @@
 
 namespace belvani {
 
+// The most that may be entered.
+inline constexpr double EnCokKidemUcreti = 99'999'999'999.99;
+inline constexpr int EnCokIhbarGunu = 9999;
+
 struct KidemFormu {
   std::string kod{};
   std::string sskno{};

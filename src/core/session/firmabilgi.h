@@ -15,7 +15,7 @@
 namespace belvani {
 
 // Years that a company may work in.
-inline constexpr int EnAzDonemYili = 1990, EnCokDonemYili = 2100;
+inline constexpr int EnAzDonemYili = int(firma::firmayil.sinir.enAz), EnCokDonemYili = int(firma::firmayil.sinir.enCok);
 
 // What a new company starts with: this month and year, founded today, "Yeni Şirket (2009)", class "Personel".
 Firma YeniFirma();

@@ -33,8 +33,10 @@ bool AyiVar(Oturum& o, const Brd& b) {
 
 std::optional<Kusur> SatirKusuru(Oturum& o, const Okunan<Brd>& satir) {
   const Brd& b = satir.simdi;
-  if (b.ay < 1 || b.ay > 12) return KuralKusuru("Ay: 1 ile 12 arasında olmalı", brd::ay);
-  if (const std::string kusur = YilKusuru(b.yil); !kusur.empty()) return KuralKusuru("Dönem Yıl: " + kusur, brd::yil);
+  if (const std::string kusur = DegerKusuru(brd::ay, UyeDegeri(b.ay)); !kusur.empty())
+    return KuralKusuru("Ay: " + kusur, brd::ay);
+  if (const std::string kusur = DegerKusuru(brd::yil, UyeDegeri(b.yil)); !kusur.empty())
+    return KuralKusuru("Dönem Yıl: " + kusur, brd::yil);
   if (satir.ilk && satir.ilk->ay != b.ay && AyiVar(o, b))
     return KuralKusuru("Bu Personelin " + AyMetni(b.yil, b.ay) + " bordrosu zaten var, ayı değiştirilemez", brd::ay);
   return std::nullopt;

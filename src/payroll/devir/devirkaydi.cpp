@@ -17,7 +17,6 @@ Durum DevirleriYaz(Oturum& o, AktarimDosyasi& dosya, AktarimSonucu& sonuc) {
   Tablo<Dvr> devirler(motor, AlanEtiketi);
   std::set<std::string> gorulen;
   for (const AktarimSatiri& satir : dosya.satirlar) {
-    YilDenetle(dosya, satir);
     const auto kod = kisiler.KoduBul(dosya, satir);
     if (!kod) continue;
     Dvr yeni;
@@ -48,7 +47,7 @@ std::vector<Dvr> DevirBilgileri(Oturum& o, std::string_view kod) {
 
 Yazim<Dvr> DevirKaydet(Oturum& o, const Okunan<Dvr>& satir) {
   Okunan<Dvr> kayit = satir;
-  if (const std::string kusur = YilKusuru(kayit.simdi.yil); !kusur.empty())
+  if (const std::string kusur = DegerKusuru(dvr::yil, UyeDegeri(kayit.simdi.yil)); !kusur.empty())
     return {KuralKusuru("Yılı: " + kusur, dvr::yil)};
   const auto kart = KoduBul<Sicil>(o, kayit.simdi.kod);
   if (!kart) return {KuralKusuru("Bu Kodda Personel Yok: " + kayit.simdi.kod, dvr::kod)};

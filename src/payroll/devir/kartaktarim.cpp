@@ -30,7 +30,8 @@ class KartYazici {
 
   void Yaz(const AktarimSatiri& satir) {
     const auto kod = kisiler_.KoduBul(dosya_, satir);
-    DonemDenetle(satir);
+    if (const auto no = Sayi(satir, brd::no); no != 0 && no != BordroNo)
+      dosya_.SorunEkle(satir, brd::no.ad, "bordro numarası 1 olmalı");
     if (!kod) return;
     const int yil = int(Sayi(satir, brd::yil)), ay = int(Sayi(satir, brd::ay));
     if (!gorulen_.insert({*kod, {yil, ay}}).second)
@@ -50,14 +51,6 @@ class KartYazici {
  private:
   std::int64_t Sayi(const AktarimSatiri& satir, const AlanTanimi& alan) const {
     return HucreSayisi(dosya_, satir, alan.ad);
-  }
-
-  void DonemDenetle(const AktarimSatiri& satir) {
-    YilDenetle(dosya_, satir);
-    const auto ay = Sayi(satir, brd::ay), no = Sayi(satir, brd::no);
-    if ((ay < 1 || ay > 12) && !dosya_.Soylendi(satir.satirNo, brd::ay.ad))
-      dosya_.SorunEkle(satir, brd::ay.ad, "1 ile 12 arasında olmalı");
-    if (no != 0 && no != BordroNo) dosya_.SorunEkle(satir, brd::no.ad, "bordro numarası 1 olmalı");
   }
 
   std::optional<Brd> AyKaydi(int yil, int ay, const std::string& kod) {

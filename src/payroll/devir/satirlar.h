@@ -3,7 +3,6 @@
 
 #include <map>
 
-#include "core/session/firmabilgi.h"
 #include "core/silme.h"
 #include "core/tarih.h"
 #include "personnel/aktarimyaz.h"
@@ -34,12 +33,6 @@ inline std::string AyMetni(int yil, int ay) {
   return (ay < 1 || ay > 12 ? std::to_string(ay) : std::string(AyAdi(ay))) + "." + std::to_string(yil);
 }
 
-// A year that the company may have worked in; "" when it is one.
-inline std::string YilKusuru(std::int64_t yil) {
-  if (yil >= EnAzDonemYili && yil <= EnCokDonemYili) return {};
-  return std::to_string(EnAzDonemYili) + " ile " + std::to_string(EnCokDonemYili) + " arasında olmalı";
-}
-
 // Cards by the codes of a file, which names the same person row after row.
 class DosyadakiKisiler {
  public:
@@ -65,12 +58,6 @@ class DosyadakiKisiler {
 inline std::int64_t HucreSayisi(const AktarimDosyasi& dosya, const AktarimSatiri& satir, std::string_view alan) {
   const int sira = dosya.KolonSirasi(alan);
   return sira < 0 ? 0 : TamDegeri(satir.degerler[std::size_t(sira)]);
-}
-
-// The row's year is one, unless the cell has a fault already.
-inline void YilDenetle(AktarimDosyasi& dosya, const AktarimSatiri& satir) {
-  const std::string kusur = YilKusuru(HucreSayisi(dosya, satir, "yil"));
-  if (!kusur.empty() && !dosya.Soylendi(satir.satirNo, "yil")) dosya.SorunEkle(satir, "yil", kusur);
 }
 
 }  // namespace belvani

@@ -16,7 +16,6 @@ std::vector<SatirKolonu<Brd>> KartKolonlari(int paraonda) {
   std::vector<SatirKolonu<Brd>> kolonlar;
   for (const Kolon<Brd, std::uint8_t>& gun : {brd::ay, brd::ng, brd::ht, brd::ui, brd::rt, brd::eksiksebebi})
     kolonlar.push_back(EtiketliKolon(gun, 42));
-  kolonlar.front().enCok = 12;
   const auto tutar = [&](const Kolon<Brd, Tutar>& kolon, const char* ad = nullptr) {
     kolonlar.push_back(EtiketliKolon(kolon, 80, {.ondalik = paraonda}));
     if (ad != nullptr) kolonlar.back().ad = ad;
@@ -37,7 +36,7 @@ kartxfrm::kartxfrm(EkranBaglami& baglam)
       yil_(baglam.oturum.firma.firmayil) {
   AlanlariDiz({{{"Personel",
                  {Alan(brd::kod, "Sicil No", {.anahtar = true}), AdSoyAlani(),
-                  Alan(Yil, "Dönem Yıl", {.enCok = 9999, .harf = 6, .kayitDisi = true})},
+                  Alan(Yil, "Dönem Yıl", {.enCok = EnBuyukGirdi(brd::yil), .harf = 6, .kayitDisi = true})},
                  3}}});
   Liste().TercihBoyu(1300, 420);
   ListeyiAc(brd::kod);

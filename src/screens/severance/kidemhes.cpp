@@ -24,8 +24,6 @@ constexpr auto KidemHaric = Uye("kidemHaric", &KidemFormu::kidemHaric);
 constexpr auto IhbarHaric = Uye("ihbarHaric", &KidemFormu::ihbarHaric);
 constexpr auto Tavan = Uye("tavan", &KidemFormu::tavan);
 
-constexpr double EnCokUcret = 99'999'999'999.99;
-constexpr double EnCokIhbarGunu = 9999;
 constexpr int TutarHarfi = 14;
 
 AlanGrubu PersonelGrubu() {
@@ -42,7 +40,7 @@ AlanGrubu HesapGrubu() {
       "Hesap",
       {{Giris, "Giriş Tarihi"},
        {Cikis, "Çıkış Tarihi"},
-       {Ucret, "Aylık Ücreti (Bürüt Aylık)", {.ondalik = ParaOndalik, .enCok = EnCokUcret, .harf = TutarHarfi}},
+       {Ucret, "Aylık Ücreti (Bürüt Aylık)", {.ondalik = ParaOndalik, .enCok = EnCokKidemUcreti, .harf = TutarHarfi}},
        {Uye("CalismaGunu", &KidemFormu::CalismaGunu), "Kıdem Gün", {.harf = 6, .kapali = true}},
        {Ihbar, "İhbar Gün", {.enCok = EnCokIhbarGunu, .harf = 6, .ipucu = "Tarih değişince tablodan yeniden gelir"}},
        {Tavan, "Kıdem Tavanı", {.liste = KidemTavaniAdlari}}},

@@ -149,7 +149,7 @@ TEST_F(Devir, AFileOfYearsIsTakenWholeOrNotAtAll) {
   Kisi("a1", 1000);
   EXPECT_THAT(Sorunlar(DevirAktar(o, "kod;yil;gvmatrah\nA1;2008;100,50\na1;1208;1\nyok;2008;1\na1;2008;2\n;2008;\n",
                                   AktarimKipi::Kaydet)),
-              ElementsAre("6 kod: boş bırakılamaz", "3 yil: 1990 ile 2100 arasında olmalı",
+              ElementsAre("3 yil: 1990 ile 2100 arasında olmalı", "6 kod: boş bırakılamaz",
                           "4 kod: bu kodla personel yok: yok", "5 yil: kişinin bu yılı dosyada iki kez var"));
   EXPECT_THAT(Sorunlar(DevirAktar(o, "kod;yilkod\na1;2008a1\n", AktarimKipi::Kaydet)),
               testing::Contains(HasSubstr("yilkod: bu anahtarı program yapar")));
