@@ -18,7 +18,7 @@ std::string Sorgu() {
 }
 
 // The allowance and its duty, which is rounded record by record.
-Tutar AgiNeti(Motor& motor, int yil, int ay, const IcmalKosulu& kosul) {
+Tutar AgiNetleri(Motor& motor, int yil, int ay, const IcmalKosulu& kosul) {
   const auto komut = motor.Hazirla("select b.dvtutar, b.ogv" + Kaynak() + " and b.ogv <> 0");
   komut->TamBagla(1, yil);
   komut->TamBagla(2, ay);
@@ -26,7 +26,7 @@ Tutar AgiNeti(Motor& motor, int yil, int ay, const IcmalKosulu& kosul) {
   for (Brd b; komut->Adim();) {
     KolonAl(*komut, 0, b.dvtutar);
     KolonAl(*komut, 1, b.ogv);
-    net += b.ogv + b.dvtutar - AgiDahilDamga(b, kosul.damgaOran, kosul.yuvarla);
+    net += AgiNeti(b, kosul.damgaOran, kosul.yuvarla);
   }
   return net;
 }
@@ -43,7 +43,7 @@ IcmalAyi IcmalAyiOku(Motor& motor, int yil, int ay, const IcmalKosulu& kosul) {
   if (!komut->Adim()) return m;
   m.kisi = komut->TamSigan<int>(0);
   m.brut = Tutar::Hamdan(komut->Tam(1));
-  m.net = Tutar::Hamdan(komut->Tam(2)) + AgiNeti(motor, yil, ay, kosul);
+  m.net = Tutar::Hamdan(komut->Tam(2)) + AgiNetleri(motor, yil, ay, kosul);
   m.maliyet = Tutar::Hamdan(komut->Tam(3));
   return m;
 }

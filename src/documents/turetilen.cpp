@@ -5,15 +5,6 @@
 #include "payroll/hesap/kayittoplami.h"
 
 namespace belvani {
-namespace {
-
-// What the papers show as duty beyond the record's own.
-Tutar AgiDamgasi(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
-  return AgiDahilDamga(brd, damgaOran, yuvarla) - brd.dvtutar;
-}
-
-}  // namespace
-
 int GunToplami(const Brd& brd) {
   return SskGunu(brd);
 }
@@ -27,12 +18,16 @@ Tutar AgiDahilDamga(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
   return yuvarla(brd.dvtutar + yuvarla(brd.ogv.Sayi() * damgaOran.Sayi() / 1000));
 }
 
+Tutar AgiNeti(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
+  return brd.ogv + brd.dvtutar - AgiDahilDamga(brd, damgaOran, yuvarla);
+}
+
 Tutar Kesintiler(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
-  return Degeri(toplam::kesintiler, brd) + AgiDamgasi(brd, damgaOran, yuvarla);
+  return Degeri(toplam::kesintiler, brd) + brd.ogv - AgiNeti(brd, damgaOran, yuvarla);
 }
 
 Tutar NetOdenen(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla) {
-  return Degeri(toplam::odenen, brd) + brd.ogv - AgiDamgasi(brd, damgaOran, yuvarla);
+  return Degeri(toplam::odenen, brd) + AgiNeti(brd, damgaOran, yuvarla);
 }
 
 std::string AdSoyad(const Sicil& sicil) {

@@ -23,10 +23,13 @@ Tutar GunlukBrut(const Brd& brd, Yuvarlayici yuvarla);
 // dvtutar 4.16, ogv 51.98, 6 per thousand -> 4.16 + 0.31 = 4.47. Without an allowance it is dvtutar.
 Tutar AgiDahilDamga(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla);
 
+// What the allowance adds to the net: itself less its duty.
+Tutar AgiNeti(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla);
+
 // All that is kept back: employee premiums, income tax, the duty above, union dues, debt.
 Tutar Kesintiler(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla);
 
-// "Net Ödenen": gross less Kesintiler, plus the allowance.
+// "Net Ödenen": what is paid without the allowance, and AgiNeti.
 Tutar NetOdenen(const Brd& brd, Tek damgaOran, Yuvarlayici yuvarla);
 
 // "Ayşe Yılmaz".

@@ -83,7 +83,7 @@ void IabKayitlari(const std::vector<Brd>& bordrolar, IabFormu& form) {
     if (form.kayitlar.size() < IabKayitSayisi) form.kayitlar.push_back(Kaydi(*brd));
     const int ay = AySirasi(brd->yil, brd->ay);
     if (son.Bos() || ay < ilkAy || ay > sonAy) continue;
-    if (form.sonNet <= Tutar()) form.sonNet = brd->brutkaz - Degeri(toplam::isciToplam, *brd);
+    if (form.sonNet <= Tutar()) form.sonNet = Degeri(toplam::yasalNet, *brd);
     form.issizlikGunu += GunToplami(*brd);
   }
 }

@@ -6,6 +6,7 @@
 #include "core/store/satirlar.h"
 #include "core/turkce.h"
 #include "core/yuvarlama.h"
+#include "payroll/hesap/kayittoplami.h"
 #include "personnel/kart.h"
 #include "personnel/kimlik.h"
 
@@ -49,9 +50,10 @@ constexpr int AySirasi(int yil, int ay) {
 void KayitlariTopla(Oturum& o, const std::string& kod, ViziteAylari& aylar) {
   const ViziteAyi& ilk = aylar.front();
   const ViziteAyi& son = aylar.back();
-  const auto komut = o.depo.db.IcMotor().Hazirla(
-      "select yil, ay, sum(ng + ht + ui + rt + mi + ha), sum(sskmatrahisveren), sum(ui) from brd "
-      "where kod = ? and yil in (?, ?) and yil * 12 + ay between ? and ? group by yil, ay");
+  const auto komut =
+      o.depo.db.IcMotor().Hazirla("select yil, ay, sum(" + SskGunuSql("") +
+                                  "), sum(sskmatrahisveren), sum(ui) from brd "
+                                  "where kod = ? and yil in (?, ?) and yil * 12 + ay between ? and ? group by yil, ay");
   komut->MetinBagla(1, kod);
   komut->TamBagla(2, ilk.yil);
   komut->TamBagla(3, son.yil);

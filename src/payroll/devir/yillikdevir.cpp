@@ -8,6 +8,7 @@
 #include "core/tables/dvr.h"
 #include "core/yuvarlama.h"
 #include "payroll/devir/devirkaydi.h"
+#include "payroll/hesap/kayittoplami.h"
 
 namespace belvani {
 namespace {
@@ -37,8 +38,9 @@ YilToplami ToplamAl(const Komut& komut, int ilk) {
 std::vector<DevredenKisi> KisileriOku(Motor& motor, int yil, Yuvarlayici yuvarla, Ilerleme* ilerleme) {
   const auto komut = motor.Hazirla(
       "select t.kod, t.tgvm, t.tgvt, t.tisci, d." + motor.KimlikKolonu("dvr") +
-      ", d.gvmatrah, d.gvtutar, d.issizlik from (select kod, sum(gvmatrah) as tgvm, sum(gvtutar) as tgvt, "
-      "sum(issizisci + issizisveren) as tisci from brd where yil = ? group by kod) t "
+      ", d.gvmatrah, d.gvtutar, d.issizlik from (select kod, sum(gvmatrah) as tgvm, sum(gvtutar) as tgvt, sum(" +
+      Sql(toplam::issizlik, "") +
+      ") as tisci from brd where yil = ? group by kod) t "
       "left join dvr d on d.yilkod = ? || t.kod order by t.kod");
   komut->TamBagla(1, yil);
   komut->MetinBagla(2, YilKod(yil, {}));

@@ -62,7 +62,7 @@ std::string Tutmayan(const Brd& b) {
   Tutar yardim;
   for (const auto& kolon : YardimKolonlari) yardim += b.*kolon.uye;
   if (b.topyardim != yardim) return "yardımlar toplamı";
-  if (b.yuvarlama != b.sendika + b.borckes) return "özel kesintiler toplamı";
+  if (b.yuvarlama != Degeri(toplam::ozelKesinti, b)) return "özel kesintiler toplamı";
   if (b.yil >= AgiIlkYili && b.ogv > b.gvtutar) return "asgari geçim indirimi";
   if (KesintisizKayit(b)) return {};
   for (const OranliTutar& t : IscininTutarlari)

@@ -59,12 +59,15 @@ inline constexpr KayitToplami fazlaMesai{"fazlaMesai", "Fazla Mesai", kazanclar 
 inline constexpr KayitToplami vergiler{"vergiler", "G.V.+D.V.", Ifade(brd::gvtutar) + brd::dvtutar};
 inline constexpr KayitToplami yasalKesinti{"yasalKesinti", "Kesintiler", brd::sskkesinti + vergiler};
 inline constexpr KayitToplami isciToplam{"isciToplam", "İşçi TOPLAM", yasalKesinti + brd::issizisci};
+// What premiums and taxes leave of the gross.
+inline constexpr Ifade yasalNet = brd::brutkaz - isciToplam;
 inline constexpr KayitToplami ozelKesinti{"ozelKesinti", "Ö.Kes.", Ifade(brd::sendika) + brd::borckes};
 inline constexpr KayitToplami kesintiler{"kesintiler", "Kesintiler Toplamı", isciToplam + ozelKesinti};
 // Without the allowance, which is paid on top.
 inline constexpr KayitToplami odenen{"odenen", "Personel Ödemeleri", brd::brutkaz - kesintiler};
 inline constexpr KayitToplami isverenToplam{"isverenToplam", "İşveren TOPLAM", Ifade(brd::sskkesintiisveren) + brd::issizisveren};
 inline constexpr KayitToplami isverenMaliyeti{"isverenMaliyeti", "İşveren Maliyeti", brd::brutkaz + isverenToplam};
+inline constexpr Ifade issizlik = Ifade(brd::issizisci) + brd::issizisveren;
 // What the employer owes the institution, less what the state contributes.
 inline constexpr KayitToplami odenecekPrim{"odenecekPrim", "Ödenecek SSK Primi", brd::sskkesinti + isverenToplam + brd::issizisci - brd::katki};
 inline constexpr KayitToplami kumuleMatrah{"kumuleMatrah", "Kümüle Gelir Vergisi", Ifade(brd::devgvmatrah) + brd::gvmatrah};

@@ -6,7 +6,7 @@
 
 #include <array>
 
-#include "core/tables/brd.h"
+#include "payroll/hesap/kayittoplami.h"
 
 namespace belvani {
 
@@ -34,7 +34,7 @@ inline constexpr std::array<OranliTutar, 2> IsvereninTutarlari{
 
 // An apprentice's bases stand in his record and are neither insured by him nor taxed.
 inline bool KesintisizKayit(const Brd& b) {
-  return b.sskkesinti + b.issizisci + b.gvtutar + b.dvtutar == Tutar();
+  return Degeri(toplam::isciToplam, b) == Tutar();
 }
 
 // Paid leave relieves the employer of a part of his premium, and a base that was raised to the floor makes him bear the
