@@ -169,9 +169,7 @@ void FirmaTanimlariniOku(const Json& json, HesapGirdisi& h) {
   BayraklariOku(json, f.varsayilan, h.kusurlar);
   f.mesailer = VarsayilanFazlaMesailer();
   f.yardimlar = VarsayilanYardimlar();
-  NumaraliSatirlar(json, muaf::no, h.kusurlar, [&](std::size_t sira, const Muaf& m) {
-    f.yardimlar[sira] = {m.adi, m.indtip, m.oran, m.sabit};
-  });
+  NumaraliSatirlar(json, muaf::no, h.kusurlar, [&](std::size_t sira, const Muaf& m) { f.yardimlar[sira] = m; });
   NumaraliSatirlar(json, indir::no, h.kusurlar, [&](std::size_t sira, const Indir& i) { f.indirimler[sira] = i; });
   f.sendikalar = Satirlar<Sendika>(json, "sendika", h.kusurlar);
 }

@@ -4,13 +4,13 @@
 
 #include "core/store/satirlar.h"
 #include "core/tables/indir.h"
-#include "core/tables/muaf.h"
 #include "documents/deftersorgu.h"
 #include "documents/listebelgesi.h"
 #include "documents/sikisatirlar.h"
 #include "documents/turetilensatir.h"
 #include "isyeri/isyerinumarasi.h"
 #include "payroll/hesap/kayittoplami.h"
+#include "payroll/hesap/muafiyet.h"
 #include "payroll/hesap/satirlar.h"
 #include "printing/kolonlar.h"
 

@@ -15,13 +15,13 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-constexpr const char* Temmuz = " --yil 2009 --ay 7";
-const std::string Ucu = "AK KARA ZEYTİN";
+constexpr const char* TemmuzAyi = " --yil 2009 --ay 7";
+const std::string UcSirket = "AK KARA ZEYTİN";
 
 // Gone after the database in which it was granted anything.
-struct Rol {
-  Rol() { test::YoneticiSql(test::SunucuDizini(), "postgres", "create role " + ad + " login"); }
-  ~Rol() { test::YoneticiSql(test::SunucuDizini(), "postgres", "drop role " + ad); }
+struct BakanRol {
+  BakanRol() { test::YoneticiSql(test::SunucuDizini(), "postgres", "create role " + ad + " login"); }
+  ~BakanRol() { test::YoneticiSql(test::SunucuDizini(), "postgres", "drop role " + ad); }
   std::string ad = "bakan_" + std::to_string(::getpid());
 };
 
@@ -31,7 +31,7 @@ struct SunucudakiSirketler {
     komut.veri = yer.Adres();
     komut.Yaz("p.csv", "kod;adi;soyadi;ucret;girtar;tcno;sskno\n001;Işıl;Çağlar;1000;01.01.2009;10000000146;34-1\n");
     for (const char* ad : {"AK", "BOŞ", "KARA", "ZEYTİN"})
-      Tamam("sirket-ac " + std::string(ad) + " --kullanici a" + Temmuz);
+      Tamam("sirket-ac " + std::string(ad) + " --kullanici a" + TemmuzAyi);
     Tamam("parametre-kur --donem 2009-07");
     for (const char* ad : {"AK", "KARA", "ZEYTİN"}) Tamam("personel-al " + std::string(ad) + " @p.csv");
   }
@@ -41,7 +41,7 @@ struct SunucudakiSirketler {
     return c;
   }
 
-  Rol rol;
+  BakanRol rol;
   test::VeriYeri yer;
   test::Komut komut;
 };
@@ -55,7 +55,7 @@ struct SunucudaToplu : testing::Test {
 // Each process has a connection of its own, and none that was open before it was made.
 TEST_F(SunucudaToplu, AllCompaniesArePreparedLookedAtAndPrinted) {
   const SunucudakiSirketler s;
-  const Cikti hazirla = s.Tamam(std::string("hazirla --hepsi -j 3") + Temmuz);
+  const Cikti hazirla = s.Tamam(std::string("hazirla --hepsi -j 3") + TemmuzAyi);
   EXPECT_THAT(hazirla.cikti, AllOf(StartsWith("AK: Bordro Hazırlık Tamamlandı: 1 kişi"), HasSubstr("\nKARA: Bordro"),
                                    HasSubstr("\nZEYTİN: Bordro")));
   EXPECT_THAT(hazirla.mesaj, AllOf(HasSubstr("BOŞ: Bu ayda çalışan personel yok"),
@@ -63,17 +63,17 @@ TEST_F(SunucudaToplu, AllCompaniesArePreparedLookedAtAndPrinted) {
   const Cikti denetle = s.Tamam("denetle --hepsi -j 3");
   for (const char* ad : {"AK", "BOŞ", "KARA", "ZEYTİN"})
     EXPECT_THAT(denetle.cikti, HasSubstr("Veritabanı sağlam: " + std::string(ad)));
-  const auto bordro = s.Tamam("bordro " + Ucu + " --bicim json" + Temmuz).Json();
+  const auto bordro = s.Tamam("bordro " + UcSirket + " --bicim json" + TemmuzAyi).Json();
   for (const char* ad : {"AK", "KARA", "ZEYTİN"}) EXPECT_EQ(bordro.at(ad).size(), 1u) << ad;
 }
 
 TEST_F(SunucudaToplu, WhoOnlyLooksIsToldThatNothingIsSaved) {
   SunucudakiSirketler s;
-  s.Tamam(std::string("hazirla AK") + Temmuz);
+  s.Tamam(std::string("hazirla AK") + TemmuzAyi);
   s.Tamam("yetki AK " + s.rol.ad + " --salt-oku");
   s.komut.veri.insert(s.komut.veri.find("//") + 2, s.rol.ad + "@");
-  EXPECT_EQ(s.Tamam(std::string("bordro AK --bicim json") + Temmuz).Json().size(), 1u);
-  const Cikti ayni = s.komut(std::string("hazirla AK") + Temmuz);
+  EXPECT_EQ(s.Tamam(std::string("bordro AK --bicim json") + TemmuzAyi).Json().size(), 1u);
+  const Cikti ayni = s.komut(std::string("hazirla AK") + TemmuzAyi);
   EXPECT_EQ(ayni.durum, 1) << ayni.cikti;
   EXPECT_THAT(ayni.mesaj, HasSubstr("değişiklikler kaydedilemez"));
   const Cikti yeni = s.komut("sirket-ac YENİ --kullanici a");

@@ -11,6 +11,7 @@
 #include "documents/ozelbordro.h"
 #include "documents/pusula.h"
 #include "documents/turetilen.h"
+#include "payroll/hesap/muafiyet.h"
 #include "printing/kayittuvali.h"
 #include "printing/metinyazici.h"
 

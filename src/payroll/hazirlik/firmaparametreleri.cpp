@@ -43,10 +43,8 @@ void VarsayilanGrubuEkle(Motor& motor, FirmaParametreleri& firma, const std::str
 
 void YardimlariOku(Motor& motor, YardimTanimlari& yardimlar) {
   yardimlar = VarsayilanYardimlar();
-  for (const Muaf& satir : KayitlariOku<Muaf>(motor)) {
-    if (satir.no < 1 || satir.no > YardimSayisi) continue;
-    yardimlar[satir.no - 1u] = {satir.adi, satir.indtip, satir.oran, satir.sabit};
-  }
+  for (Muaf& satir : KayitlariOku<Muaf>(motor))
+    if (satir.no >= 1 && satir.no <= YardimSayisi) yardimlar[satir.no - 1u] = std::move(satir);
 }
 
 template <class T>

@@ -7,6 +7,7 @@
 #include "core/tables/kaztan.h"
 #include "core/tables/sendika.h"
 #include "payroll/hesap/indirim.h"
+#include "payroll/hesap/muafiyet.h"
 #include "payroll/parametre/parametreler.h"
 
 namespace belvani {

@@ -35,6 +35,13 @@ Durum AnahtarlaYaz(TanimOrtami ortam, const Kolon<Kayit, Uye>& anahtar, const Sa
   });
 }
 
+// Each has the number of its place, from 1.
+template <class Satirlar>
+Satirlar Numarali(Satirlar satirlar) {
+  for (std::size_t i = 0; i < satirlar.size(); ++i) satirlar[i].no = std::uint8_t(i + 1);
+  return satirlar;
+}
+
 template <class Kayit>
 Sonuc<Silme> AnahtarlaSil(TanimOrtami ortam, const Deger& anahtar) {
   const Durum silindi = Yaz(ortam, "Kayıt Silinemedi", [&](Motor& motor) { Tablo<Kayit>(motor).Sil(anahtar); });
@@ -67,22 +74,11 @@ Sonuc<Silme> KazancGrubuSil(TanimOrtami ortam, std::string_view grup) {
 }
 
 Durum IndirimleriKaydet(TanimOrtami ortam, const std::array<Indir, 3>& satirlar) {
-  auto numarali = satirlar;
-  for (std::size_t i = 0; i < numarali.size(); ++i) numarali[i].no = std::uint8_t(i + 1);
-  return AnahtarlaYaz(ortam, indir::no, numarali, "İndirim Kayıtları Kaydedilemedi");
+  return AnahtarlaYaz(ortam, indir::no, Numarali(satirlar), "İndirim Kayıtları Kaydedilemedi");
 }
 
 Durum YardimlariKaydet(TanimOrtami ortam, const YardimTanimlari& yardimlar) {
-  std::array<Muaf, YardimSayisi> satirlar;
-  for (std::size_t i = 0; i < satirlar.size(); ++i) {
-    const YardimTanimi& y = yardimlar[i];
-    satirlar[i].no = std::uint8_t(i + 1);
-    satirlar[i].adi = y.adi;
-    satirlar[i].indtip = y.indtip;
-    satirlar[i].sabit = y.sabit;
-    satirlar[i].oran = y.oran;
-  }
-  return AnahtarlaYaz(ortam, muaf::no, satirlar, "Yardım Kayıtları Kaydedilemedi");
+  return AnahtarlaYaz(ortam, muaf::no, Numarali(yardimlar), "Yardım Kayıtları Kaydedilemedi");
 }
 
 Durum SendikaKaydet(TanimOrtami ortam, const Sendika& sendika) {

@@ -24,6 +24,7 @@
 #include "payroll/hesap/agi.h"
 #include "payroll/hesap/indirim.h"
 #include "payroll/hesap/iz.h"
+#include "payroll/hesap/muafiyet.h"
 #include "payroll/parametre/parametreler.h"
 
 namespace belvani {

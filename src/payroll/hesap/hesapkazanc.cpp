@@ -115,7 +115,7 @@ void Hesap<I>::Yardimlar() {
   for (std::size_t i = 0; i < YardimKolonlari.size(); ++i) {
     const Tutar tutar = k_.*YardimKolonlari[i].uye;
     const std::uint8_t bayraklar = g_.bayraklar.y[i];
-    const YardimTanimi& tanim = (*g_.yardimlar)[i];
+    const Muaf& tanim = (*g_.yardimlar)[i];
     MatrahlaraEkle(bayraklar, tutar);
     if (bayraklar & bayrak::Muaf) {
       const Tutar onceki = k_.muaftutar;

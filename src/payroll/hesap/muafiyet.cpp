@@ -4,6 +4,18 @@
 
 namespace belvani {
 
+YardimTanimlari VarsayilanYardimlar() {
+  static constexpr std::array<const char*, YardimSayisi> adlar{
+      "Prim/İkramiye", "yemek",        "Aile Yardımı", "Çocuk Yardımı",   "Doğum Yardımı",  "Evlilik Yardımı",
+      "Giyim Yardımı", "Ölüm Yardımı", "Yolluk",       "İhbar/Kasa Taz.", "Kıdem Tazminatı"};
+  YardimTanimlari tanimlar;
+  for (std::size_t i = 0; i < tanimlar.size(); ++i) {
+    tanimlar[i].no = std::uint8_t(i + 1);
+    tanimlar[i].adi = adlar[i];
+  }
+  return tanimlar;
+}
+
 Tutar MuafHesapla(const MuafiyetGirdisi& g, Tutar muaftutar, Yuvarlayici yuvarla) {
   constexpr int EnCokCocuk = 2;
   const double gunlukTaban = g.SskTaban.Sayi() / AyGunu30;

@@ -5,6 +5,7 @@
 // Example: rule 3 at 10 %, floor 531.00, 30 days, allowance 60.00 -> limit 53.10, exempt 53.10.
 #pragma once
 
+#include "core/tables/muaf.h"
 #include "core/yuvarlama.h"
 #include "payroll/parametre/parametreler.h"
 
@@ -23,9 +24,14 @@ enum class MuafiyetSekli : std::uint8_t {
 inline constexpr std::array<std::string_view, 6> MuafiyetSekilleri{"Yok",        "Fiili Gün",   "Toplam Gun*Çocuk",
                                                                    "Toplam Gun", "Kazanc*Oran", "Sabit"};
 
+// Names and exemption rules of the allowance lines, by their numbers, from 1.
+using YardimTanimlari = std::array<Muaf, YardimSayisi>;
+// The names that stand where a company has given none; no line is exempt.
+YardimTanimlari VarsayilanYardimlar();
+
 struct MuafiyetGirdisi {
   Tutar tutar;  // entered on the line
-  const YardimTanimi& tanim;
+  const Muaf& tanim;
   int ng = 0;      // days worked
   int SskGun = 0;  // premium days
   int cocuk = 0;   // children, whether counted for the allowance or not

@@ -47,10 +47,6 @@ constexpr HazirTur hazirTurler[] = {
     {"İşsizlik hariç 180 gün fiili hizmet", 1},
 };
 
-constexpr std::array<const char*, YardimSayisi> yardimAdlari{
-    "Prim/İkramiye", "yemek",        "Aile Yardımı", "Çocuk Yardımı",   "Doğum Yardımı",  "Evlilik Yardımı",
-    "Giyim Yardımı", "Ölüm Yardımı", "Yolluk",       "İhbar/Kasa Taz.", "Kıdem Tazminatı"};
-
 }  // namespace
 
 HesapTurleri VarsayilanHesapTurleri() {
@@ -78,12 +74,6 @@ KazancBayraklari VarsayilanKazancBayraklari() {
   bayraklar.k[0] |= bayrak::Acik;
   bayraklar.k[1] |= bayrak::Acik;
   return bayraklar;
-}
-
-YardimTanimlari VarsayilanYardimlar() {
-  YardimTanimlari tanimlar;
-  for (std::size_t i = 0; i < tanimlar.size(); ++i) tanimlar[i].adi = yardimAdlari[i];
-  return tanimlar;
 }
 
 Sablon VarsayilanSablon() {

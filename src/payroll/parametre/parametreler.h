@@ -118,17 +118,6 @@ struct KazancBayraklari {
   bool operator==(const KazancBayraklari&) const = default;
 };
 
-// Name and exemption rule of an allowance line.
-struct YardimTanimi {
-  std::string adi;
-  std::uint8_t indtip = 0;  // 0 none, 1 days worked, 2 days × children, 3 days, 4 earning × rate, 5 fixed
-  Tek oran;
-  Tutar sabit;
-
-  bool operator==(const YardimTanimi&) const = default;
-};
-using YardimTanimlari = std::array<YardimTanimi, YardimSayisi>;
-
 // How a template allowance is spread over the days of a person.
 enum class SablonTipi : std::uint8_t { Sabit = 0, ToplamGun = 1, FiiliGun = 2 };
 inline constexpr std::array<std::string_view, 3> SablonTipAdlari{"Sabit", "Toplam Gun", "Fiili Gün"};
@@ -161,8 +150,7 @@ HesapTurleri VarsayilanHesapTurleri();
 Kanunlar VarsayilanKanunlar();
 FazlaMesailer VarsayilanFazlaMesailer();
 KazancBayraklari VarsayilanKazancBayraklari();  // earnings; all allowances 0
-YardimTanimlari VarsayilanYardimlar();
-Sablon VarsayilanSablon();  // 26 days worked, 4 rest days
+Sablon VarsayilanSablon();                      // 26 days worked, 4 rest days
 
 // The premium rules in force in a month: code of the first row that covers the month's first day (`bittar` itself is
 // outside); 0 when none does. 10.2008 -> 4.

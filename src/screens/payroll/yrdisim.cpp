@@ -1,6 +1,5 @@
 #include "screens/payroll/yrdisim.h"
 
-#include "core/tables/muaf.h"
 #include "payroll/hesap/muafiyet.h"
 
 namespace belvani {
@@ -16,11 +15,10 @@ static_assert(std::size(YardimNolari) == YardimSayisi);
 
 yrdisim::yrdisim(EkranBaglami& baglam, ParametreDeposu& parametreler)
     : ListeEkrani(baglam, parametreler, "yrdisim", QStringLiteral("Yardım İsimlendirme"),
-                  {AdKolonu<YardimTanimi>("No", 40, YardimNolari),
-                   UyeKolonu("adi", "Açıklama", 220, &YardimTanimi::adi, {.enCok = muaf::adi.boyut}),
-                   UyeKolonu("indtip", "Muafiyet Şekli", 180, &YardimTanimi::indtip, {.liste = MuafiyetSekilleri}),
-                   UyeKolonu("oran", "Oran %", 90, &YardimTanimi::oran, {.enCok = EnBuyukGirdi(muaf::oran)}),
-                   UyeKolonu("sabit", "Sabit", 120, &YardimTanimi::sabit, {.ondalik = baglam.oturum.firma.paraonda})}) {
+                  {AdKolonu<Muaf>("No", 40, YardimNolari), UyeKolonu(muaf::adi, "Açıklama", 220),
+                   UyeKolonu(muaf::indtip, "Muafiyet Şekli", 180, {.liste = MuafiyetSekilleri}),
+                   UyeKolonu(muaf::oran, "Oran %", 90),
+                   UyeKolonu(muaf::sabit, "Sabit", 120, {.ondalik = baglam.oturum.firma.paraonda})}) {
   Ac(
       YardimSayisi, [this] { return Satirlar(Parametreler().firma.Parametreler().yardimlar); },
       [this](const auto& satirlar) {

@@ -5,7 +5,7 @@
 
 namespace belvani {
 
-class yrdisim : public ListeEkrani<YardimTanimi> {
+class yrdisim : public ListeEkrani<Muaf> {
  public:
   yrdisim(EkranBaglami& baglam, ParametreDeposu& parametreler);
 };

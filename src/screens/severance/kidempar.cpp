@@ -31,7 +31,7 @@ kidempar::kidempar(EkranBaglami& baglam, ParametreDeposu& parametreler)
       kidem_(KidemParOku(baglam.oturum.FirmaDizini).deger) {
   AlanlariDiz({{Alanlar()}});
   std::vector<std::string> adlar;
-  for (const YardimTanimi& yardim : parametreler.firma.Parametreler().yardimlar) adlar.push_back(yardim.adi);
+  for (const Muaf& yardim : parametreler.firma.Parametreler().yardimlar) adlar.push_back(yardim.adi);
   for (const auto& d : Denetimler())
     if (d->YaziKutusu() == nullptr) SecenekleriKoy(*d, adlar);
   Komutlar({{.komut = FormKomutu::Kaydet, .dugme = "Kaydet", .islev = [this] { Kaydet(); }}});

@@ -45,7 +45,7 @@ TEST(Tanimlar, OfDeductionsAllowancesAndUnionsReachTheSession) {
   std::array<Indir, 3> indirimler;
   indirimler[2].indtip = 4;
   YardimTanimlari yardimlar = VarsayilanYardimlar();
-  yardimlar[10] = {"Kıdem", 5, Tek(1.5), Tutar(100)};
+  yardimlar[10] = {11, "Kıdem", 5, Tutar(100), Tek(1.5)};
   Sendika s;
   s.kod = "01";
   for (int kez = 0; kez < 2; ++kez)

@@ -56,7 +56,7 @@ const std::map<std::string_view, std::function<void(Ornek&, double)>> digerleri{
     {"y1", [](Ornek& o, double d) { o.g.bayraklar.y[0] = std::uint8_t(d); }},
     {"muaf sabit",
      [](Ornek& o, double d) {
-       o.yardimlar[0] = {"", 5, Tek(), Tutar(d)};
+       o.yardimlar[0] = {1, "", 5, Tutar(d), Tek()};
      }},
     {"indir1 tipi", [](Ornek& o, double d) { o.indirimler[0] = test::Indirim(int(d), {}, {}); }},
     {"indir2 tipi", [](Ornek& o, double d) { o.indirimler[1] = test::Indirim(int(d), {}, {}); }},

@@ -157,7 +157,7 @@ class Kahin {
   }
 
   void Muafiyet(std::size_t i) {
-    const YardimTanimi& m = (*g.yardimlar)[i];
+    const Muaf& m = (*g.yardimlar)[i];
     const double gunlukTaban = sskTaban / 30;
     const double oran = m.oran.Sayi();
     const int cocuk = g.aile.cocuk > 2 ? 2 : g.aile.cocuk;

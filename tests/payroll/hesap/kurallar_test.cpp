@@ -50,13 +50,15 @@ TEST(MuafHesapla, LimitOfEachKind) {
       {"negative amount is below every limit", 3, 10, 0, -20, 26, 30, 0, 7, -13},
   };
   for (const Durum& d : durumlar) {
-    const YardimTanimi tanim{"", std::uint8_t(d.indtip), Tek(d.oran), Tutar(d.sabit)};
+    const Muaf tanim{
+        .no = 1, .adi = "", .indtip = std::uint8_t(d.indtip), .sabit = Tutar(d.sabit), .oran = Tek(d.oran)};
     const Tutar sonra =
         MuafHesapla({Tutar(d.tutar), tanim, d.ng, d.SskGun, d.cocuk, Tutar(600)}, Tutar(d.once), yuvarla);
     EXPECT_EQ(sonra, Tutar(d.sonra)) << d.ad;
   }
   // 531.00 / 30 × 10 % × 30
-  EXPECT_EQ(MuafHesapla({Tutar(60), {"", 3, Tek(10), Tutar()}, 30, 30, 0, Tutar(531)}, Tutar(), yuvarla), Tutar(53.1));
+  EXPECT_EQ(MuafHesapla({Tutar(60), {1, "", 3, Tutar(), Tek(10)}, 30, 30, 0, Tutar(531)}, Tutar(), yuvarla),
+            Tutar(53.1));
 }
 
 // Income tax law, article 63/3: 10 % of the gross (personal insurance 5 %), yearly ceiling 7,200.

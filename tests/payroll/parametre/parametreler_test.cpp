@@ -53,7 +53,6 @@ TEST(HazirTablolar, BranchesAreNumberedAndMarked) {
   EXPECT_EQ(isKazasi, "11011100010011100011111111111111100000000000000000");
   EXPECT_EQ(turler[12].ack, "Tümüne Dahil Olup İşsizlik Sigortası Haricindekiler");
   EXPECT_EQ(turler[32].ack, "İşsizlik hariç 180 gün fiili hizmet");
-  EXPECT_EQ(VarsayilanYardimlar()[1].adi + VarsayilanYardimlar()[10].adi, "yemekKıdem Tazminatı");
 }
 
 }  // namespace

@@ -154,7 +154,7 @@ TEST(CompanyLists, RowsReachTheFilesAndTables) {
   ortam.Bas(Qt::Key_Down);
   ortam.Yaz("Yemek\nF\n6\n\n");
   ortam.Bas(Qt::Key_F5);
-  const YardimTanimi& yemek = ortam.parametreler.firma.Parametreler().yardimlar[1];
+  const Muaf& yemek = ortam.parametreler.firma.Parametreler().yardimlar[1];
   EXPECT_EQ(yemek.adi, "Yemek");
   EXPECT_EQ(yemek.indtip, 1);
   EXPECT_EQ(yemek.oran, Tek(6));
