@@ -4,7 +4,6 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <locale.h>
-#include <optional>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -136,10 +135,10 @@ struct XlsxKitap::Ic {
   }
 
   // The library's file has no rows yet: they go between the head of its sheet and what follows them.
-  std::optional<std::string> Doldur(ZipDosyasi& dosya) {
+  Sonuc<std::string> Doldur(ZipDosyasi dosya) {
     std::string xml = dosya.Oku(SayfaParcasi).value_or("");
     const auto yer = xml.find(BosSatirlar);
-    if (yer == xml.npos) return std::nullopt;
+    if (yer == xml.npos) return Kusur{};
     std::string bas = xml.substr(0, yer);
     if (const auto alan = bas.find(BosAlan); alan != bas.npos)
       bas.replace(alan, BosAlan.size(), "<dimension ref=\"" + satirlar.Alan() + "\"/>");
@@ -147,8 +146,7 @@ struct XlsxKitap::Ic {
     parca += satirlar.Bitir();
     parca += Sikistir(std::string_view(xml).substr(yer + BosSatirlar.size()), ParcaSonu::Son);
     dosya.Degistir(SayfaParcasi, std::move(parca));
-    auto baytlar = dosya.Bitir();
-    return baytlar ? std::optional(std::move(*baytlar)) : std::nullopt;
+    return dosya.Bitir();
   }
 
   // The library does not look whether its own temporary files were written to the end, so the file is read back: every
@@ -244,11 +242,11 @@ Sonuc<std::string> XlsxKitap::Bitir(Ilerleme* ilerleme) {
   if (!baytlar) return yazilamadi;
   auto iskelet = ZipDosyasi::Ac(std::move(*baytlar));
   if (!iskelet) return yazilamadi;
-  auto dolu = ic_->Doldur(*iskelet);
+  auto dolu = ic_->Doldur(std::move(*iskelet));
   if (!dolu) return yazilamadi;
-  const auto dosya = ZipDosyasi::Ac(*dolu);
+  auto dosya = ZipDosyasi::Ac(std::move(*dolu));
   if (!dosya || !ic_->Saglam(*dosya, ilerleme)) return yazilamadi;
-  return std::move(*dolu);
+  return std::move(*dosya).Baytlar();
 }
 
 std::string XlsxTutarBicimi(int ondalik) {

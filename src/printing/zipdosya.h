@@ -33,6 +33,8 @@ class ZipDosyasi {
   void Degistir(const std::string& ad, SikisikParca icerik) { sikisik_[ad] = std::move(icerik); }
   void Sil(const std::string& ad) { degisen_[ad] = std::nullopt; }
 
+  // The bytes as they were given.
+  std::string Baytlar() && { return std::move(baytlar_); }
   // The archive with its changes. The dates of changed parts stay, so equal changes give equal bytes.
   Sonuc<std::string> Bitir() const;
 
