@@ -137,7 +137,7 @@ std::unique_ptr<Belge> DortAylikBelgesi(const BelgeKaynagi& kaynak, const DortAy
                       .paraonda = kaynak.firma.paraonda});
   return std::make_unique<TabloluForm>(
       BaskiAyari(DortAylikIsi, KagitYonu::Yatay), Listesi(*kagit),
-      FormYapanlar{.sayfalar = [kagit](Ilerleme* i) { return DortAylikSayfalari(*kagit, i); },
+      FormYapanlar{.sayfalar = [kagit](Ilerleme* i) { return DortAylikSayfalari(kagit, i); },
                    .metin = [kagit](Ilerleme* i) { return DortAyYazdir(*kagit, i); },
                    .sayfaSozu = [kagit](int sayfa) { return DortAylikSayfaSozu(*kagit, sayfa); }});
 }

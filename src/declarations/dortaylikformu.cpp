@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "core/asama.h"
 #include "core/turkce.h"
 #include "declarations/bildirgekagidi.h"
 #include "declarations/dortaylikkagidi.h"
@@ -205,21 +204,30 @@ FormSayfasi IcmalSayfasi(const Duzen& d, const std::vector<DortAylikSayfasi>& sa
   return f.Sayfa();
 }
 
+// What the pages are made of.
+struct Form {
+  Form(std::shared_ptr<const DortAylikKagidi> k, Ilerleme* ilerleme)
+      : kagit(std::move(k)), bolumler(DortAylikBol(kagit->satirlar, ilerleme)), duzen(*kagit, int(bolumler.size())) {}
+
+  std::size_t SayfaSayisi() const {
+    const std::size_t icmal = kagit->satirlar.empty() ? 0 : (bolumler.size() + IcmalSayfaSatiri - 1) / IcmalSayfaSatiri;
+    return bolumler.size() + icmal;
+  }
+  FormSayfasi Sayfa(std::size_t sira) const {
+    if (sira < bolumler.size()) return KisiSayfasi(duzen, bolumler[sira]);
+    return IcmalSayfasi(duzen, bolumler, (sira - bolumler.size()) * IcmalSayfaSatiri);
+  }
+
+  std::shared_ptr<const DortAylikKagidi> kagit;
+  std::vector<DortAylikSayfasi> bolumler;
+  Duzen duzen;
+};
+
 }  // namespace
 
-std::vector<FormSayfasi> DortAylikSayfalari(const DortAylikKagidi& kagit, Ilerleme* ilerleme) {
-  const auto bolumler = DortAylikBol(kagit.satirlar);
-  const Duzen duzen(kagit, int(bolumler.size()));
-  std::vector<FormSayfasi> sayfalar;
-  Asama asama(ilerleme, bolumler.size());
-  for (const DortAylikSayfasi& bolum : bolumler) {
-    asama.Adim();
-    sayfalar.push_back(KisiSayfasi(duzen, bolum));
-  }
-  if (kagit.satirlar.empty()) return sayfalar;
-  for (std::size_t ilk = 0; ilk < bolumler.size(); ilk += IcmalSayfaSatiri)
-    sayfalar.push_back(IcmalSayfasi(duzen, bolumler, ilk));
-  return sayfalar;
+FormSayfalari DortAylikSayfalari(std::shared_ptr<const DortAylikKagidi> kagit, Ilerleme* ilerleme) {
+  const auto form = std::make_shared<const Form>(std::move(kagit), ilerleme);
+  return {form->SayfaSayisi(), [form](std::size_t sira) { return form->Sayfa(sira); }};
 }
 
 }  // namespace belvani

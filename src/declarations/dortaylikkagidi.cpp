@@ -2,13 +2,16 @@
 
 #include <algorithm>
 
+#include "core/asama.h"
 #include "core/turkce.h"
 
 namespace belvani {
 
-std::vector<DortAylikSayfasi> DortAylikBol(const std::vector<DortAylikSatir>& satirlar) {
+std::vector<DortAylikSayfasi> DortAylikBol(const std::vector<DortAylikSatir>& satirlar, Ilerleme* ilerleme) {
   std::vector<DortAylikSayfasi> sayfalar;
+  Asama asama(ilerleme);
   do {
+    asama.Adim();
     DortAylikSayfasi sayfa;
     if (!sayfalar.empty()) {
       const DortAylikSayfasi& onceki = sayfalar.back();

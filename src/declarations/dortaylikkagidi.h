@@ -39,7 +39,7 @@ struct DortAylikSayfasi {
 };
 
 // One page at least. Throws TutarTasmasi.
-std::vector<DortAylikSayfasi> DortAylikBol(const std::vector<DortAylikSatir>& satirlar);
+std::vector<DortAylikSayfasi> DortAylikBol(const std::vector<DortAylikSatir>& satirlar, Ilerleme* ilerleme = nullptr);
 
 int DortAylikSayfaSayisi(const DortAylikKagidi& kagit);  // of people; the recapitulation comes behind them
 
@@ -50,7 +50,7 @@ std::string DortAylikBeyani(int sayfaSayisi);
 
 // The pages and behind them the recapitulation; of no people the empty form alone. Values are named by their place:
 // "satir26.adi" (the twenty-sixth person, wherever he stands), "devir.gun1", "icmal2.kazanc4".
-std::vector<FormSayfasi> DortAylikSayfalari(const DortAylikKagidi& kagit, Ilerleme* ilerleme = nullptr);
+FormSayfalari DortAylikSayfalari(std::shared_ptr<const DortAylikKagidi> kagit, Ilerleme* ilerleme = nullptr);
 
 // The same for a text printer, in lines of 136 letters.
 constexpr int DortAylikEni = 136;

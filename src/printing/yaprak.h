@@ -10,7 +10,6 @@
 // Like a report it holds values, and writers render them. Unlike in a list, a zero is shown.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +18,7 @@
 #include "printing/kagit.h"
 #include "printing/metinalici.h"
 #include "printing/rapor.h"
+#include "printing/uretilendizi.h"
 
 namespace belvani {
 
@@ -31,37 +31,7 @@ struct Yaprak {
   std::vector<std::string> cumleler;  // read and signed by the person
 };
 
-// The slips of a document. Each is made when it is asked for: kept together, those of a large company would take a
-// hundred times the memory of their paper.
-class YaprakDizisi {
- public:
-  YaprakDizisi(std::vector<Yaprak> yapraklar = {})  // NOLINT: slips that are made already
-      : YaprakDizisi(yapraklar.size(), [yapraklar](std::size_t sira) { return yapraklar[sira]; }) {}
-  // `yap` gives the same slip every time, and does not fail.
-  YaprakDizisi(std::size_t adet, std::function<Yaprak(std::size_t sira)> yap) : adet_(adet), yap_(std::move(yap)) {}
-
-  std::size_t size() const { return adet_; }
-  bool empty() const { return adet_ == 0; }
-  Yaprak operator[](std::size_t sira) const { return yap_(sira); }
-
-  struct Imlec {
-    const YaprakDizisi* dizi;
-    std::size_t sira;
-
-    Yaprak operator*() const { return (*dizi)[sira]; }
-    Imlec& operator++() {
-      ++sira;
-      return *this;
-    }
-    bool operator==(const Imlec&) const = default;
-  };
-  Imlec begin() const { return {this, 0}; }
-  Imlec end() const { return {this, adet_}; }
-
- private:
-  std::size_t adet_;
-  std::function<Yaprak(std::size_t)> yap_;
-};
+using YaprakDizisi = UretilenDizi<Yaprak>;
 
 struct YaprakBelgesi {
   std::string baslik;

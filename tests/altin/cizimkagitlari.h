@@ -229,6 +229,10 @@ inline DortAylikKagidi DortAylik(OrnekSirket& o, std::size_t kisi) {
   return kagit;
 }
 
+inline FormSayfalari DortAylikForm(DortAylikKagidi kagit) {
+  return DortAylikSayfalari(std::make_shared<const DortAylikKagidi>(std::move(kagit)));
+}
+
 inline EksikGunKagidi EksikGun(OrnekSirket& o, std::size_t kisi) {
   EksikGunKagidi kagit = EksikGunKagidiYap(o.Kaynak(), o.donem.yil, o.donem.ay);
   kagit.form.kisiler = Yinelenen(kagit.form.kisiler, kisi);
@@ -237,10 +241,9 @@ inline EksikGunKagidi EksikGun(OrnekSirket& o, std::size_t kisi) {
 }
 
 inline Kagitlar BildirimKagitlari() {
-  return {{UcuncuDonem, "dort-aylik.cizim.txt",
-           [](OrnekSirket& o) { return CizimMetni(DortAylikSayfalari(DortAylik(o))); }},
-          {SonAy, "dort-aylik-25.txt", [](OrnekSirket& o) { return AlanMetni(DortAylikSayfalari(DortAylik(o, 25))); }},
-          {SonAy, "dort-aylik-26.txt", [](OrnekSirket& o) { return AlanMetni(DortAylikSayfalari(DortAylik(o, 26))); }},
+  return {{UcuncuDonem, "dort-aylik.cizim.txt", [](OrnekSirket& o) { return CizimMetni(DortAylikForm(DortAylik(o))); }},
+          {SonAy, "dort-aylik-25.txt", [](OrnekSirket& o) { return AlanMetni(DortAylikForm(DortAylik(o, 25))); }},
+          {SonAy, "dort-aylik-26.txt", [](OrnekSirket& o) { return AlanMetni(DortAylikForm(DortAylik(o, 26))); }},
           {BirinciDonem, "dort-aylik-26.metin",
            [](OrnekSirket& o) { return MetinSayfalari(DortAyYazdir(DortAylik(o, 26))); }},
           {SonAy, "eksik-gun.cizim.txt",

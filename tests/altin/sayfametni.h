@@ -125,14 +125,14 @@ inline std::string CizimMetni(const CizilenBelge& belge) {
   return SayfaMetni(tuval) + (uyari.empty() ? "" : "uyarı: " + uyari + "\n");
 }
 
-inline std::string CizimMetni(const std::vector<FormSayfasi>& sayfalar) {
+inline std::string CizimMetni(const FormSayfalari& sayfalar) {
   KayitTuvali tuval;
   for (const auto& sayfa : sayfalar) FormCiz(sayfa, tuval);
   return SayfaMetni(tuval);
 }
 
 // The values of forms by their names, empty ones too.
-inline std::string AlanMetni(const std::vector<FormSayfasi>& sayfalar) {
+inline std::string AlanMetni(const FormSayfalari& sayfalar) {
   std::string metin;
   for (const auto& sayfa : sayfalar) {
     metin += "== sayfa\n";

@@ -3,17 +3,15 @@
 namespace belvani {
 namespace {
 
-using Sayfalar = std::shared_ptr<const std::vector<FormSayfasi>>;
-
 class Cizim final : public CizilenBelge {
  public:
-  explicit Cizim(Sayfalar sayfalar) : sayfalar_(std::move(sayfalar)) {}
+  explicit Cizim(FormSayfalari sayfalar) : sayfalar_(std::move(sayfalar)) {}
 
-  int SayfaSayisi() const override { return int(sayfalar_->size()); }
-  void SayfaCiz(int no, Tuval& tuval) const override { FormCiz(sayfalar_->at(std::size_t(no) - 1), tuval); }
+  int SayfaSayisi() const override { return int(sayfalar_.size()); }
+  void SayfaCiz(int no, Tuval& tuval) const override { FormCiz(sayfalar_[std::size_t(no) - 1], tuval); }
 
  private:
-  Sayfalar sayfalar_;
+  FormSayfalari sayfalar_;
 };
 
 YzcAyarlari VarOlanYollar(YzcAyarlari ayar, bool cizim, bool metin) {
@@ -25,7 +23,7 @@ YzcAyarlari VarOlanYollar(YzcAyarlari ayar, bool cizim, bool metin) {
 
 }  // namespace
 
-std::unique_ptr<CizilenBelge> FormCizimi(Sayfalar sayfalar) {
+std::unique_ptr<CizilenBelge> FormCizimi(FormSayfalari sayfalar) {
   return std::make_unique<Cizim>(std::move(sayfalar));
 }
 
@@ -47,7 +45,7 @@ std::string FormBelgesi::MetinAcilamadi() const {
 
 std::unique_ptr<CizilenBelge> FormBelgesi::CizimYap(Ilerleme*) const {
   if (sayfalar_.empty()) return nullptr;
-  return FormCizimi(belvani::Sayfalar(std::shared_ptr<void>(), &sayfalar_));  // kept by this document
+  return FormCizimi({sayfalar_.size(), [this](std::size_t sira) { return sayfalar_[sira]; }});
 }
 
 Sonuc<std::string> FormBelgesi::XlsxYap(Ilerleme*) const {

@@ -14,7 +14,7 @@
 namespace belvani {
 
 // The pages as they stand, drawn one at a time; pages that differ in their values alone share their frame.
-std::unique_ptr<CizilenBelge> FormCizimi(std::shared_ptr<const std::vector<FormSayfasi>> sayfalar);
+std::unique_ptr<CizilenBelge> FormCizimi(FormSayfalari sayfalar);
 
 // How its text goes out, where it differs from other papers.
 struct FormBasimi {

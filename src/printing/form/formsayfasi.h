@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "printing/tuval.h"
+#include "printing/uretilendizi.h"
 
 namespace belvani {
 
@@ -59,6 +60,8 @@ struct FormSayfasi {
   std::vector<FormYazisi> yazilar;
   std::vector<FormAlani> alanlar;
 };
+
+using FormSayfalari = UretilenDizi<FormSayfasi>;
 
 // One page, from SayfaBasla to SayfaBitir. Words and values stand in the middle of the height of their boxes; what is
 // wider than its box is made narrower, never cut. A value with more letters than cells is written as one text over all

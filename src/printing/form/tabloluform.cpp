@@ -30,7 +30,7 @@ std::string TabloluForm::SayfaSozu(int sayfa) const {
 }
 
 std::unique_ptr<CizilenBelge> TabloluForm::CizimYap(Ilerleme* ilerleme) const {
-  return FormCizimi(std::make_shared<const std::vector<FormSayfasi>>(yapanlar_.sayfalar(ilerleme)));
+  return FormCizimi(yapanlar_.sayfalar(ilerleme));
 }
 
 void TabloluForm::MetinYap(const MetinAlici& al, Ilerleme* ilerleme) const {

@@ -16,7 +16,7 @@
 namespace belvani {
 
 struct FormYapanlar {
-  std::function<std::vector<FormSayfasi>(Ilerleme*)> sayfalar;
+  std::function<FormSayfalari(Ilerleme*)> sayfalar;
   // The form for a text printer; without one it is printed as a drawing only, and other programs get the lines of its
   // list as text.
   std::function<std::string(Ilerleme*)> metin = nullptr;
