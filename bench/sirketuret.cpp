@@ -12,13 +12,6 @@
 namespace belvani::bench {
 namespace {
 
-class Sessiz : public Bildirim {
- public:
-  void Bilgi(std::string_view) override {}
-  void Uyari(std::string_view metin) override { std::cerr << metin << '\n'; }
-  bool Soru(std::string_view) override { return false; }
-};
-
 std::string YediHane(int sira) {
   const std::string s = std::to_string(sira + 1);
   return std::string(7 - s.size(), '0') + s;
@@ -106,8 +99,7 @@ Sirket::Sirket(int kisi, int yil, int ay, int aySayisi, const std::string& veri)
   dizin_ = kalip + "/";
   setenv("BELVANI_KULLANICI_DIZIN", (dizin_ + "ayar").c_str(), 1);
   o.DataPath = veri.empty() ? dizin_ : veri;
-  Sessiz bildirim;
-  Al(SirketOlustur(o, "BENCH", "a", "", bildirim));
+  Al(SirketOlustur(o, "BENCH", "a", ""));
   Al(MevzuatKur(o.DataPath, {yil, ay}, Al(ParametreAdresi(yil, ay))));
   TamKurallar(kosullar);
   Motor& motor = o.depo.db.IcMotor();

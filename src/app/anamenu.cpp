@@ -227,7 +227,7 @@ void anamenu::Islem(MenuIslemi islem) {
 void anamenu::TehlikeSinifiniSor() {
   const Oturum& o = ekran_.oturum;
   if (!o.firmaVar || SinifBakimiOku(o.FirmaDizini) != SinifBakimi::Sorulmadi) return;
-  if (const Durum d = SinifBakimiYaz(o.FirmaDizini, SinifBakimi::Soruldu); !d) ekran_.bildirim.Uyari(d.KusurMetni());
+  if (const Durum d = SinifBakimiYaz(o.FirmaDizini, SinifBakimi::Soruldu); !d) ekran_.bildirim.KusuruGoster(d.Kusuru());
   if (ekran_.bildirim.Soru("İşyeri tehlike sınıfı: " + std::to_string(int(o.firma.sinif.Sayi()) + 1) +
                            "\nEski sürümlerde firma kartı kaydedilirken değişmiş olabilir.\nKarta bakılsın mı ?"))
     KisiyeGit({}, firma::sinif);

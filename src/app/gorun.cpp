@@ -321,7 +321,7 @@ void gorun::Kaydet() {
   if (const Durum d = yaz(); !d) {
     Oturumu().Renkler = eski;
     Oturumu().ResimYolu = eskiSet;
-    Bildirimi().Uyari(d.KusurMetni());
+    Bildir(d.Kusuru());
     return;
   }
   GorunumUygula(Oturumu(), secim_.ayar);

@@ -76,12 +76,8 @@ void kyol::IkonSec() {
 void kyol::Kaydet() {
   Giris giris;
   if (!Oku(giris)) return;
-  if (const Durum d = kaydet_({giris.ad, std::size_t(giris.program), giris.ikon, giris.parametre}); !d) {
-    Bildirimi().Bilgi(d.KusurMetni());
-    OdakVer(AdAlani);
-    return;
-  }
-  Kapat();
+  if (Oldu(kaydet_({giris.ad, std::size_t(giris.program), giris.ikon, giris.parametre}))) return Kapat();
+  OdakVer(AdAlani);
 }
 
 }  // namespace belvani

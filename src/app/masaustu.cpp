@@ -73,11 +73,11 @@ void Form1::SimgeleriKur() {
 void Form1::KisayollariYukle() {
   const auto okunan = KisayollariOku(ekran_.oturum);
   Goster(okunan ? *okunan : std::vector<Kisayol>(), 0);
-  kusur_ = okunan ? std::string() : okunan.KusurMetni();
+  kusur_ = okunan ? std::nullopt : std::optional(okunan.Kusuru());
 }
 
 void Form1::KusuruBildir() {
-  if (const std::string kusur = std::exchange(kusur_, {}); !kusur.empty()) ekran_.bildirim.Bilgi(kusur);
+  if (const auto kusur = std::exchange(kusur_, {})) ekran_.bildirim.KusuruGoster(*kusur);
 }
 
 void Form1::Goster(std::vector<Kisayol> kisayollar, int secili) {
@@ -95,7 +95,7 @@ void Form1::Goster(std::vector<Kisayol> kisayollar, int secili) {
 
 bool Form1::Yaz(std::vector<Kisayol> kisayollar, int secili) {
   if (const Durum d = KisayollariYaz(ekran_.oturum, kisayollar); !d) {
-    ekran_.bildirim.Uyari(d.KusurMetni());
+    ekran_.bildirim.KusuruGoster(d.Kusuru());
     return false;
   }
   Goster(std::move(kisayollar), secili);
@@ -272,7 +272,7 @@ void Form1::Duzenle(int sira) {
 
 void Form1::Sil(int sira) {
   if (!ekran_.bildirim.SilinsinMi("Kısa Yol Silinecek ?", kisayollar_.at(std::size_t(sira)).ad)) return;
-  if (const Durum d = KisayolSil(ekran_.oturum, std::size_t(sira)); !d) return ekran_.bildirim.Uyari(d.KusurMetni());
+  if (const Durum d = KisayolSil(ekran_.oturum, std::size_t(sira)); !d) return ekran_.bildirim.KusuruGoster(d.Kusuru());
   std::vector<Kisayol> kalan = kisayollar_;
   kalan.erase(kalan.begin() + sira);
   Goster(std::move(kalan), sira);
@@ -308,7 +308,7 @@ void Form1::ResimEkle() {
 void Form1::ResimKaydet(const GorunumAyari& ayar) {
   if (ayar.backresimvarmi && ResimOku(ayar.backresim, QSize(64, 64)).isNull())
     return ekran_.bildirim.Bilgi("Resim okunamadı:\n" + ayar.backresim);
-  if (const Durum d = GorunumYaz(ekran_.oturum, ayar); !d) return ekran_.bildirim.Uyari(d.KusurMetni());
+  if (const Durum d = GorunumYaz(ekran_.oturum, ayar); !d) return ekran_.bildirim.KusuruGoster(d.Kusuru());
   GorunumKoy(ayar);
 }
 

@@ -71,7 +71,7 @@ class Form1 : public QWidget {
   EkranBaglami& ekran_;
   GorunumAyari ayar_;
   std::vector<Kisayol> kisayollar_;
-  std::string kusur_;
+  std::optional<Kusur> kusur_;
   QListWidget* simgeler_;
   QLabel* etiket_;
   QImage resim_;

@@ -25,7 +25,10 @@ class Program : ProgramParcalari<BildirimKutusu, SistemDialoglari> {
     while (true) {
       const QString programDizini = QCoreApplication::applicationDirPath();
       const QString komutSatiri = QCoreApplication::arguments().mid(1).join(' ');
-      if (!Baslat(oturum, Utf8(programDizini), Utf8(komutSatiri), bildirim)) return 1;
+      const auto basladi = Baslat(oturum, Utf8(programDizini), Utf8(komutSatiri), bildirim);
+      if (!basladi) bildirim.KusuruGoster(basladi.Kusuru());
+      if (!basladi || !*basladi) return 1;
+      for (const Kusur& soz : **basladi) bildirim.KusuruGoster(soz);
       StilKur(uygulama_, GecerliRenkler(oturum));
       if (GirisYap(ekran) == GirisSonucu::Cikis) return 0;
       parametreler.YasalYukle(oturum.DataPath);

@@ -109,7 +109,7 @@ class Resimler : ProgramParcalari<MetinBildirimi, DialogYok> {
   bool Istenen(const QString& kelime) const { return arg_.size() == 6 || arg_.mid(6).contains(kelime); }
 
   bool Gir() {
-    if (const Durum d = SirketAc(oturum, Utf8(arg_[2]), bildirim); !d) {
+    if (const Durum d = SirketAc(oturum, Utf8(arg_[2])); !d) {
       std::cerr << d.KusurMetni() << "\n";
       return false;
     }
@@ -167,8 +167,7 @@ class Resimler : ProgramParcalari<MetinBildirimi, DialogYok> {
 
   void BorcResmi() {
     BordroGirisi giris(oturum, parametreler, bildirim);
-    giris.Ac();
-    giris.Git(Yon::Ilk);
+    for (const Kusur& soz : giris.Ac() ? giris.Git(Yon::Ilk).sozler : Kusurlar()) bildirim.KusuruGoster(soz);
     ModalResmi("brckes", [&] { FormGoster(ekran, std::make_unique<brckes>(ekran, giris), FormModu::Modal); });
   }
 

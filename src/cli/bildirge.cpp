@@ -197,6 +197,7 @@ void XmlDosyasi(const Is& is) {
   if (!is.dosya.empty() && is.dosya != "-") {
     if (Olmali(is.bildirge.XmlYaz(is.dosya), Yazilmadi) == AylikBildirge::Karar::Vazgecildi)
       throw KomutHatasi{Yazilmadi};
+    is.bildirim.Bilgi(AylikBildirge::XmlHazirlandi);
     return;
   }
   const auto icerik = Olmali(is.bildirge.XmlHazirla(), Yazilmadi);

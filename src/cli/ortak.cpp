@@ -42,7 +42,7 @@ std::string Genel::DataPath() {
 std::unique_ptr<Oturum> Genel::SirketAc(const std::string& kod, SirketErisimi erisim) {
   auto o = std::make_unique<Oturum>();
   o->DataPath = DataPath();
-  Basarmali((adlarTam ? AdiylaSirketAc : belvani::SirketAc)(*o, kod, bildirim, erisim));
+  Basarmali((adlarTam ? AdiylaSirketAc : belvani::SirketAc)(*o, kod, erisim));
   if (o->SaltOkunur && erisim == SirketErisimi::Yazilir) bildirim.Uyari(std::string("Uyarı: ") + SaltOkunurUyarisi);
   if (!FirmaYukle(*o)) throw KomutHatasi{"İşyeri Tanımlamaları Yapılmamış"};
   if (const Durum ayni = VersiyonKontrol(*o); !ayni)

@@ -29,8 +29,7 @@ void SirketiAc(Genel& genel, const SirketAcSecenekleri& s) {
     if (s.yil != 0) firma.firmayil = std::int16_t(s.yil);
     if (s.ay != 0) firma.firmaay = std::uint8_t(s.ay);
   };
-  Basarmali(
-      SirketKur(o, {.ad = s.kod, .kullanici = s.kullanici, .sifre = SifreOku(s.sifre), .kart = kart}, genel.bildirim));
+  Basarmali(SirketKur(o, {.ad = s.kod, .kullanici = s.kullanici, .sifre = SifreOku(s.sifre), .kart = kart}));
   Yaz("Şirket açıldı: " + o.FirmaKod + "\n");
 }
 

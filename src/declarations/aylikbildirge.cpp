@@ -299,7 +299,6 @@ Sonuc<AylikBildirge::Karar> AylikBildirge::XmlYaz(const std::string& dosya, cons
   if (!*icerik) return Karar::Vazgecildi;
   if (const Durum yazildi = HedefeYaz(dosya, **icerik); !yazildi)
     return Kusur{"Verilen Dosya Adı Hatalı. (Örnek: c:\\bordro112003.xml)\n" + yazildi.KusurMetni()};
-  bildirim_.Bilgi("XML Dosya Hazırlandı");
   return Karar::Devam;
 }
 

@@ -103,7 +103,9 @@ class AylikBildirge {
   Sonuc<std::optional<std::string>> XmlHazirla(const Yurutucu& yurut = HemenYurut);
   // Into the file, whole or not at all: a failed write leaves what was there.
   Sonuc<Karar> XmlYaz(const std::string& dosya, const Yurutucu& yurut = HemenYurut);
-  // Asked after XmlYaz; yes opens the web page on which the user sends the file.
+  // Told when XmlYaz has written it.
+  static constexpr const char* XmlHazirlandi = "XML Dosya Hazırlandı";
+  // Asked after that; yes opens the web page on which the user sends the file.
   static constexpr const char* GonderimSorusu = "E-Bildirgeyi Göndermek İstermisiniz ?";
 
   enum class Cikti { Kagit, Tablo };

@@ -64,7 +64,7 @@ void YeriniYaz(EkranBaglami& baglam, const std::string& yol) {
 // True when the file is written; else it was told why not.
 bool Kaydet(EkranBaglami& baglam, const std::string& yol, std::string_view baytlar) {
   if (const Durum yazildi = HedefeYaz(yol, baytlar); !yazildi) {
-    baglam.bildirim.Uyari(yazildi.KusurMetni());
+    baglam.bildirim.KusuruGoster(yazildi.Kusuru());
     return false;
   }
   return true;
@@ -78,7 +78,7 @@ bool Yazdir(EkranBaglami& baglam, const Belge& belge) {
   });
   if (!sonuc) return false;
   if (!*sonuc) {
-    baglam.bildirim.Uyari(sonuc->KusurMetni());
+    baglam.bildirim.KusuruGoster(sonuc->Kusuru());
     return false;
   }
   if (const std::string& uyari = (*sonuc)->uyari; !uyari.empty()) baglam.bildirim.Uyari(uyari);
@@ -92,7 +92,7 @@ bool PdfKaydet(EkranBaglami& baglam, const Belge& belge) {
                               [&](Ilerleme& ilerleme) { return BelgePdf(belge, &ilerleme); });
   if (!yapilan) return false;
   const Sonuc<PdfCiktisi>& pdf = *yapilan;
-  if (!pdf) baglam.bildirim.Uyari(pdf.KusurMetni());
+  if (!pdf) baglam.bildirim.KusuruGoster(pdf.Kusuru());
   if (!pdf || pdf->baytlar.empty() || !Kaydet(baglam, *yol, pdf->baytlar)) return false;
   if (!pdf->uyari.empty()) baglam.bildirim.Uyari(pdf->uyari);
   YeriniSoyleVeAc(baglam, *yol);
@@ -169,7 +169,7 @@ void BelgeExceleGonder(EkranBaglami& baglam, const Belge& belge) {
   const auto baytlar =
       UzunIs(baglam, QStringLiteral("Tablo hazırlanıyor…"), [&](Ilerleme& ilerleme) { return belge.Xlsx(&ilerleme); });
   if (!baytlar) return;
-  if (!*baytlar) return baglam.bildirim.Uyari(baytlar->KusurMetni());
+  if (!*baytlar) return baglam.bildirim.KusuruGoster(baytlar->Kusuru());
   TabloyuAc(baglam, belge.DosyaBasligi(), **baytlar);
 }
 
@@ -183,7 +183,7 @@ void TabloyuAc(EkranBaglami& baglam, const std::string& ad, const std::string& b
                    }});
   excel.Baslik = tamAd;
   excel.HazirKitap(baytlar);
-  if (const Durum verildi = excel.CloseExcell(); !verildi) return baglam.bildirim.Uyari(verildi.KusurMetni());
+  if (const Durum verildi = excel.CloseExcell(); !verildi) return baglam.bildirim.KusuruGoster(verildi.Kusuru());
   if (excel.Dosya().empty()) return;
   acildi ? YeriniYaz(baglam, excel.Dosya()) : YeriniSoyle(baglam, excel.Dosya());
 }

@@ -17,6 +17,7 @@
 #include <optional>
 #include <set>
 
+#include "core/gelisme.h"
 #include "core/silme.h"
 #include "core/sonuc.h"
 #include "ui/alandenetimi.h"
@@ -68,6 +69,12 @@ class Form : public QWidget {
   void OdakVer(AlanTutamagi alan);
   // Tells the fault, once, and puts the cursor into its field where this screen has it.
   void Bildir(const Kusur& kusur);
+  // Tells what a step has to say, and gives what it came to.
+  template <class Hal>
+  Hal Soyle(Gelisme<Hal> gelisme) {
+    for (const Kusur& soz : gelisme.sozler) Bildir(soz);
+    return std::move(gelisme.hal);
+  }
 
   // The company's card or parameters have changed while this is open. Amounts take the company's decimals; a screen
   // that shows more of the company looks again. The month it was opened for stays.

@@ -45,7 +45,7 @@ class yazicisec : public Form {
 std::optional<std::string> YaziciSecimi(EkranBaglami& baglam, const std::string& simdiki) {
   const auto yazicilar = YaziciListesi(baglam.baski);
   if (!yazicilar || yazicilar->empty()) {
-    baglam.bildirim.Uyari(yazicilar ? YaziciYok : yazicilar.KusurMetni());
+    baglam.bildirim.KusuruGoster(yazicilar ? Kusur{YaziciYok} : yazicilar.Kusuru());
     return std::nullopt;
   }
   return ModalCevap(baglam, std::make_unique<yazicisec>(baglam, *yazicilar, simdiki), &yazicisec::Secilen);

@@ -34,7 +34,7 @@ struct KusurluSirket : EkranParcalari {
     komut.Yaz("p.csv", kisiler);
     Tamam("personel-al KUSUR @p.csv");
     oturum.PrgPath = oturum.DataPath = komut.dizin.Yol() + "veri/";
-    EXPECT_TRUE(SirketAc(oturum, "KUSUR", bildirim));
+    EXPECT_TRUE(SirketAc(oturum, "KUSUR"));
     EXPECT_TRUE(OturumAc(oturum, "KUSUR", "ayse", "gizli"));
     parametreler.YasalYukle(oturum.DataPath);
     EXPECT_TRUE(parametreler.firma.Yukle());

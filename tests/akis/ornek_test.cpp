@@ -15,7 +15,7 @@ struct OrnekSirket : EkranParcalari {
         "sh '" + KaynakYolu("tools/ornek.sh") + "' '" BELVANI_CLI "' '" + dizin.Yol() + "' >/dev/null";
     if (std::system(komut.c_str()) != 0) throw std::runtime_error(komut);
     oturum.PrgPath = oturum.DataPath = dizin.Yol();
-    EXPECT_TRUE(SirketAc(oturum, "ORNEK", bildirim));
+    EXPECT_TRUE(SirketAc(oturum, "ORNEK"));
     EXPECT_TRUE(OturumAc(oturum, "ORNEK", "ornek", "ornek"));
     EXPECT_TRUE(parametreler.firma.Yukle());
     bildirim.cevap = false;  // nothing is saved again

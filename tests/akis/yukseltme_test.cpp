@@ -22,7 +22,7 @@ TEST(Yukseltme, AnOldCompanyIsWorkedInAfterItsUpgrade) {
   DepoyuYaslandir(o.oturum);
   o.oturum.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);
 
-  ASSERT_TRUE(SirketAc(o.oturum, "TEST", o.bildirim));
+  ASSERT_TRUE(SirketAc(o.oturum, "TEST"));
   ASSERT_TRUE(OturumAc(o.oturum, "TEST", "ayse", "gizli"));
   ASSERT_TRUE(o.parametreler.firma.Yukle());
   o.Yeniden();

@@ -31,7 +31,7 @@ class OrnekSirket {
   OrnekSirket() {
     Calistir("sh '" + KaynakYolu("tools/ornek.sh") + "' '" BELVANI_CLI "' '" + dizin_.Yol() + "'");
     oturum.PrgPath = oturum.DataPath = dizin_.Yol();
-    if (!SirketAc(oturum, "ORNEK", bildirim) || !FirmaYukle(oturum)) throw std::runtime_error("ORNEK");
+    if (!SirketAc(oturum, "ORNEK") || !FirmaYukle(oturum)) throw std::runtime_error("ORNEK");
     if (!MuhasebeciKaydet(oturum, {.adsoyad = "Şükriye Işık", .tcno = "10000000146", .sicil = "16-0457"}))
       throw std::runtime_error("muhasebeci");
   }

@@ -22,7 +22,7 @@ struct OgiSirketi {
 
   OgiSirketi() {
     o.DataPath = o.PrgPath = dizin.Yol();
-    EXPECT_TRUE(SirketOlustur(o, "DENEME", "a", "", bildirim));
+    EXPECT_TRUE(SirketOlustur(o, "DENEME", "a", ""));
     FirmaYukle(o);
     o.firma.unvan = "Çınar Tekstil";
     o.firma.firmayil = 2004;

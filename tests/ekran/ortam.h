@@ -128,7 +128,7 @@ class EkranOrtami : public EkranParcalari {
     EXPECT_TRUE(YasalOranlarKaydet(oturum.DataPath, yasal->oranlar));
     EXPECT_TRUE(GvTablosuKaydet(oturum.DataPath, yasal->gv));
     EXPECT_TRUE(AgiTablosuKaydet(oturum.DataPath, yasal->agi));
-    EXPECT_TRUE(SirketOlustur(oturum, "TEST", "ayse", "gizli", bildirim));
+    EXPECT_TRUE(SirketOlustur(oturum, "TEST", "ayse", "gizli"));
     EXPECT_TRUE(OturumAc(oturum, "TEST", "ayse", "gizli"));
     DonemYaz(2009, 7);
     parametreler.YasalYukle(oturum.DataPath);

@@ -73,8 +73,7 @@ struct MaymunOrtami {
     if (!Girildi()) throw std::runtime_error("no login to " + sirket.ad);
   }
   bool Girildi() {
-    ToplayanBildirim sessiz;
-    return SirketAc(oturum, sirket.ad, sessiz) && OturumAc(oturum, sirket.ad, sirket.kullanici, sirket.kullanici);
+    return SirketAc(oturum, sirket.ad) && OturumAc(oturum, sirket.ad, sirket.kullanici, sirket.kullanici);
   }
   void VeriyiKoy() {
     std::filesystem::remove_all(VeriYeri());

@@ -137,7 +137,7 @@ struct IkiKullanici : PersonelKarti {
   void SetUp() override {
     PersonelKarti::SetUp();
     obur.DataPath = o.DataPath;
-    ASSERT_TRUE(SirketAc(obur, "DENEME", bildirim));
+    ASSERT_TRUE(SirketAc(obur, "DENEME"));
     ASSERT_TRUE(Kaydet(Kart("A1")));
   }
   Okunan<Sicil> Getir(Oturum& kullanici) {

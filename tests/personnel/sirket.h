@@ -19,7 +19,7 @@ struct SirketTesti : testing::Test {
 
   void SetUp() override {
     o.DataPath = o.PrgPath = dizin.Yol();
-    ASSERT_TRUE(SirketOlustur(o, "DENEME", "a", "", bildirim));
+    ASSERT_TRUE(SirketOlustur(o, "DENEME", "a", ""));
     ASSERT_TRUE(FirmaYukle(o));
   }
   template <class Kayit>

@@ -15,7 +15,7 @@ TEST(SunucuRehberi, OpensInOneWaitAndFiltersInNone) {
   test::Aktarici ag(test::SunucuDizini());
   Oturum uzak;
   uzak.DataPath = VeriYolu(ag.Adres(sirket.veriYeri.Veritabani())).Adres();
-  ASSERT_TRUE(SirketAc(uzak, "DENEME", sirket.bildirim));
+  ASSERT_TRUE(SirketAc(uzak, "DENEME"));
   ag.Turlar();
   const auto liste = KisiListesi::Oku(uzak);
   ASSERT_TRUE(liste);

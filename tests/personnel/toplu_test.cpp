@@ -168,7 +168,7 @@ struct TransferTesti : TopluTest {
     TopluTest::SetUp();
     Oturum hedef;
     hedef.DataPath = hedef.PrgPath = dizin.Yol();
-    ASSERT_TRUE(SirketOlustur(hedef, "YENİ", "a", "", bildirim));
+    ASSERT_TRUE(SirketOlustur(hedef, "YENİ", "a", ""));
     SirketKapat(hedef);
     Kisi("1", "05510");
   }

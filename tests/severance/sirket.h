@@ -3,7 +3,6 @@
 
 #include <gmock/gmock.h>
 
-#include "bildirim.h"
 #include "core/session/oturum.h"
 #include "core/store/satirlar.h"
 #include "core/tables/kaztan.h"
@@ -17,13 +16,12 @@ namespace belvani::test {
 
 struct KidemSirketi : testing::Test {
   GeciciDizin dizin;
-  ToplayanBildirim bildirim;
   Oturum o;
   YasalParametreler yasal = *MevzuatYukle(KaynakYolu("data/mevzuat/"), 2009, 7);
 
   void SetUp() override {
     o.DataPath = o.PrgPath = dizin.Yol();
-    ASSERT_TRUE(SirketOlustur(o, "DENEME", "a", "", bildirim));
+    ASSERT_TRUE(SirketOlustur(o, "DENEME", "a", ""));
     o.firma.issaati = Tek(7.5);
     o.firma.ondeger = "Personel";
     o.firma.paraonda = 2;

@@ -59,14 +59,16 @@ void YoksaEkle(Veritabani& db, std::string_view tablo, std::string_view alan) {
 }
 
 // Another computer may make the table between two looks at it.
-bool AcVeyaYarat(Depo& depo, const DepoTablosu& tablo, Bildirim& bildirim) {
+Durum AcVeyaYarat(Depo& depo, const DepoTablosu& tablo) {
   Imlec& rs = depo.*tablo.imlec;
-  if (depo.db.TabloAc(rs, tablo.ad)) return true;
-  if (tablo.yoklugu == Yoklugu::Kusurdur) return false;
-  const Durum yaratildi = depo.TabloYarat(tablo.ad);
-  if (depo.db.TabloAc(rs, tablo.ad)) return true;
-  if (!yaratildi) bildirim.Uyari(yaratildi.KusurMetni());
-  return false;
+  if (depo.db.TabloAc(rs, tablo.ad)) return Tamam();
+  std::string neden = depo.db.SonHata();
+  if (tablo.yoklugu != Yoklugu::Kusurdur) {
+    if (const Durum yaratildi = depo.TabloYarat(tablo.ad); !yaratildi)
+      neden = yaratildi.KusurMetni() + ": " + depo.db.SonHata();
+    if (depo.db.TabloAc(rs, tablo.ad)) return Tamam();
+  }
+  return Kusur{std::string(tablo.acilamadi) + "\n" + neden};
 }
 
 }  // namespace
@@ -99,17 +101,15 @@ Durum Depo::TabloYarat(std::string_view tablo) {
   return Kusur{std::string(tablo) + " SQL Tablosu Yaratılamadı"};
 }
 
-bool Depo::VeritabaniAc(const std::string& yol, Bildirim& bildirim) {
+Durum Depo::VeritabaniAc(const std::string& yol) {
   TablolariKapat(KapatmaKapsami::VeritabaniDa);
-  if (!db.DbAc(yol)) return false;
+  if (!db.DbAc(yol)) return Kusur{db.SonHata()};
   for (const DepoTablosu& tablo : DepoTablolari()) {
     for (const std::string_view alan : tablo.sonradanAlanlar)
       if (Eklenir(*this, alan)) YoksaEkle(db, tablo.ad, alan);
-    if (AcVeyaYarat(*this, tablo, bildirim)) continue;
-    bildirim.Uyari(tablo.acilamadi);
-    return false;
+    if (Durum acildi = AcVeyaYarat(*this, tablo); !acildi) return acildi;
   }
-  return true;
+  return Tamam();
 }
 
 Tek Depo::Versiyon() {

@@ -5,7 +5,6 @@
 
 #include <string>
 
-#include "core/bildirim.h"
 #include "core/sonuc.h"
 #include "core/store/imlec.h"
 #include "core/store/veritabani.h"
@@ -30,8 +29,8 @@ struct Depo {
 
   // Opens the store and all cursors. What an older build lacks grows by itself: the fields `meslekkod`, `rapcalismadi`
   // (`brdkanun` in a store of version 2003.7), and the tables from `dvr` on. A lost peruser, firma, sicil, foto, kimlik
-  // or brd is a failure, reported in the words of the table; a file that cannot be opened fails without a message.
-  bool VeritabaniAc(const std::string& yol, Bildirim& bildirim);
+  // or brd is a failure in the words of the table, with the engine's below.
+  Durum VeritabaniAc(const std::string& yol);
 
   // `versiyon` of the `firma` record; 1 where none can be read, as in a store of the oldest versions.
   Tek Versiyon();

@@ -103,10 +103,11 @@ Sonuc<std::vector<Kisayol>> KisayollariOku(const Oturum& o) {
 }
 
 Durum KisayollariYaz(const Oturum& o, const std::vector<Kisayol>& kisayollar) {
-  if (kisayollar.size() > EnCokKisayol) return Kusur{"En çok " + std::to_string(EnCokKisayol) + " kısa yol olabilir"};
+  if (kisayollar.size() > EnCokKisayol)
+    return KuralKusuru("En çok " + std::to_string(EnCokKisayol) + " kısa yol olabilir");
   std::string icerik;
   for (const auto& k : kisayollar) {
-    if (std::string kusur = Kusuru(k); !kusur.empty()) return Kusur{std::move(kusur)};
+    if (std::string kusur = Kusuru(k); !kusur.empty()) return KuralKusuru(std::move(kusur));
     icerik += Baytlari(k);
   }
   if (const Durum d = BozuguSakla(o); !d) return d;

@@ -27,53 +27,44 @@ std::string IlkDataPath(const std::string& prgPath) {
   return (yazilir ? prgPath : KullaniciVeriDizini()) + "PerData/";
 }
 
-bool DataDiziniYarat(const std::string& dataPath, Bildirim& bildirim) {
-  if (!VeriYolu(dataPath).Yarat()) {
-    bildirim.Uyari("Data Dizini Yaratılamıyor.\n" + dataPath + "\nHata Kodu:0");
-    return false;
-  }
-  bildirim.Bilgi("Yeni Data Dizini Yaratıldı\n" + dataPath);
-  return true;
-}
+using Baslangic = Sonuc<std::optional<Kusurlar>>;
 
 // The first run of an installation of its own: both paths are recorded.
-bool IlkKurulum(Oturum& o, Bildirim& bildirim) {
+Baslangic IlkKurulum(Oturum& o) {
   o.DataPath = IlkDataPath(o.PrgPath);
-  if (!DataDiziniYarat(o.DataPath, bildirim)) return false;
+  if (!VeriYolu(o.DataPath).Yarat()) return Kusur{"Data Dizini Yaratılamıyor.\n" + o.DataPath + "\nHata Kodu:0"};
+  Kusurlar sozler{KuralKusuru("Yeni Data Dizini Yaratıldı\n" + o.DataPath)};
   for (const auto& [anahtar, deger] : {std::pair("PrgPath", o.PrgPath), std::pair("DataPath", o.DataPath)})
-    if (const auto d = MakineAyariYaz(anahtar, deger); !d) bildirim.Uyari(d.KusurMetni());
-  return true;
+    if (const auto d = MakineAyariYaz(anahtar, deger); !d) sozler.push_back(d.Kusuru());
+  return std::optional(std::move(sozler));
 }
 
-// A server that is away may come back while its user looks at the message.
-bool KurulanaGec(Oturum& o, const std::string& istenen, Bildirim& bildirim) {
+// A server that is away may come back while its user looks at the question.
+Baslangic KurulanaGec(Oturum& o, const std::string& istenen, Bildirim& bildirim) {
   const auto yol = DataYolu(istenen);
-  if (!yol) {
-    bildirim.Uyari(yol.KusurMetni());
-    return false;
-  }
+  if (!yol) return yol.Kusuru();
   o.DataPath = *yol;
   while (true) {
     const Durum erisim = VeriYolu(o.DataPath).Erisim();
-    if (erisim) return true;
-    if (!bildirim.TamamMi(erisim.KusurMetni() + "\nYeniden Denensin mi ?")) return false;
+    if (erisim) return std::optional(Kusurlar());
+    if (!bildirim.TamamMi(erisim.KusurMetni() + "\nYeniden Denensin mi ?")) return std::optional<Kusurlar>();
   }
 }
 
 // A copy may grow as the store of an earlier version that it is of. Once open it needs no names: what a killed program
 // would leave of it is nothing.
-Durum KopyaAc(Depo& depo, const std::string& yol, Bildirim& bildirim) {
+Durum KopyaAc(Depo& depo, const std::string& yol) {
   const auto kopya = DepoKopyasi::Al(yol);
   if (!kopya) return kopya.Kusuru();
   auto duzenlendi = Koru([&] { kopya->Ac().reset(); });
   if (!duzenlendi) return duzenlendi;
-  if (!depo.VeritabaniAc(kopya->Yol(), bildirim)) return Kusur{depo.db.SonHata()};
+  if (Durum acildi = depo.VeritabaniAc(kopya->Yol()); !acildi) return acildi;
   return Koru([&] { depo.db.IcMotor().SaltOkunurYap(); });
 }
 
 // Nobody's look changes anything there: the server itself refuses to write.
-Durum SunucudaAc(Oturum& o, const std::string& adres, Bildirim& bildirim, SirketErisimi erisim) {
-  if (!o.depo.VeritabaniAc(adres, bildirim)) return Kusur{o.depo.db.SonHata()};
+Durum SunucudaAc(Oturum& o, const std::string& adres, SirketErisimi erisim) {
+  if (Durum acildi = o.depo.VeritabaniAc(adres); !acildi) return acildi;
   return Koru([&] {
     Motor& motor = o.depo.db.IcMotor();
     o.SaltOkunur = erisim == SirketErisimi::YalnizBakis || !motor.Yazilabilir();
@@ -81,17 +72,16 @@ Durum SunucudaAc(Oturum& o, const std::string& adres, Bildirim& bildirim, Sirket
   });
 }
 
-Durum DepoAc(Oturum& o, const std::string& yol, Bildirim& bildirim, SirketErisimi erisim) {
-  if (SunucuAdresiMi(yol)) return SunucudaAc(o, yol, bildirim, erisim);
+Durum DepoAc(Oturum& o, const std::string& yol, SirketErisimi erisim) {
+  if (SunucuAdresiMi(yol)) return SunucudaAc(o, yol, erisim);
   o.SaltOkunur = erisim == SirketErisimi::YalnizBakis || !DepoYazilir(yol);
-  if (o.SaltOkunur) return KopyaAc(o.depo, yol, bildirim);
-  if (!o.depo.VeritabaniAc(yol, bildirim)) return Kusur{o.depo.db.SonHata()};
-  return Tamam();
+  return o.SaltOkunur ? KopyaAc(o.depo, yol) : o.depo.VeritabaniAc(yol);
 }
 
 }  // namespace
 
-bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komutSatiri, Bildirim& bildirim) {
+Sonuc<std::optional<Kusurlar>> Baslat(Oturum& o, const std::string& programDizini, const std::string& komutSatiri,
+                                      Bildirim& bildirim) {
   o.Versiyon = ProgramVersiyonu();
   o.BilgisayarAdi = BilgisayarAdiBul();
   o.ParaBirimi = "TL";
@@ -103,25 +93,26 @@ bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komu
   if (ilkCalisma) o.PrgPath = DizinSonu(programDizini);
   // The address of a server is that of a whole installation: nothing is made or recorded for it.
   const bool kurulur = ilkCalisma && !SunucuAdresiMi(istenen);
-  if (!(kurulur ? IlkKurulum(o, bildirim) : KurulanaGec(o, istenen, bildirim))) return false;
+  auto basladi = kurulur ? IlkKurulum(o) : KurulanaGec(o, istenen, bildirim);
+  if (!basladi || !*basladi) return basladi;
   VeriYolu(o.DataPath).Toparla();
   o.Kullanici = "BELVANI";
   o.ListeSirasi = Oturum().ListeSirasi;
   o.ResimKullan = true;
   RenkYukle(o);
-  return true;
+  return basladi;
 }
 
-Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim, SirketErisimi erisim) {
+Durum SirketAc(Oturum& o, std::string_view sirket, SirketErisimi erisim) {
   const auto ad = SirketBul(o.DataPath, sirket);
   if (!ad) return ad.Kusuru();
-  return AdiylaSirketAc(o, *ad, bildirim, erisim);
+  return AdiylaSirketAc(o, *ad, erisim);
 }
 
-Durum AdiylaSirketAc(Oturum& o, std::string_view ad, Bildirim& bildirim, SirketErisimi erisim) {
+Durum AdiylaSirketAc(Oturum& o, std::string_view ad, SirketErisimi erisim) {
   const VeriYolu yer = VeriYolu(o.DataPath).Alt(ad);
   SirketKapat(o);
-  if (const Durum acildi = DepoAc(o, DepoAdresi(yer), bildirim, erisim); !acildi) {
+  if (const Durum acildi = DepoAc(o, DepoAdresi(yer), erisim); !acildi) {
     SirketKapat(o);
     return Kusur{"Database Açılamadı: " + DepoAdresi(yer) + "\n" + acildi.KusurMetni()};
   }

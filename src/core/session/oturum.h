@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "core/bildirim.h"
@@ -55,9 +56,10 @@ struct Oturum {
 // Start, up to the login: version and computer name, `PrgPath` and `DataPath` from the machine's settings, a command
 // line in place of `DataPath`. The first run (no `PrgPath` recorded) makes the data directory and records both paths; a
 // command line is then dropped. The address of a server is kept instead, given or recorded, and nothing is made or
-// recorded for it. False: the data directory cannot be made, the address is refused, or its server is away and its user
-// waits no longer; the program must end.
-bool Baslat(Oturum& o, const std::string& programDizini, const std::string& komutSatiri, Bildirim& bildirim);
+// recorded for it. Gives what the user should hear of; nothing where a server is away and he waits no longer. Then, and
+// after a fault (the data directory cannot be made, the address is refused), the program must end.
+Sonuc<std::optional<Kusurlar>> Baslat(Oturum& o, const std::string& programDizini, const std::string& komutSatiri,
+                                      Bildirim& bildirim);
 
 enum class SirketErisimi {
   Yazilir,     // as far as the files may be written
@@ -66,9 +68,9 @@ enum class SirketErisimi {
 
 // Opens the company's store; "Database Açılamadı" or the name's fault otherwise, and then no store is open. One that
 // cannot be written is opened all the same, as a copy (`SaltOkunur`).
-Durum SirketAc(Oturum& o, std::string_view sirket, Bildirim& bildirim, SirketErisimi erisim = SirketErisimi::Yazilir);
+Durum SirketAc(Oturum& o, std::string_view sirket, SirketErisimi erisim = SirketErisimi::Yazilir);
 // The same by the name as SirketBul gives it, for work over many companies: they are not listed again for each.
-Durum AdiylaSirketAc(Oturum& o, std::string_view ad, Bildirim& bildirim, SirketErisimi erisim);
+Durum AdiylaSirketAc(Oturum& o, std::string_view ad, SirketErisimi erisim);
 
 // Leaves the company.
 void SirketKapat(Oturum& o);
@@ -81,8 +83,7 @@ void IcerdeYaz(Oturum& o, const std::string& kullanici);
 
 // Makes a company with its store, its first user (an administrator) and its `firma` record, and leaves it open. On
 // failure no trace of the company stays on the disk, and no store is open.
-Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
-                    Bildirim& bildirim);
+Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre);
 
 // Login to the open store. An unknown user and a wrong password are one fault in the same words, and the cursors close.
 // Gives what the user should hear of besides: settings that could not be kept, a company without its card.

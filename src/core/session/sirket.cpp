@@ -36,14 +36,14 @@ std::string Anahtar(std::string_view ad) {
 
 Sonuc<std::string> SirketAdi(std::string_view metin) {
   const std::string_view kirpik = Kirp(metin);
-  if (kirpik.empty()) return Kusur{"Şirket adı boş olamaz"};
+  if (kirpik.empty()) return KuralKusuru("Şirket adı boş olamaz");
   if (!GecerliUtf8(kirpik) || kirpik.front() == '.' || std::any_of(kirpik.begin(), kirpik.end(), YasakHarf))
-    return Kusur{"Şirket adında kullanılamayan bir harf var: nokta ile başlayamaz, / \\ : * ? \" < > | içeremez"};
-  if (GorunmezHarfVar(kirpik)) return Kusur{"Şirket adında görünmeyen bir harf var, adı klavyeden yazınız"};
-  if (kirpik.back() == '.') return Kusur{"Şirket adı nokta ile bitemez"};
+    return KuralKusuru("Şirket adında kullanılamayan bir harf var: nokta ile başlayamaz, / \\ : * ? \" < > | içeremez");
+  if (GorunmezHarfVar(kirpik)) return KuralKusuru("Şirket adında görünmeyen bir harf var, adı klavyeden yazınız");
+  if (kirpik.back() == '.') return KuralKusuru("Şirket adı nokta ile bitemez");
   std::string ad = Anahtar(kirpik);
-  if (HarfSayisi(ad) > EnCokHarf || ad.size() > EnCokBayt) return Kusur{"Şirket adı çok uzun (en çok 64 harf)"};
-  if (AygitAdi(ad)) return Kusur{"Bu ad bazı bilgisayarlarda bir aygıtındır, şirket adı olamaz: " + ad};
+  if (HarfSayisi(ad) > EnCokHarf || ad.size() > EnCokBayt) return KuralKusuru("Şirket adı çok uzun (en çok 64 harf)");
+  if (AygitAdi(ad)) return KuralKusuru("Bu ad bazı bilgisayarlarda bir aygıtındır, şirket adı olamaz: " + ad);
   return ad;
 }
 
@@ -66,7 +66,7 @@ Sonuc<std::string> SirketBul(const VeriYolu& veri, std::string_view metin) {
   }
   std::string kusur = "Bu ada uyan birden çok şirket var, adı dizininki gibi yazınız:";
   for (const std::string& ad : uyanlar) kusur += "\n" + ad;
-  return Kusur{std::move(kusur)};
+  return KuralKusuru(std::move(kusur));
 }
 
 std::vector<std::string> Sirketler(const VeriYolu& veri) {

@@ -27,11 +27,11 @@ Durum KartYaz(Oturum& o, const YeniSirket& yeni) {
   return Tamam();
 }
 
-Durum Doldur(Oturum& o, const std::string& yol, DepoYeri yer, const YeniSirket& yeni, Bildirim& bildirim) {
+Durum Doldur(Oturum& o, const std::string& yol, DepoYeri yer, const YeniSirket& yeni) {
   Depo& depo = o.depo;
   const auto kusur = [&](const std::string& metin) { return Kusur{metin + ": " + depo.db.SonHata()}; };
   if (Durum yaratildi = depo.VeritabaniYarat(yol); !yaratildi) return kusur(yaratildi.KusurMetni());
-  if (!depo.VeritabaniAc(yol, bildirim)) return kusur("Database Açılamadı");
+  if (const Durum acildi = depo.VeritabaniAc(yol); !acildi) return Kusur{"Database Açılamadı\n" + acildi.KusurMetni()};
   const bool yanlarinda = depo.db.Koru(false, [&] {
     OncekileriHazirla(depo.db.IcMotor());
     AyrilanlariHazirla(depo.db.IcMotor());
@@ -63,7 +63,7 @@ Durum AdinaKoy(YarimYer& yarim, const VeriYolu& veri, const std::string& ad) {
 
 }  // namespace
 
-Durum SirketKur(Oturum& o, const YeniSirket& yeni, Bildirim& bildirim) {
+Durum SirketKur(Oturum& o, const YeniSirket& yeni) {
   const auto ad = SirketAdi(yeni.ad);
   if (!ad) return ad.Kusuru();
   if (!UyanSirketler(o.DataPath, *ad).empty()) return Kusur{"Bu adda bir şirket var: " + *ad};
@@ -74,7 +74,7 @@ Durum SirketKur(Oturum& o, const YeniSirket& yeni, Bildirim& bildirim) {
   if (!yarim) return Yaratilamadi(yer, yarim.Kusuru());
   const Firma oncekiKart = o.firma;
   const bool kartVardi = o.firmaVar;
-  Durum kuruldu = Doldur(o, DepoAdresi((*yarim)->Adres()), YeniDepoYeri(veri), yeni, bildirim);
+  Durum kuruldu = Doldur(o, DepoAdresi((*yarim)->Adres()), YeniDepoYeri(veri), yeni);
   SirketKapat(o);
   if (kuruldu) kuruldu = AdinaKoy(**yarim, veri, *ad);
   if (!kuruldu) {
@@ -84,13 +84,11 @@ Durum SirketKur(Oturum& o, const YeniSirket& yeni, Bildirim& bildirim) {
   }
   // Nothing older has touched it; without the mark its user is asked once, and that is all.
   (void)SinifBakimiYaz(yer, SinifBakimi::Bakildi);
-  return SirketAc(o, *ad, bildirim);
+  return SirketAc(o, *ad);
 }
 
-Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre,
-                    Bildirim& bildirim) {
-  return SirketKur(o, {.ad = std::string(sirket), .kullanici = std::string(kullanici), .sifre = std::string(sifre)},
-                   bildirim);
+Durum SirketOlustur(Oturum& o, std::string_view sirket, std::string_view kullanici, std::string_view sifre) {
+  return SirketKur(o, {.ad = std::string(sirket), .kullanici = std::string(kullanici), .sifre = std::string(sifre)});
 }
 
 }  // namespace belvani

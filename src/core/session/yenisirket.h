@@ -6,7 +6,6 @@
 #include <functional>
 #include <string>
 
-#include "core/bildirim.h"
 #include "core/session/oturum.h"
 
 namespace belvani {
@@ -20,6 +19,6 @@ struct YeniSirket {
 
 // The company is open afterwards. After a fault nothing of it is on the disk, the session has the card it had, and no
 // store is open.
-Durum SirketKur(Oturum& o, const YeniSirket& yeni, Bildirim& bildirim);
+Durum SirketKur(Oturum& o, const YeniSirket& yeni);
 
 }  // namespace belvani

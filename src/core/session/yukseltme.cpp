@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cassert>
 
+#include "core/asama.h"
 #include "core/session/sirket.h"
 #include "core/session/sirketyedegi.h"
 #include "core/store/brdozet.h"
@@ -76,8 +77,7 @@ std::pair<std::int64_t, std::int64_t> DegisecekKartlar(Motor& motor) {
 }
 
 // What the steps do, between the backup and the last words.
-GuncellemeSonucu Yurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Bildirim& bildirim,
-                       Ilerleme* ilerleme) {
+Gelisme<GuncellemeSonucu> Yurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Ilerleme* ilerleme) {
   const auto adimlar = std::size_t(std::ranges::count(isaretli, true));
   std::size_t biten = 0;
   for (std::size_t i = 0; i < AdimSayisi; ++i) {
@@ -86,7 +86,7 @@ GuncellemeSonucu Yurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban
       ilerleme->Adim(biten++, adimlar);
       ilerleme->Asama(AdimBasligi(i));
     }
-    if (const auto sonuc = VeritabaniGuncelle(o, i, sskTaban, bildirim); sonuc != GuncellemeSonucu::Tamam) return sonuc;
+    if (auto adim = VeritabaniGuncelle(o, i, sskTaban); adim.hal != GuncellemeSonucu::Tamam) return adim;
   }
   return GuncellemeSonucu::Tamam;
 }
@@ -115,13 +115,10 @@ Durum YapiKontrol(Oturum& o) {
   return ayni ? AlanKontrol(o) : ayni;
 }
 
-bool SigortaTuruOnayi(Oturum& o, const AdimIsaretleri& isaretli, Bildirim& bildirim) {
+Sonuc<bool> SigortaTuruOnayi(Oturum& o, const AdimIsaretleri& isaretli, Bildirim& bildirim) {
   if (!isaretli[SigortaTuruAdimi]) return true;
   const auto kartlar = Koru([&] { return DegisecekKartlar(o.depo.db.IcMotor()); });
-  if (!kartlar) {
-    bildirim.Uyari(kartlar.KusurMetni());
-    return false;
-  }
+  if (!kartlar) return kartlar.Kusuru();
   const auto [degisen, toplam] = *kartlar;
   return degisen == 0 ||
          bildirim.SilinsinMi("Bütün Kartların SSK Durumu Yeniden Yazılacak Eminmisiniz ?",
@@ -138,55 +135,41 @@ Sonuc<std::string> YukseltmeOncesiYedek(Oturum& o) {
   return Kusur{"Yükseltmeden önce yedek alınamadı, hiçbir geçiş yapılmadı: " + yedek.KusurMetni()};
 }
 
-GuncellemeSonucu VeritabaniGuncelle(Oturum& o, std::size_t adim, Tutar sskTaban, Bildirim& bildirim) {
+Gelisme<GuncellemeSonucu> VeritabaniGuncelle(Oturum& o, std::size_t adim, Tutar sskTaban) {
   assert(adim < AdimSayisi);
+  using enum GuncellemeSonucu;
   const std::string yol = DepoAdresi(o.FirmaDizini);
   o.depo.TablolariKapat(KapatmaKapsami::YalnizImlecler);
-  if (!o.depo.db.DbAc(yol)) {
-    bildirim.Uyari("Dosyalar Güvenli Kapatılıp Açılamadı..");
-    return GuncellemeSonucu::ProgramBitsin;
-  }
+  if (!o.depo.db.DbAc(yol))
+    return {ProgramBitsin, Kusur{"Dosyalar Güvenli Kapatılıp Açılamadı..\n" + o.depo.db.SonHata()}};
   const bool yapildi = AdimiYap(o.depo.db, adim, o.Versiyon, sskTaban);
   const std::string kusur = o.depo.db.SonHata();
-  if (!o.depo.VeritabaniAc(yol, bildirim)) {
-    if (adim != 0) return GuncellemeSonucu::Basarisiz;
-    bildirim.Uyari("Database Tekrar Açılamadı");
-    return GuncellemeSonucu::ProgramBitsin;
+  if (const Durum acildi = o.depo.VeritabaniAc(yol); !acildi) {
+    if (adim != 0) return {Basarisiz, acildi.Kusuru()};
+    return {ProgramBitsin, Kusur{"Database Tekrar Açılamadı\n" + acildi.KusurMetni()}};
   }
-  if (yapildi) return GuncellemeSonucu::Tamam;
-  bildirim.Uyari(std::string(AdimBasligi(adim)) + "\nyapılamadı: " + kusur);
-  return GuncellemeSonucu::Basarisiz;
+  if (yapildi) return Tamam;
+  return {Basarisiz, Kusur{std::string(AdimBasligi(adim)) + "\nyapılamadı: " + kusur}};
 }
 
-GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Bildirim& bildirim,
-                               Ilerleme* ilerleme) {
-  if (std::ranges::count(isaretli, true) == 0) {
-    bildirim.Uyari("İşaretleme Yapılmamış..");
-    return GuncellemeSonucu::IsaretYok;
-  }
-  if (o.SaltOkunur) {
-    bildirim.Uyari(SaltOkunurUyarisi);
-    return GuncellemeSonucu::IsaretYok;
-  }
-  if (const auto baskalari = Icerdekiler(o.FirmaDizini, o.icerde.get()); !baskalari.empty()) {
-    bildirim.Uyari("Bu şirkette başka kullanıcılar var, güncelleme yapılmadı:" + IcerdekiSatirlari(baskalari));
-    return GuncellemeSonucu::IsaretYok;
-  }
-  // Given up before the first step, it is as if nothing had been ticked.
-  if (ilerleme != nullptr && !ilerleme->Kesin()) return GuncellemeSonucu::IsaretYok;
+Gelisme<GuncellemeSonucu> AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Ilerleme* ilerleme) {
+  using enum GuncellemeSonucu;
+  if (std::ranges::count(isaretli, true) == 0) return {IsaretYok, Kusur{"İşaretleme Yapılmamış.."}};
+  if (o.SaltOkunur) return {IsaretYok, Kusur{SaltOkunurUyarisi}};
+  if (const auto baskalari = Icerdekiler(o.FirmaDizini, o.icerde.get()); !baskalari.empty())
+    return {IsaretYok,
+            Kusur{"Bu şirkette başka kullanıcılar var, güncelleme yapılmadı:" + IcerdekiSatirlari(baskalari)}};
+  if (ilerleme != nullptr && !ilerleme->Kesin()) throw Vazgecilmis{};
   const auto yedek = YukseltmeOncesiYedek(o);
-  if (!yedek) {
-    bildirim.Uyari(yedek.KusurMetni());
-    return GuncellemeSonucu::Basarisiz;
-  }
-  const GuncellemeSonucu sonuc = Yurut(o, isaretli, sskTaban, bildirim, ilerleme);
-  if (sonuc == GuncellemeSonucu::Tamam) {
+  if (!yedek) return {Basarisiz, yedek.Kusuru()};
+  auto sonuc = Yurut(o, isaretli, sskTaban, ilerleme);
+  if (sonuc.hal == Tamam) {
     // The store works without them: nobody is told when they cannot be made.
     o.depo.db.IndeksleriKur();
     for (const Durum& kalan : {AlanKontrol(o), CiftKontrol(o)})
-      if (!kalan) bildirim.Uyari(kalan.KusurMetni());
+      if (!kalan) sonuc.sozler.push_back(kalan.Kusuru());
   }
-  bildirim.Bilgi("Yükseltmeden önceki yedek: " + *yedek);
+  sonuc.sozler.push_back(KuralKusuru("Yükseltmeden önceki yedek: " + *yedek));
   return sonuc;
 }
 

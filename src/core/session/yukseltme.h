@@ -26,7 +26,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/bildirim.h"
+#include "core/gelisme.h"
 #include "core/session/oturum.h"
 #include "core/session/yukseltmeadimlari.h"
 #include "core/tutar.h"
@@ -35,9 +35,9 @@ namespace belvani {
 
 enum class GuncellemeSonucu {
   Tamam,
-  IsaretYok,      // nothing was ticked, or nothing may be begun: told, the screen stays
+  IsaretYok,      // nothing was ticked, or nothing may be begun: the screen stays
   Basarisiz,      // the chain stops here
-  ProgramBitsin,  // the store could not be opened again: told, and the program must end
+  ProgramBitsin,  // the store could not be opened again: the program must end
 };
 
 // What the box of a step says: "2003.1' den 2003.2 ' ye Geçiş".
@@ -52,21 +52,21 @@ AdimIsaretleri AcikAdimlar(Depo& depo);
 // store the user goes on, to read it and to upgrade it.
 Durum YapiKontrol(Oturum& o);
 
-// Before the step that writes everybody's kind of insurance anew, where it is ticked: tells how many cards it changes.
-// False: its user does not want that.
-bool SigortaTuruOnayi(Oturum& o, const AdimIsaretleri& isaretli, Bildirim& bildirim);
+// Before the step that writes everybody's kind of insurance anew, where it is ticked: asks, naming how many cards it
+// changes. False: its user does not want that.
+Sonuc<bool> SigortaTuruOnayi(Oturum& o, const AdimIsaretleri& isaretli, Bildirim& bildirim);
 
 // The company as it is, among its backups; gives the file's address.
 Sonuc<std::string> YukseltmeOncesiYedek(Oturum& o);
 
 // One step, 0 to 6, on the session's company. `sskTaban` is the monthly floor of the social-security base as the
 // parameters have it now.
-GuncellemeSonucu VeritabaniGuncelle(Oturum& o, std::size_t adim, Tutar sskTaban, Bildirim& bildirim);
+Gelisme<GuncellemeSonucu> VeritabaniGuncelle(Oturum& o, std::size_t adim, Tutar sskTaban);
 
 // The ticked steps in ascending order, up to the first that fails, after a copy of the store; without the copy nothing
-// is done. At the end it tells where the copy is, and what the store still lacks. `ilerleme` only shows the steps: a
-// chain that stopped in its middle would leave a store that claims to be newer than it is.
-GuncellemeSonucu AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban, Bildirim& bildirim,
-                               Ilerleme* ilerleme = nullptr);
+// is done. Its words end with where the copy is and what the store still lacks. It can be given up (Vazgecilmis) until
+// the first step begins: a chain that stopped in its middle would leave a store that claims to be newer than it is.
+Gelisme<GuncellemeSonucu> AdimlariYurut(Oturum& o, const AdimIsaretleri& isaretli, Tutar sskTaban,
+                                        Ilerleme* ilerleme = nullptr);
 
 }  // namespace belvani

@@ -163,7 +163,7 @@ Sonuc<std::vector<SaklananAy>> SaklananAylar(Oturum& o) {
   return Koru([&] { return Oku(o.depo.db.IcMotor()); });
 }
 
-Sonuc<std::optional<int>> AyiGeriAl(Oturum& o, int yil, int ay, Bildirim& bildirim) {
+Sonuc<std::optional<int>> AyiGeriAl(Oturum& o, int yil, int ay, Bildirim& bildirim, const Yurutucu& yurut) {
   Motor& motor = o.depo.db.IcMotor();
   const auto simdiki = Koru([&] { return KayitSayisi(motor, yil, ay); });
   const auto aylar = SaklananAylar(o);
@@ -174,7 +174,7 @@ Sonuc<std::optional<int>> AyiGeriAl(Oturum& o, int yil, int ay, Bildirim& bildir
   if (saklanan == aylar->end()) return Kusur{"Saklanan bordro yok: " + DonemMetni(yil, ay)};
   const std::string giden = "Giden: ayın şimdiki " + std::to_string(*simdiki) + " kaydı; o da saklanır";
   if (!bildirim.SilinsinMi(Soru(*saklanan), giden)) return std::optional<int>();
-  const auto geriAl = [&]() -> Sonuc<std::optional<int>> {
+  const auto geriAl = [&](Ilerleme* ilerleme) -> Sonuc<std::optional<int>> {
     Islem islem(motor, KilitBekleme);
     const auto simdi = Oku(motor);
     const auto yeni = std::ranges::find_if(simdi, ayi);
@@ -182,10 +182,13 @@ Sonuc<std::optional<int>> AyiGeriAl(Oturum& o, int yil, int ay, Bildirim& bildir
       return Kusur{"Saklanan bordro bu arada değişti, hiçbir kayıt geri gelmedi"};
     OncekileriHazirla(motor);
     const int gelen = YerineKoy(motor, yil, ay);
+    if (ilerleme != nullptr && !ilerleme->Kesin()) throw Vazgecilmis{};
     islem.Onayla();
     return std::optional(gelen);
   };
-  return Koru(geriAl, "Bordro geri alınamadı: ");
+  Sonuc<std::optional<int>> gelen = std::optional<int>();
+  yurut([&](Ilerleme* ilerleme) { gelen = Koru([&] { return geriAl(ilerleme); }, "Bordro geri alınamadı: "); });
+  return gelen;
 }
 
 }  // namespace belvani

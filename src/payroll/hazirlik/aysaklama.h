@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/asama.h"
 #include "core/session/oturum.h"
 
 namespace belvani {
@@ -35,8 +36,8 @@ void AyiSakla(Motor& motor, int yil, int ay, std::string_view neden);
 Sonuc<std::vector<SaklananAy>> SaklananAylar(Oturum& o);
 
 // Asks, naming both states, then puts the kept one in the place of the month's records. Gives the number of records
-// that came back; nothing when the answer was no.
-Sonuc<std::optional<int>> AyiGeriAl(Oturum& o, int yil, int ay, Bildirim& bildirim);
+// that came back; nothing when the answer was no, or the work was given up.
+Sonuc<std::optional<int>> AyiGeriAl(Oturum& o, int yil, int ay, Bildirim& bildirim, const Yurutucu& yurut = HemenYurut);
 
 // Kept records that have this code; case is ignored.
 std::vector<std::int64_t> SaklananlarinNumaralari(Motor& motor, std::string_view kod);

@@ -75,25 +75,19 @@ std::optional<std::size_t> YardimSirasi(BordroAlani alan) {
 BordroGirisi::BordroGirisi(Oturum& oturum, ParametreDeposu& parametreler, Bildirim& bildirim)
     : o_(oturum), parametreler_(parametreler), bildirim_(bildirim), mevzuat_(oturum, parametreler, bildirim) {}
 
-bool BordroGirisi::Ac() {
+belvani::Sonuc<Kusurlar> BordroGirisi::Ac() {
   EkranTemizle();
   kod_.clear();
   if (!parametreler_.firma.Gecerli())
-    if (const Durum okundu = parametreler_.firma.Yukle(); !okundu) {
-      bildirim_.KusuruGoster(okundu.Kusuru());
-      return false;
-    }
+    if (const Durum okundu = parametreler_.firma.Yukle(); !okundu) return okundu.Kusuru();
   auto k = KosullariKur(o_, parametreler_.yasal, parametreler_.firma.Parametreler(),
                         parametreler_.firma.Kart().firmayil, parametreler_.firma.Kart().firmaay);
-  if (!k) {
-    bildirim_.Bilgi(k.KusurMetni());
-    return false;
-  }
+  if (!k) return k.Kusuru();
   kosullar_ = std::move(*k);
   SablonuYukle();
   surum_ = parametreler_.Surum();
-  if (!kosullar_.IsSaatiYazili) bildirim_.Bilgi("Firma Bilgilerinde İş Saati Yazılmamış");
-  return true;
+  if (kosullar_.IsSaatiYazili) return Kusurlar();
+  return Kusurlar{KuralKusuru("Firma Bilgilerinde İş Saati Yazılmamış")};
 }
 
 // A broken template holds what somebody typed: it goes only when the user says so.
@@ -111,15 +105,16 @@ void BordroGirisi::AyDegistir(int ay) {
   kosullar_.uygulama = UygulamaBul(kosullar_.yasal.kanunlar, ay, kosullar_.donem.yil);
 }
 
-bool BordroGirisi::MevzuatUygun() {
-  const bool uygun = mevzuat_.Uygun({kosullar_.donem.yil, kosullar_.donem.ay});
+Gelisme<bool> BordroGirisi::MevzuatUygun() {
+  auto uygun = mevzuat_.Uygun({kosullar_.donem.yil, kosullar_.donem.ay});
   ParametreleriTazele();
   return uygun;
 }
 
-void BordroGirisi::MevzuatiGetir() {
-  mevzuat_.Getir({kosullar_.donem.yil, kosullar_.donem.ay});
+Gelisme<bool> BordroGirisi::MevzuatiGetir() {
+  auto geldi = mevzuat_.Getir({kosullar_.donem.yil, kosullar_.donem.ay});
   ParametreleriTazele();
+  return geldi;
 }
 
 std::vector<std::string> BordroGirisi::BordroNolari() {
@@ -136,9 +131,9 @@ std::vector<std::string> BordroGirisi::BordroNolari() {
   return nolar;
 }
 
-void BordroGirisi::KapanisDenetimi() {
-  if (BordroTamamMi(kosullar_.donem.ay, kosullar_.donem.yil, 1)) return;
-  bildirim_.Bilgi("Bordrosu Hazırlanmamış Kişi veya Kişiler Var..\nDaha Sonra Tamamlamayı Unutmayınız..");
+std::optional<Kusur> BordroGirisi::KapanisDenetimi() {
+  if (BordroTamamMi(kosullar_.donem.ay, kosullar_.donem.yil, 1)) return std::nullopt;
+  return KuralKusuru("Bordrosu Hazırlanmamış Kişi veya Kişiler Var..\nDaha Sonra Tamamlamayı Unutmayınız..");
 }
 
 // What a parameter screen has saved meanwhile holds for the calculations after it.
@@ -152,60 +147,55 @@ void BordroGirisi::ParametreleriTazele() {
   if (hal_ != Hal::KisiYok) KosullaraBagla(g_, kisi_, kosullar_);
 }
 
-KodSonucu BordroGirisi::KodAl(std::string_view metin) {
+Gelisme<KodSonucu> BordroGirisi::KodAl(std::string_view metin) {
   const std::string kod = BuyukHarf(Kirp(metin));
   if (kod.empty()) return KodSonucu::Bos;
   if (hal_ == Hal::KisiSecili && TurkceEsit(kod, kod_)) return KodSonucu::Yuklendi;
   return Getir(kod, DonemDisiMetni::Gosterilir);
 }
 
-KodSonucu BordroGirisi::Git(Yon yon) {
+Gelisme<KodSonucu> BordroGirisi::Git(Yon yon) {
   // Before nobody stands the last one.
   const Yon nereye = kod_.empty() && yon == Yon::Onceki ? Yon::Son : yon;
   const auto kisi = Koru([&] { return Tablo<Sicil>(o_.depo.db.IcMotor()).Komsu(kod_, nereye); });
-  if (!kisi) return Yuklenemedi(kisi.Kusuru());
-  return *kisi ? Getir(BuyukHarf(Kirp((*kisi)->kod)), DonemDisiMetni::Gosterilmez) : KodSonucu::Bos;
+  if (!kisi) return {KodSonucu::Yuklenemedi, kisi.Kusuru()};
+  if (!*kisi) return KodSonucu::Bos;
+  return Getir(BuyukHarf(Kirp((*kisi)->kod)), DonemDisiMetni::Gosterilmez);
 }
 
-KodSonucu BordroGirisi::Yuklenemedi(const Kusur& kusur) {
-  bildirim_.KusuruGoster(kusur);
-  return KodSonucu::Yuklenemedi;
+Gelisme<KodSonucu> BordroGirisi::Getir(const std::string& kod, DonemDisiMetni metin) {
+  auto mevzuat = MevzuatUygun();
+  if (!mevzuat.hal) return {KodSonucu::Yuklenemedi, std::move(mevzuat.sozler)};
+  return KisiyiGetir(kod, metin).Sonra(std::move(mevzuat.sozler));
 }
 
-KodSonucu BordroGirisi::Getir(const std::string& kod, DonemDisiMetni metin) {
-  if (!MevzuatUygun()) return KodSonucu::Yuklenemedi;
+Gelisme<KodSonucu> BordroGirisi::KisiyiGetir(const std::string& kod, DonemDisiMetni metin) {
   auto okunan = Koru([&] { return KisiOku(o_.depo.db.IcMotor(), kosullar_.donem, kod); });
-  if (!okunan) return Yuklenemedi(okunan.Kusuru());
+  if (!okunan) return {KodSonucu::Yuklenemedi, okunan.Kusuru()};
   std::optional<KisiVerisi>& kisi = *okunan;
   EkranTemizle();
   kod_ = kod;
-  if (!kisi) {
-    bildirim_.Bilgi("Bu kodla personel yok: " + kod);
-    return KodSonucu::Bilinmiyor;
-  }
+  if (!kisi) return {KodSonucu::Bilinmiyor, KuralKusuru("Bu kodla personel yok: " + kod)};
   const CalismaGunu gun = GunSayisiBul(kosullar_.donem, kisi->sicil.girtar, kisi->sicil.ciktar);
   switch (gun.uygunluk) {
     case DonemUygunlugu::GirisTarihiHatali:
-      bildirim_.Bilgi("Personel Giriş Tarihi Hatalı");
-      return KodSonucu::DonemDisi;
+      return {KodSonucu::DonemDisi, KuralKusuru("Personel Giriş Tarihi Hatalı")};
     case DonemUygunlugu::DonemDisi:
-      if (metin == DonemDisiMetni::Gosterilir)
-        bildirim_.Bilgi("Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil");
-      return KodSonucu::DonemDisi;
+      if (metin == DonemDisiMetni::Gosterilmez) return KodSonucu::DonemDisi;
+      return {KodSonucu::DonemDisi, KuralKusuru("Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil")};
     case DonemUygunlugu::Uygun:
       break;
   }
   return KisiyiAc(std::move(*kisi), gun.CalismaGun);
 }
 
-KodSonucu BordroGirisi::KisiyiAc(KisiVerisi kisi, int CalismaGun) {
+Gelisme<KodSonucu> BordroGirisi::KisiyiAc(KisiVerisi kisi, int CalismaGun) {
   kisi_ = std::move(kisi);
   const Durum yuklendi = TasmaKoru([&] { g_ = PersonelYukle(kisi_, kosullar_, CalismaGun); });
   if (!yuklendi) {
     // An allowance of the template, spread over the days, is beyond every range.
     EkranTemizle();
-    bildirim_.Bilgi(yuklendi.KusurMetni());
-    return KodSonucu::Yuklenemedi;
+    return {KodSonucu::Yuklenemedi, yuklendi.Kusuru()};
   }
   hal_ = Hal::KisiSecili;
   if (CalismaGun != TamAy) uyari_ = UyariYap(kisi_.sicil, CalismaGun);
@@ -265,19 +255,19 @@ SebepSonrasi BordroGirisi::SebepSec(int sira) {
   return sira == 0 ? SebepSonrasi::KodAlanina : SebepSonrasi::UcretsizIzne;
 }
 
-void BordroGirisi::NettenBruteCevir(BordroAlani alan) {
+Durum BordroGirisi::NettenBruteCevir(BordroAlani alan) {
   const auto sira = YardimSirasi(alan);
-  if (hal_ != Hal::KisiSecili || !sira) return;
+  if (hal_ != Hal::KisiSecili || !sira) return Tamam();
   Brd& b = g_.giris;
   Tutar& tutar = b.*YardimKolonlari[*sira].uye;
   const Tek oran(b.sskiscior.Sayi() + b.issiziscior.Sayi());
-  const Durum cevrildi = TasmaKoru([&] {
+  Durum cevrildi = TasmaKoru([&] {
     tutar = NettenBrut(
         kosullar_.yasal.gv, tutar,
         {oran.Sayi(), b.damgaveror.Sayi(), b.devgvmatrah, kosullar_.yasal.oranlar.SskTavan, kosullar_.paraonda});
   });
-  if (!cevrildi) bildirim_.Bilgi(cevrildi.KusurMetni());
   Hesapla();
+  return cevrildi;
 }
 
 Tutar BordroGirisi::BorcLimiti() const {

@@ -17,6 +17,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/silme.h"
 #include "core/store/yon.h"
 #include "payroll/hazirlik/hazirlik.h"
 #include "payroll/hazirlik/mevzuatsorusu.h"
@@ -74,10 +75,10 @@ inline constexpr std::array<std::string_view, 4> PuantajKaynaklari{"El ile", "Ş
 
 enum class KodSonucu {
   Bos,         // no code, or no further person in that direction: nothing has changed
-  Bilinmiyor,  // nobody has it, which is told; the screen is cleared
+  Bilinmiyor,  // nobody has it; the screen is cleared
   DonemDisi,   // the person does not belong to the period; the screen is cleared
   Yuklendi,
-  Yuklenemedi,  // the store could not be read, the template is out of range, or there is no law; told
+  Yuklenemedi,  // the store could not be read, the template is out of range, or there is no law
 };
 
 enum class KapanisSonucu {
@@ -86,7 +87,7 @@ enum class KapanisSonucu {
   Bitti,           // nobody is left: the screen closes
   KaldiEksikGun,   // days are missing without a reason, or the unpaid days do not fill the month
   KaldiGunFazla,   // more days than the person may work
-  KaldiNetsiz,     // net not above zero; told why
+  KaldiNetsiz,     // net not above zero
   KaldiHesapsiz,   // the calculation cannot be made
   KaydetmeHatasi,  // the record was not saved; what was typed is kept
   YenidenGeldi,    // another user has changed the record, and the user looks at that one now
@@ -143,25 +144,26 @@ class BordroGirisi {
   BordroGirisi& operator=(const BordroGirisi&) = delete;
 
   // For the session's period. Reads the template anew, and writes the built-in one where there is none; over a broken
-  // one only when the user wants it. False: the company has no definitions or its store cannot be read, which is told.
-  bool Ac();
+  // one only when the user wants it. Gives what he should know; a fault where the company has no definitions or its
+  // store cannot be read.
+  belvani::Sonuc<Kusurlar> Ac();
   // Another month of the year: the screen is cleared, the code stays.
   void AyDegistir(int ay);
   // Asks about the installed law where it is not that of the month; false: nothing may be calculated with it. Asked
   // anew before people come up and before saving, for a colleague may have fetched another.
-  bool MevzuatUygun();
+  Gelisme<bool> MevzuatUygun();
   // Fetches the law of the month.
-  void MevzuatiGetir();
-  void MevzuatNasilGetirilir(MevzuatSorusu::Getiren getiren) { mevzuat_.getiren = std::move(getiren); }
+  Gelisme<bool> MevzuatiGetir();
+  void MevzuatNasilGetirilir(Yurutucu yurut) { mevzuat_.yurut = std::move(yurut); }
   // The run numbers found in the month, then "Yeni".
   std::vector<std::string> BordroNolari();
-  // Asks, when the screen closes, whether everyone has his record.
-  void KapanisDenetimi();
+  // What is to be told when the screen closes and somebody has no record.
+  std::optional<Kusur> KapanisDenetimi();
 
   // The code was typed, and an entry field entered. The person already being entered stays as he is.
-  KodSonucu KodAl(std::string_view metin);
+  Gelisme<KodSonucu> KodAl(std::string_view metin);
   // Home, PgUp, PgDn, End on the code field: from the last code on.
-  KodSonucu Git(Yon yon);
+  Gelisme<KodSonucu> Git(Yon yon);
 
   // The focus came to a field.
   void AlanaGirildi(BordroAlani alan);
@@ -171,7 +173,7 @@ class BordroGirisi {
   // Position in EksikSebepleri.
   SebepSonrasi SebepSec(int sira);
   // F9 on an allowance field: what stands in it is net and becomes gross.
-  void NettenBruteCevir(BordroAlani alan);
+  Durum NettenBruteCevir(BordroAlani alan);
   // At most this may be taken for a debt: down to a net of zero.
   Tutar BorcLimiti() const;
   // The debt dialog confirms. A debt over the limit is a fault, and the dialog stays open.
@@ -179,17 +181,18 @@ class BordroGirisi {
 
   // The focus is back on the code field, from wherever it was last: an entry whose fields were visited, or that has
   // changed since the person came up, is checked, saved, and the next person sought.
-  KapanisSonucu Kapat();
+  Gelisme<KapanisSonucu> Kapat();
   // The entry field that was visited last; Kod when none was.
   BordroAlani SonGirisAlani() const { return sonAlan_; }
-  // F7: the person's record of the month. True: deleted, and the screen is cleared.
-  bool KayitSil();
+  // F7: the person's record of the month. Once it is deleted, the screen is cleared; so with the next two.
+  belvani::Sonuc<Silme> KayitSil();
   // Ctrl+F7: all records of the month.
-  bool AyinBordrosunuSil();
-  // Ctrl+F8: the month as it was before it was deleted or prepared anew. True: it is back, and the screen is cleared.
-  bool AyiGeriAl();
+  belvani::Sonuc<Silme> AyinBordrosunuSil(const Yurutucu& yurut = HemenYurut);
+  // Ctrl+F8: the month as it was before it was deleted or prepared anew; gives the number of its records, nothing when
+  // the answer was no.
+  belvani::Sonuc<std::optional<int>> AyiGeriAl(const Yurutucu& yurut = HemenYurut);
   // Before the next: asks where it would take typed payments away. False: the month shall stay.
-  bool MahsupSilinsinMi();
+  belvani::Sonuc<bool> MahsupSilinsinMi();
   // The "Puantaj " button with the template: everybody's month, without a question or a message. The failure is that
   // there is no law to calculate with, or that the store did not take it.
   belvani::Sonuc<HazirlikSonucu> SablondanHazirla(Ilerleme* ilerleme = nullptr);
@@ -228,18 +231,22 @@ class BordroGirisi {
   enum class DonemDisiMetni { Gosterilir, Gosterilmez };
 
   void ParametreleriTazele();
-  KodSonucu Getir(const std::string& kod, DonemDisiMetni metin);
-  KodSonucu KisiyiAc(KisiVerisi kisi, int CalismaGun);
-  KodSonucu Yuklenemedi(const Kusur& kusur);  // told
+  Gelisme<KodSonucu> Getir(const std::string& kod, DonemDisiMetni metin);
+  Gelisme<KodSonucu> KisiyiGetir(const std::string& kod, DonemDisiMetni metin);
+  Gelisme<KodSonucu> KisiyiAc(KisiVerisi kisi, int CalismaGun);
   void EkranTemizle();
   Durum HesaplaVeGoster();
-  bool EksikGunTamam();
+  bool EksikGunTamam(Kusurlar& sozler);
+  // Why the entry cannot be closed as it is; nothing when it can. What is to be told goes to `sozler`.
+  std::optional<KapanisSonucu> Kalma(Kusurlar& sozler);
+  // Asks, after what is to be told by now.
+  bool SoyleyipSor(Kusurlar& sozler, const std::string& soru);
   void SablonuYukle();
-  // Saved, or why the entry goes on.
-  std::optional<KapanisSonucu> Kaydet();
+  // Nothing when it is saved, or why the entry goes on.
+  std::optional<Gelisme<KapanisSonucu>> Kaydet();
   // `sonrakiler`: the cards behind the person, which were sent for.
-  KapanisSonucu SonrakineGec(belvani::Sonuc<std::unique_ptr<Komut>> sonrakiler);
-  std::int64_t KayitSayisi();  // of the month
+  Gelisme<KapanisSonucu> SonrakineGec(belvani::Sonuc<std::unique_ptr<Komut>> sonrakiler);
+  belvani::Sonuc<std::int64_t> KayitSayisi();  // of the month
 
   Oturum& o_;
   ParametreDeposu& parametreler_;

@@ -59,113 +59,107 @@ std::string AyMetni(const BordroDonemi& donem) {
 }  // namespace
 
 // The days are all worked, or the rest has its reason and fills the month.
-bool BordroGirisi::EksikGunTamam() {
+bool BordroGirisi::EksikGunTamam(Kusurlar& sozler) {
   Brd& b = g_.giris;
   const EksikGun eksik = EksikGunDenetle(sonuc_.SskGun, g_.CalismaGun, ayGunu_, b.eksiksebebi, b.ucretsizizin);
   b.eksiksebebi = std::uint8_t(eksik.sebep);
   b.ucretsizizin = std::uint8_t(eksik.ucretsizizin);
   if (sonuc_.SskGun == g_.CalismaGun) return true;
-  if (!eksik.tamam && eksik.sebep != 0)
-    bildirim_.Bilgi("Eksik Gün Bildirildi\nÜcretsiz İzin ile Toplam Gün birlikte " + std::to_string(ayGunu_) +
-                    " olmalı");
-  else
-    bildirim_.Bilgi("Eksik Gün Bildirildi\nEksik Gün Sebebini giriniz");
+  const bool doldurmuyor = !eksik.tamam && eksik.sebep != 0;
+  sozler.push_back(KuralKusuru("Eksik Gün Bildirildi\n" + (doldurmuyor ? "Ücretsiz İzin ile Toplam Gün birlikte " +
+                                                                             std::to_string(ayGunu_) + " olmalı"
+                                                                       : std::string("Eksik Gün Sebebini giriniz"))));
   return eksik.tamam;
 }
 
-KapanisSonucu BordroGirisi::Kapat() {
-  const bool girildi = sonAlan_ != BordroAlani::Kod || g_.giris != acilis_;
-  if (hal_ != Hal::KisiSecili || !girildi) return KapanisSonucu::Kapanmadi;
-  if (!MevzuatUygun()) return KapanisSonucu::KaydetmeHatasi;
+std::optional<KapanisSonucu> BordroGirisi::Kalma(Kusurlar& sozler) {
   if (Hesapla()) {
-    bildirim_.KusuruGoster(*kusur_);
+    sozler.push_back(*kusur_);
     return KapanisSonucu::KaldiHesapsiz;
   }
   if (sonuc_.gunFazla) {
-    bildirim_.Bilgi("Bu Personel " + std::to_string(g_.CalismaGun) + " Gün Çalışmış\nÇalışma Gününü Fazla Girmişiniz");
+    sozler.push_back(
+        KuralKusuru("Bu Personel " + std::to_string(g_.CalismaGun) + " Gün Çalışmış\nÇalışma Gününü Fazla Girmişiniz"));
     return KapanisSonucu::KaldiGunFazla;
   }
-  if (!EksikGunTamam()) {
+  if (!EksikGunTamam(sozler)) {
     if (sonAlan_ < BordroAlani::EksikSebep) uyari_.reset();
     return KapanisSonucu::KaldiEksikGun;
   }
-  if (sonuc_.NetOdenen <= Tutar()) {
-    bildirim_.Bilgi("Net Ödenen Sıfırın Üstünde Değil, Bordrosu Kaydedilmedi\n" + NetsizNedeni(g_, sonuc_) +
-                    (KayitVar() ? "\nDaha önce kaydedilen bordrosu olduğu gibi duruyor" : ""));
-    return KapanisSonucu::KaldiNetsiz;
-  }
-  const std::string kayip = KaydinKaybi();
-  const bool kaydet =
-      !KayitVar() || bildirim_.Soru("Puantaj Yeniden Kaydedilecek ?" + (kayip.empty() ? "" : "\n" + kayip));
-  auto sonrakiler = Koru([&] { return SonrakileriIste(o_.depo.db.IcMotor(), kisi_.sicil.kod); });
-  if (kaydet)
-    if (const auto kalan = Kaydet()) return *kalan;
-  return SonrakineGec(std::move(sonrakiler));
+  if (sonuc_.NetOdenen > Tutar()) return std::nullopt;
+  sozler.push_back(KuralKusuru("Net Ödenen Sıfırın Üstünde Değil, Bordrosu Kaydedilmedi\n" + NetsizNedeni(g_, sonuc_) +
+                               (KayitVar() ? "\nDaha önce kaydedilen bordrosu olduğu gibi duruyor" : "")));
+  return KapanisSonucu::KaldiNetsiz;
 }
 
-std::optional<KapanisSonucu> BordroGirisi::Kaydet() {
+bool BordroGirisi::SoyleyipSor(Kusurlar& sozler, const std::string& soru) {
+  for (const Kusur& soz : std::exchange(sozler, {})) bildirim_.KusuruGoster(soz);
+  return bildirim_.Soru(soru);
+}
+
+Gelisme<KapanisSonucu> BordroGirisi::Kapat() {
+  const bool girildi = sonAlan_ != BordroAlani::Kod || g_.giris != acilis_;
+  if (hal_ != Hal::KisiSecili || !girildi) return KapanisSonucu::Kapanmadi;
+  auto [uygun, sozler] = MevzuatUygun();
+  if (!uygun) return {KapanisSonucu::KaydetmeHatasi, std::move(sozler)};
+  if (const auto kalma = Kalma(sozler)) return {*kalma, std::move(sozler)};
+  const std::string kayip = KaydinKaybi();
+  const bool kaydet =
+      !KayitVar() || SoyleyipSor(sozler, "Puantaj Yeniden Kaydedilecek ?" + (kayip.empty() ? "" : "\n" + kayip));
+  auto sonrakiler = Koru([&] { return SonrakileriIste(o_.depo.db.IcMotor(), kisi_.sicil.kod); });
+  if (kaydet)
+    if (auto kalan = Kaydet()) return std::move(*kalan).Sonra(std::move(sozler));
+  return SonrakineGec(std::move(sonrakiler)).Sonra(std::move(sozler));
+}
+
+std::optional<Gelisme<KapanisSonucu>> BordroGirisi::Kaydet() {
   Brd brd = sonuc_.brd;
   brd.eksiksebebi = g_.giris.eksiksebebi;
   brd.ucretsizizin = g_.giris.ucretsizizin;
-  const std::string yazilamadi = "Bordro Kayıtları Güncellenemiyor";
-  const auto yaz = [&]() -> Yazim<Brd> {
-    try {
-      return BordroKaydet(o_.depo.db.IcMotor(), {.ilk = kisi_.kayit, .simdi = brd});
-    } catch (const MotorHatasi& hata) {
-      if (hata.tur != MotorKusuru::Kilitli) throw;
-      return YazmaEngeli<Brd>(Kusur{yazilamadi + ": " + KilitliMetin(o_, hata)});
-    }
-  };
-  const auto yazilan = o_.depo.db.Koru(Yazim<Brd>(YazmaEngeli<Brd>(Kusur{yazilamadi})), yaz);
+  const auto yaz = [&] { return BordroKaydet(o_.depo.db.IcMotor(), {.ilk = kisi_.kayit, .simdi = brd}); };
+  const auto yazilan = Koru([&] { return KilitliyseSoyle(o_, yaz); }, "Bordro Kayıtları Güncellenemiyor: ");
   if (yazilan) return std::nullopt;
-  if (!yazilan.Kusuru().cakisma) {
-    bildirim_.KusuruGoster(yazilan.Kusuru());
-    return KapanisSonucu::KaydetmeHatasi;
-  }
+  if (!yazilan.Kusuru().cakisma) return Gelisme<KapanisSonucu>{KapanisSonucu::KaydetmeHatasi, yazilan.Kusuru()};
   // A mixture of the two would be no payroll: one of them must go.
   if (!bildirim_.SilinsinMi(yazilan.KusurMetni() + "\nEkrandaki Giriş Bırakılsın ve Kişi Yeniden Getirilsin mi ?", {}))
     return KapanisSonucu::KaydetmeHatasi;
-  Getir(kod_, DonemDisiMetni::Gosterilir);
-  return KapanisSonucu::YenidenGeldi;
+  return Gelisme<KapanisSonucu>{KapanisSonucu::YenidenGeldi, Getir(kod_, DonemDisiMetni::Gosterilir).sozler};
 }
 
-KapanisSonucu BordroGirisi::SonrakineGec(belvani::Sonuc<std::unique_ptr<Komut>> sonrakiler) {
+Gelisme<KapanisSonucu> BordroGirisi::SonrakineGec(belvani::Sonuc<std::unique_ptr<Komut>> sonrakiler) {
   hal_ = Hal::Kaydedildi;
   const auto ara = [&]() -> belvani::Sonuc<Aranan> {
     if (!sonrakiler) return sonrakiler.Kusuru();
     return SonrakiUygun(o_.depo.db.IcMotor(), kosullar_.donem, std::move(*sonrakiler));
   };
   const auto sonraki = Koru(ara);
-  if (!sonraki) {
-    bildirim_.KusuruGoster(sonraki.Kusuru());
-    return KapanisSonucu::OkumaHatasi;
-  }
-  if (sonraki->tarihHatali) bildirim_.Bilgi("Personel Giriş Tarihi Hatalı");
+  if (!sonraki) return {KapanisSonucu::OkumaHatasi, sonraki.Kusuru()};
+  Kusurlar sozler;
+  if (sonraki->tarihHatali) sozler.push_back(KuralKusuru("Personel Giriş Tarihi Hatalı"));
   if (sonraki->kod.empty()) {
-    bildirim_.Bilgi("Bordro Hazırlık Sona Erdi");
-    return KapanisSonucu::Bitti;
+    sozler.push_back(KuralKusuru("Bordro Hazırlık Sona Erdi"));
+    return {KapanisSonucu::Bitti, std::move(sozler)};
   }
   kod_ = BuyukHarf(Kirp(sonraki->kod));
-  return KapanisSonucu::SonrakiVar;
+  return {KapanisSonucu::SonrakiVar, std::move(sozler)};
 }
 
-bool BordroGirisi::KayitSil() {
-  if (hal_ != Hal::KisiSecili || !KayitVar()) return false;
+belvani::Sonuc<Silme> BordroGirisi::KayitSil() {
+  if (hal_ != Hal::KisiSecili || !KayitVar()) return Silme::Silinmedi;
   const Sicil& kisi = kisi_.sicil;
   if (!bildirim_.SilinsinMi("Kayıt Silinecek Eminmisiniz ?",
                             kisi.kod + " " + kisi.adi + " " + kisi.soyadi + ", " + AyMetni(kosullar_.donem)))
-    return false;
+    return Silme::Silinmedi;
   const Deger oto = std::int64_t(kisi_.kayit->oto);
-  const bool silindi = o_.depo.db.Koru(false, [&] { return Tablo<Brd>(o_.depo.db.IcMotor()).Sil(oto); });
-  if (silindi)
-    EkranTemizle();
-  else
-    bildirim_.Uyari("Kayıt Silinemedi");
-  return silindi;
+  const auto silindi = Koru([&] { return Tablo<Brd>(o_.depo.db.IcMotor()).Sil(oto); }, "Kayıt Silinemedi\n");
+  if (!silindi) return silindi.Kusuru();
+  if (!*silindi) return Kusur{"Kayıt Silinemedi"};
+  EkranTemizle();
+  return Silme::Silindi;
 }
 
-std::int64_t BordroGirisi::KayitSayisi() {
-  return o_.depo.db.Koru(std::int64_t(), [&] {
+belvani::Sonuc<std::int64_t> BordroGirisi::KayitSayisi() {
+  return Koru([&] {
     const auto komut = o_.depo.db.IcMotor().Hazirla("select count(*) from brd where yil = ? and ay = ?");
     komut->TamBagla(1, kosullar_.donem.yil);
     komut->TamBagla(2, kosullar_.donem.ay);
@@ -173,33 +167,31 @@ std::int64_t BordroGirisi::KayitSayisi() {
   });
 }
 
-bool BordroGirisi::AyinBordrosunuSil() {
-  const std::string giden = AyMetni(kosullar_.donem) + ", " + std::to_string(KayitSayisi()) + " kişi";
-  if (!bildirim_.SilinsinMi("Bordro Tamamen Silinecek Eminmisiniz ?", giden)) return false;
-  if (const auto silinen = BordroSil(o_, kosullar_.donem.yil, kosullar_.donem.ay); !silinen) {
-    bildirim_.Uyari(silinen.KusurMetni());
-    return false;
-  }
-  bildirim_.Bilgi("Bordro Tamamen Silindi");
+belvani::Sonuc<Silme> BordroGirisi::AyinBordrosunuSil(const Yurutucu& yurut) {
+  const auto sayi = KayitSayisi();
+  if (!sayi) return sayi.Kusuru();
+  const std::string giden = AyMetni(kosullar_.donem) + ", " + std::to_string(*sayi) + " kişi";
+  if (!bildirim_.SilinsinMi("Bordro Tamamen Silinecek Eminmisiniz ?", giden)) return Silme::Silinmedi;
+  std::optional<belvani::Sonuc<int>> silinen;
+  yurut([&](Ilerleme* ilerleme) { silinen.emplace(BordroSil(o_, kosullar_.donem.yil, kosullar_.donem.ay, ilerleme)); });
+  if (!silinen) return Silme::Silinmedi;
+  if (!*silinen) return silinen->Kusuru();
   EkranTemizle();
-  return true;
+  return Silme::Silindi;
 }
 
-bool BordroGirisi::AyiGeriAl() {
-  const auto gelen = belvani::AyiGeriAl(o_, kosullar_.donem.yil, kosullar_.donem.ay, bildirim_);
-  if (!gelen) bildirim_.KusuruGoster(gelen.Kusuru());
-  if (!gelen || !*gelen) return false;
-  bildirim_.Bilgi("Ayın Bordrosu Geri Alındı: " + std::to_string(**gelen) + " kayıt");
-  EkranTemizle();
-  return true;
+belvani::Sonuc<std::optional<int>> BordroGirisi::AyiGeriAl(const Yurutucu& yurut) {
+  auto gelen = belvani::AyiGeriAl(o_, kosullar_.donem.yil, kosullar_.donem.ay, bildirim_, yurut);
+  if (gelen && *gelen) EkranTemizle();
+  return gelen;
 }
 
-bool BordroGirisi::MahsupSilinsinMi() {
+belvani::Sonuc<bool> BordroGirisi::MahsupSilinsinMi() {
   const BordroDonemi& donem = kosullar_.donem;
   const auto kayip =
       Koru([&] { return AyinMahsupKaybi(o_.depo.db.IcMotor(), donem.yil, donem.ay, kosullar_.paraonda); });
-  if (!kayip) bildirim_.KusuruGoster(kayip.Kusuru());
-  return kayip && (!*kayip || bildirim_.SilinsinMi((*kayip)->metin + "\nYine de hazırlansın mı ?", {}));
+  if (!kayip) return kayip.Kusuru();
+  return !*kayip || bildirim_.SilinsinMi((*kayip)->metin + "\nYine de hazırlansın mı ?", {});
 }
 
 belvani::Sonuc<HazirlikSonucu> BordroGirisi::SablondanHazirla(Ilerleme* ilerleme) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/asama.h"
 #include "core/session/kilitnotu.h"
 #include "core/session/yukseltmeadimlari.h"
 #include "core/store/koru.h"
@@ -253,12 +254,13 @@ Yazim<Brd> BordroKaydet(Motor& motor, const Okunan<Brd>& kayit) {
   return cakisma ? BordroEngeli(cakisma->tur, cakisma->onunki, kayit.simdi) : sonuc.Kusuru();
 }
 
-Sonuc<int> BordroSil(Oturum& o, int yil, int ay) {
+Sonuc<int> BordroSil(Oturum& o, int yil, int ay, Ilerleme* ilerleme) {
   const auto sil = [&] {
     Motor& motor = o.depo.db.IcMotor();
     Islem islem(motor, KilitBekleme);
     OncekileriHazirla(motor);
     AyiSakla(motor, yil, ay, SilinmedenOnce);
+    if (ilerleme != nullptr && !ilerleme->Kesin()) throw Vazgecilmis{};
     const auto komut = motor.Hazirla("delete from brd where yil = ? and ay = ?");
     komut->TamBagla(1, yil);
     komut->TamBagla(2, ay);

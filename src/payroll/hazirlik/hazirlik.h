@@ -48,8 +48,8 @@ Sonuc<HazirlikSonucu> TopluHazirla(Oturum& o, const Kosullar& kosullar, const st
 Yazim<Brd> BordroKaydet(Motor& motor, const Okunan<Brd>& kayit);
 
 // Deletes all records of a month, of all people; gives their number. As before a mass run, they are kept
-// (payroll/hazirlik/aysaklama.h).
-Sonuc<int> BordroSil(Oturum& o, int yil, int ay);
+// (payroll/hazirlik/aysaklama.h). It can be given up (Vazgecilmis) until the records are gone.
+Sonuc<int> BordroSil(Oturum& o, int yil, int ay, Ilerleme* ilerleme = nullptr);
 
 // Whether everyone of the month has a record: always true, nothing is looked at. Asked when the payroll screen closes
 // and before the electronic declaration.

@@ -9,9 +9,10 @@
 // Fetching over figures of his own lists them and asks first; they are kept, and come back with their month.
 #pragma once
 
-#include <functional>
 #include <set>
 
+#include "core/asama.h"
+#include "core/gelisme.h"
 #include "payroll/hazirlik/parametredeposu.h"
 #include "payroll/parametre/mevzuatkumesi.h"
 
@@ -22,19 +23,18 @@ class MevzuatSorusu {
   MevzuatSorusu(Oturum& oturum, ParametreDeposu& parametreler, Bildirim& bildirim)
       : o_(oturum), parametreler_(parametreler), bildirim_(bildirim) {}
 
-  // The month may be calculated with what is installed now.
-  bool Uygun(MevzuatAyi ay);
+  // Whether the month may be calculated with what is installed now.
+  Gelisme<bool> Uygun(MevzuatAyi ay);
 
   // Fetches the month's law, or one file of it, after the questions that it takes; true when it has come.
-  bool Getir(MevzuatAyi ay, std::optional<ParametreDosyasi> yalniz = {});
+  Gelisme<bool> Getir(MevzuatAyi ay, std::optional<ParametreDosyasi> yalniz = {});
 
-  // How it is fetched: a screen shows that it takes time. Nothing: the user has given it up, which was told.
-  using Getiren = std::function<std::optional<Sonuc<MevzuatKurulumu>>(MevzuatAyi, const MevzuatIstegi&)>;
-  Getiren getiren = [this](MevzuatAyi ay, const MevzuatIstegi& istek) {
-    return std::optional(parametreler_.MevzuatiGetir(o_, ay, istek));
-  };
+  // How the fetching is run: a screen shows that it takes time.
+  Yurutucu yurut = HemenYurut;
 
  private:
+  Gelisme<bool> Indir(MevzuatAyi ay, MevzuatIstegi istek);
+
   Oturum& o_;
   ParametreDeposu& parametreler_;
   Bildirim& bildirim_;

@@ -12,23 +12,6 @@
 namespace belvani {
 namespace {
 
-// Messages of a company that nobody stands before; a question is answered no.
-class Toplayan final : public Bildirim {
- public:
-  explicit Toplayan(Kusurlar& iletiler) : iletiler_(iletiler) {}
-  void Bilgi(std::string_view metin) override { Uyari(metin); }
-  void Uyari(std::string_view metin) override {
-    iletiler_.push_back({.metin = std::string(metin), .derece = Derece::Uyari});
-  }
-  bool Soru(std::string_view metin) override {
-    Uyari(metin);
-    return false;
-  }
-
- private:
-  Kusurlar& iletiler_;
-};
-
 // Counts companies. Saving one can always be followed by giving the others up, so nothing is the last moment for that.
 class SirketIlerlemesi final : public Ilerleme {
  public:
@@ -80,14 +63,14 @@ class TekSirket {
 
  private:
   Durum Ac(Oturum& o) {
-    Toplayan bildirim(olan_.sorunlar);
     o.DataPath = oturum_.DataPath;
     o.BilgisayarAdi = oturum_.BilgisayarAdi;
-    if (auto acildi = AdiylaSirketAc(o, olan_.sirket.ad, bildirim, SirketErisimi::Yazilir); !acildi) return acildi;
+    if (auto acildi = AdiylaSirketAc(o, olan_.sirket.ad, SirketErisimi::Yazilir); !acildi) return acildi;
     if (o.SaltOkunur) return Kusur{SaltOkunurUyarisi};
     if (!FirmaYukle(o)) return Kusur{"İşyeri Tanımlamaları Yapılmamış"};
     if (auto ayni = VersiyonKontrol(o); !ayni) return ayni;
-    if (const Durum yapi = YapiKontrol(o); !yapi) bildirim.Uyari(yapi.KusurMetni());
+    if (const Durum yapi = YapiKontrol(o); !yapi)
+      olan_.sorunlar.push_back({.metin = yapi.KusurMetni(), .derece = Derece::Uyari});
     IcerdeYaz(o, oturum_.Kullanici);
     return Tamam();
   }

@@ -82,12 +82,12 @@ void Dbupdate::HepsiniAc() {
 void Dbupdate::Calistir() {
   AdimIsaretleri isaretli{};
   for (std::size_t i = 0; i < AdimSayisi; ++i) isaretli[i] = kutular_[i]->isChecked();
-  if (!SigortaTuruOnayi(Oturumu(), isaretli, Bildirimi())) return;
-  const auto sonuc = UzunIs(Baglam(), QStringLiteral("Database güncelleniyor…"), [&](Ilerleme& ilerleme) {
-    return AdimlariYurut(Oturumu(), isaretli, parametreler_.yasal.oranlar.SskTaban, Bildirimi(), &ilerleme);
+  if (const auto onay = SigortaTuruOnayi(Oturumu(), isaretli, Bildirimi()); !Oldu(onay) || !*onay) return;
+  auto sonuc = UzunIs(Baglam(), QStringLiteral("Database güncelleniyor…"), [&](Ilerleme& ilerleme) {
+    return AdimlariYurut(Oturumu(), isaretli, parametreler_.yasal.oranlar.SskTaban, &ilerleme);
   });
   if (!sonuc) return;
-  sonuc_ = *sonuc;
+  sonuc_ = Soyle(std::move(*sonuc));
   if (sonuc_ != GuncellemeSonucu::IsaretYok) Kapat();
 }
 

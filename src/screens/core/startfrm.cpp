@@ -233,21 +233,21 @@ bool startfrm::SirketiAc() {
   Oturum& o = baglam_.oturum;
   const auto uyanlar = UyanSirketler(o.DataPath, Sirket());
   if (uyanlar.size() > 1) {
-    baglam_.bildirim.Bilgi(SirketBul(o.DataPath, Sirket()).KusurMetni());
-    return SirketSectir(uyanlar.front()) && Acildi(SirketAc(o, Sirket(), baglam_.bildirim));
+    baglam_.bildirim.KusuruGoster(SirketBul(o.DataPath, Sirket()).Kusuru());
+    return SirketSectir(uyanlar.front()) && Acildi(SirketAc(o, Sirket()));
   }
-  if (!uyanlar.empty()) return Acildi(SirketAc(o, uyanlar.front(), baglam_.bildirim));
+  if (!uyanlar.empty()) return Acildi(SirketAc(o, uyanlar.front()));
   if (const Durum erisim = VeriYolu(o.DataPath).Erisim(); !erisim) return Acildi(erisim);
   if (const auto ad = SirketAdi(Sirket()); !ad) {
-    baglam_.bildirim.Bilgi(ad.KusurMetni());
+    baglam_.bildirim.KusuruGoster(ad.Kusuru());
     return false;
   }
   if (!baglam_.bildirim.Soru("Şirket Bulunamadı\nYeni Şirket Açılacak ?")) return false;
-  return Acildi(SirketOlustur(o, Sirket(), Utf8(kullanici_->text()), Utf8(sifre_->text()), baglam_.bildirim));
+  return Acildi(SirketOlustur(o, Sirket(), Utf8(kullanici_->text()), Utf8(sifre_->text())));
 }
 
 bool startfrm::Acildi(const Durum& durum) {
-  if (!durum) baglam_.bildirim.Uyari(durum.KusurMetni());
+  if (!durum) baglam_.bildirim.KusuruGoster(durum.Kusuru());
   return bool(durum);
 }
 

@@ -129,12 +129,7 @@ yaylik::yaylik(EkranBaglami& baglam, ParametreDeposu& parametreler, bool emeklil
     return true;
   };
   liste_->TercihBoyu(1270, 212);
-  mevzuat_.getiren = [this](MevzuatAyi ay, MevzuatIstegi istek) {
-    return UzunIs(Baglam(), QStringLiteral("Parametre indiriliyor…"), [&](Ilerleme& ilerleme) {
-      istek.sinir.ilerleme = &ilerleme;
-      return parametreler_.MevzuatiGetir(Oturumu(), ay, istek);
-    });
-  };
+  mevzuat_.yurut = UzunYurutucu(Baglam(), QStringLiteral("Parametre indiriliyor…"));
   Govde()->addWidget(GrupYap(SecimAlanlari()));
   eskime_ = HataSatiri("eskime");
   eksikler_ = HataSatiri("eksikler");
@@ -231,7 +226,7 @@ void yaylik::Hesapla() {
 // Whether the declaration stands, priced with a law that its user knows of.
 bool yaylik::HesaplaVeGoster() {
   const BildirgeSecimi& secim = bildirge_.Secim();
-  if (BildirgeYiliMi(secim.yil) && !mevzuat_.Uygun({secim.yil, secim.ay})) {
+  if (BildirgeYiliMi(secim.yil) && !Soyle(mevzuat_.Uygun({secim.yil, secim.ay}))) {
     EskiyiGoster();
     return false;
   }
@@ -361,13 +356,12 @@ void yaylik::EBildirge() {
   if (*karar == AylikBildirge::Karar::Vazgecildi) return SorunlariGoster();
   const auto dosya = Baglam().dialoglar.DosyaKaydet("E-Bildirge Hazırlığı", bildirge_.XmlYolu(), "XML (*.xml)|*.xml");
   if (!dosya) return;
-  const auto yazildi = bildirge_.XmlYaz(*dosya, [this](const auto& is) {
-    return uzunis::Yurut(Baglam(), QStringLiteral("E-Bildirge hazırlanıyor…"),
-                         [&](Ilerleme& ilerleme) { is(&ilerleme); });
-  });
+  const auto yazildi = bildirge_.XmlYaz(*dosya, UzunYurutucu(Baglam(), QStringLiteral("E-Bildirge hazırlanıyor…")));
   if (!yazildi) return KusurGoster(yazildi.Kusuru());
+  const bool bitti = *yazildi == AylikBildirge::Karar::Devam;
+  if (bitti) Bildirimi().Bilgi(AylikBildirge::XmlHazirlandi);
   SorunlariGoster();
-  if (*yazildi == AylikBildirge::Karar::Devam && Bildirimi().Soru(AylikBildirge::GonderimSorusu))
+  if (bitti && Bildirimi().Soru(AylikBildirge::GonderimSorusu))
     FormGoster(Baglam(), std::make_unique<intefrm>(Baglam(), *dosya));
 }
 

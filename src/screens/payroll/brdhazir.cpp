@@ -7,7 +7,6 @@
 #include "core/turkce.h"
 #include "screens/payroll/brckes.h"
 #include "screens/payroll/brdhaziralanlar.h"
-#include "screens/payroll/parametreindirme.h"
 #include "ui/kusurlistesi.h"
 #include "ui/metin.h"
 #include "ui/pencere.h"
@@ -38,8 +37,9 @@ brdhazir::brdhazir(EkranBaglami& baglam, ParametreDeposu& parametreler)
       kusur_(new QLabel(this)),
       muafiyet_(new QLabel(this)),
       neden_(new NedenPaneli(this)) {
-  acik_ = giris_.Ac();
-  giris_.MevzuatNasilGetirilir(ParametreIndirme(baglam, parametreler));
+  giris_.MevzuatNasilGetirilir(UzunYurutucu(baglam, QStringLiteral("Parametre indiriliyor…")));
+  const auto acildi = giris_.Ac();
+  acik_ = Oldu(acildi) && Soyle(Gelisme<bool>(true, *acildi));
   UstSatirYap();
   GovdeYap();
   TuslariBagla();
@@ -81,20 +81,24 @@ void brdhazir::RehberAc() {
 
 void brdhazir::Sil() {
   GirisiOku();
-  if (!giris_.KayitSil()) return;
+  if (!Silindi(giris_.KayitSil())) return;
   Goster();
   KodaDon();
 }
 
 void brdhazir::AyiSil() {
-  if (!giris_.AyinBordrosunuSil()) return;
+  if (!Silindi(giris_.AyinBordrosunuSil(UzunYurutucu(Baglam(), QStringLiteral("Ayın bordrosu siliniyor…"))))) return;
+  Bildirimi().Bilgi("Bordro Tamamen Silindi");
   BordroNoDoldur();
   Goster();
   KodaDon();
 }
 
 void brdhazir::AyiGeriAl() {
-  if (!YazilanBirakilir() || !giris_.AyiGeriAl()) return;
+  if (!YazilanBirakilir()) return;
+  const auto gelen = giris_.AyiGeriAl(UzunYurutucu(Baglam(), QStringLiteral("Ayın bordrosu geri alınıyor…")));
+  if (!Oldu(gelen) || !*gelen) return;
+  Bildirimi().Bilgi("Ayın Bordrosu Geri Alındı: " + std::to_string(**gelen) + " kayıt");
   BordroNoDoldur();
   Goster();
   KodaDon();
@@ -103,8 +107,9 @@ void brdhazir::AyiGeriAl() {
 void brdhazir::NettenBrute() {
   if (!YardimSirasi(SimdikiAlan())) return;
   GirisiOku();
-  giris_.NettenBruteCevir(SimdikiAlan());
+  const Durum cevrildi = giris_.NettenBruteCevir(SimdikiAlan());
   Goster();
+  Oldu(cevrildi);
 }
 
 // To the source of the entries; from there on to the mass run.
@@ -114,7 +119,7 @@ void brdhazir::PuantajaGit() {
 }
 
 void brdhazir::ParametreleriGetir() {
-  giris_.MevzuatiGetir();
+  Soyle(giris_.MevzuatiGetir());
   Goster();
 }
 
@@ -146,7 +151,7 @@ bool brdhazir::KisiyiGetir() {
     return false;
   }
   kod.DegerKoy(yazilan);
-  const KodSonucu sonuc = giris_.KodAl(yazilan);
+  const KodSonucu sonuc = Soyle(giris_.KodAl(yazilan));
   if (sonuc == KodSonucu::Bos) return false;
   degisen_.clear();
   if (sonuc == KodSonucu::Yuklendi) Oturumu().SonKisi = giris_.Kod();
@@ -157,8 +162,9 @@ bool brdhazir::KisiyiGetir() {
 void brdhazir::Git(Yon yon) {
   const std::string simdiki = giris_.Kod();
   if (!YazilanBirakilir()) return;
-  if (giris_.Kod() != simdiki) giris_.KodAl(simdiki);  // a save goes on to the next person; the move begins at its own
-  if (giris_.Git(yon) == KodSonucu::Bos) return;
+  if (giris_.Kod() != simdiki)
+    Soyle(giris_.KodAl(simdiki));  // a save goes on to the next person; the move begins at its own
+  if (Soyle(giris_.Git(yon)) == KodSonucu::Bos) return;
   Oturumu().SonKisi = giris_.Kod();
   YaziKutusu(bordroalani::kod).DegerKoy(giris_.Kod());
   YaziKutusu(bordroalani::kod).selectAll();
@@ -218,7 +224,7 @@ void brdhazir::AlanaGirildi(AlanDenetimi* yeni) {
 // Back on the code field: the person's entry closes.
 void brdhazir::KodaGirildi() {
   const std::string rehberden = std::exchange(rehberden_, {});
-  const KapanisSonucu sonuc = giris_.Kapat();
+  const KapanisSonucu sonuc = Soyle(giris_.Kapat());
   const bool secilenGelir = !rehberden.empty() && KapanisTamam(sonuc);
   if (sonuc == KapanisSonucu::Bitti && !secilenGelir) return Kapat();
   KapanisiGoster(sonuc);
@@ -263,7 +269,7 @@ bool brdhazir::Kaydedilmemis() const {
 
 bool brdhazir::YazilaniKaydet() {
   GirisiOku();
-  KapanisiGoster(giris_.Kapat());
+  KapanisiGoster(Soyle(giris_.Kapat()));
   return giris_.Durumu() != BordroGirisi::Hal::KisiSecili;
 }
 
@@ -338,9 +344,9 @@ void brdhazir::BordroNoDoldur() {
 }
 
 void brdhazir::TopluHazirla() {
-  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan) || !YazilanBirakilir() || !giris_.MevzuatUygun() ||
-      !giris_.MahsupSilinsinMi())
+  if (kaynak_->currentIndex() != int(PuantajKaynagi::Sablondan) || !YazilanBirakilir() || !Soyle(giris_.MevzuatUygun()))
     return;
+  if (const auto silinir = giris_.MahsupSilinsinMi(); !Oldu(silinir) || !*silinir) return;
   const auto sonuc = UzunIs(Baglam(), QStringLiteral("Bordro hazırlanıyor…"),
                             [this](Ilerleme& ilerleme) { return giris_.SablondanHazirla(&ilerleme); });
   if (!sonuc) return;
@@ -380,12 +386,12 @@ void brdhazir::showEvent(QShowEvent* olay) {
   YaziKutusu(bordroalani::kod).selectAll();
   // Messages and questions come over the screen, not before it.
   QMetaObject::invokeMethod(
-      this, [this] { acik_ ? void(giris_.MevzuatUygun()) : Kapat(); }, Qt::QueuedConnection);
+      this, [this] { acik_ ? void(Soyle(giris_.MevzuatUygun())) : Kapat(); }, Qt::QueuedConnection);
 }
 
 void brdhazir::closeEvent(QCloseEvent* olay) {
   Form::closeEvent(olay);
-  if (olay->isAccepted() && acik_) giris_.KapanisDenetimi();
+  if (const auto eksik = olay->isAccepted() && acik_ ? giris_.KapanisDenetimi() : std::nullopt) Bildir(*eksik);
 }
 
 }  // namespace belvani

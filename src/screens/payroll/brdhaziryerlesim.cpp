@@ -67,7 +67,7 @@ void brdhazir::UstSatirYap() {
     degisen_.clear();
     Goster();
     OdakVer(bordroalani::kod);
-    giris_.MevzuatUygun();
+    Soyle(giris_.MevzuatUygun());
   });
 }
 

@@ -79,7 +79,7 @@ void gvtablo::YayimlananiAl() {
   TabloYili secilen;
   if (!Oku(secilen)) return;
   const auto tablo = OzelGvMevzuati(MevzuatDizini(), secilen.yil, DefterLirasi(Oturumu(), secilen.yil));
-  if (!tablo) return Bildir(KuralKusuru(tablo.KusurMetni()));
+  if (!Oldu(tablo)) return;
   const std::string soru = std::to_string(secilen.yil) + " yılının tablosu buradakinin yerine yazılsın mı ?";
   const bool sorulur = TabloYap(Okunan()) != GvTablosu() && TabloYap(Okunan()) != *tablo;
   if ((!sorulur || Bildirimi().Soru(soru)) && Sakla(*tablo)) ListeyiGoster();

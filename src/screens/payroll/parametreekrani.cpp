@@ -1,6 +1,7 @@
 #include "screens/payroll/parametreekrani.h"
 
-#include "screens/payroll/parametreindirme.h"
+#include "payroll/hazirlik/mevzuatsorusu.h"
+#include "ui/uzunis.h"
 #include "ui/xtext.h"
 
 namespace belvani {
@@ -14,8 +15,8 @@ ParametreEkrani::ParametreEkrani(EkranBaglami& baglam, ParametreDeposu& parametr
 void ParametreEkrani::IndirDugmesi(ParametreDosyasi dosya, std::function<void()> goster) {
   const auto indir = [this, dosya, goster = std::move(goster)] {
     MevzuatSorusu soru(Oturumu(), parametreler_, Bildirimi());
-    soru.getiren = ParametreIndirme(Baglam(), parametreler_);
-    if (soru.Getir({Oturumu().firma.firmayil, Oturumu().firma.firmaay}, dosya)) goster();
+    soru.yurut = UzunYurutucu(Baglam(), QStringLiteral("Parametre indiriliyor…"));
+    if (Soyle(soru.Getir({Oturumu().firma.firmayil, Oturumu().firma.firmaay}, dosya))) goster();
   };
   Komutlar({{.dugme = "Parametre İndir", .simge = "indir", .islev = indir}});
 }

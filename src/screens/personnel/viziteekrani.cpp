@@ -90,7 +90,7 @@ void ViziteEkrani::Yazdir() {
   if (kagit.form.vizite != tablodaki_ && !TabloyuYap(true)) return;
   kagit.kimlik = kimlik_;
   if (!KagidaYaz(kagit)) return;
-  if (const auto cizim = ViziteCiz(kagit); !cizim) Bildirimi().Uyari(cizim.KusurMetni());
+  Oldu(ViziteCiz(kagit));
   const auto belge = ViziteBelgesi(kagit);
   BelgeBas(Baglam(), *belge);
 }

@@ -30,7 +30,7 @@ TEST(KanunMetni, LastFiveDigits) {
 TEST_F(FirmaBilgi, CardKeepsTheVersionOfTheStore) {
   Kur();
   Sql("update firma set versiyon = 2003.6, verda = 'Konak'; alter table firma drop column epos");
-  ASSERT_TRUE(SirketAc(o, "deneme", b));
+  ASSERT_TRUE(SirketAc(o, "deneme"));
   Firma f = FirmaDuzenle(o).simdi;  // of an earlier version: what it lacks reads as empty
   EXPECT_EQ(f.verda + f.epos, "Konak");
   f.unvan = "Örgü Ltd.";

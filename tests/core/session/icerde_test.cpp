@@ -123,8 +123,10 @@ TEST_F(IcerdeTest, DeletionAndUpgradeNameWhoIsIn) {
   ASSERT_TRUE(OturumAc(o, "deneme", "Ayşe", "gizli'"));
   AdimIsaretleri isaretli{};
   isaretli[2] = true;
-  EXPECT_EQ(AdimlariYurut(o, isaretli, Tutar(), b), GuncellemeSonucu::IsaretYok);
-  EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Bu şirkette başka kullanıcılar var, güncelleme yapılmadı:" + cagri});
+  const auto yukseltme = AdimlariYurut(o, isaretli, Tutar());
+  EXPECT_EQ(yukseltme.hal, GuncellemeSonucu::IsaretYok);
+  ASSERT_EQ(yukseltme.sozler.size(), 1u);
+  EXPECT_EQ(yukseltme.sozler[0].metin, "Bu şirkette başka kullanıcılar var, güncelleme yapılmadı:" + cagri);
   SirketKapat(o);
   o.FirmaDizini.clear();
   const std::string depo = "\n" + yer.Adres("tolu.dat");

@@ -23,7 +23,7 @@ struct OrnekOturum : testing::Test {
 
   // A new company, open, with the administrator Ayşe.
   void Kur(const char* ad = "deneme") {
-    const auto sonuc = SirketOlustur(o, ad, "Ayşe", "gizli'", b);
+    const auto sonuc = SirketOlustur(o, ad, "Ayşe", "gizli'");
     ASSERT_TRUE(sonuc) << sonuc.KusurMetni();
   }
   void Sql(const std::string& sql) { ASSERT_NO_THROW(o.depo.db.IcMotor().Calistir(sql)) << sql; }

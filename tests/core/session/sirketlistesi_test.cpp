@@ -89,7 +89,7 @@ TEST_F(SirketListesiTest, DeletedWholeOrNotAtAll) {
       "Bu şirket şu anda kullanılıyor, hiçbir dosya silinmedi:\n" + o.DataPath + "ESKİ/tolu.dat";
   test::Kapi acildi;
   test::Surec baskasi([&] {
-    (void)SirketAc(o, "eski", b);
+    (void)SirketAc(o, "eski");
     acildi.Ac();
     return ::pause();
   });
@@ -98,7 +98,7 @@ TEST_F(SirketListesiTest, DeletedWholeOrNotAtAll) {
   baskasi.Oldur();
   Oturum diger;
   diger.DataPath = o.DataPath;
-  ASSERT_TRUE(SirketAc(diger, "eski", b));
+  ASSERT_TRUE(SirketAc(diger, "eski"));
   silinmez(kullanimda);
   EXPECT_EQ(diger.depo.peruser.KayitSayisi(), 1);
   diger.depo.TablolariKapat(KapatmaKapsami::VeritabaniDa);

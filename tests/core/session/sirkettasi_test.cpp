@@ -68,7 +68,7 @@ TEST_F(SirketTasima, ThereAndBackNothingIsLost) {
     EXPECT_GT(KayitYazici<Brd>(*sonra).Ekle(yeni), 3);
   }
   EXPECT_EQ(VeriYolu(ikinci).Alt("DENEME").Oku("sablon.dat"), Veri().Alt("DENEME").Oku("sablon.dat"));
-  ASSERT_TRUE(SirketAc(o, "DENEME", b));
+  ASSERT_TRUE(SirketAc(o, "DENEME"));
 }
 
 TEST_F(SirketTasima, ACompanyInUseOrDamagedStaysWhereItIs) {
@@ -77,7 +77,7 @@ TEST_F(SirketTasima, ACompanyInUseOrDamagedStaysWhereItIs) {
   {
     Oturum baskasi;
     baskasi.DataPath = o.DataPath;
-    ASSERT_TRUE(SirketAc(baskasi, "DENEME", b));
+    ASSERT_TRUE(SirketAc(baskasi, "DENEME"));
     IcerdeYaz(baskasi, "Ayşe");
     const auto olmadi = SirketTasi(Veri(), dizin, {.kod = "DENEME"});
     ASSERT_FALSE(olmadi);

@@ -169,7 +169,7 @@ TEST_F(SirketYedegi, RefusedWhileSomebodyIsIn) {
   const AlinanYedek yedek = Al("DENEME");
   test::Kapi acildi;
   test::Surec baskasi([&] {
-    (void)SirketAc(o, "deneme", b);
+    (void)SirketAc(o, "deneme");
     acildi.Ac();
     return ::pause();
   });

@@ -21,7 +21,7 @@ TEST_F(YeniSirketTest, KilledAnywhereItIsWholeOrNotThere) {
   const auto kur = [&](const std::string& veri, Oturum& yeni) {
     yeni.DataPath = veri;
     return SirketKur(yeni,
-                     {.ad = "dar", .kullanici = " ali ", .sifre = "x", .kart = [](Firma& f) { f.unvan = "Örgü"; }}, b);
+                     {.ad = "dar", .kullanici = " ali ", .sifre = "x", .kart = [](Firma& f) { f.unvan = "Örgü"; }});
   };
   const auto kes = [&](const std::string& veri, int no) {
     const auto is = [&] {
@@ -47,7 +47,7 @@ TEST_F(YeniSirketTest, KilledAnywhereItIsWholeOrNotThere) {
     const auto adlar = Sirketler(veri);
     ASSERT_LE(adlar.size(), 1u);
     tam += int(adlar.size());
-    ASSERT_TRUE(adlar.empty() ? kur(veri, okuyan) : SirketAc(okuyan, "DAR", b));
+    ASSERT_TRUE(adlar.empty() ? kur(veri, okuyan) : SirketAc(okuyan, "DAR"));
     EXPECT_EQ(okuyan.depo.peruser.KayitSayisi(), 1);
     EXPECT_TRUE(OturumAc(okuyan, "dar", "ali", "x"));
     EXPECT_EQ(okuyan.firma.unvan, "Örgü");
@@ -60,15 +60,15 @@ TEST_F(YeniSirketTest, RefusedLeavesNothing) {
   Kur("eski");
   const Firma kart = o.firma;
   const auto uzunUnvan = [](Firma& f) { f.unvan = std::string(41, 'x'); };
-  const auto sonuc = SirketKur(o, {.ad = "yeni", .kullanici = "a", .sifre = "", .kart = uzunUnvan}, b);
+  const auto sonuc = SirketKur(o, {.ad = "yeni", .kullanici = "a", .sifre = "", .kart = uzunUnvan});
   ASSERT_FALSE(sonuc);
   EXPECT_TRUE(sonuc.KusurMetni().find("en çok 40 harf") != std::string::npos) << sonuc.KusurMetni();
   EXPECT_TRUE(o.firma == kart && !o.depo.db.AcikMi());
-  EXPECT_FALSE(SirketKur(o, {.ad = "yeni", .kullanici = "çokuzunad", .sifre = ""}, b));
+  EXPECT_FALSE(SirketKur(o, {.ad = "yeni", .kullanici = "çokuzunad", .sifre = ""}));
   // Another one takes the name while the store is made.
   const VeriYolu veriYolu(o.DataPath);
   const auto araya = [&](Firma&) { test::BosSirket(o.DataPath, "YENİ"); };
-  EXPECT_EQ(SirketKur(o, {.ad = "yeni", .kullanici = "a", .sifre = "", .kart = araya}, b).KusurMetni(),
+  EXPECT_EQ(SirketKur(o, {.ad = "yeni", .kullanici = "a", .sifre = "", .kart = araya}).KusurMetni(),
             "Bu adda bir şirket var: YENİ");
   EXPECT_TRUE(veriYolu.Alt("YENİ").Dosyalar().empty());
   EXPECT_EQ(Sirketler(o.DataPath), (std::vector<std::string>{"ESKİ", "YENİ"}));
@@ -85,7 +85,7 @@ TEST_F(YeniSirketTest, WhatIsBeingMadeIsNotTakenForAHalfOne) {
     for (const auto& g : fs::directory_iterator(o.DataPath))
       EXPECT_FALSE(SirketSil(o.DataPath, g.path().filename().string(), Oturum(), b));
   };
-  ASSERT_TRUE(SirketKur(o, {.ad = "yeni", .kullanici = "a", .sifre = "", .kart = bak}, b));
+  ASSERT_TRUE(SirketKur(o, {.ad = "yeni", .kullanici = "a", .sifre = "", .kart = bak}));
   EXPECT_EQ(Sirketler(o.DataPath), std::vector<std::string>{"YENİ"});
 }
 

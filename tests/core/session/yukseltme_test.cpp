@@ -31,9 +31,14 @@ struct Yukseltme : test::OrnekOturum {
 
   void Yaslandir() {
     test::DepoyuYaslandir(o);
-    ASSERT_TRUE(SirketAc(o, "deneme", b));
+    ASSERT_TRUE(SirketAc(o, "deneme"));
   }
-  GuncellemeSonucu Adim(std::size_t no) { return VeritabaniGuncelle(o, no, Taban, b); }
+  GuncellemeSonucu Soyle(const Gelisme<GuncellemeSonucu>& gelisme) {
+    for (const Kusur& soz : gelisme.sozler) b.KusuruGoster(soz);
+    return gelisme.hal;
+  }
+  GuncellemeSonucu Adim(std::size_t no) { return Soyle(VeritabaniGuncelle(o, no, Taban)); }
+  GuncellemeSonucu Yurut(const AdimIsaretleri& isaretli) { return Soyle(AdimlariYurut(o, isaretli, Taban)); }
   std::vector<std::size_t> Eksik() {
     std::vector<std::size_t> adimlar;
     for (const EksikAdim& e : EksikAdimlar(o.depo.db.IcMotor())) adimlar.push_back(e.adim);
@@ -101,7 +106,7 @@ TEST_F(Yukseltme, RepeatedSteps) {
       "'', '', 1)");
   Sql("insert into brd (kod, ogv, katki, sskmatrahisveren, sendika) values ('1', 5, 6, 9000000, 8)");
   Sql("drop index brd_ay");  // an earlier version knew nothing of it
-  ASSERT_EQ(AdimlariYurut(o, {true, true, true, true, true, true, false}, Taban, b), GuncellemeSonucu::Tamam);
+  ASSERT_EQ(Yurut({true, true, true, true, true, true, false}), GuncellemeSonucu::Tamam);
   EXPECT_THAT(DepoKusurlari(o.depo.db.IcMotor()), testing::Each(testing::Field(&Kusur::derece, Derece::Uyari)))
       << "no index is missing";
   EXPECT_EQ(Satir("select epos || kanun, tersfirma, versiyon from firma"), "00000 0 2003.6");
@@ -145,7 +150,7 @@ TEST_F(Yukseltme, HalfStoresNameTheStepThatIsMissing) {
 TEST_F(Yukseltme, OneStepAloneLeavesAStoreThatSaysSo) {
   Yaslandir();
   Sql("insert into sicil (kod) values ('1')");
-  ASSERT_EQ(AdimlariYurut(o, {true}, Taban, b), GuncellemeSonucu::Tamam);
+  ASSERT_EQ(Yurut({true}), GuncellemeSonucu::Tamam);
   EXPECT_TRUE(VersiyonKontrol(o)) << "the version alone says that it is new";
   EXPECT_EQ(Eksik(), (std::vector<std::size_t>{1, 2, 3, 4, 5, 6}));
   const Iletiler soylenen = b.Al();
@@ -164,20 +169,20 @@ TEST_F(Yukseltme, OneStepAloneLeavesAStoreThatSaysSo) {
 TEST_F(Yukseltme, TellsHowManyCardsGetAnotherKindOfInsurance) {
   Sql("insert into sicil (kod, sskdurum, tur) values ('1', 0, 0), ('2', 1, 0), ('3', 4, 1), ('4', 4, 0), ('5', 0, 2)");
   b.cevap = false;
-  EXPECT_TRUE(SigortaTuruOnayi(o, {true, true}, b)) << "only that step is asked about";
+  EXPECT_TRUE(*SigortaTuruOnayi(o, {true, true}, b)) << "only that step is asked about";
   EXPECT_EQ(b.Al(), Iletiler{});
-  EXPECT_FALSE(SigortaTuruOnayi(o, Hepsi, b));
+  EXPECT_FALSE(*SigortaTuruOnayi(o, Hepsi, b));
   EXPECT_EQ(b.Al(), Iletiler{"Soru: Bütün Kartların SSK Durumu Yeniden Yazılacak Eminmisiniz ?\n"
                              "2003.6' den 2003.7 ' ye Geçiş: 5 karttan 3 kart değişecek"});
   ASSERT_EQ(Adim(6), GuncellemeSonucu::Tamam);
-  EXPECT_TRUE(SigortaTuruOnayi(o, Hepsi, b)) << "nothing is left to change";
+  EXPECT_TRUE(*SigortaTuruOnayi(o, Hepsi, b)) << "nothing is left to change";
 }
 
 TEST_F(Yukseltme, ChainStopsAtTheFirstFailure) {
-  EXPECT_EQ(AdimlariYurut(o, {}, Taban, b), GuncellemeSonucu::IsaretYok);
+  EXPECT_EQ(Yurut({}), GuncellemeSonucu::IsaretYok);
   EXPECT_EQ(b.Al(), Iletiler{"Uyarı: İşaretleme Yapılmamış.."});
   Sql("delete from firma; insert into sicil (kod, tur) values ('1', 5)");
-  EXPECT_EQ(AdimlariYurut(o, Hepsi, Taban, b), GuncellemeSonucu::Basarisiz);
+  EXPECT_EQ(Yurut(Hepsi), GuncellemeSonucu::Basarisiz);
   EXPECT_EQ(b.Al(), (Iletiler{"Uyarı: 2003.2' den 2003.3 ' ye Geçiş\nyapılamadı: firma kaydı yok, versiyon yazılamadı",
                               YedekIletisi()}));
   EXPECT_EQ(Satir("select tur, agi from sicil"), "5 -") << "later steps have not run";
@@ -193,13 +198,13 @@ TEST_F(Yukseltme, ChainStopsAtTheFirstFailure) {
 TEST_F(Yukseltme, StoreThatCannotBeOpenedAgain) {
   Sql("drop table kimlik");
   EXPECT_EQ(Adim(3), GuncellemeSonucu::Basarisiz);
-  EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Sicil SQL Tablosu Açılamadı"});
+  EXPECT_THAT(b.Al(), testing::ElementsAre(testing::StartsWith("Uyarı: Sicil SQL Tablosu Açılamadı\n")));
   EXPECT_EQ(Adim(0), GuncellemeSonucu::ProgramBitsin);
-  EXPECT_EQ(b.Al().back(), "Uyarı: Database Tekrar Açılamadı");
+  EXPECT_THAT(b.Al(), testing::ElementsAre(testing::StartsWith("Uyarı: Database Tekrar Açılamadı\nSicil SQL")));
   MotorDosyasiniSil(o.FirmaDizini + DepoDosyasi);
   EXPECT_EQ(Adim(1), GuncellemeSonucu::ProgramBitsin);
-  EXPECT_EQ(b.Al(), Iletiler{"Uyarı: Dosyalar Güvenli Kapatılıp Açılamadı.."});
-  EXPECT_EQ(AdimlariYurut(o, Hepsi, Taban, b), GuncellemeSonucu::Basarisiz) << "no step without a copy";
+  EXPECT_THAT(b.Al(), testing::ElementsAre(testing::StartsWith("Uyarı: Dosyalar Güvenli Kapatılıp Açılamadı..\n")));
+  EXPECT_EQ(Yurut(Hepsi), GuncellemeSonucu::Basarisiz) << "no step without a copy";
   EXPECT_THAT(b.Al(), testing::ElementsAre(testing::HasSubstr("yedek alınamadı, hiçbir geçiş yapılmadı")));
 }
 

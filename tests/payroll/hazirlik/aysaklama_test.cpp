@@ -114,7 +114,7 @@ TEST_F(AySaklama, KilledItIsTheOneMonthOrTheOther) {
         [&] {
           Oturum yeni;
           yeni.DataPath = o.DataPath;
-          if (SirketAc(yeni, "DENEME", bildirim)) (void)AyiGeriAl(yeni, 2009, 2, bildirim);
+          if (SirketAc(yeni, "DENEME")) (void)AyiGeriAl(yeni, 2009, 2, bildirim);
         },
         no);
   };

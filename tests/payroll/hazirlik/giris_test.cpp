@@ -18,28 +18,28 @@ TEST(BordroGirisi, WalksOverWhoDoesNotBelongToThePeriod) {
   e.Kisi("D", 900, Tarih(2009, 1, 20));
   e.motor().Calistir("update firma set issaati = 0");
   e.Ac(2009, 1);
-  EXPECT_EQ(e.giris.KodAl(" A1 "), KodSonucu::Yuklendi);
+  EXPECT_EQ(e.KodAl(" A1 "), KodSonucu::Yuklendi);
   EXPECT_TRUE(e.giris.AlanAcik(BordroAlani::HaftaTatili));
   EXPECT_FALSE(e.giris.AlanAcik(BordroAlani::UcretliIzin)) << "the built-in group opens the first two lines alone";
   e.giris.AlanaGirildi(BordroAlani::NormalGun);
-  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::SonrakiVar);
+  EXPECT_EQ(e.Kapat(), KapanisSonucu::SonrakiVar);
   EXPECT_EQ(e.giris.Kod(), "D");
-  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::Kapanmadi) << "who is saved is closed";
-  EXPECT_EQ(e.giris.KodAl("d"), KodSonucu::Yuklendi);
+  EXPECT_EQ(e.Kapat(), KapanisSonucu::Kapanmadi) << "who is saved is closed";
+  EXPECT_EQ(e.KodAl("d"), KodSonucu::Yuklendi);
   EXPECT_EQ(e.giris.CalismaPaneli()->gun, 12);
   e.giris.Giris().ng = 7;
-  e.giris.KodAl("D");
+  e.KodAl("D");
   EXPECT_EQ(e.giris.Giris().ng, 7) << "who is being entered is not read again";
-  EXPECT_EQ(e.giris.KodAl("B"), KodSonucu::DonemDisi);
+  EXPECT_EQ(e.KodAl("B"), KodSonucu::DonemDisi);
   EXPECT_FALSE(e.giris.AlanAcik(BordroAlani::NormalGun));
-  EXPECT_EQ(e.giris.KodAl("yok"), KodSonucu::Bilinmiyor);
+  EXPECT_EQ(e.KodAl("yok"), KodSonucu::Bilinmiyor);
   EXPECT_THAT(e.bildirim.Al(),
               ElementsAre("Bilgi: Firma Bilgilerinde İş Saati Yazılmamış", "Bilgi: Personel Giriş Tarihi Hatalı",
                           "Bilgi: Bu İşçinin Giriş veya Çıkış Tarihleri Döneme Uygun Değil",
                           "Bilgi: Bu kodla personel yok: YOK"));
   e.motor().Calistir("delete from firma");
   EXPECT_FALSE(FirmaYukle(e.o));
-  EXPECT_FALSE(e.giris.Ac());
+  EXPECT_EQ(e.giris.Ac().KusurMetni(), "İşyeri Tanımlamaları Yapılmamış");
 }
 
 // Another month's law is asked about once and may stay, the user's own figures are confirmed for good, and without law
@@ -51,32 +51,32 @@ TEST(BordroGirisi, NoMonthIsPaidUnderAnotherMonthsLawWithoutAWord) {
   const auto kur = [&](MevzuatAyi ay) { test::Al(MevzuatKur(e.o.DataPath, ay, *ParametreAdresi(ay.yil, ay.ay))); };
   kur({2009, 7});  // a colleague has fetched another month meanwhile
   e.bildirim.cevap = false;
-  EXPECT_EQ(e.giris.KodAl("1"), KodSonucu::Yuklendi);
+  EXPECT_EQ(e.KodAl("1"), KodSonucu::Yuklendi);
   EXPECT_THAT(e.bildirim.Al(), ElementsAre(testing::AllOf(testing::StartsWith("Soru: Kurulu yasal parametreler Ocak"),
                                                           testing::HasSubstr("(Temmuz 2009)"),
                                                           testing::HasSubstr("693.00 (yayımlanan 666.00)"))));
   EXPECT_EQ(e.depo.yasal.oranlar.AsgariUcret, Tutar(693)) << "what is installed holds here too";
-  EXPECT_EQ(e.giris.KodAl("2"), KodSonucu::Yuklendi);
+  EXPECT_EQ(e.KodAl("2"), KodSonucu::Yuklendi);
   EXPECT_THAT(e.bildirim.Al(), testing::IsEmpty()) << "answered once";
 
   e.bildirim.cevap = true;
   kur({2009, 7});
   e.depo.YasalYukle(e.o.DataPath);
-  EXPECT_TRUE(e.giris.MevzuatUygun());
+  EXPECT_TRUE(e.MevzuatUygun());
   EXPECT_EQ(e.depo.yasal.oranlar.AsgariUcret, Tutar(666)) << "fetched";
   EXPECT_EQ(e.bildirim.Al().size(), 2u);
 
   YasalOranlar kendi = e.depo.yasal.oranlar;
   kendi.KidemTavan = Tutar(3000);
   ASSERT_TRUE(YasalOranlarKaydet(e.o.DataPath, kendi));
-  EXPECT_TRUE(e.giris.MevzuatUygun());
+  EXPECT_TRUE(e.MevzuatUygun());
   EXPECT_THAT(e.bildirim.Al(), ElementsAre(testing::HasSubstr("Kıdem T. Tavan: 3,000.00 (yayımlanan 2,260.05)")));
-  EXPECT_TRUE(e.giris.MevzuatUygun());
+  EXPECT_TRUE(e.MevzuatUygun());
   EXPECT_THAT(e.bildirim.Al(), testing::IsEmpty()) << "confirmed";
 
   ASSERT_TRUE(VeriYolu(e.o.DataPath).Sil("gvtbl.dat"));
   e.bildirim.cevap = false;
-  EXPECT_EQ(e.giris.KodAl("1"), KodSonucu::Yuklenemedi);
+  EXPECT_EQ(e.KodAl("1"), KodSonucu::Yuklenemedi);
   EXPECT_THAT(e.bildirim.Al(), ElementsAre(testing::HasSubstr("gvtbl.dat yok")));
   EXPECT_FALSE(e.giris.SablondanHazirla());
   EXPECT_TRUE(e.Kayitlar(2009, 1).empty());
@@ -86,7 +86,7 @@ TEST(BordroGirisi, TotalsDebtAndNetToGross) {
   GirisEkrani e;
   e.Kisi("1", 693);
   e.Ac(2009, 7);
-  e.giris.KodAl("1");
+  e.KodAl("1");
   const EkranToplamlari& t = e.giris.Toplamlar();
   EXPECT_EQ(t.yasalKesinti, Tutar(189.54)) << "premium, income tax, stamp duty";
   EXPECT_EQ(t.isciToplam, Tutar(196.47)) << "and unemployment";
@@ -98,10 +98,10 @@ TEST(BordroGirisi, TotalsDebtAndNetToGross) {
   EXPECT_EQ(e.giris.BorcLimiti(), Tutar(546.48));
 
   e.giris.Giris().yrd02 = Tutar(477);
-  e.giris.NettenBruteCevir(YardimAlani(1));
+  EXPECT_TRUE(e.giris.NettenBruteCevir(YardimAlani(1)));
   EXPECT_EQ(e.giris.Giris().yrd02, Tutar(665.73));
   e.giris.Giris().fm1 = Tek(241);
-  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::KaldiHesapsiz);
+  EXPECT_EQ(e.Kapat(), KapanisSonucu::KaldiHesapsiz);
   EXPECT_TRUE(e.giris.HesapKusuru()->alan == brd::fm1);
   EXPECT_EQ(t.net, Tutar());
 }
@@ -111,7 +111,7 @@ TEST(BordroGirisi, OvertypedRatesAreCalculatedSavedAndComeBack) {
   GirisEkrani e;
   e.Kisi("1", 900);
   e.Ac(2009, 1);
-  e.giris.KodAl("1");
+  e.KodAl("1");
   EXPECT_EQ(e.giris.KisiUyarisi(), "");
   Brd& b = e.giris.Giris();
   b.sskiscior = Tek(9);
@@ -119,14 +119,14 @@ TEST(BordroGirisi, OvertypedRatesAreCalculatedSavedAndComeBack) {
   b.issiziscior = Tek(2);
   b.issizisverenor = Tek(3);
   b.damgaveror = Tek(7);
-  EXPECT_EQ(e.giris.Kapat(), KapanisSonucu::Bitti) << "a changed rate alone is an entry";
+  EXPECT_EQ(e.Kapat(), KapanisSonucu::Bitti) << "a changed rate alone is an entry";
   const Brd k = e.Kayit("1", 2009, 1);
   EXPECT_EQ(k.sskkesinti, Tutar(81));
   EXPECT_EQ(k.sskkesintiisveren, Tutar(90));
   EXPECT_EQ(k.issizisci, Tutar(18));
   EXPECT_EQ(k.issizisveren, Tutar(27));
   EXPECT_EQ(k.dvtutar, Tutar(6.3));
-  e.giris.KodAl("1");
+  e.KodAl("1");
   for (const OranKolonu& oran : OranKolonlari) EXPECT_EQ(e.giris.Giris().*oran.kolon.uye, k.*oran.kolon.uye) << oran.ad;
   EXPECT_EQ(e.giris.KisiUyarisi(),
             "Kayıttaki oranlar kullanılıyor; tablodakiler: SSK İşçi % 14, SSK İşveren % 19.5, İşsizlik İşçi % 1, "
@@ -148,7 +148,7 @@ TEST(BordroGirisi, CompanyWithoutADefaultGroupOrReadableParameters) {
   EXPECT_EQ(toplu.sorunlar[0].metin,
             "Hesap Kodu boş, Firma Bilgilerinde Öndeğer Hesap da yazılmamış: \"Personel\" grubuyla hesaplanır");
   e.Ac(2009, 1);
-  e.giris.KodAl("1");
+  e.KodAl("1");
   EXPECT_EQ(e.giris.KisiUyarisi(), toplu.sorunlar[0].metin);
   EXPECT_GT(e.giris.Toplamlar().net, Tutar());
 
@@ -158,7 +158,6 @@ TEST(BordroGirisi, CompanyWithoutADefaultGroupOrReadableParameters) {
   e.motor().Calistir("alter table kaztan rename to kaztan2");
   e.bildirim.Al();
   EXPECT_FALSE(e.giris.Ac());
-  EXPECT_EQ(e.bildirim.Al().size(), 1u);
   EXPECT_TRUE(e.depo.firma.Parametreler().gruplar.empty()) << "those of the company before are gone";
 }
 

@@ -52,12 +52,13 @@ std::vector<GirisSatiri> OrnekGirisleri(int yil, int ay) {
 }
 
 // Types the month as a user would, from the first person to the last.
-void AyiGir(BordroGirisi& giris, const std::vector<GirisSatiri>& girisler) {
-  auto ilk = giris.Git(Yon::Ilk);
-  while (ilk == KodSonucu::DonemDisi) ilk = giris.Git(Yon::Sonraki);
+void AyiGir(GirisEkrani& e, const std::vector<GirisSatiri>& girisler) {
+  BordroGirisi& giris = e.giris;
+  auto ilk = e.Soyle(giris.Git(Yon::Ilk));
+  while (ilk == KodSonucu::DonemDisi) ilk = e.Soyle(giris.Git(Yon::Sonraki));
   auto sonuc = KapanisSonucu::SonrakiVar;
   while (sonuc == KapanisSonucu::SonrakiVar) {
-    giris.KodAl(giris.Kod());
+    e.KodAl(giris.Kod());
     for (const GirisSatiri& g : girisler) {
       if (g.kod != giris.Kod()) continue;
       Brd::HerKolon([&](const auto& kolon) {
@@ -71,7 +72,7 @@ void AyiGir(BordroGirisi& giris, const std::vector<GirisSatiri>& girisler) {
     const auto& panel = giris.Toplamlar().panel;
     EXPECT_EQ(panel.toplam, panel.muaf + panel.indirim) << giris.Kod();
     giris.AlanaGirildi(BordroAlani::NormalGun);
-    sonuc = giris.Kapat();
+    sonuc = e.Kapat();
   }
   EXPECT_EQ(sonuc, KapanisSonucu::Bitti) << giris.Kod();
 }
@@ -95,7 +96,7 @@ TEST(BordroGirisi, GivesTheSampleCompanyTheRecordsOfTheMassRun) {
     for (int ay = 1; ay <= 12; ++ay) {
       e.Ac(yil, ay);
       const auto girisler = OrnekGirisleri(yil, ay);
-      AyiGir(e.giris, girisler);
+      AyiGir(e, girisler);
       const auto ekrandan = e.Kayitlar(yil, ay);
       ASSERT_TRUE(BordroSil(e.o, yil, ay));
       ASSERT_TRUE(test::Al(TopluHazirla(e.o, e.Kosul(yil, ay), girisler)).kaydedildi);

@@ -31,7 +31,7 @@ struct Sirket {
 
   Sirket() {
     o.DataPath = veriYeri.Yer();
-    Al(SirketOlustur(o, "DENEME", "a", "", bildirim));
+    Al(SirketOlustur(o, "DENEME", "a", ""));
     FirmaYukle(o);
   }
 

@@ -34,7 +34,7 @@ struct Sirketlerin : Sirket {
   void Ekle(const std::string& ad, const std::function<void(Motor&)>& doldur = {}, int yil = 2009, int ay = 7) {
     Oturum yeni;
     yeni.DataPath = o.DataPath;
-    Al(SirketOlustur(yeni, ad, "a", "", bildirim));
+    Al(SirketOlustur(yeni, ad, "a", ""));
     Ay(yeni, yil, ay);
     if (doldur) doldur(yeni.depo.db.IcMotor());
   }
@@ -49,7 +49,7 @@ struct Sirketlerin : Sirket {
   std::size_t KayitSayisi(const std::string& ad) {
     Oturum diger;
     diger.DataPath = o.DataPath;
-    Al(SirketAc(diger, ad, bildirim));
+    Al(SirketAc(diger, ad));
     return KayitlariOku<Brd>(diger.depo.db.IcMotor()).size();
   }
 };

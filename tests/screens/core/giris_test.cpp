@@ -134,7 +134,7 @@ TEST_F(GirisEkrani, AcceptNeedsCompanyAndUserButNoPassword) {
 }
 
 TEST_F(GirisEkrani, PickerFillsTheCompanyFromEveryField) {
-  EXPECT_TRUE(SirketOlustur(ortam.oturum, "ÖRGÜ", "ali", "x", ortam.bildirim));
+  EXPECT_TRUE(SirketOlustur(ortam.oturum, "ÖRGÜ", "ali", "x"));
   Ac("", "ayse");
   EkranOrtami::ModaldaYap([&] {
     ortam.Yaz("tes");

@@ -134,7 +134,7 @@ TEST(Firsil, DeletesWhatWasChosenAndNothingElse) {
   {
     Oturum diger;
     diger.DataPath = veri;
-    for (const char* ad : {"ESKİ", "KALAN"}) ASSERT_TRUE(SirketOlustur(diger, ad, "ali", "x", ortam.bildirim));
+    for (const char* ad : {"ESKİ", "KALAN"}) ASSERT_TRUE(SirketOlustur(diger, ad, "ali", "x"));
   }
   auto& form = ortam.Ac<firsil>();
   const auto& sil = *form.findChild<xButton*>("Command2");
@@ -196,7 +196,7 @@ TEST(MuhbilYapifrm, AreKept) {
 TEST(DbupdateEkrani, BringsAnOldStoreUp) {
   EkranOrtami ortam;
   DepoyuYaslandir(ortam.oturum);
-  ASSERT_TRUE(SirketAc(ortam.oturum, "TEST", ortam.bildirim));
+  ASSERT_TRUE(SirketAc(ortam.oturum, "TEST"));
   EkranOrtami::ModaldaYap([&] {
     auto& form = *QApplication::activeModalWidget()->findChild<Dbupdate*>();
     EXPECT_EQ(ortam.Odak(), "Check1(0)");

@@ -54,7 +54,7 @@ TEST(Yedekfrm, TheOpenCompanyIsLeftAndReplaced) {
   EXPECT_TRUE(getir());
   EXPECT_THAT(o.bildirim.Al().at(1), StartsWith("Bilgi: Yedek geri yüklendi: TEST\nÖnceki hali yedeklendi:"));
   EXPECT_FALSE(o.oturum.depo.db.AcikMi());
-  ASSERT_TRUE(SirketAc(o.oturum, "TEST", o.bildirim) && FirmaYukle(o.oturum));
+  ASSERT_TRUE(SirketAc(o.oturum, "TEST") && FirmaYukle(o.oturum));
   EXPECT_NE(o.oturum.firma.unvan, "sonraki");
 }
 

@@ -133,7 +133,7 @@ TEST_F(KisiEkranlari, TheReportIsReadAndNarrowed) {
 TEST_F(KisiEkranlari, AnotherCompanysPeopleAreFoundAndBrokenStoresPassedOver) {
   Oturum obur;
   obur.DataPath = ortam.oturum.DataPath;
-  ASSERT_TRUE(SirketOlustur(obur, "ÖRGÜ", "a", "", ortam.bildirim));
+  ASSERT_TRUE(SirketOlustur(obur, "ÖRGÜ", "a", ""));
   Sicil s;
   s.kod = "7";
   s.adi = "Işılay";

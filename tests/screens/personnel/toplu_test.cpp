@@ -151,7 +151,7 @@ TEST_F(TopluEkranlar, APersonIsCopiedAndLeaves) {
   {
     Oturum hedef;
     hedef.DataPath = hedef.PrgPath = ortam.oturum.DataPath;
-    ASSERT_TRUE(SirketOlustur(hedef, "ÖBÜR", "a", "", ortam.bildirim));
+    ASSERT_TRUE(SirketOlustur(hedef, "ÖBÜR", "a", ""));
     SirketKapat(hedef);
   }
   auto& form = ortam.Ac<pertrans>();
