@@ -43,7 +43,7 @@ struct SunucudakiSirketler {
 
   BakanRol rol;
   test::VeriYeri yer;
-  test::Komut komut;
+  test::CliKomutu komut;
 };
 
 struct SunucudaToplu : testing::Test {
