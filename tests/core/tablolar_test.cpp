@@ -146,7 +146,8 @@ TEST(DegerKusuru, LimitsOfColumns) {
     EXPECT_EQ(metinKusuru, kusur);
   }
   EXPECT_EQ(EnBuyukGirdi(brd::ng), 30);
-  EXPECT_EQ(EnBuyukGirdi(brd::ay), 255);
+  EXPECT_EQ(EnBuyukGirdi(brd::ay), 12);
+  EXPECT_EQ(EnBuyukGirdi(brd::no), 255);
 }
 
 TEST(MetindenDeger, ValuesAndFaults) {

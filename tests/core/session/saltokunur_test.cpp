@@ -127,7 +127,7 @@ TEST_F(SaltOkunurTest, ALookChangesNothing) {
 TEST_F(SaltOkunurTest, WhoLooksCannotBeginToWrite) {
   Kur();
   SirketKapat(o);
-  ASSERT_TRUE(SirketAc(o, "deneme", b, SirketErisimi::YalnizBakis));
+  ASSERT_TRUE(SirketAc(o, "deneme", SirketErisimi::YalnizBakis));
   const auto islem = o.depo.db.Koru(false, [&] {
     Islem(o.depo.db.IcMotor()).Onayla();
     return true;
