@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include "payroll/hesap/kahin.h"
+
 namespace belvani {
 namespace {
 
@@ -70,7 +72,8 @@ TEST(OzelGider, FromTheYear2004On) {
   EXPECT_EQ(Hakedis(ozel2004, 2004, 12000, 0, 0), Tutar());
 }
 
-// The rule told again, in whole kuruş and with brackets as differences of sums.
+// The rule told again, in whole kuruş and with brackets as differences of sums. A difference of amounts is an amount:
+// what doubles lose in it would decide a kuruş at a half.
 double IkinciAnlatim(const GvTablosu& tablo, double oran, int yil, double matrah, double vergi, double harcama) {
   const auto y = [](double d) { return std::nearbyint((d + 0.00005) * 100) / 100; };
   const auto vergisi = [&](double m) {
@@ -78,14 +81,14 @@ double IkinciAnlatim(const GvTablosu& tablo, double oran, int yil, double matrah
     for (std::size_t i = 0; i < 8; ++i) {
       const double ust = tablo.GvLimit[i].Sayi();
       if (ust == 0) continue;
-      if (m > alt) toplam += y((m >= ust ? ust - alt : m - alt) * tablo.GvOran[i].Sayi() / 100);
+      if (m > alt) toplam += y(test::Para(m >= ust ? ust - alt : m - alt) * tablo.GvOran[i].Sayi() / 100);
       alt = ust;
     }
     return toplam;
   };
   if (yil >= 2004) return y(vergisi(harcama > matrah ? matrah : harcama));
   const double p = y(matrah * oran / 100), c = y(harcama / 3);
-  return vergi - y(vergisi(y(matrah - (p > c ? c : p))));
+  return vergi - y(vergisi(y(test::Para(matrah - (p > c ? c : p)))));
 }
 
 RC_GTEST_PROP(OzelGider, AgreesWithASecondTelling, ()) {
