@@ -33,7 +33,7 @@ screenshots: deps
 test: deps
 	cmake --preset $(PRESET)
 	cmake --build --preset $(PRESET) -j $(JOBS)
-	ctest --preset $(PRESET) -j $(JOBS)
+	ctest --preset $(PRESET) -j $$(($(JOBS) + 1))
 
 # The approved records of all papers, written anew from what the program does now. Read their diff before it is
 # committed: it is what changes on paper.

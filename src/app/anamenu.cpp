@@ -68,7 +68,8 @@ anamenu::anamenu(EkranBaglami& ekran, ParametreDeposu& parametreler)
 
 anamenu::~anamenu() {
   parametreler_.firma.Degisti = [] {};
-  qDeleteAll(alan_->subWindowList());  // nobody is there to be asked any more
+  hide();  // nobody is there to be asked any more, nor told
+  qDeleteAll(alan_->subWindowList());
 }
 
 // What this computer shows for the company.

@@ -51,10 +51,10 @@ bool dclistHucre::eventFilter(QObject* nesne, QEvent* olay) {
   if (duzenleyici == nullptr) return false;
   if (olay->type() == QEvent::FocusOut) {
     // Another cell or field was gone to: what was typed is taken if it can stand. A message box or a drop-down list is
-    // no reason to end.
+    // no reason to end, and where the window goes nobody is there to be told.
     const auto neden = static_cast<QFocusEvent*>(olay)->reason();
     const bool kutu = neden == Qt::PopupFocusReason || neden == Qt::ActiveWindowFocusReason;
-    if (!kutu && !liste_.Bitiriliyor()) liste_.HucreBitir(duzenleyici);
+    if (!kutu && !liste_.Bitiriliyor() && liste_.window()->isVisible()) liste_.HucreBitir(duzenleyici);
     return false;
   }
   if (olay->type() != QEvent::KeyPress) return QStyledItemDelegate::eventFilter(nesne, olay);

@@ -15,7 +15,7 @@ TEST(OzelGiderKomutlari, FromTheDeclaredExpensesToTheLists) {
   ASSERT_EQ(s("parametre-kur --donem 2005-01").durum, 0);
   s.Yaz("p.csv", "kod;adi;soyadi;girtar\n001;Işıl;Çağlar;01.01.2003\n002;Ömer;Ünal;01.01.2003\n");
   ASSERT_EQ(s("personel-al a @p.csv").durum, 0);
-  s.Yaz("h.csv", "kod;harcama;gvmatrah\n001;3500,00;12000\n002;900;800\n");
+  s.Yaz("h.csv", "harcama;kod;gvmatrah\n3500,00;001;12000\n900;002;800\n");
 
   const auto bos = s("ogi-harcama a @h.csv --yil 2004");
   EXPECT_EQ(bos.durum, 1);

@@ -171,6 +171,8 @@ TEST(FormResimleri, PagesOfMissingDays) {
     form.kisiler.resize(std::size_t(kisi));
     EXPECT_EQ(Ek10Resmi(form).size(), std::size_t(sayfa)) << kisi;
   }
+  form.kisiler[20].adi = "Çağ";
+  EXPECT_EQ(FormDegeri(Ek10Resmi(form).at(1), "kisi21.adi"), "Çağ") << "the next page goes on";
 }
 
 }  // namespace

@@ -22,6 +22,14 @@ std::string Sablon() {
   return DosyaOku(test::KaynakYolu("data/sablon/aylik.xlsx")).value();
 }
 
+// What is shipped is what its drawer draws.
+TEST(BildirgeTablosu, TheShippedFormIsDrawnByItsProgram) {
+  const test::GeciciDizin dizin;
+  const std::string cizilen = dizin.Yol() + "aylik.xlsx";
+  ASSERT_EQ(std::system((BELVANI_SABLON " " + cizilen).c_str()), 0);
+  EXPECT_TRUE(DosyaOku(cizilen).value() == Sablon());
+}
+
 TEST(BildirgeTablosu, CellsStandAtTheirAddresses) {
   BildirgeKagidi kagit = Kagit(2);
   kagit.satirlar.push_back(test::Satir("sigkol=|tcno=1|primkazanc=5000|gun=9"));

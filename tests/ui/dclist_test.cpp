@@ -99,6 +99,21 @@ TEST(Dclist, ARefusedRowStaysAsTypedAndIsOfferedAgain) {
   EXPECT_EQ(l.liste.TextByName(0, "kod"), "B");
 }
 
+// A box in the middle of a window's end would wait for somebody who is not there.
+TEST(Dclist, AWindowThatGoesTellsNothingOfItsOpenCell) {
+  for (const bool gizli : {false, true}) {
+    ListeOrtami l;
+    EkranOrtami::Bas(Qt::Key_Insert);
+    EkranOrtami::Yaz("K\n99");
+    QWidget* hucre = QApplication::focusWidget();
+    ASSERT_NE(qobject_cast<xtext*>(hucre), nullptr);
+    if (gizli) l.pencere.hide();
+    QFocusEvent olay(QEvent::FocusOut, Qt::OtherFocusReason);
+    QApplication::sendEvent(hucre, &olay);
+    EXPECT_EQ(l.bildirim.Al().empty(), gizli);
+  }
+}
+
 TEST(Dclist, SortsAndFiltersByTheTurkishAlphabet) {
   ListeOrtami l;
   for (const char* kod : {"IŞIK", "ilk", "Çan", "Can", "Dal", "İLKE"}) l.liste.Text(l.liste.Add(), 0, kod);

@@ -19,7 +19,6 @@
 namespace belvani {
 namespace {
 
-constexpr int IlkMevzuatYili = 2003;
 constexpr int EskiLiraSonYili = 2004;
 constexpr double EnCokFark = 1.0;
 
@@ -111,7 +110,6 @@ class BordroDenetimi {
   using Ay = std::pair<int, int>;
 
   std::string MevzuatFarki(const Brd& b) {
-    if (b.yil < IlkMevzuatYili || b.ay < 1 || b.ay > 12) return {};
     std::string fark;
     for (const YasalParametreler& yayimlanan : Yayimlananlar({b.yil, b.ay}))
       if (fark = BaskaMevzuat(b, yayimlanan); fark.empty()) return {};

@@ -44,6 +44,10 @@ TEST_F(SirketDenetimi, NamesTheMonthOfAnotherLawOnce) {
   motor().Calistir("update brd set sskiscior = 13.7, sskkesinti = round(sskmatrah * 0.137) where kod = '2'");
   EXPECT_EQ(Bulunan(),
             "||Ocak 2009 bordrosunda 2 kayıt başka bir ayın mevzuatıyla hesaplanmış (damga vergisi oranı)\n");
+  for (const char* zaman : {"yil = 2009, ay = 0", "yil = 2009, ay = 13", "yil = 2002, ay = 1"}) {
+    motor().Calistir("update brd set " + std::string(zaman));
+    EXPECT_EQ(Bulunan(), "") << "a month without a law: " << zaman;
+  }
 }
 
 TEST_F(SirketDenetimi, RecordsThatDoNotAddUp) {

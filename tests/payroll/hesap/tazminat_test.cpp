@@ -176,7 +176,8 @@ TEST(UcretYukle, EveryKindOfWage) {
 
 // A net wage that has been taxed at the second bracket takes more gross, and a branch without rates less.
 TEST(UcretYukle, NetStandsOnTheYearsBaseAndTheBranch) {
-  const YasalParametreler yasal = Yasal();
+  YasalParametreler yasal = Yasal();
+  yasal.oranlar.IsverenOran[0] = {Tek(1.5), Tek(7.5), Tek(11), Tek(0), Tek(2)};  // nothing of the employee's
   const KidemKurallari kurallar{.yasal = &yasal, .kidem = {}};
   Sicil s;
   s.ucrettipi = 1;
