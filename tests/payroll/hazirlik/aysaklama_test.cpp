@@ -52,6 +52,9 @@ TEST_F(AySaklama, WrittenOverAndDeletedItComesBack) {
   ASSERT_NE(sonra, once);
   ASSERT_EQ(Saklananlar().size(), 1u);
   EXPECT_EQ(Saklananlar()[0].neden, TopluHazirliktanOnce);
+  for (const auto& [yil, ay] : {std::pair(2009, 1), {2008, 2}})
+    EXPECT_FALSE(AyiGeriAl(o, yil, ay, bildirim)) << "kept is February 2009 alone";
+  EXPECT_TRUE(bildirim.Al().empty());
 
   bildirim.cevap = false;
   EXPECT_EQ(GeriAl(), -1);
