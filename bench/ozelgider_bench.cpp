@@ -1,4 +1,4 @@
-// The lists of the special-expense refund over a whole company: made for the screen, and as a PDF.
+// The lists of the personal-expense refund over a whole company: made for the screen, and as a PDF.
 #include <benchmark/benchmark.h>
 
 #include "core/store/satirlar.h"

@@ -1,4 +1,4 @@
-// The lists of the special-expense refund as papers of the registry (documents/belgetanimi.h).
+// The lists of the personal-expense refund as papers of the registry (documents/belgetanimi.h).
 #pragma once
 
 #include <span>

@@ -1,4 +1,4 @@
-// What the special-expense refund of a year is calculated with: the tax table of the installation (ozgvtbl.dat), the
+// What the personal-expense refund of a year is calculated with: the tax table of the installation (ozgvtbl.dat), the
 // parameters of the company (ozgvpar.dat), and what there is to say about both.
 #pragma once
 

@@ -1,4 +1,4 @@
-// The lists of the special-expense refund ("ÖGİ"): payroll and payment list of those in work and of those who have
+// The lists of the personal-expense refund ("ÖGİ"): payroll and payment list of those in work and of those who have
 // left, the monthly offset, and what is left of the year.
 //
 // All are of the expenses of the year before the pay year ("Bordro Yılı"), whose months show what `brd.ogv` has paid.

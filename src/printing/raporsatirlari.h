@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/deger.h"
+#include "core/siraimleci.h"
 #include "core/tarih.h"
 #include "core/tutar.h"
 
@@ -33,19 +34,8 @@ class RaporSatirlari {
   Hucre Hucresi(std::size_t sira, std::size_t kolon) const;
   const std::vector<bool>& YeniSayfalar() const { return yeniSayfa_; }  // of each row
 
-  struct Imlec {
-    const RaporSatirlari* satirlar;
-    std::size_t sira;
-
-    RaporSatiri operator*() const { return (*satirlar)[sira]; }
-    Imlec& operator++() {
-      ++sira;
-      return *this;
-    }
-    bool operator==(const Imlec&) const = default;
-  };
-  Imlec begin() const { return {this, 0}; }
-  Imlec end() const { return {this, size()}; }
+  SiraImleci<RaporSatirlari> begin() const { return {this, 0}; }
+  SiraImleci<RaporSatirlari> end() const { return {this, size()}; }
 
   static constexpr std::size_t BlokBoyu = 256;  // rows that are packed together
 

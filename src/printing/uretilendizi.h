@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "core/siraimleci.h"
+
 namespace belvani {
 
 template <class T>
@@ -20,19 +22,8 @@ class UretilenDizi {
   bool empty() const { return adet_ == 0; }
   T operator[](std::size_t sira) const { return yap_(sira); }
 
-  struct Imlec {
-    const UretilenDizi* dizi;
-    std::size_t sira;
-
-    T operator*() const { return (*dizi)[sira]; }
-    Imlec& operator++() {
-      ++sira;
-      return *this;
-    }
-    bool operator==(const Imlec&) const = default;
-  };
-  Imlec begin() const { return {this, 0}; }
-  Imlec end() const { return {this, adet_}; }
+  SiraImleci<UretilenDizi> begin() const { return {this, 0}; }
+  SiraImleci<UretilenDizi> end() const { return {this, adet_}; }
 
  private:
   std::size_t adet_;

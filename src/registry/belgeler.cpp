@@ -15,7 +15,7 @@ constexpr OdaBelgeleri Odalar[] = {
     SigortaBelgeleri,   // premiums and missing days, for the social-security body
     BildirimBelgeleri,  // lists for the labour office and the insurance unit
     KidemBelgeleri,     // severance and notice
-    OgiBelgeleri,       // the special-expense refund
+    OgiBelgeleri,       // the personal-expense refund
 };
 
 const std::vector<BelgeTanimi>& Tablo() {

@@ -1,4 +1,4 @@
-// The lists of the special-expense refund. The sample company has never declared an expense: its people do so here,
+// The lists of the personal-expense refund. The sample company has never declared an expense: its people do so here,
 // with refunds of all kinds. In 2006 nothing is paid out; from 2008 on the months show the allowance, which the lists
 // tell.
 #pragma once

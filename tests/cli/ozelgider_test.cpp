@@ -1,4 +1,4 @@
-// The special-expense refund from the table to the lists, as a batch does it.
+// The personal-expense refund from the table to the lists, as a batch does it.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -85,7 +85,7 @@ struct MaymunOrtami {
     SablonYukle(oturum.FirmaDizini);  // the payroll screen writes the built-in one when it is opened for the first time
     KidemParOku(oturum.FirmaDizini);  // so do the screens of severance
     IhbarSureOku(oturum.FirmaDizini);
-    OgiKosullariYukle(oturum, oturum.firma.firmayil);  // and those of the special-expense refund
+    OgiKosullariYukle(oturum, oturum.firma.firmayil);  // and those of the personal-expense refund
     pencere = std::make_unique<anamenu>(baglam, parametreler);
     gosterici.pencere = pencere.get();
     QObject::connect(pencere.get(), &anamenu::Kapandi, pencere.get(), [this] { kapandi = true; });

@@ -1,5 +1,5 @@
 // Rows of `dvr`, the sums of a person's closed years: as a person's screen shows and changes them, and out of a file.
-// The payroll reads none of them; the special-expense refunds do.
+// The payroll reads none of them; the personal-expense refunds do.
 #pragma once
 
 #include <string>

@@ -1,7 +1,7 @@
 // The yearly carry-over: a closed year of pay records summed up into `dvr`, a row for each person.
 //
 // Income-tax base and tax and the unemployment premium of both sides are the sums of the person's records, rounded as
-// the company's money is (`paraonda`); what of them is empty counts as nothing. The special-expense amounts of a row
+// the company's money is (`paraonda`); what of them is empty counts as nothing. The personal-expense amounts of a row
 // that is there already stay. All of it is one transaction, and may be run again at will: it writes the same sums.
 #pragma once
 

@@ -1,4 +1,4 @@
-// What a recalculation takes away: until the end of 2007 the payment of the special-expense refund is typed into a
+// What a recalculation takes away: until the end of 2007 the payment of the personal-expense refund is typed into a
 // saved pay record (`ogv`), and the calculation knows nothing of it. From 2008 on `ogv` is the minimum-living
 // allowance, which is calculated.
 #pragma once

@@ -3,7 +3,7 @@
 // it see what they see after a mass run of theirs: a record that was changed under them.
 //
 // Passed over, with the reason: a company in which nobody works in the month; one whose month has payments of the
-// special-expense refund that were typed and would go, which its user is asked about on the payroll screen; one whose
+// personal-expense refund that were typed and would go, which its user is asked about on the payroll screen; one whose
 // working month is no longer that which was asked about. A company that fails stops no other one.
 #pragma once
 

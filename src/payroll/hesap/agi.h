@@ -12,7 +12,7 @@
 
 namespace belvani {
 
-// The first year of the allowance. Until then `ogv` of a pay record is a payment of the special-expense refund, typed
+// The first year of the allowance. Until then `ogv` of a pay record is a payment of the personal-expense refund, typed
 // in.
 constexpr int AgiIlkYili = 2008;
 

@@ -1,4 +1,4 @@
-// The special-expense refund: what an employee gets back of a year's income tax for the expenses that he has declared.
+// The personal-expense refund: what an employee gets back of a year's income tax for the expenses that he has declared.
 //
 // Law: until the year 2003 the expense is a deduction from the tax base (income tax act 193, article 63/5): a third of
 // it, at most `oran` percent of the base; the tax on the rest, by the table of the year's income tax, is held against

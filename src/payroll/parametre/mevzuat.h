@@ -21,7 +21,7 @@ enum class Lira { Yeni, Eski };
 // published one of before 2005 (x 1,000,000): January 2003 has a floor of 327,583,290.
 Sonuc<YasalParametreler> MevzuatYukle(const std::string& dizin, int yil, int ay, Lira lira = Lira::Yeni);
 
-// The table of the special-expense refund of a year: that year's income tax until 2003, in the given lira; a table of
+// The table of the personal-expense refund of a year: that year's income tax until 2003, in the given lira; a table of
 // its own from 2004 on, always in new lira. Years without a refund have none, which is the failure.
 Sonuc<GvTablosu> OzelGvMevzuati(const std::string& dizin, int yil, Lira lira = Lira::Yeni);
 

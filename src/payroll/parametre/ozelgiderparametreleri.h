@@ -1,4 +1,4 @@
-// The parameters of the special-expense refund, `ozgvpar.dat` of a company's directory, edited by `ozgipar`.
+// The parameters of the personal-expense refund, `ozgvpar.dat` of a company's directory, edited by `ozgipar`.
 //
 // The refund of a year is paid in six months that begin at `mahay` of `mahyil`.
 #pragma once

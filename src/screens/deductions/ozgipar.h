@@ -1,4 +1,4 @@
-// ozgipar ("Özel Gider İndirimi Ayarları"): the parameters of the special-expense refund, those of the company.
+// ozgipar ("Özel Gider İndirimi Ayarları"): the parameters of the personal-expense refund, those of the company.
 #pragma once
 
 #include "payroll/parametre/ozelgiderparametreleri.h"

@@ -1,4 +1,4 @@
-// The special-expense refund by both years' rules, at the borders told by the rule and against a second telling of it.
+// The personal-expense refund by both years' rules, at the borders told by the rule and against a second telling of it.
 #include "payroll/hesap/ozelgider.h"
 
 #include <gtest/gtest.h>

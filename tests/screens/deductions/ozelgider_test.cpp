@@ -1,4 +1,4 @@
-// The screens of the special-expense refund, typed key by key.
+// The screens of the personal-expense refund, typed key by key.
 #include <gmock/gmock.h>
 
 #include "core/dosya.h"
